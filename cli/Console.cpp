@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+#include "Console.h"
+
+#include "FailureText.h"
+
+#include <cstdio>
+
+#include <unistd.h>
+
+namespace lumora
+{
+
+namespace
+{
+
+void write(std::FILE *stream, const QByteArray &bytes)
+{
+    std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stream);
+}
+
+} // namespace
+
+void Console::print(const QString &line)
+{
+    write(stdout, line.toUtf8() + '\n');
+}
+
+void Console::print(const QJsonDocument &document)
+{
+    write(stdout, document.toJson(QJsonDocument::Indented));
+}
+
+void Console::complain(const QString &line)
+{
+    endProgress();
+    write(stderr, QByteArrayLiteral("lumora: ") + line.toUtf8() + '\n');
+}
+
+void Console::complain(const Failure &failure)
+{
+    complain(failureText(failure));
+}
+
+void Console::progress(qsizetype done, qsizetype total, const QString &what)
+{
+    static const bool terminal = ::isatty(STDERR_FILENO) == 1;
+    if (!terminal)
+        return;
+    write(stderr, QStringLiteral("\r\033[K%1/%2 %3").arg(done).arg(total).arg(what).toUtf8());
+    m_progressShown = true;
+}
+
+void Console::endProgress()
+{
+    if (!m_progressShown)
+        return;
+    write(stderr, QByteArrayLiteral("\r\033[K"));
+    m_progressShown = false;
+}
+
+bool Console::flush()
+{
+    return std::fflush(stdout) == 0 && std::ferror(stdout) == 0;
+}
+
+} // namespace lumora

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#include "FailureText.h"
+
+namespace lumora
+{
+
+namespace
+{
+
+struct Wording
+{
+    FailureCode code;
+    const char *reason;
+    const char *remedy;
+};
+
+constexpr Wording wordings[] = {
+    {FailureCode::NotFound, "does not exist", "check the path"},
+    {FailureCode::IsFolder, "is a folder", "name a file"},
+    {FailureCode::NotAFolder, "is not a folder", "name a folder that exists"},
+    {FailureCode::NoPermission, "may not be opened", "change its permissions or choose another"},
+    {FailureCode::NotAPicture, "is not a picture that can be read",
+     "use an undamaged PNG, JPEG, TIFF, WebP, BMP or ICNS file"},
+    {FailureCode::WrongSize, "has the wrong size", "use a picture of exactly 1024 x 1024 pixels"},
+    {FailureCode::TooLarge, "is larger than what can be processed safely", "use a smaller file"},
+    {FailureCode::CannotCreateFolder, "could not be created", "check the destination's permissions and free space"},
+    {FailureCode::CannotWrite, "could not be written",
+     "check the destination's permissions and free space, then run again"},
+    {FailureCode::NotAnArchive, "is not a readable zip archive", "use an undamaged archive"},
+    {FailureCode::MissingContent, "lacks what it has to contain", "check how it was made"},
+    {FailureCode::NotReadable, "could not be read", "check that the file is undamaged"},
+    {FailureCode::InvalidValue, "is not accepted", "see --help"},
+};
+
+} // namespace
+
+QString failureText(const Failure &failure)
+{
+    for (const Wording &wording : wordings) {
+        if (wording.code != failure.code)
+            continue;
+        QString line = failure.subject + QStringLiteral(": ") + QLatin1StringView(wording.reason);
+        if (!failure.detail.isEmpty())
+            line += QStringLiteral(" (") + failure.detail + u')';
+        return line + QStringLiteral("; ") + QLatin1StringView(wording.remedy);
+    }
+    return failure.subject;
+}
+
+} // namespace lumora

@@ -1,0 +1,16 @@
+# SPDX-License-Identifier: MIT
+# Every library the project stands on, found once. docs/architecture.md says why each was chosen.
+find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets Svg DBus LinguistTools)
+if(LUMORA_TESTS)
+  find_package(Qt6 6.4 REQUIRED COMPONENTS Test)
+endif()
+find_package(OpenSSL REQUIRED COMPONENTS Crypto)
+find_package(ICU REQUIRED COMPONENTS uc i18n data)
+find_package(ZLIB REQUIRED)
+find_package(CLI11 REQUIRED)
+find_package(PkgConfig REQUIRED)
+pkg_check_modules(LIBDEFLATE REQUIRED IMPORTED_TARGET libdeflate)
+pkg_check_modules(ZIMG REQUIRED IMPORTED_TARGET zimg)
+pkg_check_modules(PLIST REQUIRED IMPORTED_TARGET libplist-2.0)
+pkg_check_modules(MINIZIP REQUIRED IMPORTED_TARGET minizip)
+find_package(Threads REQUIRED)

@@ -1,0 +1,6 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "engine_pch.h"
+
+#include <QtWidgets/QtWidgets>

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+#include <utility>
+#include <variant>
+
+namespace lumora
+{
+
+/// What kept a function from doing its work. The wording for people happens at the edge: a popup in the window, a line
+/// on stderr.
+enum class FailureCode {
+    NotFound,           ///< nothing exists at the path
+    IsFolder,           ///< a folder stands where a file is wanted
+    NotAFolder,         ///< a file stands where a folder is wanted
+    NoPermission,       ///< the system refuses to read or write
+    NotAPicture,        ///< no decoder knows the content, or it is damaged
+    WrongSize,          ///< a picture of another size than the one wanted; `detail` gives its size
+    TooLarge,           ///< more pixels, bytes or entries than the promised limits allow
+    CannotCreateFolder, ///< a destination folder could not be made
+    CannotWrite,        ///< a file could not be written whole; `detail` is the system's reason
+    NotAnArchive,       ///< not a zip archive, or damaged beyond reading
+    MissingContent,     ///< a well-formed file that lacks what is looked for in it
+    NotReadable,        ///< readable bytes that do not make sense as what they claim to be
+    InvalidValue,       ///< a typed value out of its range
+};
+
+/// One failure as data: what happened, to which file or value, and what the system or the decoder said about it.
+struct Failure
+{
+    FailureCode code = FailureCode::NotReadable;
+    QString subject; ///< the path or the typed text concerned
+    QString detail;  ///< free text from below (system error, picture size), may be empty
+
+    bool operator==(const Failure &) const = default;
+};
+
+/// Either a value or the failure that stands in its place. Ask `ok()` before either is taken.
+template <typename Value> class [[nodiscard]] Result
+{
+public:
+    Result(Value value) : m_state(std::in_place_index<0>, std::move(value)) {}
+    Result(Failure failure) : m_state(std::in_place_index<1>, std::move(failure)) {}
+
+    bool ok() const { return m_state.index() == 0; }
+    explicit operator bool() const { return ok(); }
+
+    const Value &value() const & { return std::get<0>(m_state); }
+    Value &value() & { return std::get<0>(m_state); }
+    Value &&value() && { return std::get<0>(std::move(m_state)); }
+    const Failure &failure() const { return std::get<1>(m_state); }
+
+private:
+    std::variant<Value, Failure> m_state;
+};
+
+/// The value of a function that has nothing to give back but its success.
+struct Done
+{
+    bool operator==(const Done &) const = default;
+};
+
+using Outcome = Result<Done>;
+
+} // namespace lumora

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QStringList>
+
+class QCoreApplication;
+class QLocale;
+
+namespace lumora
+{
+
+/// Makes the compiled-in fonts (:/fonts), images (:/images) and texts (:/strings) reachable. Harmless when called
+/// again.
+void loadResources();
+
+/// The languages that have a text table, as locale names ("de", "en").
+QStringList availableLanguages();
+
+/// Installs the text table of the locale's first language that has one, English where none has, so that qtTrId("KEY")
+/// answers the text of KEY and a key without a text answers itself. The application owns the translator.
+void installTexts(QCoreApplication &application, const QLocale &locale);
+
+} // namespace lumora

@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: MIT
+#include "foundation/ExportFolder.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace lumora;
+using namespace Qt::StringLiterals;
+
+class ExportFolderTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void picksTheFirstFreeName_data()
+    {
+        QTest::addColumn<QStringList>("folders");
+        QTest::addColumn<QStringList>("files");
+        QTest::addColumn<QStringList>("brokenLinks");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<bool>("nameTaken");
+
+        const QStringList none;
+        QTest::newRow("nothing there") << none << none << none << u"icons"_s << false;
+        QTest::newRow("the plain name is a folder") << QStringList{u"icons"_s} << none << none << u"icons_1"_s << true;
+        QTest::newRow("plain and first number")
+            << QStringList{u"icons"_s, u"icons_1"_s} << none << none << u"icons_2"_s << true;
+        QTest::newRow("only the first number") << QStringList{u"icons_1"_s} << none << none << u"icons"_s << false;
+        QTest::newRow("a gap is used") << QStringList{u"icons"_s, u"icons_2"_s} << none << none << u"icons_1"_s << true;
+        QTest::newRow("a file takes the name too") << none << QStringList{u"icons"_s} << none << u"icons_1"_s << true;
+        QTest::newRow("a file takes a number too")
+            << QStringList{u"icons"_s} << QStringList{u"icons_1"_s} << none << u"icons_2"_s << true;
+        QTest::newRow("a broken link takes the name too")
+            << none << none << QStringList{u"icons"_s} << u"icons_1"_s << true;
+    }
+    void picksTheFirstFreeName()
+    {
+        QFETCH(QStringList, folders);
+        QFETCH(QStringList, files);
+        QFETCH(QStringList, brokenLinks);
+        QFETCH(bool, nameTaken);
+        const QTemporaryDir destination;
+        for (const QString &folder : std::as_const(folders))
+            QVERIFY(QDir(destination.path()).mkdir(folder));
+        for (const QString &name : std::as_const(files)) {
+            QFile file(destination.filePath(name));
+            QVERIFY(file.open(QIODevice::WriteOnly));
+        }
+        for (const QString &link : std::as_const(brokenLinks))
+            QVERIFY(QFile::link(destination.filePath(u"nowhere"_s), destination.filePath(link)));
+
+        if (nameTaken)
+            QTest::ignoreMessage(QtInfoMsg, "Folder exists!");
+        const ExportFolder folder = freshExportFolder(destination.path(), QStringLiteral("icons"));
+        QTEST(folder.name(), "name");
+        QCOMPARE(folder.nameTaken, nameTaken);
+        QCOMPARE(folder.path, QString(destination.path() + u'/' + folder.name()));
+        QVERIFY(!QFileInfo::exists(folder.path));
+    }
+
+    void makesOneFolderWithoutParents()
+    {
+        const QTemporaryDir destination;
+        QCOMPARE(createFolder(destination.filePath(u"one"_s)), QString());
+        QVERIFY(QFileInfo(destination.filePath(u"one"_s)).isDir());
+        QVERIFY(!createFolder(destination.filePath(u"missing/two"_s)).isEmpty());
+        QVERIFY(!QFileInfo::exists(destination.filePath(u"missing"_s)));
+        QVERIFY(!createFolder(destination.filePath(u"one"_s)).isEmpty());
+    }
+};
+
+QTEST_GUILESS_MAIN(ExportFolderTest)
+#include "ExportFolderTest.moc"

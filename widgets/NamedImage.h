@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QIcon>
+#include <QSizeF>
+#include <QString>
+
+class QPainter;
+
+namespace lumora
+{
+
+/// A picture from the program's resources, fetched by its name ("icon_icons") and drawn sharp at every size and scale
+/// factor. A cheap value: copies share what was decoded. A name without a picture gives a null image that draws
+/// nothing.
+class NamedImage
+{
+public:
+    NamedImage() = default;
+    explicit NamedImage(const QString &name);
+
+    bool isNull() const { return m_size.isEmpty(); }
+    const QString &name() const { return m_name; }
+    /// The size it was drawn for, in points.
+    QSizeF size() const { return m_size; }
+
+    /// Draws the whole picture into the rectangle, keeping the painter's state.
+    void paint(QPainter *painter, const QRectF &target, qreal opacity = 1.0) const;
+    /// The picture at a size in points for a screen of the scale factor.
+    QPixmap pixmap(const QSizeF &size, qreal devicePixelRatio) const;
+    /// For platform controls that take icons; sharp at any scale.
+    QIcon icon() const;
+
+    bool operator==(const NamedImage &other) const { return m_name == other.m_name; }
+
+private:
+    QString m_name;
+    QSizeF m_size;
+};
+
+} // namespace lumora

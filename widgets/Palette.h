@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QColor>
+
+namespace lumora::palette
+{
+
+/// An opaque colour from components 0 to 1, kept in single precision as they stand.
+inline QColor rgb(float red, float green, float blue)
+{
+    return QColor::fromRgbF(red, green, blue);
+}
+
+/// Body text, borders and everything that is neither a tool's nor a message's colour.
+inline const QColor chromeText = rgb(0.204F, 0.286F, 0.369F);
+/// Rounded panels inside a pane.
+inline const QColor panel = rgb(0.925F, 0.941F, 0.945F);
+/// Thin rules inside popovers.
+inline const QColor separator = rgb(0.584F, 0.647F, 0.651F);
+
+/// Each tool's own colour fills header and sidebar; its border shade lines them.
+inline const QColor icons = rgb(0.204F, 0.596F, 0.859F);
+inline const QColor iconsBorder = rgb(0.161F, 0.502F, 0.725F);
+inline const QColor placeholders = rgb(0.180F, 0.800F, 0.443F);
+inline const QColor placeholdersBorder = rgb(0.153F, 0.682F, 0.376F);
+inline const QColor resizer = rgb(0.906F, 0.298F, 0.235F);
+inline const QColor resizerBorder = rgb(0.753F, 0.224F, 0.169F);
+inline const QColor color = rgb(0.608F, 0.349F, 0.714F);
+inline const QColor colorBorder = rgb(0.557F, 0.267F, 0.678F);
+inline const QColor devices = rgb(0.902F, 0.494F, 0.133F);
+inline const QColor devicesBorder = rgb(0.827F, 0.329F, 0.000F);
+inline const QColor validator = rgb(0.945F, 0.769F, 0.059F);
+inline const QColor validatorBorder = rgb(0.953F, 0.612F, 0.071F);
+
+/// What a message is about: it went well, it failed, it informs.
+inline const QColor successLight = placeholders;
+inline const QColor successDark = placeholdersBorder;
+inline const QColor errorLight = resizer;
+inline const QColor errorDark = resizerBorder;
+inline const QColor infoLight = icons;
+inline const QColor infoDark = iconsBorder;
+
+/// The contact buttons of the about panel.
+inline const QColor socialBlue = rgb(0.247F, 0.737F, 0.937F);
+inline const QColor socialBlueDark = rgb(0.224F, 0.663F, 0.843F);
+inline const QColor networkNavy = rgb(0.114F, 0.165F, 0.388F);
+inline const QColor networkNavyDark = rgb(0.082F, 0.122F, 0.290F);
+
+/// The sidebar's own blue, before a tool colours it.
+inline const QColor sidebar = rgb(0.341F, 0.565F, 0.898F);
+
+} // namespace lumora::palette
