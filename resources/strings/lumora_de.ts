@@ -2,349 +2,349 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
-    <name></name>
+  <name></name>
 
-    <!-- Shared by several tools -->
-    <message id="BROWSE">
-        <source>Browse…</source>
-        <translation>Durchsuchen …</translation>
-    </message>
-    <message id="GENERATE">
-        <source>Generate</source>
-        <translation>Erzeugen</translation>
-    </message>
-    <message id="ALL_DONE">
-        <source>All done</source>
-        <translation>Alles fertig</translation>
-    </message>
-    <message id="COPY">
-        <source>Copy</source>
-        <translation>Kopieren</translation>
-    </message>
-    <message id="COPIED">
-        <source>Copied</source>
-        <translation>Kopiert</translation>
-    </message>
-    <message id="RESET">
-        <source>Reset</source>
-        <translation>Zurücksetzen</translation>
-    </message>
-    <message id="CLOSE">
-        <source>Close</source>
-        <translation>Schließen</translation>
-    </message>
-    <message id="DISMISS">
-        <source>Got it</source>
-        <translation>Verstanden</translation>
-    </message>
-    <message id="BUG_REPORT">
-        <source>Report a problem</source>
-        <translation>Problem melden</translation>
-    </message>
-    <message id="SUPPORT">
-        <source>Contact us</source>
-        <translation>Kontakt</translation>
-    </message>
+  <!-- Shared by several tools -->
+  <message id="BROWSE">
+    <source>Browse…</source>
+    <translation>Durchsuchen …</translation>
+  </message>
+  <message id="GENERATE">
+    <source>Generate</source>
+    <translation>Erzeugen</translation>
+  </message>
+  <message id="ALL_DONE">
+    <source>All done</source>
+    <translation>Alles fertig</translation>
+  </message>
+  <message id="COPY">
+    <source>Copy</source>
+    <translation>Kopieren</translation>
+  </message>
+  <message id="COPIED">
+    <source>Copied</source>
+    <translation>Kopiert</translation>
+  </message>
+  <message id="RESET">
+    <source>Reset</source>
+    <translation>Zurücksetzen</translation>
+  </message>
+  <message id="CLOSE">
+    <source>Close</source>
+    <translation>Schließen</translation>
+  </message>
+  <message id="DISMISS">
+    <source>Got it</source>
+    <translation>Verstanden</translation>
+  </message>
+  <message id="BUG_REPORT">
+    <source>Report a problem</source>
+    <translation>Problem melden</translation>
+  </message>
+  <message id="SUPPORT">
+    <source>Contact us</source>
+    <translation>Kontakt</translation>
+  </message>
 
-    <!-- Header: APP_DEFAULT and a tool's text are joined with nothing between, so each tool's text brings its own bar and blanks -->
-    <message id="APP_DEFAULT">
-        <source>Lumora</source>
-        <translation>Lumora</translation>
-    </message>
-    <message id="APP_ICONS">
-        <source> | Icons</source>
-        <translation> | Icons</translation>
-    </message>
-    <message id="APP_PLACEHOLDER">
-        <source> | Placeholders</source>
-        <translation> | Platzhalter</translation>
-    </message>
-    <message id="APP_RESIZER">
-        <source> | Retina down-scaler</source>
-        <translation> | Retina-Verkleinerer</translation>
-    </message>
-    <message id="APP_COLOR">
-        <source> | Colours</source>
-        <translation> | Farben</translation>
-    </message>
-    <message id="APP_DEVICES">
-        <source> | Devices</source>
-        <translation> | Geräte</translation>
-    </message>
-    <message id="APP_VALIDATER">
-        <source> | Package check</source>
-        <translation> | Paketprüfung</translation>
-    </message>
+  <!-- Header: APP_DEFAULT and a tool's text are joined with nothing between, so each tool's text brings its own bar and blanks -->
+  <message id="APP_DEFAULT">
+    <source>Lumora</source>
+    <translation>Lumora</translation>
+  </message>
+  <message id="APP_ICONS">
+    <source> | Icons</source>
+    <translation> | Icons</translation>
+  </message>
+  <message id="APP_PLACEHOLDER">
+    <source> | Placeholders</source>
+    <translation> | Platzhalter</translation>
+  </message>
+  <message id="APP_RESIZER">
+    <source> | Retina down-scaler</source>
+    <translation> | Retina-Verkleinerer</translation>
+  </message>
+  <message id="APP_COLOR">
+    <source> | Colours</source>
+    <translation> | Farben</translation>
+  </message>
+  <message id="APP_DEVICES">
+    <source> | Devices</source>
+    <translation> | Geräte</translation>
+  </message>
+  <message id="APP_VALIDATER">
+    <source> | Package check</source>
+    <translation> | Paketprüfung</translation>
+  </message>
 
-    <!-- Help popup: the titles are also the tools' names in the sidebar and the menu; a text holds 60 to 110 words -->
-    <message id="HELP_ICONS">
-        <source>Icon generator</source>
-        <translation>Icon-Generator</translation>
-    </message>
-    <message id="HELP_ICONS_TEXT">
-        <source>Turn one picture into every icon an app needs. Drop a picture of exactly 1024 × 1024 pixels on the pane, or browse for one, then tick the platforms: iPhone, iPad, Mac, Android, web touch, favicon. Lumora writes each set with the right names and sizes into a fresh “icons” folder and packs the Mac set into an icon file as well. “Custom size” makes a single icon of 1 to 1024 pixels, with iOS 6 or iOS 7 corners if you like. The code snippets show how to declare the icons in your project.</source>
-        <translation>Aus einem Bild wird jedes Icon, das eine App braucht. Ein Bild von genau 1024 × 1024 Pixeln auf diese Seite ziehen oder auswählen, dann die Plattformen ankreuzen: iPhone, iPad, Mac, Android, Web-Touch, Favicon. Lumora schreibt jeden Satz mit den richtigen Namen und Größen in einen neuen Ordner „icons“ und packt den Mac-Satz zusätzlich in eine Icon-Datei. „Eigene Größe“ erzeugt ein einzelnes Icon von 1 bis 1024 Pixeln, auf Wunsch mit Ecken wie in iOS 6 oder iOS 7. Die Code-Schnipsel zeigen, wie die Icons im Projekt eingetragen werden.</translation>
-    </message>
-    <message id="HELP_PLACEHOLDER">
-        <source>Placeholder generator</source>
-        <translation>Platzhalter-Generator</translation>
-    </message>
-    <message id="HELP_PLACEHOLDER_TEXT">
-        <source>Fill a layout before its artwork exists. One press writes grey pictures in the screen sizes of iOS devices or of the Mac, each labelled in white with its own width and height. For anything else, type a width and a height from 1 to 9999 pixels. Choose where to save, and Lumora puts the PNG files, named like placeholder_640x1136.png, into a fresh “placeholders” folder. Folders from earlier runs stay untouched.</source>
-        <translation>Layouts füllen, bevor es fertige Grafiken gibt. Ein Druck auf den Knopf schreibt graue Bilder in den Bildschirmgrößen von iOS-Geräten oder vom Mac; jedes trägt in Weiß seine Breite und Höhe. Für alles andere eine Breite und eine Höhe von 1 bis 9999 Pixeln eingeben. Nach der Wahl des Speicherorts legt Lumora die PNG-Dateien mit Namen wie placeholder_640x1136.png in einen neuen Ordner „placeholders“. Ordner aus früheren Durchgängen bleiben unberührt.</translation>
-    </message>
-    <message id="HELP_RESIZER">
-        <source>Retina down-scaler</source>
-        <translation>Retina-Verkleinerer</translation>
-    </message>
-    <message id="HELP_RESIZER_TEXT">
-        <source>Draw once at double resolution and let Lumora make the normal size. Drop PNG files marked @2x or -hd on the pane, or browse for them, and choose a folder. Every picture is halved in width and height, odd sizes rounding down, and saved without the mark in its name: button@2x.png becomes button.png. Files without a mark and files of other kinds are left out. Take care: a file of the same name in the chosen folder is replaced.</source>
-        <translation>Einmal in doppelter Auflösung zeichnen, die normale Größe macht Lumora. PNG-Dateien mit der Kennung @2x oder -hd auf diese Seite ziehen oder auswählen, dann einen Ordner bestimmen. Jedes Bild wird in Breite und Höhe halbiert, ungerade Maße werden abgerundet, und ohne die Kennung im Namen gespeichert: Aus button@2x.png wird button.png. Dateien ohne Kennung und Dateien anderer Art bleiben außen vor. Vorsicht: Eine gleichnamige Datei im gewählten Ordner wird ersetzt.</translation>
-    </message>
-    <message id="HELP_COLOR">
-        <source>Colour codes</source>
-        <translation>Farbcodes</translation>
-    </message>
-    <message id="HELP_COLOR_TEXT">
-        <source>Carry a colour from your design into your code. Click the colour well to pick one, or type three or six hexadecimal digits such as #abc or #34485e; field and well follow each other. Each button copies the colour as code, ready to paste: a UIColor for iOS, an NSColor for the Mac, or rgb(red, green, blue) for style sheets. Drag the picker away from the well and it stays open as a window of its own.</source>
-        <translation>Eine Farbe aus dem Entwurf in den Code übernehmen. Zum Auswählen auf das Farbfeld klicken oder drei oder sechs hexadezimale Ziffern wie #abc oder #34485e eingeben; Textfeld und Farbfeld folgen einander. Jeder Knopf kopiert die Farbe als fertigen Code zum Einfügen: als UIColor für iOS, als NSColor für den Mac oder als rgb(Rot, Grün, Blau) für Stylesheets. Wird der Farbwähler vom Farbfeld weggezogen, bleibt er als eigenes Fenster offen.</translation>
-    </message>
-    <message id="HELP_DEVICES">
-        <source>Device matrix</source>
-        <translation>Gerätematrix</translation>
-    </message>
-    <message id="HELP_DEVICES_TEXT">
-        <source>See at a glance which devices your app can reach. Choose the iOS version it requires and tick the features it needs, such as GPS, a camera flash or OpenGL 3.0. Devices that can run that version and have every ticked feature stay bright; all others fade. One version counts at a time, together with any number of features. “Reset” clears the choice and brings back all seventeen iPhone, iPod and iPad models up to iOS 7.</source>
-        <translation>Auf einen Blick sehen, welche Geräte eine App erreicht. Die vorausgesetzte iOS-Version wählen und die nötigen Funktionen ankreuzen, etwa GPS, einen Kamerablitz oder OpenGL 3.0. Geräte, auf denen diese Version läuft und die alle angekreuzten Funktionen haben, bleiben deutlich; alle anderen verblassen. Es gilt immer eine Version zusammen mit beliebig vielen Funktionen. „Zurücksetzen“ hebt die Auswahl auf und zeigt wieder alle siebzehn Modelle von iPhone, iPod und iPad bis iOS 7.</translation>
-    </message>
-    <message id="HELP_VALIDATER">
-        <source>App package check</source>
-        <translation>App-Paketprüfung</translation>
-    </message>
-    <message id="HELP_VALIDATER_TEXT">
-        <source>Look through an app before you hand it in. Drop one .ipa package on the pane, or browse for it. Lumora shows its name, version, platform, oldest iOS version, bundle identifier and build kind, then checks the icons, launch images, provisioning profile, localisations, URL schemes and Facebook app ID. Press a box to read what was found; missing sizes are listed one by one. The package itself is never changed, and nothing is sent anywhere.</source>
-        <translation>Eine App durchsehen, bevor sie eingereicht wird. Ein .ipa-Paket auf diese Seite ziehen oder auswählen. Lumora zeigt Name, Version, Plattform, älteste iOS-Version, Bundle-ID und Art des Builds und prüft dann Icons, Startbilder, Bereitstellungsprofil, Lokalisierungen, URL-Schemata und Facebook-App-ID. Ein Klick auf ein Kästchen zeigt, was gefunden wurde; fehlende Größen werden einzeln aufgeführt. Das Paket selbst wird nie verändert, und es wird nichts verschickt.</translation>
-    </message>
-    <message id="HELP_BUG_REPORT">
-        <source>Report a bug</source>
-        <translation>Fehler melden</translation>
-    </message>
-    <message id="HELP_FEATURE_REQUEST">
-        <source>Suggest a feature</source>
-        <translation>Idee vorschlagen</translation>
-    </message>
-    <message id="HELP_FEEDBACK">
-        <source>Ask a question</source>
-        <translation>Frage stellen</translation>
-    </message>
+  <!-- Help popup: the titles are also the tools' names in the sidebar and the menu; a text holds 60 to 110 words -->
+  <message id="HELP_ICONS">
+    <source>Icon generator</source>
+    <translation>Icon-Generator</translation>
+  </message>
+  <message id="HELP_ICONS_TEXT">
+    <source>Turn one picture into every icon an app needs. Drop a picture of exactly 1024 × 1024 pixels on the pane, or browse for one, then tick the platforms: iPhone, iPad, Mac, Android, web touch, favicon. Lumora writes each set with the right names and sizes into a fresh “icons” folder and packs the Mac set into an icon file as well. “Custom size” makes a single icon of 1 to 1024 pixels, with iOS 6 or iOS 7 corners if you like. The code snippets show how to declare the icons in your project.</source>
+    <translation>Aus einem Bild wird jedes Icon, das eine App braucht. Ein Bild von genau 1024 × 1024 Pixeln auf diese Seite ziehen oder auswählen, dann die Plattformen ankreuzen: iPhone, iPad, Mac, Android, Web-Touch, Favicon. Lumora schreibt jeden Satz mit den richtigen Namen und Größen in einen neuen Ordner „icons“ und packt den Mac-Satz zusätzlich in eine Icon-Datei. „Eigene Größe“ erzeugt ein einzelnes Icon von 1 bis 1024 Pixeln, auf Wunsch mit Ecken wie in iOS 6 oder iOS 7. Die Code-Schnipsel zeigen, wie die Icons im Projekt eingetragen werden.</translation>
+  </message>
+  <message id="HELP_PLACEHOLDER">
+    <source>Placeholder generator</source>
+    <translation>Platzhalter-Generator</translation>
+  </message>
+  <message id="HELP_PLACEHOLDER_TEXT">
+    <source>Fill a layout before its artwork exists. One press writes grey pictures in the screen sizes of iOS devices or of the Mac, each labelled in white with its own width and height. For anything else, type a width and a height from 1 to 9999 pixels. Choose where to save, and Lumora puts the PNG files, named like placeholder_640x1136.png, into a fresh “placeholders” folder. Folders from earlier runs stay untouched.</source>
+    <translation>Layouts füllen, bevor es fertige Grafiken gibt. Ein Druck auf den Knopf schreibt graue Bilder in den Bildschirmgrößen von iOS-Geräten oder vom Mac; jedes trägt in Weiß seine Breite und Höhe. Für alles andere eine Breite und eine Höhe von 1 bis 9999 Pixeln eingeben. Nach der Wahl des Speicherorts legt Lumora die PNG-Dateien mit Namen wie placeholder_640x1136.png in einen neuen Ordner „placeholders“. Ordner aus früheren Durchgängen bleiben unberührt.</translation>
+  </message>
+  <message id="HELP_RESIZER">
+    <source>Retina down-scaler</source>
+    <translation>Retina-Verkleinerer</translation>
+  </message>
+  <message id="HELP_RESIZER_TEXT">
+    <source>Draw once at double resolution and let Lumora make the normal size. Drop PNG files marked @2x or -hd on the pane, or browse for them, and choose a folder. Every picture is halved in width and height, odd sizes rounding down, and saved without the mark in its name: button@2x.png becomes button.png. Files without a mark and files of other kinds are left out. Take care: a file of the same name in the chosen folder is replaced.</source>
+    <translation>Einmal in doppelter Auflösung zeichnen, die normale Größe macht Lumora. PNG-Dateien mit der Kennung @2x oder -hd auf diese Seite ziehen oder auswählen, dann einen Ordner bestimmen. Jedes Bild wird in Breite und Höhe halbiert, ungerade Maße werden abgerundet, und ohne die Kennung im Namen gespeichert: Aus button@2x.png wird button.png. Dateien ohne Kennung und Dateien anderer Art bleiben außen vor. Vorsicht: Eine gleichnamige Datei im gewählten Ordner wird ersetzt.</translation>
+  </message>
+  <message id="HELP_COLOR">
+    <source>Colour codes</source>
+    <translation>Farbcodes</translation>
+  </message>
+  <message id="HELP_COLOR_TEXT">
+    <source>Carry a colour from your design into your code. Click the colour well to pick one, or type three or six hexadecimal digits such as #abc or #34485e; field and well follow each other. Each button copies the colour as code, ready to paste: a UIColor for iOS, an NSColor for the Mac, or rgb(red, green, blue) for style sheets. Drag the picker away from the well and it stays open as a window of its own.</source>
+    <translation>Eine Farbe aus dem Entwurf in den Code übernehmen. Zum Auswählen auf das Farbfeld klicken oder drei oder sechs hexadezimale Ziffern wie #abc oder #34485e eingeben; Textfeld und Farbfeld folgen einander. Jeder Knopf kopiert die Farbe als fertigen Code zum Einfügen: als UIColor für iOS, als NSColor für den Mac oder als rgb(Rot, Grün, Blau) für Stylesheets. Wird der Farbwähler vom Farbfeld weggezogen, bleibt er als eigenes Fenster offen.</translation>
+  </message>
+  <message id="HELP_DEVICES">
+    <source>Device matrix</source>
+    <translation>Gerätematrix</translation>
+  </message>
+  <message id="HELP_DEVICES_TEXT">
+    <source>See at a glance which devices your app can reach. Choose the iOS version it requires and tick the features it needs, such as GPS, a camera flash or OpenGL 3.0. Devices that can run that version and have every ticked feature stay bright; all others fade. One version counts at a time, together with any number of features. “Reset” clears the choice and brings back all seventeen iPhone, iPod and iPad models up to iOS 7.</source>
+    <translation>Auf einen Blick sehen, welche Geräte eine App erreicht. Die vorausgesetzte iOS-Version wählen und die nötigen Funktionen ankreuzen, etwa GPS, einen Kamerablitz oder OpenGL 3.0. Geräte, auf denen diese Version läuft und die alle angekreuzten Funktionen haben, bleiben deutlich; alle anderen verblassen. Es gilt immer eine Version zusammen mit beliebig vielen Funktionen. „Zurücksetzen“ hebt die Auswahl auf und zeigt wieder alle siebzehn Modelle von iPhone, iPod und iPad bis iOS 7.</translation>
+  </message>
+  <message id="HELP_VALIDATER">
+    <source>App package check</source>
+    <translation>App-Paketprüfung</translation>
+  </message>
+  <message id="HELP_VALIDATER_TEXT">
+    <source>Look through an app before you hand it in. Drop one .ipa package on the pane, or browse for it. Lumora shows its name, version, platform, oldest iOS version, bundle identifier and build kind, then checks the icons, launch images, provisioning profile, localisations, URL schemes and Facebook app ID. Press a box to read what was found; missing sizes are listed one by one. The package itself is never changed, and nothing is sent anywhere.</source>
+    <translation>Eine App durchsehen, bevor sie eingereicht wird. Ein .ipa-Paket auf diese Seite ziehen oder auswählen. Lumora zeigt Name, Version, Plattform, älteste iOS-Version, Bundle-ID und Art des Builds und prüft dann Icons, Startbilder, Bereitstellungsprofil, Lokalisierungen, URL-Schemata und Facebook-App-ID. Ein Klick auf ein Kästchen zeigt, was gefunden wurde; fehlende Größen werden einzeln aufgeführt. Das Paket selbst wird nie verändert, und es wird nichts verschickt.</translation>
+  </message>
+  <message id="HELP_BUG_REPORT">
+    <source>Report a bug</source>
+    <translation>Fehler melden</translation>
+  </message>
+  <message id="HELP_FEATURE_REQUEST">
+    <source>Suggest a feature</source>
+    <translation>Idee vorschlagen</translation>
+  </message>
+  <message id="HELP_FEEDBACK">
+    <source>Ask a question</source>
+    <translation>Frage stellen</translation>
+  </message>
 
-    <!-- About and contact panels; the addresses open in the default browser or mail program -->
-    <message id="ABOUT_TEXT">
-        <source>A toolbox for makers of mobile and desktop apps: icons, placeholders, retina pictures, colours, devices and package checks in one window.</source>
-        <translation>Ein Werkzeugkasten für alle, die Apps für Telefon, Tablet und Schreibtisch machen: Icons, Platzhalter, Retina-Bilder, Farben, Geräte und Paketprüfung in einem Fenster.</translation>
-    </message>
-    <message id="ABOUT_TWITTER">
-        <source>Twitter</source>
-        <translation>Twitter</translation>
-    </message>
-    <message id="ABOUT_FACEBOOK">
-        <source>Facebook</source>
-        <translation>Facebook</translation>
-    </message>
-    <message id="ABOUT_MAIL">
-        <source>Mail</source>
-        <translation>E-Mail</translation>
-    </message>
-    <message id="ABOUT_TWITTER_WEB">
-        <source>https://lumora.example/twitter</source>
-        <translation>https://lumora.example/twitter</translation>
-    </message>
-    <message id="ABOUT_FACEBOOK_WEB">
-        <source>https://lumora.example/facebook</source>
-        <translation>https://lumora.example/facebook</translation>
-    </message>
-    <message id="ABOUT_MAIL_WEB">
-        <source>mailto:support@lumora.example</source>
-        <translation>mailto:support@lumora.example</translation>
-    </message>
-    <message id="ABOUT_BUG_REPORT_WEB">
-        <source>https://lumora.example/bugs</source>
-        <translation>https://lumora.example/bugs</translation>
-    </message>
-    <message id="ABOUT_FEATURE_REQUEST_WEB">
-        <source>https://lumora.example/ideas</source>
-        <translation>https://lumora.example/ideas</translation>
-    </message>
-    <message id="ABOUT_QUESTIONS_WEB">
-        <source>https://lumora.example/questions</source>
-        <translation>https://lumora.example/questions</translation>
-    </message>
-    <message id="INFORMATION_APP">
-        <source>Lumora [VERSION]</source>
-        <translation>Lumora [VERSION]</translation>
-    </message>
-    <message id="INFORMATION_INFO_1">
-        <source>We are glad to help</source>
-        <translation>Wir helfen gern</translation>
-    </message>
-    <message id="INFORMATION_INFO_2">
-        <source>Write to [MAIL], message [TWITTER] or find us on [FACEBOOK].</source>
-        <translation>Per E-Mail an [MAIL], als Nachricht an [TWITTER] oder auf [FACEBOOK].</translation>
-    </message>
-    <message id="INFORMATION_MAIL">
-        <source>support@lumora.example</source>
-        <translation>support@lumora.example</translation>
-    </message>
-    <message id="INFORMATION_TWITTER">
-        <source>@lumora.example</source>
-        <translation>@lumora.example</translation>
-    </message>
+  <!-- About and contact panels; the addresses open in the default browser or mail program -->
+  <message id="ABOUT_TEXT">
+    <source>A toolbox for makers of mobile and desktop apps: icons, placeholders, retina pictures, colours, devices and package checks in one window.</source>
+    <translation>Ein Werkzeugkasten für alle, die Apps für Telefon, Tablet und Schreibtisch machen: Icons, Platzhalter, Retina-Bilder, Farben, Geräte und Paketprüfung in einem Fenster.</translation>
+  </message>
+  <message id="ABOUT_TWITTER">
+    <source>Twitter</source>
+    <translation>Twitter</translation>
+  </message>
+  <message id="ABOUT_FACEBOOK">
+    <source>Facebook</source>
+    <translation>Facebook</translation>
+  </message>
+  <message id="ABOUT_MAIL">
+    <source>Mail</source>
+    <translation>E-Mail</translation>
+  </message>
+  <message id="ABOUT_TWITTER_WEB">
+    <source>https://lumora.example/twitter</source>
+    <translation>https://lumora.example/twitter</translation>
+  </message>
+  <message id="ABOUT_FACEBOOK_WEB">
+    <source>https://lumora.example/facebook</source>
+    <translation>https://lumora.example/facebook</translation>
+  </message>
+  <message id="ABOUT_MAIL_WEB">
+    <source>mailto:support@lumora.example</source>
+    <translation>mailto:support@lumora.example</translation>
+  </message>
+  <message id="ABOUT_BUG_REPORT_WEB">
+    <source>https://lumora.example/bugs</source>
+    <translation>https://lumora.example/bugs</translation>
+  </message>
+  <message id="ABOUT_FEATURE_REQUEST_WEB">
+    <source>https://lumora.example/ideas</source>
+    <translation>https://lumora.example/ideas</translation>
+  </message>
+  <message id="ABOUT_QUESTIONS_WEB">
+    <source>https://lumora.example/questions</source>
+    <translation>https://lumora.example/questions</translation>
+  </message>
+  <message id="INFORMATION_APP">
+    <source>Lumora [VERSION]</source>
+    <translation>Lumora [VERSION]</translation>
+  </message>
+  <message id="INFORMATION_INFO_1">
+    <source>We are glad to help</source>
+    <translation>Wir helfen gern</translation>
+  </message>
+  <message id="INFORMATION_INFO_2">
+    <source>Write to [MAIL], message [TWITTER] or find us on [FACEBOOK].</source>
+    <translation>Per E-Mail an [MAIL], als Nachricht an [TWITTER] oder auf [FACEBOOK].</translation>
+  </message>
+  <message id="INFORMATION_MAIL">
+    <source>support@lumora.example</source>
+    <translation>support@lumora.example</translation>
+  </message>
+  <message id="INFORMATION_TWITTER">
+    <source>@lumora.example</source>
+    <translation>@lumora.example</translation>
+  </message>
 
-    <!-- Icon generator -->
-    <message id="ICONS_SOURCE_TITLE">
-        <source>Source icon</source>
-        <translation>Ausgangs-Icon</translation>
-    </message>
-    <message id="ICONS_SOURCE_SUBTITLE">
-        <source>Drop a picture of 1024 × 1024 pixels</source>
-        <translation>Ein Bild von 1024 × 1024 Pixeln hierher ziehen</translation>
-    </message>
-    <message id="ICONS_SOURCE_SUBTITLE_ACTIVE">
-        <source>1024 × 1024 pixels, ready to export</source>
-        <translation>1024 × 1024 Pixel, bereit zum Export</translation>
-    </message>
-    <message id="ICONS_BROWSE">
-        <source>Choose a picture of 1024 × 1024 pixels</source>
-        <translation>Ein Bild von 1024 × 1024 Pixeln auswählen</translation>
-    </message>
-    <message id="ICONS_PLATFORMS_TITLE">
-        <source>Platforms</source>
-        <translation>Plattformen</translation>
-    </message>
-    <message id="ICONS_IPHONE">
-        <source>iPhone</source>
-        <translation>iPhone</translation>
-    </message>
-    <message id="ICONS_IPAD">
-        <source>iPad</source>
-        <translation>iPad</translation>
-    </message>
-    <message id="ICONS_MAC">
-        <source>Mac</source>
-        <translation>Mac</translation>
-    </message>
-    <message id="ICONS_ANDROID">
-        <source>Android</source>
-        <translation>Android</translation>
-    </message>
-    <message id="ICONS_WEB_TOUCH">
-        <source>Web touch</source>
-        <translation>Web-Touch</translation>
-    </message>
-    <message id="ICONS_FAV_ICONS">
-        <source>Favicon</source>
-        <translation>Favicon</translation>
-    </message>
-    <message id="ICONS_CUSTOM_SETTINGS">
-        <source>Custom size</source>
-        <translation>Eigene Größe</translation>
-    </message>
-    <message id="ICONS_CUSTOM_SIZE">
-        <source>Size</source>
-        <translation>Größe</translation>
-    </message>
-    <message id="ICONS_ROUNDED_CORNERS_IOS6">
-        <source>iOS 6 corners</source>
-        <translation>iOS-6-Ecken</translation>
-    </message>
-    <message id="ICONS_ROUNDED_CORNERS">
-        <source>iOS 7 corners</source>
-        <translation>iOS-7-Ecken</translation>
-    </message>
-    <message id="ICONS_DESTINATION">
-        <source>Choose the folder for the icons</source>
-        <translation>Ordner für die Icons auswählen</translation>
-    </message>
-    <message id="ICONS_EXPORTING">
-        <source>Exporting…</source>
-        <translation>Export läuft …</translation>
-    </message>
-    <message id="ICONS_DONE">
-        <source>Done</source>
-        <translation>Fertig</translation>
-    </message>
-    <message id="ICONS_ALERT_TITLE">
-        <source>This picture does not fit</source>
-        <translation>Dieses Bild passt nicht</translation>
-    </message>
-    <message id="ICONS_ALERT_MESSAGE">
-        <source>The source must be a readable picture of exactly 1024 × 1024 pixels. Please choose another one.</source>
-        <translation>Das Ausgangsbild muss lesbar und genau 1024 × 1024 Pixel groß sein. Bitte ein anderes auswählen.</translation>
-    </message>
-    <message id="ICONS_NO_SOURCE_ALERT_TITLE">
-        <source>No source icon yet</source>
-        <translation>Noch kein Ausgangs-Icon</translation>
-    </message>
-    <message id="ICONS_NO_SOURCE_ALERT_MESSAGE">
-        <source>Drop a picture of 1024 × 1024 pixels on the pane or browse for one first.</source>
-        <translation>Zuerst ein Bild von 1024 × 1024 Pixeln auf die Seite ziehen oder auswählen.</translation>
-    </message>
-    <message id="ICONS_NO_PLATFORM_ALERT_TITLE">
-        <source>No platform chosen</source>
-        <translation>Keine Plattform gewählt</translation>
-    </message>
-    <message id="ICONS_NO_PLATFORM_ALERT_MESSAGE">
-        <source>Tick at least one platform, then generate again.</source>
-        <translation>Mindestens eine Plattform ankreuzen und dann erneut erzeugen.</translation>
-    </message>
-    <message id="ICONS_NO_DIMENSION_ALERT_TITLE">
-        <source>No size given</source>
-        <translation>Keine Größe angegeben</translation>
-    </message>
-    <message id="ICONS_NO_DIMENSION_ALERT_MESSAGE">
-        <source>Type the edge length of the icon in pixels, from 1 to 1024.</source>
-        <translation>Die Kantenlänge des Icons in Pixeln eingeben, von 1 bis 1024.</translation>
-    </message>
-    <message id="ICONS_INCORRECT_SIZE_ALERT_TITLE">
-        <source>This size will not work</source>
-        <translation>Diese Größe geht nicht</translation>
-    </message>
-    <message id="ICONS_INCORRECT_SIZE_ALERT_MESSAGE">
-        <source>The edge length must be a whole number from 1 to 1024. Please correct it.</source>
-        <translation>Die Kantenlänge muss eine ganze Zahl von 1 bis 1024 sein. Bitte korrigieren.</translation>
-    </message>
-    <message id="ICONS_NEW_FOLDER_ALERT_TITLE">
-        <source>Saved in a new folder</source>
-        <translation>In neuem Ordner gespeichert</translation>
-    </message>
-    <message id="ICONS_NEW_FOLDER_ALERT_MESSAGE">
-        <source>The name “icons” was already taken there, so this export is in the folder “[FOLDER]”.</source>
-        <translation>Der Name „icons“ war dort schon vergeben, deshalb liegt dieser Export im Ordner „[FOLDER]“.</translation>
-    </message>
+  <!-- Icon generator -->
+  <message id="ICONS_SOURCE_TITLE">
+    <source>Source icon</source>
+    <translation>Ausgangs-Icon</translation>
+  </message>
+  <message id="ICONS_SOURCE_SUBTITLE">
+    <source>Drop a picture of 1024 × 1024 pixels</source>
+    <translation>Ein Bild von 1024 × 1024 Pixeln hierher ziehen</translation>
+  </message>
+  <message id="ICONS_SOURCE_SUBTITLE_ACTIVE">
+    <source>1024 × 1024 pixels, ready to export</source>
+    <translation>1024 × 1024 Pixel, bereit zum Export</translation>
+  </message>
+  <message id="ICONS_BROWSE">
+    <source>Choose a picture of 1024 × 1024 pixels</source>
+    <translation>Ein Bild von 1024 × 1024 Pixeln auswählen</translation>
+  </message>
+  <message id="ICONS_PLATFORMS_TITLE">
+    <source>Platforms</source>
+    <translation>Plattformen</translation>
+  </message>
+  <message id="ICONS_IPHONE">
+    <source>iPhone</source>
+    <translation>iPhone</translation>
+  </message>
+  <message id="ICONS_IPAD">
+    <source>iPad</source>
+    <translation>iPad</translation>
+  </message>
+  <message id="ICONS_MAC">
+    <source>Mac</source>
+    <translation>Mac</translation>
+  </message>
+  <message id="ICONS_ANDROID">
+    <source>Android</source>
+    <translation>Android</translation>
+  </message>
+  <message id="ICONS_WEB_TOUCH">
+    <source>Web touch</source>
+    <translation>Web-Touch</translation>
+  </message>
+  <message id="ICONS_FAV_ICONS">
+    <source>Favicon</source>
+    <translation>Favicon</translation>
+  </message>
+  <message id="ICONS_CUSTOM_SETTINGS">
+    <source>Custom size</source>
+    <translation>Eigene Größe</translation>
+  </message>
+  <message id="ICONS_CUSTOM_SIZE">
+    <source>Size</source>
+    <translation>Größe</translation>
+  </message>
+  <message id="ICONS_ROUNDED_CORNERS_IOS6">
+    <source>iOS 6 corners</source>
+    <translation>iOS-6-Ecken</translation>
+  </message>
+  <message id="ICONS_ROUNDED_CORNERS">
+    <source>iOS 7 corners</source>
+    <translation>iOS-7-Ecken</translation>
+  </message>
+  <message id="ICONS_DESTINATION">
+    <source>Choose the folder for the icons</source>
+    <translation>Ordner für die Icons auswählen</translation>
+  </message>
+  <message id="ICONS_EXPORTING">
+    <source>Exporting…</source>
+    <translation>Export läuft …</translation>
+  </message>
+  <message id="ICONS_DONE">
+    <source>Done</source>
+    <translation>Fertig</translation>
+  </message>
+  <message id="ICONS_ALERT_TITLE">
+    <source>This picture does not fit</source>
+    <translation>Dieses Bild passt nicht</translation>
+  </message>
+  <message id="ICONS_ALERT_MESSAGE">
+    <source>The source must be a readable picture of exactly 1024 × 1024 pixels. Please choose another one.</source>
+    <translation>Das Ausgangsbild muss lesbar und genau 1024 × 1024 Pixel groß sein. Bitte ein anderes auswählen.</translation>
+  </message>
+  <message id="ICONS_NO_SOURCE_ALERT_TITLE">
+    <source>No source icon yet</source>
+    <translation>Noch kein Ausgangs-Icon</translation>
+  </message>
+  <message id="ICONS_NO_SOURCE_ALERT_MESSAGE">
+    <source>Drop a picture of 1024 × 1024 pixels on the pane or browse for one first.</source>
+    <translation>Zuerst ein Bild von 1024 × 1024 Pixeln auf die Seite ziehen oder auswählen.</translation>
+  </message>
+  <message id="ICONS_NO_PLATFORM_ALERT_TITLE">
+    <source>No platform chosen</source>
+    <translation>Keine Plattform gewählt</translation>
+  </message>
+  <message id="ICONS_NO_PLATFORM_ALERT_MESSAGE">
+    <source>Tick at least one platform, then generate again.</source>
+    <translation>Mindestens eine Plattform ankreuzen und dann erneut erzeugen.</translation>
+  </message>
+  <message id="ICONS_NO_DIMENSION_ALERT_TITLE">
+    <source>No size given</source>
+    <translation>Keine Größe angegeben</translation>
+  </message>
+  <message id="ICONS_NO_DIMENSION_ALERT_MESSAGE">
+    <source>Type the edge length of the icon in pixels, from 1 to 1024.</source>
+    <translation>Die Kantenlänge des Icons in Pixeln eingeben, von 1 bis 1024.</translation>
+  </message>
+  <message id="ICONS_INCORRECT_SIZE_ALERT_TITLE">
+    <source>This size will not work</source>
+    <translation>Diese Größe geht nicht</translation>
+  </message>
+  <message id="ICONS_INCORRECT_SIZE_ALERT_MESSAGE">
+    <source>The edge length must be a whole number from 1 to 1024. Please correct it.</source>
+    <translation>Die Kantenlänge muss eine ganze Zahl von 1 bis 1024 sein. Bitte korrigieren.</translation>
+  </message>
+  <message id="ICONS_NEW_FOLDER_ALERT_TITLE">
+    <source>Saved in a new folder</source>
+    <translation>In neuem Ordner gespeichert</translation>
+  </message>
+  <message id="ICONS_NEW_FOLDER_ALERT_MESSAGE">
+    <source>The name “icons” was already taken there, so this export is in the folder “[FOLDER]”.</source>
+    <translation>Der Name „icons“ war dort schon vergeben, deshalb liegt dieser Export im Ordner „[FOLDER]“.</translation>
+  </message>
 
-    <!-- Icon generator: code snippets; only the comments inside a snippet are translated -->
-    <message id="Code Snippets">
-        <source>Code snippets</source>
-        <translation>Code-Schnipsel</translation>
-    </message>
-    <message id="SNIPPETS_TITLE">
-        <source>Snippet copied</source>
-        <translation>Schnipsel kopiert</translation>
-    </message>
-    <message id="SNIPPETS_MESSAGE">
-        <source>The code snippet is on the clipboard, ready to paste.</source>
-        <translation>Der Code-Schnipsel liegt in der Zwischenablage und kann eingefügt werden.</translation>
-    </message>
-    <message id="SNIPPETS_PLATFORM_IOS">
-        <source>iOS</source>
-        <translation>iOS</translation>
-    </message>
-    <message id="SNIPPETS_PLATFORM_PROMPT">
-        <source>Choose a platform</source>
-        <translation>Plattform wählen</translation>
-    </message>
-    <message id="SNIPPET_IOS_UNIVERSAL">
-        <source><![CDATA[<!-- Info.plist: add the files from the folders iPhone and
+  <!-- Icon generator: code snippets; only the comments inside a snippet are translated -->
+  <message id="Code Snippets">
+    <source>Code snippets</source>
+    <translation>Code-Schnipsel</translation>
+  </message>
+  <message id="SNIPPETS_TITLE">
+    <source>Snippet copied</source>
+    <translation>Schnipsel kopiert</translation>
+  </message>
+  <message id="SNIPPETS_MESSAGE">
+    <source>The code snippet is on the clipboard, ready to paste.</source>
+    <translation>Der Code-Schnipsel liegt in der Zwischenablage und kann eingefügt werden.</translation>
+  </message>
+  <message id="SNIPPETS_PLATFORM_IOS">
+    <source>iOS</source>
+    <translation>iOS</translation>
+  </message>
+  <message id="SNIPPETS_PLATFORM_PROMPT">
+    <source>Choose a platform</source>
+    <translation>Plattform wählen</translation>
+  </message>
+  <message id="SNIPPET_IOS_UNIVERSAL">
+    <source><![CDATA[<!-- Info.plist: add the files from the folders iPhone and
      iPad to the app; take the shared names once. -->
 <!-- iTunesArtwork and iTunesArtwork@2x are for ad hoc
      packages and are not declared. -->
@@ -384,7 +384,7 @@
         </array>
     </dict>
 </dict>]]></source>
-        <translation><![CDATA[<!-- Info.plist: die Dateien aus den Ordnern iPhone und iPad
+    <translation><![CDATA[<!-- Info.plist: die Dateien aus den Ordnern iPhone und iPad
      zur App hinzufügen, gleiche Namen nur einmal. -->
 <!-- iTunesArtwork und iTunesArtwork@2x sind für
      Ad-hoc-Pakete und werden nicht eingetragen. -->
@@ -424,9 +424,9 @@
         </array>
     </dict>
 </dict>]]></translation>
-    </message>
-    <message id="SNIPPET_IOS">
-        <source><![CDATA[<!-- Info.plist: add the files from the folder iPhone to the app. -->
+  </message>
+  <message id="SNIPPET_IOS">
+    <source><![CDATA[<!-- Info.plist: add the files from the folder iPhone to the app. -->
 <!-- iTunesArtwork and iTunesArtwork@2x are for ad hoc
      packages and are not declared. -->
 <key>CFBundleIcons</key>
@@ -446,7 +446,7 @@
         </array>
     </dict>
 </dict>]]></source>
-        <translation><![CDATA[<!-- Info.plist: die Dateien aus dem Ordner iPhone
+    <translation><![CDATA[<!-- Info.plist: die Dateien aus dem Ordner iPhone
      zur App hinzufügen. -->
 <!-- iTunesArtwork und iTunesArtwork@2x sind für
      Ad-hoc-Pakete und werden nicht eingetragen. -->
@@ -467,9 +467,9 @@
         </array>
     </dict>
 </dict>]]></translation>
-    </message>
-    <message id="SNIPPET_IOS_IPAD">
-        <source><![CDATA[<!-- Info.plist: add the files from the folder iPad to the app. -->
+  </message>
+  <message id="SNIPPET_IOS_IPAD">
+    <source><![CDATA[<!-- Info.plist: add the files from the folder iPad to the app. -->
 <!-- iTunesArtwork and iTunesArtwork@2x are for ad hoc
      packages and are not declared. -->
 <key>CFBundleIcons~ipad</key>
@@ -491,7 +491,7 @@
         </array>
     </dict>
 </dict>]]></source>
-        <translation><![CDATA[<!-- Info.plist: die Dateien aus dem Ordner iPad
+    <translation><![CDATA[<!-- Info.plist: die Dateien aus dem Ordner iPad
      zur App hinzufügen. -->
 <!-- iTunesArtwork und iTunesArtwork@2x sind für
      Ad-hoc-Pakete und werden nicht eingetragen. -->
@@ -514,19 +514,19 @@
         </array>
     </dict>
 </dict>]]></translation>
-    </message>
-    <message id="SNIPPET_MACOSX">
-        <source><![CDATA[<!-- Info.plist: add icons.icns from the folder Mac
+  </message>
+  <message id="SNIPPET_MACOSX">
+    <source><![CDATA[<!-- Info.plist: add icons.icns from the folder Mac
      to the app's resources. -->
 <key>CFBundleIconFile</key>
 <string>icons.icns</string>]]></source>
-        <translation><![CDATA[<!-- Info.plist: icons.icns aus dem Ordner Mac zu den
+    <translation><![CDATA[<!-- Info.plist: icons.icns aus dem Ordner Mac zu den
      Ressourcen der App hinzufügen. -->
 <key>CFBundleIconFile</key>
 <string>icons.icns</string>]]></translation>
-    </message>
-    <message id="SNIPPET_ANDROID">
-        <source><![CDATA[<!-- Copy each file of the folder Android to its place:
+  </message>
+  <message id="SNIPPET_ANDROID">
+    <source><![CDATA[<!-- Copy each file of the folder Android to its place:
      ic_launcher_ldpi.png: res/drawable-ldpi/ic_launcher.png
      ic_launcher_mdpi.png: res/drawable-mdpi/ic_launcher.png
      ic_launcher_hdpi.png: res/drawable-hdpi/ic_launcher.png
@@ -537,7 +537,7 @@
 <manifest xmlns:android="http://schemas.android.com/apk/res/android">
     <application android:icon="@drawable/ic_launcher" />
 </manifest>]]></source>
-        <translation><![CDATA[<!-- Jede Datei des Ordners Android an ihren Platz kopieren:
+    <translation><![CDATA[<!-- Jede Datei des Ordners Android an ihren Platz kopieren:
      ic_launcher_ldpi.png: res/drawable-ldpi/ic_launcher.png
      ic_launcher_mdpi.png: res/drawable-mdpi/ic_launcher.png
      ic_launcher_hdpi.png: res/drawable-hdpi/ic_launcher.png
@@ -548,9 +548,9 @@
 <manifest xmlns:android="http://schemas.android.com/apk/res/android">
     <application android:icon="@drawable/ic_launcher" />
 </manifest>]]></translation>
-    </message>
-    <message id="SNIPPET_WEB_TOUCH">
-        <source><![CDATA[<!-- In the head element; the files of the folder Web Touch
+  </message>
+  <message id="SNIPPET_WEB_TOUCH">
+    <source><![CDATA[<!-- In the head element; the files of the folder Web Touch
      go to the root of the site. -->
 <link rel="apple-touch-icon-precomposed" sizes="152x152" href="/apple-touch-icon-152x152-precomposed.png" />
 <link rel="apple-touch-icon-precomposed" sizes="144x144" href="/apple-touch-icon-144x144-precomposed.png" />
@@ -561,7 +561,7 @@
 <link rel="apple-touch-icon-precomposed" sizes="60x60" href="/apple-touch-icon-60x60-precomposed.png" />
 <link rel="apple-touch-icon-precomposed" sizes="57x57" href="/apple-touch-icon-precomposed.png" />
 <link rel="apple-touch-icon" sizes="57x57" href="/apple-touch-icon.png" />]]></source>
-        <translation><![CDATA[<!-- Ins head-Element; die Dateien des Ordners Web Touch
+    <translation><![CDATA[<!-- Ins head-Element; die Dateien des Ordners Web Touch
      kommen ins Wurzelverzeichnis der Website. -->
 <link rel="apple-touch-icon-precomposed" sizes="152x152" href="/apple-touch-icon-152x152-precomposed.png" />
 <link rel="apple-touch-icon-precomposed" sizes="144x144" href="/apple-touch-icon-144x144-precomposed.png" />
@@ -572,582 +572,582 @@
 <link rel="apple-touch-icon-precomposed" sizes="60x60" href="/apple-touch-icon-60x60-precomposed.png" />
 <link rel="apple-touch-icon-precomposed" sizes="57x57" href="/apple-touch-icon-precomposed.png" />
 <link rel="apple-touch-icon" sizes="57x57" href="/apple-touch-icon.png" />]]></translation>
-    </message>
-    <message id="SNIPPET_FAVICON">
-        <source><![CDATA[<!-- In the head element; the files of the folder Favicon
+  </message>
+  <message id="SNIPPET_FAVICON">
+    <source><![CDATA[<!-- In the head element; the files of the folder Favicon
      go to the root of the site. -->
 <link rel="icon" type="image/png" sizes="16x16" href="/favicon-16.png" />
 <link rel="icon" type="image/png" sizes="32x32" href="/favicon-32.png" />
 <link rel="icon" type="image/png" sizes="48x48" href="/favicon-48.png" />
 <link rel="icon" type="image/png" sizes="64x64" href="/favicon-64.png" />
 <link rel="icon" type="image/png" sizes="128x128" href="/favicon-128.png" />]]></source>
-        <translation><![CDATA[<!-- Ins head-Element; die Dateien des Ordners Favicon
+    <translation><![CDATA[<!-- Ins head-Element; die Dateien des Ordners Favicon
      kommen ins Wurzelverzeichnis der Website. -->
 <link rel="icon" type="image/png" sizes="16x16" href="/favicon-16.png" />
 <link rel="icon" type="image/png" sizes="32x32" href="/favicon-32.png" />
 <link rel="icon" type="image/png" sizes="48x48" href="/favicon-48.png" />
 <link rel="icon" type="image/png" sizes="64x64" href="/favicon-64.png" />
 <link rel="icon" type="image/png" sizes="128x128" href="/favicon-128.png" />]]></translation>
-    </message>
+  </message>
 
-    <!-- Placeholder generator -->
-    <message id="PLACEHOLDER_TITLE">
-        <source>Device sizes</source>
-        <translation>Gerätegrößen</translation>
-    </message>
-    <message id="PLACEHOLDER_IOS_TITLE">
-        <source>iOS</source>
-        <translation>iOS</translation>
-    </message>
-    <message id="PLACEHOLDER_IOS_SUBTITLE">
-        <source>Nine pictures for iPhone, iPod and iPad</source>
-        <translation>Neun Bilder für iPhone, iPod und iPad</translation>
-    </message>
-    <message id="PLACEHOLDER_MAC_TITLE">
-        <source>Mac</source>
-        <translation>Mac</translation>
-    </message>
-    <message id="PLACEHOLDER_MAC_SUBTITLE">
-        <source>Four pictures for icons and screens</source>
-        <translation>Vier Bilder für Icons und Bildschirme</translation>
-    </message>
-    <message id="PLACEHOLDER_CUSTOM">
-        <source>Custom size</source>
-        <translation>Eigene Größe</translation>
-    </message>
-    <message id="PLACEHOLDER_CUSTOM_TITLE">
-        <source>Your own size</source>
-        <translation>Eigenes Maß</translation>
-    </message>
-    <message id="PLACEHOLDER_CUSTOM_SUBTITLE">
-        <source>One picture, 1 to 9999 pixels each way</source>
-        <translation>Ein Bild, je Seite 1 bis 9999 Pixel</translation>
-    </message>
-    <message id="PLACEHOLDER_SETTINGS">
-        <source>Size in pixels</source>
-        <translation>Größe in Pixeln</translation>
-    </message>
-    <message id="PLACEHOLDER_WIDTH">
-        <source>Width</source>
-        <translation>Breite</translation>
-    </message>
-    <message id="PLACEHOLDER_HEIGHT">
-        <source>Height</source>
-        <translation>Höhe</translation>
-    </message>
-    <message id="PLACEHOLDER_ALERT_TITLE">
-        <source>This size will not work</source>
-        <translation>Diese Größe geht nicht</translation>
-    </message>
-    <message id="PLACEHOLDER_ALERT_MESSAGE">
-        <source>Width and height must be whole numbers from 1 to 9999. Please correct this one.</source>
-        <translation>Breite und Höhe müssen ganze Zahlen von 1 bis 9999 sein. Bitte die Angabe hier korrigieren.</translation>
-    </message>
-    <message id="PLACEHOLDER_NEW_FOLDER_ALERT_TITLE">
-        <source>Saved in a new folder</source>
-        <translation>In neuem Ordner gespeichert</translation>
-    </message>
-    <message id="PLACEHOLDER_NEW_FOLDER_ALERT_MESSAGE">
-        <source>The name “placeholders” was already taken there, so these pictures are in the folder “[FOLDER]”.</source>
-        <translation>Der Name „placeholders“ war dort schon vergeben, deshalb liegen diese Bilder im Ordner „[FOLDER]“.</translation>
-    </message>
+  <!-- Placeholder generator -->
+  <message id="PLACEHOLDER_TITLE">
+    <source>Device sizes</source>
+    <translation>Gerätegrößen</translation>
+  </message>
+  <message id="PLACEHOLDER_IOS_TITLE">
+    <source>iOS</source>
+    <translation>iOS</translation>
+  </message>
+  <message id="PLACEHOLDER_IOS_SUBTITLE">
+    <source>Nine pictures for iPhone, iPod and iPad</source>
+    <translation>Neun Bilder für iPhone, iPod und iPad</translation>
+  </message>
+  <message id="PLACEHOLDER_MAC_TITLE">
+    <source>Mac</source>
+    <translation>Mac</translation>
+  </message>
+  <message id="PLACEHOLDER_MAC_SUBTITLE">
+    <source>Four pictures for icons and screens</source>
+    <translation>Vier Bilder für Icons und Bildschirme</translation>
+  </message>
+  <message id="PLACEHOLDER_CUSTOM">
+    <source>Custom size</source>
+    <translation>Eigene Größe</translation>
+  </message>
+  <message id="PLACEHOLDER_CUSTOM_TITLE">
+    <source>Your own size</source>
+    <translation>Eigenes Maß</translation>
+  </message>
+  <message id="PLACEHOLDER_CUSTOM_SUBTITLE">
+    <source>One picture, 1 to 9999 pixels each way</source>
+    <translation>Ein Bild, je Seite 1 bis 9999 Pixel</translation>
+  </message>
+  <message id="PLACEHOLDER_SETTINGS">
+    <source>Size in pixels</source>
+    <translation>Größe in Pixeln</translation>
+  </message>
+  <message id="PLACEHOLDER_WIDTH">
+    <source>Width</source>
+    <translation>Breite</translation>
+  </message>
+  <message id="PLACEHOLDER_HEIGHT">
+    <source>Height</source>
+    <translation>Höhe</translation>
+  </message>
+  <message id="PLACEHOLDER_ALERT_TITLE">
+    <source>This size will not work</source>
+    <translation>Diese Größe geht nicht</translation>
+  </message>
+  <message id="PLACEHOLDER_ALERT_MESSAGE">
+    <source>Width and height must be whole numbers from 1 to 9999. Please correct this one.</source>
+    <translation>Breite und Höhe müssen ganze Zahlen von 1 bis 9999 sein. Bitte die Angabe hier korrigieren.</translation>
+  </message>
+  <message id="PLACEHOLDER_NEW_FOLDER_ALERT_TITLE">
+    <source>Saved in a new folder</source>
+    <translation>In neuem Ordner gespeichert</translation>
+  </message>
+  <message id="PLACEHOLDER_NEW_FOLDER_ALERT_MESSAGE">
+    <source>The name “placeholders” was already taken there, so these pictures are in the folder “[FOLDER]”.</source>
+    <translation>Der Name „placeholders“ war dort schon vergeben, deshalb liegen diese Bilder im Ordner „[FOLDER]“.</translation>
+  </message>
 
-    <!-- Retina down-scaler; the two panel texts also serve other tools, so they name no kind of file -->
-    <message id="RESIZER_BROWSE_LABEL">
-        <source>Drop PNG pictures marked @2x or -hd, or</source>
-        <translation>PNG-Bilder mit @2x oder -hd hierher ziehen oder</translation>
-    </message>
-    <message id="RESIZER_BROWSE_PANEL">
-        <source>Choose what to open</source>
-        <translation>Auswählen, was geöffnet werden soll</translation>
-    </message>
-    <message id="RESIZER_DESTINATION_PANEL">
-        <source>Choose the folder to save into</source>
-        <translation>Ordner zum Speichern auswählen</translation>
-    </message>
-    <message id="RESIZER_PROGRESS">
-        <source>Picture %i of %i</source>
-        <translation>Bild %i von %i</translation>
-    </message>
-    <message id="RESIZER_DONE">
-        <source>All done</source>
-        <translation>Alles fertig</translation>
-    </message>
-    <message id="RESIZER_ALERT_TITLE">
-        <source>Nothing to scale down</source>
-        <translation>Nichts zu verkleinern</translation>
-    </message>
-    <message id="RESIZER_ALERT_MESSAGE">
-        <source>None of these is a .png file marked @2x or -hd. Please choose double-resolution PNG pictures.</source>
-        <translation>Keine davon ist eine .png-Datei mit der Kennung @2x oder -hd. Bitte PNG-Bilder in doppelter Auflösung auswählen.</translation>
-    </message>
+  <!-- Retina down-scaler; the two panel texts also serve other tools, so they name no kind of file -->
+  <message id="RESIZER_BROWSE_LABEL">
+    <source>Drop PNG pictures marked @2x or -hd, or</source>
+    <translation>PNG-Bilder mit @2x oder -hd hierher ziehen oder</translation>
+  </message>
+  <message id="RESIZER_BROWSE_PANEL">
+    <source>Choose what to open</source>
+    <translation>Auswählen, was geöffnet werden soll</translation>
+  </message>
+  <message id="RESIZER_DESTINATION_PANEL">
+    <source>Choose the folder to save into</source>
+    <translation>Ordner zum Speichern auswählen</translation>
+  </message>
+  <message id="RESIZER_PROGRESS">
+    <source>Picture %i of %i</source>
+    <translation>Bild %i von %i</translation>
+  </message>
+  <message id="RESIZER_DONE">
+    <source>All done</source>
+    <translation>Alles fertig</translation>
+  </message>
+  <message id="RESIZER_ALERT_TITLE">
+    <source>Nothing to scale down</source>
+    <translation>Nichts zu verkleinern</translation>
+  </message>
+  <message id="RESIZER_ALERT_MESSAGE">
+    <source>None of these is a .png file marked @2x or -hd. Please choose double-resolution PNG pictures.</source>
+    <translation>Keine davon ist eine .png-Datei mit der Kennung @2x oder -hd. Bitte PNG-Bilder in doppelter Auflösung auswählen.</translation>
+  </message>
 
-    <!-- Colour codes -->
-    <message id="COLOR_IOS">
-        <source>For iOS, as UIColor</source>
-        <translation>Für iOS, als UIColor</translation>
-    </message>
-    <message id="COLOR_IOS_BUTTON">
-        <source>Copy iOS</source>
-        <translation>iOS kopieren</translation>
-    </message>
-    <message id="COLOR_MAC">
-        <source>For the Mac, as NSColor</source>
-        <translation>Für den Mac, als NSColor</translation>
-    </message>
-    <message id="COLOR_MAC_BUTTON">
-        <source>Copy Mac</source>
-        <translation>Mac kopieren</translation>
-    </message>
-    <message id="COLOR_JAVA">
-        <source>As rgb(red, green, blue)</source>
-        <translation>Als rgb(Rot, Grün, Blau)</translation>
-    </message>
-    <message id="COLOR_JAVA_BUTTON">
-        <source>Copy rgb</source>
-        <translation>rgb kopieren</translation>
-    </message>
-    <message id="COLOR_ALERT_TITLE">
-        <source>This is no colour code</source>
-        <translation>Das ist kein Farbcode</translation>
-    </message>
-    <message id="COLOR_ALERT_MESSAGE">
-        <source>Type three or six hexadecimal digits, for example #abc or #34485e.</source>
-        <translation>Drei oder sechs hexadezimale Ziffern eingeben, zum Beispiel #abc oder #34485e.</translation>
-    </message>
+  <!-- Colour codes -->
+  <message id="COLOR_IOS">
+    <source>For iOS, as UIColor</source>
+    <translation>Für iOS, als UIColor</translation>
+  </message>
+  <message id="COLOR_IOS_BUTTON">
+    <source>Copy iOS</source>
+    <translation>iOS kopieren</translation>
+  </message>
+  <message id="COLOR_MAC">
+    <source>For the Mac, as NSColor</source>
+    <translation>Für den Mac, als NSColor</translation>
+  </message>
+  <message id="COLOR_MAC_BUTTON">
+    <source>Copy Mac</source>
+    <translation>Mac kopieren</translation>
+  </message>
+  <message id="COLOR_JAVA">
+    <source>As rgb(red, green, blue)</source>
+    <translation>Als rgb(Rot, Grün, Blau)</translation>
+  </message>
+  <message id="COLOR_JAVA_BUTTON">
+    <source>Copy rgb</source>
+    <translation>rgb kopieren</translation>
+  </message>
+  <message id="COLOR_ALERT_TITLE">
+    <source>This is no colour code</source>
+    <translation>Das ist kein Farbcode</translation>
+  </message>
+  <message id="COLOR_ALERT_MESSAGE">
+    <source>Type three or six hexadecimal digits, for example #abc or #34485e.</source>
+    <translation>Drei oder sechs hexadezimale Ziffern eingeben, zum Beispiel #abc oder #34485e.</translation>
+  </message>
 
-    <!-- Colour codes: the colour picker -->
-    <message id="COLOR_PICKER">
-        <source>Colours</source>
-        <translation>Farben</translation>
-    </message>
-    <message id="COLOR_MODE_WHEEL">
-        <source>Colour wheel</source>
-        <translation>Farbkreis</translation>
-    </message>
-    <message id="COLOR_MODE_RGB">
-        <source>RGB sliders</source>
-        <translation>RGB-Regler</translation>
-    </message>
-    <message id="COLOR_MODE_HSB">
-        <source>HSB sliders</source>
-        <translation>HSB-Regler</translation>
-    </message>
-    <message id="COLOR_MODE_GREY">
-        <source>Grey slider</source>
-        <translation>Grauregler</translation>
-    </message>
-    <message id="COLOR_MODE_PALETTE">
-        <source>Palette</source>
-        <translation>Palette</translation>
-    </message>
-    <message id="COLOR_CHANNEL_RED">
-        <source>Red</source>
-        <translation>Rot</translation>
-    </message>
-    <message id="COLOR_CHANNEL_GREEN">
-        <source>Green</source>
-        <translation>Grün</translation>
-    </message>
-    <message id="COLOR_CHANNEL_BLUE">
-        <source>Blue</source>
-        <translation>Blau</translation>
-    </message>
-    <message id="COLOR_CHANNEL_HUE">
-        <source>Hue</source>
-        <translation>Farbton</translation>
-    </message>
-    <message id="COLOR_CHANNEL_SATURATION">
-        <source>Saturation</source>
-        <translation>Sättigung</translation>
-    </message>
-    <message id="COLOR_CHANNEL_BRIGHTNESS">
-        <source>Brightness</source>
-        <translation>Helligkeit</translation>
-    </message>
-    <message id="COLOR_CHANNEL_GREY">
-        <source>Grey</source>
-        <translation>Grau</translation>
-    </message>
-    <message id="COLOR_CHANNEL_OPACITY">
-        <source>Opacity</source>
-        <translation>Deckkraft</translation>
-    </message>
-    <message id="COLOR_HEX">
-        <source>Hexadecimal code</source>
-        <translation>Hexadezimaler Code</translation>
-    </message>
-    <message id="COLOR_PIPETTE">
-        <source>Pick a colour from the screen</source>
-        <translation>Farbe vom Bildschirm aufnehmen</translation>
-    </message>
-    <message id="COLOR_PIPETTE_FAILED_TITLE">
-        <source>No colour picked</source>
-        <translation>Keine Farbe aufgenommen</translation>
-    </message>
-    <message id="COLOR_PIPETTE_FAILED_MESSAGE">
-        <source>The system did not let Lumora read the screen. Allow it in the system settings, or choose the colour here.</source>
-        <translation>Das System hat den Zugriff auf den Bildschirm nicht erlaubt. In den Systemeinstellungen freigeben oder die Farbe hier wählen.</translation>
-    </message>
+  <!-- Colour codes: the colour picker -->
+  <message id="COLOR_PICKER">
+    <source>Colours</source>
+    <translation>Farben</translation>
+  </message>
+  <message id="COLOR_MODE_WHEEL">
+    <source>Colour wheel</source>
+    <translation>Farbkreis</translation>
+  </message>
+  <message id="COLOR_MODE_RGB">
+    <source>RGB sliders</source>
+    <translation>RGB-Regler</translation>
+  </message>
+  <message id="COLOR_MODE_HSB">
+    <source>HSB sliders</source>
+    <translation>HSB-Regler</translation>
+  </message>
+  <message id="COLOR_MODE_GREY">
+    <source>Grey slider</source>
+    <translation>Grauregler</translation>
+  </message>
+  <message id="COLOR_MODE_PALETTE">
+    <source>Palette</source>
+    <translation>Palette</translation>
+  </message>
+  <message id="COLOR_CHANNEL_RED">
+    <source>Red</source>
+    <translation>Rot</translation>
+  </message>
+  <message id="COLOR_CHANNEL_GREEN">
+    <source>Green</source>
+    <translation>Grün</translation>
+  </message>
+  <message id="COLOR_CHANNEL_BLUE">
+    <source>Blue</source>
+    <translation>Blau</translation>
+  </message>
+  <message id="COLOR_CHANNEL_HUE">
+    <source>Hue</source>
+    <translation>Farbton</translation>
+  </message>
+  <message id="COLOR_CHANNEL_SATURATION">
+    <source>Saturation</source>
+    <translation>Sättigung</translation>
+  </message>
+  <message id="COLOR_CHANNEL_BRIGHTNESS">
+    <source>Brightness</source>
+    <translation>Helligkeit</translation>
+  </message>
+  <message id="COLOR_CHANNEL_GREY">
+    <source>Grey</source>
+    <translation>Grau</translation>
+  </message>
+  <message id="COLOR_CHANNEL_OPACITY">
+    <source>Opacity</source>
+    <translation>Deckkraft</translation>
+  </message>
+  <message id="COLOR_HEX">
+    <source>Hexadecimal code</source>
+    <translation>Hexadezimaler Code</translation>
+  </message>
+  <message id="COLOR_PIPETTE">
+    <source>Pick a colour from the screen</source>
+    <translation>Farbe vom Bildschirm aufnehmen</translation>
+  </message>
+  <message id="COLOR_PIPETTE_FAILED_TITLE">
+    <source>No colour picked</source>
+    <translation>Keine Farbe aufgenommen</translation>
+  </message>
+  <message id="COLOR_PIPETTE_FAILED_MESSAGE">
+    <source>The system did not let Lumora read the screen. Allow it in the system settings, or choose the colour here.</source>
+    <translation>Das System hat den Zugriff auf den Bildschirm nicht erlaubt. In den Systemeinstellungen freigeben oder die Farbe hier wählen.</translation>
+  </message>
 
-    <!-- Device matrix -->
-    <message id="DEVICES_IOS">
-        <source>iOS version</source>
-        <translation>iOS-Version</translation>
-    </message>
-    <message id="DEVICES_FEATURES">
-        <source>Features</source>
-        <translation>Funktionen</translation>
-    </message>
-    <message id="DEVICES_IPHONES">
-        <source>iPhone</source>
-        <translation>iPhone</translation>
-    </message>
-    <message id="DEVICES_IPODS">
-        <source>iPod</source>
-        <translation>iPod</translation>
-    </message>
-    <message id="DEVICES_IPADS">
-        <source>iPad</source>
-        <translation>iPad</translation>
-    </message>
+  <!-- Device matrix -->
+  <message id="DEVICES_IOS">
+    <source>iOS version</source>
+    <translation>iOS-Version</translation>
+  </message>
+  <message id="DEVICES_FEATURES">
+    <source>Features</source>
+    <translation>Funktionen</translation>
+  </message>
+  <message id="DEVICES_IPHONES">
+    <source>iPhone</source>
+    <translation>iPhone</translation>
+  </message>
+  <message id="DEVICES_IPODS">
+    <source>iPod</source>
+    <translation>iPod</translation>
+  </message>
+  <message id="DEVICES_IPADS">
+    <source>iPad</source>
+    <translation>iPad</translation>
+  </message>
 
-    <!-- App package check: intake -->
-    <message id="VALIDATER_BROWSE_INFO">
-        <source>Drop an .ipa package here or browse for one.</source>
-        <translation>Ein .ipa-Paket hierher ziehen oder auswählen.</translation>
-    </message>
-    <message id="VALIDATER_READING">
-        <source>Reading [FILE]…</source>
-        <translation>[FILE] wird gelesen …</translation>
-    </message>
-    <message id="VALIDATER_VALIDATING">
-        <source>Package report</source>
-        <translation>Prüfbericht</translation>
-    </message>
-    <message id="VALIDATER_ONE_FILE_TITLE">
-        <source>One package at a time</source>
-        <translation>Immer nur ein Paket</translation>
-    </message>
-    <message id="VALIDATER_ONE_FILE_MESSAGE">
-        <source>Several files were given. Please choose a single .ipa package.</source>
-        <translation>Es kamen mehrere Dateien an. Bitte ein einzelnes .ipa-Paket auswählen.</translation>
-    </message>
-    <message id="VALIDATER_IPA_TITLE">
-        <source>Not an app package</source>
-        <translation>Kein App-Paket</translation>
-    </message>
-    <message id="VALIDATER_IPA_MESSAGE">
-        <source>The file name must end in .ipa, in small letters. Please choose an iOS app package.</source>
-        <translation>Der Dateiname muss auf .ipa enden, kleingeschrieben. Bitte ein iOS-App-Paket auswählen.</translation>
-    </message>
+  <!-- App package check: intake -->
+  <message id="VALIDATER_BROWSE_INFO">
+    <source>Drop an .ipa package here or browse for one.</source>
+    <translation>Ein .ipa-Paket hierher ziehen oder auswählen.</translation>
+  </message>
+  <message id="VALIDATER_READING">
+    <source>Reading [FILE]…</source>
+    <translation>[FILE] wird gelesen …</translation>
+  </message>
+  <message id="VALIDATER_VALIDATING">
+    <source>Package report</source>
+    <translation>Prüfbericht</translation>
+  </message>
+  <message id="VALIDATER_ONE_FILE_TITLE">
+    <source>One package at a time</source>
+    <translation>Immer nur ein Paket</translation>
+  </message>
+  <message id="VALIDATER_ONE_FILE_MESSAGE">
+    <source>Several files were given. Please choose a single .ipa package.</source>
+    <translation>Es kamen mehrere Dateien an. Bitte ein einzelnes .ipa-Paket auswählen.</translation>
+  </message>
+  <message id="VALIDATER_IPA_TITLE">
+    <source>Not an app package</source>
+    <translation>Kein App-Paket</translation>
+  </message>
+  <message id="VALIDATER_IPA_MESSAGE">
+    <source>The file name must end in .ipa, in small letters. Please choose an iOS app package.</source>
+    <translation>Der Dateiname muss auf .ipa enden, kleingeschrieben. Bitte ein iOS-App-Paket auswählen.</translation>
+  </message>
 
-    <!-- App package check: facts; the value follows its label directly, so a label ends in a blank -->
-    <message id="VALIDATER_APP_NAME">
-        <source>Name: </source>
-        <translation>Name: </translation>
-    </message>
-    <message id="VALIDATER_APP_VERSION">
-        <source>Version: </source>
-        <translation>Version: </translation>
-    </message>
-    <message id="VALIDATER_APP_PLATFORM">
-        <source>Platform: </source>
-        <translation>Plattform: </translation>
-    </message>
-    <message id="VALIDATER_APP_MINIMUM_OS">
-        <source>Oldest iOS: </source>
-        <translation>Ältestes iOS: </translation>
-    </message>
-    <message id="VALIDATER_APP_BUNDLE_ID">
-        <source>Bundle ID: </source>
-        <translation>Bundle-ID: </translation>
-    </message>
-    <message id="VALIDATER_BUILD">
-        <source>Build: </source>
-        <translation>Build: </translation>
-    </message>
-    <message id="VALID_BUILD_DEBUG">
-        <source>Debug</source>
-        <translation>Debug</translation>
-    </message>
-    <message id="VALID_BUILD_RELEASE">
-        <source>Release</source>
-        <translation>Release</translation>
-    </message>
+  <!-- App package check: facts; the value follows its label directly, so a label ends in a blank -->
+  <message id="VALIDATER_APP_NAME">
+    <source>Name: </source>
+    <translation>Name: </translation>
+  </message>
+  <message id="VALIDATER_APP_VERSION">
+    <source>Version: </source>
+    <translation>Version: </translation>
+  </message>
+  <message id="VALIDATER_APP_PLATFORM">
+    <source>Platform: </source>
+    <translation>Plattform: </translation>
+  </message>
+  <message id="VALIDATER_APP_MINIMUM_OS">
+    <source>Oldest iOS: </source>
+    <translation>Ältestes iOS: </translation>
+  </message>
+  <message id="VALIDATER_APP_BUNDLE_ID">
+    <source>Bundle ID: </source>
+    <translation>Bundle-ID: </translation>
+  </message>
+  <message id="VALIDATER_BUILD">
+    <source>Build: </source>
+    <translation>Build: </translation>
+  </message>
+  <message id="VALID_BUILD_DEBUG">
+    <source>Debug</source>
+    <translation>Debug</translation>
+  </message>
+  <message id="VALID_BUILD_RELEASE">
+    <source>Release</source>
+    <translation>Release</translation>
+  </message>
 
-    <!-- App package check: the seven boxes -->
-    <message id="VALIDATER_VALIDAT_ICONS">
-        <source>App icons</source>
-        <translation>App-Icons</translation>
-    </message>
-    <message id="VALIDATER_VALIDATE_DEFAULTS">
-        <source>Launch images</source>
-        <translation>Startbilder</translation>
-    </message>
-    <message id="VALIDATER_VALIDATE_BUNDLE_ID">
-        <source>Bundle identifier</source>
-        <translation>Bundle-ID</translation>
-    </message>
-    <message id="VALIDATER_VALIDATE_RELEASE">
-        <source>Release build</source>
-        <translation>Release-Build</translation>
-    </message>
-    <message id="VALIDATER_APP_LOCALIZATIONS">
-        <source>Localisations</source>
-        <translation>Lokalisierungen</translation>
-    </message>
-    <message id="VALIDATER_APP_URL_SCHEMES">
-        <source>URL schemes</source>
-        <translation>URL-Schemata</translation>
-    </message>
-    <message id="VALIDATER_APP_FACEBOOK_ID">
-        <source>Facebook app ID</source>
-        <translation>Facebook-App-ID</translation>
-    </message>
+  <!-- App package check: the seven boxes -->
+  <message id="VALIDATER_VALIDAT_ICONS">
+    <source>App icons</source>
+    <translation>App-Icons</translation>
+  </message>
+  <message id="VALIDATER_VALIDATE_DEFAULTS">
+    <source>Launch images</source>
+    <translation>Startbilder</translation>
+  </message>
+  <message id="VALIDATER_VALIDATE_BUNDLE_ID">
+    <source>Bundle identifier</source>
+    <translation>Bundle-ID</translation>
+  </message>
+  <message id="VALIDATER_VALIDATE_RELEASE">
+    <source>Release build</source>
+    <translation>Release-Build</translation>
+  </message>
+  <message id="VALIDATER_APP_LOCALIZATIONS">
+    <source>Localisations</source>
+    <translation>Lokalisierungen</translation>
+  </message>
+  <message id="VALIDATER_APP_URL_SCHEMES">
+    <source>URL schemes</source>
+    <translation>URL-Schemata</translation>
+  </message>
+  <message id="VALIDATER_APP_FACEBOOK_ID">
+    <source>Facebook app ID</source>
+    <translation>Facebook-App-ID</translation>
+  </message>
 
-    <!-- App package check: explanations; lists follow the localisations and URL scheme texts directly, so these end in a line break -->
-    <message id="VALID_TEXT">
-        <source>Looks good</source>
-        <translation>Sieht gut aus</translation>
-    </message>
-    <message id="VALID_ICONS_TEXT">
-        <source>Every required icon size is in the package.</source>
-        <translation>Alle verlangten Icon-Größen sind im Paket.</translation>
-    </message>
-    <message id="VALID_LAUNCH_TEXT">
-        <source>The package holds a launch image of a required size.</source>
-        <translation>Das Paket enthält ein Startbild in einer verlangten Größe.</translation>
-    </message>
-    <message id="VALID_BUNDLE_ID_TEXT">
-        <source>The provisioning profile names the app’s bundle identifier.</source>
-        <translation>Das Bereitstellungsprofil nennt die Bundle-ID der App.</translation>
-    </message>
-    <message id="VALID_RELEASE_TEXT">
-        <source>No fault was found with the kind of build. The line “Build” says whether it is debug or release.</source>
-        <translation>An der Art des Builds ist nichts zu beanstanden. Die Zeile „Build“ sagt, ob es ein Debug- oder ein Release-Build ist.</translation>
-    </message>
-    <message id="VALIDATE_ICONS_TITLE">
-        <source>Icon sizes are missing</source>
-        <translation>Icon-Größen fehlen</translation>
-    </message>
-    <message id="VALIDATE_ICONS_TEXT">
-        <source>Please add an icon of [ICON] pixels.</source>
-        <translation>Bitte ein Icon mit [ICON] Pixeln ergänzen.</translation>
-    </message>
-    <message id="VALIDATE_DEFAULTS_TITLE">
-        <source>No launch image: add one of these</source>
-        <translation>Kein Startbild: eines davon ergänzen</translation>
-    </message>
-    <message id="VALIDATE_DEFAULTS_TEXT">
-        <source>There is none of [DEFAULT] pixels.</source>
-        <translation>Es gibt keines mit [DEFAULT] Pixeln.</translation>
-    </message>
-    <message id="VALIDATE_BUNDLE_ID_TITLE">
-        <source>Profile and app do not match</source>
-        <translation>Profil und App passen nicht zusammen</translation>
-    </message>
-    <message id="VALIDATE_BUNDLE_ID_TEXT">
-        <source>The provisioning profile does not name this app’s bundle identifier. Sign the app with a profile made for it. (A wildcard profile counts as no match.)</source>
-        <translation>Das Bereitstellungsprofil nennt die Bundle-ID dieser App nicht. Die App mit einem passenden Profil signieren. (Ein Platzhalterprofil zählt nicht als Treffer.)</translation>
-    </message>
-    <message id="VALIDATE_RELEASE_TITLE">
-        <source>Not a release build</source>
-        <translation>Kein Release-Build</translation>
-    </message>
-    <message id="VALIDATE_RELEASE_TEXT">
-        <source>The provisioning profile lists test devices. Sign the app with a distribution profile for the store.</source>
-        <translation>Das Bereitstellungsprofil führt Testgeräte auf. Die App mit einem Verteilungsprofil für den Store signieren.</translation>
-    </message>
-    <message id="VALIDATE_LOCALIZATIONS_TEXT">
-        <source>The app is localised for:
+  <!-- App package check: explanations; lists follow the localisations and URL scheme texts directly, so these end in a line break -->
+  <message id="VALID_TEXT">
+    <source>Looks good</source>
+    <translation>Sieht gut aus</translation>
+  </message>
+  <message id="VALID_ICONS_TEXT">
+    <source>Every required icon size is in the package.</source>
+    <translation>Alle verlangten Icon-Größen sind im Paket.</translation>
+  </message>
+  <message id="VALID_LAUNCH_TEXT">
+    <source>The package holds a launch image of a required size.</source>
+    <translation>Das Paket enthält ein Startbild in einer verlangten Größe.</translation>
+  </message>
+  <message id="VALID_BUNDLE_ID_TEXT">
+    <source>The provisioning profile names the app’s bundle identifier.</source>
+    <translation>Das Bereitstellungsprofil nennt die Bundle-ID der App.</translation>
+  </message>
+  <message id="VALID_RELEASE_TEXT">
+    <source>No fault was found with the kind of build. The line “Build” says whether it is debug or release.</source>
+    <translation>An der Art des Builds ist nichts zu beanstanden. Die Zeile „Build“ sagt, ob es ein Debug- oder ein Release-Build ist.</translation>
+  </message>
+  <message id="VALIDATE_ICONS_TITLE">
+    <source>Icon sizes are missing</source>
+    <translation>Icon-Größen fehlen</translation>
+  </message>
+  <message id="VALIDATE_ICONS_TEXT">
+    <source>Please add an icon of [ICON] pixels.</source>
+    <translation>Bitte ein Icon mit [ICON] Pixeln ergänzen.</translation>
+  </message>
+  <message id="VALIDATE_DEFAULTS_TITLE">
+    <source>No launch image: add one of these</source>
+    <translation>Kein Startbild: eines davon ergänzen</translation>
+  </message>
+  <message id="VALIDATE_DEFAULTS_TEXT">
+    <source>There is none of [DEFAULT] pixels.</source>
+    <translation>Es gibt keines mit [DEFAULT] Pixeln.</translation>
+  </message>
+  <message id="VALIDATE_BUNDLE_ID_TITLE">
+    <source>Profile and app do not match</source>
+    <translation>Profil und App passen nicht zusammen</translation>
+  </message>
+  <message id="VALIDATE_BUNDLE_ID_TEXT">
+    <source>The provisioning profile does not name this app’s bundle identifier. Sign the app with a profile made for it. (A wildcard profile counts as no match.)</source>
+    <translation>Das Bereitstellungsprofil nennt die Bundle-ID dieser App nicht. Die App mit einem passenden Profil signieren. (Ein Platzhalterprofil zählt nicht als Treffer.)</translation>
+  </message>
+  <message id="VALIDATE_RELEASE_TITLE">
+    <source>Not a release build</source>
+    <translation>Kein Release-Build</translation>
+  </message>
+  <message id="VALIDATE_RELEASE_TEXT">
+    <source>The provisioning profile lists test devices. Sign the app with a distribution profile for the store.</source>
+    <translation>Das Bereitstellungsprofil führt Testgeräte auf. Die App mit einem Verteilungsprofil für den Store signieren.</translation>
+  </message>
+  <message id="VALIDATE_LOCALIZATIONS_TEXT">
+    <source>The app is localised for:
 </source>
-        <translation>Die App ist lokalisiert für:
+    <translation>Die App ist lokalisiert für:
 </translation>
-    </message>
-    <message id="VALIDATE_URLSCHEME_TEXT">
-        <source>The app opens addresses that begin with:
+  </message>
+  <message id="VALIDATE_URLSCHEME_TEXT">
+    <source>The app opens addresses that begin with:
 </source>
-        <translation>Die App öffnet Adressen, die so beginnen:
+    <translation>Die App öffnet Adressen, die so beginnen:
 </translation>
-    </message>
-    <message id="VALIDATE_FACEBOOK_APP_ID_TEXT">
-        <source>The app signs in to Facebook with the ID </source>
-        <translation>Die App meldet sich bei Facebook mit dieser ID an: </translation>
-    </message>
+  </message>
+  <message id="VALIDATE_FACEBOOK_APP_ID_TEXT">
+    <source>The app signs in to Facebook with the ID </source>
+    <translation>Die App meldet sich bei Facebook mit dieser ID an: </translation>
+  </message>
 
-    <!-- Menus -->
-    <message id="MENU_FILE">
-        <source>&amp;File</source>
-        <translation>&amp;Datei</translation>
-    </message>
-    <message id="MENU_OPEN">
-        <source>&amp;Open…</source>
-        <translation>Ö&amp;ffnen …</translation>
-    </message>
-    <message id="MENU_SHOW_WINDOW">
-        <source>&amp;Show window</source>
-        <translation>Fenster an&amp;zeigen</translation>
-    </message>
-    <message id="MENU_CLOSE_WINDOW">
-        <source>&amp;Close window</source>
-        <translation>Fenster &amp;schließen</translation>
-    </message>
-    <message id="MENU_QUIT">
-        <source>&amp;Quit Lumora</source>
-        <translation>Lumora &amp;beenden</translation>
-    </message>
-    <message id="MENU_EDIT">
-        <source>&amp;Edit</source>
-        <translation>&amp;Bearbeiten</translation>
-    </message>
-    <message id="MENU_CUT">
-        <source>Cu&amp;t</source>
-        <translation>&amp;Ausschneiden</translation>
-    </message>
-    <message id="MENU_COPY">
-        <source>&amp;Copy</source>
-        <translation>&amp;Kopieren</translation>
-    </message>
-    <message id="MENU_PASTE">
-        <source>&amp;Paste</source>
-        <translation>&amp;Einfügen</translation>
-    </message>
-    <message id="MENU_SELECT_ALL">
-        <source>Select &amp;all</source>
-        <translation>A&amp;lles auswählen</translation>
-    </message>
-    <message id="MENU_TOOLS">
-        <source>&amp;Tools</source>
-        <translation>&amp;Werkzeuge</translation>
-    </message>
-    <message id="MENU_HELP">
-        <source>&amp;Help</source>
-        <translation>&amp;Hilfe</translation>
-    </message>
-    <message id="MENU_TOOL_HELP">
-        <source>&amp;Help on this tool</source>
-        <translation>&amp;Hilfe zu diesem Werkzeug</translation>
-    </message>
-    <message id="MENU_ABOUT">
-        <source>&amp;About Lumora</source>
-        <translation>Ü&amp;ber Lumora</translation>
-    </message>
+  <!-- Menus -->
+  <message id="MENU_FILE">
+    <source>&amp;File</source>
+    <translation>&amp;Datei</translation>
+  </message>
+  <message id="MENU_OPEN">
+    <source>&amp;Open…</source>
+    <translation>Ö&amp;ffnen …</translation>
+  </message>
+  <message id="MENU_SHOW_WINDOW">
+    <source>&amp;Show window</source>
+    <translation>Fenster an&amp;zeigen</translation>
+  </message>
+  <message id="MENU_CLOSE_WINDOW">
+    <source>&amp;Close window</source>
+    <translation>Fenster &amp;schließen</translation>
+  </message>
+  <message id="MENU_QUIT">
+    <source>&amp;Quit Lumora</source>
+    <translation>Lumora &amp;beenden</translation>
+  </message>
+  <message id="MENU_EDIT">
+    <source>&amp;Edit</source>
+    <translation>&amp;Bearbeiten</translation>
+  </message>
+  <message id="MENU_CUT">
+    <source>Cu&amp;t</source>
+    <translation>&amp;Ausschneiden</translation>
+  </message>
+  <message id="MENU_COPY">
+    <source>&amp;Copy</source>
+    <translation>&amp;Kopieren</translation>
+  </message>
+  <message id="MENU_PASTE">
+    <source>&amp;Paste</source>
+    <translation>&amp;Einfügen</translation>
+  </message>
+  <message id="MENU_SELECT_ALL">
+    <source>Select &amp;all</source>
+    <translation>A&amp;lles auswählen</translation>
+  </message>
+  <message id="MENU_TOOLS">
+    <source>&amp;Tools</source>
+    <translation>&amp;Werkzeuge</translation>
+  </message>
+  <message id="MENU_HELP">
+    <source>&amp;Help</source>
+    <translation>&amp;Hilfe</translation>
+  </message>
+  <message id="MENU_TOOL_HELP">
+    <source>&amp;Help on this tool</source>
+    <translation>&amp;Hilfe zu diesem Werkzeug</translation>
+  </message>
+  <message id="MENU_ABOUT">
+    <source>&amp;About Lumora</source>
+    <translation>Ü&amp;ber Lumora</translation>
+  </message>
 
-    <!-- File choosers: names of file kinds -->
-    <message id="FILTER_PICTURES">
-        <source>Pictures</source>
-        <translation>Bilder</translation>
-    </message>
-    <message id="FILTER_PNG">
-        <source>PNG pictures</source>
-        <translation>PNG-Bilder</translation>
-    </message>
-    <message id="FILTER_IPA">
-        <source>iOS app packages</source>
-        <translation>iOS-App-Pakete</translation>
-    </message>
+  <!-- File choosers: names of file kinds -->
+  <message id="FILTER_PICTURES">
+    <source>Pictures</source>
+    <translation>Bilder</translation>
+  </message>
+  <message id="FILTER_PNG">
+    <source>PNG pictures</source>
+    <translation>PNG-Bilder</translation>
+  </message>
+  <message id="FILTER_IPA">
+    <source>iOS app packages</source>
+    <translation>iOS-App-Pakete</translation>
+  </message>
 
-    <!-- Accessible names and tool tips of controls without a text of their own -->
-    <message id="ACCESSIBLE_CLOSE">
-        <source>Close window</source>
-        <translation>Fenster schließen</translation>
-    </message>
-    <message id="ACCESSIBLE_MINIMIZE">
-        <source>Minimise window</source>
-        <translation>Fenster minimieren</translation>
-    </message>
-    <message id="ACCESSIBLE_ZOOM">
-        <source>Zoom window</source>
-        <translation>Fenster zoomen</translation>
-    </message>
-    <message id="ACCESSIBLE_FULLSCREEN">
-        <source>Enter full screen</source>
-        <translation>Vollbild einschalten</translation>
-    </message>
-    <message id="ACCESSIBLE_EXIT_FULLSCREEN">
-        <source>Leave full screen</source>
-        <translation>Vollbild verlassen</translation>
-    </message>
-    <message id="ACCESSIBLE_SIDEBAR">
-        <source>Tools</source>
-        <translation>Werkzeuge</translation>
-    </message>
-    <message id="ACCESSIBLE_HELP">
-        <source>Help on this tool</source>
-        <translation>Hilfe zu diesem Werkzeug</translation>
-    </message>
-    <message id="ACCESSIBLE_ABOUT">
-        <source>About Lumora</source>
-        <translation>Über Lumora</translation>
-    </message>
-    <message id="ACCESSIBLE_MESSAGE">
-        <source>Message</source>
-        <translation>Meldung</translation>
-    </message>
-    <message id="ACCESSIBLE_ICONS_DROP">
-        <source>Drop area for the source icon</source>
-        <translation>Ablagefläche für das Ausgangs-Icon</translation>
-    </message>
-    <message id="ACCESSIBLE_ICONS_SOURCE">
-        <source>Source icon</source>
-        <translation>Ausgangs-Icon</translation>
-    </message>
-    <message id="ACCESSIBLE_ICONS_PREVIEW">
-        <source>Preview at [SIZE] pixels</source>
-        <translation>Vorschau mit [SIZE] Pixeln</translation>
-    </message>
-    <message id="ACCESSIBLE_SNIPPET_PLATFORM">
-        <source>Platform of the code snippet</source>
-        <translation>Plattform des Code-Schnipsels</translation>
-    </message>
-    <message id="ACCESSIBLE_SNIPPET">
-        <source>Code snippet</source>
-        <translation>Code-Schnipsel</translation>
-    </message>
-    <message id="ACCESSIBLE_RESIZER_DROP">
-        <source>Drop area for double-resolution pictures</source>
-        <translation>Ablagefläche für Bilder in doppelter Auflösung</translation>
-    </message>
-    <message id="ACCESSIBLE_RESIZER_PROGRESS">
-        <source>Progress of the down-scaling</source>
-        <translation>Fortschritt der Verkleinerung</translation>
-    </message>
-    <message id="ACCESSIBLE_COLOR_FIELD">
-        <source>Colour code</source>
-        <translation>Farbcode</translation>
-    </message>
-    <message id="ACCESSIBLE_COLOR_WELL">
-        <source>Colour well, opens the colour picker</source>
-        <translation>Farbfeld, öffnet den Farbwähler</translation>
-    </message>
-    <message id="ACCESSIBLE_DEVICE_MATCH">
-        <source>[DEVICE], meets the choice</source>
-        <translation>[DEVICE], entspricht der Auswahl</translation>
-    </message>
-    <message id="ACCESSIBLE_DEVICE_NO_MATCH">
-        <source>[DEVICE], does not meet the choice</source>
-        <translation>[DEVICE], entspricht der Auswahl nicht</translation>
-    </message>
-    <message id="ACCESSIBLE_VALIDATER_DROP">
-        <source>Drop area for an app package</source>
-        <translation>Ablagefläche für ein App-Paket</translation>
-    </message>
-    <message id="ACCESSIBLE_VALIDATER_APP_ICON">
-        <source>Icon of the app</source>
-        <translation>Icon der App</translation>
-    </message>
-    <message id="ACCESSIBLE_CHECK_PASSED">
-        <source>[CHECK]: passed</source>
-        <translation>[CHECK]: bestanden</translation>
-    </message>
-    <message id="ACCESSIBLE_CHECK_FAILED">
-        <source>[CHECK]: problems found</source>
-        <translation>[CHECK]: Probleme gefunden</translation>
-    </message>
-    <message id="ACCESSIBLE_CHECK_ABSENT">
-        <source>[CHECK]: not present</source>
-        <translation>[CHECK]: nicht vorhanden</translation>
-    </message>
+  <!-- Accessible names and tool tips of controls without a text of their own -->
+  <message id="ACCESSIBLE_CLOSE">
+    <source>Close window</source>
+    <translation>Fenster schließen</translation>
+  </message>
+  <message id="ACCESSIBLE_MINIMIZE">
+    <source>Minimise window</source>
+    <translation>Fenster minimieren</translation>
+  </message>
+  <message id="ACCESSIBLE_ZOOM">
+    <source>Zoom window</source>
+    <translation>Fenster zoomen</translation>
+  </message>
+  <message id="ACCESSIBLE_FULLSCREEN">
+    <source>Enter full screen</source>
+    <translation>Vollbild einschalten</translation>
+  </message>
+  <message id="ACCESSIBLE_EXIT_FULLSCREEN">
+    <source>Leave full screen</source>
+    <translation>Vollbild verlassen</translation>
+  </message>
+  <message id="ACCESSIBLE_SIDEBAR">
+    <source>Tools</source>
+    <translation>Werkzeuge</translation>
+  </message>
+  <message id="ACCESSIBLE_HELP">
+    <source>Help on this tool</source>
+    <translation>Hilfe zu diesem Werkzeug</translation>
+  </message>
+  <message id="ACCESSIBLE_ABOUT">
+    <source>About Lumora</source>
+    <translation>Über Lumora</translation>
+  </message>
+  <message id="ACCESSIBLE_MESSAGE">
+    <source>Message</source>
+    <translation>Meldung</translation>
+  </message>
+  <message id="ACCESSIBLE_ICONS_DROP">
+    <source>Drop area for the source icon</source>
+    <translation>Ablagefläche für das Ausgangs-Icon</translation>
+  </message>
+  <message id="ACCESSIBLE_ICONS_SOURCE">
+    <source>Source icon</source>
+    <translation>Ausgangs-Icon</translation>
+  </message>
+  <message id="ACCESSIBLE_ICONS_PREVIEW">
+    <source>Preview at [SIZE] pixels</source>
+    <translation>Vorschau mit [SIZE] Pixeln</translation>
+  </message>
+  <message id="ACCESSIBLE_SNIPPET_PLATFORM">
+    <source>Platform of the code snippet</source>
+    <translation>Plattform des Code-Schnipsels</translation>
+  </message>
+  <message id="ACCESSIBLE_SNIPPET">
+    <source>Code snippet</source>
+    <translation>Code-Schnipsel</translation>
+  </message>
+  <message id="ACCESSIBLE_RESIZER_DROP">
+    <source>Drop area for double-resolution pictures</source>
+    <translation>Ablagefläche für Bilder in doppelter Auflösung</translation>
+  </message>
+  <message id="ACCESSIBLE_RESIZER_PROGRESS">
+    <source>Progress of the down-scaling</source>
+    <translation>Fortschritt der Verkleinerung</translation>
+  </message>
+  <message id="ACCESSIBLE_COLOR_FIELD">
+    <source>Colour code</source>
+    <translation>Farbcode</translation>
+  </message>
+  <message id="ACCESSIBLE_COLOR_WELL">
+    <source>Colour well, opens the colour picker</source>
+    <translation>Farbfeld, öffnet den Farbwähler</translation>
+  </message>
+  <message id="ACCESSIBLE_DEVICE_MATCH">
+    <source>[DEVICE], meets the choice</source>
+    <translation>[DEVICE], entspricht der Auswahl</translation>
+  </message>
+  <message id="ACCESSIBLE_DEVICE_NO_MATCH">
+    <source>[DEVICE], does not meet the choice</source>
+    <translation>[DEVICE], entspricht der Auswahl nicht</translation>
+  </message>
+  <message id="ACCESSIBLE_VALIDATER_DROP">
+    <source>Drop area for an app package</source>
+    <translation>Ablagefläche für ein App-Paket</translation>
+  </message>
+  <message id="ACCESSIBLE_VALIDATER_APP_ICON">
+    <source>Icon of the app</source>
+    <translation>Icon der App</translation>
+  </message>
+  <message id="ACCESSIBLE_CHECK_PASSED">
+    <source>[CHECK]: passed</source>
+    <translation>[CHECK]: bestanden</translation>
+  </message>
+  <message id="ACCESSIBLE_CHECK_FAILED">
+    <source>[CHECK]: problems found</source>
+    <translation>[CHECK]: Probleme gefunden</translation>
+  </message>
+  <message id="ACCESSIBLE_CHECK_ABSENT">
+    <source>[CHECK]: not present</source>
+    <translation>[CHECK]: nicht vorhanden</translation>
+  </message>
 </context>
 </TS>

@@ -2,349 +2,349 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
-    <name></name>
+  <name></name>
 
-    <!-- Shared by several tools -->
-    <message id="BROWSE">
-        <source>Browse…</source>
-        <translation>Browse…</translation>
-    </message>
-    <message id="GENERATE">
-        <source>Generate</source>
-        <translation>Generate</translation>
-    </message>
-    <message id="ALL_DONE">
-        <source>All done</source>
-        <translation>All done</translation>
-    </message>
-    <message id="COPY">
-        <source>Copy</source>
-        <translation>Copy</translation>
-    </message>
-    <message id="COPIED">
-        <source>Copied</source>
-        <translation>Copied</translation>
-    </message>
-    <message id="RESET">
-        <source>Reset</source>
-        <translation>Reset</translation>
-    </message>
-    <message id="CLOSE">
-        <source>Close</source>
-        <translation>Close</translation>
-    </message>
-    <message id="DISMISS">
-        <source>Got it</source>
-        <translation>Got it</translation>
-    </message>
-    <message id="BUG_REPORT">
-        <source>Report a problem</source>
-        <translation>Report a problem</translation>
-    </message>
-    <message id="SUPPORT">
-        <source>Contact us</source>
-        <translation>Contact us</translation>
-    </message>
+  <!-- Shared by several tools -->
+  <message id="BROWSE">
+    <source>Browse…</source>
+    <translation>Browse…</translation>
+  </message>
+  <message id="GENERATE">
+    <source>Generate</source>
+    <translation>Generate</translation>
+  </message>
+  <message id="ALL_DONE">
+    <source>All done</source>
+    <translation>All done</translation>
+  </message>
+  <message id="COPY">
+    <source>Copy</source>
+    <translation>Copy</translation>
+  </message>
+  <message id="COPIED">
+    <source>Copied</source>
+    <translation>Copied</translation>
+  </message>
+  <message id="RESET">
+    <source>Reset</source>
+    <translation>Reset</translation>
+  </message>
+  <message id="CLOSE">
+    <source>Close</source>
+    <translation>Close</translation>
+  </message>
+  <message id="DISMISS">
+    <source>Got it</source>
+    <translation>Got it</translation>
+  </message>
+  <message id="BUG_REPORT">
+    <source>Report a problem</source>
+    <translation>Report a problem</translation>
+  </message>
+  <message id="SUPPORT">
+    <source>Contact us</source>
+    <translation>Contact us</translation>
+  </message>
 
-    <!-- Header: APP_DEFAULT and a tool's text are joined with nothing between, so each tool's text brings its own bar and blanks -->
-    <message id="APP_DEFAULT">
-        <source>Lumora</source>
-        <translation>Lumora</translation>
-    </message>
-    <message id="APP_ICONS">
-        <source> | Icons</source>
-        <translation> | Icons</translation>
-    </message>
-    <message id="APP_PLACEHOLDER">
-        <source> | Placeholders</source>
-        <translation> | Placeholders</translation>
-    </message>
-    <message id="APP_RESIZER">
-        <source> | Retina down-scaler</source>
-        <translation> | Retina down-scaler</translation>
-    </message>
-    <message id="APP_COLOR">
-        <source> | Colours</source>
-        <translation> | Colours</translation>
-    </message>
-    <message id="APP_DEVICES">
-        <source> | Devices</source>
-        <translation> | Devices</translation>
-    </message>
-    <message id="APP_VALIDATER">
-        <source> | Package check</source>
-        <translation> | Package check</translation>
-    </message>
+  <!-- Header: APP_DEFAULT and a tool's text are joined with nothing between, so each tool's text brings its own bar and blanks -->
+  <message id="APP_DEFAULT">
+    <source>Lumora</source>
+    <translation>Lumora</translation>
+  </message>
+  <message id="APP_ICONS">
+    <source> | Icons</source>
+    <translation> | Icons</translation>
+  </message>
+  <message id="APP_PLACEHOLDER">
+    <source> | Placeholders</source>
+    <translation> | Placeholders</translation>
+  </message>
+  <message id="APP_RESIZER">
+    <source> | Retina down-scaler</source>
+    <translation> | Retina down-scaler</translation>
+  </message>
+  <message id="APP_COLOR">
+    <source> | Colours</source>
+    <translation> | Colours</translation>
+  </message>
+  <message id="APP_DEVICES">
+    <source> | Devices</source>
+    <translation> | Devices</translation>
+  </message>
+  <message id="APP_VALIDATER">
+    <source> | Package check</source>
+    <translation> | Package check</translation>
+  </message>
 
-    <!-- Help popup: the titles are also the tools' names in the sidebar and the menu; a text holds 60 to 110 words -->
-    <message id="HELP_ICONS">
-        <source>Icon generator</source>
-        <translation>Icon generator</translation>
-    </message>
-    <message id="HELP_ICONS_TEXT">
-        <source>Turn one picture into every icon an app needs. Drop a picture of exactly 1024 × 1024 pixels on the pane, or browse for one, then tick the platforms: iPhone, iPad, Mac, Android, web touch, favicon. Lumora writes each set with the right names and sizes into a fresh “icons” folder and packs the Mac set into an icon file as well. “Custom size” makes a single icon of 1 to 1024 pixels, with iOS 6 or iOS 7 corners if you like. The code snippets show how to declare the icons in your project.</source>
-        <translation>Turn one picture into every icon an app needs. Drop a picture of exactly 1024 × 1024 pixels on the pane, or browse for one, then tick the platforms: iPhone, iPad, Mac, Android, web touch, favicon. Lumora writes each set with the right names and sizes into a fresh “icons” folder and packs the Mac set into an icon file as well. “Custom size” makes a single icon of 1 to 1024 pixels, with iOS 6 or iOS 7 corners if you like. The code snippets show how to declare the icons in your project.</translation>
-    </message>
-    <message id="HELP_PLACEHOLDER">
-        <source>Placeholder generator</source>
-        <translation>Placeholder generator</translation>
-    </message>
-    <message id="HELP_PLACEHOLDER_TEXT">
-        <source>Fill a layout before its artwork exists. One press writes grey pictures in the screen sizes of iOS devices or of the Mac, each labelled in white with its own width and height. For anything else, type a width and a height from 1 to 9999 pixels. Choose where to save, and Lumora puts the PNG files, named like placeholder_640x1136.png, into a fresh “placeholders” folder. Folders from earlier runs stay untouched.</source>
-        <translation>Fill a layout before its artwork exists. One press writes grey pictures in the screen sizes of iOS devices or of the Mac, each labelled in white with its own width and height. For anything else, type a width and a height from 1 to 9999 pixels. Choose where to save, and Lumora puts the PNG files, named like placeholder_640x1136.png, into a fresh “placeholders” folder. Folders from earlier runs stay untouched.</translation>
-    </message>
-    <message id="HELP_RESIZER">
-        <source>Retina down-scaler</source>
-        <translation>Retina down-scaler</translation>
-    </message>
-    <message id="HELP_RESIZER_TEXT">
-        <source>Draw once at double resolution and let Lumora make the normal size. Drop PNG files marked @2x or -hd on the pane, or browse for them, and choose a folder. Every picture is halved in width and height, odd sizes rounding down, and saved without the mark in its name: button@2x.png becomes button.png. Files without a mark and files of other kinds are left out. Take care: a file of the same name in the chosen folder is replaced.</source>
-        <translation>Draw once at double resolution and let Lumora make the normal size. Drop PNG files marked @2x or -hd on the pane, or browse for them, and choose a folder. Every picture is halved in width and height, odd sizes rounding down, and saved without the mark in its name: button@2x.png becomes button.png. Files without a mark and files of other kinds are left out. Take care: a file of the same name in the chosen folder is replaced.</translation>
-    </message>
-    <message id="HELP_COLOR">
-        <source>Colour codes</source>
-        <translation>Colour codes</translation>
-    </message>
-    <message id="HELP_COLOR_TEXT">
-        <source>Carry a colour from your design into your code. Click the colour well to pick one, or type three or six hexadecimal digits such as #abc or #34485e; field and well follow each other. Each button copies the colour as code, ready to paste: a UIColor for iOS, an NSColor for the Mac, or rgb(red, green, blue) for style sheets. Drag the picker away from the well and it stays open as a window of its own.</source>
-        <translation>Carry a colour from your design into your code. Click the colour well to pick one, or type three or six hexadecimal digits such as #abc or #34485e; field and well follow each other. Each button copies the colour as code, ready to paste: a UIColor for iOS, an NSColor for the Mac, or rgb(red, green, blue) for style sheets. Drag the picker away from the well and it stays open as a window of its own.</translation>
-    </message>
-    <message id="HELP_DEVICES">
-        <source>Device matrix</source>
-        <translation>Device matrix</translation>
-    </message>
-    <message id="HELP_DEVICES_TEXT">
-        <source>See at a glance which devices your app can reach. Choose the iOS version it requires and tick the features it needs, such as GPS, a camera flash or OpenGL 3.0. Devices that can run that version and have every ticked feature stay bright; all others fade. One version counts at a time, together with any number of features. “Reset” clears the choice and brings back all seventeen iPhone, iPod and iPad models up to iOS 7.</source>
-        <translation>See at a glance which devices your app can reach. Choose the iOS version it requires and tick the features it needs, such as GPS, a camera flash or OpenGL 3.0. Devices that can run that version and have every ticked feature stay bright; all others fade. One version counts at a time, together with any number of features. “Reset” clears the choice and brings back all seventeen iPhone, iPod and iPad models up to iOS 7.</translation>
-    </message>
-    <message id="HELP_VALIDATER">
-        <source>App package check</source>
-        <translation>App package check</translation>
-    </message>
-    <message id="HELP_VALIDATER_TEXT">
-        <source>Look through an app before you hand it in. Drop one .ipa package on the pane, or browse for it. Lumora shows its name, version, platform, oldest iOS version, bundle identifier and build kind, then checks the icons, launch images, provisioning profile, localisations, URL schemes and Facebook app ID. Press a box to read what was found; missing sizes are listed one by one. The package itself is never changed, and nothing is sent anywhere.</source>
-        <translation>Look through an app before you hand it in. Drop one .ipa package on the pane, or browse for it. Lumora shows its name, version, platform, oldest iOS version, bundle identifier and build kind, then checks the icons, launch images, provisioning profile, localisations, URL schemes and Facebook app ID. Press a box to read what was found; missing sizes are listed one by one. The package itself is never changed, and nothing is sent anywhere.</translation>
-    </message>
-    <message id="HELP_BUG_REPORT">
-        <source>Report a bug</source>
-        <translation>Report a bug</translation>
-    </message>
-    <message id="HELP_FEATURE_REQUEST">
-        <source>Suggest a feature</source>
-        <translation>Suggest a feature</translation>
-    </message>
-    <message id="HELP_FEEDBACK">
-        <source>Ask a question</source>
-        <translation>Ask a question</translation>
-    </message>
+  <!-- Help popup: the titles are also the tools' names in the sidebar and the menu; a text holds 60 to 110 words -->
+  <message id="HELP_ICONS">
+    <source>Icon generator</source>
+    <translation>Icon generator</translation>
+  </message>
+  <message id="HELP_ICONS_TEXT">
+    <source>Turn one picture into every icon an app needs. Drop a picture of exactly 1024 × 1024 pixels on the pane, or browse for one, then tick the platforms: iPhone, iPad, Mac, Android, web touch, favicon. Lumora writes each set with the right names and sizes into a fresh “icons” folder and packs the Mac set into an icon file as well. “Custom size” makes a single icon of 1 to 1024 pixels, with iOS 6 or iOS 7 corners if you like. The code snippets show how to declare the icons in your project.</source>
+    <translation>Turn one picture into every icon an app needs. Drop a picture of exactly 1024 × 1024 pixels on the pane, or browse for one, then tick the platforms: iPhone, iPad, Mac, Android, web touch, favicon. Lumora writes each set with the right names and sizes into a fresh “icons” folder and packs the Mac set into an icon file as well. “Custom size” makes a single icon of 1 to 1024 pixels, with iOS 6 or iOS 7 corners if you like. The code snippets show how to declare the icons in your project.</translation>
+  </message>
+  <message id="HELP_PLACEHOLDER">
+    <source>Placeholder generator</source>
+    <translation>Placeholder generator</translation>
+  </message>
+  <message id="HELP_PLACEHOLDER_TEXT">
+    <source>Fill a layout before its artwork exists. One press writes grey pictures in the screen sizes of iOS devices or of the Mac, each labelled in white with its own width and height. For anything else, type a width and a height from 1 to 9999 pixels. Choose where to save, and Lumora puts the PNG files, named like placeholder_640x1136.png, into a fresh “placeholders” folder. Folders from earlier runs stay untouched.</source>
+    <translation>Fill a layout before its artwork exists. One press writes grey pictures in the screen sizes of iOS devices or of the Mac, each labelled in white with its own width and height. For anything else, type a width and a height from 1 to 9999 pixels. Choose where to save, and Lumora puts the PNG files, named like placeholder_640x1136.png, into a fresh “placeholders” folder. Folders from earlier runs stay untouched.</translation>
+  </message>
+  <message id="HELP_RESIZER">
+    <source>Retina down-scaler</source>
+    <translation>Retina down-scaler</translation>
+  </message>
+  <message id="HELP_RESIZER_TEXT">
+    <source>Draw once at double resolution and let Lumora make the normal size. Drop PNG files marked @2x or -hd on the pane, or browse for them, and choose a folder. Every picture is halved in width and height, odd sizes rounding down, and saved without the mark in its name: button@2x.png becomes button.png. Files without a mark and files of other kinds are left out. Take care: a file of the same name in the chosen folder is replaced.</source>
+    <translation>Draw once at double resolution and let Lumora make the normal size. Drop PNG files marked @2x or -hd on the pane, or browse for them, and choose a folder. Every picture is halved in width and height, odd sizes rounding down, and saved without the mark in its name: button@2x.png becomes button.png. Files without a mark and files of other kinds are left out. Take care: a file of the same name in the chosen folder is replaced.</translation>
+  </message>
+  <message id="HELP_COLOR">
+    <source>Colour codes</source>
+    <translation>Colour codes</translation>
+  </message>
+  <message id="HELP_COLOR_TEXT">
+    <source>Carry a colour from your design into your code. Click the colour well to pick one, or type three or six hexadecimal digits such as #abc or #34485e; field and well follow each other. Each button copies the colour as code, ready to paste: a UIColor for iOS, an NSColor for the Mac, or rgb(red, green, blue) for style sheets. Drag the picker away from the well and it stays open as a window of its own.</source>
+    <translation>Carry a colour from your design into your code. Click the colour well to pick one, or type three or six hexadecimal digits such as #abc or #34485e; field and well follow each other. Each button copies the colour as code, ready to paste: a UIColor for iOS, an NSColor for the Mac, or rgb(red, green, blue) for style sheets. Drag the picker away from the well and it stays open as a window of its own.</translation>
+  </message>
+  <message id="HELP_DEVICES">
+    <source>Device matrix</source>
+    <translation>Device matrix</translation>
+  </message>
+  <message id="HELP_DEVICES_TEXT">
+    <source>See at a glance which devices your app can reach. Choose the iOS version it requires and tick the features it needs, such as GPS, a camera flash or OpenGL 3.0. Devices that can run that version and have every ticked feature stay bright; all others fade. One version counts at a time, together with any number of features. “Reset” clears the choice and brings back all seventeen iPhone, iPod and iPad models up to iOS 7.</source>
+    <translation>See at a glance which devices your app can reach. Choose the iOS version it requires and tick the features it needs, such as GPS, a camera flash or OpenGL 3.0. Devices that can run that version and have every ticked feature stay bright; all others fade. One version counts at a time, together with any number of features. “Reset” clears the choice and brings back all seventeen iPhone, iPod and iPad models up to iOS 7.</translation>
+  </message>
+  <message id="HELP_VALIDATER">
+    <source>App package check</source>
+    <translation>App package check</translation>
+  </message>
+  <message id="HELP_VALIDATER_TEXT">
+    <source>Look through an app before you hand it in. Drop one .ipa package on the pane, or browse for it. Lumora shows its name, version, platform, oldest iOS version, bundle identifier and build kind, then checks the icons, launch images, provisioning profile, localisations, URL schemes and Facebook app ID. Press a box to read what was found; missing sizes are listed one by one. The package itself is never changed, and nothing is sent anywhere.</source>
+    <translation>Look through an app before you hand it in. Drop one .ipa package on the pane, or browse for it. Lumora shows its name, version, platform, oldest iOS version, bundle identifier and build kind, then checks the icons, launch images, provisioning profile, localisations, URL schemes and Facebook app ID. Press a box to read what was found; missing sizes are listed one by one. The package itself is never changed, and nothing is sent anywhere.</translation>
+  </message>
+  <message id="HELP_BUG_REPORT">
+    <source>Report a bug</source>
+    <translation>Report a bug</translation>
+  </message>
+  <message id="HELP_FEATURE_REQUEST">
+    <source>Suggest a feature</source>
+    <translation>Suggest a feature</translation>
+  </message>
+  <message id="HELP_FEEDBACK">
+    <source>Ask a question</source>
+    <translation>Ask a question</translation>
+  </message>
 
-    <!-- About and contact panels; the addresses open in the default browser or mail program -->
-    <message id="ABOUT_TEXT">
-        <source>A toolbox for makers of mobile and desktop apps: icons, placeholders, retina pictures, colours, devices and package checks in one window.</source>
-        <translation>A toolbox for makers of mobile and desktop apps: icons, placeholders, retina pictures, colours, devices and package checks in one window.</translation>
-    </message>
-    <message id="ABOUT_TWITTER">
-        <source>Twitter</source>
-        <translation>Twitter</translation>
-    </message>
-    <message id="ABOUT_FACEBOOK">
-        <source>Facebook</source>
-        <translation>Facebook</translation>
-    </message>
-    <message id="ABOUT_MAIL">
-        <source>Mail</source>
-        <translation>Mail</translation>
-    </message>
-    <message id="ABOUT_TWITTER_WEB">
-        <source>https://lumora.example/twitter</source>
-        <translation>https://lumora.example/twitter</translation>
-    </message>
-    <message id="ABOUT_FACEBOOK_WEB">
-        <source>https://lumora.example/facebook</source>
-        <translation>https://lumora.example/facebook</translation>
-    </message>
-    <message id="ABOUT_MAIL_WEB">
-        <source>mailto:support@lumora.example</source>
-        <translation>mailto:support@lumora.example</translation>
-    </message>
-    <message id="ABOUT_BUG_REPORT_WEB">
-        <source>https://lumora.example/bugs</source>
-        <translation>https://lumora.example/bugs</translation>
-    </message>
-    <message id="ABOUT_FEATURE_REQUEST_WEB">
-        <source>https://lumora.example/ideas</source>
-        <translation>https://lumora.example/ideas</translation>
-    </message>
-    <message id="ABOUT_QUESTIONS_WEB">
-        <source>https://lumora.example/questions</source>
-        <translation>https://lumora.example/questions</translation>
-    </message>
-    <message id="INFORMATION_APP">
-        <source>Lumora [VERSION]</source>
-        <translation>Lumora [VERSION]</translation>
-    </message>
-    <message id="INFORMATION_INFO_1">
-        <source>We are glad to help</source>
-        <translation>We are glad to help</translation>
-    </message>
-    <message id="INFORMATION_INFO_2">
-        <source>Write to [MAIL], message [TWITTER] or find us on [FACEBOOK].</source>
-        <translation>Write to [MAIL], message [TWITTER] or find us on [FACEBOOK].</translation>
-    </message>
-    <message id="INFORMATION_MAIL">
-        <source>support@lumora.example</source>
-        <translation>support@lumora.example</translation>
-    </message>
-    <message id="INFORMATION_TWITTER">
-        <source>@lumora.example</source>
-        <translation>@lumora.example</translation>
-    </message>
+  <!-- About and contact panels; the addresses open in the default browser or mail program -->
+  <message id="ABOUT_TEXT">
+    <source>A toolbox for makers of mobile and desktop apps: icons, placeholders, retina pictures, colours, devices and package checks in one window.</source>
+    <translation>A toolbox for makers of mobile and desktop apps: icons, placeholders, retina pictures, colours, devices and package checks in one window.</translation>
+  </message>
+  <message id="ABOUT_TWITTER">
+    <source>Twitter</source>
+    <translation>Twitter</translation>
+  </message>
+  <message id="ABOUT_FACEBOOK">
+    <source>Facebook</source>
+    <translation>Facebook</translation>
+  </message>
+  <message id="ABOUT_MAIL">
+    <source>Mail</source>
+    <translation>Mail</translation>
+  </message>
+  <message id="ABOUT_TWITTER_WEB">
+    <source>https://lumora.example/twitter</source>
+    <translation>https://lumora.example/twitter</translation>
+  </message>
+  <message id="ABOUT_FACEBOOK_WEB">
+    <source>https://lumora.example/facebook</source>
+    <translation>https://lumora.example/facebook</translation>
+  </message>
+  <message id="ABOUT_MAIL_WEB">
+    <source>mailto:support@lumora.example</source>
+    <translation>mailto:support@lumora.example</translation>
+  </message>
+  <message id="ABOUT_BUG_REPORT_WEB">
+    <source>https://lumora.example/bugs</source>
+    <translation>https://lumora.example/bugs</translation>
+  </message>
+  <message id="ABOUT_FEATURE_REQUEST_WEB">
+    <source>https://lumora.example/ideas</source>
+    <translation>https://lumora.example/ideas</translation>
+  </message>
+  <message id="ABOUT_QUESTIONS_WEB">
+    <source>https://lumora.example/questions</source>
+    <translation>https://lumora.example/questions</translation>
+  </message>
+  <message id="INFORMATION_APP">
+    <source>Lumora [VERSION]</source>
+    <translation>Lumora [VERSION]</translation>
+  </message>
+  <message id="INFORMATION_INFO_1">
+    <source>We are glad to help</source>
+    <translation>We are glad to help</translation>
+  </message>
+  <message id="INFORMATION_INFO_2">
+    <source>Write to [MAIL], message [TWITTER] or find us on [FACEBOOK].</source>
+    <translation>Write to [MAIL], message [TWITTER] or find us on [FACEBOOK].</translation>
+  </message>
+  <message id="INFORMATION_MAIL">
+    <source>support@lumora.example</source>
+    <translation>support@lumora.example</translation>
+  </message>
+  <message id="INFORMATION_TWITTER">
+    <source>@lumora.example</source>
+    <translation>@lumora.example</translation>
+  </message>
 
-    <!-- Icon generator -->
-    <message id="ICONS_SOURCE_TITLE">
-        <source>Source icon</source>
-        <translation>Source icon</translation>
-    </message>
-    <message id="ICONS_SOURCE_SUBTITLE">
-        <source>Drop a picture of 1024 × 1024 pixels</source>
-        <translation>Drop a picture of 1024 × 1024 pixels</translation>
-    </message>
-    <message id="ICONS_SOURCE_SUBTITLE_ACTIVE">
-        <source>1024 × 1024 pixels, ready to export</source>
-        <translation>1024 × 1024 pixels, ready to export</translation>
-    </message>
-    <message id="ICONS_BROWSE">
-        <source>Choose a picture of 1024 × 1024 pixels</source>
-        <translation>Choose a picture of 1024 × 1024 pixels</translation>
-    </message>
-    <message id="ICONS_PLATFORMS_TITLE">
-        <source>Platforms</source>
-        <translation>Platforms</translation>
-    </message>
-    <message id="ICONS_IPHONE">
-        <source>iPhone</source>
-        <translation>iPhone</translation>
-    </message>
-    <message id="ICONS_IPAD">
-        <source>iPad</source>
-        <translation>iPad</translation>
-    </message>
-    <message id="ICONS_MAC">
-        <source>Mac</source>
-        <translation>Mac</translation>
-    </message>
-    <message id="ICONS_ANDROID">
-        <source>Android</source>
-        <translation>Android</translation>
-    </message>
-    <message id="ICONS_WEB_TOUCH">
-        <source>Web touch</source>
-        <translation>Web touch</translation>
-    </message>
-    <message id="ICONS_FAV_ICONS">
-        <source>Favicon</source>
-        <translation>Favicon</translation>
-    </message>
-    <message id="ICONS_CUSTOM_SETTINGS">
-        <source>Custom size</source>
-        <translation>Custom size</translation>
-    </message>
-    <message id="ICONS_CUSTOM_SIZE">
-        <source>Size</source>
-        <translation>Size</translation>
-    </message>
-    <message id="ICONS_ROUNDED_CORNERS_IOS6">
-        <source>iOS 6 corners</source>
-        <translation>iOS 6 corners</translation>
-    </message>
-    <message id="ICONS_ROUNDED_CORNERS">
-        <source>iOS 7 corners</source>
-        <translation>iOS 7 corners</translation>
-    </message>
-    <message id="ICONS_DESTINATION">
-        <source>Choose the folder for the icons</source>
-        <translation>Choose the folder for the icons</translation>
-    </message>
-    <message id="ICONS_EXPORTING">
-        <source>Exporting…</source>
-        <translation>Exporting…</translation>
-    </message>
-    <message id="ICONS_DONE">
-        <source>Done</source>
-        <translation>Done</translation>
-    </message>
-    <message id="ICONS_ALERT_TITLE">
-        <source>This picture does not fit</source>
-        <translation>This picture does not fit</translation>
-    </message>
-    <message id="ICONS_ALERT_MESSAGE">
-        <source>The source must be a readable picture of exactly 1024 × 1024 pixels. Please choose another one.</source>
-        <translation>The source must be a readable picture of exactly 1024 × 1024 pixels. Please choose another one.</translation>
-    </message>
-    <message id="ICONS_NO_SOURCE_ALERT_TITLE">
-        <source>No source icon yet</source>
-        <translation>No source icon yet</translation>
-    </message>
-    <message id="ICONS_NO_SOURCE_ALERT_MESSAGE">
-        <source>Drop a picture of 1024 × 1024 pixels on the pane or browse for one first.</source>
-        <translation>Drop a picture of 1024 × 1024 pixels on the pane or browse for one first.</translation>
-    </message>
-    <message id="ICONS_NO_PLATFORM_ALERT_TITLE">
-        <source>No platform chosen</source>
-        <translation>No platform chosen</translation>
-    </message>
-    <message id="ICONS_NO_PLATFORM_ALERT_MESSAGE">
-        <source>Tick at least one platform, then generate again.</source>
-        <translation>Tick at least one platform, then generate again.</translation>
-    </message>
-    <message id="ICONS_NO_DIMENSION_ALERT_TITLE">
-        <source>No size given</source>
-        <translation>No size given</translation>
-    </message>
-    <message id="ICONS_NO_DIMENSION_ALERT_MESSAGE">
-        <source>Type the edge length of the icon in pixels, from 1 to 1024.</source>
-        <translation>Type the edge length of the icon in pixels, from 1 to 1024.</translation>
-    </message>
-    <message id="ICONS_INCORRECT_SIZE_ALERT_TITLE">
-        <source>This size will not work</source>
-        <translation>This size will not work</translation>
-    </message>
-    <message id="ICONS_INCORRECT_SIZE_ALERT_MESSAGE">
-        <source>The edge length must be a whole number from 1 to 1024. Please correct it.</source>
-        <translation>The edge length must be a whole number from 1 to 1024. Please correct it.</translation>
-    </message>
-    <message id="ICONS_NEW_FOLDER_ALERT_TITLE">
-        <source>Saved in a new folder</source>
-        <translation>Saved in a new folder</translation>
-    </message>
-    <message id="ICONS_NEW_FOLDER_ALERT_MESSAGE">
-        <source>The name “icons” was already taken there, so this export is in the folder “[FOLDER]”.</source>
-        <translation>The name “icons” was already taken there, so this export is in the folder “[FOLDER]”.</translation>
-    </message>
+  <!-- Icon generator -->
+  <message id="ICONS_SOURCE_TITLE">
+    <source>Source icon</source>
+    <translation>Source icon</translation>
+  </message>
+  <message id="ICONS_SOURCE_SUBTITLE">
+    <source>Drop a picture of 1024 × 1024 pixels</source>
+    <translation>Drop a picture of 1024 × 1024 pixels</translation>
+  </message>
+  <message id="ICONS_SOURCE_SUBTITLE_ACTIVE">
+    <source>1024 × 1024 pixels, ready to export</source>
+    <translation>1024 × 1024 pixels, ready to export</translation>
+  </message>
+  <message id="ICONS_BROWSE">
+    <source>Choose a picture of 1024 × 1024 pixels</source>
+    <translation>Choose a picture of 1024 × 1024 pixels</translation>
+  </message>
+  <message id="ICONS_PLATFORMS_TITLE">
+    <source>Platforms</source>
+    <translation>Platforms</translation>
+  </message>
+  <message id="ICONS_IPHONE">
+    <source>iPhone</source>
+    <translation>iPhone</translation>
+  </message>
+  <message id="ICONS_IPAD">
+    <source>iPad</source>
+    <translation>iPad</translation>
+  </message>
+  <message id="ICONS_MAC">
+    <source>Mac</source>
+    <translation>Mac</translation>
+  </message>
+  <message id="ICONS_ANDROID">
+    <source>Android</source>
+    <translation>Android</translation>
+  </message>
+  <message id="ICONS_WEB_TOUCH">
+    <source>Web touch</source>
+    <translation>Web touch</translation>
+  </message>
+  <message id="ICONS_FAV_ICONS">
+    <source>Favicon</source>
+    <translation>Favicon</translation>
+  </message>
+  <message id="ICONS_CUSTOM_SETTINGS">
+    <source>Custom size</source>
+    <translation>Custom size</translation>
+  </message>
+  <message id="ICONS_CUSTOM_SIZE">
+    <source>Size</source>
+    <translation>Size</translation>
+  </message>
+  <message id="ICONS_ROUNDED_CORNERS_IOS6">
+    <source>iOS 6 corners</source>
+    <translation>iOS 6 corners</translation>
+  </message>
+  <message id="ICONS_ROUNDED_CORNERS">
+    <source>iOS 7 corners</source>
+    <translation>iOS 7 corners</translation>
+  </message>
+  <message id="ICONS_DESTINATION">
+    <source>Choose the folder for the icons</source>
+    <translation>Choose the folder for the icons</translation>
+  </message>
+  <message id="ICONS_EXPORTING">
+    <source>Exporting…</source>
+    <translation>Exporting…</translation>
+  </message>
+  <message id="ICONS_DONE">
+    <source>Done</source>
+    <translation>Done</translation>
+  </message>
+  <message id="ICONS_ALERT_TITLE">
+    <source>This picture does not fit</source>
+    <translation>This picture does not fit</translation>
+  </message>
+  <message id="ICONS_ALERT_MESSAGE">
+    <source>The source must be a readable picture of exactly 1024 × 1024 pixels. Please choose another one.</source>
+    <translation>The source must be a readable picture of exactly 1024 × 1024 pixels. Please choose another one.</translation>
+  </message>
+  <message id="ICONS_NO_SOURCE_ALERT_TITLE">
+    <source>No source icon yet</source>
+    <translation>No source icon yet</translation>
+  </message>
+  <message id="ICONS_NO_SOURCE_ALERT_MESSAGE">
+    <source>Drop a picture of 1024 × 1024 pixels on the pane or browse for one first.</source>
+    <translation>Drop a picture of 1024 × 1024 pixels on the pane or browse for one first.</translation>
+  </message>
+  <message id="ICONS_NO_PLATFORM_ALERT_TITLE">
+    <source>No platform chosen</source>
+    <translation>No platform chosen</translation>
+  </message>
+  <message id="ICONS_NO_PLATFORM_ALERT_MESSAGE">
+    <source>Tick at least one platform, then generate again.</source>
+    <translation>Tick at least one platform, then generate again.</translation>
+  </message>
+  <message id="ICONS_NO_DIMENSION_ALERT_TITLE">
+    <source>No size given</source>
+    <translation>No size given</translation>
+  </message>
+  <message id="ICONS_NO_DIMENSION_ALERT_MESSAGE">
+    <source>Type the edge length of the icon in pixels, from 1 to 1024.</source>
+    <translation>Type the edge length of the icon in pixels, from 1 to 1024.</translation>
+  </message>
+  <message id="ICONS_INCORRECT_SIZE_ALERT_TITLE">
+    <source>This size will not work</source>
+    <translation>This size will not work</translation>
+  </message>
+  <message id="ICONS_INCORRECT_SIZE_ALERT_MESSAGE">
+    <source>The edge length must be a whole number from 1 to 1024. Please correct it.</source>
+    <translation>The edge length must be a whole number from 1 to 1024. Please correct it.</translation>
+  </message>
+  <message id="ICONS_NEW_FOLDER_ALERT_TITLE">
+    <source>Saved in a new folder</source>
+    <translation>Saved in a new folder</translation>
+  </message>
+  <message id="ICONS_NEW_FOLDER_ALERT_MESSAGE">
+    <source>The name “icons” was already taken there, so this export is in the folder “[FOLDER]”.</source>
+    <translation>The name “icons” was already taken there, so this export is in the folder “[FOLDER]”.</translation>
+  </message>
 
-    <!-- Icon generator: code snippets; only the comments inside a snippet are translated -->
-    <message id="Code Snippets">
-        <source>Code snippets</source>
-        <translation>Code snippets</translation>
-    </message>
-    <message id="SNIPPETS_TITLE">
-        <source>Snippet copied</source>
-        <translation>Snippet copied</translation>
-    </message>
-    <message id="SNIPPETS_MESSAGE">
-        <source>The code snippet is on the clipboard, ready to paste.</source>
-        <translation>The code snippet is on the clipboard, ready to paste.</translation>
-    </message>
-    <message id="SNIPPETS_PLATFORM_IOS">
-        <source>iOS</source>
-        <translation>iOS</translation>
-    </message>
-    <message id="SNIPPETS_PLATFORM_PROMPT">
-        <source>Choose a platform</source>
-        <translation>Choose a platform</translation>
-    </message>
-    <message id="SNIPPET_IOS_UNIVERSAL">
-        <source><![CDATA[<!-- Info.plist: add the files from the folders iPhone and
+  <!-- Icon generator: code snippets; only the comments inside a snippet are translated -->
+  <message id="Code Snippets">
+    <source>Code snippets</source>
+    <translation>Code snippets</translation>
+  </message>
+  <message id="SNIPPETS_TITLE">
+    <source>Snippet copied</source>
+    <translation>Snippet copied</translation>
+  </message>
+  <message id="SNIPPETS_MESSAGE">
+    <source>The code snippet is on the clipboard, ready to paste.</source>
+    <translation>The code snippet is on the clipboard, ready to paste.</translation>
+  </message>
+  <message id="SNIPPETS_PLATFORM_IOS">
+    <source>iOS</source>
+    <translation>iOS</translation>
+  </message>
+  <message id="SNIPPETS_PLATFORM_PROMPT">
+    <source>Choose a platform</source>
+    <translation>Choose a platform</translation>
+  </message>
+  <message id="SNIPPET_IOS_UNIVERSAL">
+    <source><![CDATA[<!-- Info.plist: add the files from the folders iPhone and
      iPad to the app; take the shared names once. -->
 <!-- iTunesArtwork and iTunesArtwork@2x are for ad hoc
      packages and are not declared. -->
@@ -384,7 +384,7 @@
         </array>
     </dict>
 </dict>]]></source>
-        <translation><![CDATA[<!-- Info.plist: add the files from the folders iPhone and
+    <translation><![CDATA[<!-- Info.plist: add the files from the folders iPhone and
      iPad to the app; take the shared names once. -->
 <!-- iTunesArtwork and iTunesArtwork@2x are for ad hoc
      packages and are not declared. -->
@@ -424,9 +424,9 @@
         </array>
     </dict>
 </dict>]]></translation>
-    </message>
-    <message id="SNIPPET_IOS">
-        <source><![CDATA[<!-- Info.plist: add the files from the folder iPhone to the app. -->
+  </message>
+  <message id="SNIPPET_IOS">
+    <source><![CDATA[<!-- Info.plist: add the files from the folder iPhone to the app. -->
 <!-- iTunesArtwork and iTunesArtwork@2x are for ad hoc
      packages and are not declared. -->
 <key>CFBundleIcons</key>
@@ -446,7 +446,7 @@
         </array>
     </dict>
 </dict>]]></source>
-        <translation><![CDATA[<!-- Info.plist: add the files from the folder iPhone to the app. -->
+    <translation><![CDATA[<!-- Info.plist: add the files from the folder iPhone to the app. -->
 <!-- iTunesArtwork and iTunesArtwork@2x are for ad hoc
      packages and are not declared. -->
 <key>CFBundleIcons</key>
@@ -466,9 +466,9 @@
         </array>
     </dict>
 </dict>]]></translation>
-    </message>
-    <message id="SNIPPET_IOS_IPAD">
-        <source><![CDATA[<!-- Info.plist: add the files from the folder iPad to the app. -->
+  </message>
+  <message id="SNIPPET_IOS_IPAD">
+    <source><![CDATA[<!-- Info.plist: add the files from the folder iPad to the app. -->
 <!-- iTunesArtwork and iTunesArtwork@2x are for ad hoc
      packages and are not declared. -->
 <key>CFBundleIcons~ipad</key>
@@ -490,7 +490,7 @@
         </array>
     </dict>
 </dict>]]></source>
-        <translation><![CDATA[<!-- Info.plist: add the files from the folder iPad to the app. -->
+    <translation><![CDATA[<!-- Info.plist: add the files from the folder iPad to the app. -->
 <!-- iTunesArtwork and iTunesArtwork@2x are for ad hoc
      packages and are not declared. -->
 <key>CFBundleIcons~ipad</key>
@@ -512,19 +512,19 @@
         </array>
     </dict>
 </dict>]]></translation>
-    </message>
-    <message id="SNIPPET_MACOSX">
-        <source><![CDATA[<!-- Info.plist: add icons.icns from the folder Mac
+  </message>
+  <message id="SNIPPET_MACOSX">
+    <source><![CDATA[<!-- Info.plist: add icons.icns from the folder Mac
      to the app's resources. -->
 <key>CFBundleIconFile</key>
 <string>icons.icns</string>]]></source>
-        <translation><![CDATA[<!-- Info.plist: add icons.icns from the folder Mac
+    <translation><![CDATA[<!-- Info.plist: add icons.icns from the folder Mac
      to the app's resources. -->
 <key>CFBundleIconFile</key>
 <string>icons.icns</string>]]></translation>
-    </message>
-    <message id="SNIPPET_ANDROID">
-        <source><![CDATA[<!-- Copy each file of the folder Android to its place:
+  </message>
+  <message id="SNIPPET_ANDROID">
+    <source><![CDATA[<!-- Copy each file of the folder Android to its place:
      ic_launcher_ldpi.png: res/drawable-ldpi/ic_launcher.png
      ic_launcher_mdpi.png: res/drawable-mdpi/ic_launcher.png
      ic_launcher_hdpi.png: res/drawable-hdpi/ic_launcher.png
@@ -535,7 +535,7 @@
 <manifest xmlns:android="http://schemas.android.com/apk/res/android">
     <application android:icon="@drawable/ic_launcher" />
 </manifest>]]></source>
-        <translation><![CDATA[<!-- Copy each file of the folder Android to its place:
+    <translation><![CDATA[<!-- Copy each file of the folder Android to its place:
      ic_launcher_ldpi.png: res/drawable-ldpi/ic_launcher.png
      ic_launcher_mdpi.png: res/drawable-mdpi/ic_launcher.png
      ic_launcher_hdpi.png: res/drawable-hdpi/ic_launcher.png
@@ -546,9 +546,9 @@
 <manifest xmlns:android="http://schemas.android.com/apk/res/android">
     <application android:icon="@drawable/ic_launcher" />
 </manifest>]]></translation>
-    </message>
-    <message id="SNIPPET_WEB_TOUCH">
-        <source><![CDATA[<!-- In the head element; the files of the folder Web Touch
+  </message>
+  <message id="SNIPPET_WEB_TOUCH">
+    <source><![CDATA[<!-- In the head element; the files of the folder Web Touch
      go to the root of the site. -->
 <link rel="apple-touch-icon-precomposed" sizes="152x152" href="/apple-touch-icon-152x152-precomposed.png" />
 <link rel="apple-touch-icon-precomposed" sizes="144x144" href="/apple-touch-icon-144x144-precomposed.png" />
@@ -559,7 +559,7 @@
 <link rel="apple-touch-icon-precomposed" sizes="60x60" href="/apple-touch-icon-60x60-precomposed.png" />
 <link rel="apple-touch-icon-precomposed" sizes="57x57" href="/apple-touch-icon-precomposed.png" />
 <link rel="apple-touch-icon" sizes="57x57" href="/apple-touch-icon.png" />]]></source>
-        <translation><![CDATA[<!-- In the head element; the files of the folder Web Touch
+    <translation><![CDATA[<!-- In the head element; the files of the folder Web Touch
      go to the root of the site. -->
 <link rel="apple-touch-icon-precomposed" sizes="152x152" href="/apple-touch-icon-152x152-precomposed.png" />
 <link rel="apple-touch-icon-precomposed" sizes="144x144" href="/apple-touch-icon-144x144-precomposed.png" />
@@ -570,582 +570,582 @@
 <link rel="apple-touch-icon-precomposed" sizes="60x60" href="/apple-touch-icon-60x60-precomposed.png" />
 <link rel="apple-touch-icon-precomposed" sizes="57x57" href="/apple-touch-icon-precomposed.png" />
 <link rel="apple-touch-icon" sizes="57x57" href="/apple-touch-icon.png" />]]></translation>
-    </message>
-    <message id="SNIPPET_FAVICON">
-        <source><![CDATA[<!-- In the head element; the files of the folder Favicon
+  </message>
+  <message id="SNIPPET_FAVICON">
+    <source><![CDATA[<!-- In the head element; the files of the folder Favicon
      go to the root of the site. -->
 <link rel="icon" type="image/png" sizes="16x16" href="/favicon-16.png" />
 <link rel="icon" type="image/png" sizes="32x32" href="/favicon-32.png" />
 <link rel="icon" type="image/png" sizes="48x48" href="/favicon-48.png" />
 <link rel="icon" type="image/png" sizes="64x64" href="/favicon-64.png" />
 <link rel="icon" type="image/png" sizes="128x128" href="/favicon-128.png" />]]></source>
-        <translation><![CDATA[<!-- In the head element; the files of the folder Favicon
+    <translation><![CDATA[<!-- In the head element; the files of the folder Favicon
      go to the root of the site. -->
 <link rel="icon" type="image/png" sizes="16x16" href="/favicon-16.png" />
 <link rel="icon" type="image/png" sizes="32x32" href="/favicon-32.png" />
 <link rel="icon" type="image/png" sizes="48x48" href="/favicon-48.png" />
 <link rel="icon" type="image/png" sizes="64x64" href="/favicon-64.png" />
 <link rel="icon" type="image/png" sizes="128x128" href="/favicon-128.png" />]]></translation>
-    </message>
+  </message>
 
-    <!-- Placeholder generator -->
-    <message id="PLACEHOLDER_TITLE">
-        <source>Device sizes</source>
-        <translation>Device sizes</translation>
-    </message>
-    <message id="PLACEHOLDER_IOS_TITLE">
-        <source>iOS</source>
-        <translation>iOS</translation>
-    </message>
-    <message id="PLACEHOLDER_IOS_SUBTITLE">
-        <source>Nine pictures for iPhone, iPod and iPad</source>
-        <translation>Nine pictures for iPhone, iPod and iPad</translation>
-    </message>
-    <message id="PLACEHOLDER_MAC_TITLE">
-        <source>Mac</source>
-        <translation>Mac</translation>
-    </message>
-    <message id="PLACEHOLDER_MAC_SUBTITLE">
-        <source>Four pictures for icons and screens</source>
-        <translation>Four pictures for icons and screens</translation>
-    </message>
-    <message id="PLACEHOLDER_CUSTOM">
-        <source>Custom size</source>
-        <translation>Custom size</translation>
-    </message>
-    <message id="PLACEHOLDER_CUSTOM_TITLE">
-        <source>Your own size</source>
-        <translation>Your own size</translation>
-    </message>
-    <message id="PLACEHOLDER_CUSTOM_SUBTITLE">
-        <source>One picture, 1 to 9999 pixels each way</source>
-        <translation>One picture, 1 to 9999 pixels each way</translation>
-    </message>
-    <message id="PLACEHOLDER_SETTINGS">
-        <source>Size in pixels</source>
-        <translation>Size in pixels</translation>
-    </message>
-    <message id="PLACEHOLDER_WIDTH">
-        <source>Width</source>
-        <translation>Width</translation>
-    </message>
-    <message id="PLACEHOLDER_HEIGHT">
-        <source>Height</source>
-        <translation>Height</translation>
-    </message>
-    <message id="PLACEHOLDER_ALERT_TITLE">
-        <source>This size will not work</source>
-        <translation>This size will not work</translation>
-    </message>
-    <message id="PLACEHOLDER_ALERT_MESSAGE">
-        <source>Width and height must be whole numbers from 1 to 9999. Please correct this one.</source>
-        <translation>Width and height must be whole numbers from 1 to 9999. Please correct this one.</translation>
-    </message>
-    <message id="PLACEHOLDER_NEW_FOLDER_ALERT_TITLE">
-        <source>Saved in a new folder</source>
-        <translation>Saved in a new folder</translation>
-    </message>
-    <message id="PLACEHOLDER_NEW_FOLDER_ALERT_MESSAGE">
-        <source>The name “placeholders” was already taken there, so these pictures are in the folder “[FOLDER]”.</source>
-        <translation>The name “placeholders” was already taken there, so these pictures are in the folder “[FOLDER]”.</translation>
-    </message>
+  <!-- Placeholder generator -->
+  <message id="PLACEHOLDER_TITLE">
+    <source>Device sizes</source>
+    <translation>Device sizes</translation>
+  </message>
+  <message id="PLACEHOLDER_IOS_TITLE">
+    <source>iOS</source>
+    <translation>iOS</translation>
+  </message>
+  <message id="PLACEHOLDER_IOS_SUBTITLE">
+    <source>Nine pictures for iPhone, iPod and iPad</source>
+    <translation>Nine pictures for iPhone, iPod and iPad</translation>
+  </message>
+  <message id="PLACEHOLDER_MAC_TITLE">
+    <source>Mac</source>
+    <translation>Mac</translation>
+  </message>
+  <message id="PLACEHOLDER_MAC_SUBTITLE">
+    <source>Four pictures for icons and screens</source>
+    <translation>Four pictures for icons and screens</translation>
+  </message>
+  <message id="PLACEHOLDER_CUSTOM">
+    <source>Custom size</source>
+    <translation>Custom size</translation>
+  </message>
+  <message id="PLACEHOLDER_CUSTOM_TITLE">
+    <source>Your own size</source>
+    <translation>Your own size</translation>
+  </message>
+  <message id="PLACEHOLDER_CUSTOM_SUBTITLE">
+    <source>One picture, 1 to 9999 pixels each way</source>
+    <translation>One picture, 1 to 9999 pixels each way</translation>
+  </message>
+  <message id="PLACEHOLDER_SETTINGS">
+    <source>Size in pixels</source>
+    <translation>Size in pixels</translation>
+  </message>
+  <message id="PLACEHOLDER_WIDTH">
+    <source>Width</source>
+    <translation>Width</translation>
+  </message>
+  <message id="PLACEHOLDER_HEIGHT">
+    <source>Height</source>
+    <translation>Height</translation>
+  </message>
+  <message id="PLACEHOLDER_ALERT_TITLE">
+    <source>This size will not work</source>
+    <translation>This size will not work</translation>
+  </message>
+  <message id="PLACEHOLDER_ALERT_MESSAGE">
+    <source>Width and height must be whole numbers from 1 to 9999. Please correct this one.</source>
+    <translation>Width and height must be whole numbers from 1 to 9999. Please correct this one.</translation>
+  </message>
+  <message id="PLACEHOLDER_NEW_FOLDER_ALERT_TITLE">
+    <source>Saved in a new folder</source>
+    <translation>Saved in a new folder</translation>
+  </message>
+  <message id="PLACEHOLDER_NEW_FOLDER_ALERT_MESSAGE">
+    <source>The name “placeholders” was already taken there, so these pictures are in the folder “[FOLDER]”.</source>
+    <translation>The name “placeholders” was already taken there, so these pictures are in the folder “[FOLDER]”.</translation>
+  </message>
 
-    <!-- Retina down-scaler; the two panel texts also serve other tools, so they name no kind of file -->
-    <message id="RESIZER_BROWSE_LABEL">
-        <source>Drop PNG pictures marked @2x or -hd, or</source>
-        <translation>Drop PNG pictures marked @2x or -hd, or</translation>
-    </message>
-    <message id="RESIZER_BROWSE_PANEL">
-        <source>Choose what to open</source>
-        <translation>Choose what to open</translation>
-    </message>
-    <message id="RESIZER_DESTINATION_PANEL">
-        <source>Choose the folder to save into</source>
-        <translation>Choose the folder to save into</translation>
-    </message>
-    <message id="RESIZER_PROGRESS">
-        <source>Picture %i of %i</source>
-        <translation>Picture %i of %i</translation>
-    </message>
-    <message id="RESIZER_DONE">
-        <source>All done</source>
-        <translation>All done</translation>
-    </message>
-    <message id="RESIZER_ALERT_TITLE">
-        <source>Nothing to scale down</source>
-        <translation>Nothing to scale down</translation>
-    </message>
-    <message id="RESIZER_ALERT_MESSAGE">
-        <source>None of these is a .png file marked @2x or -hd. Please choose double-resolution PNG pictures.</source>
-        <translation>None of these is a .png file marked @2x or -hd. Please choose double-resolution PNG pictures.</translation>
-    </message>
+  <!-- Retina down-scaler; the two panel texts also serve other tools, so they name no kind of file -->
+  <message id="RESIZER_BROWSE_LABEL">
+    <source>Drop PNG pictures marked @2x or -hd, or</source>
+    <translation>Drop PNG pictures marked @2x or -hd, or</translation>
+  </message>
+  <message id="RESIZER_BROWSE_PANEL">
+    <source>Choose what to open</source>
+    <translation>Choose what to open</translation>
+  </message>
+  <message id="RESIZER_DESTINATION_PANEL">
+    <source>Choose the folder to save into</source>
+    <translation>Choose the folder to save into</translation>
+  </message>
+  <message id="RESIZER_PROGRESS">
+    <source>Picture %i of %i</source>
+    <translation>Picture %i of %i</translation>
+  </message>
+  <message id="RESIZER_DONE">
+    <source>All done</source>
+    <translation>All done</translation>
+  </message>
+  <message id="RESIZER_ALERT_TITLE">
+    <source>Nothing to scale down</source>
+    <translation>Nothing to scale down</translation>
+  </message>
+  <message id="RESIZER_ALERT_MESSAGE">
+    <source>None of these is a .png file marked @2x or -hd. Please choose double-resolution PNG pictures.</source>
+    <translation>None of these is a .png file marked @2x or -hd. Please choose double-resolution PNG pictures.</translation>
+  </message>
 
-    <!-- Colour codes -->
-    <message id="COLOR_IOS">
-        <source>For iOS, as UIColor</source>
-        <translation>For iOS, as UIColor</translation>
-    </message>
-    <message id="COLOR_IOS_BUTTON">
-        <source>Copy iOS</source>
-        <translation>Copy iOS</translation>
-    </message>
-    <message id="COLOR_MAC">
-        <source>For the Mac, as NSColor</source>
-        <translation>For the Mac, as NSColor</translation>
-    </message>
-    <message id="COLOR_MAC_BUTTON">
-        <source>Copy Mac</source>
-        <translation>Copy Mac</translation>
-    </message>
-    <message id="COLOR_JAVA">
-        <source>As rgb(red, green, blue)</source>
-        <translation>As rgb(red, green, blue)</translation>
-    </message>
-    <message id="COLOR_JAVA_BUTTON">
-        <source>Copy rgb</source>
-        <translation>Copy rgb</translation>
-    </message>
-    <message id="COLOR_ALERT_TITLE">
-        <source>This is no colour code</source>
-        <translation>This is no colour code</translation>
-    </message>
-    <message id="COLOR_ALERT_MESSAGE">
-        <source>Type three or six hexadecimal digits, for example #abc or #34485e.</source>
-        <translation>Type three or six hexadecimal digits, for example #abc or #34485e.</translation>
-    </message>
+  <!-- Colour codes -->
+  <message id="COLOR_IOS">
+    <source>For iOS, as UIColor</source>
+    <translation>For iOS, as UIColor</translation>
+  </message>
+  <message id="COLOR_IOS_BUTTON">
+    <source>Copy iOS</source>
+    <translation>Copy iOS</translation>
+  </message>
+  <message id="COLOR_MAC">
+    <source>For the Mac, as NSColor</source>
+    <translation>For the Mac, as NSColor</translation>
+  </message>
+  <message id="COLOR_MAC_BUTTON">
+    <source>Copy Mac</source>
+    <translation>Copy Mac</translation>
+  </message>
+  <message id="COLOR_JAVA">
+    <source>As rgb(red, green, blue)</source>
+    <translation>As rgb(red, green, blue)</translation>
+  </message>
+  <message id="COLOR_JAVA_BUTTON">
+    <source>Copy rgb</source>
+    <translation>Copy rgb</translation>
+  </message>
+  <message id="COLOR_ALERT_TITLE">
+    <source>This is no colour code</source>
+    <translation>This is no colour code</translation>
+  </message>
+  <message id="COLOR_ALERT_MESSAGE">
+    <source>Type three or six hexadecimal digits, for example #abc or #34485e.</source>
+    <translation>Type three or six hexadecimal digits, for example #abc or #34485e.</translation>
+  </message>
 
-    <!-- Colour codes: the colour picker -->
-    <message id="COLOR_PICKER">
-        <source>Colours</source>
-        <translation>Colours</translation>
-    </message>
-    <message id="COLOR_MODE_WHEEL">
-        <source>Colour wheel</source>
-        <translation>Colour wheel</translation>
-    </message>
-    <message id="COLOR_MODE_RGB">
-        <source>RGB sliders</source>
-        <translation>RGB sliders</translation>
-    </message>
-    <message id="COLOR_MODE_HSB">
-        <source>HSB sliders</source>
-        <translation>HSB sliders</translation>
-    </message>
-    <message id="COLOR_MODE_GREY">
-        <source>Grey slider</source>
-        <translation>Grey slider</translation>
-    </message>
-    <message id="COLOR_MODE_PALETTE">
-        <source>Palette</source>
-        <translation>Palette</translation>
-    </message>
-    <message id="COLOR_CHANNEL_RED">
-        <source>Red</source>
-        <translation>Red</translation>
-    </message>
-    <message id="COLOR_CHANNEL_GREEN">
-        <source>Green</source>
-        <translation>Green</translation>
-    </message>
-    <message id="COLOR_CHANNEL_BLUE">
-        <source>Blue</source>
-        <translation>Blue</translation>
-    </message>
-    <message id="COLOR_CHANNEL_HUE">
-        <source>Hue</source>
-        <translation>Hue</translation>
-    </message>
-    <message id="COLOR_CHANNEL_SATURATION">
-        <source>Saturation</source>
-        <translation>Saturation</translation>
-    </message>
-    <message id="COLOR_CHANNEL_BRIGHTNESS">
-        <source>Brightness</source>
-        <translation>Brightness</translation>
-    </message>
-    <message id="COLOR_CHANNEL_GREY">
-        <source>Grey</source>
-        <translation>Grey</translation>
-    </message>
-    <message id="COLOR_CHANNEL_OPACITY">
-        <source>Opacity</source>
-        <translation>Opacity</translation>
-    </message>
-    <message id="COLOR_HEX">
-        <source>Hexadecimal code</source>
-        <translation>Hexadecimal code</translation>
-    </message>
-    <message id="COLOR_PIPETTE">
-        <source>Pick a colour from the screen</source>
-        <translation>Pick a colour from the screen</translation>
-    </message>
-    <message id="COLOR_PIPETTE_FAILED_TITLE">
-        <source>No colour picked</source>
-        <translation>No colour picked</translation>
-    </message>
-    <message id="COLOR_PIPETTE_FAILED_MESSAGE">
-        <source>The system did not let Lumora read the screen. Allow it in the system settings, or choose the colour here.</source>
-        <translation>The system did not let Lumora read the screen. Allow it in the system settings, or choose the colour here.</translation>
-    </message>
+  <!-- Colour codes: the colour picker -->
+  <message id="COLOR_PICKER">
+    <source>Colours</source>
+    <translation>Colours</translation>
+  </message>
+  <message id="COLOR_MODE_WHEEL">
+    <source>Colour wheel</source>
+    <translation>Colour wheel</translation>
+  </message>
+  <message id="COLOR_MODE_RGB">
+    <source>RGB sliders</source>
+    <translation>RGB sliders</translation>
+  </message>
+  <message id="COLOR_MODE_HSB">
+    <source>HSB sliders</source>
+    <translation>HSB sliders</translation>
+  </message>
+  <message id="COLOR_MODE_GREY">
+    <source>Grey slider</source>
+    <translation>Grey slider</translation>
+  </message>
+  <message id="COLOR_MODE_PALETTE">
+    <source>Palette</source>
+    <translation>Palette</translation>
+  </message>
+  <message id="COLOR_CHANNEL_RED">
+    <source>Red</source>
+    <translation>Red</translation>
+  </message>
+  <message id="COLOR_CHANNEL_GREEN">
+    <source>Green</source>
+    <translation>Green</translation>
+  </message>
+  <message id="COLOR_CHANNEL_BLUE">
+    <source>Blue</source>
+    <translation>Blue</translation>
+  </message>
+  <message id="COLOR_CHANNEL_HUE">
+    <source>Hue</source>
+    <translation>Hue</translation>
+  </message>
+  <message id="COLOR_CHANNEL_SATURATION">
+    <source>Saturation</source>
+    <translation>Saturation</translation>
+  </message>
+  <message id="COLOR_CHANNEL_BRIGHTNESS">
+    <source>Brightness</source>
+    <translation>Brightness</translation>
+  </message>
+  <message id="COLOR_CHANNEL_GREY">
+    <source>Grey</source>
+    <translation>Grey</translation>
+  </message>
+  <message id="COLOR_CHANNEL_OPACITY">
+    <source>Opacity</source>
+    <translation>Opacity</translation>
+  </message>
+  <message id="COLOR_HEX">
+    <source>Hexadecimal code</source>
+    <translation>Hexadecimal code</translation>
+  </message>
+  <message id="COLOR_PIPETTE">
+    <source>Pick a colour from the screen</source>
+    <translation>Pick a colour from the screen</translation>
+  </message>
+  <message id="COLOR_PIPETTE_FAILED_TITLE">
+    <source>No colour picked</source>
+    <translation>No colour picked</translation>
+  </message>
+  <message id="COLOR_PIPETTE_FAILED_MESSAGE">
+    <source>The system did not let Lumora read the screen. Allow it in the system settings, or choose the colour here.</source>
+    <translation>The system did not let Lumora read the screen. Allow it in the system settings, or choose the colour here.</translation>
+  </message>
 
-    <!-- Device matrix -->
-    <message id="DEVICES_IOS">
-        <source>iOS version</source>
-        <translation>iOS version</translation>
-    </message>
-    <message id="DEVICES_FEATURES">
-        <source>Features</source>
-        <translation>Features</translation>
-    </message>
-    <message id="DEVICES_IPHONES">
-        <source>iPhone</source>
-        <translation>iPhone</translation>
-    </message>
-    <message id="DEVICES_IPODS">
-        <source>iPod</source>
-        <translation>iPod</translation>
-    </message>
-    <message id="DEVICES_IPADS">
-        <source>iPad</source>
-        <translation>iPad</translation>
-    </message>
+  <!-- Device matrix -->
+  <message id="DEVICES_IOS">
+    <source>iOS version</source>
+    <translation>iOS version</translation>
+  </message>
+  <message id="DEVICES_FEATURES">
+    <source>Features</source>
+    <translation>Features</translation>
+  </message>
+  <message id="DEVICES_IPHONES">
+    <source>iPhone</source>
+    <translation>iPhone</translation>
+  </message>
+  <message id="DEVICES_IPODS">
+    <source>iPod</source>
+    <translation>iPod</translation>
+  </message>
+  <message id="DEVICES_IPADS">
+    <source>iPad</source>
+    <translation>iPad</translation>
+  </message>
 
-    <!-- App package check: intake -->
-    <message id="VALIDATER_BROWSE_INFO">
-        <source>Drop an .ipa package here or browse for one.</source>
-        <translation>Drop an .ipa package here or browse for one.</translation>
-    </message>
-    <message id="VALIDATER_READING">
-        <source>Reading [FILE]…</source>
-        <translation>Reading [FILE]…</translation>
-    </message>
-    <message id="VALIDATER_VALIDATING">
-        <source>Package report</source>
-        <translation>Package report</translation>
-    </message>
-    <message id="VALIDATER_ONE_FILE_TITLE">
-        <source>One package at a time</source>
-        <translation>One package at a time</translation>
-    </message>
-    <message id="VALIDATER_ONE_FILE_MESSAGE">
-        <source>Several files were given. Please choose a single .ipa package.</source>
-        <translation>Several files were given. Please choose a single .ipa package.</translation>
-    </message>
-    <message id="VALIDATER_IPA_TITLE">
-        <source>Not an app package</source>
-        <translation>Not an app package</translation>
-    </message>
-    <message id="VALIDATER_IPA_MESSAGE">
-        <source>The file name must end in .ipa, in small letters. Please choose an iOS app package.</source>
-        <translation>The file name must end in .ipa, in small letters. Please choose an iOS app package.</translation>
-    </message>
+  <!-- App package check: intake -->
+  <message id="VALIDATER_BROWSE_INFO">
+    <source>Drop an .ipa package here or browse for one.</source>
+    <translation>Drop an .ipa package here or browse for one.</translation>
+  </message>
+  <message id="VALIDATER_READING">
+    <source>Reading [FILE]…</source>
+    <translation>Reading [FILE]…</translation>
+  </message>
+  <message id="VALIDATER_VALIDATING">
+    <source>Package report</source>
+    <translation>Package report</translation>
+  </message>
+  <message id="VALIDATER_ONE_FILE_TITLE">
+    <source>One package at a time</source>
+    <translation>One package at a time</translation>
+  </message>
+  <message id="VALIDATER_ONE_FILE_MESSAGE">
+    <source>Several files were given. Please choose a single .ipa package.</source>
+    <translation>Several files were given. Please choose a single .ipa package.</translation>
+  </message>
+  <message id="VALIDATER_IPA_TITLE">
+    <source>Not an app package</source>
+    <translation>Not an app package</translation>
+  </message>
+  <message id="VALIDATER_IPA_MESSAGE">
+    <source>The file name must end in .ipa, in small letters. Please choose an iOS app package.</source>
+    <translation>The file name must end in .ipa, in small letters. Please choose an iOS app package.</translation>
+  </message>
 
-    <!-- App package check: facts; the value follows its label directly, so a label ends in a blank -->
-    <message id="VALIDATER_APP_NAME">
-        <source>Name: </source>
-        <translation>Name: </translation>
-    </message>
-    <message id="VALIDATER_APP_VERSION">
-        <source>Version: </source>
-        <translation>Version: </translation>
-    </message>
-    <message id="VALIDATER_APP_PLATFORM">
-        <source>Platform: </source>
-        <translation>Platform: </translation>
-    </message>
-    <message id="VALIDATER_APP_MINIMUM_OS">
-        <source>Oldest iOS: </source>
-        <translation>Oldest iOS: </translation>
-    </message>
-    <message id="VALIDATER_APP_BUNDLE_ID">
-        <source>Bundle ID: </source>
-        <translation>Bundle ID: </translation>
-    </message>
-    <message id="VALIDATER_BUILD">
-        <source>Build: </source>
-        <translation>Build: </translation>
-    </message>
-    <message id="VALID_BUILD_DEBUG">
-        <source>Debug</source>
-        <translation>Debug</translation>
-    </message>
-    <message id="VALID_BUILD_RELEASE">
-        <source>Release</source>
-        <translation>Release</translation>
-    </message>
+  <!-- App package check: facts; the value follows its label directly, so a label ends in a blank -->
+  <message id="VALIDATER_APP_NAME">
+    <source>Name: </source>
+    <translation>Name: </translation>
+  </message>
+  <message id="VALIDATER_APP_VERSION">
+    <source>Version: </source>
+    <translation>Version: </translation>
+  </message>
+  <message id="VALIDATER_APP_PLATFORM">
+    <source>Platform: </source>
+    <translation>Platform: </translation>
+  </message>
+  <message id="VALIDATER_APP_MINIMUM_OS">
+    <source>Oldest iOS: </source>
+    <translation>Oldest iOS: </translation>
+  </message>
+  <message id="VALIDATER_APP_BUNDLE_ID">
+    <source>Bundle ID: </source>
+    <translation>Bundle ID: </translation>
+  </message>
+  <message id="VALIDATER_BUILD">
+    <source>Build: </source>
+    <translation>Build: </translation>
+  </message>
+  <message id="VALID_BUILD_DEBUG">
+    <source>Debug</source>
+    <translation>Debug</translation>
+  </message>
+  <message id="VALID_BUILD_RELEASE">
+    <source>Release</source>
+    <translation>Release</translation>
+  </message>
 
-    <!-- App package check: the seven boxes -->
-    <message id="VALIDATER_VALIDAT_ICONS">
-        <source>App icons</source>
-        <translation>App icons</translation>
-    </message>
-    <message id="VALIDATER_VALIDATE_DEFAULTS">
-        <source>Launch images</source>
-        <translation>Launch images</translation>
-    </message>
-    <message id="VALIDATER_VALIDATE_BUNDLE_ID">
-        <source>Bundle identifier</source>
-        <translation>Bundle identifier</translation>
-    </message>
-    <message id="VALIDATER_VALIDATE_RELEASE">
-        <source>Release build</source>
-        <translation>Release build</translation>
-    </message>
-    <message id="VALIDATER_APP_LOCALIZATIONS">
-        <source>Localisations</source>
-        <translation>Localisations</translation>
-    </message>
-    <message id="VALIDATER_APP_URL_SCHEMES">
-        <source>URL schemes</source>
-        <translation>URL schemes</translation>
-    </message>
-    <message id="VALIDATER_APP_FACEBOOK_ID">
-        <source>Facebook app ID</source>
-        <translation>Facebook app ID</translation>
-    </message>
+  <!-- App package check: the seven boxes -->
+  <message id="VALIDATER_VALIDAT_ICONS">
+    <source>App icons</source>
+    <translation>App icons</translation>
+  </message>
+  <message id="VALIDATER_VALIDATE_DEFAULTS">
+    <source>Launch images</source>
+    <translation>Launch images</translation>
+  </message>
+  <message id="VALIDATER_VALIDATE_BUNDLE_ID">
+    <source>Bundle identifier</source>
+    <translation>Bundle identifier</translation>
+  </message>
+  <message id="VALIDATER_VALIDATE_RELEASE">
+    <source>Release build</source>
+    <translation>Release build</translation>
+  </message>
+  <message id="VALIDATER_APP_LOCALIZATIONS">
+    <source>Localisations</source>
+    <translation>Localisations</translation>
+  </message>
+  <message id="VALIDATER_APP_URL_SCHEMES">
+    <source>URL schemes</source>
+    <translation>URL schemes</translation>
+  </message>
+  <message id="VALIDATER_APP_FACEBOOK_ID">
+    <source>Facebook app ID</source>
+    <translation>Facebook app ID</translation>
+  </message>
 
-    <!-- App package check: explanations; lists follow the localisations and URL scheme texts directly, so these end in a line break -->
-    <message id="VALID_TEXT">
-        <source>Looks good</source>
-        <translation>Looks good</translation>
-    </message>
-    <message id="VALID_ICONS_TEXT">
-        <source>Every required icon size is in the package.</source>
-        <translation>Every required icon size is in the package.</translation>
-    </message>
-    <message id="VALID_LAUNCH_TEXT">
-        <source>The package holds a launch image of a required size.</source>
-        <translation>The package holds a launch image of a required size.</translation>
-    </message>
-    <message id="VALID_BUNDLE_ID_TEXT">
-        <source>The provisioning profile names the app’s bundle identifier.</source>
-        <translation>The provisioning profile names the app’s bundle identifier.</translation>
-    </message>
-    <message id="VALID_RELEASE_TEXT">
-        <source>No fault was found with the kind of build. The line “Build” says whether it is debug or release.</source>
-        <translation>No fault was found with the kind of build. The line “Build” says whether it is debug or release.</translation>
-    </message>
-    <message id="VALIDATE_ICONS_TITLE">
-        <source>Icon sizes are missing</source>
-        <translation>Icon sizes are missing</translation>
-    </message>
-    <message id="VALIDATE_ICONS_TEXT">
-        <source>Please add an icon of [ICON] pixels.</source>
-        <translation>Please add an icon of [ICON] pixels.</translation>
-    </message>
-    <message id="VALIDATE_DEFAULTS_TITLE">
-        <source>No launch image: add one of these</source>
-        <translation>No launch image: add one of these</translation>
-    </message>
-    <message id="VALIDATE_DEFAULTS_TEXT">
-        <source>There is none of [DEFAULT] pixels.</source>
-        <translation>There is none of [DEFAULT] pixels.</translation>
-    </message>
-    <message id="VALIDATE_BUNDLE_ID_TITLE">
-        <source>Profile and app do not match</source>
-        <translation>Profile and app do not match</translation>
-    </message>
-    <message id="VALIDATE_BUNDLE_ID_TEXT">
-        <source>The provisioning profile does not name this app’s bundle identifier. Sign the app with a profile made for it. (A wildcard profile counts as no match.)</source>
-        <translation>The provisioning profile does not name this app’s bundle identifier. Sign the app with a profile made for it. (A wildcard profile counts as no match.)</translation>
-    </message>
-    <message id="VALIDATE_RELEASE_TITLE">
-        <source>Not a release build</source>
-        <translation>Not a release build</translation>
-    </message>
-    <message id="VALIDATE_RELEASE_TEXT">
-        <source>The provisioning profile lists test devices. Sign the app with a distribution profile for the store.</source>
-        <translation>The provisioning profile lists test devices. Sign the app with a distribution profile for the store.</translation>
-    </message>
-    <message id="VALIDATE_LOCALIZATIONS_TEXT">
-        <source>The app is localised for:
+  <!-- App package check: explanations; lists follow the localisations and URL scheme texts directly, so these end in a line break -->
+  <message id="VALID_TEXT">
+    <source>Looks good</source>
+    <translation>Looks good</translation>
+  </message>
+  <message id="VALID_ICONS_TEXT">
+    <source>Every required icon size is in the package.</source>
+    <translation>Every required icon size is in the package.</translation>
+  </message>
+  <message id="VALID_LAUNCH_TEXT">
+    <source>The package holds a launch image of a required size.</source>
+    <translation>The package holds a launch image of a required size.</translation>
+  </message>
+  <message id="VALID_BUNDLE_ID_TEXT">
+    <source>The provisioning profile names the app’s bundle identifier.</source>
+    <translation>The provisioning profile names the app’s bundle identifier.</translation>
+  </message>
+  <message id="VALID_RELEASE_TEXT">
+    <source>No fault was found with the kind of build. The line “Build” says whether it is debug or release.</source>
+    <translation>No fault was found with the kind of build. The line “Build” says whether it is debug or release.</translation>
+  </message>
+  <message id="VALIDATE_ICONS_TITLE">
+    <source>Icon sizes are missing</source>
+    <translation>Icon sizes are missing</translation>
+  </message>
+  <message id="VALIDATE_ICONS_TEXT">
+    <source>Please add an icon of [ICON] pixels.</source>
+    <translation>Please add an icon of [ICON] pixels.</translation>
+  </message>
+  <message id="VALIDATE_DEFAULTS_TITLE">
+    <source>No launch image: add one of these</source>
+    <translation>No launch image: add one of these</translation>
+  </message>
+  <message id="VALIDATE_DEFAULTS_TEXT">
+    <source>There is none of [DEFAULT] pixels.</source>
+    <translation>There is none of [DEFAULT] pixels.</translation>
+  </message>
+  <message id="VALIDATE_BUNDLE_ID_TITLE">
+    <source>Profile and app do not match</source>
+    <translation>Profile and app do not match</translation>
+  </message>
+  <message id="VALIDATE_BUNDLE_ID_TEXT">
+    <source>The provisioning profile does not name this app’s bundle identifier. Sign the app with a profile made for it. (A wildcard profile counts as no match.)</source>
+    <translation>The provisioning profile does not name this app’s bundle identifier. Sign the app with a profile made for it. (A wildcard profile counts as no match.)</translation>
+  </message>
+  <message id="VALIDATE_RELEASE_TITLE">
+    <source>Not a release build</source>
+    <translation>Not a release build</translation>
+  </message>
+  <message id="VALIDATE_RELEASE_TEXT">
+    <source>The provisioning profile lists test devices. Sign the app with a distribution profile for the store.</source>
+    <translation>The provisioning profile lists test devices. Sign the app with a distribution profile for the store.</translation>
+  </message>
+  <message id="VALIDATE_LOCALIZATIONS_TEXT">
+    <source>The app is localised for:
 </source>
-        <translation>The app is localised for:
+    <translation>The app is localised for:
 </translation>
-    </message>
-    <message id="VALIDATE_URLSCHEME_TEXT">
-        <source>The app opens addresses that begin with:
+  </message>
+  <message id="VALIDATE_URLSCHEME_TEXT">
+    <source>The app opens addresses that begin with:
 </source>
-        <translation>The app opens addresses that begin with:
+    <translation>The app opens addresses that begin with:
 </translation>
-    </message>
-    <message id="VALIDATE_FACEBOOK_APP_ID_TEXT">
-        <source>The app signs in to Facebook with the ID </source>
-        <translation>The app signs in to Facebook with the ID </translation>
-    </message>
+  </message>
+  <message id="VALIDATE_FACEBOOK_APP_ID_TEXT">
+    <source>The app signs in to Facebook with the ID </source>
+    <translation>The app signs in to Facebook with the ID </translation>
+  </message>
 
-    <!-- Menus -->
-    <message id="MENU_FILE">
-        <source>&amp;File</source>
-        <translation>&amp;File</translation>
-    </message>
-    <message id="MENU_OPEN">
-        <source>&amp;Open…</source>
-        <translation>&amp;Open…</translation>
-    </message>
-    <message id="MENU_SHOW_WINDOW">
-        <source>&amp;Show window</source>
-        <translation>&amp;Show window</translation>
-    </message>
-    <message id="MENU_CLOSE_WINDOW">
-        <source>&amp;Close window</source>
-        <translation>&amp;Close window</translation>
-    </message>
-    <message id="MENU_QUIT">
-        <source>&amp;Quit Lumora</source>
-        <translation>&amp;Quit Lumora</translation>
-    </message>
-    <message id="MENU_EDIT">
-        <source>&amp;Edit</source>
-        <translation>&amp;Edit</translation>
-    </message>
-    <message id="MENU_CUT">
-        <source>Cu&amp;t</source>
-        <translation>Cu&amp;t</translation>
-    </message>
-    <message id="MENU_COPY">
-        <source>&amp;Copy</source>
-        <translation>&amp;Copy</translation>
-    </message>
-    <message id="MENU_PASTE">
-        <source>&amp;Paste</source>
-        <translation>&amp;Paste</translation>
-    </message>
-    <message id="MENU_SELECT_ALL">
-        <source>Select &amp;all</source>
-        <translation>Select &amp;all</translation>
-    </message>
-    <message id="MENU_TOOLS">
-        <source>&amp;Tools</source>
-        <translation>&amp;Tools</translation>
-    </message>
-    <message id="MENU_HELP">
-        <source>&amp;Help</source>
-        <translation>&amp;Help</translation>
-    </message>
-    <message id="MENU_TOOL_HELP">
-        <source>&amp;Help on this tool</source>
-        <translation>&amp;Help on this tool</translation>
-    </message>
-    <message id="MENU_ABOUT">
-        <source>&amp;About Lumora</source>
-        <translation>&amp;About Lumora</translation>
-    </message>
+  <!-- Menus -->
+  <message id="MENU_FILE">
+    <source>&amp;File</source>
+    <translation>&amp;File</translation>
+  </message>
+  <message id="MENU_OPEN">
+    <source>&amp;Open…</source>
+    <translation>&amp;Open…</translation>
+  </message>
+  <message id="MENU_SHOW_WINDOW">
+    <source>&amp;Show window</source>
+    <translation>&amp;Show window</translation>
+  </message>
+  <message id="MENU_CLOSE_WINDOW">
+    <source>&amp;Close window</source>
+    <translation>&amp;Close window</translation>
+  </message>
+  <message id="MENU_QUIT">
+    <source>&amp;Quit Lumora</source>
+    <translation>&amp;Quit Lumora</translation>
+  </message>
+  <message id="MENU_EDIT">
+    <source>&amp;Edit</source>
+    <translation>&amp;Edit</translation>
+  </message>
+  <message id="MENU_CUT">
+    <source>Cu&amp;t</source>
+    <translation>Cu&amp;t</translation>
+  </message>
+  <message id="MENU_COPY">
+    <source>&amp;Copy</source>
+    <translation>&amp;Copy</translation>
+  </message>
+  <message id="MENU_PASTE">
+    <source>&amp;Paste</source>
+    <translation>&amp;Paste</translation>
+  </message>
+  <message id="MENU_SELECT_ALL">
+    <source>Select &amp;all</source>
+    <translation>Select &amp;all</translation>
+  </message>
+  <message id="MENU_TOOLS">
+    <source>&amp;Tools</source>
+    <translation>&amp;Tools</translation>
+  </message>
+  <message id="MENU_HELP">
+    <source>&amp;Help</source>
+    <translation>&amp;Help</translation>
+  </message>
+  <message id="MENU_TOOL_HELP">
+    <source>&amp;Help on this tool</source>
+    <translation>&amp;Help on this tool</translation>
+  </message>
+  <message id="MENU_ABOUT">
+    <source>&amp;About Lumora</source>
+    <translation>&amp;About Lumora</translation>
+  </message>
 
-    <!-- File choosers: names of file kinds -->
-    <message id="FILTER_PICTURES">
-        <source>Pictures</source>
-        <translation>Pictures</translation>
-    </message>
-    <message id="FILTER_PNG">
-        <source>PNG pictures</source>
-        <translation>PNG pictures</translation>
-    </message>
-    <message id="FILTER_IPA">
-        <source>iOS app packages</source>
-        <translation>iOS app packages</translation>
-    </message>
+  <!-- File choosers: names of file kinds -->
+  <message id="FILTER_PICTURES">
+    <source>Pictures</source>
+    <translation>Pictures</translation>
+  </message>
+  <message id="FILTER_PNG">
+    <source>PNG pictures</source>
+    <translation>PNG pictures</translation>
+  </message>
+  <message id="FILTER_IPA">
+    <source>iOS app packages</source>
+    <translation>iOS app packages</translation>
+  </message>
 
-    <!-- Accessible names and tool tips of controls without a text of their own -->
-    <message id="ACCESSIBLE_CLOSE">
-        <source>Close window</source>
-        <translation>Close window</translation>
-    </message>
-    <message id="ACCESSIBLE_MINIMIZE">
-        <source>Minimise window</source>
-        <translation>Minimise window</translation>
-    </message>
-    <message id="ACCESSIBLE_ZOOM">
-        <source>Zoom window</source>
-        <translation>Zoom window</translation>
-    </message>
-    <message id="ACCESSIBLE_FULLSCREEN">
-        <source>Enter full screen</source>
-        <translation>Enter full screen</translation>
-    </message>
-    <message id="ACCESSIBLE_EXIT_FULLSCREEN">
-        <source>Leave full screen</source>
-        <translation>Leave full screen</translation>
-    </message>
-    <message id="ACCESSIBLE_SIDEBAR">
-        <source>Tools</source>
-        <translation>Tools</translation>
-    </message>
-    <message id="ACCESSIBLE_HELP">
-        <source>Help on this tool</source>
-        <translation>Help on this tool</translation>
-    </message>
-    <message id="ACCESSIBLE_ABOUT">
-        <source>About Lumora</source>
-        <translation>About Lumora</translation>
-    </message>
-    <message id="ACCESSIBLE_MESSAGE">
-        <source>Message</source>
-        <translation>Message</translation>
-    </message>
-    <message id="ACCESSIBLE_ICONS_DROP">
-        <source>Drop area for the source icon</source>
-        <translation>Drop area for the source icon</translation>
-    </message>
-    <message id="ACCESSIBLE_ICONS_SOURCE">
-        <source>Source icon</source>
-        <translation>Source icon</translation>
-    </message>
-    <message id="ACCESSIBLE_ICONS_PREVIEW">
-        <source>Preview at [SIZE] pixels</source>
-        <translation>Preview at [SIZE] pixels</translation>
-    </message>
-    <message id="ACCESSIBLE_SNIPPET_PLATFORM">
-        <source>Platform of the code snippet</source>
-        <translation>Platform of the code snippet</translation>
-    </message>
-    <message id="ACCESSIBLE_SNIPPET">
-        <source>Code snippet</source>
-        <translation>Code snippet</translation>
-    </message>
-    <message id="ACCESSIBLE_RESIZER_DROP">
-        <source>Drop area for double-resolution pictures</source>
-        <translation>Drop area for double-resolution pictures</translation>
-    </message>
-    <message id="ACCESSIBLE_RESIZER_PROGRESS">
-        <source>Progress of the down-scaling</source>
-        <translation>Progress of the down-scaling</translation>
-    </message>
-    <message id="ACCESSIBLE_COLOR_FIELD">
-        <source>Colour code</source>
-        <translation>Colour code</translation>
-    </message>
-    <message id="ACCESSIBLE_COLOR_WELL">
-        <source>Colour well, opens the colour picker</source>
-        <translation>Colour well, opens the colour picker</translation>
-    </message>
-    <message id="ACCESSIBLE_DEVICE_MATCH">
-        <source>[DEVICE], meets the choice</source>
-        <translation>[DEVICE], meets the choice</translation>
-    </message>
-    <message id="ACCESSIBLE_DEVICE_NO_MATCH">
-        <source>[DEVICE], does not meet the choice</source>
-        <translation>[DEVICE], does not meet the choice</translation>
-    </message>
-    <message id="ACCESSIBLE_VALIDATER_DROP">
-        <source>Drop area for an app package</source>
-        <translation>Drop area for an app package</translation>
-    </message>
-    <message id="ACCESSIBLE_VALIDATER_APP_ICON">
-        <source>Icon of the app</source>
-        <translation>Icon of the app</translation>
-    </message>
-    <message id="ACCESSIBLE_CHECK_PASSED">
-        <source>[CHECK]: passed</source>
-        <translation>[CHECK]: passed</translation>
-    </message>
-    <message id="ACCESSIBLE_CHECK_FAILED">
-        <source>[CHECK]: problems found</source>
-        <translation>[CHECK]: problems found</translation>
-    </message>
-    <message id="ACCESSIBLE_CHECK_ABSENT">
-        <source>[CHECK]: not present</source>
-        <translation>[CHECK]: not present</translation>
-    </message>
+  <!-- Accessible names and tool tips of controls without a text of their own -->
+  <message id="ACCESSIBLE_CLOSE">
+    <source>Close window</source>
+    <translation>Close window</translation>
+  </message>
+  <message id="ACCESSIBLE_MINIMIZE">
+    <source>Minimise window</source>
+    <translation>Minimise window</translation>
+  </message>
+  <message id="ACCESSIBLE_ZOOM">
+    <source>Zoom window</source>
+    <translation>Zoom window</translation>
+  </message>
+  <message id="ACCESSIBLE_FULLSCREEN">
+    <source>Enter full screen</source>
+    <translation>Enter full screen</translation>
+  </message>
+  <message id="ACCESSIBLE_EXIT_FULLSCREEN">
+    <source>Leave full screen</source>
+    <translation>Leave full screen</translation>
+  </message>
+  <message id="ACCESSIBLE_SIDEBAR">
+    <source>Tools</source>
+    <translation>Tools</translation>
+  </message>
+  <message id="ACCESSIBLE_HELP">
+    <source>Help on this tool</source>
+    <translation>Help on this tool</translation>
+  </message>
+  <message id="ACCESSIBLE_ABOUT">
+    <source>About Lumora</source>
+    <translation>About Lumora</translation>
+  </message>
+  <message id="ACCESSIBLE_MESSAGE">
+    <source>Message</source>
+    <translation>Message</translation>
+  </message>
+  <message id="ACCESSIBLE_ICONS_DROP">
+    <source>Drop area for the source icon</source>
+    <translation>Drop area for the source icon</translation>
+  </message>
+  <message id="ACCESSIBLE_ICONS_SOURCE">
+    <source>Source icon</source>
+    <translation>Source icon</translation>
+  </message>
+  <message id="ACCESSIBLE_ICONS_PREVIEW">
+    <source>Preview at [SIZE] pixels</source>
+    <translation>Preview at [SIZE] pixels</translation>
+  </message>
+  <message id="ACCESSIBLE_SNIPPET_PLATFORM">
+    <source>Platform of the code snippet</source>
+    <translation>Platform of the code snippet</translation>
+  </message>
+  <message id="ACCESSIBLE_SNIPPET">
+    <source>Code snippet</source>
+    <translation>Code snippet</translation>
+  </message>
+  <message id="ACCESSIBLE_RESIZER_DROP">
+    <source>Drop area for double-resolution pictures</source>
+    <translation>Drop area for double-resolution pictures</translation>
+  </message>
+  <message id="ACCESSIBLE_RESIZER_PROGRESS">
+    <source>Progress of the down-scaling</source>
+    <translation>Progress of the down-scaling</translation>
+  </message>
+  <message id="ACCESSIBLE_COLOR_FIELD">
+    <source>Colour code</source>
+    <translation>Colour code</translation>
+  </message>
+  <message id="ACCESSIBLE_COLOR_WELL">
+    <source>Colour well, opens the colour picker</source>
+    <translation>Colour well, opens the colour picker</translation>
+  </message>
+  <message id="ACCESSIBLE_DEVICE_MATCH">
+    <source>[DEVICE], meets the choice</source>
+    <translation>[DEVICE], meets the choice</translation>
+  </message>
+  <message id="ACCESSIBLE_DEVICE_NO_MATCH">
+    <source>[DEVICE], does not meet the choice</source>
+    <translation>[DEVICE], does not meet the choice</translation>
+  </message>
+  <message id="ACCESSIBLE_VALIDATER_DROP">
+    <source>Drop area for an app package</source>
+    <translation>Drop area for an app package</translation>
+  </message>
+  <message id="ACCESSIBLE_VALIDATER_APP_ICON">
+    <source>Icon of the app</source>
+    <translation>Icon of the app</translation>
+  </message>
+  <message id="ACCESSIBLE_CHECK_PASSED">
+    <source>[CHECK]: passed</source>
+    <translation>[CHECK]: passed</translation>
+  </message>
+  <message id="ACCESSIBLE_CHECK_FAILED">
+    <source>[CHECK]: problems found</source>
+    <translation>[CHECK]: problems found</translation>
+  </message>
+  <message id="ACCESSIBLE_CHECK_ABSENT">
+    <source>[CHECK]: not present</source>
+    <translation>[CHECK]: not present</translation>
+  </message>
 </context>
 </TS>
