@@ -7,7 +7,7 @@
   <!-- Shared by several tools -->
   <message id="BROWSE">
     <source>Browse…</source>
-    <translation>Durchsuchen …</translation>
+    <translation>Auswählen …</translation>
   </message>
   <message id="GENERATE">
     <source>Generate</source>
@@ -838,7 +838,7 @@
     <translation>Kein App-Paket</translation>
   </message>
   <message id="VALIDATER_IPA_MESSAGE">
-    <source>The file name must end in .ipa, in small letters. Please choose an iOS app package.</source>
+    <source>The file name must end in .ipa, in lower case. Please choose an iOS app package.</source>
     <translation>Der Dateiname muss auf .ipa enden, kleingeschrieben. Bitte ein iOS-App-Paket auswählen.</translation>
   </message>
 
@@ -936,8 +936,8 @@
     <translation>Bitte ein Icon mit [ICON] Pixeln ergänzen.</translation>
   </message>
   <message id="VALIDATE_DEFAULTS_TITLE">
-    <source>No launch image: add one of these</source>
-    <translation>Kein Startbild: eines davon ergänzen</translation>
+    <source>No launch image: add one</source>
+    <translation>Kein Startbild: eines ergänzen</translation>
   </message>
   <message id="VALIDATE_DEFAULTS_TEXT">
     <source>There is none of [DEFAULT] pixels.</source>
@@ -945,7 +945,7 @@
   </message>
   <message id="VALIDATE_BUNDLE_ID_TITLE">
     <source>Profile and app do not match</source>
-    <translation>Profil und App passen nicht zusammen</translation>
+    <translation>Profil passt nicht zur App</translation>
   </message>
   <message id="VALIDATE_BUNDLE_ID_TEXT">
     <source>The provisioning profile does not name this app’s bundle identifier. Sign the app with a profile made for it. (A wildcard profile counts as no match.)</source>

@@ -836,8 +836,8 @@
     <translation>Not an app package</translation>
   </message>
   <message id="VALIDATER_IPA_MESSAGE">
-    <source>The file name must end in .ipa, in small letters. Please choose an iOS app package.</source>
-    <translation>The file name must end in .ipa, in small letters. Please choose an iOS app package.</translation>
+    <source>The file name must end in .ipa, in lower case. Please choose an iOS app package.</source>
+    <translation>The file name must end in .ipa, in lower case. Please choose an iOS app package.</translation>
   </message>
 
   <!-- App package check: facts; the value follows its label directly, so a label ends in a blank -->
@@ -934,8 +934,8 @@
     <translation>Please add an icon of [ICON] pixels.</translation>
   </message>
   <message id="VALIDATE_DEFAULTS_TITLE">
-    <source>No launch image: add one of these</source>
-    <translation>No launch image: add one of these</translation>
+    <source>No launch image: add one</source>
+    <translation>No launch image: add one</translation>
   </message>
   <message id="VALIDATE_DEFAULTS_TEXT">
     <source>There is none of [DEFAULT] pixels.</source>

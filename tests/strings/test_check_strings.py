@@ -64,7 +64,7 @@ FAULTS = [
 ]
 
 
-def replace_second_translation(content: str, old: str, new: str) -> str:
+def replace_last(content: str, old: str, new: str) -> str:
     """Replaces the last occurrence, which is the translation where <source> holds the same words."""
     head, found, tail = content.rpartition(old)
     if not found:
@@ -93,7 +93,7 @@ class CheckStringsTest(unittest.TestCase):
         if isinstance(old, tuple):
             content = content.replace(old[0], "\0").replace(old[1], new[1]).replace("\0", new[0])
         else:
-            content = replace_second_translation(content, old, new)
+            content = replace_last(content, old, new)
         self.write(path, content)
 
     def test_whole_tree_has_no_problem(self) -> None:
