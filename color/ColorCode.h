@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "RgbaColor.h"
+#include "foundation/Result.h"
+
+#include <QString>
+#include <QStringView>
+
+#include <array>
+
+namespace lumora
+{
+
+/// The notations of the code list, in its order. The number is also the tag of the button that copies it.
+enum class ColorNotation {
+    Ios = 0,
+    Mac = 1,
+    Rgb = 2,
+    Css = 3,
+};
+
+inline constexpr int colorNotationCount = 4;
+
+/// What a colour text comes down to: the colour and its code in every notation.
+struct ColorCodes
+{
+    RgbaColor color;
+    std::array<QString, colorNotationCount> list;
+
+    const QString &code(ColorNotation notation) const { return list[static_cast<std::size_t>(notation)]; }
+};
+
+/// A component multiplied by 255 in single precision and cut toward zero, neither rounded nor clamped: 0.286 is 72.
+int componentByte(float component);
+
+/// "#rrggbb" in lower case. A component that is not between 0 and 1 is printed as its byte comes out, as wide as it is.
+QString stringFromColor(const RgbaColor &color);
+
+/// Reads a colour text: every "#" is removed, three digits are doubled to six, six get full opacity, and red, green,
+/// blue and alpha are the leading hexadecimal digits of the first four pairs. Refused with InvalidValue where a pair is
+/// missing or begins with no hexadecimal digit.
+Result<ColorCodes> colorWithHexString(const QString &text);
+
+/// True when the text may be copied as code: 3 to 7 characters, each "#" counted.
+bool isCopyableLength(QStringView text);
+
+/// Length check and conversion in one, for a text that is to be copied or printed as code.
+Result<ColorCodes> codesForCopying(const QString &text);
+
+} // namespace lumora

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "DeviceRecord.h"
+
+#include <vector>
+
+namespace lumora
+{
+
+/// The devices of the catalogue, each list in the order in which it is shown.
+struct DeviceLists
+{
+    std::vector<DeviceRecord> iPhones;
+    std::vector<DeviceRecord> iPods;
+    std::vector<DeviceRecord> iPads;
+
+    bool operator==(const DeviceLists &) const = default;
+};
+
+/// New lists of new records, every device active.
+std::vector<DeviceRecord> setupiPhones();
+std::vector<DeviceRecord> setupiPods();
+/// The first record is the iPad mini, told apart from the first iPad by its picture.
+std::vector<DeviceRecord> setupiPads();
+
+/// All three lists.
+DeviceLists setupData();
+
+} // namespace lumora

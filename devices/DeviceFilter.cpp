@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#include "DeviceFilter.h"
+
+#include <algorithm>
+
+namespace lumora
+{
+
+void FilterDictionary::clear()
+{
+    m_maxIos.reset();
+    m_features.clear();
+}
+
+void FilterDictionary::setFeature(std::string_view key, bool wanted)
+{
+    if (wanted)
+        m_features.insert(key);
+    else
+        m_features.erase(key);
+}
+
+bool matches(const DeviceRecord &device, const FilterDictionary &filter)
+{
+    if (filter.maxIos() && *filter.maxIos() > device.maxIos)
+        return false;
+    return std::ranges::all_of(filter.features(), [&](std::string_view key) { return hasFeature(device, key); });
+}
+
+void filterDevices(DeviceLists &devices, const FilterDictionary &filter)
+{
+    for (std::vector<DeviceRecord> *list : {&devices.iPhones, &devices.iPods, &devices.iPads}) {
+        for (DeviceRecord &device : *list)
+            device.active = matches(device, filter);
+    }
+}
+
+} // namespace lumora
