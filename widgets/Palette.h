@@ -16,6 +16,8 @@ inline QColor rgb(float red, float green, float blue)
 inline const QColor chromeText = rgb(0.204F, 0.286F, 0.369F);
 /// Rounded panels inside a pane.
 inline const QColor panel = rgb(0.925F, 0.941F, 0.945F);
+/// The dashed outline of a drop area at rest.
+inline const QColor panelOutline = rgb(0.741F, 0.765F, 0.780F);
 /// Thin rules inside popovers.
 inline const QColor separator = rgb(0.584F, 0.647F, 0.651F);
 

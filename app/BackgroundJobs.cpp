@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: MIT
+#include "BackgroundJobs.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+
+namespace lumora
+{
+
+namespace
+{
+
+QEvent::Type postedEvent()
+{
+    static const int type = QEvent::registerEventType();
+    return static_cast<QEvent::Type>(type);
+}
+
+} // namespace
+
+void BackgroundJob::post(std::function<void()> onMainThread) const
+{
+    {
+        const std::lock_guard lock(m_jobs.m_mutex);
+        m_jobs.m_posted.push_back(std::move(onMainThread));
+    }
+    QCoreApplication::postEvent(&m_jobs, new QEvent(postedEvent()));
+}
+
+bool BackgroundJob::isStopRequested() const
+{
+    const std::lock_guard lock(m_jobs.m_mutex);
+    return m_jobs.m_stopRequested;
+}
+
+BackgroundJobs::BackgroundJobs(Order order) : m_order(order)
+{
+    postedEvent();
+}
+
+BackgroundJobs::~BackgroundJobs()
+{
+    {
+        const std::lock_guard lock(m_mutex);
+        m_stopRequested = true;
+        m_waiting.clear();
+    }
+    waitForDone();
+    joinFinished();
+}
+
+void BackgroundJobs::start(Work work)
+{
+    joinFinished();
+    const std::lock_guard lock(m_mutex);
+    m_waiting.push_back(std::move(work));
+    if (m_order == Order::Serial && m_running > 0)
+        return;
+    ++m_running;
+    Worker &worker = m_workers.emplace_back();
+    worker.thread = std::thread([this, &worker] { run(worker); });
+}
+
+void BackgroundJobs::waitForDone()
+{
+    std::unique_lock lock(m_mutex);
+    m_workerFinished.wait(lock, [this] { return m_running == 0; });
+}
+
+bool BackgroundJobs::event(QEvent *event)
+{
+    if (event->type() != postedEvent())
+        return QObject::event(event);
+    std::function<void()> next;
+    {
+        const std::lock_guard lock(m_mutex);
+        if (m_posted.empty())
+            return true;
+        next = std::move(m_posted.front());
+        m_posted.pop_front();
+    }
+    next();
+    return true;
+}
+
+void BackgroundJobs::run(Worker &worker)
+{
+    std::unique_lock lock(m_mutex);
+    while (!m_waiting.empty()) {
+        {
+            const Work work = std::move(m_waiting.front());
+            m_waiting.pop_front();
+            lock.unlock();
+            work(BackgroundJob(*this));
+        }
+        lock.lock();
+    }
+    worker.finished = true;
+    --m_running;
+    m_workerFinished.notify_all();
+}
+
+void BackgroundJobs::joinFinished()
+{
+    std::list<Worker> finished;
+    {
+        const std::lock_guard lock(m_mutex);
+        for (auto worker = m_workers.begin(); worker != m_workers.end();) {
+            const auto current = worker++;
+            if (current->finished)
+                finished.splice(finished.end(), m_workers, current);
+        }
+    }
+    for (Worker &worker : finished)
+        worker.thread.join();
+}
+
+} // namespace lumora

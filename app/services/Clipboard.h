@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QImage>
+#include <QStringList>
+
+namespace lumora
+{
+
+/// The system's general clipboard.
+class Clipboard
+{
+public:
+    virtual ~Clipboard() = default;
+
+    /// Replaces whatever it holds by the text as its only content.
+    virtual void setText(const QString &text) = 0;
+    /// The paths of the copied files that are on this machine, in their order; empty when no files were copied.
+    virtual QStringList files() const = 0;
+    /// The copied picture, null when none was copied.
+    virtual QImage image() const = 0;
+};
+
+/// The clipboard of the desktop.
+class SystemClipboard final : public Clipboard
+{
+public:
+    void setText(const QString &text) override;
+    QStringList files() const override;
+    QImage image() const override;
+};
+
+} // namespace lumora

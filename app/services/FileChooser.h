@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QPointer>
+#include <QStringList>
+#include <QWidget>
+
+#include <functional>
+
+namespace lumora
+{
+
+/// What a chooser of existing files shows.
+struct FileRequest
+{
+    QString message;           ///< what the choice is for; the dialog's title
+    QString startFolder;       ///< where it opens, empty for the user's documents
+    QStringList nameFilters;   ///< "PNG pictures (*.png)", the first one active; empty for every file
+    bool severalFiles = false; ///< whether more than one may be chosen
+};
+
+/// Lets the user choose existing files.
+class FileChooser
+{
+public:
+    /// Receives the absolute paths, at least one, in the order of the choice.
+    using FilesChosen = std::function<void(const QStringList &paths)>;
+
+    virtual ~FileChooser() = default;
+
+    /// Opens a sheet on the window and returns at once; `chosen` is called when the user confirms, nothing when the
+    /// user cancels or the window goes away first.
+    virtual void chooseFiles(QWidget *window, const FileRequest &request, FilesChosen chosen) = 0;
+};
+
+/// The desktop's own file dialog.
+class DialogFileChooser final : public FileChooser
+{
+public:
+    void chooseFiles(QWidget *window, const FileRequest &request, FilesChosen chosen) override;
+};
+
+} // namespace lumora

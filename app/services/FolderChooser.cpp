@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#include "FolderChooser.h"
+
+#include "StartFolder.h"
+
+#include <QDir>
+#include <QFileDialog>
+
+namespace lumora
+{
+
+void DialogFolderChooser::chooseFolder(QWidget *window, const FolderRequest &request, FolderChosen chosen)
+{
+    auto *dialog = new QFileDialog(window, request.message, existingStartFolder(request.startFolder));
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setFileMode(QFileDialog::Directory);
+    dialog->setOption(QFileDialog::ShowDirsOnly);
+    QObject::connect(dialog, &QFileDialog::fileSelected, dialog, [chosen = std::move(chosen)](const QString &path) {
+        const QString absolute = QDir::cleanPath(QDir(path).absolutePath());
+        chosen(absolute);
+    });
+    dialog->open();
+}
+
+} // namespace lumora

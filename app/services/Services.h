@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Clipboard.h"
+#include "FileChooser.h"
+#include "FolderChooser.h"
+#include "UrlOpener.h"
+
+namespace lumora
+{
+
+/// What a controller reaches of the desktop around it; handed to each when it is made. The services outlive every
+/// controller. A value: copy it freely.
+struct Services
+{
+    FileChooser &fileChooser;
+    FolderChooser &folderChooser;
+    UrlOpener &urlOpener;
+    Clipboard &clipboard;
+};
+
+/// The services of the real desktop, owned in one place: the program's main().
+class DesktopServices
+{
+public:
+    Services services() { return {m_fileChooser, m_folderChooser, m_urlOpener, m_clipboard}; }
+
+private:
+    DialogFileChooser m_fileChooser;
+    DialogFolderChooser m_folderChooser;
+    DesktopUrlOpener m_urlOpener;
+    SystemClipboard m_clipboard;
+};
+
+} // namespace lumora
