@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "CommandLine.h"
 
+#include "ColorCommand.h"
 #include "Console.h"
+#include "DevicesCommand.h"
 #include "foundation/Log.h"
 #include "foundation/Version.h"
 
@@ -23,7 +25,10 @@ namespace
 /// Every command, in the order in which --help lists them.
 const std::vector<Command> &commands()
 {
-    static const std::vector<Command> all = {};
+    static const std::vector<Command> all = {
+        {"color", false, &declareColorCommand},
+        {"devices", false, &declareDevicesCommand},
+    };
     return all;
 }
 
