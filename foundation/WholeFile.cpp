@@ -1,0 +1,143 @@
+// SPDX-License-Identifier: MIT
+#include "WholeFile.h"
+
+#include <QFile>
+
+#include <algorithm>
+#include <cerrno>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace lumora
+{
+
+namespace
+{
+
+/// An open file descriptor that closes itself.
+class Descriptor
+{
+public:
+    explicit Descriptor(int descriptor) : m_descriptor(descriptor) {}
+    ~Descriptor() { close(); }
+    Descriptor(const Descriptor &) = delete;
+    Descriptor &operator=(const Descriptor &) = delete;
+
+    bool isOpen() const { return m_descriptor >= 0; }
+    int number() const { return m_descriptor; }
+
+    /// False when the system reports that earlier writes were lost.
+    bool close()
+    {
+        const int descriptor = m_descriptor;
+        m_descriptor = -1;
+        return descriptor < 0 || ::close(descriptor) == 0;
+    }
+
+private:
+    int m_descriptor;
+};
+
+FailureCode openingFailure(int error)
+{
+    switch (error) {
+    case ENOENT:
+    case ENOTDIR:
+    case ENAMETOOLONG:
+        return FailureCode::NotFound;
+    case EISDIR:
+        return FailureCode::IsFolder;
+    case EACCES:
+    case EPERM:
+        return FailureCode::NoPermission;
+    default:
+        return FailureCode::NotReadable;
+    }
+}
+
+bool writeAll(int descriptor, const QByteArray &bytes)
+{
+    qsizetype written = 0;
+    while (written < bytes.size()) {
+        const ssize_t count =
+            ::write(descriptor, bytes.constData() + written, static_cast<std::size_t>(bytes.size() - written));
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count < 0)
+            return false;
+        written += count;
+    }
+    return true;
+}
+
+} // namespace
+
+Outcome writeWholeFile(const QString &path, const QByteArray &bytes)
+{
+    const QByteArray name = QFile::encodeName(path);
+    Descriptor file(::open(name.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666));
+    if (!file.isOpen())
+        return Failure{FailureCode::CannotWrite, path, qt_error_string(errno)};
+    if (writeAll(file.number(), bytes) && file.close())
+        return Done{};
+    const QString reason = qt_error_string(errno);
+    file.close();
+    struct stat status
+    {
+    };
+    // Only a torso of our own is removed, never a device or a pipe that was named as the destination.
+    if (::lstat(name.constData(), &status) == 0 && S_ISREG(status.st_mode))
+        ::unlink(name.constData());
+    return Failure{FailureCode::CannotWrite, path, reason};
+}
+
+Result<QByteArray> readWholeFile(const QString &path, qint64 limit)
+{
+    const Descriptor file(::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC));
+    if (!file.isOpen())
+        return Failure{openingFailure(errno), path, {}};
+    return readWholeDescriptor(file.number(), path, limit);
+}
+
+Result<QByteArray> readWholeDescriptor(int descriptor, const QString &name, qint64 limit)
+{
+    struct stat status
+    {
+    };
+    if (::fstat(descriptor, &status) != 0)
+        return Failure{FailureCode::NotReadable, name, qt_error_string(errno)};
+    if (S_ISDIR(status.st_mode))
+        return Failure{FailureCode::IsFolder, name, {}};
+    const bool regular = S_ISREG(status.st_mode);
+    if (regular && status.st_size > limit)
+        return Failure{FailureCode::TooLarge, name, {}};
+
+    // One byte more than a regular file is said to hold tells its end without a second, growing read.
+    constexpr qsizetype step = 1 << 16;
+    QByteArray bytes(regular ? status.st_size + 1 : step, Qt::Uninitialized);
+    qsizetype filled = 0;
+    for (;;) {
+        if (filled == bytes.size()) {
+            if (filled > limit)
+                return Failure{FailureCode::TooLarge, name, {}};
+            bytes.resize(std::min<qint64>(std::max(2 * filled, step), limit + 1));
+        }
+        const ssize_t count =
+            ::read(descriptor, bytes.data() + filled, static_cast<std::size_t>(bytes.size() - filled));
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count < 0)
+            return Failure{openingFailure(errno), name, qt_error_string(errno)};
+        if (count == 0)
+            break;
+        filled += count;
+    }
+    if (filled > limit)
+        return Failure{FailureCode::TooLarge, name, {}};
+    bytes.truncate(filled);
+    return bytes;
+}
+
+} // namespace lumora

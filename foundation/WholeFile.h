@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Result.h"
+
+#include <QByteArray>
+#include <QString>
+
+namespace lumora
+{
+
+/// Writes the bytes as the whole content of the file at `path`, replacing what stands there. When they cannot all be
+/// written the torso is removed and the failure names the system's reason.
+Outcome writeWholeFile(const QString &path, const QByteArray &bytes);
+
+/// The whole content of a regular file, a pipe or a device, as long as it is no longer than `limit` bytes (`TooLarge`).
+Result<QByteArray> readWholeFile(const QString &path, qint64 limit);
+
+/// The same from an open file descriptor, which stays open; `name` stands in for it in a failure.
+Result<QByteArray> readWholeDescriptor(int descriptor, const QString &name, qint64 limit);
+
+} // namespace lumora

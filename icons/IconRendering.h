@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "RoundedCorners.h"
+#include "foundation/Result.h"
+
+#include <QImage>
+#include <QString>
+
+namespace lumora
+{
+
+/// The bitmap file types that pictures are written as; the number is the one the tools pass on.
+enum class BitmapType : int { Png = 4 };
+
+/// The whole picture stretched to `toSize` x `toSize` pixels, as `QImage::Format_RGBA8888_Premultiplied`. A size below
+/// 1 gives a null picture. Keeps no state; callable on any thread.
+QImage resizeImage(const QImage &image, int toSize);
+
+/// The same with its corners cut (see `CornerMode`): mode 0 gives exactly what the plain operation gives, a number of
+/// no mode square corners.
+QImage resizeImage(const QImage &image, int toSize, int withRoundedCorners);
+
+/// Writes the picture to a file as 8-bit RGBA, one pixel per point whatever its scale factor. Replaces what stands at
+/// the path; not atomic. A file that could not be written whole is removed again. Panes ignore the outcome, the command
+/// line must not.
+Outcome saveImage(const QImage &image, BitmapType withType, const QString &toPath);
+
+} // namespace lumora

@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: MIT
+#include "PixelFormat.h"
+
+#include <array>
+#include <cstdint>
+
+namespace lumora
+{
+
+namespace
+{
+
+/// value * alpha / 255, rounded to nearest.
+std::uint8_t scaledByAlpha(unsigned value, unsigned alpha)
+{
+    const unsigned product = value * alpha + 128;
+    return static_cast<std::uint8_t>((product + (product >> 8)) >> 8);
+}
+
+/// 255 / alpha in 16.16 fixed point, rounded up so that value * 255 / alpha rounds exactly at every byte.
+constexpr std::array<std::uint32_t, 256> inverseAlpha = [] {
+    std::array<std::uint32_t, 256> table{};
+    for (std::uint32_t alpha = 1; alpha < 256; ++alpha)
+        table[alpha] = (255U * 65536U + alpha - 1) / alpha;
+    return table;
+}();
+
+void premultiplyRow(std::uint8_t *pixel, int width)
+{
+    for (const std::uint8_t *end = pixel + 4 * width; pixel != end; pixel += 4) {
+        const unsigned alpha = pixel[3];
+        if (alpha == 255)
+            continue;
+        for (int channel = 0; channel < 3; ++channel)
+            pixel[channel] = scaledByAlpha(pixel[channel], alpha);
+    }
+}
+
+void straightenRow(std::uint8_t *pixel, int width)
+{
+    for (const std::uint8_t *end = pixel + 4 * width; pixel != end; pixel += 4) {
+        const unsigned alpha = pixel[3];
+        if (alpha == 255)
+            continue;
+        for (int channel = 0; channel < 3; ++channel) {
+            const unsigned value = std::min<unsigned>(pixel[channel], alpha);
+            pixel[channel] = static_cast<std::uint8_t>((value * inverseAlpha[alpha] + 0x8000) >> 16);
+        }
+    }
+}
+
+} // namespace
+
+QImage premultiplied(const QImage &picture)
+{
+    if (picture.format() == QImage::Format_RGBA8888_Premultiplied)
+        return picture;
+    if (picture.format() == QImage::Format_ARGB32_Premultiplied)
+        return picture.convertToFormat(QImage::Format_RGBA8888_Premultiplied);
+    QImage result = picture.convertToFormat(QImage::Format_RGBA8888);
+    for (int y = 0; y < result.height(); ++y)
+        premultiplyRow(result.scanLine(y), result.width());
+    result.reinterpretAsFormat(QImage::Format_RGBA8888_Premultiplied);
+    return result;
+}
+
+QImage straight(const QImage &picture)
+{
+    QImage result = premultiplied(picture);
+    for (int y = 0; y < result.height(); ++y)
+        straightenRow(result.scanLine(y), result.width());
+    result.reinterpretAsFormat(QImage::Format_RGBA8888);
+    return result;
+}
+
+} // namespace lumora

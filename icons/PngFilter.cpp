@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: MIT
+#include "PngFilter.h"
+
+#include <array>
+#include <cstdlib>
+#include <cstring>
+
+namespace lumora
+{
+
+namespace
+{
+
+constexpr int bytesPerPixel = 4;
+constexpr int filters = 5;
+
+int magnitude(std::uint8_t residue)
+{
+    return std::abs(static_cast<int>(static_cast<std::int8_t>(residue)));
+}
+
+/// The neighbour (left, above, above left) nearest to left + above - aboveLeft; without branches, so that it runs on
+/// whole vectors.
+std::uint8_t paeth(int left, int above, int aboveLeft)
+{
+    const int toLeft = std::abs(above - aboveLeft);
+    const int toAbove = std::abs(left - aboveLeft);
+    const int toAboveLeft = std::abs(above + left - 2 * aboveLeft);
+    const int upper = toAbove <= toAboveLeft ? above : aboveLeft;
+    return static_cast<std::uint8_t>(toLeft <= toAbove && toLeft <= toAboveLeft ? left : upper);
+}
+
+/// Fills `residues` by one filter and answers the sum of their magnitudes. `row` and `above` have a pixel of zeroes
+/// before their first one.
+template <typename Predict>
+unsigned residuesOf(const std::uint8_t *row, const std::uint8_t *above, int bytes, std::uint8_t *residues,
+                    Predict predict)
+{
+    unsigned sum = 0;
+    for (int i = 0; i < bytes; ++i) {
+        const auto predicted =
+            static_cast<std::uint8_t>(predict(row[i - bytesPerPixel], above[i], above[i - bytesPerPixel]));
+        const auto residue = static_cast<std::uint8_t>(row[i] - predicted);
+        residues[i] = residue;
+        sum += static_cast<unsigned>(magnitude(residue));
+    }
+    return sum;
+}
+
+/// A row of the picture, or zeroes above its first one, with a pixel of zeroes in front.
+class PaddedRow
+{
+public:
+    explicit PaddedRow(int bytes) : m_bytes(static_cast<std::size_t>(bytes + bytesPerPixel)) {}
+
+    void load(const QImage &picture, int y)
+    {
+        const std::size_t count = m_bytes.size() - bytesPerPixel;
+        if (y < 0)
+            std::memset(m_bytes.data() + bytesPerPixel, 0, count);
+        else
+            std::memcpy(m_bytes.data() + bytesPerPixel, picture.constScanLine(y), count);
+    }
+    const std::uint8_t *pixels() const { return m_bytes.data() + bytesPerPixel; }
+
+private:
+    std::vector<std::uint8_t> m_bytes;
+};
+
+} // namespace
+
+std::vector<std::uint8_t> filteredRows(const QImage &picture, int first, int end)
+{
+    const int bytes = picture.width() * bytesPerPixel;
+    std::vector<std::uint8_t> result;
+    result.reserve(static_cast<std::size_t>(end - first) * static_cast<std::size_t>(bytes + 1));
+
+    PaddedRow row(bytes);
+    PaddedRow above(bytes);
+    above.load(picture, first - 1);
+    std::array<std::vector<std::uint8_t>, filters> residues;
+    for (auto &candidate : residues)
+        candidate.resize(static_cast<std::size_t>(bytes));
+
+    for (int y = first; y < end; ++y) {
+        row.load(picture, y);
+        const std::uint8_t *pixels = row.pixels();
+        const std::uint8_t *upper = above.pixels();
+        const std::array<unsigned, filters> sums = {
+            residuesOf(pixels, upper, bytes, residues[0].data(), [](int, int, int) { return 0; }),
+            residuesOf(pixels, upper, bytes, residues[1].data(), [](int left, int, int) { return left; }),
+            residuesOf(pixels, upper, bytes, residues[2].data(), [](int, int up, int) { return up; }),
+            residuesOf(pixels, upper, bytes, residues[3].data(), [](int left, int up, int) { return (left + up) / 2; }),
+            residuesOf(pixels, upper, bytes, residues[4].data(), paeth),
+        };
+        const auto best = std::min_element(sums.begin(), sums.end()) - sums.begin();
+        result.push_back(static_cast<std::uint8_t>(best));
+        const auto &chosen = residues[static_cast<std::size_t>(best)];
+        result.insert(result.end(), chosen.begin(), chosen.end());
+        std::swap(row, above);
+    }
+    return result;
+}
+
+} // namespace lumora

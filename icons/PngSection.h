@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+#include <QImage>
+
+#include <cstdint>
+#include <span>
+
+namespace lumora
+{
+
+/// A run of rows of one picture, filtered and deflated by itself, so that several cores can work inside one picture.
+/// The sections of a picture follow from its size alone, never from the machine, so the file's bytes do not either.
+struct PngSection
+{
+    QByteArray deflated; ///< whole deflate blocks, ended at a byte's border; only the last section's end the stream
+    std::uint32_t checksum = 1; ///< Adler-32 of the filtered rows
+    qsizetype filteredBytes = 0;
+};
+
+/// How many sections a picture of that size is made of; 1 for small ones.
+int pngSectionCount(QSize size);
+
+/// Makes one section of a straight `Format_RGBA8888` picture. Sections may be made in any order, on any threads.
+PngSection makePngSection(const QImage &picture, int index);
+
+/// The PNG file of all sections of a picture of that size.
+QByteArray joinPngSections(QSize size, std::span<const PngSection> sections);
+
+} // namespace lumora
