@@ -49,6 +49,9 @@ inline const QColor socialBlueDark = rgb(0.224F, 0.663F, 0.843F);
 inline const QColor networkNavy = rgb(0.114F, 0.165F, 0.388F);
 inline const QColor networkNavyDark = rgb(0.082F, 0.122F, 0.290F);
 
+/// What falls from a popover onto the window below it.
+inline const QColor popoverShadow = QColor::fromRgbF(0.0F, 0.0F, 0.0F, 0.35F);
+
 /// The sidebar's own blue, before a tool colours it.
 inline const QColor sidebar = rgb(0.341F, 0.565F, 0.898F);
 
