@@ -1,0 +1,169 @@
+# SPDX-License-Identifier: MIT
+"""The Debian package, installed into a Debian that has nothing else: dependencies, commands, window, removal.
+
+Needs root (for chroot) and the Debian mirror that this machine itself uses. The bare system and the dependencies'
+packages are kept below the build folder, so that the second run is a quick one. Without root the package is unpacked
+instead and run against this machine's libraries, its dependencies only resolved; the output says so.
+"""
+import os
+import shutil
+import subprocess
+import sys
+import tempfile
+import time
+import unittest
+from pathlib import Path
+
+from place import BUILD, SOURCE, VERSION, package, run
+
+CACHE = BUILD / "fresh-root"
+BASE = CACHE / "base.tar"
+ARCHIVES = CACHE / "archives"
+AS_ROOT = os.geteuid() == 0
+
+
+def sources():
+    """The Debian repositories of this machine, as apt lines; anything that is not Debian's is left out."""
+    listed = run(
+        "apt-get", "indextargets", "--format", "$(ORIGIN)|deb $(REPO_URI) $(RELEASE) $(COMPONENT)", "Created-By: Packages"
+    ).stdout.splitlines()
+    return sorted({line.split("|")[1] for line in listed if line.startswith("Debian|")})
+
+
+def make_base():
+    CACHE.mkdir(exist_ok=True)
+    ARCHIVES.mkdir(exist_ok=True)
+    (ARCHIVES / "partial").mkdir(exist_ok=True)
+    release = dict(line.split("=", 1) for line in Path("/etc/os-release").read_text().splitlines() if "=" in line)
+    partial = BASE.with_suffix(".partial.tar")
+    result = run(
+        "mmdebstrap", "--quiet", "--variant=minbase", "--skip=cleanup/apt/lists", release["VERSION_CODENAME"], partial,
+        *sources(),
+    )
+    if result.returncode != 0:
+        raise AssertionError(f"no bare system could be made:\n{result.stdout}")
+    partial.rename(BASE)
+
+
+class Root:
+    """A throw-away system below the build folder; what is mounted for a command is gone when the command ends."""
+
+    def __init__(self):
+        self.folder = Path(tempfile.mkdtemp(prefix="root-", dir=CACHE))
+        self.folder.chmod(0o755)
+        result = run("tar", "--extract", "--numeric-owner", "--file", BASE, "--directory", self.folder, "--exclude=./dev/*")
+        assert result.returncode == 0, result.stdout
+        # The name server's address is all that the network needs.
+        shutil.copy("/etc/resolv.conf", self.folder / "etc/resolv.conf")
+
+    def remove(self):
+        shutil.rmtree(self.folder)
+
+    def command(self, *command, display=""):
+        mounts = (
+            'cd "$1" && mkdir -p archives && mount --bind "$2" archives && mount --rbind /dev dev && mount -t proc proc proc && '
+            'folder=$1 && shift 2 && exec chroot "$folder" "$@"'
+        )
+        environment = [
+            "env", "-i", "PATH=/usr/sbin:/usr/bin:/sbin:/bin", "HOME=/root", "LC_ALL=C.UTF-8",
+            "DEBIAN_FRONTEND=noninteractive", f"DISPLAY={display}",
+        ]
+        return [
+            "unshare", "--mount", "--propagation", "private", "sh", "-c", mounts, "sh", str(self.folder), str(ARCHIVES),
+            *environment, *map(str, command),
+        ]
+
+    def run(self, *command):
+        return run(*self.command(*command))
+
+    def apt(self, *arguments):
+        return self.run(
+            "apt-get", "--yes", "--quiet", "--no-install-recommends", "-o", "Dir::Cache::archives=/archives",
+            "-o", "Dpkg::Options::=--force-unsafe-io", "-o", "APT::Keep-Downloaded-Packages=true", "-o", "APT::Sandbox::User=root", *arguments,
+        )
+
+
+class Unpacked:
+    """What takes the root's place without root: the package's files, run on this system."""
+
+    def __init__(self):
+        self.folder = Path(tempfile.mkdtemp(prefix="unpacked-", dir=BUILD))
+        result = run("dpkg-deb", "--extract", package(), self.folder)
+        assert result.returncode == 0, result.stdout
+
+    def remove(self):
+        shutil.rmtree(self.folder)
+
+    def command(self, *command, display=""):
+        inside = [str(self.folder / part.lstrip("/")) if str(part).startswith("/work/") else str(part) for part in command]
+        environment = ["env", f"PATH={self.folder}/usr/bin:{os.environ['PATH']}", "LC_ALL=C.UTF-8", f"DISPLAY={display}"]
+        return [*environment, *inside]
+
+    def run(self, *command):
+        return run(*self.command(*command))
+
+
+class FreshRoot(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        if not AS_ROOT:
+            print(
+                "NOT ROOT, so no fresh root: the package is unpacked and run on this system, and apt only says whether it "
+                "could resolve the dependencies.",
+                file=sys.stderr,
+            )
+            cls.root = Unpacked()
+            result = run("apt-get", "install", "--simulate", "--no-install-recommends", package())
+            assert result.returncode == 0, result.stdout
+        else:
+            cls.root = cls.installed()
+        shutil.rmtree(cls.root.folder / "work", ignore_errors=True)
+        (cls.root.folder / "work").mkdir()
+
+    @classmethod
+    def installed(cls):
+        made_now = not BASE.exists()
+        if made_now:
+            make_base()
+        root = Root()
+        shutil.copy(package(), root.folder / "lumora.deb")
+        result = root.apt("install", "/lumora.deb")
+        if result.returncode != 0 and not made_now:
+            # The kept package lists may name versions that the mirror no longer has.
+            root.remove()
+            BASE.unlink()
+            return cls.installed()
+        assert result.returncode == 0, result.stdout
+        (root.folder / "lumora.deb").unlink()
+        return root
+
+    @classmethod
+    def tearDownClass(cls):
+        cls.root.remove()
+
+    def lumora(self, *arguments):
+        result = self.root.run("lumora", *arguments)
+        self.assertEqual(result.returncode, 0, result.stdout)
+        return result.stdout
+
+    def test_1_the_version_is_the_packages(self):
+        self.assertEqual(self.lumora("--version"), f"lumora {VERSION}\n")
+
+    def test_2_a_colour_becomes_code(self):
+        self.assertEqual(self.lumora("color", "#34485e", "--as", "hex").strip().lower(), "#34485e")
+
+    def test_2_devices_are_listed(self):
+        self.assertIn("iPhone", self.lumora("devices"))
+
+    @unittest.skipUnless(AS_ROOT, "nothing was installed")
+    def test_9_removal_leaves_no_trace(self):
+        result = self.root.apt("purge", "--autoremove", "lumora")
+        self.assertEqual(result.returncode, 0, result.stdout)
+        left = self.root.run("find", "/", "-xdev", "-iname", "*lumora*", "-not", "-path", "/archives/*").stdout
+        self.assertEqual(left, "")
+        remembered = self.root.run("grep", "-l", "-i", "-r", "lumora", "/var/lib/dpkg", "/etc", "/usr/share").stdout
+        self.assertEqual(remembered, "")
+
+
+if __name__ == "__main__":
+    unittest.main()
