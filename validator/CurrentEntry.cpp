@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: MIT
+#include "CurrentEntry.h"
+
+namespace lumora
+{
+
+namespace
+{
+
+constexpr uLong overflowed = 0xFFFFFFFF;
+constexpr uLong encryptedFlag = 1;
+constexpr uLong sizesFollowFlag = 8;
+constexpr uLong stored = 0;
+constexpr uLong deflated = 8;
+
+/// The last byte of the encryption header repeats one of the checksum, or of the time where the checksum comes after
+/// the data.
+unsigned char passwordCheck(const unz_file_info64 &info)
+{
+    if ((info.flag & sizesFollowFlag) != 0)
+        return static_cast<unsigned char>((info.dosDate >> 8) & 0xFF);
+    return static_cast<unsigned char>(info.crc >> 24);
+}
+
+} // namespace
+
+CurrentEntry::CurrentEntry(unzFile archive, const QString &path, const QByteArray &password)
+    : m_archive(archive), m_file(path), m_password(password)
+{}
+
+bool CurrentEntry::open()
+{
+    m_reader.reset();
+    m_unreadable = false;
+    const int status = m_password.isEmpty() ? ::unzOpenCurrentFile(m_archive)
+                                            : ::unzOpenCurrentFilePassword(m_archive, m_password.constData());
+    return status == UNZ_OK || openAround();
+}
+
+void CurrentEntry::noteSizes(const unz_file_info &info)
+{
+    if (m_reader)
+        return;
+    if (info.uncompressed_size == overflowed || info.compressed_size == overflowed)
+        m_unreadable = !openAround();
+    else
+        m_unreadable = info.compression_method != stored && info.compression_method != deflated;
+}
+
+QByteArray CurrentEntry::extraFields(unz_file_info64 &info) const
+{
+    if (::unzGetCurrentFileInfo64(m_archive, &info, nullptr, 0, nullptr, 0, nullptr, 0) != UNZ_OK)
+        return {};
+    QByteArray fields(static_cast<qsizetype>(info.size_file_extra), '\0');
+    if (!fields.isEmpty() && ::unzGetCurrentFileInfo64(m_archive, &info, nullptr, 0, fields.data(),
+                                                       static_cast<uLong>(fields.size()), nullptr, 0) != UNZ_OK)
+        return {};
+    return fields;
+}
+
+bool CurrentEntry::openAround()
+{
+    unz_file_info64 info = {};
+    const QByteArray fields = extraFields(info);
+    ZipEntryData data;
+    data.compressedSize = info.compressed_size;
+    data.size = info.uncompressed_size;
+    data.method = static_cast<unsigned>(info.compression_method);
+    data.crc = static_cast<std::uint32_t>(info.crc);
+    data.encrypted = (info.flag & encryptedFlag) != 0;
+    data.passwordCheck = passwordCheck(info);
+    const auto wide = zip64Values(fields, info.uncompressed_size, info.compressed_size);
+    if (wide) {
+        data.size = wide->size;
+        data.compressedSize = wide->compressedSize;
+    }
+
+    if (!m_file.isOpen() && !m_file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+        return false;
+    int method = 0;
+    int level = 0;
+    if (::unzOpenCurrentFile2(m_archive, &method, &level, 1) == UNZ_OK) {
+        data.offset = ::unzGetCurrentFileZStreamPos64(m_archive);
+    } else {
+        const auto offset = wide && wide->localHeader ? dataBehindLocalHeader(m_file, *wide->localHeader) : std::nullopt;
+        if (!offset)
+            return false;
+        data.offset = *offset;
+    }
+    m_reader = ZipEntryReader::open(m_file, data, m_password);
+    return m_reader != nullptr;
+}
+
+int CurrentEntry::read(char *buffer, unsigned size)
+{
+    if (m_unreadable)
+        return UNZ_BADZIPFILE;
+    return m_reader ? m_reader->read(buffer, size) : ::unzReadCurrentFile(m_archive, buffer, size);
+}
+
+bool CurrentEntry::close()
+{
+    const int status = ::unzCloseCurrentFile(m_archive);
+    if (!m_reader)
+        return status == UNZ_OK && !m_unreadable;
+    const bool matches = m_reader->checksumMatches();
+    m_reader.reset();
+    return matches;
+}
+
+} // namespace lumora

@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "foundation/Result.h"
+
+#include <QByteArray>
+#include <QList>
+#include <QString>
+
+#include <cstdint>
+
+namespace lumora
+{
+
+/// A file descriptor that closes itself.
+class FileDescriptor
+{
+public:
+    FileDescriptor() = default;
+    explicit FileDescriptor(int number) : m_number(number) {}
+    FileDescriptor(FileDescriptor &&other) noexcept : m_number(other.release()) {}
+    FileDescriptor &operator=(FileDescriptor &&other) noexcept;
+    ~FileDescriptor();
+
+    bool valid() const { return m_number >= 0; }
+    int number() const { return m_number; }
+
+private:
+    int release();
+
+    int m_number = -1;
+};
+
+/// The one folder below which an extraction may write. Every step of a path is opened from the one before it without
+/// following links, so that no name and no link that lies in the way leads out of it.
+class ExtractionFolder
+{
+public:
+    /// Makes the folder and its parents where they are missing. Links on the way to the destination itself are the
+    /// user's own and are followed.
+    static Result<ExtractionFolder> open(const QString &path);
+
+    const QString &path() const { return m_path; }
+
+    /// Makes the folder with these steps, parents included. False when something that is no folder is in the way.
+    bool makeFolder(const QList<QByteArray> &steps);
+    /// True when something stands at the steps; a link counts as itself.
+    bool exists(const QList<QByteArray> &steps);
+    /// Opens the regular file at the steps for writing, emptied, its parent folders made first. Invalid when it cannot
+    /// be made or something other than a regular file stands there.
+    FileDescriptor createFile(const QList<QByteArray> &steps);
+
+    /// Folders made so far.
+    std::uint64_t foldersMade() const { return m_foldersMade; }
+    /// Bytes that an ordinary user can still write to the file system.
+    std::uint64_t freeBytes() const;
+
+private:
+    ExtractionFolder(QString path, FileDescriptor root) : m_path(std::move(path)), m_root(std::move(root)) {}
+
+    /// Descriptor of the folder at the steps, made where it is missing; -1 when it cannot be reached. Belongs to this
+    /// object and lasts until the next call.
+    int reach(const QList<QByteArray> &steps);
+
+    QString m_path;
+    FileDescriptor m_root;
+    /// The folder reached last: archives list a folder's files one after the other.
+    FileDescriptor m_last;
+    QList<QByteArray> m_lastSteps;
+    std::uint64_t m_foldersMade = 0;
+};
+
+} // namespace lumora

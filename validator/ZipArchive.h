@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "CurrentEntry.h"
+#include "ExtractionFolder.h"
+#include "ExtractionLimits.h"
+#include "ZipArchiveDelegate.h"
+#include "foundation/Result.h"
+
+#include <QByteArray>
+#include <QDate>
+#include <QString>
+#include <QStringList>
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <stop_token>
+
+#include <minizip/unzip.h>
+#include <minizip/zip.h>
+
+namespace lumora
+{
+
+/// A zip archive over minizip: extracts every entry into a folder, or creates an archive and adds files to it. At most
+/// one archive is open for reading and one for writing. All work is done on the calling thread.
+///
+/// Archives are hostile until proven otherwise: an entry whose name leaves the destination, directly or through a link,
+/// counts as a target that cannot be created, and an extraction ends before it passes its limits.
+class ZipArchive
+{
+public:
+    ZipArchive() = default;
+    /// Closes an archive open for writing. One open for reading is its opener's to close, by `UnzipCloseFile`.
+    ~ZipArchive();
+    Q_DISABLE_COPY_MOVE(ZipArchive)
+
+    /// Creates the archive, in place of a file that stands at the path.
+    bool CreateZipFile2(const QString &path);
+    /// Encrypts the files added until the archive is closed (traditional zip encryption).
+    bool CreateZipFile2(const QString &path, const QString &password);
+    /// Adds the file at `path` under the name `newname`, deflated, its contents whole in memory.
+    bool addFileToZip(const QString &path, const QString &newname);
+    /// False when no archive was open or it could not be finished. Forgets the password.
+    bool CloseZipFile2();
+
+    bool UnzipOpenFile(const QString &path);
+    bool UnzipOpenFile(const QString &path, const QString &password);
+    /// Extracts all entries below the folder. True when the walk reached the archive's end, even where single entries
+    /// could not be read or created; false when an entry could not be opened or a limit was reached.
+    bool UnzipFileTo(const QString &path, bool overWrite);
+    /// True when no archive was open or it closed without error. Forgets the password.
+    bool UnzipCloseFile();
+
+    /// Forwards the message to the delegate. The question asked first is for the selector without colon, the operation
+    /// sent the one with it: a delegate that only has the latter is never called.
+    void OutputErrorMessage(const QString &message);
+    /// Asks the delegate, under the same rule, whether the file may be replaced; true when there is nobody to ask.
+    bool OverWrite(const QString &path);
+    /// The earliest date of the format, 1 January 1980.
+    QDate Date1980() const;
+
+    std::shared_ptr<ZipArchiveDelegate> delegate() const { return m_delegate; }
+    void setDelegate(std::shared_ptr<ZipArchiveDelegate> delegate) { m_delegate = std::move(delegate); }
+
+    void setLimits(const ExtractionLimits &limits) { m_limits = limits; }
+    /// A stop requested through the token ends an extraction at its next block, with the result false.
+    void setStopToken(std::stop_token token) { m_stop = std::move(token); }
+
+    /// Why the last extraction answered false; nothing when it reached the end or was stopped through the token.
+    const std::optional<Failure> &extractionFailure() const { return m_failure; }
+    /// Names of entries whose data the last extraction found damaged (the first `damagedNamesKept` of them).
+    const QStringList &damagedEntries() const { return m_damaged; }
+    static constexpr qsizetype damagedNamesKept = 100;
+
+private:
+    enum class Step {
+        Next, ///< go on with the next entry
+        Stop, ///< the walk cannot or must not go on
+    };
+
+    Step extractEntry(CurrentEntry &entry, ExtractionFolder &folder, bool overWrite);
+    /// The current entry's stored name; nothing when its information cannot be read.
+    std::optional<QByteArray> currentEntry(unz_file_info &info);
+    Step writeEntry(CurrentEntry &entry, ExtractionFolder &folder, FileDescriptor descriptor, const unz_file_info &info,
+                    const QString &name);
+    /// Counts the bytes about to be written and stops when they pass a limit.
+    Step mayWrite(const ExtractionFolder &folder, std::uint64_t bytes);
+    Step stop(FailureCode code, const QString &detail);
+
+    bool addPlain(const QByteArray &name, const zip_fileinfo &record, const QByteArray &contents);
+    bool addEncrypted(const QByteArray &name, const zip_fileinfo &record, const QByteArray &contents);
+
+    zipFile m_zipFile = nullptr;
+    unzFile m_unzFile = nullptr;
+    QByteArray m_password;
+    std::shared_ptr<ZipArchiveDelegate> m_delegate;
+
+    QString m_path; ///< of the archive open for reading
+    ExtractionLimits m_limits;
+    std::stop_token m_stop;
+    std::optional<Failure> m_failure;
+    QStringList m_damaged;
+    std::uint64_t m_entries = 0;
+    std::uint64_t m_bytes = 0;
+    std::uint64_t m_bytesUntilDiskCheck = 0;
+};
+
+} // namespace lumora

@@ -1,0 +1,163 @@
+// SPDX-License-Identifier: MIT
+#include "ZipEntryReader.h"
+
+#include <QtEndian>
+
+#include <algorithm>
+#include <cstring>
+
+namespace lumora
+{
+
+namespace
+{
+
+constexpr std::uint64_t overflowed = 0xFFFFFFFF;
+constexpr quint16 zip64Id = 1;
+constexpr qint64 localHeaderSize = 30;
+constexpr quint32 localHeaderMark = 0x04034b50;
+constexpr unsigned stored = 0;
+constexpr unsigned deflated = 8;
+
+} // namespace
+
+std::optional<Zip64Values> zip64Values(const QByteArray &extraFields, std::uint64_t size, std::uint64_t compressedSize)
+{
+    for (qsizetype at = 0; at + 4 <= extraFields.size();) {
+        const quint16 id = qFromLittleEndian<quint16>(extraFields.constData() + at);
+        const quint16 length = qFromLittleEndian<quint16>(extraFields.constData() + at + 2);
+        at += 4;
+        if (id != zip64Id) {
+            at += length;
+            continue;
+        }
+        const qsizetype end = std::min<qsizetype>(at + length, extraFields.size());
+        const auto take = [&]() -> std::optional<std::uint64_t> {
+            if (at + 8 > end)
+                return std::nullopt;
+            at += 8;
+            return qFromLittleEndian<quint64>(extraFields.constData() + at - 8);
+        };
+        Zip64Values values = {size, compressedSize, std::nullopt};
+        for (std::uint64_t *value : {&values.size, &values.compressedSize}) {
+            if (*value != overflowed)
+                continue;
+            const auto wide = take();
+            if (!wide)
+                return std::nullopt;
+            *value = *wide;
+        }
+        values.localHeader = take();
+        return values;
+    }
+    return std::nullopt;
+}
+
+std::optional<std::uint64_t> dataBehindLocalHeader(QFile &archive, std::uint64_t localHeader)
+{
+    char header[localHeaderSize];
+    if (localHeader > static_cast<std::uint64_t>(archive.size()) || !archive.seek(static_cast<qint64>(localHeader)) ||
+        archive.read(header, localHeaderSize) != localHeaderSize ||
+        qFromLittleEndian<quint32>(header) != localHeaderMark)
+        return std::nullopt;
+    return localHeader + static_cast<std::uint64_t>(localHeaderSize) + qFromLittleEndian<quint16>(header + 26) +
+           qFromLittleEndian<quint16>(header + 28);
+}
+
+ZipEntryReader::ZipEntryReader(QFile &archive, const ZipEntryData &data)
+    : m_archive(archive), m_data(data), m_position(data.offset), m_compressedLeft(data.compressedSize),
+      m_left(data.size)
+{}
+
+std::unique_ptr<ZipEntryReader> ZipEntryReader::open(QFile &archive, const ZipEntryData &data,
+                                                     const QByteArray &password)
+{
+    if (data.method != stored && data.method != deflated)
+        return nullptr;
+    // The constructor is private, which std::make_unique cannot reach.
+    std::unique_ptr<ZipEntryReader> reader(new ZipEntryReader(archive, data));
+    if (data.encrypted && !reader->passHeader(password))
+        return nullptr;
+    if (data.method == deflated && ::inflateInit2(&reader->m_stream, -MAX_WBITS) != Z_OK)
+        return nullptr;
+    return reader;
+}
+
+ZipEntryReader::~ZipEntryReader()
+{
+    if (m_data.method == deflated && m_stream.state != nullptr)
+        ::inflateEnd(&m_stream);
+}
+
+bool ZipEntryReader::passHeader(const QByteArray &password)
+{
+    std::array<unsigned char, ZipCipher::headerSize> header = {};
+    if (m_compressedLeft < header.size() || !m_archive.seek(static_cast<qint64>(m_position)) ||
+        m_archive.read(reinterpret_cast<char *>(header.data()), header.size()) != qint64{header.size()})
+        return false;
+    m_position += header.size();
+    m_compressedLeft -= header.size();
+    m_cipher.emplace(password);
+    m_cipher->decrypt(header);
+    return header.back() == m_data.passwordCheck;
+}
+
+bool ZipEntryReader::fill()
+{
+    if (m_stream.avail_in > 0 || m_compressedLeft == 0)
+        return true;
+    const auto wanted = static_cast<qint64>(std::min<std::uint64_t>(m_input.size(), m_compressedLeft));
+    if (!m_archive.seek(static_cast<qint64>(m_position)) ||
+        m_archive.read(reinterpret_cast<char *>(m_input.data()), wanted) != wanted)
+        return false;
+    m_position += static_cast<std::uint64_t>(wanted);
+    m_compressedLeft -= static_cast<std::uint64_t>(wanted);
+    if (m_cipher)
+        m_cipher->decrypt(std::span(m_input.data(), static_cast<std::size_t>(wanted)));
+    m_stream.next_in = m_input.data();
+    m_stream.avail_in = static_cast<uInt>(wanted);
+    return true;
+}
+
+int ZipEntryReader::read(char *buffer, unsigned size)
+{
+    auto *bytes = reinterpret_cast<unsigned char *>(buffer);
+    const auto wanted = static_cast<unsigned>(std::min<std::uint64_t>(size, m_left));
+    if (wanted == 0 || m_ended)
+        return 0;
+    const int count = m_data.method == stored ? copy(bytes, wanted) : inflateInto(bytes, wanted);
+    if (count > 0) {
+        m_left -= static_cast<unsigned>(count);
+        m_checksum = static_cast<std::uint32_t>(::crc32(m_checksum, bytes, static_cast<uInt>(count)));
+    }
+    return count;
+}
+
+int ZipEntryReader::copy(unsigned char *buffer, unsigned size)
+{
+    if (!fill() || m_stream.avail_in == 0)
+        return -1;
+    const unsigned count = std::min(size, m_stream.avail_in);
+    std::memcpy(buffer, m_stream.next_in, count);
+    m_stream.next_in += count;
+    m_stream.avail_in -= count;
+    return static_cast<int>(count);
+}
+
+int ZipEntryReader::inflateInto(unsigned char *buffer, unsigned size)
+{
+    m_stream.next_out = buffer;
+    m_stream.avail_out = size;
+    while (m_stream.avail_out > 0 && !m_ended) {
+        if (!fill())
+            return -1;
+        const int status = ::inflate(&m_stream, Z_SYNC_FLUSH);
+        if (status == Z_STREAM_END)
+            m_ended = true;
+        else if (status != Z_OK)
+            return -1;
+    }
+    return static_cast<int>(size - m_stream.avail_out);
+}
+
+} // namespace lumora

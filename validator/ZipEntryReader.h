@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "ZipCipher.h"
+
+#include <QByteArray>
+#include <QFile>
+#include <QString>
+
+#include <array>
+#include <cstdint>
+#include <memory>
+#include <optional>
+
+#include <zlib.h>
+
+namespace lumora
+{
+
+/// Where an entry's data lies in its archive and what it should come to.
+struct ZipEntryData
+{
+    std::uint64_t offset = 0; ///< of the first data byte (of the encryption header where there is one) in the file
+    std::uint64_t compressedSize = 0;
+    std::uint64_t size = 0;
+    unsigned method = 0; ///< 0 stored, 8 deflated
+    std::uint32_t crc = 0;
+    bool encrypted = false;
+    unsigned char passwordCheck = 0; ///< what the last byte of the encryption header decrypts to
+};
+
+/// The 64-bit values of an entry whose 32-bit fields overflowed.
+struct Zip64Values
+{
+    std::uint64_t size = 0;
+    std::uint64_t compressedSize = 0;
+    std::optional<std::uint64_t> localHeader; ///< present when the field holds a further value
+};
+
+/// Reads the Zip64 extra field (id 1) out of an entry's extra fields. Only those of the two sizes that are 0xFFFFFFFF
+/// are in it, in this order. Nothing when there is no such field or it is too short.
+std::optional<Zip64Values> zip64Values(const QByteArray &extraFields, std::uint64_t size, std::uint64_t compressedSize);
+
+/// Position of the data behind the local header at `localHeader`, nothing when no such header stands there.
+std::optional<std::uint64_t> dataBehindLocalHeader(QFile &archive, std::uint64_t localHeader);
+
+/// Reads one entry that Debian's minizip cannot read: an encrypted one (the library is built without decryption), or
+/// one whose sizes or position need 64 bits (it compares the 32-bit fields with a 64-bit -1 and so never looks).
+class ZipEntryReader
+{
+public:
+    /// Nothing when the method is unknown or the password is wrong. The archive must outlive the reader.
+    static std::unique_ptr<ZipEntryReader> open(QFile &archive, const ZipEntryData &data, const QByteArray &password);
+    ~ZipEntryReader();
+    Q_DISABLE_COPY_MOVE(ZipEntryReader)
+
+    /// Up to `size` bytes into the buffer: the number of bytes, 0 at the end, negative when the data is damaged.
+    int read(char *buffer, unsigned size);
+    /// True when what was read is what the archive's checksum says.
+    bool checksumMatches() const { return m_checksum == m_data.crc; }
+
+private:
+    ZipEntryReader(QFile &archive, const ZipEntryData &data);
+
+    bool passHeader(const QByteArray &password);
+    /// Fills the input buffer when it is empty; false on a short read.
+    bool fill();
+    int copy(unsigned char *buffer, unsigned size);
+    int inflateInto(unsigned char *buffer, unsigned size);
+
+    QFile &m_archive;
+    ZipEntryData m_data;
+    std::optional<ZipCipher> m_cipher;
+    std::array<unsigned char, 16384> m_input = {};
+    z_stream m_stream = {};
+    std::uint64_t m_position = 0;
+    std::uint64_t m_compressedLeft = 0;
+    std::uint64_t m_left = 0;
+    std::uint32_t m_checksum = 0;
+    bool m_ended = false;
+};
+
+} // namespace lumora
