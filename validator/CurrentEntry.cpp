@@ -26,7 +26,8 @@ unsigned char passwordCheck(const unz_file_info64 &info)
 
 CurrentEntry::CurrentEntry(unzFile archive, const QString &path, const QByteArray &password)
     : m_archive(archive), m_file(path), m_password(password)
-{}
+{
+}
 
 bool CurrentEntry::open()
 {
@@ -47,21 +48,23 @@ void CurrentEntry::noteSizes(const unz_file_info &info)
         m_unreadable = info.compression_method != stored && info.compression_method != deflated;
 }
 
-QByteArray CurrentEntry::extraFields(unz_file_info64 &info) const
+std::optional<QByteArray> CurrentEntry::extraFields(unz_file_info64 &info) const
 {
     if (::unzGetCurrentFileInfo64(m_archive, &info, nullptr, 0, nullptr, 0, nullptr, 0) != UNZ_OK)
-        return {};
+        return std::nullopt;
     QByteArray fields(static_cast<qsizetype>(info.size_file_extra), '\0');
     if (!fields.isEmpty() && ::unzGetCurrentFileInfo64(m_archive, &info, nullptr, 0, fields.data(),
                                                        static_cast<uLong>(fields.size()), nullptr, 0) != UNZ_OK)
-        return {};
+        return std::nullopt;
     return fields;
 }
 
 bool CurrentEntry::openAround()
 {
     unz_file_info64 info = {};
-    const QByteArray fields = extraFields(info);
+    const auto fields = extraFields(info);
+    if (!fields)
+        return false;
     ZipEntryData data;
     data.compressedSize = info.compressed_size;
     data.size = info.uncompressed_size;
@@ -69,7 +72,7 @@ bool CurrentEntry::openAround()
     data.crc = static_cast<std::uint32_t>(info.crc);
     data.encrypted = (info.flag & encryptedFlag) != 0;
     data.passwordCheck = passwordCheck(info);
-    const auto wide = zip64Values(fields, info.uncompressed_size, info.compressed_size);
+    const auto wide = zip64Values(*fields, info.uncompressed_size, info.compressed_size);
     if (wide) {
         data.size = wide->size;
         data.compressedSize = wide->compressedSize;
@@ -82,7 +85,8 @@ bool CurrentEntry::openAround()
     if (::unzOpenCurrentFile2(m_archive, &method, &level, 1) == UNZ_OK) {
         data.offset = ::unzGetCurrentFileZStreamPos64(m_archive);
     } else {
-        const auto offset = wide && wide->localHeader ? dataBehindLocalHeader(m_file, *wide->localHeader) : std::nullopt;
+        const auto offset =
+            wide && wide->localHeader ? dataBehindLocalHeader(m_file, *wide->localHeader) : std::nullopt;
         if (!offset)
             return false;
         data.offset = *offset;

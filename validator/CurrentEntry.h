@@ -7,6 +7,7 @@
 #include <QFile>
 
 #include <memory>
+#include <optional>
 
 #include <minizip/unzip.h>
 
@@ -17,7 +18,8 @@ namespace lumora
 class CurrentEntry
 {
 public:
-    /// `archive` is the open minizip handle of the archive at `path`, `password` empty for none. Both stay the caller's.
+    /// `archive` is the open minizip handle of the archive at `path`, `password` empty for none. Both stay the
+    /// caller's.
     CurrentEntry(unzFile archive, const QString &path, const QByteArray &password);
 
     /// False when the entry cannot be opened: damage, an unknown method, a wrong password.
@@ -33,7 +35,8 @@ public:
 private:
     /// Opens the entry's data without minizip.
     bool openAround();
-    QByteArray extraFields(unz_file_info64 &info) const;
+    /// The entry's information and its extra fields; nothing when they cannot be read.
+    std::optional<QByteArray> extraFields(unz_file_info64 &info) const;
 
     unzFile m_archive;
     QFile m_file;

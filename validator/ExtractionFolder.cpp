@@ -89,8 +89,8 @@ FileDescriptor ExtractionFolder::createFile(const QList<QByteArray> &steps)
     if (parent < 0)
         return {};
     // A pipe or device that stands at the name must neither block the walk nor receive the bytes.
-    FileDescriptor file(::openat(parent, steps.last().constData(),
-                                 O_WRONLY | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, 0666));
+    FileDescriptor file(
+        ::openat(parent, steps.last().constData(), O_WRONLY | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, 0666));
     struct stat status = {};
     if (!file.valid() || ::fstat(file.number(), &status) != 0 || !S_ISREG(status.st_mode))
         return {};

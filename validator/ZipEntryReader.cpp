@@ -67,7 +67,8 @@ std::optional<std::uint64_t> dataBehindLocalHeader(QFile &archive, std::uint64_t
 ZipEntryReader::ZipEntryReader(QFile &archive, const ZipEntryData &data)
     : m_archive(archive), m_data(data), m_position(data.offset), m_compressedLeft(data.compressedSize),
       m_left(data.size)
-{}
+{
+}
 
 std::unique_ptr<ZipEntryReader> ZipEntryReader::open(QFile &archive, const ZipEntryData &data,
                                                      const QByteArray &password)
