@@ -49,6 +49,19 @@ inline const QColor socialBlueDark = rgb(0.224F, 0.663F, 0.843F);
 inline const QColor networkNavy = rgb(0.114F, 0.165F, 0.388F);
 inline const QColor networkNavyDark = rgb(0.082F, 0.122F, 0.290F);
 
+/// What falls from a popover onto the window below it.
+inline const QColor popoverShadow = QColor::fromRgbF(0.0F, 0.0F, 0.0F, 0.35F);
+
+/// Filled buttons: their text, and their colours before their owner sets others.
+inline const QColor buttonText = rgb(1, 1, 1);
+inline const QColor button = icons;
+inline const QColor buttonHover = iconsBorder;
+/// What cannot be used is drawn at this opacity.
+inline constexpr double disabledOpacity = 0.5;
+/// Marks the control that keys go to: on a pane, and the inner of the two lines on a filled control.
+inline const QColor focusRing = iconsBorder;
+inline const QColor focusRingInner = rgb(1, 1, 1);
+
 /// The sidebar's own blue, before a tool colours it.
 inline const QColor sidebar = rgb(0.341F, 0.565F, 0.898F);
 

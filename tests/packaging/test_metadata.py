@@ -161,7 +161,7 @@ class FileKinds(unittest.TestCase):
 
 class Flatpak(unittest.TestCase):
     def setUp(self):
-        result = run("flatpak-builder", "--show-manifest", METADATA / f"{APPLICATION_ID}.yml")
+        result = run("flatpak-builder", f"--state-dir={BUILD}/flatpak-builder", "--show-manifest", METADATA / f"{APPLICATION_ID}.yml")
         self.assertEqual(result.returncode, 0, result.stdout)
         self.manifest = json.loads(result.stdout[result.stdout.index("{") :])
         self.said = result.stdout[: result.stdout.index("{")]

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#include "CheckboxButton.h"
+
+namespace lumora
+{
+
+CheckboxButton::CheckboxButton(QWidget *parent)
+    : SelectionButton(QAccessible::CheckBox, QStringLiteral("button_checkbox"), parent),
+      m_invalidImage(QStringLiteral("button_checkbox_invalid"))
+{
+}
+
+void CheckboxButton::setInvalid(bool invalid)
+{
+    m_invalid = invalid;
+    m_staticBox = true;
+    setCurrentImage(invalid ? m_invalidImage : activeImage());
+}
+
+void CheckboxButton::setIdle()
+{
+    setCurrentImage(idleImage());
+}
+
+void CheckboxButton::mouseEntered()
+{
+    if (!m_staticBox)
+        SelectionButton::mouseEntered();
+}
+
+void CheckboxButton::mouseExited()
+{
+    if (!m_staticBox)
+        SelectionButton::mouseExited();
+}
+
+void CheckboxButton::mouseDown()
+{
+    if (!m_staticBox)
+        SelectionButton::mouseDown();
+}
+
+} // namespace lumora

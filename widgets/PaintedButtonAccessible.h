@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QAccessibleWidget>
+
+namespace lumora
+{
+
+class PaintedButton;
+
+/// What a screen reader learns about a painted button: its role, its text as its name, whether it is checked, and how
+/// to press it.
+class PaintedButtonAccessible final : public QAccessibleWidget
+{
+public:
+    explicit PaintedButtonAccessible(PaintedButton *button);
+
+    /// Makes every painted button known to the platform's accessibility. Harmless when called again.
+    static void install();
+
+    QString text(QAccessible::Text kind) const override;
+    QAccessible::State state() const override;
+    QStringList actionNames() const override;
+    void doAction(const QString &name) override;
+
+private:
+    PaintedButton *button() const;
+    bool isSelection() const;
+};
+
+} // namespace lumora

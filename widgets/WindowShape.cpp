@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: MIT
+#include "WindowShape.h"
+
+#include <QGuiApplication>
+#include <QWindow>
+
+#include <xcb/shape.h>
+#include <xcb/xcb.h>
+
+#include <cstdlib>
+#include <memory>
+#include <vector>
+
+namespace lumora
+{
+
+namespace
+{
+
+struct FreeReply
+{
+    void operator()(void *reply) const { std::free(reply); }
+};
+
+/// The X11 connection, or nullptr on every other platform.
+xcb_connection_t *x11Connection()
+{
+    const auto *x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+    return x11 ? x11->connection() : nullptr;
+}
+
+} // namespace
+
+bool windowsAreTranslucent()
+{
+    xcb_connection_t *connection = x11Connection();
+    if (!connection)
+        return true;
+    // A compositing manager owns the selection named after the screen it serves.
+    constexpr std::string_view selection = "_NET_WM_CM_S0";
+    const auto atomCookie = xcb_intern_atom(connection, 0, selection.size(), selection.data());
+    const std::unique_ptr<xcb_intern_atom_reply_t, FreeReply> atom(
+        xcb_intern_atom_reply(connection, atomCookie, nullptr));
+    if (!atom)
+        return false;
+    const auto ownerCookie = xcb_get_selection_owner(connection, atom->atom);
+    const std::unique_ptr<xcb_get_selection_owner_reply_t, FreeReply> owner(
+        xcb_get_selection_owner_reply(connection, ownerCookie, nullptr));
+    return owner && owner->owner != XCB_WINDOW_NONE;
+}
+
+void setInputRegion(QWindow *window, const QRegion &region)
+{
+    if (xcb_connection_t *connection = x11Connection()) {
+        const qreal ratio = window->devicePixelRatio();
+        std::vector<xcb_rectangle_t> rectangles;
+        for (const QRect &rect : region) {
+            const QRect pixels = QRectF(rect.topLeft() * ratio, rect.size() * ratio).toAlignedRect();
+            rectangles.push_back({static_cast<int16_t>(pixels.x()), static_cast<int16_t>(pixels.y()),
+                                  static_cast<uint16_t>(pixels.width()), static_cast<uint16_t>(pixels.height())});
+        }
+        xcb_shape_rectangles(connection, XCB_SHAPE_SO_SET, XCB_SHAPE_SK_INPUT, XCB_CLIP_ORDERING_UNSORTED,
+                             static_cast<xcb_window_t>(window->winId()), 0, 0, static_cast<uint32_t>(rectangles.size()),
+                             rectangles.data());
+        xcb_flush(connection);
+    } else if (QGuiApplication::platformName().startsWith(QStringLiteral("wayland"))) {
+        // Here a window's mask is its input region alone.
+        window->setMask(region);
+    }
+}
+
+} // namespace lumora

@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "GalleryPage.h"
+
+namespace lumora::gallery
+{
+
+/// The buttons: idle, under the pointer, pressed, with the keyboard's focus, disabled.
+class ButtonPage final : public GalleryPage
+{
+    Q_OBJECT
+public:
+    explicit ButtonPage(QWidget *parent = nullptr);
+};
+
+} // namespace lumora::gallery
