@@ -14,6 +14,10 @@ inline QColor rgb(float red, float green, float blue)
 
 /// Body text, borders and everything that is neither a tool's nor a message's colour.
 inline const QColor chromeText = rgb(0.204F, 0.286F, 0.369F);
+/// The same, pressed or under the pointer.
+inline const QColor chromeTextDark = rgb(0.153F, 0.216F, 0.278F);
+/// The window, the panes and the popups.
+inline const QColor window = rgb(1, 1, 1);
 /// Rounded panels inside a pane.
 inline const QColor panel = rgb(0.925F, 0.941F, 0.945F);
 /// The dashed outline of a drop area at rest.
@@ -64,5 +68,9 @@ inline const QColor focusRingInner = rgb(1, 1, 1);
 
 /// The sidebar's own blue, before a tool colours it.
 inline const QColor sidebar = rgb(0.341F, 0.565F, 0.898F);
+/// The selected item's frame, the item under the pointer, and the ring while keys go to the sidebar.
+inline const QColor sidebarSelection = rgb(1, 1, 1);
+inline const QColor sidebarHover = QColor::fromRgbF(1, 1, 1, 0.15F);
+inline const QColor sidebarFocus = QColor::fromRgbF(1, 1, 1, 0.6F);
 
 } // namespace lumora::palette

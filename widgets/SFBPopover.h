@@ -3,6 +3,7 @@
 
 #include "widgets/PopoverAnchor.h"
 #include "widgets/SFBPopoverWindow.h"
+#include "widgets/ViewController.h"
 
 #include <QObject>
 #include <QPointer>
@@ -16,7 +17,6 @@ namespace lumora
 {
 
 class PopoverKeyStatus;
-class ViewController;
 
 /// Shows any view in a balloon that points at a spot in a parent window, fades in and out, follows its parent, and
 /// closes itself when it is told to. Points are in the parent window's base coordinates: from its lower left corner, y

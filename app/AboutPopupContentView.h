@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "services/Services.h"
+
+#include <QWidget>
+
+#include <memory>
+
+namespace Ui
+{
+class AboutPopupContentView;
+}
+
+namespace lumora
+{
+
+/// What the application is, its version and maker, and three ways to reach them.
+class AboutPopupContentView final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// Shows the version of the running application.
+    explicit AboutPopupContentView(UrlOpener &urlOpener, QWidget *parent = nullptr);
+    ~AboutPopupContentView() override;
+
+    const Ui::AboutPopupContentView &outlets() const { return *m_ui; }
+
+public slots:
+    void twitterClicked();
+    void facebookClicked();
+    void mailClicked();
+
+private:
+    void awakeFromNib();
+    void openAddress(const QString &address);
+
+    std::unique_ptr<Ui::AboutPopupContentView> m_ui;
+    UrlOpener &m_urlOpener;
+};
+
+} // namespace lumora

@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "TargetAction.h"
+#include "widgets/NamedImage.h"
+
+#include <QAbstractButton>
+#include <QColor>
+
+namespace lumora
+{
+
+/// One item of the sidebar: an image in the middle and a rounded frame while it is selected. Name it for screen
+/// readers; it shows no text.
+class ITSidebarItemCell : public QAbstractButton
+{
+    Q_OBJECT
+
+public:
+    struct Shadow
+    {
+        QPointF offset;
+        QColor color;
+        qreal blurRadius = 0;
+    };
+
+    explicit ITSidebarItemCell(QWidget *parent = nullptr);
+
+    const NamedImage &image() const { return m_image; }
+    void setImage(const NamedImage &image);
+    /// Shown while the mouse is held down on the item and while it is selected; null shows the image then too.
+    const NamedImage &alternateImage() const { return m_alternateImage; }
+    void setAlternateImage(const NamedImage &image);
+
+    TargetAction<ITSidebarItemCell> &targetAction() { return m_targetAction; }
+
+    /// On is selected.
+    bool state() const { return isChecked(); }
+    bool isHighlighted() const { return isDown(); }
+    /// The image that is drawn in the present state.
+    const NamedImage &shownImage() const;
+    /// Offered to whoever wants to draw one; the cell's own drawing uses none.
+    static Shadow shadow();
+    /// The natural size centred in the frame.
+    static QRectF imageRect(const QRectF &frame, const QSizeF &imageSize);
+    /// The middle of the selection's line.
+    static QRectF selectionRect(const QRectF &frame);
+
+    QSize sizeHint() const override;
+
+protected:
+    /// The sidebar alone decides what is selected.
+    void nextCheckState() override {}
+    void enterEvent(QEnterEvent *event) override;
+    void leaveEvent(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    void drawBackgroundWithFrame(QPainter *painter, const QRectF &frame) const;
+    void drawInteriorWithFrame(QPainter *painter, const QRectF &frame) const;
+    void drawImageWithFrame(QPainter *painter, const QRectF &frame) const;
+    void drawImage(QPainter *painter, const NamedImage &image, const QRectF &withFrame) const;
+    void drawSelectionWithFrame(QPainter *painter, const QRectF &frame) const;
+
+    NamedImage m_image;
+    NamedImage m_alternateImage;
+    TargetAction<ITSidebarItemCell> m_targetAction;
+};
+
+} // namespace lumora

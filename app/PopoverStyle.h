@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+namespace lumora
+{
+
+class SFBPopover;
+
+/// What the shell's and the tools' popovers have in common: white, square, a thick border, closed when the user turns
+/// to something else. The border's colour is set by whoever shows it.
+void stylePopover(SFBPopover &popover);
+
+} // namespace lumora

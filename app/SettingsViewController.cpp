@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MIT
+#include "SettingsViewController.h"
+
+#include "ButtonStyle.h"
+#include "LabelStyle.h"
+#include "foundation/Log.h"
+#include "ui_SettingsViewController.h"
+#include "widgets/Fonts.h"
+#include "widgets/Palette.h"
+
+namespace lumora
+{
+
+AttributedString contactText(const QString &firstLine, const QString &secondLine, const ContactDetails &details)
+{
+    QString filled = secondLine;
+    filled.replace(QStringLiteral("[MAIL]"), details.mail);
+    filled.replace(QStringLiteral("[TWITTER]"), details.twitter);
+    filled.replace(QStringLiteral("[FACEBOOK]"), details.facebook);
+    AttributedString text(firstLine + u'\n' + filled);
+    text.setFontOfFirst(firstLine, latoBold(18));
+    for (const QString &value : {details.mail, details.twitter, details.facebook})
+        text.setFontOfFirst(value, latoBold(13));
+    return text;
+}
+
+SettingsViewController::SettingsViewController(const Services &services, QObject *parent)
+    : QObject(parent), m_services(services), m_view(new QWidget), m_ui(std::make_unique<Ui::SettingsViewController>())
+{
+    m_ui->setupUi(m_view);
+    awakeFromNib();
+}
+
+SettingsViewController::~SettingsViewController()
+{
+    delete m_view;
+}
+
+void SettingsViewController::awakeFromNib()
+{
+    QPalette colors = m_view->palette();
+    colors.setColor(QPalette::Window, palette::window);
+    m_view->setPalette(colors);
+    m_view->setAutoFillBackground(true);
+
+    styleButton(m_ui->contactMailButton, QStringLiteral("Mail"), palette::validator, palette::validatorBorder);
+    styleButton(m_ui->contactTwitterButton, QStringLiteral("Twitter"), palette::validator, palette::validatorBorder);
+    m_ui->appIconImageView->setImage(NamedImage(QStringLiteral("info_app_icon")));
+
+    styleLabel(m_ui->appTitleLabel, latoBold(18), palette::chromeText);
+    m_ui->appTitleLabel->setText(
+        qtTrId("INFORMATION_APP").replace(QStringLiteral("[VERSION]"), QCoreApplication::applicationVersion()));
+
+    const AttributedString info =
+        contactText(qtTrId("INFORMATION_INFO_1"), qtTrId("INFORMATION_INFO_2"),
+                    {qtTrId("INFORMATION_MAIL"), qtTrId("INFORMATION_TWITTER"), QStringLiteral("Facebook")});
+    styleLabel(m_ui->infoLabel, latoRegular(13), palette::chromeText);
+    m_ui->infoLabel->setTextFormat(Qt::RichText);
+    m_ui->infoLabel->setText(info.toHtml());
+    m_ui->infoLabel->setAccessibleName(info.text());
+
+    connect(m_ui->contactMailButton, &HoverButton::clicked, this, &SettingsViewController::contactMailButtonPressed);
+    connect(m_ui->contactTwitterButton, &HoverButton::clicked, this,
+            &SettingsViewController::contactTwitterButtonPressed);
+}
+
+void SettingsViewController::contactMailButtonPressed()
+{
+    const QUrl url(QStringLiteral("mailto:") + qtTrId("INFORMATION_MAIL") +
+                   QStringLiteral("?Subject=HALLO&body=Hallooootjes"));
+    logLine(QStringLiteral("URL: ") + m_services.urlOpener.applicationFor(url));
+    m_services.urlOpener.open(url);
+}
+
+void SettingsViewController::contactTwitterButtonPressed()
+{
+    m_services.urlOpener.open(QUrl(qtTrId("ABOUT_TWITTER_WEB")));
+}
+
+} // namespace lumora
