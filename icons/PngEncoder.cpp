@@ -2,8 +2,12 @@
 #include "PngEncoder.h"
 
 #include "PixelFormat.h"
+#include "PngRows.h"
 #include "PngSection.h"
 
+#include <algorithm>
+#include <atomic>
+#include <thread>
 #include <vector>
 
 namespace lumora
@@ -13,11 +17,24 @@ QByteArray encodePng(const QImage &picture)
 {
     if (picture.isNull())
         return {};
-    const QImage pixels = straight(picture);
-    std::vector<PngSection> sections;
-    for (int index = 0; index < pngSectionCount(pixels.size()); ++index)
-        sections.push_back(makePngSection(pixels, index));
-    return joinPngSections(pixels.size(), sections);
+    return encodePng(ImageRows(straight(picture)), 1);
+}
+
+QByteArray encodePng(const PngRows &picture, int threads)
+{
+    std::vector<PngSection> sections(static_cast<std::size_t>(pngSectionCount(picture.size())));
+    std::atomic<std::size_t> next = 0;
+    const auto makeSections = [&] {
+        for (std::size_t index = next++; index < sections.size(); index = next++)
+            sections[index] = makePngSection(picture, static_cast<int>(index));
+    };
+    {
+        std::vector<std::jthread> helpers;
+        for (std::size_t i = 1; i < std::min(static_cast<std::size_t>(std::max(threads, 1)), sections.size()); ++i)
+            helpers.emplace_back(makeSections);
+        makeSections();
+    }
+    return joinPngSections(picture.size(), sections);
 }
 
 } // namespace lumora

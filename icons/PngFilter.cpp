@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "PngFilter.h"
 
+#include "PngRows.h"
+
+#include <algorithm>
 #include <array>
 #include <cstdlib>
 #include <cstring>
+#include <span>
 
 namespace lumora
 {
@@ -53,15 +57,20 @@ class PaddedRow
 public:
     explicit PaddedRow(int bytes) : m_bytes(static_cast<std::size_t>(bytes + bytesPerPixel)) {}
 
-    void load(const QImage &picture, int y)
+    void load(const PngRows &picture, int y)
     {
-        const std::size_t count = m_bytes.size() - bytesPerPixel;
+        const std::span<std::uint8_t> row = std::span(m_bytes).subspan(bytesPerPixel);
         if (y < 0)
-            std::memset(m_bytes.data() + bytesPerPixel, 0, count);
+            std::fill(row.begin(), row.end(), std::uint8_t{0});
         else
-            std::memcpy(m_bytes.data() + bytesPerPixel, picture.constScanLine(y), count);
+            picture.readRow(y, row);
     }
     const std::uint8_t *pixels() const { return m_bytes.data() + bytesPerPixel; }
+    bool isZero() const
+    {
+        return std::all_of(m_bytes.begin(), m_bytes.end(), [](std::uint8_t byte) { return byte == 0; });
+    }
+    bool operator==(const PaddedRow &) const = default;
 
 private:
     std::vector<std::uint8_t> m_bytes;
@@ -69,9 +78,9 @@ private:
 
 } // namespace
 
-std::vector<std::uint8_t> filteredRows(const QImage &picture, int first, int end)
+std::vector<std::uint8_t> filteredRows(const PngRows &picture, int first, int end)
 {
-    const int bytes = picture.width() * bytesPerPixel;
+    const int bytes = picture.size().width() * bytesPerPixel;
     std::vector<std::uint8_t> result;
     result.reserve(static_cast<std::size_t>(end - first) * static_cast<std::size_t>(bytes + 1));
 
@@ -84,6 +93,13 @@ std::vector<std::uint8_t> filteredRows(const QImage &picture, int first, int end
 
     for (int y = first; y < end; ++y) {
         row.load(picture, y);
+        if (row == above && !row.isZero()) {
+            // Large flat areas: nothing but zeroes is left of a repeated row, and no other filter manages that.
+            constexpr std::uint8_t up = 2;
+            result.push_back(up);
+            result.insert(result.end(), static_cast<std::size_t>(bytes), 0);
+            continue;
+        }
         const std::uint8_t *pixels = row.pixels();
         const std::uint8_t *upper = above.pixels();
         const std::array<unsigned, filters> sums = {

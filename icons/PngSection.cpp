@@ -2,6 +2,7 @@
 #include "PngSection.h"
 
 #include "PngFilter.h"
+#include "PngRows.h"
 
 #include <QtEndian>
 
@@ -114,11 +115,12 @@ int pngSectionCount(QSize size)
     return static_cast<int>(std::clamp<qsizetype>(bytes / bytesPerSection, 1, std::max(size.height(), 1)));
 }
 
-PngSection makePngSection(const QImage &picture, int index)
+PngSection makePngSection(const PngRows &picture, int index)
 {
+    const qint64 height = picture.size().height();
     const qint64 sections = pngSectionCount(picture.size());
-    const int first = static_cast<int>(picture.height() * qint64{index} / sections);
-    const int end = static_cast<int>(picture.height() * (qint64{index} + 1) / sections);
+    const int first = static_cast<int>(height * index / sections);
+    const int end = static_cast<int>(height * (index + 1) / sections);
     const std::vector<std::uint8_t> rows = filteredRows(picture, first, end);
 
     const std::unique_ptr<libdeflate_compressor, FreeCompressor> compressor(

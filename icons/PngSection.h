@@ -2,13 +2,15 @@
 #pragma once
 
 #include <QByteArray>
-#include <QImage>
+#include <QSize>
 
 #include <cstdint>
 #include <span>
 
 namespace lumora
 {
+
+class PngRows;
 
 /// A run of rows of one picture, filtered and deflated by itself, so that several cores can work inside one picture.
 /// The sections of a picture follow from its size alone, never from the machine, so the file's bytes do not either.
@@ -22,8 +24,8 @@ struct PngSection
 /// How many sections a picture of that size is made of; 1 for small ones.
 int pngSectionCount(QSize size);
 
-/// Makes one section of a straight `Format_RGBA8888` picture. Sections may be made in any order, on any threads.
-PngSection makePngSection(const QImage &picture, int index);
+/// Makes one section of a picture. Sections may be made in any order, on any threads.
+PngSection makePngSection(const PngRows &picture, int index);
 
 /// The PNG file of all sections of a picture of that size.
 QByteArray joinPngSections(QSize size, std::span<const PngSection> sections);

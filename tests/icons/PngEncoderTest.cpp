@@ -3,6 +3,7 @@
 
 #include "PngAnatomy.h"
 #include "icons/PixelFormat.h"
+#include "icons/PngRows.h"
 #include "icons/PngSection.h"
 
 #include <QColorSpace>
@@ -23,6 +24,13 @@ QImage noise(QSize size, QImage::Format format, quint32 seed = 1)
         for (int x = 0; x < size.width(); ++x)
             picture.setPixel(x, y, random.generate());
     }
+    return picture;
+}
+
+QImage transparent(QSize size)
+{
+    QImage picture(size, QImage::Format_RGBA8888);
+    picture.fill(Qt::transparent);
     return picture;
 }
 
@@ -48,6 +56,8 @@ private slots:
     void holdsTheseChunksOnly();
     void isMadeOfSeveralSectionsWhereLarge();
     void sameBytesAgain();
+    void sameBytesFromRowsOnAnyNumberOfThreads_data();
+    void sameBytesFromRowsOnAnyNumberOfThreads();
     void straightenedColoursRoundExactly();
     void premultipliedColoursRoundExactly();
     void nullPictureGivesNothing();
@@ -66,6 +76,8 @@ void PngEncoderTest::readsBackAsItWas_data()
     QTest::newRow("several sections, noise") << noise({1024, 1024}, QImage::Format_ARGB32);
     QTest::newRow("several sections, gradient") << gradient({1024, 1024});
     QTest::newRow("several sections, one colour") << QImage(QSize(1024, 1024), QImage::Format_RGB32);
+    QTest::newRow("rows that repeat") << gradient({300, 1}).scaled(300, 40);
+    QTest::newRow("transparent black rows that repeat") << transparent({300, 40});
     QTest::newRow("odd rows per section") << gradient({1000, 1013});
 }
 
@@ -110,6 +122,23 @@ void PngEncoderTest::sameBytesAgain()
     const QImage picture = noise({600, 600}, QImage::Format_ARGB32);
     QCOMPARE(encodePng(picture), encodePng(picture));
     QCOMPARE(encodePng(premultiplied(picture)), encodePng(picture));
+}
+
+void PngEncoderTest::sameBytesFromRowsOnAnyNumberOfThreads_data()
+{
+    QTest::addColumn<QImage>("picture");
+    QTest::addColumn<int>("threads");
+    for (const int threads : {0, 1, 2, 7}) {
+        QTest::addRow("one section, %d threads", threads) << gradient({57, 57}) << threads;
+        QTest::addRow("several sections, %d threads", threads) << noise({600, 600}, QImage::Format_ARGB32) << threads;
+    }
+}
+
+void PngEncoderTest::sameBytesFromRowsOnAnyNumberOfThreads()
+{
+    QFETCH(QImage, picture);
+    QFETCH(int, threads);
+    QCOMPARE(encodePng(ImageRows(straight(picture)), threads), encodePng(picture));
 }
 
 void PngEncoderTest::straightenedColoursRoundExactly()
