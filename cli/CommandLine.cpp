@@ -4,6 +4,7 @@
 #include "ColorCommand.h"
 #include "Console.h"
 #include "DevicesCommand.h"
+#include "PlaceholdersCommand.h"
 #include "foundation/Log.h"
 #include "foundation/Version.h"
 
@@ -26,6 +27,7 @@ namespace
 const std::vector<Command> &commands()
 {
     static const std::vector<Command> all = {
+        {"placeholders", true, &declarePlaceholdersCommand},
         {"color", false, &declareColorCommand},
         {"devices", false, &declareDevicesCommand},
     };
@@ -81,9 +83,9 @@ int runCommandLine(int argc, char **argv)
         return status == 0 ? 0 : static_cast<int>(ExitStatus::Usage);
     }
 
-    // What the window's engines note for its log is no business of a script; failures are told by the commands
-    // themselves.
-    QLoggingCategory::setFilterRules(QStringLiteral("lumora.info=false"));
+    // What the engines note for the window's log, and what Qt and its plug-ins remark on, is no business of a script;
+    // failures are told by the commands themselves.
+    QLoggingCategory::setFilterRules(QStringLiteral("*.info=false\n*.warning=false"));
     const Command *command = commandNamed(argv[1]);
     const auto application = makeApplication(argc, argv, command != nullptr && command->drawsText);
     QCoreApplication::setApplicationName(QStringLiteral("lumora"));

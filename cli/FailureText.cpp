@@ -30,6 +30,10 @@ constexpr Wording wordings[] = {
     {FailureCode::MissingContent, "lacks what it has to contain", "check how it was made"},
     {FailureCode::NotReadable, "could not be read", "check that the file is undamaged"},
     {FailureCode::InvalidValue, "is not accepted", "see --help"},
+    {FailureCode::TooSmall, "is too small to be halved", "use a picture of at least 2 x 2 pixels"},
+    {FailureCode::NotMarked, "is not a .png file marked @2x or -hd", "rename it or leave it out"},
+    {FailureCode::WouldReplaceSource, "is one of the pictures to be scaled down",
+     "choose another folder, or allow it with --overwrite"},
 };
 
 } // namespace

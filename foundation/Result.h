@@ -25,6 +25,9 @@ enum class FailureCode {
     MissingContent,     ///< a well-formed file that lacks what is looked for in it
     NotReadable,        ///< readable bytes that do not make sense as what they claim to be
     InvalidValue,       ///< a typed value out of its range
+    TooSmall,           ///< a picture of which halving leaves no pixel; `detail` gives its size
+    NotMarked,          ///< a file that is no PNG marked as double resolution
+    WouldReplaceSource, ///< writing would replace one of the files that the run reads
 };
 
 /// One failure as data: what happened, to which file or value, and what the system or the decoder said about it.
