@@ -1,0 +1,182 @@
+// SPDX-License-Identifier: MIT
+#include "DownscaleBatch.h"
+
+#include "MemoryBudget.h"
+#include "RetinaName.h"
+#include "RetinaPicture.h"
+#include "foundation/WholeFile.h"
+#include "icons/PictureReader.h"
+
+#include <QFileInfo>
+#include <QHash>
+#include <QSaveFile>
+#include <QThread>
+
+#include <condition_variable>
+#include <map>
+#include <mutex>
+#include <thread>
+#include <vector>
+
+namespace lumora
+{
+
+namespace
+{
+
+/// What all pictures in work may take together.
+constexpr qint64 memoryForPictures = 768LL * 1024 * 1024;
+
+Result<HalvedPicture> readAndHalve(const QString &path, MemoryBudget &budget)
+{
+    const QFileInfo file(path);
+    // A pipe that nobody writes to would hold up the whole batch.
+    if (file.exists() && !file.isFile() && !file.isDir())
+        return Failure{FailureCode::NotReadable, path, QStringLiteral("not a regular file")};
+    const Result<QByteArray> bytes = readWholeFile(path, largestPictureFile);
+    if (!bytes)
+        return bytes.failure();
+    const Result<QSize> stored = storedPixelSize(bytes.value(), path);
+    if (!stored)
+        return stored.failure();
+    const MemoryBudget::Share share(budget, halvingMemory(stored.value()));
+    return halvedPicture(bytes.value(), path);
+}
+
+/// Replaces an existing file only once the new content is whole on disk, so that a full disk costs nobody the old one.
+Outcome writeReplacing(const QString &path, const QByteArray &bytes)
+{
+    if (!QFileInfo::exists(path))
+        return writeWholeFile(path, bytes);
+    QSaveFile file(path);
+    file.setDirectWriteFallback(true);
+    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit())
+        return Done{};
+    return Failure{FailureCode::CannotWrite, path, file.errorString()};
+}
+
+/// One path for each file, however it is spelled or linked to.
+QString identity(const QString &path)
+{
+    const QFileInfo file(path);
+    const QString canonical = file.canonicalFilePath();
+    if (!canonical.isEmpty())
+        return canonical;
+    return QFileInfo(file.path()).canonicalFilePath() + u'/' + file.fileName();
+}
+
+/// The batch in work: workers halve pictures, the thread that called writes them in order.
+class Batch
+{
+public:
+    Batch(const QStringList &paths, const QString &destination) : m_paths(paths), m_destination(destination)
+    {
+        findDependencies();
+    }
+
+    void run(const FileDownscaled &downscaled)
+    {
+        const auto workers = std::min<qsizetype>(std::max(QThread::idealThreadCount(), 1), m_paths.size());
+        m_window = 2 * workers;
+        std::vector<std::jthread> threads;
+        for (qsizetype i = 0; i < workers; ++i)
+            threads.emplace_back([this] { work(); });
+        for (qsizetype index = 0; index < m_paths.size(); ++index) {
+            const DownscaledFile file = write(index, take(index));
+            if (!downscaled(index, file))
+                break;
+        }
+        const std::lock_guard lock(m_mutex);
+        m_stopped = true;
+        m_changed.notify_all();
+    }
+
+private:
+    /// For each file the number of files that have to be written before it may be read.
+    void findDependencies()
+    {
+        QHash<QString, qsizetype> writtenBy;
+        m_readableAfter.reserve(static_cast<std::size_t>(m_paths.size()));
+        for (qsizetype index = 0; index < m_paths.size(); ++index) {
+            const QString &path = m_paths.at(index);
+            m_readableAfter.push_back(writtenBy.value(identity(path), -1) + 1);
+            writtenBy.insert(identity(downscaledPath(path, m_destination)), index);
+        }
+    }
+
+    void work()
+    {
+        for (;;) {
+            std::unique_lock lock(m_mutex);
+            const qsizetype index = m_next++;
+            if (index >= m_paths.size())
+                return;
+            m_changed.wait(lock, [this, index] {
+                return m_stopped ||
+                       (index < m_written + m_window && m_written >= m_readableAfter[static_cast<std::size_t>(index)]);
+            });
+            if (m_stopped)
+                return;
+            lock.unlock();
+            Result<HalvedPicture> picture = readAndHalve(m_paths.at(index), m_budget);
+            lock.lock();
+            m_halved.emplace(index, std::move(picture));
+            m_changed.notify_all();
+        }
+    }
+
+    Result<HalvedPicture> take(qsizetype index)
+    {
+        std::unique_lock lock(m_mutex);
+        m_changed.wait(lock, [this, index] { return m_halved.contains(index); });
+        Result<HalvedPicture> picture = std::move(m_halved.at(index));
+        m_halved.erase(index);
+        return picture;
+    }
+
+    DownscaledFile write(qsizetype index, const Result<HalvedPicture> &picture)
+    {
+        const QString &path = m_paths.at(index);
+        DownscaledFile file{path, downscaledPath(path, m_destination), {}, 0, Done{}};
+        if (picture) {
+            file.size = picture.value().size;
+            file.bytes = picture.value().png.size();
+            file.outcome = writeReplacing(file.target, picture.value().png);
+        } else {
+            file.outcome = picture.failure();
+        }
+        const std::lock_guard lock(m_mutex);
+        m_written = index + 1;
+        m_changed.notify_all();
+        return file;
+    }
+
+    const QStringList m_paths;
+    const QString m_destination;
+    std::vector<qsizetype> m_readableAfter;
+    qsizetype m_window = 0;
+    MemoryBudget m_budget{memoryForPictures};
+
+    std::mutex m_mutex; ///< guards everything below
+    std::condition_variable m_changed;
+    std::map<qsizetype, Result<HalvedPicture>> m_halved;
+    qsizetype m_next = 0;
+    qsizetype m_written = 0;
+    bool m_stopped = false;
+};
+
+} // namespace
+
+QString downscaledPath(const QString &source, const QString &destination)
+{
+    return destination + u'/' + singleResolutionName(source);
+}
+
+void createImagesFromDataPaths(const QStringList &paths, const QString &destination, const FileDownscaled &downscaled)
+{
+    if (paths.isEmpty())
+        return;
+    Batch(paths, destination).run(downscaled);
+}
+
+} // namespace lumora

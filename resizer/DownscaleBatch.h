@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "foundation/Result.h"
+
+#include <QSize>
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+
+namespace lumora
+{
+
+/// One file's way through the down-scaler.
+struct DownscaledFile
+{
+    QString source;
+    QString target; ///< the path written to
+    QSize size;     ///< of the written picture, in pixels
+    qint64 bytes = 0;
+    Outcome outcome = Done{};
+};
+
+/// Where a source's half goes: its name without markers, in the destination folder.
+QString downscaledPath(const QString &source, const QString &destination);
+
+/// Told about file number `index` of the batch (from 0), once for each file and in their order, whatever became of it.
+/// Answers whether the batch is to go on.
+using FileDownscaled = std::function<bool(qsizetype index, const DownscaledFile &file)>;
+
+/// Halves every file of `paths` into the destination folder, replacing what stands there under the same names. A file
+/// that cannot be read or written is reported as such and the batch goes on.
+///
+/// Several files are in work at once, with memory bounded whatever their number and size, but the result is that of one
+/// after another: files are written and reported in order, on the calling thread, and a source that an earlier file of
+/// the batch replaces is read after that.
+void createImagesFromDataPaths(const QStringList &paths, const QString &destination, const FileDownscaled &downscaled);
+
+} // namespace lumora

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#include "RetinaPicture.h"
+
+#include "RetinaName.h"
+#include "icons/PictureReader.h"
+#include "icons/PngEncoder.h"
+#include "icons/Resampler.h"
+
+namespace lumora
+{
+
+QImage unRetinaImage(const QImage &picture)
+{
+    return resample(picture, halfSize(picture.size()));
+}
+
+Result<HalvedPicture> halvedPicture(const QByteArray &bytes, const QString &name)
+{
+    const Result<QImage> picture = readPicture(bytes, name);
+    if (!picture)
+        return picture.failure();
+    const Result<QSize> size = halvedSize(picture.value().size(), name);
+    if (!size)
+        return size.failure();
+    return HalvedPicture{encodePng(unRetinaImage(picture.value())), size.value()};
+}
+
+qint64 halvingMemory(QSize pixels)
+{
+    // The decoded picture, its conversion to the pipeline's format, and its colour planes; the half-size ones that
+    // follow are made when the first of these is gone.
+    constexpr qint64 bytesPerPixel = 3 * 4;
+    return bytesPerPixel * pixels.width() * pixels.height();
+}
+
+Result<QSize> halvedSize(QSize pixels, const QString &name)
+{
+    const QSize half = halfSize(pixels);
+    if (half.isEmpty())
+        return Failure{FailureCode::TooSmall, name,
+                       QStringLiteral("%1 x %2 pixels").arg(pixels.width()).arg(pixels.height())};
+    return half;
+}
+
+} // namespace lumora

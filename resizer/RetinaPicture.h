@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "foundation/Result.h"
+
+#include <QByteArray>
+#include <QImage>
+#include <QSize>
+
+namespace lumora
+{
+
+/// The picture at half its pixels in each direction, rounded down, as `QImage::Format_RGBA8888_Premultiplied`. Null
+/// where that leaves nothing.
+QImage unRetinaImage(const QImage &picture);
+
+/// A half-size picture ready to be written.
+struct HalvedPicture
+{
+    QByteArray png;
+    QSize size; ///< in pixels
+
+    bool operator==(const HalvedPicture &) const = default;
+};
+
+/// Decodes the content of a picture file, halves it and encodes it as an 8-bit RGBA PNG. `name` is what a failure calls
+/// it. Keeps no state; callable on any thread.
+Result<HalvedPicture> halvedPicture(const QByteArray &bytes, const QString &name);
+
+/// How much memory `halvedPicture` takes at its peak for a picture of that size, in bytes, beyond the file's content.
+qint64 halvingMemory(QSize pixels);
+
+/// The size that `halvedPicture` would give a picture whose header stores `pixels`, or the failure it would end in.
+Result<QSize> halvedSize(QSize pixels, const QString &name);
+
+} // namespace lumora
