@@ -256,9 +256,8 @@ void ITSidebar::paintEvent(QPaintEvent *)
     painter.setPen(QPen(palette::sidebarFocus, 2));
     const ITSidebarItemCell *cell = m_matrix->selectedCell();
     const QRectF ringed = cell == nullptr ? QRectF(rect()) : QRectF(cell->geometry());
-    painter.drawRoundedRect(
-        ringed.adjusted(focusRingInset, focusRingInset, -focusRingInset, -focusRingInset), focusRingRadius,
-        focusRingRadius);
+    painter.drawRoundedRect(ringed.adjusted(focusRingInset, focusRingInset, -focusRingInset, -focusRingInset),
+                            focusRingRadius, focusRingRadius);
 }
 
 SidebarScrollView *ITSidebar::enclosingScrollView() const

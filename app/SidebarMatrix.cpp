@@ -18,7 +18,8 @@ void SidebarMatrix::setCellSize(QSize size)
 
 ITSidebarItemCell *SidebarMatrix::selectedCell() const
 {
-    const auto selected = std::find_if(m_cells.cbegin(), m_cells.cend(), [](const auto *cell) { return cell->state(); });
+    const auto selected =
+        std::find_if(m_cells.cbegin(), m_cells.cend(), [](const auto *cell) { return cell->state(); });
     return selected == m_cells.cend() ? nullptr : *selected;
 }
 
