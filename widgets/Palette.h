@@ -53,6 +53,12 @@ inline const QColor socialBlueDark = rgb(0.224F, 0.663F, 0.843F);
 inline const QColor networkNavy = rgb(0.114F, 0.165F, 0.388F);
 inline const QColor networkNavyDark = rgb(0.082F, 0.122F, 0.290F);
 
+/// The line along a window's edges: a white window on a white one is still seen.
+inline const QColor windowOutline = QColor::fromRgbF(0.0F, 0.0F, 0.0F, 0.28F);
+/// A window's title in its title bar.
+inline const QColor titleText = rgb(0.22F, 0.22F, 0.22F);
+inline const QColor inactiveTitleText = rgb(0.55F, 0.55F, 0.55F);
+
 /// What falls from a popover onto the window below it.
 inline const QColor popoverShadow = QColor::fromRgbF(0.0F, 0.0F, 0.0F, 0.35F);
 

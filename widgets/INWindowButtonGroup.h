@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QObject>
+#include <QString>
+
+namespace lumora
+{
+
+/// Window buttons that show their rollover look together: as long as the mouse is over one of them, all of them do.
+/// Groups are found by their identifier and live as long as the program.
+class INWindowButtonGroup : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// The group of the identifier, made when it is asked for first; a null identifier means the default group.
+    static INWindowButtonGroup *groupWithIdentifier(const QString &identifier);
+
+    const QString &identifier() const { return m_identifier; }
+    /// How many of the buttons the mouse is over.
+    int numberOfCaptures() const { return m_numberOfCaptures; }
+    /// A negative number is refused.
+    void setNumberOfCaptures(int number);
+
+    void didCaptureMousePointer();
+    void didReleaseMousePointer();
+    void resetMouseCaptures();
+    bool shouldDisplayRollOver() const;
+
+signals:
+    /// The number of captures changed.
+    void INWindowButtonGroupDidUpdateRolloverStateNotification();
+
+private:
+    explicit INWindowButtonGroup(QString identifier);
+
+    QString m_identifier;
+    int m_numberOfCaptures = 0;
+};
+
+} // namespace lumora

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#include "TitleBarAppearance.h"
+
+#include <QImage>
+
+#include <random>
+
+namespace lumora
+{
+
+TitleBarGreys titleBarGreys(PlatformGeneration generation, bool drawsAsMainWindow)
+{
+    if (generation == PlatformGeneration::Newer)
+        return drawsAsMainWindow ? TitleBarGreys{0.66F, 0.9F, 0.408F} : TitleBarGreys{0.878F, 0.976F, 0.655F};
+    return drawsAsMainWindow ? TitleBarGreys{0.659F, 0.812F, 0.318F} : TitleBarGreys{0.851F, 0.929F, 0.6F};
+}
+
+QColor opaqueGrey(float white)
+{
+    return QColor::fromRgbF(white, white, white);
+}
+
+QPixmap noiseTexture()
+{
+    constexpr int side = 128;
+    QImage tile(side, side, QImage::Format_RGB32);
+    std::minstd_rand random(1);
+    for (int y = 0; y < side; ++y) {
+        for (int x = 0; x < side; ++x) {
+            const int grey = static_cast<int>(random() >> 8 & 0xff);
+            tile.setPixel(x, y, qRgb(grey, grey, grey));
+        }
+    }
+    return QPixmap::fromImage(tile);
+}
+
+} // namespace lumora

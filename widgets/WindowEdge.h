@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QWidget>
+
+namespace lumora
+{
+
+/// A strip along one edge of a frameless window, above everything in it: it draws the line that sets the window off
+/// from what lies behind, and resizes the window when it is dragged.
+class WindowEdge : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// How far into the window the strip reaches, in points.
+    static constexpr int thickness = 4;
+
+    WindowEdge(Qt::Edge edge, QWidget *window);
+
+    /// Lays the strip along its edge of the window.
+    void follow();
+    /// Whether dragging it resizes; the line is drawn all the same.
+    void setResizes(bool resizes);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+
+private:
+    Qt::Edges edgesAt(const QPoint &position) const;
+
+    Qt::Edge m_edge;
+    Qt::Edges m_dragged;
+    QPoint m_dragStart;
+    QRect m_frameBeforeDrag;
+};
+
+} // namespace lumora
