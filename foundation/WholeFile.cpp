@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "WholeFile.h"
 
+#include "DescriptorWriting.h"
+#include "PendingFile.h"
+
 #include <QFile>
+#include <QFileInfo>
 
 #include <algorithm>
 #include <cerrno>
@@ -57,40 +61,30 @@ FailureCode openingFailure(int error)
     }
 }
 
-bool writeAll(int descriptor, const QByteArray &bytes)
+/// Devices and pipes take the bytes as they come; so does a file that may be written in a folder that may not.
+Outcome writeInPlace(const QString &path, const QByteArray &name, const QByteArray &bytes)
 {
-    qsizetype written = 0;
-    while (written < bytes.size()) {
-        const ssize_t count =
-            ::write(descriptor, bytes.constData() + written, static_cast<std::size_t>(bytes.size() - written));
-        if (count < 0 && errno == EINTR)
-            continue;
-        if (count < 0)
-            return false;
-        written += count;
-    }
-    return true;
+    Descriptor file(::open(name.constData(), O_WRONLY | O_TRUNC | O_CLOEXEC));
+    if (file.isOpen() && writeAll(file.number(), bytes) && file.close())
+        return Done{};
+    return Failure{FailureCode::CannotWrite, path, qt_error_string(errno)};
 }
 
 } // namespace
 
 Outcome writeWholeFile(const QString &path, const QByteArray &bytes)
 {
-    const QByteArray name = QFile::encodeName(path);
-    Descriptor file(::open(name.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666));
-    if (!file.isOpen())
-        return Failure{FailureCode::CannotWrite, path, qt_error_string(errno)};
-    if (writeAll(file.number(), bytes) && file.close())
+    // A link stays a link: what it points to is what is written.
+    const QFileInfo info(path);
+    const QByteArray name = QFile::encodeName(info.exists() ? info.canonicalFilePath() : path);
+    if (info.exists() && !info.isFile())
+        return writeInPlace(path, name, bytes);
+    PendingFile file(name);
+    if (!file.isOpen() && info.exists() && (file.error() == EACCES || file.error() == EPERM))
+        return writeInPlace(path, name, bytes);
+    if (file.isOpen() && file.write(bytes) && file.publish())
         return Done{};
-    const QString reason = qt_error_string(errno);
-    file.close();
-    struct stat status
-    {
-    };
-    // Only a torso of our own is removed, never a device or a pipe that was named as the destination.
-    if (::lstat(name.constData(), &status) == 0 && S_ISREG(status.st_mode))
-        ::unlink(name.constData());
-    return Failure{FailureCode::CannotWrite, path, reason};
+    return Failure{FailureCode::CannotWrite, path, qt_error_string(file.error())};
 }
 
 Result<QByteArray> readWholeFile(const QString &path, qint64 limit)

@@ -9,8 +9,8 @@
 namespace lumora
 {
 
-/// Writes the bytes as the whole content of the file at `path`, replacing what stands there. When they cannot all be
-/// written the torso is removed and the failure names the system's reason.
+/// Writes the bytes as the whole content of the file at `path`. A file that stands there is replaced only once the new
+/// content is whole; when it cannot be written nothing is left of it, and the failure names the system's reason.
 Outcome writeWholeFile(const QString &path, const QByteArray &bytes);
 
 /// The whole content of a regular file, a pipe or a device, as long as it is no longer than `limit` bytes (`TooLarge`).

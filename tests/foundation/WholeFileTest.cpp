@@ -1,0 +1,218 @@
+// SPDX-License-Identifier: MIT
+#include "foundation/WholeFile.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <csignal>
+
+#include <fcntl.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace lumora;
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+const QByteArray oldBytes = "what the user had";
+const QByteArray newBytes = "what is written now, somewhat longer";
+
+bool put(const QString &path, const QByteArray &bytes)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
+}
+
+QByteArray get(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(unreadable)");
+}
+
+QStringList entries(const QString &folder)
+{
+    return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
+}
+
+/// Lets no file of this process grow past a size, which is how a full disk looks from inside.
+class FileSizeLimit
+{
+public:
+    explicit FileSizeLimit(rlim_t bytes)
+    {
+        ::getrlimit(RLIMIT_FSIZE, &m_before);
+        const rlimit limit{bytes, m_before.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+        m_handler = std::signal(SIGXFSZ, SIG_IGN);
+    }
+    ~FileSizeLimit()
+    {
+        ::setrlimit(RLIMIT_FSIZE, &m_before);
+        std::signal(SIGXFSZ, m_handler);
+    }
+    Q_DISABLE_COPY_MOVE(FileSizeLimit)
+
+private:
+    rlimit m_before{};
+    void (*m_handler)(int) = nullptr;
+};
+
+} // namespace
+
+class WholeFileTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        QVERIFY(m_folder->isValid());
+    }
+
+    void writesWhereTheNameLeads_data()
+    {
+        QTest::addColumn<QString>("existing");
+        QTest::addColumn<QString>("link");
+        QTest::addColumn<QString>("written");
+        QTest::addColumn<QString>("holdsTheBytes");
+        const QString none;
+        QTest::newRow("a new file") << none << none << u"a.png"_s << u"a.png"_s;
+        QTest::newRow("a name with blanks and umlauts") << none << none << u"ä b.png"_s << u"ä b.png"_s;
+        QTest::newRow("the longest name") << none << none << QString(255, u'n') << QString(255, u'n');
+        QTest::newRow("a file that is there") << u"a.png"_s << none << u"a.png"_s << u"a.png"_s;
+        QTest::newRow("the longest name that is there")
+            << QString(255, u'n') << none << QString(255, u'n') << QString(255, u'n');
+        QTest::newRow("a link to a file") << u"a.png"_s << u"link"_s << u"link"_s << u"a.png"_s;
+    }
+    void writesWhereTheNameLeads()
+    {
+        QFETCH(QString, existing);
+        QFETCH(QString, link);
+        QFETCH(QString, written);
+        QFETCH(QString, holdsTheBytes);
+        if (!existing.isEmpty())
+            QVERIFY(put(path(existing), oldBytes));
+        if (!link.isEmpty())
+            QVERIFY(QFile::link(path(existing), path(link)));
+        QVERIFY(writeWholeFile(path(written), newBytes).ok());
+        QCOMPARE(get(path(holdsTheBytes)), newBytes);
+        QVERIFY(!QFileInfo(path(holdsTheBytes)).isSymLink());
+        QCOMPARE(QFileInfo(path(written)).isSymLink(), !link.isEmpty());
+        QCOMPARE(entries(m_folder->path()).size(), link.isEmpty() ? 1 : 2);
+    }
+
+    void namesTheReason_data()
+    {
+        QTest::addColumn<QString>("written");
+        QTest::addColumn<int>("error");
+        QTest::newRow("no such folder") << u"missing/a.png"_s << ENOENT;
+        QTest::newRow("a file in the folder's place") << u"file/a.png"_s << ENOTDIR;
+        QTest::newRow("a folder in the file's place") << u"folder"_s << EISDIR;
+        QTest::newRow("a name too long") << QString(256, u'n') << ENAMETOOLONG;
+        QTest::newRow("a device that is full") << u"/dev/full"_s << ENOSPC;
+    }
+    void namesTheReason()
+    {
+        QFETCH(QString, written);
+        QFETCH(int, error);
+        QVERIFY(put(path(u"file"_s), oldBytes));
+        QVERIFY(QDir(m_folder->path()).mkdir(u"folder"_s));
+        const QString target = written.startsWith(u'/') ? written : path(written);
+        const Outcome outcome = writeWholeFile(target, newBytes);
+        QVERIFY(!outcome.ok());
+        QCOMPARE(outcome.failure(), (Failure{FailureCode::CannotWrite, target, qt_error_string(error)}));
+        QCOMPARE(entries(m_folder->path()), (QStringList{u"file"_s, u"folder"_s}));
+        QCOMPARE(get(path(u"file"_s)), oldBytes);
+    }
+
+    void aFullDiskLeavesWhatWasThere_data()
+    {
+        QTest::addColumn<bool>("wasThere");
+        QTest::newRow("nothing") << false;
+        QTest::newRow("the user's file") << true;
+    }
+    void aFullDiskLeavesWhatWasThere()
+    {
+        QFETCH(bool, wasThere);
+        if (wasThere)
+            QVERIFY(put(path(u"a.png"_s), oldBytes));
+        Outcome outcome = Done{};
+        {
+            const FileSizeLimit limit(8);
+            outcome = writeWholeFile(path(u"a.png"_s), newBytes);
+        }
+        QVERIFY(!outcome.ok());
+        QCOMPARE(outcome.failure().detail, qt_error_string(EFBIG));
+        QCOMPARE(entries(m_folder->path()), wasThere ? QStringList{u"a.png"_s} : QStringList{});
+        if (wasThere)
+            QCOMPARE(get(path(u"a.png"_s)), oldBytes);
+    }
+
+    void keepsThePermissionsOfTheFileItReplaces()
+    {
+        QVERIFY(put(path(u"a.png"_s), oldBytes));
+        QCOMPARE(::chmod(QFile::encodeName(path(u"a.png"_s)).constData(), 0604), 0);
+        QVERIFY(writeWholeFile(path(u"a.png"_s), newBytes).ok());
+        struct stat status;
+        QCOMPARE(::stat(QFile::encodeName(path(u"a.png"_s)).constData(), &status), 0);
+        QCOMPARE(status.st_mode & 07777, 0604u);
+    }
+
+    void aNewFileHasThePermissionsThatTheUserWants()
+    {
+        const mode_t before = ::umask(027);
+        const Outcome outcome = writeWholeFile(path(u"a.png"_s), newBytes);
+        ::umask(before);
+        QVERIFY(outcome.ok());
+        struct stat status;
+        QCOMPARE(::stat(QFile::encodeName(path(u"a.png"_s)).constData(), &status), 0);
+        QCOMPARE(status.st_mode & 07777, 0640u);
+    }
+
+    void aPipeTakesTheBytes()
+    {
+        const QByteArray name = QFile::encodeName(path(u"pipe"_s));
+        QCOMPARE(::mkfifo(name.constData(), 0600), 0);
+        const int reader = ::open(name.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+        QVERIFY(reader >= 0);
+        QVERIFY(writeWholeFile(path(u"pipe"_s), newBytes).ok());
+        QByteArray received(100, '\0');
+        received.truncate(::read(reader, received.data(), 100));
+        ::close(reader);
+        QCOMPARE(received, newBytes);
+    }
+
+    /// Root may write everywhere, so it steps down for this one.
+    void aFileThatMayBeWrittenInAFolderThatMayNotIsWritten()
+    {
+        QVERIFY(put(path(u"a.png"_s), oldBytes));
+        QCOMPARE(::chmod(QFile::encodeName(path(u"a.png"_s)).constData(), 0666), 0);
+        QCOMPARE(::chmod(QFile::encodeName(m_folder->path()).constData(), 0555), 0);
+        const uid_t user = ::geteuid();
+        constexpr uid_t nobody = 65534;
+        if (user == 0)
+            QCOMPARE(::seteuid(nobody), 0);
+        const Outcome existing = writeWholeFile(path(u"a.png"_s), newBytes);
+        const Outcome fresh = writeWholeFile(path(u"b.png"_s), newBytes);
+        if (user == 0)
+            QCOMPARE(::seteuid(user), 0);
+        QCOMPARE(::chmod(QFile::encodeName(m_folder->path()).constData(), 0755), 0);
+        QVERIFY(existing.ok());
+        QCOMPARE(get(path(u"a.png"_s)), newBytes);
+        QVERIFY(!fresh.ok());
+        QCOMPARE(fresh.failure().detail, qt_error_string(EACCES));
+    }
+
+private:
+    QString path(const QString &name) const { return m_folder->filePath(name); }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+QTEST_GUILESS_MAIN(WholeFileTest)
+#include "WholeFileTest.moc"
