@@ -72,6 +72,14 @@ inline constexpr double disabledOpacity = 0.5;
 inline const QColor focusRing = iconsBorder;
 inline const QColor focusRingInner = rgb(1, 1, 1);
 
+/// The progress bar: its filled part and stripes before its owner sets others, the faint light on its outline, and two
+/// lines that are drawn in clear colours.
+inline const QColor progressLight = resizer;
+inline const QColor progressDark = resizerBorder;
+inline const QColor progressHighlight = QColor::fromRgbF(1.0F, 1.0F, 1.0F, 0.2F);
+inline const QColor progressBase = QColor::fromRgbF(17.0F / 255, 20.0F / 255, 23.0F / 255, 0.0F);
+inline const QColor progressShadow = QColor::fromRgbF(0.0F, 0.0F, 0.0F, 0.0F);
+
 /// The sidebar's own blue, before a tool colours it.
 inline const QColor sidebar = rgb(0.341F, 0.565F, 0.898F);
 /// The selected item's frame, the item under the pointer, and the ring while keys go to the sidebar.

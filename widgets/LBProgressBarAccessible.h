@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QAccessibleWidget>
+
+namespace lumora
+{
+
+class LBProgressBar;
+
+/// What a screen reader learns about a progress bar: its range and its value, which cannot be set from outside.
+class LBProgressBarAccessible final : public QAccessibleWidget, public QAccessibleValueInterface
+{
+public:
+    explicit LBProgressBarAccessible(LBProgressBar *bar);
+
+    /// Makes every progress bar known to the platform's accessibility. Harmless when called again.
+    static void install();
+
+    void *interface_cast(QAccessible::InterfaceType type) override;
+    QString text(QAccessible::Text kind) const override;
+    QAccessible::State state() const override;
+
+    QVariant currentValue() const override;
+    void setCurrentValue(const QVariant &) override {}
+    QVariant maximumValue() const override;
+    QVariant minimumValue() const override;
+    QVariant minimumStepSize() const override { return {}; }
+
+private:
+    LBProgressBar *bar() const;
+};
+
+} // namespace lumora
