@@ -80,6 +80,10 @@ inline const QColor progressHighlight = QColor::fromRgbF(1.0F, 1.0F, 1.0F, 0.2F)
 inline const QColor progressBase = QColor::fromRgbF(17.0F / 255, 20.0F / 255, 23.0F / 255, 0.0F);
 inline const QColor progressShadow = QColor::fromRgbF(0.0F, 0.0F, 0.0F, 0.0F);
 
+/// Icon tabs: the mark of a selected one, and of the one under the pointer.
+inline const QColor tabSelected = QColor::fromRgbF(0.204F, 0.286F, 0.369F, 0.22F);
+inline const QColor tabHover = QColor::fromRgbF(0.204F, 0.286F, 0.369F, 0.09F);
+
 /// The sidebar's own blue, before a tool colours it.
 inline const QColor sidebar = rgb(0.341F, 0.565F, 0.898F);
 /// The selected item's frame, the item under the pointer, and the ring while keys go to the sidebar.
