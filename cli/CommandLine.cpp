@@ -4,6 +4,8 @@
 #include "ColorCommand.h"
 #include "Console.h"
 #include "DevicesCommand.h"
+#include "IconCommand.h"
+#include "IconsCommand.h"
 #include "PlaceholdersCommand.h"
 #include "foundation/Log.h"
 #include "foundation/Version.h"
@@ -27,6 +29,8 @@ namespace
 const std::vector<Command> &commands()
 {
     static const std::vector<Command> all = {
+        {"icons", false, &declareIconsCommand},
+        {"icon", false, &declareIconCommand},
         {"placeholders", true, &declarePlaceholdersCommand},
         {"color", false, &declareColorCommand},
         {"devices", false, &declareDevicesCommand},

@@ -1,0 +1,188 @@
+// SPDX-License-Identifier: MIT
+#include "IconExport.h"
+
+#include "IconRendering.h"
+#include "IconsetPacker.h"
+#include "RenderedIcons.h"
+#include "foundation/Log.h"
+#include "foundation/WholeFile.h"
+
+#include <QFileInfo>
+
+#include <memory>
+#include <vector>
+
+namespace lumora
+{
+
+namespace
+{
+
+/// Makes the fresh folder of a run; a failure is logged and the run goes on without it.
+void beginExport(IconExport &result, const QString &savePath)
+{
+    result.folder = freshExportFolder(savePath, QStringLiteral("icons"));
+    const QString error = createFolder(result.folder.path);
+    if (error.isEmpty())
+        return;
+    logLine(QStringLiteral("Folder error: ") + error);
+    result.folderFailure = Failure{FailureCode::CannotCreateFolder, result.folder.path, error};
+}
+
+/// Makes a sub-folder of the run's; a failure is logged.
+std::optional<Failure> makeSubfolder(const QString &path)
+{
+    const QString error = createFolder(path);
+    if (error.isEmpty())
+        return std::nullopt;
+    logLine(QStringLiteral("CreateError: ") + error);
+    return Failure{FailureCode::CannotCreateFolder, path, error};
+}
+
+QString filePath(const QString &folder, const IconEntry &icon)
+{
+    return folder + u'/' + QLatin1StringView(icon.name);
+}
+
+/// One run over the platforms.
+class PlatformRun
+{
+public:
+    explicit PlatformRun(const PlatformIconsRequest &request) : m_request(request), m_pictures(request.icon) {}
+
+    IconExport run()
+    {
+        beginExport(m_result, m_request.savePath);
+        for (const PlatformIcons &platform : iconPlatforms) {
+            if (isExpected(platform))
+                prepare(platform);
+        }
+        for (m_next = 0; m_next < iconPlatforms.size();) {
+            const PlatformIcons &platform = iconPlatforms[m_next++];
+            if (!m_request.isChosen || !m_request.isChosen(platform))
+                continue;
+            logLine(QLatin1StringView(platform.logLine));
+            exportPlatform(platform);
+        }
+        return std::move(m_result);
+    }
+
+private:
+    bool isExpected(const PlatformIcons &platform) const { return m_request.expected.contains(platform.platform); }
+
+    void prepare(const PlatformIcons &platform)
+    {
+        std::vector<int> sizes;
+        for (const IconEntry &icon : platform.icons)
+            sizes.push_back(icon.size);
+        m_pictures.prepare(sizes);
+    }
+
+    void exportPlatform(const PlatformIcons &platform)
+    {
+        prepare(platform);
+        QString folder = m_result.folder.path + QLatin1StringView(platform.folderSuffix);
+        if (platform.platform == IconPlatform::Mac) {
+            // What goes wrong with these two shows in the pictures that cannot be written.
+            createFolder(folder);
+            folder += QLatin1StringView(iconsetSuffix);
+            createFolder(folder);
+            writeIcons(platform, folder);
+            generateMacIcon(folder);
+        } else if (const std::optional<Failure> failure = makeSubfolder(folder)) {
+            for (const IconEntry &icon : platform.icons)
+                m_result.files.append({filePath(folder, icon), icon.size, 0, failure});
+        } else {
+            writeIcons(platform, folder);
+        }
+    }
+
+    void writeIcons(const PlatformIcons &platform, const QString &folder)
+    {
+        int stillToWrite = static_cast<int>(platform.icons.size());
+        for (const IconEntry &icon : platform.icons) {
+            IconFile file{filePath(folder, icon), icon.size, 0, std::nullopt};
+            reportProgress(file.path, stillToWrite--);
+            const QByteArray png = m_pictures.png(icon.size);
+            const Outcome written = png.isEmpty() ? Outcome(Failure{FailureCode::CannotWrite, file.path,
+                                                                    QStringLiteral("there is no source picture")})
+                                                  : writeWholeFile(file.path, png);
+            if (written)
+                file.bytes = png.size();
+            else
+                file.failure = written.failure();
+            m_result.files.append(file);
+        }
+    }
+
+    void reportProgress(const QString &path, int stillToWrite) const
+    {
+        if (!m_request.progress)
+            return;
+        int count = static_cast<int>(m_result.files.size()) + stillToWrite;
+        for (std::size_t later = m_next; later < iconPlatforms.size(); ++later) {
+            if (isExpected(iconPlatforms[later]))
+                count += static_cast<int>(iconPlatforms[later].icons.size());
+        }
+        m_request.progress({static_cast<int>(m_result.files.size()) + 1, count, path});
+    }
+
+    void generateMacIcon(const QString &iconsetPath)
+    {
+        logLine(QStringLiteral("iconsset: ") + iconsetPath);
+        const std::unique_ptr<IconsetPacker> system = m_request.packer == nullptr ? systemIconsetPacker() : nullptr;
+        const IconsetPacker &packer = m_request.packer == nullptr ? *system : *m_request.packer;
+        const Result<QString> packed = packer.pack(iconsetPath);
+        if (packed)
+            m_result.icns = packed.value();
+        else
+            m_result.icnsFailure = packed.failure();
+    }
+
+    const PlatformIconsRequest &m_request;
+    RenderedIcons m_pictures;
+    IconExport m_result;
+    std::size_t m_next = 0; ///< the first platform that was not asked for yet
+};
+
+} // namespace
+
+QList<Failure> IconExport::failures() const
+{
+    QList<Failure> all;
+    if (folderFailure)
+        all << *folderFailure;
+    for (const IconFile &file : files) {
+        if (file.failure)
+            all << *file.failure;
+    }
+    if (icnsFailure)
+        all << *icnsFailure;
+    return all;
+}
+
+IconExport generatePlatformIcons(const PlatformIconsRequest &request)
+{
+    return PlatformRun(request).run();
+}
+
+IconExport generateCustomIcon(const CustomIconRequest &request)
+{
+    IconExport result;
+    beginExport(result, request.savePath);
+    const QString folder = result.folder.path + QLatin1StringView(customFolderSuffix);
+    IconFile file{folder + customIconName(request.customIconSize, request.cornerMode), request.customIconSize, 0,
+                  makeSubfolder(folder)};
+    if (!file.failure) {
+        const QImage picture = resizeImage(request.icon, request.customIconSize, request.cornerMode);
+        const Outcome written = saveImage(picture, BitmapType::Png, file.path);
+        if (written)
+            file.bytes = QFileInfo(file.path).size();
+        else
+            file.failure = written.failure();
+    }
+    result.files.append(file);
+    return result;
+}
+
+} // namespace lumora

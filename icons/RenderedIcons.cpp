@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: MIT
+#include "RenderedIcons.h"
+
+#include "PixelFormat.h"
+#include "PngSection.h"
+#include "Resampler.h"
+
+#include <QThreadPool>
+
+#include <algorithm>
+#include <atomic>
+#include <condition_variable>
+#include <map>
+#include <mutex>
+#include <vector>
+
+namespace lumora
+{
+
+namespace
+{
+
+/// One size on its way to a file.
+struct Piece
+{
+    QImage pixels;
+    std::vector<PngSection> sections;
+    std::atomic<int> sectionsLeft = 0;
+    QByteArray file;
+    bool finished = false;
+};
+
+/// Sections go before any new size: finishing what was begun keeps the memory low.
+constexpr int sectionPriority = 1 << 20;
+
+} // namespace
+
+class RenderedIcons::Workshop
+{
+public:
+    explicit Workshop(const QImage &icon) : m_icon(premultiplied(icon)) {}
+
+    ~Workshop()
+    {
+        m_pool.clear();
+        m_pool.waitForDone();
+    }
+
+    void prepare(std::span<const int> sizes)
+    {
+        const std::scoped_lock lock(m_mutex);
+        for (const int size : sizes) {
+            if (m_pieces.contains(size))
+                continue;
+            Piece *piece = m_pieces.emplace(size, std::make_unique<Piece>()).first->second.get();
+            m_pool.start([this, piece, size] { render(*piece, size); }, size);
+        }
+    }
+
+    QByteArray png(int size)
+    {
+        prepare({&size, 1});
+        std::unique_lock lock(m_mutex);
+        const Piece &piece = *m_pieces.at(size);
+        m_finished.wait(lock, [&piece] { return piece.finished; });
+        return piece.file;
+    }
+
+private:
+    void render(Piece &piece, int size)
+    {
+        const QSize wanted(size, size);
+        if (wanted.isEmpty() || m_icon.isNull()) {
+            finish(piece);
+            return;
+        }
+        piece.pixels = straight(wanted == m_icon.size() ? m_icon : resampler().scaledTo(wanted));
+        const int count = pngSectionCount(wanted);
+        piece.sections.resize(static_cast<std::size_t>(count));
+        piece.sectionsLeft = count;
+        for (int index = 1; index < count; ++index)
+            m_pool.start([this, &piece, index] { makeSection(piece, index); }, sectionPriority);
+        makeSection(piece, 0);
+    }
+
+    void makeSection(Piece &piece, int index)
+    {
+        piece.sections[static_cast<std::size_t>(index)] = makePngSection(piece.pixels, index);
+        if (piece.sectionsLeft.fetch_sub(1) > 1)
+            return;
+        piece.file = joinPngSections(piece.pixels.size(), piece.sections);
+        piece.sections = {};
+        piece.pixels = {};
+        finish(piece);
+    }
+
+    void finish(Piece &piece)
+    {
+        const std::scoped_lock lock(m_mutex);
+        piece.finished = true;
+        m_finished.notify_all();
+    }
+
+    /// Made by the first thread that needs it while another may already encode the picture in its own size.
+    const Resampler &resampler()
+    {
+        std::call_once(m_takenApart, [this] { m_resampler = std::make_unique<Resampler>(m_icon); });
+        return *m_resampler;
+    }
+
+    QImage m_icon;
+    std::once_flag m_takenApart;
+    std::unique_ptr<Resampler> m_resampler;
+    std::mutex m_mutex;
+    std::condition_variable m_finished;
+    std::map<int, std::unique_ptr<Piece>> m_pieces;
+    QThreadPool m_pool; ///< last, so that its threads end before what they use
+};
+
+RenderedIcons::RenderedIcons(const QImage &icon) : m_workshop(std::make_unique<Workshop>(icon)) {}
+
+RenderedIcons::~RenderedIcons() = default;
+
+void RenderedIcons::prepare(std::span<const int> sizes)
+{
+    m_workshop->prepare(sizes);
+}
+
+QByteArray RenderedIcons::png(int size)
+{
+    return m_workshop->png(size);
+}
+
+} // namespace lumora

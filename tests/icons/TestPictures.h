@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+#include <QImage>
+
+namespace lumora
+{
+
+/// A picture with gradients, hard edges, transparency and a little noise, the same on every call.
+QImage testPicture(int width, int height);
+
+/// The picture in a format that Qt writes ("png", "jpeg", "tiff", "webp", "bmp"), at best quality.
+QByteArray pictureFile(const QImage &picture, const char *format = "png");
+
+/// A PNG file of 64 x 64 pixels whose header claims others; its checksum is right.
+QByteArray pngClaiming(quint32 width, quint32 height);
+
+} // namespace lumora
