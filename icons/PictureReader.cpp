@@ -1,14 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "PictureReader.h"
 
+#include "ExifOrientation.h"
 #include "IcnsReader.h"
 #include "PictureFormat.h"
 #include "PixelFormat.h"
+#include "PngDecoder.h"
 #include "foundation/WholeFile.h"
 
 #include <QBuffer>
 #include <QColorSpace>
 #include <QImageReader>
+
+#include <tiffio.h>
 
 #include <mutex>
 
@@ -18,11 +22,53 @@ namespace lumora
 namespace
 {
 
-/// Qt's own limit is one for the whole program and too low for 16-bit pictures; ours is checked besides.
-void raiseAllocationLimit()
+/// What the decoders need to be told once in a program.
+void prepareDecoders()
 {
-    static std::once_flag raised;
-    std::call_once(raised, [] { QImageReader::setAllocationLimit(largestDecodedBytes / (1024 * 1024)); });
+    static std::once_flag prepared;
+    std::call_once(prepared, [] {
+        // Qt's own limit is one for the whole program and too low for 16-bit pictures; ours is checked besides.
+        QImageReader::setAllocationLimit(largestDecodedBytes / (1024 * 1024));
+        // It would write its remarks on damaged files to stderr.
+        TIFFSetErrorHandler(nullptr);
+        TIFFSetWarningHandler(nullptr);
+    });
+}
+
+/// A failed read answers a null picture.
+QImage decodeByQt(const QByteArray &bytes, const QByteArray &format)
+{
+    prepareDecoders();
+    QBuffer buffer;
+    buffer.setData(bytes);
+    QImageReader reader(&buffer, format);
+    reader.setAutoDetectImageFormat(false);
+    reader.setAutoTransform(true);
+    QImage picture;
+    return reader.read(&picture) ? picture : QImage();
+}
+
+QImage turned(const QImage &picture, QImageIOHandler::Transformations how)
+{
+    QImage result = picture.mirrored(how.testFlag(QImageIOHandler::TransformationMirror),
+                                     how.testFlag(QImageIOHandler::TransformationFlip));
+    return how.testFlag(QImageIOHandler::TransformationRotate90) ? result.transformed(QTransform().rotate(90)) : result;
+}
+
+/// The picture upright, in the depth and colours of its file.
+QImage decode(const QByteArray &bytes, const QByteArray &format)
+{
+    QByteArray exif;
+    QImage picture;
+    if (format == "png") {
+        picture = decodePng(bytes, &exif);
+    } else {
+        picture = decodeByQt(bytes, format);
+        if (format == "webp")
+            exif = webpExif(bytes);
+    }
+    const QImageIOHandler::Transformations how = exifOrientation(exif);
+    return how == QImageIOHandler::TransformationNone ? picture : turned(picture, how);
 }
 
 QString sizeText(QSize size)
@@ -30,7 +76,7 @@ QString sizeText(QSize size)
     return QStringLiteral("%1 x %2 pixels").arg(size.width()).arg(size.height());
 }
 
-/// Metadata would shift the scale or turn the picture behind the reader's back; both are this file's business.
+/// Takes the picture so that it is gone before its last copy is made.
 QImage toSrgb(QImage picture)
 {
     const QColorSpace embedded = picture.colorSpace();
@@ -56,11 +102,17 @@ Result<QSize> storedPixelSize(const QByteArray &bytes, const QString &name)
         return notAPicture;
     if (format == "icns")
         return storedPixelSize(largestIcnsPicture(bytes), name);
-    QBuffer buffer;
-    buffer.setData(bytes);
-    QImageReader reader(&buffer, format);
-    reader.setAutoDetectImageFormat(false);
-    const QSize size = reader.size();
+    QSize size;
+    if (format == "png") {
+        size = pngPixelSize(bytes);
+    } else {
+        prepareDecoders();
+        QBuffer buffer;
+        buffer.setData(bytes);
+        QImageReader reader(&buffer, format);
+        reader.setAutoDetectImageFormat(false);
+        size = reader.size();
+    }
     if (size.isEmpty())
         return notAPicture;
     return size;
@@ -77,20 +129,9 @@ Result<QImage> readPicture(const QByteArray &bytes, const QString &name)
     const QByteArray format = pictureFormat(bytes);
     if (format == "icns")
         return readPicture(largestIcnsPicture(bytes), name);
-    const Failure damaged{FailureCode::NotAPicture, name, QStringLiteral("damaged")};
-    if (!isWhole(bytes))
-        return damaged;
-
-    raiseAllocationLimit();
-    QBuffer buffer;
-    buffer.setData(bytes);
-    QImageReader reader(&buffer, format);
-    reader.setAutoDetectImageFormat(false);
-    reader.setAutoTransform(true);
-    QImage picture;
-    if (!reader.read(&picture) || picture.isNull())
-        return damaged;
-    buffer.close();
+    QImage picture = isWhole(bytes) ? decode(bytes, format) : QImage();
+    if (picture.isNull())
+        return Failure{FailureCode::NotAPicture, name, QStringLiteral("damaged")};
     return toSrgb(std::move(picture));
 }
 

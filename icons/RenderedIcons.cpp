@@ -2,6 +2,7 @@
 #include "RenderedIcons.h"
 
 #include "PixelFormat.h"
+#include "PngRows.h"
 #include "PngSection.h"
 #include "Resampler.h"
 
@@ -23,7 +24,7 @@ namespace
 /// One size on its way to a file.
 struct Piece
 {
-    QImage pixels;
+    std::unique_ptr<const ImageRows> rows;
     std::vector<PngSection> sections;
     std::atomic<int> sectionsLeft = 0;
     QByteArray file;
@@ -74,7 +75,8 @@ private:
             finish(piece);
             return;
         }
-        piece.pixels = straight(wanted == m_icon.size() ? m_icon : resampler().scaledTo(wanted));
+        piece.rows =
+            std::make_unique<ImageRows>(straight(wanted == m_icon.size() ? m_icon : resampler().scaledTo(wanted)));
         const int count = pngSectionCount(wanted);
         piece.sections.resize(static_cast<std::size_t>(count));
         piece.sectionsLeft = count;
@@ -85,12 +87,12 @@ private:
 
     void makeSection(Piece &piece, int index)
     {
-        piece.sections[static_cast<std::size_t>(index)] = makePngSection(piece.pixels, index);
+        piece.sections[static_cast<std::size_t>(index)] = makePngSection(*piece.rows, index);
         if (piece.sectionsLeft.fetch_sub(1) > 1)
             return;
-        piece.file = joinPngSections(piece.pixels.size(), piece.sections);
+        piece.file = joinPngSections(piece.rows->size(), piece.sections);
         piece.sections = {};
-        piece.pixels = {};
+        piece.rows.reset();
         finish(piece);
     }
 

@@ -36,6 +36,70 @@ QByteArray pictureFile(const QImage &picture, const char *format)
     return writer.write(picture) ? buffer.data() : QByteArray();
 }
 
+namespace
+{
+
+QByteArray bigEndian(quint32 number)
+{
+    QByteArray bytes(4, Qt::Uninitialized);
+    qToBigEndian(number, bytes.data());
+    return bytes;
+}
+
+QByteArray chunk(const QByteArray &type, const QByteArray &content)
+{
+    const QByteArray checked = type + content;
+    const auto *start = reinterpret_cast<const Bytef *>(checked.constData());
+    return bigEndian(static_cast<quint32>(content.size())) + checked +
+           bigEndian(static_cast<quint32>(crc32(0, start, static_cast<uInt>(checked.size()))));
+}
+
+/// A zlib stream of that many zeroes.
+QByteArray deflatedZeroes(quint64 count)
+{
+    z_stream deflater{};
+    deflateInit(&deflater, 1);
+    QByteArray zeroes(1 << 20, '\0');
+    QByteArray part(1 << 16, Qt::Uninitialized);
+    QByteArray stream;
+    int status = Z_OK;
+    while (status == Z_OK) {
+        if (deflater.avail_in == 0) {
+            const quint64 piece = std::min<quint64>(count, static_cast<quint64>(zeroes.size()));
+            deflater.next_in = reinterpret_cast<Bytef *>(zeroes.data());
+            deflater.avail_in = static_cast<uInt>(piece);
+            count -= piece;
+        }
+        deflater.next_out = reinterpret_cast<Bytef *>(part.data());
+        deflater.avail_out = static_cast<uInt>(part.size());
+        status = deflate(&deflater, count == 0 ? Z_FINISH : Z_NO_FLUSH);
+        stream.append(part.constData(), part.size() - static_cast<qsizetype>(deflater.avail_out));
+    }
+    deflateEnd(&deflater);
+    return stream;
+}
+
+} // namespace
+
+QByteArray pngOfZeroes(quint32 width, quint32 height)
+{
+    return QByteArray("\x89PNG\r\n\x1A\n", 8) +
+           chunk("IHDR", bigEndian(width) + bigEndian(height) + QByteArray("\x10\x06\0\0\0", 5)) +
+           chunk("IDAT", deflatedZeroes(quint64{height} * (quint64{width} * 8 + 1))) + chunk("IEND", {});
+}
+
+QByteArray withPngChunk(const QByteArray &file, const QByteArray &type, const QByteArray &content)
+{
+    constexpr qsizetype headerEnd = 8 + 12 + 13;
+    return file.first(headerEnd) + chunk(type, content) + file.sliced(headerEnd);
+}
+
+QByteArray pngWithLongProfile(qsizetype bytes)
+{
+    return withPngChunk(pictureFile(testPicture(64, 64)), "iCCP",
+                        QByteArray("x\0\0", 3) + deflatedZeroes(static_cast<quint64>(bytes)));
+}
+
 QByteArray pngClaiming(quint32 width, quint32 height)
 {
     QByteArray file = pictureFile(testPicture(64, 64));

@@ -16,4 +16,13 @@ QByteArray pictureFile(const QImage &picture, const char *format = "png");
 /// A PNG file of 64 x 64 pixels whose header claims others; its checksum is right.
 QByteArray pngClaiming(quint32 width, quint32 height);
 
+/// A whole PNG file of transparent black, 16 bits a sample; made without ever being unpacked.
+QByteArray pngOfZeroes(quint32 width, quint32 height);
+
+/// A whole PNG file of 64 x 64 pixels whose colour profile unpacks to that many zeroes.
+QByteArray pngWithLongProfile(qsizetype bytes);
+
+/// The file with another chunk after its header.
+QByteArray withPngChunk(const QByteArray &file, const QByteArray &type, const QByteArray &content);
+
 } // namespace lumora

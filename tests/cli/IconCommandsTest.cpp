@@ -1,0 +1,589 @@
+// SPDX-License-Identifier: MIT
+#include "LumoraProcess.h"
+#include "SmallDisk.h"
+#include "icons/IconCatalogue.h"
+#include "tests/icons/TestPictures.h"
+
+#include <QColorSpace>
+#include <QDirIterator>
+#include <QJsonArray>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <csignal>
+
+#include <sys/stat.h>
+
+using namespace lumora;
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+bool put(const QString &path, const QByteArray &content)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
+}
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QStringList filesBelow(const QString &folder)
+{
+    QStringList files;
+    QDirIterator below(folder, QDir::Files, QDirIterator::Subdirectories);
+    while (below.hasNext())
+        files << QDir(folder).relativeFilePath(below.next());
+    files.sort();
+    return files;
+}
+
+/// Bytes of address space, the libraries' included, that hostile files are met with.
+constexpr quint64 limitedMemory = 1'000'000'000;
+
+} // namespace
+
+class IconCommandsTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+
+    void everyPlatformOfTheBuiltInPicture();
+    void everyPlatformOfASource();
+    void json();
+    void jsonWithoutMac();
+    void platformList_data();
+    void platformList();
+    void wrongUsage_data();
+    void wrongUsage();
+    void helpAndVersion_data();
+    void helpAndVersion();
+    void customIcon_data();
+    void customIcon();
+    void customSize_data();
+    void customSize();
+    void standardInput();
+    void relativePaths();
+    void takenNames();
+    void longAndForeignNames_data();
+    void longAndForeignNames();
+
+    void refusedSource_data();
+    void refusedSource();
+    void truncatedSource_data();
+    void truncatedSource();
+    void refusedDestination_data();
+    void refusedDestination();
+    void unreadableSource();
+    void unwritableDestination();
+    void fullDisk_data();
+    void fullDisk();
+    void longestFile();
+    void outputCannotBeWritten();
+
+    void progressOnATerminalOnly();
+    void icnsIsReadByAnotherProgram();
+    void memoryStaysBounded_data();
+    void memoryStaysBounded();
+
+private:
+    std::unique_ptr<QTemporaryDir> m_folder;
+    QByteArray m_picture;
+
+    QString at(const QString &name) const { return m_folder->filePath(name); }
+    bool nothingWritten() const { return filesBelow(at(u"out"_s)).isEmpty(); }
+};
+
+void IconCommandsTest::initTestCase()
+{
+    m_picture = pictureFile(testPicture(1024, 1024));
+}
+
+void IconCommandsTest::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+    QVERIFY(QDir(m_folder->path()).mkdir(u"out"_s));
+    QVERIFY(put(at(u"my.png"_s), m_picture));
+}
+
+void IconCommandsTest::everyPlatformOfTheBuiltInPicture()
+{
+    const LumoraRun run = runLumora({u"icons"_s, u"--platform"_s, u"all"_s, u"--to"_s, at(u"out"_s)});
+    QCOMPARE(run.err, QByteArray());
+    QCOMPARE(run.status, 0);
+    QCOMPARE(run.lastLine(), at(u"out/icons"_s));
+    QCOMPARE(filesBelow(at(u"out/icons"_s)).size(), 52);
+    QCOMPARE(QImage(at(u"out/icons/iPhone/iTunesArtwork@2x"_s), "png").size(), QSize(1024, 1024));
+}
+
+void IconCommandsTest::everyPlatformOfASource()
+{
+    const LumoraRun run = runLumora({u"icons"_s, at(u"my.png"_s), u"--platform"_s, u"all"_s, u"--to"_s, at(u"out"_s)});
+    QCOMPARE(run.status, 0);
+    for (const PlatformIcons &platform : iconPlatforms) {
+        QString folder = at(u"out/icons"_s) + QLatin1StringView(platform.folderSuffix);
+        if (platform.platform == IconPlatform::Mac)
+            folder += QLatin1StringView(iconsetSuffix);
+        for (const IconEntry &icon : platform.icons) {
+            const QImage picture(folder + u'/' + QLatin1StringView(icon.name), "png");
+            QCOMPARE(picture.size(), QSize(icon.size, icon.size));
+            QVERIFY(picture.hasAlphaChannel());
+        }
+    }
+    QVERIFY(QFile::exists(at(u"out/icons/Mac/icons.icns"_s)));
+}
+
+void IconCommandsTest::json()
+{
+    const LumoraRun run =
+        runLumora({u"icons"_s, at(u"my.png"_s), u"--platform"_s, u"all"_s, u"--to"_s, at(u"out"_s), u"--json"_s});
+    QCOMPARE(run.status, 0);
+    const QJsonObject result = run.json();
+    QCOMPARE(result.keys(), (QStringList{u"files"_s, u"folder"_s, u"icns"_s}));
+    QCOMPARE(result[u"folder"_s].toString(), at(u"out/icons"_s));
+    QCOMPARE(result[u"icns"_s].toString(), at(u"out/icons/Mac/icons.icns"_s));
+    const QJsonArray files = result[u"files"_s].toArray();
+    QCOMPARE(files.size(), 51);
+    for (const QJsonValue &value : files) {
+        const QJsonObject file = value.toObject();
+        QCOMPARE(file.keys(), (QStringList{u"bytes"_s, u"path"_s, u"size"_s}));
+        QCOMPARE(file[u"bytes"_s].toInteger(), QFileInfo(file[u"path"_s].toString()).size());
+        QCOMPARE(QImage(file[u"path"_s].toString(), "png").width(), file[u"size"_s].toInt());
+    }
+}
+
+void IconCommandsTest::jsonWithoutMac()
+{
+    const LumoraRun run = runLumora({u"icons"_s, u"--platform"_s, u"favicon"_s, u"--to"_s, at(u"out"_s), u"--json"_s});
+    QVERIFY(run.json().contains(u"icns"_s));
+    QVERIFY(run.json()[u"icns"_s].isNull());
+}
+
+void IconCommandsTest::platformList_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QStringList>("folders");
+    const QStringList phones{u"iPad"_s, u"iPhone"_s};
+    QTest::newRow("two") << QStringList{u"--platform"_s, u"iphone,ipad"_s} << phones;
+    QTest::newRow("in another order") << QStringList{u"--platform"_s, u"ipad,iphone"_s} << phones;
+    QTest::newRow("given twice") << QStringList{u"--platform"_s, u"ipad"_s, u"--platform"_s, u"iphone"_s} << phones;
+    QTest::newRow("joined by =") << QStringList{u"--platform=web-touch"_s} << QStringList{u"Web Touch"_s};
+    QTest::newRow("one of all") << QStringList{u"--platform"_s, u"android,all"_s}
+                                << QStringList{u"Android"_s,   u"Favicon"_s, u"Mac"_s,
+                                               u"Web Touch"_s, u"iPad"_s,    u"iPhone"_s};
+}
+
+void IconCommandsTest::platformList()
+{
+    QFETCH(QStringList, arguments);
+    const LumoraRun run = runLumora(QStringList{u"icons"_s, u"--to"_s, at(u"out"_s)} + arguments);
+    QCOMPARE(run.status, 0);
+    QStringList folders = QDir(at(u"out/icons"_s)).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    folders.sort();
+    QTEST(folders, "folders");
+}
+
+void IconCommandsTest::wrongUsage_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("named");
+    QTest::newRow("no platform") << QStringList{u"icons"_s, u"--to"_s, u"out"_s} << u"--platform"_s;
+    QTest::newRow("no destination") << QStringList{u"icons"_s, u"--platform"_s, u"all"_s} << u"--to"_s;
+    QTest::newRow("unknown platform") << QStringList{u"icons"_s, u"--platform"_s, u"palm"_s, u"--to"_s, u"out"_s}
+                                      << u"web-touch"_s;
+    QTest::newRow("empty platform") << QStringList{u"icons"_s, u"--platform"_s, u""_s, u"--to"_s, u"out"_s}
+                                    << u"--platform"_s;
+    QTest::newRow("unknown option") << QStringList{u"icons"_s, u"--platform"_s, u"all"_s, u"--to"_s, u"out"_s, u"--x"_s}
+                                    << u"--x"_s;
+    QTest::newRow("two sources") << QStringList{u"icons"_s, u"a"_s,    u"b"_s,  u"--platform"_s,
+                                                u"all"_s,   u"--to"_s, u"out"_s}
+                                 << u"b"_s;
+    QTest::newRow("no size") << QStringList{u"icon"_s, u"--to"_s, u"out"_s} << u"--size"_s;
+    QTest::newRow("unknown corners") << QStringList{u"icon"_s, u"--size"_s, u"10"_s, u"--corners"_s,
+                                                    u"ios8"_s, u"--to"_s,   u"out"_s}
+                                     << u"ios7"_s;
+}
+
+void IconCommandsTest::wrongUsage()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, named);
+    const LumoraRun run = LumoraProcess().in(m_folder->path()).run(arguments);
+    QCOMPARE(run.status, 2);
+    QCOMPARE(run.out, QByteArray());
+    QVERIFY2(run.err.contains(named.toUtf8()), run.err.constData());
+    QVERIFY(nothingWritten());
+}
+
+void IconCommandsTest::helpAndVersion_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("said");
+    QTest::newRow("--version") << QStringList{u"--version"_s} << u"lumora "_s;
+    QTest::newRow("--help") << QStringList{u"--help"_s} << u"icons"_s;
+    QTest::newRow("icons --help") << QStringList{u"icons"_s, u"--help"_s} << u"--platform"_s;
+    QTest::newRow("icon --help") << QStringList{u"icon"_s, u"--help"_s} << u"--corners"_s;
+}
+
+void IconCommandsTest::helpAndVersion()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, said);
+    const LumoraRun run = runLumora(arguments);
+    QCOMPARE(run.status, 0);
+    QVERIFY(run.out.contains(said.toUtf8()));
+    QCOMPARE(run.err, QByteArray());
+}
+
+void IconCommandsTest::customIcon_data()
+{
+    QTest::addColumn<QStringList>("corners");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<int>("cornerAlpha");
+    QTest::newRow("by default") << QStringList{} << u"icon_100x100.png"_s << 255;
+    QTest::newRow("none") << QStringList{u"--corners"_s, u"none"_s} << u"icon_100x100.png"_s << 255;
+    QTest::newRow("iOS 6") << QStringList{u"--corners"_s, u"ios6"_s} << u"icon_100x100_iOS6.png"_s << 0;
+    QTest::newRow("iOS 7") << QStringList{u"--corners"_s, u"ios7"_s} << u"icon_100x100_iOS7.png"_s << 0;
+}
+
+void IconCommandsTest::customIcon()
+{
+    QFETCH(QStringList, corners);
+    QFETCH(QString, name);
+    QFETCH(int, cornerAlpha);
+    const LumoraRun run = runLumora(
+        QStringList{u"icon"_s, at(u"my.png"_s), u"--size"_s, u"100"_s, u"--to"_s, at(u"out"_s), u"--json"_s} + corners);
+    QCOMPARE(run.status, 0);
+    const QString path = at(u"out/icons/Custom/"_s + name);
+    QCOMPARE(filesBelow(at(u"out"_s)), QStringList{u"icons/Custom/"_s + name});
+    QCOMPARE(run.json()[u"files"_s].toArray(),
+             (QJsonArray{QJsonObject{{u"path"_s, path}, {u"size"_s, 100}, {u"bytes"_s, QFileInfo(path).size()}}}));
+    QVERIFY(run.json()[u"icns"_s].isNull());
+    QCOMPARE(qAlpha(QImage(path).pixel(99, 99)), cornerAlpha);
+}
+
+void IconCommandsTest::customSize_data()
+{
+    QTest::addColumn<QString>("size");
+    QTest::addColumn<int>("edge");
+    QTest::newRow("0") << u"0"_s << 0;
+    QTest::newRow("-5") << u"-5"_s << 0;
+    QTest::newRow("1025") << u"1025"_s << 0;
+    QTest::newRow("abc") << u"abc"_s << 0;
+    QTest::newRow("nothing") << u""_s << 0;
+    QTest::newRow("beyond 32 bits") << u"4294967360"_s << 0;
+    QTest::newRow("64px") << u"64px"_s << 64;
+    QTest::newRow(" +64") << u" +64"_s << 64;
+    QTest::newRow("1") << u"1"_s << 1;
+    QTest::newRow("1024") << u"1024"_s << 1024;
+}
+
+void IconCommandsTest::customSize()
+{
+    QFETCH(QString, size);
+    QFETCH(int, edge);
+    const LumoraRun run = runLumora({u"icon"_s, at(u"my.png"_s), u"--size"_s, size, u"--to"_s, at(u"out"_s)});
+    if (edge == 0) {
+        QCOMPARE(run.status, 1);
+        QCOMPARE(run.out, QByteArray());
+        QCOMPARE(run.complaints().size(), 1);
+        QVERIFY(run.err.contains("from 1 to 1024"));
+        QVERIFY(nothingWritten());
+        return;
+    }
+    QCOMPARE(run.status, 0);
+    QCOMPARE(run.lastLine(), at(u"out/icons"_s));
+    QCOMPARE(QImage(at(u"out/icons/Custom/icon_%1x%1.png"_s.arg(edge))).size(), QSize(edge, edge));
+}
+
+void IconCommandsTest::standardInput()
+{
+    const LumoraRun run = LumoraProcess().withInput(m_picture).run(
+        {u"icons"_s, u"-"_s, u"--platform"_s, u"favicon"_s, u"--to"_s, at(u"out"_s)});
+    QCOMPARE(run.status, 0);
+    (void)runLumora({u"icons"_s, at(u"my.png"_s), u"--platform"_s, u"favicon"_s, u"--to"_s, at(u"out"_s)});
+    QCOMPARE(contentOf(at(u"out/icons/Favicon/favicon-64.png"_s)),
+             contentOf(at(u"out/icons_1/Favicon/favicon-64.png"_s)));
+    const LumoraRun empty = runLumora({u"icons"_s, u"-"_s, u"--platform"_s, u"favicon"_s, u"--to"_s, at(u"out"_s)});
+    QCOMPARE(empty.status, 1);
+    QVERIFY(empty.err.startsWith("lumora: standard input: "));
+}
+
+void IconCommandsTest::relativePaths()
+{
+    const LumoraRun run = LumoraProcess()
+                              .in(m_folder->path())
+                              .run({u"icons"_s, u"my.png"_s, u"--platform"_s, u"favicon"_s, u"--to"_s, u"out"_s});
+    QCOMPARE(run.status, 0);
+    QCOMPARE(QFileInfo(run.lastLine()).canonicalFilePath(), QFileInfo(at(u"out/icons"_s)).canonicalFilePath());
+}
+
+void IconCommandsTest::takenNames()
+{
+    QVERIFY(put(at(u"out/icons"_s), "mine"));
+    QVERIFY(QDir(at(u"out"_s)).mkdir(u"icons_1"_s));
+    QVERIFY(QFile::link(at(u"nowhere"_s), at(u"out/icons_2"_s)));
+    const LumoraRun run = runLumora({u"icons"_s, u"--platform"_s, u"favicon"_s, u"--to"_s, at(u"out"_s)});
+    QCOMPARE(run.status, 0);
+    QCOMPARE(run.lastLine(), at(u"out/icons_3"_s));
+    QCOMPARE(contentOf(at(u"out/icons"_s)), QByteArray("mine"));
+}
+
+void IconCommandsTest::longAndForeignNames_data()
+{
+    QTest::addColumn<QString>("folder");
+    QTest::newRow("foreign letters") << u"Ikönchen für 日本 🚀 \"quoted\" $HOME"_s;
+    QTest::newRow("a line break") << u"two\nlines"_s;
+    QTest::newRow("255 bytes") << QString(255, u'n');
+    QTest::newRow("deep") << QString(u"abcdefghij/"_s).repeated(60).chopped(1);
+    QTest::newRow("like an option") << u"--to"_s;
+}
+
+void IconCommandsTest::longAndForeignNames()
+{
+    QFETCH(QString, folder);
+    QVERIFY(QDir(m_folder->path()).mkpath(folder));
+    const QString source = at(folder) + u"/ü.png"_s;
+    QVERIFY(put(source, m_picture));
+    const LumoraRun run =
+        runLumora({u"icons"_s, source, u"--platform"_s, u"favicon"_s, u"--to"_s, at(folder), u"--json"_s});
+    QCOMPARE(run.err, QByteArray());
+    QCOMPARE(run.status, 0);
+    QCOMPARE(run.json()[u"folder"_s].toString(), at(folder) + u"/icons"_s);
+    QCOMPARE(filesBelow(at(folder) + u"/icons"_s).size(), 5);
+}
+
+void IconCommandsTest::refusedSource_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("reason");
+    QTest::newRow("empty") << QByteArray() << u"not a picture"_s;
+    QTest::newRow("text") << QByteArray("hello") << u"not a picture"_s;
+    QTest::newRow("active content") << QByteArray(
+                                           "<svg xmlns='http://www.w3.org/2000/svg' width='1024' height='1024'/>")
+                                    << u"not a picture"_s;
+    QTest::newRow("another size") << pictureFile(testPicture(64, 32)) << u"64 x 32 pixels"_s;
+    QTest::newRow("no pixels") << pngClaiming(0, 0) << u"not a picture"_s;
+    QTest::newRow("60000 x 60000 claimed") << pngClaiming(60000, 60000) << u"60000 x 60000 pixels"_s;
+    QTest::newRow("1024 x 1024 claimed of less") << pngClaiming(1024, 1024) << u"damaged"_s;
+}
+
+void IconCommandsTest::refusedSource()
+{
+    QFETCH(QByteArray, content);
+    QFETCH(QString, reason);
+    QVERIFY(put(at(u"bad.png"_s), content));
+    for (const QStringList &command :
+         {QStringList{u"icons"_s, u"--platform"_s, u"all"_s}, QStringList{u"icon"_s, u"--size"_s, u"64"_s}}) {
+        const LumoraRun run = LumoraProcess()
+                                  .withMemory(limitedMemory)
+                                  .run(command + QStringList{at(u"bad.png"_s), u"--to"_s, at(u"out"_s)});
+        QCOMPARE(run.status, 1);
+        QCOMPARE(run.out, QByteArray());
+        QCOMPARE(run.complaints().size(), 1);
+        QVERIFY2(run.complaints().first().startsWith(QString(u"lumora: "_s + at(u"bad.png"_s) + u": "_s)),
+                 run.err.constData());
+        QVERIFY2(run.err.contains(reason.toUtf8()), run.err.constData());
+        QVERIFY(QDir(at(u"out"_s)).isEmpty());
+    }
+}
+
+void IconCommandsTest::truncatedSource_data()
+{
+    QTest::addColumn<QByteArray>("file");
+    const QImage picture = testPicture(1024, 1024);
+    QTest::newRow("png") << m_picture;
+    QTest::newRow("jpeg") << pictureFile(picture, "jpeg");
+    QTest::newRow("tiff") << pictureFile(picture, "tiff");
+    QTest::newRow("webp") << pictureFile(picture, "webp");
+    QTest::newRow("bmp") << pictureFile(picture.convertToFormat(QImage::Format_RGB32), "bmp");
+}
+
+void IconCommandsTest::truncatedSource()
+{
+    QFETCH(QByteArray, file);
+    for (const double share : {0.00001, 0.001, 0.1, 0.5, 0.9, 0.999}) {
+        QVERIFY(put(at(u"cut"_s), file.first(static_cast<qsizetype>(static_cast<double>(file.size()) * share))));
+        const LumoraRun run = LumoraProcess()
+                                  .withMemory(limitedMemory)
+                                  .run({u"icon"_s, at(u"cut"_s), u"--size"_s, u"64"_s, u"--to"_s, at(u"out"_s)});
+        QCOMPARE(run.status, 1);
+        QVERIFY2(run.complaints().size() == 1, run.err.constData());
+        QVERIFY(QDir(at(u"out"_s)).isEmpty());
+    }
+}
+
+void IconCommandsTest::refusedDestination_data()
+{
+    QTest::addColumn<QString>("destination");
+    QTest::addColumn<QString>("reason");
+    QTest::newRow("missing") << u"missing"_s << u"does not exist"_s;
+    QTest::newRow("a file") << u"my.png"_s << u"is not a folder"_s;
+    QTest::newRow("empty") << u""_s << u"does not exist"_s;
+    QTest::newRow("a broken link") << u"link"_s << u"does not exist"_s;
+    QTest::newRow("a device") << u"/dev/null"_s << u"is not a folder"_s;
+}
+
+void IconCommandsTest::refusedDestination()
+{
+    QFETCH(QString, destination);
+    QFETCH(QString, reason);
+    QVERIFY(QFile::link(at(u"nowhere"_s), at(u"link"_s)));
+    for (const QStringList &command :
+         {QStringList{u"icons"_s, u"--platform"_s, u"all"_s}, QStringList{u"icon"_s, u"--size"_s, u"64"_s}}) {
+        const LumoraRun run =
+            LumoraProcess().in(m_folder->path()).run(command + QStringList{u"my.png"_s, u"--to"_s, destination});
+        QCOMPARE(run.status, 1);
+        QCOMPARE(run.out, QByteArray());
+        QCOMPARE(run.complaints().size(), 1);
+        QVERIFY2(run.err.contains(reason.toUtf8()), run.err.constData());
+    }
+    QVERIFY(!QFile::exists(at(u"missing"_s)));
+}
+
+void IconCommandsTest::unreadableSource()
+{
+    QVERIFY(QFile::setPermissions(at(u"my.png"_s), QFile::Permissions()));
+    const LumoraRun run = LumoraProcess().underPermissions().run(
+        {u"icons"_s, at(u"my.png"_s), u"--platform"_s, u"all"_s, u"--to"_s, at(u"out"_s)});
+    QCOMPARE(run.status, 1);
+    QVERIFY2(run.err.contains("my.png: may not be opened"), run.err.constData());
+    QVERIFY(nothingWritten());
+}
+
+void IconCommandsTest::unwritableDestination()
+{
+    QVERIFY(QFile::setPermissions(at(u"out"_s), QFile::ReadOwner | QFile::ExeOwner));
+    const LumoraRun run = LumoraProcess().underPermissions().run(
+        {u"icons"_s, at(u"my.png"_s), u"--platform"_s, u"all"_s, u"--to"_s, at(u"out"_s)});
+    QCOMPARE(run.status, 1);
+    QCOMPARE(run.out, QByteArray());
+    QCOMPARE(run.complaints().size(), 1);
+    QVERIFY2(run.err.contains("icons: could not be created (Permission denied)"), run.err.constData());
+}
+
+void IconCommandsTest::fullDisk_data()
+{
+    QTest::addColumn<quint64>("bytes");
+    QTest::newRow("room for none") << quint64{4096};
+    QTest::newRow("room for some") << quint64{400'000};
+}
+
+void IconCommandsTest::fullDisk()
+{
+    QFETCH(quint64, bytes);
+    const SmallDisk disk(bytes);
+    QVERIFY(put(at(u"big"_s), {}));
+    LumoraProcess process;
+    // Where mounting is not allowed the files' length is limited instead, which fails at the same call.
+    if (!disk.isMounted())
+        process.withLongestFile(bytes / 10);
+    const QString place = disk.path();
+    const LumoraRun run = process.run({u"icons"_s, at(u"my.png"_s), u"--platform"_s, u"all"_s, u"--to"_s, place});
+    QCOMPARE(run.status, 1);
+    const QStringList lines = run.complaints();
+    const QStringList written = filesBelow(place + u"/icons"_s);
+    if (lines.size() == 1) {
+        QVERIFY(lines[0].contains(u"could not be created"_s));
+        QVERIFY(written.isEmpty());
+        return;
+    }
+    QCOMPARE(lines.size(), 2);
+    QVERIFY(lines[1].startsWith(u"lumora: missing in "_s));
+    QStringList missing = lines[1].section(u": "_s, 2).split(u", "_s);
+    // Written and missing together are everything, and nothing half-written is left.
+    QCOMPARE(missing.size() + written.size(), 52);
+    for (const QString &file : written) {
+        QVERIFY(!missing.contains(file));
+        if (!file.endsWith(u".icns"_s))
+            QVERIFY2(!QImage(place + u"/icons/"_s + file, "png").isNull(), qPrintable(file));
+    }
+}
+
+void IconCommandsTest::longestFile()
+{
+    const LumoraRun run = LumoraProcess().withLongestFile(100'000).run(
+        {u"icons"_s, at(u"my.png"_s), u"--platform"_s, u"android,mac"_s, u"--to"_s, at(u"out"_s), u"--json"_s});
+    QCOMPARE(run.status, 1);
+    const QStringList lines = run.complaints();
+    QCOMPARE(lines.size(), 2);
+    QVERIFY2(lines[0].contains(u"could not be written (File too large)"_s), qPrintable(lines[0]));
+    for (const char *name : {"Android/ic_512x512.png", "Mac/icons.iconset/icon_512x512@2x.png", "Mac/icons.icns"}) {
+        QVERIFY2(lines[1].contains(QString::fromLatin1(name)), qPrintable(lines[1]));
+        QVERIFY(!QFile::exists(at(u"out/icons/"_s) + QString::fromLatin1(name)));
+    }
+    QVERIFY(run.json()[u"icns"_s].isNull());
+    QCOMPARE(run.json()[u"files"_s].toArray().size(), filesBelow(at(u"out"_s)).size());
+}
+
+void IconCommandsTest::outputCannotBeWritten()
+{
+    const LumoraRun run = LumoraProcess()
+                              .withOutputTo(u"/dev/full"_s)
+                              .run({u"icons"_s, u"--platform"_s, u"favicon"_s, u"--to"_s, at(u"out"_s)});
+    QCOMPARE(run.status, 1);
+    QVERIFY(run.err.contains("standard output"));
+}
+
+void IconCommandsTest::progressOnATerminalOnly()
+{
+    const QStringList arguments{u"icons"_s, at(u"my.png"_s), u"--platform"_s, u"all"_s, u"--to"_s, at(u"out"_s)};
+    QCOMPARE(runLumora(arguments).err, QByteArray());
+    const LumoraRun shown = LumoraProcess().onTerminal().run(arguments);
+    QCOMPARE(shown.status, 0);
+    QVERIFY(shown.err.contains("1/51 Icon.png"));
+    QVERIFY(shown.err.contains("51/51 favicon-128.png"));
+    QVERIFY(shown.err.endsWith("\r\033[K"));
+    QCOMPARE(shown.out, at(u"out/icons_1"_s).toUtf8() + '\n');
+}
+
+void IconCommandsTest::icnsIsReadByAnotherProgram()
+{
+    QCOMPARE(runLumora({u"icons"_s, at(u"my.png"_s), u"--platform"_s, u"mac"_s, u"--to"_s, at(u"out"_s)}).status, 0);
+    QProcess reader;
+    // It makes out the members that were known in its day: 256, 512 and 1024 pixels.
+    reader.start(u"icns2png"_s, {u"-x"_s, u"-o"_s, at(u"out"_s), at(u"out/icons/Mac/icons.icns"_s)});
+    QVERIFY2(reader.waitForFinished(), "icns2png, from the Debian package icnsutils, is not there");
+    const QMap<QString, QString> wanted = {{u"256x256"_s, u"icon_256x256.png"_s},
+                                           {u"512x512"_s, u"icon_512x512.png"_s},
+                                           {u"1024x1024"_s, u"icon_512x512@2x.png"_s}};
+    for (auto size = wanted.cbegin(); size != wanted.cend(); ++size) {
+        const QImage read(at(u"out/icons_%1x32.png"_s.arg(size.key())));
+        QImage own(at(u"out/icons/Mac/icons.iconset/"_s + size.value()));
+        // Qt takes a scale factor from names with "@2x".
+        own.setDevicePixelRatio(1);
+        own.setColorSpace(read.colorSpace());
+        QVERIFY2(!read.isNull(), reader.readAllStandardOutput().constData());
+        QCOMPARE(read.convertToFormat(QImage::Format_ARGB32), own.convertToFormat(QImage::Format_ARGB32));
+    }
+}
+
+void IconCommandsTest::memoryStaysBounded_data()
+{
+    QTest::addColumn<QByteArray>("file");
+    QTest::newRow("64 million deep pixels") << pngOfZeroes(8000, 8000);
+    QTest::newRow("60000 x 60000 claimed") << pngClaiming(60000, 60000);
+    QTest::newRow("a profile that unpacks to a gigabyte") << pngWithLongProfile(1'000'000'000);
+}
+
+void IconCommandsTest::memoryStaysBounded()
+{
+    QFETCH(QByteArray, file);
+    const LumoraRun run = LumoraProcess()
+                              .withInput(file)
+                              .withMemory(limitedMemory)
+                              .run({u"icon"_s, u"-"_s, u"--size"_s, u"64"_s, u"--to"_s, at(u"out"_s)});
+    QCOMPARE(run.complaints().size(), run.status == 0 ? 0 : 1);
+    QVERIFY(run.status == 0 || run.status == 1);
+}
+
+QTEST_GUILESS_MAIN(IconCommandsTest)
+#include "IconCommandsTest.moc"
