@@ -139,6 +139,7 @@ void SFBPopover::closePopover(QObject *)
     if (!isVisible() || m_closing)
         return;
     m_closing = true;
+    emit closing();
     m_keyStatus->end();
     if (m_animates)
         fadeTo(0);
@@ -158,6 +159,8 @@ void SFBPopover::animationDidStop(QAbstractAnimation *animation, bool finished)
 
 void SFBPopover::windowDidOrderOut()
 {
+    if (!m_closing)
+        emit closing();
     m_fade->stop();
     m_keyStatus->end();
     if (QWidget *parentWindow = m_window->parentWindow())

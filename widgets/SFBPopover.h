@@ -91,6 +91,8 @@ public slots:
 
 signals:
     void displayed();
+    /// It begins to go, fading out or at once; it is still visible.
+    void closing();
     void closed();
 
 protected:
