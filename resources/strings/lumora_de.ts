@@ -707,6 +707,14 @@
     <source>Copy rgb</source>
     <translation>rgb kopieren</translation>
   </message>
+  <message id="COLOR_CSS">
+    <source>As CSS declaration</source>
+    <translation>Als CSS-Deklaration</translation>
+  </message>
+  <message id="COLOR_CSS_BUTTON">
+    <source>Copy CSS</source>
+    <translation>CSS kopieren</translation>
+  </message>
   <message id="COLOR_ALERT_TITLE">
     <source>This is no colour code</source>
     <translation>Das ist kein Farbcode</translation>
@@ -741,6 +749,14 @@
     <source>Palette</source>
     <translation>Palette</translation>
   </message>
+  <message id="COLOR_MODE_SLIDERS">
+    <source>Sliders</source>
+    <translation>Regler</translation>
+  </message>
+  <message id="COLOR_MODE_RECENT">
+    <source>Recent colours</source>
+    <translation>Zuletzt gewählte Farben</translation>
+  </message>
   <message id="COLOR_CHANNEL_RED">
     <source>Red</source>
     <translation>Rot</translation>
@@ -772,6 +788,42 @@
   <message id="COLOR_CHANNEL_OPACITY">
     <source>Opacity</source>
     <translation>Deckkraft</translation>
+  </message>
+  <message id="COLOR_WHEEL_VALUE">
+    <source>Hue [HUE]°, saturation [SATURATION] %</source>
+    <translation>Farbton [HUE]°, Sättigung [SATURATION] %</translation>
+  </message>
+  <message id="COLOR_SLIDERS_KIND">
+    <source>Kind of sliders</source>
+    <translation>Art der Regler</translation>
+  </message>
+  <message id="COLOR_PALETTE_LUMORA">
+    <source>Colours of the tools</source>
+    <translation>Farben der Werkzeuge</translation>
+  </message>
+  <message id="COLOR_PALETTE_DARK">
+    <source>[NAME], dark shade</source>
+    <translation>[NAME], dunkler Ton</translation>
+  </message>
+  <message id="COLOR_PALETTE_TEXT">
+    <source>Text</source>
+    <translation>Text</translation>
+  </message>
+  <message id="COLOR_PALETTE_PANEL">
+    <source>Panel</source>
+    <translation>Fläche</translation>
+  </message>
+  <message id="COLOR_PALETTE_RULE">
+    <source>Rule</source>
+    <translation>Linie</translation>
+  </message>
+  <message id="COLOR_PALETTE_WEB">
+    <source>Named colours of the web</source>
+    <translation>Benannte Farben des Webs</translation>
+  </message>
+  <message id="COLOR_RECENT_EMPTY">
+    <source>The colours you pick are kept here until you quit Lumora.</source>
+    <translation>Gewählte Farben stehen hier, bis Lumora beendet wird.</translation>
   </message>
   <message id="COLOR_HEX">
     <source>Hexadecimal code</source>

@@ -705,6 +705,14 @@
     <source>Copy rgb</source>
     <translation>Copy rgb</translation>
   </message>
+  <message id="COLOR_CSS">
+    <source>As CSS declaration</source>
+    <translation>As CSS declaration</translation>
+  </message>
+  <message id="COLOR_CSS_BUTTON">
+    <source>Copy CSS</source>
+    <translation>Copy CSS</translation>
+  </message>
   <message id="COLOR_ALERT_TITLE">
     <source>This is no colour code</source>
     <translation>This is no colour code</translation>
@@ -739,6 +747,14 @@
     <source>Palette</source>
     <translation>Palette</translation>
   </message>
+  <message id="COLOR_MODE_SLIDERS">
+    <source>Sliders</source>
+    <translation>Sliders</translation>
+  </message>
+  <message id="COLOR_MODE_RECENT">
+    <source>Recent colours</source>
+    <translation>Recent colours</translation>
+  </message>
   <message id="COLOR_CHANNEL_RED">
     <source>Red</source>
     <translation>Red</translation>
@@ -770,6 +786,42 @@
   <message id="COLOR_CHANNEL_OPACITY">
     <source>Opacity</source>
     <translation>Opacity</translation>
+  </message>
+  <message id="COLOR_WHEEL_VALUE">
+    <source>Hue [HUE]°, saturation [SATURATION] %</source>
+    <translation>Hue [HUE]°, saturation [SATURATION] %</translation>
+  </message>
+  <message id="COLOR_SLIDERS_KIND">
+    <source>Kind of sliders</source>
+    <translation>Kind of sliders</translation>
+  </message>
+  <message id="COLOR_PALETTE_LUMORA">
+    <source>Colours of the tools</source>
+    <translation>Colours of the tools</translation>
+  </message>
+  <message id="COLOR_PALETTE_DARK">
+    <source>[NAME], dark shade</source>
+    <translation>[NAME], dark shade</translation>
+  </message>
+  <message id="COLOR_PALETTE_TEXT">
+    <source>Text</source>
+    <translation>Text</translation>
+  </message>
+  <message id="COLOR_PALETTE_PANEL">
+    <source>Panel</source>
+    <translation>Panel</translation>
+  </message>
+  <message id="COLOR_PALETTE_RULE">
+    <source>Rule</source>
+    <translation>Rule</translation>
+  </message>
+  <message id="COLOR_PALETTE_WEB">
+    <source>Named colours of the web</source>
+    <translation>Named colours of the web</translation>
+  </message>
+  <message id="COLOR_RECENT_EMPTY">
+    <source>The colours you pick are kept here until you quit Lumora.</source>
+    <translation>The colours you pick are kept here until you quit Lumora.</translation>
   </message>
   <message id="COLOR_HEX">
     <source>Hexadecimal code</source>
