@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "RgbaColor.h"
+
+#include <QString>
+
+#include <functional>
+
+namespace lumora
+{
+
+/// A new colour of the platform in generic RGB with the same red, green, blue and opacity, whatever model the given one
+/// was made in. The caller owns it, as any value.
+QColor copyCGColor(const QColor &color);
+
+/// Draws a number from 0 to 2^31 - 1.
+using RandomSource = std::function<long()>;
+
+/// An opaque colour of three numbers drawn in the order red, green, blue, each times 2^-31.
+RgbaColor randomColor(const RandomSource &random);
+
+/// "r: 52, g: 73, b: 94, a: 255": each component times 255, rounded to the nearest integer. For logs.
+QString colorDescription(const RgbaColor &color);
+
+} // namespace lumora
