@@ -91,4 +91,13 @@ inline const QColor sidebarSelection = rgb(1, 1, 1);
 inline const QColor sidebarHover = QColor::fromRgbF(1, 1, 1, 0.15F);
 inline const QColor sidebarFocus = QColor::fromRgbF(1, 1, 1, 0.6F);
 
+/// What shows through a colour that is not opaque, a chequered pattern.
+inline const QColor transparencyLight = rgb(1.0F, 1.0F, 1.0F);
+inline const QColor transparencyDark = rgb(0.831F, 0.851F, 0.863F);
+/// Keeps a white swatch visible on white.
+inline const QColor swatchOutline = QColor::fromRgbF(0.0F, 0.0F, 0.0F, 0.18F);
+/// Rings and knobs on colours, seen on every one: bright with a dark edge.
+inline const QColor marker = rgb(1.0F, 1.0F, 1.0F);
+inline const QColor markerEdge = QColor::fromRgbF(0.0F, 0.0F, 0.0F, 0.45F);
+
 } // namespace lumora::palette

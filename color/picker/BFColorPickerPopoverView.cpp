@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: MIT
+#include "BFColorPickerPopoverView.h"
+
+#include "BFColorPickerPopover.h"
+#include "DragRule.h"
+#include "PickerContent.h"
+#include "PickerMetrics.h"
+#include "widgets/ScreenCoordinates.h"
+
+#include <QMouseEvent>
+
+namespace lumora
+{
+
+BFColorPickerPopoverView::BFColorPickerPopoverView(QWidget *parent) : QWidget(parent)
+{
+    resize(metrics::pickerSize);
+}
+
+BFColorPickerPopoverView::~BFColorPickerPopoverView()
+{
+    // What is only borrowed must not go with the host.
+    if (m_colorPanelView && m_colorPanelView->parentWidget() == this)
+        m_colorPanelView->setParent(nullptr);
+}
+
+void BFColorPickerPopoverView::setColorPanelView(PickerContent *content)
+{
+    m_colorPanelView = content;
+    content->setParent(this);
+    content->setGeometry(rect().adjusted(0, metrics::pickerTabBarHeight, 0, 0));
+    content->show();
+}
+
+void BFColorPickerPopoverView::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() != Qt::LeftButton) {
+        event->ignore();
+        return;
+    }
+    BFColorPickerPopover *popover = BFColorPickerPopover::sharedPopover();
+    m_originalWindowOrigin = popover->windowOrigin();
+    m_originalMouseOffset = flippedOnScreen(event->globalPosition()) - popover->windowOrigin();
+    m_dragging = true;
+}
+
+void BFColorPickerPopoverView::mouseMoveEvent(QMouseEvent *event)
+{
+    if (!m_dragging)
+        return;
+    BFColorPickerPopover *popover = BFColorPickerPopover::sharedPopover();
+    const QPointF origin = popover->windowOrigin();
+    const QPointF mouseInWindow = flippedOnScreen(event->globalPosition()) - origin;
+    popover->setWindowOrigin(origin + (mouseInWindow - m_originalMouseOffset));
+    // Judged by where the window was before this step, so that the arrow follows the drag by one step.
+    popover->setShouldHideAnchor(tearsOff(dragDistance(m_originalWindowOrigin, origin)));
+}
+
+void BFColorPickerPopoverView::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (!m_dragging || event->button() != Qt::LeftButton)
+        return;
+    m_dragging = false;
+    BFColorPickerPopover *popover = BFColorPickerPopover::sharedPopover();
+    if (tearsOff(dragDistance(m_originalWindowOrigin, popover->windowOrigin())))
+        popover->tearOff();
+    else
+        popover->animateWindowOriginTo(m_originalWindowOrigin);
+    popover->setShouldHideAnchor(false);
+}
+
+void BFColorPickerPopoverView::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    if (m_colorPanelView && m_colorPanelView->parentWidget() == this)
+        m_colorPanelView->setGeometry(rect().adjusted(0, metrics::pickerTabBarHeight, 0, 0));
+}
+
+} // namespace lumora

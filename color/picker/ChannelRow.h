@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "PickedColor.h"
+
+#include <QWidget>
+
+class QSpinBox;
+
+namespace lumora
+{
+
+class ColorSlider;
+class PickerModel;
+
+/// One channel of the picked colour: its name, a slider and its number, all three kept in step with the model.
+class ChannelRow final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// The model has to outlive the row.
+    ChannelRow(ColorChannel channel, PickerModel *model, QWidget *parent = nullptr);
+
+    ColorChannel channel() const { return m_channel; }
+    ColorSlider *slider() const { return m_slider; }
+    QSpinBox *number() const { return m_number; }
+
+    /// What the channel is called.
+    static QString name(ColorChannel channel);
+
+private:
+    void showPicked();
+    void take(int number);
+
+    ColorChannel m_channel;
+    PickerModel *m_model;
+    ColorSlider *m_slider;
+    QSpinBox *m_number;
+};
+
+} // namespace lumora

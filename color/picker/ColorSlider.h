@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "widgets/KeyboardFocus.h"
+
+#include <QBrush>
+#include <QSlider>
+
+namespace lumora
+{
+
+/// A horizontal slider whose track shows the colours that its positions stand for. A press anywhere on it takes the
+/// knob there. Keyboard and screen reader work as with any slider of the platform.
+class ColorSlider final : public QSlider
+{
+    Q_OBJECT
+
+public:
+    explicit ColorSlider(QWidget *parent = nullptr);
+
+    /// The track's colours from the smallest to the largest value; what is not opaque lies over a pattern.
+    void setStops(const QGradientStops &stops);
+    /// The knob's middle for the current value.
+    QPointF knobCenter() const;
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    bool event(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+
+private:
+    QRectF track() const;
+    void takeKnobTo(qreal x);
+
+    QGradientStops m_stops;
+    KeyboardFocus m_keyboardFocus;
+};
+
+} // namespace lumora

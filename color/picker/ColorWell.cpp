@@ -1,0 +1,184 @@
+// SPDX-License-Identifier: MIT
+#include "ColorWell.h"
+
+#include "BFColorPickerPopover.h"
+#include "ColorPainting.h"
+#include "ColorPanel.h"
+#include "PickerMetrics.h"
+#include "widgets/Palette.h"
+
+#include <QGuiApplication>
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace lumora
+{
+
+namespace
+{
+
+/// What the whole program's wells have in common.
+struct Wells
+{
+    QList<ColorWell *> active;
+    std::unique_ptr<ColorWell> hidden;
+};
+
+Wells &wells()
+{
+    static Wells shared;
+    return shared;
+}
+
+constexpr qreal frameWidth = 2;
+constexpr QSize preferredSize(90, 44);
+/// Of no use but to be told apart from every colour that anybody picks.
+constexpr RgbaColor hiddenWellColor{1.0F / 255.0F, 2.0F / 255.0F, 3.0F / 255.0F, 1.0F};
+
+} // namespace
+
+ColorWell::ColorWell(QWidget *parent) : PaintedButton(QAccessible::ColorChooser, parent)
+{
+    // By key and by screen reader; the pointer acts on going down, as a well does.
+    connect(this, &QAbstractButton::clicked, this, [this] { performActivationClickWithShiftDown(false); });
+}
+
+ColorWell::~ColorWell()
+{
+    wells().active.removeAll(this);
+}
+
+void ColorWell::setColor(const RgbaColor &color)
+{
+    if (m_color == color)
+        return;
+    m_color = color;
+    update();
+}
+
+void ColorWell::activate(bool exclusive)
+{
+    if (!m_active)
+        activateAsOrdinaryWell(exclusive);
+}
+
+void ColorWell::deactivate()
+{
+    if (m_active)
+        deactivateAsOrdinaryWell();
+}
+
+void ColorWell::deactivateAll()
+{
+    ColorPanel::disablePanel();
+    auto hidden = std::make_unique<ColorWell>();
+    hidden->setColor(hiddenWellColor);
+    // Only the exclusiveness is wanted: the panel keeps its colour.
+    hidden->joinActiveWells(true);
+    hidden->deactivate();
+    wells().hidden = std::move(hidden);
+    // Gone before the application's last widgets are.
+    static const bool cleared = [] {
+        qAddPostRoutine([] { wells().hidden.reset(); });
+        return true;
+    }();
+    Q_UNUSED(cleared)
+    ColorPanel::enablePanel();
+}
+
+ColorWell *ColorWell::hiddenWell()
+{
+    return wells().hidden.get();
+}
+
+void ColorWell::performActivationClickWithShiftDown(bool shiftDown)
+{
+    BFColorPickerPopover *popover = BFColorPickerPopover::sharedPopover();
+    if (m_active) {
+        const bool serves = popover->colorWell() == this;
+        deactivate();
+        if (serves && popover->isShown())
+            popover->close();
+        return;
+    }
+    if (popover->isShown())
+        popover->closeWithoutAnimation();
+    popover->setTarget(nullptr, {});
+    activate(!shiftDown);
+}
+
+QSize ColorWell::sizeHint() const
+{
+    return preferredSize;
+}
+
+void ColorWell::activateAsOrdinaryWell(bool exclusive)
+{
+    joinActiveWells(exclusive);
+    ColorPanel *panel = ColorPanel::sharedColorPanel();
+    panel->setColor(m_color);
+    connect(panel, &ColorPanel::colorChanged, this, &ColorWell::takePickedColor, Qt::UniqueConnection);
+    panel->orderFront(this);
+}
+
+void ColorWell::deactivateAsOrdinaryWell()
+{
+    wells().active.removeAll(this);
+    m_active = false;
+    if (ColorPanel::sharedColorPanelExists())
+        disconnect(ColorPanel::sharedColorPanel(), nullptr, this, nullptr);
+    update();
+}
+
+void ColorWell::joinActiveWells(bool exclusive)
+{
+    if (exclusive) {
+        const QList<ColorWell *> others = wells().active;
+        for (ColorWell *other : others) {
+            if (other != this)
+                other->deactivate();
+        }
+    }
+    if (!m_active)
+        wells().active.append(this);
+    m_active = true;
+    update();
+}
+
+void ColorWell::takePickedColor(const RgbaColor &color)
+{
+    setColor(color);
+    emit colorPicked(this);
+}
+
+void ColorWell::drawRect(QPainter &painter)
+{
+    const QRectF frame = QRectF(rect()).adjusted(frameWidth, frameWidth, -frameWidth, -frameWidth);
+    paintSwatch(painter, frame.adjusted(frameWidth, frameWidth, -frameWidth, -frameWidth), m_color,
+                metrics::swatchCorner);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(m_active ? palette::color : palette::separator, frameWidth));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(frame, metrics::swatchCorner + frameWidth, metrics::swatchCorner + frameWidth);
+}
+
+void ColorWell::drawFocusRing(QPainter &painter)
+{
+    paintFocusRing(painter, QRectF(rect()).adjusted(3, 3, -3, -3), metrics::swatchCorner);
+}
+
+void ColorWell::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::LeftButton)
+        performActivationClickWithShiftDown(event->modifiers().testFlag(Qt::ShiftModifier));
+    else
+        event->ignore();
+}
+
+void ColorWell::mouseReleaseEvent(QMouseEvent *event)
+{
+    // The press did it all.
+    event->accept();
+}
+
+} // namespace lumora

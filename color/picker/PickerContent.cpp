@@ -1,0 +1,204 @@
+// SPDX-License-Identifier: MIT
+#include "PickerContent.h"
+
+#include "ChannelRow.h"
+#include "PickerMetrics.h"
+#include "PickerModel.h"
+#include "PickerPages.h"
+#include "Pipette.h"
+#include "SwatchWidget.h"
+#include "color/ColorCode.h"
+#include "color/TypingRule.h"
+#include "widgets/Fonts.h"
+#include "widgets/NamedImage.h"
+#include "widgets/Palette.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSignalBlocker>
+#include <QStackedWidget>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace lumora
+{
+
+namespace
+{
+
+constexpr int fontSize = 12;
+constexpr int codeFontSize = 13;
+
+} // namespace
+
+PickerContent::PickerContent(PickerModel *model, QWidget *parent)
+    : QWidget(parent), m_model(model), m_pages(new QStackedWidget),
+      m_opacity(new ChannelRow(ColorChannel::Opacity, model)), m_swatch(new SwatchWidget), m_code(new QLineEdit),
+      m_pipetteButton(new QToolButton), m_complaint(new QLabel)
+{
+    QPalette colors = QWidget::palette();
+    colors.setColor(QPalette::WindowText, palette::chromeText);
+    colors.setColor(QPalette::Text, palette::chromeText);
+    colors.setColor(QPalette::ButtonText, palette::chromeText);
+    setPalette(colors);
+    m_complaint->setFont(latoRegular(fontSize));
+    m_complaint->setWordWrap(true);
+    m_complaint->hide();
+    QPalette warning = m_complaint->palette();
+    warning.setColor(QPalette::WindowText, palette::errorDark);
+    m_complaint->setPalette(warning);
+
+    auto *layout = new QVBoxLayout(this);
+    constexpr int margin = metrics::pickerMargin;
+    layout->setContentsMargins(margin, margin / 2, margin, margin);
+    layout->setSpacing(metrics::pickerSpacing);
+    layout->addWidget(m_pages, 1);
+    layout->addWidget(m_opacity);
+    layout->addLayout(makeCodeRow());
+    layout->addWidget(m_complaint);
+
+    setPipette(makeScreenPipette());
+    connect(m_model, &PickerModel::pickedChanged, this, &PickerContent::showPicked);
+    connect(m_code, &QLineEdit::textEdited, this, &PickerContent::codeEdited);
+    connect(m_code, &QLineEdit::editingFinished, this, &PickerContent::codeFinished);
+    connect(m_pipetteButton, &QToolButton::clicked, this, &PickerContent::pickFromScreen);
+    m_pages->setCurrentWidget(page(m_mode));
+    showPicked();
+    codeFinished();
+}
+
+PickerContent::~PickerContent() = default;
+
+QLayout *PickerContent::makeCodeRow()
+{
+    m_swatch->setFixedSize(2 * metrics::pickerFieldHeight, metrics::pickerFieldHeight);
+    m_code->setFont(latoBold(codeFontSize));
+    m_code->setFixedHeight(metrics::pickerFieldHeight);
+    m_code->setAccessibleName(qtTrId("COLOR_HEX"));
+    m_code->setToolTip(qtTrId("COLOR_HEX"));
+    m_pipetteButton->setIcon(NamedImage(u"picker_pipette"_s).icon());
+    m_pipetteButton->setFixedSize(metrics::pickerFieldHeight + 4, metrics::pickerFieldHeight);
+    m_pipetteButton->setAutoRaise(true);
+    m_pipetteButton->setFocusPolicy(Qt::StrongFocus);
+    m_pipetteButton->setAccessibleName(qtTrId("COLOR_PIPETTE"));
+    m_pipetteButton->setToolTip(qtTrId("COLOR_PIPETTE"));
+
+    auto *row = new QHBoxLayout;
+    row->setSpacing(metrics::pickerSpacing);
+    row->addWidget(m_swatch);
+    row->addWidget(m_code, 1);
+    row->addWidget(m_pipetteButton);
+    return row;
+}
+
+void PickerContent::setMode(PickerMode mode)
+{
+    m_mode = mode;
+    m_pages->setCurrentWidget(page(mode));
+}
+
+QWidget *PickerContent::page(PickerMode mode)
+{
+    QWidget *&page = m_pageOfMode[mode];
+    if (page != nullptr)
+        return page;
+    switch (mode) {
+    case PickerMode::Wheel:
+        page = new WheelPage(m_model);
+        break;
+    case PickerMode::Sliders:
+        page = new SlidersPage(m_model);
+        break;
+    case PickerMode::Palettes:
+        page = new PalettesPage(m_model);
+        break;
+    case PickerMode::Recent: {
+        auto *recent = new RecentPage(m_model);
+        recent->setRecentColors(m_recent);
+        page = recent;
+        break;
+    }
+    }
+    m_pages->addWidget(page);
+    return page;
+}
+
+bool PickerContent::showsAlpha() const
+{
+    return !m_opacity->isHidden();
+}
+
+void PickerContent::setShowsAlpha(bool shows)
+{
+    m_opacity->setVisible(shows);
+}
+
+void PickerContent::setRecentColors(const RecentColors &recent)
+{
+    m_recent = recent;
+    if (QWidget *known = m_pageOfMode.value(PickerMode::Recent))
+        static_cast<RecentPage *>(known)->setRecentColors(recent);
+}
+
+void PickerContent::setPipette(std::unique_ptr<Pipette> pipette)
+{
+    m_pipette = std::move(pipette);
+    connect(m_pipette.get(), &Pipette::picked, this, &PickerContent::screenPicked);
+    connect(m_pipette.get(), &Pipette::picked, m_model, &PickerModel::setColor);
+    connect(m_pipette.get(), &Pipette::cancelled, this, &PickerContent::screenPicked);
+    connect(m_pipette.get(), &Pipette::failed, this, &PickerContent::screenFailed);
+}
+
+void PickerContent::showPicked()
+{
+    m_swatch->setColor(m_model->color());
+    // While a code is being typed it stands as typed; the colour follows it, not the other way round.
+    if (!m_code->hasFocus() || !m_code->isModified())
+        codeFinished();
+}
+
+void PickerContent::codeEdited(const QString &text)
+{
+    const TypingOutcome outcome = outcomeOfTyping(text);
+    if (outcome.correctedText) {
+        m_code->setText(*outcome.correctedText);
+        m_code->setModified(true);
+    }
+    if (!outcome.colorText)
+        return;
+    const Result<ColorCodes> codes = colorWithHexString(*outcome.colorText);
+    if (!codes)
+        return;
+    RgbaColor color = codes.value().color;
+    color.alpha = m_model->color().alpha;
+    m_model->setColor(color);
+}
+
+void PickerContent::codeFinished()
+{
+    m_code->setText(stringFromColor(m_model->color()));
+}
+
+void PickerContent::pickFromScreen()
+{
+    m_complaint->hide();
+    m_pipetteButton->setEnabled(false);
+    m_pipette->pick(this);
+}
+
+void PickerContent::screenPicked()
+{
+    m_pipetteButton->setEnabled(true);
+}
+
+void PickerContent::screenFailed()
+{
+    m_pipetteButton->setEnabled(true);
+    m_complaint->setText(qtTrId("COLOR_PIPETTE_FAILED_MESSAGE"));
+    m_complaint->show();
+}
+
+} // namespace lumora

@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: MIT
+#include "PortalPipette.h"
+
+#include <QDBusArgument>
+#include <QDBusMessage>
+#include <QDBusObjectPath>
+#include <QDBusPendingCall>
+#include <QDBusPendingReply>
+#include <QWidget>
+
+using namespace Qt::StringLiterals;
+
+namespace lumora
+{
+
+namespace
+{
+
+constexpr auto service = "org.freedesktop.portal.Desktop"_L1;
+constexpr auto path = "/org/freedesktop/portal/desktop"_L1;
+constexpr auto screenshot = "org.freedesktop.portal.Screenshot"_L1;
+constexpr auto request = "org.freedesktop.portal.Request"_L1;
+constexpr auto properties = "org.freedesktop.DBus.Properties"_L1;
+constexpr uint firstVersionWithPickColor = 2;
+constexpr int patienceMilliseconds = 500;
+
+/// Three numbers from 0 to 1 in a structure; nothing where the portal answered something else.
+bool readColor(const QVariant &value, RgbaColor &color)
+{
+    if (!value.canConvert<QDBusArgument>())
+        return false;
+    const auto argument = value.value<QDBusArgument>();
+    if (argument.currentSignature() != "(ddd)"_L1)
+        return false;
+    double red = 0;
+    double green = 0;
+    double blue = 0;
+    argument.beginStructure();
+    argument >> red >> green >> blue;
+    argument.endStructure();
+    color = {static_cast<float>(red), static_cast<float>(green), static_cast<float>(blue), 1.0F};
+    return true;
+}
+
+/// How portals name the window that asks: known for X11 only.
+QString parentName(const QWidget *window)
+{
+    if (window == nullptr || qEnvironmentVariable("XDG_SESSION_TYPE") == u"wayland")
+        return {};
+    return u"x11:"_s + QString::number(window->window()->winId(), 16);
+}
+
+} // namespace
+
+PortalPipette::PortalPipette(QDBusConnection bus, QObject *parent) : Pipette(parent), m_bus(std::move(bus)) {}
+
+bool PortalPipette::isAvailable() const
+{
+    if (!m_bus.isConnected())
+        return false;
+    QDBusMessage question = QDBusMessage::createMethodCall(service, path, properties, u"Get"_s);
+    question << QString(screenshot) << u"version"_s;
+    const QDBusMessage answer = m_bus.call(question, QDBus::Block, patienceMilliseconds);
+    if (answer.type() != QDBusMessage::ReplyMessage || answer.arguments().isEmpty())
+        return false;
+    const auto version = answer.arguments().constFirst().value<QDBusVariant>().variant();
+    return version.toUInt() >= firstVersionWithPickColor;
+}
+
+void PortalPipette::pick(QWidget *window)
+{
+    // The answer comes as a signal of an object whose path follows from the caller's name and the token; listening
+    // before asking is the only way not to miss it.
+    const QString token = u"lumora"_s + QString::number(++m_requests);
+    QString sender = m_bus.baseService().mid(1);
+    listenTo(u"/org/freedesktop/portal/desktop/request/"_s + sender.replace(u'.', u'_') + u'/' + token);
+
+    QDBusMessage call = QDBusMessage::createMethodCall(service, path, screenshot, u"PickColor"_s);
+    call << parentName(window) << QVariantMap{{u"handle_token"_s, token}};
+    auto *watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(call), this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, &PortalPipette::requested);
+}
+
+void PortalPipette::received(uint response, const QVariantMap &results)
+{
+    listenTo({});
+    RgbaColor color;
+    if (response == 0 && readColor(results.value(u"color"_s), color))
+        emit picked(color);
+    else if (response == 1)
+        emit cancelled();
+    else
+        emit failed();
+}
+
+void PortalPipette::listenTo(const QString &requestPath)
+{
+    if (!m_requestPath.isEmpty())
+        m_bus.disconnect(service, m_requestPath, request, u"Response"_s, this, SLOT(received(uint, QVariantMap)));
+    m_requestPath = requestPath;
+    if (!m_requestPath.isEmpty())
+        m_bus.connect(service, m_requestPath, request, u"Response"_s, this, SLOT(received(uint, QVariantMap)));
+}
+
+void PortalPipette::requested(QDBusPendingCallWatcher *call)
+{
+    call->deleteLater();
+    const QDBusPendingReply<QDBusObjectPath> reply = *call;
+    if (reply.isError()) {
+        listenTo({});
+        emit failed();
+    } else if (!m_requestPath.isEmpty() && reply.value().path() != m_requestPath) {
+        // Portals before version 0.9 choose the path themselves.
+        listenTo(reply.value().path());
+    }
+}
+
+} // namespace lumora

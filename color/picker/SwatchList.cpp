@@ -1,0 +1,121 @@
+// SPDX-License-Identifier: MIT
+#include "SwatchList.h"
+
+#include "ColorPainting.h"
+#include "PickerMetrics.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+#include <QStyledItemDelegate>
+
+#include <algorithm>
+
+namespace lumora
+{
+
+namespace
+{
+
+class SwatchDelegate final : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        const auto *model = static_cast<const SwatchModel *>(index.model());
+        QRectF swatch(0, 0, metrics::swatch, metrics::swatch);
+        swatch.moveCenter(QRectF(option.rect).center());
+        if (option.state.testFlag(QStyle::State_Selected)) {
+            swatch.adjust(2, 2, -2, -2);
+            paintFocusRing(*painter, swatch.adjusted(1, 1, -1, -1), metrics::swatchCorner - 2);
+        }
+        paintSwatch(*painter, swatch, model->at(index).color, metrics::swatchCorner);
+    }
+    QSize sizeHint(const QStyleOptionViewItem &, const QModelIndex &) const override
+    {
+        return {metrics::swatchCell, metrics::swatchCell};
+    }
+};
+
+} // namespace
+
+SwatchList::SwatchList(QWidget *parent) : QListView(parent), m_model(new SwatchModel(this))
+{
+    setModel(m_model);
+    setItemDelegate(new SwatchDelegate(this));
+    setFlow(QListView::LeftToRight);
+    setWrapping(true);
+    setResizeMode(QListView::Adjust);
+    setUniformItemSizes(true);
+    setMovement(QListView::Static);
+    setSelectionMode(QAbstractItemView::SingleSelection);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    setFrameShape(QFrame::NoFrame);
+    viewport()->setAutoFillBackground(false);
+    connect(this, &QAbstractItemView::clicked, this, &SwatchList::choose);
+}
+
+void SwatchList::setColors(std::vector<NamedColor> colors)
+{
+    m_model->setColors(std::move(colors));
+    updateGeometry();
+}
+
+void SwatchList::showColor(const RgbaColor &color)
+{
+    const QModelIndex index = m_model->indexOf(color);
+    if (index.isValid())
+        setCurrentIndex(index);
+    else
+        clearSelection();
+}
+
+void SwatchList::setGrowsWithContent(bool grows)
+{
+    m_growsWithContent = grows;
+    setVerticalScrollBarPolicy(grows ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAsNeeded);
+    QSizePolicy policy(QSizePolicy::Expanding, grows ? QSizePolicy::Minimum : QSizePolicy::Expanding);
+    policy.setHeightForWidth(grows);
+    setSizePolicy(policy);
+}
+
+QSize SwatchList::sizeHint() const
+{
+    const int width = metrics::pickerSize.width() - 2 * metrics::pickerMargin;
+    return {width, m_growsWithContent ? heightForWidth(width) : 4 * metrics::swatchCell};
+}
+
+int SwatchList::heightForWidth(int width) const
+{
+    const int columns = std::max(1, width / metrics::swatchCell);
+    const int rows = (m_model->rowCount() + columns - 1) / columns;
+    return rows * metrics::swatchCell;
+}
+
+void SwatchList::keyPressEvent(QKeyEvent *event)
+{
+    const QModelIndex before = currentIndex();
+    const bool accepts =
+        event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_Space;
+    if (!accepts)
+        QListView::keyPressEvent(event);
+    if (accepts || currentIndex() != before)
+        choose(currentIndex());
+}
+
+void SwatchList::resizeEvent(QResizeEvent *event)
+{
+    QListView::resizeEvent(event);
+    if (m_growsWithContent && event->oldSize().width() != event->size().width())
+        setMinimumHeight(heightForWidth(event->size().width()));
+}
+
+void SwatchList::choose(const QModelIndex &index)
+{
+    if (index.isValid())
+        emit colorChosen(m_model->at(index).color);
+}
+
+} // namespace lumora

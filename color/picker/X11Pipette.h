@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Pipette.h"
+
+#include <QPointer>
+#include <QWidget>
+
+namespace lumora
+{
+
+/// Reads the screen itself, which X11 allows: grabs pointer and keyboard, takes the colour under the pointer at the
+/// next click; Escape or another button changes the mind.
+class X11Pipette final : public Pipette
+{
+    Q_OBJECT
+
+public:
+    using Pipette::Pipette;
+
+    /// Whether the program runs under X11, which also lets it read what is not its own.
+    static bool isAvailable();
+    void pick(QWidget *window) override;
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void finish();
+    void take(const QPoint &globalPosition);
+
+    QPointer<QWidget> m_window;
+};
+
+} // namespace lumora
