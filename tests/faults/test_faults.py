@@ -1,0 +1,154 @@
+# SPDX-License-Identifier: MIT
+"""What the commands do when the file system lets them down: no crash, no hang, no torso, no lie about success."""
+import os
+import shutil
+import subprocess
+import tempfile
+import unittest
+from concurrent.futures import ThreadPoolExecutor
+from dataclasses import dataclass
+from pathlib import Path
+
+from jobs import JOBS
+
+PROGRAM = os.environ["LUMORA_PROGRAM"]
+PRELOAD = os.environ["LUMORA_FAILING_CALLS"]
+# A job takes a fraction of a second; a machine under load gets two orders of magnitude more.
+HANG = 60
+
+
+@dataclass
+class Run:
+    """How one run ended and what it left."""
+
+    status: int
+    out: bytes
+    err: str
+    files: dict
+    temporary: list
+
+
+def contents(folder):
+    return {str(path.relative_to(folder)): path.read_bytes() for path in sorted(folder.rglob("*")) if path.is_file()}
+
+
+def run(job, stdout=subprocess.PIPE, prefix=(), **faults):
+    """Runs the job in a place of its own, with LUMORA_FAULT_* set from the keywords."""
+    with tempfile.TemporaryDirectory() as place:
+        place = Path(place)
+        for name, files in {"in": job.sources, "out": job.present, "tmp": {}, "run": {}}.items():
+            (place / name).mkdir(mode=0o700)
+            for file, content in files.items():
+                (place / name / file).parent.mkdir(exist_ok=True)
+                (place / name / file).write_bytes(content)
+        environment = os.environ | {"TMPDIR": str(place / "tmp"), "XDG_RUNTIME_DIR": str(place / "run"), "LD_PRELOAD": PRELOAD}
+        environment |= {f"LUMORA_FAULT_{key.upper()}": str(value) for key, value in faults.items()}
+        words = [word.replace("{in}", f"{place}/in").replace("{out}", f"{place}/out") for word in job.arguments]
+        process = subprocess.run(
+            [*prefix, PROGRAM, *words], stdout=stdout, stderr=subprocess.PIPE, env=environment, timeout=HANG, check=False
+        )
+        # The place has another name each time; results that name it are compared without it.
+        return Run(
+            process.returncode,
+            (process.stdout or b"").replace(bytes(place), b""),
+            process.stderr.decode(),
+            contents(place / "out"),
+            sorted(path.name for path in (place / "tmp").iterdir()),
+        )
+
+
+def counted_calls(job, **faults):
+    with tempfile.NamedTemporaryFile() as log:
+        run(job, log=log.name, **faults)
+        return Path(log.name).read_text().split()
+
+
+class Faults(unittest.TestCase):
+    def each(self, job, kind, **faults):
+        """The run without a fault, what was done, and the run with it, for each call that is let down in turn."""
+        if kind not in job.kinds:
+            return
+        sound = run(job)
+        self.assertEqual((sound.status, sound.temporary), (0, []), sound.err)
+        calls = counted_calls(job, **faults)
+        self.assertGreater(len(calls), 2, "the preload counts nothing")
+        with ThreadPoolExecutor(max_workers=2) as pool:
+            runs = pool.map(lambda number: run(job, at=number, kind=kind, **faults), range(1, len(calls) + 1))
+            yield from ((sound, f"{job.name}, {kind} at {number}: {calls[number - 1]}", ended)
+                        for number, ended in enumerate(runs, 1))
+
+    def assert_no_torso(self, job, sound, ended):
+        for name, content in job.present.items():
+            self.assertIn(name, ended.files, "a file of the user's is gone")
+            self.assertIn(ended.files[name], (content, sound.files[name]), f"{name} is neither old nor new")
+        for name, content in ended.files.items():
+            if name not in job.present:
+                self.assertEqual(content, sound.files.get(name), f"{name} is no whole result")
+
+    def assert_honest(self, job, sound, ended):
+        self.assertGreaterEqual(ended.status, 0, f"ended by signal {-ended.status}")
+        self.assert_no_torso(job, sound, ended)
+        if ended.status == 0:
+            self.assertEqual((ended.out, ended.files), (sound.out, sound.files), "success was claimed")
+        else:
+            self.assertRegex(ended.err, "(?m)^lumora: ", "nothing was said")
+
+    def test_a_call_that_fails_once_is_told(self):
+        for job in JOBS:
+            for sound, what, ended in self.each(job, "once"):
+                with self.subTest(what):
+                    self.assert_honest(job, sound, ended)
+
+    def test_a_disk_that_stays_full_is_told(self):
+        for job in JOBS:
+            for sound, what, ended in self.each(job, "onwards"):
+                with self.subTest(what):
+                    self.assert_honest(job, sound, ended)
+
+    def test_a_file_system_without_unnamed_files_does_as_well(self):
+        for job in JOBS:
+            for sound, what, ended in self.each(job, "once", named=1):
+                with self.subTest(what):
+                    self.assert_honest(job, sound, ended)
+
+    def test_a_write_that_takes_half_is_continued(self):
+        for job in JOBS:
+            for sound, what, ended in self.each(job, "short"):
+                with self.subTest(what):
+                    self.assertEqual((ended.status, ended.out, ended.files), (0, sound.out, sound.files), ended.err)
+
+    def test_an_interrupted_write_is_repeated(self):
+        for job in JOBS:
+            for sound, what, ended in self.each(job, "interrupted"):
+                with self.subTest(what):
+                    self.assertEqual((ended.status, ended.out, ended.files), (0, sound.out, sound.files), ended.err)
+
+    def test_a_killed_job_leaves_whole_files_only(self):
+        for job in JOBS:
+            for sound, what, ended in self.each(job, "kill"):
+                with self.subTest(what):
+                    self.assertEqual(ended.status, -9)
+                    self.assert_no_torso(job, sound, ended)
+
+    def test_results_that_nobody_receives_are_no_success(self):
+        for job in JOBS:
+            with self.subTest(job.name), open("/dev/full", "wb") as full:
+                ended = run(job, stdout=full)
+                self.assertGreater(ended.status, 0)
+                self.assertIn("standard output", ended.err)
+
+    @unittest.skipUnless(os.geteuid() == 0 and shutil.which("unshare"), "mounting needs root; the full disk above is the same")
+    def test_a_small_file_system_is_filled_and_told(self):
+        # One page holds the folders, and not the results.
+        mount = ["unshare", "--mount", "--propagation", "private", "sh", "-c", 'mount -t tmpfs -o size=4k,mode=700 tmpfs "$0"; exec "$@"']
+        for job in JOBS:
+            with self.subTest(job.name), tempfile.TemporaryDirectory() as small:
+                words = [word.replace("{out}", small) for word in job.arguments]
+                filled = type(job)(job.name, words, job.sources)
+                ended = run(filled, prefix=[*mount, small])
+                self.assertEqual(ended.status, 1)
+                self.assertIn("No space left on device", ended.err)
+
+
+if __name__ == "__main__":
+    unittest.main()
