@@ -95,9 +95,8 @@ class Unpacked:
         shutil.rmtree(self.folder)
 
     def command(self, *command, display=""):
-        inside = [str(self.folder / part.lstrip("/")) if str(part).startswith("/work/") else str(part) for part in command]
         environment = ["env", f"PATH={self.folder}/usr/bin:{os.environ['PATH']}", "LC_ALL=C.UTF-8", f"DISPLAY={display}"]
-        return [*environment, *inside]
+        return [*environment, *map(str, command)]
 
     def run(self, *command):
         return run(*self.command(*command))
@@ -146,6 +145,10 @@ class FreshRoot(unittest.TestCase):
         self.assertEqual(result.returncode, 0, result.stdout)
         return result.stdout
 
+    def work(self, name):
+        """The path that the program knows a file in the work folder by."""
+        return f"/work/{name}" if AS_ROOT else str(self.root.folder / "work" / name)
+
     def test_1_the_version_is_the_packages(self):
         self.assertEqual(self.lumora("--version"), f"lumora {VERSION}\n")
 
@@ -154,6 +157,23 @@ class FreshRoot(unittest.TestCase):
 
     def test_2_devices_are_listed(self):
         self.assertIn("iPhone", self.lumora("devices"))
+
+    def test_2_every_icon_is_written(self):
+        self.lumora("icons", "--platform", "all", "--to", self.work("."))
+        written = [path for path in (self.root.folder / "work/icons").rglob("*") if path.is_file()]
+        # The catalogue's 51, and the Mac icon file.
+        self.assertEqual(len(written), 52)
+
+    def test_2_placeholders_are_written(self):
+        self.lumora("placeholders", "--set", "mac", "--to", self.work("."))
+        self.assertEqual(len(list((self.root.folder / "work/placeholders").iterdir())), 4)
+
+    def test_2_pictures_that_need_a_plug_in_are_read(self):
+        for kind in ("tiff", "webp"):
+            source = self.root.folder / "work" / f"source.{kind}"
+            made = run("convert", "-size", "1024x1024", "plasma:red-blue", source)
+            self.assertEqual(made.returncode, 0, made.stdout)
+            self.lumora("icon", self.work(source.name), "--size", "16", "--to", self.work("."))
 
     @unittest.skipUnless(AS_ROOT, "nothing was installed")
     def test_9_removal_leaves_no_trace(self):
