@@ -84,6 +84,12 @@ inline const QColor progressShadow = QColor::fromRgbF(0.0F, 0.0F, 0.0F, 0.0F);
 inline const QColor tabSelected = QColor::fromRgbF(0.204F, 0.286F, 0.369F, 0.22F);
 inline const QColor tabHover = QColor::fromRgbF(0.204F, 0.286F, 0.369F, 0.09F);
 
+/// Text fields: the box, what is shown before anything is typed, and what is selected.
+inline const QColor textFieldBackground = rgb(1, 1, 1);
+inline const QColor placeholderText = rgb(0.45F, 0.51F, 0.55F);
+inline const QColor selectedText = rgb(1, 1, 1);
+inline const QColor selectedTextBackground = iconsBorder;
+
 /// The sidebar's own blue, before a tool colours it.
 inline const QColor sidebar = rgb(0.341F, 0.565F, 0.898F);
 /// The selected item's frame, the item under the pointer, and the ring while keys go to the sidebar.

@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: MIT
+#include "ZKFieldEditor.h"
+
+#include "widgets/ZKSecureGlyphGenerator.h"
+
+#include <QKeyEvent>
+
+namespace lumora
+{
+
+ZKFieldEditor::ZKFieldEditor(QWidget *field) : QLineEdit(field)
+{
+    setFrame(false);
+    setAlignment(Qt::AlignTop);
+    setDragEnabled(true);
+    // The field stands in the chain of focus, its editor only gets the focus from it.
+    setFocusPolicy(Qt::ClickFocus);
+}
+
+void ZKFieldEditor::setSecure(bool secure)
+{
+    if (!secure) {
+        setEchoMode(Normal);
+        return;
+    }
+    setEchoMode(Password);
+    // Styles are free to show the last character for a while, and to draw another character than a bullet.
+    setStyleSheet(QStringLiteral("QLineEdit { background: transparent; border: none; lineedit-password-character: %1; "
+                                 "lineedit-password-mask-delay: 0; }")
+                      .arg(static_cast<int>(ZKSecureGlyphGenerator::bullet)));
+}
+
+bool ZKFieldEditor::focusNextPrevChild(bool next)
+{
+    emit insertTab(next);
+    return true;
+}
+
+void ZKFieldEditor::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        event->accept();
+        emit insertNewline();
+        return;
+    }
+    if (echoMode() != Normal && event->matches(QKeySequence::Cut)) {
+        // A secret that cannot be copied would only be lost.
+        event->accept();
+        return;
+    }
+    QLineEdit::keyPressEvent(event);
+}
+
+void ZKFieldEditor::focusOutEvent(QFocusEvent *event)
+{
+    QLineEdit::focusOutEvent(event);
+    switch (event->reason()) {
+    case Qt::ActiveWindowFocusReason:
+    case Qt::PopupFocusReason:
+    case Qt::MenuBarFocusReason:
+        // The focus comes back.
+        return;
+    default:
+        emit textDidEndEditing();
+    }
+}
+
+} // namespace lumora
