@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "PackageFacts.h"
+
+#include <QList>
+#include <QSize>
+#include <QStringList>
+
+namespace lumora
+{
+
+/// The artwork an app lacks, in the order of the required lists.
+struct ArtworkFindings
+{
+    QList<int> missingIcons; ///< edge lengths
+    /// All required launch images when the app has none of them, nothing as soon as it has one.
+    QList<QSize> missingLaunchImages;
+
+    bool operator==(const ArtworkFindings &) const = default;
+};
+
+QList<int> requiredIcons(PlatformType platform);
+QList<QSize> requiredLaunchImages(PlatformType platform);
+
+/// The names that may be icons: those that contain "icon", "Icon" or "iTunesArtwork".
+QStringList iconCandidates(const QStringList &images);
+/// The names that may be launch images: those that contain "default" or "Default".
+QStringList launchImageCandidates(const QStringList &images);
+
+/// The required edge lengths at which no candidate is exactly that wide and high.
+QList<int> missingIcons(PlatformType platform, const QList<QSize> &candidateSizes);
+/// Every required size when no candidate has exactly one of them, else nothing.
+QList<QSize> missingLaunchImages(PlatformType platform, const QList<QSize> &candidateSizes);
+
+/// "57x57".
+QString sizeText(QSize size);
+
+} // namespace lumora

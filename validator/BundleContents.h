@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "foundation/Result.h"
+
+#include <QString>
+#include <QStringList>
+
+namespace lumora
+{
+
+/// What stands behind the last dot of a file name or path; empty for a name without dot or with its only dot in front.
+QString pathExtension(const QString &path);
+
+/// Every name in the folder, hidden ones too, sorted by code unit.
+Result<QStringList> folderListing(const QString &folder);
+
+/// The last name with the extension "app"; empty when there is none.
+QString appBundleName(const QStringList &payload);
+
+/// What a bundle's listing says.
+struct BundleContents
+{
+    bool hasInfoPlist = false;
+    QStringList images;        ///< extension "png", or "iTunesArtwork" anywhere in the name
+    QStringList localizations; ///< English names of the folders with the extension "lproj"
+};
+BundleContents bundleContents(const QStringList &listing);
+
+} // namespace lumora

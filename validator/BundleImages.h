@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QImage>
+#include <QList>
+#include <QSize>
+#include <QString>
+#include <QStringList>
+
+namespace lumora
+{
+
+/// The pixel counts of a picture file, from its header alone; an empty size when it is no picture.
+QSize pictureSize(const QString &path);
+
+/// `pictureSize` of each file in the folder.
+QList<QSize> pictureSizes(const QString &folder, const QStringList &names);
+
+/// The picture that stands for the app: of the candidates, in their order, the first that is 512, 144, 120, 152, 1024
+/// or 114 pixels high and can be decoded, stretched to `appIconSize` pixels square with corners as the iOS version
+/// rounds them. Null when there is none. `sizes` are the candidates' own.
+QImage appIcon(const QString &folder, const QStringList &candidates, const QList<QSize> &sizes, double minimumOS);
+
+inline constexpr int appIconSize = 128;
+
+} // namespace lumora

@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: MIT
+#include "ProfileDecoder.h"
+
+#include "foundation/WholeFile.h"
+
+#include <QFileInfo>
+#include <QProcess>
+
+#include <openssl/cms.h>
+#include <openssl/err.h>
+
+using namespace Qt::StringLiterals;
+
+namespace lumora
+{
+
+namespace
+{
+
+/// Profiles with hundreds of devices stay below 200 KB.
+constexpr qint64 largestProfile = 8 << 20;
+
+struct FreeMessage
+{
+    void operator()(CMS_ContentInfo *message) const { ::CMS_ContentInfo_free(message); }
+};
+
+} // namespace
+
+QByteArray signedMessageContent(const QByteArray &message)
+{
+    if (message.size() > largestProfile)
+        return {};
+    const auto *bytes = reinterpret_cast<const unsigned char *>(message.constData());
+    const std::unique_ptr<CMS_ContentInfo, FreeMessage> parsed(
+        ::d2i_CMS_ContentInfo(nullptr, &bytes, static_cast<long>(message.size())));
+    ::ERR_clear_error();
+    if (!parsed || ::OBJ_obj2nid(::CMS_get0_type(parsed.get())) != NID_pkcs7_signed)
+        return {};
+    ASN1_OCTET_STRING **content = ::CMS_get0_content(parsed.get());
+    ::ERR_clear_error();
+    if (content == nullptr || *content == nullptr)
+        return {};
+    return QByteArray(reinterpret_cast<const char *>(::ASN1_STRING_get0_data(*content)),
+                      ::ASN1_STRING_length(*content));
+}
+
+QString asciiText(const QByteArray &bytes)
+{
+    QString text = QString::fromLatin1(bytes);
+    for (QChar &character : text) {
+        if (character > QChar(0x7F))
+            character = QChar(QChar::ReplacementCharacter);
+    }
+    return text;
+}
+
+std::optional<QString> CmsProfileDecoder::profileText(const QString &path) const
+{
+    const auto message = readWholeFile(path, largestProfile);
+    return message ? asciiText(signedMessageContent(message.value())) : u""_s;
+}
+
+std::optional<QString> SecurityToolProfileDecoder::profileText(const QString &path) const
+{
+    QProcess tool;
+    tool.setStandardErrorFile(QProcess::nullDevice());
+    tool.start(m_program, {u"cms"_s, u"-D"_s, u"-i"_s, path}, QIODevice::ReadOnly);
+    if (!tool.waitForStarted())
+        return std::nullopt;
+    tool.waitForFinished(-1);
+    const QString text = asciiText(tool.readAllStandardOutput());
+    return text.isNull() ? u""_s : text;
+}
+
+std::unique_ptr<ProfileDecoder> systemProfileDecoder()
+{
+    const QString tool = u"/usr/bin/security"_s;
+    if (QFileInfo(tool).isExecutable())
+        return std::make_unique<SecurityToolProfileDecoder>(tool);
+    return std::make_unique<CmsProfileDecoder>();
+}
+
+} // namespace lumora

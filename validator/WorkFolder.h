@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "ExtractionFolder.h"
+#include "foundation/Result.h"
+
+#include <QString>
+
+#include <memory>
+
+namespace lumora
+{
+
+/// A private folder on disk for what is unpacked while the program runs; removed, with all that is in it, when the
+/// object goes. A lock marks it as in use, so that what a process that was killed left behind is removed by the next
+/// one.
+class WorkFolder
+{
+public:
+    /// Makes a fresh folder, readable for this user only, below TMPDIR, else /var/tmp, else /tmp.
+    static Result<std::unique_ptr<WorkFolder>> make();
+    /// The same below a folder of the caller's choice.
+    static Result<std::unique_ptr<WorkFolder>> make(const QString &parent);
+    ~WorkFolder();
+    Q_DISABLE_COPY_MOVE(WorkFolder)
+
+    const QString &path() const { return m_path; }
+    /// Makes it the process's current folder. What the user names by relative path has to be resolved before.
+    bool makeCurrent() const;
+
+private:
+    WorkFolder(QString path, FileDescriptor lock) : m_path(std::move(path)), m_lock(std::move(lock)) {}
+
+    QString m_path;
+    FileDescriptor m_lock;
+};
+
+} // namespace lumora
