@@ -7,6 +7,7 @@
 #include "IconCommand.h"
 #include "IconsCommand.h"
 #include "PlaceholdersCommand.h"
+#include "ValidateCommand.h"
 #include "foundation/Log.h"
 #include "foundation/Version.h"
 
@@ -34,6 +35,7 @@ const std::vector<Command> &commands()
         {"placeholders", true, &declarePlaceholdersCommand},
         {"color", false, &declareColorCommand},
         {"devices", false, &declareDevicesCommand},
+        {"validate", false, &declareValidateCommand},
     };
     return all;
 }

@@ -2,7 +2,7 @@
 #include "ApplePngDecoder.h"
 
 #include "PngHeader.h"
-#include "PngRows.h"
+#include "PngRowReader.h"
 
 #include <QtEndian>
 
@@ -73,7 +73,7 @@ Result<QImage> decodeApplePng(QByteArrayView bytes, const QString &name, qint64 
 
     const int channels = header->colorType == rgba ? 4 : 3;
     const bool opaque = header->opaque || channels == 3;
-    PngRows rows(bytes, channels);
+    PngRowReader rows(bytes, channels);
     const auto passes =
         header->interlaced ? std::span<const Pass>(interlacePasses) : std::span<const Pass>(wholePicture);
     for (const Pass &pass : passes) {

@@ -118,7 +118,8 @@ PackageReport inspectPackage(const QString &ipaPath, const InspectionSite &site)
     PackageReport report;
     report.extraction = extractPackage(ipaPath, site);
     report.facts = readBundle(ipaPath, site);
-    report.hasApp = report.facts.appContentFolderPath != payloadFolder;
+    report.hasApp = report.facts.appContentFolderPath != payloadFolder &&
+                    QFileInfo(inWorkFolder(site, report.facts.appContentFolderPath)).isDir();
     report.artwork = checkArtwork(report.facts, site);
     removePayload(site);
     return report;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "PngRows.h"
+#include "PngRowReader.h"
 
 #include <QtEndian>
 
@@ -26,26 +26,26 @@ unsigned char paeth(int left, int above, int corner)
 
 } // namespace
 
-PngRows::PngRows(QByteArrayView bytes, int bytesPerPixel)
+PngRowReader::PngRowReader(QByteArrayView bytes, int bytesPerPixel)
     : m_bytes(bytes), m_pixel(static_cast<std::size_t>(bytesPerPixel)), m_at(signatureSize),
       m_ready(::inflateInit2(&m_stream, -MAX_WBITS) == Z_OK)
 {
 }
 
-PngRows::~PngRows()
+PngRowReader::~PngRowReader()
 {
     if (m_ready)
         ::inflateEnd(&m_stream);
 }
 
-void PngRows::beginPass(int columns)
+void PngRowReader::beginPass(int columns)
 {
     const std::size_t size = 1 + static_cast<std::size_t>(columns) * m_pixel;
     m_row.assign(size, 0);
     m_above.assign(size, 0);
 }
 
-std::span<const unsigned char> PngRows::next()
+std::span<const unsigned char> PngRowReader::next()
 {
     m_row.swap(m_above);
     if (!m_ready || !inflateRow() || !unfilter(m_row[0]))
@@ -53,7 +53,7 @@ std::span<const unsigned char> PngRows::next()
     return std::span(m_row).subspan(1);
 }
 
-bool PngRows::nextChunk()
+bool PngRowReader::nextChunk()
 {
     while (m_at <= m_bytes.size() - 12) {
         const qsizetype length = qFromBigEndian<quint32>(m_bytes.data() + m_at);
@@ -75,7 +75,7 @@ bool PngRows::nextChunk()
     return false;
 }
 
-bool PngRows::inflateRow()
+bool PngRowReader::inflateRow()
 {
     m_stream.next_out = m_row.data();
     m_stream.avail_out = static_cast<uInt>(m_row.size());
@@ -92,7 +92,7 @@ bool PngRows::inflateRow()
     return true;
 }
 
-bool PngRows::unfilter(int filter)
+bool PngRowReader::unfilter(int filter)
 {
     const auto left = [this](std::size_t i) -> int { return i > m_pixel ? m_row[i - m_pixel] : 0; };
     const auto corner = [this](std::size_t i) -> int { return i > m_pixel ? m_above[i - m_pixel] : 0; };

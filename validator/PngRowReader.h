@@ -12,13 +12,13 @@ namespace lumora
 {
 
 /// Unpacks the raw deflate stream in a PNG file's IDAT chunks row by row and undoes the rows' filters.
-class PngRows
+class PngRowReader
 {
 public:
     /// `bytes` is the whole file and must outlive the object; `bytesPerPixel` is 3 or 4.
-    PngRows(QByteArrayView bytes, int bytesPerPixel);
-    ~PngRows();
-    Q_DISABLE_COPY_MOVE(PngRows)
+    PngRowReader(QByteArrayView bytes, int bytesPerPixel);
+    ~PngRowReader();
+    Q_DISABLE_COPY_MOVE(PngRowReader)
 
     /// Starts a pass whose rows have this many pixels; there is no row above its first one.
     void beginPass(int columns);
