@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MIT
+// Any bytes as an app package: unpacked, read, judged and removed as the program does it. Whatever the archive holds,
+// nothing may appear beside the work folder.
+#include "foundation/Log.h"
+#include "validator/PackageInspection.h"
+#include "validator/ZipArchive.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <cstdlib>
+
+using namespace lumora;
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+constexpr ExtractionLimits fuzzLimits = {1 << 20, 200, 0};
+
+void inspect(const QString &path, const QString &folder)
+{
+    const CmsProfileDecoder decoder;
+    inspectPackage(path, {folder, decoder, fuzzLimits});
+}
+
+/// The way round minizip that encrypted entries take.
+void extractWithPassword(const QString &path, const QString &folder)
+{
+    ZipArchive archive;
+    archive.setLimits(fuzzLimits);
+    if (archive.UnzipOpenFile(path, u"secret"_s))
+        archive.UnzipFileTo(folder, true);
+    archive.UnzipCloseFile();
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerInitialize(int *, char ***)
+{
+    QLoggingCategory::setFilterRules(u"lumora.info=false"_s);
+    return 0;
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+{
+    static const QTemporaryDir folder(u"/dev/shm/lumora-fuzz-XXXXXX"_s);
+    const QString path = folder.filePath(u"package.ipa"_s);
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
+        std::abort();
+    file.write(reinterpret_cast<const char *>(data), static_cast<qint64>(size));
+    file.close();
+    const QString work = folder.filePath(u"work"_s);
+    inspect(path, work);
+    extractWithPassword(path, work);
+    QDir(work).removeRecursively();
+    if (QDir(folder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot) !=
+        QStringList{u"package.ipa"_s})
+        std::abort();
+    return 0;
+}
