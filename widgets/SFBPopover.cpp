@@ -18,8 +18,8 @@ SFBPopover::SFBPopover() : SFBPopover(static_cast<ViewController *>(nullptr)) {}
 
 SFBPopover::SFBPopover(QWidget *contentView, QObject *parent) : SFBPopover(new ViewController(contentView), parent) {}
 
-SFBPopover::SFBPopover(ViewController *contentViewController, QObject *parent)
-    : QObject(parent), m_window(std::make_unique<SFBPopoverWindow>()),
+SFBPopover::SFBPopover(ViewController *contentViewController, QObject *parent, const PopoverPlatform &platform)
+    : QObject(parent), m_window(std::make_unique<SFBPopoverWindow>(QRectF(), platform)),
       m_keyStatus(new PopoverKeyStatus(m_window.get())), m_fade(new QVariantAnimation(m_window.get()))
 {
     m_fade->setObjectName(QStringLiteral("alphaValue"));

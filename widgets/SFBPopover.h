@@ -33,7 +33,8 @@ public:
     /// Wraps the view in a plain controller. The popover owns the view from then on.
     explicit SFBPopover(QWidget *contentView, QObject *parent = nullptr);
     /// Owns the controller and its view from then on.
-    explicit SFBPopover(ViewController *contentViewController, QObject *parent = nullptr);
+    explicit SFBPopover(ViewController *contentViewController, QObject *parent = nullptr,
+                        const PopoverPlatform &platform = popoverPlatform(QGuiApplication::platformName()));
     ~SFBPopover() override;
 
     ViewController *contentViewController() const { return m_contentViewController; }

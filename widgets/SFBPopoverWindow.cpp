@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "SFBPopoverWindow.h"
 
+#include "widgets/PopoverAccessible.h"
 #include "widgets/ScreenCoordinates.h"
 #include "widgets/WindowShape.h"
 
@@ -26,6 +27,7 @@ constexpr int shadowMargin = SFBPopoverWindowFrame::shadowMargin;
 SFBPopoverWindow::SFBPopoverWindow(const QRectF &contentRect, const PopoverPlatform &platform)
     : QWidget(nullptr, platform.windowFlags), m_platform(platform), m_frameView(new SFBPopoverWindowFrame(this))
 {
+    PopoverAccessible::install();
     setAttribute(Qt::WA_TranslucentBackground);
     setAttribute(Qt::WA_QuitOnClose, false);
     m_frame = frameRectForContentRect(contentRect);
@@ -144,7 +146,9 @@ void SFBPopoverWindow::updateShape()
     }
     const QRegion balloon = QRegion(outline.toFillPolygon().toPolygon());
     // Without blending the margin would be drawn black, so the window takes the balloon's shape instead.
-    if (windowsAreTranslucent())
+    const bool translucent = windowsAreTranslucent();
+    m_frameView->setBlends(translucent);
+    if (translucent)
         clearMask();
     else
         setMask(balloon);
@@ -184,12 +188,12 @@ void SFBPopoverWindow::orderFront(QWidget *parentWindow, bool takingKeyboard)
     }
     const bool activates = takingKeyboard && m_platform.takesKeyboard;
     setAttribute(Qt::WA_ShowWithoutActivating, !activates);
-    handle->setFlag(Qt::WindowDoesNotAcceptFocus, !activates);
+    handle->setFlag(Qt::WindowDoesNotAcceptFocus, !takingKeyboard);
     show();
     updateShape();
-    raise();
     if (activates)
         activateWindow();
+    PopoverAccessible::announce(this);
 }
 
 void SFBPopoverWindow::orderOut()

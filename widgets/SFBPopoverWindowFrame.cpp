@@ -18,6 +18,12 @@ const DropShadow shadow{palette::popoverShadow, 18, 4};
 /// How near its outline a press drags the edge of a balloon that is movable too, in points.
 constexpr qreal resizeGrip = 6;
 
+QColor opaque(QColor color)
+{
+    color.setAlpha(255);
+    return color;
+}
+
 } // namespace
 
 SFBPopoverWindowFrame::SFBPopoverWindowFrame(QWidget *parent) : QWidget(parent) {}
@@ -134,6 +140,15 @@ void SFBPopoverWindowFrame::setBackgroundColor(const QColor &color)
     change(m_backgroundColor, color);
 }
 
+void SFBPopoverWindowFrame::setBlends(bool blends)
+{
+    if (blends == m_blends)
+        return;
+    m_blends = blends;
+    m_drawn = {};
+    update();
+}
+
 QPixmap SFBPopoverWindowFrame::drawn(qreal devicePixelRatio) const
 {
     QImage image((QSizeF(size()) * devicePixelRatio).toSize(), QImage::Format_ARGB32_Premultiplied);
@@ -142,12 +157,16 @@ QPixmap SFBPopoverWindowFrame::drawn(qreal devicePixelRatio) const
     const QPainterPath path = outline();
     QPainter painter(&image);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    painter.drawImage(QRectF(rect()), shadowOf(path, size(), shadow));
-    // A translucent balloon lets the window behind it through, not its own shadow.
-    painter.setCompositionMode(QPainter::CompositionMode_Clear);
-    painter.fillPath(path, Qt::black);
-    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
-    painter.fillPath(path, m_backgroundColor);
+    if (m_blends) {
+        painter.drawImage(QRectF(rect()), shadowOf(path, size(), shadow));
+        // A translucent balloon lets the window behind it through, not its own shadow.
+        painter.setCompositionMode(QPainter::CompositionMode_Clear);
+        painter.fillPath(path, Qt::black);
+        painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    } else {
+        painter.fillRect(rect(), m_metrics.borderWidth > 0 ? m_borderColor : opaque(m_backgroundColor));
+    }
+    painter.fillPath(path, m_blends ? m_backgroundColor : opaque(m_backgroundColor));
     if (m_metrics.borderWidth > 0)
         painter.strokePath(path, QPen(m_borderColor, m_metrics.borderWidth, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
     painter.end();
@@ -156,10 +175,10 @@ QPixmap SFBPopoverWindowFrame::drawn(qreal devicePixelRatio) const
 
 void SFBPopoverWindowFrame::paintEvent(QPaintEvent *event)
 {
-    const qreal ratio = devicePixelRatioF();
+    QPainter painter(this);
+    const qreal ratio = painter.deviceTransform().m11();
     if (m_drawn.isNull() || m_drawn.devicePixelRatio() != ratio)
         m_drawn = drawn(ratio);
-    QPainter painter(this);
     painter.setClipRect(event->rect());
     painter.drawPixmap(0, 0, m_drawn);
 }

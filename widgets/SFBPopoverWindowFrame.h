@@ -85,6 +85,10 @@ public:
     bool resizable() const { return m_resizable; }
     void setResizable(bool resizable) { m_resizable = resizable; }
 
+    /// Whether what is drawn is blended with what lies behind the window. Where it is not, there is no shadow, and
+    /// everything is opaque up to the edge that the window's shape cuts.
+    void setBlends(bool blends);
+
 signals:
     /// The balloon's outline changed, by a setting or with the size.
     void outlineChanged();
@@ -113,6 +117,7 @@ private:
     QColor m_backgroundColor = QColor::fromRgbF(0.1F, 0.1F, 0.1F, 0.75F);
     bool m_movable = false;
     bool m_resizable = false;
+    bool m_blends = true;
     Drag m_drag = Drag::None;
     QPointF m_dragStart;
     QPointF m_dragCorner;

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QAccessibleWidget>
+
+namespace lumora
+{
+
+class SFBPopoverWindow;
+
+/// What a screen reader learns about a popover: a message that wants attention, or a dialog where there is something to
+/// operate, named as its content is.
+class PopoverAccessible final : public QAccessibleWidget
+{
+public:
+    explicit PopoverAccessible(SFBPopoverWindow *popover);
+
+    /// Makes every popover known to the platform's accessibility. Harmless when called again.
+    static void install();
+    /// Tells the screen reader that the popover has just come up.
+    static void announce(SFBPopoverWindow *popover);
+
+    QAccessible::Role role() const override;
+    QString text(QAccessible::Text kind) const override;
+
+private:
+    const SFBPopoverWindow *popover() const;
+};
+
+} // namespace lumora
