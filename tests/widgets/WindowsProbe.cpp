@@ -128,12 +128,19 @@ private:
             toggle();
         else if (command == u"above"_s)
             m_popover.setPosition(PopoverPosition::Above);
-        else if (command == u"grow"_s)
-            m_window.resize(m_window.size() + QSize(100, 50));
+        else if (command == u"shift"_s)
+            shift();
         else if (command == u"fullscreen"_s)
             m_window.toggleFullScreen();
         else if (command == u"report"_s)
             report();
+    }
+
+    /// Moves the anchor as a layout would after the window was resized.
+    void shift()
+    {
+        m_window.resize(m_window.size() + QSize(100, 50));
+        m_anchor->move(m_anchor->pos() + QPoint(70, 30));
     }
 
     void report()

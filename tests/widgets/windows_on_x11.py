@@ -1,0 +1,213 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
+"""usage: windows_on_x11.py PROBE   The windows under a real X server with a window manager: where they land, and what the
+mouse and the keyboard do to them."""
+import os
+import subprocess
+import sys
+
+from windows_driver import Probe, Processes, check, run, wait_for
+
+
+class Desktop:
+    """An X server and openbox on it, for the time of the block."""
+
+    def __init__(self, scale=1):
+        self.scale = scale
+
+    def __enter__(self):
+        self.processes = Processes().__enter__()
+        reading, writing = os.pipe()
+        self.processes.start(["Xvfb", "-displayfd", str(writing), "-screen", "0", "1600x1200x24", "-nolisten", "tcp"],
+                             pass_fds=[writing], stderr=subprocess.DEVNULL)
+        os.close(writing)
+        with os.fdopen(reading) as numbers:
+            display = ":" + numbers.readline().strip()
+        self.environment = dict(os.environ, DISPLAY=display, QT_QPA_PLATFORM="xcb", QT_SCALE_FACTOR=str(self.scale),
+                                XDG_RUNTIME_DIR=self.processes.folder, HOME=self.processes.folder)
+        self.environment.pop("WAYLAND_DISPLAY", None)
+        self.environment.pop("DBUS_SESSION_BUS_ADDRESS", None)
+        self.processes.start(["openbox"], self.environment, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        wait_for("the window manager", lambda: "_NET_SUPPORTING_WM_CHECK(WINDOW)" in self.output("xprop", "-root"))
+        return self
+
+    def __exit__(self, *error):
+        self.processes.__exit__(*error)
+
+    def output(self, *command):
+        return subprocess.run(command, env=self.environment, capture_output=True, text=True, check=True).stdout
+
+    def probe(self, *options):
+        probe = Probe(self.processes, program, self.environment, *options)
+        probe.wait("the window to be active", lambda state: state["main"])
+        # The window manager may still move it to its place.
+        wait_for("the window to rest", lambda: probe.report()["window"] == probe.report()["window"])
+        return probe
+
+    def mouse(self, *words):
+        """xdotool's mouse commands; positions are in points."""
+        self.output("xdotool", *[str(round(word * self.scale)) if isinstance(word, (int, float)) else word
+                                 for word in words])
+
+    def drag(self, start, end):
+        """Presses, and moves until the button is released. A window manager takes the pointer over a moment after the
+        first motion, so the end is approached once more after that."""
+        near = [(a + 2 * b) / 3 for a, b in zip(start, end)]
+        self.mouse("mousemove", *start, "mousedown", "1")
+        for _ in range(3):
+            self.mouse("mousemove", *near, "sleep", "0.2", "mousemove", *end, "sleep", "0.2")
+
+    def pixel(self, x, y):
+        position = f"1x1+{round(x * self.scale)}+{round(y * self.scale)}"
+        picture = subprocess.run(["import", "-silent", "-window", "root", "-crop", position, "-depth", "8", "rgb:-"],
+                                 env=self.environment, capture_output=True, check=True).stdout
+        return tuple(picture)
+
+
+GREEN = (0, 255, 0)
+CYAN = (0, 255, 255)
+
+
+def middle_of(rect):
+    return rect[0] + rect[2] / 2, rect[1] + rect[3] / 2
+
+
+def popover_on_anchor(desktop):
+    probe = desktop.probe()
+    probe.tell("popover")
+    state = probe.wait("the popover", lambda state: state["popover"])
+    anchor = state["anchor"]
+    x, bottom = anchor[0] + anchor[2] / 2, anchor[1] + anchor[3]
+    check(state["tip"] == [x, bottom], f"the tip is at {state['tip']}, not at {x, bottom}")
+    wait_for("the arrow on screen", lambda: desktop.pixel(x, bottom + 4) == GREEN)
+    check(desktop.pixel(x, bottom - 4) == CYAN, "the arrow does not end at the anchor")
+    check(desktop.pixel(x, bottom + 60) == GREEN, "there is no balloon below the arrow")
+
+
+def popover_lands_on_its_anchor():
+    for scale in (1, 2):
+        with Desktop(scale) as desktop:
+            popover_on_anchor(desktop)
+
+
+def popover_follows_a_window_that_is_dragged_by_its_bar():
+    with Desktop() as desktop:
+        probe = desktop.probe("stays")
+        before = probe.report()["window"]
+        probe.tell("popover")
+        probe.wait("the popover", lambda state: state["popover"])
+        x, y = before[0] + 400, before[1] + 30
+        # The window manager takes the drag over after the first 12 points, and moves the window from there on.
+        desktop.mouse("mousemove", x, y, "mousedown", "1", "mousemove", x + 12, y, "sleep", "0.3", "mousemove", x + 40,
+                      y - 20, "sleep", "0.2", "mousemove", x + 72, y - 40, "sleep", "0.2", "mouseup", "1")
+        state = probe.wait("the window to move", lambda state: state["window"][:2] == [before[0] + 60, before[1] - 40])
+        anchor = state["anchor"]
+        state = probe.wait("the popover to follow", lambda state: state["tip"] == [anchor[0] + 20, anchor[1] + 40])
+        wait_for("the arrow on screen", lambda: desktop.pixel(anchor[0] + 20, anchor[1] + 44) == GREEN)
+        check(state["window"][2:] == before[2:], "dragging changed the window's size")
+
+
+def window_is_resized_at_its_lower_right_corner():
+    with Desktop() as desktop:
+        probe = desktop.probe()
+        x, y, width, height = probe.report()["window"]
+        right, bottom = x + width - 1, y + height - 1
+        desktop.drag((right, bottom), (right + 50, bottom + 30))
+        probe.wait("the window to grow", lambda state: state["window"] == [x, y, width + 50, height + 30])
+        desktop.mouse("mouseup", "1")
+
+
+def window_is_resized_at_its_left_edge():
+    with Desktop() as desktop:
+        probe = desktop.probe()
+        x, y, width, height = probe.report()["window"]
+        desktop.drag((x + 1, y + 200), (x + 41, y + 200))
+        probe.wait("the window to shrink", lambda state: state["window"] == [x + 40, y, width - 40, height])
+        desktop.mouse("mouseup", "1")
+
+
+def traffic_lights_work():
+    with Desktop() as desktop:
+        probe = desktop.probe()
+        window = probe.report()["window"]
+        # Close, minimise and zoom stand 24 points apart from the left margin of 60.
+        close, minimise, zoom = [(window[0] + 68 + 24 * i, window[1] + 30) for i in range(3)]
+        desktop.mouse("mousemove", *zoom, "click", "1")
+        probe.wait("the window to fill the screen", lambda state: state["maximized"] and state["window"][2] == 1600)
+        desktop.mouse("mousemove", 68 + 48, 30, "click", "1")
+        probe.wait("its old place", lambda state: not state["maximized"] and state["window"] == window)
+        probe.tell("fullscreen")
+        probe.wait("full screen", lambda state: state["fullscreen"] and state["window"] == [0, 0, 1600, 1200])
+        probe.tell("fullscreen")
+        probe.wait("its old place", lambda state: not state["fullscreen"] and state["window"] == window)
+        desktop.mouse("mousemove", *minimise, "click", "1")
+        probe.wait("the window to go", lambda state: state["minimized"])
+        identifier = desktop.output("xdotool", "search", "--name", "Lumora windows probe").split()[0]
+        desktop.output("xdotool", "windowactivate", identifier)
+        probe.wait("the window to come back", lambda state: not state["minimized"] and state["main"])
+        desktop.mouse("mousemove", *close, "click", "1")
+        check(probe.process.wait(10) == 0, "the probe did not end well")
+
+
+def double_click_on_the_bar_miniaturises():
+    with Desktop() as desktop:
+        probe = desktop.probe()
+        window = probe.report()["window"]
+        desktop.mouse("mousemove", window[0] + 400, window[1] + 30, "click", "--repeat", "2", "--delay", "50", "1")
+        probe.wait("the window to go", lambda state: state["minimized"])
+
+
+def popover_without_controls_leaves_typing_where_it_was():
+    with Desktop() as desktop:
+        probe = desktop.probe("typing", "animates")
+        probe.tell("popover")
+        probe.wait("the popover", lambda state: state["popover"])
+        desktop.output("xdotool", "type", "abc")
+        state = probe.wait("the text", lambda state: state["field"] == "abc")
+        check(state["popover"] and state["main"], "typing closed the popover")
+        desktop.output("xdotool", "key", "Escape")
+        probe.wait("Escape to close the popover", lambda state: not state["popover"])
+
+
+def popover_with_a_field_gets_the_keyboard_and_gives_it_back():
+    with Desktop() as desktop:
+        probe = desktop.probe("typing", "field")
+        probe.tell("popover")
+        probe.wait("its focus", lambda state: state["focus"] == "popoverField")
+        desktop.output("xdotool", "type", "abc")
+        state = probe.wait("the text", lambda state: state["popoverField"] == "abc")
+        check(state["main"], "the window is no longer the main one")
+        desktop.output("xdotool", "key", "Escape")
+        probe.wait("the focus to return", lambda state: not state["popover"] and state["focus"] == "field")
+        desktop.output("xdotool", "type", "de")
+        probe.wait("the text", lambda state: state["field"] == "de")
+
+
+def clicking_the_parent_closes():
+    with Desktop() as desktop:
+        probe = desktop.probe()
+        probe.tell("popover")
+        state = probe.wait("the popover", lambda state: state["popover"])
+        desktop.mouse("mousemove", state["window"][0] + 30, state["window"][1] + 300, "click", "1")
+        probe.wait("the popover to close", lambda state: not state["popover"])
+
+
+def mouse_goes_through_the_band_around_the_balloon():
+    with Desktop() as desktop:
+        probe = desktop.probe("animates")
+        x, y = middle_of(probe.report()["anchor"])
+        # The band around the tip covers the anchor's lower half, and still the anchor takes the second click.
+        desktop.mouse("mousemove", x + 10, y + 15, "click", "1")
+        state = probe.wait("the popover", lambda state: state["popover"])
+        wait_for("the balloon", lambda: desktop.pixel(x, y + 80) == GREEN)
+        desktop.mouse("click", "1")
+        probe.wait("the second click to close it", lambda state: not state["popover"])
+        check(state["tip"] == [x, y + 20], "the popover was beside its anchor")
+
+
+program = sys.argv[1]
+run([popover_lands_on_its_anchor, popover_follows_a_window_that_is_dragged_by_its_bar,
+     window_is_resized_at_its_lower_right_corner, window_is_resized_at_its_left_edge, traffic_lights_work,
+     double_click_on_the_bar_miniaturises, popover_without_controls_leaves_typing_where_it_was,
+     popover_with_a_field_gets_the_keyboard_and_gives_it_back, clicking_the_parent_closes,
+     mouse_goes_through_the_band_around_the_balloon])
