@@ -11,13 +11,13 @@
 namespace lumora
 {
 
-AttributedString contactText(const QString &firstLine, const QString &secondLine, const ContactDetails &details)
+StyledText contactText(const QString &firstLine, const QString &secondLine, const ContactDetails &details)
 {
     QString filled = secondLine;
     filled.replace(QStringLiteral("[MAIL]"), details.mail);
     filled.replace(QStringLiteral("[TWITTER]"), details.twitter);
     filled.replace(QStringLiteral("[FACEBOOK]"), details.facebook);
-    AttributedString text(firstLine + u'\n' + filled);
+    StyledText text(firstLine + u'\n' + filled);
     text.setFontOfFirst(firstLine, latoBold(18));
     for (const QString &value : {details.mail, details.twitter, details.facebook})
         text.setFontOfFirst(value, latoBold(13));
@@ -51,7 +51,7 @@ void SettingsViewController::awakeFromNib()
     m_ui->appTitleLabel->setText(
         qtTrId("INFORMATION_APP").replace(QStringLiteral("[VERSION]"), QCoreApplication::applicationVersion()));
 
-    const AttributedString info =
+    const StyledText info =
         contactText(qtTrId("INFORMATION_INFO_1"), qtTrId("INFORMATION_INFO_2"),
                     {qtTrId("INFORMATION_MAIL"), qtTrId("INFORMATION_TWITTER"), QStringLiteral("Facebook")});
     styleLabel(m_ui->infoLabel, latoRegular(13), palette::chromeText);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "AttributedString.h"
+#include "StyledText.h"
 #include "services/Services.h"
 
 #include <QObject>
@@ -28,7 +28,7 @@ struct ContactDetails
 
 /// The contact panel's text: the first line, then the second with "[MAIL]", "[TWITTER]" and "[FACEBOOK]" replaced. The
 /// first line and the first occurrence of each value are bold.
-AttributedString contactText(const QString &firstLine, const QString &secondLine, const ContactDetails &details);
+StyledText contactText(const QString &firstLine, const QString &secondLine, const ContactDetails &details);
 
 /// The panel with the application's icon, its version and two ways to contact the maker. A host places its view.
 class SettingsViewController final : public QObject

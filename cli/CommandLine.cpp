@@ -68,6 +68,14 @@ bool isCommandLine(int argc, const char *const *argv)
            std::strcmp(argv[1], "--version") == 0 || commandNamed(argv[1]) != nullptr;
 }
 
+QStringList commandNames()
+{
+    QStringList names;
+    for (const Command &command : commands())
+        names << QString::fromLatin1(command.name);
+    return names;
+}
+
 int runCommandLine(int argc, char **argv)
 {
     CLI::App parser{"Lumora: icons, placeholders, down-scaling, colour codes, device matrix and app package checks.\n"

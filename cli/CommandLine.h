@@ -3,6 +3,8 @@
 
 #include <CLI/App.hpp>
 
+#include <QStringList>
+
 #include <functional>
 
 namespace lumora
@@ -28,6 +30,9 @@ struct Command
 /// True when the arguments are for the command line (a command, or an option such as --help), false when they ask for
 /// the window.
 bool isCommandLine(int argc, const char *const *argv);
+
+/// The words that commands begin with, in the order in which --help lists them.
+QStringList commandNames();
 
 /// Runs the command line and answers the exit status. Makes its own application object.
 int runCommandLine(int argc, char **argv);

@@ -18,6 +18,8 @@ inline const QColor chromeText = rgb(0.204F, 0.286F, 0.369F);
 inline const QColor chromeTextDark = rgb(0.153F, 0.216F, 0.278F);
 /// The window, the panes and the popups.
 inline const QColor window = rgb(1, 1, 1);
+/// The title in the header band.
+inline const QColor headerText = rgb(1, 1, 1);
 /// Rounded panels inside a pane.
 inline const QColor panel = rgb(0.925F, 0.941F, 0.945F);
 /// The dashed outline of a drop area at rest.

@@ -188,10 +188,10 @@ private slots:
     {
         QFETCH(QString, second);
         QFETCH(QList<int>, boldAt);
-        const AttributedString text = contactText(u"Hi"_s, second, {u"m@x"_s, u"@t"_s, u"Facebook"_s});
+        const StyledText text = contactText(u"Hi"_s, second, {u"m@x"_s, u"@t"_s, u"Facebook"_s});
         QTEST(text.text(), "expected");
         QList<int> starts;
-        for (const AttributedString::Run &run : text.runs()) {
+        for (const StyledText::Run &run : text.runs()) {
             starts << static_cast<int>(run.start);
             QCOMPARE(run.font, run.start == 0 ? latoBold(18) : latoBold(13));
         }
@@ -200,7 +200,7 @@ private slots:
 
     void htmlShowsEveryCharacterAsItIs()
     {
-        AttributedString text(u"a <b> & \"c\"  d\ne"_s);
+        StyledText text(u"a <b> & \"c\"  d\ne"_s);
         text.setFontOfFirst(u"<b>"_s, latoBold(18));
         text.setFontOfFirst(u"nowhere"_s, latoBold(18));
         text.setFontOfFirst(QString(), latoBold(18));

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "AttributedString.h"
+#include "StyledText.h"
 
 namespace lumora
 {
@@ -18,14 +18,14 @@ QString htmlOf(const QString &text, const QFont &font)
 
 } // namespace
 
-void AttributedString::setFontOfFirst(const QString &part, const QFont &font)
+void StyledText::setFontOfFirst(const QString &part, const QFont &font)
 {
     const qsizetype start = part.isEmpty() ? -1 : m_text.indexOf(part);
     if (start >= 0)
         m_runs << Run{start, part.size(), font};
 }
 
-QString AttributedString::toHtml() const
+QString StyledText::toHtml() const
 {
     QList<qsizetype> runAt(m_text.size(), -1);
     for (qsizetype run = 0; run < m_runs.size(); ++run)

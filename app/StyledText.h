@@ -9,7 +9,7 @@ namespace lumora
 {
 
 /// A text parts of which have a font of their own; the rest takes that of the label that shows it.
-class AttributedString
+class StyledText
 {
 public:
     struct Run
@@ -21,7 +21,7 @@ public:
         bool operator==(const Run &) const = default;
     };
 
-    explicit AttributedString(QString text) : m_text(std::move(text)) {}
+    explicit StyledText(QString text) : m_text(std::move(text)) {}
 
     const QString &text() const { return m_text; }
     /// In the order in which they were set.

@@ -1,0 +1,303 @@
+// SPDX-License-Identifier: MIT
+#include "AppDelegate.h"
+
+#include "AboutPopupContentView.h"
+#include "ColorBand.h"
+#include "HeaderView.h"
+#include "ITSidebar.h"
+#include "ITSidebarItemCell.h"
+#include "PopoverAlert.h"
+#include "PopoverStyle.h"
+#include "PopupContentView.h"
+#include "ShellMetrics.h"
+#include "ToolTable.h"
+#include "ToolViewController.h"
+#include "foundation/Version.h"
+#include "ui_MainWindow.h"
+#include "widgets/Fonts.h"
+#include "widgets/INAppStoreWindow.h"
+#include "widgets/ImageButton.h"
+#include "widgets/Palette.h"
+#include "widgets/SFBPopover.h"
+
+#include <QApplication>
+#include <QFileInfo>
+#include <QLabel>
+
+namespace lumora
+{
+
+namespace
+{
+
+/// The 62 points of a sidebar item stand centred in the strip; the sidebar itself moves 10 to the right.
+constexpr int sidebarFrameX = -11;
+constexpr qreal trafficLightsTopMargin = 5;
+/// Left of the two header buttons.
+constexpr qreal fullScreenButtonRightMargin = 130;
+constexpr int popupAnchorBelowTitleBar = 20;
+
+QString text(const char *key)
+{
+    return qtTrId(key);
+}
+
+} // namespace
+
+QPointF headerPopupAnchor(const QRectF &buttonFrame, qreal windowHeight, qreal titleBarHeight)
+{
+    return {buttonFrame.x() + buttonFrame.width() / 2,
+            (buttonFrame.y() + buttonFrame.height() / 2) + (windowHeight - titleBarHeight - popupAnchorBelowTitleBar)};
+}
+
+AppDelegate::AppDelegate(const Services &services, QObject *parent) : QObject(parent), m_services(services) {}
+
+AppDelegate::~AppDelegate()
+{
+    if (m_window != nullptr)
+        m_window->setDelegate(nullptr);
+}
+
+void AppDelegate::applicationDidFinishLaunching()
+{
+    setUpWindow();
+    setUpHeader();
+    setUpSidebar();
+    createControllers();
+    m_ui->contentView->layout()->addWidget(m_controllers.front()->view());
+    createPopovers();
+    m_sideBar->setSelectedIndex(0);
+}
+
+void AppDelegate::setUpWindow()
+{
+    m_window = std::make_unique<INAppStoreWindow>();
+    m_window->setDelegate(this);
+    m_window->setTitle(QApplication::applicationDisplayName());
+    m_window->setTitleBarHeight(metrics::titleBarHeight);
+    m_window->setTrafficLightButtonsLeftMargin(metrics::sidebarWidth);
+    m_window->setTrafficLightButtonsTopMargin(trafficLightsTopMargin);
+    m_window->setCenterTrafficLightButtons(true);
+    m_window->setFullScreenButtonRightMargin(fullScreenButtonRightMargin);
+    m_window->setShowsTitle(false);
+    m_window->setShowsBaselineSeparator(false);
+    m_window->setBackgroundColor(palette::window);
+
+    auto *content = new QWidget;
+    m_ui = std::make_unique<Ui::MainWindow>();
+    m_ui->setupUi(content);
+    m_window->setContentView(content);
+    const qreal standardHeight =
+        metrics::windowHeight - metrics::titleBarHeight + INAppStoreWindow::minimumTitleBarHeight();
+    m_window->setMinSize(QSizeF(metrics::windowWidth, standardHeight));
+    m_window->resize(metrics::windowWidth, metrics::windowHeight);
+}
+
+void AppDelegate::setUpHeader()
+{
+    m_header = new HeaderView;
+    m_window->setTitleBarView(m_header);
+    m_ui->leftBorderView->setBackgroundColor(palette::icons);
+    connect(m_header->infoButton(), &ImageButton::clicked, this, [this] { infoButtonClicked(m_header->infoButton()); });
+    connect(m_header->iconButton(), &ImageButton::clicked, this, [this] { iconButtonClicked(m_header->iconButton()); });
+}
+
+void AppDelegate::setUpSidebar()
+{
+    m_sideBar = new ITSidebar;
+    m_sideBar->setAccessibleName(qtTrId("ACCESSIBLE_SIDEBAR"));
+    m_ui->sideBarScrollView->setDocumentView(m_sideBar);
+    m_sideBar->setFrame(QRect(sidebarFrameX, 0, 0, 0));
+    m_ui->sideBarScrollView->setDocumentOrigin(m_sideBar->pos());
+    m_sideBar->setAllowsEmptySelection(false);
+    for (const Tool &tool : toolTable()) {
+        const NamedImage image(QString::fromLatin1(tool.sidebarImage));
+        ITSidebarItemCell *cell =
+            m_sideBar->addItemWithImage(image, image, this, [this](ITSidebarItemCell *) { sideBarItemClicked(); });
+        cell->setAccessibleName(text(tool.helpTitleKey));
+        cell->setToolTip(text(tool.helpTitleKey));
+    }
+}
+
+void AppDelegate::createControllers()
+{
+    for (const Tool &tool : toolTable())
+        m_controllers.push_back(tool.makeController(m_services));
+}
+
+void AppDelegate::createPopovers()
+{
+    m_popupContentView = new PopupContentView(m_services.urlOpener);
+    m_popupView = std::make_unique<SFBPopover>(m_popupContentView);
+    m_aboutPopupContentView = new AboutPopupContentView(m_services.urlOpener);
+    m_aboutPopupView = std::make_unique<SFBPopover>(m_aboutPopupContentView);
+    for (SFBPopover *popover : {m_popupView.get(), m_aboutPopupView.get()}) {
+        stylePopover(*popover);
+        popover->setBorderColor(palette::chromeText);
+    }
+}
+
+QWidget *AppDelegate::contentView() const
+{
+    return m_ui->contentView;
+}
+
+ColorBand *AppDelegate::leftBorderView() const
+{
+    return m_ui->leftBorderView;
+}
+
+ToolViewController *AppDelegate::currentController() const
+{
+    const qint32 index = m_sideBar->selectedIndex();
+    return index < 0 ? nullptr : m_controllers.at(static_cast<std::size_t>(index)).get();
+}
+
+StyledText AppDelegate::createAttributedStringForHeaderTitle(const QString &title)
+{
+    StyledText attributed(title);
+    attributed.setFontOfFirst(qtTrId("APP_DEFAULT"), latoBold(20));
+    attributed.setFontOfFirst(QStringLiteral("|"), latoRegular(20));
+    return attributed;
+}
+
+void AppDelegate::sideBarItemClicked()
+{
+    updateViewForIndex();
+}
+
+void AppDelegate::updateViewForIndex()
+{
+    ToolViewController *controller = currentController();
+    // The sidebar can be cleared by its escape key; the tool that was current stays in view then.
+    if (controller == nullptr)
+        return;
+    const Tool &tool = toolTable()[static_cast<std::size_t>(m_sideBar->selectedIndex())];
+
+    QLayout *layout = m_ui->contentView->layout();
+    QWidget *previous = layout->itemAt(0)->widget();
+    if (previous != controller->view()) {
+        layout->removeWidget(previous);
+        previous->hide();
+        previous->setParent(nullptr);
+        layout->addWidget(controller->view());
+        controller->view()->show();
+    }
+
+    m_header->setTitle(createAttributedStringForHeaderTitle(qtTrId("APP_DEFAULT") + text(tool.headerKey)));
+    m_sideBar->setBackgroundColor(tool.color);
+    m_header->curBackgroundColor()->setBackgroundColor(tool.color);
+    m_header->topBorderView()->setBackgroundColor(tool.borderColor);
+    m_ui->leftBorderView->setBackgroundColor(tool.borderColor);
+
+    for (SFBPopover *popup : {m_popupView.get(), m_aboutPopupView.get()}) {
+        if (popup->isVisible())
+            popup->closePopover();
+    }
+    m_popupContentView->setTitle(text(tool.helpTitleKey));
+    m_popupContentView->setText(text(tool.helpTextKey));
+    m_popupContentView->setIcon(NamedImage(QString::fromLatin1(tool.helpIcon)));
+    m_popupContentView->setColor(tool.color);
+    emit toolChanged();
+}
+
+void AppDelegate::showTool(const QString &name)
+{
+    for (std::size_t index = 0; index < toolTable().size(); ++index) {
+        if (name == QLatin1StringView(toolTable()[index].name))
+            m_sideBar->setSelectedIndex(static_cast<qint32>(index));
+    }
+}
+
+void AppDelegate::infoButtonClicked(QWidget *sender)
+{
+    togglePopup(*m_popupView, *m_aboutPopupView, sender);
+}
+
+void AppDelegate::iconButtonClicked(QWidget *sender)
+{
+    togglePopup(*m_aboutPopupView, *m_popupView, sender);
+}
+
+void AppDelegate::togglePopup(SFBPopover &popup, SFBPopover &other, const QWidget *sender)
+{
+    if (other.isVisible())
+        other.closePopover();
+    if (popup.isVisible()) {
+        popup.closePopover();
+        return;
+    }
+    QRectF frame;
+    if (sender != nullptr) {
+        frame = sender->geometry();
+        frame.moveTop(m_header->height() - frame.bottom());
+    }
+    popup.displayPopoverInWindow(m_window.get(),
+                                 headerPopupAnchor(frame, m_window->height(), m_window->titleBarHeight()));
+}
+
+void AppDelegate::aboutButtonClicked()
+{
+    iconButtonClicked(m_header->iconButton());
+}
+
+void AppDelegate::newFile()
+{
+    activate();
+}
+
+bool AppDelegate::applicationShouldOpenUntitledFile()
+{
+    activate();
+    return false;
+}
+
+void AppDelegate::activate()
+{
+    if (m_window->isMinimized())
+        m_window->setWindowState(m_window->windowState() & ~Qt::WindowMinimized);
+    m_window->show();
+    m_window->raise();
+    m_window->activateWindow();
+}
+
+void AppDelegate::applicationOpenFiles(const QStringList &files)
+{
+    activate();
+    const QString path = files.value(0);
+    const QString extension = QFileInfo(path).suffix();
+    const std::span<const Tool> tools = toolTable();
+    for (std::size_t index = 0; index < tools.size(); ++index) {
+        const Tool &tool = tools[index];
+        if (tool.openFile == nullptr || extension != QLatin1StringView(tool.openedExtension))
+            continue;
+        m_sideBar->setSelectedIndex(static_cast<qint32>(index));
+        tool.openFile(*m_controllers[index], path);
+    }
+    updateViewForIndex();
+}
+
+void AppDelegate::showAlertWithTitle(const QString &title, const QString &andMessage, const NamedImage &andImage,
+                                     QWidget *fromView)
+{
+    const std::shared_ptr<PopoverAlert> alert = PopoverAlert::create();
+    alert->messageText = title;
+    alert->informativeText = andMessage;
+    alert->icon = andImage;
+    alert->buttonTitles = QStringList{qtTrId("CLOSE"), qtTrId("BUG_REPORT"), qtTrId("SUPPORT")};
+    UrlOpener &opener = m_services.urlOpener;
+    alert->runAsPopoverForView(fromView, [&opener](int response) {
+        // The second button opens the support page and the third the report page, whatever they say.
+        if (response == PopoverAlert::thirdButtonReturn)
+            opener.open(QUrl(qtTrId("ABOUT_BUG_REPORT_WEB")));
+        else if (response == PopoverAlert::secondButtonReturn)
+            opener.open(QUrl(qtTrId("ABOUT_TWITTER_WEB")));
+    });
+}
+
+void AppDelegate::windowWillClose(INAppStoreWindow *)
+{
+    QApplication::quit();
+}
+
+} // namespace lumora

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QObject>
+#include <QStringList>
+#include <QVariantMap>
+
+namespace lumora
+{
+
+/// What a start of the program asks for.
+struct OpenRequest
+{
+    QString tool;      ///< the tool to show, by its name; empty for none in particular
+    QStringList files; ///< absolute paths
+};
+
+/// The running program on the session bus, as org.freedesktop.Application describes it: there is one window a session,
+/// and whoever starts the program again talks to it.
+class BusApplication final : public QObject
+{
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
+
+public:
+    enum class Start {
+        First,     ///< this process is the program now
+        Forwarded, ///< another one is, and it took the request
+        Alone,     ///< there is no bus, or nobody there answered; nobody will find this process
+    };
+
+    explicit BusApplication(QObject *parent = nullptr);
+
+    /// Becomes the program on the bus, or hands the request to the one that is.
+    Start start(const OpenRequest &request);
+
+    /// The bus object's path for an application id: the same with slashes.
+    static QString objectPath(const QString &id);
+
+public slots:
+    // The bus calls these by their names.
+    void Activate(const QVariantMap &platformData);
+    void Open(const QStringList &uris, const QVariantMap &platformData);
+    void ActivateAction(const QString &name, const QVariantList &parameter, const QVariantMap &platformData);
+
+signals:
+    void activated();
+    void filesOpened(const QStringList &files);
+    void toolRequested(const QString &name);
+};
+
+} // namespace lumora

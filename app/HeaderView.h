@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QRect>
+#include <QWidget>
+
+class QLabel;
+
+namespace lumora
+{
+
+class StyledText;
+class ColorBand;
+class ImageButton;
+
+/// Where the header's parts lie in a title bar of the size, y down.
+struct HeaderLayout
+{
+    QRect band;
+    QRect title;
+    QRect topBorder;
+    QRect infoButton;
+    QRect iconButton;
+
+    static HeaderLayout forSize(QSize titleBar);
+};
+
+/// What covers the window's title bar: a band in the tool's colour with the title in its middle, a border under it and
+/// two buttons at its right end.
+class HeaderView final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit HeaderView(QWidget *parent = nullptr);
+
+    ColorBand *curBackgroundColor() const { return m_band; }
+    ColorBand *topBorderView() const { return m_topBorder; }
+    QLabel *titleLabel() const { return m_title; }
+    ImageButton *infoButton() const { return m_infoButton; }
+    ImageButton *iconButton() const { return m_iconButton; }
+
+    void setTitle(const StyledText &title);
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    ColorBand *m_band;
+    QLabel *m_title;
+    ColorBand *m_topBorder;
+    ImageButton *m_infoButton;
+    ImageButton *m_iconButton;
+};
+
+} // namespace lumora

@@ -1,0 +1,113 @@
+// SPDX-License-Identifier: MIT
+#include "WindowProgram.h"
+
+#include "AppDelegate.h"
+#include "AppMenu.h"
+#include "BusApplication.h"
+#include "Display.h"
+#include "TerminationSignals.h"
+#include "WindowArguments.h"
+#include "cli/CommandLine.h"
+#include "cli/Console.h"
+#include "foundation/Version.h"
+#include "resources/Resources.h"
+#include "widgets/AppStyle.h"
+#include "widgets/INAppStoreWindow.h"
+#include "widgets/NamedImage.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QFileOpenEvent>
+
+namespace lumora
+{
+
+namespace
+{
+
+/// Passes on the files that a desktop hands over by an event of its own.
+class FileOpenFilter final : public QObject
+{
+public:
+    FileOpenFilter(AppDelegate &delegate, QObject *parent) : QObject(parent), m_delegate(delegate) {}
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() != QEvent::FileOpen)
+            return QObject::eventFilter(watched, event);
+        m_delegate.applicationOpenFiles({static_cast<QFileOpenEvent *>(event)->file()});
+        return true;
+    }
+
+private:
+    AppDelegate &m_delegate;
+};
+
+void nameApplication()
+{
+    QApplication::setApplicationName(QStringLiteral("lumora"));
+    QApplication::setApplicationVersion(QLatin1StringView(versionText));
+    QApplication::setDesktopFileName(QLatin1StringView(applicationId));
+}
+
+void connectBus(BusApplication &bus, AppDelegate &delegate)
+{
+    QObject::connect(&bus, &BusApplication::activated, &delegate, &AppDelegate::applicationShouldOpenUntitledFile);
+    QObject::connect(&bus, &BusApplication::filesOpened, &delegate, &AppDelegate::applicationOpenFiles);
+    QObject::connect(&bus, &BusApplication::toolRequested, &delegate, [&delegate](const QString &name) {
+        delegate.activate();
+        delegate.showTool(name);
+    });
+}
+
+} // namespace
+
+int runWindow(int argc, char **argv)
+{
+    Console console;
+    QStringList arguments;
+    for (int index = 1; index < argc; ++index)
+        arguments << QFile::decodeName(argv[index]);
+    const Result<OpenRequest> request = parseWindowArguments(arguments);
+    if (!request) {
+        console.complain(request.failure());
+        return static_cast<int>(ExitStatus::Usage);
+    }
+    if (!prepareDisplay()) {
+        console.complain(QStringLiteral("no display to open the window on; these commands work without one: %1")
+                             .arg(commandNames().join(QStringLiteral(", "))));
+        return static_cast<int>(ExitStatus::Refused);
+    }
+
+    applyAppStyle();
+    const QApplication application(argc, argv);
+    nameApplication();
+    BusApplication bus;
+    if (bus.start(request.value()) == BusApplication::Start::Forwarded)
+        return 0;
+
+    loadResources();
+    installTexts(*qApp, QLocale());
+    QApplication::setApplicationDisplayName(qtTrId("APP_DEFAULT"));
+    QApplication::setWindowIcon(NamedImage(QStringLiteral("app_icon")).icon());
+    applyAppColors();
+
+    DesktopServices desktop;
+    AppDelegate delegate(desktop.services());
+    delegate.applicationDidFinishLaunching();
+    const AppMenu menu(delegate);
+    FileOpenFilter filter(delegate, nullptr);
+    qApp->installEventFilter(&filter);
+    connectBus(bus, delegate);
+    const TerminationSignals termination;
+    QObject::connect(&termination, &TerminationSignals::terminated, delegate.window(), &INAppStoreWindow::performClose);
+
+    delegate.showTool(request.value().tool);
+    delegate.activate();
+    if (!request.value().files.isEmpty())
+        delegate.applicationOpenFiles(request.value().files);
+    return QApplication::exec();
+}
+
+} // namespace lumora

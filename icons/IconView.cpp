@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+#include "IconView.h"
+
+#include <QEvent>
+#include <QPainter>
+
+namespace lumora
+{
+
+IconView::IconView(QWidget *parent) : QWidget(parent) {}
+
+int IconView::pixelSide() const
+{
+    return static_cast<int>(std::min(width(), height()) * devicePixelRatioF());
+}
+
+void IconView::setPicture(const QImage &picture)
+{
+    m_picture = picture;
+    update();
+}
+
+bool IconView::event(QEvent *event)
+{
+    const bool handled = QWidget::event(event);
+    // The scale is known for good once the view is shown, and no event tells of every way in which it changes.
+    if (event->type() == QEvent::Resize || event->type() == QEvent::Show || event->type() == QEvent::Paint)
+        noteSide();
+    return handled;
+}
+
+void IconView::paintEvent(QPaintEvent *)
+{
+    if (m_picture.isNull())
+        return;
+    const QSizeF size = QSizeF(m_picture.size()) / devicePixelRatioF();
+    QRectF target(QPointF(), size);
+    target.moveCenter(QRectF(rect()).center());
+    // On the pixel grid, so that nothing is resampled.
+    const qreal scale = devicePixelRatioF();
+    target.moveTopLeft({std::round(target.x() * scale) / scale, std::round(target.y() * scale) / scale});
+    QPainter(this).drawImage(target, m_picture);
+}
+
+void IconView::noteSide()
+{
+    const int side = pixelSide();
+    if (side == m_notedSide)
+        return;
+    m_notedSide = side;
+    emit pixelSideChanged();
+}
+
+} // namespace lumora

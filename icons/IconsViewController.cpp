@@ -1,0 +1,308 @@
+// SPDX-License-Identifier: MIT
+#include "IconsViewController.h"
+
+#include "IconExport.h"
+#include "IconRendering.h"
+#include "IconSource.h"
+#include "IconView.h"
+#include "foundation/LeadingInteger.h"
+#include "ui_IconsViewController.h"
+
+#include <QFileInfo>
+
+namespace lumora
+{
+
+IconsViewController::IconsViewController(const Services &services, QObject *parent)
+    : ToolViewController(services, parent), m_ui(std::make_unique<Ui::IconsViewController>())
+{
+    m_ui->setupUi(view());
+    setUpAppearance();
+    setUpPreviews();
+    setUpSnippets();
+    connectControls();
+    createPopup();
+}
+
+IconsViewController::~IconsViewController() = default;
+
+// The source
+
+void IconsViewController::createIconFromURL(const QString &path)
+{
+    const Result<QImage> picture = readIconSource(path);
+    if (picture)
+        acceptIcon(picture.value(), QFileInfo(path).fileName());
+    else
+        refuseIcon();
+}
+
+void IconsViewController::acceptIcon(const QImage &icon, const QString &title)
+{
+    m_icon = icon;
+    showSource();
+    editPreviewIcon();
+    m_ui->sourceIconTitle->setText(title);
+    m_ui->sourceIconSubtitle->setText(qtTrId("ICONS_SOURCE_SUBTITLE_ACTIVE"));
+}
+
+void IconsViewController::refuseIcon()
+{
+    showPopupWithTitle(qtTrId("ICONS_ALERT_TITLE"), qtTrId("ICONS_ALERT_MESSAGE"), m_ui->browseButton, true);
+}
+
+void IconsViewController::setIconFromDelegate(const QString &path)
+{
+    dropViewReceivedFiles({path});
+}
+
+void IconsViewController::dropViewReceivedFiles(const QStringList &files)
+{
+    if (files.isEmpty())
+        return;
+    createIconFromURL(files.first());
+    m_browsePath = QFileInfo(files.first()).path();
+}
+
+void IconsViewController::browseButtonPressed()
+{
+    openDialog();
+}
+
+void IconsViewController::openDialog()
+{
+    const FileRequest request{
+        qtTrId("ICONS_BROWSE"), m_browsePath, {qtTrId("FILTER_PNG") + QStringLiteral(" (*.png)")}, false};
+    services().fileChooser.chooseFiles(view()->window(), request,
+                                       [this](const QStringList &paths) { dropViewReceivedFiles(paths); });
+}
+
+void IconsViewController::paste()
+{
+    const QStringList files = services().clipboard.files();
+    if (!files.isEmpty()) {
+        dropViewReceivedFiles(files);
+        return;
+    }
+    const QImage image = services().clipboard.image();
+    if (image.isNull())
+        return;
+    if (image.size() == QSize(sourceIconSize, sourceIconSize))
+        acceptIcon(image.convertToFormat(QImage::Format_RGBA8888_Premultiplied), qtTrId("ICONS_SOURCE_TITLE"));
+    else
+        refuseIcon();
+}
+
+void IconsViewController::showSource()
+{
+    m_ui->sourceIconView->setPicture(resizeImage(m_icon, m_ui->sourceIconView->pixelSide()));
+}
+
+void IconsViewController::editPreviewIcon()
+{
+    for (IconView *preview : m_previews)
+        preview->setPicture(resizeImage(m_icon, preview->pixelSide(), cornerMode()));
+}
+
+// The export
+
+void IconsViewController::generatePlatformPressed()
+{
+    if (!hasSource())
+        return;
+    const bool anyChosen = std::any_of(iconPlatforms.begin(), iconPlatforms.end(),
+                                       [this](const PlatformIcons &icons) { return isChosen(icons.platform); });
+    if (anyChosen)
+        openChooseDestinationForPlatforms(true);
+    else
+        showPopupWithTitle(qtTrId("ICONS_NO_PLATFORM_ALERT_TITLE"), qtTrId("ICONS_NO_PLATFORM_ALERT_MESSAGE"),
+                           m_ui->generateIconsButton, true);
+}
+
+void IconsViewController::generateCustomPressed()
+{
+    if (!hasSource())
+        return;
+    const QString typed = m_ui->customIconSizeTextField->string();
+    const int size = leadingInteger(typed);
+    if (typed.isEmpty()) {
+        showPopupWithTitle(qtTrId("ICONS_NO_DIMENSION_ALERT_TITLE"), qtTrId("ICONS_NO_DIMENSION_ALERT_MESSAGE"),
+                           m_ui->customIconSizeTextField, true);
+    } else if (size >= 1 && size <= sourceIconSize) {
+        m_customIconSize = size;
+        openChooseDestinationForPlatforms(false);
+    } else {
+        showPopupWithTitle(qtTrId("ICONS_INCORRECT_SIZE_ALERT_TITLE"), qtTrId("ICONS_INCORRECT_SIZE_ALERT_MESSAGE"),
+                           m_ui->customIconSizeTextField, true);
+    }
+}
+
+bool IconsViewController::hasSource()
+{
+    if (!m_icon.isNull())
+        return true;
+    showPopupWithTitle(qtTrId("ICONS_NO_SOURCE_ALERT_TITLE"), qtTrId("ICONS_NO_SOURCE_ALERT_MESSAGE"),
+                       m_ui->browseButton, true);
+    return false;
+}
+
+void IconsViewController::openChooseDestinationForPlatforms(bool forPlatforms)
+{
+    const auto chosen = [this, forPlatforms](const QString &path) {
+        m_savePath = path;
+        if (forPlatforms)
+            generatePlatformIcons();
+        else
+            generateCustomIcon();
+    };
+    services().folderChooser.chooseFolder(view()->window(), {qtTrId("ICONS_DESTINATION"), m_savePath}, chosen);
+}
+
+void IconsViewController::generatePlatformIcons()
+{
+    PlatformIconsRequest request;
+    // A picture of its own: the tool may take another source while the export runs.
+    request.icon = m_icon.copy();
+    request.savePath = m_savePath;
+    request.isChosen = [choices = m_choices](const PlatformIcons &icons) {
+        return choices->at(static_cast<std::size_t>(icons.platform)).load();
+    };
+    for (const PlatformIcons &icons : iconPlatforms) {
+        if (isChosen(icons.platform))
+            request.expected << icons.platform;
+    }
+    m_jobs.start([this, request](const BackgroundJob &job) {
+        const bool hasIcon = !request.icon.isNull();
+        job.post([this, hasIcon] {
+            if (hasIcon)
+                m_platformCaption->show(qtTrId("ICONS_EXPORTING"));
+            else
+                hasSource();
+        });
+        const ExportFolder folder = lumora::generatePlatformIcons(request).folder;
+        job.post([this, folder] {
+            m_platformCaption->showForAWhile(qtTrId("ICONS_DONE"));
+            if (folder.nameTaken)
+                showNewFolder(folder.name(), m_ui->generateIconsButton);
+        });
+    });
+}
+
+void IconsViewController::generateCustomIcon()
+{
+    if (!hasSource())
+        return;
+    m_ui->customIconSizeTextField->endEditing();
+    const IconExport result = lumora::generateCustomIcon({m_icon, m_savePath, m_customIconSize, cornerMode()});
+    const std::optional<Failure> failure = result.files.first().failure;
+    if (failure && failure->code == FailureCode::CannotCreateFolder)
+        return;
+    m_customCaption->showForAWhile(qtTrId("ICONS_DONE"));
+    if (result.folder.nameTaken)
+        showNewFolder(result.folder.name(), m_ui->generateCustomButton);
+}
+
+void IconsViewController::showNewFolder(const QString &name, QWidget *fromView)
+{
+    showPopupWithTitle(qtTrId("ICONS_NEW_FOLDER_ALERT_TITLE"),
+                       qtTrId("ICONS_NEW_FOLDER_ALERT_MESSAGE").replace(QStringLiteral("[FOLDER]"), name), fromView,
+                       false);
+}
+
+// The options
+
+void IconsViewController::iPhoneCheckboxChecked()
+{
+    togglePlatform(IconPlatform::IPhone);
+    refreshSnippet();
+}
+
+void IconsViewController::iPadCheckboxChecked()
+{
+    togglePlatform(IconPlatform::IPad);
+    refreshSnippet();
+}
+
+void IconsViewController::macCheckboxChecked()
+{
+    togglePlatform(IconPlatform::Mac);
+}
+
+void IconsViewController::androidCheckboxChecked()
+{
+    togglePlatform(IconPlatform::Android);
+}
+
+void IconsViewController::webtouchCheckboxChecked()
+{
+    togglePlatform(IconPlatform::WebTouch);
+}
+
+void IconsViewController::faviconCheckboxChecked()
+{
+    togglePlatform(IconPlatform::Favicon);
+}
+
+void IconsViewController::checkbox_rounded_ios7_checked()
+{
+    chooseCorners(m_ui->customIconRoundedCheckbox);
+}
+
+void IconsViewController::checkbox_rounded_ios6_checked()
+{
+    chooseCorners(m_ui->customIconRoundedSixCheckbox);
+}
+
+int IconsViewController::cornerMode() const
+{
+    if (m_ui->customIconRoundedCheckbox->isActive())
+        return static_cast<int>(CornerMode::Ios7);
+    return static_cast<int>(m_ui->customIconRoundedSixCheckbox->isActive() ? CornerMode::Ios6 : CornerMode::None);
+}
+
+void IconsViewController::togglePlatform(IconPlatform platform)
+{
+    CheckboxButton *box = checkbox(platform);
+    box->setActive(!box->isActive());
+    m_choices->at(static_cast<std::size_t>(platform)) = box->isActive();
+}
+
+CheckboxButton *IconsViewController::checkbox(IconPlatform platform) const
+{
+    switch (platform) {
+    case IconPlatform::IPhone:
+        return m_ui->iPhoneCheckbox;
+    case IconPlatform::IPad:
+        return m_ui->iPadCheckbox;
+    case IconPlatform::Mac:
+        return m_ui->macCheckbox;
+    case IconPlatform::Android:
+        return m_ui->androidCheckbox;
+    case IconPlatform::WebTouch:
+        return m_ui->webTouchCheckbox;
+    case IconPlatform::Favicon:
+        break;
+    }
+    return m_ui->favIconCheckbox;
+}
+
+bool IconsViewController::isChosen(IconPlatform platform) const
+{
+    return checkbox(platform)->isActive();
+}
+
+void IconsViewController::chooseCorners(RadioButton *clicked)
+{
+    const bool wasActive = clicked->isActive();
+    deselectRadioButtons();
+    clicked->setActive(!wasActive);
+    editPreviewIcon();
+}
+
+void IconsViewController::deselectRadioButtons()
+{
+    m_ui->customIconRoundedSixCheckbox->setActive(false);
+    m_ui->customIconRoundedCheckbox->setActive(false);
+}
+
+} // namespace lumora

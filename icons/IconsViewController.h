@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "IconCatalogue.h"
+#include "app/BackgroundJobs.h"
+#include "app/DropView.h"
+#include "app/TimedCaption.h"
+#include "app/ToolViewController.h"
+
+#include <QImage>
+
+#include <array>
+#include <atomic>
+#include <memory>
+
+namespace Ui
+{
+class IconsViewController;
+}
+
+namespace lumora
+{
+
+class CheckboxButton;
+class IconView;
+class RadioButton;
+
+/// The icon tool: takes a source picture, exports whole icon sets or one icon of a typed size, shows previews and the
+/// code that declares the icons in a project.
+class IconsViewController final : public ToolViewController, public DropViewDelegate
+{
+    Q_OBJECT
+
+public:
+    explicit IconsViewController(const Services &services, QObject *parent = nullptr);
+    ~IconsViewController() override;
+
+    const Ui::IconsViewController &outlets() const { return *m_ui; }
+
+    /// The accepted source; a built-in picture until the user brings one.
+    const QImage &icon() const { return m_icon; }
+    /// The folder last chosen to export into, empty at first.
+    const QString &savePath() const { return m_savePath; }
+    /// The folder of the last source, empty at first.
+    const QString &browsePath() const { return m_browsePath; }
+    /// The edge length of the custom icon in pixels, 0 until one was accepted.
+    int customIconSize() const { return m_customIconSize; }
+    /// See `CornerMode`; as the two corner options stand.
+    int cornerMode() const;
+
+    /// Takes the picture as the source if it is exactly 1024 pixels wide and high, else says so at the browse button
+    /// and keeps the one it has.
+    void createIconFromURL(const QString &path);
+    /// The same as dropping that one file.
+    void setIconFromDelegate(const QString &path);
+    void dropViewReceivedFiles(const QStringList &files) override;
+    /// Colours are of no use here.
+    void dropViewReceivedColor(const QColor &) override {}
+
+    bool takesFiles() const override { return true; }
+    void browseButtonPressed() override;
+    void paste() override;
+
+public slots:
+    void generatePlatformPressed();
+    void generateCustomPressed();
+
+    void iPhoneCheckboxChecked();
+    void iPadCheckboxChecked();
+    void macCheckboxChecked();
+    void androidCheckboxChecked();
+    void webtouchCheckboxChecked();
+    void faviconCheckboxChecked();
+    void checkbox_rounded_ios7_checked();
+    void checkbox_rounded_ios6_checked();
+
+    void snippetPlatformClicked();
+    void copyButtonClicked();
+    /// Redraws the previews with the corner option in force.
+    void editPreviewIcon();
+
+private:
+    /// The platforms chosen now: written on the main thread, read by running exports just before each platform.
+    using Choices = std::array<std::atomic<bool>, iconPlatforms.size()>;
+
+    void setUpAppearance();
+    void setUpPreviews();
+    void setUpSnippets();
+    void connectControls();
+    void openDialog();
+    void acceptIcon(const QImage &icon, const QString &title);
+    void refuseIcon();
+    void showSource();
+    void togglePlatform(IconPlatform platform);
+    CheckboxButton *checkbox(IconPlatform platform) const;
+    bool isChosen(IconPlatform platform) const;
+    void chooseCorners(RadioButton *clicked);
+    void deselectRadioButtons();
+    void refreshSnippet();
+    bool hasSource();
+    void openChooseDestinationForPlatforms(bool forPlatforms);
+    void generatePlatformIcons();
+    void generateCustomIcon();
+    void showNewFolder(const QString &name, QWidget *fromView);
+
+    std::unique_ptr<Ui::IconsViewController> m_ui;
+    QImage m_icon;
+    QString m_savePath;
+    QString m_browsePath;
+    int m_customIconSize = 0;
+    std::array<IconView *, 5> m_previews{};
+    TimedCaption *m_platformCaption = nullptr;
+    TimedCaption *m_customCaption = nullptr;
+    std::shared_ptr<Choices> m_choices = std::make_shared<Choices>();
+    BackgroundJobs m_jobs; ///< last, so that it waits for running exports before anything else goes
+};
+
+} // namespace lumora
