@@ -356,8 +356,7 @@ void BFIconTabBar::drawItem(QPainter &painter, int index) const
     }
     QRectF icon(0, 0, iconSide, iconSide);
     icon.moveCenter(slot.center());
-    m_items[index]->icon().paint(&painter, icon.toAlignedRect(), Qt::AlignCenter,
-                                 isEnabled() ? QIcon::Normal : QIcon::Disabled);
+    m_items[index]->icon().paint(&painter, icon.toAlignedRect());
     const int current = multipleSelection() ? m_current : selectedIndex();
     if (index == current && hasFocus() && m_keyboardFocus.isShown()) {
         const qreal inset = ringWidth / 2;

@@ -7,6 +7,7 @@
 #include <QFontMetricsF>
 #include <QPainter>
 
+#include <algorithm>
 #include <cmath>
 
 namespace lumora
@@ -18,8 +19,9 @@ namespace
 constexpr int hintHeight = 24;
 constexpr qreal ringWidth = 2;
 constexpr qreal ringRadius = 4;
-/// Between the text's end and the focus ring.
-constexpr int trailingMargin = 4;
+/// Between the text and the outer edge of the focus ring, where it begins and ends.
+constexpr qreal leadingMargin = 6;
+constexpr int trailingMargin = 6;
 
 } // namespace
 
@@ -99,10 +101,21 @@ void SelectionButton::drawRect(QPainter &painter)
 
 void SelectionButton::drawFocusRing(QPainter &painter)
 {
+    // The image reaches to the very edge, so the ring goes round the text where there is one.
+    QRectF ring = rect();
+    if (!text().isEmpty()) {
+        ring = buttongeometry::selectionTextArea(size(), layoutDirection());
+        const qreal textWidth = QFontMetricsF(m_font).horizontalAdvance(text());
+        const qreal unused = std::max(0.0, ring.width() - textWidth - trailingMargin);
+        if (layoutDirection() == Qt::RightToLeft)
+            ring.adjust(unused, 0, leadingMargin, 0);
+        else
+            ring.adjust(-leadingMargin, 0, -unused, 0);
+    }
     const qreal inset = ringWidth / 2;
     painter.setPen(QPen(palette::focusRing, ringWidth));
     painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset), ringRadius, ringRadius);
+    painter.drawRoundedRect(ring.adjusted(inset, inset, -inset, -inset), ringRadius, ringRadius);
 }
 
 } // namespace lumora

@@ -11,6 +11,9 @@ class ButtonPage final : public GalleryPage
 {
     Q_OBJECT
 public:
+    /// The name of the control that has room for a popover beside it.
+    static constexpr const char *popoverAnchorName = "popoverAnchor";
+
     explicit ButtonPage(QWidget *parent = nullptr);
 };
 
