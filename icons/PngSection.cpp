@@ -26,9 +26,9 @@ namespace
 constexpr qsizetype bytesPerSection = 1024 * 1024;
 
 /// Noise is its own limit: higher levels only take longer.
-constexpr int noiseLevel = 5;
+constexpr int noiseLevel = 4;
 /// Drawings gain at every level and are fast to compress.
-constexpr int drawingLevel = 7;
+constexpr int drawingLevel = 6;
 /// Tells which filters suit a drawing better.
 constexpr int trialLevel = 1;
 

@@ -99,10 +99,11 @@ bool isMadeFromHalf(QSize source, QSize size)
 
 bool isOpaque(const QImage &source)
 {
+    const int width = source.width();
     for (int y = 0; y < source.height(); ++y) {
         const std::uint8_t *pixel = source.constScanLine(y);
         std::uint8_t smallest = 255;
-        for (int x = 0; x < source.width(); ++x)
+        for (int x = 0; x < width; ++x)
             smallest = std::min(smallest, pixel[4 * x + 3]);
         if (smallest < 255)
             return false;
@@ -137,12 +138,13 @@ struct Resampler::Planes
 std::unique_ptr<Resampler::Planes> Resampler::Planes::ofPicture(const QImage &picture)
 {
     auto planes = std::make_unique<Planes>(picture.size(), !lumora::isOpaque(picture));
+    const int width = picture.width();
     for (int y = 0; y < picture.height(); ++y) {
         const std::uint8_t *pixel = picture.constScanLine(y);
         std::uint8_t *red = planes->row(0, y);
         std::uint8_t *green = planes->row(1, y);
         std::uint8_t *blue = planes->row(2, y);
-        for (int x = 0; x < picture.width(); ++x) {
+        for (int x = 0; x < width; ++x) {
             red[x] = pixel[4 * x];
             green[x] = pixel[4 * x + 1];
             blue[x] = pixel[4 * x + 2];
@@ -150,7 +152,7 @@ std::unique_ptr<Resampler::Planes> Resampler::Planes::ofPicture(const QImage &pi
         if (planes->isOpaque())
             continue;
         std::uint8_t *alpha = planes->row(3, y);
-        for (int x = 0; x < picture.width(); ++x)
+        for (int x = 0; x < width; ++x)
             alpha[x] = pixel[4 * x + 3];
     }
     return planes;
@@ -180,13 +182,14 @@ QImage Resampler::Planes::picture() const
     QImage result(size, QImage::Format_RGBA8888_Premultiplied);
     if (result.isNull())
         return {};
+    const int width = size.width();
     for (int y = 0; y < size.height(); ++y) {
         const std::uint8_t *red = row(0, y);
         const std::uint8_t *green = row(1, y);
         const std::uint8_t *blue = row(2, y);
         const std::uint8_t *alpha = isOpaque() ? nullptr : row(3, y);
         std::uint8_t *pixel = result.scanLine(y);
-        for (int x = 0; x < size.width(); ++x, pixel += 4) {
+        for (int x = 0; x < width; ++x, pixel += 4) {
             // The filter's overshoot may lift a colour above its alpha, which no premultiplied pixel can hold.
             const std::uint8_t limit = alpha != nullptr ? alpha[x] : 255;
             pixel[0] = std::min(red[x], limit);
