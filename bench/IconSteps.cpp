@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The steps between a source picture and its icon files, one by one, on the sources that bench/make_sources.py writes:
-// icon_steps PHOTO.png DRAWING.png [--benchmark_...]
+// bench_icons PHOTO.png DRAWING.png [--benchmark_...]
 #include "icons/IconExport.h"
 #include "icons/IconSource.h"
 #include "icons/PixelFormat.h"
@@ -126,7 +126,7 @@ int main(int argc, char **argv)
     Source photo;
     Source drawing;
     if (argc != 3 || !load(argv[1], photo) || !load(argv[2], drawing)) {
-        std::fprintf(stderr, "usage: icon_steps PHOTO.png DRAWING.png   (see bench/make_sources.py)\n");
+        std::fprintf(stderr, "usage: bench_icons PHOTO.png DRAWING.png   (see bench/make_sources.py)\n");
         return 2;
     }
     declareSteps("photo", photo);

@@ -77,6 +77,7 @@ private slots:
     void refuses();
     void hugeClaimCostsNothing_data();
     void hugeClaimCostsNothing();
+    void largestPictureFitsTheMemory();
     void truncatedIsRefused_data();
     void truncatedIsRefused();
 };
@@ -332,6 +333,27 @@ void PictureReaderTest::hugeClaimCostsNothing()
     const Result<QImage> picture = readPicture(file, u"x"_s);
     QVERIFY(!picture.ok());
     QVERIFY2(peakKilobytes() - before < 16 * 1024, qPrintable(QString::number(peakKilobytes() - before)));
+}
+
+void PictureReaderTest::largestPictureFitsTheMemory()
+{
+    // 16 bits a sample and a profile to convert from: the costliest there is.
+    const QByteArray profile = QColorSpace(QColorSpace::DisplayP3).iccProfile();
+    const QByteArray packed = qCompress(profile).sliced(4);
+    const QByteArray file = withPngChunk(pngOfZeroes(8000, 8000), "iCCP", QByteArray("P3\0\0", 4) + packed);
+    QFile peak(u"/proc/self/clear_refs"_s);
+    QVERIFY(peak.open(QIODevice::WriteOnly) && peak.write("5") == 1);
+    peak.close();
+    QVERIFY(readPicture(file, u"x"_s).ok());
+#if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
+    QFile status(u"/proc/self/status"_s);
+    QVERIFY(status.open(QIODevice::ReadOnly));
+    const QByteArray text = status.readAll();
+    const qsizetype at = text.indexOf("VmHWM:");
+    QVERIFY(at >= 0);
+    const int kilobytes = text.mid(at + 6, text.indexOf("kB", at) - at - 6).trimmed().toInt();
+    QVERIFY2(kilobytes < 1'000'000, qPrintable(QString::number(kilobytes)));
+#endif
 }
 
 void PictureReaderTest::truncatedIsRefused_data()
