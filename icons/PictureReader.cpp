@@ -3,6 +3,7 @@
 
 #include "ExifOrientation.h"
 #include "IcnsReader.h"
+#include "OrdinaryPng.h"
 #include "PictureFormat.h"
 #include "PixelFormat.h"
 #include "PngDecoder.h"
@@ -61,6 +62,8 @@ QImage decode(const QByteArray &bytes, const QByteArray &format)
     QByteArray exif;
     QImage picture;
     if (format == "png") {
+        if (std::optional<QImage> ordinary = decodeOrdinaryPng(bytes))
+            return *std::move(ordinary);
         picture = decodePng(bytes, &exif);
     } else {
         picture = decodeByQt(bytes, format);
@@ -86,10 +89,10 @@ QImage toSrgb(QImage picture)
         picture.setColorSpace(embedded);
         picture.convertToColorSpace(QColorSpace(QColorSpace::SRgb));
     }
-    QImage result = premultiplied(picture);
-    result.setColorSpace(QColorSpace());
-    result.setDevicePixelRatio(1);
-    return result;
+    picture.convertTo(QImage::Format_RGBA8888);
+    picture.setColorSpace(QColorSpace());
+    picture.setDevicePixelRatio(1);
+    return picture;
 }
 
 } // namespace
@@ -118,7 +121,7 @@ Result<QSize> storedPixelSize(const QByteArray &bytes, const QString &name)
     return size;
 }
 
-Result<QImage> readPicture(const QByteArray &bytes, const QString &name)
+Result<QImage> readStraightPicture(const QByteArray &bytes, const QString &name)
 {
     const Result<QSize> stored = storedPixelSize(bytes, name);
     if (!stored)
@@ -128,11 +131,17 @@ Result<QImage> readPicture(const QByteArray &bytes, const QString &name)
         return Failure{FailureCode::TooLarge, name, sizeText(size)};
     const QByteArray format = pictureFormat(bytes);
     if (format == "icns")
-        return readPicture(largestIcnsPicture(bytes), name);
+        return readStraightPicture(largestIcnsPicture(bytes), name);
     QImage picture = isWhole(bytes) ? decode(bytes, format) : QImage();
     if (picture.isNull())
         return Failure{FailureCode::NotAPicture, name, QStringLiteral("damaged")};
     return toSrgb(std::move(picture));
+}
+
+Result<QImage> readPicture(const QByteArray &bytes, const QString &name)
+{
+    Result<QImage> picture = readStraightPicture(bytes, name);
+    return picture ? Result<QImage>(premultiplied(std::move(picture).value())) : picture;
 }
 
 Result<QSize> storedPixelSize(const QString &path)

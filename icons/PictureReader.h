@@ -34,4 +34,7 @@ Result<QSize> storedPixelSize(const QString &path);
 Result<QImage> readPicture(const QByteArray &bytes, const QString &name);
 Result<QImage> readPicture(const QString &path);
 
+/// The same as straight `QImage::Format_RGBA8888`, as the file stores its colours: what is faint keeps them whole.
+Result<QImage> readStraightPicture(const QByteArray &bytes, const QString &name);
+
 } // namespace lumora

@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstdint>
+#include <utility>
 
 namespace lumora
 {
@@ -51,24 +52,28 @@ void straightenRow(std::uint8_t *pixel, int width)
 
 } // namespace
 
-QImage premultiplied(const QImage &picture)
+QImage premultiplied(QImage picture)
 {
     if (picture.format() == QImage::Format_RGBA8888_Premultiplied)
         return picture;
     if (picture.format() == QImage::Format_ARGB32_Premultiplied)
         return picture.convertToFormat(QImage::Format_RGBA8888_Premultiplied);
-    QImage result = picture.convertToFormat(QImage::Format_RGBA8888);
+    QImage result = std::move(picture).convertToFormat(QImage::Format_RGBA8888);
+    const int width = result.width();
     for (int y = 0; y < result.height(); ++y)
-        premultiplyRow(result.scanLine(y), result.width());
+        premultiplyRow(result.scanLine(y), width);
     result.reinterpretAsFormat(QImage::Format_RGBA8888_Premultiplied);
     return result;
 }
 
 QImage straight(const QImage &picture)
 {
+    if (picture.format() == QImage::Format_RGBA8888)
+        return picture;
     QImage result = premultiplied(picture);
+    const int width = result.width();
     for (int y = 0; y < result.height(); ++y)
-        straightenRow(result.scanLine(y), result.width());
+        straightenRow(result.scanLine(y), width);
     result.reinterpretAsFormat(QImage::Format_RGBA8888);
     return result;
 }

@@ -8,9 +8,10 @@ namespace lumora
 
 /// Converts any picture to `QImage::Format_RGBA8888_Premultiplied`. Written out here, since Qt's own conversions round
 /// differently from one processor to the next and the files must not.
-QImage premultiplied(const QImage &picture);
+QImage premultiplied(QImage picture);
 
-/// Converts any picture to straight `QImage::Format_RGBA8888`; fully transparent pixels become transparent black.
+/// Converts any picture that is not so yet to straight `QImage::Format_RGBA8888`; fully transparent pixels of a
+/// converted one become transparent black.
 QImage straight(const QImage &picture);
 
 } // namespace lumora

@@ -6,6 +6,7 @@
 #include "PngSection.h"
 
 #include <algorithm>
+#include <array>
 #include <atomic>
 #include <thread>
 #include <vector>
@@ -18,6 +19,14 @@ QByteArray encodePng(const QImage &picture)
     if (picture.isNull())
         return {};
     return encodePng(ImageRows(straight(picture)), 1);
+}
+
+QByteArray encodePngQuickly(const QImage &picture)
+{
+    if (picture.isNull())
+        return {};
+    const ImageRows rows(straight(picture));
+    return joinPngSections(rows.size(), std::array{makeOnlyPngSection(rows)});
 }
 
 QByteArray encodePng(const PngRows &picture, int threads)

@@ -27,6 +27,10 @@ int pngSectionCount(QSize size);
 /// Makes one section of a picture. Sections may be made in any order, on any threads.
 PngSection makePngSection(const PngRows &picture, int index);
 
+/// The whole picture as its only section, with no more effort than pays. For batches, in which every core has a picture
+/// of its own.
+PngSection makeOnlyPngSection(const PngRows &picture);
+
 /// The PNG file of all sections of a picture of that size.
 QByteArray joinPngSections(QSize size, std::span<const PngSection> sections);
 

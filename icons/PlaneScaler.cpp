@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: MIT
+#include "PlaneScaler.h"
+
+#include <zimg.h>
+
+#include <algorithm>
+#include <new>
+
+namespace lumora
+{
+
+namespace
+{
+
+zimg_image_format greyPlane(QSize size, SampleDepth depth)
+{
+    zimg_image_format format;
+    zimg_image_format_default(&format, ZIMG_API_VERSION);
+    format.width = static_cast<unsigned>(size.width());
+    format.height = static_cast<unsigned>(size.height());
+    format.pixel_type = depth == SampleDepth::Bits8 ? ZIMG_PIXEL_BYTE : ZIMG_PIXEL_WORD;
+    format.depth = static_cast<unsigned>(depth) * 8;
+    format.pixel_range = ZIMG_RANGE_FULL;
+    format.color_family = ZIMG_COLOR_GREY;
+    return format;
+}
+
+zimg_filter_graph *lanczosGraph(QSize from, QSize to, SampleDepth depth)
+{
+    const zimg_image_format source = greyPlane(from, depth);
+    const zimg_image_format destination = greyPlane(to, depth);
+    zimg_graph_builder_params parameters;
+    zimg_graph_builder_params_default(&parameters, ZIMG_API_VERSION);
+    parameters.resample_filter = ZIMG_RESIZE_LANCZOS;
+    parameters.filter_param_a = 3;
+    parameters.dither_type = ZIMG_DITHER_NONE;
+    return zimg_filter_graph_build(&source, &destination, &parameters);
+}
+
+} // namespace
+
+AlignedBytes alignedBytes(std::size_t count)
+{
+    const std::size_t rounded = (count + planeAlignment - 1) / planeAlignment * planeAlignment;
+    void *memory = std::aligned_alloc(planeAlignment, std::max<std::size_t>(rounded, planeAlignment));
+    if (memory == nullptr)
+        throw std::bad_alloc();
+    return AlignedBytes(static_cast<std::uint8_t *>(memory));
+}
+
+qsizetype planeStride(int width, SampleDepth depth)
+{
+    const qsizetype bytes = qsizetype{width} * static_cast<int>(depth);
+    return (bytes + planeAlignment - 1) / planeAlignment * planeAlignment;
+}
+
+void PlaneScaler::FreeGraph::operator()(zimg_filter_graph *graph) const
+{
+    zimg_filter_graph_free(graph);
+}
+
+PlaneScaler::PlaneScaler(QSize from, QSize to, SampleDepth depth)
+    : m_graph(lanczosGraph(from, to, depth)), m_fromStride(planeStride(from.width(), depth)),
+      m_toStride(planeStride(to.width(), depth))
+{
+    std::size_t scratchBytes = 0;
+    if (m_graph != nullptr && zimg_filter_graph_get_tmp_size(m_graph.get(), &scratchBytes) == ZIMG_ERROR_SUCCESS)
+        m_scratch = alignedBytes(scratchBytes);
+}
+
+PlaneScaler::~PlaneScaler() = default;
+
+bool PlaneScaler::scale(const std::uint8_t *from, std::uint8_t *to) const
+{
+    if (m_scratch == nullptr)
+        return false;
+    zimg_image_buffer_const source{};
+    source.version = ZIMG_API_VERSION;
+    source.plane[0] = {from, static_cast<ptrdiff_t>(m_fromStride), ZIMG_BUFFER_MAX};
+    zimg_image_buffer target{};
+    target.version = ZIMG_API_VERSION;
+    target.plane[0] = {to, static_cast<ptrdiff_t>(m_toStride), ZIMG_BUFFER_MAX};
+    return zimg_filter_graph_process(m_graph.get(), &source, &target, m_scratch.get(), nullptr, nullptr, nullptr,
+                                     nullptr) == ZIMG_ERROR_SUCCESS;
+}
+
+} // namespace lumora

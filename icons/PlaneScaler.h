@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QSize>
+
+#include <cstdint>
+#include <cstdlib>
+#include <memory>
+
+struct zimg_filter_graph;
+
+namespace lumora
+{
+
+/// How much a sample of a colour plane holds; the number is its bytes.
+enum class SampleDepth : int { Bits8 = 1, Bits16 = 2 };
+
+struct FreeAlignedMemory
+{
+    void operator()(void *memory) const { std::free(memory); }
+};
+/// Memory that planes may be kept in.
+using AlignedBytes = std::unique_ptr<std::uint8_t, FreeAlignedMemory>;
+
+/// What planes and their rows have to be aligned to, in bytes.
+inline constexpr qsizetype planeAlignment = 64;
+
+AlignedBytes alignedBytes(std::size_t count);
+
+/// The distance from one row of a plane to the next, in bytes.
+qsizetype planeStride(int width, SampleDepth depth);
+
+/// Scales single colour planes from one size to another: Lanczos with three lobes, by libzimg. Samples use the whole
+/// range of their depth. Used by one thread at a time.
+class PlaneScaler
+{
+public:
+    /// Both sizes are not empty.
+    PlaneScaler(QSize from, QSize to, SampleDepth depth);
+    ~PlaneScaler();
+    PlaneScaler(const PlaneScaler &) = delete;
+    PlaneScaler &operator=(const PlaneScaler &) = delete;
+
+    /// Both planes aligned, with strides as `planeStride` gives. False when the library refuses.
+    bool scale(const std::uint8_t *from, std::uint8_t *to) const;
+
+private:
+    struct FreeGraph
+    {
+        void operator()(zimg_filter_graph *graph) const;
+    };
+    std::unique_ptr<zimg_filter_graph, FreeGraph> m_graph;
+    AlignedBytes m_scratch;
+    qsizetype m_fromStride;
+    qsizetype m_toStride;
+};
+
+} // namespace lumora
