@@ -4,6 +4,7 @@
 #include "ColorCommand.h"
 #include "Console.h"
 #include "DevicesCommand.h"
+#include "DownscaleCommand.h"
 #include "IconCommand.h"
 #include "IconsCommand.h"
 #include "PlaceholdersCommand.h"
@@ -33,6 +34,7 @@ const std::vector<Command> &commands()
         {"icons", false, &declareIconsCommand},
         {"icon", false, &declareIconCommand},
         {"placeholders", true, &declarePlaceholdersCommand},
+        {"downscale", false, &declareDownscaleCommand},
         {"color", false, &declareColorCommand},
         {"devices", false, &declareDevicesCommand},
         {"validate", false, &declareValidateCommand},

@@ -25,10 +25,15 @@ DevicePlacement placeInRow(int index)
 
 DevicePlacement placeOfiPad(const DeviceRecord &device, int index)
 {
-    const bool mini = isMini(device);
+    const bool mini = device.image == "device_ipad_mini";
     const int x = (padSize.width() + gap) * (mini ? index : index - 1);
     return {QRect(QPoint(x, mini ? miniPictureBottom : pictureBottom), padSize),
             QRect(x, mini ? miniLabelBottom : 0, padSize.width(), labelHeight)};
+}
+
+QRect flipped(const QRect &upwards, int containerHeight)
+{
+    return {QPoint(upwards.x(), containerHeight - upwards.y() - upwards.height()), upwards.size()};
 }
 
 } // namespace lumora

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "DownscaleBatch.h"
 
+#include "FileIdentity.h"
 #include "MemoryBudget.h"
 #include "RetinaName.h"
 #include "RetinaPicture.h"
@@ -55,16 +56,6 @@ Outcome writeReplacing(const QString &path, const QByteArray &bytes)
     return Failure{FailureCode::CannotWrite, path, file.errorString()};
 }
 
-/// One path for each file, however it is spelled or linked to.
-QString identity(const QString &path)
-{
-    const QFileInfo file(path);
-    const QString canonical = file.canonicalFilePath();
-    if (!canonical.isEmpty())
-        return canonical;
-    return QFileInfo(file.path()).canonicalFilePath() + u'/' + file.fileName();
-}
-
 /// The batch in work: workers halve pictures, the thread that called writes them in order.
 class Batch
 {
@@ -99,8 +90,8 @@ private:
         m_readableAfter.reserve(static_cast<std::size_t>(m_paths.size()));
         for (qsizetype index = 0; index < m_paths.size(); ++index) {
             const QString &path = m_paths.at(index);
-            m_readableAfter.push_back(writtenBy.value(identity(path), -1) + 1);
-            writtenBy.insert(identity(downscaledPath(path, m_destination)), index);
+            m_readableAfter.push_back(writtenBy.value(fileIdentity(path), -1) + 1);
+            writtenBy.insert(fileIdentity(downscaledPath(path, m_destination)), index);
         }
     }
 

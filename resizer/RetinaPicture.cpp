@@ -11,18 +11,18 @@ namespace lumora
 
 QImage unRetinaImage(const QImage &picture)
 {
-    return resample(picture, halfSize(picture.size()));
+    return resampleStraight(picture, halfSize(picture.size()));
 }
 
 Result<HalvedPicture> halvedPicture(const QByteArray &bytes, const QString &name)
 {
-    const Result<QImage> picture = readPicture(bytes, name);
+    const Result<QImage> picture = readStraightPicture(bytes, name);
     if (!picture)
         return picture.failure();
     const Result<QSize> size = halvedSize(picture.value().size(), name);
     if (!size)
         return size.failure();
-    return HalvedPicture{encodePng(unRetinaImage(picture.value())), size.value()};
+    return HalvedPicture{encodePngQuickly(unRetinaImage(picture.value())), size.value()};
 }
 
 qint64 halvingMemory(QSize pixels)

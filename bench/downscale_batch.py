@@ -1,0 +1,147 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
+"""Halves 200 mixed double-resolution pictures with Lumora and with its peers, whole processes in one run.
+
+usage: bench/downscale_batch.py LUMORA [--runs N] [--keep FOLDER]
+
+The pictures are made by ImageMagick from fixed seeds. sharp is installed by npm into a scratch folder. vipsthumbnail
+knows no percentage: it gets the box that makes its pictures as many pixels in all as the halves have.
+Prints times (best of the runs, taken in turns), the bytes written, and Lumora's ratio to each peer.
+"""
+import argparse
+import os
+import shutil
+import subprocess
+import sys
+import tempfile
+import time
+from pathlib import Path
+
+SHARP = """
+const sharp = require('sharp'), fs = require('fs'), path = require('path');
+const [source, target] = process.argv.slice(1);
+Promise.all(fs.readdirSync(source).map(async name => {
+  const picture = sharp(path.join(source, name));
+  const {width, height} = await picture.metadata();
+  await picture.resize(Math.floor(width / 2), Math.floor(height / 2)).toFile(
+      path.join(target, name.replace('@2x', '')));
+}));
+"""
+
+PHOTO = ["-attenuate", "0.1", "+noise", "Gaussian"]
+
+
+def drawing(width, height, number):
+    """A rounded button with a gradient, a disc and a stroke on transparent ground."""
+    hue = number * 47 % 360
+    inset = max(2, min(width, height) // 12)
+    radius = min(width, height) // 6
+    return ["-size", f"{width}x{height}", f"gradient:hsl({hue},70%,60%)-hsl({hue},80%,40%)",
+            "(", "-size", f"{width}x{height}", "xc:none", "-fill", "white", "-draw",
+            f"roundrectangle {inset},{inset} {width - inset},{height - inset} {radius},{radius}", ")",
+            "-alpha", "set", "-compose", "DstIn", "-composite", "-compose", "Over",
+            "-fill", f"hsl({hue + 180},60%,80%)", "-stroke", "white", "-strokewidth", "3", "-draw",
+            f"circle {width // 2},{height // 2} {width // 2},{height // 4}"]
+
+
+def photo(width, height, number):
+    return ["-seed", str(number), "-size", f"{width}x{height}", "plasma:fractal", *PHOTO]
+
+
+# (how many, kind, sizes in turn, what is appended, PNG flavour)
+MIX = [
+    (50, drawing, [(58, 58), (80, 80), (88, 88), (120, 120), (152, 152)], [], "PNG32"),
+    (40, drawing, [(200, 88), (320, 100), (560, 120), (640, 180)], [], "PNG32"),
+    (20, drawing, [(128, 128), (257, 131)], ["-colors", "200"], "PNG8"),
+    (10, photo, [(320, 320), (480, 300)], ["-colorspace", "Gray", "-depth", "8"], "PNG"),
+    (10, photo, [(300, 300), (512, 384)], ["-depth", "16"], "PNG48"),
+    (40, photo, [(640, 960), (640, 1136), (960, 640), (750, 1334)], [], "PNG24"),
+    (20, drawing, [(640, 960), (1242, 1242)], [], "PNG32"),
+    (10, photo, [(1536, 2048), (2048, 1536)], [], "PNG24"),
+]
+
+
+def make_pictures(folder):
+    halves = 0
+    sizes = []
+    number = 0
+    for count, kind, dimensions, more, flavour in MIX:
+        for i in range(count):
+            width, height = dimensions[i % len(dimensions)]
+            subprocess.run(["convert", *kind(width, height, number), *more, "-strip",
+                            f"{flavour}:{folder}/picture{number:03}@2x.png"], check=True)
+            sizes.append((width, height))
+            halves += (width // 2) * (height // 2)
+            number += 1
+    return sizes, halves
+
+
+def box_of_as_many_pixels(sizes, wanted):
+    """The square box into which the pictures, shrunk only, fit with that many pixels in all."""
+    def pixels(box):
+        total = 0
+        for width, height in sizes:
+            scale = min(1, box / width, box / height)
+            total += round(width * scale) * round(height * scale)
+        return total
+    return min(range(16, 2049), key=lambda box: abs(pixels(box) - wanted))
+
+
+def bytes_in(folder):
+    return sum(file.stat().st_size for file in Path(folder).iterdir())
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
+    parser.add_argument("lumora")
+    parser.add_argument("--runs", type=int, default=5)
+    parser.add_argument("--keep", help="folder for pictures, results and sharp; used again when it exists")
+    options = parser.parse_args()
+    lumora = str(Path(options.lumora).resolve())
+    scratch = Path(options.keep or tempfile.mkdtemp(prefix="lumora-bench-")).resolve()
+    source = scratch / "source"
+    if source.exists():
+        shutil.rmtree(source)
+    source.mkdir(parents=True)
+    sizes, halves = make_pictures(source)
+    if not (scratch / "node_modules" / "sharp").exists():
+        subprocess.run(["npm", "install", "--silent", "--prefix", str(scratch), "sharp"], check=True)
+
+    names = sorted(str(file) for file in source.iterdir())
+    box = box_of_as_many_pixels(sizes, halves)
+
+    def peers(target):
+        return {
+            "lumora": [lumora, "downscale", str(source), "--to", target],
+            "mogrify": ["mogrify", "-path", target, "-resize", "50%", *names],
+            "vipsthumbnail": ["vipsthumbnail", "--size", f"{box}x{box}>", "-o", f"{target}/%s.png", *names],
+            "sharp": ["node", "-e", SHARP, str(source), target],
+        }
+
+    best = {name: float("inf") for name in peers("")}
+    size = {}
+    for _ in range(options.runs):
+        for name in best:
+            target = scratch / name
+            if target.exists():
+                shutil.rmtree(target)
+            target.mkdir()
+            start = time.perf_counter()
+            subprocess.run(peers(str(target))[name], check=True, stdout=subprocess.DEVNULL, cwd=scratch,
+                           env={**os.environ, "NODE_PATH": str(scratch / "node_modules")})
+            best[name] = min(best[name], time.perf_counter() - start)
+            size[name] = bytes_in(target)
+            written = len(list(target.iterdir()))
+            if written != len(names):
+                sys.exit(f"{name} wrote {written} of {len(names)} files")
+
+    print(f"{len(names)} pictures, {halves / 1e6:.1f} million pixels in the halves; best of {options.runs} runs")
+    for name, seconds in best.items():
+        print(f"{name:14} {seconds * 1000:8.0f} ms  {size[name] / 1e6:7.2f} MB   Lumora takes "
+              f"{best['lumora'] / seconds:.2f} of the time, {size['lumora'] / size[name]:.2f} of the bytes")
+    if not options.keep:
+        shutil.rmtree(scratch)
+
+
+if __name__ == "__main__":
+    main()

@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+namespace lumora
+{
+
+/// One path for each file, however it is spelled and through whatever links it is reached; for a file that does not
+/// exist yet, the path at which it would come to stand.
+QString fileIdentity(const QString &path);
+
+} // namespace lumora
