@@ -83,7 +83,7 @@ QString groupLine(const QString &group, const std::vector<DeviceRecord> &devices
     QStringList models;
     for (const DeviceRecord &device : devices) {
         if (device.active)
-            models += text(device.model) + (device.image == "device_ipad_mini" ? u" (mini)"_s : QString());
+            models += text(device.model) + (isMini(device) ? u" (mini)"_s : QString());
     }
     return group + u": "_s + (models.isEmpty() ? u"none"_s : models.join(u", "_s));
 }

@@ -25,15 +25,10 @@ DevicePlacement placeInRow(int index)
 
 DevicePlacement placeOfiPad(const DeviceRecord &device, int index)
 {
-    const bool mini = device.image == "device_ipad_mini";
+    const bool mini = isMini(device);
     const int x = (padSize.width() + gap) * (mini ? index : index - 1);
     return {QRect(QPoint(x, mini ? miniPictureBottom : pictureBottom), padSize),
             QRect(x, mini ? miniLabelBottom : 0, padSize.width(), labelHeight)};
-}
-
-QRect flipped(const QRect &upwards, int containerHeight)
-{
-    return {QPoint(upwards.x(), containerHeight - upwards.y() - upwards.height()), upwards.size()};
 }
 
 } // namespace lumora

@@ -24,7 +24,4 @@ DevicePlacement placeInRow(int index);
 /// The place of an iPad: the mini stands one row above the others, which begin below it.
 DevicePlacement placeOfiPad(const DeviceRecord &device, int index);
 
-/// The same rectangle for a container of the height whose y runs downwards.
-QRect flipped(const QRect &upwards, int containerHeight);
-
 } // namespace lumora

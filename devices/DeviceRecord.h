@@ -36,6 +36,12 @@ struct DeviceRecord
     bool operator==(const DeviceRecord &) const = default;
 };
 
+/// The iPad mini, which shares its label with another iPad and is told by its picture.
+constexpr bool isMini(const DeviceRecord &device)
+{
+    return device.image == "device_ipad_mini";
+}
+
 /// One capability that devices can be filtered by.
 struct DeviceFeature
 {

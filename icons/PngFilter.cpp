@@ -76,9 +76,16 @@ private:
     std::vector<std::uint8_t> m_bytes;
 };
 
-} // namespace
+std::vector<std::uint8_t> plainRows(const PngRows &picture, int first, int end)
+{
+    const std::size_t bytes = static_cast<std::size_t>(picture.size().width()) * bytesPerPixel;
+    std::vector<std::uint8_t> result(static_cast<std::size_t>(end - first) * (bytes + 1));
+    for (int y = first; y < end; ++y)
+        picture.readRow(y, std::span(result).subspan(static_cast<std::size_t>(y - first) * (bytes + 1) + 1, bytes));
+    return result;
+}
 
-std::vector<std::uint8_t> filteredRows(const PngRows &picture, int first, int end)
+std::vector<std::uint8_t> adaptiveRows(const PngRows &picture, int first, int end)
 {
     const int bytes = picture.size().width() * bytesPerPixel;
     std::vector<std::uint8_t> result;
@@ -116,6 +123,34 @@ std::vector<std::uint8_t> filteredRows(const PngRows &picture, int first, int en
         std::swap(row, above);
     }
     return result;
+}
+
+} // namespace
+
+std::vector<std::uint8_t> filteredRows(const PngRows &picture, int first, int end, PngFilterChoice choice)
+{
+    return choice == PngFilterChoice::None ? plainRows(picture, first, end) : adaptiveRows(picture, first, end);
+}
+
+double novelty(const std::vector<std::uint8_t> &rows, int width)
+{
+    const std::size_t rowBytes = static_cast<std::size_t>(width) * bytesPerPixel + 1;
+    const auto pixel = [](const std::uint8_t *at) {
+        std::uint32_t value = 0;
+        std::memcpy(&value, at, sizeof value);
+        return value;
+    };
+    std::size_t novel = 0;
+    for (std::size_t row = rowBytes; row < rows.size(); row += rowBytes) {
+        const std::uint8_t *pixels = rows.data() + row + 1;
+        const std::uint8_t *upper = pixels - rowBytes;
+        for (int x = 1; x < width; ++x) {
+            const std::uint32_t own = pixel(pixels + bytesPerPixel * x);
+            novel += static_cast<unsigned>(own != pixel(pixels + bytesPerPixel * (x - 1))) &
+                     static_cast<unsigned>(own != pixel(upper + bytesPerPixel * x));
+        }
+    }
+    return rows.empty() ? 0 : static_cast<double>(novel) * bytesPerPixel / static_cast<double>(rows.size());
 }
 
 } // namespace lumora

@@ -9,9 +9,18 @@ namespace lumora
 
 class PngRows;
 
+/// How the rows of a section are filtered.
+enum class PngFilterChoice {
+    Adaptive, ///< each row by the filter whose residues, read as signed bytes, have the smallest sum of magnitudes
+    None,     ///< as they are, which lets repeated shapes be found
+};
+
 /// Rows `first` up to, not including, `end` of a picture as PNG stores them before compression: each row led by the
-/// number of its filter. Of the five filters each row takes the one whose residues, read as signed bytes, have the
-/// smallest sum of magnitudes.
-std::vector<std::uint8_t> filteredRows(const PngRows &picture, int first, int end);
+/// number of its filter.
+std::vector<std::uint8_t> filteredRows(const PngRows &picture, int first, int end, PngFilterChoice choice);
+
+/// Of rows as `PngFilterChoice::None` gives them, the share of pixels that differ from the one to their left and from
+/// the one above: 0 for one colour, near 1 for a photograph.
+double novelty(const std::vector<std::uint8_t> &rows, int width);
 
 } // namespace lumora

@@ -20,12 +20,23 @@ namespace lumora
 namespace
 {
 
-/// docs/performance.md holds the measurements behind both figures.
-constexpr int compressionLevel = 6;
-constexpr int quickLevel = 1;
-/// What compresses to no less than this share of its bytes at the quick level is taken for noise.
+// docs/performance.md holds the measurements behind these figures.
+
+/// Of filtered rows; large enough that what a section cannot find in the one before it does not count.
+constexpr qsizetype bytesPerSection = 1024 * 1024;
+
+/// Noise is its own limit: higher levels only take longer.
+constexpr int noiseLevel = 4;
+/// Drawings gain at every level and are fast to compress.
+constexpr int drawingLevel = 6;
+/// Tells which filters suit a drawing better.
+constexpr int trialLevel = 1;
+/// Of batches: what compresses to no less than this share of its bytes at the trial level is taken for noise.
 constexpr double noisyShare = 0.3;
-constexpr qsizetype bytesPerSection = 512 * 1024;
+
+/// Rows with a novelty in between are a drawing's. Below, there is nothing to gain; above, it is a photograph.
+constexpr double leastNoveltyOfDrawings = 0.002;
+constexpr double mostNoveltyOfDrawings = 0.35;
 
 struct FreeCompressor
 {
@@ -110,20 +121,33 @@ qsizetype filteredRowBytes(QSize size)
     return qsizetype{size.width()} * 4 + 1;
 }
 
-PngSection deflatedSection(const std::vector<std::uint8_t> &rows, int level)
+QByteArray deflated(const std::vector<std::uint8_t> &rows, int level)
 {
     const std::unique_ptr<libdeflate_compressor, FreeCompressor> compressor(libdeflate_alloc_compressor(level));
     if (compressor == nullptr)
         throw std::bad_alloc();
-    PngSection section;
-    section.filteredBytes = static_cast<qsizetype>(rows.size());
-    section.checksum = libdeflate_adler32(1, rows.data(), rows.size());
-    section.deflated.resize(static_cast<qsizetype>(libdeflate_deflate_compress_bound(compressor.get(), rows.size())));
-    const std::size_t written =
-        libdeflate_deflate_compress(compressor.get(), rows.data(), rows.size(), section.deflated.data(),
-                                    static_cast<std::size_t>(section.deflated.size()));
-    section.deflated.resize(static_cast<qsizetype>(written));
-    return section;
+    const std::size_t bound = libdeflate_deflate_compress_bound(compressor.get(), rows.size());
+    QByteArray stream(static_cast<qsizetype>(bound), Qt::Uninitialized);
+    stream.resize(static_cast<qsizetype>(
+        libdeflate_deflate_compress(compressor.get(), rows.data(), rows.size(), stream.data(), bound)));
+    return stream;
+}
+
+struct RowsToCompress
+{
+    std::vector<std::uint8_t> rows;
+    int level;
+};
+
+RowsToCompress rowsToCompress(const PngRows &picture, int first, int end)
+{
+    std::vector<std::uint8_t> plain = filteredRows(picture, first, end, PngFilterChoice::None);
+    std::vector<std::uint8_t> adaptive = filteredRows(picture, first, end, PngFilterChoice::Adaptive);
+    const double share = novelty(plain, picture.size().width());
+    if (share < leastNoveltyOfDrawings || share > mostNoveltyOfDrawings)
+        return {std::move(adaptive), noiseLevel};
+    const bool plainIsSmaller = deflated(plain, trialLevel).size() < deflated(adaptive, trialLevel).size();
+    return {std::move(plainIsSmaller ? plain : adaptive), drawingLevel};
 }
 
 } // namespace
@@ -140,7 +164,12 @@ PngSection makePngSection(const PngRows &picture, int index)
     const qint64 sections = pngSectionCount(picture.size());
     const int first = static_cast<int>(height * index / sections);
     const int end = static_cast<int>(height * (index + 1) / sections);
-    PngSection section = deflatedSection(filteredRows(picture, first, end), compressionLevel);
+    const auto [rows, level] = rowsToCompress(picture, first, end);
+
+    PngSection section;
+    section.filteredBytes = static_cast<qsizetype>(rows.size());
+    section.checksum = libdeflate_adler32(1, rows.data(), rows.size());
+    section.deflated = deflated(rows, level);
     if (index + 1 < sections)
         keepOpen(section.deflated);
     return section;
@@ -148,11 +177,14 @@ PngSection makePngSection(const PngRows &picture, int index)
 
 PngSection makeOnlyPngSection(const PngRows &picture)
 {
-    const std::vector<std::uint8_t> rows = filteredRows(picture, 0, picture.size().height());
-    PngSection section = deflatedSection(rows, quickLevel);
+    const std::vector<std::uint8_t> rows = filteredRows(picture, 0, picture.size().height(), PngFilterChoice::Adaptive);
+    PngSection section;
+    section.filteredBytes = static_cast<qsizetype>(rows.size());
+    section.checksum = libdeflate_adler32(1, rows.data(), rows.size());
+    section.deflated = deflated(rows, trialLevel);
     // Flat drawings shrink further for next to nothing; noise takes twice the time for a twentieth of its bytes.
     if (static_cast<double>(section.deflated.size()) < noisyShare * static_cast<double>(rows.size()))
-        section = deflatedSection(rows, compressionLevel);
+        section.deflated = deflated(rows, drawingLevel);
     return section;
 }
 

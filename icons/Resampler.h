@@ -4,34 +4,36 @@
 #include <QImage>
 #include <QSize>
 
-#include <array>
-#include <vector>
+#include <memory>
+#include <mutex>
 
 namespace lumora
 {
 
 /// Lanczos with three lobes, by libzimg on the premultiplied colour planes, so that no colour of a transparent pixel
-/// bleeds into its neighbours. Takes the picture apart once; any number of sizes may then be made from it, on any
-/// thread at a time.
+/// bleeds into its neighbours. Takes the picture apart once; any number of sizes may then be made from it, by several
+/// threads at a time.
 class Resampler
 {
 public:
-    /// Keeps a planar copy of the picture: 4 bytes a pixel (3 for an opaque one).
+    /// Keeps a planar copy of the picture: 4 bytes a pixel (3 for an opaque one), and a third more once a small size
+    /// was made.
     explicit Resampler(const QImage &source);
+    ~Resampler();
 
     /// The picture stretched to `size` pixels, as `QImage::Format_RGBA8888_Premultiplied`. A size equal to the source's
     /// gives its pixels unchanged; an empty size, or an empty source, a null picture.
     QImage scaledTo(QSize size) const;
 
 private:
-    QSize m_size;
-    std::vector<std::uint8_t> m_samples;
-    qsizetype m_stride = 0;
-    bool m_opaque = true;
+    struct Planes;
+    explicit Resampler(std::unique_ptr<Planes> planes);
 
-    std::uint8_t *plane(int channel);
-    const std::uint8_t *plane(int channel) const;
-    void takeApart(const QImage &source);
+    std::unique_ptr<Planes> m_planes;
+    mutable std::once_flag m_halved;
+    mutable std::unique_ptr<Resampler> m_half;
+
+    const Resampler &half() const;
 };
 
 /// One size of one picture: `Resampler(source).scaledTo(size)`.

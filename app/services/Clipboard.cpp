@@ -26,4 +26,15 @@ QImage SystemClipboard::image() const
     return QGuiApplication::clipboard()->image();
 }
 
+QColor SystemClipboard::color() const
+{
+    const QMimeData *content = QGuiApplication::clipboard()->mimeData();
+    return content != nullptr && content->hasColor() ? content->colorData().value<QColor>() : QColor();
+}
+
+QString SystemClipboard::plainText() const
+{
+    return QGuiApplication::clipboard()->text();
+}
+
 } // namespace lumora

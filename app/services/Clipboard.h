@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QColor>
 #include <QImage>
 #include <QStringList>
 
@@ -19,6 +20,10 @@ public:
     virtual QStringList files() const = 0;
     /// The copied picture, null when none was copied.
     virtual QImage image() const = 0;
+    /// The copied colour, invalid when none was copied; a picture or a text is none.
+    virtual QColor color() const = 0;
+    /// The copied text, empty when none was copied.
+    virtual QString plainText() const = 0;
 };
 
 /// The clipboard of the desktop.
@@ -28,6 +33,8 @@ public:
     void setText(const QString &text) override;
     QStringList files() const override;
     QImage image() const override;
+    QColor color() const override;
+    QString plainText() const override;
 };
 
 } // namespace lumora

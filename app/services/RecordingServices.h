@@ -70,14 +70,18 @@ public:
         text = newText;
         copiedFiles.clear();
         copiedImage = {};
+        copiedColor = {};
         ++changes;
     }
     QStringList files() const override { return copiedFiles; }
     QImage image() const override { return copiedImage; }
+    QColor color() const override { return copiedColor; }
+    QString plainText() const override { return text; }
 
     QString text;
     QStringList copiedFiles;
     QImage copiedImage;
+    QColor copiedColor;
     int changes = 0; ///< how often a text was set
 };
 

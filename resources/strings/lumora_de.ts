@@ -863,6 +863,10 @@
     <source>iPad</source>
     <translation>iPad</translation>
   </message>
+  <message id="DEVICES_IPAD_MINI">
+    <source>iPad mini</source>
+    <translation>iPad mini</translation>
+  </message>
 
   <!-- App package check: intake -->
   <message id="VALIDATER_BROWSE_INFO">

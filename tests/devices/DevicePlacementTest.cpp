@@ -53,13 +53,6 @@ private slots:
         const DeviceRecord mini = setupiPads().front();
         QCOMPARE(placeOfiPad(mini, 2).picture, QRect(162, 150, 71, 90));
     }
-
-    void flipsToDownwards()
-    {
-        QCOMPARE(flipped(QRect(45, 25, 35, 65), 90), QRect(45, 0, 35, 65));
-        QCOMPARE(flipped(QRect(45, 0, 35, 20), 90), QRect(45, 70, 35, 20));
-        QCOMPARE(flipped(QRect(0, 150, 71, 90), 240), QRect(0, 0, 71, 90));
-    }
 };
 
 QTEST_GUILESS_MAIN(DevicePlacementTest)

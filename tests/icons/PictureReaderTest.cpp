@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "icons/PictureReader.h"
 
+#include "TestPictures.h"
+#include "icons/IcnsWriter.h"
 #include "icons/PngEncoder.h"
 
 #include <QBuffer>
 #include <QColorSpace>
 #include <QImageWriter>
+#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -62,11 +65,19 @@ class PictureReaderTest : public QObject
 private slots:
     void readsFormat_data();
     void readsFormat();
+    void convertsTheProfile_data();
     void convertsTheProfile();
+    void readsEveryKindOfPng_data();
+    void readsEveryKindOfPng();
+    void turnsAsTheFileAsks_data();
+    void turnsAsTheFileAsks();
+    void takesTheLargestOfAnIconFile();
+    void resolutionIsIgnored();
     void refuses_data();
     void refuses();
     void hugeClaimCostsNothing_data();
     void hugeClaimCostsNothing();
+    void largestPictureFitsTheMemory();
     void truncatedIsRefused_data();
     void truncatedIsRefused();
 };
@@ -108,16 +119,164 @@ void PictureReaderTest::readsFormat()
         QVERIFY(near(picture.value().pixel(50, 40), 0x80808080, std::max(tolerance, 1)));
 }
 
-void PictureReaderTest::convertsTheProfile()
+void PictureReaderTest::convertsTheProfile_data()
 {
+    QTest::addColumn<QByteArray>("file");
+    QTest::addColumn<QRgb>("colour");
     QImage picture(8, 8, QImage::Format_RGB32);
     picture.fill(qRgb(200, 100, 50));
+    const QRgb kept = qRgb(200, 100, 50);
+    // (200, 100, 50) / 255 of Display P3 through linear light and the two spaces' published primaries.
+    const QRgb fromDisplayP3 = qRgb(215, 93, 31);
+    QTest::newRow("png, none") << pictureFile(picture) << kept;
+    picture.setColorSpace(QColorSpace(QColorSpace::SRgb));
+    QTest::newRow("png, sRGB") << pictureFile(picture) << kept;
     picture.setColorSpace(QColorSpace(QColorSpace::DisplayP3));
-    const Result<QImage> read = readPicture(encoded(picture, "png"), u"x"_s);
+    QTest::newRow("png, Display P3") << pictureFile(picture) << fromDisplayP3;
+    QTest::newRow("png, Display P3, 16 bits")
+        << pictureFile(picture.convertToFormat(QImage::Format_RGBA64)) << fromDisplayP3;
+    QTest::newRow("tiff, Display P3") << pictureFile(picture, "tiff") << fromDisplayP3;
+    QTest::newRow("jpeg, Display P3") << pictureFile(picture, "jpeg") << fromDisplayP3;
+    picture.setColorSpace(QColorSpace());
+    const QByteArray plain = pictureFile(picture);
+    QTest::newRow("png, usual gamma") << withPngChunk(plain, "gAMA", QByteArray("\0\0\xB1\x8F", 4)) << kept;
+    // Linear light: (200 / 255) to the power of 1 / 2.4 by the sRGB curve, and so on.
+    QTest::newRow("png, linear") << withPngChunk(plain, "gAMA", QByteArray("\0\1\x86\xA0", 4)) << qRgb(229, 168, 122);
+    QTest::newRow("png, damaged profile") << withPngChunk(plain, "iCCP", "name\0\0nonsense") << kept;
+}
+
+void PictureReaderTest::convertsTheProfile()
+{
+    QFETCH(QByteArray, file);
+    QFETCH(QRgb, colour);
+    const Result<QImage> read = readPicture(file, u"x"_s);
     QVERIFY(read.ok());
-    // Display P3 (200, 100, 50) / 255 through linear light and the two spaces' published primaries.
-    QVERIFY2(near(read.value().pixel(4, 4), qRgb(215, 93, 31), 1),
-             qPrintable(QString::number(read.value().pixel(4, 4), 16)));
+    const QRgb found = read.value().pixel(4, 4);
+    QVERIFY2(near(found, colour, 2), qPrintable(QColor(found).name()));
+}
+
+void PictureReaderTest::readsEveryKindOfPng_data()
+{
+    QTest::addColumn<QStringList>("how");
+    QTest::addColumn<int>("tolerance");
+    for (const int bits : {1, 2, 4, 8, 16}) {
+        QTest::addRow("grey, %d bits", bits)
+            << QStringList{u"-colorspace"_s,      u"Gray"_s,    u"-define"_s,
+                           u"png:color-type=0"_s, u"-define"_s, u"png:bit-depth=%1"_s.arg(bits)}
+            << 255 / ((1 << std::min(bits, 8)) - 1);
+    }
+    QTest::newRow("grey with alpha") << QStringList{u"-colorspace"_s, u"Gray"_s, u"-define"_s, u"png:color-type=4"_s}
+                                     << 1;
+    QTest::newRow("RGB") << QStringList{u"-define"_s, u"png:color-type=2"_s} << 1;
+    QTest::newRow("RGB, 16 bits") << QStringList{u"-define"_s, u"png:color-type=2"_s, u"-define"_s,
+                                                 u"png:bit-depth=16"_s}
+                                  << 1;
+    QTest::newRow("palette") << QStringList{u"-colors"_s, u"200"_s, u"-define"_s, u"png:color-type=3"_s} << 40;
+    QTest::newRow("RGBA") << QStringList{u"-define"_s, u"png:color-type=6"_s} << 1;
+    QTest::newRow("RGBA, interlaced") << QStringList{u"-interlace"_s, u"PNG"_s, u"-define"_s, u"png:color-type=6"_s}
+                                      << 1;
+    QTest::newRow("RGBA, interlaced, 16 bits")
+        << QStringList{u"-interlace"_s,       u"PNG"_s,     u"-define"_s,
+                       u"png:color-type=6"_s, u"-define"_s, u"png:bit-depth=16"_s}
+        << 1;
+}
+
+void PictureReaderTest::readsEveryKindOfPng()
+{
+    QFETCH(QStringList, how);
+    QFETCH(int, tolerance);
+    // ImageMagick writes the file and, as raw bytes, what is in it.
+    const QTemporaryDir folder;
+    QFile source(folder.filePath(u"source.png"_s));
+    QVERIFY(source.open(QIODevice::WriteOnly));
+    source.write(pictureFile(testPicture(61, 47).convertToFormat(QImage::Format_RGB32)));
+    source.close();
+    const QString made = folder.filePath(u"made.png"_s);
+    QCOMPARE(QProcess::execute(u"convert"_s, QStringList{source.fileName()} + how + QStringList{made}), 0);
+    const QString raw = folder.filePath(u"made.rgba"_s);
+    QCOMPARE(
+        QProcess::execute(u"convert"_s, {made, u"-colorspace"_s, u"sRGB"_s, u"-depth"_s, u"8"_s, u"rgba:"_s + raw}), 0);
+    QFile rawFile(raw);
+    QVERIFY(rawFile.open(QIODevice::ReadOnly));
+    const QByteArray pixels = rawFile.readAll();
+    QCOMPARE(pixels.size(), 61 * 47 * 4);
+    const Result<QImage> read = readPicture(made);
+    QVERIFY(read.ok());
+    for (int y = 0; y < 47; ++y) {
+        for (int x = 0; x < 61 * 4; ++x) {
+            const int wanted = static_cast<uchar>(pixels[y * 61 * 4 + x]);
+            QVERIFY(std::abs(wanted - read.value().constScanLine(y)[x]) <= std::min(tolerance, 1));
+        }
+    }
+}
+
+void PictureReaderTest::turnsAsTheFileAsks_data()
+{
+    QTest::addColumn<QByteArray>("file");
+    QTest::addColumn<QList<QRgb>>("corners");
+    const QRgb red = 0xFFFF0000;
+    const QRgb green = 0xFF00FF00;
+    const QRgb blue = 0xFF0000FF;
+    const QRgb white = 0x80808080;
+    // Top left, top right, bottom left, bottom right as they shall be seen, for the orientations of EXIF.
+    const QList<QRgb> seen[] = {{red, green, blue, white}, {green, red, white, blue}, {white, blue, green, red},
+                                {blue, white, red, green}, {red, blue, green, white}, {blue, red, white, green},
+                                {white, green, blue, red}, {green, white, red, blue}};
+    const QByteArray png = pictureFile(quarters(64, 48));
+    const QByteArray webp = pictureFile(quarters(64, 48), "webp");
+    for (int orientation = 1; orientation <= 8; ++orientation) {
+        const char number = static_cast<char>(orientation);
+        const QByteArray little =
+            QByteArray("II*\0\x08\0\0\0\x01\0\x12\x01\x03\0\x01\0\0\0", 18) + number + QByteArray("\0\0\0\0\0\0\0", 7);
+        const QByteArray big =
+            QByteArray("MM\0*\0\0\0\x08\0\x01\x01\x12\0\x03\0\0\0\x01\0", 19) + number + QByteArray("\0\0\0\0\0\0", 6);
+        QTest::addRow("png, %d", orientation) << withPngChunk(png, "eXIf", little) << seen[orientation - 1];
+        QTest::addRow("png, big-endian, %d", orientation) << withPngChunk(png, "eXIf", big) << seen[orientation - 1];
+    }
+    QTest::newRow("png, 9") << withPngChunk(png, "eXIf",
+                                            QByteArray("II*\0\x08\0\0\0\x01\0\x12\x01\x03\0\x01\0\0\0\x09\0\0\0", 22))
+                            << seen[0];
+    QTest::newRow("png, directory beyond the end")
+        << withPngChunk(png, "eXIf", QByteArray("II*\0\xFF\xFF\xFF\xFF", 8)) << seen[0];
+    QTest::newRow("png, empty block") << withPngChunk(png, "eXIf", "II") << seen[0];
+}
+
+void PictureReaderTest::turnsAsTheFileAsks()
+{
+    QFETCH(QByteArray, file);
+    QFETCH(QList<QRgb>, corners);
+    QCOMPARE(storedPixelSize(file, u"x"_s).value(), QSize(64, 48));
+    const Result<QImage> read = readPicture(file, u"x"_s);
+    QVERIFY(read.ok());
+    const QImage &picture = read.value();
+    const int right = picture.width() - 1;
+    const int bottom = picture.height() - 1;
+    QCOMPARE((QList<QRgb>{picture.pixel(0, 0), picture.pixel(right, 0), picture.pixel(0, bottom),
+                          picture.pixel(right, bottom)}),
+             corners);
+    QCOMPARE(picture.format(), QImage::Format_RGBA8888_Premultiplied);
+}
+
+void PictureReaderTest::takesTheLargestOfAnIconFile()
+{
+    const IcnsMember members[] = {{"icp4", pictureFile(testPicture(16, 16))},
+                                  {"TOC ", QByteArray("anything")},
+                                  {"ic08", pictureFile(testPicture(256, 256))},
+                                  {"ic07", pictureFile(testPicture(128, 128))}};
+    const QByteArray file = icnsFile(members);
+    QCOMPARE(storedPixelSize(file, u"x"_s).value(), QSize(256, 256));
+    QCOMPARE(readPicture(file, u"x"_s).value().size(), QSize(256, 256));
+    QVERIFY(!readPicture(file.chopped(1), u"x"_s).ok());
+}
+
+void PictureReaderTest::resolutionIsIgnored()
+{
+    const QByteArray file =
+        withPngChunk(pictureFile(quarters(64, 48)), "pHYs", QByteArray("\0\0\x2C\x4A\0\0\x2C\x4A\x01", 9));
+    const Result<QImage> read = readPicture(file, u"x"_s);
+    QVERIFY(read.ok());
+    QCOMPARE(read.value().size(), QSize(64, 48));
+    QCOMPARE(read.value().devicePixelRatio(), 1.0);
 }
 
 void PictureReaderTest::refuses_data()
@@ -174,6 +333,27 @@ void PictureReaderTest::hugeClaimCostsNothing()
     const Result<QImage> picture = readPicture(file, u"x"_s);
     QVERIFY(!picture.ok());
     QVERIFY2(peakKilobytes() - before < 16 * 1024, qPrintable(QString::number(peakKilobytes() - before)));
+}
+
+void PictureReaderTest::largestPictureFitsTheMemory()
+{
+    // 16 bits a sample and a profile to convert from: the costliest there is.
+    const QByteArray profile = QColorSpace(QColorSpace::DisplayP3).iccProfile();
+    const QByteArray packed = qCompress(profile).sliced(4);
+    const QByteArray file = withPngChunk(pngOfZeroes(8000, 8000), "iCCP", QByteArray("P3\0\0", 4) + packed);
+    QFile peak(u"/proc/self/clear_refs"_s);
+    QVERIFY(peak.open(QIODevice::WriteOnly) && peak.write("5") == 1);
+    peak.close();
+    QVERIFY(readPicture(file, u"x"_s).ok());
+#if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
+    QFile status(u"/proc/self/status"_s);
+    QVERIFY(status.open(QIODevice::ReadOnly));
+    const QByteArray text = status.readAll();
+    const qsizetype at = text.indexOf("VmHWM:");
+    QVERIFY(at >= 0);
+    const int kilobytes = text.mid(at + 6, text.indexOf("kB", at) - at - 6).trimmed().toInt();
+    QVERIFY2(kilobytes < 1'000'000, qPrintable(QString::number(kilobytes)));
+#endif
 }
 
 void PictureReaderTest::truncatedIsRefused_data()

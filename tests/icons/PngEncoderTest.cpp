@@ -113,7 +113,6 @@ void PngEncoderTest::holdsTheseChunksOnly()
 
 void PngEncoderTest::isMadeOfSeveralSectionsWhereLarge()
 {
-    QCOMPARE(pngSectionCount({512, 512}) > 1, true);
     QVERIFY(pngSectionCount({1024, 1024}) >= 4);
     QCOMPARE(pngSectionCount({57, 57}), 1);
     QCOMPARE(pngSectionCount({1, 1}), 1);

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "RgbaColor.h"
+
+#include <QLineEdit>
+
+namespace lumora
+{
+
+/// The field for the colour's text, written in the colour itself on a rounded ground that keeps it readable.
+class ColorField final : public QLineEdit
+{
+    Q_OBJECT
+
+public:
+    explicit ColorField(QWidget *parent = nullptr);
+
+    QColor textColor() const { return palette().color(QPalette::Text); }
+    /// Also chooses the ground: white, or dark for a colour that white would swallow.
+    void setTextColor(const RgbaColor &color);
+    QColor groundColor() const { return m_groundColor; }
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    QColor m_groundColor;
+};
+
+} // namespace lumora

@@ -1,0 +1,282 @@
+// SPDX-License-Identifier: MIT
+#include "ColorViewController.h"
+
+#include "ColorField.h"
+#include "TypingRule.h"
+#include "app/ButtonStyle.h"
+#include "app/LabelStyle.h"
+#include "color/picker/ColorWell.h"
+#include "ui_ColorViewController.h"
+#include "widgets/Fonts.h"
+#include "widgets/Palette.h"
+
+#include <QDropEvent>
+#include <QMimeData>
+
+#include <algorithm>
+
+namespace lumora
+{
+
+namespace
+{
+
+/// The colour at start-up: the chrome text's, in the figures that its code is cut from.
+constexpr RgbaColor firstColor{0.204F, 0.286F, 0.369F, 1.0F};
+constexpr int fieldFontSize = 35;
+constexpr int labelFontSize = 13;
+
+constexpr auto tagName = "tag";
+
+/// A colour, or a text that is the code of one; a file is neither, though its name comes as a text too.
+bool carriesColor(const QMimeData &content)
+{
+    return content.hasColor() || (!content.hasUrls() && !content.hasImage() && codesForCopying(content.text()).ok());
+}
+
+} // namespace
+
+ColorViewController::ColorViewController(const Services &services, QObject *parent)
+    : ToolViewController(services, parent), m_ui(std::make_unique<Ui::ColorViewController>())
+{
+    m_ui->setupUi(view());
+    setUpField();
+    setUpRows();
+    m_ui->dropView->setDelegate(this);
+    m_ui->dropView->installEventFilter(this);
+    m_resetTimer.setSingleShot(true);
+    m_resetTimer.setInterval(copiedDuration);
+    connect(&m_resetTimer, &QTimer::timeout, this, &ColorViewController::resetButtons);
+    takeColor(firstColor);
+    resetButtons();
+    createPopup();
+}
+
+ColorViewController::~ColorViewController() = default;
+
+void ColorViewController::setUpField()
+{
+    QLineEdit *field = m_ui->colorTextField;
+    field->setFont(latoBold(fieldFontSize));
+    field->setAccessibleName(qtTrId("ACCESSIBLE_COLOR_FIELD"));
+    // A dropped text is the pane's; a file's name would only be typed into the field.
+    field->setAcceptDrops(false);
+    connect(field, &QLineEdit::textEdited, this, [this] { controlTextDidChange(m_ui->colorTextField); });
+    connect(field, &QLineEdit::textChanged, this, &ColorViewController::showCodes);
+    m_ui->colorWell->setAccessibleName(qtTrId("ACCESSIBLE_COLOR_WELL"));
+    connect(m_ui->colorWell, &ColorWell::colorPicked, this, &ColorViewController::colorWellReceivedColor);
+}
+
+void ColorViewController::setUpRows()
+{
+    for (const CodeRow &row : codeRows())
+        styleLabel(row.code, latoBold(labelFontSize), palette::chromeText);
+    connect(iosButton(), &HoverButton::clicked, this, [this] { iosButtonPressed(iosButton()); });
+    connect(macButton(), &HoverButton::clicked, this, [this] { macButtonPressed(macButton()); });
+    connect(javaButton(), &HoverButton::clicked, this, [this] { javaButtonPressed(javaButton()); });
+    connect(cssButton(), &HoverButton::clicked, this, [this] { cssButtonPressed(cssButton()); });
+}
+
+ColorField *ColorViewController::colorTextField() const
+{
+    return m_ui->colorTextField;
+}
+
+BFPopoverColorWell *ColorViewController::colorWell() const
+{
+    return m_ui->colorWell;
+}
+
+HoverButton *ColorViewController::iosButton() const
+{
+    return m_ui->iosButton;
+}
+
+HoverButton *ColorViewController::macButton() const
+{
+    return m_ui->macButton;
+}
+
+HoverButton *ColorViewController::javaButton() const
+{
+    return m_ui->javaButton;
+}
+
+HoverButton *ColorViewController::cssButton() const
+{
+    return m_ui->cssButton;
+}
+
+QLabel *ColorViewController::iosLabel() const
+{
+    return m_ui->iosLabel;
+}
+
+QLabel *ColorViewController::macLabel() const
+{
+    return m_ui->macLabel;
+}
+
+QLabel *ColorViewController::javaLabel() const
+{
+    return m_ui->javaLabel;
+}
+
+QLabel *ColorViewController::cssLabel() const
+{
+    return m_ui->cssLabel;
+}
+
+std::array<ColorViewController::CodeRow, colorNotationCount> ColorViewController::codeRows() const
+{
+    return {{
+        {m_ui->iosButton, m_ui->iosLabel, m_ui->iosCode, qtTrId("COLOR_IOS_BUTTON"), qtTrId("COLOR_IOS")},
+        {m_ui->macButton, m_ui->macLabel, m_ui->macCode, qtTrId("COLOR_MAC_BUTTON"), qtTrId("COLOR_MAC")},
+        {m_ui->javaButton, m_ui->javaLabel, m_ui->javaCode, qtTrId("COLOR_JAVA_BUTTON"), qtTrId("COLOR_JAVA")},
+        {m_ui->cssButton, m_ui->cssLabel, m_ui->cssCode, qtTrId("COLOR_CSS_BUTTON"), qtTrId("COLOR_CSS")},
+    }};
+}
+
+Result<ColorCodes> ColorViewController::colorWithHexString(const QString &text)
+{
+    Result<ColorCodes> codes = lumora::colorWithHexString(text);
+    if (codes)
+        setTheColor(codes.value().color);
+    return codes;
+}
+
+void ColorViewController::controlTextDidChange(const QObject *notificationObject)
+{
+    QLineEdit *field = m_ui->colorTextField;
+    if (notificationObject != field)
+        return;
+    const TypingOutcome outcome = outcomeOfTyping(field->text());
+    if (outcome.correctedText) {
+        const int cursor = field->cursorPosition();
+        field->setText(*outcome.correctedText);
+        field->setCursorPosition(std::min(cursor, static_cast<int>(outcome.correctedText->size())));
+    }
+    if (outcome.colorText)
+        static_cast<void>(colorWithHexString(*outcome.colorText));
+}
+
+void ColorViewController::colorWellReceivedColor(const ColorWell *sender)
+{
+    takeColor(sender->color());
+}
+
+void ColorViewController::iosButtonPressed(HoverButton *sender)
+{
+    saveTitleAndCopy(sender);
+}
+
+void ColorViewController::macButtonPressed(HoverButton *sender)
+{
+    saveTitleAndCopy(sender);
+}
+
+void ColorViewController::javaButtonPressed(HoverButton *sender)
+{
+    saveTitleAndCopy(sender);
+}
+
+void ColorViewController::cssButtonPressed(HoverButton *sender)
+{
+    saveTitleAndCopy(sender);
+}
+
+void ColorViewController::saveTitleAndCopy(HoverButton *sender)
+{
+    m_savedButtonTitle = sender->text();
+    copyCodeForButton(sender);
+}
+
+void ColorViewController::copyCodeForButton(HoverButton *button)
+{
+    resetButtons();
+    const Result<ColorCodes> codes = codesForCopying(m_ui->colorTextField->text());
+    if (!codes) {
+        showPopupWithTitle(qtTrId("COLOR_ALERT_TITLE"), qtTrId("COLOR_ALERT_MESSAGE"), m_ui->colorTextField, true);
+        return;
+    }
+    setTheColor(codes.value().color);
+    services().clipboard.setText(codes.value().list.at(button->property(tagName).toUInt()));
+    const QColor chosen = m_ui->colorTextField->textColor();
+    styleButton(button, qtTrId("COPIED"), chosen, chosen);
+    m_resetTimer.start();
+}
+
+void ColorViewController::resetButtons()
+{
+    const std::array<CodeRow, colorNotationCount> rows = codeRows();
+    for (std::size_t tag = 0; tag < rows.size(); ++tag) {
+        const CodeRow &row = rows[tag];
+        styleButton(row.button, row.buttonText, palette::color, palette::colorBorder);
+        row.button->setProperty(tagName, static_cast<uint>(tag));
+        styleLabel(row.label, latoRegular(labelFontSize), palette::chromeText);
+        row.label->setText(row.labelText);
+    }
+}
+
+void ColorViewController::dropViewReceivedColor(const QColor &color)
+{
+    takeColor(rgbaFrom(color));
+}
+
+void ColorViewController::paste()
+{
+    const QColor color = services().clipboard.color();
+    if (color.isValid()) {
+        takeColor(rgbaFrom(color));
+        return;
+    }
+    const Result<ColorCodes> codes = codesForCopying(services().clipboard.plainText().trimmed());
+    if (codes)
+        takeColor(codes.value().color);
+}
+
+bool ColorViewController::eventFilter(QObject *watched, QEvent *event)
+{
+    const bool drags = event->type() == QEvent::DragEnter || event->type() == QEvent::DragMove;
+    if (watched != m_ui->dropView || (!drags && event->type() != QEvent::Drop))
+        return ToolViewController::eventFilter(watched, event);
+    auto *drop = static_cast<QDropEvent *>(event);
+    const QMimeData &content = *drop->mimeData();
+    if (content.hasColor())
+        return false;
+    // Pictures and other files are for other tools.
+    if (!carriesColor(content)) {
+        drop->ignore();
+        return true;
+    }
+    drop->acceptProposedAction();
+    if (event->type() == QEvent::Drop)
+        takeColor(codesForCopying(content.text()).value().color);
+    return true;
+}
+
+void ColorViewController::setTheColor(const RgbaColor &color)
+{
+    m_theColor = color;
+    m_ui->colorTextField->setTextColor(color);
+    m_ui->colorWell->setColor(color);
+}
+
+void ColorViewController::takeColor(const RgbaColor &color)
+{
+    setTheColor(color);
+    m_ui->colorTextField->setText(stringFromColor(color));
+}
+
+void ColorViewController::showCodes()
+{
+    const Result<ColorCodes> codes = codesForCopying(m_ui->colorTextField->text());
+    const std::array<CodeRow, colorNotationCount> rows = codeRows();
+    for (std::size_t tag = 0; tag < rows.size(); ++tag) {
+        const QString code = codes ? codes.value().list[tag] : QString();
+        rows[tag].code->setText(code);
+        rows[tag].button->setAccessibleDescription(code);
+    }
+}
+
+} // namespace lumora

@@ -1,0 +1,251 @@
+// SPDX-License-Identifier: MIT
+#include "DeviceViewController.h"
+
+#include "DevicePlacement.h"
+#include "DeviceViews.h"
+#include "app/ButtonStyle.h"
+#include "app/LabelStyle.h"
+#include "ui_DeviceViewController.h"
+#include "widgets/Fonts.h"
+#include "widgets/Palette.h"
+#include "widgets/PopoverGeometry.h"
+
+using namespace Qt::StringLiterals;
+
+namespace lumora
+{
+
+namespace
+{
+
+constexpr int sectionFontSize = 18;
+constexpr int groupFontSize = 15;
+
+QString text(std::string_view view)
+{
+    return QString::fromUtf8(view.data(), static_cast<qsizetype>(view.size()));
+}
+
+QRect placedIn(const QWidget *container, const QRect &upwards)
+{
+    return flipped(QRectF(upwards), container->height()).toRect();
+}
+
+/// The description of a device's picture says whether it matches, for those who do not see it fade.
+void describe(DevicePicture *picture, bool matches)
+{
+    QString description = matches ? qtTrId("ACCESSIBLE_DEVICE_MATCH") : qtTrId("ACCESSIBLE_DEVICE_NO_MATCH");
+    picture->setAccessibleDescription(description.replace("[DEVICE]"_L1, picture->accessibleName()));
+}
+
+DevicePicture *addPicture(const DeviceRecord &device, const QString &group, const DevicePlacement &place,
+                          QWidget *container)
+{
+    auto *picture = new DevicePicture(NamedImage(text(device.image)), container);
+    picture->setGeometry(placedIn(container, place.picture));
+    picture->setAccessibleName(group + u' ' + text(device.model));
+    picture->setToolTip(picture->accessibleName());
+    describe(picture, device.active);
+    return picture;
+}
+
+DeviceLabel *addLabel(const DeviceRecord &device, const DevicePlacement &place, QWidget *container)
+{
+    auto *label = new DeviceLabel(text(device.model), container);
+    label->setGeometry(placedIn(container, place.label));
+    return label;
+}
+
+} // namespace
+
+DeviceViewController::DeviceViewController(const Services &services, QObject *parent)
+    : ToolViewController(services, parent), m_ui(std::make_unique<Ui::DeviceViewController>())
+{
+    m_ui->setupUi(view());
+    setUpSections();
+    setUpControls();
+    setupData();
+    setupFilterDict();
+    createiPhoneList();
+    createiPodList();
+    createiPadList();
+    createPopup();
+}
+
+DeviceViewController::~DeviceViewController() = default;
+
+void DeviceViewController::setUpSections()
+{
+    const auto section = [](QLabel *label, int fontSize, const QString &title) {
+        styleLabel(label, latoBold(fontSize), palette::devices);
+        label->setText(title);
+    };
+    section(m_ui->iOSLabel, sectionFontSize, qtTrId("DEVICES_IOS"));
+    section(m_ui->featuresLabel, sectionFontSize, qtTrId("DEVICES_FEATURES"));
+    section(m_ui->iPhoneLabel, groupFontSize, qtTrId("DEVICES_IPHONES"));
+    section(m_ui->iPodLabel, groupFontSize, qtTrId("DEVICES_IPODS"));
+    section(m_ui->iPadLabel, groupFontSize, qtTrId("DEVICES_IPADS"));
+}
+
+void DeviceViewController::setUpControls()
+{
+    styleButton(m_ui->resetButton, qtTrId("RESET"), u"button_icon_reset"_s, palette::devices, palette::devicesBorder);
+    connect(m_ui->resetButton, &IconButton::clicked, this, &DeviceViewController::reset);
+
+    using VersionAction = void (DeviceViewController::*)(RadioButton *);
+    constexpr std::array<VersionAction, iosChoices.size()> versionActions{
+        &DeviceViewController::checkbox_ios4_checked, &DeviceViewController::checkbox_ios5_checked,
+        &DeviceViewController::checkbox_ios6_checked, &DeviceViewController::checkbox_ios7_checked};
+    const auto radios = radioButtons();
+    for (std::size_t index = 0; index < radios.size(); ++index) {
+        RadioButton *radio = radios[index];
+        radio->setText(text(iosChoices[index].label));
+        connect(radio, &RadioButton::clicked, this,
+                [this, radio, action = versionActions[index]] { (this->*action)(radio); });
+    }
+
+    using FeatureAction = void (DeviceViewController::*)(CheckboxButton *);
+    constexpr std::array<FeatureAction, deviceFeatures.size()> featureActions{
+        &DeviceViewController::checkbox_retina_checked,      &DeviceViewController::checkbox_multitask_checked,
+        &DeviceViewController::checkbox_siri_checked,        &DeviceViewController::checkbox_videorec_checked,
+        &DeviceViewController::checkbox_compass_checked,     &DeviceViewController::checkbox_gyroscope_checked,
+        &DeviceViewController::checkbox_gps_checked,         &DeviceViewController::checkbox_backcam_checked,
+        &DeviceViewController::checkbox_frontcam_checked,    &DeviceViewController::checkbox_flash_checked,
+        &DeviceViewController::checkbox_bluetoothle_checked, &DeviceViewController::checkbox_opengl2_checked,
+        &DeviceViewController::checkbox_opengl3_checked};
+    const auto boxes = checkboxes();
+    for (std::size_t index = 0; index < boxes.size(); ++index) {
+        CheckboxButton *box = boxes[index];
+        box->setText(text(deviceFeatures[index].label));
+        connect(box, &CheckboxButton::clicked, this,
+                [this, box, action = featureActions[index]] { (this->*action)(box); });
+    }
+}
+
+std::array<RadioButton *, iosChoices.size()> DeviceViewController::radioButtons() const
+{
+    return {m_ui->checkbox_ios4, m_ui->checkbox_ios5, m_ui->checkbox_ios6, m_ui->checkbox_ios7};
+}
+
+std::array<CheckboxButton *, deviceFeatures.size()> DeviceViewController::checkboxes() const
+{
+    return {m_ui->checkbox_retina,   m_ui->checkbox_multitask, m_ui->checkbox_siri,        m_ui->checkbox_videorec,
+            m_ui->checkbox_compass,  m_ui->checkbox_gyroscope, m_ui->checkbox_gps,         m_ui->checkbox_backcam,
+            m_ui->checkbox_frontcam, m_ui->checkbox_flash,     m_ui->checkbox_bluetoothle, m_ui->checkbox_opengl2,
+            m_ui->checkbox_opengl3};
+}
+
+IconButton *DeviceViewController::resetButton() const
+{
+    return m_ui->resetButton;
+}
+
+void DeviceViewController::setupData()
+{
+    m_devices.iPhones = setupiPhones();
+    m_devices.iPods = setupiPods();
+    m_devices.iPads = setupiPads();
+}
+
+void DeviceViewController::setupFilterDict()
+{
+    m_filterDictionary = {};
+}
+
+void DeviceViewController::createiPhoneList()
+{
+    m_iPhoneViews = {};
+    for (std::size_t index = 0; index < m_devices.iPhones.size(); ++index) {
+        const DeviceRecord &device = m_devices.iPhones[index];
+        const DevicePlacement place = placeInRow(static_cast<int>(index));
+        m_iPhoneViews.images.push_back(addPicture(device, qtTrId("DEVICES_IPHONES"), place, m_ui->iPhoneContainer));
+        m_iPhoneViews.labels.push_back(addLabel(device, place, m_ui->iPhoneContainer));
+    }
+}
+
+void DeviceViewController::createiPodList()
+{
+    m_iPodViews = {};
+    for (std::size_t index = 0; index < m_devices.iPods.size(); ++index) {
+        const DeviceRecord &device = m_devices.iPods[index];
+        const DevicePlacement place = placeInRow(static_cast<int>(index));
+        m_iPodViews.images.push_back(addPicture(device, qtTrId("DEVICES_IPODS"), place, m_ui->iPodContainer));
+        m_iPodViews.labels.push_back(addLabel(device, place, m_ui->iPodContainer));
+    }
+}
+
+void DeviceViewController::createiPadList()
+{
+    m_iPadViews = {};
+    for (std::size_t index = 0; index < m_devices.iPads.size(); ++index) {
+        const DeviceRecord &device = m_devices.iPads[index];
+        const DevicePlacement place = placeOfiPad(device, static_cast<int>(index));
+        const QString group = isMini(device) ? qtTrId("DEVICES_IPAD_MINI") : qtTrId("DEVICES_IPADS");
+        m_iPadViews.images.push_back(addPicture(device, group, place, m_ui->iPadContainer));
+        m_iPadViews.labels.push_back(addLabel(device, place, m_ui->iPadContainer));
+    }
+}
+
+void DeviceViewController::chooseVersion(float version, RadioButton *sender)
+{
+    deselectRadioButtons();
+    sender->setActive(true);
+    m_filterDictionary.setMaxIos(version);
+    filter();
+}
+
+void DeviceViewController::toggleFeature(std::string_view key, CheckboxButton *sender)
+{
+    sender->setActive(!sender->isActive());
+    checkboxCheckForKey(key, sender);
+}
+
+void DeviceViewController::deselectRadioButtons()
+{
+    for (RadioButton *radio : radioButtons())
+        radio->setActive(false);
+}
+
+void DeviceViewController::checkboxCheckForKey(std::string_view key, const CheckboxButton *button)
+{
+    m_filterDictionary.setFeature(key, button->isActive());
+    filter();
+}
+
+void DeviceViewController::filter()
+{
+    filterDevices(m_devices, m_filterDictionary);
+    showMatches(m_devices.iPhones, m_iPhoneViews);
+    showMatches(m_devices.iPods, m_iPodViews);
+    showMatches(m_devices.iPads, m_iPadViews);
+}
+
+void DeviceViewController::showMatches(const std::vector<DeviceRecord> &devices, const GroupViews &views)
+{
+    for (std::size_t index = 0; index < devices.size(); ++index) {
+        const bool matches = devices[index].active;
+        describe(views.images[index], matches);
+        animateView(views.images[index], matches ? 1.0F : fadedAlpha);
+        animateView(views.labels[index], matches ? 1.0F : fadedAlpha);
+    }
+}
+
+void DeviceViewController::animateView(FadingView *view, float toAlphaValue)
+{
+    view->fadeTo(toAlphaValue);
+}
+
+void DeviceViewController::reset()
+{
+    deselectRadioButtons();
+    m_filterDictionary.clear();
+    for (QObject *child : view()->children()) {
+        if (auto *box = qobject_cast<CheckboxButton *>(child)) {
+            box->setActive(false);
+            box->setIdle();
+        }
+    }
+    filter();
+}
+
+} // namespace lumora

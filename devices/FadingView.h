@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QVariantAnimation>
+#include <QWidget>
+
+namespace lumora
+{
+
+/// A view that can be faded. Its opacity costs nothing but drawing it anew.
+class FadingView : public QWidget
+{
+    Q_OBJECT
+    Q_PROPERTY(float alphaValue READ alphaValue WRITE setAlphaValue)
+
+public:
+    explicit FadingView(QWidget *parent = nullptr);
+
+    /// 0 to 1.
+    float alphaValue() const { return m_alphaValue; }
+    void setAlphaValue(float alpha);
+    /// Fades to the opacity within a quarter of a second, from the one it has now, be it in the middle of a fade. Out
+    /// of sight it takes it at once.
+    void fadeTo(float alpha);
+
+private:
+    QVariantAnimation m_fade;
+    float m_alphaValue = 1.0F;
+};
+
+} // namespace lumora

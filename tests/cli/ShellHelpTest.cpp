@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: MIT
+#include "LumoraProcess.h"
+
+#include <QFile>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTest>
+
+using namespace lumora;
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+QString contentOf(const QString &path)
+{
+    QFile file(QStringLiteral(LUMORA_SOURCE_DIR "/packaging/") + path);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+/// The commands that --help lists.
+QStringList commands()
+{
+    const QString help = QString::fromUtf8(runLumora({u"--help"_s}).out);
+    QStringList names;
+    static const QRegularExpression line(u"^  ([a-z]+) {2,}"_s, QRegularExpression::MultilineOption);
+    for (const QRegularExpressionMatch &match : line.globalMatch(help.section(u"Subcommands:"_s, 1)))
+        names << match.captured(1);
+    return names;
+}
+
+QStringList optionsOf(const QString &command)
+{
+    const QString help = QString::fromUtf8(runLumora({command, u"--help"_s}).out);
+    QStringList names;
+    static const QRegularExpression option(u"^ +(?:-[a-z],)?(--[a-z-]+)"_s, QRegularExpression::MultilineOption);
+    for (const QRegularExpressionMatch &match : option.globalMatch(help))
+        names << match.captured(1);
+    return names;
+}
+
+} // namespace
+
+/// What the shells offer and the manual tells is what the program understands.
+class ShellHelpTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void namesEveryOption_data();
+    void namesEveryOption();
+    void bashOffers_data();
+    void bashOffers();
+};
+
+void ShellHelpTest::namesEveryOption_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QString>("command");
+    QVERIFY(commands().contains(u"icons"_s));
+    for (const QString &file :
+         {u"shell/lumora.bash"_s, u"shell/_lumora"_s, u"shell/lumora.fish"_s, u"man/lumora.1.in"_s}) {
+        for (const QString &command : commands())
+            QTest::addRow("%s in %s", qPrintable(command), qPrintable(file)) << file << command;
+    }
+}
+
+void ShellHelpTest::namesEveryOption()
+{
+    QFETCH(QString, file);
+    QFETCH(QString, command);
+    const QString content = contentOf(file).replace(u"\\-"_s, u"-"_s);
+    QVERIFY(content.contains(command));
+    const QStringList options = optionsOf(command);
+    QVERIFY(options.contains(u"--help"_s));
+    for (const QString &option : options) {
+        const bool fish = file.endsWith(u".fish"_s);
+        const QString named = fish ? u"-l "_s + option.mid(2) + u' ' : option;
+        QVERIFY2(content.contains(named), qPrintable(option));
+    }
+}
+
+void ShellHelpTest::bashOffers_data()
+{
+    QTest::addColumn<QStringList>("words");
+    QTest::addColumn<QString>("offers");
+    QTest::newRow("commands") << QStringList{u"ic"_s} << u"icons icon"_s;
+    QTest::newRow("options") << QStringList{u"icons"_s, u"--p"_s} << u"--platform"_s;
+    QTest::newRow("a platform") << QStringList{u"icons"_s, u"--platform"_s, u"ip"_s} << u"iphone ipad"_s;
+    QTest::newRow("a second platform") << QStringList{u"icons"_s, u"--platform"_s, u"mac,f"_s} << u"mac,favicon"_s;
+    QTest::newRow("corners") << QStringList{u"icon"_s, u"--corners"_s, u"ios"_s} << u"ios6 ios7"_s;
+    QTest::newRow("folders only") << QStringList{u"icons"_s, u"--to"_s, u"/et"_s} << u"/etc"_s;
+}
+
+void ShellHelpTest::bashOffers()
+{
+    QFETCH(QStringList, words);
+    QProcess bash;
+    // Word splitting by bash itself is not under test; the function is called as bash calls it.
+    const QString script = u"compopt() { :; }; . \"$1\"; shift; COMP_WORDS=(lumora \"$@\"); COMP_CWORD=$#; _lumora; "
+                           "echo \"${COMPREPLY[*]}\""_s;
+    bash.start(u"bash"_s, QStringList{u"-c"_s, script, u"bash"_s,
+                                      QStringLiteral(LUMORA_SOURCE_DIR "/packaging/shell/lumora.bash")} +
+                              words);
+    QVERIFY(bash.waitForFinished());
+    QTEST(QString::fromUtf8(bash.readAllStandardOutput()).trimmed(), "offers");
+}
+
+QTEST_GUILESS_MAIN(ShellHelpTest)
+#include "ShellHelpTest.moc"
