@@ -43,7 +43,9 @@ BackgroundJobs::~BackgroundJobs()
     {
         const std::lock_guard lock(m_mutex);
         m_stopRequested = true;
-        m_waiting.clear();
+        // A concurrent job counts as started even where its thread has not come to it yet.
+        if (m_order == Order::Serial)
+            m_waiting.clear();
     }
     waitForDone();
     joinFinished();

@@ -41,8 +41,8 @@ private:
 ///     });
 ///
 /// A job copies the values it needs into its closure and reaches nothing else; `this` stands in the closure for the
-/// posted functions only. Being destroyed waits for the jobs that run, so that no file is left half-written, and drops
-/// those that wait and whatever was posted and not yet run: make the BackgroundJobs the controller's last member, so
+/// posted functions only. Being destroyed waits for the jobs that were begun, so that no file is left half-written, and
+/// drops those of a serial row whose turn has not come and whatever was posted and not yet run: make the BackgroundJobs the controller's last member, so
 /// that it goes first. Made, used and destroyed on the main thread.
 class BackgroundJobs final : public QObject
 {

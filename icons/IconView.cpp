@@ -45,7 +45,8 @@ void IconView::paintEvent(QPaintEvent *)
 void IconView::noteSide()
 {
     const int side = pixelSide();
-    if (side == m_notedSide)
+    // A view that is not shown yet may still be resized many times.
+    if (!isVisible() || side == m_notedSide)
         return;
     m_notedSide = side;
     emit pixelSideChanged();

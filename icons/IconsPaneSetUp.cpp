@@ -69,7 +69,10 @@ void IconsViewController::setUpPreviews()
         styleLabel(labels[number], latoBold(13), palette::chromeText);
         labels[number]->setText(width);
         preview->setAccessibleName(qtTrId("ACCESSIBLE_ICONS_PREVIEW").replace(QStringLiteral("[SIZE]"), width));
-        connect(preview, &IconView::pixelSideChanged, this, &IconsViewController::editPreviewIcon);
+        connect(preview, &IconView::pixelSideChanged, this, [this, preview] {
+            if (preview->picture().width() != preview->pixelSide())
+                drawPreview(preview);
+        });
     }
     connect(m_ui->sourceIconView, &IconView::pixelSideChanged, this, &IconsViewController::showSource);
     m_icon = builtInIcon();

@@ -101,7 +101,12 @@ void IconsViewController::showSource()
 void IconsViewController::editPreviewIcon()
 {
     for (IconView *preview : m_previews)
-        preview->setPicture(resizeImage(m_icon, preview->pixelSide(), cornerMode()));
+        drawPreview(preview);
+}
+
+void IconsViewController::drawPreview(IconView *preview)
+{
+    preview->setPicture(resizeImage(m_icon, preview->pixelSide(), cornerMode()));
 }
 
 // The export

@@ -91,6 +91,7 @@ private:
     void acceptIcon(const QImage &icon, const QString &title);
     void refuseIcon();
     void showSource();
+    void drawPreview(IconView *preview);
     void togglePlatform(IconPlatform platform);
     CheckboxButton *checkbox(IconPlatform platform) const;
     bool isChosen(IconPlatform platform) const;

@@ -100,7 +100,18 @@ private slots:
         QVERIFY(!posted);
     }
 
-    void destructionDropsJobsThatHaveNotStarted()
+    void destructionRunsEveryConcurrentJobToItsEnd()
+    {
+        std::atomic<int> finished = 0;
+        {
+            BackgroundJobs jobs;
+            for (int number = 0; number < 8; ++number)
+                jobs.start([&](const BackgroundJob &) { ++finished; });
+        }
+        QCOMPARE(finished.load(), 8);
+    }
+
+    void destructionDropsSerialJobsWhoseTurnHasNotCome()
     {
         std::binary_semaphore started(0);
         bool secondRan = false;
