@@ -34,6 +34,11 @@ struct Object
     qsizetype bytes = 0;
 };
 
+bool isText(int kind)
+{
+    return kind >= 0x5 && kind <= 0x7;
+}
+
 class Walk
 {
 public:
@@ -47,6 +52,7 @@ private:
     std::optional<Object> object(qsizetype index) const;
     std::optional<qsizetype> lengthAt(qsizetype &at, int nibble) const;
     bool measure(qsizetype root);
+    bool holdsZero(qsizetype at, qsizetype units, qsizetype width) const;
     bool withinLimits(const Extent &extent) const;
 
     QByteArrayView m_bytes;
@@ -131,9 +137,18 @@ std::optional<Object> Walk::object(qsizetype index) const
         return std::nullopt;
     }
     const qsizetype units = result.references > 0 ? result.references : *length;
-    if (at > m_bytes.size() || units > (m_bytes.size() - at) / width)
+    if (at > m_bytes.size() || units > (m_bytes.size() - at) / width || (isText(kind) && holdsZero(at, units, width)))
         return std::nullopt;
     return result;
+}
+
+bool Walk::holdsZero(qsizetype at, qsizetype units, qsizetype width) const
+{
+    for (qsizetype i = 0; i < units; ++i) {
+        if (m_bytes[at + i * width] == 0 && m_bytes[at + (i + 1) * width - 1] == 0)
+            return true;
+    }
+    return false;
 }
 
 bool Walk::withinLimits(const Extent &extent) const

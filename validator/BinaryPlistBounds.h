@@ -15,9 +15,10 @@ struct PropertyListLimits
     qsizetype depth = 200;              ///< of arrays and dictionaries in one another
 };
 
-/// True when the binary property list unfolds within the limits. Its objects refer to one another, so that a few bytes
-/// can stand for a list of any size or depth, or for one without end; libplist unfolds them without asking. Broken
-/// references and sizes make the answer false.
+/// True when libplist can be trusted with the binary property list: it unfolds within the limits. Its objects refer to
+/// one another, so that a few bytes can stand for a list of any size or depth, or for one without end; libplist unfolds
+/// them without asking. Broken references and sizes make the answer false, and so do texts with a zero in them, at
+/// which libplist ends the program when they are keys.
 bool binaryPlistIsBounded(QByteArrayView bytes, const PropertyListLimits &limits);
 
 } // namespace lumora

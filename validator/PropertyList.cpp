@@ -2,6 +2,7 @@
 #include "PropertyList.h"
 
 #include <QDateTime>
+#include <QRegularExpression>
 #include <QStringDecoder>
 
 #include <plist/plist.h>
@@ -123,6 +124,13 @@ QByteArray asUtf8(const QByteArray &bytes)
     return text.toUtf8();
 }
 
+/// A zero, plain or as a character reference. libplist ends the program at one in a key.
+bool holdsZero(const QByteArray &xml)
+{
+    static const QRegularExpression reference(QStringLiteral("&#[xX]?0*;"));
+    return xml.contains('\0') || reference.match(QString::fromLatin1(xml)).hasMatch();
+}
+
 /// XML cannot refer back, so its tags bound what it unfolds to.
 bool xmlIsBounded(const QByteArray &xml, const PropertyListLimits &limits)
 {
@@ -144,7 +152,7 @@ std::optional<QVariantMap> propertyListDictionary(const QByteArray &bytes, const
             return std::nullopt;
     } else {
         list = asUtf8(bytes);
-        if (!xmlIsBounded(list, limits))
+        if (!xmlIsBounded(list, limits) || holdsZero(list))
             return std::nullopt;
     }
     plist_t parsed = nullptr;

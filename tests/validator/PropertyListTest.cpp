@@ -44,11 +44,31 @@ private slots:
     void refuses_data()
     {
         QTest::addColumn<QString>("fault");
-        for (const char *fault :
-             {"xml without its end", "an array", "a text", "nothing", "noise", "binary mark only", "binary cut off",
-              "refers to itself", "refers in a circle", "refers to what is not there", "more objects than bytes",
-              "table beyond the file", "text beyond the file", "unfolds without end", "one long text many times",
-              "deep", "deep xml", "endless xml", "too long"})
+        for (const char *fault : {"xml without its end",
+                                  "an array",
+                                  "a text",
+                                  "nothing",
+                                  "noise",
+                                  "binary mark only",
+                                  "binary cut off",
+                                  "refers to itself",
+                                  "refers in a circle",
+                                  "refers to what is not there",
+                                  "more objects than bytes",
+                                  "table beyond the file",
+                                  "text beyond the file",
+                                  "unfolds without end",
+                                  "one long text many times",
+                                  "deep",
+                                  "deep xml",
+                                  "endless xml",
+                                  "too long",
+                                  "zero in a binary key",
+                                  "zero in a binary utf-16 key",
+                                  "zero in an xml key",
+                                  "zero referred to in an xml key",
+                                  "zero referred to in hexadecimal",
+                                  "number as a binary key"})
             QTest::newRow(fault) << QString::fromUtf8(fault);
     }
     void refuses()

@@ -64,6 +64,12 @@ def main():
         "deep xml": b"<plist><dict><key>k</key>" + b"<array>" * 100_000 + b"</array>" * 100_000 + b"</dict></plist>",
         "endless xml": b"<plist><dict>" + b"<key>k</key><true/>" * 150_000 + b"</dict></plist>",
         "too long": b"<plist><dict><key>k</key><string>" + b"x" * (4 << 20) + b"</string></dict></plist>",
+        "zero in a binary key": binary([dictionary(1, 2), b"\x53a\0b", NULL]),
+        "zero in a binary utf-16 key": binary([dictionary(1, 2), b"\x62\0a\0\0", NULL]),
+        "zero in an xml key": b"<plist><dict><key>a\0b</key><true/></dict></plist>",
+        "zero referred to in an xml key": b"<plist><dict><key>a&#0;b</key><true/></dict></plist>",
+        "zero referred to in hexadecimal": b"<plist><dict><key>a&#x00;b</key><true/></dict></plist>",
+        "number as a binary key": binary([dictionary(1, 2), b"\x10\1", NULL]),
         "entities": b'<!DOCTYPE plist [<!ENTITY e "eeee">]><plist><dict><key>text</key><string>&e;</string></dict></plist>',
     }
     for name, data in lists.items():
