@@ -7,10 +7,10 @@ instead and run against this machine's libraries, its dependencies only resolved
 """
 import os
 import shutil
+import signal
 import subprocess
 import sys
 import tempfile
-import time
 import unittest
 from pathlib import Path
 
@@ -174,6 +174,29 @@ class FreshRoot(unittest.TestCase):
             made = run("convert", "-size", "1024x1024", "plasma:red-blue", source)
             self.assertEqual(made.returncode, 0, made.stdout)
             self.lumora("icon", self.work(source.name), "--size", "16", "--to", self.work("."))
+
+    def test_3_the_window_opens(self):
+        """The X server is this machine's; a server listens on a socket without a place in the file system too."""
+        server = subprocess.Popen(
+            ["Xvfb", "-displayfd", "1", "-screen", "0", "1280x900x24", "-ac"], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL,
+            text=True,
+        )
+        display = f":{server.stdout.readline().strip()}"
+        window = subprocess.Popen(
+            self.root.command("lumora", self.work("dropped.png"), display=display),
+            stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True, start_new_session=True,
+        )
+        try:
+            seen = run("timeout", "60", "xdotool", "search", "--sync", "--onlyvisible", "--class", "lumora",
+                       env=os.environ | {"DISPLAY": display})
+            self.assertEqual(seen.returncode, 0, window.communicate(timeout=5)[0] if window.poll() is not None else "")
+            name = run("xdotool", "getwindowname", seen.stdout.split()[0], env=os.environ | {"DISPLAY": display})
+            self.assertIn("Lumora", name.stdout)
+        finally:
+            os.killpg(window.pid, signal.SIGTERM)
+            window.communicate(timeout=20)
+            server.terminate()
+            server.communicate(timeout=20)
 
     @unittest.skipUnless(AS_ROOT, "nothing was installed")
     def test_9_removal_leaves_no_trace(self):
