@@ -20,6 +20,16 @@ float wheelComponent(float hue, float shift, float saturation)
     return 1.0F - saturation * chroma;
 }
 
+/// The fraction of the byte that a component is meant to be, where it misses one only by single precision's error.
+/// Bytes are cut from components, so that a hair less would be a whole byte less.
+float withoutError(float component)
+{
+    constexpr float error = 0.001F;
+    const float scaled = component * 255.0F;
+    const float byte = std::round(scaled);
+    return std::abs(scaled - byte) < error ? byte / 255.0F : component;
+}
+
 float turnFraction(float hue)
 {
     const float fraction = hue - std::floor(hue);
@@ -33,8 +43,9 @@ RgbaColor rgbaFrom(const HsbColor &color, float alpha)
     const float hue = turnFraction(color.hue);
     const float saturation = std::clamp(color.saturation, 0.0F, 1.0F);
     const float brightness = std::clamp(color.brightness, 0.0F, 1.0F);
-    return {brightness * wheelComponent(hue, 5.0F, saturation), brightness * wheelComponent(hue, 3.0F, saturation),
-            brightness * wheelComponent(hue, 1.0F, saturation), alpha};
+    return {withoutError(brightness * wheelComponent(hue, 5.0F, saturation)),
+            withoutError(brightness * wheelComponent(hue, 3.0F, saturation)),
+            withoutError(brightness * wheelComponent(hue, 1.0F, saturation)), alpha};
 }
 
 HsbColor hsbFrom(const RgbaColor &color, const HsbColor &fallback)

@@ -85,6 +85,12 @@ ChannelRow::ChannelRow(ColorChannel channel, PickerModel *model, QWidget *parent
     showPicked();
 }
 
+ChannelRow::~ChannelRow()
+{
+    // A number that goes while it has the focus reports what was being typed.
+    m_number->disconnect(this);
+}
+
 QString ChannelRow::name(ColorChannel channel)
 {
     switch (channel) {

@@ -21,6 +21,7 @@ class ChannelRow final : public QWidget
 public:
     /// The model has to outlive the row.
     ChannelRow(ColorChannel channel, PickerModel *model, QWidget *parent = nullptr);
+    ~ChannelRow() override;
 
     ColorChannel channel() const { return m_channel; }
     ColorSlider *slider() const { return m_slider; }

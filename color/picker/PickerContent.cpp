@@ -70,7 +70,11 @@ PickerContent::PickerContent(PickerModel *model, QWidget *parent)
     codeFinished();
 }
 
-PickerContent::~PickerContent() = default;
+PickerContent::~PickerContent()
+{
+    // A field that goes while it has the focus says that editing is finished.
+    m_code->disconnect(this);
+}
 
 QLayout *PickerContent::makeCodeRow()
 {
