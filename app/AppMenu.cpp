@@ -114,7 +114,7 @@ void AppMenu::toolChanged()
     const ToolViewController *controller = m_delegate.currentController();
     const bool takesFiles = controller != nullptr && controller->takesFiles();
     m_open->setEnabled(takesFiles);
-    m_paste->setEnabled(takesFiles);
+    m_paste->setEnabled(controller != nullptr && controller->takesClipboard());
     const qint32 index = m_delegate.sideBar()->selectedIndex();
     if (index >= 0)
         m_tools.at(index)->setChecked(true);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ToolTable.h"
 
+#include "color/ColorViewController.h"
+#include "devices/DeviceViewController.h"
 #include "icons/IconsViewController.h"
 #include "widgets/Palette.h"
 
@@ -27,6 +29,10 @@ std::span<const Tool> toolTable()
     static const Tool tools[] = {
         {"icons", "icon_icons", "APP_ICONS", "HELP_ICONS", "HELP_ICONS_TEXT", "help_icon_icons", palette::icons,
          palette::iconsBorder, &make<IconsViewController>, "png", &openIcon},
+        {"color", "icon_colors", "APP_COLOR", "HELP_COLOR", "HELP_COLOR_TEXT", "help_icon_color", palette::color,
+         palette::colorBorder, &make<ColorViewController>},
+        {"devices", "icon_devices", "APP_DEVICES", "HELP_DEVICES", "HELP_DEVICES_TEXT", "help_icon_devices",
+         palette::devices, palette::devicesBorder, &make<DeviceViewController>},
     };
     return tools;
 }

@@ -42,7 +42,9 @@ public:
     virtual bool takesFiles() const { return false; }
     /// Lets the user choose what the tool works on, as the tool's own browse button does.
     virtual void browseButtonPressed() {}
-    /// Takes the files or the picture on the clipboard, as if they were dropped on the tool.
+    /// Whether what is on the clipboard can be of use to the tool.
+    virtual bool takesClipboard() const { return takesFiles(); }
+    /// Takes what is on the clipboard (files, a picture, a colour), as if it were dropped on the tool.
     virtual void paste() {}
 
 protected:

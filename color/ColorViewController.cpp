@@ -11,6 +11,7 @@
 #include "widgets/Palette.h"
 
 #include <QDropEvent>
+#include <QKeyEvent>
 #include <QMimeData>
 
 #include <algorithm>
@@ -61,6 +62,7 @@ void ColorViewController::setUpField()
     field->setAccessibleName(qtTrId("ACCESSIBLE_COLOR_FIELD"));
     // A dropped text is the pane's; a file's name would only be typed into the field.
     field->setAcceptDrops(false);
+    field->installEventFilter(this);
     connect(field, &QLineEdit::textEdited, this, [this] { controlTextDidChange(m_ui->colorTextField); });
     connect(field, &QLineEdit::textChanged, this, &ColorViewController::showCodes);
     m_ui->colorWell->setAccessibleName(qtTrId("ACCESSIBLE_COLOR_WELL"));
@@ -237,14 +239,22 @@ void ColorViewController::paste()
 
 bool ColorViewController::eventFilter(QObject *watched, QEvent *event)
 {
-    const bool drags = event->type() == QEvent::DragEnter || event->type() == QEvent::DragMove;
-    if (watched != m_ui->dropView || (!drags && event->type() != QEvent::Drop))
-        return ToolViewController::eventFilter(watched, event);
+    if (watched == m_ui->dropView && filterDrag(event))
+        return true;
+    if (watched == m_ui->colorTextField && filterKey(event))
+        return true;
+    return ToolViewController::eventFilter(watched, event);
+}
+
+bool ColorViewController::filterDrag(QEvent *event)
+{
+    if (event->type() != QEvent::DragEnter && event->type() != QEvent::DragMove && event->type() != QEvent::Drop)
+        return false;
     auto *drop = static_cast<QDropEvent *>(event);
     const QMimeData &content = *drop->mimeData();
+    // The view takes a colour itself; pictures and other files are for other tools.
     if (content.hasColor())
         return false;
-    // Pictures and other files are for other tools.
     if (!carriesColor(content)) {
         drop->ignore();
         return true;
@@ -252,6 +262,16 @@ bool ColorViewController::eventFilter(QObject *watched, QEvent *event)
     drop->acceptProposedAction();
     if (event->type() == QEvent::Drop)
         takeColor(codesForCopying(content.text()).value().color);
+    return true;
+}
+
+bool ColorViewController::filterKey(QEvent *event)
+{
+    // The field pastes texts, and would make nothing of a copied colour.
+    if (event->type() != QEvent::KeyPress || !static_cast<QKeyEvent *>(event)->matches(QKeySequence::Paste) ||
+        !services().clipboard.color().isValid())
+        return false;
+    paste();
     return true;
 }
 

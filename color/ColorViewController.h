@@ -69,6 +69,7 @@ public:
     void resetButtons();
 
     void dropViewReceivedColor(const QColor &color) override;
+    bool takesClipboard() const override { return true; }
     /// Takes a copied colour, or a copied text that is one.
     void paste() override;
 
@@ -87,6 +88,8 @@ private:
     };
     std::array<CodeRow, colorNotationCount> codeRows() const;
 
+    bool filterDrag(QEvent *event);
+    bool filterKey(QEvent *event);
     void setUpField();
     void setUpRows();
     void saveTitleAndCopy(HoverButton *sender);

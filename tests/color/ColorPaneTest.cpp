@@ -312,6 +312,15 @@ private slots:
         QTEST(field()->text(), "shown");
     }
 
+    void pastesACopiedColorIntoTheFieldToo()
+    {
+        QVERIFY(m_controller->takesClipboard());
+        field()->setFocus();
+        clipboard().copiedColor = QColor(1, 2, 3);
+        QTest::keySequence(field(), QKeySequence::Paste);
+        QCOMPARE(field()->text(), u"#010203"_s);
+    }
+
     void everyControlHasAName()
     {
         QVERIFY(!field()->accessibleName().isEmpty());
