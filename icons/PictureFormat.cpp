@@ -37,7 +37,7 @@ bool isWholeJpeg(const QByteArray &bytes)
 
 template <typename Number> Number littleEndianAt(const QByteArray &bytes, qsizetype offset)
 {
-    return qFromLittleEndian<Number>(bytes.constData() + offset);
+    return qFromLittleEndian<Number>(bytes.cbegin() + offset);
 }
 
 bool isWholeBmp(const QByteArray &bytes)
@@ -45,7 +45,7 @@ bool isWholeBmp(const QByteArray &bytes)
     constexpr qsizetype headerBytes = 54;
     constexpr quint32 plainRows = 0;
     constexpr quint32 maskedRows = 3;
-    if (bytes.size() < headerBytes)
+    if (bytes.isNull() || bytes.size() < headerBytes)
         return false;
     const auto infoBytes = littleEndianAt<quint32>(bytes, 14);
     const auto compression = littleEndianAt<quint32>(bytes, 30);
