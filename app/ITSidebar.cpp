@@ -2,6 +2,7 @@
 #include "ITSidebar.h"
 
 #include "ITSidebarItemCell.h"
+#include "SidebarAccessible.h"
 #include "SidebarMatrix.h"
 #include "widgets/Palette.h"
 
@@ -25,6 +26,7 @@ constexpr qreal focusRingRadius = 8;
 
 ITSidebar::ITSidebar(QWidget *parent) : QWidget(parent)
 {
+    installSidebarAccessible();
     setFocusPolicy(Qt::StrongFocus);
     initialise();
 }

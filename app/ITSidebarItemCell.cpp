@@ -20,8 +20,6 @@ constexpr qreal selectionLineWidth = 2;
 ITSidebarItemCell::ITSidebarItemCell(QWidget *parent) : QAbstractButton(parent)
 {
     setCheckable(true);
-    // One of several: that is what a screen reader tells of it. Which one is on is the grid's business alone.
-    setAutoExclusive(false);
     setFocusPolicy(Qt::NoFocus);
     setAttribute(Qt::WA_Hover);
 }

@@ -88,7 +88,7 @@ int runWindow(int argc, char **argv)
         return 0;
 
     loadResources();
-    installTexts(*qApp, QLocale());
+    installTexts(*qApp, QLocale::system());
     QApplication::setApplicationDisplayName(qtTrId("APP_DEFAULT"));
     QApplication::setWindowIcon(NamedImage(QStringLiteral("app_icon")).icon());
     applyAppColors();

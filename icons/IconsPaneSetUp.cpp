@@ -38,6 +38,10 @@ void IconsViewController::setUpAppearance()
     styleButton(m_ui->codeSnippetCopyButton, qtTrId("COPY"), QStringLiteral("button_icon_copy"), palette::icons,
                 palette::iconsBorder);
 
+    // Two buttons of one name are told apart by the panels they stand on.
+    m_ui->generateIconsButton->setAccessibleDescription(qtTrId("ICONS_PLATFORMS_TITLE"));
+    m_ui->generateCustomButton->setAccessibleDescription(qtTrId("ICONS_CUSTOM_SETTINGS"));
+
     m_ui->iPhoneCheckbox->setText(qtTrId("ICONS_IPHONE"));
     m_ui->iPadCheckbox->setText(qtTrId("ICONS_IPAD"));
     m_ui->macCheckbox->setText(qtTrId("ICONS_MAC"));

@@ -1,0 +1,314 @@
+# SPDX-License-Identifier: MIT
+"""A desktop of its own for one test: X server, window manager, session bus, accessibility bus, and Lumora on it.
+
+    with Desktop(program) as desktop:
+        lumora = desktop.start("picture.png")
+        lumora.button("Generate").press()
+
+Everything is driven from outside: controls are found by role and name in the accessibility tree, the mouse and the
+keyboard are the X server's. Each walk starts its own desktop, so that walks may run side by side. Needs Debian's
+python3-pyatspi; run with /usr/bin/python3.
+"""
+
+import os
+import random
+import shutil
+import signal
+import subprocess
+import tempfile
+import time
+from pathlib import Path
+
+WAIT = float(os.environ.get("LUMORA_E2E_WAIT", "60"))
+
+
+class Missing(AssertionError):
+    """Something that should have come did not come in time."""
+
+
+def wait_for(what, condition, seconds=WAIT):
+    """Answers the first true answer of the condition; raises Missing after the time."""
+    end = time.monotonic() + seconds
+    while True:
+        answer = condition()
+        if answer:
+            return answer
+        if time.monotonic() > end:
+            raise Missing(f"waited {seconds:.0f} s in vain for {what}")
+        time.sleep(0.05)
+
+
+class Desktop:
+    """Owns every process of the desktop; leaving the `with` block ends them all."""
+
+    def __init__(self, program, drag_source=None, size="1600x1200", scale=1, language="en_GB.UTF-8"):
+        self.program = Path(program)
+        self.drag_source = drag_source
+        self.size, self.scale, self.language = size, scale, language
+        self.folder = Path(tempfile.mkdtemp(prefix="lumora-e2e-"))
+        self.processes = []
+        self.source = None
+        self.environment = {}
+
+    def __enter__(self):
+        try:
+            self._begin()
+        except BaseException:
+            self.__exit__()
+            raise
+        return self
+
+    def __exit__(self, *_):
+        for process in reversed(self.processes):
+            if process.poll() is None:
+                process.terminate()
+                try:
+                    process.wait(10)
+                except subprocess.TimeoutExpired:
+                    process.kill()
+                    process.wait()
+        shutil.rmtree(self.folder, ignore_errors=True)
+
+    def _begin(self):
+        home, runtime = self.folder / "home", self.folder / "runtime"
+        (home / "Documents").mkdir(parents=True)
+        runtime.mkdir(mode=0o700)
+        self.environment = {
+            "PATH": os.environ["PATH"],
+            "HOME": str(home),
+            "XDG_RUNTIME_DIR": str(runtime),
+            "XDG_CONFIG_HOME": str(home / ".config"),
+            "LC_ALL": "C.UTF-8",
+            "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
+            "QT_SCALE_FACTOR": str(self.scale),
+            "NO_AT_BRIDGE": "1",
+        }
+        self.environment["DISPLAY"] = self._start_x()
+        self.environment["DBUS_SESSION_BUS_ADDRESS"] = self._start_bus()
+        self.run("openbox", "--sm-disable")
+        self.run("/usr/libexec/at-spi-bus-launcher", "--launch-immediately")
+        # What this process asks the accessibility bus comes from its own environment.
+        os.environ.update(self.environment)
+
+    def _start_x(self):
+        # Several desktops may be on their way up at once; whoever asks for a number that is taken tries another.
+        for _ in range(20):
+            number = random.randint(200, 30000)
+            read, write = os.pipe()
+            server = self.run("Xvfb", f":{number}", "-displayfd", str(write), "-screen", "0", f"{self.size}x24",
+                              "-nolisten", "tcp", pass_fds=[write])
+            os.close(write)
+            with os.fdopen(read) as answer:
+                if answer.readline().strip() == str(number):
+                    return f":{number}"
+            server.wait()
+        raise Missing("no X server came up: " + self.log())
+
+    def _start_bus(self):
+        address = f"unix:path={self.folder}/runtime/bus"
+        self.run("dbus-daemon", "--session", "--nofork", f"--address={address}")
+        wait_for("the session bus", (self.folder / "runtime/bus").exists)
+        return address
+
+    def run(self, *command, pass_fds=(), **variables):
+        """Starts a process of the desktop, with further environment variables."""
+        with open(self.folder / "log", "a", encoding="utf-8") as log:
+            process = subprocess.Popen(command, env=self.environment | variables, stdout=log, stderr=log,
+                                       pass_fds=pass_fds)
+        self.processes.append(process)
+        return process
+
+    def log(self):
+        """All that the processes of the desktop wrote."""
+        return (self.folder / "log").read_text("utf-8")
+
+    def start(self, *arguments):
+        """Starts Lumora and waits for its window."""
+        return Lumora(self, self._run_program(*arguments))
+
+    def start_again(self, *arguments):
+        """Starts it a second time and answers its exit status once it has ended."""
+        return self._run_program(*arguments).wait(WAIT)
+
+    def _run_program(self, *arguments):
+        # Its language alone: the locale itself may not be installed.
+        return self.run(str(self.program), *arguments, LC_ALL=self.language)
+
+    # The mouse and the keyboard
+
+    def xdotool(self, *arguments):
+        return subprocess.run(["xdotool", *map(str, arguments)], env=self.environment, check=True,
+                              capture_output=True, text=True).stdout.strip()
+
+    def key(self, *keys):
+        self.xdotool("key", "--clearmodifiers", *keys)
+
+    def type(self, text):
+        self.xdotool("type", "--delay", 20, text)
+
+    def click(self, x, y):
+        self.xdotool("mousemove", x, y, "click", 1)
+
+    def drag_files(self, files, to, actions="copy,move,link", before_drop=None):
+        """Drags the files out of another process's window and drops them at the point. `before_drop` is called while
+        the pointer rests there."""
+        if self.source:
+            self.source.terminate()
+            self.source.wait(WAIT)
+        self.source = source = self.run(str(self.drag_source), actions, *map(str, files))
+        window = wait_for("the drag's source", lambda: self._window_of(source))
+        self.xdotool("windowmove", "--sync", window, 1400, 20)
+        start = (1450, 80)
+        self.xdotool("mousemove", *start, "mousedown", 1)
+        # The drag begins only once the pointer has travelled, and every window on the way has to hear of it.
+        steps = 16
+        for step in range(1, steps + 1):
+            self.xdotool("mousemove", *(start[axis] + (to[axis] - start[axis]) * step // steps for axis in (0, 1)))
+            time.sleep(0.05)
+        time.sleep(0.5)
+        if before_drop:
+            before_drop()
+        self.xdotool("mouseup", 1)
+
+    def _window_of(self, process):
+        found = subprocess.run(["xdotool", "search", "--onlyvisible", "--pid", str(process.pid)],
+                               env=self.environment, capture_output=True, text=True)
+        return found.stdout.split()[0] if found.stdout.split() else None
+
+    def screenshot(self, path, geometry=None):
+        """Of the whole screen, or of the part WIDTHxHEIGHT+X+Y."""
+        crop = ["-crop", geometry, "+repage"] if geometry else []
+        subprocess.run(["import", "-window", "root", *crop, str(path)], env=self.environment, check=True)
+
+
+class Control:
+    """One node of the accessibility tree."""
+
+    def __init__(self, node, desktop):
+        self.node, self.desktop = node, desktop
+
+    @property
+    def name(self):
+        return self.node.name
+
+    @property
+    def text(self):
+        text = self.node.queryText()
+        return text.getText(0, text.characterCount)
+
+    @property
+    def role(self):
+        return self.node.getRoleName()
+
+    @property
+    def box(self):
+        """x, y, width, height on the screen, in pixels."""
+        import pyatspi
+
+        box = self.node.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
+        return box.x, box.y, box.width, box.height
+
+    @property
+    def middle(self):
+        x, y, width, height = self.box
+        return x + width // 2, y + height // 2
+
+    def has_state(self, name):
+        import pyatspi
+
+        return self.node.getState().contains(getattr(pyatspi, "STATE_" + name.upper()))
+
+    def press(self):
+        """By the accessibility interface, as a screen reader presses."""
+        action = self.node.queryAction()
+        names = [action.getName(index).lower() for index in range(action.nActions)]
+        for wanted in ("press", "toggle", "click"):
+            if wanted in names:
+                action.doAction(names.index(wanted))
+                return
+        raise Missing(f"{self.name} offers {names}, nothing to press")
+
+    def click(self):
+        """With the mouse."""
+        self.desktop.click(*self.middle)
+
+    def focus(self):
+        self.node.queryComponent().grabFocus()
+
+
+class Lumora:
+    """The running program."""
+
+    def __init__(self, desktop, process):
+        self.desktop, self.process = desktop, process
+        self.node = wait_for("Lumora in the accessibility tree", self._find_application)
+        self.window = wait_for("Lumora's window", lambda: desktop._window_of(process))
+
+    def _find_application(self):
+        import pyatspi
+
+        if self.process.poll() is not None:
+            raise Missing("Lumora ended: " + self.desktop.log())
+        for application in pyatspi.Registry.getDesktop(0):
+            if application is not None and application.get_process_id() == self.process.pid:
+                return application if application.childCount else None
+        return None
+
+    def _walk(self, node):
+        try:
+            children = [node.getChildAtIndex(index) for index in range(node.childCount)]
+        except Exception:  # a node that went away while it was looked at
+            return
+        for child in children:
+            if child is None:
+                continue
+            yield child
+            yield from self._walk(child)
+
+    def controls(self, role=None, name=None, showing=True):
+        """Every control of the role and the name, or of any."""
+        found = []
+        for node in self._walk(self.node):
+            try:
+                control = Control(node, self.desktop)
+                if (role is None or control.role == role) and (name is None or control.name == name):
+                    if not showing or control.has_state("showing"):
+                        found.append(control)
+            except Exception:  # as above
+                continue
+        return found
+
+    def find(self, role, name, seconds=WAIT):
+        """Waits for a control to show."""
+        return wait_for(f'the {role} "{name}"', lambda: next(iter(self.controls(role, name)), None), seconds)
+
+    def button(self, name, index=0):
+        return wait_for(f'the button "{name}"', lambda: (self.controls("push button", name) + [None] * 9)[index])
+
+    def shows(self, name):
+        """Whether anything of that name shows right now."""
+        return bool(self.controls(None, name))
+
+    def wait_shown(self, name):
+        wait_for(f'"{name}" to show', lambda: self.shows(name))
+
+    def wait_gone(self, name):
+        wait_for(f'"{name}" to go', lambda: not self.shows(name))
+
+    def choose_in_dialog(self, path):
+        """Types a path into the file or folder dialog that is open and confirms."""
+        field = wait_for("the file dialog", lambda: next(iter(self.controls("text", None)[::-1]), None)
+                         if self.controls("dialog") or self.controls("file chooser") else None)
+        field.focus()
+        self.desktop.key("ctrl+a")
+        self.desktop.type(str(path))
+        self.desktop.key("Return")
+
+    def close(self):
+        """Closes the window as its user would and answers the exit status."""
+        self.desktop.key("ctrl+q")
+        return self.process.wait(WAIT)
+
+    def terminate(self, number=signal.SIGTERM):
+        self.process.send_signal(number)
+        return self.process.wait(WAIT)

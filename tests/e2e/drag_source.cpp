@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+// A window out of which files are dragged: drag_source copy,move,link FILE...  Tells when the drag has ended, and as
+// what; stays on to hand out its data, which the receiver fetches after that.
+#include <QApplication>
+#include <QDrag>
+#include <QMimeData>
+#include <QMouseEvent>
+#include <QTextStream>
+#include <QUrl>
+#include <QWidget>
+
+namespace
+{
+
+Qt::DropActions actionsNamed(const QString &names)
+{
+    Qt::DropActions actions;
+    actions.setFlag(Qt::CopyAction, names.contains(QStringLiteral("copy")));
+    actions.setFlag(Qt::MoveAction, names.contains(QStringLiteral("move")));
+    actions.setFlag(Qt::LinkAction, names.contains(QStringLiteral("link")));
+    return actions;
+}
+
+class Source final : public QWidget
+{
+public:
+    Source(Qt::DropActions actions, QList<QUrl> files) : m_actions(actions), m_files(std::move(files))
+    {
+        resize(120, 120);
+    }
+
+protected:
+    void mouseMoveEvent(QMouseEvent *) override
+    {
+        auto *drag = new QDrag(this);
+        auto *content = new QMimeData;
+        content->setUrls(m_files);
+        drag->setMimeData(content);
+        const Qt::DropAction chosen = drag->exec(m_actions, Qt::CopyAction);
+        QTextStream(stdout) << "dropped as " << static_cast<int>(chosen) << Qt::endl;
+    }
+
+private:
+    Qt::DropActions m_actions;
+    QList<QUrl> m_files;
+};
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const QApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.size() < 3)
+        return 2;
+    QList<QUrl> files;
+    for (const QString &file : arguments.sliced(2))
+        files << QUrl::fromLocalFile(file);
+    Source source(actionsNamed(arguments.at(1)), files);
+    source.show();
+    return QApplication::exec();
+}

@@ -1,0 +1,62 @@
+# SPDX-License-Identifier: MIT
+"""Start, switch tools, open and close the popups, start a second time, end."""
+
+import subprocess
+import sys
+
+from desktop import Desktop, wait_for
+
+
+def main(program):
+    with Desktop(program) as desktop:
+        lumora = desktop.start()
+        lumora.wait_shown("Lumora | Icons")
+
+        # Every tool that the sidebar offers, by mouse and by key.
+        sidebar = lumora.controls("page tab")
+        assert sidebar, "the sidebar offers no tool"
+        titles = set()
+        for number, tool in enumerate(sidebar, start=1):
+            tool.click()
+            wait_for(f"{tool.name} to be selected", lambda tool=tool: tool.has_state("selected"))
+            titles.add(next(c.name for c in lumora.controls("label") if c.name.startswith("Lumora | ")))
+            sidebar[0].press()
+            desktop.key(f"ctrl+{number}")
+            wait_for(f"{tool.name} by its key", lambda tool=tool: tool.has_state("selected"))
+        assert len(titles) == len(sidebar), titles
+        desktop.key("ctrl+1")
+        lumora.wait_shown("Lumora | Icons")
+
+        # Help and about: a second click hides, one closes the other, a tool switch closes both.
+        help_button, about_button = lumora.button("Help on this tool"), lumora.button("About Lumora")
+        help_button.click()
+        lumora.wait_shown("Report a bug")
+        help_button.click()
+        lumora.wait_gone("Report a bug")
+        desktop.key("F1")
+        lumora.wait_shown("Report a bug")
+        about_button.click()
+        lumora.wait_shown("KESTREL interactive")
+        lumora.wait_gone("Report a bug")
+        desktop.key("Escape")
+        lumora.wait_gone("KESTREL interactive")
+
+        # A second start talks to the first and ends.
+        assert desktop.start_again() == 0
+        assert desktop.start_again("--tool=icons") == 0
+        lumora.wait_shown("Lumora | Icons")
+        assert lumora.close() == 0
+
+        # The end of the session closes it as cleanly.
+        assert desktop.start().terminate() == 0
+
+        # Without a display: one line, and no window.
+        without = dict(desktop.environment)
+        del without["DISPLAY"]
+        ended = subprocess.run([program], env=without, capture_output=True, text=True)
+        assert ended.returncode == 1, ended
+        assert ended.stderr.count("\n") == 1 and "icons" in ended.stderr, ended.stderr
+
+
+if __name__ == "__main__":
+    main(sys.argv[1])
