@@ -77,8 +77,9 @@ private:
     void leave();
 
     QString m_text;
-    PressAnimation m_press{this};
+    /// Before the animation, which becomes a child of the button and thereby sends it its first event.
     KeyboardFocus m_keyboardFocus;
+    PressAnimation m_press{this};
     QAccessible::Role m_role;
     bool m_hovered = false;
 };
