@@ -897,6 +897,14 @@
     <source>The file name must end in .ipa, in lower case. Please choose an iOS app package.</source>
     <translation>Der Dateiname muss auf .ipa enden, kleingeschrieben. Bitte ein iOS-App-Paket auswählen.</translation>
   </message>
+  <message id="VALIDATER_STOPPED_TITLE">
+    <source>Package not read to its end</source>
+    <translation>Paket nicht zu Ende gelesen</translation>
+  </message>
+  <message id="VALIDATER_STOPPED_MESSAGE">
+    <source>It would unpack to more than 8 GB or 500,000 files, or the disk has too little room. What was read until then is shown.</source>
+    <translation>Es würde ausgepackt mehr als 8 GB oder 500.000 Dateien belegen, oder die Platte hat zu wenig Platz. Gezeigt wird, was bis dahin gelesen wurde.</translation>
+  </message>
 
   <!-- App package check: facts; the value follows its label directly, so a label ends in a blank -->
   <message id="VALIDATER_APP_NAME">

@@ -895,6 +895,14 @@
     <source>The file name must end in .ipa, in lower case. Please choose an iOS app package.</source>
     <translation>The file name must end in .ipa, in lower case. Please choose an iOS app package.</translation>
   </message>
+  <message id="VALIDATER_STOPPED_TITLE">
+    <source>Package not read to its end</source>
+    <translation>Package not read to its end</translation>
+  </message>
+  <message id="VALIDATER_STOPPED_MESSAGE">
+    <source>It would unpack to more than 8 GB or 500,000 files, or the disk has too little room. What was read until then is shown.</source>
+    <translation>It would unpack to more than 8 GB or 500,000 files, or the disk has too little room. What was read until then is shown.</translation>
+  </message>
 
   <!-- App package check: facts; the value follows its label directly, so a label ends in a blank -->
   <message id="VALIDATER_APP_NAME">

@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: MIT
+#include "ValidatePopupContentView.h"
+
+#include "app/ButtonStyle.h"
+#include "app/LabelStyle.h"
+#include "ui_ValidatePopupContentView.h"
+#include "widgets/Fonts.h"
+#include "widgets/Palette.h"
+
+#include <QScrollBar>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace lumora
+{
+
+ValidatePopupContentView::ValidatePopupContentView(QWidget *parent)
+    : QWidget(parent), m_ui(std::make_unique<Ui::ValidatePopupContentView>())
+{
+    m_ui->setupUi(this);
+    setAccessibleName(qtTrId("ACCESSIBLE_MESSAGE"));
+    styleLabel(m_ui->titleLabel, latoBold(15), palette::chromeText);
+    styleLabel(m_ui->messageLabel, latoRegular(13), palette::chromeText);
+    m_ui->scrollArea->viewport()->setAutoFillBackground(false);
+    m_ui->messageLabel->setAutoFillBackground(false);
+    styleButton(m_ui->closeButton, qtTrId("CLOSE"), u"button_icon_close"_s, palette::errorLight, palette::errorDark);
+    connect(m_ui->closeButton, &IconButton::clicked, this, &ValidatePopupContentView::closeButtonPressed);
+}
+
+ValidatePopupContentView::~ValidatePopupContentView() = default;
+
+QLabel *ValidatePopupContentView::titleLabel() const
+{
+    return m_ui->titleLabel;
+}
+
+QLabel *ValidatePopupContentView::messageLabel() const
+{
+    return m_ui->messageLabel;
+}
+
+QScrollArea *ValidatePopupContentView::scrollArea() const
+{
+    return m_ui->scrollArea;
+}
+
+IconButton *ValidatePopupContentView::closeButton() const
+{
+    return m_ui->closeButton;
+}
+
+void ValidatePopupContentView::setTitle(const QString &title, const QString &andMessage)
+{
+    m_ui->titleLabel->setText(title);
+    m_ui->messageLabel->setText(andMessage);
+}
+
+void ValidatePopupContentView::setLightColor(const QColor &lightColor, const QColor &andDarkColor)
+{
+    m_ui->closeButton->setNormalColor(lightColor);
+    m_ui->closeButton->setHoverColor(andDarkColor);
+    m_ui->closeButton->setActiveColor(andDarkColor);
+}
+
+void ValidatePopupContentView::fitToText()
+{
+    const QMargins margins = m_ui->layout->contentsMargins();
+    const int titleWidth = width() - margins.left() - margins.right();
+    // Room for the scroll bar is kept free, so that a text that needs it wraps as one that does not.
+    const int messageWidth = titleWidth - m_ui->scrollArea->verticalScrollBar()->sizeHint().width();
+    m_ui->messageLabel->setFixedWidth(messageWidth);
+    const int message = m_ui->messageLabel->heightForWidth(messageWidth);
+    const int around = margins.top() + m_ui->titleLabel->heightForWidth(titleWidth) + 2 * m_ui->layout->spacing() +
+                       m_ui->closeButton->minimumHeight() + margins.bottom();
+    resize(width(), std::min(around + message, largestHeight));
+    m_ui->scrollArea->verticalScrollBar()->setValue(0);
+}
+
+} // namespace lumora

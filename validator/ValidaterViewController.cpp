@@ -1,0 +1,337 @@
+// SPDX-License-Identifier: MIT
+#include "ValidaterViewController.h"
+
+#include "PrintableText.h"
+#include "ValidatePopupContentView.h"
+#include "app/ButtonStyle.h"
+#include "app/DropHighlight.h"
+#include "app/LabelStyle.h"
+#include "app/PopoverStyle.h"
+#include "foundation/Log.h"
+#include "ui_ValidaterViewController.h"
+#include "widgets/Fonts.h"
+#include "widgets/Palette.h"
+#include "widgets/SFBPopover.h"
+
+#include <QFileInfo>
+#include <QTimer>
+
+using namespace Qt::StringLiterals;
+
+namespace lumora
+{
+
+namespace
+{
+
+constexpr int titleSize = 25;
+constexpr int readingSize = 18;
+constexpr int informationSize = 13;
+/// What a box of absent things is drawn at in all; being disabled is part of it.
+constexpr double absentOpacity = 0.25;
+/// A fact is one line; what a hostile package puts in its place may be megabytes.
+constexpr qsizetype longestShownFact = 120;
+
+QString shownFact(const QString &value)
+{
+    const QString line = printableText(value);
+    return line.size() > longestShownFact ? line.first(longestShownFact) + u'…' : line;
+}
+
+/// The key's text with its placeholder filled, once per missing size.
+QStringList sentences(const char *key, QLatin1StringView placeholder, const QList<QSize> &sizes)
+{
+    QStringList list;
+    for (const QSize size : sizes)
+        list += qtTrId(key).replace(placeholder, sizeText(size));
+    return list;
+}
+
+QList<QSize> squares(const QList<int> &edges)
+{
+    QList<QSize> sizes;
+    for (const int edge : edges)
+        sizes += QSize(edge, edge);
+    return sizes;
+}
+
+} // namespace
+
+ValidaterViewController::ValidaterViewController(const Services &services, QObject *parent)
+    : ToolViewController(services, parent), m_ui(std::make_unique<Ui::ValidaterViewController>()),
+      m_profileDecoder(systemProfileDecoder())
+{
+    m_ui->setupUi(view());
+    auto folder = WorkFolder::make();
+    if (folder)
+        m_workFolder = std::move(folder.value());
+    else
+        logLine(u"CreateError: "_s + folder.failure().detail);
+    awakeFromNib();
+    connectActions();
+    setOpacity(m_ui->validateInterface, 0);
+    reset();
+    createPopup();
+    createValidatePopup();
+}
+
+ValidaterViewController::~ValidaterViewController()
+{
+    // A reading that runs ends at its next block; m_jobs waits for it.
+    m_stop.request_stop();
+    m_ui->dropView->setDelegate(nullptr);
+}
+
+void ValidaterViewController::awakeFromNib()
+{
+    m_ui->dropView->setDelegate(this);
+    m_ui->dropView->setAccessibleName(qtTrId("ACCESSIBLE_VALIDATER_DROP"));
+    new DropHighlight(m_ui->dropView, palette::validatorBorder);
+    styleLabel(m_ui->informationText, latoRegular(informationSize), palette::chromeText);
+    m_ui->informationText->setText(qtTrId("VALIDATER_BROWSE_INFO"));
+    styleButton(m_ui->browseButton, qtTrId("BROWSE"), palette::chromeText, palette::chromeTextDark);
+
+    styleLabel(m_ui->validatingTitle, latoBold(titleSize), palette::chromeText);
+    m_ui->validatingTitle->setText(qtTrId("VALIDATER_VALIDATING"));
+    styleButton(m_ui->resetButton, qtTrId("CLOSE"), u"button_icon_close"_s, palette::chromeText,
+                palette::chromeTextDark);
+    styleLabel(m_ui->readingLoaderField, latoRegular(readingSize), palette::chromeText);
+    for (QLabel *field : {m_ui->appNameField, m_ui->appVersionField, m_ui->appPlatformField, m_ui->appMinOSField,
+                          m_ui->appBundleIDField, m_ui->appBuildField}) {
+        styleLabel(field, latoRegular(fontSize), palette::chromeText);
+        field->setWordWrap(true);
+    }
+    m_ui->appIconField->setAccessibleName(qtTrId("ACCESSIBLE_VALIDATER_APP_ICON"));
+
+    m_ui->validAppIconsBox->setText(qtTrId("VALIDATER_VALIDAT_ICONS"));
+    m_ui->validDefaultImagesBox->setText(qtTrId("VALIDATER_VALIDATE_DEFAULTS"));
+    m_ui->validBundleIdentifier->setText(qtTrId("VALIDATER_VALIDATE_BUNDLE_ID"));
+    m_ui->validReleaseBuild->setText(qtTrId("VALIDATER_VALIDATE_RELEASE"));
+    m_ui->validLocalizationsBox->setText(qtTrId("VALIDATER_APP_LOCALIZATIONS"));
+    m_ui->validURLSchemesBox->setText(qtTrId("VALIDATER_APP_URL_SCHEMES"));
+    m_ui->validFacebookAppIDBox->setText(qtTrId("VALIDATER_APP_FACEBOOK_ID"));
+}
+
+void ValidaterViewController::connectActions()
+{
+    using Self = ValidaterViewController;
+    connect(m_ui->browseButton, &HoverButton::clicked, this, &Self::browseButtonPressed);
+    connect(m_ui->resetButton, &IconButton::clicked, this, &Self::resetButtonPressed);
+    connect(m_ui->validAppIconsBox, &CheckboxButton::clicked, this, &Self::checkboxAppIconsPressed);
+    connect(m_ui->validDefaultImagesBox, &CheckboxButton::clicked, this, &Self::checkboxDefaultsPressed);
+    connect(m_ui->validBundleIdentifier, &CheckboxButton::clicked, this, &Self::checkboxBundleIdentifierPressed);
+    connect(m_ui->validReleaseBuild, &CheckboxButton::clicked, this, &Self::checkboxReleaseBuildPressed);
+    connect(m_ui->validLocalizationsBox, &CheckboxButton::clicked, this, &Self::checkboxLocalizationsPressed);
+    connect(m_ui->validURLSchemesBox, &CheckboxButton::clicked, this, &Self::checkboxURLSchemesPressed);
+    connect(m_ui->validFacebookAppIDBox, &CheckboxButton::clicked, this, &Self::checkboxFacebookAppIDPressed);
+}
+
+void ValidaterViewController::createValidatePopup()
+{
+    m_validatePopupContentView = new ValidatePopupContentView;
+    m_validatePopup = std::make_unique<SFBPopover>(m_validatePopupContentView);
+    stylePopover(*m_validatePopup);
+    connect(m_validatePopupContentView, &ValidatePopupContentView::closeButtonPressed, m_validatePopup.get(),
+            [this] { m_validatePopup->closePopover(); });
+}
+
+QList<QWidget *> ValidaterViewController::factViews() const
+{
+    return {m_ui->appNameField,  m_ui->appVersionField,  m_ui->appPlatformField,
+            m_ui->appMinOSField, m_ui->appBundleIDField, m_ui->appBuildField};
+}
+
+QList<CheckboxButton *> ValidaterViewController::boxes() const
+{
+    return {m_ui->validAppIconsBox,     m_ui->validDefaultImagesBox, m_ui->validBundleIdentifier,
+            m_ui->validReleaseBuild,    m_ui->validLocalizationsBox, m_ui->validURLSchemesBox,
+            m_ui->validFacebookAppIDBox};
+}
+
+void ValidaterViewController::dropIpaFileFromDelegate(const QString &path)
+{
+    dropViewReceivedFiles({path});
+}
+
+void ValidaterViewController::dropViewReceivedFiles(const QStringList &files)
+{
+    if (files.size() >= 2) {
+        showAlertWithTitle(qtTrId("VALIDATER_ONE_FILE_TITLE"), qtTrId("VALIDATER_ONE_FILE_MESSAGE"),
+                           m_ui->informationText);
+    } else if (files.isEmpty() || !isPackageName(files.first())) {
+        showAlertWithTitle(qtTrId("VALIDATER_IPA_TITLE"), qtTrId("VALIDATER_IPA_MESSAGE"), m_ui->informationText);
+    } else {
+        foundIpaFile(QFileInfo(files.first()).absoluteFilePath());
+    }
+}
+
+void ValidaterViewController::browseButtonPressed()
+{
+    openBrowsePanel();
+}
+
+void ValidaterViewController::openBrowsePanel()
+{
+    const FileRequest request{qtTrId("RESIZER_BROWSE_PANEL"), m_browsePath, {u"*.ipa"_s}, false};
+    services().fileChooser.chooseFiles(view()->window(), request, [this](const QStringList &paths) {
+        QTimer::singleShot(browseDelay, this, [this, paths] { dropViewReceivedFiles(paths); });
+    });
+}
+
+void ValidaterViewController::paste()
+{
+    const QStringList files = services().clipboard.files();
+    if (!files.isEmpty())
+        dropViewReceivedFiles(files);
+}
+
+void ValidaterViewController::foundIpaFile(const QString &path)
+{
+    // A package that the system hands over while another is read or shown takes its place.
+    m_stop.request_stop();
+    m_stop = std::stop_source();
+    reset();
+    m_facts.ipaPath = path;
+    readyForIpa();
+    m_ui->readingLoaderField->setText(
+        qtTrId("VALIDATER_READING").replace("[FILE]"_L1, shownFact(QFileInfo(path).fileName())));
+    if (!m_workFolder) {
+        updateInterface(m_facts, Failure{FailureCode::CannotCreateFolder, path, {}});
+        validate({});
+        return;
+    }
+    const InspectionSite site{m_workFolder->path(), *m_profileDecoder, {}, m_stop.get_token()};
+    const quint64 reading = ++m_reading;
+    m_jobs.start([this, path, site, reading](const BackgroundJob &job) { unzipApp(job, path, site, this, reading); });
+}
+
+void ValidaterViewController::unzipApp(const BackgroundJob &job, const QString &path, const InspectionSite &site,
+                                       ValidaterViewController *controller, quint64 reading)
+{
+    const Extraction extraction = extractPackage(path, site);
+    if (!site.stop.stop_requested()) {
+        const PackageFacts facts = readBundle(path, site);
+        job.post([controller, reading, facts, stopped = extraction.failure] {
+            if (controller->m_reading == reading)
+                controller->updateInterface(facts, stopped);
+        });
+        const ArtworkReport artwork = checkArtwork(facts, site);
+        job.post([controller, reading, artwork] {
+            if (controller->m_reading == reading)
+                controller->validate(artwork);
+        });
+    }
+    removePayload(site);
+}
+
+void ValidaterViewController::readyForIpa()
+{
+    setOpacity(m_ui->dropView, 0);
+    setOpacity(m_ui->validateInterface, 1);
+    setOpacity(m_ui->readingLoaderField, 1);
+    for (CheckboxButton *box : boxes()) {
+        box->setEnabled(true);
+        box->setActive(false);
+    }
+    m_ui->browseButton->setEnabled(false);
+}
+
+void ValidaterViewController::resetButtonPressed()
+{
+    reset();
+}
+
+void ValidaterViewController::reset()
+{
+    ++m_reading;
+    m_fade.finish();
+    for (SFBPopover *popover : {popupView(), m_validatePopup.get()}) {
+        if (popover != nullptr && popover->isVisible())
+            popover->closePopover();
+    }
+    m_facts = PackageFacts();
+    m_ui->appIconField->clear();
+    for (QWidget *field : factViews())
+        setOpacity(field, 0);
+    for (CheckboxButton *box : boxes()) {
+        setOpacity(box, 0);
+        box->setEnabled(false);
+        box->setActive(false);
+        box->setIdle();
+    }
+    for (QWidget *hidden : {static_cast<QWidget *>(m_ui->appIconField), static_cast<QWidget *>(m_ui->validatingTitle),
+                            static_cast<QWidget *>(m_ui->resetButton), static_cast<QWidget *>(m_ui->readingLoaderField),
+                            m_ui->validateInterface})
+        setOpacity(hidden, 0);
+    m_ui->readingLoaderField->clear();
+    m_ui->browseButton->setEnabled(true);
+    setOpacity(m_ui->dropView, 1);
+}
+
+AttributedString ValidaterViewController::createAttributedTextFromString(const QString &string, const QFont &withFont,
+                                                                         const QString &forString)
+{
+    AttributedString text(string);
+    text.setFontOfFirst(forString, withFont);
+    return text;
+}
+
+void ValidaterViewController::showFact(QLabel *field, const char *labelKey, const QString &value)
+{
+    const QString label = qtTrId(labelKey);
+    const QString line = label + shownFact(value);
+    field->setTextFormat(Qt::RichText);
+    field->setText(createAttributedTextFromString(line, latoBold(fontSize), label).toHtml());
+    field->setAccessibleName(line);
+}
+
+void ValidaterViewController::updateInterface(const PackageFacts &facts, const std::optional<Failure> &stopped)
+{
+    m_facts = facts;
+    showFact(m_ui->appNameField, "VALIDATER_APP_NAME", facts.appName());
+    showFact(m_ui->appVersionField, "VALIDATER_APP_VERSION", facts.appVersion());
+    showFact(m_ui->appPlatformField, "VALIDATER_APP_PLATFORM", facts.appPlatform());
+    showFact(m_ui->appMinOSField, "VALIDATER_APP_MINIMUM_OS", facts.appMinimumOSVersion());
+    showFact(m_ui->appBundleIDField, "VALIDATER_APP_BUNDLE_ID", facts.appBundleIdentifier());
+    showFact(m_ui->appBuildField, "VALIDATER_BUILD",
+             buildKind(facts) == BuildKind::Debug ? qtTrId("VALID_BUILD_DEBUG") : qtTrId("VALID_BUILD_RELEASE"));
+    m_fade.fade(factViews() << m_ui->appIconField << m_ui->validatingTitle << m_ui->resetButton
+                            << m_ui->validLocalizationsBox,
+                1);
+    m_fade.fade({m_ui->readingLoaderField}, 0);
+    // A package that cannot be read shows up as empty. One that was too much for this machine needs a word.
+    if (stopped && stopped->code != FailureCode::NotAnArchive && stopped->code != FailureCode::NotFound)
+        showValidatePopupWithTitle(qtTrId("VALIDATER_STOPPED_TITLE"), qtTrId("VALIDATER_STOPPED_MESSAGE"),
+                                   m_ui->validatingTitle, true);
+}
+
+void ValidaterViewController::validate(const ArtworkReport &artwork)
+{
+    m_invalidAppIconsArray = sentences("VALIDATE_ICONS_TEXT", "[ICON]"_L1, squares(artwork.findings.missingIcons));
+    m_invalidDefaultsArray = sentences("VALIDATE_DEFAULTS_TEXT", "[DEFAULT]"_L1, artwork.findings.missingLaunchImages);
+    m_ui->appIconField->setPixmap(QPixmap::fromImage(artwork.appIcon));
+
+    const MetadataVerdicts verdicts = metadataVerdicts(m_facts);
+    m_ui->validAppIconsBox->setInvalid(!m_invalidAppIconsArray.isEmpty());
+    m_ui->validDefaultImagesBox->setInvalid(!m_invalidDefaultsArray.isEmpty());
+    m_ui->validBundleIdentifier->setInvalid(!verdicts.bundleIdentifierValid);
+    m_ui->validLocalizationsBox->setInvalid(!verdicts.localizationsValid);
+    showPresence(m_ui->validURLSchemesBox, verdicts.urlSchemesPresent);
+    showPresence(m_ui->validFacebookAppIDBox, verdicts.facebookAppIDPresent);
+    m_fade.fade(
+        {m_ui->validAppIconsBox, m_ui->validDefaultImagesBox, m_ui->validBundleIdentifier, m_ui->validLocalizationsBox},
+        1);
+}
+
+void ValidaterViewController::showPresence(CheckboxButton *box, bool present)
+{
+    box->setInvalid(false);
+    box->setEnabled(present);
+    if (!present) {
+        box->setActive(false);
+        box->setIdle();
+    }
+    setOpacity(box, present ? 1 : absentOpacity / palette::disabledOpacity);
+}
+
+} // namespace lumora

@@ -1,0 +1,121 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "MetadataChecks.h"
+#include "OpacityFade.h"
+#include "PackageInspection.h"
+#include "WorkFolder.h"
+#include "app/AttributedString.h"
+#include "app/BackgroundJobs.h"
+#include "app/DropView.h"
+#include "app/ToolViewController.h"
+
+#include <memory>
+#include <optional>
+#include <stop_token>
+
+namespace Ui
+{
+class ValidaterViewController;
+}
+
+namespace lumora
+{
+
+class CheckboxButton;
+class ValidatePopupContentView;
+
+/// The app package validator's pane. It has two interfaces: one to drop a package on or browse for one, and one that
+/// shows what was read and seven boxes that explain their verdict when pressed.
+class ValidaterViewController final : public ToolViewController, public DropViewDelegate
+{
+    Q_OBJECT
+
+public:
+    explicit ValidaterViewController(const Services &services, QObject *parent = nullptr);
+    ~ValidaterViewController() override;
+
+    const Ui::ValidaterViewController &outlets() const { return *m_ui; }
+    SFBPopover *validatePopup() const { return m_validatePopup.get(); }
+    ValidatePopupContentView *validatePopupContentView() const { return m_validatePopupContentView; }
+
+    /// Of the package being validated.
+    QString ipaPath() const { return m_facts.ipaPath; }
+    const PackageFacts &facts() const { return m_facts; }
+    /// One sentence per missing icon size, and per required launch image where there is none.
+    const QStringList &invalidAppIconsArray() const { return m_invalidAppIconsArray; }
+    const QStringList &invalidDefaultsArray() const { return m_invalidDefaultsArray; }
+
+    /// The folder in which the browse panel opens, empty for the user's own.
+    QString browsePath() const { return m_browsePath; }
+    void setBrowsePath(const QString &path) { m_browsePath = path; }
+
+    /// Size of the facts' fonts.
+    static constexpr int fontSize = 15;
+    /// Between the browse panel's confirmation and the reading, so that the sheet is gone by then; milliseconds.
+    static constexpr int browseDelay = 1000;
+
+    /// Takes the one path as if it had been dropped.
+    void dropIpaFileFromDelegate(const QString &path);
+    void dropViewReceivedFiles(const QStringList &files) override;
+    bool takesFiles() const override { return true; }
+    void browseButtonPressed() override;
+    void paste() override;
+
+    /// The whole text, with the font on the first occurrence of the sub-text.
+    static AttributedString createAttributedTextFromString(const QString &string, const QFont &withFont,
+                                                           const QString &forString);
+
+    /// As the shared popup, in the pane's own, whose message may be of any length.
+    void showValidatePopupWithTitle(const QString &title, const QString &message, QWidget *fromView, bool isError);
+    void showAlertWithTitle(const QString &title, const QString &andMessage, QWidget *fromView);
+
+public slots:
+    void resetButtonPressed();
+    void checkboxAppIconsPressed();
+    void checkboxDefaultsPressed();
+    void checkboxBundleIdentifierPressed();
+    void checkboxReleaseBuildPressed();
+    void checkboxLocalizationsPressed();
+    void checkboxURLSchemesPressed();
+    void checkboxFacebookAppIDPressed();
+
+private:
+    void awakeFromNib();
+    void connectActions();
+    void createValidatePopup();
+    QList<QWidget *> factViews() const;
+    QList<CheckboxButton *> boxes() const;
+
+    void openBrowsePanel();
+    void foundIpaFile(const QString &path);
+    void readyForIpa();
+    void reset();
+    /// Runs the whole inspection; on the background queue.
+    static void unzipApp(const BackgroundJob &job, const QString &path, const InspectionSite &site,
+                         ValidaterViewController *controller, quint64 reading);
+
+    void updateInterface(const PackageFacts &facts, const std::optional<Failure> &stopped);
+    void validate(const ArtworkReport &artwork);
+    void showFact(QLabel *field, const char *labelKey, const QString &value);
+    void showPresence(CheckboxButton *box, bool present);
+    void explain(CheckboxButton *box, const char *invalidTitleKey, const char *invalidTextKey,
+                 const char *validTextKey);
+
+    std::unique_ptr<Ui::ValidaterViewController> m_ui;
+    std::unique_ptr<ProfileDecoder> m_profileDecoder;
+    std::unique_ptr<WorkFolder> m_workFolder; ///< null where none could be made
+    std::unique_ptr<SFBPopover> m_validatePopup;
+    ValidatePopupContentView *m_validatePopupContentView = nullptr; ///< owned by the popover
+    OpacityFade m_fade;
+    QString m_browsePath;
+    PackageFacts m_facts;
+    QStringList m_invalidAppIconsArray;
+    QStringList m_invalidDefaultsArray;
+    /// Counts the packages; what a reading that was overtaken still posts is dropped.
+    quint64 m_reading = 0;
+    std::stop_source m_stop;
+    BackgroundJobs m_jobs{BackgroundJobs::Order::Serial}; ///< last, so that it goes first
+};
+
+} // namespace lumora
