@@ -4,6 +4,7 @@
 #include "color/ColorViewController.h"
 #include "devices/DeviceViewController.h"
 #include "icons/IconsViewController.h"
+#include "validator/ValidaterViewController.h"
 #include "widgets/Palette.h"
 
 namespace lumora
@@ -22,6 +23,11 @@ void openIcon(ToolViewController &controller, const QString &path)
     static_cast<IconsViewController &>(controller).setIconFromDelegate(path);
 }
 
+void openPackage(ToolViewController &controller, const QString &path)
+{
+    static_cast<ValidaterViewController &>(controller).dropIpaFileFromDelegate(path);
+}
+
 } // namespace
 
 std::span<const Tool> toolTable()
@@ -33,6 +39,9 @@ std::span<const Tool> toolTable()
          palette::colorBorder, &make<ColorViewController>},
         {"devices", "icon_devices", "APP_DEVICES", "HELP_DEVICES", "HELP_DEVICES_TEXT", "help_icon_devices",
          palette::devices, palette::devicesBorder, &make<DeviceViewController>},
+        {"validator", "icon_validater_active", "APP_VALIDATER", "HELP_VALIDATER", "HELP_VALIDATER_TEXT",
+         "help_icon_validater", palette::validator, palette::validatorBorder, &make<ValidaterViewController>, "ipa",
+         &openPackage},
     };
     return tools;
 }

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""usage: make_package.py FILE.ipa [ICONS]   An app package of 100 MB in 2,000 files, ICONS of them candidate icons."""
+"""usage: make_package.py FILE.ipa [NAME]   An app package of 100 MB in 2,000 files, 200 of them pictures called NAME000.png and so on."""
 
 import plistlib
 import random
@@ -11,6 +11,7 @@ import zlib
 
 FILES = 2000
 BYTES = 100 << 20
+PICTURES = 200
 
 
 def chunk(name, data):
@@ -36,7 +37,7 @@ def content(generator, size):
 
 
 def main():
-    icons = int(sys.argv[2]) if len(sys.argv) > 2 else 0
+    name = sys.argv[2] if len(sys.argv) > 2 else "picture"
     generator = random.Random(1)
     app = "Payload/Bench.app/"
     with zipfile.ZipFile(sys.argv[1], "w", zipfile.ZIP_DEFLATED) as archive:
@@ -44,10 +45,10 @@ def main():
             {"CFBundleDisplayName": "Bench", "CFBundleIdentifier": "com.example.bench", "CFBundleVersion": "1",
              "MinimumOSVersion": "7.0", "UIDeviceFamily": [1, 2]}, fmt=plistlib.FMT_BINARY))
         picture = apple_icon(144)
-        for number in range(icons):
-            archive.writestr(f"{app}icon{number:03}.png", picture)
-        for number in range(FILES - 1 - icons):
-            archive.writestr(f"{app}part{number % 40:02}/file{number:04}.dat", content(generator, BYTES // FILES))
+        for number in range(PICTURES):
+            archive.writestr(f"{app}{name}{number:03}.png", picture)
+        for number in range(FILES - 1 - PICTURES):
+            archive.writestr(f"{app}part{number % 40:02}/file{number:04}.dat", content(generator, BYTES // (FILES - 1 - PICTURES)))
 
 
 if __name__ == "__main__":

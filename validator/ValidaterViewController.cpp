@@ -268,10 +268,10 @@ void ValidaterViewController::reset()
     setOpacity(m_ui->dropView, 1);
 }
 
-AttributedString ValidaterViewController::createAttributedTextFromString(const QString &string, const QFont &withFont,
-                                                                         const QString &forString)
+StyledText ValidaterViewController::createAttributedTextFromString(const QString &string, const QFont &withFont,
+                                                                   const QString &forString)
 {
-    AttributedString text(string);
+    StyledText text(string);
     text.setFontOfFirst(forString, withFont);
     return text;
 }

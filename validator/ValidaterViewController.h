@@ -5,9 +5,9 @@
 #include "OpacityFade.h"
 #include "PackageInspection.h"
 #include "WorkFolder.h"
-#include "app/AttributedString.h"
 #include "app/BackgroundJobs.h"
 #include "app/DropView.h"
+#include "app/StyledText.h"
 #include "app/ToolViewController.h"
 
 #include <memory>
@@ -63,8 +63,8 @@ public:
     void paste() override;
 
     /// The whole text, with the font on the first occurrence of the sub-text.
-    static AttributedString createAttributedTextFromString(const QString &string, const QFont &withFont,
-                                                           const QString &forString);
+    static StyledText createAttributedTextFromString(const QString &string, const QFont &withFont,
+                                                     const QString &forString);
 
     /// As the shared popup, in the pane's own, whose message may be of any length.
     void showValidatePopupWithTitle(const QString &title, const QString &message, QWidget *fromView, bool isError);

@@ -1,0 +1,376 @@
+// SPDX-License-Identifier: MIT
+#include "ScriptedFiles.h"
+#include "app/PopoverAlert.h"
+#include "app/services/RecordingServices.h"
+#include "resources/Resources.h"
+#include "ui_ValidaterViewController.h"
+#include "validator/ValidatePopupContentView.h"
+#include "validator/ValidaterViewController.h"
+#include "widgets/Fonts.h"
+#include "widgets/Palette.h"
+#include "widgets/SFBPopover.h"
+
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace lumora;
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+/// The pane in a window, with services that record.
+class Pane
+{
+public:
+    Pane()
+    {
+        window.resize(900, 660);
+        tool.view()->setParent(&window);
+        tool.view()->setGeometry(65, 65, 835, 595);
+        tool.popupView()->setAnimates(false);
+        tool.validatePopup()->setAnimates(false);
+        window.show();
+    }
+    ~Pane()
+    {
+        if (PopoverAlert::currentAlert() != nullptr)
+            PopoverAlert::currentAlert()->stopSynchronousPopoverAlert(PopoverAlert::currentAlert()->buttons().first());
+    }
+
+    const Ui::ValidaterViewController &ui() const { return tool.outlets(); }
+    bool hasFacts() const
+    {
+        return opacity(ui().validAppIconsBox) == 1 && opacity(ui().appNameField) == 1 &&
+               opacity(ui().readingLoaderField) == 0;
+    }
+    QString explanation() const { return tool.validatePopupContentView()->messageLabel()->text(); }
+
+    RecordingServices services;
+    QWidget window;
+    ValidaterViewController tool{services.services()};
+};
+
+constexpr int readingTime = 20'000; // generous: the machine may be busy with other tests
+
+} // namespace
+
+class ValidaterPaneTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        loadResources();
+        installTexts(*qApp, QLocale(u"en_GB"_s));
+        qputenv("TMPDIR", QFile::encodeName(m_work.path()));
+        QVERIFY(runScript(u"make_packages.py"_s, {m_packages.path()}));
+    }
+
+    void beginsWithTheDropInterface()
+    {
+        const Pane pane;
+        QCOMPARE(opacity(pane.ui().dropView), 1.0);
+        QCOMPARE(opacity(pane.ui().validateInterface), 0.0);
+        QVERIFY(pane.ui().browseButton->isEnabled());
+        QVERIFY(!pane.ui().validAppIconsBox->isEnabled());
+        QCOMPARE(pane.ui().informationText->text(), qtTrId("VALIDATER_BROWSE_INFO"));
+    }
+
+    void refusesWithAnAlert_data()
+    {
+        QTest::addColumn<QStringList>("files");
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<QString>("message");
+        QTest::newRow("two packages") << QStringList{u"/a.ipa"_s, u"/b.ipa"_s} << u"VALIDATER_ONE_FILE_TITLE"_s
+                                      << u"VALIDATER_ONE_FILE_MESSAGE"_s;
+        QTest::newRow("upper-case extension")
+            << QStringList{u"/App.IPA"_s} << u"VALIDATER_IPA_TITLE"_s << u"VALIDATER_IPA_MESSAGE"_s;
+        QTest::newRow("a zip") << QStringList{u"/App.zip"_s} << u"VALIDATER_IPA_TITLE"_s << u"VALIDATER_IPA_MESSAGE"_s;
+        QTest::newRow("nothing") << QStringList{} << u"VALIDATER_IPA_TITLE"_s << u"VALIDATER_IPA_MESSAGE"_s;
+    }
+    void refusesWithAnAlert()
+    {
+        QFETCH(QStringList, files);
+        QFETCH(QString, title);
+        QFETCH(QString, message);
+        Pane pane;
+        pane.tool.dropViewReceivedFiles(files);
+        PopoverAlert *alert = PopoverAlert::currentAlert();
+        QVERIFY(alert != nullptr);
+        QCOMPARE(alert->messageText, qtTrId(title.toLatin1().constData()));
+        QCOMPARE(alert->informativeText, qtTrId(message.toLatin1().constData()));
+        QCOMPARE(alert->buttonTitles, QStringList{qtTrId("DISMISS")});
+        QCOMPARE(alert->icon.name(), u"help_icon_validater"_s);
+        QCOMPARE(alert->targetView(), pane.ui().informationText);
+        QCOMPARE(opacity(pane.ui().dropView), 1.0);
+    }
+
+    void browsesForOnePackage()
+    {
+        Pane pane;
+        pane.tool.setBrowsePath(u"/some/folder"_s);
+        QTest::mouseClick(pane.ui().browseButton, Qt::LeftButton);
+        QCOMPARE(pane.services.fileChooser.requests.size(), 1);
+        QCOMPARE(pane.services.fileChooser.requests.first().message, qtTrId("RESIZER_BROWSE_PANEL"));
+        QCOMPARE(pane.services.fileChooser.requests.first().startFolder, u"/some/folder"_s);
+        QVERIFY(!pane.services.fileChooser.requests.first().severalFiles);
+        pane.services.fileChooser.confirm({package(u"valid"_s)});
+        QCOMPARE(opacity(pane.ui().dropView), 1.0); // the sheet has a second to go
+        QTRY_VERIFY_WITH_TIMEOUT(pane.hasFacts(), readingTime);
+    }
+
+    void readsInTheBackground()
+    {
+        Pane pane;
+        pane.tool.dropIpaFileFromDelegate(package(u"valid"_s));
+        QCOMPARE(opacity(pane.ui().dropView), 0.0);
+        QCOMPARE(opacity(pane.ui().validateInterface), 1.0);
+        QCOMPARE(opacity(pane.ui().readingLoaderField), 1.0);
+        QCOMPARE(opacity(pane.ui().appNameField), 0.0);
+        QCOMPARE(pane.ui().readingLoaderField->text(),
+                 qtTrId("VALIDATER_READING").replace("[FILE]"_L1, "valid.ipa"_L1));
+        QVERIFY(!pane.ui().browseButton->isEnabled());
+        QVERIFY(pane.ui().validAppIconsBox->isEnabled());
+        QTRY_VERIFY_WITH_TIMEOUT(pane.hasFacts(), readingTime);
+    }
+
+    void showsFactsAndVerdicts_data()
+    {
+        QTest::addColumn<QStringList>("facts");
+        QTest::addColumn<QString>("boxes");
+        const QStringList demo{u"Demo"_s, u"1.2.3"_s, u"iPhone"_s, u"7.0"_s, u"com.example.app"_s, u"Debug"_s};
+        QTest::newRow("valid") << demo << u"icons launch identifier localizations schemes facebook"_s;
+        QTest::newRow("one icon") << demo << u"launch identifier localizations schemes facebook"_s;
+        QTest::newRow("no links") << demo << u"icons launch identifier localizations"_s;
+        QTest::newRow("no localizations") << demo << u"icons launch identifier schemes facebook"_s;
+        QTest::newRow("no list") << QStringList{{}, {}, {}, {}, {}, u"Debug"_s} << u"icons launch localizations"_s;
+        QTest::newRow("no archive") << QStringList{{}, {}, {}, {}, {}, u"Release"_s} << u"icons launch"_s;
+    }
+    void showsFactsAndVerdicts()
+    {
+        QFETCH(QStringList, facts);
+        Pane pane;
+        read(pane, QString::fromUtf8(QTest::currentDataTag()));
+        const QList<QPair<QLabel *, const char *>> fields{{pane.ui().appNameField, "VALIDATER_APP_NAME"},
+                                                          {pane.ui().appVersionField, "VALIDATER_APP_VERSION"},
+                                                          {pane.ui().appPlatformField, "VALIDATER_APP_PLATFORM"},
+                                                          {pane.ui().appMinOSField, "VALIDATER_APP_MINIMUM_OS"},
+                                                          {pane.ui().appBundleIDField, "VALIDATER_APP_BUNDLE_ID"},
+                                                          {pane.ui().appBuildField, "VALIDATER_BUILD"}};
+        for (qsizetype i = 0; i < fields.size(); ++i)
+            QCOMPARE(fields[i].first->accessibleName(), QString(qtTrId(fields[i].second) + facts[i]));
+
+        const QList<QPair<CheckboxButton *, QString>> judged{{pane.ui().validAppIconsBox, u"icons"_s},
+                                                             {pane.ui().validDefaultImagesBox, u"launch"_s},
+                                                             {pane.ui().validBundleIdentifier, u"identifier"_s},
+                                                             {pane.ui().validLocalizationsBox, u"localizations"_s}};
+        QStringList good;
+        for (const auto &[box, name] : judged) {
+            QCOMPARE(opacity(box), 1.0);
+            QCOMPARE(box->currentImage(), box->isInvalid() ? box->invalidImage() : box->activeImage());
+            if (!box->isInvalid())
+                good += name;
+        }
+        const QList<QPair<CheckboxButton *, QString>> informing{{pane.ui().validURLSchemesBox, u"schemes"_s},
+                                                                {pane.ui().validFacebookAppIDBox, u"facebook"_s}};
+        for (const auto &[box, name] : informing) {
+            QVERIFY(box->isStaticBox());
+            QVERIFY(!box->isActive());
+            QVERIFY(!box->isInvalid());
+            QCOMPARE(opacity(box), box->isEnabled() ? 1.0 : 0.5); // being disabled halves it again
+            QCOMPARE(box->currentImage(), box->isEnabled() ? box->activeImage() : box->idleImage());
+            if (box->isEnabled())
+                good += name;
+        }
+        QTEST(good.join(u' '), "boxes");
+        QCOMPARE(opacity(pane.ui().validReleaseBuild), 0.0);
+    }
+
+    void explainsEachBox_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("box");
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<QString>("message");
+        QTest::addColumn<bool>("error");
+        const auto missing = [](const char *key, const QString &placeholder, const QStringList &sizes) {
+            QString text;
+            for (const QString &size : sizes)
+                text += qtTrId(key).replace(placeholder, size) + u'\n';
+            return text;
+        };
+        const QString valid = qtTrId("VALID_TEXT");
+        const auto row = [](const char *tag, const char *package, const char *box, const QString &title,
+                            const QString &message, bool error) {
+            QTest::newRow(tag) << QString::fromUtf8(package) << QString::fromUtf8(box) << title << message << error;
+        };
+        row("missing icons", "one icon", "validAppIconsBox", qtTrId("VALIDATE_ICONS_TITLE"),
+            missing("VALIDATE_ICONS_TEXT", u"[ICON]"_s,
+                    {u"114x114"_s, u"60x60"_s, u"120x120"_s, u"29x29"_s, u"58x58"_s, u"40x40"_s, u"80x80"_s,
+                     u"512x512"_s, u"1024x1024"_s}),
+            true);
+        row("icons", "valid", "validAppIconsBox", valid, qtTrId("VALID_ICONS_TEXT"), false);
+        row("missing launch images", "no launch image", "validDefaultImagesBox", qtTrId("VALIDATE_DEFAULTS_TITLE"),
+            missing("VALIDATE_DEFAULTS_TEXT", u"[DEFAULT]"_s,
+                    {u"640x960"_s, u"960x640"_s, u"640x1136"_s, u"1136x640"_s, u"320x480"_s, u"480x320"_s}),
+            true);
+        row("launch images", "valid", "validDefaultImagesBox", valid, qtTrId("VALID_LAUNCH_TEXT"), false);
+        row("other identifier", "other identifier", "validBundleIdentifier", qtTrId("VALIDATE_BUNDLE_ID_TITLE"),
+            qtTrId("VALIDATE_BUNDLE_ID_TEXT"), true);
+        row("identifier", "valid", "validBundleIdentifier", valid, qtTrId("VALID_BUNDLE_ID_TEXT"), false);
+        row("release box", "valid", "validReleaseBuild", valid, qtTrId("VALID_RELEASE_TEXT"), false);
+        row("localizations", "valid", "validLocalizationsBox", qtTrId("VALIDATER_APP_LOCALIZATIONS"),
+            qtTrId("VALIDATE_LOCALIZATIONS_TEXT") + u"• English\n• French", false);
+        row("no localizations", "no localizations", "validLocalizationsBox", QString(), QString(), false);
+        row("URL schemes", "valid", "validURLSchemesBox", qtTrId("VALIDATER_APP_URL_SCHEMES"),
+            qtTrId("VALIDATE_URLSCHEME_TEXT") + u"• fb123://", false);
+        row("no URL schemes", "no links", "validURLSchemesBox", QString(), QString(), false);
+        row("Facebook id", "valid", "validFacebookAppIDBox", qtTrId("VALIDATER_APP_FACEBOOK_ID"),
+            qtTrId("VALIDATE_FACEBOOK_APP_ID_TEXT") + u"123", false);
+        row("no Facebook id", "no links", "validFacebookAppIDBox", QString(), QString(), false);
+    }
+    void explainsEachBox()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, box);
+        QFETCH(QString, title);
+        QFETCH(QString, message);
+        QFETCH(bool, error);
+        Pane pane;
+        read(pane, name);
+        auto *button = pane.tool.view()->findChild<CheckboxButton *>(box);
+        QVERIFY(button != nullptr);
+        setOpacity(pane.ui().validReleaseBuild, 1);
+        QTest::mouseClick(button, Qt::LeftButton);
+        const bool own = pane.tool.validatePopup()->isVisible();
+        const bool shared = pane.tool.popupView()->isVisible();
+        QCOMPARE(own || shared, !title.isEmpty());
+        QVERIFY(!(own && shared));
+        if (title.isEmpty())
+            return;
+        QCOMPARE(own ? pane.tool.validatePopupContentView()->titleLabel()->text()
+                     : pane.tool.popupContentView()->titleLabel()->text(),
+                 title);
+        QCOMPARE(own ? pane.explanation() : pane.tool.popupContentView()->messageLabel()->text(), message);
+        const SFBPopover *popover = own ? pane.tool.validatePopup() : pane.tool.popupView();
+        QCOMPARE(popover->borderColor(), error ? palette::errorLight : palette::successLight);
+        QVERIFY2(own || !error, "only the pane's own popup tells of faults");
+    }
+
+    void togglesItsPopupAndClosesTheShared()
+    {
+        Pane pane;
+        read(pane, u"one icon"_s);
+        QTest::mouseClick(pane.ui().validDefaultImagesBox, Qt::LeftButton);
+        QVERIFY(pane.tool.popupView()->isVisible());
+        QTest::mouseClick(pane.ui().validAppIconsBox, Qt::LeftButton);
+        QVERIFY(!pane.tool.popupView()->isVisible());
+        QVERIFY(pane.tool.validatePopup()->isVisible());
+        pane.tool.checkboxAppIconsPressed();
+        QVERIFY(!pane.tool.validatePopup()->isVisible());
+    }
+
+    void fitsAPopupToItsText()
+    {
+        Pane pane;
+        ValidatePopupContentView *content = pane.tool.validatePopupContentView();
+        content->setTitle(u"Title"_s, u"One line"_s);
+        content->fitToText();
+        const int small = content->height();
+        content->setTitle(u"Title"_s, u"A line\n"_s.repeated(8));
+        content->fitToText();
+        QVERIFY(content->height() > small);
+        QVERIFY(content->height() < ValidatePopupContentView::largestHeight);
+        pane.tool.showValidatePopupWithTitle(u"Title"_s, u"A line\n"_s.repeated(100), nullptr, true);
+        QCOMPARE(content->height(), ValidatePopupContentView::largestHeight);
+        QTRY_VERIFY(content->scrollArea()->verticalScrollBar()->maximum() > 0);
+    }
+
+    void fillsItsLabelsBold()
+    {
+        const StyledText text =
+            ValidaterViewController::createAttributedTextFromString(u"Name: Name: x"_s, latoBold(15), u"Name: "_s);
+        QCOMPARE(text.runs().size(), 1);
+        QCOMPARE(text.runs().first().start, 0);
+        QCOMPARE(text.runs().first().length, 6);
+        QVERIFY(ValidaterViewController::createAttributedTextFromString(u"a"_s, latoBold(15), u"b"_s).runs().isEmpty());
+    }
+
+    void showsTheAppsIcon()
+    {
+        Pane pane;
+        read(pane, u"valid"_s);
+        const QImage icon = pane.ui().appIconField->pixmap(Qt::ReturnByValue).toImage();
+        QCOMPARE(icon.size(), QSize(128, 128));
+        QCOMPARE(QColor(icon.pixel(64, 64)).name(), u"#2080c0"_s);
+    }
+
+    void goesBackToTheDropInterface()
+    {
+        Pane pane;
+        read(pane, u"one icon"_s);
+        QTest::mouseClick(pane.ui().resetButton, Qt::LeftButton);
+        QCOMPARE(opacity(pane.ui().dropView), 1.0);
+        QCOMPARE(opacity(pane.ui().validateInterface), 0.0);
+        QCOMPARE(opacity(pane.ui().appNameField), 0.0);
+        QVERIFY(pane.ui().appIconField->pixmap(Qt::ReturnByValue).isNull());
+        QVERIFY(pane.ui().readingLoaderField->text().isEmpty());
+        QVERIFY(pane.ui().browseButton->isEnabled());
+        QCOMPARE(pane.ui().validAppIconsBox->currentImage(), pane.ui().validAppIconsBox->idleImage());
+        QVERIFY(!pane.ui().validAppIconsBox->isEnabled());
+        read(pane, u"two apps"_s);
+        QVERIFY(pane.ui().appNameField->accessibleName().endsWith(u"Last"));
+    }
+
+    void showsTheLatestOfTwoPackages()
+    {
+        Pane pane;
+        pane.tool.dropIpaFileFromDelegate(package(u"valid"_s));
+        pane.tool.dropIpaFileFromDelegate(package(u"two apps"_s));
+        QTRY_VERIFY_WITH_TIMEOUT(pane.hasFacts(), readingTime);
+        QCOMPARE(pane.tool.facts().appName(), u"Last"_s);
+    }
+
+    void takesAPastedPackage()
+    {
+        Pane pane;
+        pane.services.clipboard.copiedFiles = {package(u"valid"_s)};
+        pane.tool.paste();
+        QTRY_VERIFY_WITH_TIMEOUT(pane.hasFacts(), readingTime);
+    }
+
+    void endsCleanlyInMidRead()
+    {
+        {
+            Pane pane;
+            pane.tool.dropIpaFileFromDelegate(package(u"valid"_s));
+        }
+        QVERIFY2(treeBelow(m_work.path()).isEmpty(), "the work folder goes with the pane");
+    }
+
+    void showsNothingThatCouldBeMarkup()
+    {
+        Pane pane;
+        read(pane, u"steering names"_s);
+        QVERIFY(pane.ui().appNameField->accessibleName().contains(u"<U+001B>"));
+        QVERIFY(pane.ui().appNameField->text().contains(u"&lt;U+001B&gt;"));
+    }
+
+private:
+    QString package(const QString &name) const { return m_packages.filePath(name + u".ipa"_s); }
+    void read(Pane &pane, const QString &name)
+    {
+        pane.tool.dropIpaFileFromDelegate(package(name));
+        QTRY_VERIFY_WITH_TIMEOUT(pane.hasFacts(), readingTime);
+    }
+
+    QTemporaryDir m_packages;
+    QTemporaryDir m_work;
+};
+
+QTEST_MAIN(ValidaterPaneTest)
+#include "ValidaterPaneTest.moc"
