@@ -24,7 +24,7 @@ ValidatePopupContentView::ValidatePopupContentView(QWidget *parent)
     styleLabel(m_ui->titleLabel, latoBold(15), palette::chromeText);
     styleLabel(m_ui->messageLabel, latoRegular(13), palette::chromeText);
     m_ui->scrollArea->viewport()->setAutoFillBackground(false);
-    m_ui->messageLabel->setAutoFillBackground(false);
+    m_ui->scrollContents->setAutoFillBackground(false);
     styleButton(m_ui->closeButton, qtTrId("CLOSE"), u"button_icon_close"_s, palette::errorLight, palette::errorDark);
     connect(m_ui->closeButton, &IconButton::clicked, this, &ValidatePopupContentView::closeButtonPressed);
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ValidaterViewController.h"
 
+#include "BundleImages.h"
 #include "PrintableText.h"
 #include "ValidatePopupContentView.h"
 #include "app/ButtonStyle.h"
@@ -14,6 +15,7 @@
 #include "widgets/SFBPopover.h"
 
 #include <QFileInfo>
+#include <QPainter>
 #include <QTimer>
 
 using namespace Qt::StringLiterals;
@@ -24,6 +26,7 @@ namespace lumora
 namespace
 {
 
+constexpr qreal missingIconRadius = 28;
 constexpr int titleSize = 25;
 constexpr int readingSize = 18;
 constexpr int informationSize = 13;
@@ -45,6 +48,19 @@ QStringList sentences(const char *key, QLatin1StringView placeholder, const QLis
     for (const QSize size : sizes)
         list += qtTrId(key).replace(placeholder, sizeText(size));
     return list;
+}
+
+/// Stands where the app's icon would be: the outline of one.
+QPixmap missingIcon(qreal devicePixelRatio)
+{
+    QPixmap picture(QSize(appIconSize, appIconSize) * devicePixelRatio);
+    picture.setDevicePixelRatio(devicePixelRatio);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(palette::panelOutline, 2, Qt::DashLine));
+    painter.drawRoundedRect(QRectF(1, 1, appIconSize - 2, appIconSize - 2), missingIconRadius, missingIconRadius);
+    return picture;
 }
 
 QList<QSize> squares(const QList<int> &edges)
@@ -309,7 +325,8 @@ void ValidaterViewController::validate(const ArtworkReport &artwork)
 {
     m_invalidAppIconsArray = sentences("VALIDATE_ICONS_TEXT", "[ICON]"_L1, squares(artwork.findings.missingIcons));
     m_invalidDefaultsArray = sentences("VALIDATE_DEFAULTS_TEXT", "[DEFAULT]"_L1, artwork.findings.missingLaunchImages);
-    m_ui->appIconField->setPixmap(QPixmap::fromImage(artwork.appIcon));
+    m_ui->appIconField->setPixmap(artwork.appIcon.isNull() ? missingIcon(view()->devicePixelRatioF())
+                                                           : QPixmap::fromImage(artwork.appIcon));
 
     const MetadataVerdicts verdicts = metadataVerdicts(m_facts);
     m_ui->validAppIconsBox->setInvalid(!m_invalidAppIconsArray.isEmpty());
