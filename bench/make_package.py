@@ -1,6 +1,7 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""usage: make_package.py FILE.ipa [NAME]   An app package of 100 MB in 2,000 files, 200 of them pictures called NAME000.png and so on."""
+"""usage: make_package.py FILE.ipa [NAME]   An app package of 100 MB in 2,000 files, 200 of them pictures; with NAME of the
+pictures only, called NAME000.png and so on."""
 
 import plistlib
 import random
@@ -37,7 +38,8 @@ def content(generator, size):
 
 
 def main():
-    name = sys.argv[2] if len(sys.argv) > 2 else "picture"
+    pictures_only = len(sys.argv) > 2
+    name = sys.argv[2] if pictures_only else "picture"
     generator = random.Random(1)
     app = "Payload/Bench.app/"
     with zipfile.ZipFile(sys.argv[1], "w", zipfile.ZIP_DEFLATED) as archive:
@@ -47,7 +49,7 @@ def main():
         picture = apple_icon(144)
         for number in range(PICTURES):
             archive.writestr(f"{app}{name}{number:03}.png", picture)
-        for number in range(FILES - 1 - PICTURES):
+        for number in range(0 if pictures_only else FILES - 1 - PICTURES):
             archive.writestr(f"{app}part{number % 40:02}/file{number:04}.dat", content(generator, BYTES // (FILES - 1 - PICTURES)))
 
 

@@ -3,8 +3,8 @@
 """usage: validate_packages.py PATH-TO-LUMORA [RUNS]   `lumora validate` as a whole process, against its promises:
 
 on a package of 100 MB in 2,000 files at most 1.3 times `unzip -q` of the same file, measured in turn in the same run;
-at most 20 ms more processor time where 200 of its pictures have names of icons; never more than 80 MB of memory. Times
-are the best of the runs. Exit status 1 when a promise is broken.
+at most 20 ms more processor time for 200 pictures when they have names of icons (in a package of nothing else, where the
+difference does not drown in the unpacking); never more than 80 MB of memory. Times are the best of the runs. Exit status 1 when a promise is broken.
 """
 
 import os
@@ -33,21 +33,21 @@ def main():
     program, runs = Path(sys.argv[1]).resolve(), int(sys.argv[2]) if len(sys.argv) > 2 else 7
     with tempfile.TemporaryDirectory(dir="/var/tmp") as folder:
         folder = Path(folder)
-        plain, icons = folder / "plain.ipa", folder / "icons.ipa"
-        for path, name in ((plain, "picture"), (icons, "icon")):
-            subprocess.run([sys.executable, MAKER, path, name], check=True)
+        large, plain, icons = (folder / f"{name}.ipa" for name in ("large", "plain", "icons"))
+        for arguments in ((large,), (plain, "picture"), (icons, "icon")):
+            subprocess.run([sys.executable, MAKER, *arguments], check=True)
         environment = {**os.environ, "TMPDIR": str(folder)}
         unzip, ours, plain_work, icon_work, peak = [], [], [], [], 0.0
         for _ in range(runs):
             out = folder / "unzipped"
-            unzip.append(run(["unzip", "-q", plain, "-d", out])[0])
+            unzip.append(run(["unzip", "-q", large, "-d", out])[0])
             shutil.rmtree(out)
-            for path, works in ((plain, plain_work), (icons, icon_work)):
-                seconds, work, memory = run([program, "validate", "--json", path], env=environment)
-                ours.append(seconds)
-                works.append(work)
-                peak = max(peak, memory)
-            time.sleep(0.2)
+            seconds, _, memory = run([program, "validate", "--json", large], env=environment)
+            ours.append(seconds)
+            peak = max(peak, memory)
+            for _ in range(3):
+                for path, works in ((plain, plain_work), (icons, icon_work)):
+                    works.append(run([program, "validate", "--json", path], env=environment)[1])
     ratio, extra = min(ours) / min(unzip), (min(icon_work) - min(plain_work)) * 1000
     results = (
         ("lumora validate / unzip -q", ratio, 1.3, f"{min(ours) * 1000:.0f} ms / {min(unzip) * 1000:.0f} ms = {ratio:.2f}"),
