@@ -10,7 +10,6 @@
 
 #include <QFileInfo>
 #include <QHash>
-#include <QSaveFile>
 #include <QThread>
 
 #include <condition_variable>
@@ -42,18 +41,6 @@ Result<HalvedPicture> readAndHalve(const QString &path, MemoryBudget &budget)
         return stored.failure();
     const MemoryBudget::Share share(budget, halvingMemory(stored.value()));
     return halvedPicture(bytes.value(), path);
-}
-
-/// Replaces an existing file only once the new content is whole on disk, so that a full disk costs nobody the old one.
-Outcome writeReplacing(const QString &path, const QByteArray &bytes)
-{
-    if (!QFileInfo::exists(path))
-        return writeWholeFile(path, bytes);
-    QSaveFile file(path);
-    file.setDirectWriteFallback(true);
-    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit())
-        return Done{};
-    return Failure{FailureCode::CannotWrite, path, file.errorString()};
 }
 
 /// The batch in work: workers halve pictures, the thread that called writes them in order.
@@ -132,7 +119,7 @@ private:
         if (picture) {
             file.size = picture.value().size;
             file.bytes = picture.value().png.size();
-            file.outcome = writeReplacing(file.target, picture.value().png);
+            file.outcome = writeWholeFile(file.target, picture.value().png);
         } else {
             file.outcome = picture.failure();
         }

@@ -55,11 +55,17 @@ int ExtractionFolder::reach(const QList<QByteArray> &steps)
     FileDescriptor current;
     for (const QByteArray &step : steps) {
         const int parent = current.valid() ? current.number() : m_root.number();
-        if (::mkdirat(parent, step.constData(), 0777) == 0)
+        const bool made = ::mkdirat(parent, step.constData(), 0777) == 0;
+        const int reason = errno;
+        if (made)
             ++m_foldersMade;
         FileDescriptor next(::openat(parent, step.constData(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
-        if (!next.valid())
+        if (!next.valid()) {
+            // Where the folder could not be made, that is the reason, and not that it is missing now.
+            if (!made && reason != EEXIST)
+                errno = reason;
             return -1;
+        }
         current = std::move(next);
     }
     m_last = std::move(current);
@@ -92,8 +98,12 @@ FileDescriptor ExtractionFolder::createFile(const QList<QByteArray> &steps)
     FileDescriptor file(
         ::openat(parent, steps.last().constData(), O_WRONLY | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, 0666));
     struct stat status = {};
-    if (!file.valid() || ::fstat(file.number(), &status) != 0 || !S_ISREG(status.st_mode))
+    if (!file.valid() || ::fstat(file.number(), &status) != 0)
         return {};
+    if (!S_ISREG(status.st_mode)) {
+        errno = EEXIST;
+        return {};
+    }
     if (status.st_size > 0 && ::ftruncate(file.number(), 0) != 0)
         return {};
     return file;

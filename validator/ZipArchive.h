@@ -68,7 +68,8 @@ public:
     /// A stop requested through the token ends an extraction at its next block, with the result false.
     void setStopToken(std::stop_token token) { m_stop = std::move(token); }
 
-    /// Why the last extraction answered false; nothing when it reached the end or was stopped through the token.
+    /// Why the last extraction answered false or left entries out that the system did not let it create; nothing when
+    /// it reached the end whole or was stopped through the token.
     const std::optional<Failure> &extractionFailure() const { return m_failure; }
     /// Names of entries whose data the last extraction found damaged (the first `damagedNamesKept` of them).
     const QStringList &damagedEntries() const { return m_damaged; }
@@ -81,6 +82,8 @@ private:
     };
 
     Step extractEntry(CurrentEntry &entry, ExtractionFolder &folder, bool overWrite);
+    /// Logs the entry; where the system and not its name is to blame (a full disk), that is the extraction's failure.
+    void skipUncreated(const QString &name, int error);
     /// The current entry's stored name; nothing when its information cannot be read.
     std::optional<QByteArray> currentEntry(unz_file_info &info);
     Step writeEntry(CurrentEntry &entry, ExtractionFolder &folder, FileDescriptor descriptor, const unz_file_info &info,

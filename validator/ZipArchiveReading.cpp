@@ -26,6 +26,25 @@ void logSkipped(const QString &name)
     logLine(u"Skipped, its target cannot be created: "_s + printableText(name));
 }
 
+/// True for what an archive can bring about by its entries' names alone: one that goes through a file, is a folder's or
+/// is too long.
+bool isTheNamesFault(int error)
+{
+    switch (error) {
+    case EEXIST:
+    case EINVAL:
+    case EISDIR:
+    case ELOOP:
+    case ENAMETOOLONG:
+    case ENOENT:
+    case ENOTDIR:
+    case ENXIO:
+        return true;
+    default:
+        return false;
+    }
+}
+
 } // namespace
 
 bool ZipArchive::UnzipFileTo(const QString &path, bool overWrite)
@@ -79,15 +98,23 @@ ZipArchive::Step ZipArchive::extractEntry(CurrentEntry &entry, ExtractionFolder 
         logSkipped(name);
     } else if (isFolderEntry(*stored)) {
         if (!folder.makeFolder(*steps))
-            logSkipped(name);
+            skipUncreated(name, errno);
     } else if (overWrite || !folder.exists(*steps) || OverWrite(folder.path() + u'/' + name)) {
         FileDescriptor file = folder.createFile(*steps);
         if (file.valid())
             return writeEntry(entry, folder, std::move(file), info, name);
-        logSkipped(name);
+        skipUncreated(name, errno);
     }
     entry.close();
     return Step::Next;
+}
+
+void ZipArchive::skipUncreated(const QString &name, int error)
+{
+    logSkipped(name);
+    // The walk goes on, but what it leaves is not all that the archive holds.
+    if (!isTheNamesFault(error) && !m_failure)
+        m_failure = Failure{FailureCode::CannotWrite, m_path, qt_error_string(error)};
 }
 
 std::optional<QByteArray> ZipArchive::currentEntry(unz_file_info &info)

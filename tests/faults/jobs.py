@@ -1,6 +1,9 @@
 # SPDX-License-Identifier: MIT
 """One job for each command that writes: what the user has before it, and the call."""
+import io
+import plistlib
 import struct
+import zipfile
 import zlib
 from dataclasses import dataclass, field
 
@@ -18,6 +21,18 @@ def png(width, height):
     return b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", header) + chunk(b"IDAT", zlib.compress(rows)) + chunk(b"IEND", b"")
 
 
+def package():
+    """An app package with a picture and a localization, and without most of what the check asks for."""
+    content = io.BytesIO()
+    facts = {"CFBundleName": "An app", "CFBundleIdentifier": "example.lumora.app", "CFBundleShortVersionString": "1.0",
+             "MinimumOSVersion": "6.0", "DTPlatformName": "iphoneos", "UIDeviceFamily": [1]}
+    with zipfile.ZipFile(content, "w", zipfile.ZIP_DEFLATED) as archive:
+        archive.writestr("Payload/An app.app/Info.plist", plistlib.dumps(facts))
+        archive.writestr("Payload/An app.app/Icon.png", png(57, 57))
+        archive.writestr("Payload/An app.app/en.lproj/Localizable.strings", "")
+    return content.getvalue()
+
+
 @dataclass
 class Job:
     name: str
@@ -29,6 +44,8 @@ class Job:
     present: dict = field(default_factory=dict)
     """The kinds of fault it is put through; all of them take their time with large pictures."""
     kinds: tuple = ("once", "onwards", "short", "interrupted", "kill")
+    """How it ends when nothing fails: a check that finds something missing ends with 1."""
+    status: int = 0
 
 
 MINE = {"mine.txt": b"the user's own"}
@@ -47,4 +64,13 @@ JOBS = [
         ["placeholders", "--size", "30x20", "--size", "200x300", "--to", "{out}"],
         present=MINE | {"placeholders/earlier.png": b"an earlier run"},
     ),
+    Job(
+        "downscale",
+        ["downscale", "{in}", "--to", "{out}"],
+        sources={"button@2x.png": png(40, 30), "new-hd.png": png(31, 17)},
+        present=MINE | {"button.png": png(3, 3)},
+    ),
+    Job("validate", ["validate", "{in}/An app ü.ipa"], sources={"An app ü.ipa": package()}, status=1),
+    Job("validate, as JSON", ["validate", "--json", "{in}/An app ü.ipa"], sources={"An app ü.ipa": package()}, status=1,
+        kinds=("once",)),
 ]

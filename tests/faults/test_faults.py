@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: MIT
 """What the commands do when the file system lets them down: no crash, no hang, no torso, no lie about success."""
 import os
+import re
 import shutil
 import subprocess
 import tempfile
@@ -53,7 +54,8 @@ def run(job, stdout=subprocess.PIPE, prefix=(), **faults):
             (process.stdout or b"").replace(bytes(place), b""),
             process.stderr.decode(),
             contents(place / "out"),
-            sorted(path.name for path in (place / "tmp").iterdir()),
+            # Qt makes a folder of its own there where it is refused the one it was given.
+            sorted(path.name for path in (place / "tmp").iterdir() if not path.name.startswith("runtime-")),
         )
 
 
@@ -69,7 +71,7 @@ class Faults(unittest.TestCase):
         if kind not in job.kinds:
             return
         sound = run(job)
-        self.assertEqual((sound.status, sound.temporary), (0, []), sound.err)
+        self.assertEqual((sound.status, sound.temporary, sound.err), (job.status, [], ""), sound.out)
         calls = counted_calls(job, **faults)
         self.assertGreater(len(calls), 2, "the preload counts nothing")
         with ThreadPoolExecutor(max_workers=2) as pool:
@@ -88,10 +90,11 @@ class Faults(unittest.TestCase):
     def assert_honest(self, job, sound, ended):
         self.assertGreaterEqual(ended.status, 0, f"ended by signal {-ended.status}")
         self.assert_no_torso(job, sound, ended)
-        if ended.status == 0:
-            self.assertEqual((ended.out, ended.files), (sound.out, sound.files), "success was claimed")
+        self.assertEqual(ended.temporary, [], "the work folder was left behind")
+        if ended.err == "" or ended.status == 0:
+            self.assertEqual((ended.status, ended.out, ended.files), (job.status, sound.out, sound.files), "nothing was said")
         else:
-            self.assertRegex(ended.err, "(?m)^lumora: ", "nothing was said")
+            self.assertRegex(ended.err, "(?m)^lumora: ")
 
     def test_a_call_that_fails_once_is_told(self):
         for job in JOBS:
@@ -115,19 +118,26 @@ class Faults(unittest.TestCase):
         for job in JOBS:
             for sound, what, ended in self.each(job, "short"):
                 with self.subTest(what):
-                    self.assertEqual((ended.status, ended.out, ended.files), (0, sound.out, sound.files), ended.err)
+                    self.assertEqual((ended.status, ended.out, ended.files), (job.status, sound.out, sound.files), ended.err)
 
     def test_an_interrupted_write_is_repeated(self):
         for job in JOBS:
             for sound, what, ended in self.each(job, "interrupted"):
                 with self.subTest(what):
-                    self.assertEqual((ended.status, ended.out, ended.files), (0, sound.out, sound.files), ended.err)
+                    self.assertEqual((ended.status, ended.out, ended.files), (job.status, sound.out, sound.files), ended.err)
 
     def test_a_killed_job_leaves_whole_files_only(self):
         for job in JOBS:
             for sound, what, ended in self.each(job, "kill"):
                 with self.subTest(what):
                     self.assertEqual(ended.status, -9)
+                    # A name that is taken can only be taken over by renaming. The instant before, the new file stands
+                    # whole beside it.
+                    for name in list(ended.files):
+                        waiting = re.fullmatch(r"(.*/)?\.([^/]+)\.[0-9a-f]+", name)
+                        if waiting and what.endswith(": rename"):
+                            replaced = (waiting[1] or "") + waiting[2]
+                            self.assertEqual(ended.files.pop(name), sound.files[replaced])
                     self.assert_no_torso(job, sound, ended)
 
     def test_results_that_nobody_receives_are_no_success(self):
@@ -145,9 +155,9 @@ class Faults(unittest.TestCase):
             with self.subTest(job.name), tempfile.TemporaryDirectory() as small:
                 words = [word.replace("{out}", small) for word in job.arguments]
                 filled = type(job)(job.name, words, job.sources)
-                ended = run(filled, prefix=[*mount, small])
-                self.assertEqual(ended.status, 1)
-                self.assertIn("No space left on device", ended.err)
+                ended = run(filled, prefix=[*mount, small, "env", f"TMPDIR={small}"])
+                self.assertGreater(ended.status, 0)
+                self.assertRegex(ended.err, "No space left on device|the disk is nearly full")
 
 
 if __name__ == "__main__":

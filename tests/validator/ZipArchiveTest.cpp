@@ -72,6 +72,9 @@ const QString textOfEntry = u"text of the entry"_s;
 
 } // namespace
 
+Q_DECLARE_METATYPE(lumora::ExtractionLimits)
+Q_DECLARE_METATYPE(lumora::FailureCode)
+
 class ZipArchiveTest : public QObject
 {
     Q_OBJECT
@@ -446,9 +449,6 @@ private:
 
     QTemporaryDir m_archives;
 };
-
-Q_DECLARE_METATYPE(lumora::ExtractionLimits)
-Q_DECLARE_METATYPE(lumora::FailureCode)
 
 QTEST_GUILESS_MAIN(ZipArchiveTest)
 #include "ZipArchiveTest.moc"
