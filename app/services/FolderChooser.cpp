@@ -9,7 +9,8 @@
 namespace lumora
 {
 
-void DialogFolderChooser::chooseFolder(QWidget *window, const FolderRequest &request, FolderChosen chosen)
+void DialogFolderChooser::chooseFolder(QWidget *window, const FolderRequest &request, FolderChosen chosen,
+                                       FolderDeclined declined)
 {
     auto *dialog = new QFileDialog(window, request.message, existingStartFolder(request.startFolder));
     dialog->setAttribute(Qt::WA_DeleteOnClose);
@@ -19,6 +20,8 @@ void DialogFolderChooser::chooseFolder(QWidget *window, const FolderRequest &req
         const QString absolute = QDir::cleanPath(QDir(path).absolutePath());
         chosen(absolute);
     });
+    if (declined)
+        QObject::connect(dialog, &QFileDialog::rejected, dialog, std::move(declined));
     dialog->open();
 }
 

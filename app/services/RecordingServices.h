@@ -33,21 +33,29 @@ private:
 class RecordingFolderChooser final : public FolderChooser
 {
 public:
-    void chooseFolder(QWidget *window, const FolderRequest &request, FolderChosen chosen) override
+    void chooseFolder(QWidget *window, const FolderRequest &request, FolderChosen chosen,
+                      FolderDeclined declined = {}) override
     {
         requests << request;
         windows << window;
         m_chosen = std::move(chosen);
+        m_declined = std::move(declined);
     }
     bool isOpen() const { return m_chosen != nullptr; }
     void confirm(const QString &path) { std::exchange(m_chosen, nullptr)(path); }
-    void cancel() { m_chosen = nullptr; }
+    void cancel()
+    {
+        m_chosen = nullptr;
+        if (const FolderDeclined declined = std::exchange(m_declined, nullptr))
+            declined();
+    }
 
     QList<FolderRequest> requests;
     QList<QWidget *> windows;
 
 private:
     FolderChosen m_chosen;
+    FolderDeclined m_declined;
 };
 
 /// Remembers every address instead of opening it.

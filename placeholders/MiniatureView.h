@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QList>
+#include <QPainterPath>
+#include <QWidget>
+
+namespace lumora
+{
+
+/// Shows the placeholders that a run would write, all at one scale: the same grey, the same label at the same place.
+/// Without any it shows an empty frame.
+class MiniatureView final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit MiniatureView(QWidget *parent = nullptr);
+
+    /// Of the pictures in pixels, in the order of writing.
+    const QList<QSize> &pictures() const { return m_pictures; }
+    void setPictures(const QList<QSize> &pictures);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    void layOut();
+
+    QList<QSize> m_pictures;
+    QList<QPainterPath> m_labels; ///< in each picture's pixels
+    QList<QRectF> m_rectangles;
+};
+
+} // namespace lumora

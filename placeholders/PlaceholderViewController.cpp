@@ -1,0 +1,198 @@
+// SPDX-License-Identifier: MIT
+#include "PlaceholderViewController.h"
+
+#include "PlaceholderExport.h"
+#include "app/ButtonStyle.h"
+#include "app/LabelStyle.h"
+#include "app/TimedCaption.h"
+#include "foundation/LeadingInteger.h"
+#include "ui_PlaceholderViewController.h"
+#include "widgets/Fonts.h"
+#include "widgets/Palette.h"
+
+#include <utility>
+
+namespace lumora
+{
+
+namespace
+{
+
+QList<QSize> sizesOf(PlaceholderSet set)
+{
+    const auto sizes = placeholderSizes(set);
+    return QList<QSize>(sizes.begin(), sizes.end());
+}
+
+} // namespace
+
+PlaceholderViewController::PlaceholderViewController(const Services &services, QObject *parent)
+    : ToolViewController(services, parent), m_ui(std::make_unique<Ui::PlaceholderViewController>())
+{
+    m_ui->setupUi(view());
+    setUpAppearance();
+    connect(m_ui->iosButton, &HoverButton::clicked, this, &PlaceholderViewController::iosButtonPressed);
+    connect(m_ui->macButton, &HoverButton::clicked, this, &PlaceholderViewController::macButtonPressed);
+    connect(m_ui->customButton, &HoverButton::clicked, this, &PlaceholderViewController::customButtonPressed);
+    for (ZKTextField *field : {m_ui->customWidthTextField, m_ui->customHeightTextField}) {
+        field->setContinuous(true);
+        connect(field, &ZKTextField::action, this, &PlaceholderViewController::showCustomMiniature);
+    }
+    createPopup();
+}
+
+PlaceholderViewController::~PlaceholderViewController() = default;
+
+void PlaceholderViewController::setUpAppearance()
+{
+    const std::pair<QLabel *, const char *> headings[] = {{m_ui->titleLabel, "PLACEHOLDER_TITLE"},
+                                                          {m_ui->customLabel, "PLACEHOLDER_CUSTOM"}};
+    for (const auto &[label, key] : headings) {
+        styleLabel(label, latoBold(25), palette::placeholders);
+        label->setText(qtTrId(key));
+    }
+    const std::pair<QLabel *, const char *> titles[] = {{m_ui->iosTitle, "PLACEHOLDER_IOS_TITLE"},
+                                                        {m_ui->macTitle, "PLACEHOLDER_MAC_TITLE"},
+                                                        {m_ui->customTitle, "PLACEHOLDER_CUSTOM_TITLE"}};
+    for (const auto &[label, key] : titles) {
+        styleLabel(label, latoBold(15), palette::chromeText);
+        label->setText(qtTrId(key));
+    }
+    const std::pair<QLabel *, const char *> subtitles[] = {{m_ui->iosSubtitle, "PLACEHOLDER_IOS_SUBTITLE"},
+                                                           {m_ui->macSubtitle, "PLACEHOLDER_MAC_SUBTITLE"},
+                                                           {m_ui->customSubtitle, "PLACEHOLDER_CUSTOM_SUBTITLE"},
+                                                           {m_ui->settingsLabel, "PLACEHOLDER_SETTINGS"}};
+    for (const auto &[label, key] : subtitles) {
+        styleLabel(label, latoRegular(13), palette::chromeText);
+        label->setText(qtTrId(key));
+    }
+    styleLabel(m_ui->timesLabel, latoBold(15), palette::chromeText);
+    m_ui->timesLabel->setText(QStringLiteral("x"));
+
+    setUpButton(m_ui->iosButton, qtTrId("PLACEHOLDER_IOS_SUBTITLE"));
+    setUpButton(m_ui->macButton, qtTrId("PLACEHOLDER_MAC_SUBTITLE"));
+    setUpButton(m_ui->customButton, qtTrId("PLACEHOLDER_CUSTOM_SUBTITLE"));
+    m_ui->customWidthTextField->setPlaceholderString(qtTrId("PLACEHOLDER_WIDTH"));
+    m_ui->customWidthTextField->setAccessibleName(qtTrId("PLACEHOLDER_WIDTH"));
+    m_ui->customHeightTextField->setPlaceholderString(qtTrId("PLACEHOLDER_HEIGHT"));
+    m_ui->customHeightTextField->setAccessibleName(qtTrId("PLACEHOLDER_HEIGHT"));
+
+    m_ui->iosMiniature->setPictures(sizesOf(PlaceholderSet::Ios));
+    m_ui->iosMiniature->setAccessibleName(qtTrId("PLACEHOLDER_IOS_SUBTITLE"));
+    m_ui->macMiniature->setPictures(sizesOf(PlaceholderSet::Mac));
+    m_ui->macMiniature->setAccessibleName(qtTrId("PLACEHOLDER_MAC_SUBTITLE"));
+    m_ui->customMiniature->setAccessibleName(qtTrId("PLACEHOLDER_CUSTOM_SUBTITLE"));
+}
+
+void PlaceholderViewController::setUpButton(HoverButton *button, const QString &what)
+{
+    styleButton(button, qtTrId("GENERATE"), palette::placeholders, palette::placeholdersBorder);
+    // Three buttons say the same; the description tells them apart.
+    button->setAccessibleDescription(what);
+    m_captions.insert(button, new TimedCaption([button](const QString &caption) { button->setText(caption); },
+                                               qtTrId("GENERATE"), this));
+}
+
+void PlaceholderViewController::showCustomMiniature()
+{
+    const QSize size(leadingInteger(m_ui->customWidthTextField->string()),
+                     leadingInteger(m_ui->customHeightTextField->string()));
+    const bool accepted = isPlaceholderEdge(size.width()) && isPlaceholderEdge(size.height());
+    m_ui->customMiniature->setPictures(accepted ? QList<QSize>{size} : QList<QSize>());
+}
+
+void PlaceholderViewController::iosButtonPressed()
+{
+    m_selectedButton = m_ui->iosButton;
+    createiOSPlaceholders();
+}
+
+void PlaceholderViewController::macButtonPressed()
+{
+    m_selectedButton = m_ui->macButton;
+    createMacPlaceholders();
+}
+
+void PlaceholderViewController::customButtonPressed()
+{
+    m_selectedButton = m_ui->customButton;
+    m_ui->customWidthTextField->endEditing();
+    m_ui->customHeightTextField->endEditing();
+    if (acceptEdge(m_ui->customWidthTextField, m_customWidth) &&
+        acceptEdge(m_ui->customHeightTextField, m_customHeight))
+        createCustomPlaceholder();
+}
+
+bool PlaceholderViewController::acceptEdge(ZKTextField *field, int &edge)
+{
+    // An empty text reads as 0, which is refused too.
+    const int typed = leadingInteger(field->string());
+    if (isPlaceholderEdge(typed)) {
+        edge = typed;
+        return true;
+    }
+    showPopupWithTitle(qtTrId("PLACEHOLDER_ALERT_TITLE"), qtTrId("PLACEHOLDER_ALERT_MESSAGE"), field, true);
+    return false;
+}
+
+void PlaceholderViewController::createiOSPlaceholders()
+{
+    createPlaceholders(sizesOf(PlaceholderSet::Ios));
+}
+
+void PlaceholderViewController::createMacPlaceholders()
+{
+    createPlaceholders(sizesOf(PlaceholderSet::Mac));
+}
+
+void PlaceholderViewController::createCustomPlaceholder()
+{
+    createPlaceholders({QSize(m_customWidth, m_customHeight)});
+}
+
+void PlaceholderViewController::createPlaceholders(const QList<QSize> &sizes)
+{
+    m_saveImages.clear();
+    for (const QSize &size : sizes)
+        m_saveImages.push_back(placeholderWithSize(size, m_font));
+    openChooseDestination();
+}
+
+void PlaceholderViewController::openChooseDestination()
+{
+    // The prompt is shared with the down-scaler, which asks for the same.
+    services().folderChooser.chooseFolder(
+        view()->window(), {qtTrId("RESIZER_DESTINATION_PANEL"), m_savePath},
+        [this](const QString &path) {
+            m_savePath = path;
+            saveImagesToDisk();
+        },
+        [this] { discardImages(); });
+}
+
+void PlaceholderViewController::discardImages()
+{
+    m_saveImages.clear();
+}
+
+void PlaceholderViewController::saveImagesToDisk()
+{
+    m_jobs.start([this, pictures = std::exchange(m_saveImages, {}), savePath = m_savePath](const BackgroundJob &job) {
+        const ExportFolder folder = savePlaceholders(pictures, savePath).folder;
+        job.post([this, newFolder = folder.nameTaken ? folder.name() : QString()] { finish(newFolder); });
+    });
+}
+
+void PlaceholderViewController::finish(const QString &newFolder)
+{
+    if (TimedCaption *caption = m_captions.value(m_selectedButton))
+        caption->showForAWhile(qtTrId("ALL_DONE"));
+    if (!newFolder.isEmpty())
+        showPopupWithTitle(
+            qtTrId("PLACEHOLDER_NEW_FOLDER_ALERT_TITLE"),
+            qtTrId("PLACEHOLDER_NEW_FOLDER_ALERT_MESSAGE").replace(QStringLiteral("[FOLDER]"), newFolder),
+            m_selectedButton, false);
+    m_selectedButton = nullptr;
+}
+
+} // namespace lumora

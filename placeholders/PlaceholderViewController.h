@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "LabelFont.h"
+#include "Placeholder.h"
+#include "PlaceholderSizes.h"
+#include "app/BackgroundJobs.h"
+#include "app/ToolViewController.h"
+
+#include <QHash>
+
+#include <memory>
+#include <vector>
+
+namespace Ui
+{
+class PlaceholderViewController;
+}
+
+namespace lumora
+{
+
+class HoverButton;
+class TimedCaption;
+class ZKTextField;
+
+/// The placeholder tool: writes labelled grey pictures in the screen sizes of iOS devices or of the Mac, or one in a
+/// typed size, and shows beforehand what they will be.
+class PlaceholderViewController final : public ToolViewController
+{
+    Q_OBJECT
+
+public:
+    explicit PlaceholderViewController(const Services &services, QObject *parent = nullptr);
+    ~PlaceholderViewController() override;
+
+    const Ui::PlaceholderViewController &outlets() const { return *m_ui; }
+
+    /// The pictures that wait for a destination, in the order of writing; empty between runs.
+    const std::vector<Placeholder> &saveImages() const { return m_saveImages; }
+    /// The folder last chosen to write into, empty at first.
+    const QString &savePath() const { return m_savePath; }
+    /// The custom size last accepted, 0 at first.
+    int customWidth() const { return m_customWidth; }
+    int customHeight() const { return m_customHeight; }
+    /// The button that started the run; nullptr once a run has closed.
+    HoverButton *selectedButton() const { return m_selectedButton; }
+
+public slots:
+    void iosButtonPressed();
+    void macButtonPressed();
+    void customButtonPressed();
+
+private:
+    void setUpAppearance();
+    void setUpButton(HoverButton *button, const QString &what);
+    void showCustomMiniature();
+    bool acceptEdge(ZKTextField *field, int &edge);
+    void createiOSPlaceholders();
+    void createMacPlaceholders();
+    void createCustomPlaceholder();
+    void createPlaceholders(const QList<QSize> &sizes);
+    void openChooseDestination();
+    void discardImages();
+    void saveImagesToDisk();
+    void finish(const QString &newFolder);
+
+    std::unique_ptr<Ui::PlaceholderViewController> m_ui;
+    LabelFont m_font;
+    std::vector<Placeholder> m_saveImages;
+    QString m_savePath;
+    int m_customWidth = 0;
+    int m_customHeight = 0;
+    HoverButton *m_selectedButton = nullptr;
+    QHash<HoverButton *, TimedCaption *> m_captions;
+    BackgroundJobs m_jobs; ///< last, so that it waits for running jobs before anything else goes
+};
+
+} // namespace lumora

@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/BackgroundJobs.h"
+#include "app/DropView.h"
+#include "app/ToolViewController.h"
+
+#include <QTimer>
+
+#include <chrono>
+#include <memory>
+
+namespace Ui
+{
+class ResizerViewController;
+}
+
+namespace lumora
+{
+
+/// The retina down-scaler: takes double-resolution PNG files and writes their halves into a folder, telling how far it
+/// is and when it is done.
+class ResizerViewController final : public ToolViewController, public DropViewDelegate
+{
+    Q_OBJECT
+
+public:
+    /// How long the notice stands that a batch is done.
+    static constexpr std::chrono::milliseconds noticeDuration{2000};
+
+    explicit ResizerViewController(const Services &services, QObject *parent = nullptr);
+    ~ResizerViewController() override;
+
+    const Ui::ResizerViewController &outlets() const { return *m_ui; }
+
+    /// The accepted files of the last drop or choice, in its order.
+    const QStringList &sourceImages() const { return m_sourceImages; }
+    /// The folder to write into: the first accepted file's, then the chosen one.
+    const QString &savePath() const { return m_savePath; }
+    /// The first accepted file's folder, empty at first.
+    const QString &browsePath() const { return m_browsePath; }
+
+    void dropViewReceivedFiles(const QStringList &files) override;
+    /// Colours are of no use here.
+    void dropViewReceivedColor(const QColor &) override {}
+
+    bool takesFiles() const override { return true; }
+    void browseButtonPressed() override;
+    void paste() override;
+
+private:
+    void setUpAppearance();
+    void openBrowsePanel();
+    void openChooseDestination();
+    void beginResizingAndSaving();
+    void doneResizingAndSaving();
+    void readyForUse();
+    void createImagesFromDataPaths(const QStringList &paths);
+    void showProgress(qsizetype done, qsizetype total, float step);
+    void setDropAreaVisible(bool visible);
+    void setProgressVisible(bool visible);
+    void setNoticeVisible(bool visible);
+    bool isWorking() const;
+
+    std::unique_ptr<Ui::ResizerViewController> m_ui;
+    QStringList m_sourceImages;
+    QString m_savePath;
+    QString m_browsePath;
+    QTimer m_ready;
+    BackgroundJobs m_jobs; ///< last, so that it waits for running jobs before anything else goes
+};
+
+} // namespace lumora
