@@ -61,7 +61,7 @@ QString presenceLine(bool present, const QString &what)
 bool allJudgedValid(const PackageReport &report)
 {
     const MetadataVerdicts verdicts = metadataVerdicts(report.facts);
-    return report.artwork.findings == ArtworkFindings() && verdicts.bundleIdentifierValid &&
+    return report.artwork.findings.isEmpty() && verdicts.bundleIdentifierValid &&
            verdicts.localizationsValid;
 }
 

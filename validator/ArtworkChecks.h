@@ -17,7 +17,7 @@ struct ArtworkFindings
     /// All required launch images when the app has none of them, nothing as soon as it has one.
     QList<QSize> missingLaunchImages;
 
-    bool operator==(const ArtworkFindings &) const = default;
+    bool isEmpty() const { return missingIcons.isEmpty() && missingLaunchImages.isEmpty(); }
 };
 
 QList<int> requiredIcons(PlatformType platform);

@@ -13,19 +13,27 @@ namespace
 {
 
 constexpr std::uint64_t overflowed = 0xFFFFFFFF;
-constexpr quint16 zip64Id = 1;
+constexpr std::uint64_t zip64Id = 1;
 constexpr qint64 localHeaderSize = 30;
 constexpr quint32 localHeaderMark = 0x04034b50;
 constexpr unsigned stored = 0;
 constexpr unsigned deflated = 8;
+
+std::uint64_t littleEndian(QByteArrayView bytes)
+{
+    std::uint64_t value = 0;
+    for (qsizetype i = bytes.size(); i > 0; --i)
+        value = value << 8 | static_cast<unsigned char>(bytes[i - 1]);
+    return value;
+}
 
 } // namespace
 
 std::optional<Zip64Values> zip64Values(const QByteArray &extraFields, std::uint64_t size, std::uint64_t compressedSize)
 {
     for (qsizetype at = 0; at + 4 <= extraFields.size();) {
-        const quint16 id = qFromLittleEndian<quint16>(extraFields.constData() + at);
-        const quint16 length = qFromLittleEndian<quint16>(extraFields.constData() + at + 2);
+        const std::uint64_t id = littleEndian(QByteArrayView(extraFields).sliced(at, 2));
+        const auto length = static_cast<qsizetype>(littleEndian(QByteArrayView(extraFields).sliced(at + 2, 2)));
         at += 4;
         if (id != zip64Id) {
             at += length;
@@ -36,7 +44,7 @@ std::optional<Zip64Values> zip64Values(const QByteArray &extraFields, std::uint6
             if (at + 8 > end)
                 return std::nullopt;
             at += 8;
-            return qFromLittleEndian<quint64>(extraFields.constData() + at - 8);
+            return littleEndian(QByteArrayView(extraFields).sliced(at - 8, 8));
         };
         Zip64Values values = {size, compressedSize, std::nullopt};
         for (std::uint64_t *value : {&values.size, &values.compressedSize}) {

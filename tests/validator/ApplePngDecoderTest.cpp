@@ -130,8 +130,5 @@ private:
     QTemporaryDir m_pictures;
 };
 
-Q_DECLARE_METATYPE(lumora::FailureCode)
-Q_DECLARE_METATYPE(QRgb (*)(int, int))
-
 QTEST_GUILESS_MAIN(ApplePngDecoderTest)
 #include "ApplePngDecoderTest.moc"

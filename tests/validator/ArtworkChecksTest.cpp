@@ -56,7 +56,9 @@ private slots:
     {
         QFETCH(PlatformType, platform);
         QFETCH(QList<QSize>, sizes);
-        QTEST(missingIcons(platform, sizes), "missing");
+        QFETCH(QList<int>, missing);
+        // As sizes: comparing empty lists of numbers, Qt passes null pointers to memcmp, which a sanitizer refuses.
+        QCOMPARE(squares(missingIcons(platform, sizes)), squares(missing));
     }
 
     void reportsMissingLaunchImages_data()
@@ -118,8 +120,6 @@ private slots:
 
     void answersFreshTables() { QCOMPARE(iPadData().universalIcons(), (QList<int>{72, 144, 76, 152})); }
 };
-
-Q_DECLARE_METATYPE(lumora::PlatformType)
 
 QTEST_GUILESS_MAIN(ArtworkChecksTest)
 #include "ArtworkChecksTest.moc"

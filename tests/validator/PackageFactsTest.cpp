@@ -201,8 +201,5 @@ private slots:
     }
 };
 
-Q_DECLARE_METATYPE(lumora::PlatformType)
-Q_DECLARE_METATYPE(lumora::BuildKind)
-
 QTEST_GUILESS_MAIN(PackageFactsTest)
 #include "PackageFactsTest.moc"

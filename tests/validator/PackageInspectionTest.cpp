@@ -20,6 +20,15 @@ namespace
 
 const QStringList englishFrench{u"English"_s, u"French"_s};
 
+/// Comparing empty lists of numbers, Qt passes null pointers to memcmp, which a sanitizer refuses.
+QString joined(const QList<int> &numbers)
+{
+    QStringList texts;
+    for (const int number : numbers)
+        texts += QString::number(number);
+    return texts.join(u' ');
+}
+
 /// The middle of the icon, where no corner is cut, as text.
 QString iconColor(const QImage &icon)
 {
@@ -133,8 +142,9 @@ private slots:
     }
     void checksTheArtwork()
     {
+        QFETCH(QList<int>, icons);
         const ArtworkFindings findings = inspected().artwork.findings;
-        QTEST(findings.missingIcons, "icons");
+        QCOMPARE(joined(findings.missingIcons), joined(icons));
         QTEST(findings.missingLaunchImages.isEmpty(), "launchImages");
     }
 
@@ -298,9 +308,6 @@ private:
     QTemporaryDir m_packages;
     CmsProfileDecoder m_decoder;
 };
-
-Q_DECLARE_METATYPE(lumora::FailureCode)
-Q_DECLARE_METATYPE(lumora::BuildKind)
 
 QTEST_GUILESS_MAIN(PackageInspectionTest)
 #include "PackageInspectionTest.moc"
