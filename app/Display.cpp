@@ -19,16 +19,6 @@ namespace
 
 constexpr char platformVariable[] = "QT_QPA_PLATFORM";
 
-bool xAnswers()
-{
-    if (qEnvironmentVariableIsEmpty("DISPLAY"))
-        return false;
-    xcb_connection_t *connection = xcb_connect(nullptr, nullptr);
-    const bool answers = xcb_connection_has_error(connection) == 0;
-    xcb_disconnect(connection);
-    return answers;
-}
-
 bool waylandAnswers()
 {
     QByteArray path = qgetenv("WAYLAND_DISPLAY");
@@ -51,21 +41,33 @@ bool waylandAnswers()
 
 } // namespace
 
-bool prepareDisplay()
+Display::Display()
 {
     const QByteArray platform = qgetenv(platformVariable);
-    if (platform.startsWith("xcb"))
-        return xAnswers();
-    if (platform.startsWith("wayland"))
-        return waylandAnswers();
-    if (!platform.isEmpty())
-        return true;
-    const bool wayland = waylandAnswers();
-    if (xAnswers())
-        return true;
-    if (wayland)
+    if (platform.startsWith("xcb")) {
+        m_reachable = xAnswers();
+    } else if (platform.startsWith("wayland")) {
+        m_reachable = waylandAnswers();
+    } else if (!platform.isEmpty() || xAnswers()) {
+        m_reachable = true;
+    } else if (waylandAnswers()) {
         qputenv(platformVariable, "wayland");
-    return wayland;
+        m_reachable = true;
+    }
+}
+
+Display::~Display()
+{
+    if (m_connection != nullptr)
+        xcb_disconnect(m_connection);
+}
+
+bool Display::xAnswers()
+{
+    if (qEnvironmentVariableIsEmpty("DISPLAY"))
+        return false;
+    m_connection = xcb_connect(nullptr, nullptr);
+    return xcb_connection_has_error(m_connection) == 0;
 }
 
 } // namespace lumora

@@ -1,12 +1,31 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QtGlobal>
+
+struct xcb_connection_t;
+
 namespace lumora
 {
 
-/// Whether a window can be opened at all: a display server answers, or the user asked for a platform that needs none.
-/// Where only one kind of server answers, the toolkit is told to use that one. Ask before the application object is
-/// made: the toolkit itself would abort the program.
-bool prepareDisplay();
+/// Finds out whether a window can be opened at all: a display server answers, or the user asked for a platform that
+/// needs none. Where only one kind of server answers, the toolkit is told to use that one. Make it before the
+/// application object, which would abort the program, and keep it until that one is connected: an X server without
+/// clients may start over and be away for a moment.
+class Display
+{
+public:
+    Display();
+    ~Display();
+    Q_DISABLE_COPY_MOVE(Display)
+
+    bool isReachable() const { return m_reachable; }
+
+private:
+    bool xAnswers();
+
+    xcb_connection_t *m_connection = nullptr;
+    bool m_reachable = false;
+};
 
 } // namespace lumora

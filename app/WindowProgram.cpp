@@ -18,6 +18,7 @@
 #include <QApplication>
 #include <QFile>
 #include <QFileOpenEvent>
+#include <QTimer>
 
 namespace lumora
 {
@@ -74,7 +75,8 @@ int runWindow(int argc, char **argv)
         console.complain(request.failure());
         return static_cast<int>(ExitStatus::Usage);
     }
-    if (!prepareDisplay()) {
+    const Display display;
+    if (!display.isReachable()) {
         console.complain(QStringLiteral("no display to open the window on; these commands work without one: %1")
                              .arg(commandNames().join(QStringLiteral(", "))));
         return static_cast<int>(ExitStatus::Refused);
@@ -90,7 +92,6 @@ int runWindow(int argc, char **argv)
     loadResources();
     installTexts(*qApp, QLocale::system());
     QApplication::setApplicationDisplayName(qtTrId("APP_DEFAULT"));
-    QApplication::setWindowIcon(NamedImage(QStringLiteral("app_icon")).icon());
     applyAppColors();
 
     DesktopServices desktop;
@@ -107,6 +108,9 @@ int runWindow(int argc, char **argv)
     delegate.activate();
     if (!request.value().files.isEmpty())
         delegate.applicationOpenFiles(request.value().files);
+    // For task bars and window lists, which may have it when the window is up.
+    QTimer::singleShot(std::chrono::milliseconds(100), qApp,
+                       [] { QApplication::setWindowIcon(NamedImage(QStringLiteral("app_icon")).icon()); });
     return QApplication::exec();
 }
 

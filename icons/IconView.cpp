@@ -26,6 +26,8 @@ bool IconView::event(QEvent *event)
     // The scale is known for good once the view is shown, and no event tells of every way in which it changes.
     if (event->type() == QEvent::Resize || event->type() == QEvent::Show || event->type() == QEvent::Paint)
         noteSide();
+    if (event->type() == QEvent::Paint && !std::exchange(m_painted, true))
+        QMetaObject::invokeMethod(this, &IconView::firstPainted, Qt::QueuedConnection);
     return handled;
 }
 

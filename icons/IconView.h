@@ -24,6 +24,8 @@ public:
 signals:
     /// The view was resized or came to a screen of another scale.
     void pixelSideChanged();
+    /// The view has been drawn for the first time.
+    void firstPainted();
 
 protected:
     bool event(QEvent *event) override;
@@ -34,6 +36,7 @@ private:
 
     QImage m_picture;
     int m_notedSide = 0;
+    bool m_painted = false;
 };
 
 } // namespace lumora

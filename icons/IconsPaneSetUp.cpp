@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The icon tool's fixed data, looks and connections, and its code snippets.
+#include "IconRendering.h"
 #include "IconSource.h"
 #include "IconView.h"
 #include "IconsViewController.h"
@@ -74,13 +75,43 @@ void IconsViewController::setUpPreviews()
         labels[number]->setText(width);
         preview->setAccessibleName(qtTrId("ACCESSIBLE_ICONS_PREVIEW").replace(QStringLiteral("[SIZE]"), width));
         connect(preview, &IconView::pixelSideChanged, this, [this, preview] {
-            if (preview->picture().width() != preview->pixelSide())
+            if (!m_builtInIconPending && preview->picture().width() != preview->pixelSide())
                 drawPreview(preview);
         });
     }
-    connect(m_ui->sourceIconView, &IconView::pixelSideChanged, this, &IconsViewController::showSource);
-    m_icon = builtInIcon();
-    editPreviewIcon();
+    connect(m_ui->sourceIconView, &IconView::pixelSideChanged, this, [this] {
+        if (!m_builtInIconPending)
+            showSource();
+    });
+    connect(m_ui->sourceIconView, &IconView::firstPainted, this, &IconsViewController::loadBuiltInIcon);
+}
+
+void IconsViewController::loadBuiltInIcon()
+{
+    // Reading and scaling it takes longer than all the rest of the window, which need not wait for it.
+    QList<int> sides{m_ui->sourceIconView->pixelSide()};
+    for (const IconView *preview : m_previews)
+        sides << preview->pixelSide();
+    const int mode = cornerMode();
+    m_jobs.start([this, sides, mode](const BackgroundJob &job) {
+        const QImage icon = builtInIcon();
+        QList<QImage> pictures;
+        for (const int side : sides)
+            pictures << resizeImage(icon, side, pictures.isEmpty() ? 0 : mode);
+        job.post([this, icon, pictures, sides, mode] {
+            if (!std::exchange(m_builtInIconPending, false))
+                return;
+            m_icon = icon;
+            m_ui->sourceIconView->setPicture(pictures.first());
+            for (std::size_t number = 0; number < m_previews.size(); ++number)
+                m_previews[number]->setPicture(pictures.at(static_cast<qsizetype>(number) + 1));
+            // What changed its size meanwhile is drawn anew.
+            if (m_ui->sourceIconView->pixelSide() != sides.first())
+                showSource();
+            if (cornerMode() != mode)
+                editPreviewIcon();
+        });
+    });
 }
 
 void IconsViewController::setUpSnippets()

@@ -37,8 +37,16 @@ void IconsViewController::createIconFromURL(const QString &path)
         refuseIcon();
 }
 
+const QImage &IconsViewController::icon()
+{
+    if (std::exchange(m_builtInIconPending, false))
+        m_icon = builtInIcon();
+    return m_icon;
+}
+
 void IconsViewController::acceptIcon(const QImage &icon, const QString &title)
 {
+    m_builtInIconPending = false;
     m_icon = icon;
     showSource();
     editPreviewIcon();
@@ -95,7 +103,7 @@ void IconsViewController::paste()
 
 void IconsViewController::showSource()
 {
-    m_ui->sourceIconView->setPicture(resizeImage(m_icon, m_ui->sourceIconView->pixelSide()));
+    m_ui->sourceIconView->setPicture(resizeImage(icon(), m_ui->sourceIconView->pixelSide()));
 }
 
 void IconsViewController::editPreviewIcon()
@@ -106,7 +114,7 @@ void IconsViewController::editPreviewIcon()
 
 void IconsViewController::drawPreview(IconView *preview)
 {
-    preview->setPicture(resizeImage(m_icon, preview->pixelSide(), cornerMode()));
+    preview->setPicture(resizeImage(icon(), preview->pixelSide(), cornerMode()));
 }
 
 // The export
@@ -144,7 +152,7 @@ void IconsViewController::generateCustomPressed()
 
 bool IconsViewController::hasSource()
 {
-    if (!m_icon.isNull())
+    if (!icon().isNull())
         return true;
     showPopupWithTitle(qtTrId("ICONS_NO_SOURCE_ALERT_TITLE"), qtTrId("ICONS_NO_SOURCE_ALERT_MESSAGE"),
                        m_ui->browseButton, true);
@@ -167,7 +175,7 @@ void IconsViewController::generatePlatformIcons()
 {
     PlatformIconsRequest request;
     // A picture of its own: the tool may take another source while the export runs.
-    request.icon = m_icon.copy();
+    request.icon = icon().copy();
     request.savePath = m_savePath;
     request.isChosen = [choices = m_choices](const PlatformIcons &icons) {
         return choices->at(static_cast<std::size_t>(icons.platform)).load();
@@ -198,7 +206,7 @@ void IconsViewController::generateCustomIcon()
     if (!hasSource())
         return;
     m_ui->customIconSizeTextField->endEditing();
-    const IconExport result = lumora::generateCustomIcon({m_icon, m_savePath, m_customIconSize, cornerMode()});
+    const IconExport result = lumora::generateCustomIcon({icon(), m_savePath, m_customIconSize, cornerMode()});
     const std::optional<Failure> failure = result.files.first().failure;
     if (failure && failure->code == FailureCode::CannotCreateFolder)
         return;

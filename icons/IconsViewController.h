@@ -38,7 +38,7 @@ public:
     const Ui::IconsViewController &outlets() const { return *m_ui; }
 
     /// The accepted source; a built-in picture until the user brings one.
-    const QImage &icon() const { return m_icon; }
+    const QImage &icon();
     /// The folder last chosen to export into, empty at first.
     const QString &savePath() const { return m_savePath; }
     /// The folder of the last source, empty at first.
@@ -85,6 +85,7 @@ private:
 
     void setUpAppearance();
     void setUpPreviews();
+    void loadBuiltInIcon();
     void setUpSnippets();
     void connectControls();
     void openDialog();
@@ -106,6 +107,7 @@ private:
 
     std::unique_ptr<Ui::IconsViewController> m_ui;
     QImage m_icon;
+    bool m_builtInIconPending = true; ///< it is read after the window's first frame, or as soon as it is needed
     QString m_savePath;
     QString m_browsePath;
     int m_customIconSize = 0;

@@ -304,8 +304,13 @@ class Lumora:
         self.desktop.type(str(path))
         self.desktop.key("Return")
 
+    def activate(self):
+        """Gives the window the keyboard, which another window on the desktop may have taken."""
+        self.desktop.xdotool("windowactivate", "--sync", self.window)
+
     def close(self):
         """Closes the window as its user would and answers the exit status."""
+        self.activate()
         self.desktop.key("ctrl+q")
         return self.process.wait(WAIT)
 

@@ -111,7 +111,7 @@ private slots:
 
     void beginsWithTheBuiltInPicture()
     {
-        const Pane pane;
+        Pane pane;
         QCOMPARE(pane.tool.icon().size(), QSize(1024, 1024));
         QCOMPARE(pane.ui.sourceIconTitle->text(), qtTrId("ICONS_SOURCE_TITLE"));
         QCOMPARE(pane.ui.sourceIconSubtitle->text(), qtTrId("ICONS_SOURCE_SUBTITLE"));
@@ -124,6 +124,27 @@ private slots:
         QCOMPARE(pane.ui.codeSnippedView->font(), latoBold(11));
         QCOMPARE(pane.ui.browseButton->normalColor(), palette::icons);
         QCOMPARE(pane.ui.browseButton->hovercolor(), palette::iconsBorder);
+    }
+
+    void builtInPictureComesBehindTheFirstFrame()
+    {
+        const Pane pane;
+        QVERIFY(pane.ui.iconPreviewOne->picture().isNull());
+        QTRY_VERIFY_WITH_TIMEOUT(!pane.ui.iconPreviewOne->picture().isNull(), 30000);
+        QCOMPARE(pane.ui.sourceIconView->picture().width(), pane.ui.sourceIconView->pixelSide());
+        QCOMPARE(pane.ui.iconPreviewFive->picture().width(), pane.ui.iconPreviewFive->pixelSide());
+    }
+
+    void sourceTakenBeforeTheBuiltInPictureCameStays()
+    {
+        const QTemporaryDir folder;
+        Pane pane;
+        pane.tool.createIconFromURL(savePicture(folder, u"mine.png"_s, {1024, 1024}));
+        const QImage taken = pane.tool.icon();
+        QVERIFY(QTest::qWaitForWindowExposed(&pane.window));
+        QTest::qWait(500);
+        QCOMPARE(pane.tool.icon(), taken);
+        QCOMPARE(pane.ui.iconPreviewOne->picture(), resizeImage(taken, pane.ui.iconPreviewOne->pixelSide()));
     }
 
     void popupAnchorsSitTwoLevelsBelowTheRoot()
@@ -195,7 +216,7 @@ private slots:
 
     void droppedColorsAndEmptyDropsChangeNothing()
     {
-        const Pane pane;
+        Pane pane;
         const QImage before = pane.tool.icon();
         pane.ui.dropView->delegate()->dropViewReceivedColor(Qt::red);
         pane.ui.dropView->delegate()->dropViewReceivedFiles({});
@@ -269,7 +290,8 @@ private slots:
     {
         QFETCH(QList<int>, clicks);
         QFETCH(int, mode);
-        const Pane pane;
+        Pane pane;
+        pane.tool.editPreviewIcon();
         for (const int click : clicks)
             (click == 6 ? pane.ui.customIconRoundedSixCheckbox : pane.ui.customIconRoundedCheckbox)->click();
         QCOMPARE(pane.tool.cornerMode(), mode);
@@ -293,6 +315,7 @@ private slots:
     {
         Pane pane;
         QVERIFY(QTest::qWaitForWindowExposed(&pane.window));
+        pane.tool.editPreviewIcon();
         const QImage shown = pane.ui.iconPreviewTwo->grab().toImage().convertToFormat(QImage::Format_RGB32);
         const QImage picture = pane.ui.iconPreviewTwo->picture();
         const QPoint middle = picture.rect().center();

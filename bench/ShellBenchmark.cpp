@@ -1,0 +1,135 @@
+// SPDX-License-Identifier: MIT
+// Times tool switches up to the drawn frame, and how long the event loop stalls while all platforms are exported.
+#include "app/AppDelegate.h"
+#include "app/ITSidebar.h"
+#include "app/ToolTable.h"
+#include "app/services/RecordingServices.h"
+#include "icons/IconsViewController.h"
+#include "resources/Resources.h"
+#include "ui_IconsViewController.h"
+#include "widgets/AppStyle.h"
+#include "widgets/INAppStoreWindow.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QLocale>
+#include <QTemporaryDir>
+#include <QTextStream>
+#include <QTimer>
+
+#include <array>
+#include <vector>
+
+namespace
+{
+
+using namespace lumora;
+
+double milliseconds(qint64 nanoseconds)
+{
+    return static_cast<double>(nanoseconds) / 1e6;
+}
+
+void timeSwitches(AppDelegate &delegate, QTextStream &out)
+{
+    const auto tools = static_cast<qint32>(toolTable().size());
+    std::vector<qint64> times;
+    for (int round = 0; round < 40; ++round) {
+        for (qint32 index = 0; index < tools; ++index) {
+            QElapsedTimer clock;
+            clock.start();
+            delegate.sideBar()->setSelectedIndex(index);
+            QApplication::processEvents();
+            // The first rounds lay each pane out and fill the picture caches.
+            if (round >= 2)
+                times.push_back(clock.nsecsElapsed());
+        }
+    }
+    std::sort(times.begin(), times.end());
+    out << "tool switch to drawn frame, " << times.size() << " switches of " << tools << " tools: median "
+        << milliseconds(times[times.size() / 2]) << " ms, 95% " << milliseconds(times[times.size() * 95 / 100])
+        << " ms, longest " << milliseconds(times.back()) << " ms\n";
+}
+
+/// A timer that should fire every millisecond; how much later it does is how long the loop could not take input.
+class Heartbeat final : public QObject
+{
+public:
+    Heartbeat()
+    {
+        m_timer.setTimerType(Qt::PreciseTimer);
+        m_timer.setInterval(1);
+        connect(&m_timer, &QTimer::timeout, this, [this] { beat(); });
+        m_clock.start();
+        m_timer.start();
+    }
+
+    void print(QTextStream &out) const
+    {
+        static constexpr std::array<double, 7> limits = {2, 4, 8, 16, 30, 60, 1e9};
+        std::array<int, limits.size()> counts{};
+        for (const qint64 gap : m_gaps) {
+            const auto place =
+                std::find_if(limits.begin(), limits.end(), [gap](double limit) { return milliseconds(gap) <= limit; });
+            ++counts.at(static_cast<std::size_t>(place - limits.begin()));
+        }
+        for (std::size_t bucket = 0; bucket < limits.size(); ++bucket) {
+            const bool last = bucket + 1 == limits.size();
+            out << "  " << (last ? QStringLiteral("above 60") : QStringLiteral("to %1").arg(limits.at(bucket)))
+                << " ms: " << counts.at(bucket) << '\n';
+        }
+        out << "  longest " << milliseconds(*std::max_element(m_gaps.begin(), m_gaps.end())) << " ms\n";
+    }
+
+private:
+    void beat()
+    {
+        m_gaps.push_back(m_clock.nsecsElapsed());
+        m_clock.restart();
+    }
+
+    QTimer m_timer;
+    QElapsedTimer m_clock;
+    std::vector<qint64> m_gaps;
+};
+
+void timeStalls(AppDelegate &delegate, RecordingServices &services, QTextStream &out)
+{
+    auto &icons = static_cast<IconsViewController &>(*delegate.controllers().front());
+    delegate.sideBar()->setSelectedIndex(0);
+    for (CheckboxButton *box :
+         {icons.outlets().iPhoneCheckbox, icons.outlets().iPadCheckbox, icons.outlets().macCheckbox,
+          icons.outlets().androidCheckbox, icons.outlets().webTouchCheckbox, icons.outlets().favIconCheckbox})
+        box->click();
+    const QTemporaryDir folder;
+    icons.outlets().generateIconsButton->click();
+    QElapsedTimer clock;
+    clock.start();
+    const Heartbeat heartbeat;
+    services.folderChooser.confirm(folder.path());
+    while (icons.outlets().generateIconsButton->text() != qtTrId("ICONS_DONE"))
+        QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    out << "event loop while all platforms are exported (" << clock.elapsed() << " ms), gaps between heartbeats:\n";
+    heartbeat.print(out);
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    applyAppStyle();
+    const QApplication application(argc, argv);
+    loadResources();
+    installTexts(*qApp, QLocale(QStringLiteral("en_GB")));
+    applyAppColors();
+    QLoggingCategory::setFilterRules(QStringLiteral("*.info=false"));
+    RecordingServices services;
+    AppDelegate delegate(services.services());
+    delegate.applicationDidFinishLaunching();
+    delegate.activate();
+    while (!delegate.window()->windowHandle()->isExposed())
+        QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    QTextStream out(stdout);
+    timeSwitches(delegate, out);
+    timeStalls(delegate, services, out);
+}
