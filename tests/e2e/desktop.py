@@ -86,9 +86,16 @@ class Desktop:
         self.environment["DISPLAY"] = self._start_x()
         self.environment["DBUS_SESSION_BUS_ADDRESS"] = self._start_bus()
         self.run("openbox", "--sm-disable")
+        wait_for("the window manager", self._is_managed)
         self.run("/usr/libexec/at-spi-bus-launcher", "--launch-immediately")
         # What this process asks the accessibility bus comes from its own environment.
         os.environ.update(self.environment)
+
+    def _is_managed(self):
+        # A window that is mapped while the window manager takes over may be lost to both.
+        answer = subprocess.run(["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"], env=self.environment,
+                                capture_output=True, text=True)
+        return "window id" in answer.stdout
 
     def _start_x(self):
         # Several desktops may be on their way up at once; whoever asks for a number that is taken tries another.
