@@ -102,7 +102,8 @@ class Desktop:
         for _ in range(20):
             number = random.randint(200, 30000)
             read, write = os.pipe()
-            server = self.run("Xvfb", f":{number}", "-displayfd", str(write), "-screen", "0", f"{self.size}x24",
+            # Without -noreset the server throws out whoever is connecting while its only client leaves.
+            server = self.run("Xvfb", f":{number}", "-noreset", "-displayfd", str(write), "-screen", "0", f"{self.size}x24",
                               "-nolisten", "tcp", pass_fds=[write])
             os.close(write)
             with os.fdopen(read) as answer:

@@ -121,6 +121,7 @@ def popover_follows_its_anchor_when_it_moves_in_the_window():
         check(probe.report()["popover"], "the popover was closed")
 
 
-program = sys.argv[1]
-run([popover_lands_below_its_anchor, popover_lands_above_its_anchor, faded_popover_lands_below_its_anchor,
-     popover_goes_and_comes_back, popover_follows_its_anchor_when_it_moves_in_the_window])
+if __name__ == "__main__":
+    program = sys.argv[1]
+    run([popover_lands_below_its_anchor, popover_lands_above_its_anchor, faded_popover_lands_below_its_anchor,
+         popover_goes_and_comes_back, popover_follows_its_anchor_when_it_moves_in_the_window])
