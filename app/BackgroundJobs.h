@@ -35,15 +35,16 @@ private:
 /// Work off the main thread for one controller.
 ///
 ///     m_jobs.start([this, folder, picture = m_icon](const BackgroundJob &job) {
-///         job.post([this] { m_caption->show(qtTrId("ICONS_EXPORTING")); });
-///         const Result result = exportIcons(picture, folder);     // values that were copied, nothing of the
-///         controller job.post([this, result] { showResult(result); });       // runs on the main thread
+///         // On the job's thread: only values that were copied.
+///         const Result result = exportIcons(picture, folder);
+///         // On the main thread:
+///         job.post([this, result] { showResult(result); });
 ///     });
 ///
 /// A job copies the values it needs into its closure and reaches nothing else; `this` stands in the closure for the
 /// posted functions only. Being destroyed waits for the jobs that were begun, so that no file is left half-written, and
-/// drops those of a serial row whose turn has not come and whatever was posted and not yet run: make the BackgroundJobs the controller's last member, so
-/// that it goes first. Made, used and destroyed on the main thread.
+/// drops those of a serial row whose turn has not come and whatever was posted and not yet run: make the BackgroundJobs
+/// the controller's last member, so that it goes first. Made, used and destroyed on the main thread.
 class BackgroundJobs final : public QObject
 {
     Q_OBJECT

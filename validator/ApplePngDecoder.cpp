@@ -30,7 +30,7 @@ struct Pass
 
 constexpr std::array<Pass, 1> wholePicture = {{{0, 0, 1, 1}}};
 
-/// Adam7 (PNG specification, section 8.2).
+/// The seven passes of PNG's Adam7 interlacing.
 constexpr std::array<Pass, 7> interlacePasses = {
     {{0, 0, 8, 8}, {4, 0, 8, 8}, {0, 4, 4, 8}, {2, 0, 4, 4}, {0, 2, 2, 4}, {1, 0, 2, 2}, {0, 1, 1, 2}}};
 

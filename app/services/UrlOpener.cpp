@@ -11,7 +11,7 @@ namespace lumora
 namespace
 {
 
-/// The lists that the desktop's MIME application specification names, most important first.
+/// The desktop's lists of which program opens what, most important first.
 QStringList mimeAppsFiles()
 {
     QStringList names;

@@ -116,8 +116,8 @@ class FreshRoot(unittest.TestCase):
             assert result.returncode == 0, result.stdout
         else:
             cls.root = cls.installed()
-        shutil.rmtree(cls.root.folder / "work", ignore_errors=True)
-        (cls.root.folder / "work").mkdir()
+        shutil.rmtree(cls.root.folder / "scratch", ignore_errors=True)
+        (cls.root.folder / "scratch").mkdir()
 
     @classmethod
     def installed(cls):
@@ -146,8 +146,8 @@ class FreshRoot(unittest.TestCase):
         return result.stdout
 
     def work(self, name):
-        """The path that the program knows a file in the work folder by."""
-        return f"/work/{name}" if AS_ROOT else str(self.root.folder / "work" / name)
+        """The path that the program knows a file in the scratch folder by."""
+        return f"/scratch/{name}" if AS_ROOT else str(self.root.folder / "scratch" / name)
 
     def test_1_the_version_is_the_packages(self):
         self.assertEqual(self.lumora("--version"), f"lumora {VERSION}\n")
@@ -160,17 +160,17 @@ class FreshRoot(unittest.TestCase):
 
     def test_2_every_icon_is_written(self):
         self.lumora("icons", "--platform", "all", "--to", self.work("."))
-        written = [path for path in (self.root.folder / "work/icons").rglob("*") if path.is_file()]
+        written = [path for path in (self.root.folder / "scratch/icons").rglob("*") if path.is_file()]
         # The catalogue's 51, and the Mac icon file.
         self.assertEqual(len(written), 52)
 
     def test_2_placeholders_are_written(self):
         self.lumora("placeholders", "--set", "mac", "--to", self.work("."))
-        self.assertEqual(len(list((self.root.folder / "work/placeholders").iterdir())), 4)
+        self.assertEqual(len(list((self.root.folder / "scratch/placeholders").iterdir())), 4)
 
     def test_2_pictures_that_need_a_plug_in_are_read(self):
         for kind in ("tiff", "webp"):
-            source = self.root.folder / "work" / f"source.{kind}"
+            source = self.root.folder / "scratch" / f"source.{kind}"
             made = run("convert", "-size", "1024x1024", "plasma:red-blue", source)
             self.assertEqual(made.returncode, 0, made.stdout)
             self.lumora("icon", self.work(source.name), "--size", "16", "--to", self.work("."))
