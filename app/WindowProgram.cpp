@@ -9,8 +9,10 @@
 #include "WindowArguments.h"
 #include "cli/CommandLine.h"
 #include "cli/Console.h"
+#include "foundation/Log.h"
 #include "foundation/Version.h"
 #include "resources/Resources.h"
+#include "validator/WorkFolder.h"
 #include "widgets/AppStyle.h"
 #include "widgets/INAppStoreWindow.h"
 #include "widgets/NamedImage.h"
@@ -50,6 +52,16 @@ void nameApplication()
     QApplication::setApplicationName(QStringLiteral("lumora"));
     QApplication::setApplicationVersion(QLatin1StringView(versionText));
     QApplication::setDesktopFileName(QLatin1StringView(applicationId));
+}
+
+/// Null where there is no room for one; the tool that works in it says so to whom it concerns.
+std::unique_ptr<WorkFolder> makeWorkFolder()
+{
+    auto folder = WorkFolder::makeCurrent();
+    if (folder)
+        return std::move(folder.value());
+    logLine(QStringLiteral("CreateError: ") + folder.failure().detail);
+    return nullptr;
 }
 
 void connectBus(BusApplication &bus, AppDelegate &delegate)
@@ -94,8 +106,12 @@ int runWindow(int argc, char **argv)
     QApplication::setApplicationDisplayName(qtTrId("APP_DEFAULT"));
     applyAppColors();
 
+    // Every path that the user named is absolute by now: the arguments were made so when they were read.
+    const std::unique_ptr<WorkFolder> workFolder = makeWorkFolder();
     DesktopServices desktop;
-    AppDelegate delegate(desktop.services());
+    Services services = desktop.services();
+    services.hasWorkFolder = workFolder != nullptr;
+    AppDelegate delegate(services);
     delegate.applicationDidFinishLaunching();
     const AppMenu menu(delegate);
     FileOpenFilter filter(delegate, nullptr);

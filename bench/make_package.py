@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
 """usage: make_package.py FILE.ipa [NAME]   An app package of 100 MB in 2,000 files, 200 of them pictures; with NAME of the
-pictures only, called NAME000.png and so on."""
+pictures only, called NAME000.png and so on; with a number instead of NAME as the first, of so many MB."""
 
 import plistlib
 import random
@@ -11,7 +11,7 @@ import zipfile
 import zlib
 
 FILES = 2000
-BYTES = 100 << 20
+USUAL_MEGABYTES = 100
 PICTURES = 200
 
 
@@ -38,8 +38,10 @@ def content(generator, size):
 
 
 def main():
-    pictures_only = len(sys.argv) > 2
-    name = sys.argv[2] if pictures_only else "picture"
+    argument = sys.argv[2] if len(sys.argv) > 2 else str(USUAL_MEGABYTES)
+    pictures_only = not argument.isdigit()
+    name = argument if pictures_only else "picture"
+    part = 0 if pictures_only else (int(argument) << 20) // (FILES - 1 - PICTURES)
     generator = random.Random(1)
     app = "Payload/Bench.app/"
     with zipfile.ZipFile(sys.argv[1], "w", zipfile.ZIP_DEFLATED) as archive:
@@ -50,7 +52,7 @@ def main():
         for number in range(PICTURES):
             archive.writestr(f"{app}{name}{number:03}.png", picture)
         for number in range(0 if pictures_only else FILES - 1 - PICTURES):
-            archive.writestr(f"{app}part{number % 40:02}/file{number:04}.dat", content(generator, BYTES // (FILES - 1 - PICTURES)))
+            archive.writestr(f"{app}part{number % 40:02}/file{number:04}.dat", content(generator, part))
 
 
 if __name__ == "__main__":

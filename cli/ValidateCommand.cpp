@@ -9,11 +9,13 @@
 
 #include <CLI/Validators.hpp>
 
+#include <QFile>
 #include <QFileInfo>
 #include <QJsonArray>
 
 #include <algorithm>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -32,17 +34,29 @@ struct ValidateArguments
     bool json = false;
 };
 
-Result<PackageReport> inspected(const QString &file, const ProfileDecoder &decoder)
+/// A path as it was given, and as it is reached from any folder.
+struct GivenPath
 {
-    if (!isPackageName(file))
-        return Failure{FailureCode::NotAnArchive, file, u"the name does not end in .ipa"_s};
+    explicit GivenPath(const std::string &argument)
+        : given(QFile::decodeName(argument.c_str())), absolute(QFileInfo(given).absoluteFilePath())
+    {
+    }
+
+    QString given;
+    QString absolute;
+};
+
+Result<PackageReport> inspected(const GivenPath &file, const ProfileDecoder &decoder)
+{
+    if (!isPackageName(file.given))
+        return Failure{FailureCode::NotAnArchive, file.given, u"the name does not end in .ipa"_s};
     // A folder of its own for each package: what one leaves behind neither fills the disk nor meets the next.
-    const auto folder = WorkFolder::make();
+    const auto folder = WorkFolder::makeCurrent();
     if (!folder)
         return folder.failure();
-    PackageReport report = inspectPackage(QFileInfo(file).absoluteFilePath(), {folder.value()->path(), decoder});
+    PackageReport report = inspectPackage(file.absolute, {{}, decoder});
     if (auto failure = reportFailure(report)) {
-        failure->subject = file;
+        failure->subject = file.given;
         return *failure;
     }
     return report;
@@ -56,35 +70,34 @@ void complainOfDamage(Console &console, const QString &file, const PackageReport
         console.complain(printableText(file + u": has no readable Info.plist, so nothing is known of the app"_s));
 }
 
-bool writeIcon(Console &console, const QString &file, const PackageReport &report, const QString &path)
+bool writeIcon(Console &console, const QString &file, const PackageReport &report, const GivenPath &path)
 {
     if (report.artwork.appIcon.isNull()) {
         console.complain(printableText(file + u": has no icon that can be shown, so none was written"_s));
         return false;
     }
-    const Outcome saved = saveImage(report.artwork.appIcon, BitmapType::Png, path);
+    const Outcome saved = saveImage(report.artwork.appIcon, BitmapType::Png, path.absolute);
     if (!saved)
-        console.complain(saved.failure());
+        console.complain(Failure{saved.failure().code, path.given, saved.failure().detail});
     return saved.ok();
 }
 
-ExitStatus validateOne(Console &console, const QString &file, const ValidateArguments &arguments,
+ExitStatus validateOne(Console &console, const GivenPath &file, const std::optional<GivenPath> &icon, bool json,
                        const ProfileDecoder &decoder, QJsonArray &objects)
 {
     const auto report = inspected(file, decoder);
     if (!report) {
         console.complain(report.failure());
-        objects += failureJson(file, report.failure());
+        objects += failureJson(file.given, report.failure());
         return ExitStatus::Unreadable;
     }
-    complainOfDamage(console, file, report.value());
-    objects += reportJson(file, report.value());
-    if (!arguments.json) {
-        for (const QString &line : reportLines(file, report.value()))
+    complainOfDamage(console, file.given, report.value());
+    objects += reportJson(file.given, report.value());
+    if (!json) {
+        for (const QString &line : reportLines(file.given, report.value()))
             console.print(line);
     }
-    const bool iconWritten =
-        arguments.icon.empty() || writeIcon(console, file, report.value(), QString::fromStdString(arguments.icon));
+    const bool iconWritten = !icon || writeIcon(console, file.given, report.value(), *icon);
     return allJudgedValid(report.value()) && iconWritten ? ExitStatus::Done : ExitStatus::Refused;
 }
 
@@ -94,19 +107,21 @@ ExitStatus runValidate(Console &console, const ValidateArguments &arguments)
         console.complain(u"--icon: writes the icon of one file, but several are given"_s);
         return ExitStatus::Usage;
     }
+    // All paths first: the folder that each package is unpacked in becomes the current one.
+    const std::vector<GivenPath> files(arguments.files.begin(), arguments.files.end());
+    const auto icon = arguments.icon.empty() ? std::nullopt : std::optional<GivenPath>(arguments.icon);
     const auto decoder = systemProfileDecoder();
     ExitStatus status = ExitStatus::Done;
     QJsonArray objects;
-    for (std::size_t i = 0; i < arguments.files.size(); ++i) {
-        const QString file = QString::fromStdString(arguments.files[i]);
+    for (std::size_t i = 0; i < files.size(); ++i) {
         if (i > 0 && !arguments.json)
             console.print(QString());
-        const ExitStatus one = validateOne(console, file, arguments, *decoder, objects);
+        const ExitStatus one = validateOne(console, files[i], icon, arguments.json, *decoder, objects);
         // "Could not be read" outranks "something is invalid", which outranks "all is well".
         status = std::max(status, one);
     }
     if (arguments.json)
-        console.print(arguments.files.size() == 1 ? QJsonDocument(objects.first().toObject()) : QJsonDocument(objects));
+        console.print(files.size() == 1 ? QJsonDocument(objects.first().toObject()) : QJsonDocument(objects));
     return status;
 }
 

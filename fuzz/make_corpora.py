@@ -26,6 +26,7 @@ def main():
     seed(out / "fuzz_archive", "make_packages.py", "*.ipa")
     seed(out / "fuzz_property_list", "make_property_lists.py", "*.plist")
     seed(out / "fuzz_signed_message", "make_profiles.py", "*.mobileprovision")
+    seed(out / "fuzz_signed_message", "make_profiles.py", "*.mobileprovision", "forms")
     seed(out / "fuzz_apple_png", "make_pictures.py", "*.png")
 
 

@@ -2,13 +2,12 @@
 #include "ValidaterViewController.h"
 
 #include "BundleImages.h"
-#include "PrintableText.h"
+#include "ShownFact.h"
 #include "ValidatePopupContentView.h"
 #include "app/ButtonStyle.h"
 #include "app/DropHighlight.h"
 #include "app/LabelStyle.h"
 #include "app/PopoverStyle.h"
-#include "foundation/Log.h"
 #include "ui_ValidaterViewController.h"
 #include "widgets/Fonts.h"
 #include "widgets/Palette.h"
@@ -32,15 +31,6 @@ constexpr int readingSize = 18;
 constexpr int informationSize = 13;
 /// What a box of absent things is drawn at in all; being disabled is part of it.
 constexpr double absentOpacity = 0.25;
-/// A fact is one line; what a hostile package puts in its place may be megabytes.
-constexpr qsizetype longestShownFact = 120;
-
-QString shownFact(const QString &value)
-{
-    const QString line = printableText(value);
-    return line.size() > longestShownFact ? line.first(longestShownFact) + u'…' : line;
-}
-
 /// The key's text with its placeholder filled, once per missing size.
 QStringList sentences(const char *key, QLatin1StringView placeholder, const QList<QSize> &sizes)
 {
@@ -48,6 +38,18 @@ QStringList sentences(const char *key, QLatin1StringView placeholder, const QLis
     for (const QSize size : sizes)
         list += qtTrId(key).replace(placeholder, sizeText(size));
     return list;
+}
+
+/// What a box shows by its picture, in words for those who do not see it; the key's text names the box.
+void tell(CheckboxButton *box, const QString &verdict)
+{
+    box->setAccessibleName(QString(verdict).replace("[CHECK]"_L1, box->text()));
+}
+
+void judge(CheckboxButton *box, bool valid)
+{
+    box->setInvalid(!valid);
+    tell(box, valid ? qtTrId("ACCESSIBLE_CHECK_PASSED") : qtTrId("ACCESSIBLE_CHECK_FAILED"));
 }
 
 /// Stands where the app's icon would be: the outline of one.
@@ -61,6 +63,12 @@ QPixmap missingIcon(qreal devicePixelRatio)
     painter.setPen(QPen(palette::panelOutline, 2, Qt::DashLine));
     painter.drawRoundedRect(QRectF(1, 1, appIconSize - 2, appIconSize - 2), missingIconRadius, missingIconRadius);
     return picture;
+}
+
+/// A package that cannot be read shows up as empty. One that was too much for this machine needs a word.
+bool isTooMuch(FailureCode code)
+{
+    return code == FailureCode::TooLarge || code == FailureCode::CannotWrite || code == FailureCode::CannotCreateFolder;
 }
 
 QList<QSize> squares(const QList<int> &edges)
@@ -78,11 +86,6 @@ ValidaterViewController::ValidaterViewController(const Services &services, QObje
       m_profileDecoder(systemProfileDecoder())
 {
     m_ui->setupUi(view());
-    auto folder = WorkFolder::make();
-    if (folder)
-        m_workFolder = std::move(folder.value());
-    else
-        logLine(u"CreateError: "_s + folder.failure().detail);
     awakeFromNib();
     connectActions();
     setOpacity(m_ui->validateInterface, 0);
@@ -112,6 +115,8 @@ void ValidaterViewController::awakeFromNib()
     styleButton(m_ui->resetButton, qtTrId("CLOSE"), u"button_icon_close"_s, palette::chromeText,
                 palette::chromeTextDark);
     styleLabel(m_ui->readingLoaderField, latoRegular(readingSize), palette::chromeText);
+    // It lies over the report, which can be pressed while it still fades.
+    m_ui->readingLoaderField->setAttribute(Qt::WA_TransparentForMouseEvents);
     for (QLabel *field : {m_ui->appNameField, m_ui->appVersionField, m_ui->appPlatformField, m_ui->appMinOSField,
                           m_ui->appBundleIDField, m_ui->appBuildField}) {
         styleLabel(field, latoRegular(fontSize), palette::chromeText);
@@ -201,45 +206,6 @@ void ValidaterViewController::paste()
         dropViewReceivedFiles(files);
 }
 
-void ValidaterViewController::foundIpaFile(const QString &path)
-{
-    // A package that the system hands over while another is read or shown takes its place.
-    m_stop.request_stop();
-    m_stop = std::stop_source();
-    reset();
-    m_facts.ipaPath = path;
-    readyForIpa();
-    m_ui->readingLoaderField->setText(
-        qtTrId("VALIDATER_READING").replace("[FILE]"_L1, shownFact(QFileInfo(path).fileName())));
-    if (!m_workFolder) {
-        updateInterface(m_facts, Failure{FailureCode::CannotCreateFolder, path, {}});
-        validate({});
-        return;
-    }
-    const InspectionSite site{m_workFolder->path(), *m_profileDecoder, {}, m_stop.get_token()};
-    const quint64 reading = ++m_reading;
-    m_jobs.start([this, path, site, reading](const BackgroundJob &job) { unzipApp(job, path, site, this, reading); });
-}
-
-void ValidaterViewController::unzipApp(const BackgroundJob &job, const QString &path, const InspectionSite &site,
-                                       ValidaterViewController *controller, quint64 reading)
-{
-    const Extraction extraction = extractPackage(path, site);
-    if (!site.stop.stop_requested()) {
-        const PackageFacts facts = readBundle(path, site);
-        job.post([controller, reading, facts, stopped = extraction.failure] {
-            if (controller->m_reading == reading)
-                controller->updateInterface(facts, stopped);
-        });
-        const ArtworkReport artwork = checkArtwork(facts, site);
-        job.post([controller, reading, artwork] {
-            if (controller->m_reading == reading)
-                controller->validate(artwork);
-        });
-    }
-    removePayload(site);
-}
-
 void ValidaterViewController::readyForIpa()
 {
     setOpacity(m_ui->dropView, 0);
@@ -274,6 +240,7 @@ void ValidaterViewController::reset()
         box->setEnabled(false);
         box->setActive(false);
         box->setIdle();
+        box->setAccessibleName(QString());
     }
     for (QWidget *hidden : {static_cast<QWidget *>(m_ui->appIconField), static_cast<QWidget *>(m_ui->validatingTitle),
                             static_cast<QWidget *>(m_ui->resetButton), static_cast<QWidget *>(m_ui->readingLoaderField),
@@ -315,8 +282,7 @@ void ValidaterViewController::updateInterface(const PackageFacts &facts, const s
                             << m_ui->validLocalizationsBox,
                 1);
     m_fade.fade({m_ui->readingLoaderField}, 0);
-    // A package that cannot be read shows up as empty. One that was too much for this machine needs a word.
-    if (stopped && stopped->code != FailureCode::NotAnArchive && stopped->code != FailureCode::NotFound)
+    if (stopped && isTooMuch(stopped->code))
         showValidatePopupWithTitle(qtTrId("VALIDATER_STOPPED_TITLE"), qtTrId("VALIDATER_STOPPED_MESSAGE"),
                                    m_ui->validatingTitle, true);
 }
@@ -329,10 +295,10 @@ void ValidaterViewController::validate(const ArtworkReport &artwork)
                                                            : QPixmap::fromImage(artwork.appIcon));
 
     const MetadataVerdicts verdicts = metadataVerdicts(m_facts);
-    m_ui->validAppIconsBox->setInvalid(!m_invalidAppIconsArray.isEmpty());
-    m_ui->validDefaultImagesBox->setInvalid(!m_invalidDefaultsArray.isEmpty());
-    m_ui->validBundleIdentifier->setInvalid(!verdicts.bundleIdentifierValid);
-    m_ui->validLocalizationsBox->setInvalid(!verdicts.localizationsValid);
+    judge(m_ui->validAppIconsBox, m_invalidAppIconsArray.isEmpty());
+    judge(m_ui->validDefaultImagesBox, m_invalidDefaultsArray.isEmpty());
+    judge(m_ui->validBundleIdentifier, verdicts.bundleIdentifierValid);
+    judge(m_ui->validLocalizationsBox, verdicts.localizationsValid);
     showPresence(m_ui->validURLSchemesBox, verdicts.urlSchemesPresent);
     showPresence(m_ui->validFacebookAppIDBox, verdicts.facebookAppIDPresent);
     m_fade.fade(
@@ -342,11 +308,12 @@ void ValidaterViewController::validate(const ArtworkReport &artwork)
 
 void ValidaterViewController::showPresence(CheckboxButton *box, bool present)
 {
-    box->setInvalid(false);
+    judge(box, true);
     box->setEnabled(present);
     if (!present) {
         box->setActive(false);
         box->setIdle();
+        tell(box, qtTrId("ACCESSIBLE_CHECK_ABSENT"));
     }
     setOpacity(box, present ? 1 : absentOpacity / palette::disabledOpacity);
 }

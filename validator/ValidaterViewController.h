@@ -4,7 +4,6 @@
 #include "MetadataChecks.h"
 #include "OpacityFade.h"
 #include "PackageInspection.h"
-#include "WorkFolder.h"
 #include "app/BackgroundJobs.h"
 #include "app/DropView.h"
 #include "app/StyledText.h"
@@ -91,9 +90,14 @@ private:
     void foundIpaFile(const QString &path);
     void readyForIpa();
     void reset();
-    /// Runs the whole inspection; on the background queue.
-    static void unzipApp(const BackgroundJob &job, const QString &path, const InspectionSite &site,
-                         ValidaterViewController *controller, quint64 reading);
+
+    /// One package on its way through the background queue, where the steps below run one after the other.
+    struct Reading;
+    static void unzipApp(Reading reading);
+    static void beginGatheringInfo(const Reading &reading);
+    static void fetchAppContents(const Reading &reading);
+    static void startValidate(const Reading &reading, const PackageFacts &facts);
+    static void doneGatheringInfo(const Reading &reading);
 
     void updateInterface(const PackageFacts &facts, const std::optional<Failure> &stopped);
     void validate(const ArtworkReport &artwork);
@@ -104,7 +108,6 @@ private:
 
     std::unique_ptr<Ui::ValidaterViewController> m_ui;
     std::unique_ptr<ProfileDecoder> m_profileDecoder;
-    std::unique_ptr<WorkFolder> m_workFolder; ///< null where none could be made
     std::unique_ptr<SFBPopover> m_validatePopup;
     ValidatePopupContentView *m_validatePopupContentView = nullptr; ///< owned by the popover
     OpacityFade m_fade;

@@ -85,17 +85,24 @@ Result<std::unique_ptr<WorkFolder>> WorkFolder::make(const QString &parent)
     return Failure{FailureCode::CannotCreateFolder, parent, error == 0 ? QString() : qt_error_string(error)};
 }
 
-WorkFolder::~WorkFolder()
+Result<std::unique_ptr<WorkFolder>> WorkFolder::makeCurrent()
 {
-    // A process must not be left in a folder that is gone.
-    if (QDir::currentPath() == QDir(m_path).canonicalPath())
-        QDir::setCurrent(u"/"_s);
-    QDir(m_path).removeRecursively();
+    const QString before = QDir::currentPath();
+    auto folder = make();
+    if (!folder)
+        return folder;
+    if (!QDir::setCurrent(folder.value()->path()))
+        return Failure{FailureCode::CannotCreateFolder, folder.value()->path(), qt_error_string(errno)};
+    folder.value()->m_before = before;
+    return folder;
 }
 
-bool WorkFolder::makeCurrent() const
+WorkFolder::~WorkFolder()
 {
-    return QDir::setCurrent(m_path);
+    // A process must not be left in a folder that is gone. The one it came from may be gone by now, too.
+    if (QDir::currentPath() == QDir(m_path).canonicalPath() && (m_before.isEmpty() || !QDir::setCurrent(m_before)))
+        QDir::setCurrent(u"/"_s);
+    QDir(m_path).removeRecursively();
 }
 
 } // namespace lumora

@@ -21,17 +21,19 @@ public:
     static Result<std::unique_ptr<WorkFolder>> make();
     /// The same below a folder of the caller's choice.
     static Result<std::unique_ptr<WorkFolder>> make(const QString &parent);
+    /// A fresh folder that is the process's current one until it goes. What the user names by relative path has to be
+    /// resolved before.
+    static Result<std::unique_ptr<WorkFolder>> makeCurrent();
     ~WorkFolder();
     Q_DISABLE_COPY_MOVE(WorkFolder)
 
     const QString &path() const { return m_path; }
-    /// Makes it the process's current folder. What the user names by relative path has to be resolved before.
-    bool makeCurrent() const;
 
 private:
     WorkFolder(QString path, FileDescriptor lock) : m_path(std::move(path)), m_lock(std::move(lock)) {}
 
     QString m_path;
+    QString m_before; ///< the process's current folder until this one took its place; empty where it did not
     FileDescriptor m_lock;
 };
 

@@ -24,6 +24,7 @@ bool ZipArchive::UnzipOpenFile(const QString &path)
     unz_global_info info = {};
     if (::unzGetGlobalInfo(m_unzFile, &info) == UNZ_OK)
         logLine(u"%1 entries in the zip file"_s.arg(info.number_entry));
+    m_entriesClaimed = info.number_entry;
     return true;
 }
 

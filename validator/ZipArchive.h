@@ -101,6 +101,7 @@ private:
     std::shared_ptr<ZipArchiveDelegate> m_delegate;
 
     QString m_path; ///< of the archive open for reading
+    std::uint64_t m_entriesClaimed = 0;
     ExtractionLimits m_limits;
     std::stop_token m_stop;
     std::optional<Failure> m_failure;

@@ -55,9 +55,10 @@ bool ZipArchive::UnzipFileTo(const QString &path, bool overWrite)
     m_bytes = 0;
     m_bytesUntilDiskCheck = 0;
 
-    unz_global_info info = {};
-    if (m_unzFile != nullptr && ::unzGetGlobalInfo(m_unzFile, &info) == UNZ_OK && info.number_entry > m_limits.entries)
-        return stop(FailureCode::TooLarge, u"%1 entries"_s.arg(info.number_entry)) == Step::Next;
+    if (m_unzFile != nullptr && m_entriesClaimed > m_limits.entries) {
+        stop(FailureCode::TooLarge, u"%1 entries"_s.arg(m_entriesClaimed));
+        return false;
+    }
     auto folder = ExtractionFolder::open(path);
     if (!folder) {
         m_failure = folder.failure();

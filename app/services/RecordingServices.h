@@ -100,8 +100,9 @@ struct RecordingServices
     RecordingFolderChooser folderChooser;
     RecordingUrlOpener urlOpener;
     RecordingClipboard clipboard;
+    bool hasWorkFolder = false; ///< a test that makes one says so
 
-    Services services() { return {fileChooser, folderChooser, urlOpener, clipboard}; }
+    Services services() { return {fileChooser, folderChooser, urlOpener, clipboard, hasWorkFolder}; }
 };
 
 } // namespace lumora

@@ -17,6 +17,9 @@ struct Services
     FolderChooser &folderChooser;
     UrlOpener &urlOpener;
     Clipboard &clipboard;
+    /// The process's current folder is a private one that goes with the process, so that relative paths may be
+    /// written to.
+    bool hasWorkFolder = false;
 };
 
 /// The services of the real desktop, owned in one place: the program's main().

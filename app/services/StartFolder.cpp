@@ -10,9 +10,9 @@ namespace lumora
 
 QString existingStartFolder(const QString &wanted)
 {
-    if (wanted.isEmpty())
-        return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    QString folder = QDir::cleanPath(QFileInfo(wanted).absoluteFilePath());
+    const QString start =
+        wanted.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) : wanted;
+    QString folder = QDir::cleanPath(QFileInfo(start).absoluteFilePath());
     while (!QFileInfo(folder).isDir())
         folder = QFileInfo(folder).absolutePath();
     return folder;

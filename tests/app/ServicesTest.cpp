@@ -3,7 +3,9 @@
 #include "app/LocalFiles.h"
 #include "app/services/StartFolder.h"
 
+#include <QDir>
 #include <QFileDialog>
+#include <QScopeGuard>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
@@ -45,7 +47,21 @@ private slots:
         const QString folder = temporary.path();
         QCOMPARE(existingStartFolder(folder), folder);
         QCOMPARE(existingStartFolder(folder + u"/gone/deeper"_s), folder);
-        QCOMPARE(existingStartFolder({}), QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+    }
+
+    void startsInTheUsersDocumentsOrHome()
+    {
+        const QTemporaryDir home;
+        const auto restored = [before = qgetenv("HOME"), config = qgetenv("XDG_CONFIG_HOME")] {
+            qputenv("HOME", before);
+            qputenv("XDG_CONFIG_HOME", config);
+        };
+        const auto guard = qScopeGuard(restored);
+        qputenv("HOME", QFile::encodeName(home.path()));
+        qputenv("XDG_CONFIG_HOME", QFile::encodeName(home.filePath(u".config"_s)));
+        QCOMPARE(existingStartFolder({}), home.path());
+        QVERIFY(QDir(home.path()).mkdir(u"Documents"_s));
+        QCOMPARE(existingStartFolder({}), home.filePath(u"Documents"_s));
     }
 
     void localFilesOfAddresses()

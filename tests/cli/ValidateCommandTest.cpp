@@ -179,6 +179,37 @@ private slots:
         QCOMPARE(treeBelow(folder.path()).keys(), (QStringList{u"App.ipa"_s, u"icon.png"_s}));
     }
 
+    void resolvesThePathsOfSeveralPackages()
+    {
+        const QTemporaryDir folder;
+        const QDir place(folder.path());
+        QVERIFY(place.mkdir(u"here"_s) && place.mkdir(u"there"_s));
+        QVERIFY(QFile::copy(package(u"valid"_s), place.filePath(u"here/A.ipa"_s)));
+        QVERIFY(QFile::copy(package(u"release"_s), place.filePath(u"there/B.ipa"_s)));
+        LumoraProcess process;
+        process.in(place.filePath(u"here"_s)).withVariable(u"TMPDIR"_s, u".."_s);
+        const LumoraRun run = process.run({u"validate"_s, u"A.ipa"_s, u"../there/B.ipa"_s, u"./A.ipa"_s, u"--json"_s});
+        QCOMPARE(run.status, 0);
+        const QJsonArray reports = QJsonDocument::fromJson(run.out).array();
+        QCOMPARE(reports.size(), 3);
+        QCOMPARE(reports[0][u"file"], QJsonValue(u"A.ipa"_s));
+        QCOMPARE(reports[1][u"file"], QJsonValue(u"../there/B.ipa"_s));
+        QCOMPARE(reports[1][u"build"], QJsonValue(u"release"_s));
+        QCOMPARE(reports[2][u"name"], QJsonValue(u"Demo"_s));
+        QCOMPARE(treeBelow(folder.path()).size(), 4);
+    }
+
+    void namesTheIconAsItWasGiven()
+    {
+        const QTemporaryDir folder;
+        QVERIFY(QFile::copy(package(u"valid"_s), folder.filePath(u"App.ipa"_s)));
+        LumoraProcess process;
+        const LumoraRun run =
+            process.in(folder.path()).run({u"validate"_s, u"App.ipa"_s, u"--icon"_s, u"no/icon.png"_s});
+        QCOMPARE(run.status, 1);
+        QVERIFY2(run.err.startsWith("lumora: no/icon.png: "), run.err);
+    }
+
     void cannotWriteTheIcon_data()
     {
         QTest::addColumn<QString>("name");

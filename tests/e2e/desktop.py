@@ -118,11 +118,11 @@ class Desktop:
         wait_for("the session bus", (self.folder / "runtime/bus").exists)
         return address
 
-    def run(self, *command, pass_fds=(), **variables):
-        """Starts a process of the desktop, with further environment variables."""
+    def run(self, *command, pass_fds=(), cwd=None, **variables):
+        """Starts a process of the desktop, in a folder of its own and with further environment variables."""
         with open(self.folder / "log", "a", encoding="utf-8") as log:
             process = subprocess.Popen(command, env=self.environment | variables, stdout=log, stderr=log,
-                                       pass_fds=pass_fds)
+                                       pass_fds=pass_fds, cwd=cwd)
         self.processes.append(process)
         return process
 
@@ -130,17 +130,17 @@ class Desktop:
         """All that the processes of the desktop wrote."""
         return (self.folder / "log").read_text("utf-8")
 
-    def start(self, *arguments):
-        """Starts Lumora and waits for its window."""
-        return Lumora(self, self._run_program(*arguments))
+    def start(self, *arguments, cwd=None):
+        """Starts Lumora, from a folder if one is given, and waits for its window."""
+        return Lumora(self, self._run_program(*arguments, cwd=cwd))
 
     def start_again(self, *arguments):
         """Starts it a second time and answers its exit status once it has ended."""
         return self._run_program(*arguments).wait(WAIT)
 
-    def _run_program(self, *arguments):
+    def _run_program(self, *arguments, cwd=None):
         # Its language alone: the locale itself may not be installed.
-        return self.run(str(self.program), *arguments, LC_ALL=self.language)
+        return self.run(str(self.program), *arguments, cwd=cwd, LC_ALL=self.language)
 
     # The mouse and the keyboard
 

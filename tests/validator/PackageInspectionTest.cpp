@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "validator/PackageInspection.h"
+#include "LogKeeper.h"
 #include "ScriptedFiles.h"
 #include "validator/BundleContents.h"
 #include "validator/LocalizationName.h"
@@ -49,7 +50,8 @@ private slots:
         QTest::addColumn<QString>("facts");
         QTest::addColumn<QStringList>("localizations");
         const QString demo = u"Demo|1.2.3|iPhone|7.0|com.example.app|fb123|123"_s;
-        for (const char *name : {"valid", "valid, packed backwards", "valid, XML list", "damaged icon"})
+        for (const char *name :
+             {"valid", "valid, packed backwards", "valid, XML list", "valid, with a Mac's own files", "damaged icon"})
             QTest::newRow(name) << demo << englishFrench;
         QTest::newRow("two apps") << u"Last|1.2.3|iPhone|7.0|com.example.app|fb123|123"_s << QStringList();
         QTest::newRow("no links") << u"Demo|1.2.3|iPhone|7.0|com.example.app|none|none"_s << englishFrench;
@@ -94,6 +96,22 @@ private slots:
         const auto failure = reportFailure(inspected());
         QVERIFY(failure);
         QTEST(failure->code, "code");
+    }
+
+    void logsWhatCannotBeListed_data()
+    {
+        QTest::addColumn<QStringList>("errors");
+        QTest::newRow("valid") << QStringList();
+        QTest::newRow("no app") << QStringList();
+        QTest::newRow("no archive") << QStringList{u"Content error: No such file or directory"_s};
+        QTest::newRow("payload is a file") << QStringList{u"Content error: Not a directory"_s};
+        QTest::newRow("app is a file") << QStringList{u"Content error: Not a directory"_s};
+    }
+    void logsWhatCannotBeListed()
+    {
+        const LogKeeper log;
+        inspected();
+        QTEST(log.lines().filter(u"error"_s), "errors");
     }
 
     void readsTheProfile_data()

@@ -21,19 +21,45 @@ private slots:
     void isPrivateCurrentAndGoesWithAllItHolds()
     {
         const QTemporaryDir parent;
+        qputenv("TMPDIR", QFile::encodeName(parent.path()));
         QString path;
         {
-            const auto folder = WorkFolder::make(parent.path());
+            QVERIFY(QDir::setCurrent(parent.path()));
+            const auto folder = WorkFolder::makeCurrent();
             QVERIFY(folder);
             path = folder.value()->path();
             QCOMPARE(QFileInfo(path).permissions() & (QFile::ReadGroup | QFile::ReadOther | QFile::ExeOther),
                      QFile::Permissions());
-            QVERIFY(folder.value()->makeCurrent());
             QCOMPARE(QDir::currentPath(), QDir(path).canonicalPath());
             QVERIFY(QDir().mkpath(u"Documents/app"_s));
+            QVERIFY(QFileInfo(path + u"/Documents/app"_s).isDir());
         }
         QVERIFY(!QFileInfo::exists(path));
+        QCOMPARE(QDir::currentPath(), QDir(parent.path()).canonicalPath());
+    }
+
+    void goesToTheRootWhereTheFolderItCameFromIsGone()
+    {
+        const QTemporaryDir parent;
+        const QTemporaryDir before;
+        qputenv("TMPDIR", QFile::encodeName(parent.path()));
+        QVERIFY(QDir::setCurrent(before.path()));
+        {
+            const auto folder = WorkFolder::makeCurrent();
+            QVERIFY(folder);
+            QVERIFY(QDir(before.path()).removeRecursively());
+        }
         QCOMPARE(QDir::currentPath(), u"/"_s);
+    }
+
+    void leavesTheCurrentFolderAloneWhereItIsAnother()
+    {
+        const QTemporaryDir parent;
+        QVERIFY(QDir::setCurrent(parent.path()));
+        QVERIFY(WorkFolder::make(u"."_s));
+        QCOMPARE(QDir::currentPath(), QDir(parent.path()).canonicalPath());
+        QVERIFY(QDir(parent.path()).isEmpty());
+        QDir::setCurrent(u"/"_s);
     }
 
     void removesWhatAKilledProcessLeft_data()

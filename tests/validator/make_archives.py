@@ -6,9 +6,12 @@ KINDS: makers, hand (both by default), many (70,000 entries), huge (over 4 GB un
 
 import os
 import shutil
+import struct
 import subprocess
 import sys
+import time
 import zipfile
+import zlib
 from pathlib import Path
 
 from zip_builder import DEFLATED, ENCRYPTED, SIZES_FOLLOW, STORED, SYMBOLIC_LINK, UTF8_NAME, Entry, build
@@ -48,6 +51,37 @@ def by_makers(out, tree):
             archive.write(path, path.relative_to(tree))
     with (out / "info-zip streamed.zip").open("wb") as stream:
         subprocess.run(["zip", "-qr", "-", "."], cwd=tree, check=True, stdout=stream)
+
+
+def by_layout(out, tree):
+    """The tree as makers lay it out that run on other systems."""
+    paths = sorted(tree.rglob("*"))
+
+    def date_and_time(path):
+        when = time.localtime(path.stat().st_mtime)
+        return {"date": (when.tm_year - 1980) << 9 | when.tm_mon << 5 | when.tm_mday,
+                "time": when.tm_hour << 11 | when.tm_min << 5 | when.tm_sec // 2}
+
+    def name(path):
+        return path.relative_to(tree).as_posix() + ("/" if path.is_dir() else "")
+
+    def write(maker, first, how_folders, how_files):
+        entries = [*first, *(Entry(name(path), b"", **how_folders(path), **date_and_time(path)) if path.is_dir() else
+                             Entry(name(path), path.read_bytes(), DEFLATED, flags=SIZES_FOLLOW, **how_files(path),
+                                   **date_and_time(path)) for path in paths)]
+        (out / f"{maker}.zip").write_bytes(build(entries))
+
+    def owner(path):
+        """Times in both headers, user and group in the local one; names are bytes of UTF-8 and no flag says so."""
+        times = struct.pack("<II", int(path.stat().st_atime), int(path.stat().st_mtime))
+        return {"extra": struct.pack("<2sH", b"UX", 8) + times,
+                "local_extra": struct.pack("<2sH", b"UX", 12) + times + struct.pack("<HH", 501, 20)}
+
+    write("ditto layout", [], owner, owner)
+    mark = struct.pack("<HH", 0xCAFE, 0)
+    write("java layout", [Entry("META-INF/", extra=mark, local_extra=mark),
+                          Entry("META-INF/MANIFEST.MF", b"Manifest-Version: 1.0\r\n\r\n", DEFLATED, flags=SIZES_FOLLOW)],
+          lambda _: {}, lambda _: {})
 
 
 def text(name, **lies):
@@ -132,8 +166,6 @@ def huge(out):
 
 def sparse(out):
     """An archive file of over 4 GB that is a hole but for its headers: a stored entry of zeros, then one beyond 4 GB."""
-    import struct
-    import zlib
     size = (4 << 30) + 4096
     crc = 0
     zeros = bytes(1 << 24)
@@ -168,6 +200,7 @@ def main():
         tree = out / "tree"
         plain_tree(tree)
         by_makers(out, tree)
+        by_layout(out, tree)
     if "hand" in kinds:
         by_hand(out)
     if "many" in kinds:

@@ -3,6 +3,7 @@
 """usage: make_packages.py FOLDER   App packages, each named for what it holds or lacks."""
 
 import plistlib
+import struct
 import sys
 import tempfile
 import zipfile
@@ -34,6 +35,15 @@ def bundle(files=None, *, plist=None, form=plistlib.FMT_BINARY, name="Demo.app")
     return made
 
 
+def claiming(entries):
+    """An empty archive whose directory's end says that there are so many entries."""
+    # At the very start of the file the end would not be looked for.
+    start = b"junk"
+    return (start + struct.pack("<4sQHHIIQQQQ", b"PK\6\6", 44, 45, 45, 0, 0, entries, entries, 0, len(start))
+            + struct.pack("<4sIQI", b"PK\6\7", 0, len(start), 1)
+            + struct.pack("<4sHHHHIIH", b"PK\5\6", 0, 0, 0xFFFF, 0xFFFF, 0, 0xFFFFFFFF, 0))
+
+
 def main():
     out = Path(sys.argv[1])
     with tempfile.TemporaryDirectory() as folder:
@@ -53,6 +63,9 @@ def main():
     write("valid", bundle(whole, plist=info()))
     write("valid, packed backwards", bundle(whole, plist=info()), reversed(list(bundle(whole, plist=info()))))
     write("valid, XML list", bundle(whole, plist=info(), form=plistlib.FMT_XML))
+    write("valid, with a Mac's own files", {
+        "__MACOSX/": b"", "__MACOSX/Payload/._Demo.app": b"\0\5\x16\7", ".DS_Store": b"\0\0\0\1Bud1",
+        "Payload/._Demo.app": b"\0\5\x16\7", **bundle({**whole, "._AppIcon57.png": b"\0\5\x16\7"}, plist=info())})
     write("release", bundle({**whole, "embedded.mobileprovision": store}, plist=info()))
     write("no profile", bundle({k: v for k, v in whole.items() if "embedded" not in k}, plist=info()))
     write("plain profile", bundle({**whole, "embedded.mobileprovision": profile("com.example.app")}, plist=info()))
@@ -96,6 +109,7 @@ def main():
     damaged[at : at + 8] = b"\xff" * 8
     (out / "damaged icon.ipa").write_bytes(damaged)
     (out / "no archive.ipa").write_bytes(b"text")
+    (out / "too many entries.ipa").write_bytes(claiming(600_000))
     (out / "cut off.ipa").write_bytes((out / "valid.ipa").read_bytes()[:-200])
 
 

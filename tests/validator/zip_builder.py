@@ -51,7 +51,7 @@ def build(entries, *, before=b"", after=b"", comment=b"", count=None, end=True):
         if zip64:
             local_sizes, local_extra = (OVERFLOWED, OVERFLOWED), struct.pack("<HHQQ", 1, 16, size, packed_size)
         else:
-            local_sizes, local_extra = (packed_size, size), b""
+            local_sizes, local_extra = (packed_size, size), entry.says("local_extra", b"")
         header = struct.pack("<HHHHHIIIHH", 45 if zip64 else 20, flags, method, time, date,
                              0 if follow else crc, *((0, 0) if follow else local_sizes),
                              len(entry.name), len(local_extra))

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+// usage: bench_validator FILE.ipa   How long the event loop stalls while the window reads the package.
+#include "Heartbeat.h"
+#include "app/AppDelegate.h"
+#include "app/services/RecordingServices.h"
+#include "resources/Resources.h"
+#include "validator/OpacityFade.h"
+#include "validator/WorkFolder.h"
+#include "widgets/AppStyle.h"
+#include "widgets/CheckboxButton.h"
+#include "widgets/INAppStoreWindow.h"
+
+#include <QApplication>
+#include <QFileInfo>
+#include <QLocale>
+#include <QLoggingCategory>
+
+int main(int argc, char **argv)
+{
+    using namespace lumora;
+    applyAppStyle();
+    const QApplication application(argc, argv);
+    QTextStream out(stdout);
+    const QFileInfo package(QApplication::arguments().value(1));
+    const QString path = package.absoluteFilePath();
+    const auto workFolder = WorkFolder::makeCurrent();
+    if (!package.isFile() || !workFolder) {
+        out << "bench_validator: needs a package, and a folder to work in\n";
+        return 2;
+    }
+    loadResources();
+    installTexts(*qApp, QLocale(QStringLiteral("en_GB")));
+    applyAppColors();
+    QLoggingCategory::setFilterRules(QStringLiteral("*.info=false"));
+    RecordingServices services{{}, {}, {}, {}, true};
+    AppDelegate delegate(services.services());
+    delegate.applicationDidFinishLaunching();
+    delegate.showTool(QStringLiteral("validator"));
+    delegate.activate();
+    while (!delegate.window()->windowHandle()->isExposed())
+        QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    // The first frames are the start's, not the reading's.
+    QElapsedTimer clock;
+    clock.start();
+    while (clock.elapsed() < 500)
+        QApplication::processEvents();
+
+    const auto *box = delegate.window()->findChild<CheckboxButton *>(QStringLiteral("validAppIconsBox"));
+    clock.restart();
+    const Heartbeat heartbeat;
+    delegate.applicationOpenFiles({path});
+    while (opacity(box) < 1)
+        QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    out << "event loop while " << (package.size() >> 20) << " MB are read and shown (" << clock.elapsed()
+        << " ms), gaps between heartbeats:\n";
+    heartbeat.print(out);
+}

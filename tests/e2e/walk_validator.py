@@ -1,0 +1,186 @@
+# SPDX-License-Identifier: MIT
+"""The package check: opened by a relative path, by drag, by the dialog, by keys alone, by the accessibility interface alone; what it
+says of a package, what it explains, and that it leaves nothing behind, however it ends."""
+
+import os
+import signal
+import subprocess
+import sys
+import tempfile
+import time
+from pathlib import Path
+
+from desktop import Desktop, Missing, wait_for
+
+FIXTURES = Path(__file__).resolve().parent.parent / "validator"
+FACTS = ("Name: Demo", "Version: 1.2.3", "Platform: iPhone", "Oldest iOS: 7.0", "Bundle ID: com.example.app", "Build: Debug")
+DROP_AREA = "Drop area for an app package"
+
+
+def shows_verdicts(lumora, **wrong):
+    """Waits for the boxes to say what they found; the named ones something else than that all is well."""
+    said = {"App icons": "passed", "Launch images": "passed", "Bundle identifier": "passed", "Localisations": "passed",
+            "URL schemes": "passed", "Facebook app ID": "passed"} | wrong
+    for box, verdict in said.items():
+        lumora.find("check box", f"{box}: {verdict}")
+
+
+def close_button(lumora):
+    """Of the popup if there is one, else of the report."""
+    return wait_for("a button to close by", lambda: lumora.controls("push button", "Close"))[-1]
+
+
+def explanation(lumora, box):
+    """What the popup says that comes with the box, by the accessibility interface; closes it again."""
+    before = {control.name for control in lumora.controls("label")}
+    lumora.find("check box", box).press()
+    new = wait_for(f"what {box} explains", lambda: [c.name for c in lumora.controls("label") if c.name not in before])
+    close_button(lumora).press()
+    wait_for("the popup to go", lambda: not any(lumora.shows(text) for text in new))
+    return "\n".join(new)
+
+
+def work_folders(folder):
+    return [path.name for path in folder.iterdir() if path.name.startswith("lumora-work-")]
+
+
+def by_mouse(desktop, scratch, work):
+    """Opened by a path relative to where the user stands; a drag; the real dialog."""
+    lumora = desktop.start("valid.ipa", cwd=scratch)
+    for fact in FACTS:
+        lumora.wait_shown(fact)
+    shows_verdicts(lumora)
+    current = Path(os.readlink(f"/proc/{lumora.process.pid}/cwd"))
+    assert current.parent == work and work_folders(work) == [current.name], current
+    assert current.stat().st_mode & 0o077 == 0
+    close_button(lumora).click()
+    lumora.wait_shown(DROP_AREA)
+
+    desktop.xdotool("windowmove", "--sync", lumora.window, 100, 100)
+    drop_area = lumora.controls(None, DROP_AREA)[0]
+    desktop.drag_files([scratch / "valid.ipa", scratch / "one icon.ipa"], drop_area.middle)
+    lumora.wait_shown("One package at a time")
+    lumora.button("Got it").click()
+    lumora.wait_gone("One package at a time")
+    desktop.drag_files([scratch / "one icon.ipa"], drop_area.middle)
+    shows_verdicts(lumora, **{"App icons": "problems found"})
+    lumora.activate()
+    lumora.find("check box", "App icons: problems found").click()
+    wait_for("the missing sizes", lambda: any("114 × 114" in c.name or "114x114" in c.name for c in lumora.controls("label")))
+    desktop.key("Escape")
+    wait_for("the popup to go", lambda: not lumora.shows("Icon sizes are missing"))
+    close_button(lumora).click()
+    lumora.wait_shown(DROP_AREA)
+
+    lumora.button("Browse…").click()
+    wait_for("the dialog", lambda: lumora.controls("dialog") or lumora.controls("file chooser"))
+    assert not any("lumora-work" in control.name for control in lumora.controls()), "the dialog shows the work folder"
+    lumora.choose_in_dialog(scratch / "no links.ipa")
+    shows_verdicts(lumora, **{"URL schemes": "not present", "Facebook app ID": "not present"})
+    assert not lumora.find("check box", "URL schemes: not present").has_state("enabled")
+    assert lumora.close() == 0
+    assert not work_folders(work), "the work folder outlived its program"
+    assert sorted(path.name for path in scratch.iterdir() if path.is_dir()) == ["work"], "something was left where the user stands"
+
+
+def by_interface(desktop, scratch):
+    """The whole job as a screen reader does it: no key, no mouse."""
+    lumora = desktop.start("--tool=validator")
+    lumora.button("Browse…").press()
+    field = wait_for("the file dialog", lambda: (lumora.controls("text") or [None])[-1])
+    field.node.queryEditableText().setTextContents(str(scratch / "no launch image.ipa"))
+    lumora.button("Open").press()
+    shows_verdicts(lumora, **{"Launch images": "problems found", "Bundle identifier": "problems found",
+                              "Localisations": "problems found"})
+    lumora.wait_shown("Build: Release")
+    said = explanation(lumora, "Launch images: problems found")
+    assert all(size in said for size in ("640x960", "1136x640", "480x320")), said
+    assert "Every required icon size" in explanation(lumora, "App icons: passed")
+    assert "does not name" in explanation(lumora, "Bundle identifier: problems found")
+    assert "• fb123://" in explanation(lumora, "URL schemes: passed")
+    assert "123" in explanation(lumora, "Facebook app ID: passed")
+    close_button(lumora).press()
+    lumora.wait_shown(DROP_AREA)
+    assert lumora.button("Browse…").has_state("enabled")
+    assert lumora.close() == 0
+
+
+def focused(lumora):
+    for control in lumora.controls():
+        if control.has_state("focused") and control.role in ("push button", "check box", "text"):
+            return control
+    return None
+
+
+def tab_to(desktop, lumora, wanted):
+    for _ in range(30):
+        control = focused(lumora)
+        if control is not None and (control.name, control.box) == (wanted.name, wanted.box):
+            return
+        desktop.key("Tab")
+        time.sleep(0.1)
+    raise Missing(f"the Tab key never came to {wanted.name}")
+
+
+def by_keys(desktop, scratch):
+    """The whole job without a pointer."""
+    lumora = desktop.start("--tool=validator")
+    lumora.wait_shown(DROP_AREA)
+    lumora.activate()
+    tab_to(desktop, lumora, lumora.button("Browse…"))
+    desktop.key("space")
+    lumora.choose_in_dialog(scratch / "one icon.ipa")
+    shows_verdicts(lumora, **{"App icons": "problems found"})
+    tab_to(desktop, lumora, lumora.find("check box", "App icons: problems found"))
+    desktop.key("space")
+    lumora.wait_shown("Icon sizes are missing")
+    desktop.key("Escape")
+    lumora.wait_gone("Icon sizes are missing")
+    tab_to(desktop, lumora, lumora.find("check box", "Localisations: passed"))
+    desktop.key("space")
+    wait_for("the localisations", lambda: any("• French" in control.name for control in lumora.controls("label")))
+    desktop.key("Escape")
+    wait_for("the popup to go", lambda: not any("• French" in control.name for control in lumora.controls("label")))
+    tab_to(desktop, lumora, close_button(lumora))
+    desktop.key("space")
+    lumora.wait_shown(DROP_AREA)
+    assert lumora.close() == 0
+
+
+def in_mid_read(desktop, scratch, work):
+    """Closed, ended and killed while a large package is read."""
+    subprocess.run([sys.executable, "-B", FIXTURES / "make_large_package.py", scratch / "large.ipa", "500"], check=True)
+    for end in ("close", "terminate", "kill"):
+        lumora = desktop.start(str(scratch / "large.ipa"))
+        wait_for("the reading", lambda: list(work.glob("lumora-work-*/Documents/app/Payload/Large.app/file01*")))
+        assert not list(work.glob("lumora-work-*/Documents/app/Payload/Large.app/file999"))
+        if end == "kill":
+            lumora.process.send_signal(signal.SIGKILL)
+            lumora.process.wait()
+            assert work_folders(work), "a killed program cannot tidy up"
+        else:
+            began = time.monotonic()
+            assert (lumora.close() if end == "close" else lumora.terminate()) == 0
+            assert time.monotonic() - began < 10
+            assert not work_folders(work)
+    lumora = desktop.start()
+    current = Path(os.readlink(f"/proc/{lumora.process.pid}/cwd"))
+    assert work_folders(work) == [current.name], "what a killed program left goes with the next start"
+    assert lumora.close() == 0
+
+
+def main(program, drag_source):
+    with tempfile.TemporaryDirectory() as scratch, Desktop(program, drag_source) as desktop:
+        scratch = Path(scratch).resolve()
+        subprocess.run([sys.executable, "-B", FIXTURES / "make_packages.py", scratch], check=True)
+        work = scratch / "work"
+        work.mkdir()
+        desktop.environment["TMPDIR"] = str(work)
+        by_mouse(desktop, scratch, work)
+        by_interface(desktop, scratch)
+        by_keys(desktop, scratch)
+        in_mid_read(desktop, scratch, work)
+
+
+if __name__ == "__main__":
+    main(sys.argv[1], sys.argv[2])

@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/PopoverAlert.h"
+#include "app/services/RecordingServices.h"
+#include "ui_ValidaterViewController.h"
+#include "validator/OpacityFade.h"
+#include "validator/ValidatePopupContentView.h"
+#include "validator/ValidaterViewController.h"
+#include "validator/WorkFolder.h"
+#include "widgets/SFBPopover.h"
+
+#include <QTest>
+
+namespace lumora
+{
+
+/// The pane in a window, with services that record.
+class PaneInWindow
+{
+public:
+    enum class Room { There, None };
+
+    explicit PaneInWindow(Room room = Room::There)
+        : services{{}, {}, {}, {}, room == Room::There && folder.ok()}, tool(services.services())
+    {
+        window.resize(900, 660);
+        tool.view()->setParent(&window);
+        tool.view()->setGeometry(65, 65, 835, 595);
+        tool.popupView()->setAnimates(false);
+        tool.validatePopup()->setAnimates(false);
+        window.show();
+    }
+    ~PaneInWindow()
+    {
+        if (PopoverAlert::currentAlert() != nullptr)
+            PopoverAlert::currentAlert()->stopSynchronousPopoverAlert(PopoverAlert::currentAlert()->buttons().first());
+    }
+
+    const Ui::ValidaterViewController &ui() const { return tool.outlets(); }
+    bool hasFacts() const
+    {
+        return opacity(ui().validAppIconsBox) == 1 && opacity(ui().appNameField) == 1 &&
+               opacity(ui().readingLoaderField) == 0;
+    }
+    QString explanation() const { return tool.validatePopupContentView()->messageLabel()->text(); }
+
+    // As the program makes it: before the tools, and there until they have gone.
+    Result<std::unique_ptr<WorkFolder>> folder = WorkFolder::makeCurrent();
+    RecordingServices services;
+    QWidget window;
+    ValidaterViewController tool;
+};
+
+/// How long a small package may take, in milliseconds; generous: the machine may be busy with other tests.
+constexpr int readingTime = 20'000;
+
+} // namespace lumora

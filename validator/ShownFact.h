@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "PrintableText.h"
+
+namespace lumora
+{
+
+/// A fact as one line of the pane, cut where a hostile package puts megabytes in its place.
+inline QString shownFact(const QString &value)
+{
+    constexpr qsizetype longest = 120;
+    const QString line = printableText(value.left(longest + 1));
+    return line.size() > longest ? line.first(longest) + u'…' : line;
+}
+
+} // namespace lumora
