@@ -8,6 +8,8 @@
 Everything is driven from outside: controls are found by role and name in the accessibility tree, the mouse and the
 keyboard are the X server's. Each walk starts its own desktop, so that walks may run side by side. Needs Debian's
 python3-pyatspi; run with /usr/bin/python3.
+
+wayland_desktop.WaylandDesktop is the same under a Wayland compositor.
 """
 
 import os
@@ -85,11 +87,14 @@ class Desktop:
         }
         self.environment["DISPLAY"] = self._start_x()
         self.environment["DBUS_SESSION_BUS_ADDRESS"] = self._start_bus()
-        self.run("openbox", "--sm-disable")
-        wait_for("the window manager", self._is_managed)
+        self._start_window_system()
         self.run("/usr/libexec/at-spi-bus-launcher", "--launch-immediately")
         # What this process asks the accessibility bus comes from its own environment.
         os.environ.update(self.environment)
+
+    def _start_window_system(self):
+        self.run("openbox", "--sm-disable")
+        wait_for("the window manager", self._is_managed)
 
     def _is_managed(self):
         # A window that is mapped while the window manager takes over may be lost to both.
@@ -186,7 +191,18 @@ class Desktop:
     def screenshot(self, path, geometry=None):
         """Of the whole screen, or of the part WIDTHxHEIGHT+X+Y."""
         crop = ["-crop", geometry, "+repage"] if geometry else []
-        subprocess.run(["import", "-window", "root", *crop, str(path)], env=self.environment, check=True)
+        subprocess.run(["import", "-silent", "-window", "root", *crop, str(path)], env=self.environment, check=True)
+
+    def find_window(self, lumora):
+        """Waits for Lumora's window, and answers what xdotool calls it."""
+        return wait_for("Lumora's window", lambda: self._window_of(lumora.process))
+
+    def activate(self, lumora):
+        self.xdotool("windowactivate", "--sync", lumora.window)
+
+    def to_screen(self, x, y):
+        """A point that Lumora says is on the screen, where it is on the screen."""
+        return x, y
 
 
 class Control:
@@ -211,6 +227,12 @@ class Control:
     @property
     def box(self):
         """x, y, width, height on the screen, in pixels."""
+        x, y, width, height = self.box_as_told
+        return *self.desktop.to_screen(x, y), width, height
+
+    @property
+    def box_as_told(self):
+        """The same as the accessibility tree has it: under Wayland no window knows where it is on the screen."""
         import pyatspi
 
         box = self.node.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
@@ -250,7 +272,7 @@ class Lumora:
     def __init__(self, desktop, process):
         self.desktop, self.process = desktop, process
         self.node = wait_for("Lumora in the accessibility tree", self._find_application)
-        self.window = wait_for("Lumora's window", lambda: desktop._window_of(process))
+        self.window = desktop.find_window(self)
 
     def _find_application(self):
         import pyatspi
@@ -272,6 +294,10 @@ class Lumora:
                 continue
             yield child
             yield from self._walk(child)
+
+    def walk(self):
+        """Every control there is, the main window first."""
+        return (Control(node, self.desktop) for node in self._walk(self.node))
 
     def controls(self, role=None, name=None, showing=True):
         """Every control of the role and the name, or of any."""
@@ -314,7 +340,7 @@ class Lumora:
 
     def activate(self):
         """Gives the window the keyboard, which another window on the desktop may have taken."""
-        self.desktop.xdotool("windowactivate", "--sync", self.window)
+        self.desktop.activate(self)
 
     def close(self):
         """Closes the window as its user would and answers the exit status."""

@@ -1,0 +1,80 @@
+# SPDX-License-Identifier: MIT
+"""A desktop of its own for one test, as in desktop.py, under a Wayland compositor: weston fills the X server's screen
+with its window and takes the mouse and the keyboard from there.
+
+    with WaylandDesktop(program) as desktop:
+        lumora = desktop.start()
+        lumora.button("Generate").click()
+"""
+
+import subprocess
+
+from desktop import Desktop, wait_for
+
+
+class WaylandDesktop(Desktop):
+    """The desktop under a Wayland compositor. No window has a number here, and none knows where it is: after a window
+    was moved or resized by hand, `find_window` has to look again before controls are clicked."""
+
+    BACKGROUND = (32, 36, 40)
+    # Nothing but a window has so long a row of pixels that are not the background's: no pointer, no popover's edge.
+    SMALLEST_WINDOW = 250
+
+    def _start_window_system(self):
+        width, height = map(int, self.size.split("x"))
+        settings = self.folder / "weston.ini"
+        settings.write_text("[shell]\nbackground-color=0xff%02x%02x%02x\npanel-position=none\nlocking=false\n"
+                            "animation=none\nstartup-animation=none\nclose-animation=none\nfocus-animation=none\n"
+                            % self.BACKGROUND)
+        self.run("weston", "--backend=x11-backend.so", "--use-pixman", f"--width={width}", f"--height={height}",
+                 "--idle-time=0", "--socket=lumora", f"--config={settings}")
+        self.environment |= {"WAYLAND_DISPLAY": "lumora", "QT_QPA_PLATFORM": "wayland"}
+        wait_for("the compositor", (self.folder / "runtime/lumora").exists)
+        window = wait_for("the compositor's window", self._compositor_window)
+        # Without a window manager nobody else gives it the keyboard.
+        self.xdotool("windowfocus", window)
+        wait_for("the desktop's background", lambda: self.pixel(width // 4, height // 4) == self.BACKGROUND)
+        # The compositor follows the pointer by its steps, and does not always know from where: against the corner it is stopped.
+        self.xdotool("mousemove", 0, 0, "sleep", 0.1)
+        self.offset = (0, 0)
+
+    def _compositor_window(self):
+        found = subprocess.run(["xdotool", "search", "--onlyvisible", "--class", "weston"],
+                               env=self.environment, capture_output=True, text=True)
+        return found.stdout.split()[0] if found.stdout.split() else None
+
+    def pixels(self, *changes):
+        """The screen's pixels as bytes, as ImageMagick answers them after the changes."""
+        picture = self.folder / "screen.png"
+        self.screenshot(picture)
+        return subprocess.run(["convert", str(picture), *changes], check=True, capture_output=True).stdout
+
+    def pixel(self, x, y):
+        return tuple(self.pixels("-crop", f"1x1+{round(x)}+{round(y)}", "-depth", "8", "rgb:-"))
+
+    def window_box(self):
+        """x, y, width, height of the largest thing on the desktop, in pixels; None on an empty desktop."""
+        background = "rgb(%d,%d,%d)" % self.BACKGROUND
+        width, height = map(int, self.size.split("x"))
+        mask = self.pixels("-fill", "white", "+opaque", background, "-fill", "black", "-opaque", background,
+                           "-depth", "8", "gray:-")
+        run = b"\xff" * self.SMALLEST_WINDOW
+        rows = [mask[y * width:(y + 1) * width] for y in range(height)]
+        edges = [(y, row.find(run), row.rfind(run) + len(run)) for y, row in enumerate(rows) if run in row]
+        if not edges:
+            return None
+        left, right = min(edge[1] for edge in edges), max(edge[2] for edge in edges)
+        return left, edges[0][0], right - left, edges[-1][0] + 1 - edges[0][0]
+
+    def find_window(self, lumora):
+        box = wait_for("Lumora's window", self.window_box)
+        x, y = next(lumora.walk()).box_as_told[:2]
+        self.offset = (box[0] - x, box[1] - y)
+        return None
+
+    def activate(self, lumora):
+        # A window has the keyboard from the moment it is shown; the compositor offers no other way than a press.
+        pass
+
+    def to_screen(self, x, y):
+        return x + self.offset[0], y + self.offset[1]
