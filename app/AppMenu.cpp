@@ -39,6 +39,7 @@ AppMenu::AppMenu(AppDelegate &delegate) : m_delegate(delegate)
     QWidget *window = delegate.window();
     auto *showMenu = new QAction(this);
     showMenu->setShortcut(Qt::Key_F10);
+    showMenu->setShortcutContext(Qt::ApplicationShortcut);
     connect(showMenu, &QAction::triggered, this, [this] {
         const QWidget *header = m_delegate.header();
         m_menu.popup(header->mapToGlobal(QPoint(0, header->height())));
@@ -58,6 +59,8 @@ QAction *AppMenu::add(QMenu *menu, const QString &text, const QKeySequence &shor
 {
     auto *action = new QAction(text, this);
     action->setShortcut(shortcut);
+    // Also while a popover or a floating panel has the keyboard: they are windows of their own.
+    action->setShortcutContext(Qt::ApplicationShortcut);
     connect(action, &QAction::triggered, this, std::move(triggered));
     menu->addAction(action);
     m_delegate.window()->addAction(action);

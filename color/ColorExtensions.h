@@ -5,6 +5,7 @@
 
 #include <QString>
 
+#include <cstdlib>
 #include <functional>
 
 namespace lumora
@@ -14,11 +15,11 @@ namespace lumora
 /// was made in. The caller owns it, as any value.
 QColor copyCGColor(const QColor &color);
 
-/// Draws a number from 0 to 2^31 - 1.
+/// Draws a number from 0 to 2^31 - 1, as random(3) does.
 using RandomSource = std::function<long()>;
 
 /// An opaque colour of three numbers drawn in the order red, green, blue, each times 2^-31.
-RgbaColor randomColor(const RandomSource &random);
+RgbaColor randomColor(const RandomSource &random = ::random);
 
 /// "r: 52, g: 73, b: 94, a: 255": each component times 255, rounded to the nearest integer. For logs.
 QString colorDescription(const RgbaColor &color);

@@ -15,6 +15,7 @@
 #include <QMimeData>
 
 #include <algorithm>
+#include <utility>
 
 namespace lumora
 {
@@ -63,8 +64,12 @@ void ColorViewController::setUpField()
     // A dropped text is the pane's; a file's name would only be typed into the field.
     field->setAcceptDrops(false);
     field->installEventFilter(this);
-    connect(field, &QLineEdit::textEdited, this, [this] { controlTextDidChange(m_ui->colorTextField); });
-    connect(field, &QLineEdit::textChanged, this, &ColorViewController::showCodes);
+    // Not only textEdited: what assistive technology writes into the field has been typed, too.
+    connect(field, &QLineEdit::textChanged, this, [this] {
+        if (!m_setsText)
+            controlTextDidChange(m_ui->colorTextField);
+        showCodes();
+    });
     m_ui->colorWell->setAccessibleName(qtTrId("ACCESSIBLE_COLOR_WELL"));
     connect(m_ui->colorWell, &ColorWell::colorPicked, this, &ColorViewController::colorWellReceivedColor);
 }
@@ -155,7 +160,7 @@ void ColorViewController::controlTextDidChange(const QObject *notificationObject
     const TypingOutcome outcome = outcomeOfTyping(field->text());
     if (outcome.correctedText) {
         const int cursor = field->cursorPosition();
-        field->setText(*outcome.correctedText);
+        setFieldText(*outcome.correctedText);
         field->setCursorPosition(std::min(cursor, static_cast<int>(outcome.correctedText->size())));
     }
     if (outcome.colorText)
@@ -285,7 +290,14 @@ void ColorViewController::setTheColor(const RgbaColor &color)
 void ColorViewController::takeColor(const RgbaColor &color)
 {
     setTheColor(color);
-    m_ui->colorTextField->setText(stringFromColor(color));
+    setFieldText(stringFromColor(color));
+}
+
+void ColorViewController::setFieldText(const QString &text)
+{
+    const bool before = std::exchange(m_setsText, true);
+    m_ui->colorTextField->setText(text);
+    m_setsText = before;
 }
 
 void ColorViewController::showCodes()

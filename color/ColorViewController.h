@@ -95,12 +95,15 @@ private:
     void saveTitleAndCopy(HoverButton *sender);
     void setTheColor(const RgbaColor &color);
     void takeColor(const RgbaColor &color);
+    /// Setting the text from the program does not count as typing.
+    void setFieldText(const QString &text);
     void showCodes();
 
     std::unique_ptr<Ui::ColorViewController> m_ui;
     RgbaColor m_theColor;
     QString m_savedButtonTitle;
     QTimer m_resetTimer;
+    bool m_setsText = false;
 };
 
 } // namespace lumora

@@ -38,4 +38,13 @@ void FadingView::fadeTo(float alpha)
     m_fade.start();
 }
 
+void FadingView::hideEvent(QHideEvent *event)
+{
+    QWidget::hideEvent(event);
+    if (m_fade.state() != QAbstractAnimation::Running)
+        return;
+    m_fade.stop();
+    setAlphaValue(m_fade.endValue().toFloat());
+}
+
 } // namespace lumora

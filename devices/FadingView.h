@@ -23,6 +23,9 @@ public:
     /// of sight it takes it at once.
     void fadeTo(float alpha);
 
+protected:
+    void hideEvent(QHideEvent *event) override;
+
 private:
     QVariantAnimation m_fade;
     float m_alphaValue = 1.0F;

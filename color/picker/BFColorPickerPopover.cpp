@@ -113,6 +113,7 @@ void BFColorPickerPopover::makeBalloon()
     m_balloon->setBorderWidth(borderWidth);
     m_balloon->setArrowWidth(arrowWidth);
     m_balloon->setArrowHeight(arrowHeight);
+    m_balloon->popoverWindow()->setAccessibleName(qtTrId("COLOR_PICKER"));
     connect(m_balloon.get(), &SFBPopover::closing, this, &BFColorPickerPopover::balloonClosing);
     connect(m_balloon.get(), &SFBPopover::closed, this, &BFColorPickerPopover::closed);
 }

@@ -24,12 +24,27 @@ BFColorPickerPopoverView::~BFColorPickerPopoverView()
         m_colorPanelView->setParent(nullptr);
 }
 
+void BFColorPickerPopoverView::setTabBar(QWidget *tabs)
+{
+    m_tabBar = tabs;
+    tabs->setParent(this);
+    layOut();
+}
+
 void BFColorPickerPopoverView::setColorPanelView(PickerContent *content)
 {
     m_colorPanelView = content;
     content->setParent(this);
-    content->setGeometry(rect().adjusted(0, metrics::pickerTabBarHeight, 0, 0));
+    layOut();
     content->show();
+}
+
+void BFColorPickerPopoverView::layOut()
+{
+    if (m_tabBar)
+        m_tabBar->setGeometry(0, 0, width(), metrics::pickerTabBarHeight);
+    if (m_colorPanelView && m_colorPanelView->parentWidget() == this)
+        m_colorPanelView->setGeometry(rect().adjusted(0, metrics::pickerTabBarHeight, 0, 0));
 }
 
 void BFColorPickerPopoverView::mousePressEvent(QMouseEvent *event)
@@ -72,8 +87,7 @@ void BFColorPickerPopoverView::mouseReleaseEvent(QMouseEvent *event)
 void BFColorPickerPopoverView::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
-    if (m_colorPanelView && m_colorPanelView->parentWidget() == this)
-        m_colorPanelView->setGeometry(rect().adjusted(0, metrics::pickerTabBarHeight, 0, 0));
+    layOut();
 }
 
 } // namespace lumora

@@ -26,6 +26,8 @@ public:
     QPointF originalMouseOffset() const { return m_originalMouseOffset; }
     bool isDragging() const { return m_dragging; }
 
+    /// Puts the tabs across the top.
+    void setTabBar(QWidget *tabs);
     /// Puts the picker below the strip of tabs. It stays the panel's: it does not go with the view.
     void setColorPanelView(PickerContent *content);
 
@@ -36,6 +38,9 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
+    void layOut();
+
+    QPointer<QWidget> m_tabBar;
     QPointer<PickerContent> m_colorPanelView;
     QPointF m_originalWindowOrigin;
     QPointF m_originalMouseOffset;

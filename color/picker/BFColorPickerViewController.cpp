@@ -5,11 +5,8 @@
 #include "ColorPanel.h"
 #include "ColorWell.h"
 #include "PickerContent.h"
-#include "PickerMetrics.h"
 #include "PickerTabs.h"
 #include "widgets/BFIconTabBar.h"
-
-#include <QVBoxLayout>
 
 namespace lumora
 {
@@ -29,7 +26,7 @@ void BFColorPickerViewController::loadView()
     m_colorPanel->setShowsAlpha(true);
 
     m_tabbar = makePickerTabs(*m_colorPanel, popoverView());
-    m_tabbar->setGeometry(0, 0, popoverView()->width(), metrics::pickerTabBarHeight);
+    popoverView()->setTabBar(m_tabbar);
     connect(m_tabbar, &BFIconTabBar::action, this, &BFColorPickerViewController::tabBarChangedSelection);
     popoverView()->setColorPanelView(m_colorPanel->contentView());
 }

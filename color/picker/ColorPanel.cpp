@@ -9,6 +9,7 @@
 #include "color/ColorExtensions.h"
 #include "widgets/BFIconTabBar.h"
 
+#include <QAccessibleWidget>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QVBoxLayout>
@@ -22,6 +23,22 @@ namespace
 
 SharedInstance<ColorPanel> shared;
 bool panelDisabled = false;
+
+QAccessibleInterface *accessibleOf(const QString &, QObject *object)
+{
+    auto *panel = qobject_cast<ColorPanel *>(object);
+    return panel == nullptr ? nullptr : new QAccessibleWidget(panel, QAccessible::Dialog);
+}
+
+/// To a screen reader the window is a dialog by its title.
+void installAccessible()
+{
+    static const bool installed = [] {
+        QAccessible::installFactory(accessibleOf);
+        return true;
+    }();
+    Q_UNUSED(installed)
+}
 
 } // namespace
 
@@ -57,6 +74,7 @@ QString ColorPanel::colorText()
 
 ColorPanel::ColorPanel(QWidget *parent) : QWidget(parent, Qt::Tool), m_contentView(new PickerContent(&m_model))
 {
+    installAccessible();
     setWindowTitle(qtTrId("COLOR_PICKER"));
     for (const PickerModeItem &mode : pickerModes())
         m_toolbarItems.append({mode, [mode](ColorPanel &panel) { panel.setMode(mode.mode); }});
@@ -170,9 +188,17 @@ void ColorPanel::closeEvent(QCloseEvent *event)
     ColorWell::deactivateAll();
 }
 
+bool ColorPanel::event(QEvent *event)
+{
+    // The key that closes a window closes this one here, before the main window's command takes it.
+    if (event->type() == QEvent::ShortcutOverride && static_cast<QKeyEvent *>(event)->matches(QKeySequence::Close))
+        event->accept();
+    return QWidget::event(event);
+}
+
 void ColorPanel::keyPressEvent(QKeyEvent *event)
 {
-    if (event->key() == Qt::Key_Escape)
+    if (event->key() == Qt::Key_Escape || event->matches(QKeySequence::Close))
         close();
     else
         QWidget::keyPressEvent(event);

@@ -77,6 +77,7 @@ signals:
     void modeChanged(lumora::PickerMode mode);
 
 protected:
+    bool event(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
 

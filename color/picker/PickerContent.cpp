@@ -21,6 +21,8 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace lumora
@@ -62,7 +64,11 @@ PickerContent::PickerContent(PickerModel *model, QWidget *parent)
 
     setPipette(makeScreenPipette());
     connect(m_model, &PickerModel::pickedChanged, this, &PickerContent::showPicked);
-    connect(m_code, &QLineEdit::textEdited, this, &PickerContent::codeEdited);
+    // Not only textEdited: what assistive technology writes into the field has been typed, too.
+    connect(m_code, &QLineEdit::textChanged, this, [this](const QString &text) {
+        if (!m_setsCode)
+            codeEdited(text);
+    });
     connect(m_code, &QLineEdit::editingFinished, this, &PickerContent::codeFinished);
     connect(m_pipetteButton, &QToolButton::clicked, this, &PickerContent::pickFromScreen);
     m_pages->setCurrentWidget(page(m_mode));
@@ -150,9 +156,9 @@ void PickerContent::setRecentColors(const RecentColors &recent)
 void PickerContent::setPipette(std::unique_ptr<Pipette> pipette)
 {
     m_pipette = std::move(pipette);
-    connect(m_pipette.get(), &Pipette::picked, this, &PickerContent::screenPicked);
+    connect(m_pipette.get(), &Pipette::picked, this, &PickerContent::endPicking);
     connect(m_pipette.get(), &Pipette::picked, m_model, &PickerModel::setColor);
-    connect(m_pipette.get(), &Pipette::cancelled, this, &PickerContent::screenPicked);
+    connect(m_pipette.get(), &Pipette::cancelled, this, &PickerContent::endPicking);
     connect(m_pipette.get(), &Pipette::failed, this, &PickerContent::screenFailed);
 }
 
@@ -168,7 +174,7 @@ void PickerContent::codeEdited(const QString &text)
 {
     const TypingOutcome outcome = outcomeOfTyping(text);
     if (outcome.correctedText) {
-        m_code->setText(*outcome.correctedText);
+        setCodeText(*outcome.correctedText);
         m_code->setModified(true);
     }
     if (!outcome.colorText)
@@ -183,24 +189,35 @@ void PickerContent::codeEdited(const QString &text)
 
 void PickerContent::codeFinished()
 {
-    m_code->setText(stringFromColor(m_model->color()));
+    setCodeText(stringFromColor(m_model->color()));
+}
+
+void PickerContent::setCodeText(const QString &text)
+{
+    const bool before = std::exchange(m_setsCode, true);
+    m_code->setText(text);
+    m_setsCode = before;
 }
 
 void PickerContent::pickFromScreen()
 {
     m_complaint->hide();
+    m_pipetteHadFocus = m_pipetteButton->hasFocus();
     m_pipetteButton->setEnabled(false);
     m_pipette->pick(this);
 }
 
-void PickerContent::screenPicked()
+void PickerContent::endPicking()
 {
     m_pipetteButton->setEnabled(true);
+    // A disabled button hands the focus on.
+    if (m_pipetteHadFocus)
+        m_pipetteButton->setFocus();
 }
 
 void PickerContent::screenFailed()
 {
-    m_pipetteButton->setEnabled(true);
+    endPicking();
     m_complaint->setText(qtTrId("COLOR_PIPETTE_FAILED_MESSAGE"));
     m_complaint->show();
 }

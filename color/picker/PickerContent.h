@@ -54,9 +54,11 @@ private:
     void showPicked();
     void codeEdited(const QString &text);
     void codeFinished();
+    /// Sets the text without taking it for typed.
+    void setCodeText(const QString &text);
     void pickFromScreen();
-    void screenPicked();
     void screenFailed();
+    void endPicking();
 
     PickerModel *m_model;
     PickerMode m_mode = PickerMode::Wheel;
@@ -69,6 +71,8 @@ private:
     QToolButton *m_pipetteButton;
     QLabel *m_complaint;
     std::unique_ptr<Pipette> m_pipette;
+    bool m_setsCode = false;
+    bool m_pipetteHadFocus = false;
 };
 
 } // namespace lumora

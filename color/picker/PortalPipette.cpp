@@ -6,7 +6,7 @@
 #include <QDBusObjectPath>
 #include <QDBusPendingCall>
 #include <QDBusPendingReply>
-#include <QWidget>
+#include <QDBusServiceWatcher>
 
 using namespace Qt::StringLiterals;
 
@@ -19,10 +19,11 @@ namespace
 constexpr auto service = "org.freedesktop.portal.Desktop"_L1;
 constexpr auto path = "/org/freedesktop/portal/desktop"_L1;
 constexpr auto screenshot = "org.freedesktop.portal.Screenshot"_L1;
-constexpr auto request = "org.freedesktop.portal.Request"_L1;
+constexpr auto requestInterface = "org.freedesktop.portal.Request"_L1;
 constexpr auto properties = "org.freedesktop.DBus.Properties"_L1;
 constexpr uint firstVersionWithPickColor = 2;
-constexpr int patienceMilliseconds = 500;
+/// Starting a portal takes a moment; nobody wants to wait for one that hangs.
+constexpr int patienceMilliseconds = 5000;
 
 /// Three numbers from 0 to 1 in a structure; nothing where the portal answered something else.
 bool readColor(const QVariant &value, RgbaColor &color)
@@ -52,22 +53,37 @@ QString parentName(const QWidget *window)
 
 } // namespace
 
-PortalPipette::PortalPipette(QDBusConnection bus, QObject *parent) : Pipette(parent), m_bus(std::move(bus)) {}
-
-bool PortalPipette::isAvailable() const
+PortalPipette::PortalPipette(QDBusConnection bus, QObject *parent)
+    : Pipette(parent), m_bus(std::move(bus)),
+      m_watcher(new QDBusServiceWatcher(service, m_bus, QDBusServiceWatcher::WatchForUnregistration, this))
 {
-    if (!m_bus.isConnected())
-        return false;
-    QDBusMessage question = QDBusMessage::createMethodCall(service, path, properties, u"Get"_s);
-    question << QString(screenshot) << u"version"_s;
-    const QDBusMessage answer = m_bus.call(question, QDBus::Block, patienceMilliseconds);
-    if (answer.type() != QDBusMessage::ReplyMessage || answer.arguments().isEmpty())
-        return false;
-    const auto version = answer.arguments().constFirst().value<QDBusVariant>().variant();
-    return version.toUInt() >= firstVersionWithPickColor;
+    connect(m_watcher, &QDBusServiceWatcher::serviceUnregistered, this, &PortalPipette::portalGone);
 }
 
 void PortalPipette::pick(QWidget *window)
+{
+    m_window = window;
+    if (!m_bus.isConnected()) {
+        emit unavailable();
+        return;
+    }
+    QDBusMessage question = QDBusMessage::createMethodCall(service, path, properties, u"Get"_s);
+    question << QString(screenshot) << u"version"_s;
+    auto *watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(question, patienceMilliseconds), this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, &PortalPipette::answered);
+}
+
+void PortalPipette::answered(QDBusPendingCallWatcher *call)
+{
+    call->deleteLater();
+    const QDBusPendingReply<QDBusVariant> reply = *call;
+    if (!reply.isError() && reply.value().variant().toUInt() >= firstVersionWithPickColor)
+        request();
+    else
+        emit unavailable();
+}
+
+void PortalPipette::request()
 {
     // The answer comes as a signal of an object whose path follows from the caller's name and the token; listening
     // before asking is the only way not to miss it.
@@ -76,7 +92,7 @@ void PortalPipette::pick(QWidget *window)
     listenTo(u"/org/freedesktop/portal/desktop/request/"_s + sender.replace(u'.', u'_') + u'/' + token);
 
     QDBusMessage call = QDBusMessage::createMethodCall(service, path, screenshot, u"PickColor"_s);
-    call << parentName(window) << QVariantMap{{u"handle_token"_s, token}};
+    call << parentName(m_window) << QVariantMap{{u"handle_token"_s, token}};
     auto *watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(call), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, &PortalPipette::requested);
 }
@@ -96,23 +112,35 @@ void PortalPipette::received(uint response, const QVariantMap &results)
 void PortalPipette::listenTo(const QString &requestPath)
 {
     if (!m_requestPath.isEmpty())
-        m_bus.disconnect(service, m_requestPath, request, u"Response"_s, this, SLOT(received(uint, QVariantMap)));
+        m_bus.disconnect(service, m_requestPath, requestInterface, u"Response"_s, this,
+                         SLOT(received(uint, QVariantMap)));
     m_requestPath = requestPath;
     if (!m_requestPath.isEmpty())
-        m_bus.connect(service, m_requestPath, request, u"Response"_s, this, SLOT(received(uint, QVariantMap)));
+        m_bus.connect(service, m_requestPath, requestInterface, u"Response"_s, this, SLOT(received(uint, QVariantMap)));
 }
 
 void PortalPipette::requested(QDBusPendingCallWatcher *call)
 {
     call->deleteLater();
+    // Answered, or the portal gone, before the call returned.
+    if (m_requestPath.isEmpty())
+        return;
     const QDBusPendingReply<QDBusObjectPath> reply = *call;
     if (reply.isError()) {
         listenTo({});
         emit failed();
-    } else if (!m_requestPath.isEmpty() && reply.value().path() != m_requestPath) {
+    } else if (reply.value().path() != m_requestPath) {
         // Portals before version 0.9 choose the path themselves.
         listenTo(reply.value().path());
     }
+}
+
+void PortalPipette::portalGone()
+{
+    if (m_requestPath.isEmpty())
+        return;
+    listenTo({});
+    emit failed();
 }
 
 } // namespace lumora

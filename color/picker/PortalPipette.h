@@ -4,9 +4,12 @@
 #include "Pipette.h"
 
 #include <QDBusConnection>
+#include <QPointer>
 #include <QVariantMap>
+#include <QWidget>
 
 class QDBusPendingCallWatcher;
+class QDBusServiceWatcher;
 
 namespace lumora
 {
@@ -20,20 +23,28 @@ class PortalPipette final : public Pipette
 public:
     explicit PortalPipette(QDBusConnection bus, QObject *parent = nullptr);
 
-    /// Whether a portal on the bus can pick colours. Asks the bus, starting the portal where that is possible; waits
-    /// half a second at most.
-    bool isAvailable() const;
+    /// Asks the bus for a portal first, which starts one where that is possible; nothing waits for its answer. A portal
+    /// that leaves the bus before the user has picked has failed.
     void pick(QWidget *window) override;
+
+signals:
+    /// No portal on the bus can pick colours. Ends the pick instead of one of the other signals.
+    void unavailable();
 
 private slots:
     /// The portal's answer: 0 with the colour, 1 when the user cancelled, anything else when it failed.
     void received(uint response, const QVariantMap &results);
 
 private:
-    void listenTo(const QString &requestPath);
+    void answered(QDBusPendingCallWatcher *call);
+    void request();
     void requested(QDBusPendingCallWatcher *call);
+    void listenTo(const QString &requestPath);
+    void portalGone();
 
     QDBusConnection m_bus;
+    QDBusServiceWatcher *m_watcher;
+    QPointer<QWidget> m_window;
     QString m_requestPath;
     int m_requests = 0;
 };

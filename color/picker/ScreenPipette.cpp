@@ -12,27 +12,40 @@ namespace
 class ScreenPipette final : public Pipette
 {
 public:
-    ScreenPipette()
-    {
-        for (Pipette *pipette : {static_cast<Pipette *>(&m_portal), static_cast<Pipette *>(&m_x11)}) {
-            connect(pipette, &Pipette::picked, this, &Pipette::picked);
-            connect(pipette, &Pipette::cancelled, this, &Pipette::cancelled);
-            connect(pipette, &Pipette::failed, this, &Pipette::failed);
-        }
-    }
-
     void pick(QWidget *window) override
     {
-        if (m_portal.isAvailable())
-            m_portal.pick(window);
-        else if (X11Pipette::isAvailable())
-            m_x11.pick(window);
+        m_window = window;
+        portal()->pick(window);
+    }
+
+private:
+    /// Made with the first pick: the bus is not joined for a picker that only opens.
+    PortalPipette *portal()
+    {
+        if (m_portal == nullptr) {
+            m_portal = new PortalPipette(QDBusConnection::sessionBus(), this);
+            passOn(m_portal);
+            connect(m_portal, &PortalPipette::unavailable, this, &ScreenPipette::pickWithoutPortal);
+            passOn(&m_x11);
+        }
+        return m_portal;
+    }
+    void passOn(Pipette *pipette)
+    {
+        connect(pipette, &Pipette::picked, this, &Pipette::picked);
+        connect(pipette, &Pipette::cancelled, this, &Pipette::cancelled);
+        connect(pipette, &Pipette::failed, this, &Pipette::failed);
+    }
+    void pickWithoutPortal()
+    {
+        if (m_window && X11Pipette::isAvailable())
+            m_x11.pick(m_window);
         else
             emit failed();
     }
 
-private:
-    PortalPipette m_portal{QDBusConnection::sessionBus()};
+    QPointer<QWidget> m_window;
+    PortalPipette *m_portal = nullptr;
     X11Pipette m_x11;
 };
 

@@ -6,6 +6,7 @@
 
 #include <QKeyEvent>
 #include <QPainter>
+#include <QScopedValueRollback>
 #include <QStyledItemDelegate>
 
 #include <algorithm>
@@ -54,7 +55,11 @@ SwatchList::SwatchList(QWidget *parent) : QListView(parent), m_model(new SwatchM
     setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     setFrameShape(QFrame::NoFrame);
     viewport()->setAutoFillBackground(false);
-    connect(this, &QAbstractItemView::clicked, this, &SwatchList::choose);
+    // Pointer, arrow keys and assistive technology all select; what the list merely shows is not chosen.
+    connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, [this](const QItemSelection &selected) {
+        if (!m_showing && !selected.isEmpty())
+            choose(selected.indexes().constFirst());
+    });
 }
 
 void SwatchList::setColors(std::vector<NamedColor> colors)
@@ -65,6 +70,7 @@ void SwatchList::setColors(std::vector<NamedColor> colors)
 
 void SwatchList::showColor(const RgbaColor &color)
 {
+    const QScopedValueRollback showing(m_showing, true);
     const QModelIndex index = m_model->indexOf(color);
     if (index.isValid())
         setCurrentIndex(index);
@@ -96,13 +102,11 @@ int SwatchList::heightForWidth(int width) const
 
 void SwatchList::keyPressEvent(QKeyEvent *event)
 {
-    const QModelIndex before = currentIndex();
-    const bool accepts =
-        event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_Space;
-    if (!accepts)
-        QListView::keyPressEvent(event);
-    if (accepts || currentIndex() != before)
+    // The swatch that Tab came to is current, but not selected.
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_Space)
         choose(currentIndex());
+    else
+        QListView::keyPressEvent(event);
 }
 
 void SwatchList::resizeEvent(QResizeEvent *event)

@@ -8,7 +8,8 @@
 namespace lumora
 {
 
-/// Swatches side by side, as many in a row as fit. A click, return or an arrow key chooses one.
+/// Swatches side by side, as many in a row as fit. A click, return, an arrow key or a selection by
+/// assistive technology chooses one.
 class SwatchList final : public QListView
 {
     Q_OBJECT
@@ -39,6 +40,7 @@ private:
 
     SwatchModel *m_model;
     bool m_growsWithContent = false;
+    bool m_showing = false;
 };
 
 } // namespace lumora

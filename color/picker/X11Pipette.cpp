@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "X11Pipette.h"
 
+#include <QCursor>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -11,6 +12,14 @@ using namespace Qt::StringLiterals;
 
 namespace lumora
 {
+
+namespace
+{
+
+/// Points that an arrow key takes the pointer with Shift.
+constexpr int largeStep = 10;
+
+} // namespace
 
 bool X11Pipette::isAvailable()
 {
@@ -44,10 +53,7 @@ bool X11Pipette::eventFilter(QObject *watched, QEvent *event)
         return true;
     }
     case QEvent::KeyPress:
-        if (static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape) {
-            finish();
-            emit cancelled();
-        }
+        keyPressed(*static_cast<QKeyEvent *>(event));
         return true;
     case QEvent::ShortcutOverride:
         event->accept();
@@ -62,6 +68,38 @@ bool X11Pipette::eventFilter(QObject *watched, QEvent *event)
         return false;
     default:
         return false;
+    }
+}
+
+void X11Pipette::keyPressed(const QKeyEvent &event)
+{
+    const int step = event.modifiers().testFlag(Qt::ShiftModifier) ? largeStep : 1;
+    const QPoint pointer = QCursor::pos();
+    switch (event.key()) {
+    case Qt::Key_Escape:
+        finish();
+        emit cancelled();
+        break;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Space:
+        finish();
+        take(pointer);
+        break;
+    case Qt::Key_Left:
+        QCursor::setPos(pointer - QPoint(step, 0));
+        break;
+    case Qt::Key_Right:
+        QCursor::setPos(pointer + QPoint(step, 0));
+        break;
+    case Qt::Key_Up:
+        QCursor::setPos(pointer - QPoint(0, step));
+        break;
+    case Qt::Key_Down:
+        QCursor::setPos(pointer + QPoint(0, step));
+        break;
+    default:
+        break;
     }
 }
 

@@ -10,7 +10,8 @@ namespace lumora
 {
 
 /// Reads the screen itself, which X11 allows: grabs pointer and keyboard, takes the colour under the pointer at the
-/// next click; Escape or another button changes the mind.
+/// next click; Escape or another button changes the mind. With the keyboard, the arrows move the pointer by a point, by
+/// ten with Shift, and Return or Space picks.
 class X11Pipette final : public Pipette
 {
     Q_OBJECT
@@ -25,6 +26,7 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void keyPressed(const QKeyEvent &event);
     void finish();
     void take(const QPoint &globalPosition);
 

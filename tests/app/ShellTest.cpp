@@ -323,6 +323,21 @@ private slots:
         }
     }
 
+    void shortcutsWorkFromAPanelToo()
+    {
+        Application application;
+        AppDelegate &delegate = application.delegate;
+        const AppMenu menu(delegate);
+        QWidget panel(nullptr, Qt::Tool);
+        panel.show();
+        panel.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&panel));
+        QTest::keyClick(&panel, Qt::Key_4, Qt::ControlModifier);
+        QCOMPARE(delegate.sideBar()->selectedIndex(), 3);
+        QTest::keyClick(&panel, Qt::Key_Q, Qt::ControlModifier);
+        QTRY_VERIFY(!delegate.window()->isVisible());
+    }
+
     void pasteShortcutTakesACopiedFile()
     {
         const QTemporaryDir folder;

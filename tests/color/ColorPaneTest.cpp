@@ -10,6 +10,7 @@
 #include "widgets/Palette.h"
 #include "widgets/SFBPopover.h"
 
+#include <QAccessible>
 #include <QDropEvent>
 #include <QElapsedTimer>
 #include <QLabel>
@@ -36,6 +37,12 @@ private:
         field()->setFocus();
         field()->selectAll();
         QTest::keyClicks(field(), text);
+    }
+    /// Puts a text into the field of which typing would make something else.
+    void show(const QString &text)
+    {
+        const QSignalBlocker blocker(field());
+        field()->setText(text);
     }
     static void press(HoverButton *button) { QTest::mouseClick(button, Qt::LeftButton); }
     HoverButton *button(const QString &name) { return m_controller->view()->findChild<HoverButton *>(name); }
@@ -131,7 +138,7 @@ private slots:
     {
         QFETCH(QString, text);
         QFETCH(QString, button);
-        field()->setText(text);
+        show(text);
         HoverButton *pressed = this->button(button);
         const QString title = pressed->text();
         press(pressed);
@@ -164,7 +171,7 @@ private slots:
         QFETCH(QString, text);
         press(m_controller->macButton());
         clipboard().text = u"before"_s;
-        field()->setText(text);
+        show(text);
         press(m_controller->iosButton());
         QCOMPARE(clipboard().text, u"before"_s);
         QVERIFY(m_controller->popupView()->isVisible());
@@ -220,10 +227,21 @@ private slots:
     void aChangeOfAnotherFieldIsIgnored()
     {
         const QLineEdit another;
-        field()->setText(u"#1234567"_s);
+        show(u"#1234567"_s);
         m_controller->controlTextDidChange(&another);
         QCOMPARE(field()->text(), u"#1234567"_s);
         QCOMPARE(stringFromColor(m_controller->theColor()), u"#34485e"_s);
+    }
+
+    void whatAssistiveTechnologyWritesIsTyped()
+    {
+        QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(field());
+        interface->setText(QAccessible::Value, u"#80FF001"_s);
+        QCOMPARE(field()->text(), u"#80FF00"_s);
+        QCOMPARE(stringFromColor(m_controller->theColor()), u"#80ff00"_s);
+        interface->editableTextInterface()->replaceText(0, 7, u"#abc"_s);
+        QCOMPARE(field()->text(), u"#abc"_s);
+        QCOMPARE(stringFromColor(m_controller->colorWell()->color()), u"#aabbcc"_s);
     }
 
     void aSeventhDigitInTheMiddleKeepsTheCursorThere()

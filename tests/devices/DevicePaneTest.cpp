@@ -246,6 +246,14 @@ private slots:
         QVERIFY(m_controller->filterDictionary().features().contains("gps"));
     }
 
+    void aFadeEndsWhenItGoesOutOfSight()
+    {
+        press(feature("gps"));
+        QVERIFY(faded().contains(u"?"_s) || faded().isEmpty());
+        m_controller->view()->hide();
+        QCOMPARE(faded(), (QStringList{u"iPod0"_s, u"iPod1"_s, u"iPod2"_s, u"iPod3"_s, u"iPod4"_s}));
+    }
+
     void filtersOutOfSightWithoutAnimation()
     {
         m_controller->view()->hide();

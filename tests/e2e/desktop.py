@@ -342,6 +342,19 @@ class Lumora:
         """Gives the window the keyboard, which another window on the desktop may have taken."""
         self.desktop.activate(self)
 
+    def tab_to(self, role, name, steps=60):
+        """Presses Tab until the control has the focus, and answers it."""
+        control = self.find(role, name)
+        for _ in range(steps):
+            # A moment for the focus to move and for the tree to tell.
+            end = time.monotonic() + 0.3
+            while time.monotonic() < end:
+                if control.has_state("focused"):
+                    return control
+                time.sleep(0.03)
+            self.desktop.key("Tab")
+        raise Missing(f"Tab never comes to {name}")
+
     def close(self):
         """Closes the window as its user would and answers the exit status."""
         self.activate()

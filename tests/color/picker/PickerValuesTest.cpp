@@ -199,6 +199,14 @@ private slots:
         QCOMPARE(next, 3L);
     }
 
+    void drawsFromTheSystemsSourceByItself()
+    {
+        ::srandom(7);
+        const auto number = static_cast<float>(std::ldexp(static_cast<double>(::random()), -31));
+        ::srandom(7);
+        QCOMPARE(randomColor().red, number);
+    }
+
     void describesAColorForTheLog()
     {
         QCOMPARE(colorDescription({0.204F, 0.286F, 0.369F, 1.0F}), u"r: 52, g: 73, b: 94, a: 255"_s);

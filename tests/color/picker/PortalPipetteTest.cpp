@@ -50,10 +50,13 @@ public:
     QVariantMap results;
     bool refuses = false;
     bool choosesOwnPath = false;
+    bool answers = true;
+    int requests = 0;
 
 public slots:
     QDBusObjectPath PickColor(const QString &, const QVariantMap &options)
     {
+        ++requests;
         if (refuses) {
             sendErrorReply(QDBusError::AccessDenied, u"no"_s);
             return {};
@@ -64,8 +67,9 @@ public slots:
         QDBusMessage answer = QDBusMessage::createSignal(path, u"org.freedesktop.portal.Request"_s, u"Response"_s);
         answer << response << results;
         // The portal answers when the user has clicked, long after the call has returned.
-        QMetaObject::invokeMethod(
-            this, [bus = connection(), answer] { bus.send(answer); }, Qt::QueuedConnection);
+        if (answers)
+            QMetaObject::invokeMethod(
+                this, [bus = connection(), answer] { bus.send(answer); }, Qt::QueuedConnection);
         if (choosesOwnPath)
             QTimer::singleShot(200, this, [bus = connection(), answer] { bus.send(answer); });
         return QDBusObjectPath(path);
@@ -80,6 +84,15 @@ class PortalPipetteTest : public QObject
 private:
     QProcess m_daemon;
     QString m_address;
+
+    /// Puts the portal on the bus, over the connection "portal NAME".
+    bool offer(FakePortal &portal, const QString &name)
+    {
+        QDBusConnection bus = QDBusConnection::connectToBus(m_address, u"portal "_s + name);
+        return bus.registerObject(u"/org/freedesktop/portal/desktop"_s, &portal,
+                                  QDBusConnection::ExportAllSlots | QDBusConnection::ExportAllProperties) &&
+               bus.registerService(u"org.freedesktop.portal.Desktop"_s);
+    }
 
 private slots:
     void initTestCase()
@@ -123,16 +136,13 @@ private slots:
         QFETCH(QString, end);
         const QString name = QString::fromUtf8(QTest::currentDataTag());
         {
-            QDBusConnection portalBus = QDBusConnection::connectToBus(m_address, u"portal "_s + name);
             const QDBusConnection bus = QDBusConnection::connectToBus(m_address, u"client "_s + name);
             FakePortal portal;
             portal.response = response;
             portal.results = results;
             portal.refuses = refuses;
             portal.choosesOwnPath = ownPath;
-            QVERIFY(portalBus.registerObject(u"/org/freedesktop/portal/desktop"_s, &portal,
-                                             QDBusConnection::ExportAllSlots));
-            QVERIFY(portalBus.registerService(u"org.freedesktop.portal.Desktop"_s));
+            QVERIFY(offer(portal, name));
 
             PortalPipette pipette(bus);
             QSignalSpy picked(&pipette, &Pipette::picked);
@@ -149,13 +159,51 @@ private slots:
         QDBusConnection::disconnectFromBus(u"client "_s + name);
     }
 
+    void knowsWhetherThereIsAPortal_data()
+    {
+        QTest::addColumn<bool>("bus");
+        QTest::addColumn<uint>("version"); // 0 is no portal
+
+        QTest::newRow("no bus") << false << 0U;
+        QTest::newRow("no portal on the bus") << true << 0U;
+        QTest::newRow("a portal before it could pick") << true << 1U;
+    }
     void knowsWhetherThereIsAPortal()
     {
-        const PortalPipette nowhere(QDBusConnection(u"no such connection"_s));
-        QVERIFY(!nowhere.isAvailable());
-        const PortalPipette lonely(QDBusConnection::connectToBus(m_address, u"lonely"_s));
-        QVERIFY(!lonely.isAvailable());
-        QDBusConnection::disconnectFromBus(u"lonely"_s);
+        QFETCH(bool, bus);
+        QFETCH(uint, version);
+        const QString name = QString::fromUtf8(QTest::currentDataTag());
+        {
+            FakePortal portal;
+            portal.version = version;
+            if (version > 0)
+                QVERIFY(offer(portal, name));
+            PortalPipette pipette(bus ? QDBusConnection::connectToBus(m_address, name) : QDBusConnection(name));
+            const QSignalSpy unavailable(&pipette, &PortalPipette::unavailable);
+            const QSignalSpy picked(&pipette, &Pipette::picked);
+            const QSignalSpy failed(&pipette, &Pipette::failed);
+            pipette.pick(nullptr);
+            QTRY_COMPARE(unavailable.count(), 1);
+            QCOMPARE(picked.count() + failed.count(), 0);
+        }
+        QDBusConnection::disconnectFromBus(name);
+        QDBusConnection::disconnectFromBus(u"portal "_s + name);
+    }
+
+    void aPortalThatGoesHasFailed()
+    {
+        {
+            FakePortal portal;
+            portal.answers = false;
+            QVERIFY(offer(portal, u"mortal"_s));
+            PortalPipette pipette(QDBusConnection::connectToBus(m_address, u"client of the mortal"_s));
+            const QSignalSpy failed(&pipette, &Pipette::failed);
+            pipette.pick(nullptr);
+            QTRY_COMPARE(portal.requests, 1);
+            QDBusConnection::disconnectFromBus(u"portal mortal"_s);
+            QTRY_COMPARE(failed.count(), 1);
+        }
+        QDBusConnection::disconnectFromBus(u"client of the mortal"_s);
     }
 };
 

@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: MIT
+#include "WellsWindow.h"
+
+#include <QAccessible>
+#include <QAction>
+#include <QKeySequence>
+#include <QSignalSpy>
+
+using namespace lumora;
+using namespace Qt::StringLiterals;
+
+class ColorPanelTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    std::unique_ptr<WellsWindow> m_wells;
+
+    static BFColorPickerPopover *popover() { return WellsWindow::popover(); }
+    static ColorPanel *panel() { return WellsWindow::panel(); }
+
+private slots:
+    void init()
+    {
+        m_wells = std::make_unique<WellsWindow>();
+        QVERIFY(QTest::qWaitForWindowExposed(&m_wells->window));
+    }
+    void cleanup() { m_wells.reset(); }
+
+    void aDisabledPanelDoesNotComeToTheFront()
+    {
+        ColorPanel::disablePanel();
+        panel()->orderFront();
+        QVERIFY(!panel()->isVisible());
+        ColorPanel::enablePanel();
+        panel()->orderFront();
+        QVERIFY(panel()->isVisible());
+    }
+
+    void thePanelTakesItsContentBackFromAnOpenPopover()
+    {
+        m_wells->click(m_wells->well);
+        QVERIFY(m_wells->popoverHostsContent());
+        panel()->orderFront();
+        QVERIFY(!m_wells->popoverHostsContent());
+        QVERIFY(panel()->hostsContentView());
+    }
+
+    void closingThePanelDeactivatesItsWells()
+    {
+        m_wells->openFloatingPanel();
+        panel()->close();
+        QVERIFY(!m_wells->well.isActive());
+        m_wells->click(m_wells->well);
+        QVERIFY(popover()->isShown());
+    }
+
+    void closesByKey_data()
+    {
+        QTest::addColumn<QKeySequence>("keys");
+
+        QTest::newRow("Escape") << QKeySequence(Qt::Key_Escape);
+        QTest::newRow("what closes a window") << QKeySequence(QKeySequence::Close);
+    }
+    void closesByKey()
+    {
+        QFETCH(QKeySequence, keys);
+        // A command of the main window with the same keys stays out of it.
+        QAction command;
+        command.setShortcut(QKeySequence::Close);
+        command.setShortcutContext(Qt::ApplicationShortcut);
+        m_wells->window.addAction(&command);
+        const QSignalSpy triggered(&command, &QAction::triggered);
+        m_wells->openFloatingPanel();
+        panel()->activateWindow();
+        QTest::keySequence(panel(), keys);
+        QVERIFY(!panel()->isVisible());
+        QVERIFY(!m_wells->well.isActive());
+        QCOMPARE(triggered.count(), 0);
+    }
+
+    void isADialogByItsTitle()
+    {
+        QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(panel());
+        QCOMPARE(interface->role(), QAccessible::Dialog);
+        QCOMPARE(interface->text(QAccessible::Name), panel()->windowTitle());
+    }
+
+    void describesTheSharedPanelsColor()
+    {
+        panel()->setColor({0.204F, 0.286F, 0.369F, 1.0F});
+        QCOMPARE(ColorPanel::colorText(), u"r: 52, g: 73, b: 94, a: 255"_s);
+    }
+};
+
+QTEST_MAIN(ColorPanelTest)
+#include "ColorPanelTest.moc"
