@@ -2,6 +2,7 @@
 #include "Console.h"
 
 #include "FailureText.h"
+#include "validator/PrintableText.h"
 
 #include <cstdio>
 
@@ -33,7 +34,7 @@ void Console::print(const QJsonDocument &document)
 void Console::complain(const QString &line)
 {
     endProgress();
-    write(stderr, QByteArrayLiteral("lumora: ") + line.toUtf8() + '\n');
+    write(stderr, QByteArrayLiteral("lumora: ") + printableText(line).toUtf8() + '\n');
 }
 
 void Console::complain(const Failure &failure)
@@ -46,7 +47,7 @@ void Console::progress(qsizetype done, qsizetype total, const QString &what)
     static const bool terminal = ::isatty(STDERR_FILENO) == 1;
     if (!terminal)
         return;
-    write(stderr, QStringLiteral("\r\033[K%1/%2 %3").arg(done).arg(total).arg(what).toUtf8());
+    write(stderr, QStringLiteral("\r\033[K%1/%2 %3").arg(done).arg(total).arg(printableText(what)).toUtf8());
     m_progressShown = true;
 }
 

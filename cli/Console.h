@@ -25,7 +25,8 @@ public:
     void print(const QString &line);
     /// One JSON value, indented, as the whole result.
     void print(const QJsonDocument &document);
-    /// One line on stderr, "lumora: ..." in front; ends a progress line first.
+    /// One line on stderr, "lumora: ..." in front; ends a progress line first. A file's name may hold line breaks and
+    /// orders to the terminal; they are spelled out.
     void complain(const QString &line);
     /// The failure worded as `failureText` words it.
     void complain(const Failure &failure);

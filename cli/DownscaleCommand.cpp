@@ -2,19 +2,25 @@
 #include "DownscaleCommand.h"
 
 #include "Console.h"
-#include "icons/PictureReader.h"
+#include "ExistingFolder.h"
+#include "FailureText.h"
 #include "resizer/DownscaleBatch.h"
 #include "resizer/DownscalePlan.h"
-#include "resizer/RetinaPicture.h"
 
-#include <QDir>
+#include <QFileInfo>
 #include <QHash>
 #include <QJsonArray>
 #include <QJsonObject>
 
+#include <limits>
 #include <memory>
 #include <string>
 #include <vector>
+
+#include <cstdlib>
+#if defined(__GLIBC__)
+#include <malloc.h>
+#endif
 
 using namespace Qt::StringLiterals;
 
@@ -59,7 +65,11 @@ public:
     }
     void add(const Failure &failure)
     {
-        m_console.complain(failure);
+        // Of all the formats that pictures come in, only one has a name that is taken here.
+        if (failure.code == FailureCode::NotAPicture)
+            m_console.complain(failureText(failure, "use an undamaged PNG file"_L1));
+        else
+            m_console.complain(failure);
         m_status = ExitStatus::Refused;
     }
     ExitStatus finish()
@@ -77,19 +87,6 @@ private:
     ExitStatus m_status = ExitStatus::Done;
 };
 
-/// What the run would write, judged by the pictures' headers.
-DownscaledFile foreseen(const QString &source, const QString &destination)
-{
-    DownscaledFile file{source, downscaledPath(source, destination), {}, 0, Done{}};
-    const Result<QSize> stored = storedPixelSize(source);
-    const Result<QSize> half = stored ? halvedSize(stored.value(), source) : stored;
-    if (half)
-        file.size = half.value();
-    else
-        file.outcome = half.failure();
-    return file;
-}
-
 void warnOfSharedNames(Console &console, const QStringList &sources, const QString &destination)
 {
     QHash<QString, QString> firstSource;
@@ -103,14 +100,27 @@ void warnOfSharedNames(Console &console, const QStringList &sources, const QStri
     }
 }
 
+/// Every picture asks for several buffers as large as itself. Given back to the system between two pictures, their
+/// pages would have to be made anew each time, at a tenth of the whole run.
+void keepFreedMemory()
+{
+#if defined(__GLIBC__)
+    constexpr int largestKept = 32 * 1024 * 1024;
+    ::mallopt(M_MMAP_THRESHOLD, largestKept);
+    ::mallopt(M_TRIM_THRESHOLD, std::numeric_limits<int>::max());
+    // Only the first arena grows without bounds; for few and large requests its lock does not matter.
+    ::mallopt(M_ARENA_MAX, 1);
+#endif
+}
+
 ExitStatus runDownscale(Console &console, const DownscaleArguments &arguments)
 {
-    const QString destination = QDir(QString::fromStdString(arguments.destination)).absolutePath();
-    const QFileInfo folder(destination);
-    if (!folder.isDir()) {
-        console.complain(Failure{folder.exists() ? FailureCode::NotAFolder : FailureCode::NotFound, destination, {}});
+    const Result<QString> folder = existingFolder(arguments.destination);
+    if (!folder) {
+        console.complain(folder.failure());
         return ExitStatus::Refused;
     }
+    const QString &destination = folder.value();
     QStringList named;
     for (const std::string &source : arguments.sources)
         named << QString::fromStdString(source);
@@ -123,9 +133,10 @@ ExitStatus runDownscale(Console &console, const DownscaleArguments &arguments)
     warnOfSharedNames(console, plan.sources, destination);
     if (arguments.dryRun) {
         for (const QString &source : plan.sources)
-            report.add(foreseen(source, destination));
+            report.add(foreseenHalf(source, destination));
         return report.finish();
     }
+    keepFreedMemory();
     createImagesFromDataPaths(plan.sources, destination, [&](qsizetype index, const DownscaledFile &file) {
         report.add(file);
         console.progress(index + 1, plan.sources.size(), QFileInfo(file.target).fileName());

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "FailureText.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace lumora
 {
 
@@ -36,19 +39,30 @@ constexpr Wording wordings[] = {
      "choose another folder, or allow it with --overwrite"},
 };
 
+const Wording *wordingOf(FailureCode code)
+{
+    const auto *wording =
+        std::find_if(std::begin(wordings), std::end(wordings), [code](const Wording &one) { return one.code == code; });
+    return wording == std::end(wordings) ? nullptr : wording;
+}
+
 } // namespace
 
 QString failureText(const Failure &failure)
 {
-    for (const Wording &wording : wordings) {
-        if (wording.code != failure.code)
-            continue;
-        QString line = failure.subject + QStringLiteral(": ") + QLatin1StringView(wording.reason);
-        if (!failure.detail.isEmpty())
-            line += QStringLiteral(" (") + failure.detail + u')';
-        return line + QStringLiteral("; ") + QLatin1StringView(wording.remedy);
-    }
-    return failure.subject;
+    const Wording *wording = wordingOf(failure.code);
+    return failureText(failure, QLatin1StringView(wording == nullptr ? "" : wording->remedy));
+}
+
+QString failureText(const Failure &failure, QLatin1StringView remedy)
+{
+    const Wording *wording = wordingOf(failure.code);
+    if (wording == nullptr)
+        return failure.subject;
+    QString line = failure.subject + QStringLiteral(": ") + QLatin1StringView(wording->reason);
+    if (!failure.detail.isEmpty())
+        line += QStringLiteral(" (") + failure.detail + u')';
+    return line + QStringLiteral("; ") + remedy;
 }
 
 } // namespace lumora

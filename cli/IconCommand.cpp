@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "IconCommand.h"
 
+#include "ExistingFolder.h"
 #include "IconInput.h"
 #include "IconReport.h"
 #include "foundation/LeadingInteger.h"

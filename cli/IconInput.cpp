@@ -5,9 +5,7 @@
 #include "icons/IconSource.h"
 #include "icons/PictureReader.h"
 
-#include <QDir>
 #include <QFile>
-#include <QFileInfo>
 
 #include <unistd.h>
 
@@ -41,17 +39,6 @@ Result<QImage> iconSource(const IconArguments &arguments)
     if (!bytes)
         return bytes.failure();
     return readIconSource(bytes.value(), name);
-}
-
-Result<QString> existingFolder(const std::string &argument)
-{
-    const QString given = QFile::decodeName(argument.c_str());
-    const QFileInfo info(given);
-    if (given.isEmpty() || !info.exists())
-        return Failure{FailureCode::NotFound, given.isEmpty() ? QStringLiteral("--to") : given, {}};
-    if (!info.isDir())
-        return Failure{FailureCode::NotAFolder, given, {}};
-    return QDir(given).absolutePath();
 }
 
 } // namespace lumora

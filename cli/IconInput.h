@@ -26,7 +26,4 @@ struct IconArguments
 /// The picture to make icons from: the named file, standard input for "-", the built-in one where none is named.
 Result<QImage> iconSource(const IconArguments &arguments);
 
-/// The absolute path of the folder to write into, which has to exist.
-Result<QString> existingFolder(const std::string &argument);
-
 } // namespace lumora

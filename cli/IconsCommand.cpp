@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "IconsCommand.h"
 
+#include "ExistingFolder.h"
 #include "IconInput.h"
 #include "IconReport.h"
 #include "icons/IconExport.h"

@@ -2,6 +2,7 @@
 #include "PlaceholdersCommand.h"
 
 #include "Console.h"
+#include "ExistingFolder.h"
 #include "placeholders/LabelFont.h"
 #include "placeholders/PlaceholderExport.h"
 #include "placeholders/PlaceholderSizes.h"
@@ -9,7 +10,6 @@
 
 #include <CLI/Validators.hpp>
 
-#include <QDir>
 #include <QJsonArray>
 #include <QJsonObject>
 
@@ -96,14 +96,19 @@ ExitStatus runPlaceholders(Console &console, const PlaceholdersArguments &argume
     const std::optional<std::vector<QSize>> sizes = wantedSizes(console, arguments);
     if (!sizes)
         return ExitStatus::Refused;
+    const Result<QString> destination = existingFolder(arguments.destination);
+    if (!destination) {
+        console.complain(destination.failure());
+        return ExitStatus::Refused;
+    }
     const LabelFont font;
     std::vector<Placeholder> pictures;
     for (const QSize size : *sizes)
         pictures.push_back(placeholderWithSize(size, font));
-    const QString destination = QDir(QString::fromStdString(arguments.destination)).absolutePath();
-    const PlaceholderRun run = savePlaceholders(pictures, destination, [&console](qsizetype done, qsizetype total) {
+    const auto written = [&console](qsizetype done, qsizetype total) {
         console.progress(done, total, u"placeholders"_s);
-    });
+    };
+    const PlaceholderRun run = savePlaceholders(pictures, destination.value(), written);
     console.endProgress();
     return report(console, run, arguments.json);
 }

@@ -15,6 +15,7 @@
 #include <condition_variable>
 #include <map>
 #include <mutex>
+#include <new>
 #include <thread>
 #include <vector>
 
@@ -27,20 +28,37 @@ namespace
 /// What all pictures in work may take together.
 constexpr qint64 memoryForPictures = 768LL * 1024 * 1024;
 
-Result<HalvedPicture> readAndHalve(const QString &path, MemoryBudget &budget)
+/// How far the workers may be ahead of the writing, in files and in bytes of finished ones: enough that nobody waits
+/// while one worker has a large picture.
+constexpr qsizetype filesAhead = 256;
+constexpr qint64 bytesAhead = 64LL * 1024 * 1024;
+
+Result<QByteArray> readSource(const QString &path)
 {
     const QFileInfo file(path);
     // A pipe that nobody writes to would hold up the whole batch.
     if (file.exists() && !file.isFile() && !file.isDir())
         return Failure{FailureCode::NotReadable, path, QStringLiteral("not a regular file")};
-    const Result<QByteArray> bytes = readWholeFile(path, largestPictureFile);
+    return readWholeFile(path, largestPictureFile);
+}
+
+Result<HalvedPicture> readAndHalve(const QString &path, MemoryBudget &budget)
+{
+    const Result<QByteArray> bytes = readSource(path);
     if (!bytes)
         return bytes.failure();
     const Result<QSize> stored = storedPixelSize(bytes.value(), path);
     if (!stored)
         return stored.failure();
+    const Result<QSize> half = halvedSize(stored.value(), path);
+    if (!half)
+        return half.failure();
     const MemoryBudget::Share share(budget, halvingMemory(stored.value()));
-    return halvedPicture(bytes.value(), path);
+    try {
+        return halvedPicture(bytes.value(), path);
+    } catch (const std::bad_alloc &) {
+        return Failure{FailureCode::TooLarge, path, QStringLiteral("not enough memory")};
+    }
 }
 
 /// The batch in work: workers halve pictures, the thread that called writes them in order.
@@ -55,7 +73,6 @@ public:
     void run(const FileDownscaled &downscaled)
     {
         const auto workers = std::min<qsizetype>(std::max(QThread::idealThreadCount(), 1), m_paths.size());
-        m_window = 2 * workers;
         std::vector<std::jthread> threads;
         for (qsizetype i = 0; i < workers; ++i)
             threads.emplace_back([this] { work(); });
@@ -66,7 +83,7 @@ public:
         }
         const std::lock_guard lock(m_mutex);
         m_stopped = true;
-        m_changed.notify_all();
+        m_mayRead.notify_all();
     }
 
 private:
@@ -89,26 +106,34 @@ private:
             const qsizetype index = m_next++;
             if (index >= m_paths.size())
                 return;
-            m_changed.wait(lock, [this, index] {
-                return m_stopped ||
-                       (index < m_written + m_window && m_written >= m_readableAfter[static_cast<std::size_t>(index)]);
-            });
+            m_mayRead.wait(lock, [this, index] { return m_stopped || mayRead(index); });
             if (m_stopped)
                 return;
             lock.unlock();
             Result<HalvedPicture> picture = readAndHalve(m_paths.at(index), m_budget);
             lock.lock();
+            m_bytesWaiting += bytesOf(picture);
             m_halved.emplace(index, std::move(picture));
-            m_changed.notify_all();
+            m_finished.notify_one();
         }
     }
+
+    bool mayRead(qsizetype index) const
+    {
+        // The one that is waited for always goes on, or nothing would.
+        const bool near = index < m_written + filesAhead && m_bytesWaiting < bytesAhead;
+        return (near || index == m_written) && m_written >= m_readableAfter[static_cast<std::size_t>(index)];
+    }
+
+    static qint64 bytesOf(const Result<HalvedPicture> &picture) { return picture ? picture.value().png.size() : 0; }
 
     Result<HalvedPicture> take(qsizetype index)
     {
         std::unique_lock lock(m_mutex);
-        m_changed.wait(lock, [this, index] { return m_halved.contains(index); });
+        m_finished.wait(lock, [this, index] { return m_halved.contains(index); });
         Result<HalvedPicture> picture = std::move(m_halved.at(index));
         m_halved.erase(index);
+        m_bytesWaiting -= bytesOf(picture);
         return picture;
     }
 
@@ -125,19 +150,20 @@ private:
         }
         const std::lock_guard lock(m_mutex);
         m_written = index + 1;
-        m_changed.notify_all();
+        m_mayRead.notify_all();
         return file;
     }
 
     const QStringList m_paths;
     const QString m_destination;
     std::vector<qsizetype> m_readableAfter;
-    qsizetype m_window = 0;
     MemoryBudget m_budget{memoryForPictures};
 
-    std::mutex m_mutex; ///< guards everything below
-    std::condition_variable m_changed;
+    std::mutex m_mutex;                 ///< guards everything below
+    std::condition_variable m_finished; ///< a picture is halved
+    std::condition_variable m_mayRead;  ///< a file is written, or the batch is to stop
     std::map<qsizetype, Result<HalvedPicture>> m_halved;
+    qint64 m_bytesWaiting = 0; ///< of `m_halved`
     qsizetype m_next = 0;
     qsizetype m_written = 0;
     bool m_stopped = false;
@@ -148,6 +174,19 @@ private:
 QString downscaledPath(const QString &source, const QString &destination)
 {
     return destination + u'/' + singleResolutionName(source);
+}
+
+DownscaledFile foreseenHalf(const QString &source, const QString &destination)
+{
+    DownscaledFile file{source, downscaledPath(source, destination), {}, 0, Done{}};
+    const Result<QByteArray> bytes = readSource(source);
+    const Result<QSize> stored = bytes ? storedPixelSize(bytes.value(), source) : bytes.failure();
+    const Result<QSize> half = stored ? halvedSize(stored.value(), source) : stored;
+    if (half)
+        file.size = half.value();
+    else
+        file.outcome = half.failure();
+    return file;
 }
 
 void createImagesFromDataPaths(const QStringList &paths, const QString &destination, const FileDownscaled &downscaled)

@@ -25,6 +25,10 @@ struct DownscaledFile
 /// Where a source's half goes: its name without markers, in the destination folder.
 QString downscaledPath(const QString &source, const QString &destination);
 
+/// What would become of a file, judged by its header: a failure as the batch would meet it, or the path and the size
+/// that would be written. Writes nothing; damage behind the header shows only in the batch.
+DownscaledFile foreseenHalf(const QString &source, const QString &destination);
+
 /// Told about file number `index` of the batch (from 0), once for each file and in their order, whatever became of it.
 /// Answers whether the batch is to go on.
 using FileDownscaled = std::function<bool(qsizetype index, const DownscaledFile &file)>;

@@ -36,9 +36,11 @@ qint64 halvingMemory(QSize pixels)
 Result<QSize> halvedSize(QSize pixels, const QString &name)
 {
     const QSize half = halfSize(pixels);
+    const QString text = QStringLiteral("%1 x %2 pixels").arg(pixels.width()).arg(pixels.height());
     if (half.isEmpty())
-        return Failure{FailureCode::TooSmall, name,
-                       QStringLiteral("%1 x %2 pixels").arg(pixels.width()).arg(pixels.height())};
+        return Failure{FailureCode::TooSmall, name, text};
+    if (qint64{pixels.width()} * pixels.height() > largestPictureArea)
+        return Failure{FailureCode::TooLarge, name, text};
     return half;
 }
 
