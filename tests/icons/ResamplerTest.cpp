@@ -1,81 +1,24 @@
 // SPDX-License-Identifier: MIT
 #include "icons/Resampler.h"
 
+#include "ZonePlate.h"
 #include "icons/PixelFormat.h"
 
 #include <QTest>
 
 #include <cmath>
-#include <numbers>
 
 using namespace lumora;
 
 namespace
 {
 
-constexpr int sourceEdge = 1024;
-
-/// The zone plate cos(pi * r^2 * 0.5 / 512), r in source pixels from the centre: its local frequency at r is r * 0.5 /
-/// 512 cycles a pixel.
-double zonePlate(double x, double y)
-{
-    return 127.5 * (1 + std::cos(std::numbers::pi * (x * x + y * y) * 0.5 / 512));
-}
-
-QImage zonePlatePicture()
-{
-    QImage picture(sourceEdge, sourceEdge, QImage::Format_RGB32);
-    for (int y = 0; y < sourceEdge; ++y) {
-        for (int x = 0; x < sourceEdge; ++x) {
-            const int grey = static_cast<int>(std::lround(zonePlate(x + 0.5 - 512, y + 0.5 - 512)));
-            picture.setPixel(x, y, qRgb(grey, grey, grey));
-        }
-    }
-    return picture;
-}
-
-struct Errors
-{
-    double aliasing = 0;
-    double passband = 0;
-};
-
-/// Root mean squares in 8-bit levels: what should be grey where the target cannot hold the detail, and the deviation
-/// from the plate itself where it easily can.
-Errors errorsOf(const QImage &scaled)
-{
-    const int edge = scaled.width();
-    const double step = double{sourceEdge} / edge;
-    const double nyquist = 512.0 / step;
-    double aliasing = 0;
-    double passband = 0;
-    int aliased = 0;
-    int passed = 0;
-    for (int y = 0; y < edge; ++y) {
-        for (int x = 0; x < edge; ++x) {
-            const double sx = (x + 0.5) * step - 512;
-            const double sy = (y + 0.5) * step - 512;
-            const double r = std::hypot(sx, sy);
-            const double value = scaled.constScanLine(y)[4 * x];
-            if (r > 1.3 * nyquist && r < 500) {
-                aliasing += (value - 127.5) * (value - 127.5);
-                ++aliased;
-            } else if (r < 0.6 * nyquist) {
-                const double error = value - zonePlate(sx, sy);
-                passband += error * error;
-                ++passed;
-            }
-        }
-    }
-    return {aliased == 0 ? 0 : std::sqrt(aliasing / aliased), passed == 0 ? 0 : std::sqrt(passband / passed)};
-}
-
 QImage disc(QColor colour)
 {
-    QImage picture(sourceEdge, sourceEdge, QImage::Format_RGBA8888);
+    QImage picture(zonePlateEdge, zonePlateEdge, QImage::Format_RGBA8888);
     picture.fill(QColor(0, 0, 0, 0));
-    for (int y = 0; y < sourceEdge; ++y) {
-        for (int x = 0; x < sourceEdge; ++x) {
+    for (int y = 0; y < zonePlateEdge; ++y) {
+        for (int x = 0; x < zonePlateEdge; ++x) {
             const double inside = 400.5 - std::hypot(x - 511.5, y - 511.5);
             colour.setAlphaF(static_cast<float>(std::clamp(inside, 0.0, 1.0)));
             picture.setPixelColor(x, y, colour);
@@ -119,7 +62,7 @@ void ResamplerTest::keepsDetailAndAddsNone()
     QFETCH(int, edge);
     QFETCH(double, aliasing);
     QFETCH(double, passband);
-    const Errors errors = errorsOf(resample(zonePlatePicture(), {edge, edge}));
+    const ZonePlateErrors errors = zonePlateErrors(resample(zonePlatePicture(), {edge, edge}));
     qInfo("%d: aliasing %.2f passband %.2f", edge, errors.aliasing, errors.passband);
     QVERIFY2(errors.aliasing <= aliasing, qPrintable(QString::number(errors.aliasing)));
     QVERIFY2(errors.passband <= passband, qPrintable(QString::number(errors.passband)));

@@ -170,6 +170,24 @@ private slots:
         QCOMPARE(QDir(out(u"placeholders_1"_s)).entryList(QDir::Files).size(), 4);
     }
 
+    void aPressDuringARunStartsAnother()
+    {
+        typeSize(u"3000"_s, u"3000"_s);
+        ui().customButton->click();
+        chooser().confirm(m_folder->path());
+        QTRY_VERIFY(QFileInfo::exists(out(u"placeholders"_s)));
+        ui().macButton->click();
+        QCOMPARE(m_controller->selectedButton(), ui().macButton);
+        QTest::ignoreMessage(QtInfoMsg, "Folder exists!");
+        chooser().confirm(m_folder->path());
+        // Whichever ends first closes at the button pressed last; the other has none left.
+        QTRY_COMPARE(ui().macButton->text(), qtTrId("ALL_DONE"));
+        QCOMPARE(m_controller->selectedButton(), nullptr);
+        QTRY_COMPARE(QDir(out(u"placeholders_1"_s)).entryList(QDir::Files).size(), 4);
+        QTRY_COMPARE_WITH_TIMEOUT(QDir(out(u"placeholders"_s)).entryList(QDir::Files).size(), 1, 60000);
+        m_controller.reset();
+    }
+
     void failuresAreNotTold()
     {
         QTest::ignoreMessage(QtInfoMsg, QRegularExpression(u"^Folder error: .+"_s));
