@@ -265,6 +265,14 @@ class Control:
     def focus(self):
         self.node.queryComponent().grabFocus()
 
+    @property
+    def description(self):
+        return self.node.description
+
+    def set_text(self, text):
+        """By the accessibility interface, as a screen reader's dictation does."""
+        self.node.queryEditableText().setTextContents(text)
+
 
 class Lumora:
     """The running program."""
@@ -337,6 +345,17 @@ class Lumora:
         self.desktop.key("ctrl+a")
         self.desktop.type(str(path))
         self.desktop.key("Return")
+
+    def choose_by_reader(self, text, confirm):
+        """Fills the file or folder dialog that is open in and presses its button, by the accessibility interface alone."""
+        wait_for("the dialog's button", lambda: self.controls("push button", confirm))
+        wait_for("the dialog's field", lambda: self.controls("text")[-1:])[0].set_text(text)
+        self.button(confirm).press()
+        wait_for("the dialog to close", lambda: not self.controls("push button", confirm))
+
+    def focused(self):
+        """The control that has the keyboard, if any."""
+        return next((control for control in self.controls() if control.has_state("focused")), None)
 
     def activate(self):
         """Gives the window the keyboard, which another window on the desktop may have taken."""

@@ -1,0 +1,128 @@
+# SPDX-License-Identifier: MIT
+"""The down-scaler: files by a real drag, by the file dialog with the keyboard alone, by the accessibility interface
+alone, refused ones, and the window closed in the middle of a batch."""
+
+import subprocess
+import sys
+import tempfile
+from pathlib import Path
+
+from desktop import Desktop, wait_for
+
+DROP_AREA = "Drop area for double-resolution pictures"
+PROGRESS = "Progress of the down-scaling"
+
+
+def picture(path, width, height, seed):
+    subprocess.run(["convert", "-seed", str(seed), "-size", f"{width}x{height}", "plasma:tomato-steelblue", str(path)],
+                   check=True)
+    return path
+
+
+def files_below(folder):
+    return {str(path.relative_to(folder)): path.read_bytes() for path in folder.rglob("*") if path.is_file()}
+
+
+class Walk:
+    def __init__(self, program, desktop, scratch):
+        self.program, self.desktop, self.scratch = program, desktop, scratch
+        self.sources = self.folder("sources")
+        self.button = picture(self.sources / "button@2x.png", 200, 80, 1)
+        self.logo = picture(self.sources / "logo-hd@2x.png", 57, 57, 2)
+        self.plain = picture(self.sources / "plain.png", 10, 10, 3)
+        self.lumora = desktop.start("--tool=resizer")
+        desktop.xdotool("windowmove", "--sync", self.lumora.window, 100, 100)
+        self.lumora.wait_shown("Lumora | Retina down-scaler")
+
+    def folder(self, name):
+        path = self.scratch / name
+        path.mkdir()
+        return path
+
+    def commanded(self, *sources):
+        """What the command line makes of them."""
+        with tempfile.TemporaryDirectory(dir=self.scratch) as reference:
+            subprocess.run([self.program, "downscale", *map(str, sources), "--to", reference], check=True,
+                           capture_output=True)
+            return files_below(Path(reference))
+
+    def expect(self, folder, *sources):
+        self.lumora.wait_shown("All done")
+        assert files_below(folder) == self.commanded(*sources), sorted(files_below(folder))
+        # The notice stands for two seconds; then files may come again.
+        wait_for("the drop area", lambda: self.lumora.controls(None, DROP_AREA), 5)
+        assert not self.lumora.shows("All done") and not self.lumora.shows(PROGRESS)
+
+    def by_drag(self):
+        drop_area = self.lumora.controls(None, DROP_AREA)[0]
+        # One without a mark alone is refused, a drag that may only be copied is turned away.
+        self.desktop.drag_files([self.plain], drop_area.middle)
+        self.lumora.wait_shown("Nothing to scale down")
+        self.lumora.button("Close").click()
+        self.lumora.wait_gone("Nothing to scale down")
+        self.desktop.drag_files([self.button], drop_area.middle, actions="copy")
+        wait_for("the refusal in the log", lambda: "Error - Copied?!" in self.desktop.log())
+
+        # Among others it is left out. A cancelled destination writes nothing.
+        self.desktop.drag_files([self.button, self.plain, self.logo], drop_area.middle)
+        wait_for("the dialog", lambda: self.lumora.controls("push button", "Choose"))
+        self.desktop.key("Escape")
+        wait_for("the dialog to close", lambda: not self.lumora.controls("push button", "Choose"))
+        assert len(list(self.sources.iterdir())) == 3
+        out = self.folder("dragged")
+        self.desktop.drag_files([self.button, self.plain, self.logo], drop_area.middle)
+        self.lumora.choose_in_dialog(out)
+        self.expect(out, self.button, self.logo)
+        assert sorted(files_below(out)) == ["button.png", "logo.png"]
+
+    def by_keyboard(self):
+        out = self.folder("keyboard")
+        self.lumora.activate()
+        self.desktop.key("ctrl+o")
+        wait_for("the file dialog", lambda: self.lumora.controls("push button", "Open"))
+        self.desktop.type(" ".join(f'"{file}"' for file in (self.logo, self.button)))
+        self.desktop.key("Return")
+        wait_for("the folder dialog", lambda: self.lumora.controls("push button", "Choose"))
+        self.desktop.key("ctrl+a")
+        self.desktop.type(str(out))
+        self.desktop.key("Return")
+        self.expect(out, self.logo, self.button)
+
+    def by_reader(self):
+        out = self.folder("reader")
+        self.lumora.button("Browse…").press()
+        self.lumora.choose_by_reader(str(self.button), "Open")
+        self.lumora.choose_by_reader(str(out), "Choose")
+        self.expect(out, self.button)
+
+    def closed_in_the_middle(self):
+        many = self.folder("many@2x")
+        first = picture(many / "p000.png", 1200, 900, 4)
+        for number in range(1, 200):
+            (many / f"p{number:03}.png").write_bytes(first.read_bytes())
+        half = self.commanded(first)["p000.png"]
+        out = self.folder("closed")
+        self.desktop.drag_files(sorted(many.iterdir()), self.lumora.controls(None, DROP_AREA)[0].middle)
+        self.lumora.choose_in_dialog(out)
+        self.lumora.wait_shown(PROGRESS)
+        wait_for("some of the halves", lambda: len(list(out.glob("*.png"))) > 2)
+        assert any(label.name.endswith(" of 200") for label in self.lumora.controls("label"))
+        assert self.lumora.close() == 0
+        # It stops after the file in work and says so; what there is, is whole.
+        written = files_below(out)
+        assert 2 < len(written) < 200, len(written)
+        assert set(written.values()) == {half}
+        assert f"Closed after {len(written)} of 200 pictures" in self.desktop.log()
+
+
+def main(program, drag_source):
+    with tempfile.TemporaryDirectory() as scratch, Desktop(program, drag_source) as desktop:
+        walk = Walk(program, desktop, Path(scratch))
+        walk.by_drag()
+        walk.by_keyboard()
+        walk.by_reader()
+        walk.closed_in_the_middle()
+
+
+if __name__ == "__main__":
+    main(sys.argv[1], sys.argv[2])
