@@ -3,11 +3,10 @@
 
 #include "DescriptorWriting.h"
 
-#include <QRandomGenerator>
-
 #include <cerrno>
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -30,6 +29,60 @@ QByteArray linkOf(int descriptor)
     return "/proc/self/fd/" + QByteArray::number(descriptor);
 }
 
+/// The hidden name beside the file's; whoever finds it taken by a file that is being written takes the next number.
+QByteArray siblingOf(const QByteArray &path, int number)
+{
+    const qsizetype nameAt = path.lastIndexOf('/') + 1;
+    // The suffix must not push a long name over the file system's limit.
+    QByteArray name = path.sliced(nameAt).first(qMin<qsizetype>(path.size() - nameAt, 200)) + ".lumora-pending";
+    if (number > 0)
+        name += '.' + QByteArray::number(number);
+    return path.first(nameAt) + '.' + name;
+}
+
+/// Every writer holds this lock from the moment its file has a name. False when another holds it; a file system without
+/// locks has nobody to tell.
+bool lock(int descriptor)
+{
+    return ::flock(descriptor, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK;
+}
+
+/// Removes the file under this name if it is one that a killed process of this user left: nobody holds its lock.
+bool removeAbandoned(const QByteArray &name)
+{
+    const int descriptor = ::open(name.constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
+    if (descriptor < 0)
+        return errno == ENOENT;
+    struct stat status = {};
+    const bool abandoned = ::fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode) &&
+                           status.st_uid == ::geteuid() && ::flock(descriptor, LOCK_EX | LOCK_NB) == 0;
+    // Renamed by its writer before it could be locked, it is no longer what stands under the name.
+    struct stat named = {};
+    const bool same = abandoned && ::lstat(name.constData(), &named) == 0 && named.st_ino == status.st_ino;
+    const bool removed = abandoned && (!same || ::unlink(name.constData()) == 0);
+    ::close(descriptor);
+    return removed;
+}
+
+/// Makes a file under the first sibling's name that is free or was abandoned, by `make`, which answers whether it could
+/// and leaves the reason in `errno`; empty when it could not.
+template <typename Make> QByteArray makeSibling(const QByteArray &path, Make make)
+{
+    constexpr int writersAtOnce = 100;
+    int number = 0;
+    while (number < writersAtOnce) {
+        const QByteArray name = siblingOf(path, number);
+        if (make(name))
+            return name;
+        if (errno != EEXIST)
+            return {};
+        if (!removeAbandoned(name))
+            ++number;
+    }
+    errno = EEXIST;
+    return {};
+}
+
 } // namespace
 
 PendingFile::PendingFile(QByteArray path) : m_path(std::move(path))
@@ -41,19 +94,17 @@ PendingFile::PendingFile(QByteArray path) : m_path(std::move(path))
     close();
     // Systems without such files answer with EOPNOTSUPP, EISDIR or EINVAL; every other error is the folder's own and
     // comes again.
-    m_temporaryName = freeSibling();
-    m_descriptor = ::open(m_temporaryName.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-    if (m_descriptor < 0) {
+    m_temporaryName = makeSibling(m_path, [this](const QByteArray &name) { return openNamed(name); });
+    if (m_temporaryName.isEmpty())
         fail();
-        m_temporaryName.clear();
-    }
 }
 
 PendingFile::~PendingFile()
 {
-    close();
+    // In this order: without the lock the name may be another's by then.
     if (!m_temporaryName.isEmpty())
         ::unlink(m_temporaryName.constData());
+    close();
 }
 
 bool PendingFile::write(const QByteArray &bytes)
@@ -71,15 +122,15 @@ bool PendingFile::publish()
             return close() || fail();
         if (errno != EEXIST)
             return fail();
-        const QByteArray sibling = freeSibling();
-        if (!linkTo(sibling))
+        lock(m_descriptor);
+        m_temporaryName = makeSibling(m_path, [this](const QByteArray &name) { return linkTo(name); });
+        if (m_temporaryName.isEmpty())
             return fail();
-        m_temporaryName = sibling;
     }
-    // Network file systems report lost writes here; the old file must not have gone by then.
-    if (!close() || ::rename(m_temporaryName.constData(), m_path.constData()) != 0)
+    if (!flush() || ::rename(m_temporaryName.constData(), m_path.constData()) != 0)
         return fail();
     m_temporaryName.clear();
+    close();
     return true;
 }
 
@@ -96,12 +147,26 @@ bool PendingFile::close()
     return descriptor < 0 || ::close(descriptor) == 0;
 }
 
-QByteArray PendingFile::freeSibling() const
+bool PendingFile::flush()
 {
-    const qsizetype nameAt = m_path.lastIndexOf('/') + 1;
-    // Eight digits more must not push a long name over the file system's limit.
-    return m_path.first(nameAt) + '.' + m_path.sliced(nameAt).first(qMin<qsizetype>(m_path.size() - nameAt, 200)) +
-           '.' + QByteArray::number(QRandomGenerator::global()->generate(), 16);
+    // Network file systems report lost writes when a descriptor is closed; the old file must not have gone by then, nor
+    // the lock, which the other descriptor keeps.
+    const int copy = ::fcntl(m_descriptor, F_DUPFD_CLOEXEC, 0);
+    return copy >= 0 && ::close(copy) == 0;
+}
+
+bool PendingFile::openNamed(const QByteArray &name)
+{
+    m_descriptor = ::open(name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+    if (m_descriptor < 0)
+        return false;
+    // Between the two calls it may have been taken for an abandoned one.
+    struct stat status = {};
+    if (lock(m_descriptor) && ::fstat(m_descriptor, &status) == 0 && status.st_nlink > 0)
+        return true;
+    close();
+    errno = EEXIST;
+    return false;
 }
 
 bool PendingFile::linkTo(const QByteArray &name) const

@@ -8,7 +8,8 @@ namespace lumora
 
 /// A file that gets its name only once its content is whole, so that neither a full disk nor a killed process leaves a
 /// torso under that name or costs the file that had it before. Where the file system can, the file has no name at all
-/// until then; elsewhere it has a hidden one beside its place.
+/// until then; elsewhere, and for the moment in which it takes an old file's place, it has a hidden one beside it. What
+/// a killed process left under that name goes when the same file is written again.
 class PendingFile
 {
 public:
@@ -30,7 +31,8 @@ public:
 private:
     bool fail();
     bool close();
-    QByteArray freeSibling() const;
+    bool flush();
+    bool openNamed(const QByteArray &name);
     bool linkTo(const QByteArray &name) const;
 
     QByteArray m_path;

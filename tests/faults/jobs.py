@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: MIT
-"""One job for each command that writes: what the user has before it, and the call."""
+"""One job for each command that writes, and for each of the window: what the user has before it, and the call."""
 import io
+import os
 import plistlib
 import struct
 import zipfile
@@ -46,11 +47,14 @@ class Job:
     kinds: tuple = ("once", "onwards", "short", "interrupted", "kill")
     """How it ends when nothing fails: a check that finds something missing ends with 1."""
     status: int = 0
+    """Whether it writes into the user's own folder, over what is there; others make a fresh folder each time."""
+    replaces: bool = False
+    program: str = os.environ["LUMORA_PROGRAM"]
 
 
 MINE = {"mine.txt": b"the user's own"}
 
-JOBS = [
+COMMANDS = [
     Job(
         "icons",
         ["icons", "--platform", "favicon,web-touch", "--to", "{out}"],
@@ -69,8 +73,21 @@ JOBS = [
         ["downscale", "{in}", "--to", "{out}"],
         sources={"button@2x.png": png(40, 30), "new-hd.png": png(31, 17)},
         present=MINE | {"button.png": png(3, 3)},
+        replaces=True,
     ),
     Job("validate", ["validate", "{in}/An app ü.ipa"], sources={"An app ü.ipa": package()}, status=1),
     Job("validate, as JSON", ["validate", "--json", "{in}/An app ü.ipa"], sources={"An app ü.ipa": package()}, status=1,
         kinds=("once",)),
+]
+
+# The window's own. Failures after the folder was chosen are only logged there, so that it is killed, and left without a
+# call now and then, but not asked for an exit status.
+WINDOW = {"program": os.environ["LUMORA_PANE_JOBS"], "kinds": ("once in the window", "kill")}
+WINDOW_JOBS = [
+    Job("icons in the window", ["icons", "{out}"], present=MINE | {"icons/earlier.png": b"an earlier run"}, **WINDOW),
+    Job("placeholders in the window", ["placeholders", "{out}"], present=MINE, **WINDOW),
+    Job("downscale in the window", ["downscale", "{out}", "{in}/button@2x.png", "{in}/new-hd.png"],
+        sources={"button@2x.png": png(40, 30), "new-hd.png": png(31, 17)},
+        present=MINE | {"button.png": png(3, 3)}, replaces=True, **WINDOW),
+    Job("validate in the window", ["validate", "{in}/An app ü.ipa"], sources={"An app ü.ipa": package()}, **WINDOW),
 ]

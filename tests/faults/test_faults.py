@@ -7,13 +7,16 @@ import subprocess
 import tempfile
 import unittest
 from concurrent.futures import ThreadPoolExecutor
-from dataclasses import dataclass
+from dataclasses import dataclass, replace
 from pathlib import Path
 
-from jobs import JOBS
+from jobs import COMMANDS, WINDOW_JOBS
 
-PROGRAM = os.environ["LUMORA_PROGRAM"]
+JOBS = COMMANDS + WINDOW_JOBS
+
 PRELOAD = os.environ["LUMORA_FAILING_CALLS"]
+# The hidden name that a file has while it takes an old one's place.
+PENDING = re.compile(r"(.*/)?\.([^/]+)\.lumora-pending")
 # A job takes a fraction of a second; a machine under load gets two orders of magnitude more.
 HANG = 60
 
@@ -33,8 +36,9 @@ def contents(folder):
     return {str(path.relative_to(folder)): path.read_bytes() for path in sorted(folder.rglob("*")) if path.is_file()}
 
 
-def run(job, stdout=subprocess.PIPE, prefix=(), **faults):
-    """Runs the job in a place of its own, with LUMORA_FAULT_* set from the keywords."""
+def run(job, stdout=subprocess.PIPE, prefix=(), again=False, **faults):
+    """Runs the job in a place of its own, with LUMORA_FAULT_* set from the keywords; `again`, once more after that in
+    the same place without them, and answers how that ended."""
     with tempfile.TemporaryDirectory() as place:
         place = Path(place)
         for name, files in {"in": job.sources, "out": job.present, "tmp": {}, "run": {}}.items():
@@ -45,9 +49,12 @@ def run(job, stdout=subprocess.PIPE, prefix=(), **faults):
         environment = os.environ | {"TMPDIR": str(place / "tmp"), "XDG_RUNTIME_DIR": str(place / "run"), "LD_PRELOAD": PRELOAD}
         environment |= {f"LUMORA_FAULT_{key.upper()}": str(value) for key, value in faults.items()}
         words = [word.replace("{in}", f"{place}/in").replace("{out}", f"{place}/out") for word in job.arguments]
-        process = subprocess.run(
-            [*prefix, PROGRAM, *words], stdout=stdout, stderr=subprocess.PIPE, env=environment, timeout=HANG, check=False
-        )
+        command = [*prefix, job.program, *words]
+        process = subprocess.run(command, stdout=stdout, stderr=subprocess.PIPE, env=environment, timeout=HANG, check=False)
+        if again:
+            environment = {key: value for key, value in environment.items()
+                           if key not in ("LUMORA_FAULT_AT", "LUMORA_FAULT_LOG")}
+            process = subprocess.run(command, stdout=stdout, stderr=subprocess.PIPE, env=environment, timeout=HANG, check=False)
         # The place has another name each time; results that name it are compared without it.
         return Run(
             process.returncode,
@@ -134,14 +141,35 @@ class Faults(unittest.TestCase):
                     # A name that is taken can only be taken over by renaming. The instant before, the new file stands
                     # whole beside it.
                     for name in list(ended.files):
-                        waiting = re.fullmatch(r"(.*/)?\.([^/]+)\.[0-9a-f]+", name)
+                        waiting = PENDING.fullmatch(name)
                         if waiting and what.endswith(": rename"):
                             replaced = (waiting[1] or "") + waiting[2]
                             self.assertEqual(ended.files.pop(name), sound.files[replaced])
                     self.assert_no_torso(job, sound, ended)
 
-    def test_results_that_nobody_receives_are_no_success(self):
+    def test_what_a_killed_job_left_goes_with_the_next_one(self):
         for job in JOBS:
+            # Into a folder of its own nothing is written that another run could find.
+            for named in ({}, {"named": 1}) if job.replaces else ({},):
+                for sound, what, ended in self.each(job, "kill", again=True, **named):
+                    with self.subTest(f"{what} {named}"):
+                        self.assertEqual((ended.status, ended.temporary), (job.status, []), ended.err)
+                        # A folder that the killed job made for itself stays as it was then.
+                        users = {str(Path(name).parent) for name in ["mine.txt", *job.present]}
+                        left = [name for name in ended.files if PENDING.fullmatch(name) and str(Path(name).parent) in users]
+                        self.assertEqual(left, [])
+                        if job.replaces:
+                            self.assertEqual(ended.files, sound.files)
+
+    def test_the_window_outlives_a_call_that_fails(self):
+        for job in JOBS:
+            for sound, what, ended in self.each(job, "once in the window"):
+                with self.subTest(what):
+                    self.assertEqual((ended.status, ended.temporary), (0, []), ended.err)
+                    self.assert_no_torso(job, sound, ended)
+
+    def test_results_that_nobody_receives_are_no_success(self):
+        for job in COMMANDS:
             with self.subTest(job.name), open("/dev/full", "wb") as full:
                 ended = run(job, stdout=full)
                 self.assertGreater(ended.status, 0)
@@ -151,10 +179,10 @@ class Faults(unittest.TestCase):
     def test_a_small_file_system_is_filled_and_told(self):
         # One page holds the folders, and not the results.
         mount = ["unshare", "--mount", "--propagation", "private", "sh", "-c", 'mount -t tmpfs -o size=4k,mode=700 tmpfs "$0"; exec "$@"']
-        for job in JOBS:
+        for job in COMMANDS:
             with self.subTest(job.name), tempfile.TemporaryDirectory() as small:
                 words = [word.replace("{out}", small) for word in job.arguments]
-                filled = type(job)(job.name, words, job.sources)
+                filled = replace(job, arguments=words, present={})
                 ended = run(filled, prefix=[*mount, small, "env", f"TMPDIR={small}"])
                 self.assertGreater(ended.status, 0)
                 self.assertRegex(ended.err, "No space left on device|the disk is nearly full")

@@ -8,6 +8,7 @@
 #include <csignal>
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -151,6 +152,43 @@ private slots:
         QCOMPARE(entries(m_folder->path()), wasThere ? QStringList{u"a.png"_s} : QStringList{});
         if (wasThere)
             QCOMPARE(get(path(u"a.png"_s)), oldBytes);
+    }
+
+    void whatAKilledProcessLeftGoes()
+    {
+        QVERIFY(put(path(u"a.png"_s), oldBytes));
+        QVERIFY(put(path(u".a.png.lumora-pending"_s), newBytes));
+        QVERIFY(writeWholeFile(path(u"a.png"_s), newBytes).ok());
+        QCOMPARE(entries(m_folder->path()), QStringList{u"a.png"_s});
+        QCOMPARE(get(path(u"a.png"_s)), newBytes);
+    }
+
+    void whatAnotherProcessWritesStays()
+    {
+        QVERIFY(put(path(u"a.png"_s), oldBytes));
+        const QString pending = path(u".a.png.lumora-pending"_s);
+        QVERIFY(put(pending, "half"));
+        const int other = ::open(QFile::encodeName(pending).constData(), O_RDONLY | O_CLOEXEC);
+        QCOMPARE(::flock(other, LOCK_EX | LOCK_NB), 0);
+        const Outcome outcome = writeWholeFile(path(u"a.png"_s), newBytes);
+        ::close(other);
+        QVERIFY(outcome.ok());
+        QCOMPARE(get(path(u"a.png"_s)), newBytes);
+        QCOMPARE(entries(m_folder->path()), (QStringList{u".a.png.lumora-pending"_s, u"a.png"_s}));
+        QCOMPARE(get(pending), "half");
+    }
+
+    void whatIsNoFileUnderThePendingNameStays()
+    {
+        QVERIFY(put(path(u"a.png"_s), oldBytes));
+        QVERIFY(put(path(u"b"_s), oldBytes));
+        QVERIFY(QFile::link(path(u"b"_s), path(u".a.png.lumora-pending"_s)));
+        QVERIFY(QDir(m_folder->path()).mkdir(u".a.png.lumora-pending.1"_s));
+        QVERIFY(writeWholeFile(path(u"a.png"_s), newBytes).ok());
+        QCOMPARE(get(path(u"a.png"_s)), newBytes);
+        QCOMPARE(get(path(u"b"_s)), oldBytes);
+        QCOMPARE(entries(m_folder->path()),
+                 (QStringList{u".a.png.lumora-pending"_s, u".a.png.lumora-pending.1"_s, u"a.png"_s, u"b"_s}));
     }
 
     void keepsThePermissionsOfTheFileItReplaces()
