@@ -1,0 +1,194 @@
+// SPDX-License-Identifier: MIT
+#include "app/AppDelegate.h"
+#include "app/HeaderView.h"
+#include "app/ITSidebar.h"
+#include "app/services/RecordingServices.h"
+#include "icons/IconsViewController.h"
+#include "resources/Resources.h"
+#include "tests/validator/ScriptedFiles.h"
+#include "ui_IconsViewController.h"
+#include "ui_ValidaterViewController.h"
+#include "validator/ValidaterViewController.h"
+#include "widgets/AppStyle.h"
+#include "widgets/CheckboxButton.h"
+#include "widgets/HoverButton.h"
+#include "widgets/INAppStoreWindow.h"
+#include "widgets/IconButton.h"
+#include "widgets/ImageButton.h"
+#include "widgets/SFBPopover.h"
+
+#include <QDir>
+#include <QLoggingCategory>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <array>
+
+#include <malloc.h>
+#include <unistd.h>
+
+using namespace lumora;
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+/// What the process holds, in bytes.
+struct Memory
+{
+    qint64 heap = 0;     ///< handed out by the allocator and not given back: every lost byte shows, nothing else does
+    qint64 resident = 0; ///< what the system gave the process, free heap returned first: what the user sees
+};
+
+Memory memory()
+{
+    // What is deleted later goes with the event loop's next round.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCoreApplication::processEvents();
+    ::malloc_trim(0);
+    const struct mallinfo2 info = ::mallinfo2();
+    QFile statm(u"/proc/self/statm"_s);
+    if (!statm.open(QIODevice::ReadOnly))
+        return {};
+    return {static_cast<qint64>(info.uordblks + info.hblkhd),
+            statm.readAll().split(' ').at(1).toLongLong() * ::sysconf(_SC_PAGESIZE)};
+}
+
+bool isWithinTenPercent(qint64 now, qint64 before)
+{
+    return before > 0 && now <= before + before / 10;
+}
+
+} // namespace
+
+class SoakTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        // What threads leave in heaps of their own depends on how they met; in one heap free memory is found again.
+        ::mallopt(M_ARENA_MAX, 1);
+        loadResources();
+        installTexts(*qApp, QLocale(u"en_GB"_s));
+        applyAppColors();
+        // Exports tell what they do, and the offscreen platform that it cannot raise a window: thousands of lines.
+        QLoggingCategory::setFilterRules(u"*.info=false\ndefault.warning=false"_s);
+        qputenv("TMPDIR", QFile::encodeName(m_work.path()));
+        QVERIFY(runScript(u"make_packages.py"_s, {m_packages.path()}));
+        m_delegate = std::make_unique<AppDelegate>(m_services.services());
+        m_delegate->applicationDidFinishLaunching();
+        // A popover that still fades out would be taken for a visible one, whose button hides it.
+        for (SFBPopover *popover : {m_delegate->popupView(), m_delegate->aboutPopupView(), icons().popupView(),
+                                    validator().popupView(), validator().validatePopup()})
+            popover->setAnimates(false);
+        m_delegate->activate();
+        QVERIFY(QTest::qWaitForWindowExposed(m_delegate->window()));
+        // The level after the tenth of each: by then every pane is laid out and every cache is filled.
+        for (int round = 0; round < 10; ++round) {
+            switchTool(round);
+            exportIcons(round);
+            validate(round);
+        }
+        m_before = memory();
+    }
+
+    void cleanupTestCase() { m_delegate.reset(); }
+
+    void fiveHundredToolSwitches()
+    {
+        for (int round = 10; round < 500; ++round)
+            switchTool(round);
+        expectTheOldLevel();
+    }
+
+    void hundredExports()
+    {
+        for (int round = 10; round < 100; ++round)
+            exportIcons(round);
+        expectTheOldLevel();
+    }
+
+    void hundredValidations()
+    {
+        for (int round = 10; round < 100; ++round)
+            validate(round);
+        expectTheOldLevel();
+    }
+
+private:
+    IconsViewController &icons() const { return static_cast<IconsViewController &>(*m_delegate->controllers().at(0)); }
+    ValidaterViewController &validator() const
+    {
+        return static_cast<ValidaterViewController &>(*m_delegate->controllers().at(5));
+    }
+
+    void expectTheOldLevel()
+    {
+        const Memory now = memory();
+        qDebug("heap %lld KB after ten, %lld KB now; resident %lld KB after ten, %lld KB now", m_before.heap / 1024,
+               now.heap / 1024, m_before.resident / 1024, now.resident / 1024);
+        QVERIFY(isWithinTenPercent(now.heap, m_before.heap));
+        QVERIFY(isWithinTenPercent(now.resident, m_before.resident));
+    }
+
+    /// The next tool, drawn; then its help, or the about panel, which the switch after this one closes.
+    void switchTool(int round)
+    {
+        m_delegate->sideBar()->setSelectedIndex(round % 6);
+        QCoreApplication::processEvents();
+        if (round % 2 == 0)
+            m_delegate->infoButtonClicked(m_delegate->header()->infoButton());
+        else
+            m_delegate->iconButtonClicked(m_delegate->header()->iconButton());
+        QCoreApplication::processEvents();
+        QVERIFY(m_delegate->popupView()->isVisible() || m_delegate->aboutPopupView()->isVisible());
+    }
+
+    /// One platform's icons, the platforms in turn, into a folder where a set is already: the message tells of it.
+    void exportIcons(int round)
+    {
+        m_delegate->sideBar()->setSelectedIndex(0);
+        const Ui::IconsViewController &ui = icons().outlets();
+        const std::array boxes = {ui.iPhoneCheckbox,  ui.iPadCheckbox,     ui.macCheckbox,
+                                  ui.androidCheckbox, ui.webTouchCheckbox, ui.favIconCheckbox};
+        CheckboxButton *box = boxes.at(static_cast<std::size_t>(round % 6));
+        const QTemporaryDir folder;
+        QVERIFY(QDir(folder.path()).mkdir(u"icons"_s));
+        box->click();
+        ui.generateIconsButton->click();
+        // The caption of the export before may still stand.
+        ui.generateIconsButton->setText(u"…"_s);
+        m_services.folderChooser.confirm(folder.path());
+        QTRY_COMPARE_WITH_TIMEOUT(ui.generateIconsButton->text(), qtTrId("ICONS_DONE"), 60000);
+        box->click();
+        QVERIFY(!QDir(folder.filePath(u"icons_1"_s)).isEmpty());
+        QVERIFY(icons().popupView()->isVisible());
+        icons().popupCloseButtonPressed();
+    }
+
+    /// One package, read and checked, and one of its explanations.
+    void validate(int round)
+    {
+        m_delegate->sideBar()->setSelectedIndex(5);
+        ValidaterViewController &tool = validator();
+        const Ui::ValidaterViewController &ui = tool.outlets();
+        tool.dropIpaFileFromDelegate(m_packages.filePath(round % 2 == 0 ? u"valid.ipa"_s : u"one icon.ipa"_s));
+        QTRY_VERIFY_WITH_TIMEOUT(!ui.appIconField->pixmap().isNull(), 60000);
+        QCOMPARE(tool.facts().appName(), u"Demo"_s);
+        ui.validAppIconsBox->click();
+        QCoreApplication::processEvents();
+        QVERIFY(tool.popupView()->isVisible() || tool.validatePopup()->isVisible());
+        ui.resetButton->click();
+    }
+
+    QTemporaryDir m_work;
+    QTemporaryDir m_packages;
+    RecordingServices m_services;
+    std::unique_ptr<AppDelegate> m_delegate;
+    Memory m_before;
+};
+
+QTEST_MAIN(SoakTest)
+#include "SoakTest.moc"
