@@ -59,8 +59,8 @@ PopoverAlertView::PopoverAlertView(const PopoverAlert &alert)
     for (const QString &title : alert.buttonTitles) {
         auto *button = new IconButton(this);
         const bool isDefault = m_buttons.isEmpty();
-        styleButton(button, title, QString(), isDefault ? palette::infoLight : palette::chromeText,
-                    isDefault ? palette::infoDark : palette::chromeTextDark);
+        styleButton(button, title, QString(), isDefault ? palette::linkText : palette::chromeText,
+                    isDefault ? palette::chromeText : palette::chromeTextDark);
         button->setFixedSize(button->sizeHint().width() + 2 * buttonPadding, buttonHeight);
         row->addWidget(button);
         m_buttons << button;

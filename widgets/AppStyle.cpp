@@ -31,10 +31,10 @@ void applyAppColors()
     colors.setColor(QPalette::Base, palette::window);
     colors.setColor(QPalette::AlternateBase, palette::panel);
     colors.setColor(QPalette::ToolTipBase, palette::window);
-    colors.setColor(QPalette::PlaceholderText, palette::separator);
-    colors.setColor(QPalette::Highlight, palette::icons);
-    colors.setColor(QPalette::HighlightedText, palette::window);
-    colors.setColor(QPalette::Link, palette::iconsBorder);
+    colors.setColor(QPalette::PlaceholderText, palette::placeholderText);
+    colors.setColor(QPalette::Highlight, palette::selectedTextBackground);
+    colors.setColor(QPalette::HighlightedText, palette::selectedText);
+    colors.setColor(QPalette::Link, palette::linkText);
     QApplication::setPalette(colors);
     QToolTip::setPalette(colors);
     QApplication::setFont(latoRegular(13));

@@ -59,7 +59,7 @@ inline const QColor networkNavyDark = rgb(0.082F, 0.122F, 0.290F);
 inline const QColor windowOutline = QColor::fromRgbF(0.0F, 0.0F, 0.0F, 0.28F);
 /// A window's title in its title bar.
 inline const QColor titleText = rgb(0.22F, 0.22F, 0.22F);
-inline const QColor inactiveTitleText = rgb(0.55F, 0.55F, 0.55F);
+inline const QColor inactiveTitleText = rgb(0.36F, 0.36F, 0.36F);
 
 /// What falls from a popover onto the window below it.
 inline const QColor popoverShadow = QColor::fromRgbF(0.0F, 0.0F, 0.0F, 0.35F);
@@ -86,11 +86,14 @@ inline const QColor progressShadow = QColor::fromRgbF(0.0F, 0.0F, 0.0F, 0.0F);
 inline const QColor tabSelected = QColor::fromRgbF(0.204F, 0.286F, 0.369F, 0.22F);
 inline const QColor tabHover = QColor::fromRgbF(0.204F, 0.286F, 0.369F, 0.09F);
 
+/// Links, and what stands behind selected text: the icons' blue, dark enough to be read on white and to carry white.
+inline const QColor linkText = rgb(0.137F, 0.443F, 0.647F);
+
 /// Text fields: the box, what is shown before anything is typed, and what is selected.
 inline const QColor textFieldBackground = rgb(1, 1, 1);
-inline const QColor placeholderText = rgb(0.45F, 0.51F, 0.55F);
+inline const QColor placeholderText = rgb(0.38F, 0.44F, 0.48F);
 inline const QColor selectedText = rgb(1, 1, 1);
-inline const QColor selectedTextBackground = iconsBorder;
+inline const QColor selectedTextBackground = linkText;
 
 /// The sidebar's own blue, before a tool colours it.
 inline const QColor sidebar = rgb(0.341F, 0.565F, 0.898F);
