@@ -87,6 +87,10 @@ void AppDelegate::setUpWindow()
     m_ui = std::make_unique<Ui::MainWindow>();
     m_ui->setupUi(content);
     m_window->setContentView(content);
+    // The window's frame stands as it is drawn in every language: sidebar left, its popups placed from there. What is
+    // inside it follows the direction of reading.
+    m_window->setLayoutDirection(Qt::LeftToRight);
+    m_ui->contentView->setLayoutDirection(QApplication::layoutDirection());
     const qreal standardHeight =
         metrics::windowHeight - metrics::titleBarHeight + INAppStoreWindow::minimumTitleBarHeight();
     m_window->setMinSize(QSizeF(metrics::windowWidth, standardHeight));

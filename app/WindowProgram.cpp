@@ -102,7 +102,7 @@ int runWindow(int argc, char **argv)
         return 0;
 
     loadResources();
-    installTexts(*qApp, QLocale::system());
+    QApplication::setLayoutDirection(installTexts(*qApp, QLocale::system()).textDirection());
     QApplication::setApplicationDisplayName(qtTrId("APP_DEFAULT"));
     applyAppColors();
 

@@ -3,7 +3,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QLocale>
+#include <QLibraryInfo>
 #include <QTranslator>
 
 #include <memory>
@@ -24,12 +24,18 @@ namespace
 
 const QString tablePrefix = QStringLiteral("lumora_");
 
-bool installLanguage(QCoreApplication &application, const QString &language)
+bool installTable(QCoreApplication &application, const QString &name, const QString &folder)
 {
     auto translator = std::make_unique<QTranslator>(&application);
-    if (!translator->load(QStringLiteral(":/strings/") + tablePrefix + language + QStringLiteral(".qm")))
-        return false;
-    return QCoreApplication::installTranslator(translator.release());
+    return translator->load(name, folder) && QCoreApplication::installTranslator(translator.release());
+}
+
+/// What the toolkit says by itself, in its dialogs and in the menu of a text field, comes with the system. Without it
+/// that much is English.
+bool installLanguage(QCoreApplication &application, const QString &language)
+{
+    installTable(application, QStringLiteral("qtbase_") + language, QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+    return installTable(application, tablePrefix + language, QStringLiteral(":/strings"));
 }
 
 } // namespace
@@ -49,7 +55,7 @@ QStringList availableLanguages()
     return languages;
 }
 
-void installTexts(QCoreApplication &application, const QLocale &locale)
+QLocale installTexts(QCoreApplication &application, const QLocale &locale)
 {
     const QStringList available = availableLanguages();
     const QStringList wanted = locale.uiLanguages();
@@ -59,10 +65,11 @@ void installTexts(QCoreApplication &application, const QLocale &locale)
         name.replace(u'-', u'_');
         for (; !name.isEmpty(); name = name.contains(u'_') ? name.section(u'_', 0, -2) : QString()) {
             if (available.contains(name) && installLanguage(application, name))
-                return;
+                return QLocale(name);
         }
     }
     installLanguage(application, QStringLiteral("en"));
+    return QLocale(QLocale::English);
 }
 
 } // namespace lumora

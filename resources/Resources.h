@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QLocale>
 #include <QStringList>
 
 class QCoreApplication;
-class QLocale;
 
 namespace lumora
 {
@@ -17,7 +17,8 @@ void loadResources();
 QStringList availableLanguages();
 
 /// Installs the text table of the locale's first language that has one, English where none has, so that qtTrId("KEY")
-/// answers the text of KEY and a key without a text answers itself. The application owns the translator.
-void installTexts(QCoreApplication &application, const QLocale &locale);
+/// answers the text of KEY and a key without a text answers itself; and the toolkit's own texts in that language where
+/// the system has them. Answers the language. The application owns the translators.
+QLocale installTexts(QCoreApplication &application, const QLocale &locale);
 
 } // namespace lumora
