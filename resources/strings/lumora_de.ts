@@ -91,7 +91,7 @@
   </message>
   <message id="HELP_PLACEHOLDER_TEXT">
     <source>Fill a layout before its artwork exists. One press writes grey pictures in the screen sizes of iOS devices or of the Mac, each labelled in white with its own width and height. For anything else, type a width and a height from 1 to 9999 pixels. Choose where to save, and Lumora puts the PNG files, named like placeholder_640x1136.png, into a fresh “placeholders” folder. Folders from earlier runs stay untouched.</source>
-    <translation>Layouts füllen, bevor es fertige Grafiken gibt. Ein Druck auf den Knopf schreibt graue Bilder in den Bildschirmgrößen von iOS-Geräten oder vom Mac; jedes trägt in Weiß seine Breite und Höhe. Für alles andere eine Breite und eine Höhe von 1 bis 9999 Pixeln eingeben. Nach der Wahl des Speicherorts legt Lumora die PNG-Dateien mit Namen wie placeholder_640x1136.png in einen neuen Ordner „placeholders“. Ordner aus früheren Durchgängen bleiben unberührt.</translation>
+    <translation>Layouts füllen, bevor es fertige Grafiken gibt. Ein Druck auf den Knopf schreibt graue Bilder in den Bildschirmgrößen von iOS-Geräten oder Macs; jedes trägt in Weiß seine Breite und Höhe. Für alles andere eine Breite und eine Höhe von 1 bis 9999 Pixeln eingeben. Nach der Wahl des Speicherorts legt Lumora die PNG-Dateien mit Namen wie placeholder_640x1136.png in einen neuen Ordner „placeholders“. Ordner aus früheren Durchgängen bleiben unberührt.</translation>
   </message>
   <message id="HELP_RESIZER">
     <source>Retina down-scaler</source>
@@ -115,7 +115,7 @@
   </message>
   <message id="HELP_DEVICES_TEXT">
     <source>See at a glance which devices your app can reach. Choose the iOS version it requires and tick the features it needs, such as GPS, a camera flash or OpenGL 3.0. Devices that can run that version and have every ticked feature stay bright; all others fade. One version counts at a time, together with any number of features. “Reset” clears the choice and brings back all seventeen iPhone, iPod and iPad models up to iOS 7.</source>
-    <translation>Auf einen Blick sehen, welche Geräte eine App erreicht. Die vorausgesetzte iOS-Version wählen und die nötigen Funktionen ankreuzen, etwa GPS, einen Kamerablitz oder OpenGL 3.0. Geräte, auf denen diese Version läuft und die alle angekreuzten Funktionen haben, bleiben deutlich; alle anderen verblassen. Es gilt immer eine Version zusammen mit beliebig vielen Funktionen. „Zurücksetzen“ hebt die Auswahl auf und zeigt wieder alle siebzehn Modelle von iPhone, iPod und iPad bis iOS 7.</translation>
+    <translation>Auf einen Blick sehen, welche Geräte eine App erreicht. Die vorausgesetzte iOS-Version wählen und die nötigen Funktionen ankreuzen, etwa GPS, einen Kamerablitz oder OpenGL 3.0. Geräte, auf denen diese Version läuft und die alle angekreuzten Funktionen haben, bleiben deutlich sichtbar; alle anderen verblassen. Es gilt immer eine Version zusammen mit beliebig vielen Funktionen. „Zurücksetzen“ hebt die Auswahl auf und zeigt wieder alle siebzehn Modelle von iPhone, iPod und iPad bis iOS 7.</translation>
   </message>
   <message id="HELP_VALIDATER">
     <source>App package check</source>
@@ -141,7 +141,7 @@
   <!-- About and contact panels; the addresses open in the default browser or mail program -->
   <message id="ABOUT_TEXT">
     <source>A toolbox for makers of mobile and desktop apps: icons, placeholders, retina pictures, colours, devices and package checks in one window.</source>
-    <translation>Ein Werkzeugkasten für alle, die Apps für Telefon, Tablet und Schreibtisch machen: Icons, Platzhalter, Retina-Bilder, Farben, Geräte und Paketprüfung in einem Fenster.</translation>
+    <translation>Ein Werkzeugkasten für alle, die Apps für Mobilgeräte und den Desktop machen: Icons, Platzhalter, Retina-Bilder, Farben, Geräte und Paketprüfung in einem Fenster.</translation>
   </message>
   <message id="ABOUT_TWITTER">
     <source>Twitter</source>
@@ -617,7 +617,7 @@
   </message>
   <message id="PLACEHOLDER_CUSTOM_TITLE">
     <source>Your own size</source>
-    <translation>Eigenes Maß</translation>
+    <translation>Eigene Maße</translation>
   </message>
   <message id="PLACEHOLDER_CUSTOM_SUBTITLE">
     <source>One picture, 1 to 9999 pixels each way</source>
@@ -679,7 +679,7 @@
   </message>
   <message id="RESIZER_ALERT_MESSAGE">
     <source>None of these is a .png file marked @2x or -hd. Please choose double-resolution PNG pictures.</source>
-    <translation>Keine davon ist eine .png-Datei mit der Kennung @2x oder -hd. Bitte PNG-Bilder in doppelter Auflösung auswählen.</translation>
+    <translation>Keine der Dateien ist eine .png-Datei mit der Kennung @2x oder -hd. Bitte PNG-Bilder in doppelter Auflösung auswählen.</translation>
   </message>
 
   <!-- Colour codes -->
@@ -833,10 +833,6 @@
     <source>Pick a colour from the screen</source>
     <translation>Farbe vom Bildschirm aufnehmen</translation>
   </message>
-  <message id="COLOR_PIPETTE_FAILED_TITLE">
-    <source>No colour picked</source>
-    <translation>Keine Farbe aufgenommen</translation>
-  </message>
   <message id="COLOR_PIPETTE_FAILED_MESSAGE">
     <source>The system did not let Lumora read the screen. Allow it in the system settings, or choose the colour here.</source>
     <translation>Das System hat den Zugriff auf den Bildschirm nicht erlaubt. In den Systemeinstellungen freigeben oder die Farbe hier wählen.</translation>
@@ -887,7 +883,7 @@
   </message>
   <message id="VALIDATER_ONE_FILE_MESSAGE">
     <source>Several files were given. Please choose a single .ipa package.</source>
-    <translation>Es kamen mehrere Dateien an. Bitte ein einzelnes .ipa-Paket auswählen.</translation>
+    <translation>Es wurden mehrere Dateien übergeben. Bitte ein einzelnes .ipa-Paket auswählen.</translation>
   </message>
   <message id="VALIDATER_IPA_TITLE">
     <source>Not an app package</source>
@@ -903,7 +899,7 @@
   </message>
   <message id="VALIDATER_STOPPED_MESSAGE">
     <source>It would unpack to more than 8 GB or 500,000 files, or the disk has too little room. What was read until then is shown.</source>
-    <translation>Es würde ausgepackt mehr als 8 GB oder 500.000 Dateien belegen, oder die Platte hat zu wenig Platz. Gezeigt wird, was bis dahin gelesen wurde.</translation>
+    <translation>Ausgepackt wären es mehr als 8 GB oder 500.000 Dateien, oder der Datenträger hat zu wenig Platz. Gezeigt wird, was bis dahin gelesen wurde.</translation>
   </message>
 
   <!-- App package check: facts; the value follows its label directly, so a label ends in a blank -->
@@ -1021,7 +1017,7 @@
   </message>
   <message id="VALIDATE_RELEASE_TEXT">
     <source>The provisioning profile lists test devices. Sign the app with a distribution profile for the store.</source>
-    <translation>Das Bereitstellungsprofil führt Testgeräte auf. Die App mit einem Verteilungsprofil für den Store signieren.</translation>
+    <translation>Das Bereitstellungsprofil führt Testgeräte auf. Die App mit einem Distributionsprofil für den Store signieren.</translation>
   </message>
   <message id="VALIDATE_LOCALIZATIONS_TEXT">
     <source>The app is localised for:
@@ -1099,10 +1095,6 @@
   </message>
 
   <!-- File choosers: names of file kinds -->
-  <message id="FILTER_PICTURES">
-    <source>Pictures</source>
-    <translation>Bilder</translation>
-  </message>
   <message id="FILTER_PNG">
     <source>PNG pictures</source>
     <translation>PNG-Bilder</translation>

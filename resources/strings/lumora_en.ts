@@ -831,10 +831,6 @@
     <source>Pick a colour from the screen</source>
     <translation>Pick a colour from the screen</translation>
   </message>
-  <message id="COLOR_PIPETTE_FAILED_TITLE">
-    <source>No colour picked</source>
-    <translation>No colour picked</translation>
-  </message>
   <message id="COLOR_PIPETTE_FAILED_MESSAGE">
     <source>The system did not let Lumora read the screen. Allow it in the system settings, or choose the colour here.</source>
     <translation>The system did not let Lumora read the screen. Allow it in the system settings, or choose the colour here.</translation>
@@ -1097,10 +1093,6 @@
   </message>
 
   <!-- File choosers: names of file kinds -->
-  <message id="FILTER_PICTURES">
-    <source>Pictures</source>
-    <translation>Pictures</translation>
-  </message>
   <message id="FILTER_PNG">
     <source>PNG pictures</source>
     <translation>PNG pictures</translation>
