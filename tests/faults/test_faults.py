@@ -149,17 +149,13 @@ class Faults(unittest.TestCase):
 
     def test_what_a_killed_job_left_goes_with_the_next_one(self):
         for job in JOBS:
-            # Into a folder of its own nothing is written that another run could find.
+            # The others write into a folder of their own, which stays as it was then.
+            if not job.replaces and "{out}" in job.arguments:
+                continue
             for named in ({}, {"named": 1}) if job.replaces else ({},):
                 for sound, what, ended in self.each(job, "kill", again=True, **named):
                     with self.subTest(f"{what} {named}"):
-                        self.assertEqual((ended.status, ended.temporary), (job.status, []), ended.err)
-                        # A folder that the killed job made for itself stays as it was then.
-                        users = {str(Path(name).parent) for name in ["mine.txt", *job.present]}
-                        left = [name for name in ended.files if PENDING.fullmatch(name) and str(Path(name).parent) in users]
-                        self.assertEqual(left, [])
-                        if job.replaces:
-                            self.assertEqual(ended.files, sound.files)
+                        self.assertEqual((ended.status, ended.temporary, ended.files), (job.status, [], sound.files))
 
     def test_the_window_outlives_a_call_that_fails(self):
         for job in JOBS:
