@@ -14,6 +14,7 @@
 #include "ui_ResizerViewController.h"
 #include "ui_ValidaterViewController.h"
 #include "validator/ValidaterViewController.h"
+#include "validator/WorkFolder.h"
 
 #include <QApplication>
 #include <QLoggingCategory>
@@ -80,6 +81,8 @@ int main(int argc, char **argv)
     loadResources();
     installTexts(*qApp, QLocale(QStringLiteral("en_GB")));
     RecordingServices services;
+    const auto workFolder = WorkFolder::makeCurrent();
+    services.hasWorkFolder = workFolder.ok();
     AppDelegate delegate(services.services());
     delegate.applicationDidFinishLaunching();
     if (arguments.size() >= 3 && run(delegate, services, arguments.at(1), arguments.sliced(2)))

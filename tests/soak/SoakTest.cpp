@@ -9,6 +9,7 @@
 #include "ui_IconsViewController.h"
 #include "ui_ValidaterViewController.h"
 #include "validator/ValidaterViewController.h"
+#include "validator/WorkFolder.h"
 #include "widgets/AppStyle.h"
 #include "widgets/CheckboxButton.h"
 #include "widgets/HoverButton.h"
@@ -77,6 +78,10 @@ private slots:
         QLoggingCategory::setFilterRules(u"*.info=false\ndefault.warning=false"_s);
         qputenv("TMPDIR", QFile::encodeName(m_work.path()));
         QVERIFY(runScript(u"make_packages.py"_s, {m_packages.path()}));
+        auto folder = WorkFolder::makeCurrent();
+        QVERIFY(folder.ok());
+        m_workFolder = std::move(folder.value());
+        m_services.hasWorkFolder = true;
         m_delegate = std::make_unique<AppDelegate>(m_services.services());
         m_delegate->applicationDidFinishLaunching();
         // A popover that still fades out would be taken for a visible one, whose button hides it.
@@ -94,7 +99,11 @@ private slots:
         m_before = memory();
     }
 
-    void cleanupTestCase() { m_delegate.reset(); }
+    void cleanupTestCase()
+    {
+        m_delegate.reset();
+        m_workFolder.reset();
+    }
 
     void fiveHundredToolSwitches()
     {
@@ -185,6 +194,7 @@ private:
 
     QTemporaryDir m_work;
     QTemporaryDir m_packages;
+    std::unique_ptr<WorkFolder> m_workFolder;
     RecordingServices m_services;
     std::unique_ptr<AppDelegate> m_delegate;
     Memory m_before;

@@ -74,6 +74,8 @@ private slots:
         QCOMPARE(pane.services.fileChooser.requests.first().message, qtTrId("RESIZER_BROWSE_PANEL"));
         QCOMPARE(pane.services.fileChooser.requests.first().startFolder, u"/some/folder"_s);
         QVERIFY(!pane.services.fileChooser.requests.first().severalFiles);
+        QCOMPARE(pane.services.fileChooser.requests.first().nameFilters,
+                 QStringList{qtTrId("FILTER_IPA") + u" (*.ipa)"_s});
         pane.services.fileChooser.confirm({package(u"valid"_s)});
         QCOMPARE(opacity(pane.ui().dropView), 1.0); // the sheet has a second to go
         QTRY_VERIFY_WITH_TIMEOUT(pane.hasFacts(), readingTime);
