@@ -16,8 +16,6 @@ namespace
 {
 
 const QString interfaceName = QStringLiteral("org.freedesktop.Application");
-/// A program that does not answer within this time is not there for the user either.
-constexpr int answerWithinMilliseconds = 5000;
 
 /// What lets the running program take the focus that this start was given.
 QVariantMap platformData()
@@ -40,13 +38,48 @@ void takePlatformData(const QVariantMap &data)
         qputenv("XDG_ACTIVATION_TOKEN", token.toUtf8());
 }
 
-bool forward(QDBusConnection &bus, const QString &member, const QVariantList &arguments)
+bool takeName(const QDBusConnection &bus, QDBusConnectionInterface::ServiceQueueOptions queueing)
 {
-    const QString id = QString::fromLatin1(applicationId);
-    QDBusMessage call = QDBusMessage::createMethodCall(id, BusApplication::objectPath(id), interfaceName, member);
-    call.setArguments(arguments);
-    return bus.call(call, QDBus::Block, answerWithinMilliseconds).type() == QDBusMessage::ReplyMessage;
+    const QDBusReply<QDBusConnectionInterface::RegisterServiceReply> reply =
+        bus.interface()->registerService(QString::fromLatin1(applicationId), queueing);
+    return reply.isValid() && reply.value() == QDBusConnectionInterface::ServiceRegistered;
 }
+
+/// Calls the program that has the name.
+class Forwarding
+{
+public:
+    Forwarding(const QDBusConnection &bus, std::chrono::milliseconds patience) : m_bus(bus), m_patience(patience) {}
+
+    bool forward(const OpenRequest &request) const
+    {
+        if (!request.tool.isEmpty() &&
+            !call(QStringLiteral("ActivateAction"), {request.tool, QVariantList(), platformData()}))
+            return false;
+        if (!request.files.isEmpty()) {
+            QStringList uris;
+            for (const QString &file : request.files)
+                uris << QUrl::fromLocalFile(file).toString(QUrl::FullyEncoded);
+            return call(QStringLiteral("Open"), {uris, platformData()});
+        }
+        return !request.tool.isEmpty() || call(QStringLiteral("Activate"), {platformData()});
+    }
+
+private:
+    bool call(const QString &member, const QVariantList &arguments) const
+    {
+        const QString id = QString::fromLatin1(applicationId);
+        QDBusMessage call = QDBusMessage::createMethodCall(id, BusApplication::objectPath(id), interfaceName, member);
+        call.setArguments(arguments);
+        // Should that program have just ended, the bus would start it anew for the call; this one is there already.
+        call.setAutoStartService(false);
+        return m_bus.call(call, QDBus::Block, static_cast<int>(m_patience.count())).type() ==
+               QDBusMessage::ReplyMessage;
+    }
+
+    QDBusConnection m_bus;
+    std::chrono::milliseconds m_patience;
+};
 
 } // namespace
 
@@ -60,31 +93,18 @@ QString BusApplication::objectPath(const QString &id)
     return path.replace(u'-', u'_');
 }
 
-BusApplication::Start BusApplication::start(const OpenRequest &request)
+BusApplication::Start BusApplication::start(const OpenRequest &request, std::chrono::milliseconds patience)
 {
     QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected())
         return Start::Alone;
-    const QString id = QString::fromLatin1(applicationId);
     // The object first: calls may come in as soon as the name is taken.
-    bus.registerObject(objectPath(id), this, QDBusConnection::ExportAllSlots);
-    const QDBusReply<QDBusConnectionInterface::RegisterServiceReply> reply =
-        bus.interface()->registerService(id, QDBusConnectionInterface::DontQueueService);
-    if (reply.isValid() && reply.value() == QDBusConnectionInterface::ServiceRegistered)
+    bus.registerObject(objectPath(QString::fromLatin1(applicationId)), this, QDBusConnection::ExportAllSlots);
+    if (takeName(bus, QDBusConnectionInterface::DontQueueService))
         return Start::First;
-
-    bool answered = true;
-    if (!request.tool.isEmpty())
-        answered = forward(bus, QStringLiteral("ActivateAction"), {request.tool, QVariantList(), platformData()});
-    if (answered && !request.files.isEmpty()) {
-        QStringList uris;
-        for (const QString &file : request.files)
-            uris << QUrl::fromLocalFile(file).toString(QUrl::FullyEncoded);
-        answered = forward(bus, QStringLiteral("Open"), {uris, platformData()});
-    } else if (answered && request.tool.isEmpty()) {
-        answered = forward(bus, QStringLiteral("Activate"), {platformData()});
-    }
-    return answered ? Start::Forwarded : Start::Alone;
+    if (Forwarding(bus, patience).forward(request))
+        return Start::Forwarded;
+    return takeName(bus, QDBusConnectionInterface::QueueService) ? Start::First : Start::Alone;
 }
 
 void BusApplication::Activate(const QVariantMap &platformData)

@@ -5,6 +5,8 @@
 #include <QStringList>
 #include <QVariantMap>
 
+#include <chrono>
+
 namespace lumora
 {
 
@@ -26,13 +28,17 @@ public:
     enum class Start {
         First,     ///< this process is the program now
         Forwarded, ///< another one is, and it took the request
-        Alone,     ///< there is no bus, or nobody there answered; nobody will find this process
+        Alone,     ///< there is no bus, or nobody there answered; for now nobody finds this process
     };
 
     explicit BusApplication(QObject *parent = nullptr);
 
-    /// Becomes the program on the bus, or hands the request to the one that is.
-    Start start(const OpenRequest &request);
+    /// A program that does not answer within this time is not there for the user either.
+    static constexpr std::chrono::milliseconds defaultPatience{5000};
+
+    /// Becomes the program on the bus, or hands the request to the one that is. Where that one does not answer, this
+    /// one takes its place as soon as it is gone.
+    Start start(const OpenRequest &request, std::chrono::milliseconds patience = defaultPatience);
 
     /// The bus object's path for an application id: the same with slashes.
     static QString objectPath(const QString &id);

@@ -137,13 +137,14 @@ class Desktop:
 
     def start(self, *arguments, cwd=None):
         """Starts Lumora, from a folder if one is given, and waits for its window."""
-        return Lumora(self, self._run_program(*arguments, cwd=cwd))
+        return Lumora(self, self.start_program(*arguments, cwd=cwd))
 
-    def start_again(self, *arguments):
+    def start_again(self, *arguments, cwd=None):
         """Starts it a second time and answers its exit status once it has ended."""
-        return self._run_program(*arguments).wait(WAIT)
+        return self.start_program(*arguments, cwd=cwd).wait(WAIT)
 
-    def _run_program(self, *arguments, cwd=None):
+    def start_program(self, *arguments, cwd=None):
+        """Starts Lumora and waits for nothing."""
         # Its language alone: the locale itself may not be installed.
         return self.run(str(self.program), *arguments, cwd=cwd, LC_ALL=self.language)
 
