@@ -2,6 +2,7 @@
 #include "PopoverAlert.h"
 
 #include "PopoverAlertView.h"
+#include "PopoverPlacement.h"
 #include "PopoverStyle.h"
 #include "widgets/IconButton.h"
 #include "widgets/Palette.h"
@@ -68,14 +69,13 @@ void PopoverAlert::runAsPopoverForView(QWidget *view, RectEdge, CompletionBlock 
     m_parentPopover->setClosesWhenApplicationBecomesInactive(false);
     m_parentPopover->setClosesWhenPopoverResignsKey(false);
     m_parentPopover->setBorderColor(palette::chromeText);
-    m_parentPopover->setPosition(PopoverPosition::Above);
 
     Alerts &all = alerts();
     if (all.current != nullptr) {
         all.queue.push_back(all.current);
         all.current->retirePopover();
     }
-    m_parentPopover->displayPopoverInWindow(view->window(), upperEdge(view));
+    displayOnScreen(*m_parentPopover, view->window(), upperEdge(view), PopoverPosition::Above);
     all.currentPopover = m_parentPopover.get();
     all.current = shared_from_this();
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ToolViewController.h"
 
+#include "PopoverPlacement.h"
 #include "PopoverStyle.h"
 #include "PopupAnchor.h"
 #include "widgets/Palette.h"
@@ -17,6 +18,11 @@ ToolViewController::ToolViewController(const Services &services, QObject *parent
 ToolViewController::~ToolViewController()
 {
     delete m_view;
+}
+
+QWidget *ToolViewController::window() const
+{
+    return m_window.isNull() ? m_view->window() : m_window.get();
 }
 
 void ToolViewController::createPopup()
@@ -39,7 +45,7 @@ void ToolViewController::showPopupWithTitle(const QString &title, const QString 
         return;
     }
     const QSizeF size = fromView == nullptr ? QSizeF(0, 0) : QSizeF(fromView->size());
-    m_popupView->displayPopoverInWindow(m_view->window(), popupAnchor(popupAnchorOrigin(fromView), size));
+    displayOnScreen(*m_popupView, window(), popupAnchor(popupAnchorOrigin(fromView), size));
 }
 
 void ToolViewController::popupCloseButtonPressed()

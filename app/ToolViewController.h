@@ -29,6 +29,9 @@ public:
 
     /// The tool's root view. The shell shows it in its window and hides it again; the controller owns it.
     QWidget *view() const { return m_view; }
+    /// The window that the tool belongs to, also while another tool is in view; messages and sheets show on it.
+    QWidget *window() const;
+    void setWindow(QWidget *window) { m_window = window; }
     SFBPopover *popupView() const { return m_popupView.get(); }
     AlertContentView *popupContentView() const { return m_popupContentView; }
 
@@ -57,6 +60,7 @@ protected:
 private:
     Services m_services;
     QPointer<QWidget> m_view;
+    QPointer<QWidget> m_window;
     AlertContentView *m_popupContentView = nullptr; ///< owned by the popover
     std::unique_ptr<SFBPopover> m_popupView;
 };

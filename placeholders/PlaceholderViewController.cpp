@@ -162,7 +162,7 @@ void PlaceholderViewController::openChooseDestination()
 {
     // The prompt is shared with the down-scaler, which asks for the same.
     services().folderChooser.chooseFolder(
-        view()->window(), {qtTrId("RESIZER_DESTINATION_PANEL"), m_savePath},
+        window(), {qtTrId("RESIZER_DESTINATION_PANEL"), m_savePath},
         [this](const QString &path) {
             m_savePath = path;
             saveImagesToDisk();

@@ -107,13 +107,13 @@ void ResizerViewController::openBrowsePanel()
 {
     const FileRequest request{
         qtTrId("RESIZER_BROWSE_PANEL"), m_browsePath, {qtTrId("FILTER_PNG") + QStringLiteral(" (*.png)")}, true};
-    services().fileChooser.chooseFiles(view()->window(), request,
+    services().fileChooser.chooseFiles(window(), request,
                                        [this](const QStringList &paths) { dropViewReceivedFiles(paths); });
 }
 
 void ResizerViewController::openChooseDestination()
 {
-    services().folderChooser.chooseFolder(view()->window(), {qtTrId("RESIZER_DESTINATION_PANEL"), m_savePath},
+    services().folderChooser.chooseFolder(window(), {qtTrId("RESIZER_DESTINATION_PANEL"), m_savePath},
                                           [this](const QString &path) {
                                               m_savePath = path;
                                               beginResizingAndSaving();

@@ -4,6 +4,7 @@
 #include "ValidatePopupContentView.h"
 #include "ValidaterViewController.h"
 #include "app/PopoverAlert.h"
+#include "app/PopoverPlacement.h"
 #include "app/PopupAnchor.h"
 #include "ui_ValidaterViewController.h"
 #include "widgets/Palette.h"
@@ -122,7 +123,7 @@ void ValidaterViewController::showValidatePopupWithTitle(const QString &title, c
     }
     m_validatePopupContentView->fitToText();
     const QSizeF size = fromView == nullptr ? QSizeF(0, 0) : QSizeF(fromView->size());
-    m_validatePopup->displayPopoverInWindow(view()->window(), popupAnchor(popupAnchorOrigin(fromView), size));
+    displayOnScreen(*m_validatePopup, window(), popupAnchor(popupAnchorOrigin(fromView), size));
 }
 
 void ValidaterViewController::showAlertWithTitle(const QString &title, const QString &andMessage, QWidget *fromView)

@@ -195,7 +195,7 @@ void ValidaterViewController::openBrowsePanel()
 {
     const FileRequest request{
         qtTrId("RESIZER_BROWSE_PANEL"), m_browsePath, {qtTrId("FILTER_IPA") + u" (*.ipa)"_s}, false};
-    services().fileChooser.chooseFiles(view()->window(), request, [this](const QStringList &paths) {
+    services().fileChooser.chooseFiles(window(), request, [this](const QStringList &paths) {
         QTimer::singleShot(browseDelay, this, [this, paths] { dropViewReceivedFiles(paths); });
     });
 }

@@ -3,6 +3,7 @@
 #include "widgets/IconButton.h"
 #include "widgets/SFBPopover.h"
 
+#include <QScreen>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -17,6 +18,7 @@ private slots:
     {
         m_window = std::make_unique<QWidget>();
         m_window->resize(600, 400);
+        m_window->move(200, 300);
         m_target = new QWidget(m_window.get());
         m_target->setGeometry(100, 200, 80, 40);
         m_window->show();
@@ -105,6 +107,19 @@ private slots:
         const int arrow =
             balloon->popoverWindowFrame()->mapToGlobal(QPoint()).x() + balloon->popoverWindowFrame()->width() / 2;
         QVERIFY(std::abs(arrow - m_target->mapToGlobal(QPoint(40, 0)).x()) <= 1);
+    }
+
+    void alertAtTheScreensUpperEdgeOpensBelow()
+    {
+        m_window->move(m_window->screen()->availableGeometry().topLeft());
+        m_target->move(100, 0);
+        const auto alert = PopoverAlert::create();
+        alert->messageText = u"edge"_s;
+        alert->buttonTitles = QStringList{u"Close"_s};
+        alert->runAsPopoverForView(m_target, {});
+        const QWidget &content = *alert->parentPopover()->popoverWindow()->contentView();
+        const QRect shown(content.mapToGlobal(QPoint()), content.size());
+        QCOMPARE(shown.intersected(m_window->screen()->availableGeometry()), shown);
     }
 
     void alertOfAViewThatHasGoneIsPassedOver()

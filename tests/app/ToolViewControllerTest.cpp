@@ -141,9 +141,26 @@ private slots:
     void arrowWithoutAControl()
     {
         PlainTool tool(m_services.services());
-        const Window window(tool);
+        Window window(tool);
+        // There is room around the spot for a balloon below it.
+        window.window.move(200, -200);
         tool.showPopupWithTitle(u"T"_s, u"M"_s, nullptr, false);
         QCOMPARE(arrowTip(*tool.popupView(), window.window), QPointF(65, -5));
+    }
+
+    void messageShowsOnTheApplicationsWindowWhileTheViewIsOutOfSight()
+    {
+        PlainTool tool(m_services.services());
+        const Window window(tool);
+        tool.setWindow(tool.view()->window());
+        QCOMPARE(tool.window(), &window.window);
+        tool.view()->hide();
+        tool.view()->setParent(nullptr);
+        QCOMPARE(tool.window(), &window.window);
+        tool.showPopupWithTitle(u"T"_s, u"M"_s, tool.button, false);
+        QVERIFY(tool.popupView()->isVisible());
+        QCOMPARE(tool.popupView()->popoverWindow()->parentWindow(), &window.window);
+        QCOMPARE(arrowTip(*tool.popupView(), window.window), QPointF(65 + 480, 430 - 5));
     }
 
     void closeButtonClosesThePopup()

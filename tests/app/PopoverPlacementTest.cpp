@@ -1,0 +1,112 @@
+// SPDX-License-Identifier: MIT
+#include "app/PopoverPlacement.h"
+#include "app/PopoverStyle.h"
+#include "widgets/SFBPopover.h"
+
+#include <QScreen>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace lumora;
+
+class PopoverPlacementTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void positions_data()
+    {
+        QTest::addColumn<QPointF>("point");
+        QTest::addColumn<PopoverPosition>("preferred");
+        QTest::addColumn<PopoverPosition>("expected");
+        using enum PopoverPosition;
+        // A balloon of 210 x 125 in an area of 1000 x 800, y upwards: content 200 x 110, border 5, arrow 5.
+        QTest::newRow("middle, below") << QPointF(500, 400) << Below << Below;
+        QTest::newRow("middle, above") << QPointF(500, 400) << Above << Above;
+        QTest::newRow("just inside at the right") << QPointF(895, 400) << Below << Below;
+        QTest::newRow("over the right edge") << QPointF(896, 400) << Below << BelowArrowNearRight;
+        QTest::newRow("just inside at the left") << QPointF(105, 400) << Below << Below;
+        QTest::newRow("over the left edge") << QPointF(104, 400) << Below << BelowArrowNearLeft;
+        QTest::newRow("just inside at the bottom") << QPointF(500, 125) << Below << Below;
+        QTest::newRow("over the bottom") << QPointF(500, 124) << Below << Above;
+        QTest::newRow("over the top") << QPointF(500, 676) << Above << Below;
+        QTest::newRow("lower right corner") << QPointF(960, 40) << Below << AboveArrowNearRight;
+        QTest::newRow("lower left corner") << QPointF(40, 40) << Below << AboveArrowNearLeft;
+        QTest::newRow("upper right corner") << QPointF(960, 780) << Above << BelowArrowNearRight;
+        QTest::newRow("right of the area: what shows most") << QPointF(1050, 400) << Below << BelowArrowNearRight;
+        QTest::newRow("far away: as preferred") << QPointF(5000, 400) << Below << Below;
+    }
+    void positions()
+    {
+        QFETCH(QPointF, point);
+        QFETCH(PopoverPosition, preferred);
+        PopoverMetrics metrics;
+        metrics.borderWidth = 5;
+        metrics.arrowHeight = 5;
+        metrics.cornerRadius = 0;
+        QTEST(positionInside(QRectF(0, 0, 1000, 800), point, QSizeF(200, 110), metrics, preferred), "expected");
+    }
+
+    void displayedAgainInTheMiddleItLiesBelowAgain()
+    {
+        QWidget window;
+        window.resize(400, 300);
+        window.show();
+        auto *content = new QWidget;
+        content->resize(200, 100);
+        SFBPopover popover(content);
+        stylePopover(popover);
+        popover.setAnimates(false);
+        const QRect screen = window.screen()->availableGeometry();
+        window.move(screen.right() - 300, screen.top() + 100);
+        displayOnScreen(popover, &window, QPointF(280, 280));
+        QCOMPARE(popover.position(), PopoverPosition::BelowArrowNearRight);
+        QVERIFY(screen.contains(QRect(content->mapToGlobal(QPoint()), content->size())));
+        popover.closePopover();
+        window.move(screen.left() + 100, screen.top() + 100);
+        displayOnScreen(popover, &window, QPointF(280, 280));
+        QCOMPARE(popover.position(), PopoverPosition::Below);
+        // The arrow's tip stands on the point.
+        const QPoint tip(window.mapToGlobal(QPoint(280, 300 - 280)));
+        QCOMPARE(content->mapToGlobal(QPoint(100, 0)), tip + QPoint(0, 10));
+    }
+
+    void contentResizedWhileHiddenIsShownInItsNewSizeOnAnySide()
+    {
+        QWidget window;
+        window.resize(400, 300);
+        window.show();
+        auto *content = new QWidget;
+        content->resize(200, 100);
+        SFBPopover popover(content);
+        stylePopover(popover);
+        popover.setAnimates(false);
+        const QRect screen = window.screen()->availableGeometry();
+        window.move(screen.center().x() - 200, screen.bottom() - 400);
+        content->resize(220, 240);
+        displayOnScreen(popover, &window, QPointF(200, 50));
+        QCOMPARE(popover.position(), PopoverPosition::Above);
+        QCOMPARE(content->size(), QSize(220, 240));
+        const QRect shown(content->mapToGlobal(QPoint()), content->size());
+        QCOMPARE(shown.intersected(screen), shown);
+    }
+
+    void aVisiblePopoverStaysWhereItIs()
+    {
+        QWidget window;
+        window.resize(400, 300);
+        window.show();
+        auto *content = new QWidget;
+        content->resize(200, 100);
+        SFBPopover popover(content);
+        popover.setAnimates(false);
+        displayOnScreen(popover, &window, QPointF(200, 250));
+        const QRectF frame = popover.popoverWindow()->frame();
+        displayOnScreen(popover, &window, QPointF(100, 200), PopoverPosition::Above);
+        QCOMPARE(popover.position(), PopoverPosition::Below);
+        QCOMPARE(popover.popoverWindow()->frame(), frame);
+    }
+};
+
+QTEST_MAIN(PopoverPlacementTest)
+#include "PopoverPlacementTest.moc"
