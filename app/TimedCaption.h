@@ -34,7 +34,7 @@ public:
 private:
     SetCaption m_setCaption;
     QString m_restCaption;
-    QTimer m_timer;
+    QTimer m_timer{this};
 };
 
 } // namespace lumora

@@ -98,20 +98,25 @@ void IconsViewController::loadBuiltInIcon()
         QList<QImage> pictures;
         for (const int side : sides)
             pictures << resizeImage(icon, side, pictures.isEmpty() ? 0 : mode);
-        job.post([this, icon, pictures, sides, mode] {
-            if (!std::exchange(m_builtInIconPending, false))
-                return;
-            m_icon = icon;
-            m_ui->sourceIconView->setPicture(pictures.first());
-            for (std::size_t number = 0; number < m_previews.size(); ++number)
-                m_previews[number]->setPicture(pictures.at(static_cast<qsizetype>(number) + 1));
-            // What changed its size meanwhile is drawn anew.
-            if (m_ui->sourceIconView->pixelSide() != sides.first())
-                showSource();
-            if (cornerMode() != mode)
-                editPreviewIcon();
+        job.post([this, icon, pictures, mode] {
+            if (std::exchange(m_builtInIconPending, false))
+                showBuiltInIcon(icon, pictures, mode);
+            emit builtInIconRead();
         });
     });
+}
+
+void IconsViewController::showBuiltInIcon(const QImage &icon, const QList<QImage> &pictures, int cornerMode)
+{
+    m_icon = icon;
+    m_ui->sourceIconView->setPicture(pictures.first());
+    for (std::size_t number = 0; number < m_previews.size(); ++number)
+        m_previews[number]->setPicture(pictures.at(static_cast<qsizetype>(number) + 1));
+    // What changed its size meanwhile is drawn anew.
+    if (m_ui->sourceIconView->pixelSide() != pictures.first().width())
+        showSource();
+    if (this->cornerMode() != cornerMode)
+        editPreviewIcon();
 }
 
 void IconsViewController::setUpSnippets()

@@ -44,12 +44,17 @@ const QImage &IconsViewController::icon()
     return m_icon;
 }
 
-void IconsViewController::acceptIcon(const QImage &icon, const QString &title)
+void IconsViewController::setIcon(const QImage &icon)
 {
     m_builtInIconPending = false;
     m_icon = icon;
     showSource();
     editPreviewIcon();
+}
+
+void IconsViewController::acceptIcon(const QImage &icon, const QString &title)
+{
+    setIcon(icon);
     m_ui->sourceIconTitle->setText(title);
     m_ui->sourceIconSubtitle->setText(qtTrId("ICONS_SOURCE_SUBTITLE_ACTIVE"));
 }
@@ -81,7 +86,7 @@ void IconsViewController::openDialog()
 {
     const FileRequest request{
         qtTrId("ICONS_BROWSE"), m_browsePath, {qtTrId("FILTER_PNG") + QStringLiteral(" (*.png)")}, false};
-    services().fileChooser.chooseFiles(view()->window(), request,
+    services().fileChooser.chooseFiles(window(), request,
                                        [this](const QStringList &paths) { dropViewReceivedFiles(paths); });
 }
 
@@ -168,7 +173,7 @@ void IconsViewController::openChooseDestinationForPlatforms(bool forPlatforms)
         else
             generateCustomIcon();
     };
-    services().folderChooser.chooseFolder(view()->window(), {qtTrId("ICONS_DESTINATION"), m_savePath}, chosen);
+    services().folderChooser.chooseFolder(window(), {qtTrId("ICONS_DESTINATION"), m_savePath}, chosen);
 }
 
 void IconsViewController::generatePlatformIcons()

@@ -39,6 +39,8 @@ public:
 
     /// The accepted source; a built-in picture until the user brings one.
     const QImage &icon();
+    /// Takes the picture as it is; a null one leaves the tool without a source.
+    void setIcon(const QImage &icon);
     /// The folder last chosen to export into, empty at first.
     const QString &savePath() const { return m_savePath; }
     /// The folder of the last source, empty at first.
@@ -60,6 +62,10 @@ public:
     bool takesFiles() const override { return true; }
     void browseButtonPressed() override;
     void paste() override;
+
+signals:
+    /// The built-in picture was read behind the first frame; it is the source unless another was taken before.
+    void builtInIconRead();
 
 public slots:
     void generatePlatformPressed();
@@ -86,6 +92,7 @@ private:
     void setUpAppearance();
     void setUpPreviews();
     void loadBuiltInIcon();
+    void showBuiltInIcon(const QImage &icon, const QList<QImage> &pictures, int cornerMode);
     void setUpSnippets();
     void connectControls();
     void openDialog();
