@@ -7,6 +7,7 @@
 #include "ITSidebar.h"
 #include "ITSidebarItemCell.h"
 #include "PopoverAlert.h"
+#include "PopoverPlacement.h"
 #include "PopoverStyle.h"
 #include "PopupContentView.h"
 #include "ShellMetrics.h"
@@ -23,6 +24,7 @@
 #include <QApplication>
 #include <QFileInfo>
 #include <QLabel>
+#include <QTimer>
 
 namespace lumora
 {
@@ -54,8 +56,10 @@ AppDelegate::AppDelegate(const Services &services, QObject *parent) : QObject(pa
 
 AppDelegate::~AppDelegate()
 {
-    if (m_window != nullptr)
-        m_window->setDelegate(nullptr);
+    if (m_window == nullptr)
+        return;
+    m_window->removeEventFilter(this);
+    m_window->setDelegate(nullptr);
 }
 
 void AppDelegate::applicationDidFinishLaunching()
@@ -63,10 +67,39 @@ void AppDelegate::applicationDidFinishLaunching()
     setUpWindow();
     setUpHeader();
     setUpSidebar();
-    createControllers();
-    m_ui->contentView->layout()->addWidget(m_controllers.front()->view());
-    createPopovers();
+    m_controllers.resize(toolTable().size());
+    m_currentController = controller(0);
+    m_ui->contentView->layout()->addWidget(m_currentController->view());
     m_sideBar->setSelectedIndex(0);
+    m_window->installEventFilter(this);
+}
+
+bool AppDelegate::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_window.get() && event->type() == QEvent::Paint) {
+        m_window->removeEventFilter(this);
+        QTimer::singleShot(0, this, &AppDelegate::makeNext);
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void AppDelegate::makeNext()
+{
+    const auto missing = std::find(m_controllers.cbegin(), m_controllers.cend(), nullptr);
+    if (missing != m_controllers.cend())
+        controller(static_cast<std::size_t>(missing - m_controllers.cbegin()));
+    else if (m_popupView == nullptr)
+        popupView();
+    else
+        aboutPopupView();
+    if (!isComplete())
+        QTimer::singleShot(0, this, &AppDelegate::makeNext);
+}
+
+bool AppDelegate::isComplete() const
+{
+    return m_popupView != nullptr && m_aboutPopupView != nullptr &&
+           std::find(m_controllers.cbegin(), m_controllers.cend(), nullptr) == m_controllers.cend();
 }
 
 void AppDelegate::setUpWindow()
@@ -123,22 +156,53 @@ void AppDelegate::setUpSidebar()
     }
 }
 
-void AppDelegate::createControllers()
+ToolViewController *AppDelegate::controller(std::size_t index)
 {
-    for (const Tool &tool : toolTable())
-        m_controllers.push_back(tool.makeController(m_services));
+    std::unique_ptr<ToolViewController> &controller = m_controllers.at(index);
+    if (controller == nullptr) {
+        controller = toolTable()[index].makeController(m_services);
+        controller->setWindow(m_window.get());
+    }
+    return controller.get();
 }
 
-void AppDelegate::createPopovers()
+std::unique_ptr<SFBPopover> AppDelegate::makePopover(QWidget *content) const
 {
-    m_popupContentView = new PopupContentView(m_services.urlOpener);
-    m_popupView = std::make_unique<SFBPopover>(m_popupContentView);
-    m_aboutPopupContentView = new AboutPopupContentView(m_services.urlOpener);
-    m_aboutPopupView = std::make_unique<SFBPopover>(m_aboutPopupContentView);
-    for (SFBPopover *popover : {m_popupView.get(), m_aboutPopupView.get()}) {
-        stylePopover(*popover);
-        popover->setBorderColor(palette::chromeText);
+    auto popover = std::make_unique<SFBPopover>(content);
+    stylePopover(*popover);
+    popover->setBorderColor(palette::chromeText);
+    return popover;
+}
+
+SFBPopover *AppDelegate::popupView()
+{
+    if (m_popupView == nullptr) {
+        m_popupContentView = new PopupContentView(m_services.urlOpener);
+        m_popupView = makePopover(m_popupContentView);
+        tellHelp();
     }
+    return m_popupView.get();
+}
+
+PopupContentView *AppDelegate::popupContentView()
+{
+    popupView();
+    return m_popupContentView;
+}
+
+SFBPopover *AppDelegate::aboutPopupView()
+{
+    if (m_aboutPopupView == nullptr) {
+        m_aboutPopupContentView = new AboutPopupContentView(m_services.urlOpener);
+        m_aboutPopupView = makePopover(m_aboutPopupContentView);
+    }
+    return m_aboutPopupView.get();
+}
+
+AboutPopupContentView *AppDelegate::aboutPopupContentView()
+{
+    aboutPopupView();
+    return m_aboutPopupContentView;
 }
 
 QWidget *AppDelegate::contentView() const
@@ -149,12 +213,6 @@ QWidget *AppDelegate::contentView() const
 ColorBand *AppDelegate::leftBorderView() const
 {
     return m_ui->leftBorderView;
-}
-
-ToolViewController *AppDelegate::currentController() const
-{
-    const qint32 index = m_sideBar->selectedIndex();
-    return index < 0 ? nullptr : m_controllers.at(static_cast<std::size_t>(index)).get();
 }
 
 StyledText AppDelegate::createAttributedStringForHeaderTitle(const QString &title)
@@ -172,20 +230,23 @@ void AppDelegate::sideBarItemClicked()
 
 void AppDelegate::updateViewForIndex()
 {
-    ToolViewController *controller = currentController();
+    const qint32 index = m_sideBar->selectedIndex();
     // The sidebar can be cleared by its escape key; the tool that was current stays in view then.
-    if (controller == nullptr)
+    if (index < 0)
         return;
-    const Tool &tool = toolTable()[static_cast<std::size_t>(m_sideBar->selectedIndex())];
+    m_toolInView = static_cast<std::size_t>(index);
+    const Tool &tool = toolTable()[m_toolInView];
+    m_currentController = controller(m_toolInView);
 
     QLayout *layout = m_ui->contentView->layout();
     QWidget *previous = layout->itemAt(0)->widget();
-    if (previous != controller->view()) {
+    QWidget *next = m_currentController->view();
+    if (previous != next) {
         layout->removeWidget(previous);
         previous->hide();
         previous->setParent(nullptr);
-        layout->addWidget(controller->view());
-        controller->view()->show();
+        layout->addWidget(next);
+        next->show();
     }
 
     m_header->setTitle(createAttributedStringForHeaderTitle(qtTrId("APP_DEFAULT") + text(tool.headerKey)));
@@ -195,14 +256,22 @@ void AppDelegate::updateViewForIndex()
     m_ui->leftBorderView->setBackgroundColor(tool.borderColor);
 
     for (SFBPopover *popup : {m_popupView.get(), m_aboutPopupView.get()}) {
-        if (popup->isVisible())
+        if (popup != nullptr && popup->isVisible())
             popup->closePopover();
     }
+    tellHelp();
+    emit toolChanged();
+}
+
+void AppDelegate::tellHelp()
+{
+    if (m_popupContentView == nullptr)
+        return;
+    const Tool &tool = toolTable()[m_toolInView];
     m_popupContentView->setTitle(text(tool.helpTitleKey));
     m_popupContentView->setText(text(tool.helpTextKey));
     m_popupContentView->setIcon(NamedImage(QString::fromLatin1(tool.helpIcon)));
     m_popupContentView->setColor(tool.color);
-    emit toolChanged();
 }
 
 void AppDelegate::showTool(const QString &name)
@@ -215,20 +284,20 @@ void AppDelegate::showTool(const QString &name)
 
 void AppDelegate::infoButtonClicked(QWidget *sender)
 {
-    togglePopup(*m_popupView, *m_aboutPopupView, sender);
+    togglePopup(popupView(), m_aboutPopupView.get(), sender);
 }
 
 void AppDelegate::iconButtonClicked(QWidget *sender)
 {
-    togglePopup(*m_aboutPopupView, *m_popupView, sender);
+    togglePopup(aboutPopupView(), m_popupView.get(), sender);
 }
 
-void AppDelegate::togglePopup(SFBPopover &popup, SFBPopover &other, const QWidget *sender)
+void AppDelegate::togglePopup(SFBPopover *popup, SFBPopover *other, const QWidget *sender)
 {
-    if (other.isVisible())
-        other.closePopover();
-    if (popup.isVisible()) {
-        popup.closePopover();
+    if (other != nullptr && other->isVisible())
+        other->closePopover();
+    if (popup->isVisible()) {
+        popup->closePopover();
         return;
     }
     QRectF frame;
@@ -236,8 +305,7 @@ void AppDelegate::togglePopup(SFBPopover &popup, SFBPopover &other, const QWidge
         frame = sender->geometry();
         frame.moveTop(m_header->height() - frame.bottom());
     }
-    popup.displayPopoverInWindow(m_window.get(),
-                                 headerPopupAnchor(frame, m_window->height(), m_window->titleBarHeight()));
+    displayOnScreen(*popup, m_window.get(), headerPopupAnchor(frame, m_window->height(), m_window->titleBarHeight()));
 }
 
 void AppDelegate::aboutButtonClicked()
@@ -276,7 +344,7 @@ void AppDelegate::applicationOpenFiles(const QStringList &files)
         if (tool.openFile == nullptr || extension != QLatin1StringView(tool.openedExtension))
             continue;
         m_sideBar->setSelectedIndex(static_cast<qint32>(index));
-        tool.openFile(*m_controllers[index], path);
+        tool.openFile(*controller(index), path);
     }
     updateViewForIndex();
 }

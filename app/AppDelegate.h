@@ -35,7 +35,8 @@ class ToolViewController;
 QPointF headerPopupAnchor(const QRectF &buttonFrame, qreal windowHeight, qreal titleBarHeight);
 
 /// The application: one window with header and sidebar, the tools' controllers, and the help and about popups. The
-/// current tool is the sidebar's selection.
+/// current tool is the sidebar's selection. What the first frame does not show (the other tools, both popups) is made
+/// one by one behind it, or as soon as it is needed.
 class AppDelegate final : public QObject, public INAppStoreWindowDelegate
 {
     Q_OBJECT
@@ -57,14 +58,16 @@ public:
     QWidget *contentView() const;
     HeaderView *header() const { return m_header; }
     ColorBand *leftBorderView() const;
-    SFBPopover *popupView() const { return m_popupView.get(); }
-    PopupContentView *popupContentView() const { return m_popupContentView; }
-    SFBPopover *aboutPopupView() const { return m_aboutPopupView.get(); }
-    AboutPopupContentView *aboutPopupContentView() const { return m_aboutPopupContentView; }
-    /// In the order of the tool table; they live until the application quits.
-    const std::vector<std::unique_ptr<ToolViewController>> &controllers() const { return m_controllers; }
-    /// The current tool's, nullptr while the sidebar has no selection.
-    ToolViewController *currentController() const;
+    SFBPopover *popupView();
+    PopupContentView *popupContentView();
+    SFBPopover *aboutPopupView();
+    AboutPopupContentView *aboutPopupContentView();
+    /// Of the tool at the place in the tool table; lives until the application quits.
+    ToolViewController *controller(std::size_t index);
+    /// Of the tool in view: the sidebar's selection, or the last one where that was cleared.
+    ToolViewController *currentController() const { return m_currentController; }
+    /// Nothing is left to be made: every tool and both popups are there.
+    bool isComplete() const;
 
     /// The name the application goes by is bold, the first bar regular; the rest takes the label's font.
     static StyledText createAttributedStringForHeaderTitle(const QString &title);
@@ -91,13 +94,19 @@ public slots:
 signals:
     void toolChanged();
 
+protected:
+    /// Waits for the window's first frame.
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     void setUpWindow();
     void setUpHeader();
     void setUpSidebar();
-    void createControllers();
-    void createPopovers();
-    void togglePopup(SFBPopover &popup, SFBPopover &other, const QWidget *sender);
+    /// Makes one thing that the first frame did not need; again with the next turn of the event loop.
+    void makeNext();
+    std::unique_ptr<SFBPopover> makePopover(QWidget *content) const;
+    void tellHelp();
+    void togglePopup(SFBPopover *popup, SFBPopover *other, const QWidget *sender);
 
     Services m_services;
     std::unique_ptr<INAppStoreWindow> m_window;
@@ -106,9 +115,11 @@ private:
     ITSidebar *m_sideBar = nullptr;
     PopupContentView *m_popupContentView = nullptr;           ///< owned by its popover
     AboutPopupContentView *m_aboutPopupContentView = nullptr; ///< owned by its popover
-    std::unique_ptr<SFBPopover> m_popupView;
+    std::unique_ptr<SFBPopover> m_popupView;                  ///< null until needed, as the other popover
     std::unique_ptr<SFBPopover> m_aboutPopupView;
-    std::vector<std::unique_ptr<ToolViewController>> m_controllers;
+    std::size_t m_toolInView = 0;
+    ToolViewController *m_currentController = nullptr;
+    std::vector<std::unique_ptr<ToolViewController>> m_controllers; ///< null where not needed yet
 };
 
 } // namespace lumora

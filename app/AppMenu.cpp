@@ -115,9 +115,8 @@ void AppMenu::addHelpMenu()
 void AppMenu::toolChanged()
 {
     const ToolViewController *controller = m_delegate.currentController();
-    const bool takesFiles = controller != nullptr && controller->takesFiles();
-    m_open->setEnabled(takesFiles);
-    m_paste->setEnabled(controller != nullptr && controller->takesClipboard());
+    m_open->setEnabled(controller->takesFiles());
+    m_paste->setEnabled(controller->takesClipboard());
     const qint32 index = m_delegate.sideBar()->selectedIndex();
     if (index >= 0)
         m_tools.at(index)->setChecked(true);

@@ -5,6 +5,7 @@
 #include "AppMenu.h"
 #include "BusApplication.h"
 #include "Display.h"
+#include "FileOpenFilter.h"
 #include "TerminationSignals.h"
 #include "WindowArguments.h"
 #include "cli/CommandLine.h"
@@ -19,7 +20,6 @@
 
 #include <QApplication>
 #include <QFile>
-#include <QFileOpenEvent>
 #include <QTimer>
 
 namespace lumora
@@ -27,25 +27,6 @@ namespace lumora
 
 namespace
 {
-
-/// Passes on the files that a desktop hands over by an event of its own.
-class FileOpenFilter final : public QObject
-{
-public:
-    FileOpenFilter(AppDelegate &delegate, QObject *parent) : QObject(parent), m_delegate(delegate) {}
-
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override
-    {
-        if (event->type() != QEvent::FileOpen)
-            return QObject::eventFilter(watched, event);
-        m_delegate.applicationOpenFiles({static_cast<QFileOpenEvent *>(event)->file()});
-        return true;
-    }
-
-private:
-    AppDelegate &m_delegate;
-};
 
 void nameApplication()
 {
@@ -114,7 +95,7 @@ int runWindow(int argc, char **argv)
     AppDelegate delegate(services);
     delegate.applicationDidFinishLaunching();
     const AppMenu menu(delegate);
-    FileOpenFilter filter(delegate, nullptr);
+    FileOpenFilter filter(delegate);
     qApp->installEventFilter(&filter);
     connectBus(bus, delegate);
     const TerminationSignals termination;

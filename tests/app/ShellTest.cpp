@@ -1,58 +1,23 @@
 // SPDX-License-Identifier: MIT
-#include "app/AppDelegate.h"
-#include "app/AppMenu.h"
+#include "ShellFixture.h"
 #include "app/ColorBand.h"
 #include "app/HeaderView.h"
 #include "app/ITSidebar.h"
-#include "app/PopoverAlert.h"
 #include "app/PopupContentView.h"
 #include "app/ToolTable.h"
 #include "app/ToolViewController.h"
-#include "app/services/RecordingServices.h"
-#include "icons/IconsViewController.h"
 #include "resources/Resources.h"
 #include "ui_IconsViewController.h"
 #include "ui_PopupContentView.h"
 #include "widgets/Fonts.h"
-#include "widgets/INAppStoreWindow.h"
-#include "widgets/IconButton.h"
 #include "widgets/ImageButton.h"
-#include "widgets/Palette.h"
-#include "widgets/SFBPopover.h"
 
+#include <QDir>
 #include <QLabel>
-#include <QTemporaryDir>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace lumora;
-
-namespace
-{
-
-/// The whole application with services that remember.
-struct Application
-{
-    Application() : delegate(services.services())
-    {
-        delegate.applicationDidFinishLaunching();
-        delegate.popupView()->setAnimates(false);
-        delegate.aboutPopupView()->setAnimates(false);
-        delegate.window()->show();
-    }
-    RecordingServices services;
-    AppDelegate delegate;
-};
-
-QString savePicture(const QTemporaryDir &folder, const QString &name, int width, int height)
-{
-    QImage picture(width, height, QImage::Format_RGB32);
-    picture.fill(Qt::magenta);
-    const QString path = folder.filePath(name);
-    return picture.save(path, "PNG") ? path : QString();
-}
-
-} // namespace
 
 class ShellTest : public QObject
 {
@@ -79,7 +44,6 @@ private slots:
         QCOMPARE(window.backgroundColor().rgb(), QColor(Qt::white).rgb());
         QVERIFY(!application.delegate.sideBar()->allowsEmptySelection());
         QCOMPARE(application.delegate.sideBar()->selectedIndex(), 0);
-        QCOMPARE(application.delegate.controllers().size(), toolTable().size());
     }
 
     void headerPartsFollowTheWidth_data()
@@ -108,25 +72,12 @@ private slots:
     void toolViewStandsRightOfSidebarAndBand()
     {
         Application application;
-        QWidget *view = application.delegate.controllers().front()->view();
+        QWidget *view = application.delegate.controller(0)->view();
         QVERIFY(QTest::qWaitForWindowExposed(application.delegate.window()));
         QTRY_COMPARE(view->mapTo(application.delegate.window(), QPoint()), QPoint(65, 60));
         QCOMPARE(view->size(), QSize(835, 600));
         application.delegate.window()->resize(1100, 800);
         QTRY_COMPARE(view->size(), QSize(1035, 740));
-    }
-
-    void headerPopupAnchors_data()
-    {
-        QTest::addColumn<QRectF>("button");
-        QTest::addColumn<QPointF>("expected");
-        QTest::newRow("info button") << QRectF(775, 0, 60, 60) << QPointF(805, 30 + 660 - 60 - 20);
-        QTest::newRow("no sender") << QRectF() << QPointF(0, 660 - 60 - 20);
-    }
-    void headerPopupAnchors()
-    {
-        QFETCH(QRectF, button);
-        QTEST(headerPopupAnchor(button, 660, 60), "expected");
     }
 
     void headerTitleIsStyled()
@@ -166,57 +117,7 @@ private slots:
         QCOMPARE(help.popupTitleSeperator->backgroundColor(), tool.color);
         QCOMPARE(delegate.contentView()->layout()->count(), 1);
         QCOMPARE(delegate.contentView()->layout()->itemAt(0)->widget(),
-                 delegate.controllers().at(static_cast<std::size_t>(index))->view());
-    }
-
-    void secondClickHidesThePopup()
-    {
-        Application application;
-        AppDelegate &delegate = application.delegate;
-        delegate.header()->infoButton()->click();
-        QVERIFY(delegate.popupView()->isVisible());
-        delegate.header()->infoButton()->click();
-        QVERIFY(!delegate.popupView()->isVisible());
-        delegate.header()->iconButton()->click();
-        QVERIFY(delegate.aboutPopupView()->isVisible());
-        delegate.header()->iconButton()->click();
-        QVERIFY(!delegate.aboutPopupView()->isVisible());
-    }
-
-    void onePopupClosesTheOther()
-    {
-        Application application;
-        AppDelegate &delegate = application.delegate;
-        delegate.header()->infoButton()->click();
-        delegate.header()->iconButton()->click();
-        QVERIFY(!delegate.popupView()->isVisible());
-        QVERIFY(delegate.aboutPopupView()->isVisible());
-        delegate.header()->infoButton()->click();
-        QVERIFY(delegate.popupView()->isVisible());
-        QVERIFY(!delegate.aboutPopupView()->isVisible());
-    }
-
-    void aboutMenuTogglesTheAboutPopup()
-    {
-        Application application;
-        application.delegate.aboutButtonClicked();
-        QVERIFY(application.delegate.aboutPopupView()->isVisible());
-        application.delegate.aboutButtonClicked();
-        QVERIFY(!application.delegate.aboutPopupView()->isVisible());
-    }
-
-    void popupsLookAlike()
-    {
-        Application application;
-        for (const SFBPopover *popover : {application.delegate.popupView(), application.delegate.aboutPopupView()}) {
-            QCOMPARE(popover->borderColor(), palette::chromeText);
-            QCOMPARE(popover->backgroundColor(), palette::window);
-            QCOMPARE(popover->cornerRadius(), 0.0);
-            QCOMPARE(popover->borderWidth(), 5.0);
-            QCOMPARE(popover->arrowHeight(), 5.0);
-            QVERIFY(popover->closesWhenApplicationBecomesInactive());
-            QVERIFY(popover->closesWhenPopoverResignsKey());
-        }
+                 delegate.controller(static_cast<std::size_t>(index))->view());
     }
 
     void untitledDocumentsAreNeverMade()
@@ -230,6 +131,50 @@ private slots:
         QVERIFY(application.delegate.window()->isVisible());
     }
 
+    void whatTheFirstFrameNeedsNotComesBehindIt()
+    {
+        RecordingServices services;
+        AppDelegate delegate(services.services());
+        delegate.applicationDidFinishLaunching();
+        QVERIFY(!delegate.isComplete());
+        QCoreApplication::processEvents();
+        QVERIFY(!delegate.isComplete());
+        delegate.window()->show();
+        QTRY_VERIFY(delegate.isComplete());
+    }
+
+    void toolsAreMadeOnceAndStay()
+    {
+        Application application;
+        AppDelegate &delegate = application.delegate;
+        std::vector<ToolViewController *> early;
+        for (std::size_t index = toolTable().size(); index-- > 0;)
+            early.insert(early.begin(), delegate.controller(index));
+        QTRY_VERIFY(delegate.isComplete());
+        for (std::size_t index = 0; index < early.size(); ++index) {
+            delegate.sideBar()->setSelectedIndex(static_cast<qint32>(index));
+            QCOMPARE(delegate.currentController(), early[index]);
+            QCOMPARE(early[index]->window(), delegate.window());
+        }
+    }
+
+    void messageOfAToolOutOfSightShowsOnTheWindow()
+    {
+        const QTemporaryDir folder;
+        QVERIFY(QDir(folder.path()).mkdir(u"icons"_s));
+        Application application;
+        AppDelegate &delegate = application.delegate;
+        IconsViewController &icons = application.icons();
+        icons.popupView()->setAnimates(false);
+        icons.outlets().favIconCheckbox->click();
+        icons.outlets().generateIconsButton->click();
+        application.services.folderChooser.confirm(folder.path());
+        delegate.sideBar()->setSelectedIndex(1);
+        QTRY_VERIFY_WITH_TIMEOUT(icons.popupView()->isVisible(), 30000);
+        QCOMPARE(icons.popupContentView()->titleLabel()->text(), qtTrId("ICONS_NEW_FOLDER_ALERT_TITLE"));
+        QCOMPARE(icons.popupView()->popoverWindow()->parentWindow(), delegate.window());
+    }
+
     void clearedSidebarLeavesTheToolInView()
     {
         Application application;
@@ -237,119 +182,8 @@ private slots:
         QTest::keyClick(delegate.sideBar(), Qt::Key_Escape);
         QCOMPARE(delegate.sideBar()->selectedIndex(), -1);
         delegate.updateViewForIndex();
-        QCOMPARE(delegate.contentView()->layout()->itemAt(0)->widget(), delegate.controllers().front()->view());
-    }
-
-    void openedFiles_data()
-    {
-        QTest::addColumn<QStringList>("names");
-        QTest::addColumn<bool>("routed");
-        QTest::newRow("a picture") << QStringList{u"one.png"_s} << true;
-        QTest::newRow("capitals are not routed") << QStringList{u"one.PNG"_s} << false;
-        QTest::newRow("another kind is not routed") << QStringList{u"one.jpg"_s} << false;
-        QTest::newRow("no extension") << QStringList{u"png"_s} << false;
-        QTest::newRow("only the first counts, and it is a picture") << QStringList{u"one.png"_s, u"app.ipa"_s} << true;
-        QTest::newRow("only the first counts, and it is of no known kind")
-            << QStringList{u"notes.txt"_s, u"one.png"_s} << false;
-        QTest::newRow("none") << QStringList() << false;
-    }
-    void openedFiles()
-    {
-        QFETCH(QStringList, names);
-        QFETCH(bool, routed);
-        const QTemporaryDir folder;
-        QStringList paths;
-        for (const QString &name : std::as_const(names))
-            paths << savePicture(folder, name, 1024, 1024);
-        Application application;
-        AppDelegate &delegate = application.delegate;
-        delegate.sideBar()->setSelectedIndex(static_cast<qint32>(toolTable().size()) - 1);
-        const qint32 before = delegate.sideBar()->selectedIndex();
-        delegate.window()->hide();
-        int refreshed = 0;
-        connect(&delegate, &AppDelegate::toolChanged, this, [&refreshed] { ++refreshed; });
-        delegate.applicationOpenFiles(paths);
-        QVERIFY(delegate.window()->isVisible());
-        QCOMPARE(refreshed, routed ? 2 : 1);
-        QCOMPARE(delegate.sideBar()->selectedIndex(), routed ? 0 : before);
-        auto &icons = static_cast<IconsViewController &>(*delegate.controllers().front());
-        QCOMPARE(icons.outlets().sourceIconTitle->text(), routed ? names.first() : qtTrId("ICONS_SOURCE_TITLE"));
-    }
-
-    void supportAlert_data()
-    {
-        QTest::addColumn<int>("button");
-        QTest::addColumn<QString>("addressKey");
-        QTest::newRow("close opens nothing") << 0 << QString();
-        QTest::newRow("the second opens the social page") << 1 << u"ABOUT_TWITTER_WEB"_s;
-        QTest::newRow("the third opens the report page") << 2 << u"ABOUT_BUG_REPORT_WEB"_s;
-    }
-    void supportAlert()
-    {
-        QFETCH(int, button);
-        QFETCH(QString, addressKey);
-        Application application;
-        application.delegate.showAlertWithTitle(u"Title"_s, u"Message"_s, NamedImage(u"state_warning"_s),
-                                                application.delegate.header()->infoButton());
-        PopoverAlert *alert = PopoverAlert::currentAlert();
-        QVERIFY(alert != nullptr);
-        QCOMPARE(alert->messageText, u"Title"_s);
-        QCOMPARE(alert->informativeText, u"Message"_s);
-        QCOMPARE(alert->buttonTitles, (QStringList{qtTrId("CLOSE"), qtTrId("BUG_REPORT"), qtTrId("SUPPORT")}));
-        alert->buttons().at(button)->click();
-        QList<QUrl> expected;
-        if (!addressKey.isEmpty())
-            expected << QUrl(qtTrId(addressKey.toUtf8().constData()));
-        QCOMPARE(application.services.urlOpener.opened, expected);
-    }
-
-    void shortcuts()
-    {
-        Application application;
-        AppDelegate &delegate = application.delegate;
-        const AppMenu menu(delegate);
-        delegate.window()->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(delegate.window()));
-        QTest::keyClick(delegate.window(), Qt::Key_F1);
-        QVERIFY(delegate.popupView()->isVisible());
-        delegate.popupView()->closePopover();
-        delegate.window()->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(delegate.window()));
-        QTest::keyClick(delegate.window(), Qt::Key_O, Qt::ControlModifier);
-        QVERIFY(application.services.fileChooser.isOpen());
-        for (int index = 0; index < static_cast<int>(toolTable().size()); ++index) {
-            QTest::keyClick(delegate.window(), static_cast<Qt::Key>(Qt::Key_1 + index), Qt::ControlModifier);
-            QCOMPARE(delegate.sideBar()->selectedIndex(), index);
-        }
-    }
-
-    void shortcutsWorkFromAPanelToo()
-    {
-        Application application;
-        AppDelegate &delegate = application.delegate;
-        const AppMenu menu(delegate);
-        QWidget panel(nullptr, Qt::Tool);
-        panel.show();
-        panel.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&panel));
-        QTest::keyClick(&panel, Qt::Key_4, Qt::ControlModifier);
-        QCOMPARE(delegate.sideBar()->selectedIndex(), 3);
-        QTest::keyClick(&panel, Qt::Key_Q, Qt::ControlModifier);
-        QTRY_VERIFY(!delegate.window()->isVisible());
-    }
-
-    void pasteShortcutTakesACopiedFile()
-    {
-        const QTemporaryDir folder;
-        Application application;
-        AppDelegate &delegate = application.delegate;
-        const AppMenu menu(delegate);
-        application.services.clipboard.copiedFiles = QStringList{savePicture(folder, u"mine.png"_s, 1024, 1024)};
-        delegate.window()->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(delegate.window()));
-        QTest::keyClick(delegate.window(), Qt::Key_V, Qt::ControlModifier);
-        auto &icons = static_cast<IconsViewController &>(*delegate.controllers().front());
-        QCOMPARE(icons.outlets().sourceIconTitle->text(), u"mine.png"_s);
+        QCOMPARE(delegate.contentView()->layout()->itemAt(0)->widget(), delegate.controller(0)->view());
+        QCOMPARE(delegate.currentController(), delegate.controller(0));
     }
 
     void everyControlIsNamedAndReachable_data() { everyToolColorsAndNamesTheChrome_data(); }

@@ -67,7 +67,15 @@ def main(program, drag_source):
         window, command = files_below(destination / "icons"), files_below(reference / "icons")
         assert len(window) == 52, sorted(window)
         assert window == command, sorted(name for name in window if window[name] != command.get(name))
+
+        # Closing the window in the middle of an export ends cleanly, with every file whole.
+        closed = scratch / "while closing"
+        closed.mkdir()
+        lumora.button("Generate", 0).click()
+        lumora.choose_in_dialog(closed)
+        wait_for("the beginning of the export", lambda: (closed / "icons/iPhone").exists())
         assert lumora.close() == 0
+        assert files_below(closed / "icons") == command
         assert "lumora: Folder" not in desktop.log()
 
 

@@ -1,0 +1,152 @@
+// SPDX-License-Identifier: MIT
+#include "ShellFixture.h"
+#include "app/HeaderView.h"
+#include "app/PopoverAlert.h"
+#include "resources/Resources.h"
+#include "widgets/IconButton.h"
+#include "widgets/ImageButton.h"
+#include "widgets/Palette.h"
+
+#include <QScreen>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace lumora;
+
+class HeaderPopupTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        loadResources();
+        installTexts(*qApp, QLocale(u"en_GB"_s));
+    }
+
+    void headerPopupAnchors_data()
+    {
+        QTest::addColumn<QRectF>("button");
+        QTest::addColumn<QPointF>("expected");
+        QTest::newRow("info button") << QRectF(775, 0, 60, 60) << QPointF(805, 30 + 660 - 60 - 20);
+        QTest::newRow("no sender") << QRectF() << QPointF(0, 660 - 60 - 20);
+    }
+    void headerPopupAnchors()
+    {
+        QFETCH(QRectF, button);
+        QTEST(headerPopupAnchor(button, 660, 60), "expected");
+    }
+
+    void secondClickHidesThePopup()
+    {
+        Application application;
+        AppDelegate &delegate = application.delegate;
+        delegate.header()->infoButton()->click();
+        QVERIFY(delegate.popupView()->isVisible());
+        delegate.header()->infoButton()->click();
+        QVERIFY(!delegate.popupView()->isVisible());
+        delegate.header()->iconButton()->click();
+        QVERIFY(delegate.aboutPopupView()->isVisible());
+        delegate.header()->iconButton()->click();
+        QVERIFY(!delegate.aboutPopupView()->isVisible());
+    }
+
+    void onePopupClosesTheOther()
+    {
+        Application application;
+        AppDelegate &delegate = application.delegate;
+        delegate.header()->infoButton()->click();
+        delegate.header()->iconButton()->click();
+        QVERIFY(!delegate.popupView()->isVisible());
+        QVERIFY(delegate.aboutPopupView()->isVisible());
+        delegate.header()->infoButton()->click();
+        QVERIFY(delegate.popupView()->isVisible());
+        QVERIFY(!delegate.aboutPopupView()->isVisible());
+    }
+
+    void aboutMenuTogglesTheAboutPopup()
+    {
+        Application application;
+        application.delegate.aboutButtonClicked();
+        QVERIFY(application.delegate.aboutPopupView()->isVisible());
+        application.delegate.aboutButtonClicked();
+        QVERIFY(!application.delegate.aboutPopupView()->isVisible());
+    }
+
+    void popupsLookAlike()
+    {
+        Application application;
+        for (const SFBPopover *popover : {application.delegate.popupView(), application.delegate.aboutPopupView()}) {
+            QCOMPARE(popover->borderColor(), palette::chromeText);
+            QCOMPARE(popover->backgroundColor(), palette::window);
+            QCOMPARE(popover->cornerRadius(), 0.0);
+            QCOMPARE(popover->borderWidth(), 5.0);
+            QCOMPARE(popover->arrowHeight(), 5.0);
+            QVERIFY(popover->closesWhenApplicationBecomesInactive());
+            QVERIFY(popover->closesWhenPopoverResignsKey());
+        }
+    }
+
+    void supportAlert_data()
+    {
+        QTest::addColumn<int>("button");
+        QTest::addColumn<QString>("addressKey");
+        QTest::newRow("close opens nothing") << 0 << QString();
+        QTest::newRow("the second opens the social page") << 1 << u"ABOUT_TWITTER_WEB"_s;
+        QTest::newRow("the third opens the report page") << 2 << u"ABOUT_BUG_REPORT_WEB"_s;
+    }
+    void supportAlert()
+    {
+        QFETCH(int, button);
+        QFETCH(QString, addressKey);
+        Application application;
+        application.delegate.showAlertWithTitle(u"Title"_s, u"Message"_s, NamedImage(u"state_warning"_s),
+                                                application.delegate.header()->infoButton());
+        PopoverAlert *alert = PopoverAlert::currentAlert();
+        QVERIFY(alert != nullptr);
+        QCOMPARE(alert->messageText, u"Title"_s);
+        QCOMPARE(alert->informativeText, u"Message"_s);
+        QCOMPARE(alert->buttonTitles, (QStringList{qtTrId("CLOSE"), qtTrId("BUG_REPORT"), qtTrId("SUPPORT")}));
+        alert->buttons().at(button)->click();
+        QList<QUrl> expected;
+        if (!addressKey.isEmpty())
+            expected << QUrl(qtTrId(addressKey.toUtf8().constData()));
+        QCOMPARE(application.services.urlOpener.opened, expected);
+    }
+
+    void popupsStayOnTheScreen_data()
+    {
+        // The window's upper right corner, and that of the screen's usable area; some of the window is off the screen.
+        const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+        const int middle = screen.center().x() + 100;
+        const int low = screen.bottom() - 100;
+        QTest::addColumn<QPoint>("corner");
+        QTest::newRow("in the middle") << QPoint(middle, screen.top());
+        QTest::newRow("at the right edge, as a window that fills the screen") << screen.topRight();
+        QTest::newRow("at the lower edge") << QPoint(middle, low);
+        QTest::newRow("in the lower right corner") << QPoint(screen.right(), low);
+        QTest::newRow("in the lower left corner") << QPoint(screen.left() + 160, low);
+    }
+    void popupsStayOnTheScreen()
+    {
+        QFETCH(QPoint, corner);
+        Application application;
+        AppDelegate &delegate = application.delegate;
+        delegate.window()->move(corner.x() + 1 - delegate.window()->width(), corner.y());
+        QCOMPARE(delegate.window()->frameGeometry().topRight(), corner);
+        const QRect screen = delegate.window()->screen()->availableGeometry();
+        for (ImageButton *button : {delegate.header()->infoButton(), delegate.header()->iconButton()}) {
+            button->click();
+            const SFBPopover &popup =
+                button == delegate.header()->infoButton() ? *delegate.popupView() : *delegate.aboutPopupView();
+            QVERIFY(popup.isVisible());
+            const QRect content(popup.popoverWindow()->contentView()->mapToGlobal(QPoint()),
+                                popup.popoverWindow()->contentView()->size());
+            QCOMPARE(content.intersected(screen), content);
+            button->click();
+        }
+    }
+};
+
+QTEST_MAIN(HeaderPopupTest)
+#include "HeaderPopupTest.moc"

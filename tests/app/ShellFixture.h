@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "app/AppDelegate.h"
+#include "app/services/RecordingServices.h"
+#include "icons/IconsViewController.h"
+#include "widgets/INAppStoreWindow.h"
+#include "widgets/SFBPopover.h"
+
+#include <QTemporaryDir>
+
+namespace lumora
+{
+
+/// The whole application with services that remember; its header popups come and go at once.
+struct Application
+{
+    Application() : delegate(services.services())
+    {
+        delegate.applicationDidFinishLaunching();
+        delegate.popupView()->setAnimates(false);
+        delegate.aboutPopupView()->setAnimates(false);
+        delegate.window()->show();
+    }
+
+    IconsViewController &icons() { return static_cast<IconsViewController &>(*delegate.controller(0)); }
+
+    RecordingServices services;
+    AppDelegate delegate;
+};
+
+/// Answers the path of a picture written into the folder.
+inline QString savePicture(const QTemporaryDir &folder, const QString &name, QSize size = {1024, 1024})
+{
+    QImage picture(size, QImage::Format_RGB32);
+    picture.fill(Qt::magenta);
+    const QString path = folder.filePath(name);
+    return picture.save(path, "PNG") ? path : QString();
+}
+
+} // namespace lumora
