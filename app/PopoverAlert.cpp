@@ -2,8 +2,8 @@
 #include "PopoverAlert.h"
 
 #include "PopoverAlertView.h"
-#include "PopoverPlacement.h"
 #include "PopoverStyle.h"
+#include "PopupPlacement.h"
 #include "widgets/IconButton.h"
 #include "widgets/Palette.h"
 #include "widgets/SFBPopover.h"

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "ToolViewController.h"
 
-#include "PopoverPlacement.h"
 #include "PopoverStyle.h"
 #include "PopupAnchor.h"
+#include "PopupPlacement.h"
 #include "widgets/Palette.h"
 #include "widgets/SFBPopover.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "PopoverPlacement.h"
+#include "PopupPlacement.h"
 
 #include "widgets/SFBPopover.h"
 #include "widgets/ScreenCoordinates.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "app/PopoverPlacement.h"
+#include "app/PopupPlacement.h"
 #include "app/PopoverStyle.h"
 #include "widgets/SFBPopover.h"
 
@@ -9,7 +9,7 @@
 using namespace Qt::StringLiterals;
 using namespace lumora;
 
-class PopoverPlacementTest : public QObject
+class PopupPlacementTest : public QObject
 {
     Q_OBJECT
 
@@ -108,5 +108,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(PopoverPlacementTest)
-#include "PopoverPlacementTest.moc"
+QTEST_MAIN(PopupPlacementTest)
+#include "PopupPlacementTest.moc"
