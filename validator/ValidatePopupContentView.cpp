@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ValidatePopupContentView.h"
 
+#include "LongWords.h"
 #include "app/ButtonStyle.h"
 #include "app/LabelStyle.h"
 #include "ui_ValidatePopupContentView.h"
@@ -54,7 +55,8 @@ IconButton *ValidatePopupContentView::closeButton() const
 void ValidatePopupContentView::setTitle(const QString &title, const QString &andMessage)
 {
     m_ui->titleLabel->setText(title);
-    m_ui->messageLabel->setText(andMessage);
+    m_ui->messageLabel->setText(breakingLongWords(andMessage));
+    m_ui->messageLabel->setAccessibleName(andMessage);
 }
 
 void ValidatePopupContentView::setLightColor(const QColor &lightColor, const QColor &andDarkColor)

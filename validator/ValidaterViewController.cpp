@@ -2,6 +2,7 @@
 #include "ValidaterViewController.h"
 
 #include "BundleImages.h"
+#include "LongWords.h"
 #include "ShownFact.h"
 #include "ValidatePopupContentView.h"
 #include "app/ButtonStyle.h"
@@ -265,7 +266,7 @@ void ValidaterViewController::showFact(QLabel *field, const char *labelKey, cons
     const QString label = qtTrId(labelKey);
     const QString line = label + shownFact(value);
     field->setTextFormat(Qt::RichText);
-    field->setText(createAttributedTextFromString(line, latoBold(fontSize), label).toHtml());
+    field->setText(createAttributedTextFromString(breakingLongWords(line), latoBold(fontSize), label).toHtml());
     field->setAccessibleName(line);
 }
 

@@ -2,6 +2,7 @@
 #include "PaneInWindow.h"
 #include "ScriptedFiles.h"
 #include "resources/Resources.h"
+#include "validator/LongWords.h"
 #include "widgets/Fonts.h"
 #include "widgets/Palette.h"
 
@@ -234,6 +235,45 @@ private slots:
         pane.tool.showValidatePopupWithTitle(u"Title"_s, u"A line\n"_s.repeated(100), nullptr, true);
         QCOMPARE(content->height(), ValidatePopupContentView::largestHeight);
         QTRY_VERIFY(content->scrollArea()->verticalScrollBar()->maximum() > 0);
+    }
+
+    void breaksLongWords_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("pieces");
+        const auto same = [](const char *name, const QString &text) { QTest::newRow(name) << text << text; };
+        same("nothing", QString());
+        same("short words", u"An app  with a\nname "_s);
+        same("just short enough", QString(24, u'x'));
+        QTest::newRow("no punctuation") << QString(25, u'x') << QString(QString(16, u'x') + u'|' + QString(9, u'x'));
+        QTest::newRow("an identifier") << u"the com.example.application.of-mine"_s
+                                       << u"the com.|example.|application.|of-|mine"_s;
+        QTest::newRow("a line break between")
+            << u"• com.example.application1://\n• b"_s << u"• com.|example.|application1:|/|/\n• b"_s;
+        QTest::newRow("not inside a character")
+            << QString(u"12345678901234567" + QString(u"\U0001F600"_s).repeated(5))
+            << QString(u"1234567890123456|7" + QString(u"\U0001F600"_s).repeated(5));
+    }
+    void breaksLongWords()
+    {
+        QFETCH(QString, text);
+        QString broken = breakingLongWords(text);
+        QTEST(broken.replace(QChar(0x200B), u'|'), "pieces");
+    }
+
+    void cutsNoLongFactOff()
+    {
+        // Every glyph of a long identifier is inside the pane: the label wants no more width than it gets.
+        PaneInWindow pane;
+        read(pane, u"long names"_s);
+        for (const QLabel *field : {pane.ui().appNameField, pane.ui().appBundleIDField})
+            QVERIFY2(field->minimumSizeHint().width() <= field->width(), qPrintable(field->objectName()));
+        QVERIFY(!pane.ui().appBundleIDField->accessibleName().contains(QChar(0x200B)));
+        QTest::mouseClick(pane.ui().validURLSchemesBox, Qt::LeftButton);
+        const QLabel *message = pane.tool.validatePopupContentView()->messageLabel();
+        const QRect needed = message->fontMetrics().boundingRect(QRect(0, 0, message->width(), 100000),
+                                                                 Qt::TextWordWrap, message->text());
+        QVERIFY(needed.width() <= message->width());
     }
 
     void fillsItsLabelsBold()

@@ -98,6 +98,8 @@ def main():
     write("wrong types", bundle(whole, plist=info(CFBundleDisplayName=["a"], CFBundleVersion=5, CFBundleIdentifier={},
                                                   MinimumOSVersion=True, UIDeviceFamily="1", CFBundleURLTypes="x",
                                                   FacebookAppID=42)))
+    write("long names", bundle(plist=info(CFBundleDisplayName="Name" * 25, CFBundleIdentifier="com.example." + "long" * 30,
+                                          CFBundleURLTypes=[{"CFBundleURLSchemes": ["com.example." + "scheme" * 15] * 30}])))
     write("app is a file", {"Payload/Demo.app": b"no folder"})
     write("payload is a file", {"Payload": b"no folder"})
     write("no app", {"Payload/readme.txt": b"", "Demo.app/Info.plist": b""})
