@@ -17,6 +17,14 @@ using namespace Qt::StringLiterals;
 namespace lumora
 {
 
+namespace
+{
+
+/// Above a line, for the accents of capitals: the font counts them as leading, and a label has none above its text.
+constexpr int accentRoom = 3;
+
+} // namespace
+
 ValidatePopupContentView::ValidatePopupContentView(QWidget *parent)
     : QWidget(parent), m_ui(std::make_unique<Ui::ValidatePopupContentView>())
 {
@@ -24,6 +32,8 @@ ValidatePopupContentView::ValidatePopupContentView(QWidget *parent)
     setAccessibleName(qtTrId("ACCESSIBLE_MESSAGE"));
     styleLabel(m_ui->titleLabel, latoBold(15), palette::chromeText);
     styleLabel(m_ui->messageLabel, latoRegular(13), palette::chromeText);
+    for (QLabel *label : {m_ui->titleLabel, m_ui->messageLabel})
+        label->setContentsMargins(0, accentRoom, 0, 0);
     m_ui->scrollArea->viewport()->setAutoFillBackground(false);
     m_ui->scrollContents->setAutoFillBackground(false);
     styleButton(m_ui->closeButton, qtTrId("CLOSE"), u"button_icon_close"_s, palette::errorLight, palette::errorDark);

@@ -27,6 +27,8 @@ namespace
 {
 
 constexpr qreal missingIconRadius = 28;
+/// Above a line, for the accents of capitals: the font counts them as leading, and a label has none above its text.
+constexpr int accentRoom = 4;
 constexpr int titleSize = 25;
 constexpr int readingSize = 18;
 constexpr int informationSize = 13;
@@ -122,6 +124,7 @@ void ValidaterViewController::awakeFromNib()
                           m_ui->appBundleIDField, m_ui->appBuildField}) {
         styleLabel(field, latoRegular(fontSize), palette::chromeText);
         field->setWordWrap(true);
+        field->setContentsMargins(0, accentRoom, 0, 0);
     }
     m_ui->appIconField->setAccessibleName(qtTrId("ACCESSIBLE_VALIDATER_APP_ICON"));
 

@@ -276,6 +276,43 @@ private slots:
         QVERIFY(needed.width() <= message->width());
     }
 
+    void drawsTheAccentsOfCapitals_data()
+    {
+        QTest::addColumn<int>("scale");
+        QTest::newRow("scale 1") << 1;
+        QTest::newRow("scale 2") << 2;
+    }
+    void drawsTheAccentsOfCapitals()
+    {
+        QFETCH(int, scale);
+        PaneInWindow pane;
+        pane.tool.showValidatePopupWithTitle(u"\u00C4"_s, u"\u00C4"_s, nullptr, false);
+        pane.ui().appNameField->setText(u"\u00C4"_s);
+        for (QLabel *label : {pane.ui().appNameField, pane.tool.validatePopupContentView()->titleLabel(),
+                              pane.tool.validatePopupContentView()->messageLabel()}) {
+            label->resize(100, label->sizeHint().height());
+            QImage picture(label->size() * scale, QImage::Format_RGB32);
+            picture.setDevicePixelRatio(scale);
+            picture.fill(Qt::white);
+            label->render(&picture, {}, {}, QWidget::DrawChildren);
+            const auto isBlank = [&picture](int y) {
+                for (int x = 0; x < picture.width(); ++x) {
+                    if (qGray(picture.pixel(x, y)) < 250)
+                        return false;
+                }
+                return true;
+            };
+            QVERIFY2(isBlank(0), qPrintable(label->objectName() + u": the dots touch the edge"));
+            // From above: the dots, nothing, the letter; small letters on few pixels run together.
+            if (scale == 1)
+                continue;
+            int changes = 0;
+            for (int y = 1; y < picture.height(); ++y)
+                changes += isBlank(y) != isBlank(y - 1) ? 1 : 0;
+            QCOMPARE(changes, 4);
+        }
+    }
+
     void fillsItsLabelsBold()
     {
         const StyledText text =
