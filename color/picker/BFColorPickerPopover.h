@@ -21,7 +21,8 @@ class ColorWell;
 class SFBPopover;
 
 /// Shows the shared colour picker in a balloon beside a colour well. It closes when the user goes on working in the
-/// well's window and stays when another program comes to the front; dragged off, it becomes the floating panel.
+/// well's window and stays when another program comes to the front; dragged off, it becomes the floating panel. Under
+/// Wayland it cannot follow the drag: only its arrow tells that it will come off, and the compositor places the panel.
 class BFColorPickerPopover final : public QObject
 {
     Q_OBJECT

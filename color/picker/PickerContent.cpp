@@ -2,6 +2,7 @@
 #include "PickerContent.h"
 
 #include "ChannelRow.h"
+#include "ColorSlider.h"
 #include "PickerMetrics.h"
 #include "PickerModel.h"
 #include "PickerPages.h"
@@ -17,10 +18,12 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QSignalBlocker>
+#include <QSpinBox>
 #include <QStackedWidget>
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -133,7 +136,21 @@ QWidget *PickerContent::page(PickerMode mode)
     }
     }
     m_pages->addWidget(page);
+    putBehindInTabOrder(page);
     return page;
+}
+
+void PickerContent::putBehindInTabOrder(const QWidget *page)
+{
+    const QList<QWidget *> controls = page->findChildren<QWidget *>();
+    const auto last = std::find_if(controls.crbegin(), controls.crend(), [this](const QWidget *control) {
+        return (control->focusPolicy() & Qt::TabFocus) != 0 && control->focusProxy() == nullptr &&
+               control->window() == window();
+    });
+    // From the last to the first: what already comes next, be it around the end of the chain, would not be moved.
+    for (QWidget *control :
+         std::initializer_list<QWidget *>{m_pipetteButton, m_code, m_opacity->number(), m_opacity->slider()})
+        setTabOrder(*last, control);
 }
 
 bool PickerContent::showsAlpha() const

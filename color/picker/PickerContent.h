@@ -51,6 +51,8 @@ public:
 
 private:
     QLayout *makeCodeRow();
+    /// Lets Tab come to what every mode has after the page, which stands above but is made later.
+    void putBehindInTabOrder(const QWidget *page);
     void showPicked();
     void codeEdited(const QString &text);
     void codeFinished();

@@ -22,7 +22,8 @@ inline constexpr int pickerFieldHeight = 24;
 inline constexpr int wheelMarker = 14;
 inline constexpr int wheelMargin = wheelMarker / 2 + 2;
 
-inline constexpr int swatch = 20;
+/// Ten in a row, beside a scroll bar too.
+inline constexpr int swatch = 19;
 inline constexpr int swatchCell = swatch + 2;
 inline constexpr int swatchCorner = 4;
 /// One square of the pattern that shows through what is not opaque.

@@ -23,6 +23,14 @@ namespace
 
 constexpr int fontSize = 12;
 
+/// As flat as the fields below it, with the arrow of the other tools' boxes.
+const auto flatComboBox = QStringLiteral(R"(
+    QComboBox { background: palette(base); border: 1px solid palette(mid); border-radius: 3px; padding: 3px 6px; }
+    QComboBox:focus { border: 2px solid palette(highlight); padding: 2px 5px; }
+    QComboBox::drop-down { border: 0; width: 24px; }
+    QComboBox::down-arrow { image: url(:/images/dropdown_arrow.svg); width: 10px; height: 10px; }
+)");
+
 QVBoxLayout *columnOn(QWidget *page)
 {
     auto *layout = new QVBoxLayout(page);
@@ -51,6 +59,7 @@ SlidersPage::SlidersPage(PickerModel *model, QWidget *parent)
     : QWidget(parent), m_kind(new QComboBox), m_sliders(new QStackedWidget)
 {
     m_kind->setFont(latoRegular(fontSize));
+    m_kind->setStyleSheet(flatComboBox);
     m_kind->setAccessibleName(qtTrId("COLOR_SLIDERS_KIND"));
     QVBoxLayout *layout = columnOn(this);
     layout->addWidget(m_kind);

@@ -46,6 +46,38 @@ private slots:
         QVERIFY(m_picker->content.opacityRow()->isVisible());
     }
 
+    void tabGoesFromTheModeToWhatEveryModeHas_data()
+    {
+        QTest::addColumn<PickerMode>("mode");
+        QTest::addColumn<QStringList>("names");
+
+        const QStringList always{u"Opacity"_s, u"Opacity"_s, u"Hexadecimal code"_s, u"Pick a colour from the screen"_s};
+        QTest::newRow("wheel") << PickerMode::Wheel
+                               << QStringList{u"Colour wheel"_s, u"Brightness"_s, u"Brightness"_s} + always;
+        QTest::newRow("sliders") << PickerMode::Sliders
+                                 << QStringList{u"Kind of sliders"_s, u"Red"_s,  u"Red"_s, u"Green"_s,
+                                                u"Green"_s,           u"Blue"_s, u"Blue"_s} +
+                                        always;
+        QTest::newRow("palettes") << PickerMode::Palettes
+                                  << QStringList{u"Colours of the tools"_s, u"Named colours of the web"_s} + always;
+    }
+    void tabGoesFromTheModeToWhatEveryModeHas()
+    {
+        QFETCH(PickerMode, mode);
+        QFETCH(QStringList, names);
+        // Pages made in another order than they stand in.
+        m_picker->content.page(PickerMode::Palettes);
+        m_picker->content.setMode(mode);
+        QStringList passed;
+        for (const QWidget *next = m_picker->content.nextInFocusChain(); next != &m_picker->content;
+             next = next->nextInFocusChain()) {
+            if ((next->focusPolicy() & Qt::TabFocus) != 0 && next->focusProxy() == nullptr && next->isVisible() &&
+                !next->accessibleName().isEmpty())
+                passed += next->accessibleName();
+        }
+        QCOMPARE(passed, names);
+    }
+
     void takesATypedCode()
     {
         m_picker->model.setColor({0.0F, 0.0F, 0.0F, 0.4F});

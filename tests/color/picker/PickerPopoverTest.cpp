@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "WellsWindow.h"
+#include "color/picker/ChannelRow.h"
+#include "color/picker/ColorSlider.h"
+#include "color/picker/PickerPages.h"
 #include "widgets/ScreenCoordinates.h"
 
+#include <QComboBox>
 #include <QSignalSpy>
 
 using namespace lumora;
@@ -90,6 +94,24 @@ private slots:
         m_wells->popoverView()->resize(300, 450);
         QCOMPARE(popover()->contentViewController()->tabbar()->geometry(), QRect(0, 0, 300, 34));
         QCOMPARE(panel()->contentView()->geometry(), QRect(0, 34, 300, 416));
+    }
+
+    void tabGoesFromTheTabsToTheModeToTheRest()
+    {
+        m_wells->click(m_wells->well);
+        panel()->setMode(PickerMode::Sliders);
+        QWidget *control = popover()->contentViewController()->tabbar();
+        const auto next = [&control] {
+            do {
+                control = control->nextInFocusChain();
+            } while ((control->focusPolicy() & Qt::TabFocus) == 0 || !control->isVisible() ||
+                     control->accessibleName().isEmpty());
+            return control;
+        };
+        QCOMPARE(next(), static_cast<SlidersPage *>(panel()->contentView()->page(PickerMode::Sliders))->kind());
+        for (int step = 0; step < 6; ++step)
+            QVERIFY(panel()->contentView()->page(PickerMode::Sliders)->isAncestorOf(next()));
+        QCOMPARE(next(), panel()->contentView()->opacityRow()->slider());
     }
 
     void theArrowPointsAtTheWellsRightEdge()
