@@ -27,9 +27,9 @@ namespace
 {
 
 constexpr qreal missingIconRadius = 28;
-/// Above a line, for the accents of capitals: the font counts them as leading, and a label has none above its text.
-constexpr int accentRoom = 4;
 constexpr int titleSize = 25;
+/// Of the invisible character that begins a fact.
+constexpr int accentRoomSize = 20;
 constexpr int readingSize = 18;
 constexpr int informationSize = 13;
 /// What a box of absent things is drawn at in all; being disabled is part of it.
@@ -66,6 +66,13 @@ QPixmap missingIcon(qreal devicePixelRatio)
     painter.setPen(QPen(palette::panelOutline, 2, Qt::DashLine));
     painter.drawRoundedRect(QRectF(1, 1, appIconSize - 2, appIconSize - 2), missingIconRadius, missingIconRadius);
     return picture;
+}
+
+/// An invisible character that is higher than the line: the font counts the accents of capitals as leading, and a label
+/// of styled text cuts off what is above its line.
+QString roomForAccents()
+{
+    return u"<span style=\"font-size:%1px\">\u200B</span>"_s.arg(accentRoomSize);
 }
 
 /// A package that cannot be read shows up as empty. One that was too much for this machine needs a word.
@@ -124,7 +131,6 @@ void ValidaterViewController::awakeFromNib()
                           m_ui->appBundleIDField, m_ui->appBuildField}) {
         styleLabel(field, latoRegular(fontSize), palette::chromeText);
         field->setWordWrap(true);
-        field->setContentsMargins(0, accentRoom, 0, 0);
     }
     m_ui->appIconField->setAccessibleName(qtTrId("ACCESSIBLE_VALIDATER_APP_ICON"));
 
@@ -269,7 +275,8 @@ void ValidaterViewController::showFact(QLabel *field, const char *labelKey, cons
     const QString label = qtTrId(labelKey);
     const QString line = label + shownFact(value);
     field->setTextFormat(Qt::RichText);
-    field->setText(createAttributedTextFromString(breakingLongWords(line), latoBold(fontSize), label).toHtml());
+    const StyledText text = createAttributedTextFromString(breakingLongWords(line), latoBold(fontSize), label);
+    field->setText(roomForAccents() + text.toHtml());
     field->setAccessibleName(line);
 }
 
