@@ -20,7 +20,6 @@ AlertContentView::~AlertContentView() = default;
 
 void AlertContentView::awakeFromNib()
 {
-    setAccessibleName(qtTrId("ACCESSIBLE_MESSAGE"));
     styleLabel(m_ui->titleLabel, latoBold(15), palette::chromeText);
     styleLabel(m_ui->messageLabel, latoRegular(13), palette::chromeText);
     setLightColor(palette::errorLight, palette::errorDark);
@@ -48,6 +47,8 @@ void AlertContentView::setTitle(const QString &title, const QString &andMessage)
 {
     m_ui->titleLabel->setText(title);
     m_ui->messageLabel->setText(andMessage);
+    setAccessibleName(title);
+    setAccessibleDescription(andMessage);
 }
 
 void AlertContentView::setLightColor(const QColor &lightColor, const QColor &andDarkColor)

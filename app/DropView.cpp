@@ -3,6 +3,7 @@
 
 #include "LocalFiles.h"
 #include "foundation/Log.h"
+#include "widgets/AccessibleRole.h"
 
 #include <QDragEnterEvent>
 #include <QGuiApplication>
@@ -64,6 +65,7 @@ DropView::DropView(QWidget *parent) : QWidget(parent)
 void DropView::initialize()
 {
     setAcceptDrops(true);
+    setAccessibleRole(this, QAccessible::Grouping);
 }
 
 DragOperation DropView::draggingEntered(DragContent content, DragOperations mask)

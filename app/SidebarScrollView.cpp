@@ -21,7 +21,6 @@ void SidebarScrollView::setDocumentView(ITSidebar *sidebar)
 {
     m_documentView = sidebar;
     sidebar->setParent(viewport());
-    setFocusProxy(sidebar);
     connect(this, &SidebarScrollView::clipViewBoundsChanged, sidebar, &ITSidebar::resizeMatrix);
     sidebar->awakeFromNib();
     sidebar->show();

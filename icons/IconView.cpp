@@ -1,13 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "IconView.h"
 
+#include "widgets/AccessibleRole.h"
+
 #include <QEvent>
 #include <QPainter>
 
 namespace lumora
 {
 
-IconView::IconView(QWidget *parent) : QWidget(parent) {}
+IconView::IconView(QWidget *parent) : QWidget(parent)
+{
+    setAccessibleRole(this, QAccessible::Graphic);
+}
 
 int IconView::pixelSide() const
 {

@@ -130,6 +130,8 @@ void IconsViewController::setUpSnippets()
     addEntry(qtTrId("ICONS_WEB_TOUCH"), SnippetPlatform::WebTouch);
     addEntry(qtTrId("ICONS_FAV_ICONS"), SnippetPlatform::Favicon);
     m_ui->codeSnippetDropdown->setAccessibleName(qtTrId("ACCESSIBLE_SNIPPET_PLATFORM"));
+    // The toolkit passes on what is chosen as the name; what the choice is for comes from its label.
+    m_ui->codeSnippetTitle->setBuddy(m_ui->codeSnippetDropdown);
 
     m_ui->codeSnippedView->setAccessibleName(qtTrId("ACCESSIBLE_SNIPPET"));
     m_ui->codeSnippedView->setPlaceholderText(qtTrId("SNIPPETS_PLATFORM_PROMPT"));

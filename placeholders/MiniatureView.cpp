@@ -5,6 +5,7 @@
 #include "MiniatureLayout.h"
 #include "Placeholder.h"
 #include "PlaceholderLabel.h"
+#include "widgets/AccessibleRole.h"
 #include "widgets/Palette.h"
 
 #include <QPainter>
@@ -23,7 +24,10 @@ constexpr double frameRadius = 6;
 
 } // namespace
 
-MiniatureView::MiniatureView(QWidget *parent) : QWidget(parent) {}
+MiniatureView::MiniatureView(QWidget *parent) : QWidget(parent)
+{
+    setAccessibleRole(this, QAccessible::Graphic);
+}
 
 void MiniatureView::setPictures(const QList<QSize> &pictures)
 {

@@ -29,7 +29,6 @@ ValidatePopupContentView::ValidatePopupContentView(QWidget *parent)
     : QWidget(parent), m_ui(std::make_unique<Ui::ValidatePopupContentView>())
 {
     m_ui->setupUi(this);
-    setAccessibleName(qtTrId("ACCESSIBLE_MESSAGE"));
     styleLabel(m_ui->titleLabel, latoBold(15), palette::chromeText);
     styleLabel(m_ui->messageLabel, latoRegular(13), palette::chromeText);
     for (QLabel *label : {m_ui->titleLabel, m_ui->messageLabel})
@@ -67,6 +66,8 @@ void ValidatePopupContentView::setTitle(const QString &title, const QString &and
     m_ui->titleLabel->setText(title);
     m_ui->messageLabel->setText(breakingLongWords(andMessage));
     m_ui->messageLabel->setAccessibleName(andMessage);
+    setAccessibleName(title);
+    setAccessibleDescription(andMessage);
 }
 
 void ValidatePopupContentView::setLightColor(const QColor &lightColor, const QColor &andDarkColor)

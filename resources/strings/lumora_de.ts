@@ -1137,10 +1137,6 @@
     <source>About Lumora</source>
     <translation>Über Lumora</translation>
   </message>
-  <message id="ACCESSIBLE_MESSAGE">
-    <source>Message</source>
-    <translation>Meldung</translation>
-  </message>
   <message id="ACCESSIBLE_ICONS_DROP">
     <source>Drop area for the source icon</source>
     <translation>Ablagefläche für das Ausgangs-Icon</translation>

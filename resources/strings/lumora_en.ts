@@ -1135,10 +1135,6 @@
     <source>About Lumora</source>
     <translation>About Lumora</translation>
   </message>
-  <message id="ACCESSIBLE_MESSAGE">
-    <source>Message</source>
-    <translation>Message</translation>
-  </message>
   <message id="ACCESSIBLE_ICONS_DROP">
     <source>Drop area for the source icon</source>
     <translation>Drop area for the source icon</translation>

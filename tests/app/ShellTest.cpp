@@ -210,6 +210,28 @@ private slots:
                 QVERIFY2(onTheWay.contains(control), qPrintable(name));
         }
     }
+
+    void tabReachesHeaderSidebarAndTool()
+    {
+        Application application;
+        INAppStoreWindow *window = application.delegate.window();
+        window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(window));
+        const HeaderView *header = application.delegate.header();
+        for (qint32 index = 0; index < static_cast<qint32>(toolTable().size()); ++index) {
+            ITSidebar *sidebar = application.delegate.sideBar();
+            sidebar->setSelectedIndex(index);
+            sidebar->setFocus();
+            QSet<const QWidget *> stops;
+            for (int press = 0; press < 60 && !stops.contains(QApplication::focusWidget()); ++press) {
+                stops.insert(QApplication::focusWidget());
+                QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+            }
+            QCOMPARE(QApplication::focusWidget(), sidebar);
+            QVERIFY(stops.contains(header->infoButton()) && stops.contains(header->iconButton()));
+            QVERIFY(stops.size() > 3);
+        }
+    }
 };
 
 QTEST_MAIN(ShellTest)

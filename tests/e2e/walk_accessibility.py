@@ -1,0 +1,158 @@
+# SPDX-License-Identifier: MIT
+"""What a screen reader and a keyboard find: every control of every tool and popup by name and role, the focus to be seen
+wherever it goes, popovers that announce themselves."""
+
+import subprocess
+import sys
+import tempfile
+from pathlib import Path
+
+from desktop import Desktop, wait_for
+
+TOOLS = 6
+# Roles of things that are operated. The rest is what they stand on, and what is read.
+OPERATED = {"push button", "toggle button", "check box", "radio button", "text", "entry", "combo box", "spin button",
+            "slider", "dial", "list", "list item", "page tab", "page tab list", "color chooser", "menu item", "link",
+            "password text", "progress bar", "image", "icon"}
+NO_ROLE = {"unknown", "invalid", "unused", ""}
+# A ring around the smallest control is more; a blinking cursor is less.
+LEAST_CHANGE = 60
+
+# Prints one line for each popup that says that it has come: its role and its name.
+LISTENER = """
+import pyatspi
+def shown(event):
+    if event.detail1 and event.source.getRoleName() in ("alert", "dialog", "notification"):
+        print(event.source.getRoleName(), "|", event.source.name, flush=True)
+pyatspi.Registry.registerEventListener(shown, "object:state-changed:showing")
+print("ready", flush=True)
+pyatspi.Registry.start()
+"""
+
+
+def nameless(lumora):
+    """The operated controls on show that have no name, and whatever has no role."""
+    controls = lumora.controls()
+    # A name on what counts as mere filling is not read. A popup's content has its popup's.
+    popups = {control.name for control in controls if control.role in ("dialog", "alert")}
+    return [f"{control.role} {control.name} at {control.box}" for control in controls
+            if control.role in NO_ROLE
+            or control.role == "filler" and control.name.strip() not in {"", "Lumora"} | popups
+            or (control.role in OPERATED or control.has_state("focusable")) and not control.name.strip()]
+
+
+def names_are_complete(desktop, lumora):
+    def check(where):
+        found = nameless(lumora)
+        assert not found, f"{where}: {found}"
+
+    for tool in lumora.controls("page tab"):
+        tool.press()
+        wait_for(f"{tool.name} to be selected", lambda tool=tool: tool.has_state("selected"))
+        check(tool.name)
+        desktop.key("F1")
+        lumora.wait_shown("Report a bug")
+        check(f"the help on {tool.name}")
+        desktop.key("Escape")
+        lumora.wait_gone("Report a bug")
+    lumora.button("About Lumora").press()
+    lumora.wait_shown("KESTREL interactive")
+    check("the about panel")
+    desktop.key("Escape")
+    lumora.wait_gone("KESTREL interactive")
+
+    lumora.controls("page tab")[3].press()
+    lumora.find("color chooser", "Colour well, opens the colour picker").press()
+    for page in wait_for("the picker's pages", lambda: lumora.controls("page tab")[TOOLS:]):
+        page.press()
+        wait_for(f"{page.name} to be selected", lambda page=page: page.has_state("selected"))
+        check(f"the picker's {page.name}")
+    lumora.find("color chooser", "Colour well, opens the colour picker").press()
+    lumora.wait_gone("Hexadecimal code")
+
+
+def pixels(desktop, folder, box):
+    """What the screen shows in and around the box."""
+    x, y, width, height = box
+    picture = Path(folder) / "control.png"
+    desktop.screenshot(picture, f"{width + 12}x{height + 12}+{max(x - 6, 0)}+{max(y - 6, 0)}")
+    return subprocess.run(["convert", str(picture), "-depth", "8", "rgb:-"], capture_output=True, check=True).stdout
+
+
+def changed(one, other):
+    return sum(one[at:at + 3] != other[at:at + 3] for at in range(0, min(len(one), len(other)), 3))
+
+
+def focused(lumora):
+    found = [control for control in lumora.controls() if control.has_state("focused")]
+    return found[-1] if found else None
+
+
+def focus_is_seen(desktop, lumora):
+    """Tab goes round each tool; every stop looks otherwise with the focus than without."""
+    with tempfile.TemporaryDirectory() as folder:
+        for number in range(1, TOOLS + 1):
+            desktop.key(f"ctrl+{number}")
+            tool = lumora.controls("page tab")[number - 1]
+            wait_for(f"{tool.name} to be selected", lambda tool=tool: tool.has_state("selected"))
+            # Away from whatever the pointer would light up.
+            desktop.xdotool("mousemove", 1590, 1190)
+            desktop.key("Tab")
+            stops = []
+            control = wait_for(f"a first stop in {tool.name}", lambda: focused(lumora))
+            while (control.role, control.name, control.box) not in stops:
+                stops.append((control.role, control.name, control.box))
+                box = control.box
+                # Colours fade in.
+                wait_for("the picture to rest", lambda box=box: pixels(desktop, folder, box) == pixels(desktop, folder, box))
+                before = pixels(desktop, folder, box)
+                desktop.key("Tab")
+                last = stops[-1]
+                control = wait_for(f"the stop after {last}", lambda last=last: (new := focused(lumora)) and
+                                   (new.role, new.name, new.box) != last and new)
+                wait_for(f"the focus to be seen on {last}, in {tool.name}",
+                         lambda before=before, box=box: changed(before, pixels(desktop, folder, box)) >= LEAST_CHANGE, 5)
+                assert len(stops) < 60, stops
+            # Header and sidebar are stops of every tool.
+            assert len(stops) >= 4, stops
+
+
+def popovers_are_announced(desktop, lumora):
+    listener = subprocess.Popen([sys.executable, "-c", LISTENER], env=desktop.environment, stdout=subprocess.PIPE, text=True)
+    desktop.processes.append(listener)
+    assert listener.stdout.readline() == "ready\n"
+
+    def announced(role, name):
+        # One that says it twice is as good as one that says it once.
+        heard = ""
+        while heard != f"{role} | {name}\n":
+            heard = listener.stdout.readline()
+            assert heard, f"{role} {name} was not announced"
+
+    desktop.key("ctrl+1")
+    lumora.button("Help on this tool").press()
+    lumora.wait_shown("Report a bug")
+    announced("dialog", "Icon generator")
+    desktop.key("Escape")
+    lumora.wait_gone("Report a bug")
+    lumora.button("Generate", 1).press()
+    lumora.wait_shown("No size given")
+    announced("dialog", "No size given")
+    desktop.key("Escape")
+    lumora.wait_gone("No size given")
+
+
+def main(program):
+    with Desktop(program) as desktop:
+        lumora = desktop.start()
+        desktop.xdotool("windowmove", "--sync", lumora.window, 100, 100)
+        lumora.activate()
+        # First, while no list was used: a list's current row counts as focused wherever the focus is.
+        focus_is_seen(desktop, lumora)
+        popovers_are_announced(desktop, lumora)
+        names_are_complete(desktop, lumora)
+        assert lumora.close() == 0
+
+
+if __name__ == "__main__":
+    main(sys.argv[1])
