@@ -27,12 +27,12 @@ using namespace lumora;
 namespace
 {
 
-enum Tool : qint32 { Icons = 0, Placeholders = 1, Resizer = 2, Validator = 5 };
+enum Tool : std::uint8_t { Icons = 0, Placeholders = 1, Resizer = 2, Validator = 5 };
 
 template <typename Controller> Controller &show(AppDelegate &delegate, Tool tool)
 {
     delegate.sideBar()->setSelectedIndex(tool);
-    return static_cast<Controller &>(*delegate.controllers().at(tool));
+    return static_cast<Controller &>(*delegate.controller(tool));
 }
 
 void waitUntil(const std::function<bool()> &done)

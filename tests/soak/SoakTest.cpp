@@ -127,10 +127,10 @@ private slots:
     }
 
 private:
-    IconsViewController &icons() const { return static_cast<IconsViewController &>(*m_delegate->controllers().at(0)); }
+    IconsViewController &icons() const { return static_cast<IconsViewController &>(*m_delegate->controller(0)); }
     ValidaterViewController &validator() const
     {
-        return static_cast<ValidaterViewController &>(*m_delegate->controllers().at(5));
+        return static_cast<ValidaterViewController &>(*m_delegate->controller(5));
     }
 
     void expectTheOldLevel()
