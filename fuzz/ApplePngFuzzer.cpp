@@ -1,31 +1,10 @@
 // SPDX-License-Identifier: MIT
-// Any bytes as an Apple-optimised picture. Checksums are put right first, which chance would never do.
+// Any bytes as an Apple-optimised picture.
+#include "PngChecksums.h"
 #include "validator/ApplePngDecoder.h"
 #include "validator/PngHeader.h"
 
-#include <QtEndian>
-
 #include <cstdlib>
-
-#include <zlib.h>
-
-namespace
-{
-
-void mendChecksums(QByteArray &bytes)
-{
-    for (qsizetype at = 8; at <= bytes.size() - 12;) {
-        const qsizetype length = qFromBigEndian<quint32>(bytes.constData() + at);
-        if (length > bytes.size() - at - 12)
-            return;
-        const uLong checksum =
-            ::crc32(0, reinterpret_cast<const Bytef *>(bytes.constData() + at + 4), static_cast<uInt>(length + 4));
-        qToBigEndian(static_cast<quint32>(checksum), bytes.data() + at + 8 + length);
-        at += length + 12;
-    }
-}
-
-} // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
