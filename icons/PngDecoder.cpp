@@ -102,8 +102,10 @@ public:
         png_bytep profile = nullptr;
         png_uint_32 length = 0;
         if (png_get_iCCP(m_png, m_info, &name, &compression, &profile, &length) != 0) {
-            return QColorSpace::fromIccProfile(
+            const auto embedded = QColorSpace::fromIccProfile(
                 QByteArray(reinterpret_cast<const char *>(profile), static_cast<qsizetype>(length)));
+            if (embedded.isValid())
+                return embedded;
         }
         double gamma = 0;
         if (png_get_valid(m_png, m_info, PNG_INFO_sRGB) != 0 || png_get_gAMA(m_png, m_info, &gamma) == 0)

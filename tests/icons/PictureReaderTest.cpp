@@ -20,20 +20,6 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-/// Coloured quarters: red, green / blue, half-transparent white.
-QImage quarters(int width, int height)
-{
-    QImage picture(width, height, QImage::Format_ARGB32);
-    for (int y = 0; y < height; ++y) {
-        for (int x = 0; x < width; ++x) {
-            const bool right = x >= width / 2;
-            const bool low = y >= height / 2;
-            picture.setPixel(x, y, low ? (right ? 0x80FFFFFF : 0xFF0000FF) : (right ? 0xFF00FF00 : 0xFFFF0000));
-        }
-    }
-    return picture;
-}
-
 QByteArray encoded(const QImage &picture, const char *format)
 {
     QBuffer buffer;
@@ -41,12 +27,6 @@ QByteArray encoded(const QImage &picture, const char *format)
     QImageWriter writer(&buffer, format);
     writer.setQuality(100);
     return writer.write(picture) ? buffer.data() : QByteArray();
-}
-
-bool near(QRgb one, QRgb other, int tolerance)
-{
-    return std::abs(qRed(one) - qRed(other)) <= tolerance && std::abs(qGreen(one) - qGreen(other)) <= tolerance &&
-           std::abs(qBlue(one) - qBlue(other)) <= tolerance && std::abs(qAlpha(one) - qAlpha(other)) <= tolerance;
 }
 
 long peakKilobytes()
@@ -65,12 +45,8 @@ class PictureReaderTest : public QObject
 private slots:
     void readsFormat_data();
     void readsFormat();
-    void convertsTheProfile_data();
-    void convertsTheProfile();
     void readsEveryKindOfPng_data();
     void readsEveryKindOfPng();
-    void turnsAsTheFileAsks_data();
-    void turnsAsTheFileAsks();
     void takesTheLargestOfAnIconFile();
     void resolutionIsIgnored();
     void refuses_data();
@@ -117,42 +93,6 @@ void PictureReaderTest::readsFormat()
     QVERIFY(near(picture.value().pixel(10, 40), 0xFF0000FF, tolerance));
     if (alpha)
         QVERIFY(near(picture.value().pixel(50, 40), 0x80808080, std::max(tolerance, 1)));
-}
-
-void PictureReaderTest::convertsTheProfile_data()
-{
-    QTest::addColumn<QByteArray>("file");
-    QTest::addColumn<QRgb>("colour");
-    QImage picture(8, 8, QImage::Format_RGB32);
-    picture.fill(qRgb(200, 100, 50));
-    const QRgb kept = qRgb(200, 100, 50);
-    // (200, 100, 50) / 255 of Display P3 through linear light and the two spaces' published primaries.
-    const QRgb fromDisplayP3 = qRgb(215, 93, 31);
-    QTest::newRow("png, none") << pictureFile(picture) << kept;
-    picture.setColorSpace(QColorSpace(QColorSpace::SRgb));
-    QTest::newRow("png, sRGB") << pictureFile(picture) << kept;
-    picture.setColorSpace(QColorSpace(QColorSpace::DisplayP3));
-    QTest::newRow("png, Display P3") << pictureFile(picture) << fromDisplayP3;
-    QTest::newRow("png, Display P3, 16 bits")
-        << pictureFile(picture.convertToFormat(QImage::Format_RGBA64)) << fromDisplayP3;
-    QTest::newRow("tiff, Display P3") << pictureFile(picture, "tiff") << fromDisplayP3;
-    QTest::newRow("jpeg, Display P3") << pictureFile(picture, "jpeg") << fromDisplayP3;
-    picture.setColorSpace(QColorSpace());
-    const QByteArray plain = pictureFile(picture);
-    QTest::newRow("png, usual gamma") << withPngChunk(plain, "gAMA", QByteArray("\0\0\xB1\x8F", 4)) << kept;
-    // Linear light: (200 / 255) to the power of 1 / 2.4 by the sRGB curve, and so on.
-    QTest::newRow("png, linear") << withPngChunk(plain, "gAMA", QByteArray("\0\1\x86\xA0", 4)) << qRgb(229, 168, 122);
-    QTest::newRow("png, damaged profile") << withPngChunk(plain, "iCCP", "name\0\0nonsense") << kept;
-}
-
-void PictureReaderTest::convertsTheProfile()
-{
-    QFETCH(QByteArray, file);
-    QFETCH(QRgb, colour);
-    const Result<QImage> read = readPicture(file, u"x"_s);
-    QVERIFY(read.ok());
-    const QRgb found = read.value().pixel(4, 4);
-    QVERIFY2(near(found, colour, 2), qPrintable(QColor(found).name()));
 }
 
 void PictureReaderTest::readsEveryKindOfPng_data()
@@ -208,53 +148,6 @@ void PictureReaderTest::readsEveryKindOfPng()
             QVERIFY(std::abs(wanted - read.value().constScanLine(y)[x]) <= std::min(tolerance, 1));
         }
     }
-}
-
-void PictureReaderTest::turnsAsTheFileAsks_data()
-{
-    QTest::addColumn<QByteArray>("file");
-    QTest::addColumn<QList<QRgb>>("corners");
-    const QRgb red = 0xFFFF0000;
-    const QRgb green = 0xFF00FF00;
-    const QRgb blue = 0xFF0000FF;
-    const QRgb white = 0x80808080;
-    // Top left, top right, bottom left, bottom right as they shall be seen, for the orientations of EXIF.
-    const QList<QRgb> seen[] = {{red, green, blue, white}, {green, red, white, blue}, {white, blue, green, red},
-                                {blue, white, red, green}, {red, blue, green, white}, {blue, red, white, green},
-                                {white, green, blue, red}, {green, white, red, blue}};
-    const QByteArray png = pictureFile(quarters(64, 48));
-    const QByteArray webp = pictureFile(quarters(64, 48), "webp");
-    for (int orientation = 1; orientation <= 8; ++orientation) {
-        const char number = static_cast<char>(orientation);
-        const QByteArray little =
-            QByteArray("II*\0\x08\0\0\0\x01\0\x12\x01\x03\0\x01\0\0\0", 18) + number + QByteArray("\0\0\0\0\0\0\0", 7);
-        const QByteArray big =
-            QByteArray("MM\0*\0\0\0\x08\0\x01\x01\x12\0\x03\0\0\0\x01\0", 19) + number + QByteArray("\0\0\0\0\0\0", 6);
-        QTest::addRow("png, %d", orientation) << withPngChunk(png, "eXIf", little) << seen[orientation - 1];
-        QTest::addRow("png, big-endian, %d", orientation) << withPngChunk(png, "eXIf", big) << seen[orientation - 1];
-    }
-    QTest::newRow("png, 9") << withPngChunk(png, "eXIf",
-                                            QByteArray("II*\0\x08\0\0\0\x01\0\x12\x01\x03\0\x01\0\0\0\x09\0\0\0", 22))
-                            << seen[0];
-    QTest::newRow("png, directory beyond the end")
-        << withPngChunk(png, "eXIf", QByteArray("II*\0\xFF\xFF\xFF\xFF", 8)) << seen[0];
-    QTest::newRow("png, empty block") << withPngChunk(png, "eXIf", "II") << seen[0];
-}
-
-void PictureReaderTest::turnsAsTheFileAsks()
-{
-    QFETCH(QByteArray, file);
-    QFETCH(QList<QRgb>, corners);
-    QCOMPARE(storedPixelSize(file, u"x"_s).value(), QSize(64, 48));
-    const Result<QImage> read = readPicture(file, u"x"_s);
-    QVERIFY(read.ok());
-    const QImage &picture = read.value();
-    const int right = picture.width() - 1;
-    const int bottom = picture.height() - 1;
-    QCOMPARE((QList<QRgb>{picture.pixel(0, 0), picture.pixel(right, 0), picture.pixel(0, bottom),
-                          picture.pixel(right, bottom)}),
-             corners);
-    QCOMPARE(picture.format(), QImage::Format_RGBA8888_Premultiplied);
 }
 
 void PictureReaderTest::takesTheLargestOfAnIconFile()

@@ -27,6 +27,25 @@ QImage testPicture(int width, int height)
     return picture;
 }
 
+QImage quarters(int width, int height)
+{
+    QImage picture(width, height, QImage::Format_ARGB32);
+    for (int y = 0; y < height; ++y) {
+        for (int x = 0; x < width; ++x) {
+            const bool right = x >= width / 2;
+            const bool low = y >= height / 2;
+            picture.setPixel(x, y, low ? (right ? 0x80FFFFFF : 0xFF0000FF) : (right ? 0xFF00FF00 : 0xFFFF0000));
+        }
+    }
+    return picture;
+}
+
+bool near(QRgb one, QRgb other, int tolerance)
+{
+    return std::abs(qRed(one) - qRed(other)) <= tolerance && std::abs(qGreen(one) - qGreen(other)) <= tolerance &&
+           std::abs(qBlue(one) - qBlue(other)) <= tolerance && std::abs(qAlpha(one) - qAlpha(other)) <= tolerance;
+}
+
 QByteArray pictureFile(const QImage &picture, const char *format)
 {
     QBuffer buffer;
@@ -108,6 +127,36 @@ QByteArray pngClaiming(quint32 width, quint32 height)
     const auto *header = reinterpret_cast<const Bytef *>(file.constData() + 12);
     qToBigEndian(static_cast<quint32>(crc32(0, header, 17)), file.data() + 29);
     return file;
+}
+
+QByteArray withJpegSegment(const QByteArray &file, uchar marker, const QByteArray &content)
+{
+    constexpr qsizetype startMark = 2;
+    QByteArray segment("\xFF");
+    segment.append(static_cast<char>(marker));
+    segment.append(bigEndian(static_cast<quint32>(content.size() + 2)).sliced(2)).append(content);
+    return file.first(startMark) + segment + file.sliced(startMark);
+}
+
+QByteArray withWebpChunk(const QByteArray &file, QSize size, const QByteArray &type, const QByteArray &content)
+{
+    const auto littleEndian = [](qsizetype number, int bytes) {
+        const auto value = qToLittleEndian(static_cast<quint32>(number));
+        return QByteArray(reinterpret_cast<const char *>(&value), bytes);
+    };
+    constexpr qsizetype riffHeader = 12;
+    constexpr char exifFlag = 0x08;
+    constexpr char profileFlag = 0x20;
+    constexpr char alphaFlag = 0x10;
+    const bool exif = type == "EXIF";
+    const QByteArray features = QByteArray(1, static_cast<char>(alphaFlag | (exif ? exifFlag : profileFlag))) +
+                                QByteArray(3, '\0') + littleEndian(size.width() - 1, 3) +
+                                littleEndian(size.height() - 1, 3);
+    const QByteArray extra = type + littleEndian(content.size(), 4) + content + QByteArray(content.size() % 2, '\0');
+    const QByteArray pixels = file.sliced(riffHeader);
+    const QByteArray chunks = "VP8X" + littleEndian(features.size(), 4) + features +
+                              (exif ? QByteArray(pixels + extra) : QByteArray(extra + pixels));
+    return "RIFF" + littleEndian(chunks.size() + 4, 4) + "WEBP" + chunks;
 }
 
 } // namespace lumora

@@ -3,12 +3,19 @@
 
 #include <QByteArray>
 #include <QImage>
+#include <QSize>
 
 namespace lumora
 {
 
 /// A picture with gradients, hard edges, transparency and a little noise, the same on every call.
 QImage testPicture(int width, int height);
+
+/// Coloured quarters: red, green / blue, half-transparent white.
+QImage quarters(int width, int height);
+
+/// True where no channel of the two colours differs by more than that.
+bool near(QRgb one, QRgb other, int tolerance);
 
 /// The picture in a format that Qt writes ("png", "jpeg", "tiff", "webp", "bmp"), at best quality.
 QByteArray pictureFile(const QImage &picture, const char *format = "png");
@@ -24,5 +31,11 @@ QByteArray pngWithLongProfile(qsizetype bytes);
 
 /// The file with another chunk after its header.
 QByteArray withPngChunk(const QByteArray &file, const QByteArray &type, const QByteArray &content);
+
+/// The JPEG file with another segment at its begin.
+QByteArray withJpegSegment(const QByteArray &file, uchar marker, const QByteArray &content);
+
+/// The WebP file, which has nothing but its pixels, with another chunk: "EXIF" or "ICCP".
+QByteArray withWebpChunk(const QByteArray &file, QSize size, const QByteArray &type, const QByteArray &content);
 
 } // namespace lumora
