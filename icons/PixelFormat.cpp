@@ -37,19 +37,6 @@ void premultiplyRow(std::uint8_t *pixel, int width)
     }
 }
 
-void straightenRow(std::uint8_t *pixel, int width)
-{
-    for (const std::uint8_t *end = pixel + 4 * width; pixel != end; pixel += 4) {
-        const unsigned alpha = pixel[3];
-        if (alpha == 255)
-            continue;
-        for (int channel = 0; channel < 3; ++channel) {
-            const unsigned value = std::min<unsigned>(pixel[channel], alpha);
-            pixel[channel] = static_cast<std::uint8_t>((value * inverseAlpha[alpha] + 0x8000) >> 16);
-        }
-    }
-}
-
 } // namespace
 
 QImage premultiplied(QImage picture)
@@ -73,9 +60,22 @@ QImage straight(const QImage &picture)
     QImage result = premultiplied(picture);
     const int width = result.width();
     for (int y = 0; y < result.height(); ++y)
-        straightenRow(result.scanLine(y), width);
+        straightenPixels(result.scanLine(y), width);
     result.reinterpretAsFormat(QImage::Format_RGBA8888);
     return result;
+}
+
+void straightenPixels(std::uint8_t *pixels, int count)
+{
+    for (const std::uint8_t *end = pixels + 4 * count; pixels != end; pixels += 4) {
+        const unsigned alpha = pixels[3];
+        if (alpha == 255)
+            continue;
+        for (int channel = 0; channel < 3; ++channel) {
+            const unsigned value = std::min<unsigned>(pixels[channel], alpha);
+            pixels[channel] = static_cast<std::uint8_t>((value * inverseAlpha[alpha] + 0x8000) >> 16);
+        }
+    }
 }
 
 } // namespace lumora

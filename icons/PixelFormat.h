@@ -3,6 +3,8 @@
 
 #include <QImage>
 
+#include <cstdint>
+
 namespace lumora
 {
 
@@ -13,5 +15,8 @@ QImage premultiplied(QImage picture);
 /// Converts any picture that is not so yet to straight `QImage::Format_RGBA8888`; fully transparent pixels of a
 /// converted one become transparent black.
 QImage straight(const QImage &picture);
+
+/// Turns that many premultiplied RGBA pixels into straight ones where they stand, as `straight` does.
+void straightenPixels(std::uint8_t *pixels, int count);
 
 } // namespace lumora

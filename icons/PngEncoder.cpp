@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "PngEncoder.h"
 
-#include "PixelFormat.h"
 #include "PngRows.h"
 #include "PngSection.h"
 
@@ -18,14 +17,14 @@ QByteArray encodePng(const QImage &picture)
 {
     if (picture.isNull())
         return {};
-    return encodePng(ImageRows(straight(picture)), 1);
+    return encodePng(ImageRows(picture), 1);
 }
 
 QByteArray encodePngQuickly(const QImage &picture)
 {
     if (picture.isNull())
         return {};
-    const ImageRows rows(straight(picture));
+    const ImageRows rows(picture);
     return joinPngSections(rows.size(), std::array{makeOnlyPngSection(rows)});
 }
 

@@ -76,29 +76,49 @@ private:
     std::vector<std::uint8_t> m_bytes;
 };
 
-std::vector<std::uint8_t> plainRows(const PngRows &picture, int first, int end)
+/// Room for one more row at the end.
+std::uint8_t *grownBy(std::vector<std::uint8_t> &rows, std::size_t bytes)
 {
-    const std::size_t bytes = static_cast<std::size_t>(picture.size().width()) * bytesPerPixel;
-    std::vector<std::uint8_t> result(static_cast<std::size_t>(end - first) * (bytes + 1));
-    for (int y = first; y < end; ++y)
-        picture.readRow(y, std::span(result).subspan(static_cast<std::size_t>(y - first) * (bytes + 1) + 1, bytes));
-    return result;
+    rows.resize(rows.size() + bytes);
+    return rows.data() + rows.size() - bytes;
 }
 
-std::vector<std::uint8_t> adaptiveRows(const PngRows &picture, int first, int end)
+void addPlainRows(const PngRows &picture, RowRange range, std::vector<std::uint8_t> &result)
+{
+    const std::size_t bytes = static_cast<std::size_t>(picture.size().width()) * bytesPerPixel;
+    for (int y = range.first; y < range.end; ++y) {
+        std::uint8_t *row = grownBy(result, bytes + 1);
+        row[0] = 0;
+        picture.readRow(y, std::span(row + 1, bytes));
+    }
+}
+
+void addRowsByTheLeft(const PngRows &picture, RowRange range, std::vector<std::uint8_t> &result)
 {
     const int bytes = picture.size().width() * bytesPerPixel;
-    std::vector<std::uint8_t> result;
-    result.reserve(static_cast<std::size_t>(end - first) * static_cast<std::size_t>(bytes + 1));
+    PaddedRow row(bytes);
+    for (int y = range.first; y < range.end; ++y) {
+        row.load(picture, y);
+        std::uint8_t *residues = grownBy(result, static_cast<std::size_t>(bytes) + 1);
+        constexpr std::uint8_t sub = 1;
+        residues[0] = sub;
+        const std::uint8_t *pixels = row.pixels();
+        for (int i = 0; i < bytes; ++i)
+            residues[i + 1] = static_cast<std::uint8_t>(pixels[i] - pixels[i - bytesPerPixel]);
+    }
+}
 
+void addAdaptiveRows(const PngRows &picture, RowRange range, std::vector<std::uint8_t> &result)
+{
+    const int bytes = picture.size().width() * bytesPerPixel;
     PaddedRow row(bytes);
     PaddedRow above(bytes);
-    above.load(picture, first - 1);
+    above.load(picture, range.first - 1);
     std::array<std::vector<std::uint8_t>, filters> residues;
     for (auto &candidate : residues)
         candidate.resize(static_cast<std::size_t>(bytes));
 
-    for (int y = first; y < end; ++y) {
+    for (int y = range.first; y < range.end; ++y) {
         row.load(picture, y);
         if (row == above && !row.isZero()) {
             // Large flat areas: nothing but zeroes is left of a repeated row, and no other filter manages that.
@@ -122,14 +142,31 @@ std::vector<std::uint8_t> adaptiveRows(const PngRows &picture, int first, int en
         result.insert(result.end(), chosen.begin(), chosen.end());
         std::swap(row, above);
     }
-    return result;
 }
 
 } // namespace
 
-std::vector<std::uint8_t> filteredRows(const PngRows &picture, int first, int end, PngFilterChoice choice)
+std::vector<std::uint8_t> filteredRows(const PngRows &picture, std::span<const RowRange> ranges, PngFilterChoice choice)
 {
-    return choice == PngFilterChoice::None ? plainRows(picture, first, end) : adaptiveRows(picture, first, end);
+    std::size_t count = 0;
+    for (const RowRange range : ranges)
+        count += static_cast<std::size_t>(range.end - range.first);
+    std::vector<std::uint8_t> result;
+    result.reserve(count * (static_cast<std::size_t>(picture.size().width()) * bytesPerPixel + 1));
+    for (const RowRange range : ranges) {
+        switch (choice) {
+        case PngFilterChoice::Adaptive:
+            addAdaptiveRows(picture, range, result);
+            break;
+        case PngFilterChoice::Left:
+            addRowsByTheLeft(picture, range, result);
+            break;
+        case PngFilterChoice::None:
+            addPlainRows(picture, range, result);
+            break;
+        }
+    }
+    return result;
 }
 
 double novelty(const std::vector<std::uint8_t> &rows, int width)

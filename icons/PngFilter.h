@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 #include <vector>
 
 namespace lumora
@@ -12,12 +13,21 @@ class PngRows;
 /// How the rows of a section are filtered.
 enum class PngFilterChoice {
     Adaptive, ///< each row by the filter whose residues, read as signed bytes, have the smallest sum of magnitudes
+    Left,     ///< what each pixel differs by from the one to its left
     None,     ///< as they are, which lets repeated shapes be found
 };
 
-/// Rows `first` up to, not including, `end` of a picture as PNG stores them before compression: each row led by the
-/// number of its filter.
-std::vector<std::uint8_t> filteredRows(const PngRows &picture, int first, int end, PngFilterChoice choice);
+/// Rows from `first` up to, not including, `end`.
+struct RowRange
+{
+    int first = 0;
+    int end = 0;
+};
+
+/// Rows of a picture, one range after the other, as PNG stores them before compression: each row led by the number of
+/// its filter.
+std::vector<std::uint8_t> filteredRows(const PngRows &picture, std::span<const RowRange> ranges,
+                                       PngFilterChoice choice);
 
 /// Of rows as `PngFilterChoice::None` gives them, the share of pixels that differ from the one to their left and from
 /// the one above: 0 for one colour, near 1 for a photograph.

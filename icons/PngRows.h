@@ -23,7 +23,7 @@ public:
     virtual void readRow(int row, std::span<std::uint8_t> rgba) const = 0;
 };
 
-/// The rows of a straight `Format_RGBA8888` picture.
+/// The rows of a picture; one that is not `Format_RGBA8888` yet is made straight row by row as it is read.
 class ImageRows final : public PngRows
 {
 public:
@@ -33,7 +33,7 @@ public:
     void readRow(int row, std::span<std::uint8_t> rgba) const override;
 
 private:
-    const QImage m_picture;
+    const QImage m_picture; ///< straight or premultiplied RGBA
 };
 
 } // namespace lumora

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "PngSection.h"
 
+#include "PngDeflate.h"
 #include "PngFilter.h"
 #include "PngRows.h"
 
@@ -10,8 +11,7 @@
 #include <zlib.h>
 
 #include <algorithm>
-#include <memory>
-#include <new>
+#include <utility>
 #include <vector>
 
 namespace lumora
@@ -25,72 +25,24 @@ namespace
 /// Of filtered rows; large enough that what a section cannot find in the one before it does not count.
 constexpr qsizetype bytesPerSection = 1024 * 1024;
 
+/// Of filtered rows; a quarter of a section, within these limits, stands for it when its filters are chosen.
+constexpr qsizetype smallestSample = 16 * 1024;
+constexpr qsizetype largestSample = 64 * 1024;
+constexpr qsizetype shareOfSample = 4;
+/// A sample's rows come from as many places.
+constexpr int placesPerSample = 4;
+
+/// Rows with more novelty are a photograph's.
+constexpr double mostNoveltyOfDrawings = 0.6;
+
 /// Noise is its own limit: higher levels only take longer.
 constexpr int noiseLevel = 4;
 /// Drawings gain at every level and are fast to compress.
 constexpr int drawingLevel = 6;
-/// Tells which filters suit a drawing better.
-constexpr int trialLevel = 1;
+
 /// Of batches: what compresses to no less than this share of its bytes at the trial level is taken for noise.
 constexpr double noisyShare = 0.3;
-
-/// Rows with a novelty in between are a drawing's. Below, there is nothing to gain; above, it is a photograph.
-constexpr double leastNoveltyOfDrawings = 0.002;
-constexpr double mostNoveltyOfDrawings = 0.35;
-
-struct FreeCompressor
-{
-    void operator()(libdeflate_compressor *compressor) const { libdeflate_free_compressor(compressor); }
-};
-
-/// Where the last block of a deflate stream begins, and how many bits of the stream's last byte are unused.
-struct StreamEnd
-{
-    std::size_t lastBlockBit = 0;
-    unsigned unusedBits = 0;
-};
-
-StreamEnd findStreamEnd(const QByteArray &stream)
-{
-    z_stream inflater{};
-    if (inflateInit2(&inflater, -MAX_WBITS) != Z_OK)
-        throw std::bad_alloc();
-    const std::unique_ptr<z_stream, void (*)(z_stream *)> closed(&inflater, [](z_stream *z) { inflateEnd(z); });
-
-    std::vector<Bytef> sink(1 << 16);
-    inflater.next_in = reinterpret_cast<Bytef *>(const_cast<char *>(stream.constData()));
-    inflater.avail_in = static_cast<uInt>(stream.size());
-    StreamEnd end;
-    for (;;) {
-        inflater.next_out = sink.data();
-        inflater.avail_out = static_cast<uInt>(sink.size());
-        const int status = inflate(&inflater, Z_BLOCK);
-        const auto unused = static_cast<unsigned>(inflater.data_type) & 7U;
-        const bool afterBlock = (static_cast<unsigned>(inflater.data_type) & 128U) != 0;
-        const bool inLastBlock = (static_cast<unsigned>(inflater.data_type) & 64U) != 0;
-        if (afterBlock && inLastBlock) {
-            end.unusedBits = unused;
-            return end;
-        }
-        if (afterBlock)
-            end.lastBlockBit = inflater.total_in * 8 - unused;
-        if (status != Z_OK && status != Z_BUF_ERROR)
-            return end;
-    }
-}
-
-/// Turns a finished stream into one that another may follow: its last block is no longer marked as such, and an empty
-/// stored block fills it up to a byte's border.
-void keepOpen(QByteArray &stream)
-{
-    const StreamEnd end = findStreamEnd(stream);
-    auto *bytes = reinterpret_cast<std::uint8_t *>(stream.data());
-    bytes[end.lastBlockBit / 8] &= static_cast<std::uint8_t>(~(1U << (end.lastBlockBit % 8)));
-    constexpr unsigned storedBlockHeaderBits = 3;
-    if (end.unusedBits < storedBlockHeaderBits)
-        stream.append('\0');
-    stream.append(QByteArrayView("\x00\x00\xFF\xFF", 4));
-}
+constexpr int trialLevel = 1;
 
 void append32(QByteArray &bytes, std::uint32_t number)
 {
@@ -121,33 +73,65 @@ qsizetype filteredRowBytes(QSize size)
     return qsizetype{size.width()} * 4 + 1;
 }
 
-QByteArray deflated(const std::vector<std::uint8_t> &rows, int level)
-{
-    const std::unique_ptr<libdeflate_compressor, FreeCompressor> compressor(libdeflate_alloc_compressor(level));
-    if (compressor == nullptr)
-        throw std::bad_alloc();
-    const std::size_t bound = libdeflate_deflate_compress_bound(compressor.get(), rows.size());
-    QByteArray stream(static_cast<qsizetype>(bound), Qt::Uninitialized);
-    stream.resize(static_cast<qsizetype>(
-        libdeflate_deflate_compress(compressor.get(), rows.data(), rows.size(), stream.data(), bound)));
-    return stream;
-}
-
-struct RowsToCompress
+struct CompressedRows
 {
     std::vector<std::uint8_t> rows;
-    int level;
+    QByteArray stream;
 };
 
-RowsToCompress rowsToCompress(const PngRows &picture, int first, int end)
+CompressedRows compressed(std::vector<std::uint8_t> rows, int level)
 {
-    std::vector<std::uint8_t> plain = filteredRows(picture, first, end, PngFilterChoice::None);
-    std::vector<std::uint8_t> adaptive = filteredRows(picture, first, end, PngFilterChoice::Adaptive);
-    const double share = novelty(plain, picture.size().width());
-    if (share < leastNoveltyOfDrawings || share > mostNoveltyOfDrawings)
-        return {std::move(adaptive), noiseLevel};
-    const bool plainIsSmaller = deflated(plain, trialLevel).size() < deflated(adaptive, trialLevel).size();
-    return {std::move(plainIsSmaller ? plain : adaptive), drawingLevel};
+    QByteArray stream = deflated(rows, level);
+    return {std::move(rows), std::move(stream)};
+}
+
+/// The rows from which a section's filters are chosen: all of them where there are few.
+std::vector<RowRange> sampleOf(const PngRows &picture, RowRange section)
+{
+    const int count = section.end - section.first;
+    const qsizetype rowBytes = filteredRowBytes(picture.size());
+    const qsizetype bytes = std::clamp(count * rowBytes / shareOfSample, smallestSample, largestSample);
+    const auto wanted = static_cast<int>(bytes / rowBytes);
+    if (count <= std::max(wanted, placesPerSample))
+        return {section};
+    const int each = std::max(wanted / placesPerSample, 1);
+    std::vector<RowRange> sample;
+    for (int place = 0; place < placesPerSample; ++place) {
+        const int middle = section.first + count * (2 * place + 1) / (2 * placesPerSample);
+        const int first = std::clamp(middle - each / 2, section.first, section.end - each);
+        sample.push_back({first, first + each});
+    }
+    return sample;
+}
+
+/// No rule tells which filters suit a drawing: plain shapes shrink most without any, slow shades mostly by the pixel to
+/// the left. So they are tried; what suits plain shapes leaves nothing for the costly adaptive choice to gain.
+CompressedRows compressed(const PngRows &picture, RowRange section)
+{
+    const std::vector<RowRange> sample = sampleOf(picture, section);
+    std::vector<std::uint8_t> plain = filteredRows(picture, sample, PngFilterChoice::None);
+    if (novelty(plain, picture.size().width()) > mostNoveltyOfDrawings)
+        return compressed(filteredRows(picture, {&section, 1}, PngFilterChoice::Adaptive), noiseLevel);
+    CompressedRows best = compressed(std::move(plain), drawingLevel);
+    PngFilterChoice choice = PngFilterChoice::None;
+    for (const PngFilterChoice other : {PngFilterChoice::Left, PngFilterChoice::Adaptive}) {
+        CompressedRows tried = compressed(filteredRows(picture, sample, other), drawingLevel);
+        if (tried.stream.size() >= best.stream.size())
+            break;
+        best = std::move(tried);
+        choice = other;
+    }
+    const bool sampleIsAll = sample.size() == 1;
+    return sampleIsAll ? std::move(best) : compressed(filteredRows(picture, {&section, 1}, choice), drawingLevel);
+}
+
+PngSection finished(CompressedRows compressed)
+{
+    PngSection section;
+    section.filteredBytes = static_cast<qsizetype>(compressed.rows.size());
+    section.checksum = libdeflate_adler32(1, compressed.rows.data(), compressed.rows.size());
+    section.deflated = std::move(compressed.stream);
+    return section;
 }
 
 } // namespace
@@ -164,12 +148,7 @@ PngSection makePngSection(const PngRows &picture, int index)
     const qint64 sections = pngSectionCount(picture.size());
     const int first = static_cast<int>(height * index / sections);
     const int end = static_cast<int>(height * (index + 1) / sections);
-    const auto [rows, level] = rowsToCompress(picture, first, end);
-
-    PngSection section;
-    section.filteredBytes = static_cast<qsizetype>(rows.size());
-    section.checksum = libdeflate_adler32(1, rows.data(), rows.size());
-    section.deflated = deflated(rows, level);
+    PngSection section = finished(compressed(picture, {first, end}));
     if (index + 1 < sections)
         keepOpen(section.deflated);
     return section;
@@ -177,15 +156,12 @@ PngSection makePngSection(const PngRows &picture, int index)
 
 PngSection makeOnlyPngSection(const PngRows &picture)
 {
-    const std::vector<std::uint8_t> rows = filteredRows(picture, 0, picture.size().height(), PngFilterChoice::Adaptive);
-    PngSection section;
-    section.filteredBytes = static_cast<qsizetype>(rows.size());
-    section.checksum = libdeflate_adler32(1, rows.data(), rows.size());
-    section.deflated = deflated(rows, trialLevel);
+    const RowRange all{0, picture.size().height()};
+    CompressedRows result = compressed(filteredRows(picture, {&all, 1}, PngFilterChoice::Adaptive), trialLevel);
     // Flat drawings shrink further for next to nothing; noise takes twice the time for a twentieth of its bytes.
-    if (static_cast<double>(section.deflated.size()) < noisyShare * static_cast<double>(rows.size()))
-        section.deflated = deflated(rows, drawingLevel);
-    return section;
+    if (static_cast<double>(result.stream.size()) < noisyShare * static_cast<double>(result.rows.size()))
+        result.stream = deflated(result.rows, drawingLevel);
+    return finished(std::move(result));
 }
 
 QByteArray joinPngSections(QSize size, std::span<const PngSection> sections)

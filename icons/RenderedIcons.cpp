@@ -75,8 +75,7 @@ private:
             finish(piece);
             return;
         }
-        piece.rows =
-            std::make_unique<ImageRows>(straight(wanted == m_icon.size() ? m_icon : resampler().scaledTo(wanted)));
+        piece.rows = std::make_unique<ImageRows>(wanted == m_icon.size() ? m_icon : resampler().scaledTo(wanted));
         const int count = pngSectionCount(wanted);
         piece.sections.resize(static_cast<std::size_t>(count));
         piece.sectionsLeft = count;

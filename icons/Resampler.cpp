@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "Resampler.h"
 
+#include "ColorPlanes.h"
+#include "FlatAreas.h"
 #include "PixelFormat.h"
-#include "PlaneScaler.h"
 #include "TranslucentResampler.h"
 
 #include <algorithm>
@@ -41,76 +42,48 @@ bool isOpaque(const QImage &source)
     return true;
 }
 
-} // namespace
+constexpr int opaqueChannels = 3;
 
-/// Red, green and blue, and alpha unless all of it is opaque, each a picture of its own.
-struct Resampler::Planes
+/// Red, green and blue, and alpha unless all of it is opaque. Null for an empty picture.
+std::unique_ptr<ColorPlanes> takenApart(const QImage &picture)
 {
-    Planes(QSize pixels, bool withAlpha)
-        : size(pixels), count(withAlpha ? 4 : 3), stride(planeStride(pixels.width(), SampleDepth::Bits8)),
-          samples(alignedBytes(static_cast<std::size_t>(stride * pixels.height() * count)))
-    {
-    }
-
-    std::uint8_t *row(int channel, int y) const { return samples.get() + (channel * size.height() + y) * stride; }
-    bool isOpaque() const { return count == 3; }
-
-    static std::unique_ptr<Planes> ofPicture(const QImage &picture);
-    std::unique_ptr<Planes> scaledTo(QSize wanted) const;
-    QImage picture() const;
-
-    QSize size;
-    int count;
-    qsizetype stride;
-    AlignedBytes samples;
-};
-
-std::unique_ptr<Resampler::Planes> Resampler::Planes::ofPicture(const QImage &picture)
-{
-    auto planes = std::make_unique<Planes>(picture.size(), !lumora::isOpaque(picture));
+    if (picture.isNull())
+        return nullptr;
+    const bool opaque = isOpaque(picture);
+    auto planes =
+        std::make_unique<ColorPlanes>(picture.size(), opaque ? opaqueChannels : opaqueChannels + 1, SampleDepth::Bits8);
     const int width = picture.width();
     for (int y = 0; y < picture.height(); ++y) {
         const std::uint8_t *pixel = picture.constScanLine(y);
-        std::uint8_t *red = planes->row(0, y);
-        std::uint8_t *green = planes->row(1, y);
-        std::uint8_t *blue = planes->row(2, y);
+        auto *red = planes->row<std::uint8_t>(0, y);
+        auto *green = planes->row<std::uint8_t>(1, y);
+        auto *blue = planes->row<std::uint8_t>(2, y);
         for (int x = 0; x < width; ++x) {
             red[x] = pixel[4 * x];
             green[x] = pixel[4 * x + 1];
             blue[x] = pixel[4 * x + 2];
         }
-        if (planes->isOpaque())
+        if (opaque)
             continue;
-        std::uint8_t *alpha = planes->row(3, y);
+        auto *alpha = planes->row<std::uint8_t>(3, y);
         for (int x = 0; x < width; ++x)
             alpha[x] = pixel[4 * x + 3];
     }
     return planes;
 }
 
-/// Null where libzimg refuses the sizes.
-std::unique_ptr<Resampler::Planes> Resampler::Planes::scaledTo(QSize wanted) const
+QImage putTogether(const ColorPlanes &planes)
 {
-    const PlaneScaler scaler(size, wanted, SampleDepth::Bits8);
-    auto scaled = std::make_unique<Planes>(wanted, !isOpaque());
-    for (int channel = 0; channel < count; ++channel) {
-        if (!scaler.scale(row(channel, 0), scaled->row(channel, 0)))
-            return nullptr;
-    }
-    return scaled;
-}
-
-QImage Resampler::Planes::picture() const
-{
-    QImage result(size, QImage::Format_RGBA8888_Premultiplied);
+    QImage result(planes.size(), QImage::Format_RGBA8888_Premultiplied);
     if (result.isNull())
         return {};
-    const int width = size.width();
-    for (int y = 0; y < size.height(); ++y) {
-        const std::uint8_t *red = row(0, y);
-        const std::uint8_t *green = row(1, y);
-        const std::uint8_t *blue = row(2, y);
-        const std::uint8_t *alpha = isOpaque() ? nullptr : row(3, y);
+    const bool opaque = planes.channels() == opaqueChannels;
+    const int width = result.width();
+    for (int y = 0; y < result.height(); ++y) {
+        const auto *red = planes.row<std::uint8_t>(0, y);
+        const auto *green = planes.row<std::uint8_t>(1, y);
+        const auto *blue = planes.row<std::uint8_t>(2, y);
+        const auto *alpha = opaque ? nullptr : planes.row<std::uint8_t>(3, y);
         std::uint8_t *pixel = result.scanLine(y);
         for (int x = 0; x < width; ++x, pixel += 4) {
             // The filter's overshoot may lift a colour above its alpha, which no premultiplied pixel can hold.
@@ -124,30 +97,43 @@ QImage Resampler::Planes::picture() const
     return result;
 }
 
-Resampler::Resampler(const QImage &source) : Resampler(Planes::ofPicture(premultiplied(source))) {}
+} // namespace
 
-Resampler::Resampler(std::unique_ptr<Planes> planes) : m_planes(std::move(planes)) {}
+Resampler::Resampler(const QImage &source) : Resampler(takenApart(premultiplied(source))) {}
+
+Resampler::Resampler(std::unique_ptr<ColorPlanes> planes) : m_planes(std::move(planes))
+{
+    if (m_planes != nullptr)
+        m_flatAreas = std::make_unique<FlatAreas>(*m_planes);
+}
 
 Resampler::~Resampler() = default;
 
+std::unique_ptr<ColorPlanes> Resampler::planesOf(QSize size) const
+{
+    std::unique_ptr<ColorPlanes> scaled = m_planes->scaledTo(size);
+    if (scaled != nullptr)
+        m_flatAreas->restoreIn(*scaled);
+    return scaled;
+}
+
 const Resampler &Resampler::half() const
 {
-    std::call_once(m_halved, [this] {
-        m_half = std::unique_ptr<Resampler>(new Resampler(m_planes->scaledTo(m_planes->size / 2)));
-    });
+    std::call_once(m_halved,
+                   [this] { m_half = std::unique_ptr<Resampler>(new Resampler(planesOf(m_planes->size() / 2))); });
     return *m_half;
 }
 
 QImage Resampler::scaledTo(QSize size) const
 {
-    if (m_planes == nullptr || m_planes->size.isEmpty() || size.isEmpty())
+    if (m_planes == nullptr || size.isEmpty())
         return {};
-    if (size == m_planes->size)
-        return m_planes->picture();
-    if (isMadeFromHalf(m_planes->size, size))
+    if (size == m_planes->size())
+        return putTogether(*m_planes);
+    if (isMadeFromHalf(m_planes->size(), size))
         return half().scaledTo(size);
-    const std::unique_ptr<Planes> scaled = m_planes->scaledTo(size);
-    return scaled == nullptr ? QImage() : scaled->picture();
+    const std::unique_ptr<ColorPlanes> scaled = planesOf(size);
+    return scaled == nullptr ? QImage() : putTogether(*scaled);
 }
 
 QImage resample(const QImage &source, QSize size)

@@ -10,13 +10,16 @@
 namespace lumora
 {
 
+class ColorPlanes;
+class FlatAreas;
+
 /// Lanczos with three lobes, by libzimg on the premultiplied colour planes, so that no colour of a transparent pixel
-/// bleeds into its neighbours. Takes the picture apart once; any number of sizes may then be made from it, by several
-/// threads at a time.
+/// bleeds into its neighbours; flat areas stay flat up to their edges (see `FlatAreas`). Takes the picture apart once;
+/// any number of sizes may then be made from it, by several threads at a time.
 class Resampler
 {
 public:
-    /// Keeps a planar copy of the picture: 4 bytes a pixel (3 for an opaque one), and a third more once a small size
+    /// Keeps a planar copy of the picture: 5 bytes a pixel (4 for an opaque one), and a third more once a small size
     /// was made.
     explicit Resampler(const QImage &source);
     ~Resampler();
@@ -26,10 +29,11 @@ public:
     QImage scaledTo(QSize size) const;
 
 private:
-    struct Planes;
-    explicit Resampler(std::unique_ptr<Planes> planes);
+    explicit Resampler(std::unique_ptr<ColorPlanes> planes);
+    std::unique_ptr<ColorPlanes> planesOf(QSize size) const;
 
-    std::unique_ptr<Planes> m_planes;
+    std::unique_ptr<ColorPlanes> m_planes;
+    std::unique_ptr<FlatAreas> m_flatAreas;
     mutable std::once_flag m_halved;
     mutable std::unique_ptr<Resampler> m_half;
 

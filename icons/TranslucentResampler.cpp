@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "TranslucentResampler.h"
 
-#include "PlaneScaler.h"
+#include "ColorPlanes.h"
+#include "FlatAreas.h"
 
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <memory>
 
 namespace lumora
 {
@@ -18,31 +20,18 @@ constexpr std::size_t alphaChannel = 3;
 /// What makes 16 bits of 8, so that 255 becomes 65535.
 constexpr unsigned to16Bits = 257;
 
-/// Four planes of premultiplied 16-bit samples.
-class Planes
+/// The samples of one row, premultiplied.
+using Rows = std::array<std::uint16_t *, channels>;
+
+Rows rowsOf(ColorPlanes &planes, int y)
 {
-public:
-    explicit Planes(QSize size)
-        : m_stride(planeStride(size.width(), SampleDepth::Bits16)), m_planeBytes(m_stride * size.height()),
-          m_bytes(alignedBytes(static_cast<std::size_t>(m_planeBytes) * channels))
-    {
-    }
-    std::uint8_t *plane(std::size_t channel) { return m_bytes.get() + static_cast<qsizetype>(channel) * m_planeBytes; }
-    std::array<std::uint16_t *, channels> rows(int y)
-    {
-        std::array<std::uint16_t *, channels> result{};
-        for (std::size_t channel = 0; channel < channels; ++channel)
-            result[channel] = reinterpret_cast<std::uint16_t *>(plane(channel) + y * m_stride);
-        return result;
-    }
+    Rows rows{};
+    for (std::size_t channel = 0; channel < channels; ++channel)
+        rows[channel] = planes.row<std::uint16_t>(static_cast<int>(channel), y);
+    return rows;
+}
 
-private:
-    qsizetype m_stride;
-    qsizetype m_planeBytes;
-    AlignedBytes m_bytes;
-};
-
-void takeApart(const std::uint8_t *pixel, int width, const std::array<std::uint16_t *, channels> &rows)
+void takeApart(const std::uint8_t *pixel, int width, const Rows &rows)
 {
     for (int x = 0; x < width; ++x, pixel += channels) {
         const unsigned alpha = pixel[alphaChannel];
@@ -52,7 +41,7 @@ void takeApart(const std::uint8_t *pixel, int width, const std::array<std::uint1
     }
 }
 
-void putTogether(const std::array<std::uint16_t *, channels> &rows, int width, std::uint8_t *pixel)
+void putTogether(const Rows &rows, int width, std::uint8_t *pixel)
 {
     for (int x = 0; x < width; ++x, pixel += channels) {
         const unsigned alpha = rows[alphaChannel][x];
@@ -74,20 +63,18 @@ void putTogether(const std::array<std::uint16_t *, channels> &rows, int width, s
 
 QImage resampleTranslucent(const QImage &source, QSize size)
 {
-    Planes from(source.size());
+    ColorPlanes from(source.size(), channels, SampleDepth::Bits16);
     for (int y = 0; y < source.height(); ++y)
-        takeApart(source.constScanLine(y), source.width(), from.rows(y));
-    Planes to(size);
-    const PlaneScaler scaler(source.size(), size, SampleDepth::Bits16);
-    for (std::size_t channel = 0; channel < channels; ++channel) {
-        if (!scaler.scale(from.plane(channel), to.plane(channel)))
-            return {};
-    }
+        takeApart(source.constScanLine(y), source.width(), rowsOf(from, y));
+    const std::unique_ptr<ColorPlanes> to = from.scaledTo(size);
+    if (to == nullptr)
+        return {};
+    FlatAreas(from).restoreIn(*to);
     QImage result(size, QImage::Format_RGBA8888);
     if (result.isNull())
         return {};
     for (int y = 0; y < size.height(); ++y)
-        putTogether(to.rows(y), size.width(), result.scanLine(y));
+        putTogether(rowsOf(*to, y), size.width(), result.scanLine(y));
     return result;
 }
 

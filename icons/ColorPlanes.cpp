@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#include "ColorPlanes.h"
+
+namespace lumora
+{
+
+ColorPlanes::ColorPlanes(QSize size, int channels, SampleDepth depth)
+    : m_size(size), m_channels(channels), m_depth(depth), m_stride(planeStride(size.width(), depth)),
+      m_samples(alignedBytes(static_cast<std::size_t>(m_stride * size.height() * channels)))
+{
+}
+
+std::unique_ptr<ColorPlanes> ColorPlanes::scaledTo(QSize size) const
+{
+    const PlaneScaler scaler(m_size, size, m_depth);
+    auto scaled = std::make_unique<ColorPlanes>(size, m_channels, m_depth);
+    for (int channel = 0; channel < m_channels; ++channel) {
+        if (!scaler.scale(bytes(channel, 0), scaled->bytes(channel, 0)))
+            return nullptr;
+    }
+    return scaled;
+}
+
+} // namespace lumora

@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "PlaneScaler.h"
+
+#include <QSize>
+
+#include <cstdint>
+#include <memory>
+
+namespace lumora
+{
+
+/// A picture as one plane of samples for each of its channels, which is how it is scaled.
+class ColorPlanes
+{
+public:
+    /// Not empty; the samples are not set.
+    ColorPlanes(QSize size, int channels, SampleDepth depth);
+
+    QSize size() const { return m_size; }
+    int channels() const { return m_channels; }
+    SampleDepth depth() const { return m_depth; }
+
+    /// One row of one channel; `Sample` is as wide as the depth says.
+    template <typename Sample> Sample *row(int channel, int y) { return reinterpret_cast<Sample *>(bytes(channel, y)); }
+    template <typename Sample> const Sample *row(int channel, int y) const
+    {
+        return reinterpret_cast<const Sample *>(bytes(channel, y));
+    }
+
+    /// The picture stretched to `size` by `PlaneScaler`; null where that refuses.
+    std::unique_ptr<ColorPlanes> scaledTo(QSize size) const;
+
+private:
+    std::uint8_t *bytes(int channel, int y) const
+    {
+        return m_samples.get() + (qsizetype{channel} * m_size.height() + y) * m_stride;
+    }
+
+    QSize m_size;
+    int m_channels;
+    SampleDepth m_depth;
+    qsizetype m_stride;
+    AlignedBytes m_samples;
+};
+
+} // namespace lumora
