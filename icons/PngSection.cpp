@@ -40,9 +40,10 @@ constexpr int noiseLevel = 4;
 /// Drawings gain at every level and are fast to compress.
 constexpr int drawingLevel = 6;
 
-/// Of batches: what compresses to no less than this share of its bytes at the trial level is taken for noise.
-constexpr double noisyShare = 0.3;
+/// Enough to tell which filters suit noise.
 constexpr int trialLevel = 1;
+/// Of batches: what compresses to no less than this share of its bytes at that level is taken for noise.
+constexpr double noisyShare = 0.3;
 
 void append32(QByteArray &bytes, std::uint32_t number)
 {
@@ -104,25 +105,32 @@ std::vector<RowRange> sampleOf(const PngRows &picture, RowRange section)
     return sample;
 }
 
-/// No rule tells which filters suit a drawing: plain shapes shrink most without any, slow shades mostly by the pixel to
-/// the left. So they are tried; what suits plain shapes leaves nothing for the costly adaptive choice to gain.
+/// No rule tells which filters suit a picture: plain shapes shrink most without any, slow shades and some photographs
+/// by the pixel to the left, most photographs by a choice for each row. So they are tried.
 CompressedRows compressed(const PngRows &picture, RowRange section)
 {
     const std::vector<RowRange> sample = sampleOf(picture, section);
     std::vector<std::uint8_t> plain = filteredRows(picture, sample, PngFilterChoice::None);
-    if (novelty(plain, picture.size().width()) > mostNoveltyOfDrawings)
-        return compressed(filteredRows(picture, {&section, 1}, PngFilterChoice::Adaptive), noiseLevel);
-    CompressedRows best = compressed(std::move(plain), drawingLevel);
-    PngFilterChoice choice = PngFilterChoice::None;
-    for (const PngFilterChoice other : {PngFilterChoice::Left, PngFilterChoice::Adaptive}) {
-        CompressedRows tried = compressed(filteredRows(picture, sample, other), drawingLevel);
+    const bool noisy = novelty(plain, picture.size().width()) > mostNoveltyOfDrawings;
+    const int sampleLevel = noisy ? trialLevel : drawingLevel;
+    PngFilterChoice choice = PngFilterChoice::Left;
+    CompressedRows best = compressed(filteredRows(picture, sample, choice), sampleLevel);
+    const auto tryOther = [&](PngFilterChoice other, std::vector<std::uint8_t> rows) {
+        CompressedRows tried = compressed(std::move(rows), sampleLevel);
         if (tried.stream.size() >= best.stream.size())
-            break;
+            return;
         best = std::move(tried);
         choice = other;
-    }
+    };
+    if (!noisy)
+        tryOther(PngFilterChoice::None, std::move(plain));
+    // What suits plain shapes leaves the costliest choice nothing to gain.
+    if (choice != PngFilterChoice::None)
+        tryOther(PngFilterChoice::Adaptive, filteredRows(picture, sample, PngFilterChoice::Adaptive));
     const bool sampleIsAll = sample.size() == 1;
-    return sampleIsAll ? std::move(best) : compressed(filteredRows(picture, {&section, 1}, choice), drawingLevel);
+    if (sampleIsAll && !noisy)
+        return best;
+    return compressed(filteredRows(picture, {&section, 1}, choice), noisy ? noiseLevel : drawingLevel);
 }
 
 PngSection finished(CompressedRows compressed)
