@@ -27,6 +27,20 @@ const Signature signatures[] = {
     {QByteArrayView("icns", 4), "icns"},
 };
 
+/// Decoders take the memory that a chunk claims before they look whether the file holds as much.
+bool isWholePng(const QByteArray &bytes)
+{
+    constexpr qint64 signatureBytes = 8;
+    constexpr qint64 frameBytes = 12; // length, type, checksum
+    for (qint64 at = signatureBytes; at + frameBytes <= bytes.size();) {
+        const qint64 length = qFromBigEndian<quint32>(bytes.constData() + at);
+        if (QByteArrayView(bytes).sliced(at + 4, 4) == "IEND")
+            return true;
+        at += frameBytes + length;
+    }
+    return false;
+}
+
 bool isWholeJpeg(const QByteArray &bytes)
 {
     // Inside the scans every 0xFF is followed by 0x00 or a restart marker, so the pair can only be the end itself. The
@@ -75,6 +89,8 @@ QByteArray pictureFormat(const QByteArray &bytes)
 bool isWhole(const QByteArray &bytes)
 {
     const QByteArray format = pictureFormat(bytes);
+    if (format == "png")
+        return isWholePng(bytes);
     if (format == "jpeg")
         return isWholeJpeg(bytes);
     if (format == "bmp")

@@ -214,6 +214,9 @@ void PictureReaderTest::hugeClaimCostsNothing_data()
     for (int i = 0; i < 4; ++i)
         png[29 + i] = static_cast<char>(checksum >> (24 - 8 * i));
     QTest::newRow("png") << png;
+    QByteArray text = withPngChunk(pictureFile(quarters(64, 64)), "tEXt", "Title");
+    text[text.indexOf("tEXt") - 4] = '\x70';
+    QTest::newRow("png, a text of almost two gigabytes") << text;
     QByteArray bmp = encoded(quarters(64, 64).convertToFormat(QImage::Format_RGB32), "bmp");
     bmp.replace(18, 8, QByteArray("\x60\xEA\0\0\x60\xEA\0\0", 8));
     QTest::newRow("bmp") << bmp;
