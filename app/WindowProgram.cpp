@@ -15,6 +15,7 @@
 #include "resources/Resources.h"
 #include "validator/WorkFolder.h"
 #include "widgets/AppStyle.h"
+#include "widgets/FrameClock.h"
 #include "widgets/INAppStoreWindow.h"
 #include "widgets/NamedImage.h"
 
@@ -86,6 +87,7 @@ int runWindow(int argc, char **argv)
     QApplication::setLayoutDirection(installTexts(*qApp, QLocale::system()).textDirection());
     QApplication::setApplicationDisplayName(qtTrId("APP_DEFAULT"));
     applyAppColors();
+    const FrameClock frames;
 
     // Every path that the user named is absolute by now: the arguments were made so when they were read.
     const std::unique_ptr<WorkFolder> workFolder = makeWorkFolder();

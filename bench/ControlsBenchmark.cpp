@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// A full repaint of every control into a picture of twice the size, which is more than a screen asks for.
+// A full repaint of every control into a picture of twice the size, which is more than a screen asks for; and what the
+// animated progress bar takes of a processor.
 #include "widgets/BFIconTabBar.h"
 #include "widgets/CheckboxButton.h"
 #include "widgets/HoverButton.h"
@@ -11,8 +12,15 @@
 #include "widgets/ZKTextField.h"
 
 #include <QApplication>
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QTimer>
 
 #include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <chrono>
+#include <ctime>
 
 using namespace lumora;
 
@@ -89,6 +97,29 @@ void progressBar(benchmark::State &state)
     repaint(state, bar, {600, 20});
 }
 BENCHMARK(progressBar)->Unit(benchmark::kMicrosecond);
+
+/// What running stripes cost while they are seen: processor time of the whole process over time that passed.
+void animatedProgressBar(benchmark::State &state)
+{
+    LBProgressBar bar;
+    bar.resize(600, 20);
+    bar.setDoubleValue(80);
+    bar.show();
+    bar.startAnimation();
+    double share = 0;
+    for (auto _ : state) {
+        QEventLoop second;
+        QTimer::singleShot(std::chrono::seconds(1), &second, &QEventLoop::quit);
+        QElapsedTimer passed;
+        passed.start();
+        const std::clock_t before = std::clock();
+        second.exec();
+        const double used = static_cast<double>(std::clock() - before) / CLOCKS_PER_SEC;
+        share = std::max(share, used * 1000 / static_cast<double>(passed.elapsed()));
+    }
+    state.counters["percent of a core"] = 100 * share;
+}
+BENCHMARK(animatedProgressBar)->Iterations(3)->Unit(benchmark::kMillisecond);
 
 void textField(benchmark::State &state)
 {

@@ -109,8 +109,12 @@ void SFBPopover::displayPopoverInWindow(QWidget *window, const QPointF &atPoint,
     m_window->orderFront(parentWindow, keyboard);
     m_keyStatus->begin(parentWindow, keyboard);
     emit displayed();
-    if (m_animates)
-        fadeTo(1);
+    if (!m_animates)
+        return;
+    fadeTo(1);
+    // Before the fade has come to anything that can be seen there is time for what costs most of the first frame.
+    QMetaObject::invokeMethod(m_window->popoverWindowFrame(), &SFBPopoverWindowFrame::prepareDrawing,
+                              Qt::QueuedConnection);
 }
 
 void SFBPopover::movePopoverToPoint(const QPointF &point)

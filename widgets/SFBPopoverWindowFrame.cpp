@@ -173,12 +173,21 @@ QPixmap SFBPopoverWindowFrame::drawn(qreal devicePixelRatio) const
     return QPixmap::fromImage(std::move(image), Qt::NoFormatConversion);
 }
 
+void SFBPopoverWindowFrame::keepDrawing(qreal devicePixelRatio)
+{
+    if (m_drawn.isNull() || m_drawn.devicePixelRatio() != devicePixelRatio)
+        m_drawn = drawn(devicePixelRatio);
+}
+
+void SFBPopoverWindowFrame::prepareDrawing()
+{
+    keepDrawing(devicePixelRatioF());
+}
+
 void SFBPopoverWindowFrame::paintEvent(QPaintEvent *event)
 {
     QPainter painter(this);
-    const qreal ratio = painter.deviceTransform().m11();
-    if (m_drawn.isNull() || m_drawn.devicePixelRatio() != ratio)
-        m_drawn = drawn(ratio);
+    keepDrawing(painter.deviceTransform().m11());
     painter.setClipRect(event->rect());
     painter.drawPixmap(0, 0, m_drawn);
 }

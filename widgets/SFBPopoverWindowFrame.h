@@ -89,6 +89,9 @@ public:
     /// everything is opaque up to the edge that the window's shape cuts.
     void setBlends(bool blends);
 
+    /// Makes the drawing that the next paint would have to make first.
+    void prepareDrawing();
+
 signals:
     /// The balloon's outline changed, by a setting or with the size.
     void outlineChanged();
@@ -111,6 +114,7 @@ private:
 
     template <typename Value> void change(Value &value, const Value &to);
     QPixmap drawn(qreal devicePixelRatio) const;
+    void keepDrawing(qreal devicePixelRatio);
 
     PopoverMetrics m_metrics;
     QColor m_borderColor = Qt::white;
@@ -122,7 +126,7 @@ private:
     QPointF m_dragStart;
     QPointF m_dragCorner;
     /// The whole drawing, made at the first paint after a change: the shadow costs more than a repaint may.
-    mutable QPixmap m_drawn;
+    QPixmap m_drawn;
 };
 
 } // namespace lumora
