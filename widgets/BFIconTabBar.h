@@ -71,6 +71,11 @@ public:
     /// The slot of an index in the widget's coordinates.
     QRectF slotRect(int index) const;
 
+    /// The pointer was pressed on an item and is still down.
+    bool isDragging() const { return m_dragging; }
+    /// In multiple selection, what the press does and a drag over further items: select them, or for false deselect.
+    bool firstItemWasSelected() const { return m_firstItemWasSelected; }
+
     /// Sends action() and tells the delegate.
     void notify();
 

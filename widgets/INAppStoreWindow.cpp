@@ -14,6 +14,8 @@
 #include "widgets/WindowEdge.h"
 
 #include <QGuiApplication>
+#include <QMenu>
+#include <QShortcut>
 #include <QVariantAnimation>
 
 #include <algorithm>
@@ -77,6 +79,8 @@ void INAppStoreWindow::doInitialWindowSetup()
     m_frameAnimation->setEasingCurve(easeInEaseOut());
     connect(m_frameAnimation, &QVariantAnimation::valueChanged, this,
             [this](const QVariant &value) { setGeometry(value.toRect()); });
+    const auto *menuKey = new QShortcut(QKeySequence(Qt::ALT | Qt::Key_Space), this);
+    connect(menuKey, &QShortcut::activated, this, &INAppStoreWindow::showWindowMenu);
     connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, &INAppStoreWindow::updateKeyAndMain);
     connect(qGuiApp, &QGuiApplication::screenRemoved, this, &INAppStoreWindow::keepReachable, Qt::QueuedConnection);
     applySizeLimits();
@@ -152,6 +156,22 @@ void INAppStoreWindow::pressed(ButtonKind kind)
         toggleFullScreen();
         break;
     }
+}
+
+void INAppStoreWindow::showWindowMenu()
+{
+    auto *menu = new QMenu(this);
+    menu->setObjectName(QStringLiteral("windowMenu"));
+    for (const ButtonKind kind : {Minimize, Zoom, EnterFullScreen, Close}) {
+        if (kind == Close)
+            menu->addSeparator();
+        QAction *action = menu->addAction(m_standardButtons[kind]->toolTip());
+        action->setEnabled(button(kind)->isEnabled());
+        connect(action, &QAction::triggered, button(kind), &QAbstractButton::click);
+    }
+    connect(menu, &QMenu::aboutToHide, menu, &QObject::deleteLater);
+    menu->popup(mapToGlobal(QPoint(button(Close)->x(), m_titleBarContainer->height())));
+    menu->setActiveAction(menu->actions().constFirst());
 }
 
 void INAppStoreWindow::enableButtons()

@@ -180,6 +180,9 @@ public slots:
     /// Between the largest size the screen offers and the one before.
     void performZoom();
     void toggleFullScreen();
+    /// Offers what the buttons in the title bar do to those who use the keyboard: Alt+Space opens it, as it does on
+    /// desktops that keep such a menu of their own and then take the key themselves.
+    void showWindowMenu();
 
 protected:
     void becomeKeyWindow();

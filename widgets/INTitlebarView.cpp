@@ -65,7 +65,7 @@ void INTitlebarView::paintEvent(QPaintEvent *)
         return;
     }
     drawBackground(&painter, *window);
-    if (window->showsBaselineSeparator() && !window->isFullScreen())
+    if (window->showsBaselineSeparator())
         drawBaselineSeparator(&painter, *window);
     if (window->isFullScreen() ? window->showsTitleInFullscreen() : window->showsTitle())
         drawTitle(&painter, *window);
@@ -79,15 +79,14 @@ void INTitlebarView::drawBackground(QPainter *painter, const INAppStoreWindow &w
     painter->setClipPath(clippingPath());
     if (window.isFullScreen()) {
         painter->fillRect(rect(), Qt::black);
-        painter->restore();
-        return;
+    } else {
+        QLinearGradient gradient(0, 0, 0, height());
+        gradient.setColorAt(
+            0, given(main ? window.titleBarStartColor() : window.inactiveTitleBarStartColor(), greys.gradientTop));
+        gradient.setColorAt(
+            1, given(main ? window.titleBarEndColor() : window.inactiveTitleBarEndColor(), greys.gradientBottom));
+        painter->fillRect(rect(), gradient);
     }
-    QLinearGradient gradient(0, 0, 0, height());
-    gradient.setColorAt(
-        0, given(main ? window.titleBarStartColor() : window.inactiveTitleBarStartColor(), greys.gradientTop));
-    gradient.setColorAt(
-        1, given(main ? window.titleBarEndColor() : window.inactiveTitleBarEndColor(), greys.gradientBottom));
-    painter->fillRect(rect(), gradient);
     if (platformGeneration == PlatformGeneration::Newer) {
         painter->fillRect(QRectF(0, 0, width(), 1), QColor::fromRgbF(1.0F, 1.0F, 1.0F, titleBarHighlightAlpha));
         if (main) {

@@ -12,7 +12,7 @@ namespace lumora
 INWindowButton::INWindowButton(const QString &groupIdentifier, QWidget *parent)
     : QAbstractButton(parent), m_group(INWindowButtonGroup::groupWithIdentifier(groupIdentifier))
 {
-    // As in every window frame: the keyboard has the window manager's own commands for these.
+    // As in every window frame: not in the way of the Tab key. The keyboard has the window's menu for what these do.
     setFocusPolicy(Qt::NoFocus);
     connect(m_group, &INWindowButtonGroup::INWindowButtonGroupDidUpdateRolloverStateNotification, this,
             qOverload<>(&QWidget::update));

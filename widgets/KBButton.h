@@ -11,6 +11,7 @@ namespace lumora
 class KBButton final : public PaintedButton
 {
     Q_OBJECT
+    Q_PROPERTY(lumora::KBButtonType kbButtonType READ kbButtonType WRITE setKBButtonType)
 public:
     explicit KBButton(QWidget *parent = nullptr);
 

@@ -4,6 +4,7 @@
 #include "widgets/ColorExtensions.h"
 
 #include <QFont>
+#include <QObject>
 #include <QRectF>
 #include <QString>
 
@@ -11,9 +12,11 @@ class QPainter;
 
 namespace lumora
 {
+Q_NAMESPACE
 
 /// What a bezelled button is for; each has its own colour.
 enum class KBButtonType { Default, Primary, Information, Success, Warning, Danger, Inverse };
+Q_ENUM_NS(KBButtonType)
 
 /// Draws the bezel and the title of a KBButton: a dark outline, inside it a gradient of the type's colour from light at
 /// the top to plain at the bottom.

@@ -23,11 +23,14 @@ QColor opaqueGrey(float white)
 QPixmap noiseTexture()
 {
     constexpr int side = 128;
+    // Around the middle grey: enough to take the smoothness off a gradient, too little to be seen as a pattern.
+    constexpr int middle = 128;
+    constexpr int spread = 48;
     QImage tile(side, side, QImage::Format_RGB32);
     std::minstd_rand random(1);
     for (int y = 0; y < side; ++y) {
         for (int x = 0; x < side; ++x) {
-            const int grey = static_cast<int>(random() >> 8 & 0xff);
+            const int grey = middle - spread + static_cast<int>((random() >> 8) % (2 * spread + 1));
             tile.setPixel(x, y, qRgb(grey, grey, grey));
         }
     }
