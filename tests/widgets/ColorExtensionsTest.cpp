@@ -108,6 +108,15 @@ private slots:
             near(pictureOf(&button, scale).pixelColor(middle, inside), darkenColorByValue(base, 0.12F).toColor(), 2));
     }
 
+    void typeIsAPropertyForInterfaceFiles()
+    {
+        KBButton button;
+        QCOMPARE(button.kbButtonType(), KBButtonType::Default);
+        QVERIFY(button.setProperty("kbButtonType", u"Danger"_s));
+        QCOMPARE(button.kbButtonType(), KBButtonType::Danger);
+        QCOMPARE(button.property("kbButtonType").value<KBButtonType>(), KBButtonType::Danger);
+    }
+
     void typesDiffer()
     {
         const QList<KBButtonType> types{KBButtonType::Default, KBButtonType::Primary, KBButtonType::Information,

@@ -5,9 +5,11 @@
 #include "widgets/Palette.h"
 
 #include <QAccessible>
+#include <QHelpEvent>
 #include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTest>
+#include <QToolTip>
 
 #include <memory>
 
@@ -263,13 +265,17 @@ private slots:
         made->deselectAll();
         made->selectIndexes(before, false);
         QSignalSpy action(made.get(), &BFIconTabBar::action);
+        QVERIFY(!made->isDragging());
         QTest::mousePress(made.get(), Qt::LeftButton, {}, slotMiddle(path.first()));
+        QVERIFY(made->isDragging());
+        QCOMPARE(made->firstItemWasSelected(), multiple && !before.contains(path.first()));
         for (const int index : path.mid(1)) {
             const QPointF point = slotMiddle(index);
             QMouseEvent move(QEvent::MouseMove, point, made->mapToGlobal(point), Qt::NoButton, Qt::LeftButton, {});
             QCoreApplication::sendEvent(made.get(), &move);
         }
         QTest::mouseRelease(made.get(), Qt::LeftButton, {}, slotMiddle(path.last()));
+        QVERIFY(!made->isDragging());
         QTEST(made->selectedIndexes(), "after");
         QTEST(static_cast<int>(action.count()), "notices");
         // The drag is over: moving on changes nothing.
@@ -332,6 +338,55 @@ private slots:
         QCOMPARE(at(8.5, 17.5).alpha(), 0);                             // beside an icon that is not selected
         QCOMPARE(at(40.5, 17.5).alpha(), palette::tabSelected.alpha()); // beside the selected one
         QCOMPARE(at(1.5, 17.5).alpha(), 0);                             // before the first slot
+    }
+
+    void showsFocusPointerAndDisabledLook()
+    {
+        const auto made = bar(3);
+        const auto pictures = [&] { return pictureOf(made.get()); };
+        const QImage plain = pictures();
+        const QPoint onTheRing(7, 17);
+        showAside(made.get());
+        made->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(made.get()));
+        made->clearFocus();
+        made->setFocus(Qt::TabFocusReason);
+        QCOMPARE(pictures().pixelColor(onTheRing).rgb(), palette::focusRing.rgb());
+        made->clearFocus();
+        QCOMPARE(pictures(), plain);
+        QTest::mouseMove(made.get(), slotMiddle(1));
+        QTRY_COMPARE(pictures().pixelColor(40, 17).alpha(), palette::tabHover.alpha());
+        leave(made.get());
+        QCOMPARE(pictures(), plain);
+        made->setEnabled(false);
+        QVERIFY(qAbs(pictures().pixelColor(slotMiddle(1)).alpha() - 255 * palette::disabledOpacity) <= 1);
+    }
+
+    void itemWidth()
+    {
+        const auto made = bar(3);
+        made->setItemWidth(50);
+        QCOMPARE(made->itemAtX(53), made->items()[0]);
+        QCOMPARE(made->itemAtX(54), made->items()[1]);
+        QCOMPARE(made->slotRect(2).left(), 104.0);
+        QCOMPARE(made->sizeHint().width(), 158);
+        made->setItemWidth(0);
+        QCOMPARE(made->itemWidth(), 50.0);
+    }
+
+    void tooltips()
+    {
+        const auto made = bar(3);
+        showAside(made.get());
+        const auto tipAt = [&](const QPoint &point) {
+            QHelpEvent event(QEvent::ToolTip, point, made->mapToGlobal(point));
+            QCoreApplication::sendEvent(made.get(), &event);
+            return event.isAccepted();
+        };
+        QVERIFY(tipAt(slotMiddle(2)));
+        QCOMPARE(QToolTip::text(), u"tip 2"_s);
+        QVERIFY(!tipAt(QPoint(2, 17)));
+        QTRY_VERIFY(!QToolTip::isVisible());
     }
 
     void mirroredSlots()

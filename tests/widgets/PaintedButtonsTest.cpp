@@ -333,6 +333,52 @@ private slots:
         QVERIFY(with != without);
     }
 
+    void mirroredIconLiesAtTheRight()
+    {
+        const auto button = iconButton();
+        button->setIconName(u"button_icon_close"_s);
+        const auto inkBetween = [&](int from, int to) {
+            const QImage picture = pictureOf(button.get());
+            for (int x = from; x < to; ++x) {
+                for (int y = 6; y < 30; ++y) {
+                    if (picture.pixelColor(x, y) != normal)
+                        return true;
+                }
+            }
+            return false;
+        };
+        QVERIFY(inkBetween(12, 30) && !inkBetween(30, 174));
+        button->setLayoutDirection(Qt::RightToLeft);
+        QVERIFY(inkBetween(150, 168) && !inkBetween(6, 150));
+    }
+
+    void textLiesThreePointsAboveTheMiddle_data()
+    {
+        QTest::addColumn<bool>("hoverButton");
+        QTest::newRow("icon button") << false;
+        QTest::newRow("hover button") << true;
+    }
+    void textLiesThreePointsAboveTheMiddle()
+    {
+        QFETCH(bool, hoverButton);
+        const std::unique_ptr<PaintedButton> button = hoverButton ? std::unique_ptr<PaintedButton>(::hoverButton())
+                                                                  : std::unique_ptr<PaintedButton>(iconButton());
+        button->setText(u"HHH"_s);
+        const QImage picture = pictureOf(button.get());
+        QRect ink;
+        for (int y = 3; y < 33; ++y) {
+            for (int x = 10; x < 170; ++x) {
+                if (picture.pixelColor(x, y).red() > 128)
+                    ink |= QRect(x, y, 1, 1);
+            }
+        }
+        QVERIFY(!ink.isEmpty());
+        QVERIFY2(qAbs(ink.center().x() - 90) <= 1, "not in the middle from left to right");
+        // A letter's middle lies a little above its line's.
+        const int above = 18 - ink.center().y();
+        QVERIFY2(above >= 3 && above <= 5, qPrintable(QString::number(above)));
+    }
+
     void imageButton()
     {
         ImageButton button;

@@ -169,6 +169,10 @@ private slots:
         QCOMPARE(form.field->string(), u"hellohello"_s);
         QTest::keySequence(editor, QKeySequence::Undo);
         QCOMPARE(form.field->string(), u"hello"_s);
+        QTest::keySequence(editor, QKeySequence::Redo);
+        QCOMPARE(form.field->string(), u"hellohello"_s);
+        QTest::keySequence(editor, QKeySequence::Undo);
+        QCOMPARE(form.field->string(), u"hello"_s);
         QInputMethodEvent compose(u"ka"_s, {});
         QCoreApplication::sendEvent(editor, &compose);
         QCOMPARE(form.field->string(), u"hello"_s);

@@ -118,9 +118,42 @@ private slots:
         QCOMPARE(field.stringAttributes().color, palette::chromeText);
         QCOMPARE(field.stringAttributes().lineBreakMode, Qt::ElideRight);
         QCOMPARE(field.stringAttributes().alignment, Qt::Alignment(Qt::AlignLeft));
+        QCOMPARE(field.stringAttributes().font.family(), u"Lato"_s);
+        QCOMPARE(field.placeholderStringAttributes().font.family(), u"Lato"_s);
+        QCOMPARE(field.placeholderStringAttributes().lineBreakMode, Qt::ElideRight);
+        QCOMPARE(field.placeholderStringAttributes().alignment, Qt::Alignment(Qt::AlignLeft));
+        QVERIFY(field.placeholderStringAttributes().color != field.stringAttributes().color);
         QVERIFY(!field.placeholderStringAttributes().font.bold());
         QCOMPARE(field.placeholderStringAttributes().font.pixelSize(), 13);
         QCOMPARE(field.cursor().shape(), Qt::IBeamCursor);
+    }
+
+    void hoverCursor()
+    {
+        ZKTextField field;
+        field.setHasHoverCursor(false);
+        QCOMPARE(field.cursor().shape(), Qt::ArrowCursor);
+        field.beginEditing();
+        QCOMPARE(field.currentFieldEditor()->cursor().shape(), Qt::ArrowCursor);
+        field.endEditing();
+        field.setHasHoverCursor(true);
+        QCOMPARE(field.cursor().shape(), Qt::IBeamCursor);
+    }
+
+    void editorLooksLikeTheField()
+    {
+        ZKTextField field;
+        TextAttributes attributes = field.stringAttributes();
+        attributes.color = Qt::red;
+        field.setStringAttributes(attributes);
+        field.setSelectedStringAttributes({Qt::yellow, Qt::blue});
+        field.beginEditing();
+        const QLineEdit *editor = field.currentFieldEditor();
+        QCOMPARE(editor->font(), attributes.font);
+        QCOMPARE(editor->palette().color(QPalette::Text), QColor(Qt::red));
+        QCOMPARE(editor->palette().color(QPalette::HighlightedText), QColor(Qt::yellow));
+        QCOMPARE(editor->palette().color(QPalette::Highlight), QColor(Qt::blue));
+        QCOMPARE(editor->palette().color(QPalette::Base).alpha(), 0);
     }
 
     void attributedStrings()

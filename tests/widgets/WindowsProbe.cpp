@@ -154,6 +154,7 @@ private:
             {u"maximized"_s, m_window.isMaximized()},
             {u"fullscreen"_s, m_window.isFullScreen()},
             {u"main"_s, m_window.isMainWindow()},
+            {u"menu"_s, QApplication::activePopupWidget() != nullptr},
             {u"popover"_s, m_popover.isVisible()},
             {u"popoverFrame"_s, toJson(flippedOnScreen(m_popover.popoverWindow()->frame()).toRect())},
             {u"tip"_s, QJsonArray{tip.x(), tip.y()}},
