@@ -7,6 +7,7 @@ with its window and takes the mouse and the keyboard from there.
         lumora.button("Generate").click()
 """
 
+import statistics
 import subprocess
 
 from desktop import Desktop, wait_for
@@ -25,7 +26,8 @@ class WaylandDesktop(Desktop):
         settings = self.folder / "weston.ini"
         settings.write_text("[shell]\nbackground-color=0xff%02x%02x%02x\npanel-position=none\nlocking=false\n"
                             "animation=none\nstartup-animation=none\nclose-animation=none\nfocus-animation=none\n"
-                            % self.BACKGROUND)
+                            # No keyboard comes up on the screen where text is edited.
+                            "[input-method]\npath=\n" % self.BACKGROUND)
         self.run("weston", "--backend=x11-backend.so", "--use-pixman", f"--width={width}", f"--height={height}",
                  "--idle-time=0", "--socket=lumora", f"--config={settings}")
         self.environment |= {"WAYLAND_DISPLAY": "lumora", "QT_QPA_PLATFORM": "wayland"}
@@ -63,7 +65,8 @@ class WaylandDesktop(Desktop):
         edges = [(y, row.find(run), row.rfind(run) + len(run)) for y, row in enumerate(rows) if run in row]
         if not edges:
             return None
-        left, right = min(edge[1] for edge in edges), max(edge[2] for edge in edges)
+        # In some rows the pointer hangs over an edge.
+        left, right = (statistics.median_low(edge[side] for edge in edges) for side in (1, 2))
         return left, edges[0][0], right - left, edges[-1][0] + 1 - edges[0][0]
 
     def find_window(self, lumora):
