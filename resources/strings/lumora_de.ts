@@ -600,7 +600,7 @@
     <translation>iOS</translation>
   </message>
   <message id="PLACEHOLDER_IOS_SUBTITLE">
-    <source>Nine pictures for iPhone, iPod and iPad</source>
+    <source>Nine sizes for iPhone, iPod and iPad</source>
     <translation>Neun Bilder für iPhone, iPod und iPad</translation>
   </message>
   <message id="PLACEHOLDER_MAC_TITLE">
@@ -608,7 +608,7 @@
     <translation>Mac</translation>
   </message>
   <message id="PLACEHOLDER_MAC_SUBTITLE">
-    <source>Four pictures for icons and screens</source>
+    <source>Four sizes for icons and screens</source>
     <translation>Vier Bilder für Icons und Bildschirme</translation>
   </message>
   <message id="PLACEHOLDER_CUSTOM">
@@ -620,7 +620,7 @@
     <translation>Eigene Maße</translation>
   </message>
   <message id="PLACEHOLDER_CUSTOM_SUBTITLE">
-    <source>One picture, 1 to 9999 pixels each way</source>
+    <source>One picture, 1 to 9999 pixels a side</source>
     <translation>Ein Bild, je Seite 1 bis 9999 Pixel</translation>
   </message>
   <message id="PLACEHOLDER_SETTINGS">

@@ -598,16 +598,16 @@
     <translation>iOS</translation>
   </message>
   <message id="PLACEHOLDER_IOS_SUBTITLE">
-    <source>Nine pictures for iPhone, iPod and iPad</source>
-    <translation>Nine pictures for iPhone, iPod and iPad</translation>
+    <source>Nine sizes for iPhone, iPod and iPad</source>
+    <translation>Nine sizes for iPhone, iPod and iPad</translation>
   </message>
   <message id="PLACEHOLDER_MAC_TITLE">
     <source>Mac</source>
     <translation>Mac</translation>
   </message>
   <message id="PLACEHOLDER_MAC_SUBTITLE">
-    <source>Four pictures for icons and screens</source>
-    <translation>Four pictures for icons and screens</translation>
+    <source>Four sizes for icons and screens</source>
+    <translation>Four sizes for icons and screens</translation>
   </message>
   <message id="PLACEHOLDER_CUSTOM">
     <source>Custom size</source>
@@ -618,8 +618,8 @@
     <translation>Your own size</translation>
   </message>
   <message id="PLACEHOLDER_CUSTOM_SUBTITLE">
-    <source>One picture, 1 to 9999 pixels each way</source>
-    <translation>One picture, 1 to 9999 pixels each way</translation>
+    <source>One picture, 1 to 9999 pixels a side</source>
+    <translation>One picture, 1 to 9999 pixels a side</translation>
   </message>
   <message id="PLACEHOLDER_SETTINGS">
     <source>Size in pixels</source>

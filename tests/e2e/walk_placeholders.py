@@ -9,8 +9,8 @@ from pathlib import Path
 
 from desktop import Desktop, wait_for
 
-SUBTITLES = {"ios": "Nine pictures for iPhone, iPod and iPad", "mac": "Four pictures for icons and screens",
-             "custom": "One picture, 1 to 9999 pixels each way"}
+SUBTITLES = {"ios": "Nine sizes for iPhone, iPod and iPad", "mac": "Four sizes for icons and screens",
+             "custom": "One picture, 1 to 9999 pixels a side"}
 
 
 def files_below(folder):
