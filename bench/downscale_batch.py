@@ -2,7 +2,7 @@
 # SPDX-License-Identifier: MIT
 """Halves 200 mixed double-resolution pictures with Lumora and with its peers, whole processes in one run.
 
-usage: bench/downscale_batch.py LUMORA [--runs N] [--keep FOLDER]
+usage: bench/downscale_batch.py LUMORA [--runs N] [--keep FOLDER] [--peer NAME ...]
 
 The pictures are made by ImageMagick from fixed seeds. sharp is installed by npm into a scratch folder. vipsthumbnail
 knows no percentage: it gets the box that makes its pictures as many pixels in all as the halves have.
@@ -103,6 +103,8 @@ def main():
     parser.add_argument("lumora")
     parser.add_argument("--runs", type=int, default=5)
     parser.add_argument("--keep", help="folder for pictures, results and sharp; used again when it exists")
+    parser.add_argument("--peer", action="append", choices=["mogrify", "vipsthumbnail", "sharp"],
+                        help="compare with this one only; may be given several times")
     options = parser.parse_args()
     lumora = str(Path(options.lumora).resolve())
     scratch = Path(options.keep or tempfile.mkdtemp(prefix="lumora-bench-")).resolve()
@@ -125,7 +127,8 @@ def main():
             "sharp": ["node", "-e", SHARP, str(source), target],
         }
 
-    best = {name: float("inf") for name in peers("")}
+    compared = options.peer or list(peers(""))
+    best = {name: float("inf") for name in peers("") if name == "lumora" or name in compared}
     processor = dict(best)
     size = {}
     for _ in range(options.runs):

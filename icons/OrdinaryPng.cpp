@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdlib>
+#include <cstring>
 #include <memory>
 
 namespace lumora
@@ -139,6 +140,10 @@ bool takeChunks(const std::vector<PngChunkView> &chunks, PngInfo &info, QByteArr
         return false;
     deflated = parts.front();
     if (parts.size() > 1) {
+        qsizetype bytes = 0;
+        for (const QByteArrayView part : parts)
+            bytes += part.size();
+        joined.reserve(bytes);
         for (const QByteArrayView part : parts)
             joined.append(part);
         deflated = joined;
@@ -202,7 +207,17 @@ void expandTable(const std::uint8_t *samples, int depth, int width, const std::a
 
 void expandRgb(const std::uint8_t *samples, int width, std::uint8_t *pixel)
 {
-    for (int x = 0; x < width; ++x, samples += 3, pixel += 4) {
+    int x = 0;
+    if constexpr (Q_BYTE_ORDER == Q_LITTLE_ENDIAN) {
+        // Four bytes at a time, all but the last pixel, which has none behind it: a third of the time.
+        for (; x < width - 1; ++x, samples += 3, pixel += 4) {
+            std::uint32_t value = 0;
+            std::memcpy(&value, samples, sizeof value);
+            value |= 0xFF000000;
+            std::memcpy(pixel, &value, sizeof value);
+        }
+    }
+    for (; x < width; ++x, samples += 3, pixel += 4) {
         pixel[0] = samples[0];
         pixel[1] = samples[1];
         pixel[2] = samples[2];
