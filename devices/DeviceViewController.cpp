@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "DeviceViewController.h"
 
-#include "DevicePlacement.h"
 #include "DeviceViews.h"
 #include "app/ButtonStyle.h"
 #include "app/LabelStyle.h"
 #include "ui_DeviceViewController.h"
 #include "widgets/Fonts.h"
 #include "widgets/Palette.h"
-#include "widgets/PopoverGeometry.h"
 
 using namespace Qt::StringLiterals;
 
@@ -26,34 +24,9 @@ QString text(std::string_view view)
     return QString::fromUtf8(view.data(), static_cast<qsizetype>(view.size()));
 }
 
-QRect placedIn(const QWidget *container, const QRect &upwards)
+DevicePlacement inRow(const DeviceRecord &, int index)
 {
-    return flipped(QRectF(upwards), container->height()).toRect();
-}
-
-/// The description of a device's picture says whether it matches, for those who do not see it fade.
-void describe(DevicePicture *picture, bool matches)
-{
-    QString description = matches ? qtTrId("ACCESSIBLE_DEVICE_MATCH") : qtTrId("ACCESSIBLE_DEVICE_NO_MATCH");
-    picture->setAccessibleDescription(description.replace("[DEVICE]"_L1, picture->accessibleName()));
-}
-
-DevicePicture *addPicture(const DeviceRecord &device, const QString &group, const DevicePlacement &place,
-                          QWidget *container)
-{
-    auto *picture = new DevicePicture(NamedImage(text(device.image)), container);
-    picture->setGeometry(placedIn(container, place.picture));
-    picture->setAccessibleName(group + u' ' + text(device.model));
-    picture->setToolTip(picture->accessibleName());
-    describe(picture, device.active);
-    return picture;
-}
-
-DeviceLabel *addLabel(const DeviceRecord &device, const DevicePlacement &place, QWidget *container)
-{
-    auto *label = new DeviceLabel(text(device.model), container);
-    label->setGeometry(placedIn(container, place.label));
-    return label;
+    return placeInRow(index);
 }
 
 } // namespace
@@ -154,36 +127,17 @@ void DeviceViewController::setupFilterDict()
 
 void DeviceViewController::createiPhoneList()
 {
-    m_iPhoneViews = {};
-    for (std::size_t index = 0; index < m_devices.iPhones.size(); ++index) {
-        const DeviceRecord &device = m_devices.iPhones[index];
-        const DevicePlacement place = placeInRow(static_cast<int>(index));
-        m_iPhoneViews.images.push_back(addPicture(device, qtTrId("DEVICES_IPHONES"), place, m_ui->iPhoneContainer));
-        m_iPhoneViews.labels.push_back(addLabel(device, place, m_ui->iPhoneContainer));
-    }
+    m_iPhoneViews = DeviceGroup::create(m_devices.iPhones, qtTrId("DEVICES_IPHONES"), inRow, m_ui->iPhoneContainer);
 }
 
 void DeviceViewController::createiPodList()
 {
-    m_iPodViews = {};
-    for (std::size_t index = 0; index < m_devices.iPods.size(); ++index) {
-        const DeviceRecord &device = m_devices.iPods[index];
-        const DevicePlacement place = placeInRow(static_cast<int>(index));
-        m_iPodViews.images.push_back(addPicture(device, qtTrId("DEVICES_IPODS"), place, m_ui->iPodContainer));
-        m_iPodViews.labels.push_back(addLabel(device, place, m_ui->iPodContainer));
-    }
+    m_iPodViews = DeviceGroup::create(m_devices.iPods, qtTrId("DEVICES_IPODS"), inRow, m_ui->iPodContainer);
 }
 
 void DeviceViewController::createiPadList()
 {
-    m_iPadViews = {};
-    for (std::size_t index = 0; index < m_devices.iPads.size(); ++index) {
-        const DeviceRecord &device = m_devices.iPads[index];
-        const DevicePlacement place = placeOfiPad(device, static_cast<int>(index));
-        const QString group = isMini(device) ? qtTrId("DEVICES_IPAD_MINI") : qtTrId("DEVICES_IPADS");
-        m_iPadViews.images.push_back(addPicture(device, group, place, m_ui->iPadContainer));
-        m_iPadViews.labels.push_back(addLabel(device, place, m_ui->iPadContainer));
-    }
+    m_iPadViews = DeviceGroup::create(m_devices.iPads, qtTrId("DEVICES_IPADS"), placeOfiPad, m_ui->iPadContainer);
 }
 
 void DeviceViewController::chooseVersion(float version, RadioButton *sender)
@@ -220,11 +174,11 @@ void DeviceViewController::filter()
     showMatches(m_devices.iPads, m_iPadViews);
 }
 
-void DeviceViewController::showMatches(const std::vector<DeviceRecord> &devices, const GroupViews &views)
+void DeviceViewController::showMatches(const std::vector<DeviceRecord> &devices, const DeviceGroup &views)
 {
     for (std::size_t index = 0; index < devices.size(); ++index) {
         const bool matches = devices[index].active;
-        describe(views.images[index], matches);
+        DeviceGroup::describe(views.images[index], matches);
         animateView(views.images[index], matches ? 1.0F : fadedAlpha);
         animateView(views.labels[index], matches ? 1.0F : fadedAlpha);
     }

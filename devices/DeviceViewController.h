@@ -2,6 +2,7 @@
 #pragma once
 
 #include "DeviceFilter.h"
+#include "DeviceGroup.h"
 #include "FadingView.h"
 #include "app/ToolViewController.h"
 
@@ -18,8 +19,6 @@ namespace lumora
 {
 
 class CheckboxButton;
-class DeviceLabel;
-class DevicePicture;
 class IconButton;
 class RadioButton;
 
@@ -82,12 +81,6 @@ public:
     void reset();
 
 private:
-    struct GroupViews
-    {
-        std::vector<DevicePicture *> images;
-        std::vector<DeviceLabel *> labels;
-    };
-
     void setUpSections();
     void setUpControls();
     void setupData();
@@ -97,13 +90,13 @@ private:
     void createiPadList();
     void chooseVersion(float version, RadioButton *sender);
     void toggleFeature(std::string_view key, CheckboxButton *sender);
-    void showMatches(const std::vector<DeviceRecord> &devices, const GroupViews &views);
+    void showMatches(const std::vector<DeviceRecord> &devices, const DeviceGroup &views);
 
     std::unique_ptr<Ui::DeviceViewController> m_ui;
     DeviceLists m_devices;
-    GroupViews m_iPhoneViews;
-    GroupViews m_iPodViews;
-    GroupViews m_iPadViews;
+    DeviceGroup m_iPhoneViews;
+    DeviceGroup m_iPodViews;
+    DeviceGroup m_iPadViews;
     FilterDictionary m_filterDictionary;
 };
 

@@ -21,6 +21,18 @@ constexpr int iconGap = 8;
 /// The focus ring is a dark line along the edge and a light one inside it, so that one of them shows on any colour.
 constexpr qreal outerRingWidth = 2;
 constexpr qreal innerRingWidth = 1.5;
+/// The relative luminance from which white text has less than two thirds of the contrast that large text needs.
+constexpr double tooLightForWhite = 0.5;
+
+/// As WCAG 2 defines it, 0 for black to 1 for white.
+double relativeLuminance(const QColor &color)
+{
+    const auto linear = [](float component) {
+        const auto value = static_cast<double>(component);
+        return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+}
 
 void strokeInside(QPainter &painter, const QRectF &bounds, qreal offset, qreal width, const QColor &color)
 {
@@ -122,6 +134,12 @@ void FilledButton::drawText(QPainter &painter)
     area.setTop(buttongeometry::filledTextTop(size().height(), height) + metrics.leading());
     area.setHeight(height);
     painter.setFont(m_font);
+    if (relativeLuminance(m_color) > tooLightForWhite) {
+        // A button takes any colour that its owner gives it; a dark edge keeps the text readable on a light one.
+        painter.setPen(palette::chromeText);
+        for (const QPointF &edge : {QPointF(-1, 0), QPointF(1, 0), QPointF(0, -1), QPointF(0, 1)})
+            painter.drawText(area.translated(edge), flags, shown);
+    }
     painter.setPen(palette::buttonText);
     painter.drawText(area, flags, shown);
 }

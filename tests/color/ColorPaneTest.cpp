@@ -154,6 +154,32 @@ private slots:
         QCOMPARE(field()->textColor(), chosen);
     }
 
+    void theCaptionCanBeReadOnEveryColor_data()
+    {
+        QTest::addColumn<QString>("text");
+
+        QTest::newRow("white") << u"#ffffff"_s;
+        QTest::newRow("yellow") << u"#ffff00"_s;
+        QTest::newRow("black") << u"#000000"_s;
+    }
+    void theCaptionCanBeReadOnEveryColor()
+    {
+        QFETCH(QString, text);
+        show(text);
+        m_controller->iosButtonPressed(m_controller->iosButton());
+        const QImage picture = m_controller->iosButton()->grab().toImage();
+        int darkest = 255;
+        int lightest = 0;
+        // Away from the corners, where the panel shows.
+        for (int y = 8; y < picture.height() - 8; ++y) {
+            for (int x = 8; x < picture.width() - 8; ++x) {
+                darkest = std::min(darkest, qGray(picture.pixel(x, y)));
+                lightest = std::max(lightest, qGray(picture.pixel(x, y)));
+            }
+        }
+        QVERIFY2(lightest - darkest > 120, qPrintable(u"%1 to %2"_s.arg(darkest).arg(lightest)));
+    }
+
     void refusesToCopy_data()
     {
         QTest::addColumn<QString>("text");

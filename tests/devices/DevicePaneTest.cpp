@@ -112,6 +112,18 @@ private slots:
         QCOMPARE(m_controller->iPadsImages().at(4)->geometry(), QRect(243, 125, 71, 90));
     }
 
+    void anEmptyListMakesNoViews()
+    {
+        QWidget container;
+        const DeviceGroup none = DeviceGroup::create({}, u"iPhone"_s, placeOfiPad, &container);
+        QVERIFY(none.images.empty());
+        QVERIFY(none.labels.empty());
+        QVERIFY(container.children().isEmpty());
+        const DeviceGroup one = DeviceGroup::create({setupiPads().front()}, u"iPad"_s, placeOfiPad, &container);
+        QCOMPARE(one.images.size(), std::size_t{1});
+        QCOMPARE(container.children().size(), 2);
+    }
+
     void sectionsAndResetButton()
     {
         const auto *ios = m_controller->view()->findChild<QLabel *>(u"iOSLabel"_s);
