@@ -129,7 +129,7 @@ ButtonPage::ButtonPage(QWidget *parent) : GalleryPage(parent)
         made->setParent(band);
         images << band;
     }
-    images.last()->setObjectName(QLatin1String(popoverAnchorName));
+    images.last()->findChild<ImageButton *>()->setObjectName(QLatin1String(popoverAnchorName));
     addRow(QStringLiteral("ImageButton"), images);
 
     QTimer::singleShot(0, this, [=] {

@@ -82,7 +82,7 @@ InputPage::InputPage(QWidget *parent) : GalleryPage(parent)
     addRow(QStringLiteral("ZKTextField"), {textField(QStringLiteral("1024")), textField({}, QStringLiteral("Width")),
                                            edited, secretField(), disabled(textField(QStringLiteral("Disabled")))});
     addRow(QStringLiteral("ZKTextField, text too long, mirrored"),
-           {textField(QStringLiteral("A text that is by far too long to fit")),
+           {textField(QStringLiteral("A text that is by far too long to fit into any box of this size")),
             mirrored(textField(QStringLiteral("Mirrored")))});
 
     auto *animated = progressBar(60, palette::placeholders, palette::placeholdersBorder);

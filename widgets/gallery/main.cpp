@@ -2,15 +2,19 @@
 #include "ButtonPage.h"
 #include "FocusPage.h"
 #include "InputPage.h"
+#include "WindowPage.h"
 
+#include "widgets/AppStyle.h"
 #include "widgets/Fonts.h"
+#include "widgets/FrameClock.h"
 #include "widgets/INAppStoreWindow.h"
+#include "widgets/ImageButton.h"
 #include "widgets/Palette.h"
 #include "widgets/SFBPopover.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QLabel>
-#include <QTimer>
 #include <QVBoxLayout>
 
 using namespace lumora;
@@ -22,30 +26,33 @@ namespace
 QWidget *allPages()
 {
     auto *pages = new QWidget;
-    auto *column = new QVBoxLayout(pages);
-    column->setContentsMargins({});
-    column->setSpacing(0);
-    column->addWidget(new ButtonPage);
-    column->addWidget(new InputPage);
-    column->addWidget(new FocusPage);
+    auto *columns = new QHBoxLayout(pages);
+    columns->setContentsMargins({});
+    columns->setSpacing(0);
+    auto *controls = new QVBoxLayout;
+    controls->setSpacing(0);
+    controls->addWidget(new ButtonPage);
+    controls->addWidget(new InputPage);
+    controls->addWidget(new FocusPage);
+    columns->addLayout(controls);
+    columns->addWidget(new WindowPage, 0, Qt::AlignTop);
     return pages;
 }
 
-/// A popover at the right edge of the control; the control owns it.
-void pointAt(QWidget *control, PopoverPosition position, const QColor &color)
+/// A popover at the right edge of the control.
+void pointAt(const QAbstractButton *control, PopoverPosition position, const QColor &color)
 {
     auto *content = new QLabel(QStringLiteral("SFBPopover, shown by a point of the window"));
     content->setFont(latoRegular(13));
     content->setAlignment(Qt::AlignCenter);
     content->resize(300, 36);
-    auto *popover = new SFBPopover(content, control);
-    popover->setAnimates(false);
+    auto *popover = new SFBPopover(content, control->window());
     popover->setPosition(position);
     popover->setBorderColor(color);
     popover->setBorderWidth(2);
     popover->setBackgroundColor(palette::buttonText);
-    popover->setClosesWhenPopoverResignsKey(false);
-    popover->setClosesWhenApplicationBecomesInactive(false);
+    popover->setClosesWhenPopoverResignsKey(true);
+    QObject::connect(popover, &SFBPopover::closed, popover, &QObject::deleteLater);
     const QPoint point = control->mapTo(control->window(), QPoint(control->width(), control->height() / 2));
     popover->displayPopoverInWindow(control->window(), QPointF(point.x(), control->window()->height() - point.y()));
 }
@@ -54,7 +61,10 @@ void pointAt(QWidget *control, PopoverPosition position, const QColor &color)
 
 int main(int argc, char *argv[])
 {
+    applyAppStyle();
     QApplication application(argc, argv);
+    applyAppColors();
+    const FrameClock frames;
     INAppStoreWindow window;
     window.setTitle(QStringLiteral("Lumora gallery"));
     window.setTitleBarHeight(40);
@@ -64,9 +74,8 @@ int main(int argc, char *argv[])
     window.resize(pages->sizeHint() + QSize(2, 42));
     window.show();
     window.activateWindow();
-    QTimer::singleShot(700, &window, [&window] {
-        pointAt(window.findChild<QWidget *>(QString::fromLatin1(ButtonPage::popoverAnchorName)), PopoverPosition::Right,
-                palette::icons);
-    });
+    const auto *opener = window.findChild<ImageButton *>(QString::fromLatin1(ButtonPage::popoverAnchorName));
+    QObject::connect(opener, &QAbstractButton::clicked, &window,
+                     [&window, opener] { pointAt(opener, PopoverPosition::Right, palette::icons); });
     return QApplication::exec();
 }
