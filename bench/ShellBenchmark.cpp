@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Times tool switches up to the drawn frame, and how long the event loop stalls while all platforms are exported.
+#include "Heartbeat.h"
 #include "app/AppDelegate.h"
 #include "app/ITSidebar.h"
 #include "app/ToolTable.h"
@@ -15,20 +16,13 @@
 #include <QLocale>
 #include <QTemporaryDir>
 #include <QTextStream>
-#include <QTimer>
 
-#include <array>
 #include <vector>
 
 namespace
 {
 
 using namespace lumora;
-
-double milliseconds(qint64 nanoseconds)
-{
-    return static_cast<double>(nanoseconds) / 1e6;
-}
 
 qint64 switchTo(AppDelegate &delegate, qint32 index)
 {
@@ -76,48 +70,6 @@ void timeMaking(AppDelegate &delegate, QTextStream &out)
     out << "made behind the first frame: " << milliseconds(all.nsecsElapsed()) << " ms, longest turn "
         << milliseconds(longest) << " ms\n";
 }
-
-/// A timer that should fire every millisecond; how much later it does is how long the loop could not take input.
-class Heartbeat final : public QObject
-{
-public:
-    Heartbeat()
-    {
-        m_timer.setTimerType(Qt::PreciseTimer);
-        m_timer.setInterval(1);
-        connect(&m_timer, &QTimer::timeout, this, [this] { beat(); });
-        m_clock.start();
-        m_timer.start();
-    }
-
-    void print(QTextStream &out) const
-    {
-        static constexpr std::array<double, 7> limits = {2, 4, 8, 16, 30, 60, 1e9};
-        std::array<int, limits.size()> counts{};
-        for (const qint64 gap : m_gaps) {
-            const auto place =
-                std::find_if(limits.begin(), limits.end(), [gap](double limit) { return milliseconds(gap) <= limit; });
-            ++counts.at(static_cast<std::size_t>(place - limits.begin()));
-        }
-        for (std::size_t bucket = 0; bucket < limits.size(); ++bucket) {
-            const bool last = bucket + 1 == limits.size();
-            out << "  " << (last ? QStringLiteral("above 60") : QStringLiteral("to %1").arg(limits.at(bucket)))
-                << " ms: " << counts.at(bucket) << '\n';
-        }
-        out << "  longest " << milliseconds(*std::max_element(m_gaps.begin(), m_gaps.end())) << " ms\n";
-    }
-
-private:
-    void beat()
-    {
-        m_gaps.push_back(m_clock.nsecsElapsed());
-        m_clock.restart();
-    }
-
-    QTimer m_timer;
-    QElapsedTimer m_clock;
-    std::vector<qint64> m_gaps;
-};
 
 void timeStalls(AppDelegate &delegate, RecordingServices &services, QTextStream &out)
 {
