@@ -6,6 +6,7 @@
 #include "BusApplication.h"
 #include "Display.h"
 #include "FileOpenFilter.h"
+#include "FontPreparation.h"
 #include "TerminationSignals.h"
 #include "WindowArguments.h"
 #include "cli/CommandLine.h"
@@ -76,6 +77,8 @@ int runWindow(int argc, char **argv)
         return static_cast<int>(ExitStatus::Refused);
     }
 
+    // Behind what the display changes in the environment, which the other thread reads.
+    FontPreparation fonts;
     applyAppStyle();
     const QApplication application(argc, argv);
     nameApplication();
@@ -86,6 +89,7 @@ int runWindow(int argc, char **argv)
     loadResources();
     QApplication::setLayoutDirection(installTexts(*qApp, QLocale::system()).textDirection());
     QApplication::setApplicationDisplayName(qtTrId("APP_DEFAULT"));
+    fonts.wait();
     applyAppColors();
     const FrameClock frames;
 

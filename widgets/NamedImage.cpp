@@ -66,10 +66,10 @@ private:
 
 } // namespace
 
-NamedImage::NamedImage(const QString &name) : m_name(name)
+QSizeF NamedImage::size() const
 {
-    if (const QSvgRenderer *renderer = rendererOf(name))
-        m_size = renderer->defaultSize();
+    const QSvgRenderer *renderer = m_name.isEmpty() ? nullptr : rendererOf(m_name);
+    return renderer == nullptr ? QSizeF() : QSizeF(renderer->defaultSize());
 }
 
 QPixmap NamedImage::pixmap(const QSizeF &size, qreal devicePixelRatio) const

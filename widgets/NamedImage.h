@@ -11,18 +11,18 @@ namespace lumora
 {
 
 /// A picture from the program's resources, fetched by its name ("icon_icons") and drawn sharp at every size and scale
-/// factor. A cheap value: copies share what was decoded. A name without a picture gives a null image that draws
-/// nothing.
+/// factor. A cheap value: copies share what was decoded, which is done when a picture is first looked at. A name
+/// without a picture gives a null image that draws nothing.
 class NamedImage
 {
 public:
     NamedImage() = default;
-    explicit NamedImage(const QString &name);
+    explicit NamedImage(const QString &name) : m_name(name) {}
 
-    bool isNull() const { return m_size.isEmpty(); }
+    bool isNull() const { return size().isEmpty(); }
     const QString &name() const { return m_name; }
     /// The size it was drawn for, in points.
-    QSizeF size() const { return m_size; }
+    QSizeF size() const;
 
     /// Draws the whole picture into the rectangle, keeping the painter's state.
     void paint(QPainter *painter, const QRectF &target, qreal opacity = 1.0) const;
@@ -35,7 +35,6 @@ public:
 
 private:
     QString m_name;
-    QSizeF m_size;
 };
 
 } // namespace lumora
