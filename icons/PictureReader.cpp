@@ -133,7 +133,8 @@ Result<QImage> readStraightPicture(const QByteArray &bytes, const QString &name)
     if (format == "icns")
         return readStraightPicture(largestIcnsPicture(bytes), name);
     QImage picture = isWhole(bytes) ? decode(bytes, format) : QImage();
-    if (picture.isNull())
+    // Some decoders find another size on their way than the one they told from the header, which was checked.
+    if (picture.isNull() || (picture.size() != size && picture.size() != size.transposed()))
         return Failure{FailureCode::NotAPicture, name, QStringLiteral("damaged")};
     return toSrgb(std::move(picture));
 }

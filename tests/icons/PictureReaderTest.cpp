@@ -49,6 +49,7 @@ private slots:
     void readsEveryKindOfPng();
     void takesTheLargestOfAnIconFile();
     void resolutionIsIgnored();
+    void anotherSizeThanTheHeadersIsRefused();
     void refuses_data();
     void refuses();
     void hugeClaimCostsNothing_data();
@@ -170,6 +171,24 @@ void PictureReaderTest::resolutionIsIgnored()
     QVERIFY(read.ok());
     QCOMPARE(read.value().size(), QSize(64, 48));
     QCOMPARE(read.value().devicePixelRatio(), 1.0);
+}
+
+void PictureReaderTest::anotherSizeThanTheHeadersIsRefused()
+{
+    // Of a screen so much higher than its only frame the decoder tells the frame's size, but makes the screen's.
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"high.gif"_s);
+    QCOMPARE(QProcess::execute(u"convert"_s, {u"-size"_s, u"23x17"_s, u"plasma:red-blue"_s, path}), 0);
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QByteArray bytes = file.readAll();
+    QVERIFY(readPicture(bytes, u"x"_s).ok());
+    constexpr qsizetype screenHeightAt = 8;
+    bytes.replace(screenHeightAt, 2, QByteArray("\x00\x11", 2));
+    QCOMPARE(storedPixelSize(bytes, u"x"_s).value(), QSize(23, 17));
+    const Result<QImage> read = readPicture(bytes, u"x"_s);
+    QVERIFY(!read.ok());
+    QCOMPARE(read.failure().code, FailureCode::NotAPicture);
 }
 
 void PictureReaderTest::refuses_data()
