@@ -51,6 +51,10 @@ private slots:
     void namesEveryOption();
     void bashOffers_data();
     void bashOffers();
+    void fishOffers_data();
+    void fishOffers();
+    void zshOffers_data();
+    void zshOffers();
 };
 
 void ShellHelpTest::namesEveryOption_data()
@@ -104,6 +108,55 @@ void ShellHelpTest::bashOffers()
                               words);
     QVERIFY(bash.waitForFinished());
     QTEST(QString::fromUtf8(bash.readAllStandardOutput()).trimmed(), "offers");
+}
+
+void ShellHelpTest::fishOffers_data()
+{
+    QTest::addColumn<QString>("line");
+    QTest::addColumn<QStringList>("offers");
+    QTest::newRow("commands") << u"lumora down"_s << QStringList{u"downscale"_s};
+    QTest::newRow("options") << u"lumora icons --p"_s << QStringList{u"--platform"_s};
+    QTest::newRow("a platform") << u"lumora icons --platform i"_s << QStringList{u"ipad"_s, u"iphone"_s};
+    QTest::newRow("a second platform") << u"lumora icons --platform mac,f"_s << QStringList{u"mac,favicon"_s};
+    QTest::newRow("corners") << u"lumora icon --corners ios"_s << QStringList{u"ios6"_s, u"ios7"_s};
+    QTest::newRow("folders only") << u"lumora icons --to /et"_s << QStringList{u"/etc/"_s};
+}
+
+void ShellHelpTest::fishOffers()
+{
+    QFETCH(QString, line);
+    QProcess fish;
+    fish.start(u"fish"_s, {u"--no-config"_s, u"-c"_s, u"source $argv[1]; complete -C $argv[2]"_s,
+                           QStringLiteral(LUMORA_SOURCE_DIR "/packaging/shell/lumora.fish"), line});
+    QVERIFY(fish.waitForFinished());
+    QCOMPARE(fish.readAllStandardError(), QByteArray());
+    QStringList found;
+    for (const QString &offer : QString::fromUtf8(fish.readAllStandardOutput()).split(u'\n', Qt::SkipEmptyParts))
+        found << offer.section(u'\t', 0, 0);
+    QTEST(found, "offers");
+}
+
+void ShellHelpTest::zshOffers_data()
+{
+    QTest::addColumn<QString>("line");
+    QTest::addColumn<QString>("offers");
+    QTest::newRow("commands") << u"lumora ic"_s << u"write one icon of a size of your own"_s;
+    QTest::newRow("options") << u"lumora icons --p"_s << u"platform"_s;
+    QTest::newRow("a platform") << u"lumora icons --platform i"_s << u"iphone"_s;
+    QTest::newRow("a second platform") << u"lumora icons --platform mac,f"_s << u"favicon"_s;
+    QTest::newRow("corners") << u"lumora icon --corners io"_s << u"ios7"_s;
+    QTest::newRow("features") << u"lumora devices --feature gy"_s << u"gyroscope"_s;
+}
+
+void ShellHelpTest::zshOffers()
+{
+    QFETCH(QString, line);
+    QFETCH(QString, offers);
+    QProcess zsh;
+    zsh.start(u"zsh"_s, {u"-f"_s, QStringLiteral(LUMORA_SOURCE_DIR "/tests/cli/complete.zsh"),
+                         QStringLiteral(LUMORA_SOURCE_DIR "/packaging/shell"), line, offers});
+    QVERIFY2(zsh.waitForFinished(), "zsh never offered it");
+    QCOMPARE(zsh.exitCode(), 0);
 }
 
 QTEST_GUILESS_MAIN(ShellHelpTest)
