@@ -41,6 +41,9 @@ def wait_for(what, condition, seconds=WAIT):
 
 
 class Desktop:
+    # Whether a drag may offer a link and nothing else, or a copy and no link.
+    has_links = True
+
     """Owns every process of the desktop; leaving the `with` block ends them all."""
 
     def __init__(self, program, drag_source=None, size="1600x1200", scale=1, language="en_GB.UTF-8"):
@@ -166,13 +169,14 @@ class Desktop:
     def drag_files(self, files, to, actions="copy,move,link", before_drop=None):
         """Drags the files out of another process's window and drops them at the point. `before_drop` is called while
         the pointer rests there."""
-        if self.source:
-            self.source.terminate()
-            self.source.wait(WAIT)
-        self.source = source = self.run(str(self.drag_source), actions, *map(str, files))
-        window = wait_for("the drag's source", lambda: self._window_of(source))
-        self.xdotool("windowmove", "--sync", window, 1400, 20)
-        start = (1450, 80)
+        start = None
+        while not start:
+            if self.source:
+                self.source.terminate()
+                self.source.wait(WAIT)
+                wait_for("the last drag's source to go", self._is_source_gone)
+            self.source = self.run(str(self.drag_source), actions, *map(str, files))
+            start = self._grip(to)
         self.xdotool("mousemove", *start, "mousedown", 1)
         # The drag begins only once the pointer has travelled, and every window on the way has to hear of it.
         steps = 16
@@ -183,6 +187,20 @@ class Desktop:
         if before_drop:
             before_drop()
         self.xdotool("mouseup", 1)
+
+    def _is_source_gone(self):
+        """Whether what is seen of the next drag's source is its own."""
+        return True
+
+    def _grip(self, _):
+        """Where the drag's source is held, out of the way of where the drag goes; None where it is in the way."""
+        window = wait_for("the drag's source", lambda: self._window_of(self.source))
+        self.xdotool("windowmove", "--sync", window, 1400, 20)
+        return 1450, 80
+
+    def move_window(self, lumora, x, y):
+        """Puts Lumora's window there, if anything but a hand may move a window here."""
+        self.xdotool("windowmove", "--sync", lumora.window, x, y)
 
     def _window_of(self, process):
         found = subprocess.run(["xdotool", "search", "--onlyvisible", "--pid", str(process.pid)],

@@ -5,6 +5,7 @@
 #include <QDrag>
 #include <QMimeData>
 #include <QMouseEvent>
+#include <QPalette>
 #include <QTextStream>
 #include <QUrl>
 #include <QWidget>
@@ -27,6 +28,9 @@ public:
     Source(Qt::DropActions actions, QList<QUrl> files) : m_actions(actions), m_files(std::move(files))
     {
         resize(120, 120);
+        // Found by its colour where windows have no numbers.
+        setAutoFillBackground(true);
+        setPalette(QPalette(Qt::magenta));
     }
 
 protected:

@@ -4,7 +4,8 @@
 import subprocess
 import sys
 
-from desktop import Desktop, wait_for
+from desktop import wait_for
+from window_system import Desktop
 
 MATCHES, FADED = "meets the choice", "does not meet the choice"
 IPODS = {"iPod 1G", "iPod 2G", "iPod 3G", "iPod 4G", "iPod 5G"}

@@ -6,7 +6,8 @@ import sys
 import tempfile
 from pathlib import Path
 
-from desktop import Desktop, wait_for
+from desktop import wait_for
+from window_system import Desktop
 
 
 def picture(path, size):
@@ -26,14 +27,15 @@ def main(program, drag_source):
         mine, other, small = (picture(scratch / "mine.png", 1024), picture(scratch / "other.png", 1024),
                               picture(scratch / "small.png", 512))
         lumora = desktop.start()
-        desktop.xdotool("windowmove", "--sync", lumora.window, 100, 100)
+        desktop.move_window(lumora, 100, 100)
         lumora.wait_shown("Source icon")
         drop_area = lumora.controls(None, "Drop area for the source icon")[0]
 
         # A drag that may only be copied is turned away, one that may be linked is taken.
-        desktop.drag_files([mine], drop_area.middle, actions="copy")
-        wait_for("the refusal in the log", lambda: "Error - Copied?!" in desktop.log())
-        assert not lumora.shows("mine.png")
+        if desktop.has_links:
+            desktop.drag_files([mine], drop_area.middle, actions="copy")
+            wait_for("the refusal in the log", lambda: "Error - Copied?!" in desktop.log())
+            assert not lumora.shows("mine.png")
         desktop.drag_files([mine, other], drop_area.middle)
         lumora.wait_shown("mine.png")
 

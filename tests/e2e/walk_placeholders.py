@@ -7,7 +7,8 @@ import sys
 import tempfile
 from pathlib import Path
 
-from desktop import Desktop, wait_for
+from desktop import wait_for
+from window_system import Desktop
 
 SUBTITLES = {"ios": "Nine sizes for iPhone, iPod and iPad", "mac": "Four sizes for icons and screens",
              "custom": "One picture, 1 to 9999 pixels a side"}

@@ -10,7 +10,8 @@ import tempfile
 import time
 from pathlib import Path
 
-from desktop import Desktop, Missing, wait_for
+from desktop import Missing, wait_for
+from window_system import Desktop
 
 FIXTURES = Path(__file__).resolve().parent.parent / "validator"
 FACTS = ("Name: Demo", "Version: 1.2.3", "Platform: iPhone", "Oldest iOS: 7.0", "Bundle ID: com.example.app", "Build: Debug")
@@ -56,7 +57,7 @@ def by_mouse(desktop, scratch, work):
     close_button(lumora).click()
     lumora.wait_shown(DROP_AREA)
 
-    desktop.xdotool("windowmove", "--sync", lumora.window, 100, 100)
+    desktop.move_window(lumora, 100, 100)
     drop_area = lumora.controls(None, DROP_AREA)[0]
     desktop.drag_files([scratch / "valid.ipa", scratch / "one icon.ipa"], drop_area.middle)
     lumora.wait_shown("One package at a time")

@@ -47,16 +47,6 @@ class ProbeDesktop(WaylandDesktop):
         wait_for("the window", self.window_box)
         return wait_for("the window to rest", lambda: (box := self.window_box()) == self.window_box() and box)
 
-    def bounds(self, color):
-        """x, y, width, height around all pixels of the colour; None without one."""
-        name = "rgb(%d,%d,%d)" % color
-        answer = self.pixels("-fill", "black", "+opaque", name, "-format", "%@", "info:").decode()
-        size, x, y = answer.split("+")
-        width, height = map(int, size.split("x"))
-        # Of a picture without the colour nothing is trimmed.
-        whole = (width, height) == tuple(map(int, self.size.split("x")))
-        return None if whole or width * height == 0 else (int(x), int(y), width, height)
-
     def point(self, x, y):
         """A point of the window, from its upper left corner."""
         return self.window[0] + x, self.window[1] + y

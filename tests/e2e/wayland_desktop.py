@@ -20,6 +20,9 @@ class WaylandDesktop(Desktop):
     BACKGROUND = (32, 36, 40)
     # Nothing but a window has so long a row of pixels that are not the background's: no pointer, no popover's edge.
     SMALLEST_WINDOW = 250
+    # What drag_source paints.
+    SOURCE = (255, 0, 255)
+    has_links = False
 
     def _start_window_system(self):
         width, height = map(int, self.size.split("x"))
@@ -54,6 +57,16 @@ class WaylandDesktop(Desktop):
     def pixel(self, x, y):
         return tuple(self.pixels("-crop", f"1x1+{round(x)}+{round(y)}", "-depth", "8", "rgb:-"))
 
+    def bounds(self, color):
+        """x, y, width, height around all pixels of the colour; None without one."""
+        name = "rgb(%d,%d,%d)" % color
+        answer = self.pixels("-fill", "black", "+opaque", name, "-format", "%@", "info:").decode()
+        size, x, y = answer.split("+")
+        width, height = map(int, size.split("x"))
+        # Of a picture without the colour nothing is trimmed.
+        whole = (width, height) == tuple(map(int, self.size.split("x")))
+        return None if whole or width * height == 0 else (int(x), int(y), width, height)
+
     def window_box(self):
         """x, y, width, height of the largest thing on the desktop, in pixels; None on an empty desktop."""
         background = "rgb(%d,%d,%d)" % self.BACKGROUND
@@ -76,8 +89,25 @@ class WaylandDesktop(Desktop):
         return None
 
     def activate(self, lumora):
-        # A window has the keyboard from the moment it is shown; the compositor offers no other way than a press.
-        pass
+        # A window has the keyboard from the moment it is shown until another one is; the compositor offers no other way than a
+        # press. The other one here is a drag's source.
+        if self.source:
+            self.source.terminate()
+            self.source.wait()
+            self.source = None
+            wait_for("the drag's source to go", self._is_source_gone)
 
     def to_screen(self, x, y):
         return x + self.offset[0], y + self.offset[1]
+
+    def _is_source_gone(self):
+        return not self.bounds(self.SOURCE)
+
+    def _grip(self, to):
+        x, y, width, height = wait_for("the drag's source", lambda: self.bounds(self.SOURCE))
+        around = 40  # its title bar and shadow
+        covered = x - around < to[0] < x + width + around and y - around < to[1] < y + height + around
+        return None if covered else (x + width // 2, y + height // 2)
+
+    def move_window(self, lumora, x, y):
+        pass
