@@ -159,6 +159,8 @@ PngSection makePngSection(const PngRows &picture, int index)
     PngSection section = finished(compressed(picture, {first, end}));
     if (index + 1 < sections)
         keepOpen(section.deflated);
+    // Made as long as the worst case; of a large and plain picture nearly all of that would stay behind.
+    section.deflated.squeeze();
     return section;
 }
 

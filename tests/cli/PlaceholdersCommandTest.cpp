@@ -59,7 +59,8 @@ private slots:
         QCOMPARE(write({u"--size"_s, u"9999x9999"_s}).status, 0);
         QVERIFY(filesBelowFolder(out()).contains(u"placeholders/placeholder_9999x9999.png"_s));
 #if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
-        QVERIFY2(peakMemory() < 600'000'000, qPrintable(QString::number(peakMemory())));
+        // Its pixels alone would be 400 MB; what it takes is hardly more than the program itself.
+        QVERIFY2(peakMemory() < 100'000'000, qPrintable(QString::number(peakMemory())));
 #endif
     }
 
