@@ -4,15 +4,11 @@
 #include "TestPictures.h"
 #include "foundation/Log.h"
 #include "icons/IconRendering.h"
-#include "icons/IconsetPacker.h"
 #include "icons/PictureReader.h"
+#include "tests/cli/FilesOnDisk.h"
 
-#include <QDirIterator>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QtEndian>
-
-#include <mutex>
 
 using namespace lumora;
 using namespace Qt::StringLiterals;
@@ -26,28 +22,6 @@ void keepLogLines(QtMsgType, const QMessageLogContext &context, const QString &l
 {
     if (qstrcmp(context.category, lumoraLog().categoryName()) == 0)
         logged << line;
-}
-
-bool put(const QString &path, const QByteArray &content = "x")
-{
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
-}
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-QStringList filesBelow(const QString &folder)
-{
-    QStringList files;
-    QDirIterator below(folder, QDir::Files, QDirIterator::Subdirectories);
-    while (below.hasNext())
-        files << QDir(folder).relativeFilePath(below.next());
-    files.sort();
-    return files;
 }
 
 const QList<IconPlatform> everyPlatform = {IconPlatform::IPhone,  IconPlatform::IPad,     IconPlatform::Mac,
@@ -64,19 +38,6 @@ PlatformIconsRequest requestFor(const QList<IconPlatform> &platforms, const QStr
     return request;
 }
 
-class RecordingPacker final : public IconsetPacker
-{
-public:
-    Result<QString> pack(const QString &iconsetPath) const override
-    {
-        calls << iconsetPath;
-        pictures = QDir(iconsetPath).entryList(QDir::Files).size();
-        return Failure{FailureCode::CannotWrite, iconsetPath, u"refused"_s};
-    }
-    mutable QStringList calls;
-    mutable qsizetype pictures = 0;
-};
-
 } // namespace
 
 class IconExportTest : public QObject
@@ -91,10 +52,6 @@ private slots:
     void folderName_data();
     void folderName();
     void logLines();
-    void macOnly();
-    void macIconFileHoldsTheTenPictures();
-    void packerIsGivenTheFilledIconset();
-    void packerFailureIsRecordedOnly();
     void platformsAreAskedOneByOne();
     void progressCountsEveryFile();
     void sameBytesOnEveryRun();
@@ -105,7 +62,6 @@ private slots:
     void customIcon_data();
     void customIcon();
     void customIconStopsWithoutItsFolder();
-    void iconutilIsCalledAsItWants();
 };
 
 void IconExportTest::init()
@@ -121,7 +77,7 @@ void IconExportTest::allPlatforms()
     QCOMPARE(result.folder, (ExportFolder{folder.filePath(u"icons"_s), false}));
     QVERIFY(result.failures().isEmpty());
     QCOMPARE(result.files.size(), 51);
-    QCOMPARE(filesBelow(folder.path()).size(), 52);
+    QCOMPARE(filesBelowFolder(folder.path()).size(), 52);
     std::size_t index = 0;
     for (const PlatformIcons &platform : iconPlatforms) {
         for (const IconEntry &icon : platform.icons) {
@@ -184,13 +140,13 @@ void IconExportTest::folderName()
     for (const QString &taking : folders)
         QVERIFY(QDir(folder.path()).mkdir(taking));
     for (const QString &taking : files)
-        QVERIFY(put(folder.filePath(taking)));
+        QVERIFY(putFile(folder.filePath(taking), "x"));
     const IconExport platforms = generatePlatformIcons(requestFor({IconPlatform::Favicon}, folder.path()));
     QCOMPARE(platforms.folder, (ExportFolder{folder.filePath(name), taken}));
-    QCOMPARE(filesBelow(folder.filePath(name)).size(), 5);
+    QCOMPARE(filesBelowFolder(folder.filePath(name)).size(), 5);
     QCOMPARE(logged.contains(u"Folder exists!"_s), taken);
     for (const QString &taking : files)
-        QCOMPARE(contentOf(folder.filePath(taking)), QByteArray("x"));
+        QCOMPARE(contentOfFile(folder.filePath(taking)), QByteArray("x"));
 }
 
 void IconExportTest::logLines()
@@ -200,68 +156,6 @@ void IconExportTest::logLines()
     QCOMPARE(logged, (QStringList{u"Export iPhone icons"_s, u"Export iPad icons"_s, u"Export mac icons"_s,
                                   u"iconsset: "_s + folder.filePath(u"icons/Mac/icons.iconset"_s),
                                   u"Export android icons"_s, u"Export web icons"_s, u"Export favicons icons"_s}));
-}
-
-void IconExportTest::macOnly()
-{
-    const QTemporaryDir folder;
-    const IconExport result = generatePlatformIcons(requestFor({IconPlatform::Mac}, folder.path()));
-    QStringList wanted{u"icons/Mac/icons.icns"_s};
-    for (const IconEntry &icon : MacIcons)
-        wanted << u"icons/Mac/icons.iconset/"_s + QLatin1StringView(icon.name);
-    wanted.sort();
-    QCOMPARE(filesBelow(folder.path()), wanted);
-    QCOMPARE(result.icns, folder.filePath(u"icons/Mac/icons.icns"_s));
-}
-
-void IconExportTest::macIconFileHoldsTheTenPictures()
-{
-    const QTemporaryDir folder;
-    PlatformIconsRequest request = requestFor({IconPlatform::Mac}, folder.path());
-    const OwnIconsetPacker packer;
-    request.packer = &packer;
-    const QByteArray file = contentOf(generatePlatformIcons(request).icns);
-    QCOMPARE(file.first(4), QByteArray("icns"));
-    QCOMPARE(qFromBigEndian<quint32>(file.constData() + 4), static_cast<quint32>(file.size()));
-    const QByteArrayList types = {"icp4", "ic11", "icp5", "ic12", "ic07", "ic13", "ic08", "ic14", "ic09", "ic10"};
-    qsizetype at = 8;
-    for (qsizetype index = 0; index < types.size(); ++index) {
-        QCOMPARE(file.mid(at, 4), types[index]);
-        const qsizetype length = qFromBigEndian<quint32>(file.constData() + at + 4);
-        const QString picture = folder.filePath(u"icons/Mac/icons.iconset/"_s +
-                                                QLatin1StringView(MacIcons[static_cast<std::size_t>(index)].name));
-        QCOMPARE(file.mid(at + 8, length - 8), contentOf(picture));
-        at += length;
-    }
-    QCOMPARE(at, file.size());
-    // Our own reader takes the largest of them.
-    const Result<QImage> back = readPicture(file, u"icns"_s);
-    QVERIFY(back.ok());
-    QCOMPARE(back.value(), resizeImage(request.icon, 1024));
-}
-
-void IconExportTest::packerIsGivenTheFilledIconset()
-{
-    const QTemporaryDir folder;
-    PlatformIconsRequest request = requestFor({IconPlatform::Mac}, folder.path());
-    const RecordingPacker packer;
-    request.packer = &packer;
-    (void)generatePlatformIcons(request);
-    QCOMPARE(packer.calls, QStringList{folder.filePath(u"icons/Mac/icons.iconset"_s)});
-    QCOMPARE(packer.pictures, 10);
-}
-
-void IconExportTest::packerFailureIsRecordedOnly()
-{
-    const QTemporaryDir folder;
-    PlatformIconsRequest request = requestFor({IconPlatform::Mac, IconPlatform::Favicon}, folder.path());
-    const RecordingPacker packer;
-    request.packer = &packer;
-    const IconExport result = generatePlatformIcons(request);
-    QVERIFY(result.icns.isEmpty());
-    QVERIFY(result.icnsFailure.has_value());
-    QCOMPARE(result.failures().size(), 1);
-    QCOMPARE(filesBelow(folder.path()).size(), 15);
 }
 
 void IconExportTest::platformsAreAskedOneByOne()
@@ -316,12 +210,13 @@ void IconExportTest::sameBytesOnEveryRun()
     PlatformIconsRequest request = requestFor(everyPlatform, folder.path());
     request.expected.clear();
     (void)generatePlatformIcons(request);
-    const QStringList files = filesBelow(folder.filePath(u"icons"_s));
-    QCOMPARE(files, filesBelow(folder.filePath(u"icons_1"_s)));
+    const QStringList files = filesBelowFolder(folder.filePath(u"icons"_s));
+    QCOMPARE(files, filesBelowFolder(folder.filePath(u"icons_1"_s)));
     for (const QString &file : files)
-        QCOMPARE(contentOf(folder.filePath(u"icons/"_s + file)), contentOf(folder.filePath(u"icons_1/"_s + file)));
-    QCOMPARE(contentOf(folder.filePath(u"icons/Web Touch/apple-touch-icon.png"_s)),
-             contentOf(folder.filePath(u"icons/Web Touch/apple-touch-icon-precomposed.png"_s)));
+        QCOMPARE(contentOfFile(folder.filePath(u"icons/"_s + file)),
+                 contentOfFile(folder.filePath(u"icons_1/"_s + file)));
+    QCOMPARE(contentOfFile(folder.filePath(u"icons/Web Touch/apple-touch-icon.png"_s)),
+             contentOfFile(folder.filePath(u"icons/Web Touch/apple-touch-icon-precomposed.png"_s)));
 }
 
 void IconExportTest::blockedFolder_data()
@@ -345,7 +240,7 @@ void IconExportTest::blockedFolder()
     // The export folder is fresh, so the name can only be taken once the run has begun.
     request.isChosen = [&](const PlatformIcons &asked) {
         if (asked.platform == IconPlatform::IPhone)
-            put(folder.filePath(u"icons/"_s + blocked));
+            putFile(folder.filePath(u"icons/"_s + blocked), "x");
         return chosen(asked);
     };
     const IconExport result = generatePlatformIcons(request);
@@ -359,7 +254,7 @@ void IconExportTest::blockedFolder()
     }
     QCOMPARE(result.files.size() - missing, written);
     QCOMPARE(missing, static_cast<int>(platform == IconPlatform::Mac ? MacIcons.size() : AndroidIcons.size()));
-    QCOMPARE(filesBelow(folder.filePath(u"icons/Favicon"_s)).size(), 5);
+    QCOMPARE(filesBelowFolder(folder.filePath(u"icons/Favicon"_s)).size(), 5);
 }
 
 void IconExportTest::missingDestination()
@@ -372,7 +267,7 @@ void IconExportTest::missingDestination()
     QCOMPARE(result.files.size(), 51);
     for (const IconFile &file : result.files)
         QVERIFY(file.failure.has_value());
-    QVERIFY(filesBelow(folder.path()).isEmpty());
+    QVERIFY(filesBelowFolder(folder.path()).isEmpty());
 }
 
 void IconExportTest::missingSource()
@@ -382,7 +277,7 @@ void IconExportTest::missingSource()
     request.icon = QImage();
     const IconExport result = generatePlatformIcons(request);
     QCOMPARE(result.failures().size(), 5);
-    QVERIFY(filesBelow(folder.path()).isEmpty());
+    QVERIFY(filesBelowFolder(folder.path()).isEmpty());
 }
 
 void IconExportTest::customIcon_data()
@@ -406,7 +301,7 @@ void IconExportTest::customIcon()
     const QImage picture = testPicture(1024, 1024);
     const IconExport result = generateCustomIcon({picture, folder.path(), size, mode});
     QVERIFY(result.failures().isEmpty());
-    QCOMPARE(filesBelow(folder.path()), QStringList{u"icons/Custom/"_s + name});
+    QCOMPARE(filesBelowFolder(folder.path()), QStringList{u"icons/Custom/"_s + name});
     QCOMPARE(result.files.size(), 1);
     QCOMPARE(result.files[0].bytes, QFileInfo(result.files[0].path).size());
     QCOMPARE(readPicture(result.files[0].path).value(), resizeImage(picture, size, mode));
@@ -423,27 +318,6 @@ void IconExportTest::customIconStopsWithoutItsFolder()
     QCOMPARE(result.files[0].failure->code, FailureCode::CannotCreateFolder);
     QCOMPARE(logged,
              (QStringList{u"Folder error: No such file or directory"_s, u"CreateError: No such file or directory"_s}));
-}
-
-void IconExportTest::iconutilIsCalledAsItWants()
-{
-    const QTemporaryDir folder;
-    // A stand-in for the system's tool: it writes down how it was called and makes the file, but fails.
-    const QString tool = folder.filePath(u"iconutil"_s);
-    QVERIFY(
-        put(tool, "#!/bin/sh\nprintf '%s|' \"$@\" > \"$3/../called\"\necho made > \"${3%.iconset}.icns\"\nexit 3\n"));
-    QVERIFY(QFile::setPermissions(tool, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
-    PlatformIconsRequest request = requestFor({IconPlatform::Mac}, folder.path());
-    const IconutilPacker packer(tool);
-    request.packer = &packer;
-    const IconExport result = generatePlatformIcons(request);
-    const QString iconset = folder.filePath(u"icons/Mac/icons.iconset"_s);
-    QCOMPARE(contentOf(folder.filePath(u"icons/Mac/called"_s)), "-c|icns|" + iconset.toUtf8() + '|');
-    QCOMPARE(result.icns, folder.filePath(u"icons/Mac/icons.icns"_s));
-
-    const IconutilPacker missing(folder.filePath(u"no tool"_s));
-    request.packer = &missing;
-    QVERIFY(generatePlatformIcons(request).icnsFailure.has_value());
 }
 
 QTEST_GUILESS_MAIN(IconExportTest)
