@@ -9,6 +9,8 @@
 #include <array>
 #include <vector>
 
+#include <time.h>
+
 namespace lumora
 {
 
@@ -44,19 +46,33 @@ public:
             out << "  " << (last ? QStringLiteral("above 60") : QStringLiteral("to %1").arg(limits.at(bucket)))
                 << " ms: " << counts.at(bucket) << '\n';
         }
-        out << "  longest " << milliseconds(*std::max_element(m_gaps.begin(), m_gaps.end())) << " ms\n";
+        out << "  longest " << milliseconds(*std::max_element(m_gaps.begin(), m_gaps.end()))
+            << " ms; most processor time of this thread in one gap " << milliseconds(m_longestWork) << " ms\n";
     }
 
 private:
+    /// What the thread itself used so far, whatever else the machine did; nanoseconds.
+    static qint64 work()
+    {
+        timespec used = {};
+        ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &used);
+        return qint64{used.tv_sec} * 1'000'000'000 + used.tv_nsec;
+    }
+
     void beat()
     {
         m_gaps.push_back(m_clock.nsecsElapsed());
         m_clock.restart();
+        const qint64 now = work();
+        m_longestWork = std::max(m_longestWork, now - m_workBefore);
+        m_workBefore = now;
     }
 
     QTimer m_timer;
     QElapsedTimer m_clock;
     std::vector<qint64> m_gaps;
+    qint64 m_workBefore = work();
+    qint64 m_longestWork = 0;
 };
 
 } // namespace lumora

@@ -9,6 +9,7 @@ either. Times are the best of the runs. Exit status 1 when a promise is broken.
 """
 
 import os
+import plistlib
 import shutil
 import subprocess
 import sys
@@ -23,18 +24,35 @@ LARGE_MAKER = Path(__file__).parent.parent / "tests" / "validator" / "make_large
 
 
 def run(command, **how):
-    """Seconds, processor seconds, and peak memory in MB."""
+    """Seconds and processor seconds."""
     start = time.perf_counter()
     process = subprocess.Popen(command, stdout=subprocess.DEVNULL, **how)
     _, status, usage = os.wait4(process.pid, 0)
     seconds = time.perf_counter() - start
     if os.waitstatus_to_exitcode(status) not in (0, 1):
         sys.exit(f"{command[0]} failed")
-    return seconds, usage.ru_utime + usage.ru_stime, usage.ru_maxrss / 1024
+    return seconds, usage.ru_utime + usage.ru_stime
+
+
+def peak_memory(command, **how):
+    """In MB. The system's own account of it begins with what this script takes, before it becomes the program; so the
+    program is asked while it runs, for the most that it had until then."""
+    process = subprocess.Popen(command, stdout=subprocess.DEVNULL, **how)
+    peak = 0
+    while process.poll() is None:
+        try:
+            if os.readlink(f"/proc/{process.pid}/exe") == str(command[0]):
+                status = Path(f"/proc/{process.pid}/status").read_text()
+                peak = max(peak, *(int(line.split()[1]) for line in status.splitlines() if line.startswith("VmHWM")))
+        except (OSError, TypeError):  # it has ended, or has given its memory back
+            pass
+        time.sleep(0.001)
+    return peak / 1024
 
 
 def many_files(path):
     with zipfile.ZipFile(path, "w") as archive:
+        archive.writestr("Payload/Many.app/Info.plist", plistlib.dumps({"CFBundleDisplayName": "Many"}))
         for number in range(100_000):
             archive.writestr(f"Payload/Many.app/{number % 100}/{number}", b"")
 
@@ -49,25 +67,22 @@ def main():
         subprocess.run([sys.executable, LARGE_MAKER, huge, "3900"], check=True)
         many_files(many)
         environment = {**os.environ, "TMPDIR": str(folder)}
-        unzip, ours, plain_work, icon_work, peak = [], [], [], [], 0.0
+        unzip, ours, plain_work, icon_work = [], [], [], []
         for _ in range(runs):
             out = folder / "unzipped"
             unzip.append(run(["unzip", "-q", large, "-d", out])[0])
             shutil.rmtree(out)
-            seconds, _, memory = run([program, "validate", "--json", large], env=environment)
-            ours.append(seconds)
-            peak = max(peak, memory)
+            ours.append(run([program, "validate", "--json", large], env=environment)[0])
             for _ in range(3):
                 for path, works in ((plain, plain_work), (icons, icon_work)):
                     works.append(run([program, "validate", "--json", path], env=environment)[1])
-        huge_peak, many_peak = (run([program, "validate", "--json", path], env=environment)[2] for path in (huge, many))
+        peaks = [peak_memory([program, "validate", "--json", path], env=environment) for path in (large, huge, many)]
     ratio, extra = min(ours) / min(unzip), (min(icon_work) - min(plain_work)) * 1000
     results = (
         ("lumora validate / unzip -q", ratio, 1.3, f"{min(ours) * 1000:.0f} ms / {min(unzip) * 1000:.0f} ms = {ratio:.2f}"),
         ("200 candidate icons on top", extra, 20, f"{extra:.1f} ms"),
-        ("peak memory", peak, 80, f"{peak:.1f} MB"),
-        ("peak memory, 3.9 GB", huge_peak, 80, f"{huge_peak:.1f} MB"),
-        ("peak memory, 100,000 files", many_peak, 80, f"{many_peak:.1f} MB"),
+        *((f"peak memory, {what}", peak, 80, f"{peak:.1f} MB")
+          for what, peak in zip(("100 MB", "3.9 GB", "100,000 files"), peaks)),
     )
     for name, value, limit, text in results:
         print(f"{'ok  ' if value <= limit else 'MISS'} {name}: {text} (at most {limit})")
