@@ -2,6 +2,7 @@
 #include "BusApplication.h"
 
 #include "LocalFiles.h"
+#include "SilentBus.h"
 #include "foundation/Version.h"
 
 #include <QDBusConnection>
@@ -15,6 +16,7 @@ namespace lumora
 namespace
 {
 
+constexpr char addressVariable[] = "DBUS_SESSION_BUS_ADDRESS";
 const QString interfaceName = QStringLiteral("org.freedesktop.Application");
 
 /// What lets the running program take the focus that this start was given.
@@ -95,6 +97,11 @@ QString BusApplication::objectPath(const QString &id)
 
 BusApplication::Start BusApplication::start(const OpenRequest &request, std::chrono::milliseconds patience)
 {
+    if (isSilentBus(qgetenv(addressVariable), patience)) {
+        // The toolkit would join it too, for its own purposes, and hang.
+        qputenv(addressVariable, "disabled:");
+        return Start::Alone;
+    }
     QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected())
         return Start::Alone;

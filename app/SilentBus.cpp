@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#include "SilentBus.h"
+
+#include <cerrno>
+#include <cstring>
+
+#include <poll.h>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+namespace lumora
+{
+
+namespace
+{
+
+/// A byte 0 begins every connection; the question which ways to authenticate there are has to be answered by all.
+constexpr char greeting[] = "\0AUTH\r\n";
+
+QByteArray pathOf(const QByteArray &address)
+{
+    constexpr char prefix[] = "unix:path=";
+    if (!address.startsWith(prefix))
+        return {};
+    const QByteArray first = address.split(';').first();
+    return first.mid(sizeof prefix - 1).split(',').first();
+}
+
+} // namespace
+
+bool isSilentBus(const QByteArray &address, std::chrono::milliseconds patience)
+{
+    const QByteArray path = pathOf(address);
+    sockaddr_un place{};
+    place.sun_family = AF_UNIX;
+    if (path.isEmpty() || static_cast<std::size_t>(path.size()) >= sizeof place.sun_path)
+        return false;
+    std::memcpy(place.sun_path, path.constData(), static_cast<std::size_t>(path.size()));
+    const int descriptor = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
+    if (descriptor < 0)
+        return false;
+    bool silent = false;
+    constexpr std::size_t length = sizeof greeting - 1;
+    if (::connect(descriptor, reinterpret_cast<const sockaddr *>(&place), sizeof place) == 0) {
+        pollfd answer{descriptor, POLLIN, 0};
+        silent = ::send(descriptor, greeting, length, MSG_NOSIGNAL) == static_cast<ssize_t>(length) &&
+                 ::poll(&answer, 1, static_cast<int>(patience.count())) == 0;
+    } else {
+        // Nobody has taken the connections that wait there already.
+        silent = errno == EAGAIN;
+    }
+    ::close(descriptor);
+    return silent;
+}
+
+} // namespace lumora
