@@ -27,9 +27,9 @@ Result<HalvedPicture> halvedPicture(const QByteArray &bytes, const QString &name
 
 qint64 halvingMemory(QSize pixels)
 {
-    // The decoded picture, its conversion to the pipeline's format, and its colour planes; the half-size ones that
-    // follow are made when the first of these is gone.
-    constexpr qint64 bytesPerPixel = 3 * 4;
+    // The costliest pictures are those with transparency: their pixels, colour planes of 16 bits a sample, the same
+    // planes at half the size, and the half itself.
+    constexpr qint64 bytesPerPixel = 4 + 8 + 2 + 1;
     return bytesPerPixel * pixels.width() * pixels.height();
 }
 
