@@ -21,30 +21,14 @@ import tempfile
 import time
 from pathlib import Path
 
-WAIT = float(os.environ.get("LUMORA_E2E_WAIT", "60"))
-
-
-class Missing(AssertionError):
-    """Something that should have come did not come in time."""
-
-
-def wait_for(what, condition, seconds=WAIT):
-    """Answers the first true answer of the condition; raises Missing after the time."""
-    end = time.monotonic() + seconds
-    while True:
-        answer = condition()
-        if answer:
-            return answer
-        if time.monotonic() > end:
-            raise Missing(f"waited {seconds:.0f} s in vain for {what}")
-        time.sleep(0.05)
+from waiting import WAIT, Missing, wait_for
 
 
 class Desktop:
+    """Owns every process of the desktop; leaving the `with` block ends them all."""
+
     # Whether a drag may offer a link and nothing else, or a copy and no link.
     has_links = True
-
-    """Owns every process of the desktop; leaving the `with` block ends them all."""
 
     def __init__(self, program, drag_source=None, size="1600x1200", scale=1, language="en_GB.UTF-8"):
         self.program = Path(program)
