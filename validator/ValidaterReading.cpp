@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // How a package gets from its path to the validator's pane.
+#include "LongWords.h"
 #include "ShownFact.h"
 #include "ValidaterViewController.h"
 #include "ui_ValidaterViewController.h"
@@ -39,8 +40,9 @@ void ValidaterViewController::foundIpaFile(const QString &path)
     reset();
     m_facts.ipaPath = path;
     readyForIpa();
-    m_ui->readingLoaderField->setText(
-        qtTrId("VALIDATER_READING").replace("[FILE]"_L1, shownFact(QFileInfo(path).fileName())));
+    const QString reading = qtTrId("VALIDATER_READING").replace("[FILE]"_L1, shownFact(QFileInfo(path).fileName()));
+    m_ui->readingLoaderField->setText(breakingLongWords(reading));
+    m_ui->readingLoaderField->setAccessibleName(reading);
     if (!services().hasWorkFolder) {
         updateInterface(m_facts, Failure{FailureCode::CannotCreateFolder, path, {}});
         validate({});

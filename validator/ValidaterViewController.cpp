@@ -258,6 +258,7 @@ void ValidaterViewController::reset()
                             m_ui->validateInterface})
         setOpacity(hidden, 0);
     m_ui->readingLoaderField->clear();
+    m_ui->readingLoaderField->setAccessibleName(QString());
     m_ui->browseButton->setEnabled(true);
     setOpacity(m_ui->dropView, 1);
 }

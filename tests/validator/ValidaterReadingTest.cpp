@@ -73,6 +73,17 @@ private slots:
         QTRY_VERIFY_WITH_TIMEOUT(pane.hasFacts(), readingTime);
     }
 
+    void wrapsALongFileName()
+    {
+        const QString name(100, u'W');
+        QVERIFY(QFile::copy(package(u"valid"_s), package(name)));
+        PaneInWindow pane;
+        pane.tool.dropIpaFileFromDelegate(package(name));
+        QVERIFY(pane.ui().readingLoaderField->minimumSizeHint().width() < pane.tool.view()->width());
+        QVERIFY(pane.ui().readingLoaderField->accessibleName().contains(name));
+        QTRY_VERIFY_WITH_TIMEOUT(pane.hasFacts(), readingTime);
+    }
+
     void unpacksInTheProcessesPrivateFolder()
     {
         PaneInWindow pane;
