@@ -5,6 +5,7 @@
 #include "ColorPainting.h"
 #include "ColorPanel.h"
 #include "PickerMetrics.h"
+#include "color/ColorCode.h"
 #include "widgets/Palette.h"
 
 #include <QGuiApplication>
@@ -41,6 +42,7 @@ ColorWell::ColorWell(QWidget *parent) : PaintedButton(QAccessible::ColorChooser,
 {
     // By key and by screen reader; the pointer acts on going down, as a well does.
     connect(this, &QAbstractButton::clicked, this, [this] { performActivationClickWithShiftDown(false); });
+    describeColor();
 }
 
 ColorWell::~ColorWell()
@@ -53,7 +55,14 @@ void ColorWell::setColor(const RgbaColor &color)
     if (m_color == color)
         return;
     m_color = color;
+    describeColor();
     update();
+}
+
+void ColorWell::describeColor()
+{
+    // Painted only: a screen reader has to be told.
+    setAccessibleDescription(stringFromColor(m_color));
 }
 
 void ColorWell::activate(bool exclusive)

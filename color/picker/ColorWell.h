@@ -53,6 +53,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
+    void describeColor();
     void joinActiveWells(bool exclusive);
     void takePickedColor(const RgbaColor &color);
 

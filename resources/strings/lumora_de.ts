@@ -106,8 +106,8 @@
     <translation>Farbcodes</translation>
   </message>
   <message id="HELP_COLOR_TEXT">
-    <source>Carry a colour from your design into your code. Click the colour well to pick one, or type three or six hexadecimal digits such as #abc or #34485e; field and well follow each other. Each button copies the colour as code, ready to paste: a UIColor for iOS, an NSColor for the Mac, or rgb(red, green, blue) for style sheets. Drag the picker away from the well and it stays open as a window of its own.</source>
-    <translation>Eine Farbe aus dem Entwurf in den Code übernehmen. Zum Auswählen auf das Farbfeld klicken oder drei oder sechs hexadezimale Ziffern wie #abc oder #34485e eingeben; Textfeld und Farbfeld folgen einander. Jeder Knopf kopiert die Farbe als fertigen Code zum Einfügen: als UIColor für iOS, als NSColor für den Mac oder als rgb(Rot, Grün, Blau) für Stylesheets. Wird der Farbwähler vom Farbfeld weggezogen, bleibt er als eigenes Fenster offen.</translation>
+    <source>Carry a colour from your design into your code. Click the colour well to pick one, or type three or six hexadecimal digits such as #abc or #34485e; field and well follow each other. Each button copies the colour as code, ready to paste: a UIColor for iOS, an NSColor for the Mac, rgb(red, green, blue) or a CSS declaration for style sheets. Drag the picker away from the well and it stays open as a window of its own.</source>
+    <translation>Eine Farbe aus dem Entwurf in den Code übernehmen. Zum Auswählen auf das Farbfeld klicken oder drei oder sechs hexadezimale Ziffern wie #abc oder #34485e eingeben; Textfeld und Farbfeld folgen einander. Jeder Knopf kopiert die Farbe als fertigen Code zum Einfügen: als UIColor für iOS, als NSColor für den Mac, als rgb(Rot, Grün, Blau) oder als CSS-Deklaration für Stylesheets. Wird der Farbwähler vom Farbfeld weggezogen, bleibt er als eigenes Fenster offen.</translation>
   </message>
   <message id="HELP_DEVICES">
     <source>Device matrix</source>

@@ -106,8 +106,8 @@
     <translation>Colour codes</translation>
   </message>
   <message id="HELP_COLOR_TEXT">
-    <source>Carry a colour from your design into your code. Click the colour well to pick one, or type three or six hexadecimal digits such as #abc or #34485e; field and well follow each other. Each button copies the colour as code, ready to paste: a UIColor for iOS, an NSColor for the Mac, or rgb(red, green, blue) for style sheets. Drag the picker away from the well and it stays open as a window of its own.</source>
-    <translation>Carry a colour from your design into your code. Click the colour well to pick one, or type three or six hexadecimal digits such as #abc or #34485e; field and well follow each other. Each button copies the colour as code, ready to paste: a UIColor for iOS, an NSColor for the Mac, or rgb(red, green, blue) for style sheets. Drag the picker away from the well and it stays open as a window of its own.</translation>
+    <source>Carry a colour from your design into your code. Click the colour well to pick one, or type three or six hexadecimal digits such as #abc or #34485e; field and well follow each other. Each button copies the colour as code, ready to paste: a UIColor for iOS, an NSColor for the Mac, rgb(red, green, blue) or a CSS declaration for style sheets. Drag the picker away from the well and it stays open as a window of its own.</source>
+    <translation>Carry a colour from your design into your code. Click the colour well to pick one, or type three or six hexadecimal digits such as #abc or #34485e; field and well follow each other. Each button copies the colour as code, ready to paste: a UIColor for iOS, an NSColor for the Mac, rgb(red, green, blue) or a CSS declaration for style sheets. Drag the picker away from the well and it stays open as a window of its own.</translation>
   </message>
   <message id="HELP_DEVICES">
     <source>Device matrix</source>

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "WellsWindow.h"
 
+#include <QAccessible>
 #include <QSignalSpy>
 
 using namespace lumora;
@@ -149,6 +150,18 @@ private slots:
         QCOMPARE(panel()->color(), before);
         panel()->model()->setColor(picked);
         QVERIFY(m_wells->well.color() != picked);
+    }
+
+    void tellsItsColorToAScreenReader()
+    {
+        QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(&m_wells->well);
+        QCOMPARE(interface->role(), QAccessible::ColorChooser);
+        QCOMPARE(interface->text(QAccessible::Description), QStringLiteral("#336699"));
+        m_wells->click(m_wells->well);
+        panel()->model()->setColor(picked);
+        QCOMPARE(interface->text(QAccessible::Description), QStringLiteral("#00ff00"));
+        const ColorWell fresh;
+        QCOMPARE(fresh.accessibleDescription(), QStringLiteral("#ffffff"));
     }
 
     void spaceActivatesTheWellToo()
