@@ -60,6 +60,21 @@ private slots:
         QCoreApplication::setApplicationVersion(u"9.8.7"_s);
     }
 
+    void messageIsSetUp()
+    {
+        const AlertContentView view;
+        QCOMPARE(view.titleLabel()->font(), latoBold(15));
+        QCOMPARE(colorOf(view.titleLabel()), palette::chromeText);
+        QCOMPARE(view.messageLabel()->font(), latoRegular(13));
+        QCOMPARE(colorOf(view.messageLabel()), palette::chromeText);
+        QCOMPARE(view.closeButton()->text(), qtTrId("CLOSE"));
+        QCOMPARE(view.closeButton()->icon(), NamedImage(u"button_icon_close"_s));
+        QVERIFY(!view.closeButton()->icon().isNull());
+        QCOMPARE(view.closeButton()->normalColor(), palette::errorLight);
+        QCOMPARE(view.closeButton()->hoverColor(), palette::errorDark);
+        QCOMPARE(view.closeButton()->activeColor(), palette::errorDark);
+    }
+
     void helpTakesWhatItIsGiven()
     {
         PopupContentView view(m_services.urlOpener);

@@ -120,6 +120,30 @@ private slots:
                  delegate.controller(static_cast<std::size_t>(index))->view());
     }
 
+    void toolKeepsItsInputsWhileAnotherIsShown()
+    {
+        Application application;
+        AppDelegate &delegate = application.delegate;
+        const Ui::IconsViewController &icons = application.icons().outlets();
+        icons.customIconSizeTextField->setString(u"57"_s);
+        icons.androidCheckbox->click();
+        delegate.sideBar()->setSelectedIndex(4);
+        delegate.sideBar()->setSelectedIndex(0);
+        QCOMPARE(delegate.currentController(), static_cast<ToolViewController *>(&application.icons()));
+        QCOMPARE(icons.customIconSizeTextField->string(), u"57"_s);
+        QVERIFY(icons.androidCheckbox->isActive());
+        QVERIFY(icons.androidCheckbox->isVisible());
+    }
+
+    void headerTitleStandsInTheMiddleInWhite()
+    {
+        Application application;
+        const QLabel *title = application.delegate.header()->titleLabel();
+        QCOMPARE(title->font(), latoRegular(20));
+        QCOMPARE(title->palette().color(QPalette::WindowText), QColor(Qt::white));
+        QCOMPARE(title->alignment(), Qt::AlignCenter);
+    }
+
     void untitledDocumentsAreNeverMade()
     {
         Application application;
