@@ -149,9 +149,11 @@ class FileKinds(unittest.TestCase):
     def test_the_extension_tells_a_profile(self):
         self.assertEqual(self.kind("a.mobileprovision", b"\x30\x80"), "application/x-ios-mobileprovision")
 
-    def test_a_package_is_opened_with_lumora(self):
-        result = run("gio", "mime", "application/x-ios-app", env=self.environment)
-        self.assertIn(f"{APPLICATION_ID}.desktop", result.stdout)
+    def test_a_package_and_a_picture_are_opened_with_lumora(self):
+        for kind in ("application/x-ios-app", "image/png"):
+            with self.subTest(kind):
+                result = run("gio", "mime", kind, env=self.environment)
+                self.assertIn(f"{APPLICATION_ID}.desktop", result.stdout)
 
     def test_a_package_is_a_zip_archive_too(self):
         subclasses = (self.folder / "mime" / "subclasses").read_text()

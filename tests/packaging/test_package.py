@@ -70,6 +70,9 @@ class Package(unittest.TestCase):
             self.assertIn(re.search(r"^([^\s:]+):\S+: /", owners, re.M).group(1), names, library)
         self.assertLessEqual({"libqt6svg6", "qt6-image-formats-plugins", "qt6-qpa-plugins", "qt6-wayland"}, names)
 
+    def test_the_toolkits_own_texts_are_recommended(self):
+        self.assertEqual(control("Recommends"), "qt6-translations-l10n")
+
     def test_nothing_is_run_while_installing(self):
         with tempfile.TemporaryDirectory() as folder:
             run("dpkg-deb", "--control", package(), folder)
