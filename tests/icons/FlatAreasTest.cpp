@@ -55,7 +55,8 @@ QImage drawn(Shape shape, QColor colour, QColor ground, int edge = sourceEdge)
     for (int y = 0; y < edge; ++y) {
         for (int x = 0; x < edge; ++x) {
             const double inside = std::clamp(shape(x + 0.5, y + 0.5) + 0.5, 0.0, 1.0);
-            picture.setPixelColor(x, y, mixed(colour, ground, inside));
+            const QColor pixel = inside == 0 ? ground : inside == 1 ? colour : mixed(colour, ground, inside);
+            picture.setPixel(x, y, pixel.rgba());
         }
     }
     return picture;
@@ -155,7 +156,10 @@ void FlatAreasTest::nothingRipplesBesideAnEdge()
             if (std::abs(inside) < reach)
                 continue;
             ++flat;
-            QCOMPARE(result.pixelColor(x, y), inside > 0 ? colour : ground);
+            // Asked first, since a million comparisons by the macro take a minute under the sanitizers.
+            const QColor wanted = inside > 0 ? colour : ground;
+            if (result.pixel(x, y) != wanted.rgba())
+                QCOMPARE(result.pixelColor(x, y), wanted);
         }
     }
     QVERIFY(flat > edge * edge / 5);
