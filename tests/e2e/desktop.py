@@ -345,8 +345,11 @@ class Lumora:
         field = wait_for("the file dialog", lambda: next(iter(self.controls("text", None)[::-1]), None)
                          if self.controls("dialog") or self.controls("file chooser") else None)
         field.focus()
+        # Keys typed before the dialog is the active window go to the window behind it.
+        wait_for("the dialog to have the keyboard", lambda: field.has_state("focused"))
         self.desktop.key("ctrl+a")
         self.desktop.type(str(path))
+        wait_for("the path in the dialog", lambda: field.text == str(path))
         self.desktop.key("Return")
 
     def choose_by_reader(self, text, confirm):
