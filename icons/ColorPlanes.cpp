@@ -12,10 +12,10 @@ ColorPlanes::ColorPlanes(QSize size, int channels, SampleDepth depth)
 
 std::unique_ptr<ColorPlanes> ColorPlanes::scaledTo(QSize size) const
 {
-    const PlaneScaler scaler(m_size, size, m_depth);
+    const auto scaler = PlaneScaler::kept(m_size, size, m_depth);
     auto scaled = std::make_unique<ColorPlanes>(size, m_channels, m_depth);
     for (int channel = 0; channel < m_channels; ++channel) {
-        if (!scaler.scale(bytes(channel, 0), scaled->bytes(channel, 0)))
+        if (!scaler->scale(bytes(channel, 0), scaled->bytes(channel, 0)))
             return nullptr;
     }
     return scaled;

@@ -152,6 +152,12 @@ Sample besideEdge(Sample value, Sample own, const ColorPlanes &picture, int chan
     return std::abs(kept - own) * shares <= most - least ? own : static_cast<Sample>(kept);
 }
 
+/// Of the rows one in so many tells whether a picture has flat areas, and at least so many of them do.
+constexpr int rowsPerTriedRow = 8;
+constexpr int fewestRowsTried = 64;
+/// One block in so many is flat in a picture that has flat areas.
+constexpr qsizetype leastFlatShare = 256;
+
 constexpr int ownHalfPixels = 1;
 constexpr int middleLobeHalfPixels = 2;
 
@@ -162,9 +168,9 @@ FlatAreas::FlatAreas(const ColorPlanes &picture) : m_picture(picture), m_blocks(
     if (m_blocks.isEmpty())
         return;
     if (picture.depth() == SampleDepth::Bits8)
-        findUneven<std::uint8_t>();
+        findAreas<std::uint8_t>();
     else
-        findUneven<std::uint16_t>();
+        findAreas<std::uint16_t>();
 }
 
 void FlatAreas::restoreIn(ColorPlanes &scaled) const
@@ -177,16 +183,39 @@ void FlatAreas::restoreIn(ColorPlanes &scaled) const
         restoreSamples<std::uint16_t>(scaled);
 }
 
-template <typename Sample> void FlatAreas::findUneven()
+template <typename Sample> void FlatAreas::findAreas()
 {
-    const int width = m_blocks.width();
-    m_uneven.resize(static_cast<std::size_t>(width) * static_cast<std::size_t>(m_blocks.height()));
-    for (int y = 0; y < m_blocks.height(); ++y) {
-        for (int channel = 0; channel < m_picture.channels(); ++channel) {
-            addUneven(m_picture.row<Sample>(channel, y), m_picture.row<Sample>(channel, y + 1), width,
-                      m_uneven.data() + qsizetype{y} * width);
-        }
+    if (isPhotograph<Sample>()) {
+        m_blocks = {};
+        return;
     }
+    const auto width = static_cast<std::size_t>(m_blocks.width());
+    m_uneven.resize(width * static_cast<std::size_t>(m_blocks.height()));
+    for (int y = 0; y < m_blocks.height(); ++y)
+        findUneven<Sample>(y, m_uneven.data() + static_cast<std::size_t>(y) * width);
+}
+
+template <typename Sample> void FlatAreas::findUneven(int row, std::uint8_t *uneven) const
+{
+    for (int channel = 0; channel < m_picture.channels(); ++channel)
+        addUneven(m_picture.row<Sample>(channel, row), m_picture.row<Sample>(channel, row + 1), m_blocks.width(),
+                  uneven);
+}
+
+template <typename Sample> bool FlatAreas::isPhotograph() const
+{
+    std::vector<std::uint8_t> uneven;
+    qsizetype seen = 0;
+    qsizetype flat = 0;
+    // From the middle of each step, where a picture's plain frame is not all that is seen of it.
+    const int step = std::clamp(m_blocks.height() / fewestRowsTried, 1, rowsPerTriedRow);
+    for (int y = step / 2; y < m_blocks.height(); y += step) {
+        uneven.assign(static_cast<std::size_t>(m_blocks.width()), 0);
+        findUneven<Sample>(y, uneven.data());
+        seen += m_blocks.width();
+        flat += std::count(uneven.cbegin(), uneven.cend(), std::uint8_t{0});
+    }
+    return flat * leastFlatShare < seen;
 }
 
 template <typename Sample> void FlatAreas::restoreSamples(ColorPlanes &scaled) const

@@ -19,6 +19,8 @@ class ColorPlanes;
 /// - one that only itself lies in a single colour, beside an edge or a fine line, stays between the colours that the
 ///   middle lobe sees, so that a line keeps its weight and an edge its smoothness but nothing overshoots;
 /// - every other one stays as the filter made it.
+///
+/// A photograph, where next to nothing is of one colour, stays as the filter made it altogether.
 class FlatAreas
 {
 public:
@@ -29,7 +31,9 @@ public:
     void restoreIn(ColorPlanes &scaled) const;
 
 private:
-    template <typename Sample> void findUneven();
+    template <typename Sample> void findAreas();
+    template <typename Sample> void findUneven(int row, std::uint8_t *uneven) const;
+    template <typename Sample> bool isPhotograph() const;
     template <typename Sample> void restoreSamples(ColorPlanes &scaled) const;
 
     const ColorPlanes &m_picture;

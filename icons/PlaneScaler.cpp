@@ -4,6 +4,7 @@
 #include <zimg.h>
 
 #include <algorithm>
+#include <deque>
 #include <new>
 
 namespace lumora
@@ -37,6 +38,18 @@ zimg_filter_graph *lanczosGraph(QSize from, QSize to, SampleDepth depth)
     return zimg_filter_graph_build(&source, &destination, &parameters);
 }
 
+/// A scaler and what it was made for.
+struct KeptScaler
+{
+    QSize from;
+    QSize to;
+    SampleDepth depth;
+    std::shared_ptr<const PlaneScaler> scaler;
+};
+
+/// Each takes a hundred kilobytes or so.
+constexpr std::size_t mostScalersKept = 8;
+
 } // namespace
 
 AlignedBytes alignedBytes(std::size_t count)
@@ -69,6 +82,21 @@ PlaneScaler::PlaneScaler(QSize from, QSize to, SampleDepth depth)
 }
 
 PlaneScaler::~PlaneScaler() = default;
+
+std::shared_ptr<const PlaneScaler> PlaneScaler::kept(QSize from, QSize to, SampleDepth depth)
+{
+    thread_local std::deque<KeptScaler> scalers;
+    const auto found = std::find_if(scalers.cbegin(), scalers.cend(), [&](const KeptScaler &kept) {
+        return kept.from == from && kept.to == to && kept.depth == depth;
+    });
+    if (found != scalers.cend())
+        return found->scaler;
+    auto scaler = std::make_shared<const PlaneScaler>(from, to, depth);
+    if (scalers.size() == mostScalersKept)
+        scalers.pop_front();
+    scalers.push_back({from, to, depth, scaler});
+    return scaler;
+}
 
 bool PlaneScaler::scale(const std::uint8_t *from, std::uint8_t *to) const
 {

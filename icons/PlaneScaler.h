@@ -41,6 +41,10 @@ public:
     PlaneScaler(const PlaneScaler &) = delete;
     PlaneScaler &operator=(const PlaneScaler &) = delete;
 
+    /// The calling thread's scaler for these sizes: one of the last few, since whole batches come in few sizes and each
+    /// scaler begins with a sine for every weight.
+    static std::shared_ptr<const PlaneScaler> kept(QSize from, QSize to, SampleDepth depth);
+
     /// Both planes aligned, with strides as `planeStride` gives. False when the library refuses.
     bool scale(const std::uint8_t *from, std::uint8_t *to) const;
 

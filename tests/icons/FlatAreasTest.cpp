@@ -100,6 +100,8 @@ private slots:
     void edgesStaySmooth();
     void noiseIsFilteredAsEver_data();
     void noiseIsFilteredAsEver();
+    void aPhotographStaysAltogether_data();
+    void aPhotographStaysAltogether();
     void oneOddPixelEndsFlatness_data();
     void oneOddPixelEndsFlatness();
     void faintColoursStayFlatToo();
@@ -210,6 +212,32 @@ void FlatAreasTest::noiseIsFilteredAsEver()
         for (int x = 0; x < size.width(); ++x)
             QCOMPARE(mended->row<std::uint8_t>(0, y)[x], filtered->row<std::uint8_t>(0, y)[x]);
     }
+}
+
+void FlatAreasTest::aPhotographStaysAltogether_data()
+{
+    QTest::addColumn<int>("flatEdge");
+    QTest::addColumn<bool>("changes");
+    // 512 x 512 blocks: a square of 25 x 25 pixels makes one in 455 flat, one of 81 x 81 one in 41.
+    QTest::addRow("a clipped highlight") << 25 << false;
+    QTest::addRow("a label") << 81 << true;
+}
+
+void FlatAreasTest::aPhotographStaysAltogether()
+{
+    QFETCH(int, flatEdge);
+    QFETCH(bool, changes);
+    ColorPlanes source = redPlane(noise({513, 513}));
+    for (int y = 0; y < flatEdge; ++y)
+        std::fill_n(source.row<std::uint8_t>(0, 200 + y) + 200, flatEdge, std::uint8_t{255});
+    const auto filtered = source.scaledTo({256, 256});
+    const auto mended = source.scaledTo({256, 256});
+    FlatAreas(source).restoreIn(*mended);
+    bool changed = false;
+    for (int y = 0; y < 256; ++y)
+        changed = changed || !std::equal(mended->row<std::uint8_t>(0, y), mended->row<std::uint8_t>(0, y) + 256,
+                                         filtered->row<std::uint8_t>(0, y));
+    QCOMPARE(changed, changes);
 }
 
 void FlatAreasTest::oneOddPixelEndsFlatness_data()
