@@ -2,6 +2,8 @@
 #pragma once
 
 #include <QAnimationDriver>
+#include <QCoreApplication>
+#include <QVariantAnimation>
 
 namespace lumora::testing
 {
@@ -10,8 +12,22 @@ namespace lumora::testing
 class DrivenClock final : public QAnimationDriver
 {
 public:
-    DrivenClock() { install(); }
-    ~DrivenClock() override { uninstall(); }
+    DrivenClock()
+    {
+        install();
+        // While nothing is animated Qt goes by the real clock, and a first animation would begin with what a busy
+        // machine let pass before its first step.
+        m_alwaysRunning.setStartValue(0);
+        m_alwaysRunning.setEndValue(1);
+        m_alwaysRunning.setLoopCount(-1);
+        m_alwaysRunning.start();
+        QCoreApplication::processEvents();
+    }
+    ~DrivenClock() override
+    {
+        m_alwaysRunning.stop();
+        uninstall();
+    }
     DrivenClock(const DrivenClock &) = delete;
     DrivenClock &operator=(const DrivenClock &) = delete;
 
@@ -24,6 +40,7 @@ public:
 
 private:
     qint64 m_now = 0;
+    QVariantAnimation m_alwaysRunning;
 };
 
 } // namespace lumora::testing
