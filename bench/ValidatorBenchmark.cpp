@@ -21,10 +21,10 @@ int main(int argc, char **argv)
     applyAppStyle();
     const QApplication application(argc, argv);
     QTextStream out(stdout);
-    const QFileInfo package(QApplication::arguments().value(1));
-    const QString path = package.absoluteFilePath();
+    // Made absolute before the private folder becomes the current one.
+    const QString path = QFileInfo(QApplication::arguments().value(1)).absoluteFilePath();
     const auto workFolder = WorkFolder::makeCurrent();
-    if (!package.isFile() || !workFolder) {
+    if (!QFileInfo(path).isFile() || !workFolder) {
         out << "bench_validator: needs a package, and a folder to work in\n";
         return 2;
     }
@@ -51,7 +51,7 @@ int main(int argc, char **argv)
     delegate.applicationOpenFiles({path});
     while (opacity(box) < 1)
         QApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    out << "event loop while " << (package.size() >> 20) << " MB are read and shown (" << clock.elapsed()
+    out << "event loop while " << (QFileInfo(path).size() >> 20) << " MB are read and shown (" << clock.elapsed()
         << " ms), gaps between heartbeats:\n";
     heartbeat.print(out);
 }
