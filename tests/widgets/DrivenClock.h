@@ -22,6 +22,8 @@ public:
         m_alwaysRunning.setLoopCount(-1);
         m_alwaysRunning.start();
         QCoreApplication::processEvents();
+        // Takes up what passed until now.
+        pass(0);
     }
     ~DrivenClock() override
     {
