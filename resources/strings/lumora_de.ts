@@ -82,8 +82,8 @@
     <translation>Icon-Generator</translation>
   </message>
   <message id="HELP_ICONS_TEXT">
-    <source>Turn one picture into every icon an app needs. Drop a picture of exactly 1024 × 1024 pixels on the pane, or browse for one, then tick the platforms: iPhone, iPad, Mac, Android, web touch, favicon. Lumora writes each set with the right names and sizes into a fresh “icons” folder and packs the Mac set into an icon file as well. “Custom size” makes a single icon of 1 to 1024 pixels, with iOS 6 or iOS 7 corners if you like. The code snippets show how to declare the icons in your project.</source>
-    <translation>Aus einem Bild wird jedes Icon, das eine App braucht. Ein Bild von genau 1024 × 1024 Pixeln auf diese Seite ziehen oder auswählen, dann die Plattformen ankreuzen: iPhone, iPad, Mac, Android, Web-Touch, Favicon. Lumora schreibt jeden Satz mit den richtigen Namen und Größen in einen neuen Ordner „icons“ und packt den Mac-Satz zusätzlich in eine Icon-Datei. „Eigene Größe“ erzeugt ein einzelnes Icon von 1 bis 1024 Pixeln, auf Wunsch mit Ecken wie in iOS 6 oder iOS 7. Die Code-Schnipsel zeigen, wie die Icons im Projekt eingetragen werden.</translation>
+    <source>Turn one picture into every icon an app needs. Drop a picture of exactly 1024 × 1024 pixels on the pane, or browse for one, then tick the platforms: iPhone, iPad, Mac, Android, web touch, favicon. Lumora writes each set with the right names and sizes into a fresh “icons” folder and packs the Mac set into an icon file as well. “Custom size” makes a single icon of 1 to 1024 pixels, with iOS 6 or iOS 7 corners if you like. The code snippets show how to declare the icons in your project.</source>
+    <translation>Aus einem Bild wird jedes Icon, das eine App braucht. Ein Bild von genau 1024 × 1024 Pixeln auf diese Seite ziehen oder auswählen, dann die Plattformen ankreuzen: iPhone, iPad, Mac, Android, Web-Touch, Favicon. Lumora schreibt jeden Satz mit den richtigen Namen und Größen in einen neuen Ordner „icons“ und packt den Mac-Satz zusätzlich in eine Icon-Datei. „Eigene Größe“ erzeugt ein einzelnes Icon von 1 bis 1024 Pixeln, auf Wunsch mit Ecken wie in iOS 6 oder iOS 7. Die Code-Schnipsel zeigen, wie die Icons im Projekt eingetragen werden.</translation>
   </message>
   <message id="HELP_PLACEHOLDER">
     <source>Placeholder generator</source>
@@ -206,16 +206,16 @@
     <translation>Ausgangs-Icon</translation>
   </message>
   <message id="ICONS_SOURCE_SUBTITLE">
-    <source>Drop a picture of 1024 × 1024 pixels</source>
-    <translation>Ein Bild von 1024 × 1024 Pixeln hierher ziehen</translation>
+    <source>Drop a picture of 1024 × 1024 pixels</source>
+    <translation>Ein Bild von 1024 × 1024 Pixeln hierher ziehen</translation>
   </message>
   <message id="ICONS_SOURCE_SUBTITLE_ACTIVE">
-    <source>1024 × 1024 pixels, ready to export</source>
-    <translation>1024 × 1024 Pixel, bereit zum Export</translation>
+    <source>1024 × 1024 pixels, ready to export</source>
+    <translation>1024 × 1024 Pixel, bereit zum Export</translation>
   </message>
   <message id="ICONS_BROWSE">
-    <source>Choose a picture of 1024 × 1024 pixels</source>
-    <translation>Ein Bild von 1024 × 1024 Pixeln auswählen</translation>
+    <source>Choose a picture of 1024 × 1024 pixels</source>
+    <translation>Ein Bild von 1024 × 1024 Pixeln auswählen</translation>
   </message>
   <message id="ICONS_PLATFORMS_TITLE">
     <source>Platforms</source>
@@ -278,16 +278,16 @@
     <translation>Dieses Bild passt nicht</translation>
   </message>
   <message id="ICONS_ALERT_MESSAGE">
-    <source>The source must be a readable picture of exactly 1024 × 1024 pixels. Please choose another one.</source>
-    <translation>Das Ausgangsbild muss lesbar und genau 1024 × 1024 Pixel groß sein. Bitte ein anderes auswählen.</translation>
+    <source>The source must be a readable picture of exactly 1024 × 1024 pixels. Please choose another one.</source>
+    <translation>Das Ausgangsbild muss lesbar und genau 1024 × 1024 Pixel groß sein. Bitte ein anderes auswählen.</translation>
   </message>
   <message id="ICONS_NO_SOURCE_ALERT_TITLE">
     <source>No source icon yet</source>
     <translation>Noch kein Ausgangs-Icon</translation>
   </message>
   <message id="ICONS_NO_SOURCE_ALERT_MESSAGE">
-    <source>Drop a picture of 1024 × 1024 pixels on the pane or browse for one first.</source>
-    <translation>Zuerst ein Bild von 1024 × 1024 Pixeln auf die Seite ziehen oder auswählen.</translation>
+    <source>Drop a picture of 1024 × 1024 pixels on the pane or browse for one first.</source>
+    <translation>Zuerst ein Bild von 1024 × 1024 Pixeln auf die Seite ziehen oder auswählen.</translation>
   </message>
   <message id="ICONS_NO_PLATFORM_ALERT_TITLE">
     <source>No platform chosen</source>

@@ -82,8 +82,8 @@
     <translation>Icon generator</translation>
   </message>
   <message id="HELP_ICONS_TEXT">
-    <source>Turn one picture into every icon an app needs. Drop a picture of exactly 1024 × 1024 pixels on the pane, or browse for one, then tick the platforms: iPhone, iPad, Mac, Android, web touch, favicon. Lumora writes each set with the right names and sizes into a fresh “icons” folder and packs the Mac set into an icon file as well. “Custom size” makes a single icon of 1 to 1024 pixels, with iOS 6 or iOS 7 corners if you like. The code snippets show how to declare the icons in your project.</source>
-    <translation>Turn one picture into every icon an app needs. Drop a picture of exactly 1024 × 1024 pixels on the pane, or browse for one, then tick the platforms: iPhone, iPad, Mac, Android, web touch, favicon. Lumora writes each set with the right names and sizes into a fresh “icons” folder and packs the Mac set into an icon file as well. “Custom size” makes a single icon of 1 to 1024 pixels, with iOS 6 or iOS 7 corners if you like. The code snippets show how to declare the icons in your project.</translation>
+    <source>Turn one picture into every icon an app needs. Drop a picture of exactly 1024 × 1024 pixels on the pane, or browse for one, then tick the platforms: iPhone, iPad, Mac, Android, web touch, favicon. Lumora writes each set with the right names and sizes into a fresh “icons” folder and packs the Mac set into an icon file as well. “Custom size” makes a single icon of 1 to 1024 pixels, with iOS 6 or iOS 7 corners if you like. The code snippets show how to declare the icons in your project.</source>
+    <translation>Turn one picture into every icon an app needs. Drop a picture of exactly 1024 × 1024 pixels on the pane, or browse for one, then tick the platforms: iPhone, iPad, Mac, Android, web touch, favicon. Lumora writes each set with the right names and sizes into a fresh “icons” folder and packs the Mac set into an icon file as well. “Custom size” makes a single icon of 1 to 1024 pixels, with iOS 6 or iOS 7 corners if you like. The code snippets show how to declare the icons in your project.</translation>
   </message>
   <message id="HELP_PLACEHOLDER">
     <source>Placeholder generator</source>
@@ -206,16 +206,16 @@
     <translation>Source icon</translation>
   </message>
   <message id="ICONS_SOURCE_SUBTITLE">
-    <source>Drop a picture of 1024 × 1024 pixels</source>
-    <translation>Drop a picture of 1024 × 1024 pixels</translation>
+    <source>Drop a picture of 1024 × 1024 pixels</source>
+    <translation>Drop a picture of 1024 × 1024 pixels</translation>
   </message>
   <message id="ICONS_SOURCE_SUBTITLE_ACTIVE">
-    <source>1024 × 1024 pixels, ready to export</source>
-    <translation>1024 × 1024 pixels, ready to export</translation>
+    <source>1024 × 1024 pixels, ready to export</source>
+    <translation>1024 × 1024 pixels, ready to export</translation>
   </message>
   <message id="ICONS_BROWSE">
-    <source>Choose a picture of 1024 × 1024 pixels</source>
-    <translation>Choose a picture of 1024 × 1024 pixels</translation>
+    <source>Choose a picture of 1024 × 1024 pixels</source>
+    <translation>Choose a picture of 1024 × 1024 pixels</translation>
   </message>
   <message id="ICONS_PLATFORMS_TITLE">
     <source>Platforms</source>
@@ -278,16 +278,16 @@
     <translation>This picture does not fit</translation>
   </message>
   <message id="ICONS_ALERT_MESSAGE">
-    <source>The source must be a readable picture of exactly 1024 × 1024 pixels. Please choose another one.</source>
-    <translation>The source must be a readable picture of exactly 1024 × 1024 pixels. Please choose another one.</translation>
+    <source>The source must be a readable picture of exactly 1024 × 1024 pixels. Please choose another one.</source>
+    <translation>The source must be a readable picture of exactly 1024 × 1024 pixels. Please choose another one.</translation>
   </message>
   <message id="ICONS_NO_SOURCE_ALERT_TITLE">
     <source>No source icon yet</source>
     <translation>No source icon yet</translation>
   </message>
   <message id="ICONS_NO_SOURCE_ALERT_MESSAGE">
-    <source>Drop a picture of 1024 × 1024 pixels on the pane or browse for one first.</source>
-    <translation>Drop a picture of 1024 × 1024 pixels on the pane or browse for one first.</translation>
+    <source>Drop a picture of 1024 × 1024 pixels on the pane or browse for one first.</source>
+    <translation>Drop a picture of 1024 × 1024 pixels on the pane or browse for one first.</translation>
   </message>
   <message id="ICONS_NO_PLATFORM_ALERT_TITLE">
     <source>No platform chosen</source>
