@@ -4,6 +4,8 @@
 #include <QCoreApplication>
 #include <QEvent>
 
+#include <pthread.h>
+
 namespace lumora
 {
 
@@ -33,7 +35,7 @@ bool BackgroundJob::isStopRequested() const
     return m_jobs.m_stopRequested;
 }
 
-BackgroundJobs::BackgroundJobs(Order order) : m_order(order)
+BackgroundJobs::BackgroundJobs(Order order, const std::string &label) : m_order(order), m_label(label)
 {
     postedEvent();
 }
@@ -87,6 +89,8 @@ bool BackgroundJobs::event(QEvent *event)
 
 void BackgroundJobs::run(Worker &worker)
 {
+    if (!m_label.empty())
+        ::pthread_setname_np(::pthread_self(), m_label.c_str());
     std::unique_lock lock(m_mutex);
     while (!m_waiting.empty()) {
         {

@@ -8,6 +8,7 @@
 #include <functional>
 #include <list>
 #include <mutex>
+#include <string>
 #include <thread>
 
 namespace lumora
@@ -56,7 +57,9 @@ public:
     };
     using Work = std::function<void(const BackgroundJob &job)>;
 
-    explicit BackgroundJobs(Order order = Order::Concurrent);
+    /// The label names the jobs' threads for whoever looks at the process from outside; at most 15 characters, empty
+    /// for the program's own name.
+    explicit BackgroundJobs(Order order = Order::Concurrent, const std::string &label = {});
     ~BackgroundJobs() override;
 
     void start(Work work);
@@ -78,6 +81,7 @@ private:
     void joinFinished();
 
     const Order m_order;
+    const std::string m_label;
     // The standard library's locks, not the toolkit's: a thread sanitizer sees through them without a build of its own.
     mutable std::mutex m_mutex; ///< guards everything below
     std::condition_variable m_workerFinished;

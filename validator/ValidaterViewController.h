@@ -48,6 +48,11 @@ public:
     /// The folder in which the browse panel opens, empty for the user's own.
     QString browsePath() const { return m_browsePath; }
     void setBrowsePath(const QString &path) { m_browsePath = path; }
+    /// Every tool has one. This one writes nothing, so it only keeps it.
+    QString savePath() const { return m_savePath; }
+    void setSavePath(const QString &path) { m_savePath = path; }
+    /// Nothing: which icons are required is the artwork checks' to know (`requiredIcons`), by the app's platform.
+    std::optional<QList<int>> iPhoneRequiredIcons() const { return std::nullopt; }
 
     /// Size of the facts' fonts.
     static constexpr int fontSize = 15;
@@ -112,13 +117,17 @@ private:
     ValidatePopupContentView *m_validatePopupContentView = nullptr; ///< owned by the popover
     OpacityFade m_fade;
     QString m_browsePath;
+    QString m_savePath;
     PackageFacts m_facts;
     QStringList m_invalidAppIconsArray;
     QStringList m_invalidDefaultsArray;
     /// Counts the packages; what a reading that was overtaken still posts is dropped.
     quint64 m_reading = 0;
     std::stop_source m_stop;
-    BackgroundJobs m_jobs{BackgroundJobs::Order::Serial}; ///< last, so that it goes first
+    /// Packages are read one after the other, whoever opens them: all are unpacked into the same folder, where two at a
+    /// time would judge, and remove, each other's files. Whichever comes while another is read stops that one and waits
+    /// for it to end, which takes it a block of 4 KB. Last, so that it goes first.
+    BackgroundJobs m_jobs{BackgroundJobs::Order::Serial, "bgQueue"};
 };
 
 } // namespace lumora

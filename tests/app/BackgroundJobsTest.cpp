@@ -3,8 +3,11 @@
 
 #include <QTest>
 
+#include <array>
 #include <atomic>
 #include <semaphore>
+
+#include <pthread.h>
 
 using namespace Qt::StringLiterals;
 using namespace lumora;
@@ -39,6 +42,15 @@ private slots:
         jobs.start([&](const BackgroundJob &) { elsewhere = QThread::currentThread() != qApp->thread(); });
         jobs.waitForDone();
         QVERIFY(elsewhere);
+    }
+
+    void threadsBearTheLabel()
+    {
+        std::array<char, 16> name = {};
+        BackgroundJobs jobs(BackgroundJobs::Order::Serial, "aQueue");
+        jobs.start([&](const BackgroundJob &) { ::pthread_getname_np(::pthread_self(), name.data(), name.size()); });
+        jobs.waitForDone();
+        QCOMPARE(QByteArray(name.data()), "aQueue"_ba);
     }
 
     void concurrentJobsRunTogether()

@@ -193,6 +193,28 @@ private slots:
                  qPrintable(u"%1 of %2 ms"_s.arg(heartbeat.longestGap()).arg(m_largeReading)));
     }
 
+    void stopsOnePackageForTheNext()
+    {
+        if (m_largeReading == 0)
+            staysLiveOverALargePackage();
+        PaneInWindow pane;
+        pane.tool.dropIpaFileFromDelegate(package(u"large"_s));
+        const QString bundle = pane.folder.value()->path() + u"/Documents/app/Payload/Large.app/"_s;
+        QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(bundle + u"file010"_s), readingTime);
+        QElapsedTimer clock;
+        clock.start();
+        pane.tool.dropIpaFileFromDelegate(package(u"two apps"_s));
+        QVERIFY2(pane.ui().readingLoaderField->text().contains(u"two apps.ipa"_s), "the first is not shown any more");
+        while (!pane.hasFacts() && clock.elapsed() < readingTime) {
+            QTest::qWait(1);
+            QVERIFY2(pane.tool.facts().appName() != u"Large"_s, "nothing of the first is shown");
+        }
+        QCOMPARE(pane.tool.facts().appName(), u"Last"_s);
+        QVERIFY2(clock.elapsed() < m_largeReading / 2,
+                 qPrintable(u"%1 of %2 ms"_s.arg(clock.elapsed()).arg(m_largeReading)));
+        QTRY_VERIFY2(!QFile::exists(bundle), "no file of the first stays among the second's");
+    }
+
     void endsCleanlyInMidRead_data()
     {
         QTest::addColumn<bool>("another");
