@@ -22,7 +22,8 @@ public:
     /// The same below a folder of the caller's choice.
     static Result<std::unique_ptr<WorkFolder>> make(const QString &parent);
     /// A fresh folder that is the process's current one until it goes. What the user names by relative path has to be
-    /// resolved before.
+    /// resolved before. Programs that are started meanwhile begin in the folder that was current before: they may
+    /// outlive this one. One such folder at a time.
     static Result<std::unique_ptr<WorkFolder>> makeCurrent();
     ~WorkFolder();
     Q_DISABLE_COPY_MOVE(WorkFolder)
@@ -35,6 +36,7 @@ private:
     QString m_path;
     QString m_before; ///< the process's current folder until this one took its place; empty where it did not
     FileDescriptor m_lock;
+    FileDescriptor m_start; ///< the folder of `m_before`, for the programs that are started
 };
 
 } // namespace lumora

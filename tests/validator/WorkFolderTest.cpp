@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -50,6 +51,27 @@ private slots:
             QVERIFY(QDir(before.path()).removeRecursively());
         }
         QCOMPARE(QDir::currentPath(), u"/"_s);
+    }
+
+    void isNotWhereOtherProgramsBegin()
+    {
+        // As the desktop's program for web pages is started, which may run longer than this one.
+        const QTemporaryDir parent;
+        const QTemporaryDir before;
+        qputenv("TMPDIR", QFile::encodeName(parent.path()));
+        QVERIFY(QDir::setCurrent(before.path()));
+        const QString told = parent.filePath(u"where"_s);
+        {
+            const auto folder = WorkFolder::makeCurrent();
+            QVERIFY(folder);
+            QVERIFY(
+                QProcess::startDetached(u"/bin/sh"_s, {u"-c"_s, u"pwd -P > \"$0.new\"; mv \"$0.new\" \"$0\""_s, told}));
+            QTRY_VERIFY(QFile::exists(told));
+        }
+        QFile file(told);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(QFile::decodeName(file.readAll()).trimmed(), QDir(before.path()).canonicalPath());
+        QDir::setCurrent(u"/"_s);
     }
 
     void leavesTheCurrentFolderAloneWhereItIsAnother()
