@@ -90,19 +90,32 @@ PackageFacts readBundle(const QString &ipaPath, const InspectionSite &site)
     }
     facts.appLocalizations = contents.localizations;
     facts.appImages = contents.images;
-    facts.provisioningProfile = site.profileDecoder.profileText(folder + u"/embedded.mobileprovision");
+    facts.provisioningProfile = site.profileDecoder.readProvisioningFromPath(folder + u"/embedded.mobileprovision");
     return facts;
+}
+
+IconFindings validateAppIcons(const PackageFacts &facts, const InspectionSite &site)
+{
+    const PlatformType platform = facts.appPlatformType();
+    if (platform == PlatformType::None)
+        return {};
+    const QString folder = inWorkFolder(site, facts.appContentFolderPath);
+    const QStringList candidates = iconCandidates(facts.appImages);
+    const QList<QSize> sizes = pictureSizes(folder, candidates);
+    return {missingIcons(platform, sizes), appIcon(folder, candidates, sizes, facts.minimumOSNumber())};
+}
+
+QList<QSize> validateAppDefaults(const PackageFacts &facts, const InspectionSite &site)
+{
+    const QString folder = inWorkFolder(site, facts.appContentFolderPath);
+    const QList<QSize> sizes = pictureSizes(folder, launchImageCandidates(facts.appImages));
+    return missingLaunchImages(facts.appPlatformType(), sizes);
 }
 
 ArtworkReport checkArtwork(const PackageFacts &facts, const InspectionSite &site)
 {
-    const QString folder = inWorkFolder(site, facts.appContentFolderPath);
-    const PlatformType platform = facts.appPlatformType();
-    const QStringList icons = iconCandidates(facts.appImages);
-    const QList<QSize> iconSizes = pictureSizes(folder, icons);
-    const QList<QSize> launchSizes = pictureSizes(folder, launchImageCandidates(facts.appImages));
-    return {{missingIcons(platform, iconSizes), missingLaunchImages(platform, launchSizes)},
-            platform == PlatformType::None ? QImage() : appIcon(folder, icons, iconSizes, facts.minimumOSNumber())};
+    const IconFindings icons = validateAppIcons(facts, site);
+    return {{icons.missing, validateAppDefaults(facts, site)}, icons.appIcon};
 }
 
 void removePayload(const InspectionSite &site)

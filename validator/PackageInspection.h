@@ -37,6 +37,13 @@ struct Extraction
     QStringList damagedEntries;
 };
 
+/// What the look at an app's icons comes to.
+struct IconFindings
+{
+    QList<int> missing; ///< edge lengths, in the order of the required list
+    QImage appIcon;     ///< the picture that stands for the app, null when the bundle has none
+};
+
 /// What the artwork checks found, and the picture that stands for the app.
 struct ArtworkReport
 {
@@ -50,6 +57,9 @@ bool isPackageName(const QString &path);
 /// The steps of an inspection, in their order.
 Extraction extractPackage(const QString &ipaPath, const InspectionSite &site);
 PackageFacts readBundle(const QString &ipaPath, const InspectionSite &site);
+IconFindings validateAppIcons(const PackageFacts &facts, const InspectionSite &site);
+QList<QSize> validateAppDefaults(const PackageFacts &facts, const InspectionSite &site);
+/// Both artwork checks.
 ArtworkReport checkArtwork(const PackageFacts &facts, const InspectionSite &site);
 /// Removes the unpacked payload; what else the package held stays in the work folder.
 void removePayload(const InspectionSite &site);

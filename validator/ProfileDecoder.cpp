@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "ProfileDecoder.h"
 
+#include "foundation/Log.h"
 #include "foundation/WholeFile.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QProcess>
 
@@ -55,22 +57,35 @@ QString asciiText(const QByteArray &bytes)
     return text;
 }
 
-std::optional<QString> CmsProfileDecoder::profileText(const QString &path) const
+std::optional<QString> CmsProfileDecoder::readProvisioningFromPath(const QString &path) const
 {
     const auto message = readWholeFile(path, largestProfile);
     return message ? asciiText(signedMessageContent(message.value())) : u""_s;
 }
 
-std::optional<QString> SecurityToolProfileDecoder::profileText(const QString &path) const
+std::optional<QString> SecurityToolProfileDecoder::readProvisioningFromPath(const QString &path) const
 {
     QProcess tool;
     tool.setStandardErrorFile(QProcess::nullDevice());
+    // The path may be relative to the private folder, which a started program does not begin in everywhere
+    // (`WorkFolder`).
+    tool.setWorkingDirectory(QDir::currentPath());
     tool.start(m_program, {u"cms"_s, u"-D"_s, u"-i"_s, path}, QIODevice::ReadOnly);
     if (!tool.waitForStarted())
         return std::nullopt;
     tool.waitForFinished(-1);
+    return receivedProvProfileOutput(tool);
+}
+
+QString SecurityToolProfileDecoder::receivedProvProfileOutput(QProcess &tool)
+{
     const QString text = asciiText(tool.readAllStandardOutput());
     return text.isNull() ? u""_s : text;
+}
+
+void SecurityToolProfileDecoder::receivedTaskOutput(QProcess &tool)
+{
+    logLine(u"\n\nOutput:\n\n%1\n\n"_s.arg(asciiText(tool.readAllStandardOutput())));
 }
 
 std::unique_ptr<ProfileDecoder> systemProfileDecoder()

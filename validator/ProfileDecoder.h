@@ -7,6 +7,8 @@
 #include <memory>
 #include <optional>
 
+class QProcess;
+
 namespace lumora
 {
 
@@ -19,7 +21,7 @@ public:
     /// The text inside the profile at the path, decoded as ASCII (a byte above 127 becomes U+FFFD). Empty when there
     /// is no profile or it is no signed message (plain XML, PEM, damaged): an empty text is what a decoder that fails
     /// leaves behind. Nothing when no decoder could be asked at all.
-    virtual std::optional<QString> profileText(const QString &path) const = 0;
+    virtual std::optional<QString> readProvisioningFromPath(const QString &path) const = 0;
 };
 
 /// Reads the signed message with OpenSSL. Like the system's tool it does not ask who signed: the text is shown and
@@ -27,7 +29,7 @@ public:
 class CmsProfileDecoder final : public ProfileDecoder
 {
 public:
-    std::optional<QString> profileText(const QString &path) const override;
+    std::optional<QString> readProvisioningFromPath(const QString &path) const override;
 };
 
 /// Asks the system's `security` tool.
@@ -36,7 +38,13 @@ class SecurityToolProfileDecoder final : public ProfileDecoder
 public:
     explicit SecurityToolProfileDecoder(QString program) : m_program(std::move(program)) {}
 
-    std::optional<QString> profileText(const QString &path) const override;
+    std::optional<QString> readProvisioningFromPath(const QString &path) const override;
+
+    /// The profile's text out of the tool that was asked for it, once it has ended: all that it printed.
+    static QString receivedProvProfileOutput(QProcess &tool);
+    /// Logs what the tool has printed by now and was not read. For a look at a tool that misbehaves: nothing is
+    /// connected to it.
+    static void receivedTaskOutput(QProcess &tool);
 
 private:
     QString m_program;

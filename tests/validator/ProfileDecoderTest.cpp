@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "validator/ProfileDecoder.h"
+#include "LogKeeper.h"
 #include "ScriptedFiles.h"
+#include "validator/WorkFolder.h"
 
+#include <QDir>
 #include <QFile>
+#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -28,7 +32,7 @@ private slots:
     void findsTheSignedText()
     {
         QFETCH(QString, contained);
-        const auto text = CmsProfileDecoder().profileText(path());
+        const auto text = CmsProfileDecoder().readProvisioningFromPath(path());
         QVERIFY(text);
         QVERIFY2(text->contains(contained), qPrintable(*text));
     }
@@ -36,7 +40,7 @@ private slots:
     void readsIndefiniteLengthsWhole()
     {
         const QString path = m_profiles.filePath(u"signed, indefinite lengths.mobileprovision"_s);
-        const auto text = CmsProfileDecoder().profileText(path);
+        const auto text = CmsProfileDecoder().readProvisioningFromPath(path);
         QVERIFY(text);
         QCOMPARE(text->count(u"ProvisionedDevices"), 40);
         QVERIFY(text->endsWith(u"</plist>\n"));
@@ -51,7 +55,7 @@ private slots:
     }
     void takesAnythingElseForNoProfile()
     {
-        const auto text = CmsProfileDecoder().profileText(path());
+        const auto text = CmsProfileDecoder().readProvisioningFromPath(path());
         QVERIFY2(text, "an empty text, not one that was never received");
         QCOMPARE(*text, QString());
     }
@@ -60,29 +64,51 @@ private slots:
     {
         const QTemporaryDir folder;
         const QString tool = script(folder, "echo \"$1 $2 $3 $4\"; printf '\\303\\211'; echo noise >&2\n");
-        QCOMPARE(SecurityToolProfileDecoder(tool).profileText(u"/some/profile"_s),
+        QCOMPARE(SecurityToolProfileDecoder(tool).readProvisioningFromPath(u"/some/profile"_s),
                  std::optional(u"cms -D -i /some/profile\n\uFFFD\uFFFD"_s));
     }
 
     void keepsWhatAFailingToolSaid()
     {
         const QTemporaryDir folder;
-        QCOMPARE(SecurityToolProfileDecoder(script(folder, "exit 1\n")).profileText(u"/none"_s), std::optional(u""_s));
+        QCOMPARE(SecurityToolProfileDecoder(script(folder, "exit 1\n")).readProvisioningFromPath(u"/none"_s),
+                 std::optional(u""_s));
     }
 
     void waitsForAToolThatTellsMuch()
     {
         const QTemporaryDir folder;
         const QString tool = script(folder, "head -c 1000000 /dev/zero | tr '\\0' x; sleep 0.2; echo end\n");
-        const auto text = SecurityToolProfileDecoder(tool).profileText(u"/none"_s);
+        const auto text = SecurityToolProfileDecoder(tool).readProvisioningFromPath(u"/none"_s);
         QVERIFY(text);
         QVERIFY(text->endsWith(u"xend\n"));
         QCOMPARE(text->size(), 1'000'004);
     }
 
+    void asksTheToolWhereThePathIsMeant()
+    {
+        // Other programs begin outside the private folder; this one is given paths inside.
+        const QTemporaryDir folder;
+        const QString tool = script(folder, "pwd -P\n");
+        const auto current = WorkFolder::makeCurrent();
+        QVERIFY(current);
+        const auto text = SecurityToolProfileDecoder(tool).readProvisioningFromPath(u"relative"_s);
+        QCOMPARE(text, std::optional(QString(QDir(current.value()->path()).canonicalPath() + u'\n')));
+    }
+
+    void logsWhatAToolPrints()
+    {
+        QProcess tool;
+        tool.start(u"/bin/echo"_s, {u"some words"_s}, QIODevice::ReadOnly);
+        QVERIFY(tool.waitForFinished());
+        const LogKeeper log;
+        SecurityToolProfileDecoder::receivedTaskOutput(tool);
+        QCOMPARE(log.lines(), QStringList{u"\n\nOutput:\n\nsome words\n\n\n"_s});
+    }
+
     void receivesNothingWithoutATool()
     {
-        QVERIFY(!SecurityToolProfileDecoder(u"/no/such/tool"_s).profileText(u"/some/profile"_s));
+        QVERIFY(!SecurityToolProfileDecoder(u"/no/such/tool"_s).readProvisioningFromPath(u"/some/profile"_s));
     }
 
 private:
