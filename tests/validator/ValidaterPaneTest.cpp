@@ -5,6 +5,7 @@
 #include "validator/LongWords.h"
 #include "widgets/Fonts.h"
 #include "widgets/Palette.h"
+#include "widgets/ScreenCoordinates.h"
 
 #include <QScopeGuard>
 #include <QScrollArea>
@@ -36,6 +37,16 @@ private slots:
         QVERIFY(pane.ui().browseButton->isEnabled());
         QVERIFY(!pane.ui().validAppIconsBox->isEnabled());
         QCOMPARE(pane.ui().informationText->text(), qtTrId("VALIDATER_BROWSE_INFO"));
+        QVERIFY(!pane.tool.iPhoneRequiredIcons());
+    }
+
+    void keepsItsFolders()
+    {
+        PaneInWindow pane;
+        pane.tool.setSavePath(u"/to"_s);
+        pane.tool.setBrowsePath(u"/from"_s);
+        QCOMPARE(pane.tool.savePath(), u"/to"_s);
+        QCOMPARE(pane.tool.browsePath(), u"/from"_s);
     }
 
     void refusesWithAnAlert_data()
@@ -220,6 +231,35 @@ private slots:
         QVERIFY(pane.tool.validatePopup()->isVisible());
         pane.tool.checkboxAppIconsPressed();
         QVERIFY(!pane.tool.validatePopup()->isVisible());
+    }
+
+    void pointsItsPopupsBelowTheBox_data()
+    {
+        QTest::addColumn<QString>("package");
+        QTest::addColumn<bool>("own");
+        QTest::newRow("its own") << u"one icon"_s << true;
+        QTest::newRow("the shared one") << u"valid"_s << false;
+    }
+    void pointsItsPopupsBelowTheBox()
+    {
+        QFETCH(QString, package);
+        QFETCH(bool, own);
+        PaneInWindow pane;
+        read(pane, package);
+        const CheckboxButton *box = pane.ui().validAppIconsBox;
+        QTest::mouseClick(pane.ui().validAppIconsBox, Qt::LeftButton);
+        const SFBPopover *popover = own ? pane.tool.validatePopup() : pane.tool.popupView();
+        QVERIFY(popover->isVisible());
+        SFBPopoverWindow &balloon = *popover->popoverWindow();
+        const QPointF tip =
+            balloon.frame().topLeft() +
+            attachmentPointForRect(QRectF(QPointF(), balloon.frame().size()), balloon.popoverWindowFrame()->metrics());
+        // From the window's lower left corner upwards: the box's upper left corner in the tool's view, half its width
+        // and the 65 of the sidebar to the right, its height and 5 down.
+        const QPoint corner = box->mapTo(pane.tool.view(), QPoint());
+        const QPointF below(corner.x() + box->width() / 2.0 + 65,
+                            pane.tool.view()->height() - corner.y() - (box->height() + 5));
+        QCOMPARE(tip, basePointToScreen(&pane.window, below));
     }
 
     void fitsAPopupToItsText()
