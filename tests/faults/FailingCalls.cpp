@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Preloaded into lumora by tests/faults/test_faults.py. Counts the calls that change the file system and lets a chosen
-// one fail, stop short, or kill the process:
+// Preloaded into lumora by tests/faults/test_faults.py. Counts the calls that change the file system, or the folder
+// that relative paths begin in, and lets a chosen one fail, stop short, or kill the process:
 //   LUMORA_FAULT_LOG    a file that receives one line a counted call (its name), for the run that only counts
 //   LUMORA_FAULT_AT     the number of the call concerned, from 1
 //   LUMORA_FAULT_KIND   "once" (that call alone fails), "onwards" (it and all after it fail, as on a full disk),
@@ -214,6 +214,11 @@ int mkdirat(int folder, const char *path, mode_t mode)
 char *mkdtemp(char *pattern)
 {
     return fails("mkdtemp") ? nullptr : next<char *(*)(char *)>("mkdtemp")(pattern);
+}
+
+int chdir(const char *path)
+{
+    return fails("chdir") ? -1 : next<int (*)(const char *)>("chdir")(path);
 }
 
 int rename(const char *from, const char *to)

@@ -41,7 +41,7 @@ def run(job, stdout=subprocess.PIPE, prefix=(), again=False, **faults):
     the same place without them, and answers how that ended."""
     with tempfile.TemporaryDirectory() as place:
         place = Path(place)
-        for name, files in {"in": job.sources, "out": job.present, "tmp": {}, "run": {}}.items():
+        for name, files in {"in": job.sources, "out": job.present, "tmp": {}, "run": {}, "here": {}}.items():
             (place / name).mkdir(mode=0o700)
             for file, content in files.items():
                 (place / name / file).parent.mkdir(exist_ok=True)
@@ -50,19 +50,23 @@ def run(job, stdout=subprocess.PIPE, prefix=(), again=False, **faults):
         environment |= {f"LUMORA_FAULT_{key.upper()}": str(value) for key, value in faults.items()}
         words = [word.replace("{in}", f"{place}/in").replace("{out}", f"{place}/out") for word in job.arguments]
         command = [*prefix, job.program, *words]
-        process = subprocess.run(command, stdout=stdout, stderr=subprocess.PIPE, env=environment, timeout=HANG, check=False)
+        process = subprocess.run(command, stdout=stdout, stderr=subprocess.PIPE, env=environment, cwd=place / "here",
+                                 timeout=HANG, check=False)
         if again:
             environment = {key: value for key, value in environment.items()
                            if key not in ("LUMORA_FAULT_AT", "LUMORA_FAULT_LOG")}
-            process = subprocess.run(command, stdout=stdout, stderr=subprocess.PIPE, env=environment, timeout=HANG, check=False)
+            process = subprocess.run(command, stdout=stdout, stderr=subprocess.PIPE, env=environment, cwd=place / "here",
+                                 timeout=HANG, check=False)
         # The place has another name each time; results that name it are compared without it.
         return Run(
             process.returncode,
             (process.stdout or b"").replace(bytes(place), b""),
             process.stderr.decode(),
             contents(place / "out"),
-            # Qt makes a folder of its own there where it is refused the one it was given.
-            sorted(path.name for path in (place / "tmp").iterdir() if not path.name.startswith("runtime-")),
+            # Qt makes a folder of its own there where it is refused the one it was given. Where the user stands, nothing
+            # has any business.
+            sorted(path.name for path in [*(place / "tmp").iterdir(), *(place / "here").iterdir()]
+                   if not path.name.startswith("runtime-")),
         )
 
 
@@ -97,7 +101,7 @@ class Faults(unittest.TestCase):
     def assert_honest(self, job, sound, ended):
         self.assertGreaterEqual(ended.status, 0, f"ended by signal {-ended.status}")
         self.assert_no_torso(job, sound, ended)
-        self.assertEqual(ended.temporary, [], "the work folder was left behind")
+        self.assertEqual(ended.temporary, [], "something was left behind")
         if ended.err == "" or ended.status == 0:
             self.assertEqual((ended.status, ended.out, ended.files), (job.status, sound.out, sound.files), "nothing was said")
         else:
