@@ -71,29 +71,54 @@ void INTitlebarView::paintEvent(QPaintEvent *)
         drawTitle(&painter, *window);
 }
 
-void INTitlebarView::drawBackground(QPainter *painter, const INAppStoreWindow &window) const
+INTitlebarView::Background INTitlebarView::background(const INAppStoreWindow &window, qreal devicePixelRatio) const
 {
     const bool main = drawsAsMainWindow();
     const TitleBarGreys greys = titleBarGreys(platformGeneration, main);
-    painter->save();
-    painter->setClipPath(clippingPath());
-    if (window.isFullScreen()) {
-        painter->fillRect(rect(), Qt::black);
-    } else {
-        QLinearGradient gradient(0, 0, 0, height());
-        gradient.setColorAt(
-            0, given(main ? window.titleBarStartColor() : window.inactiveTitleBarStartColor(), greys.gradientTop));
-        gradient.setColorAt(
-            1, given(main ? window.titleBarEndColor() : window.inactiveTitleBarEndColor(), greys.gradientBottom));
-        painter->fillRect(rect(), gradient);
-    }
+    const QColor top = main ? window.titleBarStartColor() : window.inactiveTitleBarStartColor();
+    const QColor bottom = main ? window.titleBarEndColor() : window.inactiveTitleBarEndColor();
+    Background result{given(top, greys.gradientTop), given(bottom, greys.gradientBottom), main, size(),
+                      devicePixelRatio};
+    if (window.isFullScreen())
+        result.top = result.bottom = Qt::black;
+    return result;
+}
+
+QPixmap INTitlebarView::drawn(const Background &background) const
+{
+    const QSizeF pixels = QSizeF(background.size) * background.devicePixelRatio;
+    QPixmap pixmap(static_cast<int>(std::ceil(pixels.width())), static_cast<int>(std::ceil(pixels.height())));
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(background.devicePixelRatio, background.devicePixelRatio);
+    painter.setClipPath(clippingPath());
+    QLinearGradient gradient(0, 0, 0, background.size.height());
+    gradient.setColorAt(0, background.top);
+    gradient.setColorAt(1, background.bottom);
+    painter.fillRect(rect(), gradient);
     if (platformGeneration == PlatformGeneration::Newer) {
-        painter->fillRect(QRectF(0, 0, width(), 1), QColor::fromRgbF(1.0F, 1.0F, 1.0F, titleBarHighlightAlpha));
-        if (main) {
-            painter->setOpacity(titleBarNoiseOpacity);
-            painter->drawTiledPixmap(rect(), sharedNoise());
+        painter.fillRect(QRectF(0, 0, width(), 1), QColor::fromRgbF(1.0F, 1.0F, 1.0F, titleBarHighlightAlpha));
+        if (background.main) {
+            painter.setOpacity(titleBarNoiseOpacity);
+            painter.drawTiledPixmap(rect(), sharedNoise());
         }
     }
+    return pixmap;
+}
+
+void INTitlebarView::drawBackground(QPainter *painter, const INAppStoreWindow &window)
+{
+    const qreal ratio = painter->deviceTransform().m11();
+    const Background wanted = background(window, ratio);
+    if (m_drawn.isNull() || wanted != m_background) {
+        m_drawn = drawn(wanted);
+        m_background = wanted;
+    }
+    painter->save();
+    // Pixel for pixel, whatever the scale.
+    painter->scale(1 / ratio, 1 / ratio);
+    painter->drawPixmap(0, 0, m_drawn);
     painter->restore();
 }
 

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QColor>
 #include <QPainterPath>
+#include <QPixmap>
 #include <QWidget>
 
 namespace lumora
@@ -27,13 +29,31 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
+    /// What the background was drawn for; any other is drawn anew.
+    struct Background
+    {
+        QColor top;
+        QColor bottom;
+        bool main = false;
+        QSize size;
+        qreal devicePixelRatio = 1;
+
+        bool operator==(const Background &) const = default;
+    };
+
     const INAppStoreWindow *appStoreWindow() const;
     QPainterPath clippingPath() const;
-    void drawBackground(QPainter *painter, const INAppStoreWindow &window) const;
+    Background background(const INAppStoreWindow &window, qreal devicePixelRatio) const;
+    QPixmap drawn(const Background &background) const;
+    void drawBackground(QPainter *painter, const INAppStoreWindow &window);
     void drawBaselineSeparator(QPainter *painter, const INAppStoreWindow &window) const;
     void drawTitle(QPainter *painter, const INAppStoreWindow &window) const;
 
     int m_clickCount = 0;
+    /// Kept from one repaint to the next: a gradient of this size with noise over it takes several times as long to
+    /// draw as to copy.
+    Background m_background;
+    QPixmap m_drawn;
 };
 
 } // namespace lumora

@@ -28,6 +28,13 @@ constexpr qreal outlineInset = 0.5;
 constexpr qreal stripeReach = 40;
 constexpr qreal stripePitch = 20;
 
+/// Whole pixels that cover the size.
+QSize pixelSize(const QSizeF &size, qreal devicePixelRatio)
+{
+    return {static_cast<int>(std::ceil(size.width() * devicePixelRatio)),
+            static_cast<int>(std::ceil(size.height() * devicePixelRatio))};
+}
+
 } // namespace
 
 LBProgressBar::LBProgressBar(QWidget *parent)
@@ -181,8 +188,21 @@ void LBProgressBar::drawRect(QPainter &painter)
     drawShadowInBounds(painter, bounds);
 }
 
-void LBProgressBar::drawBezel(QPainter &painter) const
+void LBProgressBar::drawBezel(QPainter &painter)
 {
+    const qreal ratio = painter.deviceTransform().m11();
+    if (m_bezel.size() != pixelSize(size(), ratio) || m_bezel.devicePixelRatio() != ratio)
+        m_bezel = drawnBezel(ratio);
+    painter.drawPixmap(0, 0, m_bezel);
+}
+
+QPixmap LBProgressBar::drawnBezel(qreal devicePixelRatio) const
+{
+    QPixmap bezel(pixelSize(size(), devicePixelRatio));
+    bezel.setDevicePixelRatio(devicePixelRatio);
+    bezel.fill(Qt::transparent);
+    QPainter painter(&bezel);
+    painter.setRenderHint(QPainter::Antialiasing);
     const qreal w = width();
     const qreal h = height();
     const QTransform transform = toWidget();
@@ -195,13 +215,14 @@ void LBProgressBar::drawBezel(QPainter &painter) const
                             cornerRadius);
     painter.restore();
 
+    painter.setPen(Qt::NoPen);
     painter.setBrush(palette::chromeText);
     painter.drawRoundedRect(transform.mapRect(QRectF(0, 0, w, h - 1)), cornerRadius, cornerRadius);
 
     // Leaves no mark while its colour is clear.
     painter.setPen(palette::progressBase);
     painter.drawLine(transform.map(QLineF(cornerRadius, 0, w - cornerRadius, 0)));
-    painter.setPen(Qt::NoPen);
+    return bezel;
 }
 
 void LBProgressBar::drawProgressWithBounds(QPainter &painter, const QRectF &bounds) const
@@ -214,8 +235,8 @@ void LBProgressBar::drawStripesInBounds(QPainter &painter, const QRectF &bounds)
 {
     // A clip path has hard edges. The stripes are painted beside the bar instead, and the rounded shape is filled with
     // what was painted, which leaves its edge smooth.
-    const qreal ratio = painter.device()->devicePixelRatioF();
-    const QSize pixels(static_cast<int>(std::ceil(width() * ratio)), static_cast<int>(std::ceil(height() * ratio)));
+    const qreal ratio = painter.deviceTransform().m11();
+    const QSize pixels = pixelSize(size(), ratio);
     if (m_stripes.size() != pixels)
         m_stripes = QImage(pixels, QImage::Format_ARGB32_Premultiplied);
     m_stripes.fill(Qt::transparent);

@@ -3,6 +3,7 @@
 
 #include <QColor>
 #include <QImage>
+#include <QPixmap>
 #include <QTimer>
 #include <QWidget>
 
@@ -63,7 +64,8 @@ private:
     void activateAnimation();
     void runAnimator();
     void drawRect(QPainter &painter);
-    void drawBezel(QPainter &painter) const;
+    void drawBezel(QPainter &painter);
+    QPixmap drawnBezel(qreal devicePixelRatio) const;
     void drawProgressWithBounds(QPainter &painter, const QRectF &bounds) const;
     void drawStripesInBounds(QPainter &painter, const QRectF &bounds);
     void drawShadowInBounds(QPainter &painter, const QRectF &bounds) const;
@@ -73,6 +75,7 @@ private:
     QTimer m_animator;
     /// Kept between redraws, which come thirty times a second.
     QImage m_stripes;
+    QPixmap m_bezel;
     QColor m_lightColor;
     QColor m_darkColor;
     double m_doubleValue = 0;

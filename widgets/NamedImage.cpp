@@ -6,7 +6,6 @@
 #include <QFile>
 #include <QHash>
 #include <QIconEngine>
-#include <QPaintDevice>
 #include <QPainter>
 #include <QPixmapCache>
 #include <QSvgRenderer>
@@ -94,7 +93,8 @@ QPixmap NamedImage::pixmap(const QSizeF &size, qreal devicePixelRatio) const
 
 void NamedImage::paint(QPainter *painter, const QRectF &target, qreal opacity) const
 {
-    const QPixmap picture = pixmap(target.size(), painter->device()->devicePixelRatioF());
+    // Asked of the transformation: a widget that is drawn into a picture has the picture's scale, not its screen's.
+    const QPixmap picture = pixmap(target.size(), painter->deviceTransform().m11());
     if (picture.isNull())
         return;
     const qreal before = painter->opacity();

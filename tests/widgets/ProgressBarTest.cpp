@@ -182,6 +182,30 @@ private slots:
         QCOMPARE(found.name(QColor::HexArgb), color.name(QColor::HexArgb));
     }
 
+    void drawsTheBezelAnewInAnotherSize_data()
+    {
+        QTest::addColumn<QSize>("size");
+        QTest::addColumn<qreal>("scale");
+        QTest::newRow("wider") << QSize(240, 20) << 1.0;
+        QTest::newRow("narrower") << QSize(100, 20) << 1.0;
+        QTest::newRow("higher") << QSize(200, 30) << 1.0;
+        QTest::newRow("at twice the scale") << QSize(200, 20) << 2.0;
+        QTest::newRow("half the size at twice the scale") << QSize(100, 10) << 2.0;
+    }
+    void drawsTheBezelAnewInAnotherSize()
+    {
+        QFETCH(QSize, size);
+        QFETCH(qreal, scale);
+        LBProgressBar fresh;
+        prepare(fresh, 0);
+        fresh.resize(size);
+        LBProgressBar drawn;
+        prepare(drawn, 0);
+        pictureOf(&drawn);
+        drawn.resize(size);
+        QCOMPARE(pictureOf(&drawn, scale), pictureOf(&fresh, scale));
+    }
+
     void rightToLeftFillsFromTheRight()
     {
         LBProgressBar bar;

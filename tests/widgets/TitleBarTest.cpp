@@ -7,6 +7,8 @@
 #include <QSet>
 #include <QWindow>
 
+#include <functional>
+
 using namespace lumora;
 using namespace lumora::testing;
 using namespace Qt::StringLiterals;
@@ -264,6 +266,54 @@ private slots:
         QCOMPARE(picture.pixelColor(300, 59), QColor(window.isMainWindow() ? Qt::yellow : Qt::cyan));
         window.setShowsBaselineSeparator(false);
         QVERIFY(pictureOf(window.titleBarView()).pixelColor(300, 59).red() <= 26);
+    }
+
+    void drawsAnewWhatChangedSinceItWasDrawn_data()
+    {
+        using Change = std::function<void(INAppStoreWindow &)>;
+        QTest::addColumn<Change>("change");
+        QTest::addColumn<qreal>("scale");
+        const auto row = [](const char *what, const Change &change, qreal scale = 1) {
+            QTest::newRow(what) << change << scale;
+        };
+        row("the upper colour", [](auto &window) { window.setTitleBarStartColor(Qt::red); });
+        row("the lower colour", [](auto &window) { window.setTitleBarEndColor(Qt::red); });
+        row("no colours any more", [](auto &window) {
+            window.setTitleBarStartColor({});
+            window.setTitleBarEndColor({});
+        });
+        row("the height", [](auto &window) { window.setTitleBarHeight(80); });
+        row("the width", [](auto &window) { window.resize(500, 400); });
+        row("full screen", [](auto &window) { window.showFullScreen(); });
+        row(
+            "the scale", [](auto &) {}, 2);
+        row(
+            "a scale between", [](auto &) {}, 1.5);
+        row(
+            "the scale and the colour", [](auto &window) { window.setTitleBarStartColor(Qt::red); }, 2);
+    }
+    void drawsAnewWhatChangedSinceItWasDrawn()
+    {
+        QFETCH(std::function<void(INAppStoreWindow &)>, change);
+        QFETCH(qreal, scale);
+        const auto prepared = [](INAppStoreWindow &window) {
+            window.setTitleBarHeight(60);
+            window.setTitleBarStartColor(Qt::blue);
+            window.setTitleBarEndColor(Qt::cyan);
+            show(window);
+        };
+        INAppStoreWindow fresh;
+        prepared(fresh);
+        change(fresh);
+        const QImage expected = pictureOf(fresh.titleBarView(), scale);
+        fresh.close();
+        INAppStoreWindow drawn;
+        prepared(drawn);
+        const QImage before = pictureOf(drawn.titleBarView());
+        change(drawn);
+        const QImage after = pictureOf(drawn.titleBarView(), scale);
+        QVERIFY(after != before);
+        QCOMPARE(after, expected);
     }
 
     void drawsThroughTheBlock()
