@@ -21,6 +21,7 @@ import tempfile
 import time
 from pathlib import Path
 
+from control import Control
 from waiting import WAIT, Missing, wait_for
 
 
@@ -29,6 +30,8 @@ class Desktop:
 
     # Whether a drag may offer a link and nothing else, or a copy and no link.
     has_links = True
+    # Whether a program or a script may say where a window goes, and is told where it is.
+    places_windows = True
 
     def __init__(self, program, drag_source=None, size="1600x1200", scale=1, language="en_GB.UTF-8"):
         self.program = Path(program)
@@ -69,7 +72,6 @@ class Desktop:
             "XDG_CONFIG_HOME": str(home / ".config"),
             "LC_ALL": "C.UTF-8",
             "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
-            "QT_SCALE_FACTOR": str(self.scale),
             "NO_AT_BRIDGE": "1",
         }
         self.environment["DISPLAY"] = self._start_x()
@@ -80,6 +82,7 @@ class Desktop:
         os.environ.update(self.environment)
 
     def _start_window_system(self):
+        self.environment["QT_SCALE_FACTOR"] = str(self.scale)
         self.run("openbox", "--sm-disable")
         wait_for("the window manager", self._is_managed)
 
@@ -196,6 +199,10 @@ class Desktop:
         crop = ["-crop", geometry, "+repage"] if geometry else []
         subprocess.run(["import", "-silent", "-window", "root", *crop, str(path)], env=self.environment, check=True)
 
+    def has_window(self, process):
+        """Whether a window is seen that may be this process's."""
+        return bool(self._window_of(process))
+
     def find_window(self, lumora):
         """Waits for Lumora's window, and answers what xdotool calls it."""
         return wait_for("Lumora's window", lambda: self._window_of(lumora.process))
@@ -203,78 +210,13 @@ class Desktop:
     def activate(self, lumora):
         self.xdotool("windowactivate", "--sync", lumora.window)
 
-    def to_screen(self, x, y):
-        """A point that Lumora says is on the screen, where it is on the screen."""
-        return x, y
+    def photograph(self, process, path):
+        """Takes the picture of the process's window."""
+        subprocess.run(["import", "-silent", "-window", self._window_of(process), str(path)], env=self.environment, check=True)
 
-
-class Control:
-    """One node of the accessibility tree."""
-
-    def __init__(self, node, desktop):
-        self.node, self.desktop = node, desktop
-
-    @property
-    def name(self):
-        return self.node.name
-
-    @property
-    def text(self):
-        text = self.node.queryText()
-        return text.getText(0, text.characterCount)
-
-    @property
-    def role(self):
-        return self.node.getRoleName()
-
-    @property
-    def box(self):
-        """x, y, width, height on the screen, in pixels."""
-        x, y, width, height = self.box_as_told
-        return *self.desktop.to_screen(x, y), width, height
-
-    @property
-    def box_as_told(self):
-        """The same as the accessibility tree has it: under Wayland no window knows where it is on the screen."""
-        import pyatspi
-
-        box = self.node.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
-        return box.x, box.y, box.width, box.height
-
-    @property
-    def middle(self):
-        x, y, width, height = self.box
-        return x + width // 2, y + height // 2
-
-    def has_state(self, name):
-        import pyatspi
-
-        return self.node.getState().contains(getattr(pyatspi, "STATE_" + name.upper()))
-
-    def press(self):
-        """By the accessibility interface, as a screen reader presses."""
-        action = self.node.queryAction()
-        names = [action.getName(index).lower() for index in range(action.nActions)]
-        for wanted in ("press", "toggle", "click"):
-            if wanted in names:
-                action.doAction(names.index(wanted))
-                return
-        raise Missing(f"{self.name} offers {names}, nothing to press")
-
-    def click(self):
-        """With the mouse."""
-        self.desktop.click(*self.middle)
-
-    def focus(self):
-        self.node.queryComponent().grabFocus()
-
-    @property
-    def description(self):
-        return self.node.description
-
-    def set_text(self, text):
-        """By the accessibility interface, as a screen reader's dictation does."""
-        self.node.queryEditableText().setTextContents(text)
+    def to_screen(self, x, y, width, height):
+        """A rectangle that Lumora says is on the screen, in points, where it is on the screen, in pixels."""
+        return tuple(round(value * self.scale) for value in (x, y, width, height))
 
 
 class Lumora:
@@ -295,16 +237,22 @@ class Lumora:
                 return application if application.childCount else None
         return None
 
-    def _walk(self, node):
+    def _walk(self, node, showing=False):
         try:
             children = [node.getChildAtIndex(index) for index in range(node.childCount)]
         except Exception:  # a node that went away while it was looked at
             return
         for child in children:
-            if child is None:
-                continue
-            yield child
-            yield from self._walk(child)
+            # What stands on something hidden is hidden: five of the six tools need not be asked.
+            if child is not None and (not showing or self._is_showing(child)):
+                yield child
+                yield from self._walk(child, showing)
+
+    def _is_showing(self, node):
+        try:
+            return Control(node, self.desktop).has_state("showing")
+        except Exception:  # as above
+            return False
 
     def walk(self):
         """Every control there is, the main window first."""
@@ -313,12 +261,11 @@ class Lumora:
     def controls(self, role=None, name=None, showing=True):
         """Every control of the role and the name, or of any."""
         found = []
-        for node in self._walk(self.node):
+        for node in self._walk(self.node, showing):
             try:
                 control = Control(node, self.desktop)
                 if (role is None or control.role == role) and (name is None or control.name == name):
-                    if not showing or control.has_state("showing"):
-                        found.append(control)
+                    found.append(control)
             except Exception:  # as above
                 continue
         return found

@@ -7,7 +7,8 @@ import sys
 import tempfile
 from pathlib import Path
 
-from desktop import Desktop, wait_for
+from desktop import wait_for
+from window_system import Desktop
 
 TOOLS = 6
 # Roles of things that are operated. The rest is what they stand on, and what is read.
@@ -74,9 +75,9 @@ def names_are_complete(desktop, lumora):
 def pixels(desktop, folder, box):
     """What the screen shows in and around the box."""
     x, y, width, height = box
-    picture = Path(folder) / "control.png"
+    picture = Path(folder) / "control.rgb"
     desktop.screenshot(picture, f"{width + 12}x{height + 12}+{max(x - 6, 0)}+{max(y - 6, 0)}")
-    return subprocess.run(["convert", str(picture), "-depth", "8", "rgb:-"], capture_output=True, check=True).stdout
+    return picture.read_bytes()
 
 
 def changed(one, other):
@@ -145,7 +146,7 @@ def popovers_are_announced(desktop, lumora):
 def main(program):
     with Desktop(program) as desktop:
         lumora = desktop.start()
-        desktop.xdotool("windowmove", "--sync", lumora.window, 100, 100)
+        desktop.move_window(lumora, 100, 100)
         lumora.activate()
         # First, while no list was used: a list's current row counts as focused wherever the focus is.
         focus_is_seen(desktop, lumora)

@@ -10,7 +10,8 @@ import time
 import zipfile
 from pathlib import Path
 
-from desktop import Desktop, Lumora, wait_for
+from desktop import Lumora, wait_for
+from window_system import Desktop
 
 # As long as the program waits for one that does not answer, and then some for starting up.
 PATIENCE = 5
@@ -100,8 +101,8 @@ def without_a_bus(desktop, scratch):
     nowhere = {"DBUS_SESSION_BUS_ADDRESS": f"unix:path={scratch}/nowhere"}
     processes = [desktop.run(desktop.program, str(scratch / "first.png"), **nowhere) for _ in range(2)]
     for process in processes:
-        wait_for("a window of its own", lambda process=process: desktop._window_of(process))
-    for process in processes:
+        wait_for("a window of its own", lambda process=process: desktop.has_window(process))
+        assert process.poll() is None, "it ended by itself: " + desktop.log()
         process.terminate()
         assert process.wait(MARGIN) == 0
 

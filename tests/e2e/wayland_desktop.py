@@ -15,7 +15,8 @@ from desktop import Desktop, wait_for
 
 class WaylandDesktop(Desktop):
     """The desktop under a Wayland compositor. No window has a number here, and none knows where it is: after a window
-    was moved or resized by hand, `find_window` has to look again before controls are clicked."""
+    was moved or resized by hand, `find_window` has to look again before controls are clicked. A whole scale is the
+    screen's, as the compositor tells it; this compositor knows no others, so that they are the toolkit's."""
 
     BACKGROUND = (32, 36, 40)
     # Nothing but a window has so long a row of pixels that are not the background's: no pointer, no popover's edge.
@@ -23,6 +24,7 @@ class WaylandDesktop(Desktop):
     # What drag_source paints.
     SOURCE = (255, 0, 255)
     has_links = False
+    places_windows = False
 
     def _start_window_system(self):
         width, height = map(int, self.size.split("x"))
@@ -31,9 +33,12 @@ class WaylandDesktop(Desktop):
                             "animation=none\nstartup-animation=none\nclose-animation=none\nfocus-animation=none\n"
                             # No keyboard comes up on the screen where text is edited.
                             "[input-method]\npath=\n" % self.BACKGROUND)
-        self.run("weston", "--backend=x11-backend.so", "--use-pixman", f"--width={width}", f"--height={height}",
+        screen_scale = round(self.scale) if self.scale == round(self.scale) else 1
+        self.run("weston", "--backend=x11-backend.so", "--use-pixman", f"--scale={screen_scale}",
+                 f"--width={width // screen_scale}", f"--height={height // screen_scale}",
                  "--idle-time=0", "--socket=lumora", f"--config={settings}")
-        self.environment |= {"WAYLAND_DISPLAY": "lumora", "QT_QPA_PLATFORM": "wayland"}
+        self.environment |= {"WAYLAND_DISPLAY": "lumora", "QT_QPA_PLATFORM": "wayland",
+                             "QT_SCALE_FACTOR": str(self.scale / screen_scale)}
         wait_for("the compositor", (self.folder / "runtime/lumora").exists)
         window = wait_for("the compositor's window", self._compositor_window)
         # Without a window manager nobody else gives it the keyboard.
@@ -82,10 +87,14 @@ class WaylandDesktop(Desktop):
         left, right = (statistics.median_low(edge[side] for edge in edges) for side in (1, 2))
         return left, edges[0][0], right - left, edges[-1][0] + 1 - edges[0][0]
 
+    def has_window(self, process):
+        # Nobody tells whose it is.
+        return bool(self.window_box())
+
     def find_window(self, lumora):
         box = wait_for("Lumora's window", self.window_box)
         x, y = next(lumora.walk()).box_as_told[:2]
-        self.offset = (box[0] - x, box[1] - y)
+        self.offset = (box[0] - round(x * self.scale), box[1] - round(y * self.scale))
         return None
 
     def activate(self, lumora):
@@ -97,8 +106,14 @@ class WaylandDesktop(Desktop):
             self.source = None
             wait_for("the drag's source to go", self._is_source_gone)
 
-    def to_screen(self, x, y):
-        return x + self.offset[0], y + self.offset[1]
+    def photograph(self, _, path):
+        # Of the only one.
+        x, y, width, height = self.window_box()
+        self.screenshot(path, f"{width}x{height}+{x}+{y}")
+
+    def to_screen(self, x, y, width, height):
+        x, y, width, height = super().to_screen(x, y, width, height)
+        return x + self.offset[0], y + self.offset[1], width, height
 
     def _is_source_gone(self):
         return not self.bounds(self.SOURCE)

@@ -1,0 +1,40 @@
+# SPDX-License-Identifier: MIT
+"""In a sandbox, as the Flatpak starts it: files and folders are chosen in the desktop's own dialogs, which its portal shows."""
+
+import subprocess
+import sys
+import tempfile
+from pathlib import Path
+
+from desktop import Desktop, wait_for
+
+PORTAL = Path(__file__).parent / "fake_file_portal.py"
+
+
+def main(program):
+    with tempfile.TemporaryDirectory() as scratch, Desktop(program) as desktop:
+        scratch = Path(scratch)
+        source, out = scratch / "through the portal ü.png", scratch / "out"
+        out.mkdir()
+        subprocess.run(["convert", "-size", "1024x1024", "gradient:tomato-steelblue", source], check=True)
+        portal = subprocess.Popen(["/usr/bin/python3", PORTAL, source, out], env=desktop.environment,
+                                  stdout=subprocess.PIPE, text=True)
+        desktop.processes.append(portal)
+        assert portal.stdout.readline() == "ready\n"
+
+        desktop.environment["QT_QPA_PLATFORMTHEME"] = "xdgdesktopportal"
+        lumora = desktop.start()
+        lumora.button("Browse…").press()
+        assert portal.stdout.readline() == "asked for a file\n"
+        lumora.wait_shown(source.name)
+        lumora.find("check box", "Favicon").press()
+        lumora.button("Generate", 0).press()
+        assert portal.stdout.readline() == "asked for a folder\n"
+        wait_for("the icons", lambda: len(list(out.glob("icons/Favicon/*.png"))) == 5)
+        # No dialog of the toolkit's own was shown beside it.
+        assert not lumora.controls("push button", "Open") and not lumora.controls("push button", "Choose")
+        assert lumora.close() == 0
+
+
+if __name__ == "__main__":
+    main(sys.argv[1])
