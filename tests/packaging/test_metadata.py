@@ -175,8 +175,12 @@ class Flatpak(unittest.TestCase):
         self.assertEqual((self.manifest["id"], self.manifest["command"]), (APPLICATION_ID, "lumora"))
 
     def test_it_asks_for_a_window_and_nothing_else(self):
-        allowed = {"--socket=wayland", "--socket=fallback-x11", "--share=ipc", "--device=dri"}
-        self.assertLessEqual(set(self.manifest["finish-args"]), allowed)
+        permissions = {argument for argument in self.manifest["finish-args"] if not argument.startswith("--env=")}
+        self.assertLessEqual(permissions, {"--socket=wayland", "--socket=fallback-x11", "--share=ipc", "--device=dri"})
+
+    def test_its_file_dialogs_are_the_portals(self):
+        # tests/e2e/walk_portal.py shows that this is what it takes.
+        self.assertIn("--env=QT_QPA_PLATFORMTHEME=xdgdesktopportal", self.manifest["finish-args"])
 
     def test_every_download_is_fixed_by_its_checksum(self):
         for module in self.manifest["modules"]:
