@@ -11,7 +11,9 @@ import signal
 import subprocess
 import sys
 import tempfile
+import time
 import unittest
+import zipfile
 from pathlib import Path
 
 from place import BUILD, SOURCE, VERSION, package, run
@@ -102,6 +104,42 @@ class Unpacked:
         return run(*self.command(*command))
 
 
+def wait_for(what, condition):
+    end = time.monotonic() + 60
+    while not condition():
+        assert time.monotonic() < end, f"waited in vain for {what}"
+        time.sleep(0.1)
+
+
+class Screen:
+    """An X server of this machine's, for the time of the block; it listens on a socket without a place in the file system, too, so
+    that what runs in the root finds it."""
+
+    def __enter__(self):
+        self.server = subprocess.Popen(
+            ["Xvfb", "-displayfd", "1", "-screen", "0", "1280x900x24", "-ac"], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL,
+            text=True,
+        )
+        self.display = f":{self.server.stdout.readline().strip()}"
+        return self
+
+    def __exit__(self, *_):
+        self.server.terminate()
+        self.server.communicate(timeout=20)
+
+    def run(self, *command):
+        return run(*command, env=os.environ | {"DISPLAY": self.display})
+
+    def find_window(self):
+        return self.run("timeout", "60", "xdotool", "search", "--sync", "--onlyvisible", "--class", "lumora")
+
+    def share(self, color):
+        """The part of the screen that has exactly this colour, 0 to 1."""
+        name = "rgb(%d,%d,%d)" % color
+        mask = ["-fill", "black", "+opaque", name, "-fill", "white", "-opaque", name]
+        return float(self.run("convert", "x:root", *mask, "-format", "%[fx:mean]", "info:").stdout)
+
+
 class FreshRoot(unittest.TestCase):
     @classmethod
     def setUpClass(cls):
@@ -176,27 +214,50 @@ class FreshRoot(unittest.TestCase):
             self.lumora("icon", self.work(source.name), "--size", "16", "--to", self.work("."))
 
     def test_3_the_window_opens(self):
-        """The X server is this machine's; a server listens on a socket without a place in the file system too."""
-        server = subprocess.Popen(
-            ["Xvfb", "-displayfd", "1", "-screen", "0", "1280x900x24", "-ac"], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL,
-            text=True,
-        )
-        display = f":{server.stdout.readline().strip()}"
-        window = subprocess.Popen(
-            self.root.command("lumora", self.work("dropped.png"), display=display),
-            stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True, start_new_session=True,
-        )
-        try:
-            seen = run("timeout", "60", "xdotool", "search", "--sync", "--onlyvisible", "--class", "lumora",
-                       env=os.environ | {"DISPLAY": display})
-            self.assertEqual(seen.returncode, 0, window.communicate(timeout=5)[0] if window.poll() is not None else "")
-            name = run("xdotool", "getwindowname", seen.stdout.split()[0], env=os.environ | {"DISPLAY": display})
-            self.assertIn("Lumora", name.stdout)
-        finally:
-            os.killpg(window.pid, signal.SIGTERM)
-            window.communicate(timeout=20)
-            server.terminate()
-            server.communicate(timeout=20)
+        with Screen() as screen:
+            window = subprocess.Popen(
+                self.root.command("lumora", self.work("dropped.png"), display=screen.display),
+                stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True, start_new_session=True,
+            )
+            try:
+                seen = screen.find_window()
+                self.assertEqual(seen.returncode, 0, window.communicate(timeout=5)[0] if window.poll() is not None else "")
+                name = screen.run("xdotool", "getwindowname", seen.stdout.split()[0])
+                self.assertIn("Lumora", name.stdout)
+            finally:
+                os.killpg(window.pid, signal.SIGTERM)
+                window.communicate(timeout=20)
+
+    @unittest.skipUnless(AS_ROOT, "nothing was installed")
+    def test_4_a_file_manager_opens_packages_and_pictures_with_it(self):
+        """As file managers do: glib looks up the file's kind and its program, and has the session bus start that."""
+        # What every desktop has.
+        result = self.root.apt("install", "dbus", "desktop-file-utils", "libglib2.0-bin", "shared-mime-info")
+        self.assertEqual(result.returncode, 0, result.stdout)
+        package = self.root.folder / "scratch" / "Eine App ü.ipa"
+        with zipfile.ZipFile(package, "w") as archive:
+            archive.writestr("Payload/A.app/Info.plist", "<plist version='1.0'><dict/></plist>")
+        picture = self.root.folder / "scratch" / "a picture.png"
+        made = run("convert", "-size", "1024x1024", "plasma:red-blue", picture)
+        self.assertEqual(made.returncode, 0, made.stdout)
+        address = "unix:path=/scratch/bus"
+        with Screen() as screen:
+            bus = subprocess.Popen(
+                self.root.command("dbus-daemon", "--session", "--nofork", f"--address={address}", display=screen.display),
+                stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, start_new_session=True,
+            )
+            try:
+                wait_for("the session bus", (self.root.folder / "scratch/bus").exists)
+                # The tool that takes the file is the current one then; the second file goes to the program that runs.
+                for file, header in ((package, (241, 196, 15)), (picture, (52, 152, 219))):
+                    opened = self.root.run("env", f"DBUS_SESSION_BUS_ADDRESS={address}", "gio", "open", self.work(file.name))
+                    self.assertEqual(opened.returncode, 0, opened.stdout)
+                    wait_for(f"the tool for {file.name}", lambda header=header: screen.share(header) > 0.05)
+                windows = screen.find_window().stdout.split()
+                self.assertEqual(len(windows), 1, windows)
+            finally:
+                os.killpg(bus.pid, signal.SIGTERM)
+                bus.wait(20)
 
     @unittest.skipUnless(AS_ROOT, "nothing was installed")
     def test_9_removal_leaves_no_trace(self):
