@@ -9,6 +9,35 @@
 using namespace Qt::StringLiterals;
 using namespace lumora;
 
+namespace
+{
+
+/// A window on the screen and a popover of its own, as the panes have them.
+struct PopoverInWindow
+{
+    PopoverInWindow()
+    {
+        stylePopover(popover);
+        popover.setAnimates(false);
+        window.resize(400, 300);
+        window.show();
+    }
+
+    /// A popover is made around a content that has its size.
+    static QWidget *makeContent()
+    {
+        auto *made = new QWidget;
+        made->resize(200, 100);
+        return made;
+    }
+
+    QWidget window;
+    QWidget *content = makeContent();
+    SFBPopover popover{content};
+};
+
+} // namespace
+
 class PopupPlacementTest : public QObject
 {
     Q_OBJECT
@@ -49,62 +78,42 @@ private slots:
 
     void displayedAgainInTheMiddleItLiesBelowAgain()
     {
-        QWidget window;
-        window.resize(400, 300);
-        window.show();
-        auto *content = new QWidget;
-        content->resize(200, 100);
-        SFBPopover popover(content);
-        stylePopover(popover);
-        popover.setAnimates(false);
-        const QRect screen = window.screen()->availableGeometry();
-        window.move(screen.right() - 300, screen.top() + 100);
-        displayOnScreen(popover, &window, QPointF(280, 280));
-        QCOMPARE(popover.position(), PopoverPosition::BelowArrowNearRight);
-        QVERIFY(screen.contains(QRect(content->mapToGlobal(QPoint()), content->size())));
-        popover.closePopover();
-        window.move(screen.left() + 100, screen.top() + 100);
-        displayOnScreen(popover, &window, QPointF(280, 280));
-        QCOMPARE(popover.position(), PopoverPosition::Below);
+        PopoverInWindow shown;
+        const QRect screen = shown.window.screen()->availableGeometry();
+        shown.window.move(screen.right() - 300, screen.top() + 100);
+        displayOnScreen(shown.popover, &shown.window, QPointF(280, 280));
+        QCOMPARE(shown.popover.position(), PopoverPosition::BelowArrowNearRight);
+        QVERIFY(screen.contains(QRect(shown.content->mapToGlobal(QPoint()), shown.content->size())));
+        shown.popover.closePopover();
+        shown.window.move(screen.left() + 100, screen.top() + 100);
+        displayOnScreen(shown.popover, &shown.window, QPointF(280, 280));
+        QCOMPARE(shown.popover.position(), PopoverPosition::Below);
         // The arrow's tip stands on the point.
-        const QPoint tip(window.mapToGlobal(QPoint(280, 300 - 280)));
-        QCOMPARE(content->mapToGlobal(QPoint(100, 0)), tip + QPoint(0, 10));
+        const QPoint tip(shown.window.mapToGlobal(QPoint(280, 300 - 280)));
+        QCOMPARE(shown.content->mapToGlobal(QPoint(100, 0)), tip + QPoint(0, 10));
     }
 
     void contentResizedWhileHiddenIsShownInItsNewSizeOnAnySide()
     {
-        QWidget window;
-        window.resize(400, 300);
-        window.show();
-        auto *content = new QWidget;
-        content->resize(200, 100);
-        SFBPopover popover(content);
-        stylePopover(popover);
-        popover.setAnimates(false);
-        const QRect screen = window.screen()->availableGeometry();
-        window.move(screen.center().x() - 200, screen.bottom() - 400);
-        content->resize(220, 240);
-        displayOnScreen(popover, &window, QPointF(200, 50));
-        QCOMPARE(popover.position(), PopoverPosition::Above);
-        QCOMPARE(content->size(), QSize(220, 240));
-        const QRect shown(content->mapToGlobal(QPoint()), content->size());
-        QCOMPARE(shown.intersected(screen), shown);
+        PopoverInWindow shown;
+        const QRect screen = shown.window.screen()->availableGeometry();
+        shown.window.move(screen.center().x() - 200, screen.bottom() - 400);
+        shown.content->resize(220, 240);
+        displayOnScreen(shown.popover, &shown.window, QPointF(200, 50));
+        QCOMPARE(shown.popover.position(), PopoverPosition::Above);
+        QCOMPARE(shown.content->size(), QSize(220, 240));
+        const QRect lies(shown.content->mapToGlobal(QPoint()), shown.content->size());
+        QCOMPARE(lies.intersected(screen), lies);
     }
 
     void aVisiblePopoverStaysWhereItIs()
     {
-        QWidget window;
-        window.resize(400, 300);
-        window.show();
-        auto *content = new QWidget;
-        content->resize(200, 100);
-        SFBPopover popover(content);
-        popover.setAnimates(false);
-        displayOnScreen(popover, &window, QPointF(200, 250));
-        const QRectF frame = popover.popoverWindow()->frame();
-        displayOnScreen(popover, &window, QPointF(100, 200), PopoverPosition::Above);
-        QCOMPARE(popover.position(), PopoverPosition::Below);
-        QCOMPARE(popover.popoverWindow()->frame(), frame);
+        PopoverInWindow shown;
+        displayOnScreen(shown.popover, &shown.window, QPointF(200, 250));
+        const QRectF frame = shown.popover.popoverWindow()->frame();
+        displayOnScreen(shown.popover, &shown.window, QPointF(100, 200), PopoverPosition::Above);
+        QCOMPARE(shown.popover.position(), PopoverPosition::Below);
+        QCOMPARE(shown.popover.popoverWindow()->frame(), frame);
     }
 };
 

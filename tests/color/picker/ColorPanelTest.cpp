@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "WellsWindow.h"
+#include "WellsTest.h"
 
 #include <QAccessible>
 #include <QAction>
@@ -9,24 +9,11 @@
 using namespace lumora;
 using namespace Qt::StringLiterals;
 
-class ColorPanelTest : public QObject
+class ColorPanelTest : public WellsTest
 {
     Q_OBJECT
 
-private:
-    std::unique_ptr<WellsWindow> m_wells;
-
-    static BFColorPickerPopover *popover() { return WellsWindow::popover(); }
-    static ColorPanel *panel() { return WellsWindow::panel(); }
-
 private slots:
-    void init()
-    {
-        m_wells = std::make_unique<WellsWindow>();
-        QVERIFY(QTest::qWaitForWindowExposed(&m_wells->window));
-    }
-    void cleanup() { m_wells.reset(); }
-
     void aDisabledPanelDoesNotComeToTheFront()
     {
         ColorPanel::disablePanel();

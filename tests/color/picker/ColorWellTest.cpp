@@ -1,32 +1,16 @@
 // SPDX-License-Identifier: MIT
-#include "WellsWindow.h"
+#include "WellsTest.h"
 
 #include <QAccessible>
 #include <QSignalSpy>
 
 using namespace lumora;
 
-class ColorWellTest : public QObject
+class ColorWellTest : public WellsTest
 {
     Q_OBJECT
 
-private:
-    std::unique_ptr<WellsWindow> m_wells;
-
-    static constexpr RgbaColor first = WellsWindow::first;
-    static constexpr RgbaColor second = WellsWindow::second;
-    static constexpr RgbaColor picked = WellsWindow::picked;
-    static BFColorPickerPopover *popover() { return WellsWindow::popover(); }
-    static ColorPanel *panel() { return WellsWindow::panel(); }
-
 private slots:
-    void init()
-    {
-        m_wells = std::make_unique<WellsWindow>();
-        QVERIFY(QTest::qWaitForWindowExposed(&m_wells->window));
-    }
-    void cleanup() { m_wells.reset(); }
-
     void aWellOpensToTheRightAndUsesAPanelByDefault()
     {
         QCOMPARE(m_wells->well.preferredEdgeForPopover(), Qt::RightEdge);

@@ -1,40 +1,20 @@
 // SPDX-License-Identifier: MIT
 #include "color/picker/ColorWheel.h"
-#include "ShownPicker.h"
+#include "PickerTest.h"
 #include "color/picker/WheelGeometry.h"
 #include "color/picker/WheelImage.h"
-#include "resources/Resources.h"
 
 #include <QMouseEvent>
 #include <QSignalSpy>
-#include <QTest>
 
 using namespace lumora;
 using namespace Qt::StringLiterals;
 
-namespace
-{
-
-constexpr RgbaColor blue{0.0F, 0.0F, 1.0F, 1.0F};
-
-} // namespace
-
-class ColorWheelTest : public QObject
+class ColorWheelTest : public PickerTest
 {
     Q_OBJECT
 
-private:
-    std::unique_ptr<ShownPicker> m_picker;
-
 private slots:
-    void initTestCase() { installTexts(*QCoreApplication::instance(), QLocale(u"en"_s)); }
-    void init()
-    {
-        m_picker = std::make_unique<ShownPicker>();
-        QVERIFY(QTest::qWaitForWindowExposed(&m_picker->content));
-    }
-    void cleanup() { m_picker.reset(); }
-
     void picksOnTheWheel()
     {
         const QPoint middle = m_picker->wheel()->markerCenter().toPoint();

@@ -1,39 +1,19 @@
 // SPDX-License-Identifier: MIT
-#include "ShownPicker.h"
-#include "resources/Resources.h"
+#include "PickerTest.h"
 
 #include <QLabel>
 #include <QLineEdit>
 #include <QSpinBox>
-#include <QTest>
 #include <QToolButton>
 
 using namespace lumora;
 using namespace Qt::StringLiterals;
 
-namespace
-{
-
-constexpr RgbaColor blue{0.0F, 0.0F, 1.0F, 1.0F};
-
-} // namespace
-
-class PickerContentTest : public QObject
+class PickerContentTest : public PickerTest
 {
     Q_OBJECT
 
-private:
-    std::unique_ptr<ShownPicker> m_picker;
-
 private slots:
-    void initTestCase() { installTexts(*QCoreApplication::instance(), QLocale(u"en"_s)); }
-    void init()
-    {
-        m_picker = std::make_unique<ShownPicker>();
-        QVERIFY(QTest::qWaitForWindowExposed(&m_picker->content));
-    }
-    void cleanup() { m_picker.reset(); }
-
     void opacityIsASliderOfEveryMode()
     {
         m_picker->model.setColor(blue);

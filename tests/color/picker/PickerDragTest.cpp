@@ -1,28 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "WellsWindow.h"
+#include "WellsTest.h"
 
 using namespace lumora;
 
-class PickerDragTest : public QObject
+class PickerDragTest : public WellsTest
 {
     Q_OBJECT
 
-private:
-    std::unique_ptr<WellsWindow> m_wells;
-
-    static constexpr RgbaColor second = WellsWindow::second;
-    static constexpr RgbaColor picked = WellsWindow::picked;
-    static BFColorPickerPopover *popover() { return WellsWindow::popover(); }
-    static ColorPanel *panel() { return WellsWindow::panel(); }
-
 private slots:
-    void init()
-    {
-        m_wells = std::make_unique<WellsWindow>();
-        QVERIFY(QTest::qWaitForWindowExposed(&m_wells->window));
-    }
-    void cleanup() { m_wells.reset(); }
-
     void aDragOffTheWellTearsOffFromFiftyPoints_data()
     {
         QTest::addColumn<QPoint>("travel");

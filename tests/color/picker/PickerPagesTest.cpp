@@ -1,41 +1,21 @@
 // SPDX-License-Identifier: MIT
-#include "ShownPicker.h"
+#include "PickerTest.h"
 #include "color/picker/ColorSlider.h"
 #include "color/picker/SwatchList.h"
-#include "resources/Resources.h"
 
 #include <QComboBox>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QSpinBox>
-#include <QTest>
 
 using namespace lumora;
 using namespace Qt::StringLiterals;
 
-namespace
-{
-
-constexpr RgbaColor blue{0.0F, 0.0F, 1.0F, 1.0F};
-
-} // namespace
-
-class PickerPagesTest : public QObject
+class PickerPagesTest : public PickerTest
 {
     Q_OBJECT
 
-private:
-    std::unique_ptr<ShownPicker> m_picker;
-
 private slots:
-    void initTestCase() { installTexts(*QCoreApplication::instance(), QLocale(u"en"_s)); }
-    void init()
-    {
-        m_picker = std::make_unique<ShownPicker>();
-        QVERIFY(QTest::qWaitForWindowExposed(&m_picker->content));
-    }
-    void cleanup() { m_picker.reset(); }
-
     void sliders_data()
     {
         QTest::addColumn<ColorChannel>("channel");

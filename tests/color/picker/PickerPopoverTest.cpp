@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "WellsWindow.h"
+#include "WellsTest.h"
 #include "color/picker/ChannelRow.h"
 #include "color/picker/ColorSlider.h"
 #include "color/picker/PickerPages.h"
@@ -31,27 +31,11 @@ protected:
 
 } // namespace
 
-class PickerPopoverTest : public QObject
+class PickerPopoverTest : public WellsTest
 {
     Q_OBJECT
 
-private:
-    std::unique_ptr<WellsWindow> m_wells;
-
-    static constexpr RgbaColor first = WellsWindow::first;
-    static constexpr RgbaColor second = WellsWindow::second;
-    static constexpr RgbaColor picked = WellsWindow::picked;
-    static BFColorPickerPopover *popover() { return WellsWindow::popover(); }
-    static ColorPanel *panel() { return WellsWindow::panel(); }
-
 private slots:
-    void init()
-    {
-        m_wells = std::make_unique<WellsWindow>();
-        QVERIFY(QTest::qWaitForWindowExposed(&m_wells->window));
-    }
-    void cleanup() { m_wells.reset(); }
-
     void aFreshPopoverIsWhite()
     {
         BFColorPickerPopover fresh;
