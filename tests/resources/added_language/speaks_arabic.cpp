@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+// Answers 0 if the texts have a third language, which a system set to it gets, from the right to the left.
+#include "resources/Resources.h"
+
+#include <QCoreApplication>
+#include <QTextStream>
+
+int main(int argc, char **argv)
+{
+    QCoreApplication application(argc, argv);
+    lumora::loadResources();
+    const QStringList languages = lumora::availableLanguages();
+    const QLocale taken = lumora::installTexts(application, QLocale(QStringLiteral("ar_EG")));
+    const QString close = qtTrId("CLOSE");
+    QTextStream(stdout) << languages.join(u' ') << ' ' << taken.bcp47Name() << ' ' << close << '\n';
+    const bool complete = languages == QStringList{QStringLiteral("ar"), QStringLiteral("de"), QStringLiteral("en")};
+    const bool spoken = taken.language() == QLocale::Arabic && close == QStringLiteral("إغلاق");
+    return complete && spoken && taken.textDirection() == Qt::RightToLeft ? 0 : 1;
+}
