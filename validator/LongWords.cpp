@@ -23,8 +23,11 @@ void appendInPieces(QString &text, QStringView word)
     for (qsizetype i = 0; i < word.size(); ++i) {
         text += word[i];
         ++piece;
-        const bool last = i + 1 == word.size();
-        if (!last && (piece >= longestPiece || word[i].isPunct()) && mayBegin(word[i + 1])) {
+        if (i + 1 == word.size())
+            break;
+        // Not inside a row of it: the "://" of an address stays together.
+        const bool endsPunctuation = word[i].isPunct() && !word[i + 1].isPunct();
+        if ((piece >= longestPiece || endsPunctuation) && mayBegin(word[i + 1])) {
             text += breakHere;
             piece = 0;
         }

@@ -23,6 +23,22 @@ namespace
 /// Above a line, for the accents of capitals: the font counts them as leading, and a label has none above its text.
 constexpr int accentRoom = 3;
 
+/// Of the scroll bar's thumb while nobody is at it.
+constexpr float restingThumbOpacity = 0.6F;
+
+/// A thumb alone, without groove and arrows, at some distance from the text.
+QString thinScrollBar()
+{
+    QColor resting = palette::chromeText;
+    resting.setAlphaF(restingThumbOpacity);
+    return u"QScrollBar:vertical { background: transparent; width: 12px; }"
+           "QScrollBar::handle:vertical { background: %1; border-radius: 3px; margin-left: 6px; min-height: 24px; }"
+           "QScrollBar::handle:vertical:hover, QScrollBar::handle:vertical:pressed { background: %2; }"
+           "QScrollBar::add-line:vertical, QScrollBar::sub-line:vertical { height: 0; }"
+           "QScrollBar::add-page:vertical, QScrollBar::sub-page:vertical { background: transparent; }"_s.arg(
+               resting.name(QColor::HexArgb), palette::chromeText.name());
+}
+
 } // namespace
 
 ValidatePopupContentView::ValidatePopupContentView(QWidget *parent)
@@ -34,6 +50,7 @@ ValidatePopupContentView::ValidatePopupContentView(QWidget *parent)
     for (QLabel *label : {m_ui->titleLabel, m_ui->messageLabel})
         label->setContentsMargins(0, accentRoom, 0, 0);
     m_ui->scrollArea->viewport()->setAutoFillBackground(false);
+    m_ui->scrollArea->verticalScrollBar()->setStyleSheet(thinScrollBar());
     m_ui->scrollContents->setAutoFillBackground(false);
     styleButton(m_ui->closeButton, qtTrId("CLOSE"), u"button_icon_close"_s, palette::errorLight, palette::errorDark);
     connect(m_ui->closeButton, &IconButton::clicked, this, &ValidatePopupContentView::closeButtonPressed);
@@ -81,7 +98,9 @@ void ValidatePopupContentView::fitToText()
 {
     const QMargins margins = m_ui->layout->contentsMargins();
     const int titleWidth = width() - margins.left() - margins.right();
-    // Room for the scroll bar is kept free, so that a text that needs it wraps as one that does not.
+    // Room for the scroll bar is kept free, so that a text that needs it wraps as one that does not. Its width is known
+    // once its style is.
+    m_ui->scrollArea->verticalScrollBar()->ensurePolished();
     const int messageWidth = titleWidth - m_ui->scrollArea->verticalScrollBar()->sizeHint().width();
     m_ui->messageLabel->setFixedWidth(messageWidth);
     const int message = m_ui->messageLabel->heightForWidth(messageWidth);
