@@ -16,12 +16,16 @@ public:
     explicit GalleryPage(QWidget *parent = nullptr);
 
 protected:
+    /// Names the columns; all of them become equally wide.
+    void addHeadings(const QStringList &headings);
     /// Adds a row; the page takes the controls over.
     void addRow(const QString &title, const QList<QWidget *> &controls);
+    /// Puts a picture of the control, as it looks now, in its place: for what only one control at a time can be.
+    void photograph(QWidget *control);
 
     /// Tells a control that the pointer came over it, as a real pointer would.
     static void hover(QWidget *control);
-    /// Presses the left button over a control and lets it go.
+    /// The same, and holds the left button down.
     static void press(QWidget *control);
 
 private:

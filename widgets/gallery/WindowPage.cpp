@@ -126,8 +126,10 @@ SFBPopoverWindowFrame *balloonWithoutArrow()
 
 WindowPage::WindowPage(QWidget *parent) : GalleryPage(parent)
 {
+    addHeadings({QStringLiteral("Active"), QStringLiteral("Not key"), QStringLiteral("Under the pointer")});
     addRow(QStringLiteral("INWindowButton"), {lights(Look::Active), lights(Look::NotKey), lights(Look::Rollover)});
-    addRow(QStringLiteral("pressed, disabled"), {lights(Look::Pressed), lights(Look::Disabled)});
+    addHeadings({QStringLiteral("Held down"), QStringLiteral("Disabled")});
+    addRow(QString(), {lights(Look::Pressed), lights(Look::Disabled)});
     for (int row = 0; row < 4; ++row) {
         QList<QWidget *> balloons;
         for (int position = row * 3; position < row * 3 + 3; ++position)

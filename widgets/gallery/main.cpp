@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "ButtonPage.h"
-#include "FocusPage.h"
-#include "InputPage.h"
+#include "ControlPage.h"
+#include "TitleBarPage.h"
+#include "ValuePage.h"
 #include "WindowPage.h"
 
 #include "widgets/AppStyle.h"
@@ -31,11 +31,14 @@ QWidget *allPages()
     columns->setSpacing(0);
     auto *controls = new QVBoxLayout;
     controls->setSpacing(0);
-    controls->addWidget(new ButtonPage);
-    controls->addWidget(new InputPage);
-    controls->addWidget(new FocusPage);
+    controls->addWidget(new ControlPage, 0, Qt::AlignLeft);
+    controls->addWidget(new ValuePage, 1, Qt::AlignTop);
     columns->addLayout(controls);
-    columns->addWidget(new WindowPage, 0, Qt::AlignTop);
+    auto *windows = new QVBoxLayout;
+    windows->setSpacing(0);
+    windows->addWidget(new TitleBarPage);
+    windows->addWidget(new WindowPage, 1, Qt::AlignTop);
+    columns->addLayout(windows);
     return pages;
 }
 
@@ -74,7 +77,7 @@ int main(int argc, char *argv[])
     window.resize(pages->sizeHint() + QSize(2, 42));
     window.show();
     window.activateWindow();
-    const auto *opener = window.findChild<ImageButton *>(QString::fromLatin1(ButtonPage::popoverAnchorName));
+    const auto *opener = window.findChild<ImageButton *>(QString::fromLatin1(ControlPage::popoverAnchorName));
     QObject::connect(opener, &QAbstractButton::clicked, &window,
                      [&window, opener] { pointAt(opener, PopoverPosition::Right, palette::icons); });
     return QApplication::exec();
