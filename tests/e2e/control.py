@@ -46,6 +46,11 @@ class Control:
 
         return self.node.getState().contains(getattr(pyatspi, "STATE_" + name.upper()))
 
+    def has_focus(self):
+        """Whether keys go to it, or to the editor that a field shows while it has them."""
+        inside = [Control(self.node.getChildAtIndex(index), self.desktop) for index in range(self.node.childCount)]
+        return any(control.has_state("focused") for control in [self, *inside])
+
     def press(self):
         """By the accessibility interface, as a screen reader presses."""
         action = self.node.queryAction()

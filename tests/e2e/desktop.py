@@ -321,7 +321,7 @@ class Lumora:
             # A moment for the focus to move and for the tree to tell.
             end = time.monotonic() + 0.3
             while time.monotonic() < end:
-                if control.has_state("focused"):
+                if control.has_focus():
                     return control
                 time.sleep(0.03)
             self.desktop.key("Tab")
