@@ -10,7 +10,9 @@ from pathlib import Path
 from desktop import wait_for
 from window_system import Desktop
 
-TOOLS = 6
+HELP_TITLES = ("Icon generator", "Placeholder generator", "Retina down-scaler", "Colour codes", "Device matrix",
+               "App package check")
+TOOLS = len(HELP_TITLES)
 # Roles of things that are operated. The rest is what they stand on, and what is read.
 OPERATED = {"push button", "toggle button", "check box", "radio button", "text", "entry", "combo box", "spin button",
             "slider", "dial", "list", "list item", "page tab", "page tab list", "color chooser", "menu item", "link",
@@ -130,17 +132,28 @@ def popovers_are_announced(desktop, lumora):
             heard = listener.stdout.readline()
             assert heard, f"{role} {name} was not announced"
 
+    def opens(name, button):
+        """The button's popover announces itself by the name, and goes by Escape."""
+        button.press()
+        announced("dialog", name)
+        desktop.key("Escape")
+        lumora.wait_gone(name)
+
+    for number, title in enumerate(HELP_TITLES, start=1):
+        desktop.key(f"ctrl+{number}")
+        wait_for(f"tool {number}", lambda number=number: lumora.controls("page tab")[number - 1].has_state("selected"))
+        opens(title, lumora.button("Help on this tool"))
+    opens("About Lumora", lumora.button("About Lumora"))
+
+    # What a tool has to say.
     desktop.key("ctrl+1")
-    lumora.button("Help on this tool").press()
-    lumora.wait_shown("Report a bug")
-    announced("dialog", "Icon generator")
-    desktop.key("Escape")
-    lumora.wait_gone("Report a bug")
-    lumora.button("Generate", 1).press()
-    lumora.wait_shown("No size given")
-    announced("dialog", "No size given")
-    desktop.key("Escape")
-    lumora.wait_gone("No size given")
+    opens("No size given", lumora.button("Generate", 1))
+    desktop.key("ctrl+2")
+    opens("This size will not work", lumora.button("Generate", 2))
+    desktop.key("ctrl+4")
+    lumora.find("text", "Colour code").set_text("")
+    opens("This is no colour code", lumora.button("Copy CSS"))
+    opens("Colours", lumora.find("color chooser", "Colour well, opens the colour picker"))
 
 
 def main(program):
