@@ -71,7 +71,7 @@ void PopoverAlert::runAsPopoverForView(QWidget *view, RectEdge, CompletionBlock 
     m_parentPopover->setBorderColor(palette::chromeText);
 
     Alerts &all = alerts();
-    if (all.current != nullptr) {
+    if (all.current != nullptr && all.current.get() != this) {
         all.queue.push_back(all.current);
         all.current->retirePopover();
     }
@@ -82,14 +82,22 @@ void PopoverAlert::runAsPopoverForView(QWidget *view, RectEdge, CompletionBlock 
 
 void PopoverAlert::stopSynchronousPopoverAlert(const IconButton *button)
 {
-    // The completion may drop the last other reference to this alert.
+    // The completion may drop the last other reference to this alert, run it anew, or run another one.
     const std::shared_ptr<PopoverAlert> self = shared_from_this();
+    const CompletionBlock completion = m_completionBlock;
+    const SFBPopover *const answered = m_parentPopover.get();
     const int response = responseForButton(static_cast<int>(m_view->buttons().indexOf(button)));
-    if (m_completionBlock)
-        m_completionBlock(response);
-    retirePopover();
-    alerts().currentPopover = nullptr;
-    alerts().current.reset();
+    if (completion)
+        completion(response);
+    if (m_parentPopover.get() == answered)
+        retirePopover();
+    Alerts &all = alerts();
+    // One that made way to what its own completion ran has its answer.
+    std::erase(all.queue, self);
+    if (all.currentPopover != answered)
+        return;
+    all.currentPopover = nullptr;
+    all.current.reset();
     checkForPreviouslyShownAlerts();
 }
 

@@ -133,6 +133,36 @@ private slots:
         QCOMPARE(PopoverAlert::currentAlert(), one.get());
     }
 
+    void alertThatAnAnswerRunsStaysAndTheAnsweredOneDoesNotComeBack()
+    {
+        const auto waiting = run(u"waiting"_s);
+        std::shared_ptr<PopoverAlert> next;
+        const auto alert = PopoverAlert::create();
+        alert->buttonTitles = QStringList{u"Close"_s};
+        alert->runAsPopoverForView(m_target, [&](int) { next = run(u"next"_s); });
+        alert->buttons().first()->click();
+        QCOMPARE(PopoverAlert::currentAlert(), next.get());
+        QVERIFY(next->parentPopover()->isVisible());
+        QCOMPARE(PopoverAlert::queueLength(), 1);
+        next->buttons().first()->click();
+        QCOMPARE(PopoverAlert::currentAlert(), waiting.get());
+    }
+
+    void alertThatItsOwnAnswerRunsAnewIsShownAgain()
+    {
+        const auto alert = PopoverAlert::create();
+        alert->buttonTitles = QStringList{u"Again"_s};
+        alert->runAsPopoverForView(
+            m_target, [&](int) { alert->runAsPopoverForView(m_target, [this](int) { m_answers << u"second"_s; }); });
+        alert->buttons().first()->click();
+        QCOMPARE(PopoverAlert::currentAlert(), alert.get());
+        QVERIFY(alert->parentPopover()->isVisible());
+        QCOMPARE(PopoverAlert::queueLength(), 0);
+        alert->buttons().first()->click();
+        QVERIFY(PopoverAlert::currentAlert() == nullptr);
+        QCOMPARE(m_answers, QStringList{u"second"_s});
+    }
+
     void alertKeepsItselfAlive()
     {
         run(u"one"_s);
