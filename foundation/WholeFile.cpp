@@ -61,11 +61,19 @@ FailureCode openingFailure(int error)
     }
 }
 
+/// Makes writes wait until the other side has room.
+bool waitsForReaders(int descriptor)
+{
+    const int flags = ::fcntl(descriptor, F_GETFL);
+    return flags >= 0 && ::fcntl(descriptor, F_SETFL, flags & ~O_NONBLOCK) == 0;
+}
+
 /// Devices and pipes take the bytes as they come; so does a file that may be written in a folder that may not.
 Outcome writeInPlace(const QString &path, const QByteArray &name, const QByteArray &bytes)
 {
-    Descriptor file(::open(name.constData(), O_WRONLY | O_TRUNC | O_CLOEXEC));
-    if (file.isOpen() && writeAll(file.number(), bytes) && file.close())
+    // A pipe that nobody reads from would be waited for without end; one that somebody does is written at their pace.
+    Descriptor file(::open(name.constData(), O_WRONLY | O_TRUNC | O_NONBLOCK | O_CLOEXEC));
+    if (file.isOpen() && waitsForReaders(file.number()) && writeAll(file.number(), bytes) && file.close())
         return Done{};
     return Failure{FailureCode::CannotWrite, path, qt_error_string(errno)};
 }

@@ -88,6 +88,18 @@ private slots:
         expectOthersDone(LumoraProcess(), u"bad@2x.png"_s, u"could not be read (not a regular file)"_s);
     }
 
+    void aPipeThatNobodyReadsInTheWayOfAHalf()
+    {
+        put({u"a@2x.png"_s, u"bad@2x.png"_s, u"c@2x.png"_s});
+        QCOMPARE(::mkfifo(QFile::encodeName(at(u"out/bad.png"_s)).constData(), 0600), 0);
+        const LumoraRun run = runLumora(
+            {u"downscale"_s, at(u"a@2x.png"_s), at(u"bad@2x.png"_s), at(u"c@2x.png"_s), u"--to"_s, at(u"out"_s)});
+        QCOMPARE(run.status, 1);
+        QCOMPARE(run.complaints().size(), 1);
+        QVERIFY2(run.err.contains("bad.png: could not be written"), run.err.constData());
+        QVERIFY(QFile::exists(at(u"out/a.png"_s)) && QFile::exists(at(u"out/c.png"_s)));
+    }
+
     void foldersWithTrouble_data()
     {
         QTest::addColumn<QString>("inside");
