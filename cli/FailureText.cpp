@@ -39,10 +39,16 @@ constexpr Wording wordings[] = {
      "choose another folder, or allow it with --overwrite"},
 };
 
-const Wording *wordingOf(FailureCode code)
+/// For a name that held bytes of another encoding and was looked for without them.
+constexpr Wording notFoundUndecoded = {FailureCode::NotFound, "does not exist under a name in UTF-8",
+                                       "rename it if it is there, or check the path"};
+
+const Wording *wordingOf(const Failure &failure)
 {
-    const auto *wording =
-        std::find_if(std::begin(wordings), std::end(wordings), [code](const Wording &one) { return one.code == code; });
+    if (failure.code == FailureCode::NotFound && failure.subject.contains(QChar::ReplacementCharacter))
+        return &notFoundUndecoded;
+    const auto *wording = std::find_if(std::begin(wordings), std::end(wordings),
+                                       [&failure](const Wording &one) { return one.code == failure.code; });
     return wording == std::end(wordings) ? nullptr : wording;
 }
 
@@ -50,13 +56,13 @@ const Wording *wordingOf(FailureCode code)
 
 QString failureText(const Failure &failure)
 {
-    const Wording *wording = wordingOf(failure.code);
+    const Wording *wording = wordingOf(failure);
     return failureText(failure, QLatin1StringView(wording == nullptr ? "" : wording->remedy));
 }
 
 QString failureText(const Failure &failure, QLatin1StringView remedy)
 {
-    const Wording *wording = wordingOf(failure.code);
+    const Wording *wording = wordingOf(failure);
     if (wording == nullptr)
         return failure.subject;
     QString line = failure.subject + QStringLiteral(": ") + QLatin1StringView(wording->reason);
