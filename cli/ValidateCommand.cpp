@@ -65,7 +65,7 @@ Result<PackageReport> inspected(const GivenPath &file, const ProfileDecoder &dec
 void complainOfDamage(Console &console, const QString &file, const PackageReport &report)
 {
     for (const QString &entry : report.extraction.damagedEntries)
-        console.complain(printableText(file + u": "_s + entry + u" is damaged; pack the app again"_s));
+        console.complain(printableText(file + u": "_s + entry + u" is damaged or encrypted; pack the app again"_s));
     if (!report.facts.appInfoPlist)
         console.complain(printableText(file + u": has no readable Info.plist, so nothing is known of the app"_s));
 }

@@ -137,6 +137,16 @@ private slots:
         QVERIFY(run.complaints().first().contains(u"AppIcon1024.png is damaged"));
     }
 
+    void complainsOfEncryptedEntries()
+    {
+        const LumoraRun run = runLumora({u"validate"_s, package(u"encrypted"_s)});
+        QCOMPARE(run.status, 1);
+        const QStringList complaints = run.complaints();
+        QCOMPARE(complaints.size(), 2);
+        QVERIFY(complaints[0].contains(u"Payload/Demo.app/Info.plist is damaged or encrypted"));
+        QVERIFY(complaints[1].contains(u"has no readable Info.plist"));
+    }
+
     void complainsOfWhatItCannotRead_data()
     {
         QTest::addColumn<QString>("path");

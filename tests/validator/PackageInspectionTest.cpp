@@ -59,6 +59,7 @@ private slots:
         const QString nothing = u"|||||none|none"_s;
         for (const char *name : {"no list", "broken list", "list is a folder"})
             QTest::newRow(name) << nothing << englishFrench;
+        QTest::newRow("encrypted") << nothing << QStringList();
         for (const char *name :
              {"no app", "app is a file", "payload is a file", "app in capitals", "no archive", "cut off", "missing"})
             QTest::newRow(name) << nothing << QStringList();

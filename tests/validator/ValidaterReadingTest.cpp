@@ -137,6 +137,17 @@ private slots:
         QCOMPARE(pane.tool.facts().appName(), u"Last"_s);
     }
 
+    void staysWhereABrowsingIsCancelled()
+    {
+        PaneInWindow pane;
+        QTest::mouseClick(pane.ui().browseButton, Qt::LeftButton);
+        pane.services.fileChooser.cancel();
+        QTest::qWait(ValidaterViewController::browseDelay + 200);
+        QCOMPARE(opacity(pane.ui().dropView), 1.0);
+        QVERIFY(PopoverAlert::currentAlert() == nullptr);
+        QVERIFY(pane.ui().browseButton->isEnabled());
+    }
+
     void takesAPastedPackage()
     {
         PaneInWindow pane;

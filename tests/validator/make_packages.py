@@ -4,6 +4,7 @@
 
 import plistlib
 import struct
+import subprocess
 import sys
 import tempfile
 import zipfile
@@ -110,6 +111,11 @@ def main():
     at = damaged.index(b"AppIcon1024.png") + 40
     damaged[at : at + 8] = b"\xff" * 8
     (out / "damaged icon.ipa").write_bytes(damaged)
+    with tempfile.TemporaryDirectory() as folder:
+        app = Path(folder) / "Payload" / "Demo.app"
+        app.mkdir(parents=True)
+        (app / "Info.plist").write_bytes(plistlib.dumps(info()))
+        subprocess.run(["zip", "-qr", "-P", "secret", (out / "encrypted.ipa").resolve(), "Payload"], cwd=folder, check=True)
     (out / "no archive.ipa").write_bytes(b"text")
     (out / "too many entries.ipa").write_bytes(claiming(600_000))
     (out / "cut off.ipa").write_bytes((out / "valid.ipa").read_bytes()[:-200])
