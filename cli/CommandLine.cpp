@@ -80,9 +80,11 @@ QStringList commandNames()
 
 int runCommandLine(int argc, char **argv)
 {
-    CLI::App parser{"Lumora: icons, placeholders, down-scaling, colour codes, device matrix and app package checks.\n"
-                    "Without a command it opens its window, with the given files if there are any.",
-                    "lumora"};
+    CLI::App parser{
+        "Lumora: icons, placeholders, down-scaling, colour codes, device matrix and app package checks.\n"
+        "Without a command it opens its window, with the given files if there are any; with --tool=NAME at the\n"
+        "tool icons, placeholders, resizer, color, devices or validator.",
+        "lumora"};
     parser.set_version_flag("--version", std::string("lumora ") + versionText, "Print the version and exit");
     parser.require_subcommand(1);
 

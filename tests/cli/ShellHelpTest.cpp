@@ -49,6 +49,7 @@ class ShellHelpTest : public QObject
 private slots:
     void namesEveryOption_data();
     void namesEveryOption();
+    void namesEveryToolOfTheWindow();
     void bashOffers_data();
     void bashOffers();
     void fishOffers_data();
@@ -81,6 +82,20 @@ void ShellHelpTest::namesEveryOption()
         const bool fish = file.endsWith(u".fish"_s);
         const QString named = fish ? u"-l "_s + option.mid(2) + u' ' : option;
         QVERIFY2(content.contains(named), qPrintable(option));
+    }
+}
+
+void ShellHelpTest::namesEveryToolOfTheWindow()
+{
+    const QString menuEntry = contentOf(u"desktop/lumora.desktop.in"_s);
+    const QStringList tools = menuEntry.section(u"Actions="_s, 1).section(u'\n', 0, 0).split(u';', Qt::SkipEmptyParts);
+    QCOMPARE(tools.size(), 6);
+    const QString help = QString::fromUtf8(runLumora({u"--help"_s}).out).section(u"Usage:"_s, 0, 0);
+    const QString manual = contentOf(u"man/lumora.1.in"_s).section(u"DESCRIPTION"_s, 1).section(u".SH"_s, 0, 0);
+    QVERIFY(help.contains(u"--tool="_s));
+    for (const QString &tool : tools) {
+        QVERIFY2(help.contains(tool), qPrintable(tool));
+        QVERIFY2(manual.contains(tool), qPrintable(tool));
     }
 }
 
