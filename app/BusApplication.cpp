@@ -19,10 +19,26 @@ namespace
 constexpr char addressVariable[] = "DBUS_SESSION_BUS_ADDRESS";
 const QString interfaceName = QStringLiteral("org.freedesktop.Application");
 
-/// What lets the running program take the focus that this start was given.
-QVariantMap platformData()
+/// Until when the caller waits, by the clock that all processes of the machine share, in milliseconds.
+const QString answerUntilKey = QStringLiteral("lumora-answer-until");
+
+qint64 sharedClock()
 {
-    QVariantMap data;
+    using namespace std::chrono;
+    return duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count();
+}
+
+/// Whether the caller has given up by now and does what it asked for itself.
+bool comesTooLate(const QVariantMap &platformData)
+{
+    const QVariant until = platformData.value(answerUntilKey);
+    return until.isValid() && sharedClock() >= until.toLongLong();
+}
+
+/// What lets the running program take the focus that this start was given, and tells it how long this start waits.
+QVariantMap platformData(std::chrono::milliseconds patience)
+{
+    QVariantMap data{{answerUntilKey, sharedClock() + patience.count()}};
     const auto pass = [&data](const char *variable, const QString &key) {
         const QString value = qEnvironmentVariable(variable);
         if (!value.isEmpty())
@@ -56,15 +72,15 @@ public:
     bool forward(const OpenRequest &request) const
     {
         if (!request.tool.isEmpty() &&
-            !call(QStringLiteral("ActivateAction"), {request.tool, QVariantList(), platformData()}))
+            !call(QStringLiteral("ActivateAction"), {request.tool, QVariantList(), platformData(m_patience)}))
             return false;
         if (!request.files.isEmpty()) {
             QStringList uris;
             for (const QString &file : request.files)
                 uris << QUrl::fromLocalFile(file).toString(QUrl::FullyEncoded);
-            return call(QStringLiteral("Open"), {uris, platformData()});
+            return call(QStringLiteral("Open"), {uris, platformData(m_patience)});
         }
-        return !request.tool.isEmpty() || call(QStringLiteral("Activate"), {platformData()});
+        return !request.tool.isEmpty() || call(QStringLiteral("Activate"), {platformData(m_patience)});
     }
 
 private:
@@ -116,12 +132,16 @@ BusApplication::Start BusApplication::start(const OpenRequest &request, std::chr
 
 void BusApplication::Activate(const QVariantMap &platformData)
 {
+    if (comesTooLate(platformData))
+        return;
     takePlatformData(platformData);
     emit activated();
 }
 
 void BusApplication::Open(const QStringList &uris, const QVariantMap &platformData)
 {
+    if (comesTooLate(platformData))
+        return;
     takePlatformData(platformData);
     QList<QUrl> urls;
     for (const QString &uri : uris)
@@ -131,6 +151,8 @@ void BusApplication::Open(const QStringList &uris, const QVariantMap &platformDa
 
 void BusApplication::ActivateAction(const QString &name, const QVariantList &, const QVariantMap &platformData)
 {
+    if (comesTooLate(platformData))
+        return;
     takePlatformData(platformData);
     emit toolRequested(name);
 }

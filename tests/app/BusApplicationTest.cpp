@@ -7,6 +7,8 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include <chrono>
+
 using namespace Qt::StringLiterals;
 using namespace lumora;
 
@@ -49,6 +51,29 @@ private slots:
         QCOMPARE(opened.first().first().toStringList(), (QStringList{u"/a b.png"_s, u"/d.ipa"_s}));
         QCOMPARE(tool.size(), 1);
         QCOMPARE(tool.first().first().toString(), u"icons"_s);
+    }
+
+    void callsThatNobodyWaitsForAnyMoreAreLeftAlone_data()
+    {
+        QTest::addColumn<int>("patience");
+        QTest::addColumn<int>("requests");
+        QTest::newRow("still waited for") << 60'000 << 3;
+        QTest::newRow("given up") << -1 << 0;
+    }
+    void callsThatNobodyWaitsForAnyMoreAreLeftAlone()
+    {
+        QFETCH(int, patience);
+        const auto now = std::chrono::steady_clock::now().time_since_epoch();
+        const qint64 until = std::chrono::duration_cast<std::chrono::milliseconds>(now).count() + patience;
+        const QVariantMap data{{u"lumora-answer-until"_s, until}};
+        BusApplication application;
+        QSignalSpy activated(&application, &BusApplication::activated);
+        QSignalSpy opened(&application, &BusApplication::filesOpened);
+        QSignalSpy tool(&application, &BusApplication::toolRequested);
+        application.Activate(data);
+        application.Open({u"file:///a.png"_s}, data);
+        application.ActivateAction(u"icons"_s, {}, data);
+        QTEST(static_cast<int>(activated.size() + opened.size() + tool.size()), "requests");
     }
 
     void arguments_data()

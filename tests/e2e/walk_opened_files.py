@@ -89,6 +89,11 @@ def hanging_first(desktop, scratch, lumora):
     alone = Lumora(desktop, process)
     alone.wait_shown("second.png")
     assert time.monotonic() - begin < PATIENCE + MARGIN
+    # Awake again, it leaves alone what the other one has done by now; both go on with their own.
+    lumora.process.send_signal(signal.SIGCONT)
+    lumora.find("push button", "Help on this tool").press()
+    lumora.wait_shown("Report a bug")
+    assert lumora.shows("first.png") and not lumora.shows("second.png")
     lumora.process.kill()
     lumora.process.wait()
     assert desktop.start_again(str(scratch / "first.png")) == 0
