@@ -21,5 +21,11 @@ target_link_options(lumora_build_options INTERFACE
 if(LUMORA_SANITIZERS)
   target_compile_options(lumora_build_options INTERFACE
     -fsanitize=${LUMORA_SANITIZERS} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+  # An index past the end of what is used, yet inside what is allocated, is no report of a sanitizer: the containers' own checks see it.
+  target_compile_definitions(lumora_build_options INTERFACE QT_FORCE_ASSERTS _GLIBCXX_ASSERTIONS)
   target_link_options(lumora_build_options INTERFACE -fsanitize=${LUMORA_SANITIZERS})
+  if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND LUMORA_SANITIZERS MATCHES "address")
+    # As shared libraries the two runtimes share one setting for where reports go, and only one of them follows it.
+    target_link_options(lumora_build_options INTERFACE -static-libasan -static-libubsan)
+  endif()
 endif()

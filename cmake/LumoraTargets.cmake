@@ -4,6 +4,8 @@
 #   LINKS) reaches Qt Widgets shares the widgets' precompiled header, any other the engines'.
 # lumora_test(NAME SOURCES ... [LINKS ...] [LABELS ...])
 #   One Qt Test program, run by CTest without a screen.
+# lumora_time_limit(SECONDS TESTS...)
+#   How long the tests may take on a machine that is busy. To be called last, after everything else was said of them.
 # lumora_check_layers() is called at the end of the root's app/ and fails the configuration when an engine reaches Qt Widgets.
 
 add_library(lumora_pch_engine STATIC ${CMAKE_SOURCE_DIR}/cmake/empty.cpp)
@@ -59,8 +61,22 @@ function(lumora_test name)
     set(ARG_TIMEOUT 120)
   endif()
   set_tests_properties(${name} PROPERTIES
-    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;QT_LOGGING_RULES=;UBSAN_OPTIONS=print_stacktrace=1"
-    TIMEOUT ${ARG_TIMEOUT} LABELS "${ARG_LABELS}")
+    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;QT_LOGGING_RULES=" LABELS "${ARG_LABELS}")
+  lumora_time_limit(${ARG_TIMEOUT} ${name})
+endfunction()
+
+# Instrumented code takes its time. The one factor that all limits are stretched by; what a test waits for by itself
+# it stretches by LUMORA_TIME_FACTOR, too.
+set(lumora_time_factor 1)
+if(LUMORA_SANITIZERS)
+  set(lumora_time_factor 10)
+endif()
+function(lumora_time_limit seconds)
+  math(EXPR limit "${seconds} * ${lumora_time_factor}")
+  set_tests_properties(${ARGN} PROPERTIES TIMEOUT ${limit})
+  # The test library's own limit is one for each function, in milliseconds.
+  set_property(TEST ${ARGN} APPEND PROPERTY ENVIRONMENT
+    LUMORA_TIME_FACTOR=${lumora_time_factor} QTEST_FUNCTION_TIMEOUT=${limit}000)
 endfunction()
 
 # Fails the configuration where a library reaches, over any number of links, what its kind must not know.

@@ -173,7 +173,8 @@ LumoraRun LumoraProcess::run(const QStringList &arguments) const
     process.write(m_input);
     process.closeWriteChannel();
     LumoraRun run;
-    const bool finished = process.waitForFinished(longestRun);
+    const bool finished =
+        process.waitForFinished(longestRun * std::max(qEnvironmentVariableIntValue("LUMORA_TIME_FACTOR"), 1));
     if (!finished) {
         process.kill();
         process.waitForFinished();

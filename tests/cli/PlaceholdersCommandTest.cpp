@@ -33,7 +33,7 @@ QString fileOfSize(QSize size)
 const QByteArray noFonts = "<?xml version=\"1.0\"?><!DOCTYPE fontconfig SYSTEM \"fonts.dtd\"><fontconfig/>";
 
 /// The most memory that any process run so far has held, in bytes.
-qint64 peakMemory()
+[[maybe_unused]] qint64 peakMemory()
 {
     rusage usage{};
     ::getrusage(RUSAGE_CHILDREN, &usage);

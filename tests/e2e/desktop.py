@@ -74,6 +74,8 @@ class Desktop:
             "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
             "NO_AT_BRIDGE": "1",
         }
+        # What an instrumented program is to report, and where.
+        self.environment |= {name: value for name, value in os.environ.items() if name.endswith("SAN_OPTIONS")}
         self.environment["DISPLAY"] = self._start_x()
         self.environment["DBUS_SESSION_BUS_ADDRESS"] = self._start_bus()
         self._start_window_system()

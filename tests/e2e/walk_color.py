@@ -4,7 +4,7 @@ then the same with the keyboard alone, then as assistive technology does."""
 
 import sys
 
-from desktop import wait_for
+from desktop import WAIT, wait_for
 from window_system import Desktop
 
 WELL = "Colour well, opens the colour picker"
@@ -153,7 +153,7 @@ def main(program, clipboard_reader):
 
         def on_clipboard(text):
             reader = desktop.run(clipboard_reader, text)
-            assert reader.wait(20) == 0, f"the clipboard does not hold {text}"
+            assert reader.wait(WAIT) == 0, f"the clipboard does not hold {text}"
 
         by_mouse(desktop, lumora, field, on_clipboard)
         # Where no window can place itself, walk_wayland_picker.py tears it off.
@@ -169,7 +169,7 @@ def main(program, clipboard_reader):
         wait_for("the panel to float", lambda: [panel for panel in lumora.controls("dialog", "Colours")
                                                 if panel.box[3] == 400])
         desktop.key("ctrl+q")
-        assert lumora.process.wait(20) == 0
+        assert lumora.process.wait(WAIT) == 0
 
 
 if __name__ == "__main__":

@@ -5,7 +5,7 @@ import subprocess
 import sys
 from pathlib import Path
 
-from desktop import Desktop, wait_for
+from desktop import WAIT, Desktop, wait_for
 
 WELL = "Colour well, opens the colour picker"
 PIPETTE = "Pick a colour from the screen"
@@ -69,7 +69,7 @@ def main(program, color_window):
         wait_for("the portal's colour", lambda: field.text == "#3366ff")
         wait_for("the pipette to be let go", lambda: pipette.has_state("sensitive"))
         portal.terminate()
-        portal.wait(20)
+        portal.wait(WAIT)
         wait_for("the portal to leave the bus", lambda: not portal_is_there(desktop))
         desktop.run("/usr/bin/python3", str(Path(__file__).parent / "fake_portal.py"), "cancel")
         wait_for("the portal to be on the bus", lambda: portal_is_there(desktop))

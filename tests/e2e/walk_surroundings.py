@@ -74,7 +74,7 @@ def photograph(folder, tool, scale=1, scheme=None, fonts=True, like=None):
             return like is None or difference(like, picture) == 0
 
         try:
-            wait_for(f"the picture of {tool}", photographs, 20)
+            wait_for(f"the picture of {tool}", photographs)
         except Missing as error:
             raise Missing(f"{error}; it differs by {difference(like, picture)}" if like else error) from error
         return picture.rename(picture.with_name(f"{tool}-{scale}-{len(list(Path(folder).iterdir()))}.png"))

@@ -6,7 +6,7 @@ import sys
 import unittest
 from pathlib import Path
 
-from desktop import wait_for
+from desktop import WAIT, wait_for
 from wayland_desktop import WaylandDesktop
 
 LUMORA, PROBE = (str(Path(name).resolve()) for name in sys.argv[1:3])
@@ -172,7 +172,7 @@ class Window(unittest.TestCase):
                 desktop.drag(at, travel)
                 wanted = tuple(value + by for value, by in zip(before, change))
                 with self.subTest(name):
-                    wait_for(f"{wanted} at the {name}", lambda wanted=wanted: desktop.window_box() == wanted, 20)
+                    wait_for(f"{wanted} at the {name}", lambda wanted=wanted: desktop.window_box() == wanted)
 
     def test_it_is_not_made_smaller_than_its_smallest_size(self):
         with ProbeDesktop() as desktop:
@@ -216,7 +216,7 @@ class Window(unittest.TestCase):
     def test_close_ends_it(self):
         with ProbeDesktop() as desktop:
             desktop.click(*desktop.point(CLOSE, BAR // 2))
-            self.assertEqual(desktop.probe.process.wait(20), 0)
+            self.assertEqual(desktop.probe.process.wait(WAIT), 0)
 
     def test_its_menu_offers_what_the_lights_do_to_the_keyboard(self):
         with ProbeDesktop() as desktop:

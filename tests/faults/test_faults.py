@@ -18,7 +18,7 @@ PRELOAD = os.environ["LUMORA_FAILING_CALLS"]
 # The hidden name that a file has while it takes an old one's place.
 PENDING = re.compile(r"(.*/)?\.([^/]+)\.lumora-pending")
 # A job takes a fraction of a second; a machine under load gets two orders of magnitude more.
-HANG = 60
+HANG = 60 * float(os.environ.get("LUMORA_TIME_FACTOR", "1"))
 
 
 @dataclass

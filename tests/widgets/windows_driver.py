@@ -18,7 +18,11 @@ def check(condition, message):
         raise Failure(message)
 
 
-def wait_for(what, condition, seconds=10):
+# Instrumented programs are given more.
+FACTOR = float(os.environ.get("LUMORA_TIME_FACTOR", "1"))
+
+
+def wait_for(what, condition, seconds=10 * FACTOR):
     """Asks the condition until it answers something true, and answers that."""
     end = time.monotonic() + seconds
     while True:
