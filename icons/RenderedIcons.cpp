@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <atomic>
 #include <condition_variable>
+#include <functional>
 #include <map>
 #include <mutex>
 #include <vector>
@@ -54,7 +55,7 @@ public:
             if (m_pieces.contains(size))
                 continue;
             Piece *piece = m_pieces.emplace(size, std::make_unique<Piece>()).first->second.get();
-            m_pool.start([this, piece, size] { render(*piece, size); }, size);
+            start([this, piece, size] { render(*piece, size); }, size);
         }
     }
 
@@ -68,6 +69,24 @@ public:
     }
 
 private:
+    /// Has the pool do the work, that of the highest priority first. The pool itself is told no more than that there is
+    /// some: what threads hand to each other goes through the standard library's lock, which a thread sanitizer sees
+    /// through without a toolkit of its own.
+    void start(std::function<void()> work, int priority)
+    {
+        {
+            const std::scoped_lock lock(m_waitingMutex);
+            m_waiting.emplace(priority, std::move(work));
+        }
+        m_pool.start([this] { takeWaiting()(); });
+    }
+
+    std::function<void()> takeWaiting()
+    {
+        const std::scoped_lock lock(m_waitingMutex);
+        return std::move(m_waiting.extract(m_waiting.begin()).mapped());
+    }
+
     void render(Piece &piece, int size)
     {
         const QSize wanted(size, size);
@@ -80,7 +99,7 @@ private:
         piece.sections.resize(static_cast<std::size_t>(count));
         piece.sectionsLeft = count;
         for (int index = 1; index < count; ++index)
-            m_pool.start([this, &piece, index] { makeSection(piece, index); }, sectionPriority);
+            start([this, &piece, index] { makeSection(piece, index); }, sectionPriority);
         makeSection(piece, 0);
     }
 
@@ -115,6 +134,8 @@ private:
     std::mutex m_mutex;
     std::condition_variable m_finished;
     std::map<int, std::unique_ptr<Piece>> m_pieces;
+    std::mutex m_waitingMutex; ///< guards the work that waits
+    std::multimap<int, std::function<void()>, std::greater<>> m_waiting;
     QThreadPool m_pool; ///< last, so that its threads end before what they use
 };
 
