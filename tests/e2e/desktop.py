@@ -22,7 +22,7 @@ import time
 from pathlib import Path
 
 from control import Control
-from waiting import WAIT, Missing, wait_for
+from waiting import FACTOR, WAIT, Missing, wait_for
 
 
 class Desktop:
@@ -82,6 +82,13 @@ class Desktop:
         self.run("/usr/libexec/at-spi-bus-launcher", "--launch-immediately")
         # What this process asks the accessibility bus comes from its own environment.
         os.environ.update(self.environment)
+        # The library gives up on an answer after less than a second, which instrumented programs do not always keep.
+        import gi
+
+        gi.require_version("Atspi", "2.0")
+        from gi.repository import Atspi
+
+        Atspi.set_timeout(int(800 * FACTOR), int(15000 * FACTOR))
 
     def _start_window_system(self):
         self.environment["QT_SCALE_FACTOR"] = str(self.scale)
