@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace lumora
 {
@@ -34,6 +35,7 @@ SFBPopoverWindow::SFBPopoverWindow(const QRectF &contentRect, const PopoverPlatf
     placeWidget();
     connect(m_frameView, &SFBPopoverWindowFrame::outlineChanged, this, &SFBPopoverWindow::updateShape);
     connect(m_frameView, &SFBPopoverWindowFrame::dragStarted, this, [this] { m_frameBeforeDrag = m_frame; });
+    connect(m_frameView, &SFBPopoverWindowFrame::dragEnded, this, &SFBPopoverWindow::endDrag);
     connect(m_frameView, &SFBPopoverWindowFrame::moveDragged, this, &SFBPopoverWindow::moveByDrag);
     connect(m_frameView, &SFBPopoverWindowFrame::resizeDragged, this, &SFBPopoverWindow::resizeByDrag);
 }
@@ -302,16 +304,11 @@ void SFBPopoverWindow::setResizable(bool resizable)
 
 void SFBPopoverWindow::moveByDrag(const QPointF &travel)
 {
-    if (!m_platform.movesWhileShown)
-        return;
-    setFrameOrigin(m_frameBeforeDrag.topLeft() + travel);
-    emit draggedAway();
+    dragTo(m_frameBeforeDrag.translated(travel));
 }
 
 void SFBPopoverWindow::resizeByDrag(const QPointF &travel, const QPointF &corner)
 {
-    if (!m_platform.movesWhileShown)
-        return;
     const QSizeF wanted(m_frameBeforeDrag.width() + travel.x() * corner.x(),
                         m_frameBeforeDrag.height() + travel.y() * corner.y());
     const QSizeF size = wanted.boundedTo(m_maxSize).expandedTo(m_minSize);
@@ -321,7 +318,26 @@ void SFBPopoverWindow::resizeByDrag(const QPointF &travel, const QPointF &corner
         frame.moveLeft(m_frameBeforeDrag.x() + m_frameBeforeDrag.width() - size.width());
     if (corner.y() < 0)
         frame.moveTop(m_frameBeforeDrag.y() + m_frameBeforeDrag.height() - size.height());
+    dragTo(frame);
+}
+
+void SFBPopoverWindow::dragTo(const QRectF &frame)
+{
+    if (!m_platform.movesWhileShown) {
+        // To be moved it is hidden and shown again, which would take the mouse from it in the middle of the drag.
+        m_dragTarget = frame;
+        return;
+    }
     setFrame(frame);
+    emit draggedAway();
+}
+
+void SFBPopoverWindow::endDrag()
+{
+    const std::optional<QRectF> target = std::exchange(m_dragTarget, std::nullopt);
+    if (!target)
+        return;
+    setFrame(*target);
     emit draggedAway();
 }
 

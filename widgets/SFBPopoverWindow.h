@@ -9,6 +9,7 @@
 #include <QWidget>
 
 #include <functional>
+#include <optional>
 
 namespace lumora
 {
@@ -109,6 +110,8 @@ private:
     void updateShape();
     void moveByDrag(const QPointF &travel);
     void resizeByDrag(const QPointF &travel, const QPointF &corner);
+    void dragTo(const QRectF &frame);
+    void endDrag();
 
     PopoverPlatform m_platform;
     SFBPopoverWindowFrame *m_frameView = nullptr;
@@ -116,6 +119,8 @@ private:
     QPointer<QWidget> m_parentWindow;
     QRectF m_frame;
     QRectF m_frameBeforeDrag;
+    /// Where a drag has come to that is only followed at its end.
+    std::optional<QRectF> m_dragTarget;
     QSizeF m_minSize;
     QSizeF m_maxSize{QWIDGETSIZE_MAX, QWIDGETSIZE_MAX};
     qreal m_alphaValue = 1;

@@ -8,6 +8,8 @@
 #include <QPaintEvent>
 #include <QPainter>
 
+#include <utility>
+
 namespace lumora
 {
 
@@ -232,9 +234,9 @@ void SFBPopoverWindowFrame::mouseMoveEvent(QMouseEvent *event)
 
 void SFBPopoverWindowFrame::mouseReleaseEvent(QMouseEvent *event)
 {
-    if (event->button() == Qt::LeftButton)
-        m_drag = Drag::None;
     QWidget::mouseReleaseEvent(event);
+    if (event->button() == Qt::LeftButton && std::exchange(m_drag, Drag::None) != Drag::None)
+        emit dragEnded();
 }
 
 } // namespace lumora

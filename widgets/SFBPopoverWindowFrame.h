@@ -101,6 +101,8 @@ signals:
     void resizeDragged(const QPointF &travel, const QPointF &corner);
     /// A drag begins with this press.
     void dragStarted();
+    /// The button was let go after a drag.
+    void dragEnded();
 
 protected:
     void paintEvent(QPaintEvent *event) override;

@@ -3,7 +3,11 @@
 
 #include "widgets/ZKSecureGlyphGenerator.h"
 
+#include <QGuiApplication>
 #include <QKeyEvent>
+#include <QStyleHints>
+
+#include <utility>
 
 namespace lumora
 {
@@ -49,6 +53,27 @@ void ZKFieldEditor::keyPressEvent(QKeyEvent *event)
         return;
     }
     QLineEdit::keyPressEvent(event);
+}
+
+void ZKFieldEditor::beginWithPress(const QMouseEvent &press)
+{
+    m_firstPress = press.globalPosition();
+    m_firstPressTime = press.button() == Qt::LeftButton ? press.timestamp() : 0;
+}
+
+void ZKFieldEditor::mousePressEvent(QMouseEvent *event)
+{
+    // What the field hands on of the first press bears no time.
+    const quint64 first = event->timestamp() == 0 ? 0 : std::exchange(m_firstPressTime, 0);
+    const QStyleHints *hints = QGuiApplication::styleHints();
+    const QPointF travel = event->globalPosition() - m_firstPress;
+    const bool doubleClick = first != 0 && event->button() == Qt::LeftButton &&
+                             event->timestamp() - first <= static_cast<quint64>(hints->mouseDoubleClickInterval()) &&
+                             travel.manhattanLength() <= hints->mouseDoubleClickDistance();
+    if (doubleClick)
+        mouseDoubleClickEvent(event);
+    else
+        QLineEdit::mousePressEvent(event);
 }
 
 void ZKFieldEditor::focusOutEvent(QFocusEvent *event)

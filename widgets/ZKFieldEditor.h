@@ -16,6 +16,9 @@ public:
 
     /// Shows bullets, keeps the text from the clipboard and from what the input method learns.
     void setSecure(bool secure);
+    /// This press went to the field, and the editor may have appeared under it: a second one soon after is a double
+    /// click, though the system sees two presses of two widgets.
+    void beginWithPress(const QMouseEvent &press);
 
 signals:
     void insertNewline();
@@ -26,7 +29,13 @@ signals:
 protected:
     bool focusNextPrevChild(bool next) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
+
+private:
+    /// Of the press that went to the field; 0 after the next one. On screen and in milliseconds.
+    QPointF m_firstPress;
+    quint64 m_firstPressTime = 0;
 };
 
 } // namespace lumora

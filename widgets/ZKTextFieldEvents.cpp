@@ -57,6 +57,8 @@ void ZKTextField::mousePressEvent(QMouseEvent *event)
         return;
     }
     configureFieldEditor(Qt::MouseFocusReason);
+    if (m_currentFieldEditor)
+        m_currentFieldEditor->beginWithPress(*event);
     m_passesMouse = true;
     passToEditor(event);
 }

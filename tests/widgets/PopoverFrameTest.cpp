@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/widgets/Pointer.h"
 #include "tests/widgets/PopoverScene.h"
+#include "widgets/ViewController.h"
 
 #include <QMouseEvent>
 
@@ -114,8 +115,16 @@ private slots:
         QFETCH(QPoint, press);
         QFETCH(QPoint, travel);
         QFETCH(QRect, change);
+        for (const QString &platform : {u"xcb"_s, u"wayland"_s})
+            drag(popoverPlatform(platform), movable, resizable, press, travel, change);
+    }
+
+private:
+    void drag(const PopoverPlatform &platform, bool movable, bool resizable, const QPoint &press, const QPoint &travel,
+              const QRect &change)
+    {
         Scene scene;
-        SFBPopover popover(plainContent());
+        SFBPopover popover(new ViewController(plainContent()), nullptr, platform);
         popover.setAnimates(false);
         popover.setMovable(movable);
         popover.setResizable(resizable);
@@ -132,14 +141,19 @@ private slots:
         send(QEvent::MouseButtonPress, global, Qt::LeftButton);
         send(QEvent::MouseMove, global + travel / 2, Qt::LeftButton);
         send(QEvent::MouseMove, global + travel, Qt::LeftButton);
+        // Where the window cannot be moved while it is shown, it stays until the button is let go.
+        if (!platform.movesWhileShown)
+            QCOMPARE(flippedOnScreen(popover.popoverWindow()->frame()).toRect(), before);
         send(QEvent::MouseButtonRelease, global + travel, Qt::NoButton);
         send(QEvent::MouseMove, global + 2 * travel, Qt::NoButton);
         const QRect after = flippedOnScreen(popover.popoverWindow()->frame()).toRect();
         QCOMPARE(after.topLeft() - before.topLeft(), change.topLeft());
         QCOMPARE(QPoint(after.width() - before.width(), after.height() - before.height()),
                  QPoint(change.width(), change.height()));
+        QVERIFY(popover.isVisible());
     }
 
+private slots:
     void drawsTheBalloon_data()
     {
         QTest::addColumn<qreal>("scale");

@@ -156,6 +156,41 @@ private slots:
         QVERIFY(popover.isVisible());
     }
 
+    void keepsItsKeyStatusInAnotherPosition_data()
+    {
+        QTest::addColumn<QString>("platform");
+        QTest::addColumn<bool>("parentPressed");
+        for (const QString &platform : {u"xcb"_s, u"wayland"_s}) {
+            QTest::addRow("%s, it is key", qPrintable(platform)) << platform << false;
+            QTest::addRow("%s, it is not", qPrintable(platform)) << platform << true;
+        }
+    }
+    void keepsItsKeyStatusInAnotherPosition()
+    {
+        QFETCH(QString, platform);
+        QFETCH(bool, parentPressed);
+        Scene scene;
+        scene.field->setFocus();
+        auto *field = new QLineEdit;
+        SFBPopover popover(new ViewController(contentWith(field)), nullptr, popoverPlatform(platform));
+        popover.setAnimates(false);
+        popover.displayPopoverInWindow(&scene.window, QPointF(200, 130));
+        QTRY_COMPARE(QApplication::focusWidget(), field);
+        if (parentPressed) {
+            // This platform activates every window that is shown, a little later.
+            QCoreApplication::processEvents();
+            QTest::mouseClick(scene.window.windowHandle(), Qt::LeftButton, {}, QPoint(200, 35));
+            QTRY_COMPARE(QApplication::focusWidget(), scene.field);
+        }
+        const QPointF tip = tipOf(popover);
+        popover.setPosition(PopoverPosition::Above);
+        QCoreApplication::processEvents();
+        QVERIFY(popover.isVisible());
+        QCOMPARE(tipOf(popover), tip);
+        QCOMPARE(popover.isKeyWindow(), !parentPressed);
+        QCOMPARE(QApplication::focusWidget(), parentPressed ? scene.field : field);
+    }
+
     void choosesItsWindowTypeByPlatform()
     {
         const PopoverPlatform wayland = popoverPlatform(u"wayland"_s);

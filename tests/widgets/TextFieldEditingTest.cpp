@@ -278,6 +278,26 @@ private slots:
         QCOMPARE(field.string(), u"pw"_s);
     }
 
+    void doubleClickSelectsTheWord_data()
+    {
+        QTest::addColumn<bool>("edited");
+        QTest::newRow("the first press begins to edit") << false;
+        QTest::newRow("while editing") << true;
+    }
+    void doubleClickSelectsTheWord()
+    {
+        QFETCH(bool, edited);
+        Form form;
+        QVERIFY(form.isReady());
+        form.field->setString(u"one two"_s);
+        if (edited)
+            form.field->beginEditing();
+        const QPoint onTheFirstWord = form.field->mapTo(&form.window, QPoint(10, form.field->height() / 2));
+        QTest::mouseDClick(form.window.windowHandle(), Qt::LeftButton, {}, onTheFirstWord);
+        QVERIFY(form.field->isEditing());
+        QCOMPARE(form.field->currentFieldEditor()->selectedText(), u"one"_s);
+    }
+
     void droppedTextIsInserted()
     {
         ZKTextField field;

@@ -5,6 +5,7 @@
 #include "widgets/INAppStoreWindow.h"
 #include "widgets/SFBPopover.h"
 #include "widgets/ScreenCoordinates.h"
+#include "widgets/ZKTextField.h"
 
 #include <QApplication>
 #include <QJsonArray>
@@ -45,7 +46,8 @@ public:
     bool miniaturizesOnDoubleClick() const override { return true; }
 };
 
-/// Magenta content with a cyan anchor in its middle and a line to type into; the popover is plain green.
+/// Magenta content with a cyan anchor in its middle a line to type into, and two text fields to drag text between; the
+/// popover is plain green.
 class Probe : public QObject
 {
 public:
@@ -71,6 +73,8 @@ public:
         m_field = new QLineEdit(content);
         m_field->setGeometry(20, 20, 150, 30);
         connect(m_anchor, &QPushButton::clicked, this, &Probe::toggle);
+        m_source = textField(u"dragged"_s, 70, content);
+        m_target = textField({}, 120, content);
 
         m_popover.setBackgroundColor(Qt::green);
         m_popover.setBorderColor(Qt::green);
@@ -94,6 +98,14 @@ private:
             m_popoverField->setGeometry(10, 10, 140, 30);
         }
         return content;
+    }
+
+    static ZKTextField *textField(const QString &text, int y, QWidget *content)
+    {
+        auto *field = new ZKTextField(content);
+        field->setGeometry(20, y, 150, 30);
+        field->setString(text);
+        return field;
     }
 
     void toggle()
@@ -159,6 +171,8 @@ private:
             {u"popoverFrame"_s, toJson(flippedOnScreen(m_popover.popoverWindow()->frame()).toRect())},
             {u"tip"_s, QJsonArray{tip.x(), tip.y()}},
             {u"field"_s, m_field->text()},
+            {u"source"_s, m_source->string()},
+            {u"target"_s, m_target->string()},
             {u"popoverField"_s, m_popoverField ? m_popoverField->text() : QString()},
             {u"focus"_s, focus == m_field                   ? u"field"_s
                          : focus && focus == m_popoverField ? u"popoverField"_s
@@ -173,6 +187,8 @@ private:
     SFBPopover m_popover;
     QPushButton *m_anchor = nullptr;
     QLineEdit *m_field = nullptr;
+    ZKTextField *m_source = nullptr;
+    ZKTextField *m_target = nullptr;
     QSocketNotifier *m_input = nullptr;
     std::string m_pending;
 };

@@ -50,10 +50,11 @@ class Desktop:
                                  for word in words])
 
     def drag(self, start, end):
-        """Presses, and moves until the button is released. A window manager takes the pointer over a moment after the
-        first motion, so the end is approached once more after that."""
+        """Presses, and moves until the button is released. The program must have seen the press before the pointer is
+        elsewhere. A window manager takes the pointer over a moment after the first motion, so the end is approached once
+        more after that."""
         near = [(a + 2 * b) / 3 for a, b in zip(start, end)]
-        self.mouse("mousemove", *start, "mousedown", "1")
+        self.mouse("mousemove", *start, "mousedown", "1", "sleep", "0.3")
         for _ in range(3):
             self.mouse("mousemove", *near, "sleep", "0.2", "mousemove", *end, "sleep", "0.2")
 
@@ -124,6 +125,73 @@ def window_is_resized_at_its_left_edge():
         desktop.drag((x + 1, y + 200), (x + 41, y + 200))
         probe.wait("the window to shrink", lambda state: state["window"] == [x + 40, y, width - 40, height])
         desktop.mouse("mouseup", "1")
+
+
+def window_is_resized_at_its_other_corners():
+    with Desktop() as desktop:
+        probe = desktop.probe()
+        for at_left, at_top in ((True, True), (False, True), (True, False)):
+            x, y, width, height = probe.report()["window"]
+            corner = (x + 1 if at_left else x + width - 2, y + 1 if at_top else y + height - 2)
+            # Larger to every side.
+            end = (corner[0] + (-40 if at_left else 40), corner[1] + (-30 if at_top else 30))
+            desktop.drag(corner, end)
+            desktop.mouse("mouseup", "1")
+            expected = [x - 40 if at_left else x, y - 30 if at_top else y, width + 40, height + 30]
+            probe.wait(f"the window to grow to {expected}", lambda state: state["window"] == expected)
+
+
+def window_comes_back_when_its_screen_goes():
+    with Desktop() as desktop:
+        desktop.output("xrandr", "--setmonitor", "left", "800/200x1200/300+0+0", "screen")
+        desktop.output("xrandr", "--setmonitor", "right", "800/200x1200/300+800+0", "none")
+        probe = desktop.probe()
+        x, y, width, height = probe.report()["window"]
+        desktop.mouse("mousemove", x + 400, y + 30, "mousedown", "1", "mousemove", x + 412, y + 30, "sleep", "0.3",
+                      "mousemove", x + 800, y + 30, "sleep", "0.2", "mousemove", x + 1200, y + 30, "sleep", "0.2",
+                      "mouseup", "1")
+        probe.wait("the window to be on the right screen", lambda state: state["window"][0] >= 800)
+        desktop.output("xrandr", "--delmonitor", "right")
+        state = probe.wait("the window to come to the left screen",
+                           lambda state: state["window"][0] + state["window"][2] <= 800)
+        check(state["window"][0] >= 0 and state["window"][2:] == [width, height], f"it is at {state['window']}")
+
+
+def text_is_dragged_out_of_a_text_field_and_into_one():
+    with Desktop() as desktop:
+        probe = desktop.probe()
+        x, y, _, _ = probe.report()["window"]
+        # The content begins below the bar of 60; the text begins 4 points inside its field.
+        source, field, target = [(x + 45, y + 60 + top + 15) for top in (70, 20, 120)]
+        for end, name in ((field, "field"), (target, "target")):
+            desktop.mouse("mousemove", *source, "click", "--repeat", "2", "--delay", "50", "1", "sleep", "0.5")
+            desktop.drag(source, end)
+            desktop.mouse("mouseup", "1")
+            probe.wait("the text at its new place", lambda state: state[name] == "dragged")
+
+
+def shadow_of_a_popover_is_blended_by_a_compositor():
+    with Desktop() as desktop:
+        magenta = (255, 0, 255)
+
+        def below_the_balloon():
+            probe = desktop.probe()
+            probe.tell("popover")
+            state = probe.wait("the popover", lambda state: state["popover"])
+            left, top, width, height = state["popoverFrame"]
+            wait_for("the balloon", lambda: desktop.pixel(left + width / 2, top + height - 10) == GREEN)
+            seen = desktop.pixel(left + width / 2, top + height + 4), desktop.pixel(left + 1, top + height - 2)
+            probe.process.stdin.close()
+            probe.process.wait(10)
+            return seen
+
+        check(below_the_balloon() == (magenta, magenta), "there is a shadow that nobody blends")
+        desktop.processes.start(["picom", "--backend", "xrender", "--config", "/dev/null"], desktop.environment,
+                                stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        wait_for("the compositor", lambda: "picom" in desktop.output("xwininfo", "-root", "-tree"))
+        shadow, corner = below_the_balloon()
+        check(100 < shadow[0] < 250 and shadow[0] == shadow[2] and shadow[1] == 0, f"the shadow is {shadow}")
+        check(corner[1] == 0 and corner[0] > 100, f"the round corner shows {corner}")
 
 
 def traffic_lights_work():
@@ -207,7 +275,9 @@ def mouse_goes_through_the_band_around_the_balloon():
 
 program = sys.argv[1]
 run([popover_lands_on_its_anchor, popover_follows_a_window_that_is_dragged_by_its_bar,
-     window_is_resized_at_its_lower_right_corner, window_is_resized_at_its_left_edge, traffic_lights_work,
+     window_is_resized_at_its_lower_right_corner, window_is_resized_at_its_left_edge,
+     window_is_resized_at_its_other_corners, window_comes_back_when_its_screen_goes,
+     text_is_dragged_out_of_a_text_field_and_into_one, shadow_of_a_popover_is_blended_by_a_compositor, traffic_lights_work,
      double_click_on_the_bar_miniaturises, popover_without_controls_leaves_typing_where_it_was,
      popover_with_a_field_gets_the_keyboard_and_gives_it_back, clicking_the_parent_closes,
      mouse_goes_through_the_band_around_the_balloon])
