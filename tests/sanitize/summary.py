@@ -27,7 +27,7 @@ def main(preset, folder, status):
         if tests:
             print(f"{name}: {' '.join(tests)}")
     print(f"{preset}: {len(suite)} tests, {len(failed)} failed, {len(skipped)} not run, {len(reports)} reports")
-    return status or (1 if reports or skipped else 0)
+    return status or (1 if failed or skipped or reports else 0)
 
 
 if __name__ == "__main__":
