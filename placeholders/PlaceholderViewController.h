@@ -43,6 +43,9 @@ public:
     /// The custom size last accepted, 0 at first.
     int customWidth() const { return m_customWidth; }
     int customHeight() const { return m_customHeight; }
+    /// A name for the custom picture, empty at first. It changes nothing: files are named for their size.
+    const QString &customName() const { return m_customName; }
+    void setCustomName(const QString &name) { m_customName = name; }
     /// The button that started the run; nullptr once a run has closed.
     HoverButton *selectedButton() const { return m_selectedButton; }
 
@@ -71,6 +74,7 @@ private:
     QString m_savePath;
     int m_customWidth = 0;
     int m_customHeight = 0;
+    QString m_customName;
     HoverButton *m_selectedButton = nullptr;
     QHash<HoverButton *, TimedCaption *> m_captions;
     BackgroundJobs m_jobs; ///< last, so that it waits for running jobs before anything else goes

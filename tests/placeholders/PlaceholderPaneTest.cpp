@@ -137,6 +137,17 @@ private slots:
         QCOMPARE(QDir(out(u"placeholders"_s)).entryList(QDir::Files), QStringList{file});
     }
 
+    void customNameIsKeptAndNamesNoFile()
+    {
+        QCOMPARE(m_controller->customName(), QString());
+        m_controller->setCustomName(u"banner"_s);
+        typeSize(u"30"_s, u"20"_s);
+        ui().customButton->click();
+        runInto(ui().customButton);
+        QCOMPARE(m_controller->customName(), u"banner"_s);
+        QCOMPARE(QDir(out(u"placeholders"_s)).entryList(QDir::Files), QStringList{u"placeholder_30x20.png"_s});
+    }
+
     void refusedHeightKeepsTheWidth()
     {
         typeSize(u"42"_s, u""_s);
