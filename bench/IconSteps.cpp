@@ -65,7 +65,7 @@ void filter(benchmark::State &state, const Source &source)
     const ImageRows rows(straight(resample(source.picture, {edge, edge})));
     const RowRange all{0, edge};
     for (auto _ : state)
-        benchmark::DoNotOptimize(filteredRows(rows, {&all, 1}, PngFilterChoice::Adaptive));
+        benchmark::DoNotOptimize(filteredRows(rows, {&all, 1}, PngFilterChoice::ByEntropy));
 }
 
 void encode(benchmark::State &state, const Source &source)

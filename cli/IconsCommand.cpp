@@ -4,6 +4,7 @@
 #include "ExistingFolder.h"
 #include "IconInput.h"
 #include "IconReport.h"
+#include "KeptMemory.h"
 #include "icons/IconExport.h"
 
 #include <CLI/Validators.hpp>
@@ -51,6 +52,7 @@ QList<IconPlatform> chosenPlatforms(const std::vector<std::string> &names)
 
 ExitStatus runIcons(Console &console, const IconsArguments &arguments)
 {
+    keepFreedMemory();
     const Result<QString> destination = existingFolder(arguments.destination);
     if (!destination) {
         console.complain(destination.failure());

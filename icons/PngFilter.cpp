@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "PngFilter.h"
 
+#include "ByteOrderliness.h"
 #include "PngRows.h"
 
 #include <algorithm>
@@ -17,6 +18,9 @@ namespace
 
 constexpr int bytesPerPixel = 4;
 constexpr int filters = 5;
+constexpr std::uint8_t leftFilter = 1;
+constexpr std::uint8_t upFilter = 2;
+constexpr std::uint8_t averageFilter = 3;
 
 int magnitude(std::uint8_t residue)
 {
@@ -93,28 +97,57 @@ void addPlainRows(const PngRows &picture, RowRange range, std::vector<std::uint8
     }
 }
 
-void addRowsByTheLeft(const PngRows &picture, RowRange range, std::vector<std::uint8_t> &result)
-{
-    const int bytes = picture.size().width() * bytesPerPixel;
-    PaddedRow row(bytes);
-    for (int y = range.first; y < range.end; ++y) {
-        row.load(picture, y);
-        std::uint8_t *residues = grownBy(result, static_cast<std::size_t>(bytes) + 1);
-        constexpr std::uint8_t sub = 1;
-        residues[0] = sub;
-        const std::uint8_t *pixels = row.pixels();
-        for (int i = 0; i < bytes; ++i)
-            residues[i + 1] = static_cast<std::uint8_t>(pixels[i] - pixels[i - bytesPerPixel]);
-    }
-}
+/// The predictions of the five filters, in the order of their numbers.
+constexpr auto predictNothing = [](int, int, int) { return 0; };
+constexpr auto predictLeft = [](int left, int, int) { return left; };
+constexpr auto predictUp = [](int, int up, int) { return up; };
+constexpr auto predictAverage = [](int left, int up, int) { return (left + up) / 2; };
 
-void addAdaptiveRows(const PngRows &picture, RowRange range, std::vector<std::uint8_t> &result)
+template <typename Predict>
+void addRowsBy(std::uint8_t filter, Predict predict, const PngRows &picture, RowRange range,
+               std::vector<std::uint8_t> &result)
 {
     const int bytes = picture.size().width() * bytesPerPixel;
     PaddedRow row(bytes);
     PaddedRow above(bytes);
     above.load(picture, range.first - 1);
-    std::array<std::vector<std::uint8_t>, filters> residues;
+    for (int y = range.first; y < range.end; ++y) {
+        row.load(picture, y);
+        std::uint8_t *residues = grownBy(result, static_cast<std::size_t>(bytes) + 1);
+        residues[0] = filter;
+        residuesOf(row.pixels(), above.pixels(), bytes, residues + 1, predict);
+        std::swap(row, above);
+    }
+}
+
+using Residues = std::array<std::vector<std::uint8_t>, filters>;
+
+std::size_t smallestByMagnitude(const std::array<unsigned, filters> &sums)
+{
+    return static_cast<std::size_t>(std::min_element(sums.begin(), sums.end()) - sums.begin());
+}
+
+std::size_t smallestByEntropy(const Residues &residues)
+{
+    std::size_t best = 0;
+    std::uint64_t bestSoFar = 0;
+    for (std::size_t filter = 0; filter < filters; ++filter) {
+        const std::uint64_t own = orderliness(residues[filter]);
+        if (own > bestSoFar) {
+            best = filter;
+            bestSoFar = own;
+        }
+    }
+    return best;
+}
+
+void addAdaptiveRows(const PngRows &picture, RowRange range, PngFilterChoice choice, std::vector<std::uint8_t> &result)
+{
+    const int bytes = picture.size().width() * bytesPerPixel;
+    PaddedRow row(bytes);
+    PaddedRow above(bytes);
+    above.load(picture, range.first - 1);
+    Residues residues;
     for (auto &candidate : residues)
         candidate.resize(static_cast<std::size_t>(bytes));
 
@@ -122,24 +155,23 @@ void addAdaptiveRows(const PngRows &picture, RowRange range, std::vector<std::ui
         row.load(picture, y);
         if (row == above && !row.isZero()) {
             // Large flat areas: nothing but zeroes is left of a repeated row, and no other filter manages that.
-            constexpr std::uint8_t up = 2;
-            result.push_back(up);
+            result.push_back(upFilter);
             result.insert(result.end(), static_cast<std::size_t>(bytes), 0);
             continue;
         }
         const std::uint8_t *pixels = row.pixels();
         const std::uint8_t *upper = above.pixels();
         const std::array<unsigned, filters> sums = {
-            residuesOf(pixels, upper, bytes, residues[0].data(), [](int, int, int) { return 0; }),
-            residuesOf(pixels, upper, bytes, residues[1].data(), [](int left, int, int) { return left; }),
-            residuesOf(pixels, upper, bytes, residues[2].data(), [](int, int up, int) { return up; }),
-            residuesOf(pixels, upper, bytes, residues[3].data(), [](int left, int up, int) { return (left + up) / 2; }),
+            residuesOf(pixels, upper, bytes, residues[0].data(), predictNothing),
+            residuesOf(pixels, upper, bytes, residues[1].data(), predictLeft),
+            residuesOf(pixels, upper, bytes, residues[2].data(), predictUp),
+            residuesOf(pixels, upper, bytes, residues[3].data(), predictAverage),
             residuesOf(pixels, upper, bytes, residues[4].data(), paeth),
         };
-        const auto best = std::min_element(sums.begin(), sums.end()) - sums.begin();
+        const std::size_t best =
+            choice == PngFilterChoice::ByEntropy ? smallestByEntropy(residues) : smallestByMagnitude(sums);
         result.push_back(static_cast<std::uint8_t>(best));
-        const auto &chosen = residues[static_cast<std::size_t>(best)];
-        result.insert(result.end(), chosen.begin(), chosen.end());
+        result.insert(result.end(), residues[best].begin(), residues[best].end());
         std::swap(row, above);
     }
 }
@@ -155,11 +187,18 @@ std::vector<std::uint8_t> filteredRows(const PngRows &picture, std::span<const R
     result.reserve(count * (static_cast<std::size_t>(picture.size().width()) * bytesPerPixel + 1));
     for (const RowRange range : ranges) {
         switch (choice) {
-        case PngFilterChoice::Adaptive:
-            addAdaptiveRows(picture, range, result);
+        case PngFilterChoice::ByEntropy:
+        case PngFilterChoice::ByMagnitude:
+            addAdaptiveRows(picture, range, choice, result);
             break;
         case PngFilterChoice::Left:
-            addRowsByTheLeft(picture, range, result);
+            addRowsBy(leftFilter, predictLeft, picture, range, result);
+            break;
+        case PngFilterChoice::Up:
+            addRowsBy(upFilter, predictUp, picture, range, result);
+            break;
+        case PngFilterChoice::Average:
+            addRowsBy(averageFilter, predictAverage, picture, range, result);
             break;
         case PngFilterChoice::None:
             addPlainRows(picture, range, result);

@@ -12,9 +12,12 @@ class PngRows;
 
 /// How the rows of a section are filtered.
 enum class PngFilterChoice {
-    Adaptive, ///< each row by the filter whose residues, read as signed bytes, have the smallest sum of magnitudes
-    Left,     ///< what each pixel differs by from the one to its left
-    None,     ///< as they are, which lets repeated shapes be found
+    ByEntropy,   ///< each row by the filter that leaves residues of the fewest bits, were each coded by itself
+    ByMagnitude, ///< each row by the smallest sum of residues, read as signed bytes: faster, and less often right
+    Left,        ///< what each pixel differs by from the one to its left
+    Up,          ///< from the one above
+    Average,     ///< from the mean of both
+    None,        ///< as they are, which lets repeated shapes be found
 };
 
 /// Rows from `first` up to, not including, `end`.

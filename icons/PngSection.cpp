@@ -11,6 +11,7 @@
 #include <zlib.h>
 
 #include <algorithm>
+#include <array>
 #include <utility>
 #include <vector>
 
@@ -35,15 +36,40 @@ constexpr int placesPerSample = 4;
 /// Rows with more novelty are a photograph's.
 constexpr double mostNoveltyOfDrawings = 0.6;
 
-/// Noise is its own limit: higher levels only take longer.
-constexpr int noiseLevel = 4;
-/// Drawings gain at every level and are fast to compress.
-constexpr int drawingLevel = 6;
+/// Of what a drawing's filters are chosen by.
+constexpr int drawingTrialLevel = 4;
+/// A choice of filters for each row, the costliest, has to save one part in so many of what one filter for all takes.
+constexpr qsizetype leastGainOfRows = 128;
 
 /// Enough to tell which filters suit noise.
 constexpr int trialLevel = 1;
 /// Of batches: what compresses to no less than this share of its bytes at that level is taken for noise.
 constexpr double noisyShare = 0.3;
+/// What a drawing of a batch is worth.
+constexpr int batchDrawingLevel = 6;
+
+qsizetype filteredRowBytes(QSize size)
+{
+    return qsizetype{size.width()} * 4 + 1;
+}
+
+/// libdeflate's levels for small, middle and large pictures. Noise is its own limit: in large pictures of it, higher
+/// levels take several times the time for a few percent; small ones have less noise left and more to find in reach.
+using Levels = std::array<int, 3>;
+constexpr Levels noiseLevels = {7, 6, 4};
+constexpr Levels drawingLevels = {7, 6, 6};
+/// Plain shapes, which shrink most without a filter and are fast to compress.
+constexpr Levels shapesLevels = {7, 7, 7};
+
+/// Where the levels change, in bytes of filtered rows.
+constexpr qsizetype largestOfSmall = 512 * 1024;
+constexpr qsizetype largestOfMiddle = 2 * 1024 * 1024;
+
+int levelFor(const Levels &levels, QSize size)
+{
+    const qsizetype bytes = filteredRowBytes(size) * size.height();
+    return levels[bytes <= largestOfSmall ? 0 : bytes <= largestOfMiddle ? 1 : 2];
+}
 
 void append32(QByteArray &bytes, std::uint32_t number)
 {
@@ -67,11 +93,6 @@ QByteArray header(QSize size)
     // 8 bits a sample, RGBA, deflate, adaptive filters, not interlaced.
     content.append(QByteArrayView("\x08\x06\x00\x00\x00", 5));
     return content;
-}
-
-qsizetype filteredRowBytes(QSize size)
-{
-    return qsizetype{size.width()} * 4 + 1;
 }
 
 struct CompressedRows
@@ -105,32 +126,40 @@ std::vector<RowRange> sampleOf(const PngRows &picture, RowRange section)
     return sample;
 }
 
-/// No rule tells which filters suit a picture: plain shapes shrink most without any, slow shades and some photographs
-/// by the pixel to the left, most photographs by a choice for each row. So they are tried.
+/// No rule tells which filters suit a picture: plain shapes shrink most without any, slow shades by the pixel to the
+/// left, photographs by one filter throughout as often as by a choice for each row. So they are tried.
 CompressedRows compressed(const PngRows &picture, RowRange section)
 {
     const std::vector<RowRange> sample = sampleOf(picture, section);
     std::vector<std::uint8_t> plain = filteredRows(picture, sample, PngFilterChoice::None);
     const bool noisy = novelty(plain, picture.size().width()) > mostNoveltyOfDrawings;
-    const int sampleLevel = noisy ? trialLevel : drawingLevel;
+    const int trial = noisy ? trialLevel : drawingTrialLevel;
     PngFilterChoice choice = PngFilterChoice::Left;
-    CompressedRows best = compressed(filteredRows(picture, sample, choice), sampleLevel);
-    const auto tryOther = [&](PngFilterChoice other, std::vector<std::uint8_t> rows) {
-        CompressedRows tried = compressed(std::move(rows), sampleLevel);
-        if (tried.stream.size() >= best.stream.size())
+    CompressedRows best = compressed(filteredRows(picture, sample, choice), trial);
+    const auto tryRows = [&](PngFilterChoice other, std::vector<std::uint8_t> rows, qsizetype leastGain) {
+        CompressedRows tried = compressed(std::move(rows), trial);
+        if (tried.stream.size() >= best.stream.size() - leastGain)
             return;
         best = std::move(tried);
         choice = other;
     };
-    if (!noisy)
-        tryOther(PngFilterChoice::None, std::move(plain));
+    const auto tryOther = [&](PngFilterChoice other, qsizetype leastGain) {
+        tryRows(other, filteredRows(picture, sample, other), leastGain);
+    };
+    if (noisy) {
+        tryOther(PngFilterChoice::Up, 0);
+        tryOther(PngFilterChoice::Average, 0);
+    } else {
+        tryRows(PngFilterChoice::None, std::move(plain), 0);
+    }
     // What suits plain shapes leaves the costliest choice nothing to gain.
     if (choice != PngFilterChoice::None)
-        tryOther(PngFilterChoice::Adaptive, filteredRows(picture, sample, PngFilterChoice::Adaptive));
-    const bool sampleIsAll = sample.size() == 1;
-    if (sampleIsAll && !noisy)
-        return best;
-    return compressed(filteredRows(picture, {&section, 1}, choice), noisy ? noiseLevel : drawingLevel);
+        tryOther(PngFilterChoice::ByEntropy, best.stream.size() / leastGainOfRows);
+    if (const bool sampleIsAll = sample.size() == 1; !sampleIsAll)
+        best.rows = filteredRows(picture, {&section, 1}, choice);
+    const Levels &levels = noisy ? noiseLevels : choice == PngFilterChoice::None ? shapesLevels : drawingLevels;
+    best.stream = deflated(best.rows, levelFor(levels, picture.size()));
+    return best;
 }
 
 PngSection finished(CompressedRows compressed)
@@ -167,10 +196,10 @@ PngSection makePngSection(const PngRows &picture, int index)
 PngSection makeOnlyPngSection(const PngRows &picture)
 {
     const RowRange all{0, picture.size().height()};
-    CompressedRows result = compressed(filteredRows(picture, {&all, 1}, PngFilterChoice::Adaptive), trialLevel);
+    CompressedRows result = compressed(filteredRows(picture, {&all, 1}, PngFilterChoice::ByMagnitude), trialLevel);
     // Flat drawings shrink further for next to nothing; noise takes twice the time for a twentieth of its bytes.
     if (static_cast<double>(result.stream.size()) < noisyShare * static_cast<double>(result.rows.size()))
-        result.stream = deflated(result.rows, drawingLevel);
+        result.stream = deflated(result.rows, batchDrawingLevel);
     return finished(std::move(result));
 }
 

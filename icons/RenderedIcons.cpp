@@ -35,6 +35,9 @@ struct Piece
 /// Sections go before any new size: finishing what was begun keeps the memory low.
 constexpr int sectionPriority = 1 << 20;
 
+/// Sizes that take so long that none of them may be left to the end, when no other core has anything to do.
+constexpr int smallestEarlySize = 256;
+
 } // namespace
 
 class RenderedIcons::Workshop
@@ -55,7 +58,9 @@ public:
             if (m_pieces.contains(size))
                 continue;
             Piece *piece = m_pieces.emplace(size, std::make_unique<Piece>()).first->second.get();
-            start([this, piece, size] { render(*piece, size); }, size);
+            // The files are written in the order in which they were asked for, beside the rendering.
+            const int priority = size >= smallestEarlySize ? size : -static_cast<int>(m_pieces.size());
+            start([this, piece, size] { render(*piece, size); }, priority);
         }
     }
 

@@ -21,7 +21,7 @@ public:
     RenderedIcons(const RenderedIcons &) = delete;
     RenderedIcons &operator=(const RenderedIcons &) = delete;
 
-    /// Starts work on sizes that will be wanted and are not there yet, the largest first.
+    /// Starts work on sizes that will be wanted and are not there yet: the largest first, the quick ones in this order.
     void prepare(std::span<const int> sizes);
 
     /// The icon of that edge length as a PNG file; waits until it is made. Empty for a size below 1 or a null icon.

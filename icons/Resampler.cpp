@@ -20,12 +20,13 @@ namespace
 /// of it remains for the last step neither aliasing nor sharpness differ from a single step by more than rounding.
 constexpr double smallestLastStep = 2.5;
 
+/// The half itself is among them: it is kept, so that it need not be made twice.
 bool isMadeFromHalf(QSize source, QSize size)
 {
     const QSize half = source / 2;
     // An odd edge has no half whose pixels cover the source's exactly.
-    return half * 2 == source && size.width() * smallestLastStep <= half.width() &&
-           size.height() * smallestLastStep <= half.height();
+    return half * 2 == source && (size == half || (size.width() * smallestLastStep <= half.width() &&
+                                                   size.height() * smallestLastStep <= half.height()));
 }
 
 bool isOpaque(const QImage &source)
@@ -101,19 +102,17 @@ QImage putTogether(const ColorPlanes &planes)
 
 Resampler::Resampler(const QImage &source) : Resampler(takenApart(premultiplied(source))) {}
 
-Resampler::Resampler(std::unique_ptr<ColorPlanes> planes) : m_planes(std::move(planes))
-{
-    if (m_planes != nullptr)
-        m_flatAreas = std::make_unique<FlatAreas>(*m_planes);
-}
+Resampler::Resampler(std::unique_ptr<ColorPlanes> planes) : m_planes(std::move(planes)) {}
 
 Resampler::~Resampler() = default;
 
 std::unique_ptr<ColorPlanes> Resampler::planesOf(QSize size) const
 {
     std::unique_ptr<ColorPlanes> scaled = m_planes->scaledTo(size);
-    if (scaled != nullptr)
-        m_flatAreas->restoreIn(*scaled);
+    if (scaled == nullptr)
+        return nullptr;
+    std::call_once(m_flatAreasFound, [this] { m_flatAreas = std::make_unique<FlatAreas>(*m_planes); });
+    m_flatAreas->restoreIn(*scaled);
     return scaled;
 }
 

@@ -33,7 +33,8 @@ private:
     std::unique_ptr<ColorPlanes> planesOf(QSize size) const;
 
     std::unique_ptr<ColorPlanes> m_planes;
-    std::unique_ptr<FlatAreas> m_flatAreas;
+    mutable std::once_flag m_flatAreasFound;
+    mutable std::unique_ptr<FlatAreas> m_flatAreas;
     mutable std::once_flag m_halved;
     mutable std::unique_ptr<Resampler> m_half;
 

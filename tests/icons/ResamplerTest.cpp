@@ -39,6 +39,7 @@ private slots:
     void transparentSurroundingsLeaveNoHalo_data();
     void transparentSurroundingsLeaveNoHalo();
     void ownSizeGivesTheSamePixels();
+    void sizesDoNotDependOnEachOther();
     void noColourExceedsItsAlpha();
     void anySize_data();
     void anySize();
@@ -99,6 +100,16 @@ void ResamplerTest::ownSizeGivesTheSamePixels()
 {
     const QImage source = premultiplied(disc(Qt::darkCyan));
     QCOMPARE(resample(source, source.size()), source);
+}
+
+void ResamplerTest::sizesDoNotDependOnEachOther()
+{
+    // Halves are kept between sizes.
+    const QImage source = disc(Qt::darkCyan);
+    const QList<int> edges = {57, 512, 120, 256, 16, 1024, 512, 300};
+    const Resampler all(source);
+    for (const int edge : edges)
+        QCOMPARE(all.scaledTo({edge, edge}), resample(source, {edge, edge}));
 }
 
 void ResamplerTest::noColourExceedsItsAlpha()
