@@ -88,12 +88,14 @@ ExitStatus validateOne(Console &console, const GivenPath &file, const std::optio
     const auto report = inspected(file, decoder);
     if (!report) {
         console.complain(report.failure());
-        objects += failureJson(file.given, report.failure());
+        if (json)
+            objects += failureJson(file.given, report.failure());
         return ExitStatus::Unreadable;
     }
     complainOfDamage(console, file.given, report.value());
-    objects += reportJson(file.given, report.value());
-    if (!json) {
+    if (json) {
+        objects += reportJson(file.given, report.value());
+    } else {
         for (const QString &line : reportLines(file.given, report.value()))
             console.print(line);
     }

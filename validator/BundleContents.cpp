@@ -60,17 +60,20 @@ QString appBundleName(const QStringList &payload)
     return bundle;
 }
 
-BundleContents bundleContents(const QStringList &listing)
+BundleContents bundleContents(QStringList listing)
 {
     BundleContents contents;
-    for (const QString &name : listing) {
+    // A hostile bundle holds half a million names: each is kept once, in the memory it already has.
+    for (QString &name : listing) {
         const QString extension = pathExtension(name);
         if (name == u"Info.plist")
             contents.hasInfoPlist = true;
         if (extension == u"png" || name.contains(u"iTunesArtwork"))
             contents.images += name;
-        if (extension == localizationExtension)
-            contents.localizations += localizationName(name.chopped(localizationExtension.size() + 1));
+        if (extension == localizationExtension) {
+            name.chop(localizationExtension.size() + 1);
+            contents.localizations += localizationName(name);
+        }
     }
     return contents;
 }

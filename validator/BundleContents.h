@@ -25,6 +25,6 @@ struct BundleContents
     QStringList images;        ///< extension "png", or "iTunesArtwork" anywhere in the name
     QStringList localizations; ///< English names of the folders with the extension "lproj"
 };
-BundleContents bundleContents(const QStringList &listing);
+BundleContents bundleContents(QStringList listing);
 
 } // namespace lumora

@@ -27,9 +27,9 @@ QString inWorkFolder(const InspectionSite &site, const QString &relative)
 /// The folder's names; none when it cannot be listed, which is logged.
 QStringList loggedListing(const QString &folder)
 {
-    const auto listing = folderListing(folder);
+    auto listing = folderListing(folder);
     if (listing)
-        return listing.value();
+        return std::move(listing).value();
     logLine(u"Content error: "_s + listing.failure().detail);
     return {};
 }
