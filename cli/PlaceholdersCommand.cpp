@@ -69,8 +69,8 @@ QJsonObject fileJson(const PlaceholderFile &file)
 
 ExitStatus report(Console &console, const PlaceholderRun &run, bool json)
 {
-    if (!run.folderError.isEmpty()) {
-        console.complain(Failure{FailureCode::CannotCreateFolder, run.folder.path, run.folderError});
+    if (!run.folder.error.isEmpty()) {
+        console.complain(Failure{FailureCode::CannotCreateFolder, run.folder.path, run.folder.error});
         return ExitStatus::Refused;
     }
     ExitStatus status = ExitStatus::Done;

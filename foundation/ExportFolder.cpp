@@ -16,11 +16,10 @@ namespace lumora
 namespace
 {
 
-bool isTaken(const QString &path)
+/// The error's number, 0 when the folder was made.
+int makeFolder(const QString &path)
 {
-    const QFileInfo info(path);
-    // exists() follows links; a broken link takes the name all the same.
-    return info.exists() || info.isSymLink();
+    return ::mkdir(QFile::encodeName(path).constData(), 0777) == 0 ? 0 : errno;
 }
 
 } // namespace
@@ -30,24 +29,29 @@ QString ExportFolder::name() const
     return QFileInfo(path).fileName();
 }
 
-ExportFolder freshExportFolder(const QString &destination, const QString &baseName)
+ExportFolder makeExportFolder(const QString &destination, const QString &baseName)
 {
     const QString base = destination + u'/' + baseName;
-    if (!isTaken(base))
-        return {base, false};
-    logLine(QStringLiteral("Folder exists!"));
-    for (int number = 1;; ++number) {
-        const QString candidate = base + u'_' + QString::number(number);
-        if (!isTaken(candidate))
-            return {candidate, true};
+    ExportFolder folder{base, false, {}};
+    // Looking first and making afterwards would let two runs that start together into one folder.
+    int error = makeFolder(base);
+    if (error == EEXIST)
+        logLine(QStringLiteral("Folder exists!"));
+    for (int number = 1; error == EEXIST; ++number) {
+        folder = {base + u'_' + QString::number(number), true, {}};
+        error = makeFolder(folder.path);
     }
+    if (error != 0) {
+        folder.error = qt_error_string(error);
+        logLine(QStringLiteral("Folder error: ") + folder.error);
+    }
+    return folder;
 }
 
 QString createFolder(const QString &path)
 {
-    if (::mkdir(QFile::encodeName(path).constData(), 0777) == 0)
-        return {};
-    return qt_error_string(errno);
+    const int error = makeFolder(path);
+    return error == 0 ? QString() : qt_error_string(error);
 }
 
 } // namespace lumora

@@ -11,6 +11,7 @@ struct ExportFolder
 {
     QString path;           ///< a path at which nothing existed when it was chosen
     bool nameTaken = false; ///< true when the plain name was in use and a number had to be appended
+    QString error;          ///< the system's reason why the folder could not be made, else empty
 
     /// The folder's own name, as told to the user.
     QString name() const;
@@ -18,10 +19,11 @@ struct ExportFolder
     bool operator==(const ExportFolder &) const = default;
 };
 
-/// Chooses a fresh folder for one run: `destination`/`baseName`, or the first of baseName_1, baseName_2, ... at which
-/// neither a file, a folder nor a link (even a broken one) exists. Only looks; makes nothing. Logs "Folder exists!"
-/// when the plain name is taken.
-ExportFolder freshExportFolder(const QString &destination, const QString &baseName);
+/// Makes a fresh folder for one run, without missing parents: `destination`/`baseName`, or the first of baseName_1,
+/// baseName_2, ... at which neither a file, a folder nor a link (even a broken one) exists. No two runs get the same
+/// one, at whatever moment they ask. Logs "Folder exists!" when the plain name is taken, "Folder error: ..." when the
+/// folder cannot be made.
+ExportFolder makeExportFolder(const QString &destination, const QString &baseName);
 
 /// Makes the folder itself, without missing parents. On failure answers the system's description of it, else an empty
 /// string.

@@ -18,15 +18,12 @@ namespace lumora
 namespace
 {
 
-/// Makes the fresh folder of a run; a failure is logged and the run goes on without it.
+/// Makes the fresh folder of a run; the run goes on even without it.
 void beginExport(IconExport &result, const QString &savePath)
 {
-    result.folder = freshExportFolder(savePath, QStringLiteral("icons"));
-    const QString error = createFolder(result.folder.path);
-    if (error.isEmpty())
-        return;
-    logLine(QStringLiteral("Folder error: ") + error);
-    result.folderFailure = Failure{FailureCode::CannotCreateFolder, result.folder.path, error};
+    result.folder = makeExportFolder(savePath, QStringLiteral("icons"));
+    if (!result.folder.error.isEmpty())
+        result.folderFailure = Failure{FailureCode::CannotCreateFolder, result.folder.path, result.folder.error};
 }
 
 /// Makes a sub-folder of the run's; a failure is logged.

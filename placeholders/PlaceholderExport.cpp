@@ -2,7 +2,6 @@
 #include "PlaceholderExport.h"
 
 #include "PlaceholderSizes.h"
-#include "foundation/Log.h"
 #include "foundation/WholeFile.h"
 #include "icons/PngEncoder.h"
 #include "icons/PngRows.h"
@@ -46,10 +45,7 @@ PlaceholderRun savePlaceholders(const std::vector<Placeholder> &pictures, const 
                                 const PlaceholderWritten &written)
 {
     PlaceholderRun run;
-    run.folder = freshExportFolder(destination, QStringLiteral("placeholders"));
-    run.folderError = createFolder(run.folder.path);
-    if (!run.folderError.isEmpty())
-        logLine(QStringLiteral("Folder error: ") + run.folderError);
+    run.folder = makeExportFolder(destination, QStringLiteral("placeholders"));
     for (const Placeholder &picture : pictures) {
         run.files.push_back(savePlaceholder(picture, run.folder.path));
         if (written)

@@ -26,7 +26,6 @@ struct PlaceholderFile
 struct PlaceholderRun
 {
     ExportFolder folder;
-    QString folderError; ///< the system's reason why the folder could not be made, else empty
     std::vector<PlaceholderFile> files;
 };
 

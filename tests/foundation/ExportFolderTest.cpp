@@ -2,8 +2,10 @@
 #include "foundation/ExportFolder.h"
 
 #include <QDir>
+#include <QMutex>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QThreadPool>
 
 using namespace lumora;
 using namespace Qt::StringLiterals;
@@ -52,11 +54,42 @@ private slots:
 
         if (nameTaken)
             QTest::ignoreMessage(QtInfoMsg, "Folder exists!");
-        const ExportFolder folder = freshExportFolder(destination.path(), QStringLiteral("icons"));
+        const ExportFolder folder = makeExportFolder(destination.path(), QStringLiteral("icons"));
         QTEST(folder.name(), "name");
         QCOMPARE(folder.nameTaken, nameTaken);
         QCOMPARE(folder.path, QString(destination.path() + u'/' + folder.name()));
-        QVERIFY(!QFileInfo::exists(folder.path));
+        QCOMPARE(folder.error, QString());
+        QVERIFY(QFileInfo(folder.path).isDir());
+    }
+
+    void runsThatStartTogetherShareNoFolder()
+    {
+        const QTemporaryDir destination;
+        constexpr int count = 200;
+        QMutex mutex;
+        QStringList paths;
+        QThreadPool pool;
+        pool.setMaxThreadCount(8);
+        for (int run = 0; run < count; ++run)
+            pool.start([&] {
+                const ExportFolder folder = makeExportFolder(destination.path(), u"icons"_s);
+                const QMutexLocker lock(&mutex);
+                if (folder.error.isEmpty())
+                    paths += folder.path;
+            });
+        pool.waitForDone();
+        QCOMPARE(paths.removeDuplicates(), 0);
+        QCOMPARE(paths.size(), count);
+    }
+
+    void tellsWhyTheFolderCannotBeMade()
+    {
+        const QTemporaryDir destination;
+        QTest::ignoreMessage(QtInfoMsg, "Folder error: No such file or directory");
+        const ExportFolder folder = makeExportFolder(destination.filePath(u"missing"_s), u"icons"_s);
+        QCOMPARE(folder.error, u"No such file or directory"_s);
+        QCOMPARE(folder.path, destination.filePath(u"missing/icons"_s));
+        QVERIFY(!folder.nameTaken);
     }
 
     void makesOneFolderWithoutParents()
