@@ -31,6 +31,14 @@ void PopoverAccessible::install()
     Q_UNUSED(installed)
 }
 
+void PopoverAccessible::renew(SFBPopoverWindow *popover)
+{
+    for (const QAccessible::Event change : {QAccessible::NameChanged, QAccessible::DescriptionChanged}) {
+        QAccessibleEvent changed(popover, change);
+        QAccessible::updateAccessibility(&changed);
+    }
+}
+
 void PopoverAccessible::announce(SFBPopoverWindow *popover)
 {
     QAccessibleEvent shown(popover, QAccessible::ObjectShow);

@@ -191,6 +191,7 @@ void SFBPopoverWindow::orderFront(QWidget *parentWindow, bool takingKeyboard)
     const bool activates = takingKeyboard && m_platform.takesKeyboard;
     setAttribute(Qt::WA_ShowWithoutActivating, !activates);
     handle->setFlag(Qt::WindowDoesNotAcceptFocus, !takingKeyboard);
+    PopoverAccessible::renew(this);
     show();
     updateShape();
     if (activates)

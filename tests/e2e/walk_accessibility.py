@@ -28,6 +28,8 @@ def shown(event):
     if event.detail1 and event.source.getRoleName() in ("alert", "dialog", "notification"):
         print(event.source.getRoleName(), "|", event.source.name, flush=True)
 pyatspi.Registry.registerEventListener(shown, "object:state-changed:showing")
+# A name is asked for once and kept; as a screen reader does, ask to be told when it changes.
+pyatspi.Registry.registerEventListener(lambda event: None, "object:property-change:accessible-name")
 print("ready", flush=True)
 pyatspi.Registry.start()
 """
@@ -136,8 +138,10 @@ def popovers_are_announced(desktop, lumora):
         """The button's popover announces itself by the name, and goes by Escape."""
         button.press()
         announced("dialog", name)
+        # A tool's tab has the same name as its help.
+        lumora.find("dialog", name)
         desktop.key("Escape")
-        lumora.wait_gone(name)
+        wait_for(f"the popup {name} to go", lambda: not lumora.controls("dialog", name))
 
     for number, title in enumerate(HELP_TITLES, start=1):
         desktop.key(f"ctrl+{number}")
