@@ -326,14 +326,21 @@ class Lumora:
     def tab_to(self, role, name, steps=60):
         """Presses Tab until the control has the focus, and answers it."""
         control = self.find(role, name)
+
+        def place():
+            focused = self.focused()
+            return focused and (focused.role, focused.name, focused.box)
+
         for _ in range(steps):
-            # A moment for the focus to move and for the tree to tell.
-            end = time.monotonic() + 0.3
-            while time.monotonic() < end:
-                if control.has_focus():
-                    return control
-                time.sleep(0.03)
+            if control.has_focus():
+                return control
+            before = place()
             self.desktop.key("Tab")
+            # A second key pressed before the first has done its work would take the focus past the control.
+            try:
+                wait_for("the focus to move", lambda before=before: place() not in (before, None), 3)
+            except Missing:
+                continue  # the window was not yet the one that has the keyboard
         raise Missing(f"Tab never comes to {name}")
 
     def close(self):
