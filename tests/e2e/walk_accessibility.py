@@ -157,6 +157,7 @@ def popovers_are_announced(desktop, lumora):
     desktop.key("ctrl+4")
     lumora.find("text", "Colour code").set_text("")
     opens("This is no colour code", lumora.button("Copy CSS"))
+    lumora.find("text", "Colour code").set_text("#34485e")
     opens("Colours", lumora.find("color chooser", "Colour well, opens the colour picker"))
 
 

@@ -62,13 +62,7 @@ class Walk:
     def by_keyboard(self):
         out = self.folder("keyboard")
         self.lumora.activate()
-        for _ in range(40):
-            focused = self.lumora.focused()
-            if focused and focused.name == "Width":
-                break
-            self.desktop.key("Tab")
-        else:
-            raise AssertionError("Tab never reaches the width")
+        self.lumora.tab_to("text", "Width")
         self.desktop.type("320abc")
         self.desktop.key("Tab")
         wait_for("the height to have the keyboard", lambda: self.lumora.focused().name == "Height")
@@ -79,12 +73,12 @@ class Walk:
         self.lumora.wait_shown("This size will not work")
         self.desktop.key("Escape")
         self.lumora.wait_gone("This size will not work")
-        wait_for("the keyboard to be back", lambda: self.lumora.focused())
-        while self.lumora.focused().name != "Height":
-            self.desktop.key("shift+Tab")
+        self.lumora.tab_to("text", "Height")
         self.desktop.key("ctrl+a")
         self.desktop.type("100")
-        self.desktop.key("Tab", "space")
+        self.desktop.key("Tab")
+        wait_for("the button to have the keyboard", self.generate("custom").has_focus)
+        self.desktop.key("space")
 
         # Cancelled, nothing is written; confirmed, the picture.
         wait_for("the dialog", lambda: self.lumora.controls("push button", "Choose"))

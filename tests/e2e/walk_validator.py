@@ -10,7 +10,7 @@ import tempfile
 import time
 from pathlib import Path
 
-from desktop import Missing, wait_for
+from desktop import wait_for
 from window_system import Desktop
 
 FIXTURES = Path(__file__).resolve().parent.parent / "validator"
@@ -106,43 +106,26 @@ def by_interface(desktop, scratch):
     assert lumora.close() == 0
 
 
-def focused(lumora):
-    for control in lumora.controls():
-        if control.has_state("focused") and control.role in ("push button", "check box", "text"):
-            return control
-    return None
-
-
-def tab_to(desktop, lumora, wanted):
-    for _ in range(30):
-        control = focused(lumora)
-        if control is not None and (control.name, control.box) == (wanted.name, wanted.box):
-            return
-        desktop.key("Tab")
-        time.sleep(0.1)
-    raise Missing(f"the Tab key never came to {wanted.name}")
-
-
 def by_keys(desktop, scratch):
     """The whole job without a pointer."""
     lumora = desktop.start("--tool=validator")
     lumora.wait_shown(DROP_AREA)
     lumora.activate()
-    tab_to(desktop, lumora, lumora.button("Browse…"))
+    lumora.tab_to("push button", "Browse…")
     desktop.key("space")
     lumora.choose_in_dialog(scratch / "one icon.ipa")
     shows_verdicts(lumora, **{"App icons": "problems found"})
-    tab_to(desktop, lumora, lumora.find("check box", "App icons: problems found"))
+    lumora.tab_to("check box", "App icons: problems found")
     desktop.key("space")
     lumora.wait_shown("Icon sizes are missing")
     desktop.key("Escape")
     lumora.wait_gone("Icon sizes are missing")
-    tab_to(desktop, lumora, lumora.find("check box", "Localisations: passed"))
+    lumora.tab_to("check box", "Localisations: passed")
     desktop.key("space")
     wait_for("the localisations", lambda: any("• French" in control.name for control in lumora.controls("label")))
     desktop.key("Escape")
     wait_for("the popup to go", lambda: not any("• French" in control.name for control in lumora.controls("label")))
-    tab_to(desktop, lumora, close_button(lumora))
+    lumora.tab_to("push button", "Close")
     desktop.key("space")
     lumora.wait_shown(DROP_AREA)
     assert lumora.close() == 0
