@@ -22,6 +22,16 @@ int makeFolder(const QString &path)
     return ::mkdir(QFile::encodeName(path).constData(), 0777) == 0 ? 0 : errno;
 }
 
+/// The error's number, EEXIST for a name that is in use, 0 when the folder was made. To look is not enough, since two
+/// runs may start together; nor is to make, since a file system may have another complaint of a folder that is there,
+/// which would then be written into.
+int makeFreshFolder(const QString &path)
+{
+    const QFileInfo info(path);
+    // exists() follows links; a broken link takes the name all the same.
+    return info.exists() || info.isSymLink() ? EEXIST : makeFolder(path);
+}
+
 } // namespace
 
 QString ExportFolder::name() const
@@ -33,13 +43,12 @@ ExportFolder makeExportFolder(const QString &destination, const QString &baseNam
 {
     const QString base = destination + u'/' + baseName;
     ExportFolder folder{base, false, {}};
-    // Looking first and making afterwards would let two runs that start together into one folder.
-    int error = makeFolder(base);
+    int error = makeFreshFolder(base);
     if (error == EEXIST)
         logLine(QStringLiteral("Folder exists!"));
     for (int number = 1; error == EEXIST; ++number) {
         folder = {base + u'_' + QString::number(number), true, {}};
-        error = makeFolder(folder.path);
+        error = makeFreshFolder(folder.path);
     }
     if (error != 0) {
         folder.error = qt_error_string(error);
