@@ -1,13 +1,20 @@
 // SPDX-License-Identifier: MIT
 #include "ColorPlanes.h"
 
+#include <cstring>
+
 namespace lumora
 {
 
 ColorPlanes::ColorPlanes(QSize size, int channels, SampleDepth depth)
     : m_size(size), m_channels(channels), m_depth(depth), m_stride(planeStride(size.width(), depth)),
-      m_samples(alignedBytes(static_cast<std::size_t>(m_stride * size.height() * channels)))
+      m_samples(alignedBytes(byteCount()))
 {
+}
+
+ColorPlanes::ColorPlanes(const ColorPlanes &other) : ColorPlanes(other.m_size, other.m_channels, other.m_depth)
+{
+    std::memcpy(m_samples.get(), other.m_samples.get(), byteCount());
 }
 
 std::unique_ptr<ColorPlanes> ColorPlanes::scaledTo(QSize size) const

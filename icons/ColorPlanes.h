@@ -17,6 +17,10 @@ class ColorPlanes
 public:
     /// Not empty; the samples are not set.
     ColorPlanes(QSize size, int channels, SampleDepth depth);
+    ColorPlanes(const ColorPlanes &other);
+    ColorPlanes &operator=(const ColorPlanes &) = delete;
+    ColorPlanes(ColorPlanes &&) = default;
+    ~ColorPlanes() = default;
 
     QSize size() const { return m_size; }
     int channels() const { return m_channels; }
@@ -33,6 +37,7 @@ public:
     std::unique_ptr<ColorPlanes> scaledTo(QSize size) const;
 
 private:
+    std::size_t byteCount() const { return static_cast<std::size_t>(m_stride * m_size.height() * m_channels); }
     std::uint8_t *bytes(int channel, int y) const
     {
         return m_samples.get() + (qsizetype{channel} * m_size.height() + y) * m_stride;

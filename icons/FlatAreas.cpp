@@ -2,6 +2,8 @@
 #include "FlatAreas.h"
 
 #include "ColorPlanes.h"
+#include "EdgeShades.h"
+#include "SeenPixels.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -13,36 +15,6 @@ namespace lumora
 
 namespace
 {
-
-/// The pixels from `first` to `last`, both included and never the same.
-struct Stretch
-{
-    int first = 0;
-    int last = 0;
-};
-
-qint64 dividedDown(qint64 number, qint64 by)
-{
-    return number >= 0 ? number / by : -((-number + by - 1) / by);
-}
-
-/// For each pixel of a scaled row or column the stretch of the picture's that lies, wholly or in part, within
-/// `halfPixels` halves of a pixel from its centre: of a scaled pixel, or of the picture's own where it is enlarged. All
-/// integers, so that no rounding differs from one machine to the next.
-std::vector<Stretch> stretchesSeen(int scaled, int picture, int halfPixels)
-{
-    std::vector<Stretch> seen(static_cast<std::size_t>(scaled));
-    const qint64 reach = qint64{halfPixels} * std::max(scaled, picture);
-    const qint64 unit = 2 * qint64{scaled};
-    for (int i = 0; i < scaled; ++i) {
-        const qint64 centre = (2 * qint64{i} + 1) * picture;
-        const qint64 last = -dividedDown(-(centre + reach), unit) - 1;
-        Stretch &stretch = seen[static_cast<std::size_t>(i)];
-        stretch.first = static_cast<int>(std::clamp<qint64>(dividedDown(centre - reach, unit), 0, picture - 2));
-        stretch.last = static_cast<int>(std::clamp<qint64>(last, stretch.first + 1, picture - 1));
-    }
-    return seen;
-}
 
 /// Adds where a row's blocks are not of a single sample in this channel.
 template <typename Sample> void addUneven(const Sample *row, const Sample *below, int blocks, std::uint8_t *uneven)
@@ -181,6 +153,16 @@ void FlatAreas::restoreIn(ColorPlanes &scaled) const
         restoreSamples<std::uint8_t>(scaled);
     else
         restoreSamples<std::uint16_t>(scaled);
+}
+
+void FlatAreas::roundEdgesIn(ColorPlanes &scaled) const
+{
+    if (m_blocks.isEmpty())
+        return;
+    if (m_picture.depth() == SampleDepth::Bits8)
+        EdgeShades<std::uint8_t>(m_picture, m_uneven, scaled.size()).roundIn(scaled);
+    else
+        EdgeShades<std::uint16_t>(m_picture, m_uneven, scaled.size()).roundIn(scaled);
 }
 
 template <typename Sample> void FlatAreas::findAreas()

@@ -30,6 +30,10 @@ public:
     /// Mends `scaled`, which is the picture in another size. Where nothing is flat nothing changes.
     void restoreIn(ColorPlanes &scaled) const;
 
+    /// Rounds the shades along the edges between flat areas in a mended `scaled`; see `EdgeShades`. Not for what is
+    /// scaled further.
+    void roundEdgesIn(ColorPlanes &scaled) const;
+
 private:
     template <typename Sample> void findAreas();
     template <typename Sample> void findUneven(int row, std::uint8_t *uneven) const;

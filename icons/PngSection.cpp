@@ -59,7 +59,7 @@ using Levels = std::array<int, 3>;
 constexpr Levels noiseLevels = {7, 6, 4};
 constexpr Levels drawingLevels = {7, 6, 6};
 /// Plain shapes, which shrink most without a filter and are fast to compress.
-constexpr Levels shapesLevels = {7, 7, 7};
+constexpr Levels shapesLevels = {7, 7, 8};
 
 /// Where the levels change, in bytes of filtered rows.
 constexpr qsizetype largestOfSmall = 512 * 1024;

@@ -129,10 +129,20 @@ QImage Resampler::scaledTo(QSize size) const
         return {};
     if (size == m_planes->size())
         return putTogether(*m_planes);
-    if (isMadeFromHalf(m_planes->size(), size))
-        return half().scaledTo(size);
-    const std::unique_ptr<ColorPlanes> scaled = planesOf(size);
-    return scaled == nullptr ? QImage() : putTogether(*scaled);
+    std::unique_ptr<ColorPlanes> scaled;
+    if (isMadeFromHalf(m_planes->size(), size)) {
+        const Resampler &halved = half();
+        if (halved.m_planes == nullptr || size != halved.m_planes->size())
+            return halved.scaledTo(size);
+        // Smaller sizes are made from the half as it is, so that what is rounded is rounded once.
+        scaled = std::make_unique<ColorPlanes>(*halved.m_planes);
+    } else {
+        scaled = planesOf(size);
+    }
+    if (scaled == nullptr)
+        return {};
+    m_flatAreas->roundEdgesIn(*scaled);
+    return putTogether(*scaled);
 }
 
 QImage resample(const QImage &source, QSize size)

@@ -69,7 +69,9 @@ QImage resampleTranslucent(const QImage &source, QSize size)
     const std::unique_ptr<ColorPlanes> to = from.scaledTo(size);
     if (to == nullptr)
         return {};
-    FlatAreas(from).restoreIn(*to);
+    const FlatAreas flat(from);
+    flat.restoreIn(*to);
+    flat.roundEdgesIn(*to);
     QImage result(size, QImage::Format_RGBA8888);
     if (result.isNull())
         return {};

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "icons/FlatAreas.h"
 
+#include "FlatDrawings.h"
 #include "icons/ColorPlanes.h"
 #include "icons/PixelFormat.h"
 #include "icons/Resampler.h"
@@ -8,59 +9,14 @@
 #include <QRandomGenerator>
 #include <QTest>
 
+#include <algorithm>
 #include <cmath>
-#include <functional>
 
 using namespace lumora;
+using namespace flat_drawings;
 
 namespace
 {
-
-constexpr int sourceEdge = 1024;
-
-/// How deep inside a shape a point lies, in source pixels; negative outside.
-using Shape = double (*)(double x, double y);
-
-double leftOfAnEdge(double x, double)
-{
-    return 501.3 - x;
-}
-
-double aboveASlope(double x, double y)
-{
-    return (700 - x - 0.4 * y) / std::hypot(1, 0.4);
-}
-
-double insideADisc(double x, double y)
-{
-    return 390 - std::hypot(x - 520, y - 505);
-}
-
-double insideAHole(double x, double y)
-{
-    return std::hypot(x - 300, y - 411) - 37;
-}
-
-QColor mixed(QColor over, QColor under, double share)
-{
-    const auto channel = [share](int a, int b) { return static_cast<int>(std::lround(b + (a - b) * share)); };
-    return QColor(channel(over.red(), under.red()), channel(over.green(), under.green()),
-                  channel(over.blue(), under.blue()), channel(over.alpha(), under.alpha()));
-}
-
-/// A shape of one colour on a ground of another, its edge smoothed over one pixel.
-QImage drawn(Shape shape, QColor colour, QColor ground, int edge = sourceEdge)
-{
-    QImage picture(edge, edge, QImage::Format_RGBA8888);
-    for (int y = 0; y < edge; ++y) {
-        for (int x = 0; x < edge; ++x) {
-            const double inside = std::clamp(shape(x + 0.5, y + 0.5) + 0.5, 0.0, 1.0);
-            const QColor pixel = inside == 0 ? ground : inside == 1 ? colour : mixed(colour, ground, inside);
-            picture.setPixel(x, y, pixel.rgba());
-        }
-    }
-    return picture;
-}
 
 QImage noise(QSize size)
 {
@@ -72,20 +28,6 @@ QImage noise(QSize size)
     }
     return picture;
 }
-
-/// The red channel of a picture as the only plane.
-ColorPlanes redPlane(const QImage &picture)
-{
-    ColorPlanes plane(picture.size(), 1, SampleDepth::Bits8);
-    for (int y = 0; y < picture.height(); ++y) {
-        for (int x = 0; x < picture.width(); ++x)
-            plane.row<std::uint8_t>(0, y)[x] = static_cast<std::uint8_t>(qRed(picture.pixel(x, y)));
-    }
-    return plane;
-}
-
-const QColor green(39, 174, 96);
-const QColor paper(236, 240, 241);
 
 } // namespace
 
