@@ -63,12 +63,14 @@ def photograph(folder, tool, scale=1, scheme=None, fonts=True, like=None):
         picture = Path(folder) / f"{tool}.png"
 
         def photographs():
-            """The picture once it is the same three times running: all is painted, and the window has the focus or will not."""
+            """The picture once it is the same three times running and the program did nothing meanwhile: all is painted, and the
+            window has the focus or will not."""
             alike = []
             while len(alike) < 3 or share(picture, HEADERS[tool]) < 0.02:
                 desktop.photograph(program, picture)
                 pixels = subprocess.run(["convert", str(picture), "rgb:-"], stdout=subprocess.PIPE, check=True).stdout
-                alike = [*alike, pixels] if not alike or alike[-1] == pixels else [pixels]
+                now = pixels, processor_time(program)
+                alike = [*alike, now] if not alike or alike[-1] == now else [now]
                 if len(alike) > 100:
                     return False
             return like is None or difference(like, picture) == 0
@@ -78,6 +80,12 @@ def photograph(folder, tool, scale=1, scheme=None, fonts=True, like=None):
         except Missing as error:
             raise Missing(f"{error}; it differs by {difference(like, picture)}" if like else error) from error
         return picture.rename(picture.with_name(f"{tool}-{scale}-{len(list(Path(folder).iterdir()))}.png"))
+
+
+def processor_time(process):
+    """In ticks, of all its threads."""
+    stat = Path(f"/proc/{process.pid}/stat").read_text()
+    return sum(map(int, stat.rsplit(")", 1)[1].split()[11:13]))
 
 
 def share(picture, color):
