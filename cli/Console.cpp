@@ -14,16 +14,17 @@ namespace lumora
 namespace
 {
 
-void write(std::FILE *stream, const QByteArray &bytes)
+void write(std::FILE *stream, QByteArrayView bytes)
 {
-    std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stream);
+    std::fwrite(bytes.data(), 1, static_cast<std::size_t>(bytes.size()), stream);
 }
 
 } // namespace
 
 void Console::print(const QString &line)
 {
-    write(stdout, line.toUtf8() + '\n');
+    write(stdout, line.toUtf8());
+    write(stdout, "\n");
 }
 
 void Console::print(const QJsonDocument &document)
@@ -34,7 +35,8 @@ void Console::print(const QJsonDocument &document)
 void Console::complain(const QString &line)
 {
     endProgress();
-    write(stderr, QByteArrayLiteral("lumora: ") + printableText(line).toUtf8() + '\n');
+    // In one piece, so that lines of several programs do not mix.
+    write(stderr, QByteArray(QByteArrayLiteral("lumora: ") + printableText(line).toUtf8() + '\n'));
 }
 
 void Console::complain(const Failure &failure)

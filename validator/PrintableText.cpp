@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "PrintableText.h"
 
+#include <algorithm>
+
 namespace lumora
 {
 
@@ -24,6 +26,9 @@ bool isHarmless(QChar character)
 
 QString printableText(const QString &text)
 {
+    // Nearly always, and then nothing is copied.
+    if (std::all_of(text.cbegin(), text.cend(), isHarmless))
+        return text;
     QString printable;
     printable.reserve(text.size());
     for (const QChar character : text) {
