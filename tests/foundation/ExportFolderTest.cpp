@@ -2,10 +2,12 @@
 #include "foundation/ExportFolder.h"
 
 #include <QDir>
-#include <QMutex>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QThreadPool>
+
+#include <mutex>
+#include <thread>
+#include <vector>
 
 using namespace lumora;
 using namespace Qt::StringLiterals;
@@ -65,21 +67,24 @@ private slots:
     void runsThatStartTogetherShareNoFolder()
     {
         const QTemporaryDir destination;
-        constexpr int count = 200;
-        QMutex mutex;
+        constexpr int threads = 8;
+        constexpr int runsPerThread = 25;
+        std::mutex mutex;
         QStringList paths;
-        QThreadPool pool;
-        pool.setMaxThreadCount(8);
-        for (int run = 0; run < count; ++run)
-            pool.start([&] {
-                const ExportFolder folder = makeExportFolder(destination.path(), u"icons"_s);
-                const QMutexLocker lock(&mutex);
-                if (folder.error.isEmpty())
-                    paths += folder.path;
-            });
-        pool.waitForDone();
+        {
+            std::vector<std::jthread> starters;
+            for (int i = 0; i < threads; ++i)
+                starters.emplace_back([&] {
+                    for (int run = 0; run < runsPerThread; ++run) {
+                        const ExportFolder folder = makeExportFolder(destination.path(), u"icons"_s);
+                        const std::scoped_lock lock(mutex);
+                        if (folder.error.isEmpty())
+                            paths += folder.path;
+                    }
+                });
+        }
         QCOMPARE(paths.removeDuplicates(), 0);
-        QCOMPARE(paths.size(), count);
+        QCOMPARE(paths.size(), threads * runsPerThread);
     }
 
     void tellsWhyTheFolderCannotBeMade()
