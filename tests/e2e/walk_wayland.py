@@ -134,6 +134,26 @@ class Popover(unittest.TestCase):
             self.assertTrue(desktop.probe.report()["popover"])
 
 
+    def test_it_is_dragged_away_and_stays_there(self):
+        with ProbeDesktop("stays", "movable") as desktop:
+            desktop.probe.tell("popover")
+            wait_for("the popover at its anchor", desktop.popover_is_on_its_anchor)
+            x, y, width, height = desktop.bounds(GREEN)
+            desktop.drag((x + width // 2, y + height // 2), (60, 40))
+            # The compositor moves nothing that belongs to another window while the button is down: it is shown there anew.
+            wait_for("the popover where it was dragged", lambda: desktop.bounds(GREEN) == (x + 60, y + 40, width, height))
+            self.assertTrue(desktop.probe.report()["popover"])
+
+    def test_it_is_resized_at_its_corner(self):
+        with ProbeDesktop("stays", "resizable") as desktop:
+            desktop.probe.tell("popover")
+            wait_for("the popover at its anchor", desktop.popover_is_on_its_anchor)
+            x, y, width, height = desktop.bounds(GREEN)
+            # At its lower right, inside of the round corner.
+            desktop.drag((x + width - 4, y + height - 25), (40, 30))
+            wait_for("the popover in its new size", lambda: desktop.bounds(GREEN) == (x, y, width + 40, height + 30))
+
+
 class Window(unittest.TestCase):
     def test_it_is_dragged_by_the_whole_of_its_bar(self):
         with ProbeDesktop() as desktop:

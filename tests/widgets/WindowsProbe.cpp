@@ -80,6 +80,8 @@ public:
         m_popover.setBorderColor(Qt::green);
         m_popover.setClosesWhenPopoverResignsKey(!options.contains(u"stays"_s));
         m_popover.setAnimates(options.contains(u"animates"_s));
+        m_popover.setMovable(options.contains(u"movable"_s));
+        m_popover.setResizable(options.contains(u"resizable"_s));
         m_window.show();
         if (options.contains(u"typing"_s))
             m_field->setFocus();
