@@ -110,6 +110,7 @@ private slots:
     void aLineBetweenTwoColoursStays();
     void faintEdgesAreRoundedToo();
     void lightOnNothingStaysPure();
+    void picturesOfAFewPixelsAreScaled();
 };
 
 void EdgeShadesTest::anEdgeHasFewShades_data()
@@ -262,6 +263,27 @@ void EdgeShadesTest::lightOnNothingStaysPure()
         for (const QRgb colour : colours(result)) {
             if (qAlpha(colour) > 0)
                 QCOMPARE(colour | 0xff000000U, 0xffffffffU);
+        }
+    }
+}
+
+void EdgeShadesTest::picturesOfAFewPixelsAreScaled()
+{
+    for (int width = 1; width < 8; ++width) {
+        for (int height = 1; height < 8; ++height) {
+            QImage picture(width, height, QImage::Format_RGB32);
+            picture.fill(Qt::white);
+            for (int y = 0; y < (height + 1) / 2; ++y) {
+                for (int x = 0; x < width; ++x)
+                    picture.setPixelColor(x, y, green);
+            }
+            for (const QSize size : {QSize(1, 1), QSize(2, 3), QSize(5, 4), QSize(9, 1), QSize(8, 17)}) {
+                const QImage result = resampleStraight(picture, size);
+                QCOMPARE(result.size(), size);
+                // The middle of the upper edge lies in the green half, if there are two.
+                if (height > 1 && size.height() > 3)
+                    QVERIFY(qRed(result.pixel(size.width() / 2, 0)) < 110);
+            }
         }
     }
 }
