@@ -16,7 +16,9 @@ namespace
 
 void write(std::FILE *stream, QByteArrayView bytes)
 {
-    std::fwrite(bytes.data(), 1, static_cast<std::size_t>(bytes.size()), stream);
+    // Of an empty line there is no first byte to point at.
+    if (!bytes.isEmpty())
+        std::fwrite(bytes.data(), 1, static_cast<std::size_t>(bytes.size()), stream);
 }
 
 } // namespace
