@@ -16,10 +16,10 @@ namespace lumora
 class ColorPlanes;
 
 /// The shades that a scaled picture has along an edge between two areas of one colour each. Any shade between the two
-/// tells no more than how far a pixel lies on one side; of the hundreds that a filter makes, nobody sees more than a
-/// few, but each that is new costs its file as much as a new colour. So such pixels get the nearest of a few evenly
-/// spaced shades. What the filter makes darker or lighter than both, a faint rim along the edge, gets the nearer of the
-/// two. What is not between two flat colours, a line of a third colour or a gradient, keeps its own.
+/// tells no more than how far a pixel lies on one side, but a filter makes hundreds of them, and each that is new costs
+/// its file as much as a new colour. So such pixels get the nearest of a few evenly spaced shades. What the filter
+/// makes darker or lighter than both, a faint rim along the edge, gets the nearer of the two. What is not between two
+/// flat colours, a line of a third colour or a gradient, keeps its own.
 template <typename Sample> class EdgeShades
 {
 public:
