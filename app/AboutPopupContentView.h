@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "services/Services.h"
+#include "tool/services/Services.h"
 
 #include <QWidget>
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "StyledText.h"
-#include "services/Services.h"
-#include "widgets/INAppStoreWindowDelegateProxy.h"
+#include "tool/StyledText.h"
+#include "tool/services/Services.h"
+#include "widgets/window/INAppStoreWindowDelegateProxy.h"
 
 #include <QObject>
 #include <QPointF>

@@ -5,9 +5,9 @@
 #include "HeaderView.h"
 #include "ITSidebar.h"
 #include "ToolTable.h"
-#include "ToolViewController.h"
-#include "widgets/INAppStoreWindow.h"
-#include "widgets/ImageButton.h"
+#include "tool/ToolViewController.h"
+#include "widgets/buttons/ImageButton.h"
+#include "widgets/window/INAppStoreWindow.h"
 
 #include <QAction>
 #include <QActionGroup>

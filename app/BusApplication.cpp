@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "BusApplication.h"
 
-#include "LocalFiles.h"
 #include "SilentBus.h"
 #include "foundation/Version.h"
+#include "tool/services/LocalFiles.h"
 
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>

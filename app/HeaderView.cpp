@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "HeaderView.h"
 
-#include "ColorBand.h"
-#include "LabelStyle.h"
-#include "ShellMetrics.h"
-#include "StyledText.h"
-#include "widgets/Fonts.h"
-#include "widgets/ImageButton.h"
-#include "widgets/Palette.h"
+#include "tool/ColorBand.h"
+#include "tool/LabelStyle.h"
+#include "tool/ShellMetrics.h"
+#include "tool/StyledText.h"
+#include "widgets/buttons/ImageButton.h"
+#include "widgets/style/Fonts.h"
+#include "widgets/style/Palette.h"
 
 #include <QLabel>
 

@@ -4,7 +4,7 @@
 #include "ITSidebarItemCell.h"
 #include "SidebarAccessible.h"
 #include "SidebarMatrix.h"
-#include "widgets/Palette.h"
+#include "widgets/style/Palette.h"
 
 #include <QKeyEvent>
 #include <QPainter>

@@ -3,8 +3,8 @@
 
 #include "SidebarScrollView.h"
 #include "TargetAction.h"
-#include "widgets/KeyboardFocus.h"
-#include "widgets/NamedImage.h"
+#include "widgets/style/KeyboardFocus.h"
+#include "widgets/style/NamedImage.h"
 
 #include <QWidget>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ITSidebarItemCell.h"
 
-#include "widgets/Palette.h"
+#include "widgets/style/Palette.h"
 
 #include <QPainter>
 

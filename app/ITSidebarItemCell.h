@@ -2,7 +2,7 @@
 #pragma once
 
 #include "TargetAction.h"
-#include "widgets/NamedImage.h"
+#include "widgets/style/NamedImage.h"
 
 #include <QAbstractButton>
 #include <QColor>

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "PopupContentView.h"
 
-#include "ButtonStyle.h"
-#include "LabelStyle.h"
+#include "tool/ButtonStyle.h"
+#include "tool/LabelStyle.h"
 #include "ui_PopupContentView.h"
-#include "widgets/Fonts.h"
-#include "widgets/Palette.h"
+#include "widgets/style/Fonts.h"
+#include "widgets/style/Palette.h"
 
 namespace lumora
 {

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "services/Services.h"
-#include "widgets/NamedImage.h"
+#include "tool/services/Services.h"
+#include "widgets/style/NamedImage.h"
 
 #include <QColor>
 #include <QWidget>

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "SettingsViewController.h"
 
-#include "ButtonStyle.h"
-#include "LabelStyle.h"
 #include "foundation/Log.h"
+#include "tool/ButtonStyle.h"
+#include "tool/LabelStyle.h"
 #include "ui_SettingsViewController.h"
-#include "widgets/Fonts.h"
-#include "widgets/Palette.h"
+#include "widgets/style/Fonts.h"
+#include "widgets/style/Palette.h"
 
 namespace lumora
 {

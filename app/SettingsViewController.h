@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "StyledText.h"
-#include "services/Services.h"
+#include "tool/StyledText.h"
+#include "tool/services/Services.h"
 
 #include <QObject>
 #include <QPointer>

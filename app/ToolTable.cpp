@@ -7,7 +7,7 @@
 #include "placeholders/PlaceholderViewController.h"
 #include "resizer/ResizerViewController.h"
 #include "validator/ValidaterViewController.h"
-#include "widgets/Palette.h"
+#include "widgets/style/Palette.h"
 
 namespace lumora
 {

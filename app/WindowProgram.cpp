@@ -14,11 +14,11 @@
 #include "foundation/Log.h"
 #include "foundation/Version.h"
 #include "resources/Resources.h"
-#include "validator/WorkFolder.h"
-#include "widgets/AppStyle.h"
-#include "widgets/FrameClock.h"
-#include "widgets/INAppStoreWindow.h"
-#include "widgets/NamedImage.h"
+#include "validator/bundle/WorkFolder.h"
+#include "widgets/style/AppStyle.h"
+#include "widgets/style/FrameClock.h"
+#include "widgets/style/NamedImage.h"
+#include "widgets/window/INAppStoreWindow.h"
 
 #include <QApplication>
 #include <QFile>

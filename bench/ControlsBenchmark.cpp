@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 // A full repaint of every control into a picture of twice the size, which is more than a screen asks for; and what the
 // animated progress bar takes of a processor.
-#include "widgets/BFIconTabBar.h"
-#include "widgets/CheckboxButton.h"
-#include "widgets/HoverButton.h"
-#include "widgets/IconButton.h"
-#include "widgets/ImageButton.h"
-#include "widgets/KBButton.h"
-#include "widgets/LBProgressBar.h"
-#include "widgets/RadioButton.h"
-#include "widgets/ZKTextField.h"
+#include "widgets/buttons/CheckboxButton.h"
+#include "widgets/buttons/HoverButton.h"
+#include "widgets/buttons/IconButton.h"
+#include "widgets/buttons/ImageButton.h"
+#include "widgets/buttons/KBButton.h"
+#include "widgets/buttons/RadioButton.h"
+#include "widgets/progress/LBProgressBar.h"
+#include "widgets/tabs/BFIconTabBar.h"
+#include "widgets/textfield/ZKTextField.h"
 
 #include <QApplication>
 #include <QElapsedTimer>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // How long the device matrix takes to filter and to start every fade. Runs without a screen: QT_QPA_PLATFORM=offscreen.
-#include "app/services/RecordingServices.h"
 #include "devices/DeviceViewController.h"
 #include "resources/Resources.h"
-#include "widgets/CheckboxButton.h"
+#include "tests/doubles/RecordingServices.h"
+#include "widgets/buttons/CheckboxButton.h"
 
 #include <QApplication>
 

@@ -3,12 +3,12 @@
 // bench_icons PHOTO.png DRAWING.png [--benchmark_...]
 #include "icons/IconExport.h"
 #include "icons/IconSource.h"
-#include "icons/PixelFormat.h"
-#include "icons/PngFilter.h"
-#include "icons/PngRows.h"
-#include "icons/PngSection.h"
 #include "icons/RenderedIcons.h"
-#include "icons/Resampler.h"
+#include "pictures/pixels/PixelFormat.h"
+#include "pictures/png/PngFilter.h"
+#include "pictures/png/PngRows.h"
+#include "pictures/png/PngSection.h"
+#include "pictures/scaling/Resampler.h"
 
 #include <benchmark/benchmark.h>
 

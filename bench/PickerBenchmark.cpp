@@ -7,8 +7,8 @@
 #include "color/picker/ColorPanel.h"
 #include "color/picker/PickerContent.h"
 #include "resources/Resources.h"
-#include "widgets/Fonts.h"
-#include "widgets/FrameClock.h"
+#include "widgets/style/Fonts.h"
+#include "widgets/style/FrameClock.h"
 
 #include <QApplication>
 #include <QLabel>

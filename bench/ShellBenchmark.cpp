@@ -4,12 +4,12 @@
 #include "app/AppDelegate.h"
 #include "app/ITSidebar.h"
 #include "app/ToolTable.h"
-#include "app/services/RecordingServices.h"
 #include "icons/IconsViewController.h"
 #include "resources/Resources.h"
+#include "tests/doubles/RecordingServices.h"
 #include "ui_IconsViewController.h"
-#include "widgets/AppStyle.h"
-#include "widgets/INAppStoreWindow.h"
+#include "widgets/style/AppStyle.h"
+#include "widgets/window/INAppStoreWindow.h"
 
 #include <QApplication>
 #include <QElapsedTimer>

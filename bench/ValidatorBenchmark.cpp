@@ -2,13 +2,13 @@
 // usage: bench_validator FILE.ipa   How long the event loop stalls while the window reads the package.
 #include "Heartbeat.h"
 #include "app/AppDelegate.h"
-#include "app/services/RecordingServices.h"
 #include "resources/Resources.h"
+#include "tests/doubles/RecordingServices.h"
 #include "validator/OpacityFade.h"
-#include "validator/WorkFolder.h"
-#include "widgets/AppStyle.h"
-#include "widgets/CheckboxButton.h"
-#include "widgets/INAppStoreWindow.h"
+#include "validator/bundle/WorkFolder.h"
+#include "widgets/buttons/CheckboxButton.h"
+#include "widgets/style/AppStyle.h"
+#include "widgets/window/INAppStoreWindow.h"
 
 #include <QApplication>
 #include <QFileInfo>

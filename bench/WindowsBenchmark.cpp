@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // How long the windows of the widget kit take to draw: a popover from the call that shows it to its first pixel, and a
 // full repaint of what the windows draw themselves. Runs without a screen: QT_QPA_PLATFORM=offscreen.
-#include "widgets/FrameClock.h"
-#include "widgets/INAppStoreWindow.h"
-#include "widgets/SFBPopover.h"
+#include "widgets/popover/SFBPopover.h"
+#include "widgets/style/FrameClock.h"
+#include "widgets/window/INAppStoreWindow.h"
 
 #include <QApplication>
 #include <QLabel>

@@ -2,7 +2,7 @@
 #include "Console.h"
 
 #include "FailureText.h"
-#include "validator/PrintableText.h"
+#include "foundation/PrintableText.h"
 
 #include <cstdio>
 

@@ -6,7 +6,7 @@
 #include "IconReport.h"
 #include "foundation/LeadingInteger.h"
 #include "icons/IconExport.h"
-#include "icons/RoundedCorners.h"
+#include "pictures/RoundedCorners.h"
 
 #include <CLI/Validators.hpp>
 

@@ -3,7 +3,7 @@
 
 #include "foundation/WholeFile.h"
 #include "icons/IconSource.h"
-#include "icons/PictureReader.h"
+#include "pictures/PictureReader.h"
 
 #include <QFile>
 

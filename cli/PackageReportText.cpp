@@ -2,8 +2,8 @@
 #include "PackageReportText.h"
 
 #include "FailureText.h"
-#include "validator/MetadataChecks.h"
-#include "validator/PrintableText.h"
+#include "foundation/PrintableText.h"
+#include "validator/bundle/MetadataChecks.h"
 
 #include <QJsonArray>
 
@@ -61,8 +61,7 @@ QString presenceLine(bool present, const QString &what)
 bool allJudgedValid(const PackageReport &report)
 {
     const MetadataVerdicts verdicts = metadataVerdicts(report.facts);
-    return report.artwork.findings.isEmpty() && verdicts.bundleIdentifierValid &&
-           verdicts.localizationsValid;
+    return report.artwork.findings.isEmpty() && verdicts.bundleIdentifierValid && verdicts.localizationsValid;
 }
 
 QJsonObject reportJson(const QString &file, const PackageReport &report)

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "validator/PackageInspection.h"
+#include "validator/bundle/PackageInspection.h"
 
 #include <QJsonObject>
 #include <QString>

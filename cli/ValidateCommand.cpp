@@ -3,9 +3,9 @@
 
 #include "Console.h"
 #include "PackageReportText.h"
-#include "icons/IconRendering.h"
-#include "validator/PrintableText.h"
-#include "validator/WorkFolder.h"
+#include "foundation/PrintableText.h"
+#include "pictures/PictureOperations.h"
+#include "validator/bundle/WorkFolder.h"
 
 #include <CLI/Validators.hpp>
 

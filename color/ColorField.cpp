@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ColorField.h"
 
-#include "widgets/Palette.h"
+#include "widgets/style/Palette.h"
 
 #include <QPainter>
 

@@ -3,12 +3,12 @@
 
 #include "ColorField.h"
 #include "TypingRule.h"
-#include "app/ButtonStyle.h"
-#include "app/LabelStyle.h"
 #include "color/picker/ColorWell.h"
+#include "tool/ButtonStyle.h"
+#include "tool/LabelStyle.h"
 #include "ui_ColorViewController.h"
-#include "widgets/Fonts.h"
-#include "widgets/Palette.h"
+#include "widgets/style/Fonts.h"
+#include "widgets/style/Palette.h"
 
 #include <QDropEvent>
 #include <QKeyEvent>

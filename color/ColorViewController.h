@@ -2,8 +2,8 @@
 #pragma once
 
 #include "ColorCode.h"
-#include "app/DropView.h"
-#include "app/ToolViewController.h"
+#include "tool/DropView.h"
+#include "tool/ToolViewController.h"
 
 #include <QTimer>
 

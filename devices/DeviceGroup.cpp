@@ -2,7 +2,7 @@
 #include "DeviceGroup.h"
 
 #include "DeviceViews.h"
-#include "widgets/PopoverGeometry.h"
+#include "widgets/popover/PopoverGeometry.h"
 
 using namespace Qt::StringLiterals;
 

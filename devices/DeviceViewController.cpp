@@ -2,11 +2,11 @@
 #include "DeviceViewController.h"
 
 #include "DeviceViews.h"
-#include "app/ButtonStyle.h"
-#include "app/LabelStyle.h"
+#include "tool/ButtonStyle.h"
+#include "tool/LabelStyle.h"
 #include "ui_DeviceViewController.h"
-#include "widgets/Fonts.h"
-#include "widgets/Palette.h"
+#include "widgets/style/Fonts.h"
+#include "widgets/style/Palette.h"
 
 using namespace Qt::StringLiterals;
 

@@ -4,7 +4,7 @@
 #include "DeviceFilter.h"
 #include "DeviceGroup.h"
 #include "FadingView.h"
-#include "app/ToolViewController.h"
+#include "tool/ToolViewController.h"
 
 #include <array>
 #include <memory>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "DeviceViews.h"
 
-#include "widgets/Fonts.h"
-#include "widgets/Palette.h"
+#include "widgets/style/Fonts.h"
+#include "widgets/style/Palette.h"
 
 #include <QAccessibleWidget>
 #include <QPainter>

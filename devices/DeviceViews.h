@@ -2,7 +2,7 @@
 #pragma once
 
 #include "FadingView.h"
-#include "widgets/NamedImage.h"
+#include "widgets/style/NamedImage.h"
 
 namespace lumora
 {

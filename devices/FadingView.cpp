@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "FadingView.h"
 
-#include "widgets/AnimationTiming.h"
+#include "widgets/style/AnimationTiming.h"
 
 namespace lumora
 {

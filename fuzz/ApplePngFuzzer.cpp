@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Any bytes as an Apple-optimised picture.
 #include "PngChecksums.h"
-#include "validator/ApplePngDecoder.h"
-#include "validator/PngHeader.h"
+#include "pictures/png/ApplePngDecoder.h"
+#include "pictures/png/PngHeader.h"
 
 #include <cstdlib>
 

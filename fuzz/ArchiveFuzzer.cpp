@@ -2,8 +2,8 @@
 // Any bytes as an app package: unpacked, read, judged and removed as the program does it. Whatever the archive holds,
 // nothing may appear beside the work folder.
 #include "foundation/Log.h"
-#include "validator/PackageInspection.h"
-#include "validator/ZipArchive.h"
+#include "validator/archive/ZipArchive.h"
+#include "validator/bundle/PackageInspection.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Any bytes as a source picture of any format.
 #include "PngChecksums.h"
-#include "icons/PictureReader.h"
+#include "pictures/PictureReader.h"
 
 #include <QCoreApplication>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Any bytes as an Info.plist: read, and every fact drawn from it.
-#include "validator/ArtworkChecks.h"
-#include "validator/MetadataChecks.h"
-#include "validator/PropertyList.h"
+#include "validator/bundle/ArtworkChecks.h"
+#include "validator/bundle/MetadataChecks.h"
+#include "validator/bundle/PropertyList.h"
 
 #include <cstdlib>
 

@@ -3,7 +3,7 @@
 // it, is not compiled for the fuzzer and so does not steer it. What steers instead are the places in it that complain
 // and the shape of the message; and the mutations know what a message is made of.
 #include "MessageTree.h"
-#include "validator/ProfileDecoder.h"
+#include "validator/bundle/ProfileDecoder.h"
 
 #include <algorithm>
 #include <array>

@@ -28,7 +28,7 @@ def main():
     seed(out / "fuzz_signed_message", "validator/make_profiles.py", "*.mobileprovision")
     seed(out / "fuzz_signed_message", "validator/make_profiles.py", "*.mobileprovision", "forms")
     seed(out / "fuzz_apple_png", "validator/make_pictures.py", "*.png")
-    seed(out / "fuzz_picture", "icons/make_pictures.py", "*")
+    seed(out / "fuzz_picture", "pictures/make_pictures.py", "*")
 
 
 if __name__ == "__main__":

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "IconCatalogue.h"
 
-#include "RoundedCorners.h"
+#include "pictures/RoundedCorners.h"
 
 namespace lumora
 {

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "IconExport.h"
 
-#include "IconRendering.h"
 #include "IconsetPacker.h"
 #include "RenderedIcons.h"
 #include "foundation/Log.h"
 #include "foundation/WholeFile.h"
+#include "pictures/PictureOperations.h"
 
 #include <QFileInfo>
 

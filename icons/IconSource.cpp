@@ -2,8 +2,8 @@
 #include "IconSource.h"
 
 #include "IconCatalogue.h"
-#include "PictureReader.h"
 #include "foundation/WholeFile.h"
+#include "pictures/PictureReader.h"
 #include "resources/Resources.h"
 
 #include <QFile>

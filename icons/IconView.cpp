@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "IconView.h"
 
-#include "widgets/AccessibleRole.h"
+#include "widgets/style/AccessibleRole.h"
 
 #include <QEvent>
 #include <QPainter>

@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
 // The icon tool's fixed data, looks and connections, and its code snippets.
-#include "IconRendering.h"
 #include "IconSource.h"
 #include "IconView.h"
 #include "IconsViewController.h"
 #include "SnippetKeys.h"
-#include "app/ButtonStyle.h"
-#include "app/DropHighlight.h"
-#include "app/LabelStyle.h"
+#include "pictures/PictureOperations.h"
+#include "tool/ButtonStyle.h"
+#include "tool/DropHighlight.h"
+#include "tool/LabelStyle.h"
 #include "ui_IconsViewController.h"
-#include "widgets/Fonts.h"
-#include "widgets/Palette.h"
+#include "widgets/style/Fonts.h"
+#include "widgets/style/Palette.h"
 
 namespace lumora
 {

@@ -2,10 +2,10 @@
 #include "IconsViewController.h"
 
 #include "IconExport.h"
-#include "IconRendering.h"
 #include "IconSource.h"
 #include "IconView.h"
 #include "foundation/LeadingInteger.h"
+#include "pictures/PictureOperations.h"
 #include "ui_IconsViewController.h"
 
 #include <QFileInfo>

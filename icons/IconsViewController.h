@@ -2,10 +2,10 @@
 #pragma once
 
 #include "IconCatalogue.h"
-#include "app/BackgroundJobs.h"
-#include "app/DropView.h"
-#include "app/TimedCaption.h"
-#include "app/ToolViewController.h"
+#include "tool/BackgroundJobs.h"
+#include "tool/DropView.h"
+#include "tool/TimedCaption.h"
+#include "tool/ToolViewController.h"
 
 #include <QImage>
 

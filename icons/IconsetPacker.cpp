@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "IconsetPacker.h"
 
-#include "IcnsWriter.h"
 #include "IconCatalogue.h"
-#include "PictureReader.h"
 #include "foundation/WholeFile.h"
+#include "pictures/IcnsWriter.h"
+#include "pictures/PictureReader.h"
 
 #include <QFile>
 #include <QProcess>

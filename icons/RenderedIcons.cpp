@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "RenderedIcons.h"
 
-#include "PixelFormat.h"
-#include "PngRows.h"
-#include "PngSection.h"
-#include "Resampler.h"
+#include "pictures/pixels/PixelFormat.h"
+#include "pictures/png/PngRows.h"
+#include "pictures/png/PngSection.h"
+#include "pictures/scaling/Resampler.h"
 
 #include <QThreadPool>
 

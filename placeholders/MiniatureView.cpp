@@ -5,8 +5,8 @@
 #include "MiniatureLayout.h"
 #include "Placeholder.h"
 #include "PlaceholderLabel.h"
-#include "widgets/AccessibleRole.h"
-#include "widgets/Palette.h"
+#include "widgets/style/AccessibleRole.h"
+#include "widgets/style/Palette.h"
 
 #include <QPainter>
 

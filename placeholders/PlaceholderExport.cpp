@@ -3,8 +3,8 @@
 
 #include "PlaceholderSizes.h"
 #include "foundation/WholeFile.h"
-#include "icons/PngEncoder.h"
-#include "icons/PngRows.h"
+#include "pictures/png/PngEncoder.h"
+#include "pictures/png/PngRows.h"
 
 #include <QThread>
 

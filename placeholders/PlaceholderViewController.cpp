@@ -2,13 +2,13 @@
 #include "PlaceholderViewController.h"
 
 #include "PlaceholderExport.h"
-#include "app/ButtonStyle.h"
-#include "app/LabelStyle.h"
-#include "app/TimedCaption.h"
 #include "foundation/LeadingInteger.h"
+#include "tool/ButtonStyle.h"
+#include "tool/LabelStyle.h"
+#include "tool/TimedCaption.h"
 #include "ui_PlaceholderViewController.h"
-#include "widgets/Fonts.h"
-#include "widgets/Palette.h"
+#include "widgets/style/Fonts.h"
+#include "widgets/style/Palette.h"
 
 #include <utility>
 

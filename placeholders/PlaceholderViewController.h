@@ -4,8 +4,8 @@
 #include "LabelFont.h"
 #include "Placeholder.h"
 #include "PlaceholderSizes.h"
-#include "app/BackgroundJobs.h"
-#include "app/ToolViewController.h"
+#include "tool/BackgroundJobs.h"
+#include "tool/ToolViewController.h"
 
 #include <QHash>
 

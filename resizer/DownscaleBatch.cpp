@@ -6,7 +6,7 @@
 #include "RetinaName.h"
 #include "RetinaPicture.h"
 #include "foundation/WholeFile.h"
-#include "icons/PictureReader.h"
+#include "pictures/PictureReader.h"
 
 #include <QFileInfo>
 #include <QHash>

@@ -3,13 +3,13 @@
 
 #include "DownscaleBatch.h"
 #include "RetinaName.h"
-#include "app/ButtonStyle.h"
-#include "app/DropHighlight.h"
-#include "app/LabelStyle.h"
 #include "foundation/Log.h"
+#include "tool/ButtonStyle.h"
+#include "tool/DropHighlight.h"
+#include "tool/LabelStyle.h"
 #include "ui_ResizerViewController.h"
-#include "widgets/Fonts.h"
-#include "widgets/Palette.h"
+#include "widgets/style/Fonts.h"
+#include "widgets/style/Palette.h"
 
 #include <QFileInfo>
 

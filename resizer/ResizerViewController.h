@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/BackgroundJobs.h"
-#include "app/DropView.h"
-#include "app/ToolViewController.h"
+#include "tool/BackgroundJobs.h"
+#include "tool/DropView.h"
+#include "tool/ToolViewController.h"
 
 #include <QTimer>
 

@@ -2,9 +2,9 @@
 #include "RetinaPicture.h"
 
 #include "RetinaName.h"
-#include "icons/PictureReader.h"
-#include "icons/PngEncoder.h"
-#include "icons/Resampler.h"
+#include "pictures/PictureReader.h"
+#include "pictures/png/PngEncoder.h"
+#include "pictures/scaling/Resampler.h"
 
 namespace lumora
 {

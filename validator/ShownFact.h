@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "PrintableText.h"
+#include "foundation/PrintableText.h"
 
 namespace lumora
 {

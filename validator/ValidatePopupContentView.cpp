@@ -2,11 +2,11 @@
 #include "ValidatePopupContentView.h"
 
 #include "LongWords.h"
-#include "app/ButtonStyle.h"
-#include "app/LabelStyle.h"
+#include "tool/ButtonStyle.h"
+#include "tool/LabelStyle.h"
 #include "ui_ValidatePopupContentView.h"
-#include "widgets/Fonts.h"
-#include "widgets/Palette.h"
+#include "widgets/style/Fonts.h"
+#include "widgets/style/Palette.h"
 
 #include <QScrollBar>
 

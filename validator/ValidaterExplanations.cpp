@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 // What the validator's pane says when one of its boxes is pressed.
-#include "PrintableText.h"
 #include "ValidatePopupContentView.h"
 #include "ValidaterViewController.h"
-#include "app/PopoverAlert.h"
-#include "app/PopupAnchor.h"
-#include "app/PopupPlacement.h"
+#include "foundation/PrintableText.h"
+#include "tool/PopoverAlert.h"
+#include "tool/PopupAnchor.h"
+#include "tool/PopupPlacement.h"
 #include "ui_ValidaterViewController.h"
-#include "widgets/Palette.h"
-#include "widgets/SFBPopover.h"
+#include "widgets/popover/SFBPopover.h"
+#include "widgets/style/Palette.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,18 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "ValidaterViewController.h"
 
-#include "BundleImages.h"
 #include "LongWords.h"
 #include "ShownFact.h"
 #include "ValidatePopupContentView.h"
-#include "app/ButtonStyle.h"
-#include "app/DropHighlight.h"
-#include "app/LabelStyle.h"
-#include "app/PopoverStyle.h"
+#include "tool/ButtonStyle.h"
+#include "tool/DropHighlight.h"
+#include "tool/LabelStyle.h"
+#include "tool/PopoverStyle.h"
 #include "ui_ValidaterViewController.h"
-#include "widgets/Fonts.h"
-#include "widgets/Palette.h"
-#include "widgets/SFBPopover.h"
+#include "validator/bundle/BundleImages.h"
+#include "widgets/popover/SFBPopover.h"
+#include "widgets/style/Fonts.h"
+#include "widgets/style/Palette.h"
 
 #include <QFileInfo>
 #include <QPainter>

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "MetadataChecks.h"
 #include "OpacityFade.h"
-#include "PackageInspection.h"
-#include "app/BackgroundJobs.h"
-#include "app/DropView.h"
-#include "app/StyledText.h"
-#include "app/ToolViewController.h"
+#include "tool/BackgroundJobs.h"
+#include "tool/DropView.h"
+#include "tool/StyledText.h"
+#include "tool/ToolViewController.h"
+#include "validator/bundle/MetadataChecks.h"
+#include "validator/bundle/PackageInspection.h"
 
 #include <memory>
 #include <optional>

@@ -8,10 +8,10 @@
 #include "PickerContent.h"
 #include "PopoverPlacement.h"
 #include "SharedInstance.h"
-#include "widgets/AnimationTiming.h"
-#include "widgets/Palette.h"
-#include "widgets/SFBPopover.h"
-#include "widgets/ScreenCoordinates.h"
+#include "widgets/popover/SFBPopover.h"
+#include "widgets/popover/ScreenCoordinates.h"
+#include "widgets/style/AnimationTiming.h"
+#include "widgets/style/Palette.h"
 
 #include <QApplication>
 #include <QMouseEvent>

@@ -5,7 +5,7 @@
 #include "DragRule.h"
 #include "PickerContent.h"
 #include "PickerMetrics.h"
-#include "widgets/ScreenCoordinates.h"
+#include "widgets/popover/ScreenCoordinates.h"
 
 #include <QMouseEvent>
 

@@ -6,7 +6,7 @@
 #include "ColorWell.h"
 #include "PickerContent.h"
 #include "PickerTabs.h"
-#include "widgets/BFIconTabBar.h"
+#include "widgets/tabs/BFIconTabBar.h"
 
 namespace lumora
 {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "widgets/ViewController.h"
+#include "widgets/popover/ViewController.h"
 
 #include <QPointer>
 

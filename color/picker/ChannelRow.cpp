@@ -4,7 +4,7 @@
 #include "ColorSlider.h"
 #include "PickerMetrics.h"
 #include "PickerModel.h"
-#include "widgets/Fonts.h"
+#include "widgets/style/Fonts.h"
 
 #include <QFontMetrics>
 #include <QHBoxLayout>

@@ -2,7 +2,7 @@
 #include "ColorPainting.h"
 
 #include "PickerMetrics.h"
-#include "widgets/Palette.h"
+#include "widgets/style/Palette.h"
 
 #include <QPainter>
 #include <QPainterPath>

@@ -7,7 +7,7 @@
 #include "PickerTabs.h"
 #include "SharedInstance.h"
 #include "color/ColorExtensions.h"
-#include "widgets/BFIconTabBar.h"
+#include "widgets/tabs/BFIconTabBar.h"
 
 #include <QAccessibleWidget>
 #include <QCloseEvent>

@@ -3,7 +3,7 @@
 
 #include "ColorPainting.h"
 #include "PickerMetrics.h"
-#include "widgets/Palette.h"
+#include "widgets/style/Palette.h"
 
 #include <QMouseEvent>
 #include <QPainter>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "widgets/KeyboardFocus.h"
+#include "widgets/style/KeyboardFocus.h"
 
 #include <QBrush>
 #include <QSlider>

@@ -6,7 +6,7 @@
 #include "ColorPanel.h"
 #include "PickerMetrics.h"
 #include "color/ColorCode.h"
-#include "widgets/Palette.h"
+#include "widgets/style/Palette.h"
 
 #include <QGuiApplication>
 #include <QMouseEvent>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "color/RgbaColor.h"
-#include "widgets/PaintedButton.h"
+#include "widgets/buttons/PaintedButton.h"
 
 namespace lumora
 {

@@ -5,7 +5,7 @@
 #include "ColorWheelAccessible.h"
 #include "PickerMetrics.h"
 #include "WheelImage.h"
-#include "widgets/Palette.h"
+#include "widgets/style/Palette.h"
 
 #include <QAccessible>
 #include <QKeyEvent>

@@ -4,7 +4,7 @@
 #include "PickerModel.h"
 #include "WheelGeometry.h"
 
-#include "widgets/KeyboardFocus.h"
+#include "widgets/style/KeyboardFocus.h"
 
 #include <QImage>
 #include <QWidget>

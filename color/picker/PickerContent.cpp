@@ -10,9 +10,9 @@
 #include "SwatchWidget.h"
 #include "color/ColorCode.h"
 #include "color/TypingRule.h"
-#include "widgets/Fonts.h"
-#include "widgets/NamedImage.h"
-#include "widgets/Palette.h"
+#include "widgets/style/Fonts.h"
+#include "widgets/style/NamedImage.h"
+#include "widgets/style/Palette.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

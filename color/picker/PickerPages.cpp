@@ -8,7 +8,7 @@
 #include "RecentColors.h"
 #include "SwatchList.h"
 #include "ToolPalette.h"
-#include "widgets/Fonts.h"
+#include "widgets/style/Fonts.h"
 
 #include <QComboBox>
 #include <QLabel>

@@ -2,8 +2,8 @@
 #include "PickerTabs.h"
 
 #include "ColorPanel.h"
-#include "widgets/BFIconTabBar.h"
-#include "widgets/NamedImage.h"
+#include "widgets/style/NamedImage.h"
+#include "widgets/tabs/BFIconTabBar.h"
 
 namespace lumora
 {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "widgets/PopoverGeometry.h"
+#include "widgets/popover/PopoverGeometry.h"
 
 #include <QRectF>
 #include <QSizeF>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ToolPalette.h"
 
-#include "widgets/Palette.h"
+#include "widgets/style/Palette.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "ShellFixture.h"
 #include "app/HeaderView.h"
-#include "app/PopoverAlert.h"
 #include "resources/Resources.h"
-#include "widgets/IconButton.h"
-#include "widgets/ImageButton.h"
-#include "widgets/Palette.h"
+#include "tool/PopoverAlert.h"
+#include "widgets/buttons/IconButton.h"
+#include "widgets/buttons/ImageButton.h"
+#include "widgets/style/Palette.h"
 
 #include <QScreen>
 #include <QTest>

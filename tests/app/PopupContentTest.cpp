@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "app/AboutPopupContentView.h"
-#include "app/AlertContentView.h"
 #include "app/PopupContentView.h"
 #include "app/SettingsViewController.h"
-#include "app/services/RecordingServices.h"
 #include "resources/Resources.h"
+#include "tests/doubles/RecordingServices.h"
+#include "tool/AlertContentView.h"
 #include "ui_AboutPopupContentView.h"
 #include "ui_PopupContentView.h"
 #include "ui_SettingsViewController.h"
-#include "widgets/Fonts.h"
-#include "widgets/Palette.h"
+#include "widgets/style/Fonts.h"
+#include "widgets/style/Palette.h"
 
 #include <QTest>
 #include <QTextDocument>

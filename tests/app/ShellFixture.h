@@ -2,10 +2,10 @@
 #pragma once
 
 #include "app/AppDelegate.h"
-#include "app/services/RecordingServices.h"
 #include "icons/IconsViewController.h"
-#include "widgets/INAppStoreWindow.h"
-#include "widgets/SFBPopover.h"
+#include "tests/doubles/RecordingServices.h"
+#include "widgets/popover/SFBPopover.h"
+#include "widgets/window/INAppStoreWindow.h"
 
 #include <QTemporaryDir>
 

@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "ShellFixture.h"
-#include "app/ColorBand.h"
 #include "app/HeaderView.h"
 #include "app/ITSidebar.h"
 #include "app/PopupContentView.h"
 #include "app/ToolTable.h"
-#include "app/ToolViewController.h"
 #include "resources/Resources.h"
+#include "tool/ColorBand.h"
+#include "tool/ToolViewController.h"
 #include "ui_IconsViewController.h"
 #include "ui_PopupContentView.h"
-#include "widgets/Fonts.h"
-#include "widgets/ImageButton.h"
+#include "widgets/buttons/ImageButton.h"
+#include "widgets/style/Fonts.h"
 
 #include <QDir>
 #include <QLabel>

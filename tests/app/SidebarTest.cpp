@@ -3,7 +3,7 @@
 #include "app/ITSidebarItemCell.h"
 #include "app/SidebarMatrix.h"
 #include "app/SidebarScrollView.h"
-#include "widgets/Palette.h"
+#include "widgets/style/Palette.h"
 
 #include <QTest>
 

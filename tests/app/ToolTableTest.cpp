@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "app/ToolTable.h"
-#include "app/ToolViewController.h"
-#include "app/services/RecordingServices.h"
 #include "resources/Resources.h"
-#include "widgets/NamedImage.h"
+#include "tests/doubles/RecordingServices.h"
+#include "tool/ToolViewController.h"
+#include "widgets/style/NamedImage.h"
 
 #include <QTest>
 

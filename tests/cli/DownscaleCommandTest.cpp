@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "FilesOnDisk.h"
 #include "LumoraProcess.h"
-#include "tests/icons/TestPictures.h"
+#include "tests/doubles/FilesOnDisk.h"
+#include "tests/pictures/TestPictures.h"
 
 #include <QImage>
 #include <QJsonArray>

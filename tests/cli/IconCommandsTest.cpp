@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "FilesOnDisk.h"
 #include "LumoraProcess.h"
 #include "icons/IconCatalogue.h"
-#include "tests/icons/TestPictures.h"
+#include "tests/doubles/FilesOnDisk.h"
+#include "tests/pictures/TestPictures.h"
 
 #include <QColorSpace>
 #include <QJsonArray>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "FilesOnDisk.h"
 #include "LumoraProcess.h"
 #include "SmallDisk.h"
+#include "tests/doubles/FilesOnDisk.h"
 
 #include <QImage>
 #include <QJsonArray>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "../validator/ScriptedFiles.h"
 #include "LumoraProcess.h"
+#include "tests/doubles/ScriptedFiles.h"
 
 #include <QDir>
 #include <QFile>

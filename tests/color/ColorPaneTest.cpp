@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
-#include "app/services/RecordingServices.h"
 #include "color/ColorField.h"
 #include "color/ColorViewController.h"
 #include "color/picker/BFColorPickerPopover.h"
 #include "color/picker/BFPopoverColorWell.h"
 #include "color/picker/ColorPanel.h"
 #include "resources/Resources.h"
-#include "widgets/HoverButton.h"
-#include "widgets/Palette.h"
-#include "widgets/SFBPopover.h"
+#include "tests/doubles/RecordingServices.h"
+#include "widgets/buttons/HoverButton.h"
+#include "widgets/popover/SFBPopover.h"
+#include "widgets/style/Palette.h"
 
 #include <QAccessible>
 #include <QDropEvent>

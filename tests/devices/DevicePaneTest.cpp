@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "app/services/RecordingServices.h"
 #include "devices/DeviceViewController.h"
 #include "devices/DeviceViews.h"
 #include "resources/Resources.h"
-#include "widgets/CheckboxButton.h"
-#include "widgets/IconButton.h"
-#include "widgets/Palette.h"
-#include "widgets/RadioButton.h"
+#include "tests/doubles/RecordingServices.h"
+#include "widgets/buttons/CheckboxButton.h"
+#include "widgets/buttons/IconButton.h"
+#include "widgets/buttons/RadioButton.h"
+#include "widgets/style/Palette.h"
 
 #include <QAccessible>
 #include <QElapsedTimer>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "devices/FadingView.h"
 
-#include "../widgets/DrivenClock.h"
+#include "tests/doubles/DrivenClock.h"
 
 #include <QTest>
 

@@ -4,17 +4,17 @@
 // would click and choose is given.
 #include "app/AppDelegate.h"
 #include "app/ITSidebar.h"
-#include "app/services/RecordingServices.h"
 #include "icons/IconsViewController.h"
 #include "placeholders/PlaceholderViewController.h"
 #include "resizer/ResizerViewController.h"
 #include "resources/Resources.h"
+#include "tests/doubles/RecordingServices.h"
 #include "ui_IconsViewController.h"
 #include "ui_PlaceholderViewController.h"
 #include "ui_ResizerViewController.h"
 #include "ui_ValidaterViewController.h"
 #include "validator/ValidaterViewController.h"
-#include "validator/WorkFolder.h"
+#include "validator/bundle/WorkFolder.h"
 
 #include <QApplication>
 #include <QLoggingCategory>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "icons/IconSource.h"
 
-#include "TestPictures.h"
+#include "tests/pictures/TestPictures.h"
 
 #include <QTemporaryDir>
 #include <QTest>

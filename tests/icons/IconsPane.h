@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/DropHighlight.h"
-#include "app/PopupAnchor.h"
-#include "app/services/RecordingServices.h"
 #include "icons/IconsViewController.h"
 #include "resources/Resources.h"
-#include "tests/app/DrivenCaption.h"
+#include "tests/doubles/DrivenCaption.h"
+#include "tests/doubles/RecordingServices.h"
+#include "tool/DropHighlight.h"
+#include "tool/PopupAnchor.h"
 #include "ui_IconsViewController.h"
-#include "widgets/Palette.h"
-#include "widgets/SFBPopover.h"
-#include "widgets/ScreenCoordinates.h"
+#include "widgets/popover/SFBPopover.h"
+#include "widgets/popover/ScreenCoordinates.h"
+#include "widgets/style/Palette.h"
 
 #include <QDir>
 #include <QLineF>

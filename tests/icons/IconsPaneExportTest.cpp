@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "IconsPane.h"
 #include "icons/IconCatalogue.h"
-#include "icons/IconRendering.h"
+#include "pictures/PictureOperations.h"
 
 #include <QTest>
 

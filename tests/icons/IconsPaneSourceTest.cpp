@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "IconsPane.h"
-#include "icons/IconRendering.h"
 #include "icons/IconView.h"
-#include "widgets/Fonts.h"
+#include "pictures/PictureOperations.h"
+#include "widgets/style/Fonts.h"
 
 #include <QSignalSpy>
 #include <QTest>

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "icons/IconExport.h"
 
-#include "TestPictures.h"
-#include "icons/IconRendering.h"
 #include "icons/IconsetPacker.h"
-#include "icons/PictureReader.h"
-#include "tests/cli/FilesOnDisk.h"
+#include "pictures/PictureOperations.h"
+#include "pictures/PictureReader.h"
+#include "tests/doubles/FilesOnDisk.h"
+#include "tests/pictures/TestPictures.h"
 
 #include <QTemporaryDir>
 #include <QTest>

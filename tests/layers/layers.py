@@ -1,19 +1,29 @@
 # SPDX-License-Identifier: MIT
-"""Reads which file includes which, and says where that crosses a border between the folders.
+"""Reads which file includes which, and names every include that crosses a border between the folders.
 
 The borders, for what a file includes directly or through any number of headers:
+  - a folder reaches only itself and folders on lower floors (FLOORS);
   - an engine reaches no Qt Widgets and no file of a widget library;
-  - widgets/ reaches no tool, no app/, no cli/;
-  - a tool's pane reaches no other tool's pane and nothing of the window around it;
-  - what panes stand on (lumora_tool) reaches no pane;
-  - foundation/ reaches nothing but itself, resources/ nothing but foundation/.
+  - a tool reaches no other tool, neither its engine nor its pane.
+No two rooms (folders of the tree) include each other over any way round, and neither do two files.
 CMake checks the same for what is linked; an include can cross a border that the linker never sees.
 """
 import re
 from pathlib import Path
 
-FOLDERS = ["app", "icons", "placeholders", "resizer", "color", "devices", "validator", "widgets", "cli", "foundation", "resources"]
-TOOLS = ["icons", "placeholders", "resizer", "color", "devices", "validator"]
+# From the ground up. A folder includes nothing of its own floor but itself.
+FLOORS = [
+    ["foundation"],
+    ["pictures", "resources"],
+    ["widgets"],
+    ["tool"],
+    ["icons", "placeholders", "resizer", "color", "devices", "validator"],
+    ["cli"],
+    ["app"],
+]
+FOLDERS = [folder for floor in FLOORS for folder in floor]
+TOOLS = FLOORS[4]
+FLOOR_OF = {folder: number for number, floor in enumerate(FLOORS) for folder in floor}
 TARGET = re.compile(r"^\s*(lumora_engine|lumora_widget_library|add_library|add_executable|qt_add_executable|target_sources)\(\s*([\w-]+)\s([^)]*)\)", re.M)
 SOURCE = re.compile(r"[\w./]+\.(?:cpp|h)\b")
 INCLUDE = re.compile(r'^\s*#\s*include\s+(?:"([^"]+)"|<([^>]+)>)', re.M)
@@ -86,20 +96,73 @@ def crossing(folder, name, kind, target, owner, widget_headers):
     target_folder = target.split("/")[0] if "/" in target else ""
     if kind == "lumora_engine" and (target.split("/")[-1] in widget_headers or owner_kind == "lumora_widget_library"):
         return "engines know no widgets"
-    if folder == "widgets" and target_folder in [*TOOLS, "app", "cli"]:
-        return "the widget kit knows no tool"
-    if name.endswith("_pane"):
-        if owner_name.endswith("_pane") and owner_name != name:
-            return "a tool knows no other tool's pane"
-        if owner_name == "lumora_shell":
-            return "a pane knows nothing of the window around it"
-    if name == "lumora_tool" and (owner_name.endswith("_pane") or owner_name == "lumora_shell"):
-        return "what panes stand on knows no pane"
-    if folder == "foundation" and target_folder in FOLDERS and target_folder != folder:
-        return "the foundation stands on nothing"
-    if folder == "resources" and target_folder in FOLDERS and target_folder not in (folder, "foundation"):
-        return "resources stand on the foundation only"
+    if target_folder == folder or target_folder not in FLOOR_OF:
+        return ""
+    if folder in TOOLS and target_folder in TOOLS:
+        return "a tool knows no other tool"
+    if FLOOR_OF[target_folder] > FLOOR_OF[folder]:
+        return f"{folder}/ is below {target_folder}/"
+    if FLOOR_OF[target_folder] == FLOOR_OF[folder]:
+        return f"{folder}/ is on one floor with {target_folder}/"
     return ""
+
+
+def direct_includes(root):
+    """For each source file the project's files that it names itself, both as paths from the root."""
+    root = Path(root).resolve()
+    return {
+        str(file.relative_to(root)): [str(own.relative_to(root)) for own in includes(file, root)[0]]
+        for file in source_files(root)
+    }
+
+
+def circles(root):
+    """One sentence for each circle, of files and of rooms."""
+    files = direct_includes(root)
+    owners = {str(file.relative_to(Path(root).resolve())): name for file, (name, _) in targets(root).items()}
+
+    def room_of(file):
+        """A tool's folder is two rooms, its engine and its pane."""
+        return f"{Path(file).parent} ({owners.get(file, '')})"
+
+    rooms = {}
+    for file, targets_of_file in files.items():
+        rooms.setdefault(room_of(file), set()).update(map(room_of, targets_of_file))
+        rooms[room_of(file)].discard(room_of(file))
+    for graph in (files, rooms):
+        for circle in circles_of(graph):
+            yield f"{' -> '.join([*circle, circle[0]])}: a circle"
+
+
+def circles_of(graph):
+    """Each set of nodes that reach one another, as one way round through them (Tarjan's strongly connected components)."""
+    index, low, stack, on_stack, found = {}, {}, [], set(), []
+
+    def visit(node):
+        index[node] = low[node] = len(index)
+        stack.append(node)
+        on_stack.add(node)
+        for target in graph.get(node, ()):
+            if target not in index:
+                visit(target)
+                low[node] = min(low[node], low[target])
+            elif target in on_stack:
+                low[node] = min(low[node], index[target])
+        if low[node] == index[node]:
+            component = []
+            while True:
+                member = stack.pop()
+                on_stack.discard(member)
+                component.append(member)
+                if member == node:
+                    break
+            if len(component) > 1 or node in graph.get(node, ()):
+                found.append(sorted(component))
+
+    for node in sorted(graph):
+        if node not in index:
+            visit(node)
+    return found
 
 
 def orphans(root):

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "app/PopupAnchor.h"
-#include "app/services/RecordingServices.h"
 #include "placeholders/MiniatureLayout.h"
 #include "placeholders/MiniatureView.h"
 #include "placeholders/PlaceholderViewController.h"
 #include "resources/Resources.h"
+#include "tests/doubles/RecordingServices.h"
+#include "tool/PopupAnchor.h"
 #include "ui_PlaceholderViewController.h"
-#include "widgets/SFBPopover.h"
-#include "widgets/ZKFieldEditor.h"
+#include "widgets/popover/SFBPopover.h"
+#include "widgets/textfield/ZKFieldEditor.h"
 
 #include <QDir>
 #include <QSignalSpy>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "RetinaFixtures.h"
-#include "app/services/RecordingServices.h"
 #include "resizer/ResizerViewController.h"
 #include "resources/Resources.h"
+#include "tests/doubles/RecordingServices.h"
 #include "ui_ResizerViewController.h"
-#include "widgets/SFBPopover.h"
+#include "widgets/popover/SFBPopover.h"
 
 #include <QDir>
 #include <QMimeData>

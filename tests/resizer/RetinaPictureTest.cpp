@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "resizer/RetinaPicture.h"
-#include "tests/icons/TestPictures.h"
-#include "tests/icons/ZonePlate.h"
+#include "tests/pictures/TestPictures.h"
+#include "tests/pictures/scaling/ZonePlate.h"
 
 #include <QBuffer>
 #include <QColorSpace>

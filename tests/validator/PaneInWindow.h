@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "app/PopoverAlert.h"
-#include "app/services/RecordingServices.h"
+#include "tests/doubles/RecordingServices.h"
+#include "tool/PopoverAlert.h"
 #include "ui_ValidaterViewController.h"
 #include "validator/OpacityFade.h"
 #include "validator/ValidatePopupContentView.h"
 #include "validator/ValidaterViewController.h"
-#include "validator/WorkFolder.h"
-#include "widgets/SFBPopover.h"
+#include "validator/bundle/WorkFolder.h"
+#include "widgets/popover/SFBPopover.h"
 
 #include <QTest>
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "PaneInWindow.h"
-#include "ScriptedFiles.h"
 #include "resources/Resources.h"
+#include "tests/doubles/ScriptedFiles.h"
 #include "validator/LongWords.h"
-#include "widgets/Fonts.h"
-#include "widgets/Palette.h"
-#include "widgets/ScreenCoordinates.h"
+#include "widgets/popover/ScreenCoordinates.h"
+#include "widgets/style/Fonts.h"
+#include "widgets/style/Palette.h"
 
 #include <QScopeGuard>
 #include <QTemporaryDir>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "PaneInWindow.h"
-#include "ScriptedFiles.h"
 #include "resources/Resources.h"
+#include "tests/doubles/ScriptedFiles.h"
 
 #include <QDir>
 #include <QElapsedTimer>

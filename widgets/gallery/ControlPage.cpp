@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "ControlPage.h"
 
-#include "widgets/BFIconTabBar.h"
-#include "widgets/CheckboxButton.h"
-#include "widgets/HoverButton.h"
-#include "widgets/IconButton.h"
-#include "widgets/ImageButton.h"
-#include "widgets/KBButton.h"
-#include "widgets/Palette.h"
-#include "widgets/RadioButton.h"
-#include "widgets/ZKTextField.h"
+#include "widgets/buttons/CheckboxButton.h"
+#include "widgets/buttons/HoverButton.h"
+#include "widgets/buttons/IconButton.h"
+#include "widgets/buttons/ImageButton.h"
+#include "widgets/buttons/KBButton.h"
+#include "widgets/buttons/RadioButton.h"
+#include "widgets/style/Palette.h"
+#include "widgets/tabs/BFIconTabBar.h"
+#include "widgets/textfield/ZKTextField.h"
 
 #include <QTimer>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "GalleryPage.h"
 
-#include "widgets/Fonts.h"
-#include "widgets/Palette.h"
+#include "widgets/style/Fonts.h"
+#include "widgets/style/Palette.h"
 
 #include <QCoreApplication>
 #include <QEnterEvent>

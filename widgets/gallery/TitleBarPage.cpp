@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "TitleBarPage.h"
 
-#include "widgets/Fonts.h"
-#include "widgets/INAppStoreWindow.h"
-#include "widgets/INWindowButton.h"
-#include "widgets/INWindowButtonGroup.h"
-#include "widgets/Palette.h"
+#include "widgets/style/Fonts.h"
+#include "widgets/style/Palette.h"
+#include "widgets/window/INAppStoreWindow.h"
+#include "widgets/window/INWindowButton.h"
+#include "widgets/window/INWindowButtonGroup.h"
 
 #include <QApplication>
 #include <QLabel>

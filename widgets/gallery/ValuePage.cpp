@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "ValuePage.h"
 
-#include "widgets/CheckboxButton.h"
-#include "widgets/HoverButton.h"
-#include "widgets/IconButton.h"
-#include "widgets/KBButton.h"
-#include "widgets/LBProgressBar.h"
-#include "widgets/Palette.h"
-#include "widgets/RadioButton.h"
-#include "widgets/ZKTextField.h"
+#include "widgets/buttons/CheckboxButton.h"
+#include "widgets/buttons/HoverButton.h"
+#include "widgets/buttons/IconButton.h"
+#include "widgets/buttons/KBButton.h"
+#include "widgets/buttons/RadioButton.h"
+#include "widgets/progress/LBProgressBar.h"
+#include "widgets/style/Palette.h"
+#include "widgets/textfield/ZKTextField.h"
 
 namespace lumora::gallery
 {

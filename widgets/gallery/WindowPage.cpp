@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "WindowPage.h"
 
-#include "widgets/Fonts.h"
-#include "widgets/INWindowButton.h"
-#include "widgets/INWindowButtonGroup.h"
-#include "widgets/Palette.h"
-#include "widgets/SFBPopoverWindowFrame.h"
+#include "widgets/popover/SFBPopoverWindowFrame.h"
+#include "widgets/style/Fonts.h"
+#include "widgets/style/Palette.h"
+#include "widgets/window/INWindowButton.h"
+#include "widgets/window/INWindowButtonGroup.h"
 
 #include <QGridLayout>
 #include <QLabel>

@@ -4,13 +4,13 @@
 #include "ValuePage.h"
 #include "WindowPage.h"
 
-#include "widgets/AppStyle.h"
-#include "widgets/Fonts.h"
-#include "widgets/FrameClock.h"
-#include "widgets/INAppStoreWindow.h"
-#include "widgets/ImageButton.h"
-#include "widgets/Palette.h"
-#include "widgets/SFBPopover.h"
+#include "widgets/buttons/ImageButton.h"
+#include "widgets/popover/SFBPopover.h"
+#include "widgets/style/AppStyle.h"
+#include "widgets/style/Fonts.h"
+#include "widgets/style/FrameClock.h"
+#include "widgets/style/Palette.h"
+#include "widgets/window/INAppStoreWindow.h"
 
 #include <QAbstractButton>
 #include <QApplication>

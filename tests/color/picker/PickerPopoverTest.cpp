@@ -3,7 +3,7 @@
 #include "color/picker/ChannelRow.h"
 #include "color/picker/ColorSlider.h"
 #include "color/picker/PickerPages.h"
-#include "widgets/ScreenCoordinates.h"
+#include "widgets/popover/ScreenCoordinates.h"
 
 #include <QComboBox>
 #include <QSignalSpy>

@@ -7,8 +7,8 @@
 #include "color/picker/BFPopoverColorWell.h"
 #include "color/picker/ColorPanel.h"
 #include "color/picker/PickerContent.h"
-#include "widgets/BFIconTabBar.h"
-#include "widgets/SFBPopover.h"
+#include "widgets/popover/SFBPopover.h"
+#include "widgets/tabs/BFIconTabBar.h"
 
 #include <QMouseEvent>
 #include <QTest>

@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "tool/services/Services.h"
+
+#include <QList>
+
+namespace lumora
+{
+
+/// Remembers each request and stays open until the test confirms or cancels it, as a user would.
+class RecordingFileChooser final : public FileChooser
+{
+public:
+    void chooseFiles(QWidget *window, const FileRequest &request, FilesChosen chosen) override;
+    bool isOpen() const { return m_chosen != nullptr; }
+    void confirm(const QStringList &paths);
+    void cancel() { m_chosen = nullptr; }
+
+    QList<FileRequest> requests;
+    QList<QWidget *> windows;
+
+private:
+    FilesChosen m_chosen;
+};
+
+/// As the file chooser, for folders.
+class RecordingFolderChooser final : public FolderChooser
+{
+public:
+    void chooseFolder(QWidget *window, const FolderRequest &request, FolderChosen chosen,
+                      FolderDeclined declined = {}) override;
+    bool isOpen() const { return m_chosen != nullptr; }
+    void confirm(const QString &path);
+    void cancel();
+
+    QList<FolderRequest> requests;
+    QList<QWidget *> windows;
+
+private:
+    FolderChosen m_chosen;
+    FolderDeclined m_declined;
+};
+
+/// Remembers every address instead of opening it.
+class RecordingUrlOpener final : public UrlOpener
+{
+public:
+    void open(const QUrl &url) override { opened << url; }
+    QString applicationFor(const QUrl &) const override { return application; }
+
+    QList<QUrl> opened;
+    QString application = QStringLiteral("mail.desktop");
+};
+
+/// Keeps its content to itself.
+class RecordingClipboard final : public Clipboard
+{
+public:
+    void setText(const QString &newText) override;
+    QStringList files() const override { return copiedFiles; }
+    QImage image() const override { return copiedImage; }
+    QColor color() const override { return copiedColor; }
+    QString plainText() const override { return text; }
+
+    QString text;
+    QStringList copiedFiles;
+    QImage copiedImage;
+    QColor copiedColor;
+    int changes = 0; ///< how often a text was set
+};
+
+/// Services for tests: nothing leaves the test, everything is remembered.
+struct RecordingServices
+{
+    RecordingFileChooser fileChooser;
+    RecordingFolderChooser folderChooser;
+    RecordingUrlOpener urlOpener;
+    RecordingClipboard clipboard;
+    bool hasWorkFolder = false; ///< a test that makes one says so
+
+    Services services() { return {fileChooser, folderChooser, urlOpener, clipboard, hasWorkFolder}; }
+};
+
+} // namespace lumora

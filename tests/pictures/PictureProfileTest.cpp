@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: MIT
+#include "TestPictures.h"
+#include "pictures/PictureReader.h"
+
+#include <QColorSpace>
+#include <QTest>
+
+using namespace lumora;
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+constexpr QRgb stored = qRgb(200, 100, 50);
+/// `stored`, taken for Display P3, in sRGB: by linear light and the two spaces' published primaries.
+constexpr QRgb fromDisplayP3 = qRgb(215, 93, 31);
+/// `stored`, taken for linear light, in sRGB: (200 / 255) to the power of 1 / 2.4 by the sRGB curve, and so on.
+constexpr QRgb fromLinear = qRgb(229, 168, 122);
+
+QImage plain(QColorSpace space = {})
+{
+    QImage picture(8, 8, QImage::Format_RGB32);
+    picture.fill(stored);
+    picture.setColorSpace(space);
+    return picture;
+}
+
+QByteArray pngProfile(const QByteArray &profile)
+{
+    return QByteArray("name\0\0", 6) + qCompress(profile).sliced(4);
+}
+
+/// A profile whose header is in order but whose colours nobody can know: every tag has another name.
+QByteArray namelessProfile()
+{
+    QByteArray profile = QColorSpace(QColorSpace::DisplayP3).iccProfile();
+    for (const char *tag : {"rXYZ", "gXYZ", "bXYZ", "rTRC", "gTRC", "bTRC"})
+        profile.replace(QByteArray(tag), "none");
+    return profile;
+}
+
+/// The file with its profile's mark overwritten, so that no reader takes it for one. Empty where it has none.
+QByteArray withDamagedProfile(QByteArray file)
+{
+    const qsizetype at = file.indexOf("acsp");
+    return at < 0 ? QByteArray() : file.replace(at, 4, "xxxx");
+}
+
+} // namespace
+
+class PictureProfileTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void convertsTheProfile_data();
+    void convertsTheProfile();
+};
+
+void PictureProfileTest::convertsTheProfile_data()
+{
+    QTest::addColumn<QByteArray>("file");
+    QTest::addColumn<QRgb>("colour");
+    const QImage displayP3 = plain(QColorSpace::DisplayP3);
+    const QByteArray png = pictureFile(plain());
+    const QByteArray linear("\0\1\x86\xA0", 4);
+    QTest::newRow("png, none") << png << stored;
+    QTest::newRow("png, sRGB") << pictureFile(plain(QColorSpace::SRgb)) << stored;
+    QTest::newRow("png, Display P3") << pictureFile(displayP3) << fromDisplayP3;
+    QTest::newRow("png, Display P3, 16 bits")
+        << pictureFile(displayP3.convertToFormat(QImage::Format_RGBA64)) << fromDisplayP3;
+    QTest::newRow("tiff, Display P3") << pictureFile(displayP3, "tiff") << fromDisplayP3;
+    QTest::newRow("jpeg, Display P3") << pictureFile(displayP3, "jpeg") << fromDisplayP3;
+    QTest::newRow("webp, Display P3") << withWebpChunk(pictureFile(plain(), "webp"), {8, 8}, "ICCP",
+                                                       QColorSpace(QColorSpace::DisplayP3).iccProfile())
+                                      << fromDisplayP3;
+    QTest::newRow("png, usual gamma") << withPngChunk(png, "gAMA", QByteArray("\0\0\xB1\x8F", 4)) << stored;
+    QTest::newRow("png, linear") << withPngChunk(png, "gAMA", linear) << fromLinear;
+
+    // What cannot be understood is as good as missing: the picture is shown as most programs show it, not refused.
+    QTest::newRow("png, not packed as a profile is") << withPngChunk(png, "iCCP", "name\0\0nonsense") << stored;
+    QTest::newRow("png, no profile") << withPngChunk(png, "iCCP", pngProfile("nonsense")) << stored;
+    QTest::newRow("png, unknown profile") << withPngChunk(png, "iCCP", pngProfile(namelessProfile())) << stored;
+    QTest::newRow("png, unknown profile, but a gamma")
+        << withPngChunk(withPngChunk(png, "gAMA", linear), "iCCP", pngProfile(namelessProfile())) << fromLinear;
+    QTest::newRow("jpeg, no profile") << withJpegSegment(pictureFile(plain(), "jpeg"), 0xE2,
+                                                         QByteArray("ICC_PROFILE\0\1\1", 14) + "nonsense")
+                                      << stored;
+    QTest::newRow("jpeg, unknown profile")
+        << withJpegSegment(pictureFile(plain(), "jpeg"), 0xE2, QByteArray("ICC_PROFILE\0\1\1", 14) + namelessProfile())
+        << stored;
+    QTest::newRow("tiff, damaged profile") << withDamagedProfile(pictureFile(displayP3, "tiff")) << stored;
+    QTest::newRow("webp, no profile") << withWebpChunk(pictureFile(plain(), "webp"), {8, 8}, "ICCP", "nonsense")
+                                      << stored;
+    QTest::newRow("webp, unknown profile")
+        << withWebpChunk(pictureFile(plain(), "webp"), {8, 8}, "ICCP", namelessProfile()) << stored;
+}
+
+void PictureProfileTest::convertsTheProfile()
+{
+    QFETCH(QByteArray, file);
+    QFETCH(QRgb, colour);
+    QVERIFY(!file.isEmpty());
+    const Result<QImage> read = readPicture(file, u"x"_s);
+    QVERIFY(read.ok());
+    const QRgb found = read.value().pixel(4, 4);
+    QVERIFY2(near(found, colour, 2), qPrintable(QColor(found).name()));
+}
+
+QTEST_GUILESS_MAIN(PictureProfileTest)
+#include "PictureProfileTest.moc"

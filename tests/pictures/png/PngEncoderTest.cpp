@@ -1,0 +1,202 @@
+// SPDX-License-Identifier: MIT
+#include "pictures/png/PngEncoder.h"
+
+#include "PngAnatomy.h"
+#include "pictures/pixels/PixelFormat.h"
+#include "pictures/png/PngRows.h"
+#include "pictures/png/PngSection.h"
+
+#include <QColorSpace>
+#include <QRandomGenerator>
+#include <QTest>
+
+using namespace lumora;
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+QImage noise(QSize size, QImage::Format format, quint32 seed = 1)
+{
+    QRandomGenerator random(seed);
+    QImage picture(size, format);
+    for (int y = 0; y < size.height(); ++y) {
+        for (int x = 0; x < size.width(); ++x)
+            picture.setPixel(x, y, random.generate());
+    }
+    return picture;
+}
+
+QImage transparent(QSize size)
+{
+    QImage picture(size, QImage::Format_RGBA8888);
+    picture.fill(Qt::transparent);
+    return picture;
+}
+
+QImage gradient(QSize size)
+{
+    QImage picture(size, QImage::Format_RGB32);
+    for (int y = 0; y < size.height(); ++y) {
+        for (int x = 0; x < size.width(); ++x)
+            picture.setPixel(x, y, qRgb(x * 255 / size.width(), y * 255 / size.height(), (x ^ y) & 255));
+    }
+    return picture;
+}
+
+} // namespace
+
+class PngEncoderTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void readsBackAsItWas_data();
+    void readsBackAsItWas();
+    void holdsTheseChunksOnly();
+    void isMadeOfSeveralSectionsWhereLarge();
+    void sameBytesAgain();
+    void quickReadsBackAsItWas_data();
+    void quickReadsBackAsItWas();
+    void sameBytesFromRowsOnAnyNumberOfThreads_data();
+    void sameBytesFromRowsOnAnyNumberOfThreads();
+    void straightenedColoursRoundExactly();
+    void premultipliedColoursRoundExactly();
+    void nullPictureGivesNothing();
+};
+
+void PngEncoderTest::readsBackAsItWas_data()
+{
+    QTest::addColumn<QImage>("picture");
+    QTest::newRow("one pixel") << noise({1, 1}, QImage::Format_ARGB32);
+    QTest::newRow("29 pixels, alpha noise") << noise({29, 29}, QImage::Format_ARGB32);
+    QTest::newRow("opaque becomes RGBA too") << gradient({57, 57});
+    QTest::newRow("palette") << gradient({64, 64}).convertToFormat(QImage::Format_Indexed8);
+    QTest::newRow("grey") << gradient({64, 64}).convertToFormat(QImage::Format_Grayscale8);
+    QTest::newRow("wide") << gradient({3000, 1});
+    QTest::newRow("tall, more sections than fit") << gradient({1, 3000});
+    QTest::newRow("several sections, noise") << noise({1024, 1024}, QImage::Format_ARGB32);
+    QTest::newRow("several sections, gradient") << gradient({1024, 1024});
+    QTest::newRow("several sections, one colour") << QImage(QSize(1024, 1024), QImage::Format_RGB32);
+    QTest::newRow("rows that repeat") << gradient({300, 1}).scaled(300, 40);
+    QTest::newRow("transparent black rows that repeat") << transparent({300, 40});
+    QTest::newRow("odd rows per section") << gradient({1000, 1013});
+}
+
+void PngEncoderTest::readsBackAsItWas()
+{
+    QFETCH(QImage, picture);
+    if (picture.format() == QImage::Format_RGB32 && picture.pixel(0, 0) == 0)
+        picture.fill(Qt::red);
+    const QByteArray file = encodePng(picture);
+    QImage back;
+    QVERIFY(back.loadFromData(file, "png"));
+    QCOMPARE(back.size(), picture.size());
+    QVERIFY(back.hasAlphaChannel());
+    QCOMPARE(back.colorSpace(), QColorSpace(QColorSpace::SRgb));
+    back.setColorSpace(picture.colorSpace());
+    QCOMPARE(premultiplied(back), premultiplied(picture));
+    // zlib is stricter than the decoder: nothing may be missing and nothing left over.
+    QCOMPARE(inflatedPixels(file).size(), (picture.width() * 4 + 1) * qsizetype{picture.height()});
+}
+
+void PngEncoderTest::holdsTheseChunksOnly()
+{
+    const QList<PngChunk> chunks = pngChunks(encodePng(gradient({57, 57})));
+    QByteArrayList types;
+    for (const PngChunk &chunk : chunks)
+        types << chunk.type;
+    QCOMPARE(types, (QByteArrayList{"IHDR", "sRGB", "IDAT", "IEND"}));
+    QCOMPARE(chunks[0].content, QByteArray("\0\0\0\x39\0\0\0\x39\x08\x06\0\0\0", 13));
+    QCOMPARE(chunks[1].content, QByteArray("\0", 1));
+}
+
+void PngEncoderTest::isMadeOfSeveralSectionsWhereLarge()
+{
+    QVERIFY(pngSectionCount({1024, 1024}) >= 4);
+    QCOMPARE(pngSectionCount({57, 57}), 1);
+    QCOMPARE(pngSectionCount({1, 1}), 1);
+}
+
+void PngEncoderTest::sameBytesAgain()
+{
+    const QImage picture = noise({600, 600}, QImage::Format_ARGB32);
+    QCOMPARE(encodePng(picture), encodePng(picture));
+    QCOMPARE(encodePng(premultiplied(picture)), encodePng(picture));
+}
+
+void PngEncoderTest::sameBytesFromRowsOnAnyNumberOfThreads_data()
+{
+    QTest::addColumn<QImage>("picture");
+    QTest::addColumn<int>("threads");
+    for (const int threads : {0, 1, 2, 7}) {
+        QTest::addRow("one section, %d threads", threads) << gradient({57, 57}) << threads;
+        QTest::addRow("several sections, %d threads", threads) << noise({600, 600}, QImage::Format_ARGB32) << threads;
+    }
+}
+
+void PngEncoderTest::sameBytesFromRowsOnAnyNumberOfThreads()
+{
+    QFETCH(QImage, picture);
+    QFETCH(int, threads);
+    QCOMPARE(encodePng(ImageRows(straight(picture)), threads), encodePng(picture));
+}
+
+void PngEncoderTest::quickReadsBackAsItWas_data()
+{
+    readsBackAsItWas_data();
+}
+
+void PngEncoderTest::quickReadsBackAsItWas()
+{
+    QFETCH(QImage, picture);
+    const QByteArray file = encodePngQuickly(picture);
+    QCOMPARE(encodePngQuickly(picture), file);
+    QImage back;
+    QVERIFY(back.loadFromData(file, "png"));
+    back.setColorSpace(picture.colorSpace());
+    QCOMPARE(premultiplied(back), premultiplied(picture));
+    QCOMPARE(inflatedPixels(file).size(), (picture.width() * 4 + 1) * qsizetype{picture.height()});
+}
+
+void PngEncoderTest::straightenedColoursRoundExactly()
+{
+    QImage all(256, 256, QImage::Format_RGBA8888_Premultiplied);
+    for (int alpha = 0; alpha < 256; ++alpha) {
+        for (int value = 0; value < 256; ++value) {
+            uchar *pixel = all.scanLine(alpha) + 4 * value;
+            pixel[0] = pixel[1] = pixel[2] = static_cast<uchar>(std::min(value, alpha));
+            pixel[3] = static_cast<uchar>(alpha);
+        }
+    }
+    const QImage result = straight(all);
+    for (int alpha = 0; alpha < 256; ++alpha) {
+        for (int value = 0; value < 256; ++value) {
+            const int held = std::min(value, alpha);
+            const int wanted = alpha == 0 ? 0 : (2 * held * 255 + alpha) / (2 * alpha);
+            QCOMPARE(int(result.constScanLine(alpha)[4 * value]), wanted);
+        }
+    }
+}
+
+void PngEncoderTest::premultipliedColoursRoundExactly()
+{
+    QImage all(256, 256, QImage::Format_RGBA8888);
+    for (int alpha = 0; alpha < 256; ++alpha) {
+        for (int value = 0; value < 256; ++value)
+            all.setPixel(value, alpha, qRgba(value, value, value, alpha));
+    }
+    const QImage result = premultiplied(all);
+    for (int alpha = 0; alpha < 256; ++alpha) {
+        for (int value = 0; value < 256; ++value)
+            QCOMPARE(int(result.constScanLine(alpha)[4 * value]), (2 * value * alpha + 255) / 510);
+    }
+}
+
+void PngEncoderTest::nullPictureGivesNothing()
+{
+    QVERIFY(encodePng(QImage()).isEmpty());
+}
+
+QTEST_GUILESS_MAIN(PngEncoderTest)
+#include "PngEncoderTest.moc"

@@ -1,0 +1,145 @@
+// SPDX-License-Identifier: MIT
+#include "tool/BackgroundJobs.h"
+
+#include <QTest>
+
+#include <array>
+#include <atomic>
+#include <semaphore>
+
+#include <pthread.h>
+
+using namespace Qt::StringLiterals;
+using namespace lumora;
+
+class BackgroundJobsTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void postsArriveOnTheMainThreadInOrder()
+    {
+        QList<int> arrived;
+        QThread *where = nullptr;
+        BackgroundJobs jobs;
+        jobs.start([&](const BackgroundJob &job) {
+            for (int number = 0; number < 100; ++number) {
+                job.post([&arrived, &where, number] {
+                    arrived << number;
+                    where = QThread::currentThread();
+                });
+            }
+        });
+        QTRY_COMPARE(arrived.size(), 100);
+        QVERIFY(std::is_sorted(arrived.cbegin(), arrived.cend()));
+        QCOMPARE(where, qApp->thread());
+    }
+
+    void jobsRunOffTheMainThread()
+    {
+        std::atomic<bool> elsewhere = false;
+        BackgroundJobs jobs;
+        jobs.start([&](const BackgroundJob &) { elsewhere = QThread::currentThread() != qApp->thread(); });
+        jobs.waitForDone();
+        QVERIFY(elsewhere);
+    }
+
+    void threadsBearTheLabel()
+    {
+        std::array<char, 16> name = {};
+        BackgroundJobs jobs(BackgroundJobs::Order::Serial, "aQueue");
+        jobs.start([&](const BackgroundJob &) { ::pthread_getname_np(::pthread_self(), name.data(), name.size()); });
+        jobs.waitForDone();
+        QCOMPARE(QByteArray(name.data()), "aQueue"_ba);
+    }
+
+    void concurrentJobsRunTogether()
+    {
+        // Each waits for the other: one thread alone would never get past the first.
+        std::binary_semaphore first(0);
+        std::binary_semaphore second(0);
+        BackgroundJobs jobs(BackgroundJobs::Order::Concurrent);
+        jobs.start([&](const BackgroundJob &) {
+            second.release();
+            first.acquire();
+        });
+        jobs.start([&](const BackgroundJob &) {
+            first.release();
+            second.acquire();
+        });
+        jobs.waitForDone();
+    }
+
+    void serialJobsRunOneAfterAnother()
+    {
+        std::atomic<int> running = 0;
+        std::atomic<bool> overlapped = false;
+        QList<int> order;
+        BackgroundJobs jobs(BackgroundJobs::Order::Serial);
+        for (int number = 0; number < 20; ++number) {
+            jobs.start([&, number](const BackgroundJob &) {
+                if (++running > 1)
+                    overlapped = true;
+                std::this_thread::yield();
+                order << number;
+                --running;
+            });
+        }
+        jobs.waitForDone();
+        QVERIFY(!overlapped);
+        QCOMPARE(order.size(), 20);
+        QVERIFY(std::is_sorted(order.cbegin(), order.cend()));
+    }
+
+    void destructionWaitsForTheRunningJobAndDropsItsPosts()
+    {
+        std::binary_semaphore started(0);
+        bool finished = false;
+        bool posted = false;
+        {
+            BackgroundJobs jobs;
+            jobs.start([&](const BackgroundJob &job) {
+                started.release();
+                while (!job.isStopRequested())
+                    std::this_thread::yield();
+                finished = true;
+                job.post([&posted] { posted = true; });
+            });
+            started.acquire();
+        }
+        QVERIFY(finished);
+        QCoreApplication::processEvents();
+        QVERIFY(!posted);
+    }
+
+    void destructionRunsEveryConcurrentJobToItsEnd()
+    {
+        std::atomic<int> finished = 0;
+        {
+            BackgroundJobs jobs;
+            for (int number = 0; number < 8; ++number)
+                jobs.start([&](const BackgroundJob &) { ++finished; });
+        }
+        QCOMPARE(finished.load(), 8);
+    }
+
+    void destructionDropsSerialJobsWhoseTurnHasNotCome()
+    {
+        std::binary_semaphore started(0);
+        bool secondRan = false;
+        {
+            BackgroundJobs jobs(BackgroundJobs::Order::Serial);
+            jobs.start([&](const BackgroundJob &job) {
+                started.release();
+                while (!job.isStopRequested())
+                    std::this_thread::yield();
+            });
+            jobs.start([&](const BackgroundJob &) { secondRan = true; });
+            started.acquire();
+        }
+        QVERIFY(!secondRan);
+    }
+};
+
+QTEST_MAIN(BackgroundJobsTest)
+#include "BackgroundJobsTest.moc"

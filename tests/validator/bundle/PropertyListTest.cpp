@@ -1,0 +1,99 @@
+// SPDX-License-Identifier: MIT
+#include "validator/bundle/PropertyList.h"
+#include "tests/doubles/ScriptedFiles.h"
+
+#include <QDateTime>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace lumora;
+using namespace Qt::StringLiterals;
+
+class PropertyListTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { QVERIFY(runScript(u"make_property_lists.py"_s, {m_lists.path()})); }
+
+    void readsEveryForm_data()
+    {
+        QTest::addColumn<QString>("form");
+        for (const char *form :
+             {"xml", "binary", "xml with byte order mark", "xml in utf-16", "xml in big-endian utf-16"})
+            QTest::newRow(form) << QString::fromUtf8(form);
+    }
+    void readsEveryForm()
+    {
+        QFETCH(QString, form);
+        const auto list = propertyListDictionary(contents(form));
+        QVERIFY(list);
+        QCOMPARE(list->size(), 9);
+        QCOMPARE(list->value(u"text"_s), QVariant(u"größer"_s));
+        QCOMPARE(list->value(u"number"_s), QVariant(42LL));
+        QCOMPARE(list->value(u"negative"_s), QVariant(-7LL));
+        QCOMPARE(list->value(u"real"_s), QVariant(1.5));
+        QCOMPARE(list->value(u"yes"_s), QVariant(true));
+        QCOMPARE(list->value(u"data"_s), QVariant(QByteArray("\0\1", 2)));
+        QCOMPARE(list->value(u"date"_s), QVariant(QDateTime(QDate(2014, 5, 13), QTime(16, 53, 20), Qt::UTC)));
+        QCOMPARE(list->value(u"array"_s), QVariant(QVariantList{u"a"_s, QVariantMap{{u"inner"_s, u"b"_s}}}));
+        QCOMPARE(list->value(u"empty"_s), QVariant(QVariantMap()));
+    }
+
+    void refuses_data()
+    {
+        QTest::addColumn<QString>("fault");
+        for (const char *fault : {"xml without its end",
+                                  "an array",
+                                  "a text",
+                                  "nothing",
+                                  "noise",
+                                  "binary mark only",
+                                  "binary cut off",
+                                  "refers to itself",
+                                  "refers in a circle",
+                                  "refers to what is not there",
+                                  "more objects than bytes",
+                                  "table beyond the file",
+                                  "text beyond the file",
+                                  "unfolds without end",
+                                  "one long text many times",
+                                  "deep",
+                                  "deep xml",
+                                  "endless xml",
+                                  "too long",
+                                  "zero in a binary key",
+                                  "zero in a binary utf-16 key",
+                                  "zero in an xml key",
+                                  "zero referred to in an xml key",
+                                  "zero referred to in hexadecimal",
+                                  "number as a binary key"})
+            QTest::newRow(fault) << QString::fromUtf8(fault);
+    }
+    void refuses()
+    {
+        QFETCH(QString, fault);
+        QVERIFY(!propertyListDictionary(contents(fault)));
+    }
+
+    void expandsNoEntities()
+    {
+        const auto list = propertyListDictionary(contents(u"entities"_s));
+        QVERIFY(!list || !list->value(u"text"_s).toString().contains(u"eeee"));
+    }
+
+private:
+    QByteArray contents(const QString &name) const
+    {
+        QFile file(m_lists.filePath(name + u".plist"_s));
+        if (!file.open(QIODevice::ReadOnly))
+            qFatal("the fixture is missing");
+        return file.readAll();
+    }
+
+    QTemporaryDir m_lists;
+};
+
+QTEST_GUILESS_MAIN(PropertyListTest)
+#include "PropertyListTest.moc"

@@ -1,0 +1,152 @@
+// SPDX-License-Identifier: MIT
+#include "PopoverAlert.h"
+
+#include "PopoverAlertView.h"
+#include "PopoverStyle.h"
+#include "PopupPlacement.h"
+#include "widgets/buttons/IconButton.h"
+#include "widgets/popover/SFBPopover.h"
+#include "widgets/style/Palette.h"
+
+#include <vector>
+
+namespace lumora
+{
+
+namespace
+{
+
+/// One alert is on screen in the whole process, and one queue holds those that made way. Main thread only.
+struct Alerts
+{
+    std::vector<std::shared_ptr<PopoverAlert>> queue;
+    std::shared_ptr<PopoverAlert> current;
+    SFBPopover *currentPopover = nullptr;
+};
+
+Alerts &alerts()
+{
+    static Alerts all;
+    return all;
+}
+
+/// The middle of the view's upper edge, from its window's lower left corner, counting upwards.
+QPointF upperEdge(const QWidget *view)
+{
+    const QPoint inWindow = view->mapTo(view->window(), QPoint(view->width() / 2, 0));
+    return QPointF(inWindow.x(), view->window()->height() - inWindow.y());
+}
+
+} // namespace
+
+std::shared_ptr<PopoverAlert> PopoverAlert::create()
+{
+    return std::shared_ptr<PopoverAlert>(new PopoverAlert);
+}
+
+PopoverAlert::~PopoverAlert()
+{
+    retirePopover();
+}
+
+void PopoverAlert::runAsPopoverForView(QWidget *view, CompletionBlock withCompletionBlock)
+{
+    runAsPopoverForView(view, RectEdge::MaxY, std::move(withCompletionBlock));
+}
+
+void PopoverAlert::runAsPopoverForView(QWidget *view, RectEdge, CompletionBlock withCompletionBlock)
+{
+    m_completionBlock = std::move(withCompletionBlock);
+    m_targetView = view;
+    retirePopover();
+    m_view = new PopoverAlertView(*this);
+    for (IconButton *button : m_view->buttons())
+        connect(button, &IconButton::clicked, this, [this, button] { stopSynchronousPopoverAlert(button); });
+
+    m_parentPopover = std::make_unique<SFBPopover>(m_view);
+    stylePopover(*m_parentPopover);
+    // A question stays until it is answered.
+    m_parentPopover->setClosesWhenApplicationBecomesInactive(false);
+    m_parentPopover->setClosesWhenPopoverResignsKey(false);
+    m_parentPopover->setBorderColor(palette::chromeText);
+
+    Alerts &all = alerts();
+    if (all.current != nullptr && all.current.get() != this) {
+        all.queue.push_back(all.current);
+        all.current->retirePopover();
+    }
+    displayOnScreen(*m_parentPopover, view->window(), upperEdge(view), PopoverPosition::Above);
+    all.currentPopover = m_parentPopover.get();
+    all.current = shared_from_this();
+}
+
+void PopoverAlert::stopSynchronousPopoverAlert(const IconButton *button)
+{
+    // The completion may drop the last other reference to this alert, run it anew, or run another one.
+    const std::shared_ptr<PopoverAlert> self = shared_from_this();
+    const CompletionBlock completion = m_completionBlock;
+    const SFBPopover *const answered = m_parentPopover.get();
+    const int response = responseForButton(static_cast<int>(m_view->buttons().indexOf(button)));
+    if (completion)
+        completion(response);
+    if (m_parentPopover.get() == answered)
+        retirePopover();
+    Alerts &all = alerts();
+    // One that made way to what its own completion ran has its answer.
+    std::erase(all.queue, self);
+    if (all.currentPopover != answered)
+        return;
+    all.currentPopover = nullptr;
+    all.current.reset();
+    checkForPreviouslyShownAlerts();
+}
+
+void PopoverAlert::retirePopover()
+{
+    SFBPopover *popover = m_parentPopover.release();
+    if (popover == nullptr)
+        return;
+    // One of its buttons may be delivering the click that closes it.
+    if (!popover->isVisible()) {
+        popover->deleteLater();
+        return;
+    }
+    connect(popover, &SFBPopover::closed, popover, &QObject::deleteLater);
+    popover->closePopover();
+}
+
+QList<IconButton *> PopoverAlert::buttons() const
+{
+    return m_view.isNull() ? QList<IconButton *>() : m_view->buttons();
+}
+
+int PopoverAlert::responseForButton(int index)
+{
+    return index >= firstButtonReturn && index <= thirdButtonReturn ? index : index + firstButtonReturn;
+}
+
+void PopoverAlert::checkForPreviouslyShownAlerts()
+{
+    Alerts &all = alerts();
+    while (!all.queue.empty()) {
+        const std::shared_ptr<PopoverAlert> last = all.queue.back();
+        all.queue.pop_back();
+        // Nobody can answer an alert whose view has gone with its window.
+        if (last->m_targetView.isNull())
+            continue;
+        last->runAsPopoverForView(last->m_targetView, last->m_completionBlock);
+        return;
+    }
+}
+
+PopoverAlert *PopoverAlert::currentAlert()
+{
+    return alerts().current.get();
+}
+
+int PopoverAlert::queueLength()
+{
+    return static_cast<int>(alerts().queue.size());
+}
+
+} // namespace lumora

@@ -1,0 +1,181 @@
+// SPDX-License-Identifier: MIT
+#include "EntryFile.h"
+#include "EntryName.h"
+#include "ZipArchive.h"
+#include "ZipDate.h"
+#include "foundation/Log.h"
+#include "foundation/PrintableText.h"
+
+#include <array>
+#include <cerrno>
+
+namespace lumora
+{
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+constexpr unsigned blockSize = 4096;
+/// How much is written between two looks at the free space.
+constexpr std::uint64_t diskCheckInterval = 4 << 20;
+
+void logSkipped(const QString &name)
+{
+    logLine(u"Skipped, its target cannot be created: "_s + printableText(name));
+}
+
+/// True for what an archive can bring about by its entries' names alone: one that goes through a file, is a folder's or
+/// is too long.
+bool isTheNamesFault(int error)
+{
+    switch (error) {
+    case EEXIST:
+    case EINVAL:
+    case EISDIR:
+    case ELOOP:
+    case ENAMETOOLONG:
+    case ENOENT:
+    case ENOTDIR:
+    case ENXIO:
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace
+
+bool ZipArchive::UnzipFileTo(const QString &path, bool overWrite)
+{
+    m_failure.reset();
+    m_damaged.clear();
+    m_entries = 0;
+    m_bytes = 0;
+    m_bytesUntilDiskCheck = 0;
+
+    if (m_unzFile != nullptr && m_entriesClaimed > m_limits.entries) {
+        stop(FailureCode::TooLarge, u"%1 entries"_s.arg(m_entriesClaimed));
+        return false;
+    }
+    auto folder = ExtractionFolder::open(path);
+    if (!folder) {
+        m_failure = folder.failure();
+        return false;
+    }
+    if (::unzGoToFirstFile(m_unzFile) != UNZ_OK)
+        OutputErrorMessage(u"Failed"_s);
+    CurrentEntry entry(m_unzFile, m_path, m_password);
+    do {
+        if (extractEntry(entry, folder.value(), overWrite) == Step::Stop)
+            return false;
+    } while (::unzGoToNextFile(m_unzFile) == UNZ_OK);
+    return true;
+}
+
+ZipArchive::Step ZipArchive::extractEntry(CurrentEntry &entry, ExtractionFolder &folder, bool overWrite)
+{
+    if (m_stop.stop_requested())
+        return Step::Stop;
+    if (++m_entries + folder.foldersMade() > m_limits.entries)
+        return stop(FailureCode::TooLarge, u"more than %1 files and folders"_s.arg(m_limits.entries));
+    if (!entry.open()) {
+        OutputErrorMessage(u"Error occurs"_s);
+        return stop(FailureCode::NotAnArchive, u"entry %1 cannot be opened"_s.arg(m_entries));
+    }
+    unz_file_info info = {};
+    const auto stored = currentEntry(info);
+    if (!stored) {
+        OutputErrorMessage(u"Error occurs while getting file info"_s);
+        entry.close();
+        return stop(FailureCode::NotAnArchive, u"entry %1 has no readable description"_s.arg(m_entries));
+    }
+    entry.noteSizes(info);
+
+    const QString name = withForwardSlashes(entryNameText(*stored));
+    const auto steps = safeSteps(name);
+    if (!steps || steps->isEmpty()) {
+        logSkipped(name);
+    } else if (isFolderEntry(*stored)) {
+        if (!folder.makeFolder(*steps))
+            skipUncreated(name, errno);
+    } else if (overWrite || !folder.exists(*steps) || OverWrite(folder.path() + u'/' + name)) {
+        FileDescriptor file = folder.createFile(*steps);
+        if (file.valid())
+            return writeEntry(entry, folder, std::move(file), info, name);
+        skipUncreated(name, errno);
+    }
+    entry.close();
+    return Step::Next;
+}
+
+void ZipArchive::skipUncreated(const QString &name, int error)
+{
+    logSkipped(name);
+    // The walk goes on, but what it leaves is not all that the archive holds.
+    if (!isTheNamesFault(error) && !m_failure)
+        m_failure = Failure{FailureCode::CannotWrite, m_path, qt_error_string(error)};
+}
+
+std::optional<QByteArray> ZipArchive::currentEntry(unz_file_info &info)
+{
+    if (::unzGetCurrentFileInfo(m_unzFile, &info, nullptr, 0, nullptr, 0, nullptr, 0) != UNZ_OK)
+        return std::nullopt;
+    QByteArray name(static_cast<qsizetype>(info.size_filename) + 1, '\0');
+    if (::unzGetCurrentFileInfo(m_unzFile, &info, name.data(), static_cast<uLong>(name.size()), nullptr, 0, nullptr,
+                                0) != UNZ_OK)
+        return std::nullopt;
+    name.chop(1);
+    return name;
+}
+
+ZipArchive::Step ZipArchive::writeEntry(CurrentEntry &entry, ExtractionFolder &folder, FileDescriptor descriptor,
+                                        const unz_file_info &info, const QString &name)
+{
+    EntryFile file(std::move(descriptor));
+    std::array<char, blockSize> block = {};
+    int count = 0;
+    while ((count = entry.read(block.data(), blockSize)) > 0) {
+        const auto bytes = static_cast<std::size_t>(count);
+        Step next = mayWrite(folder, bytes);
+        if (next == Step::Next && !file.write(std::span(block).first(bytes)))
+            next = stop(FailureCode::CannotWrite, qt_error_string(errno));
+        if (next == Step::Stop || m_stop.stop_requested()) {
+            entry.close();
+            return Step::Stop;
+        }
+    }
+    if (count < 0)
+        OutputErrorMessage(u"Failed to reading zip file"_s);
+    if (!file.finish())
+        return stop(FailureCode::CannotWrite, qt_error_string(errno));
+    if (!file.setModified(dateOfEntry(info.tmu_date)))
+        logLine(u"Failed to set attributes"_s);
+    const bool checksumMatches = entry.close();
+    if ((count < 0 || !checksumMatches) && m_damaged.size() < damagedNamesKept)
+        m_damaged += name;
+    return Step::Next;
+}
+
+ZipArchive::Step ZipArchive::mayWrite(const ExtractionFolder &folder, std::uint64_t bytes)
+{
+    m_bytes += bytes;
+    if (m_bytes > m_limits.bytes)
+        return stop(FailureCode::TooLarge, u"more than %1 MB unpacked"_s.arg(m_limits.bytes >> 20));
+    if (m_bytesUntilDiskCheck < bytes) {
+        if (folder.freeBytes() < m_limits.freeBytesKept + diskCheckInterval)
+            return stop(FailureCode::CannotWrite, u"the disk is nearly full"_s);
+        m_bytesUntilDiskCheck = diskCheckInterval;
+    }
+    m_bytesUntilDiskCheck -= bytes;
+    return Step::Next;
+}
+
+ZipArchive::Step ZipArchive::stop(FailureCode code, const QString &detail)
+{
+    m_failure = Failure{code, m_path, detail};
+    return Step::Stop;
+}
+
+} // namespace lumora

@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "PaintedButton.h"
+
+#include <QColor>
+#include <QFont>
+
+namespace lumora
+{
+
+/// What buttons with a filled, rounded shape and a centred white text share.
+class FilledButton : public PaintedButton
+{
+    Q_OBJECT
+    Q_PROPERTY(QColor normalColor READ normalColor WRITE setNormalColor)
+    Q_PROPERTY(QColor color READ color)
+public:
+    QColor normalColor() const { return m_normalColor; }
+    /// Also becomes the current colour, even under the pointer.
+    void setNormalColor(const QColor &color);
+    /// What the shape is filled with now.
+    QColor color() const { return m_color; }
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    FilledButton(const QFont &font, QWidget *parent);
+
+    void setColor(const QColor &color);
+    /// The colour under the pointer.
+    virtual QColor colorUnderPointer() const = 0;
+    /// The colour of a pressed button.
+    virtual QColor colorPressed() const = 0;
+    /// The part that an icon covers of a button of that size (a width of 0 stands for any), empty without an icon.
+    virtual QRectF iconInk(QSizeF) const { return {}; }
+    virtual void drawIcon(QPainter &) {}
+
+    void mouseEntered() override;
+    void mouseExited() override;
+    void mouseDown() override;
+    void keyDown() override;
+    void keyUp() override;
+    void drawRect(QPainter &painter) override;
+    void drawFocusRing(QPainter &painter) override;
+
+private:
+    void drawText(QPainter &painter);
+
+    QFont m_font;
+    QColor m_normalColor;
+    QColor m_color;
+};
+
+} // namespace lumora

@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: MIT
+#include "PaintedButtonAccessible.h"
+
+#include "PaintedButton.h"
+
+namespace lumora
+{
+
+namespace
+{
+
+QAccessibleInterface *accessibleOf(const QString &, QObject *object)
+{
+    auto *button = qobject_cast<PaintedButton *>(object);
+    return button == nullptr ? nullptr : new PaintedButtonAccessible(button);
+}
+
+} // namespace
+
+PaintedButtonAccessible::PaintedButtonAccessible(PaintedButton *button)
+    : QAccessibleWidget(button, button->accessibleRole())
+{
+}
+
+void PaintedButtonAccessible::install()
+{
+    static const bool installed = [] {
+        QAccessible::installFactory(accessibleOf);
+        return true;
+    }();
+    Q_UNUSED(installed)
+}
+
+QString PaintedButtonAccessible::text(QAccessible::Text kind) const
+{
+    if (kind == QAccessible::Name) {
+        if (!widget()->accessibleName().isEmpty())
+            return widget()->accessibleName();
+        if (!button()->text().isEmpty())
+            return button()->text();
+        // A button with nothing but a picture is best named by what its tool tip says.
+        if (!widget()->toolTip().isEmpty())
+            return widget()->toolTip();
+    }
+    return QAccessibleWidget::text(kind);
+}
+
+QAccessible::State PaintedButtonAccessible::state() const
+{
+    QAccessible::State state = QAccessibleWidget::state();
+    state.pressed = button()->isDown();
+    if (isSelection()) {
+        state.checkable = true;
+        state.checked = button()->isActive();
+    }
+    return state;
+}
+
+QStringList PaintedButtonAccessible::actionNames() const
+{
+    QStringList names;
+    if (widget()->isEnabled()) {
+        if (isSelection())
+            names << toggleAction();
+        names << pressAction();
+    }
+    return names + QAccessibleWidget::actionNames();
+}
+
+void PaintedButtonAccessible::doAction(const QString &name)
+{
+    if (name == pressAction() || (isSelection() && name == toggleAction()))
+        button()->click();
+    else
+        QAccessibleWidget::doAction(name);
+}
+
+PaintedButton *PaintedButtonAccessible::button() const
+{
+    return static_cast<PaintedButton *>(widget());
+}
+
+bool PaintedButtonAccessible::isSelection() const
+{
+    return role() == QAccessible::CheckBox || role() == QAccessible::RadioButton;
+}
+
+} // namespace lumora

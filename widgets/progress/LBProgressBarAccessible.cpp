@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: MIT
+#include "LBProgressBarAccessible.h"
+
+#include "LBProgressBar.h"
+
+#include <QLocale>
+
+namespace lumora
+{
+
+namespace
+{
+
+QAccessibleInterface *accessibleOf(const QString &, QObject *object)
+{
+    auto *bar = qobject_cast<LBProgressBar *>(object);
+    return bar == nullptr ? nullptr : new LBProgressBarAccessible(bar);
+}
+
+} // namespace
+
+LBProgressBarAccessible::LBProgressBarAccessible(LBProgressBar *bar) : QAccessibleWidget(bar, QAccessible::ProgressBar)
+{
+}
+
+void LBProgressBarAccessible::install()
+{
+    static const bool installed = [] {
+        QAccessible::installFactory(accessibleOf);
+        return true;
+    }();
+    Q_UNUSED(installed)
+}
+
+void *LBProgressBarAccessible::interface_cast(QAccessible::InterfaceType type)
+{
+    if (type == QAccessible::ValueInterface)
+        return static_cast<QAccessibleValueInterface *>(this);
+    return QAccessibleWidget::interface_cast(type);
+}
+
+QString LBProgressBarAccessible::text(QAccessible::Text kind) const
+{
+    if (kind == QAccessible::Value)
+        return widget()->locale().toString(bar()->doubleValue());
+    return QAccessibleWidget::text(kind);
+}
+
+QAccessible::State LBProgressBarAccessible::state() const
+{
+    QAccessible::State state = QAccessibleWidget::state();
+    state.readOnly = true;
+    state.animated = bar()->isAnimating();
+    return state;
+}
+
+QVariant LBProgressBarAccessible::currentValue() const
+{
+    return bar()->doubleValue();
+}
+
+QVariant LBProgressBarAccessible::maximumValue() const
+{
+    return bar()->maxValue();
+}
+
+QVariant LBProgressBarAccessible::minimumValue() const
+{
+    return bar()->minValue();
+}
+
+LBProgressBar *LBProgressBarAccessible::bar() const
+{
+    return static_cast<LBProgressBar *>(widget());
+}
+
+} // namespace lumora

@@ -1,0 +1,142 @@
+// SPDX-License-Identifier: MIT
+#include "INWindowButton.h"
+
+#include "INWindowButtonGroup.h"
+
+#include <QEvent>
+#include <QPainter>
+
+namespace lumora
+{
+
+INWindowButton::INWindowButton(const QString &groupIdentifier, QWidget *parent)
+    : QAbstractButton(parent), m_group(INWindowButtonGroup::groupWithIdentifier(groupIdentifier))
+{
+    // As in every window frame: not in the way of the Tab key. The keyboard has the window's menu for what these do.
+    setFocusPolicy(Qt::NoFocus);
+    connect(m_group, &INWindowButtonGroup::INWindowButtonGroupDidUpdateRolloverStateNotification, this,
+            qOverload<>(&QWidget::update));
+}
+
+INWindowButton::INWindowButton(const QString &groupIdentifier, const QString &kind, QWidget *parent)
+    : INWindowButton(groupIdentifier, parent)
+{
+    const auto named = [&kind](const QString &state) {
+        return NamedImage(QStringLiteral("window_") + kind + QLatin1Char('_') + state);
+    };
+    m_activeImage = named(QStringLiteral("active"));
+    m_activeNotKeyWindowImage = named(QStringLiteral("notkey"));
+    m_inactiveImage = named(QStringLiteral("inactive"));
+    m_rolloverImage = named(QStringLiteral("rollover"));
+    m_pressedImage = named(QStringLiteral("pressed"));
+    resize(sizeHint());
+}
+
+INWindowButton::~INWindowButton()
+{
+    release();
+}
+
+QString INWindowButton::groupIdentifier() const
+{
+    return m_group->identifier();
+}
+
+void INWindowButton::change(NamedImage &image, const NamedImage &to)
+{
+    if (image == to)
+        return;
+    image = to;
+    updateGeometry();
+    update();
+}
+
+void INWindowButton::setActiveImage(const NamedImage &image)
+{
+    change(m_activeImage, image);
+}
+
+void INWindowButton::setActiveNotKeyWindowImage(const NamedImage &image)
+{
+    change(m_activeNotKeyWindowImage, image);
+}
+
+void INWindowButton::setInactiveImage(const NamedImage &image)
+{
+    change(m_inactiveImage, image);
+}
+
+void INWindowButton::setRolloverImage(const NamedImage &image)
+{
+    change(m_rolloverImage, image);
+}
+
+void INWindowButton::setPressedImage(const NamedImage &image)
+{
+    change(m_pressedImage, image);
+}
+
+NamedImage INWindowButton::image() const
+{
+    if (!isEnabled())
+        return m_inactiveImage;
+    if (isDown() && !m_pressedImage.isNull())
+        return m_pressedImage;
+    if (m_group->shouldDisplayRollOver())
+        return m_rolloverImage;
+    return isActiveWindow() ? m_activeImage : m_activeNotKeyWindowImage;
+}
+
+QSize INWindowButton::sizeHint() const
+{
+    return m_activeImage.size().toSize();
+}
+
+void INWindowButton::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    const NamedImage shown = image();
+    const QSizeF fitted = shown.size().boundedTo(size());
+    QRectF target(QPointF(), fitted);
+    target.moveCenter(QRectF(rect()).center());
+    shown.paint(&painter, target);
+}
+
+void INWindowButton::enterEvent(QEnterEvent *event)
+{
+    QAbstractButton::enterEvent(event);
+    if (m_captures)
+        return;
+    m_captures = true;
+    m_group->didCaptureMousePointer();
+}
+
+void INWindowButton::leaveEvent(QEvent *event)
+{
+    QAbstractButton::leaveEvent(event);
+    release();
+}
+
+void INWindowButton::release()
+{
+    if (!m_captures)
+        return;
+    m_captures = false;
+    m_group->didReleaseMousePointer();
+}
+
+void INWindowButton::hideEvent(QHideEvent *event)
+{
+    QAbstractButton::hideEvent(event);
+    // A button that goes away under the mouse, with its window for example, gets no leave event.
+    release();
+}
+
+void INWindowButton::changeEvent(QEvent *event)
+{
+    QAbstractButton::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange || event->type() == QEvent::EnabledChange)
+        update();
+}
+
+} // namespace lumora

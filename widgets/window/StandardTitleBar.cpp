@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#include "StandardTitleBar.h"
+
+#include "widgets/style/NamedImage.h"
+
+#include <QApplication>
+#include <QStyle>
+
+namespace lumora
+{
+
+const StandardTitleBar &standardTitleBar()
+{
+    static const StandardTitleBar measured = [] {
+        const QStyle *style = QApplication::style();
+        const qreal button = NamedImage(QStringLiteral("window_close_active")).size().height();
+        StandardTitleBar standard{};
+        // A style may know no title bars; a button must fit in all the same.
+        standard.height = qMax<qreal>(style->pixelMetric(QStyle::PM_TitleBarHeight), button);
+        // As far from the side as from above.
+        standard.trafficLightButtonsLeftMargin = qMax((standard.height - button) / 2, button / 2);
+        standard.trafficLightSeparation = button / 2;
+        standard.fullScreenButtonRightMargin = standard.trafficLightButtonsLeftMargin;
+        return standard;
+    }();
+    return measured;
+}
+
+} // namespace lumora
