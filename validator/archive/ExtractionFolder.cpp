@@ -6,7 +6,6 @@
 
 #include <cerrno>
 #include <limits>
-#include <utility>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -15,27 +14,6 @@
 
 namespace lumora
 {
-
-FileDescriptor &FileDescriptor::operator=(FileDescriptor &&other) noexcept
-{
-    if (this != &other) {
-        if (valid())
-            ::close(m_number);
-        m_number = other.release();
-    }
-    return *this;
-}
-
-FileDescriptor::~FileDescriptor()
-{
-    if (valid())
-        ::close(m_number);
-}
-
-int FileDescriptor::release()
-{
-    return std::exchange(m_number, -1);
-}
 
 Result<ExtractionFolder> ExtractionFolder::open(const QString &path)
 {

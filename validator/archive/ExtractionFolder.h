@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "foundation/FileDescriptor.h"
 #include "foundation/Result.h"
 
 #include <QByteArray>
@@ -11,25 +12,6 @@
 
 namespace lumora
 {
-
-/// A file descriptor that closes itself.
-class FileDescriptor
-{
-public:
-    FileDescriptor() = default;
-    explicit FileDescriptor(int number) : m_number(number) {}
-    FileDescriptor(FileDescriptor &&other) noexcept : m_number(other.release()) {}
-    FileDescriptor &operator=(FileDescriptor &&other) noexcept;
-    ~FileDescriptor();
-
-    bool valid() const { return m_number >= 0; }
-    int number() const { return m_number; }
-
-private:
-    int release();
-
-    int m_number = -1;
-};
 
 /// The one folder below which an extraction may write. Every step of a path is opened from the one before it without
 /// following links, so that no name and no link that lies in the way leads out of it.
