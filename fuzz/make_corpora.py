@@ -24,6 +24,8 @@ def main():
     out = Path(sys.argv[1])
     seed(out / "fuzz_archive", "validator/make_archives.py", "*.zip")
     seed(out / "fuzz_archive", "validator/make_packages.py", "*.ipa")
+    seed(out / "fuzz_binary", "validator/make_binaries.py", "*")
+    seed(out / "fuzz_binary", "validator/make_binaries.py", "*", "compiled")
     seed(out / "fuzz_property_list", "validator/make_property_lists.py", "*.plist")
     seed(out / "fuzz_signed_message", "validator/make_profiles.py", "*.mobileprovision")
     seed(out / "fuzz_signed_message", "validator/make_profiles.py", "*.mobileprovision", "forms")
