@@ -1,0 +1,217 @@
+// SPDX-License-Identifier: MIT
+#include "CssColorReader.h"
+
+#include "CssValues.h"
+#include "color/spaces/ColorModels.h"
+
+#include <QColor>
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace lumora
+{
+
+namespace
+{
+
+/// The kinds of value that an argument may be.
+struct Accepted
+{
+    bool number = false;
+    bool percentage = false;
+    bool angle = false;
+    /// What 100 % is, and the range of plain numbers; both ends belong to it.
+    double whole = 1.0;
+    double least = 0.0;
+    double most = 1.0;
+    /// What a plain number is multiplied by.
+    double unit = 1.0;
+};
+
+using Arguments = std::array<Accepted, 3>;
+
+constexpr double anything = 1e6;
+constexpr Accepted hue{true, false, true, 1.0, -anything, anything, 1.0};
+constexpr Accepted byteNumber{true, false, false, 1.0, 0.0, 255.0, 1.0 / 255.0};
+constexpr Accepted share{false, true};
+constexpr Accepted shareOrHundred{true, true, false, 1.0, 0.0, 100.0, 0.01};
+constexpr Accepted byteOrShare{true, true, false, 1.0, 0.0, 255.0, 1.0 / 255.0};
+constexpr Accepted lightness{true, true};
+constexpr Accepted chroma{true, true, false, 0.4, 0.0, 1.0, 1.0};
+constexpr Accepted axis{true, true, false, 0.4, -1.0, 1.0, 1.0};
+// color() states colors beyond its own space by components beyond 0 to 1.
+constexpr Accepted component{true, true, false, 1.0, -2.0, 3.0, 1.0};
+
+std::optional<double> argument(const CssValue &value, const Accepted &accepted)
+{
+    double result = 0.0;
+    switch (value.kind) {
+    case CssValue::Kind::None:
+        return 0.0;
+    case CssValue::Kind::Number:
+        if (!accepted.number || value.number < accepted.least || value.number > accepted.most)
+            return std::nullopt;
+        return value.number * accepted.unit;
+    case CssValue::Kind::Percentage:
+        result = value.number / 100.0 * accepted.whole;
+        if (!accepted.percentage || result < accepted.least * accepted.unit || result > accepted.most * accepted.unit)
+            return std::nullopt;
+        return result;
+    case CssValue::Kind::Angle:
+        if (!accepted.angle || std::abs(value.number) > anything)
+            return std::nullopt;
+        return value.number;
+    case CssValue::Kind::Word:
+        break;
+    }
+    return std::nullopt;
+}
+
+std::optional<double> alphaOf(const CssFunction &function)
+{
+    return function.alpha ? argument(*function.alpha, {true, true}) : 1.0;
+}
+
+bool mixesKinds(const std::vector<CssValue> &values)
+{
+    return std::ranges::any_of(values, [&values](const CssValue &value) { return value.kind != values[0].kind; });
+}
+
+bool holdsNone(const CssFunction &function)
+{
+    const auto isNone = [](const CssValue &value) { return value.kind == CssValue::Kind::None; };
+    return std::ranges::any_of(function.arguments, isNone) || (function.alpha && isNone(*function.alpha));
+}
+
+struct FunctionRow
+{
+    QLatin1StringView name;
+    QLatin1StringView notation;
+    bool withCommas;
+    Arguments withSpaces;
+    Arguments legacy; ///< where commas are allowed
+    WideColor (*color)(const std::array<double, 3> &values, double alpha);
+};
+
+constexpr auto rgb = [](const std::array<double, 3> &v, double alpha) {
+    return WideColor{RgbSpace::Srgb, v[0], v[1], v[2], alpha};
+};
+constexpr auto displayP3 = [](const std::array<double, 3> &v, double alpha) {
+    return WideColor{RgbSpace::DisplayP3, v[0], v[1], v[2], alpha};
+};
+constexpr auto hsl = [](const std::array<double, 3> &v, double alpha) {
+    return wideColorFrom(HslColor{v[0], v[1], v[2]}, alpha);
+};
+constexpr auto hwb = [](const std::array<double, 3> &v, double alpha) {
+    return wideColorFrom(HwbColor{v[0], v[1], v[2]}, alpha);
+};
+constexpr auto oklab = [](const std::array<double, 3> &v, double alpha) {
+    return wideColorFrom(OklabColor{v[0], v[1], v[2]}, alpha);
+};
+constexpr auto oklch = [](const std::array<double, 3> &v, double alpha) {
+    return wideColorFrom(OklchColor{v[0], v[1], v[2]}, alpha);
+};
+
+constexpr Arguments rgbSpaced{byteOrShare, byteOrShare, byteOrShare};
+constexpr Arguments hslSpaced{hue, shareOrHundred, shareOrHundred};
+constexpr Arguments hslLegacy{hue, share, share};
+constexpr Arguments components{component, component, component};
+
+constexpr FunctionRow functions[] = {
+    {"rgb"_L1, "css-rgb"_L1, true, rgbSpaced, rgbSpaced, rgb},
+    {"rgba"_L1, "css-rgb"_L1, true, rgbSpaced, rgbSpaced, rgb},
+    {"hsl"_L1, "css-hsl"_L1, true, hslSpaced, hslLegacy, hsl},
+    {"hsla"_L1, "css-hsl"_L1, true, hslSpaced, hslLegacy, hsl},
+    {"hwb"_L1, "css-hwb"_L1, false, hslSpaced, {}, hwb},
+    {"oklab"_L1, "css-oklab"_L1, false, {lightness, axis, axis}, {}, oklab},
+    {"oklch"_L1, "css-oklch"_L1, false, {lightness, chroma, hue}, {}, oklch},
+    {"color srgb"_L1, "css-color"_L1, false, components, {}, rgb},
+    {"color display-p3"_L1, "css-p3"_L1, false, components, {}, displayP3},
+};
+
+std::optional<ColorReading> colorFromFunction(CssFunction function)
+{
+    // The space is color()'s first argument; here it is part of the function's name.
+    if (function.name == u"color" && !function.arguments.empty()) {
+        function.name += u' ' + function.arguments.front().word;
+        function.arguments.erase(function.arguments.begin());
+    }
+    const auto *row =
+        std::ranges::find_if(functions, [&function](const FunctionRow &one) { return function.name == one.name; });
+    if (row == std::end(functions) || function.arguments.size() != 3 || (function.commas && !row->withCommas))
+        return std::nullopt;
+    // The old form knows no "none", and rgb() there is of one kind throughout.
+    const bool isRgb = row->notation == "css-rgb"_L1;
+    if (function.commas && (holdsNone(function) || (isRgb && mixesKinds(function.arguments))))
+        return std::nullopt;
+    std::array<double, 3> values{};
+    for (std::size_t index = 0; index < values.size(); ++index) {
+        const Accepted &accepted = function.commas ? row->legacy[index] : row->withSpaces[index];
+        const std::optional<double> value = argument(function.arguments[index], accepted);
+        if (!value)
+            return std::nullopt;
+        values[index] = *value;
+    }
+    const std::optional<double> alpha = alphaOf(function);
+    if (!alpha)
+        return std::nullopt;
+    return ColorReading{row->color(values, *alpha), row->notation};
+}
+
+std::optional<ColorReading> colorFromName(QStringView text)
+{
+    const QString name = text.toString().toLower();
+    const bool letters = std::ranges::all_of(name, [](QChar letter) { return letter >= u'a' && letter <= u'z'; });
+    if (name.isEmpty() || !letters)
+        return std::nullopt;
+    if (name == u"rebeccapurple")
+        return ColorReading{wideColorFromBytes(0x66, 0x33, 0x99), "css-name"_L1};
+    static const QStringList known = QColor::colorNames();
+    if (!known.contains(name))
+        return std::nullopt;
+    const QColor color(name);
+    return ColorReading{wideColorFromBytes(color.red(), color.green(), color.blue(), color.alpha()), "css-name"_L1};
+}
+
+std::optional<ColorReading> colorFromValue(QStringView text)
+{
+    if (text.startsWith(u'#')) {
+        const std::optional<WideColor> color = colorFromHash(text, AlphaPlace::Last);
+        return color ? std::optional(ColorReading{*color, "css-hex"_L1}) : std::nullopt;
+    }
+    if (std::optional<CssFunction> function = cssFunction(text))
+        return colorFromFunction(*std::move(function));
+    return colorFromName(text);
+}
+
+} // namespace
+
+std::optional<ColorReading> colorFromCss(QStringView text)
+{
+    static const QRegularExpression rule(uR"rule(^[^{}()"]*\{\s*(--[\w-]+\s*:[^{};]*);?\s*\}$)rule"_s);
+    static const QRegularExpression declaration(uR"(^-{0,2}[a-zA-Z][\w-]*\s*:\s*([^;:]*?)\s*;?$)"_s);
+    static const QRegularExpression utility(uR"(^[a-z][a-z0-9-]*-\[([^\[\]\s]*)\]$)"_s);
+    QString value = text.trimmed().toString();
+    if (const auto match = utility.match(value); match.hasMatch()) {
+        // White space would end the class name, so that "_" stands for it.
+        std::optional<ColorReading> reading = colorFromValue(match.captured(1).replace(u'_', u' '));
+        if (reading)
+            reading->notation = "tailwind"_L1;
+        return reading;
+    }
+    const auto ruled = rule.match(value);
+    if (ruled.hasMatch())
+        value = ruled.captured(1).trimmed();
+    if (const auto match = declaration.match(value); match.hasMatch())
+        value = match.captured(1);
+    std::optional<ColorReading> reading = colorFromValue(value.trimmed());
+    if (reading && ruled.hasMatch() && text.trimmed().startsWith(u"@theme"))
+        reading->notation = "tailwind"_L1;
+    return reading;
+}
+
+} // namespace lumora
