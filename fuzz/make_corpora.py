@@ -2,6 +2,7 @@
 # SPDX-License-Identifier: MIT
 """usage: make_corpora.py FOLDER   Seeds for the fuzz targets, one folder each, out of the test suite's fixtures."""
 
+import re
 import subprocess
 import sys
 import tempfile
@@ -20,6 +21,23 @@ def seed(folder, script, pattern, *arguments):
                 (folder / path.name.replace(" ", "-")).write_bytes(path.read_bytes())
 
 
+def seed_colors(folder):
+    """Every text that the reader's test has in a row of its own."""
+    folder.mkdir(parents=True, exist_ok=True)
+    test = (TESTS / "color/forms/ColorReaderTest.cpp").read_text()
+    for number, text in enumerate(re.findall(r'row\("((?:[^"\\]|\\.)+)"', test)):
+        (folder / f"color{number:03}").write_text(text.replace('\\"', '"'))
+
+
+def seed_models(folder):
+    """A few rows of the device list each, since a whole one is larger than what a fuzzer changes well."""
+    folder.mkdir(parents=True, exist_ok=True)
+    lines = (TESTS.parent / "devices/today/models.csv").read_text().splitlines(keepends=True)
+    rows = [line for line in lines if not line.startswith("#")]
+    for first in range(1, len(rows), 20):
+        (folder / f"models{first:03}.csv").write_text(rows[0] + "".join(rows[first : first + 3]))
+
+
 def main():
     out = Path(sys.argv[1])
     seed(out / "fuzz_archive", "validator/make_archives.py", "*.zip")
@@ -31,6 +49,8 @@ def main():
     seed(out / "fuzz_signed_message", "validator/make_profiles.py", "*.mobileprovision", "forms")
     seed(out / "fuzz_apple_png", "validator/make_pictures.py", "*.png")
     seed(out / "fuzz_picture", "pictures/make_pictures.py", "*")
+    seed_colors(out / "fuzz_color")
+    seed_models(out / "fuzz_model_list")
 
 
 if __name__ == "__main__":

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+// Any text as a color and as a palette: what is understood is written in every form, and every form understood again as
+// the same color.
+#include "color/forms/ColorForm.h"
+#include "color/forms/ColorReader.h"
+#include "color/palettes/Palette.h"
+
+#include <cstdlib>
+
+using namespace lumora;
+
+namespace
+{
+
+void hold(bool expected)
+{
+    if (!expected)
+        std::abort();
+}
+
+void checkForms(const WideColor &color)
+{
+    for (const ColorForm &form : colorForms()) {
+        const Result<ColorReading> back = readColor(formText(form, color));
+        // A color far beyond every screen may not be one that the forms for any gamut can state.
+        if (form.showsAnyGamut && (!back || isClippedIn(color, RgbSpace::DisplayP3)))
+            continue;
+        hold(back.ok() && bytesOf(back.value().color) == bytesOf(color));
+    }
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+{
+    const QByteArray bytes(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
+    if (const Result<ColorReading> reading = readColor(QString::fromUtf8(bytes)))
+        checkForms(reading.value().color);
+    if (const Result<Palette> palette = readPalette(bytes, QStringLiteral("palette"))) {
+        for (const PaletteFormat format : {PaletteFormat::Json, PaletteFormat::CssVariables}) {
+            const auto files = paletteFiles(palette.value(), QStringLiteral("palette"), format);
+            const Result<Palette> back = readPalette(files.front().content, QStringLiteral("palette"));
+            hold(back.ok() && back.value().size() == palette.value().size());
+        }
+    }
+    return 0;
+}
