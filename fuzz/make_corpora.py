@@ -44,6 +44,8 @@ def main():
     seed(out / "fuzz_archive", "validator/make_packages.py", "*.ipa")
     seed(out / "fuzz_binary", "validator/make_binaries.py", "*")
     seed(out / "fuzz_binary", "validator/make_binaries.py", "*", "compiled")
+    seed(out / "fuzz_code_signature", "validator/make_signatures.py", "*")
+    seed(out / "fuzz_code_signature", "validator/make_signatures.py", "*", "parts")
     seed(out / "fuzz_property_list", "validator/make_property_lists.py", "*.plist")
     seed(out / "fuzz_signed_message", "validator/make_profiles.py", "*.mobileprovision")
     seed(out / "fuzz_signed_message", "validator/make_profiles.py", "*.mobileprovision", "forms")

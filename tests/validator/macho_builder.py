@@ -178,3 +178,8 @@ def fat(*slices, wide=False, align=14):
         body += padded(content, 1 << align)
         at = start + len(body)
     return head + bytes(start - len(head)) + body
+
+
+def patched_bytes(data, offset, value):
+    """The data with other bytes at the offset."""
+    return data[:offset] + value + data[offset + len(value):]

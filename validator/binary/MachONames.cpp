@@ -68,8 +68,7 @@ bool GatheredNames::add(QByteArrayList &list, QByteArrayView name)
 void GatheredNames::finish(QByteArrayList &list)
 {
     std::ranges::sort(list);
-    const auto rest = std::ranges::unique(list);
-    list.erase(rest.begin(), rest.end());
+    list.erase(std::unique(list.begin(), list.end()), list.end());
     list.squeeze();
 }
 

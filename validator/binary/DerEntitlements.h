@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArrayView>
+#include <QVariantMap>
+
+#include <optional>
+
+namespace lumora
+{
+
+/// The dictionary of entitlements in the form that newer systems read: texts as QString, whole numbers as qlonglong,
+/// booleans, arrays and dictionaries as in a property list. Nothing when the bytes are no such dictionary.
+std::optional<QVariantMap> entitlementsFromDer(QByteArrayView der);
+
+} // namespace lumora

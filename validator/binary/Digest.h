@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QByteArray>
+#include <QByteArrayView>
+
+#include <memory>
+
+struct evp_md_ctx_st;
+
+namespace lumora
+{
+
+/// The numbers are those of code signatures.
+enum class DigestKind : quint8 { None = 0, Sha1 = 1, Sha256 = 2, Sha256Truncated = 3, Sha384 = 4, Sha512 = 5 };
+
+/// Length of a digest in bytes; 0 for a kind that is none.
+qsizetype digestSize(DigestKind kind);
+
+/// Taken over content that comes piece by piece.
+class Digest
+{
+public:
+    explicit Digest(DigestKind kind);
+    ~Digest();
+    Digest(Digest &&) noexcept;
+    Digest &operator=(Digest &&) noexcept;
+
+    void add(QByteArrayView bytes);
+    /// Once; empty for a kind that is none.
+    QByteArray result();
+
+    static QByteArray of(DigestKind kind, QByteArrayView bytes);
+
+private:
+    struct Free
+    {
+        void operator()(evp_md_ctx_st *context) const;
+    };
+    DigestKind m_kind;
+    std::unique_ptr<evp_md_ctx_st, Free> m_context;
+};
+
+} // namespace lumora
