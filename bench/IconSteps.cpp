@@ -4,7 +4,6 @@
 #include "icons/IconExport.h"
 #include "icons/IconSource.h"
 #include "icons/RenderedIcons.h"
-#include "pictures/pixels/PixelFormat.h"
 #include "pictures/png/PngFilter.h"
 #include "pictures/png/PngRows.h"
 #include "pictures/png/PngSection.h"
@@ -62,7 +61,7 @@ void resampleTo(benchmark::State &state, const Source &source)
 void filter(benchmark::State &state, const Source &source)
 {
     const int edge = static_cast<int>(state.range(0));
-    const ImageRows rows(straight(resample(source.picture, {edge, edge})));
+    const ImageRows rows(resample(source.picture, {edge, edge}));
     const RowRange all{0, edge};
     for (auto _ : state)
         benchmark::DoNotOptimize(filteredRows(rows, {&all, 1}, PngFilterChoice::ByEntropy));
@@ -71,7 +70,7 @@ void filter(benchmark::State &state, const Source &source)
 void encode(benchmark::State &state, const Source &source)
 {
     const int edge = static_cast<int>(state.range(0));
-    const ImageRows rows(straight(resample(source.picture, {edge, edge})));
+    const ImageRows rows(resample(source.picture, {edge, edge}));
     qsizetype bytes = 0;
     for (auto _ : state) {
         std::vector<PngSection> sections;

@@ -11,7 +11,7 @@ namespace lumora
 
 QImage unRetinaImage(const QImage &picture)
 {
-    return resampleStraight(picture, halfSize(picture.size()));
+    return resample(picture, halfSize(picture.size()));
 }
 
 Result<HalvedPicture> halvedPicture(const QByteArray &bytes, const QString &name)

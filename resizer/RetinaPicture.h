@@ -10,8 +10,8 @@
 namespace lumora
 {
 
-/// The picture at half its pixels in each direction, rounded down, as straight `QImage::Format_RGBA8888`. Null
-/// where that leaves nothing.
+/// The picture at half its pixels in each direction, rounded down, as
+/// `QImage::Format_RGBA8888_Premultiplied`. Null where that leaves nothing.
 QImage unRetinaImage(const QImage &picture);
 
 /// A half-size picture ready to be written.

@@ -27,15 +27,6 @@ constexpr std::array<std::uint32_t, 256> inverseAlpha = [] {
     return table;
 }();
 
-/// Spares most pictures any work; without branches, so that it runs on whole vectors.
-bool areOpaque(const std::uint8_t *pixels, int count)
-{
-    std::uint8_t smallest = 255;
-    for (int i = 0; i < count; ++i)
-        smallest = std::min(smallest, pixels[4 * i + 3]);
-    return smallest == 255;
-}
-
 void premultiplyRow(std::uint8_t *pixel, int width)
 {
     if (areOpaque(pixel, width))
@@ -51,6 +42,15 @@ void premultiplyRow(std::uint8_t *pixel, int width)
 
 } // namespace
 
+bool areOpaque(const std::uint8_t *pixels, int count)
+{
+    // Without branches, so that it runs on whole vectors.
+    std::uint8_t smallest = 255;
+    for (int i = 0; i < count; ++i)
+        smallest = std::min(smallest, pixels[4 * i + 3]);
+    return smallest == 255;
+}
+
 QImage premultiplied(QImage picture)
 {
     if (picture.format() == QImage::Format_RGBA8888_Premultiplied)
@@ -65,29 +65,17 @@ QImage premultiplied(QImage picture)
     return result;
 }
 
-QImage straight(const QImage &picture)
-{
-    if (picture.format() == QImage::Format_RGBA8888)
-        return picture;
-    QImage result = premultiplied(picture);
-    const int width = result.width();
-    for (int y = 0; y < result.height(); ++y)
-        straightenPixels(result.scanLine(y), width);
-    result.reinterpretAsFormat(QImage::Format_RGBA8888);
-    return result;
-}
-
 void straightenPixels(std::uint8_t *pixels, int count)
 {
     if (areOpaque(pixels, count))
         return;
-    for (const std::uint8_t *end = pixels + 4 * count; pixels != end; pixels += 4) {
-        const unsigned alpha = pixels[3];
+    for (std::uint8_t *pixel = pixels; pixel != pixels + 4 * count; pixel += 4) {
+        const unsigned alpha = pixel[3];
         if (alpha == 255)
             continue;
         for (int channel = 0; channel < 3; ++channel) {
-            const unsigned value = std::min<unsigned>(pixels[channel], alpha);
-            pixels[channel] = static_cast<std::uint8_t>((value * inverseAlpha[alpha] + 0x8000) >> 16);
+            const unsigned value = std::min<unsigned>(pixel[channel], alpha);
+            pixel[channel] = static_cast<std::uint8_t>((value * inverseAlpha[alpha] + 0x8000) >> 16);
         }
     }
 }

@@ -12,11 +12,12 @@ namespace lumora
 /// differently from one processor to the next and the files must not.
 QImage premultiplied(QImage picture);
 
-/// Converts any picture that is not so yet to straight `QImage::Format_RGBA8888`; fully transparent pixels of a
-/// converted one become transparent black.
-QImage straight(const QImage &picture);
-
-/// Turns that many premultiplied RGBA pixels into straight ones where they stand, as `straight` does.
+/// Turns `count` premultiplied RGBA pixels into straight ones in place. A translucent pixel has as many colors as its
+/// premultiplied bytes tell apart, which are all that show on any ground: 23 shades of grey at an alpha of 22. Fully
+/// transparent pixels become transparent black, and a color above its alpha is taken for equal to it.
 void straightenPixels(std::uint8_t *pixels, int count);
+
+/// Whether the alpha of all these RGBA pixels is 255.
+bool areOpaque(const std::uint8_t *pixels, int count);
 
 } // namespace lumora

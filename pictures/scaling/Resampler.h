@@ -11,16 +11,16 @@ namespace lumora
 {
 
 class ColorPlanes;
-class FlatAreas;
 
-/// Lanczos with three lobes, by libzimg on the premultiplied colour planes, so that no colour of a transparent pixel
-/// bleeds into its neighbours; flat areas stay flat up to their edges (see `FlatAreas`). Takes the picture apart once;
-/// any number of sizes may then be made from it, by several threads at a time.
+/// Lanczos with three lobes, by libzimg on the premultiplied color planes, so that no color of a transparent pixel
+/// bleeds into its neighbors, its ringing taken out by `clampRinging`. Takes the picture apart once; any number of
+/// sizes may then be made from it, by several threads at a time.
 class Resampler
 {
 public:
     /// Keeps a planar copy of the picture: 5 bytes a pixel (4 for an opaque one), and a third more once a small size
-    /// was made.
+    /// was made. Of a straight picture with transparency it keeps twice as much, since bytes of premultiplied color
+    /// cannot hold its faint colors.
     explicit Resampler(const QImage &source);
     ~Resampler();
 
@@ -33,8 +33,6 @@ private:
     std::unique_ptr<ColorPlanes> planesOf(QSize size) const;
 
     std::unique_ptr<ColorPlanes> m_planes;
-    mutable std::once_flag m_flatAreasFound;
-    mutable std::unique_ptr<FlatAreas> m_flatAreas;
     mutable std::once_flag m_halved;
     mutable std::unique_ptr<Resampler> m_half;
 
@@ -43,10 +41,5 @@ private:
 
 /// One size of one picture: `Resampler(source).scaledTo(size)`.
 QImage resample(const QImage &source, QSize size);
-
-/// One size of one picture, from straight colours to straight `QImage::Format_RGBA8888`. Bytes of premultiplied colour
-/// cannot tell faint colours apart; in between this works with 16 bits, so that a flat colour of any transparency stays
-/// exactly that.
-QImage resampleStraight(QImage source, QSize size);
 
 } // namespace lumora

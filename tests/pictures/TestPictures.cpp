@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "TestPictures.h"
 
+#include "pictures/pixels/PixelFormat.h"
+
 #include <QBuffer>
 #include <QImageWriter>
 #include <QtEndian>
@@ -38,6 +40,15 @@ QImage quarters(int width, int height)
         }
     }
     return picture;
+}
+
+QImage straightened(const QImage &picture)
+{
+    QImage result = premultiplied(picture);
+    for (int y = 0; y < result.height(); ++y)
+        straightenPixels(result.scanLine(y), result.width());
+    result.reinterpretAsFormat(QImage::Format_RGBA8888);
+    return result;
 }
 
 bool near(QRgb one, QRgb other, int tolerance)

@@ -11,10 +11,13 @@ namespace lumora
 /// A picture with gradients, hard edges, transparency and a little noise, the same on every call.
 QImage testPicture(int width, int height);
 
-/// Coloured quarters: red, green / blue, half-transparent white.
+/// Colored quarters: red, green / blue, half-transparent white.
 QImage quarters(int width, int height);
 
-/// True where no channel of the two colours differs by more than that.
+/// The premultiplied picture in straight colors, as it is written to a file.
+QImage straightened(const QImage &picture);
+
+/// True where no channel of the two colors differs by more than that.
 bool near(QRgb one, QRgb other, int tolerance);
 
 /// The picture in a format that Qt writes ("png", "jpeg", "tiff", "webp", "bmp"), at best quality.
@@ -26,7 +29,7 @@ QByteArray pngClaiming(quint32 width, quint32 height);
 /// A whole PNG file of transparent black, 16 bits a sample; made without ever being unpacked.
 QByteArray pngOfZeroes(quint32 width, quint32 height);
 
-/// A whole PNG file of 64 x 64 pixels whose colour profile unpacks to that many zeroes.
+/// A whole PNG file of 64 x 64 pixels whose color profile unpacks to that many zeroes.
 QByteArray pngWithLongProfile(qsizetype bytes);
 
 /// The file with another chunk after its header.

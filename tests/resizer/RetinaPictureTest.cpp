@@ -79,7 +79,8 @@ private slots:
         QTest::addColumn<QByteArray>("file");
         QTest::addColumn<QColor>("color");
         const QColor opaque(10, 20, 200);
-        const QColor faint(200, 101, 3, 50);
+        // A color that its alpha shows exactly.
+        const QColor faint(204, 102, 5, 50);
         QTest::newRow("RGB") << pictureFile(flat(QImage::Format_RGB32, opaque)) << opaque;
         QTest::newRow("RGBA") << pictureFile(flat(QImage::Format_ARGB32, faint)) << faint;
         QTest::newRow("palette") << pictureFile(

@@ -3,6 +3,7 @@
 
 #include "ZonePlate.h"
 #include "pictures/pixels/PixelFormat.h"
+#include "tests/pictures/TestPictures.h"
 
 #include <QTest>
 
@@ -13,15 +14,15 @@ using namespace lumora;
 namespace
 {
 
-QImage disc(QColor colour)
+QImage disc(QColor color)
 {
     QImage picture(zonePlateEdge, zonePlateEdge, QImage::Format_RGBA8888);
     picture.fill(QColor(0, 0, 0, 0));
     for (int y = 0; y < zonePlateEdge; ++y) {
         for (int x = 0; x < zonePlateEdge; ++x) {
             const double inside = 400.5 - std::hypot(x - 511.5, y - 511.5);
-            colour.setAlphaF(static_cast<float>(std::clamp(inside, 0.0, 1.0)));
-            picture.setPixelColor(x, y, colour);
+            color.setAlphaF(static_cast<float>(std::clamp(inside, 0.0, 1.0)));
+            picture.setPixelColor(x, y, color);
         }
     }
     return picture;
@@ -40,7 +41,7 @@ private slots:
     void transparentSurroundingsLeaveNoHalo();
     void ownSizeGivesTheSamePixels();
     void sizesDoNotDependOnEachOther();
-    void noColourExceedsItsAlpha();
+    void noColorExceedsItsAlpha();
     void anySize_data();
     void anySize();
     void opaqueStaysOpaque();
@@ -71,7 +72,7 @@ void ResamplerTest::keepsDetailAndAddsNone()
 
 void ResamplerTest::transparentSurroundingsLeaveNoHalo_data()
 {
-    QTest::addColumn<QColor>("colour");
+    QTest::addColumn<QColor>("color");
     QTest::addColumn<int>("edge");
     for (const int edge : {16, 29, 57, 120, 180, 512, 1000, 1023, 1024, 1500})
         QTest::addRow("white disc, %d", edge) << QColor(Qt::white) << edge;
@@ -80,9 +81,9 @@ void ResamplerTest::transparentSurroundingsLeaveNoHalo_data()
 
 void ResamplerTest::transparentSurroundingsLeaveNoHalo()
 {
-    QFETCH(QColor, colour);
+    QFETCH(QColor, color);
     QFETCH(int, edge);
-    const QImage result = straight(resample(disc(colour), {edge, edge}));
+    const QImage result = straightened(resample(disc(color), {edge, edge}));
     int partly = 0;
     for (int y = 0; y < edge; ++y) {
         for (int x = 0; x < edge; ++x) {
@@ -90,7 +91,7 @@ void ResamplerTest::transparentSurroundingsLeaveNoHalo()
             if (qAlpha(pixel) == 0)
                 continue;
             partly += qAlpha(pixel) < 255;
-            QCOMPARE(pixel | 0xFF000000, colour.rgb());
+            QCOMPARE(pixel | 0xFF000000, color.rgb());
         }
     }
     QVERIFY(partly > 0);
@@ -112,7 +113,7 @@ void ResamplerTest::sizesDoNotDependOnEachOther()
         QCOMPARE(all.scaledTo({edge, edge}), resample(source, {edge, edge}));
 }
 
-void ResamplerTest::noColourExceedsItsAlpha()
+void ResamplerTest::noColorExceedsItsAlpha()
 {
     // A bright, faint pattern beside an opaque one makes the filter overshoot.
     QImage picture(64, 64, QImage::Format_RGBA8888);
