@@ -43,10 +43,12 @@ constexpr qsizetype leastGainOfRows = 128;
 
 /// Enough to tell which filters suit noise.
 constexpr int trialLevel = 1;
-/// Of batches: what compresses to no less than this share of its bytes at that level is taken for noise.
+/// Of batches: a photo that shrinks to no less than this share of its bytes at that level is mostly noise.
 constexpr double noisyShare = 0.3;
-/// What a drawing of a batch is worth.
+/// libdeflate's level for drawings in a batch.
 constexpr int batchDrawingLevel = 6;
+/// Of batches: a drawing that shrinks to one byte in this many without a filter gains too little from one.
+constexpr qsizetype plainEnough = 20;
 
 qsizetype filteredRowBytes(QSize size)
 {
@@ -196,11 +198,22 @@ PngSection makePngSection(const PngRows &picture, int index)
 PngSection makeOnlyPngSection(const PngRows &picture)
 {
     const RowRange all{0, picture.size().height()};
-    CompressedRows result = compressed(filteredRows(picture, {&all, 1}, PngFilterChoice::ByMagnitude), trialLevel);
-    // Flat drawings shrink further for next to nothing; noise takes twice the time for a twentieth of its bytes.
-    if (static_cast<double>(result.stream.size()) < noisyShare * static_cast<double>(result.rows.size()))
-        result.stream = deflated(result.rows, batchDrawingLevel);
-    return finished(std::move(result));
+    const auto rowsBy = [&](PngFilterChoice choice) { return filteredRows(picture, {&all, 1}, choice); };
+    std::vector<std::uint8_t> plain = rowsBy(PngFilterChoice::None);
+    if (novelty(plain, picture.size().width()) > mostNoveltyOfDrawings) {
+        CompressedRows photo = compressed(rowsBy(PngFilterChoice::ByMagnitude), trialLevel);
+        // Slow shades shrink further in little time; noise takes twice the time for a twentieth of its bytes.
+        if (static_cast<double>(photo.stream.size()) < noisyShare * static_cast<double>(photo.rows.size()))
+            photo.stream = deflated(photo.rows, batchDrawingLevel);
+        return finished(std::move(photo));
+    }
+    CompressedRows drawing = compressed(std::move(plain), batchDrawingLevel);
+    if (drawing.stream.size() * plainEnough > std::ssize(drawing.rows)) {
+        CompressedRows filtered = compressed(rowsBy(PngFilterChoice::ByMagnitude), batchDrawingLevel);
+        if (filtered.stream.size() < drawing.stream.size())
+            drawing = std::move(filtered);
+    }
+    return finished(std::move(drawing));
 }
 
 QByteArray joinPngSections(QSize size, std::span<const PngSection> sections)
