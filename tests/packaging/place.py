@@ -19,8 +19,8 @@ def run(*command, **options):
     )
 
 
-def package():
-    """The one .deb that `cpack` made for this version."""
-    found = glob.glob(str(BUILD / "package" / f"lumora_{VERSION}_*.deb"))
-    assert len(found) == 1, f"expected one package of version {VERSION}, found {found}"
+def package(name="lumora"):
+    """The one .deb of that name and this version that `packaging/deb/make-packages` made."""
+    found = glob.glob(str(BUILD / "package" / f"{name}_{VERSION}_*.deb"))
+    assert len(found) == 1, f"expected one package {name} of version {VERSION}, found {found}"
     return Path(found[0])

@@ -5,14 +5,13 @@ Each machine is a folder of commands, the only one in PATH: this system's text t
 were called in place of whatever would change the system."""
 import os
 import shutil
-import stat
 import subprocess
 import tempfile
 import unittest
 from pathlib import Path
 
 SOURCE = Path(os.environ["LUMORA_SOURCE"])
-TOOLS = ("bash", "cat", "chmod", "comm", "dirname", "env", "mkdir", "mktemp", "rm", "sed", "sort")
+TOOLS = ("bash", "cat", "chmod", "comm", "dirname", "env", "mkdir", "mktemp", "rm", "sed", "sort", "stat")
 # What the stand-in for the build makes: a program that tells its arguments.
 BUILD = 'mkdir -p "$FAKE_ROOT/build/release" && printf \'%s\\n\' \'#!/bin/sh\' \'echo "program: $*"\' >"$FAKE_ROOT/build/release/lumora" && chmod +x "$FAKE_ROOT/build/release/lumora"'
 
@@ -23,6 +22,9 @@ def packages():
 
 
 class EnsurePackages(unittest.TestCase):
+    # What a command is run by; nothing: by whoever runs the tests.
+    identity = ()
+
     def setUp(self):
         self.place = Path(tempfile.mkdtemp(prefix="lumora-machine-"))
         self.addCleanup(shutil.rmtree, self.place)
@@ -43,7 +45,7 @@ class EnsurePackages(unittest.TestCase):
         """Makes a command that writes its call down first."""
         path = self.commands / name
         path.write_text(f'#!/bin/sh\necho "{name} $*" >>"$FAKE_CALLS"\n{script}\n')
-        path.chmod(path.stat().st_mode | stat.S_IXUSR)
+        path.chmod(0o755)
 
     def be_debian(self, user, installed, apt="exit 0"):
         self.command("id", f"echo {user}")
@@ -53,7 +55,7 @@ class EnsurePackages(unittest.TestCase):
 
     def run_lumora(self, *arguments):
         environment = {"PATH": str(self.commands), "FAKE_CALLS": str(self.calls), "FAKE_ROOT": str(self.root)}
-        return subprocess.run([self.root / "run", *arguments], env=environment, stdin=subprocess.DEVNULL,
+        return subprocess.run([*self.identity, self.root / "run", *arguments], env=environment, stdin=subprocess.DEVNULL,
                               capture_output=True, text=True, timeout=60)
 
     def called(self, *names):
@@ -107,6 +109,48 @@ class EnsurePackages(unittest.TestCase):
         self.assertNotEqual(result.returncode, 0)
         self.assertEqual(result.stdout, "")
         self.assertIn("E: no such package", result.stderr)
+        self.assertEqual(self.called("cmake", "ninja"), [])
+
+    def test_it_says_what_it_installs_and_how_long_that_takes(self):
+        self.be_debian(0, packages()[2:])
+        result = self.run_lumora("--version")
+        expected = f"installing 2 packages with apt-get, which takes about a minute: {' '.join(packages()[:2])}\n"
+        self.assertIn(expected, result.stderr)
+        self.assertIn("the first time takes about three minutes on two cores\n", result.stderr)
+
+    def test_without_a_terminal_each_tenth_of_the_build_is_a_line(self):
+        self.be_debian(0, packages())
+        lines = "; ".join(f"echo '[{step}/30] Building'" for step in range(1, 31))
+        self.command("ninja", f"{lines}; {BUILD}")
+        result = self.run_lumora("--version")
+        self.assert_runs(result, "--version")
+        built = [line for line in result.stderr.splitlines() if "built" in line]
+        self.assertEqual(built, [f"lumora: built {tenth}0 %" for tenth in range(1, 11)])
+
+    def test_a_build_that_fails_shows_the_compilers_words(self):
+        self.be_debian(0, packages())
+        self.command("ninja", "echo '[1/30] Building'; echo 'x.cpp: error: no'; exit 1")
+        result = self.run_lumora("--version")
+        self.assertNotEqual(result.returncode, 0)
+        self.assertEqual(result.stdout, "")
+        self.assertIn("x.cpp: error: no\n", result.stderr)
+
+    def test_the_build_folder_of_another_user_is_named(self):
+        self.be_debian(1000, packages())
+        (self.root / "build/release").mkdir(parents=True)
+        (self.root / "build/release/build.ninja").touch()
+        if os.geteuid() == 0:
+            self.identity = (shutil.which("setpriv"), "--reuid=65534", "--regid=65534", "--clear-groups")
+            self.place.chmod(0o755)
+            self.calls.chmod(0o666)
+        else:
+            (self.root / "build").chmod(0o555)
+            self.addCleanup((self.root / "build").chmod, 0o755)
+        result = self.run_lumora("--version")
+        self.assertEqual(result.returncode, 1, result.stderr)
+        self.assertEqual(result.stdout, "")
+        self.assertIn("lumora: build belongs to another user (", result.stderr)
+        self.assertIn("remove the folder build and start again.\n", result.stderr)
         self.assertEqual(self.called("cmake", "ninja"), [])
 
     def test_with_everything_there_nothing_is_said_or_installed(self):

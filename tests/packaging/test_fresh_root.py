@@ -90,8 +90,9 @@ class Unpacked:
 
     def __init__(self):
         self.folder = Path(tempfile.mkdtemp(prefix="unpacked-", dir=BUILD))
-        result = run("dpkg-deb", "--extract", package(), self.folder)
-        assert result.returncode == 0, result.stdout
+        for name in ("lumora", "lumora-cli"):
+            result = run("dpkg-deb", "--extract", package(name), self.folder)
+            assert result.returncode == 0, result.stdout
 
     def remove(self):
         shutil.rmtree(self.folder)
@@ -150,7 +151,7 @@ class FreshRoot(unittest.TestCase):
                 file=sys.stderr,
             )
             cls.root = Unpacked()
-            result = run("apt-get", "install", "--simulate", "--no-install-recommends", package())
+            result = run("apt-get", "install", "--simulate", "--no-install-recommends", package("lumora-cli"), package())
             assert result.returncode == 0, result.stdout
         else:
             cls.root = cls.installed()
@@ -163,15 +164,17 @@ class FreshRoot(unittest.TestCase):
         if made_now:
             make_base()
         root = Root()
-        shutil.copy(package(), root.folder / "lumora.deb")
-        result = root.apt("install", "/lumora.deb")
+        for name in ("lumora", "lumora-cli"):
+            shutil.copy(package(name), root.folder / f"{name}.deb")
+        result = root.apt("install", "/lumora-cli.deb", "/lumora.deb")
         if result.returncode != 0 and not made_now:
             # The kept package lists may name versions that the mirror no longer has.
             root.remove()
             BASE.unlink()
             return cls.installed()
         assert result.returncode == 0, result.stdout
-        (root.folder / "lumora.deb").unlink()
+        for name in ("lumora", "lumora-cli"):
+            (root.folder / f"{name}.deb").unlink()
         return root
 
     @classmethod
@@ -261,7 +264,7 @@ class FreshRoot(unittest.TestCase):
 
     @unittest.skipUnless(AS_ROOT, "nothing was installed")
     def test_9_removal_leaves_no_trace(self):
-        result = self.root.apt("purge", "--autoremove", "lumora")
+        result = self.root.apt("purge", "--autoremove", "lumora", "lumora-cli")
         self.assertEqual(result.returncode, 0, result.stdout)
         left = self.root.run("find", "/", "-xdev", "-iname", "*lumora*", "-not", "-path", "/archives/*").stdout
         self.assertEqual(left, "")
