@@ -3,6 +3,7 @@
 #include "validator/binary/CodeSignature.h"
 #include "validator/binary/DerEntitlements.h"
 #include "validator/binary/MachOReader.h"
+#include "validator/binary/ProvisioningProfile.h"
 #include "validator/binary/ResourceSeal.h"
 
 #include <cstdlib>
@@ -38,6 +39,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
         }
     }
     readSigner(bytes, "content");
+    readProvisioningProfile(bytes);
     entitlementsFromDer(bytes);
     if (const auto seal = readResourceSeal(bytes))
         compareWithSeal(*seal, {{QStringLiteral("file"), {}}}, {});
