@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "RenderedIcons.h"
 
-#include "pictures/pixels/PixelFormat.h"
 #include "pictures/png/PngRows.h"
 #include "pictures/png/PngSection.h"
 #include "pictures/scaling/Resampler.h"
@@ -43,7 +42,7 @@ constexpr int smallestEarlySize = 256;
 class RenderedIcons::Workshop
 {
 public:
-    explicit Workshop(const QImage &icon) : m_icon(premultiplied(icon)) {}
+    explicit Workshop(const QImage &icon) : m_icon(icon) {}
 
     ~Workshop()
     {
