@@ -12,7 +12,9 @@ QString fileIdentity(const QString &path)
     const QString canonical = file.canonicalFilePath();
     if (!canonical.isEmpty())
         return canonical;
-    return QFileInfo(file.path()).canonicalFilePath() + u'/' + file.fileName();
+    // Folders that do not exist yet have no links in them.
+    const QString folder = file.path();
+    return (file.fileName().isEmpty() || folder == path ? folder : fileIdentity(folder)) + u'/' + file.fileName();
 }
 
 } // namespace lumora

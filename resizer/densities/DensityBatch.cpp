@@ -1,0 +1,190 @@
+// SPDX-License-Identifier: MIT
+#include "DensityBatch.h"
+
+#include "foundation/WholeFile.h"
+#include "pictures/PictureReader.h"
+#include "pictures/png/PngEncoder.h"
+#include "pictures/scaling/Resampler.h"
+#include "pictures/webp/WebPEncoder.h"
+#include "resizer/MemoryBudget.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QThread>
+
+#include <condition_variable>
+#include <map>
+#include <mutex>
+#include <new>
+#include <thread>
+
+using namespace Qt::StringLiterals;
+
+namespace lumora
+{
+
+namespace
+{
+
+/// What all pictures in work may take together.
+constexpr qint64 memoryForPictures = 768LL * 1024 * 1024;
+
+/// The decoded picture, its color planes with their half, twice as deep for a translucent one, and the largest result
+/// with its file.
+qint64 scalingMemory(QSize pixels)
+{
+    constexpr qint64 bytesPerPixel = 4 + 14 + 6;
+    return bytesPerPixel * pixels.width() * pixels.height();
+}
+
+Result<QByteArray> encoded(const QImage &picture, const PlannedPicture &planned, const DensityBatchOptions &options)
+{
+    if (planned.format == ScaledFormat::WebP)
+        return encodeWebP(picture, {options.webpQuality}, planned.target);
+    return encodePngQuickly(picture);
+}
+
+Outcome write(const QString &path, const QByteArray &bytes, ExistingFiles existing)
+{
+    const QFileInfo file(path);
+    const bool taken = file.exists() || file.isSymLink();
+    if (taken && existing == ExistingFiles::Keep)
+        return Failure{FailureCode::CannotWrite, path, u"a file of that name has come meanwhile"_s};
+    if (!QDir().mkpath(file.path()))
+        return Failure{FailureCode::CannotCreateFolder, file.path(), {}};
+    return writeWholeFile(path, bytes);
+}
+
+/// One source at work. Reading it once serves all of its sizes.
+class SourceScaling
+{
+public:
+    SourceScaling(const PlannedSource &source, const DensityBatchOptions &options)
+        : m_source(source), m_options(options)
+    {
+    }
+
+    std::vector<ScaledFile> run(MemoryBudget &budget) const
+    {
+        std::vector<ScaledFile> files;
+        for (const PlannedPicture &picture : m_source.pictures) {
+            if (picture.written)
+                files.push_back({m_source.source, picture.target, picture.size, picture.rounded, 0, Done{}});
+        }
+        if (files.empty())
+            return files;
+        const MemoryBudget::Share share(budget, scalingMemory(m_source.size));
+        try {
+            scaleInto(files);
+        } catch (const std::bad_alloc &) {
+            failAll(files, {FailureCode::TooLarge, m_source.source, u"not enough memory"_s});
+        }
+        return files;
+    }
+
+private:
+    void scaleInto(std::vector<ScaledFile> &files) const
+    {
+        const Result<QByteArray> content = readWholeFile(m_source.source, largestPictureFile);
+        const Result<QImage> picture =
+            content ? readStraightPicture(content.value(), m_source.source) : content.failure();
+        if (!picture) {
+            failAll(files, picture.failure());
+            return;
+        }
+        const QSize size = picture.value().size();
+        // One that its orientation turns is as large as its header says, the other way round; any other one is a file
+        // that somebody has changed since.
+        if (size != m_source.size && size != m_source.size.transposed()) {
+            failAll(files, {FailureCode::WrongSize, m_source.source, u"it has changed since it was looked at"_s});
+            return;
+        }
+        const Resampler resampler(picture.value());
+        auto file = files.begin();
+        for (const PlannedPicture &planned : m_source.pictures) {
+            if (!planned.written)
+                continue;
+            const ScaledSize scaled = scaledSize(size, m_source.density, planned.density);
+            file->size = scaled.size;
+            const Result<QByteArray> bytes = encoded(resampler.scaledTo(scaled.size), planned, m_options);
+            file->outcome = bytes ? write(planned.target, bytes.value(), m_options.existing) : bytes.failure();
+            file->bytes = bytes && file->outcome ? bytes.value().size() : 0;
+            ++file;
+        }
+    }
+
+    static void failAll(std::vector<ScaledFile> &files, const Failure &failure)
+    {
+        // What is written is written.
+        for (ScaledFile &file : files) {
+            if (file.bytes == 0)
+                file.outcome = failure;
+        }
+    }
+
+    const PlannedSource &m_source;
+    const DensityBatchOptions &m_options;
+};
+
+/// Workers scale the sources; the thread that called reports them in order.
+class Batch
+{
+public:
+    Batch(const DensityPlan &plan, const DensityBatchOptions &options) : m_plan(plan), m_options(options) {}
+
+    void run(const SourceScaled &scaled)
+    {
+        const auto workers = std::min(static_cast<std::size_t>(std::max(QThread::idealThreadCount(), 1)), count());
+        std::vector<std::jthread> threads;
+        for (std::size_t i = 0; i < workers; ++i)
+            threads.emplace_back([this] { work(); });
+        for (std::size_t index = 0; index < count(); ++index) {
+            if (!scaled(static_cast<qsizetype>(index), take(index)))
+                break;
+        }
+        const std::lock_guard lock(m_mutex);
+        m_next = count();
+    }
+
+private:
+    std::size_t count() const { return m_plan.sources.size(); }
+
+    void work()
+    {
+        std::unique_lock lock(m_mutex);
+        while (m_next < count()) {
+            const std::size_t index = m_next++;
+            lock.unlock();
+            std::vector<ScaledFile> files = SourceScaling(m_plan.sources[index], m_options).run(m_budget);
+            lock.lock();
+            m_done.emplace(index, std::move(files));
+            m_finished.notify_one();
+        }
+    }
+
+    std::vector<ScaledFile> take(std::size_t index)
+    {
+        std::unique_lock lock(m_mutex);
+        m_finished.wait(lock, [this, index] { return m_done.contains(index); });
+        return std::move(m_done.extract(index).mapped());
+    }
+
+    const DensityPlan &m_plan;
+    const DensityBatchOptions &m_options;
+    MemoryBudget m_budget{memoryForPictures};
+
+    std::mutex m_mutex; ///< guards everything below
+    std::condition_variable m_finished;
+    std::map<std::size_t, std::vector<ScaledFile>> m_done;
+    std::size_t m_next = 0;
+};
+
+} // namespace
+
+void scaleDensities(const DensityPlan &plan, const DensityBatchOptions &options, const SourceScaled &scaled)
+{
+    if (!plan.sources.empty())
+        Batch(plan, options).run(scaled);
+}
+
+} // namespace lumora

@@ -1,0 +1,269 @@
+// SPDX-License-Identifier: MIT
+#include "resizer/densities/DensityPlan.h"
+#include "resizer/densities/DensityBatch.h"
+
+#include "foundation/WholeFile.h"
+#include "pictures/PictureReader.h"
+#include "tests/pictures/TestPictures.h"
+#include "tests/resizer/RetinaFixtures.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace lumora;
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+DensityRequest requestFor(const QString &layout)
+{
+    DensityRequest request;
+    request.layout = densityLayoutNamed(layout);
+    return request;
+}
+
+} // namespace
+
+/// What is planned for a folder is what is written, and nobody loses a file.
+class DensityPlanTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        QVERIFY(m_folder->isValid());
+    }
+
+    void everyMissingDensityIsPlanned_data()
+    {
+        QTest::addColumn<QString>("layout");
+        QTest::addColumn<QStringList>("files");
+        QTest::addColumn<QStringList>("targets");
+        QTest::newRow("ios") << u"ios"_s << QStringList{u"a@3x.png"_s}
+                             << QStringList{u"a@2x.png 40x20"_s, u"a.png 20x10"_s};
+        QTest::newRow("ios, one there") << u"ios"_s << QStringList{u"a@3x.png"_s, u"a@2x.png"_s}
+                                        << QStringList{u"a@2x.png kept"_s, u"a.png 20x10"_s};
+        QTest::newRow("ios, the larger of two")
+            << u"ios"_s << QStringList{u"b@2x.png"_s} << QStringList{u"b.png 30x15"_s};
+        QTest::newRow("nothing to do") << u"ios"_s << QStringList{u"b.png"_s}
+                                       << QStringList{u"no picture to scale down from"_s};
+        QTest::newRow("android") << u"android"_s << QStringList{u"res/drawable-xxxhdpi/a.png"_s}
+                                 << QStringList{u"res/drawable-xxhdpi/a.png 45x23 rounded"_s,
+                                                u"res/drawable-xhdpi/a.png 30x15"_s,
+                                                u"res/drawable-hdpi/a.png 23x11 rounded"_s,
+                                                u"res/drawable-mdpi/a.png 15x8 rounded"_s};
+        QTest::newRow("flutter") << u"flutter"_s << QStringList{u"assets/3.0x/a.png"_s}
+                                 << QStringList{u"assets/2.0x/a.png 40x20"_s, u"assets/a.png 20x10"_s};
+        QTest::newRow("react native") << u"react-native"_s << QStringList{u"a@3x.png"_s}
+                                      << QStringList{u"a@2x.png 40x20"_s, u"a@1.5x.png 30x15"_s, u"a.png 20x10"_s};
+        QTest::newRow("nine patch") << u"android"_s << QStringList{u"drawable-xxxhdpi/a.9.png"_s}
+                                    << QStringList{u"a nine-patch picture"_s};
+        QTest::newRow("hidden") << u"ios"_s << QStringList{u".git/a@3x.png"_s}
+                                << QStringList{u"no picture to scale down from"_s};
+    }
+    void everyMissingDensityIsPlanned()
+    {
+        QFETCH(QString, layout);
+        QFETCH(QStringList, files);
+        for (const QString &file : files)
+            put(file, {60, 30});
+        QTEST(described(planDensities(m_folder->path(), requestFor(layout))), "targets");
+    }
+
+    void theWantedDensitiesAreMade()
+    {
+        put(u"a@4x.png"_s, {80, 40});
+        put(u"b@3x.png"_s, {60, 30});
+        DensityRequest request = requestFor(u"react-native"_s);
+        request.from = densityNamed(u"4x");
+        request.to = {*densityNamed(u"1.5x"), *densityNamed(u"4x"), *densityNamed(u"1.5x")};
+        QCOMPARE(described(planDensities(m_folder->path(), request)), QStringList{u"a@1.5x.png 30x15"_s});
+    }
+
+    void whatIsPlannedIsWritten()
+    {
+        put(u"a@3x.png"_s, {91, 62});
+        put(u"sub/b@3x.png"_s, {30, 30});
+        DensityRequest request = requestFor(u"ios"_s);
+        const DensityPlan plan = planDensities(m_folder->path(), request);
+        QCOMPARE(filesBelow(), 2);
+        QStringList written;
+        scaleDensities(plan, {}, [&](qsizetype index, const std::vector<ScaledFile> &files) {
+            expect(index < 2);
+            for (const ScaledFile &file : files) {
+                expect(file.outcome.ok());
+                written << relative(file.target);
+                const Result<QImage> picture = readPicture(file.target);
+                expect(picture.ok() && picture.value().size() == file.size && file.bytes > 0);
+                expect(near(picture.value().pixel(1, 1), qRgb(10, 20, 200), 0));
+            }
+            return true;
+        });
+        QCOMPARE(written, (QStringList{u"a@2x.png"_s, u"a.png"_s, u"sub/b@2x.png"_s, u"sub/b.png"_s}));
+        // Once more there is nothing left to do.
+        const DensityPlan again = planDensities(m_folder->path(), request);
+        QVERIFY(std::ranges::none_of(again.sources[0].pictures, &PlannedPicture::written));
+        QVERIFY(!m_failed);
+    }
+
+    void anExistingFileStaysUntilReplacingIsAllowed()
+    {
+        put(u"a@3x.png"_s, {60, 30});
+        put(u"a.png"_s, {7, 7});
+        const QByteArray before = content(u"a.png"_s);
+        DensityRequest request = requestFor(u"ios"_s);
+        scaleDensities(planDensities(m_folder->path(), request), {}, [](auto, const auto &) { return true; });
+        QCOMPARE(content(u"a.png"_s), before);
+        request.existing = ExistingFiles::Replace;
+        const DensityPlan plan = planDensities(m_folder->path(), request);
+        // The options have their own say, so that a plan of long ago does no harm.
+        Outcome outcome = Done{};
+        scaleDensities(plan, {}, [&](auto, const std::vector<ScaledFile> &files) {
+            outcome = files.back().outcome;
+            return true;
+        });
+        QVERIFY(!outcome.ok());
+        QCOMPARE(content(u"a.png"_s), before);
+        scaleDensities(plan, {{}, ExistingFiles::Replace}, [](auto, const auto &) { return true; });
+        QVERIFY(content(u"a.png"_s) != before);
+    }
+
+    void aSourceIsNeverReplaced()
+    {
+        put(u"a@3x.png"_s, {60, 30});
+        const QByteArray before = content(u"a@3x.png"_s);
+        QVERIFY(QFile::link(path(u"a@3x.png"_s), path(u"a@2x.png"_s)));
+        DensityRequest request = requestFor(u"ios"_s);
+        request.from = densityNamed(u"3x");
+        request.existing = ExistingFiles::Replace;
+        const DensityPlan plan = planDensities(m_folder->path(), request);
+        QCOMPARE(plan.failures.size(), std::size_t{1});
+        QCOMPARE(plan.failures[0].code, FailureCode::WouldReplaceSource);
+        scaleDensities(plan, {{}, ExistingFiles::Replace}, [](auto, const auto &) { return true; });
+        QCOMPARE(content(u"a@3x.png"_s), before);
+    }
+
+    void twoSourcesNeverShareATarget()
+    {
+        put(u"a@3x.png"_s, {60, 30});
+        putWebP(u"a@3x.webp"_s, {60, 30});
+        DensityRequest request = requestFor(u"ios"_s);
+        request.format = ScaledFormat::Png;
+        const DensityPlan plan = planDensities(m_folder->path(), request);
+        QCOMPARE(plan.failures.size(), std::size_t{2});
+        QVERIFY(plan.failures[0].detail.endsWith(u"a@3x.png gives the same file"_s));
+        request.format = ScaledFormat::AsSource;
+        QCOMPARE(described(planDensities(m_folder->path(), request)),
+                 (QStringList{u"a@2x.png 40x20"_s, u"a.png 20x10"_s, u"a@2x.webp 40x20"_s, u"a.webp 20x10"_s}));
+    }
+
+    void resultsMayGoElsewhereAndBeWebP()
+    {
+        put(u"res/drawable-xxxhdpi/a.png"_s, {64, 64});
+        QTemporaryDir other;
+        DensityRequest request = requestFor(u"android"_s);
+        request.destination = other.path();
+        request.format = ScaledFormat::WebP;
+        request.to = {*densityNamed(u"mdpi")};
+        scaleDensities(planDensities(m_folder->path(), request), {80, ExistingFiles::Keep},
+                       [](auto, const auto &) { return true; });
+        QCOMPARE(QImage(other.path() + u"/res/drawable-mdpi/a.webp"_s).size(), QSize(16, 16));
+        QCOMPARE(filesBelow(), 1);
+    }
+
+    void damageIsToldAndTheRestIsDone()
+    {
+        put(u"b@3x.png"_s, {60, 30});
+        QVERIFY(writeWholeFile(path(u"a@3x.png"_s), "no picture").ok());
+        QVERIFY(writeWholeFile(path(u"c@3x.png"_s), content(u"b@3x.png"_s).chopped(30)).ok());
+        const DensityPlan plan = planDensities(m_folder->path(), requestFor(u"ios"_s));
+        QCOMPARE(plan.failures.size(), std::size_t{1});
+        int failed = 0;
+        scaleDensities(plan, {}, [&failed](auto, const std::vector<ScaledFile> &files) {
+            for (const ScaledFile &file : files)
+                failed += file.outcome.ok() ? 0 : 1;
+            return true;
+        });
+        QCOMPARE(failed, 2);
+        QVERIFY(QFile::exists(path(u"b.png"_s)));
+        QVERIFY(!QFile::exists(path(u"c.png"_s)));
+    }
+
+    void aPictureTurnedByItsOrientationIsTurned()
+    {
+        const QByteArray exif = QByteArray::fromHex("4d4d002a00000008000101120003000000010006000000000000");
+        QVERIFY(writeWholeFile(path(u"a@2x.webp"_s),
+                               withWebpChunk(pictureFile(quarters(40, 20), "webp"), {40, 20}, "EXIF", exif))
+                    .ok());
+        DensityRequest request = requestFor(u"ios"_s);
+        request.format = ScaledFormat::Png;
+        scaleDensities(planDensities(m_folder->path(), request), {}, [](auto, const auto &) { return true; });
+        QCOMPARE(QImage(path(u"a.png"_s)).size(), QSize(10, 20));
+    }
+
+    void aStopStops()
+    {
+        for (int number = 0; number < 40; ++number)
+            put(u"p%1@3x.png"_s.arg(number, 2, 10, QLatin1Char('0')), {30, 30});
+        qsizetype told = 0;
+        scaleDensities(planDensities(m_folder->path(), requestFor(u"ios"_s)), {},
+                       [&told](qsizetype, const auto &) { return ++told < 3; });
+        QCOMPARE(told, 3);
+        QVERIFY(filesBelow() < 40 * 3);
+    }
+
+private:
+    QString path(const QString &name) const { return m_folder->path() + u'/' + name; }
+    QString relative(const QString &file) const { return QDir(m_folder->path()).relativeFilePath(file); }
+    QByteArray content(const QString &name) const { return readWholeFile(path(name), 1 << 20).value(); }
+
+    void put(const QString &name, QSize size)
+    {
+        QVERIFY(QDir().mkpath(QFileInfo(path(name)).path()));
+        QVERIFY(putFlatPng(path(name), size, QColor(10, 20, 200)));
+    }
+    void putWebP(const QString &name, QSize size)
+    {
+        QVERIFY(writeWholeFile(path(name), pictureFile(quarters(size.width(), size.height()), "webp")).ok());
+    }
+    int filesBelow() const
+    {
+        int count = 0;
+        for (QDirIterator files(m_folder->path(), QDir::Files, QDirIterator::Subdirectories); files.hasNext(); ++count)
+            files.next();
+        return count;
+    }
+    /// Notes what failed inside of a function that has to answer something.
+    void expect(bool holds) { m_failed = m_failed || !holds; }
+
+    QStringList described(const DensityPlan &plan) const
+    {
+        QStringList lines;
+        for (const PlannedSource &source : plan.sources) {
+            for (const PlannedPicture &picture : source.pictures) {
+                QString line = relative(picture.target);
+                if (picture.written)
+                    line += u" %1x%2"_s.arg(picture.size.width()).arg(picture.size.height());
+                else
+                    line += u" kept"_s;
+                if (picture.rounded)
+                    line += u" rounded"_s;
+                lines << line;
+            }
+        }
+        for (const Failure &failure : plan.failures)
+            lines << failure.detail;
+        return lines;
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    bool m_failed = false;
+};
+
+QTEST_GUILESS_MAIN(DensityPlanTest)
+#include "DensityPlanTest.moc"
