@@ -53,6 +53,12 @@ double LabelFont::width(const QString &text) const
     return units / m_unitsPerEm;
 }
 
+bool LabelFont::hasShape(QChar character) const
+{
+    const QList<quint32> glyphs = m_font.glyphIndexesForString(QString(character));
+    return glyphs.size() == 1 && glyphs[0] != 0;
+}
+
 QPainterPath LabelFont::outline(const QString &text) const
 {
     QPainterPath path;

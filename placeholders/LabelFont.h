@@ -18,6 +18,8 @@ public:
 
     /// The sum of the advances of the text's glyphs. Digits and the small x have no kerning pairs in this font.
     double width(const QString &text) const;
+    /// Whether the font draws the character as what it is rather than as the box for what it lacks.
+    bool hasShape(QChar character) const;
     /// From baseline to the top, and from baseline to the bottom of a line, both positive; a line is their sum high.
     double ascent() const { return m_ascent; }
     double descent() const { return m_descent; }
