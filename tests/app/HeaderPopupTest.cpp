@@ -100,7 +100,7 @@ private slots:
         QFETCH(int, button);
         QFETCH(QString, addressKey);
         Application application;
-        application.delegate.showAlertWithTitle(u"Title"_s, u"Message"_s, NamedImage(u"state_warning"_s),
+        application.delegate.showAlertWithTitle(u"Title"_s, u"Message"_s, NamedImage(u"help_icon_icons"_s),
                                                 application.delegate.header()->infoButton());
         PopoverAlert *alert = PopoverAlert::currentAlert();
         QVERIFY(alert != nullptr);
