@@ -16,14 +16,14 @@ _lumora_options() {
 }
 
 _lumora_words() {
-  COMPREPLY=($(compgen -W "$1" -- "$2"))
+  mapfile -t COMPREPLY < <(compgen -W "$1" -- "$2")
 }
 
 # A list separated by commas: what stands before the last comma is kept.
 _lumora_list() {
   local before=""
   [[ $2 == *,* ]] && before=${2%,*},
-  COMPREPLY=($(compgen -P "$before" -W "$1" -- "${2##*,}"))
+  mapfile -t COMPREPLY < <(compgen -P "$before" -W "$1" -- "${2##*,}")
 }
 
 _lumora() {
@@ -33,7 +33,7 @@ _lumora() {
   case $command:$previous in
     *:--to)
       compopt -o filenames
-      COMPREPLY=($(compgen -d -- "$word"))
+      mapfile -t COMPREPLY < <(compgen -d -- "$word")
       return
       ;;
     icons:--platform) _lumora_list "iphone ipad mac android web-touch favicon all" "$word" ;;
@@ -52,7 +52,7 @@ _lumora() {
         [[ $word == -* || ${#COMPREPLY[@]} -gt 0 ]] && return
       fi
       compopt -o filenames
-      COMPREPLY=($(compgen -f -- "$word"))
+      mapfile -t COMPREPLY < <(compgen -f -- "$word")
       ;;
   esac
 }
