@@ -1,0 +1,85 @@
+# SPDX-License-Identifier: MIT
+"""Finds functions of the program that nothing in the program calls, from what its object files refer to.
+
+Calls from tests and benchmarks do not count. A function that stands in a virtual table or in Qt's table of slots and
+properties counts as called. What is kept on purpose stands in public_face.txt, with the reason.
+"""
+
+import re
+import subprocess
+from collections import Counter
+from pathlib import Path
+
+from objects import object_files
+from shown_pictures import program_files
+
+PUBLIC_FACE = Path(__file__).parent / "public_face.txt"
+# Made by Qt's tools: each picture or text set can be unloaded, which the program never does.
+GENERATED = re.compile(r"^qCleanupResources_|^qUnregisterResourceData")
+# A function with its body; what only returns a member is the readable half of a property and may wait for its reader.
+INLINE = re.compile(r"\b(\w+)\((?:[^;{}()]|\([^;{}()]*\))*\)\s*(?:const\s*)?(?:noexcept\s*)?\{(?!\s*return m_\w+;)")
+NO_CODE = re.compile(r"//[^\n]*|/\*.*?\*/|\"(?:[^\"\\\n]|\\.)*\"", re.DOTALL)
+NOT_FUNCTIONS = {"if", "for", "while", "switch", "catch", "Q_PROPERTY", "operator"}
+
+
+def program_objects(build: Path) -> list[Path]:
+    """The libraries that the program is linked from, and its main file."""
+    tests = build / "tests"
+    libraries = [file for file in sorted(build.rglob("liblumora_*.a")) if tests not in file.parents]
+    return libraries + sorted((build / "app/CMakeFiles/lumora.dir").rglob("*.o"))
+
+
+def demangled(names: list[str]) -> list[str]:
+    run = subprocess.run(["c++filt"], input="\n".join(names), stdout=subprocess.PIPE, text=True, check=True)
+    return run.stdout.splitlines()
+
+
+def plain(name: str) -> str:
+    """lumora::Popover::show(int) const as Popover::show: overloads share a name."""
+    name = re.sub(r"\[abi:\w+\]", "", name)
+    return name.split("(")[0].removeprefix("lumora::")
+
+
+def uncalled(objects: list[Path]) -> list[str]:
+    files = list(object_files(objects))
+    referred = set().union(*(file.referred for file in files))
+    nobodys = sorted(min(names) for file in files for names in file.aliases if not names & referred and "main" not in names)
+    signatures = demangled(nobodys)
+    return sorted(signature.removeprefix("lumora::") for signature in signatures if not GENERATED.match(signature))
+
+
+def public_face(text: str) -> dict[str, str]:
+    """Each name kept on purpose with its reason: a "# reason" line, then the names it holds for, one a line."""
+    kept: dict[str, str] = {}
+    reason = ""
+    for line in text.splitlines():
+        line = line.strip()
+        if line.startswith("# "):
+            reason = line[2:]
+        elif line:
+            kept[line] = reason
+    return kept
+
+
+def problems(signatures: list[str], kept: dict[str, str]) -> list[str]:
+    """Functions without a caller that nobody marked, and marks for functions that are called or gone."""
+    names = [plain(signature) for signature in signatures]
+    found = [f"{signature}: nothing calls it" for signature, name in zip(signatures, names) if name not in kept]
+    found += [f"{name}: marked in {PUBLIC_FACE.name}, but it is called or gone" for name in kept if name not in names]
+    return found + [f"{name}: marked without a reason" for name, reason in kept.items() if not reason]
+
+
+def unnamed_inline_functions(root: Path) -> list[str]:
+    """Functions written in a header that leave no symbol where nobody calls them: their name stands nowhere else.
+
+    The class is taken from the file's name."""
+    words: Counter[str] = Counter()
+    inline: dict[str, str] = {}
+    for file in program_files(root):
+        text = file.read_text("utf-8")
+        code = text if file.suffix == ".ui" else NO_CODE.sub(" ", text)
+        words.update(re.findall(r"\w+", code))
+        if file.suffix == ".h":
+            inline.update(dict.fromkeys(INLINE.findall(code), str(file.relative_to(root))))
+    unnamed = [name for name in inline if words[name] == 1 and name not in NOT_FUNCTIONS]
+    return sorted(f"{Path(inline[name]).stem}::{name}() in {inline[name]}" for name in unnamed)
