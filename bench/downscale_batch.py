@@ -67,7 +67,7 @@ def make_pictures(folder):
     halves = 0
     sizes = []
     number = 0
-    for count, kind, dimensions, more, flavour in MIX:
+    for count, kind, dimensions, more, flavor in MIX:
         for i in range(count):
             width, height = dimensions[i % len(dimensions)]
             subprocess.run(["convert", *kind(width, height, number), *more, "-strip",

@@ -67,7 +67,7 @@ def shapes(ground, soft):
              for i in range(24)]
     for y in range(EDGE):
         row = [ground(x, y) for x in range(EDGE)]
-        for cx, cy, radius, colour in discs:
+        for cx, cy, radius, color in discs:
             reach = radius + (24 if soft else 1)
             dy = y + 0.5 - cy
             if abs(dy) > reach:
@@ -79,7 +79,7 @@ def shapes(ground, soft):
                 if soft and cover < 1:
                     row[x] = mixed((0, 0, 0), row[x], 0.35 * min(1.0, (reach - distance) / 24) ** 2)
                 if cover > 0:
-                    row[x] = mixed(colour, row[x], cover)
+                    row[x] = mixed(color, row[x], cover)
         yield b"".join(bytes(pixel) for pixel in row)
 
 

@@ -62,14 +62,14 @@ void MiniatureView::paintEvent(QPaintEvent *)
                                 frameRadius);
         return;
     }
-    const QColor grey(Placeholder::grey, Placeholder::grey, Placeholder::grey);
+    const QColor gray(Placeholder::gray, Placeholder::gray, Placeholder::gray);
     for (qsizetype i = 0; i < m_rectangles.size(); ++i) {
         const QRectF &rectangle = m_rectangles.at(i);
         // A strip stays visible, however thin its miniature would be.
         const QRectF visible(rectangle.topLeft(),
                              QSizeF(std::max(rectangle.width(), 1.0), std::max(rectangle.height(), 1.0)));
         painter.save();
-        painter.fillRect(visible, grey);
+        painter.fillRect(visible, gray);
         painter.setClipRect(visible);
         painter.translate(rectangle.topLeft());
         const double scale = rectangle.width() / m_pictures.at(i).width();

@@ -16,10 +16,10 @@ constexpr std::size_t bytesPerPixel = 4;
 constexpr unsigned char opaque = 255;
 
 /// Grey under as much white as the coverage says, rounded to the nearest byte.
-unsigned char whiteOverGrey(unsigned char coverage)
+unsigned char whiteOverGray(unsigned char coverage)
 {
-    constexpr int lift = 255 - Placeholder::grey;
-    return static_cast<unsigned char>(Placeholder::grey + (lift * coverage + 127) / 255);
+    constexpr int lift = 255 - Placeholder::gray;
+    return static_cast<unsigned char>(Placeholder::gray + (lift * coverage + 127) / 255);
 }
 
 void setPixel(std::span<unsigned char> rgba, std::size_t column, unsigned char level)
@@ -40,7 +40,7 @@ void Placeholder::readRow(int row, std::span<unsigned char> rgba) const
 {
     const auto width = static_cast<std::size_t>(m_size.width());
     for (std::size_t column = 0; column < width; ++column)
-        setPixel(rgba, column, grey);
+        setPixel(rgba, column, gray);
 
     const QRect label = m_label->bounds().intersected(QRect(QPoint(0, 0), m_size));
     if (row < label.top() || row > label.bottom() || label.isEmpty())
@@ -50,7 +50,7 @@ void Placeholder::readRow(int row, std::span<unsigned char> rgba) const
     for (int column = label.left(); column <= label.right(); ++column) {
         const unsigned char covered = coverage[static_cast<std::size_t>(column - m_label->bounds().left())];
         if (covered > 0)
-            setPixel(rgba, static_cast<std::size_t>(column), whiteOverGrey(covered));
+            setPixel(rgba, static_cast<std::size_t>(column), whiteOverGray(covered));
     }
 }
 

@@ -21,7 +21,7 @@ class Placeholder
 {
 public:
     /// The standard 50 % grey, as a byte.
-    static constexpr unsigned char grey = 128;
+    static constexpr unsigned char gray = 128;
 
     /// The picture's size in pixels, truncated as it is written.
     QSize size() const { return m_size; }

@@ -9,7 +9,7 @@
 #include <memory>
 
 // The resource initialisers live outside any namespace; Q_INIT_RESOURCE declares them where it stands.
-static void initialiseResources()
+static void initializeResources()
 {
     Q_INIT_RESOURCE(lumora_fonts);
     Q_INIT_RESOURCE(images);
@@ -42,7 +42,7 @@ bool installLanguage(QCoreApplication &application, const QString &language)
 
 void loadResources()
 {
-    initialiseResources();
+    initializeResources();
 }
 
 QStringList availableLanguages()

@@ -45,7 +45,7 @@ int labelWidth()
     int width = 0;
     for (const ColorChannel channel :
          {ColorChannel::Red, ColorChannel::Green, ColorChannel::Blue, ColorChannel::Hue, ColorChannel::Saturation,
-          ColorChannel::Brightness, ColorChannel::Grey, ColorChannel::Opacity})
+          ColorChannel::Brightness, ColorChannel::Gray, ColorChannel::Opacity})
         width = std::max(width, font.horizontalAdvance(ChannelRow::name(channel)));
     return width + 2;
 }
@@ -106,7 +106,7 @@ QString ChannelRow::name(ColorChannel channel)
         return qtTrId("COLOR_CHANNEL_SATURATION");
     case ColorChannel::Brightness:
         return qtTrId("COLOR_CHANNEL_BRIGHTNESS");
-    case ColorChannel::Grey:
+    case ColorChannel::Gray:
         return qtTrId("COLOR_CHANNEL_GREY");
     case ColorChannel::Opacity:
         return qtTrId("COLOR_CHANNEL_OPACITY");

@@ -18,13 +18,13 @@ namespace
 
 /// Hues that the eye takes for one family stand together, however light or dark.
 constexpr float hueFamilies = 12.0F;
-constexpr float greySaturation = 0.08F;
+constexpr float graySaturation = 0.08F;
 
 auto sortKey(const NamedColor &named)
 {
     const HsbColor hsb = hsbFrom(named.color);
-    const bool grey = hsb.saturation < greySaturation;
-    const float family = grey ? -1.0F : std::fmod(std::round(hsb.hue * hueFamilies), hueFamilies);
+    const bool gray = hsb.saturation < graySaturation;
+    const float family = gray ? -1.0F : std::fmod(std::round(hsb.hue * hueFamilies), hueFamilies);
     const float lightness = named.color.red + named.color.green + named.color.blue;
     return std::make_tuple(family, -lightness, named.name);
 }

@@ -17,7 +17,7 @@ constexpr int percentMaximum = 100;
 constexpr int degreeMaximum = 359;
 
 /// How light a colour looks in black and white: the luma weights of ITU-R BT.601.
-float greyOf(const RgbaColor &color)
+float grayOf(const RgbaColor &color)
 {
     return 0.299F * color.red + 0.587F * color.green + 0.114F * color.blue;
 }
@@ -51,7 +51,7 @@ int channelMaximum(ColorChannel channel)
     case ColorChannel::Red:
     case ColorChannel::Green:
     case ColorChannel::Blue:
-    case ColorChannel::Grey:
+    case ColorChannel::Gray:
         return byteMaximum;
     case ColorChannel::Hue:
         return degreeMaximum;
@@ -79,8 +79,8 @@ int channelNumber(const PickedColor &color, ColorChannel channel)
         return rounded(color.hsb.saturation, percentMaximum);
     case ColorChannel::Brightness:
         return rounded(color.hsb.brightness, percentMaximum);
-    case ColorChannel::Grey:
-        return std::clamp(rounded(greyOf(color.rgba), byteMaximum), 0, byteMaximum);
+    case ColorChannel::Gray:
+        return std::clamp(rounded(grayOf(color.rgba), byteMaximum), 0, byteMaximum);
     case ColorChannel::Opacity:
         return rounded(color.rgba.alpha, percentMaximum);
     }
@@ -112,7 +112,7 @@ PickedColor withChannel(const PickedColor &before, ColorChannel channel, int num
     case ColorChannel::Brightness:
         hsb.brightness = fraction;
         return withHsb(before, hsb);
-    case ColorChannel::Grey:
+    case ColorChannel::Gray:
         return withColor(before, {fraction, fraction, fraction, before.rgba.alpha});
     case ColorChannel::Opacity:
         return withOpacity(before, fraction);

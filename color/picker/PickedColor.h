@@ -24,7 +24,7 @@ PickedColor withColor(const PickedColor &before, const RgbaColor &color);
 PickedColor withHsb(const PickedColor &before, const HsbColor &hsb);
 
 /// What a slider of the picker changes.
-enum class ColorChannel { Red, Green, Blue, Hue, Saturation, Brightness, Grey, Opacity };
+enum class ColorChannel { Red, Green, Blue, Hue, Saturation, Brightness, Gray, Opacity };
 
 /// The largest number of a channel; the smallest is 0. Bytes for red, green, blue and grey, degrees for the hue,
 /// percent for the others.

@@ -175,7 +175,7 @@ void PickerContent::setPipette(std::unique_ptr<Pipette> pipette)
     m_pipette = std::move(pipette);
     connect(m_pipette.get(), &Pipette::picked, this, &PickerContent::endPicking);
     connect(m_pipette.get(), &Pipette::picked, m_model, &PickerModel::setColor);
-    connect(m_pipette.get(), &Pipette::cancelled, this, &PickerContent::endPicking);
+    connect(m_pipette.get(), &Pipette::canceled, this, &PickerContent::endPicking);
     connect(m_pipette.get(), &Pipette::failed, this, &PickerContent::screenFailed);
 }
 

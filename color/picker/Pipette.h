@@ -26,7 +26,7 @@ public:
 signals:
     void picked(const lumora::RgbaColor &color);
     /// The user changed their mind.
-    void cancelled();
+    void canceled();
     /// The system has no way to do it, or refused.
     void failed();
 };

@@ -104,7 +104,7 @@ void PortalPipette::received(uint response, const QVariantMap &results)
     if (response == 0 && readColor(results.value(u"color"_s), color))
         emit picked(color);
     else if (response == 1)
-        emit cancelled();
+        emit canceled();
     else
         emit failed();
 }

@@ -33,7 +33,7 @@ private:
     void passOn(Pipette *pipette)
     {
         connect(pipette, &Pipette::picked, this, &Pipette::picked);
-        connect(pipette, &Pipette::cancelled, this, &Pipette::cancelled);
+        connect(pipette, &Pipette::canceled, this, &Pipette::canceled);
         connect(pipette, &Pipette::failed, this, &Pipette::failed);
     }
     void pickWithoutPortal()

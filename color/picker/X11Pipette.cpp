@@ -49,7 +49,7 @@ bool X11Pipette::eventFilter(QObject *watched, QEvent *event)
         if (chosen)
             take(position);
         else
-            emit cancelled();
+            emit canceled();
         return true;
     }
     case QEvent::KeyPress:
@@ -64,7 +64,7 @@ bool X11Pipette::eventFilter(QObject *watched, QEvent *event)
         return true;
     case QEvent::Hide:
         finish();
-        emit cancelled();
+        emit canceled();
         return false;
     default:
         return false;
@@ -78,7 +78,7 @@ void X11Pipette::keyPressed(const QKeyEvent &event)
     switch (event.key()) {
     case Qt::Key_Escape:
         finish();
-        emit cancelled();
+        emit canceled();
         break;
     case Qt::Key_Return:
     case Qt::Key_Enter:

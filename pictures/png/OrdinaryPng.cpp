@@ -18,7 +18,7 @@ namespace lumora
 namespace
 {
 
-enum ColorType : std::uint8_t { Grey = 0, Rgb = 2, Palette = 3, GreyAlpha = 4, Rgba = 6 };
+enum ColorType : std::uint8_t { Gray = 0, Rgb = 2, Palette = 3, GrayAlpha = 4, Rgba = 6 };
 
 constexpr int maximum8Bit = 255;
 
@@ -36,7 +36,7 @@ struct PngInfo
         switch (colorType) {
         case Rgb:
             return 3;
-        case GreyAlpha:
+        case GrayAlpha:
             return 2;
         case Rgba:
             return 4;
@@ -106,9 +106,9 @@ bool isOrdinaryHeader(QByteArrayView header, PngInfo &info)
     const bool plainMethods = header.at(10) == 0 && header.at(11) == 0 && header.at(12) == 0;
     const bool small = info.depth == 1 || info.depth == 2 || info.depth == 4;
     const bool known =
-        (info.depth == 8 && (info.colorType == Grey || info.colorType == Rgb || info.colorType == Palette ||
-                             info.colorType == GreyAlpha || info.colorType == Rgba)) ||
-        (small && (info.colorType == Grey || info.colorType == Palette));
+        (info.depth == 8 && (info.colorType == Gray || info.colorType == Rgb || info.colorType == Palette ||
+                             info.colorType == GrayAlpha || info.colorType == Rgba)) ||
+        (small && (info.colorType == Gray || info.colorType == Palette));
     return plainMethods && known && !info.size.isEmpty();
 }
 
@@ -240,7 +240,7 @@ void applyColorKey(QByteArrayView key, int width, std::uint8_t *pixel)
     }
 }
 
-void expandGreyAlpha(const std::uint8_t *samples, int width, std::uint8_t *pixel)
+void expandGrayAlpha(const std::uint8_t *samples, int width, std::uint8_t *pixel)
 {
     for (int x = 0; x < width; ++x, samples += 2, pixel += 4) {
         std::fill_n(pixel, 3, samples[0]);
@@ -285,8 +285,8 @@ std::optional<QImage> decodeOrdinaryPng(const QByteArray &bytes)
             expandRgb(row, width, pixel);
             applyColorKey(info.transparency, width, pixel);
             break;
-        case GreyAlpha:
-            expandGreyAlpha(row, width, pixel);
+        case GrayAlpha:
+            expandGrayAlpha(row, width, pixel);
             break;
         default:
             expandTable(row, info.depth, width, table, pixel);

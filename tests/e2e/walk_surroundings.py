@@ -130,7 +130,7 @@ class Surroundings(unittest.TestCase):
                 # Text is laid out anew, its edges fall elsewhere: measured 0.03 to 0.05; a lost or shifted part costs twice that.
                 self.assertLess(difference(self.plain["devices"], picture), 0.08)
 
-    def test_the_desktops_colours_change_nothing(self):
+    def test_the_desktops_colors_change_nothing(self):
         for name, scheme in DESKTOPS.items():
             for tool, plain in self.plain.items():
                 with self.subTest(f"{name}, {tool}"):

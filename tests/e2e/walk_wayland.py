@@ -222,7 +222,7 @@ class Window(unittest.TestCase):
             desktop.probe.wait("its old state", lambda state: not state["fullscreen"])
             wait_for("its old size", lambda: (desktop.window_box() or ())[2:] == desktop.window[2:])
 
-    def test_minimise_hides_it(self):
+    def test_minimize_hides_it(self):
         with ProbeDesktop() as desktop:
             desktop.click(*desktop.point(MINIMIZE, BAR // 2))
             wait_for("the window to go", lambda: not desktop.window_box())

@@ -136,7 +136,7 @@ private slots:
         QCOMPARE(pane.ui.generateIconsButton->text(), qtTrId("GENERATE"));
     }
 
-    void cancelledChooserDoesNothing()
+    void canceledChooserDoesNothing()
     {
         IconsPane pane;
         pane.ui.favIconCheckbox->click();

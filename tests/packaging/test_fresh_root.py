@@ -193,7 +193,7 @@ class FreshRoot(unittest.TestCase):
     def test_1_the_version_is_the_packages(self):
         self.assertEqual(self.lumora("--version"), f"lumora {VERSION}\n")
 
-    def test_2_a_colour_becomes_code(self):
+    def test_2_a_color_becomes_code(self):
         self.assertEqual(self.lumora("color", "#34485e", "--as", "hex").strip().lower(), "#34485e")
 
     def test_2_devices_are_listed(self):

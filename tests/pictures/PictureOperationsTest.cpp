@@ -12,10 +12,10 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-QImage plain(int edge, QColor colour = QColor(10, 200, 90))
+QImage plain(int edge, QColor color = QColor(10, 200, 90))
 {
     QImage picture(edge, edge, QImage::Format_ARGB32);
-    picture.fill(colour);
+    picture.fill(color);
     return picture;
 }
 
@@ -47,7 +47,7 @@ private slots:
     void corners_data();
     void corners();
     void modeNoneIsThePlainOperation();
-    void cornerColoursKeepTheirHue();
+    void cornerColorsKeepTheirHue();
     void sizesBelowOneGiveNothing();
     void savedIconHasItsPixelsAndAlpha();
     void scaleFactorIsIgnored();
@@ -123,7 +123,7 @@ void PictureOperationsTest::modeNoneIsThePlainOperation()
     QCOMPARE(resizeImage(source, 120, 7), resizeImage(source, 120));
 }
 
-void PictureOperationsTest::cornerColoursKeepTheirHue()
+void PictureOperationsTest::cornerColorsKeepTheirHue()
 {
     const QImage icon = resizeImage(plain(1024, Qt::white), 100, 1);
     for (int y = 0; y < 100; ++y) {

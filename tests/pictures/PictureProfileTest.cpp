@@ -60,7 +60,7 @@ private slots:
 void PictureProfileTest::convertsTheProfile_data()
 {
     QTest::addColumn<QByteArray>("file");
-    QTest::addColumn<QRgb>("colour");
+    QTest::addColumn<QRgb>("color");
     const QImage displayP3 = plain(QColorSpace::DisplayP3);
     const QByteArray png = pictureFile(plain());
     const QByteArray linear("\0\1\x86\xA0", 4);
@@ -99,12 +99,12 @@ void PictureProfileTest::convertsTheProfile_data()
 void PictureProfileTest::convertsTheProfile()
 {
     QFETCH(QByteArray, file);
-    QFETCH(QRgb, colour);
+    QFETCH(QRgb, color);
     QVERIFY(!file.isEmpty());
     const Result<QImage> read = readPicture(file, u"x"_s);
     QVERIFY(read.ok());
     const QRgb found = read.value().pixel(4, 4);
-    QVERIFY2(near(found, colour, 2), qPrintable(QColor(found).name()));
+    QVERIFY2(near(found, color, 2), qPrintable(QColor(found).name()));
 }
 
 QTEST_GUILESS_MAIN(PictureProfileTest)

@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-constexpr QRgb grey = qRgba(128, 128, 128, 255);
+constexpr QRgb gray = qRgba(128, 128, 128, 255);
 constexpr QRgb white = qRgba(255, 255, 255, 255);
 
 /// The smallest rectangle around every pixel that is not plain grey.
@@ -20,7 +20,7 @@ QRect labelPixels(const QImage &image)
     QRect bounds;
     for (int y = 0; y < image.height(); ++y) {
         for (int x = 0; x < image.width(); ++x) {
-            if (image.pixel(x, y) != grey)
+            if (image.pixel(x, y) != gray)
                 bounds |= QRect(x, y, 1, 1);
         }
     }
@@ -58,14 +58,14 @@ private slots:
         QCOMPARE(placeholder.toImage().size(), size);
     }
 
-    void isGreyWithACentredWhiteLabel_data()
+    void isGrayWithACenteredWhiteLabel_data()
     {
         QTest::addColumn<QSizeF>("size");
         QTest::newRow("landscape") << QSizeF(1136, 640);
         QTest::newRow("portrait") << QSizeF(320, 480);
         QTest::newRow("square") << QSizeF(512, 512);
     }
-    void isGreyWithACentredWhiteLabel()
+    void isGrayWithACenteredWhiteLabel()
     {
         QFETCH(QSizeF, size);
         const QImage image = placeholderWithSize(size, LabelFont()).toImage();
@@ -91,8 +91,8 @@ private slots:
         const QRect slice = labelPixels(strip);
         // 999.9 points: 5 digits, two spaces and the x are some 3900 pixels wide.
         QVERIFY(slice.width() > 3500 && slice.width() < 4000);
-        QCOMPARE(strip.pixel(0, 0), grey);
-        QCOMPARE(strip.pixel(9998, 0), grey);
+        QCOMPARE(strip.pixel(0, 0), gray);
+        QCOMPARE(strip.pixel(9998, 0), gray);
     }
 
     void rowsAgreeWithTheWholePicture()

@@ -136,7 +136,7 @@ private slots:
         QCOMPARE(m_services->fileChooser.requests.constLast().startFolder, u"/z"_s);
     }
 
-    void cancellingTheDestinationWritesNothing()
+    void cancelingTheDestinationWritesNothing()
     {
         const QStringList paths = putPictures(1);
         m_controller->dropViewReceivedFiles(paths);

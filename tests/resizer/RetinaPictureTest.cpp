@@ -74,7 +74,7 @@ class RetinaPictureTest : public QObject
     Q_OBJECT
 
 private slots:
-    void halfOfAFlatPictureIsItsColour_data()
+    void halfOfAFlatPictureIsItsColor_data()
     {
         QTest::addColumn<QByteArray>("file");
         QTest::addColumn<QColor>("color");
@@ -102,7 +102,7 @@ private slots:
             return pictureFile(picture);
         }() << QColor(1, 2, 3);
     }
-    void halfOfAFlatPictureIsItsColour()
+    void halfOfAFlatPictureIsItsColor()
     {
         QFETCH(QByteArray, file);
         QFETCH(QColor, color);
@@ -151,8 +151,8 @@ private slots:
         QImage plate = zonePlatePicture().convertToFormat(QImage::Format_ARGB32);
         for (int y = 0; y < plate.height(); ++y) {
             for (int x = 0; x < plate.width(); ++x) {
-                const int grey = qRed(plate.pixel(x, y));
-                plate.setPixel(x, y, qRgba(grey, grey, grey, alpha));
+                const int gray = qRed(plate.pixel(x, y));
+                plate.setPixel(x, y, qRgba(gray, gray, gray, alpha));
             }
         }
         const Result<HalvedPicture> half = halvedPicture(pictureFile(plate), {});

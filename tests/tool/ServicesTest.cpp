@@ -112,7 +112,7 @@ private slots:
         QTRY_COMPARE(chosen, temporary.path());
     }
 
-    void cancelledDialogsSayNothing()
+    void canceledDialogsSayNothing()
     {
         QWidget window;
         window.show();

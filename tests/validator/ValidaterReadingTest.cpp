@@ -137,7 +137,7 @@ private slots:
         QCOMPARE(pane.tool.facts().appName(), u"Last"_s);
     }
 
-    void staysWhereABrowsingIsCancelled()
+    void staysWhereABrowsingIsCanceled()
     {
         PaneInWindow pane;
         QTest::mouseClick(pane.ui().browseButton, Qt::LeftButton);

@@ -18,8 +18,8 @@ def straight(x, y):
 
 
 def multiplied(x, y):
-    *colours, alpha = straight(x, y)
-    red, green, blue = ((value * alpha + 127) // 255 for value in colours)
+    *colors, alpha = straight(x, y)
+    red, green, blue = ((value * alpha + 127) // 255 for value in colors)
     return bytes((blue, green, red, alpha))
 
 

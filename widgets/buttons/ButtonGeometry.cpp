@@ -80,7 +80,7 @@ QRectF filledTextArea(QSizeF bounds, const QRectF &iconInk, qreal textWidth, Qt:
     return directed({free, 0, right - free, bounds.height()}, bounds.width(), direction);
 }
 
-QRectF centredImageRect(QSizeF bounds, QSizeF imageSize)
+QRectF centeredImageRect(QSizeF bounds, QSizeF imageSize)
 {
     if (imageSize.isEmpty())
         return {};

@@ -33,6 +33,6 @@ QRectF iconRect(QSizeF bounds, QSizeF iconSize, const QRectF &ink, Qt::LayoutDir
 /// icon's ink, else what the ink leaves free. iconInk is in the button's coordinates, empty without an icon.
 QRectF filledTextArea(QSizeF bounds, const QRectF &iconInk, qreal textWidth, Qt::LayoutDirection direction);
 /// An image at its own size in the middle, smaller in proportion where it does not fit.
-QRectF centredImageRect(QSizeF bounds, QSizeF imageSize);
+QRectF centeredImageRect(QSizeF bounds, QSizeF imageSize);
 
 } // namespace lumora::buttongeometry

@@ -53,7 +53,7 @@ void ImageButton::drawRect(QPainter &painter)
 {
     const NamedImage &image = isDown() && !m_alternateImage.isNull() ? m_alternateImage : m_image;
     if (!image.isNull())
-        drawImage(painter, image, buttongeometry::centredImageRect(size(), image.size()));
+        drawImage(painter, image, buttongeometry::centeredImageRect(size(), image.size()));
 }
 
 void ImageButton::drawFocusRing(QPainter &painter)

@@ -34,7 +34,7 @@ INWindowButton *closeLight(const INAppStoreWindow &window)
     return window.findChild<INWindowButton *>(QStringLiteral("close"));
 }
 
-void colour(INAppStoreWindow &window)
+void color(INAppStoreWindow &window)
 {
     window.setTitleBarHeight(40);
     window.setVerticallyCenterTitle(true);
@@ -89,8 +89,8 @@ const QList<Look> &looks()
         {"Full screen", becomeFullScreen},
         {"No line below", [](auto &window) { window.setShowsBaselineSeparator(false); }},
         {"40 points high", [](auto &window) { setHeight(window, 40); }},
-        {"Own colours", colour},
-        {"Own colours, not active", colour, false},
+        {"Own colours", color},
+        {"Own colours, not active", color, false},
         {"Drawn by a block", drawByBlock},
         {"Lights and title at the top",
          [](auto &window) {

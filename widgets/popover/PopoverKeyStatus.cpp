@@ -161,7 +161,7 @@ bool PopoverKeyStatus::takesKey(QObject *receiver, QKeyEvent *event)
         return true;
     }
     if (escape && event->type() == QEvent::KeyPress)
-        emit cancelled();
+        emit canceled();
     return escape;
 }
 

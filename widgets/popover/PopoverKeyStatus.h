@@ -36,7 +36,7 @@ public:
 signals:
     void resignedKey();
     /// Escape was pressed in the parent window, which the user sees as pressed in the popover.
-    void cancelled();
+    void canceled();
 
 protected:
     bool eventFilter(QObject *receiver, QEvent *event) override;

@@ -28,10 +28,10 @@ SFBPopover::SFBPopover(ViewController *contentViewController, QObject *parent, c
     connect(m_fade, &QVariantAnimation::valueChanged, m_window.get(),
             [this](const QVariant &value) { m_window->setAlphaValue(value.toReal()); });
     connect(m_fade, &QVariantAnimation::finished, this, [this] { animationDidStop(m_fade, true); });
-    connect(m_window.get(), &SFBPopoverWindow::cancelled, this, [this] { closePopover(); });
+    connect(m_window.get(), &SFBPopoverWindow::canceled, this, [this] { closePopover(); });
     connect(m_window.get(), &SFBPopoverWindow::orderedOut, this, &SFBPopover::windowDidOrderOut);
     connect(m_window.get(), &SFBPopoverWindow::draggedAway, this, [this] { m_draggedAway = true; });
-    connect(m_keyStatus, &PopoverKeyStatus::cancelled, this, [this] { closePopover(); });
+    connect(m_keyStatus, &PopoverKeyStatus::canceled, this, [this] { closePopover(); });
     connect(m_keyStatus, &PopoverKeyStatus::resignedKey, this, &SFBPopover::windowDidResignKey);
     connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, &SFBPopover::applicationStateChanged);
     m_applicationWasActive = QGuiApplication::applicationState() == Qt::ApplicationActive;

@@ -216,7 +216,7 @@ void SFBPopoverWindow::hideEvent(QHideEvent *event)
 void SFBPopoverWindow::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_Escape) {
-        emit cancelled();
+        emit canceled();
         event->accept();
         return;
     }

@@ -92,7 +92,7 @@ public:
 
 signals:
     /// Escape was pressed and the content had no use for it.
-    void cancelled();
+    void canceled();
     /// The window went, by whatever cause; `parentWindow()` is still known.
     void orderedOut();
     /// The user dragged it away from its anchor.

@@ -43,9 +43,9 @@ bool isLightColor(const CalibratedColor &color)
     return (color.red + color.green + color.blue) / 3.0F > lightFrom;
 }
 
-bool isLightColor(const CalibratedGrey &color)
+bool isLightColor(const CalibratedGray &color)
 {
-    return color.grey > lightFrom;
+    return color.gray > lightFrom;
 }
 
 } // namespace lumora

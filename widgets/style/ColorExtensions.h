@@ -23,9 +23,9 @@ struct CalibratedColor
 };
 
 /// A colour that has one grey component.
-struct CalibratedGrey
+struct CalibratedGray
 {
-    float grey = 0;
+    float gray = 0;
     float alpha = 1;
 };
 
@@ -37,6 +37,6 @@ CalibratedColor darkenColorByValue(const CalibratedColor &color, float value);
 /// Whether the mean of red, green and blue is above 0.8, that is, whether only dark text can be read on the colour.
 bool isLightColor(const CalibratedColor &color);
 /// Whether the grey is above 0.8.
-bool isLightColor(const CalibratedGrey &color);
+bool isLightColor(const CalibratedGray &color);
 
 } // namespace lumora

@@ -22,9 +22,9 @@ const QPixmap &sharedNoise()
     return noise;
 }
 
-QColor given(const QColor &color, float builtInGrey)
+QColor given(const QColor &color, float builtInGray)
 {
-    return color.isValid() ? color : opaqueGrey(builtInGrey);
+    return color.isValid() ? color : opaqueGray(builtInGray);
 }
 
 } // namespace
@@ -74,10 +74,10 @@ void INTitlebarView::paintEvent(QPaintEvent *)
 INTitlebarView::Background INTitlebarView::background(const INAppStoreWindow &window, qreal devicePixelRatio) const
 {
     const bool main = drawsAsMainWindow();
-    const TitleBarGreys greys = titleBarGreys(platformGeneration, main);
+    const TitleBarGrays grays = titleBarGrays(platformGeneration, main);
     const QColor top = main ? window.titleBarStartColor() : window.inactiveTitleBarStartColor();
     const QColor bottom = main ? window.titleBarEndColor() : window.inactiveTitleBarEndColor();
-    Background result{given(top, greys.gradientTop), given(bottom, greys.gradientBottom), main, size(),
+    Background result{given(top, grays.gradientTop), given(bottom, grays.gradientBottom), main, size(),
                       devicePixelRatio};
     if (window.isFullScreen())
         result.top = result.bottom = Qt::black;
@@ -125,10 +125,10 @@ void INTitlebarView::drawBackground(QPainter *painter, const INAppStoreWindow &w
 void INTitlebarView::drawBaselineSeparator(QPainter *painter, const INAppStoreWindow &window) const
 {
     const bool main = drawsAsMainWindow();
-    const TitleBarGreys greys = titleBarGreys(platformGeneration, main);
+    const TitleBarGrays grays = titleBarGrays(platformGeneration, main);
     painter->fillRect(QRectF(0, height() - 1, width(), 1),
                       given(main ? window.baselineSeparatorColor() : window.inactiveBaselineSeparatorColor(),
-                            greys.baselineSeparator));
+                            grays.baselineSeparator));
 }
 
 void INTitlebarView::drawTitle(QPainter *painter, const INAppStoreWindow &window) const

@@ -8,14 +8,14 @@
 namespace lumora
 {
 
-TitleBarGreys titleBarGreys(PlatformGeneration generation, bool drawsAsMainWindow)
+TitleBarGrays titleBarGrays(PlatformGeneration generation, bool drawsAsMainWindow)
 {
     if (generation == PlatformGeneration::Newer)
-        return drawsAsMainWindow ? TitleBarGreys{0.66F, 0.9F, 0.408F} : TitleBarGreys{0.878F, 0.976F, 0.655F};
-    return drawsAsMainWindow ? TitleBarGreys{0.659F, 0.812F, 0.318F} : TitleBarGreys{0.851F, 0.929F, 0.6F};
+        return drawsAsMainWindow ? TitleBarGrays{0.66F, 0.9F, 0.408F} : TitleBarGrays{0.878F, 0.976F, 0.655F};
+    return drawsAsMainWindow ? TitleBarGrays{0.659F, 0.812F, 0.318F} : TitleBarGrays{0.851F, 0.929F, 0.6F};
 }
 
-QColor opaqueGrey(float white)
+QColor opaqueGray(float white)
 {
     return QColor::fromRgbF(white, white, white);
 }
@@ -30,8 +30,8 @@ QPixmap noiseTexture()
     std::minstd_rand random(1);
     for (int y = 0; y < side; ++y) {
         for (int x = 0; x < side; ++x) {
-            const int grey = middle - spread + static_cast<int>((random() >> 8) % (2 * spread + 1));
-            tile.setPixel(x, y, qRgb(grey, grey, grey));
+            const int gray = middle - spread + static_cast<int>((random() >> 8) % (2 * spread + 1));
+            tile.setPixel(x, y, qRgb(gray, gray, gray));
         }
     }
     return QPixmap::fromImage(tile);

@@ -14,14 +14,14 @@ enum class PlatformGeneration { Older, Newer };
 inline constexpr PlatformGeneration platformGeneration = PlatformGeneration::Newer;
 
 /// The greys a title bar is drawn in as long as no colours were given.
-struct TitleBarGreys
+struct TitleBarGrays
 {
     float gradientTop;
     float gradientBottom;
     float baselineSeparator;
 };
-TitleBarGreys titleBarGreys(PlatformGeneration generation, bool drawsAsMainWindow);
-QColor opaqueGrey(float white);
+TitleBarGrays titleBarGrays(PlatformGeneration generation, bool drawsAsMainWindow);
+QColor opaqueGray(float white);
 
 /// How strongly the line along a title bar's upper edge and the noise over it are drawn, 0 to 1.
 inline constexpr float titleBarHighlightAlpha = 0.12F;

@@ -74,7 +74,7 @@ private slots:
         QCOMPARE(channelNumber(m_picker->model.picked(), ColorChannel::Hue), 359);
     }
 
-    void theHueOfAGreyCanBeTurned()
+    void theHueOfAGrayCanBeTurned()
     {
         m_picker->model.setColor({0.5F, 0.5F, 0.5F, 1.0F});
         QSignalSpy changed(&m_picker->model, &PickerModel::colorChanged);

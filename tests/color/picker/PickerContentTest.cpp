@@ -108,7 +108,7 @@ private slots:
         if (end == u"picked")
             emit m_picker->pipette->picked(blue);
         else if (end == u"cancelled")
-            emit m_picker->pipette->cancelled();
+            emit m_picker->pipette->canceled();
         else
             emit m_picker->pipette->failed();
         QVERIFY(m_picker->content.pipetteButton()->isEnabled());

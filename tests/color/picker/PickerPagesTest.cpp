@@ -25,7 +25,7 @@ private slots:
         QTest::newRow("red") << ColorChannel::Red << 128 << u"#8096da"_s;
         QTest::newRow("green") << ColorChannel::Green << 0 << u"#3400da"_s;
         QTest::newRow("blue") << ColorChannel::Blue << 255 << u"#3496ff"_s;
-        QTest::newRow("grey") << ColorChannel::Grey << 52 << u"#343434"_s;
+        QTest::newRow("grey") << ColorChannel::Gray << 52 << u"#343434"_s;
         QTest::newRow("hue") << ColorChannel::Hue << 0 << u"#da3434"_s;
         QTest::newRow("saturation") << ColorChannel::Saturation << 0 << u"#dadada"_s;
         QTest::newRow("brightness") << ColorChannel::Brightness << 0 << u"#000000"_s;
@@ -57,12 +57,12 @@ private slots:
         QComboBox *kind = static_cast<SlidersPage *>(m_picker->content.page(PickerMode::Sliders))->kind();
         QCOMPARE(kind->count(), 3);
         const auto shown = [this](ColorChannel channel) { return m_picker->row(channel)->isVisible(); };
-        QVERIFY(shown(ColorChannel::Red) && !shown(ColorChannel::Hue) && !shown(ColorChannel::Grey));
+        QVERIFY(shown(ColorChannel::Red) && !shown(ColorChannel::Hue) && !shown(ColorChannel::Gray));
         kind->setFocus();
         QTest::keyClick(kind, Qt::Key_Down);
-        QVERIFY(!shown(ColorChannel::Red) && shown(ColorChannel::Hue) && !shown(ColorChannel::Grey));
+        QVERIFY(!shown(ColorChannel::Red) && shown(ColorChannel::Hue) && !shown(ColorChannel::Gray));
         QTest::keyClick(kind, Qt::Key_Down);
-        QVERIFY(!shown(ColorChannel::Red) && !shown(ColorChannel::Hue) && shown(ColorChannel::Grey));
+        QVERIFY(!shown(ColorChannel::Red) && !shown(ColorChannel::Hue) && shown(ColorChannel::Gray));
     }
 
     void whatASliderShowsDoesNotChangeTheColor()

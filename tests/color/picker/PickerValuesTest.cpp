@@ -162,8 +162,8 @@ private slots:
     void theOldestRecentColorsGo()
     {
         RecentColors recent;
-        for (int grey = 0; grey < 60; ++grey)
-            recent.add(rgbaFrom(QColor(grey, grey, grey)));
+        for (int gray = 0; gray < 60; ++gray)
+            recent.add(rgbaFrom(QColor(gray, gray, gray)));
         QCOMPARE(recent.colors().size(), RecentColors::capacity);
         QCOMPARE(stringFromColor(recent.colors().front()), u"#3b3b3b"_s);
         QCOMPARE(stringFromColor(recent.colors().back()), u"#141414"_s);

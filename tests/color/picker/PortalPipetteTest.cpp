@@ -146,12 +146,12 @@ private slots:
 
             PortalPipette pipette(bus);
             QSignalSpy picked(&pipette, &Pipette::picked);
-            QSignalSpy cancelled(&pipette, &Pipette::cancelled);
+            QSignalSpy canceled(&pipette, &Pipette::canceled);
             QSignalSpy failed(&pipette, &Pipette::failed);
             pipette.pick(nullptr);
-            QTRY_COMPARE(picked.count() + cancelled.count() + failed.count(), 1);
+            QTRY_COMPARE(picked.count() + canceled.count() + failed.count(), 1);
             QCOMPARE(picked.count(), end == u"picked" ? 1 : 0);
-            QCOMPARE(cancelled.count(), end == u"cancelled" ? 1 : 0);
+            QCOMPARE(canceled.count(), end == u"cancelled" ? 1 : 0);
             if (end == u"picked")
                 QCOMPARE(picked.at(0).at(0).value<RgbaColor>(), (RgbaColor{0.2F, 0.4F, 0.6F, 1.0F}));
         }

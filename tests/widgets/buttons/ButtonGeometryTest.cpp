@@ -105,7 +105,7 @@ private slots:
         QTEST(filledTextArea({180, 36}, ink, textWidth, direction), "expected");
     }
 
-    void centredImage_data()
+    void centeredImage_data()
     {
         QTest::addColumn<QSizeF>("imageSize");
         QTest::addColumn<QRectF>("expected");
@@ -114,10 +114,10 @@ private slots:
         QTest::newRow("wider than the bounds") << QSizeF(120, 60) << QRectF(0, 15, 60, 30);
         QTest::newRow("empty") << QSizeF(0, 0) << QRectF();
     }
-    void centredImage()
+    void centeredImage()
     {
         QFETCH(QSizeF, imageSize);
-        QTEST(centredImageRect({60, 60}, imageSize), "expected");
+        QTEST(centeredImageRect({60, 60}, imageSize), "expected");
     }
 };
 

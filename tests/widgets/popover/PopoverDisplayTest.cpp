@@ -80,7 +80,7 @@ private slots:
         QCOMPARE(window->frame(), window->frameRectForContentRect(content));
     }
 
-    void coloursAndFlagsLeaveTheFrameAsItIs()
+    void colorsAndFlagsLeaveTheFrameAsItIs()
     {
         Scene scene;
         SFBPopover popover(plainContent());

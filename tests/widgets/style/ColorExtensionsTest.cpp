@@ -60,10 +60,10 @@ private slots:
         QTEST(isLightColor(color), "light");
     }
 
-    void lightGrey()
+    void lightGray()
     {
-        QVERIFY(!isLightColor(CalibratedGrey{0.8F}));
-        QVERIFY(isLightColor(CalibratedGrey{0.81F}));
+        QVERIFY(!isLightColor(CalibratedGray{0.8F}));
+        QVERIFY(isLightColor(CalibratedGray{0.81F}));
     }
 
     void paintedColorIsClamped()

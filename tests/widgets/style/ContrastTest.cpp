@@ -33,7 +33,7 @@ double contrast(const QColor &one, const QColor &other)
 /// What body text needs at least.
 constexpr double enough = 4.5;
 
-QColor grey(float white)
+QColor gray(float white)
 {
     return QColor::fromRgbF(white, white, white);
 }
@@ -76,8 +76,8 @@ private slots:
         QTest::newRow("a plain button, pressed") << buttonText << chromeTextDark;
         QTest::newRow("an alert's default button") << buttonText << linkText;
         // A title bar's gradient is darkest at its top.
-        QTest::newRow("a title") << titleText << grey(0.659F);
-        QTest::newRow("a title, not in front") << inactiveTitleText << grey(0.851F);
+        QTest::newRow("a title") << titleText << gray(0.659F);
+        QTest::newRow("a title, not in front") << inactiveTitleText << gray(0.851F);
     }
     void textIsReadable()
     {

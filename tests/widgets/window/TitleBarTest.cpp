@@ -109,7 +109,7 @@ private slots:
         QCOMPARE(window.geometry(), QRect(200, 280, 460, 200));
     }
 
-    void hasGreysOfItsOwn_data()
+    void hasGraysOfItsOwn_data()
     {
         QTest::addColumn<bool>("newer");
         QTest::addColumn<bool>("main");
@@ -121,14 +121,14 @@ private slots:
         QTest::newRow("older, main") << false << true << 0.659F << 0.812F << 0.318F;
         QTest::newRow("older, not main") << false << false << 0.851F << 0.929F << 0.6F;
     }
-    void hasGreysOfItsOwn()
+    void hasGraysOfItsOwn()
     {
         QFETCH(bool, newer);
         QFETCH(bool, main);
-        const TitleBarGreys greys = titleBarGreys(newer ? PlatformGeneration::Newer : PlatformGeneration::Older, main);
-        QTEST(greys.gradientTop, "top");
-        QTEST(greys.gradientBottom, "bottom");
-        QTEST(greys.baselineSeparator, "separator");
+        const TitleBarGrays grays = titleBarGrays(newer ? PlatformGeneration::Newer : PlatformGeneration::Older, main);
+        QTEST(grays.gradientTop, "top");
+        QTEST(grays.gradientBottom, "bottom");
+        QTEST(grays.baselineSeparator, "separator");
     }
 
     void drawsAHighlightAlongTheTop()
@@ -153,22 +153,22 @@ private slots:
         INAppStoreWindow window;
         window.setTitleBarHeight(60);
         show(window);
-        const auto greysInARow = [&] {
+        const auto graysInARow = [&] {
             const QImage picture = pictureOf(window.titleBarView());
-            QSet<int> greys;
+            QSet<int> grays;
             for (int x = 100; x < 200; ++x)
-                greys << picture.pixelColor(x, 30).red();
-            return greys.size();
+                grays << picture.pixelColor(x, 30).red();
+            return grays.size();
         };
-        QVERIFY(greysInARow() > 3);
+        QVERIFY(graysInARow() > 3);
         QWidget stranger;
         stranger.show();
         stranger.activateWindow();
         QTRY_VERIFY(!window.isMainWindow());
-        QCOMPARE(greysInARow(), 1);
+        QCOMPARE(graysInARow(), 1);
     }
 
-    void drawsTheTitleOfAnInactiveWindowInItsOwnColours()
+    void drawsTheTitleOfAnInactiveWindowInItsOwnColors()
     {
         INAppStoreWindow window;
         window.setTitleBarHeight(60);
@@ -223,23 +223,23 @@ private slots:
             QTRY_VERIFY(!window.isMainWindow());
         }
         const QImage picture = pictureOf(window.titleBarView(), scale);
-        const auto greyAt = [&](qreal y) { return picture.pixelColor(QPoint(300 * scale, qFloor(y * scale))).red(); };
-        const TitleBarGreys greys = titleBarGreys(PlatformGeneration::Newer, main);
+        const auto grayAt = [&](qreal y) { return picture.pixelColor(QPoint(300 * scale, qFloor(y * scale))).red(); };
+        const TitleBarGrays grays = titleBarGrays(PlatformGeneration::Newer, main);
         // The noise over a main window's bar shifts a grey by a tenth of its distance to black or white at most.
         const int tolerance = main ? 26 : 2;
-        QVERIFY(qAbs(greyAt(3) - qRound(greys.gradientTop * 255)) <= tolerance + 3);
-        QVERIFY(qAbs(greyAt(30) - qRound((greys.gradientTop + greys.gradientBottom) / 2 * 255)) <= tolerance + 1);
-        QVERIFY(qAbs(greyAt(57) - qRound(greys.gradientBottom * 255)) <= tolerance + 3);
-        QCOMPARE(greyAt(59.5), qRound(greys.baselineSeparator * 255));
+        QVERIFY(qAbs(grayAt(3) - qRound(grays.gradientTop * 255)) <= tolerance + 3);
+        QVERIFY(qAbs(grayAt(30) - qRound((grays.gradientTop + grays.gradientBottom) / 2 * 255)) <= tolerance + 1);
+        QVERIFY(qAbs(grayAt(57) - qRound(grays.gradientBottom * 255)) <= tolerance + 3);
+        QCOMPARE(grayAt(59.5), qRound(grays.baselineSeparator * 255));
         QCOMPARE(picture.pixelColor(0, 0).alpha(), 0); // a round upper corner
         QCOMPARE(picture.pixelColor(0, picture.height() - 1).alpha(), 255);
 
         window.setShowsBaselineSeparator(false);
         const QColor below = pictureOf(window.titleBarView(), scale).pixelColor(300, picture.height() - 1);
-        QVERIFY(below.red() > qRound(greys.baselineSeparator * 255));
+        QVERIFY(below.red() > qRound(grays.baselineSeparator * 255));
     }
 
-    void drawsTheGivenColours()
+    void drawsTheGivenColors()
     {
         INAppStoreWindow window;
         window.setTitleBarHeight(60);

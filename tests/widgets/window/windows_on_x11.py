@@ -199,7 +199,7 @@ def traffic_lights_work():
         probe = desktop.probe()
         window = probe.report()["window"]
         # Close, minimise and zoom stand 24 points apart from the left margin of 60.
-        close, minimise, zoom = [(window[0] + 68 + 24 * i, window[1] + 30) for i in range(3)]
+        close, minimize, zoom = [(window[0] + 68 + 24 * i, window[1] + 30) for i in range(3)]
         desktop.mouse("mousemove", *zoom, "click", "1")
         probe.wait("the window to fill the screen", lambda state: state["maximized"] and state["window"][2] == 1600)
         desktop.mouse("mousemove", 68 + 48, 30, "click", "1")
@@ -208,7 +208,7 @@ def traffic_lights_work():
         probe.wait("full screen", lambda state: state["fullscreen"] and state["window"] == [0, 0, 1600, 1200])
         probe.tell("fullscreen")
         probe.wait("its old place", lambda state: not state["fullscreen"] and state["window"] == window)
-        desktop.mouse("mousemove", *minimise, "click", "1")
+        desktop.mouse("mousemove", *minimize, "click", "1")
         probe.wait("the window to go", lambda state: state["minimized"])
         identifier = desktop.output("xdotool", "search", "--name", "Lumora windows probe").split()[0]
         desktop.output("xdotool", "windowactivate", identifier)
