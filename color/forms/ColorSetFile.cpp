@@ -55,8 +55,8 @@ std::optional<WideColor> entryColor(const QJsonObject &color)
         const std::optional<double> white = value("white"_L1);
         if (!white || !alpha || *white < 0.0 || *white > 1.0)
             return std::nullopt;
-        const double grey = space == u"extended-gray" ? *white : encodedComponent(std::pow(*white, 2.2));
-        return WideColor{RgbSpace::Srgb, grey, grey, grey, *alpha};
+        const double gray = space == u"extended-gray" ? *white : encodedComponent(std::pow(*white, 2.2));
+        return WideColor{RgbSpace::Srgb, gray, gray, gray, *alpha};
     }
     const std::optional<double> red = value("red"_L1);
     const std::optional<double> green = value("green"_L1);

@@ -26,7 +26,7 @@ constexpr ColorMatrix srgbOfXyz = inverted(xyzOfSrgb);
 
 /// Below it a color is a grey: some hundred times what the matrices' own rounding leaves, a tenth of what a form
 /// prints.
-constexpr double greyChroma = 1e-6;
+constexpr double grayChroma = 1e-6;
 constexpr double degrees = 180.0 / std::numbers::pi;
 
 double turned(double hue)
@@ -48,7 +48,7 @@ Extremes extremesOf(const WideColor &rgb)
     const double largest = std::max({rgb.red, rgb.green, rgb.blue});
     const double smallest = std::min({rgb.red, rgb.green, rgb.blue});
     const double range = largest - smallest;
-    if (range < greyChroma)
+    if (range < grayChroma)
         return {smallest, largest, 0.0};
     double sector = 0.0;
     if (largest == rgb.red)
@@ -95,7 +95,7 @@ HslColor hslOf(const WideColor &color)
     const double lightness = (extremes.largest + extremes.smallest) / 2.0;
     const double range = extremes.largest - extremes.smallest;
     const double room = 1.0 - std::abs(2.0 * lightness - 1.0);
-    return {extremes.hue, range < greyChroma ? 0.0 : std::min(range / room, 1.0), lightness};
+    return {extremes.hue, range < grayChroma ? 0.0 : std::min(range / room, 1.0), lightness};
 }
 
 HwbColor hwbOf(const WideColor &color)
@@ -119,7 +119,7 @@ OklchColor oklchOf(const WideColor &color)
 {
     const OklabColor lab = oklabOf(color);
     const double chroma = std::hypot(lab.a, lab.b);
-    if (chroma < greyChroma)
+    if (chroma < grayChroma)
         return {lab.lightness, 0.0, 0.0};
     return {lab.lightness, chroma, turned(std::atan2(lab.b, lab.a) * degrees)};
 }
@@ -134,8 +134,8 @@ WideColor wideColorFrom(const HwbColor &color, double alpha)
 {
     const double sum = color.whiteness + color.blackness;
     if (sum >= 1.0) {
-        const double grey = color.whiteness / sum;
-        return {RgbSpace::Srgb, grey, grey, grey, alpha};
+        const double gray = color.whiteness / sum;
+        return {RgbSpace::Srgb, gray, gray, gray, alpha};
     }
     return pureColor(color.hue, 1.0 - sum, color.whiteness, alpha);
 }

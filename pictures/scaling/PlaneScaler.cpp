@@ -13,7 +13,7 @@ namespace lumora
 namespace
 {
 
-zimg_image_format greyPlane(QSize size, SampleDepth depth)
+zimg_image_format grayPlane(QSize size, SampleDepth depth)
 {
     zimg_image_format format;
     zimg_image_format_default(&format, ZIMG_API_VERSION);
@@ -28,8 +28,8 @@ zimg_image_format greyPlane(QSize size, SampleDepth depth)
 
 zimg_filter_graph *lanczosGraph(QSize from, QSize to, SampleDepth depth)
 {
-    const zimg_image_format source = greyPlane(from, depth);
-    const zimg_image_format destination = greyPlane(to, depth);
+    const zimg_image_format source = grayPlane(from, depth);
+    const zimg_image_format destination = grayPlane(to, depth);
     zimg_graph_builder_params parameters;
     zimg_graph_builder_params_default(&parameters, ZIMG_API_VERSION);
     parameters.resample_filter = ZIMG_RESIZE_LANCZOS;

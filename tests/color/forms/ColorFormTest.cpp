@@ -124,14 +124,14 @@ private slots:
         }
     }
 
-    void greysHaveNoHue()
+    void graysHaveNoHue()
     {
         for (int byte = 0; byte <= 255; ++byte) {
-            const WideColor grey = wideColorFromBytes(byte, byte, byte);
+            const WideColor gray = wideColorFromBytes(byte, byte, byte);
             const QString percent = QString::number(byte * 100 / 255.0, 'f', 2);
-            QVERIFY(formText(*colorFormNamed(u"css-hsl"), grey).startsWith(u"hsl(0 0% "_s));
-            QVERIFY(formText(*colorFormNamed(u"css-hwb"), grey).startsWith(u"hwb(0 "_s));
-            QVERIFY2(formText(*colorFormNamed(u"css-oklch"), grey).endsWith(u"% 0 0)"_s), qPrintable(percent));
+            QVERIFY(formText(*colorFormNamed(u"css-hsl"), gray).startsWith(u"hsl(0 0% "_s));
+            QVERIFY(formText(*colorFormNamed(u"css-hwb"), gray).startsWith(u"hwb(0 "_s));
+            QVERIFY2(formText(*colorFormNamed(u"css-oklch"), gray).endsWith(u"% 0 0)"_s), qPrintable(percent));
         }
     }
 

@@ -41,13 +41,13 @@ double insideAHole(double x, double y)
     return std::hypot(x - 300, y - 411) - 37;
 }
 
-QImage drawn(Shape shape, QColor colour, QColor ground, int edge)
+QImage drawn(Shape shape, QColor color, QColor ground, int edge)
 {
     QImage picture(edge, edge, QImage::Format_RGBA8888);
     for (int y = 0; y < edge; ++y) {
         for (int x = 0; x < edge; ++x) {
             const double inside = std::clamp(shape(x + 0.5, y + 0.5) + 0.5, 0.0, 1.0);
-            const QColor pixel = inside == 0 ? ground : inside == 1 ? colour : mixed(colour, ground, inside);
+            const QColor pixel = inside == 0 ? ground : inside == 1 ? color : mixed(color, ground, inside);
             picture.setPixel(x, y, pixel.rgba());
         }
     }

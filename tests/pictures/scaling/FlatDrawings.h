@@ -21,7 +21,7 @@ double insideADisc(double x, double y);
 double insideAHole(double x, double y);
 
 /// A shape of one colour on a ground of another, its edge smoothed over one pixel.
-QImage drawn(Shape shape, QColor colour, QColor ground, int edge = sourceEdge);
+QImage drawn(Shape shape, QColor color, QColor ground, int edge = sourceEdge);
 
 /// The red channel of a picture as the only plane.
 lumora::ColorPlanes redPlane(const QImage &picture);

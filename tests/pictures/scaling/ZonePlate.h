@@ -24,8 +24,8 @@ inline QImage zonePlatePicture()
     QImage picture(zonePlateEdge, zonePlateEdge, QImage::Format_RGB32);
     for (int y = 0; y < zonePlateEdge; ++y) {
         for (int x = 0; x < zonePlateEdge; ++x) {
-            const int grey = static_cast<int>(std::lround(zonePlate(x + 0.5 - 512, y + 0.5 - 512)));
-            picture.setPixel(x, y, qRgb(grey, grey, grey));
+            const int gray = static_cast<int>(std::lround(zonePlate(x + 0.5 - 512, y + 0.5 - 512)));
+            picture.setPixel(x, y, qRgb(gray, gray, gray));
         }
     }
     return picture;
