@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
 """usage: make_package.py FILE.ipa [NAME]   An app package of 100 MB in 2,000 files, 200 of them pictures; with NAME of the
-pictures only, called NAME000.png and so on; with a number instead of NAME as the first, of so many MB."""
+pictures only, called NAME000.png and so on; with a number instead of NAME as the first, of that many MB."""
 
 import plistlib
 import random

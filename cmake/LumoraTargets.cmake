@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
 # lumora_library(NAME SOURCES ... [LINKS ...] [PRIVATE_LINKS ...])
-#   A static library of one subsystem. Engines and panes are told apart by what they link: a library that (through any of its
+#   A static library of one subsystem. What a library links decides whether it is an engine or a pane: a library that (through any of its
 #   LINKS) reaches Qt Widgets shares the widgets' precompiled header, any other the engines'.
 # lumora_test(NAME SOURCES ... [LINKS ...] [LABELS ...])
 #   One Qt Test program, run by CTest without a screen.
@@ -136,7 +136,7 @@ function(lumora_check_layers)
     elseif(library MATCHES "^lumora_(foundation|resources|pictures|widgets|tool)$")
       lumora_reaches(culprit ${library} "_engine$|_pane$|^lumora_(shell|cli)$")
       if(culprit)
-        message(FATAL_ERROR "${library} must not link ${culprit}: what tools stand on knows no tool.")
+        message(FATAL_ERROR "${library} must not link ${culprit}: what tools are built on knows no tool.")
       endif()
     endif()
   endforeach()

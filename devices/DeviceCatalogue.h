@@ -21,7 +21,7 @@ struct DeviceLists
 /// New lists of new records, every device active.
 std::vector<DeviceRecord> setupiPhones();
 std::vector<DeviceRecord> setupiPods();
-/// The first record is the iPad mini, told apart from the first iPad by its picture.
+/// The first record is the iPad mini; only its picture differs from the first iPad's.
 std::vector<DeviceRecord> setupiPads();
 
 /// All three lists.

@@ -21,11 +21,11 @@ struct DeviceGroup
     std::vector<DevicePicture *> images;
     std::vector<DeviceLabel *> labels;
 
-    /// Where the device at an index stands in its container.
+    /// The place of the device at an index in its container.
     using Placement = DevicePlacement (*)(const DeviceRecord &device, int index);
 
     /// Puts a picture and a label into the container for each device. The group's name goes before each model's where a
-    /// screen reader tells it.
+    /// screen reader says it.
     static DeviceGroup create(const std::vector<DeviceRecord> &devices, const QString &name, Placement placement,
                               QWidget *container);
     /// Says in the picture's description whether its device matches, for those who do not see it fade.

@@ -8,7 +8,7 @@
 namespace lumora
 {
 
-/// Where one device stands in its group's container, in points with the origin at the container's lower left corner
+/// The place of one device in its group's container, in points with the origin at the container's lower left corner
 /// and y upwards: a rectangle's y() is its lower edge.
 struct DevicePlacement
 {
@@ -21,7 +21,7 @@ struct DevicePlacement
 /// The place of an iPhone or iPod: one row from left to right.
 DevicePlacement placeInRow(int index);
 
-/// The place of an iPad: the mini stands one row above the others, which begin below it.
+/// The place of an iPad: the mini is one row above the others, which begin below it.
 DevicePlacement placeOfiPad(const DeviceRecord &device, int index);
 
 } // namespace lumora

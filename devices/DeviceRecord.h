@@ -7,7 +7,7 @@
 namespace lumora
 {
 
-/// One device model and what it can do. The members stand in the order of the keys of `deviceFeatures` and of the
+/// One device model and what it can do. The members are in the order of the keys of `deviceFeatures` and of the
 /// catalogue's columns.
 struct DeviceRecord
 {
@@ -36,7 +36,7 @@ struct DeviceRecord
     bool operator==(const DeviceRecord &) const = default;
 };
 
-/// The iPad mini, which shares its label with another iPad and is told by its picture.
+/// The iPad mini, which shares its label with another iPad and is recognized by its picture.
 constexpr bool isMini(const DeviceRecord &device)
 {
     return device.image == "device_ipad_mini";

@@ -38,7 +38,7 @@ public:
     const std::vector<DeviceRecord> &iPhones() const { return m_devices.iPhones; }
     const std::vector<DeviceRecord> &iPods() const { return m_devices.iPods; }
     const std::vector<DeviceRecord> &iPads() const { return m_devices.iPads; }
-    /// Pictures and labels stand in the order of their devices.
+    /// Pictures and labels are in the order of their devices.
     const std::vector<DevicePicture *> &iPhonesImages() const { return m_iPhoneViews.images; }
     const std::vector<DevicePicture *> &iPodsImages() const { return m_iPodViews.images; }
     const std::vector<DevicePicture *> &iPadsImages() const { return m_iPadViews.images; }
@@ -73,7 +73,7 @@ public:
     void deselectRadioButtons();
     /// Asks for the feature while its box is active, then filters. The key is one of `deviceFeatures`.
     void checkboxCheckForKey(std::string_view key, const CheckboxButton *button);
-    /// Finds out anew which devices match and fades the others.
+    /// Filters the devices again and fades those that do not match.
     void filter();
     /// Fades the view within a quarter of a second, from the opacity it has.
     void animateView(FadingView *view, float toAlphaValue);

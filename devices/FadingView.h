@@ -7,7 +7,7 @@
 namespace lumora
 {
 
-/// A view that can be faded. Its opacity costs nothing but drawing it anew.
+/// A view that can be faded. A new opacity costs only a repaint.
 class FadingView : public QWidget
 {
     Q_OBJECT
@@ -19,7 +19,7 @@ public:
     /// 0 to 1.
     float alphaValue() const { return m_alphaValue; }
     void setAlphaValue(float alpha);
-    /// Fades to the opacity within a quarter of a second, from the one it has now, be it in the middle of a fade. Out
+    /// Fades to the opacity within a quarter of a second, from the current one, also in the middle of a fade. Out
     /// of sight it takes it at once.
     void fadeTo(float alpha);
 

@@ -115,7 +115,7 @@ void append(Bytes &out, const MessageValue &value)
         out.insert(out.end(), {0, 0});
 }
 
-/// Where a value stands: its row of siblings and its number there.
+/// The place of a value: its row of siblings and its number there.
 struct Place
 {
     std::vector<MessageValue> *row;

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-# Reads CHANGELOG.md, the one place where release notes stand, into the forms that AppStream and Debian want:
+# Reads CHANGELOG.md, the one source of release notes, into the forms that AppStream and Debian want:
 #   LUMORA_METAINFO_RELEASES  <release> elements, indented
 #   LUMORA_DEBIAN_CHANGELOG   one Debian changelog stanza a release
 # A release is "## VERSION (YYYY-MM-DD)", followed by one "- " line a change.

@@ -29,7 +29,7 @@ struct PlaceholderRun
     std::vector<PlaceholderFile> files;
 };
 
-/// Told after each picture how many of all are done.
+/// Called after each picture with how many of all are done.
 using PlaceholderWritten = std::function<void(qsizetype done, qsizetype total)>;
 
 /// Makes a fresh folder "placeholders" in the destination and writes the pictures into it, in order, each under the

@@ -16,7 +16,7 @@ enum class PlaceholderSet { Ios, Mac };
 inline constexpr int shortestPlaceholderEdge = 1;
 inline constexpr int longestPlaceholderEdge = 9999;
 
-/// The pictures of a set in pixels, in the order of drawing and of writing. No size stands in a set twice, since files
+/// The pictures of a set in pixels, in the order of drawing and of writing. No size is in a set twice, since files
 /// are named after it.
 std::span<const QSize> placeholderSizes(PlaceholderSet set);
 

@@ -87,7 +87,7 @@ void PlaceholderViewController::setUpAppearance()
 void PlaceholderViewController::setUpButton(HoverButton *button, const QString &what)
 {
     styleButton(button, qtTrId("GENERATE"), palette::placeholders, palette::placeholdersBorder);
-    // Three buttons say the same; the description tells them apart.
+    // Three buttons say the same; the description makes the difference.
     button->setAccessibleDescription(what);
     m_captions.insert(button, new TimedCaption([button](const QString &caption) { button->setText(caption); },
                                                qtTrId("GENERATE"), this));

@@ -19,7 +19,7 @@ _lumora_words() {
   mapfile -t COMPREPLY < <(compgen -W "$1" -- "$2")
 }
 
-# A list separated by commas: what stands before the last comma is kept.
+# A list separated by commas: what comes before the last comma is kept.
 _lumora_list() {
   local before=""
   [[ $2 == *,* ]] && before=${2%,*},

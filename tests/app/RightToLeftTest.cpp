@@ -70,7 +70,7 @@ void collect(const QWidget *parent, const QString &path, QMap<QString, const QWi
     }
 }
 
-/// What stands in the middle of an odd width is off by half a point, to one side or the other.
+/// What is centered in an odd width is off by half a point, to one side or the other.
 bool isAt(const QRect &one, const QRect &other)
 {
     return one.size() == other.size() && (one.topLeft() - other.topLeft()).manhattanLength() <= 1;
@@ -159,7 +159,7 @@ private slots:
     }
 
 private:
-    /// For whoever wants to look: LUMORA_PICTURES names the folder.
+    /// To look at: LUMORA_PICTURES names the folder for the pictures.
     static void savePicture(const Application &application, qint32 index)
     {
         const QString folder = qEnvironmentVariable("LUMORA_PICTURES");

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A start of the program while another one has its name on the bus, and how that one may behave.
+// A start of the program while another one has its name on the bus, and how the other may behave.
 #include "app/BusApplication.h"
 #include "foundation/Version.h"
 
@@ -22,7 +22,7 @@ const QString id = QString::fromLatin1(applicationId);
 
 enum class Manner { Answers, AnswersLate, Refuses, NeverAnswers, EndsWhenCalled };
 
-/// Another program that has the name. Works on a thread of its own, since whoever calls it waits.
+/// Another program that has the name. Works on a thread of its own, since its caller waits.
 class OtherProgram final : public QDBusVirtualObject
 {
 public:

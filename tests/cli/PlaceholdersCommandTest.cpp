@@ -305,7 +305,7 @@ private slots:
         QCOMPARE(run.status, 1);
         const QStringList written = filesBelowFolder(disk.path() + u"/placeholders"_s);
         QVERIFY(!written.isEmpty());
-        // Each that is missing is told of, and none is a torso.
+        // Each that is missing is reported, and none is a torso.
         QCOMPARE(run.complaints().size() + written.size(), iosFiles.size());
         for (const QString &name : written)
             QVERIFY2(!QImage(disk.path() + u"/placeholders/"_s + name).isNull(), qPrintable(name));

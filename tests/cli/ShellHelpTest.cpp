@@ -41,7 +41,7 @@ QStringList optionsOf(const QString &command)
 
 } // namespace
 
-/// What the shells offer and the manual tells is what the program understands.
+/// What the shells offer and the manual describes is what the program understands.
 class ShellHelpTest : public QObject
 {
     Q_OBJECT

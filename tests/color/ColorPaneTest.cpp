@@ -213,7 +213,7 @@ private slots:
     void anotherCopyRestoresTheFirstButtonAndStartsAnew()
     {
         press(m_controller->iosButton());
-        // Some of the first two seconds has to go by, or starting anew could not be told from going on.
+        // Some of the first two seconds has to go by, or a restart would look like going on.
         QTest::qWait(500);
         press(m_controller->macButton());
         QElapsedTimer sinceSecond;

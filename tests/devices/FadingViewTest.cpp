@@ -22,7 +22,7 @@ private slots:
 namespace
 {
 
-/// What the eye cannot tell apart, and what a Bézier curve is computed to.
+/// Less than the eye can see, and what a Bézier curve is computed to.
 constexpr float tolerance = 0.003F;
 
 void startFading(FadingView &view, float alpha)

@@ -30,7 +30,7 @@ class Desktop:
 
     # Whether a drag may offer a link and nothing else, or a copy and no link.
     has_links = True
-    # Whether a program or a script may say where a window goes, and is told where it is.
+    # Whether a program or a script may say where a window goes, and can ask where it is.
     places_windows = True
 
     def __init__(self, program, drag_source=None, size="1600x1200", scale=1, language="en_GB.UTF-8"):
@@ -102,11 +102,11 @@ class Desktop:
         return "window id" in answer.stdout
 
     def _start_x(self):
-        # Several desktops may be on their way up at once; whoever asks for a number that is taken tries another.
+        # Several desktops may start at once; if a number is taken, the next one is tried.
         for _ in range(20):
             number = random.randint(200, 30000)
             read, write = os.pipe()
-            # Without -noreset the server throws out whoever is connecting while its only client leaves.
+            # Without -noreset the server drops a client that connects while its only client leaves.
             server = self.run("Xvfb", f":{number}", "-noreset", "-displayfd", str(write), "-screen", "0", f"{self.size}x24",
                               "-nolisten", "tcp", pass_fds=[write])
             os.close(write)
@@ -252,7 +252,7 @@ class Lumora:
         except Exception:  # a node that went away while it was looked at
             return
         for child in children:
-            # What stands on something hidden is hidden: five of the six tools need not be asked.
+            # What is on something hidden is hidden: five of the six tools need not be asked.
             if child is not None and (not showing or self._is_showing(child)):
                 yield child
                 yield from self._walk(child, showing)
@@ -340,7 +340,7 @@ class Lumora:
             try:
                 wait_for("the focus to move", lambda before=before: place() not in (before, None), 3)
             except Missing:
-                continue  # the window was not yet the one that has the keyboard
+                continue  # the window did not have the keyboard yet
         raise Missing(f"Tab never comes to {name}")
 
     def close(self):

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A window out of which files are dragged: drag_source copy,move,link FILE...  Tells when the drag has ended, and as
+// A window out of which files are dragged: drag_source copy,move,link FILE...  Prints when the drag has ended, and as
 // what; stays on to hand out its data, which the receiver fetches after that.
 #include <QApplication>
 #include <QDrag>

@@ -28,7 +28,7 @@ def shown(event):
     if event.detail1 and event.source.getRoleName() in ("alert", "dialog", "notification"):
         print(event.source.getRoleName(), "|", event.source.name, flush=True)
 pyatspi.Registry.registerEventListener(shown, "object:state-changed:showing")
-# A name is asked for once and kept; as a screen reader does, ask to be told when it changes.
+# A name is asked for once and kept; as a screen reader does, ask to hear of changes.
 pyatspi.Registry.registerEventListener(lambda event: None, "object:property-change:accessible-name")
 print("ready", flush=True)
 pyatspi.Registry.start()

@@ -25,7 +25,7 @@ class Walk:
         self.lumora.wait_shown("Lumora | Placeholders")
 
     def generate(self, card):
-        """The card's button, which its description tells from the other two."""
+        """The card's button, which differs from the other two by its description."""
         return wait_for(f"the button of {card}", lambda: next(
             (button for button in self.lumora.controls("push button") if button.description == SUBTITLES[card]), None))
 

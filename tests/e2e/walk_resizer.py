@@ -50,7 +50,7 @@ class Walk:
     def expect(self, folder, *sources):
         self.lumora.wait_shown("All done")
         assert files_below(folder) == self.commanded(*sources), sorted(files_below(folder))
-        # The notice stands for two seconds; then files may come again.
+        # The notice stays for two seconds; then files may come again.
         wait_for("the drop area", lambda: self.lumora.controls(None, DROP_AREA), 5)
         assert not self.lumora.shows("All done") and not self.lumora.shows(PROGRESS)
 

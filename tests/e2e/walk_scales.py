@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""A popup points at the button it came from at every scale factor, and the controls are where they are told to be."""
+"""A popup points at the button it came from at every scale factor, and the controls are where they report to be."""
 
 import multiprocessing
 import subprocess

@@ -127,7 +127,7 @@ class Surroundings(unittest.TestCase):
             with self.subTest(scale):
                 picture = photograph(self.folder, "devices", scale=scale)
                 self.assertEqual(size(picture), (round(WIDTH * scale), round(HEIGHT * scale)))
-                # Text is laid out anew, its edges fall elsewhere: measured 0.03 to 0.05; a lost or shifted part costs twice that.
+                # Text is laid out again, its edges fall elsewhere: measured 0.03 to 0.05; a lost or shifted part costs twice that.
                 self.assertLess(difference(self.plain["devices"], picture), 0.08)
 
     def test_the_desktops_colors_change_nothing(self):

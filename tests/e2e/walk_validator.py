@@ -46,7 +46,7 @@ def work_folders(folder):
 
 
 def by_mouse(desktop, scratch, work):
-    """Opened by a path relative to where the user stands; a drag; the real dialog."""
+    """Opened by a path relative to the user's folder; a drag; the real dialog."""
     lumora = desktop.start("valid.ipa", cwd=scratch)
     for fact in FACTS:
         lumora.wait_shown(fact)

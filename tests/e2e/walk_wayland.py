@@ -140,7 +140,7 @@ class Popover(unittest.TestCase):
             wait_for("the popover at its anchor", desktop.popover_is_on_its_anchor)
             x, y, width, height = desktop.bounds(GREEN)
             desktop.drag((x + width // 2, y + height // 2), (60, 40))
-            # The compositor moves nothing that belongs to another window while the button is down: it is shown there anew.
+            # The compositor moves nothing that belongs to another window while the button is down: it is shown there again.
             wait_for("the popover where it was dragged", lambda: desktop.bounds(GREEN) == (x + 60, y + 40, width, height))
             self.assertTrue(desktop.probe.report()["popover"])
 

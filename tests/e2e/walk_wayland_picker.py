@@ -33,11 +33,11 @@ def main(program):
         wheel = lumora.find("dial", "Colour wheel")
 
         def click_on_the_wheel(part):
-            """Presses where the wheel is told to be, this part of its width from its left, in its middle."""
+            """Presses where the wheel reports to be, this part of its width from its left, in its middle."""
             x, y, width, height = wheel.box
             desktop.click(x + round(width * part), y + height // 2)
 
-        # It lies where its controls are told to be, or the presses would not pick these colours.
+        # It is where its controls report to be, or the presses would not pick these colours.
         lumora.find("slider", "Brightness").node.queryValue().currentValue = 100
         click_on_the_wheel(0.9)
         wait_for("red from the wheel's right", lambda: wheel.node.description.startswith("Hue 0°"))

@@ -16,7 +16,7 @@ from desktop import Desktop, wait_for
 class WaylandDesktop(Desktop):
     """The desktop under a Wayland compositor. No window has a number here, and none knows where it is: after a window
     was moved or resized by hand, `find_window` has to look again before controls are clicked. A whole scale is the
-    screen's, as the compositor tells it; this compositor knows no others, so that they are the toolkit's."""
+    screen's, as the compositor reports it; this compositor knows no others, so that they are the toolkit's."""
 
     BACKGROUND = (32, 36, 40)
     # Nothing but a window has so long a row of pixels that are not the background's: no pointer, no popover's edge.
@@ -88,7 +88,7 @@ class WaylandDesktop(Desktop):
         return left, edges[0][0], right - left, edges[-1][0] + 1 - edges[0][0]
 
     def has_window(self, process):
-        # Nobody tells whose it is.
+        # Nothing says whose it is.
         return bool(self.window_box())
 
     def find_window(self, lumora):

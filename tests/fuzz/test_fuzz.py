@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
 """Builds the fuzz targets and lets each run over its seeds and some seconds on: a break-in costs more than that, but
-what broke once stays mended. fuzz/README.md tells how to run them for long.
+what broke once stays mended. fuzz/README.md says how to run them for long.
 """
 import os
 import subprocess

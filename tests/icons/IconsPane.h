@@ -42,7 +42,7 @@ struct IconsPane
         ui.generateIconsButton->click();
         services.folderChooser.confirm(folder);
     }
-    /// The popup's arrow stands where a message about the control belongs.
+    /// The popup's arrow is where a message about the control belongs.
     bool popupPointsAt(const QWidget *control) const
     {
         const QPointF expected =

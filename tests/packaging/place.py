@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""Where the build under test lies, as CTest tells it, and the one way in which these tests run a command."""
+"""Where the build under test is, as CTest passes it, and the one way in which these tests run a command."""
 import glob
 import os
 import subprocess

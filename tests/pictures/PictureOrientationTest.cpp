@@ -30,7 +30,7 @@ QByteArray bigEndianBlock(char orientation)
            QByteArray("\0\0\0\0\0\0", 6);
 }
 
-/// A TIFF file tells the orientation in its own directory, which Qt writes in the machine's byte order.
+/// A TIFF file holds the orientation in its own directory, which Qt writes in the machine's byte order.
 QByteArray turnedTiff(quint16 orientation)
 {
     QByteArray file = pictureFile(opaqueQuarters(), "tiff");

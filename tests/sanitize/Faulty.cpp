@@ -50,7 +50,7 @@ private:
 // Two threads, the standard library's or the toolkit's, do the same.
 
 /// QThread::create() is no example: it runs its work within a call of Qt's into the C library, where the thread
-/// sanitizer is told to look away.
+/// sanitizer has to ignore.
 class ToolkitThread final : public QThread
 {
 public:
@@ -107,7 +107,7 @@ void byTheEventLoop(const std::function<void()> &work)
     thread.wait();
 }
 
-/// A thread writes, and only then sends word; whoever gets the word reads.
+/// A thread writes, and only then sends word; the receiver reads.
 void sendWord()
 {
     QObject receiver;

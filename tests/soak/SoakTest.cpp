@@ -74,7 +74,7 @@ private slots:
         loadResources();
         installTexts(*qApp, QLocale(u"en_GB"_s));
         applyAppColors();
-        // Exports tell what they do, and the offscreen platform that it cannot raise a window: thousands of lines.
+        // Exports log what they do, and the offscreen platform that it cannot raise a window: thousands of lines.
         QLoggingCategory::setFilterRules(u"*.info=false\ndefault.warning=false"_s);
         qputenv("TMPDIR", QFile::encodeName(m_work.path()));
         QVERIFY(runScript(u"make_packages.py"_s, {m_packages.path()}));
@@ -90,7 +90,7 @@ private slots:
             popover->setAnimates(false);
         m_delegate->activate();
         QVERIFY(QTest::qWaitForWindowExposed(m_delegate->window()));
-        // The level after the tenth of each: by then every pane is laid out and every cache is filled.
+        // The level after the tenth of each: until then every pane is laid out and every cache is filled.
         for (int round = 0; round < 10; ++round) {
             switchTool(round);
             exportIcons(round);
@@ -158,7 +158,7 @@ private:
         QVERIFY(m_delegate->popupView()->isVisible() || m_delegate->aboutPopupView()->isVisible());
     }
 
-    /// One platform's icons, the platforms in turn, into a folder where a set is already: the message tells of it.
+    /// One platform's icons, the platforms in turn, into a folder where a set is already: the message says so.
     void exportIcons(int round)
     {
         m_delegate->sideBar()->setSelectedIndex(0);

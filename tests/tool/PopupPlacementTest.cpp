@@ -88,7 +88,7 @@ private slots:
         shown.window.move(screen.left() + 100, screen.top() + 100);
         displayOnScreen(shown.popover, &shown.window, QPointF(280, 280));
         QCOMPARE(shown.popover.position(), PopoverPosition::Below);
-        // The arrow's tip stands on the point.
+        // The arrow's tip is on the point.
         const QPoint tip(shown.window.mapToGlobal(QPoint(280, 300 - 280)));
         QCOMPARE(shown.content->mapToGlobal(QPoint(100, 0)), tip + QPoint(0, 10));
     }

@@ -37,7 +37,7 @@ def bundle(files=None, *, plist=None, form=plistlib.FMT_BINARY, name="Demo.app")
 
 
 def claiming(entries):
-    """An empty archive whose directory's end says that there are so many entries."""
+    """An empty archive whose directory's end claims this number of entries."""
     # At the very start of the file the end would not be looked for.
     start = b"junk"
     return (start + struct.pack("<4sQHHIIQQQQ", b"PK\6\6", 44, 45, 45, 0, 0, entries, entries, 0, len(start))

@@ -65,7 +65,7 @@ private slots:
         m_picker->content.codeField()->selectAll();
         QTest::keyClicks(m_picker->content.codeField(), u"#8f0"_s);
         QCOMPARE(m_picker->code(), u"#88ff00"_s);
-        // Opacity is not part of the code; what is typed stands until typing ends.
+        // Opacity is not part of the code; what is typed stays until typing ends.
         QCOMPARE(m_picker->model.color().alpha, 0.4F);
         QCOMPARE(m_picker->content.codeField()->text(), u"#8f0"_s);
         QTest::keyClick(m_picker->content.codeField(), Qt::Key_Return);

@@ -8,7 +8,7 @@
 namespace lumora
 {
 
-/// A delegate with both forms of the selectors, so that it is heard. Remembers what it is told and asked.
+/// A delegate with both forms of the selectors, so that it is heard. Remembers what it receives and is asked.
 class ListeningDelegate : public ZipArchiveDelegate
 {
 public:

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Stands between the program and minizip: the linker finds these functions before the library's.
+// Comes between the program and minizip: the linker finds these functions before the library's.
 #include "MinizipCalls.h"
 
 #include <QStringList>
@@ -110,7 +110,7 @@ bool MinizipCalls::note(const QString &function, const QStringList &arguments)
 
 using namespace lumora;
 
-// The library's function of the same name, called with the arguments of the one that stands in for it.
+// The library's function of the same name, called with its replacement's arguments.
 #define LIBRARY(name) library<decltype(name)>(#name)
 
 extern "C" {

@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-/// What is asked of the library for one entry with a name of so many bytes, read in so many blocks.
+/// What is asked of the library for one entry with a name of the given bytes, read in the given number of blocks.
 QStringList entryCalls(const QString &opening, int nameLength, int reads)
 {
     QStringList calls{opening, u"unzGetCurrentFileInfo(null, 0, null, 0, null, 0)"_s,

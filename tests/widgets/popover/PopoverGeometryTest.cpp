@@ -32,7 +32,7 @@ PopoverPosition positionOf(int value)
     return static_cast<PopoverPosition>(value);
 }
 
-/// The number of points at which an outline begins anew.
+/// The number of points at which a new outline begins.
 int subpaths(const QPainterPath &path)
 {
     int count = 0;

@@ -58,7 +58,7 @@ private slots:
         SFBPopover popover(plainContent());
         popover.setAnimates(false);
         QVERIFY(!popover.popoverWindow()->parentWindow());
-        // Any widget of the parent window stands for it.
+        // Any widget of the parent window may represent it.
         popover.displayPopoverInWindow(scene.button, QPointF(200, 130));
         QCOMPARE(popover.popoverWindow()->parentWindow(), &scene.window);
         QCOMPARE(popover.popoverWindow()->windowHandle()->transientParent(), scene.window.windowHandle());
