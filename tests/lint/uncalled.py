@@ -13,6 +13,7 @@ from pathlib import Path
 from objects import object_files
 from shown_pictures import program_files
 
+PROGRAMS = ("lumora", "lumora-window")
 PUBLIC_FACE = Path(__file__).parent / "public_face.txt"
 # Made by Qt's tools: each picture or text set can be unloaded, which the program never does.
 GENERATED = re.compile(r"^qCleanupResources_|^qUnregisterResourceData")
@@ -23,10 +24,11 @@ NOT_FUNCTIONS = {"if", "for", "while", "switch", "catch", "Q_PROPERTY", "operato
 
 
 def program_objects(build: Path) -> list[Path]:
-    """The libraries that the program is linked from, and its main file."""
+    """The libraries that the programs are linked from, and their main files."""
     tests = build / "tests"
     libraries = [file for file in sorted(build.rglob("liblumora_*.a")) if tests not in file.parents]
-    return libraries + sorted((build / "app/CMakeFiles/lumora.dir").rglob("*.o"))
+    programs = [folder for name in PROGRAMS for folder in build.glob(f"*/CMakeFiles/{name}.dir")]
+    return libraries + [file for folder in programs for file in sorted(folder.rglob("*.o"))]
 
 
 def demangled(names: list[str]) -> list[str]:
