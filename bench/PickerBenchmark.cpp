@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How long the colour picker takes from the click on its well to its first frame, and to repaint for one step of a drag
+// How long the color picker takes from the click on its well to its first frame, and to repaint for one step of a drag
 // in the wheel. Runs without a screen: QT_QPA_PLATFORM=offscreen.
 #include "color/picker/BFColorPickerPopover.h"
 #include "color/picker/BFColorPickerViewController.h"
@@ -122,7 +122,7 @@ void opensAgain(benchmark::State &state, PickerMode mode)
 BENCHMARK_CAPTURE(opensAgain, wheel, PickerMode::Wheel)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(opensAgain, palettes, PickerMode::Palettes)->UseManualTime()->Unit(benchmark::kMillisecond);
 
-/// Each step moves the ring, and with it the sliders' colours, the swatch and the code.
+/// Each step moves the ring, and with it the sliders' colors, the swatch and the code.
 void dragsInTheWheel(benchmark::State &state)
 {
     ColorPanel *panel = ColorPanel::sharedColorPanel();
@@ -131,7 +131,7 @@ void dragsInTheWheel(benchmark::State &state)
     QCoreApplication::processEvents();
     FirstPaint painted;
     panel->contentView()->installEventFilter(&painted);
-    // Never where the run before ended: a colour that is not new is not drawn.
+    // Never where the run before ended: a color that is not new is not drawn.
     float turn = panel->model()->picked().hsb.hue;
     for (auto _ : state) {
         turn += 0.013F;

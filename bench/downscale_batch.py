@@ -50,7 +50,7 @@ def photo(width, height, number):
     return ["-seed", str(number), "-size", f"{width}x{height}", "plasma:fractal", *PHOTO]
 
 
-# (how many, kind, sizes in turn, what is appended, PNG flavour)
+# (how many, kind, sizes in turn, what is appended, PNG flavor)
 MIX = [
     (50, drawing, [(58, 58), (80, 80), (88, 88), (120, 120), (152, 152)], [], "PNG32"),
     (40, drawing, [(200, 88), (320, 100), (560, 120), (640, 180)], [], "PNG32"),

@@ -20,7 +20,7 @@ def chunk(name, data):
 
 
 def apple_icon(edge):
-    """An Apple-optimised picture of soft gradients."""
+    """An Apple-optimized picture of soft gradients."""
     rows = b"".join(b"\0" + bytes(v for x in range(edge) for v in (x * 255 // edge, y * 255 // edge, (x ^ y) & 255, 255))
                     for y in range(edge))
     packer = zlib.compressobj(6, zlib.DEFLATED, -15)

@@ -4,7 +4,7 @@
 
 photo.png    light and shade of every scale under the noise of a camera's sensor
 drawing.png  an icon as they are drawn today: flat shapes with smooth edges and soft shadows over a gradient
-plain.png    the same shapes in one colour each on a ground of one colour, nothing soft
+plain.png    the same shapes in one color each on a ground of one color, nothing soft
 
 usage: make_sources.py FOLDER"""
 import math
@@ -29,7 +29,7 @@ def write_png(path, rows):
 
 def photo():
     """Waves of every length with amplitudes as in nature (one over the frequency). The noise is that of a daylight
-    picture: 2.5 levels in brightness, 1 in each colour."""
+    picture: 2.5 levels in brightness, 1 in each color."""
     noise = random.Random(1)
     waves = []
     for octave in range(1, 8):

@@ -22,7 +22,7 @@ enum class ColorNotation {
 
 inline constexpr int colorNotationCount = 4;
 
-/// What a colour text comes down to: the colour and its code in every notation.
+/// What a color text comes down to: the color and its code in every notation.
 struct ColorCodes
 {
     RgbaColor color;
@@ -37,7 +37,7 @@ int componentByte(float component);
 /// "#rrggbb" in lower case. A component that is not between 0 and 1 is printed as its byte comes out, as wide as it is.
 QString stringFromColor(const RgbaColor &color);
 
-/// Reads a colour text: every "#" is removed, three digits are doubled to six, six get full opacity, and red, green,
+/// Reads a color text: every "#" is removed, three digits are doubled to six, six get full opacity, and red, green,
 /// blue and alpha are the leading hexadecimal digits of the first four pairs. Refused with InvalidValue where a pair is
 /// missing or begins with no hexadecimal digit.
 Result<ColorCodes> colorWithHexString(const QString &text);

@@ -11,14 +11,14 @@
 namespace lumora
 {
 
-/// A new colour of the platform in generic RGB with the same red, green, blue and opacity, whatever model the given one
+/// A new color of the platform in generic RGB with the same red, green, blue and opacity, whatever model the given one
 /// was made in. The caller owns it, as any value.
 QColor copyCGColor(const QColor &color);
 
 /// Draws a number from 0 to 2^31 - 1, as random(3) does.
 using RandomSource = std::function<long()>;
 
-/// An opaque colour of three numbers drawn in the order red, green, blue, each times 2^-31.
+/// An opaque color of three numbers drawn in the order red, green, blue, each times 2^-31.
 RgbaColor randomColor(const RandomSource &random = ::random);
 
 /// "r: 52, g: 73, b: 94, a: 255": each component times 255, rounded to the nearest integer. For logs.

@@ -13,7 +13,7 @@ namespace
 
 constexpr qreal cornerRadius = 6;
 constexpr qreal borderWidth = 2;
-/// The mean of red, green and blue from which a colour is too light for white.
+/// The mean of red, green and blue from which a color is too light for white.
 constexpr float lightest = 0.8F;
 
 } // namespace

@@ -23,14 +23,14 @@ namespace lumora
 namespace
 {
 
-/// The colour at start-up: the chrome text's, in the figures that its code is cut from.
+/// The color at start-up: the chrome text's, in the figures that its code is cut from.
 constexpr RgbaColor firstColor{0.204F, 0.286F, 0.369F, 1.0F};
 constexpr int fieldFontSize = 35;
 constexpr int labelFontSize = 13;
 
 constexpr auto tagName = "tag";
 
-/// A colour, or a text that is the code of one; a file is neither, though its name comes as a text too.
+/// A color, or a text that is the code of one; a file is neither, though its name comes as a text too.
 bool carriesColor(const QMimeData &content)
 {
     return content.hasColor() || (!content.hasUrls() && !content.hasImage() && codesForCopying(content.text()).ok());
@@ -257,7 +257,7 @@ bool ColorViewController::filterDrag(QEvent *event)
         return false;
     auto *drop = static_cast<QDropEvent *>(event);
     const QMimeData &content = *drop->mimeData();
-    // The view takes a colour itself; pictures and other files are for other tools.
+    // The view takes a color itself; pictures and other files are for other tools.
     if (content.hasColor())
         return false;
     if (!carriesColor(content)) {
@@ -272,7 +272,7 @@ bool ColorViewController::filterDrag(QEvent *event)
 
 bool ColorViewController::filterKey(QEvent *event)
 {
-    // The field pastes texts, and would make nothing of a copied colour.
+    // The field pastes texts, and would make nothing of a copied color.
     if (event->type() != QEvent::KeyPress || !static_cast<QKeyEvent *>(event)->matches(QKeySequence::Paste) ||
         !services().clipboard.color().isValid())
         return false;

@@ -26,7 +26,7 @@ class ColorField;
 class ColorWell;
 class HoverButton;
 
-/// The colour tool: a colour typed, picked, dropped or pasted, and a button for each notation that copies its code.
+/// The color tool: a color typed, picked, dropped or pasted, and a button for each notation that copies its code.
 class ColorViewController final : public ToolViewController, public DropViewDelegate
 {
     Q_OBJECT
@@ -46,7 +46,7 @@ public:
     QLabel *javaLabel() const;
     QLabel *cssLabel() const;
 
-    /// The current colour: the last one that was valid, whatever is being typed.
+    /// The current color: the last one that was valid, whatever is being typed.
     const RgbaColor &theColor() const { return m_theColor; }
     /// What the copy button pressed last showed before.
     const QString &savedButtonTitle() const { return m_savedButtonTitle; }
@@ -54,9 +54,9 @@ public:
     /// How long a button says that it has copied.
     static constexpr std::chrono::milliseconds copiedDuration{2000};
 
-    /// The code list of the text, whose colour becomes the current one; refused text changes nothing.
+    /// The code list of the text, whose color becomes the current one; refused text changes nothing.
     Result<ColorCodes> colorWithHexString(const QString &text);
-    /// Parses while the user types; of interest only where it comes from the colour's field.
+    /// Parses while the user types; of interest only where it comes from the color's field.
     void controlTextDidChange(const QObject *notificationObject);
     void colorWellReceivedColor(const ColorWell *sender);
     void iosButtonPressed(HoverButton *sender);
@@ -70,7 +70,7 @@ public:
 
     void dropViewReceivedColor(const QColor &color) override;
     bool takesClipboard() const override { return true; }
-    /// Takes a copied colour, or a copied text that is one.
+    /// Takes a copied color, or a copied text that is one.
     void paste() override;
 
 protected:

@@ -12,7 +12,7 @@ namespace
 
 constexpr float sectors = 6.0F;
 
-/// One component of a fully bright colour: a trapezium over the six sectors of the wheel, `shift` sectors turned.
+/// One component of a fully bright color: a trapezium over the six sectors of the wheel, `shift` sectors turned.
 float wheelComponent(float hue, float shift, float saturation)
 {
     const float sector = std::fmod(hue * sectors + shift, sectors);

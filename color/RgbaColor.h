@@ -6,7 +6,7 @@
 namespace lumora
 {
 
-/// A colour as the colour tool computes with it: calibrated RGB in single precision. Components run from 0 to 1 and are
+/// A color as the color tool computes with it: calibrated RGB in single precision. Components run from 0 to 1 and are
 /// kept as they are given, beyond that range too.
 struct RgbaColor
 {
@@ -18,10 +18,10 @@ struct RgbaColor
     bool operator==(const RgbaColor &) const = default;
 };
 
-/// The components of a platform colour, whatever model it was made in.
+/// The components of a platform color, whatever model it was made in.
 RgbaColor rgbaFrom(const QColor &color);
 
-/// The colour for painting and for the clipboard; components outside 0 to 1 are clamped, since no screen shows them.
+/// The color for painting and for the clipboard; components outside 0 to 1 are clamped, since no screen shows them.
 QColor platformColor(const RgbaColor &color);
 
 } // namespace lumora

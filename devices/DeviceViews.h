@@ -24,7 +24,7 @@ private:
     NamedImage m_image;
 };
 
-/// The model's label below a picture, centred.
+/// The model's label below a picture, centered.
 class DeviceLabel final : public FadingView
 {
     Q_OBJECT

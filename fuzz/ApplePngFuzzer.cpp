@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Any bytes as an Apple-optimised picture.
+// Any bytes as an Apple-optimized picture.
 #include "PngChecksums.h"
 #include "pictures/png/ApplePngDecoder.h"
 #include "pictures/png/PngHeader.h"

@@ -8,7 +8,7 @@
 namespace lumora
 {
 
-/// Shows the placeholders that a run would write, all at one scale: the same grey, the same label at the same place.
+/// Shows the placeholders that a run would write, all at one scale: the same gray, the same label at the same place.
 /// Without any it shows an empty frame.
 class MiniatureView final : public QWidget
 {

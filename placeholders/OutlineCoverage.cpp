@@ -28,7 +28,7 @@ struct Passage
     }
 };
 
-/// Adds the passage's area to the differences between neighbouring pixels, whose running sum is the coverage.
+/// Adds the passage's area to the differences between neighboring pixels, whose running sum is the coverage.
 void addPassage(const Passage &passage, std::span<double> differences)
 {
     const auto last = static_cast<std::ptrdiff_t>(differences.size()) - 1;

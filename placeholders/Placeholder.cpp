@@ -15,7 +15,7 @@ namespace
 constexpr std::size_t bytesPerPixel = 4;
 constexpr unsigned char opaque = 255;
 
-/// Grey under as much white as the coverage says, rounded to the nearest byte.
+/// Gray under as much white as the coverage says, rounded to the nearest byte.
 unsigned char whiteOverGray(unsigned char coverage)
 {
     constexpr int lift = 255 - Placeholder::gray;

@@ -14,13 +14,13 @@ namespace lumora
 
 class LabelFont;
 
-/// One placeholder picture: 50 % grey with its own size written on it in white. It keeps the shape of its label and
+/// One placeholder picture: 50 % gray with its own size written on it in white. It keeps the shape of its label and
 /// answers rows of pixels when asked, so the largest costs no more memory than the smallest. A cheap value: copies
 /// share the label; rows may be read from several threads.
 class Placeholder
 {
 public:
-    /// The standard 50 % grey, as a byte.
+    /// The standard 50 % gray, as a byte.
     static constexpr unsigned char gray = 128;
 
     /// The picture's size in pixels, truncated as it is written.

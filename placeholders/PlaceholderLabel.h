@@ -16,7 +16,7 @@ QString labelText(QSizeF picture);
 /// The label's font size in points, which are pixels here: a tenth of the width, whatever the height.
 float labelPointSize(double pictureWidth);
 
-/// Where a text of the measured size goes: centred, its origin snapped down to whole pixels. Counts y upwards, origin
+/// Where a text of the measured size goes: centered, its origin snapped down to whole pixels. Counts y upwards, origin
 /// at the lower left corner; the rectangle may reach beyond a picture that is lower than the text.
 QRectF labelRectangle(QSizeF picture, QSizeF text);
 

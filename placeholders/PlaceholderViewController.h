@@ -24,7 +24,7 @@ class HoverButton;
 class TimedCaption;
 class ZKTextField;
 
-/// The placeholder tool: writes labelled grey pictures in the screen sizes of iOS devices or of the Mac, or one in a
+/// The placeholder tool: writes labeled gray pictures in the screen sizes of iOS devices or of the Mac, or one in a
 /// typed size, and shows beforehand what they will be.
 class PlaceholderViewController final : public ToolViewController
 {

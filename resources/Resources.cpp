@@ -8,7 +8,7 @@
 
 #include <memory>
 
-// The resource initialisers live outside any namespace; Q_INIT_RESOURCE declares them where it is used.
+// The resource initializers live outside any namespace; Q_INIT_RESOURCE declares them where it is used.
 static void initializeResources()
 {
     Q_INIT_RESOURCE(lumora_fonts);

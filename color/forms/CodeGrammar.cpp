@@ -27,7 +27,7 @@ struct GrammarRow
 constexpr RgbSpace srgb = RgbSpace::Srgb;
 constexpr RgbSpace displayP3 = RgbSpace::DisplayP3;
 
-/// What is understood beyond the forms that are written. Places are those of the forms, and besides {w} a grey, {h} {s}
+/// What is understood beyond the forms that are written. Places are those of the forms, and besides {w} a gray, {h} {s}
 /// {v} hue (a turn is 1), saturation and brightness, {name} any word. Rows of whole numbers stand before those of
 /// fractions where one text could be both, as the languages choose between their overloads.
 constexpr GrammarRow readOnly[] = {

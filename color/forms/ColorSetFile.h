@@ -18,7 +18,7 @@ struct ColorSetEntry
     QString appearance; ///< "dark", "high" and the like, joined by a space; empty for the color of any appearance
 };
 
-/// Reads a color set's Contents.json: sRGB, extended and linear sRGB, Display P3 and grey, components as fractions,
+/// Reads a color set's Contents.json: sRGB, extended and linear sRGB, Display P3 and gray, components as fractions,
 /// bytes or hexadecimal bytes. None where any color of it is in another form, so that no set is taken in part.
 std::optional<std::vector<ColorSetEntry>> readColorSet(const QByteArray &json);
 

@@ -24,7 +24,7 @@ constexpr ColorMatrix xyzOfCones = inverted(conesOfXyz);
 constexpr ColorMatrix conesOfOklab = inverted(oklabOfCones);
 constexpr ColorMatrix srgbOfXyz = inverted(xyzOfSrgb);
 
-/// Below it a color is a grey: some hundred times what the matrices' own rounding leaves, a tenth of what a form
+/// Below it a color is a gray: some hundred times what the matrices' own rounding leaves, a tenth of what a form
 /// prints.
 constexpr double grayChroma = 1e-6;
 constexpr double degrees = 180.0 / std::numbers::pi;

@@ -6,7 +6,7 @@
 namespace lumora
 {
 
-/// Hue in degrees, 0 up to but not including 360; the others from 0 to 1. A grey's hue is 0 whatever rounding left of
+/// Hue in degrees, 0 up to but not including 360; the others from 0 to 1. A gray's hue is 0 whatever rounding left of
 /// it.
 struct HslColor
 {
@@ -45,7 +45,7 @@ HwbColor hwbOf(const WideColor &color);
 OklabColor oklabOf(const WideColor &color);
 OklchColor oklchOf(const WideColor &color);
 
-/// In sRGB. The hue may be any number of degrees. A whiteness and blackness of more than 1 together are a grey in their
+/// In sRGB. The hue may be any number of degrees. A whiteness and blackness of more than 1 together are a gray in their
 /// proportion.
 WideColor wideColorFrom(const HslColor &color, double alpha);
 WideColor wideColorFrom(const HwbColor &color, double alpha);

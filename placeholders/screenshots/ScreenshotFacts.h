@@ -19,7 +19,7 @@ struct ScreenshotFacts
     QByteArray format; ///< "png", "jpeg", ...; empty for no picture that is known
     QSize size;        ///< in pixels; empty where it could not be read
     bool hasAlpha = false;
-    /// False for four inks and for shades of grey alone.
+    /// False for four inks and for shades of gray alone.
     bool isRgb = true;
 };
 

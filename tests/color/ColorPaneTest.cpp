@@ -149,7 +149,7 @@ private slots:
         const QColor chosen = platformColor(m_controller->theColor());
         QCOMPARE(pressed->normalColor(), chosen);
         QCOMPARE(pressed->hovercolor(), chosen);
-        // Converting for the copy makes the text's colour the current one, though it was not typed.
+        // Converting for the copy makes the text's color the current one, though it was not typed.
         QCOMPARE(m_controller->colorWell()->color(), codesForCopying(text).value().color);
         QCOMPARE(field()->textColor(), chosen);
     }
@@ -204,7 +204,7 @@ private slots:
         QCOMPARE(m_controller->popupView()->borderColor(), palette::errorLight);
         QCOMPARE(m_controller->popupContentView()->titleLabel()->text(), qtTrId("COLOR_ALERT_TITLE"));
         QCOMPARE(m_controller->popupContentView()->messageLabel()->text(), qtTrId("COLOR_ALERT_MESSAGE"));
-        // All at rest again, the one that had copied too; the colour is the last valid one.
+        // All at rest again, the one that had copied too; the color is the last valid one.
         QCOMPARE(m_controller->iosButton()->text(), qtTrId("COLOR_IOS_BUTTON"));
         QCOMPARE(m_controller->macButton()->text(), qtTrId("COLOR_MAC_BUTTON"));
         QCOMPARE(stringFromColor(m_controller->theColor()), u"#34485e"_s);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A window filled with one colour, for a pipette to find: color_window '#336699'.
+// A window filled with one color, for a pipette to find: color_window '#336699'.
 #include <QGuiApplication>
 #include <QRasterWindow>
 

@@ -174,7 +174,7 @@ class Desktop:
             self.source = self.run(str(self.drag_source), actions, *map(str, files))
             start = self._grip(to)
         self.xdotool("mousemove", *start, "mousedown", 1)
-        # The drag begins only once the pointer has travelled, and every window on the way has to hear of it.
+        # The drag begins only once the pointer has traveled, and every window on the way has to hear of it.
         steps = 16
         for step in range(1, steps + 1):
             self.xdotool("mousemove", *(start[axis] + (to[axis] - start[axis]) * step // steps for axis in (0, 1)))

@@ -28,7 +28,7 @@ public:
     Source(Qt::DropActions actions, QList<QUrl> files) : m_actions(actions), m_files(std::move(files))
     {
         resize(120, 120);
-        // Found by its colour where windows have no numbers.
+        // Found by its color where windows have no numbers.
         setAutoFillBackground(true);
         setPalette(QPalette(Qt::magenta));
     }

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""usage: fake_portal.py RED GREEN BLUE   A desktop portal on the session bus whose colour picker answers at once with the
-colour, components from 0 to 1; with "cancel" instead of a colour, that the user changed their mind."""
+"""usage: fake_portal.py RED GREEN BLUE   A desktop portal on the session bus whose color picker answers at once with the
+color, components from 0 to 1; with "cancel" instead of a color, that the user changed their mind."""
 import sys
 
 from gi.repository import Gio, GLib

@@ -108,7 +108,7 @@ def focus_is_seen(desktop, lumora):
             while (control.role, control.name, control.box) not in stops:
                 stops.append((control.role, control.name, control.box))
                 box = control.box
-                # Colours fade in.
+                # Colors fade in.
                 wait_for("the picture to rest", lambda box=box: pixels(desktop, folder, box) == pixels(desktop, folder, box))
                 before = pixels(desktop, folder, box)
                 desktop.key("Tab")

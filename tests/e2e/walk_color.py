@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""Type a colour, copy its code and read it back in another process, pick, tear the picker off by a real drag: with the mouse,
+"""Type a color, copy its code and read it back in another process, pick, tear the picker off by a real drag: with the mouse,
 then the same with the keyboard alone, then as assistive technology does."""
 
 import sys
@@ -36,7 +36,7 @@ def by_mouse(desktop, lumora, field, on_clipboard):
         on_clipboard(code)
     lumora.wait_gone("Copied")
 
-    # What is no colour is answered with a message.
+    # What is no color is answered with a message.
     field.click()
     desktop.key("ctrl+a")
     desktop.type("zz")

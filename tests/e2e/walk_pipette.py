@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""Pick colours from the screen: out of another program's window, by mouse and by key, and through a desktop's portal."""
+"""Pick colors from the screen: out of another program's window, by mouse and by key, and through a desktop's portal."""
 
 import subprocess
 import sys

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
 """The placeholder tool: a set by the mouse, a size by the keyboard alone, one by the accessibility interface alone,
-refusals, a cancelled and a second run, and the window closed in the middle of the largest picture."""
+refusals, a canceled and a second run, and the window closed in the middle of the largest picture."""
 
 import subprocess
 import sys
@@ -80,7 +80,7 @@ class Walk:
         wait_for("the button to have the keyboard", self.generate("custom").has_focus)
         self.desktop.key("space")
 
-        # Cancelled, nothing is written; confirmed, the picture.
+        # Canceled, nothing is written; confirmed, the picture.
         wait_for("the dialog", lambda: self.lumora.controls("push button", "Choose"))
         self.desktop.key("Escape")
         wait_for("the dialog to close", lambda: not self.lumora.controls("push button", "Choose"))

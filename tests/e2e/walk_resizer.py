@@ -65,7 +65,7 @@ class Walk:
             self.desktop.drag_files([self.button], drop_area.middle, actions="copy")
             wait_for("the refusal in the log", lambda: "Error - Copied?!" in self.desktop.log())
 
-        # Among others it is left out. A cancelled destination writes nothing.
+        # Among others it is left out. A canceled destination writes nothing.
         self.desktop.drag_files([self.button, self.plain, self.logo], drop_area.middle)
         wait_for("the dialog", lambda: self.lumora.controls("push button", "Choose"))
         self.desktop.key("Escape")

@@ -10,14 +10,14 @@ from window_system import Desktop
 
 SCALES = (1, 1.25, 1.5, 2)
 HEADER = 60
-# Of the popup; nothing else in the header has its colour.
+# Of the popup; nothing else in the header has its color.
 BORDER_COLOR, BORDER_WIDTH = (52, 73, 94), 5
 # From the window's upper edge.
 ANCHOR = 50
 
 
 def first_of(picture, color):
-    """The middle of the uppermost row that has pixels of exactly this colour: x and y; None without one."""
+    """The middle of the uppermost row that has pixels of exactly this color: x and y; None without one."""
     told = subprocess.run(["identify", "-format", "%w %h", picture], capture_output=True, text=True, check=True).stdout
     width, height = map(int, told.split())
     pixels = subprocess.run(["convert", picture, "-depth", "8", "rgb:-"], capture_output=True, check=True).stdout

@@ -2,7 +2,7 @@
 # SPDX-License-Identifier: MIT
 """usage: walk_surroundings.py LUMORA DRAG_SOURCE   The window in surroundings it was not drawn for: other scale factors, a dark and
 a high-contrast desktop, a system without fonts. The design is light by intent, so on every desktop it has to look as it does on a
-plain one, and not take over half of the desktop's colours."""
+plain one, and not take over half of the desktop's colors."""
 import re
 import subprocess
 import sys
@@ -15,12 +15,12 @@ from window_system import Desktop
 
 PROGRAM, DRAG_SOURCE = (str(Path(name).resolve()) for name in sys.argv[1:3])
 
-# Sidebar and header are filled with the tool's colour.
+# Sidebar and header are filled with the tool's color.
 HEADERS = {"icons": (52, 152, 219), "devices": (230, 126, 34)}
 WIDTH, HEIGHT = 900, 660
 SCALES = (1, 1.25, 1.5, 2)
 
-# What a KDE desktop keeps its colours in; Qt reads it there.
+# What a KDE desktop keeps its colors in; Qt reads it there.
 SCHEME = """[Colors:{group}]
 BackgroundNormal={background}
 BackgroundAlternate={background}
@@ -89,7 +89,7 @@ def processor_time(process):
 
 
 def share(picture, color):
-    """The part of the picture that has exactly this colour, 0 to 1."""
+    """The part of the picture that has exactly this color, 0 to 1."""
     answer = subprocess.run(
         ["convert", picture, "-fill", "black", "+opaque", "rgb(%d,%d,%d)" % color, "-fill", "white", "-opaque", "rgb(%d,%d,%d)" % color,
          "-format", "%[fx:mean]", "info:"], stdout=subprocess.PIPE, text=True, check=True)

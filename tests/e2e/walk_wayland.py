@@ -15,7 +15,7 @@ from windows_driver import Probe  # noqa: E402
 
 GREEN, CYAN = (0, 255, 0), (0, 255, 255)
 BAR = 60
-# Close, minimise and zoom stand 24 points apart; their middles from the window's left edge.
+# Close, minimize and zoom stand 24 points apart; their middles from the window's left edge.
 CLOSE, MINIMIZE, ZOOM = 68, 92, 116
 
 

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""The colour picker under a Wayland compositor, where no window can place or move itself: the popover lies at the well, a drag
+"""The color picker under a Wayland compositor, where no window can place or move itself: the popover lies at the well, a drag
 short of fifty points leaves it there, a longer one tears it off into a window of its own; a pipette that cannot work says so."""
 
 import sys
@@ -37,7 +37,7 @@ def main(program):
             x, y, width, height = wheel.box
             desktop.click(x + round(width * part), y + height // 2)
 
-        # It is where its controls report to be, or the presses would not pick these colours.
+        # It is where its controls report to be, or the presses would not pick these colors.
         lumora.find("slider", "Brightness").node.queryValue().currentValue = 100
         click_on_the_wheel(0.9)
         wait_for("red from the wheel's right", lambda: wheel.node.description.startswith("Hue 0°"))

@@ -63,12 +63,12 @@ class WaylandDesktop(Desktop):
         return tuple(self.pixels("-crop", f"1x1+{round(x)}+{round(y)}", "-depth", "8", "rgb:-"))
 
     def bounds(self, color):
-        """x, y, width, height around all pixels of the colour; None without one."""
+        """x, y, width, height around all pixels of the color; None without one."""
         name = "rgb(%d,%d,%d)" % color
         answer = self.pixels("-fill", "black", "+opaque", name, "-format", "%@", "info:").decode()
         size, x, y = answer.split("+")
         width, height = map(int, size.split("x"))
-        # Of a picture without the colour nothing is trimmed.
+        # Of a picture without the color nothing is trimmed.
         whole = (width, height) == tuple(map(int, self.size.split("x")))
         return None if whole or width * height == 0 else (int(x), int(y), width, height)
 

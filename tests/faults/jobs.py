@@ -10,7 +10,7 @@ from dataclasses import dataclass, field
 
 
 def png(width, height):
-    """A small picture that no encoder shrinks to nothing: every pixel another colour."""
+    """A small picture that no encoder shrinks to nothing: every pixel another color."""
     rows = b"".join(
         b"\0" + b"".join(bytes((x * 7 % 256, y * 11 % 256, (x ^ y) % 256, 255)) for x in range(width)) for y in range(height)
     )

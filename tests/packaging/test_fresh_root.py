@@ -135,7 +135,7 @@ class Screen:
         return self.run("timeout", "60", "xdotool", "search", "--sync", "--onlyvisible", "--class", "lumora")
 
     def share(self, color):
-        """The part of the screen that has exactly this colour, 0 to 1."""
+        """The part of the screen that has exactly this color, 0 to 1."""
         name = "rgb(%d,%d,%d)" % color
         mask = ["-fill", "black", "+opaque", name, "-fill", "white", "-opaque", name]
         return float(self.run("convert", "x:root", *mask, "-format", "%[fx:mean]", "info:").stdout)

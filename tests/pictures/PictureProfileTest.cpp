@@ -30,7 +30,7 @@ QByteArray pngProfile(const QByteArray &profile)
     return QByteArray("name\0\0", 6) + qCompress(profile).sliced(4);
 }
 
-/// A profile whose header is in order but whose colours nobody can know: every tag has another name.
+/// A profile whose header is in order but whose colors nobody can know: every tag has another name.
 QByteArray namelessProfile()
 {
     QByteArray profile = QColorSpace(QColorSpace::DisplayP3).iccProfile();

@@ -14,7 +14,7 @@ namespace
 constexpr QRgb gray = qRgba(128, 128, 128, 255);
 constexpr QRgb white = qRgba(255, 255, 255, 255);
 
-/// The smallest rectangle around every pixel that is not plain grey.
+/// The smallest rectangle around every pixel that is not plain gray.
 QRect labelPixels(const QImage &image)
 {
     QRect bounds;
@@ -78,7 +78,7 @@ private slots:
             }
         }
         QVERIFY(sawWhite);
-        // The ink's centre is the line's but for side bearings, the place of the digits in the line and the snapping:
+        // The ink's center is the line's but for side bearings, the place of the digits in the line and the snapping:
         // together less than a tenth of the font size, that is a hundredth of the width, and a pixel.
         const double allowed = size.width() / 100 + 1;
         QVERIFY(std::abs(label.x() + label.width() / 2.0 - size.width() / 2) <= allowed);

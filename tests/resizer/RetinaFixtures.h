@@ -8,7 +8,7 @@
 namespace lumora
 {
 
-/// Writes a picture of one colour as a PNG file; false when it could not.
+/// Writes a picture of one color as a PNG file; false when it could not.
 inline bool putFlatPng(const QString &path, QSize size, const QColor &color)
 {
     QImage picture(size, QImage::Format_ARGB32);

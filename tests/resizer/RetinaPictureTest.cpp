@@ -141,7 +141,7 @@ private slots:
     void keepsDetailAndAddsNone_data()
     {
         QTest::addColumn<int>("alpha");
-        // With transparency the colours take another way, of 16 bits.
+        // With transparency the colors take another way, of 16 bits.
         QTest::newRow("opaque") << 255;
         QTest::newRow("translucent") << 200;
     }

@@ -10,7 +10,7 @@ from xml.etree import ElementTree
 
 
 def heading(report):
-    """What it found, and where: the sanitizer's own summary, or the undefined behaviour's only line."""
+    """What it found, and where: the sanitizer's own summary, or the undefined behavior's only line."""
     text = report.read_text(errors="replace")
     found = re.search(r"^SUMMARY: (.*)$", text, re.M) or re.search(r"^.*: runtime error: .*$", text, re.M)
     return found[0] if found else (text.splitlines() or ["(empty)"])[0]

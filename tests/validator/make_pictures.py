@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""usage: make_pictures.py FOLDER   Apple-optimised pictures of 13 x 11 pixels, each named for its form or fault.
+"""usage: make_pictures.py FOLDER   Apple-optimized pictures of 13 x 11 pixels, each named for its form or fault.
 
-Pixel (x, y) has the colours 20x, 20y and 10(x + y) and the alpha 255 - 12x, multiplied where the form says so.
+Pixel (x, y) has the colors 20x, 20y and 10(x + y) and the alpha 255 - 12x, multiplied where the form says so.
 """
 
 import sys

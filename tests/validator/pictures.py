@@ -62,7 +62,7 @@ def png(width, height, pixel, *, color_type=6, interlaced=False, apple=None, pie
 
 
 def plain_of_size(width, height):
-    """A picture of one colour, small whatever its size: only its header is looked at."""
+    """A picture of one color, small whatever its size: only its header is looked at."""
     rows = (b"\0" + b"\x20\x80\xc0\xff" * width) * height
     return (b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", struct.pack(">IIBBBBB", width, height, 8, 6, 0, 0, 0))
             + chunk(b"IDAT", zlib.compress(rows, 9)) + chunk(b"IEND", b""))

@@ -20,7 +20,7 @@ private slots:
         const QPoint middle = m_picker->wheel()->markerCenter().toPoint();
         QTest::mousePress(m_picker->wheel(), Qt::LeftButton, {}, middle + QPoint(0, -500 / 8));
         QCOMPARE(channelNumber(m_picker->model.picked(), ColorChannel::Hue), 90);
-        // Dragged off the wheel to the left, the colour stays on its rim.
+        // Dragged off the wheel to the left, the color stays on its rim.
         QMouseEvent move(QEvent::MouseMove, QPointF(-400, middle.y()),
                          m_picker->wheel()->mapToGlobal(QPointF(-400, middle.y())), Qt::NoButton, Qt::LeftButton, {});
         QCoreApplication::sendEvent(m_picker->wheel(), &move);
@@ -140,7 +140,7 @@ private slots:
                 const WheelPosition position = wheel.positionAt(place);
                 const QColor color = platformColor(rgbaFrom(HsbColor{position.hue, position.saturation, 1.0F}, 1.0F));
                 QCOMPARE(pixel.alpha(), 255);
-                // Rounded in single precision, a component may fall to the neighbouring byte.
+                // Rounded in single precision, a component may fall to the neighboring byte.
                 QVERIFY2(std::abs(pixel.red() - color.red()) <= 1 && std::abs(pixel.green() - color.green()) <= 1 &&
                              std::abs(pixel.blue() - color.blue()) <= 1,
                          qPrintable(QString::number(x) + u',' + QString::number(y)));

@@ -178,7 +178,7 @@ private slots:
             byName[named.name] = stringFromColor(named.color);
             QVERIFY2(codes.insert(stringFromColor(named.color)).second, qPrintable(named.name));
         }
-        // 148 names, less the second spellings of seven greys and of aqua and fuchsia.
+        // 148 names, less the second spellings of seven grays and of aqua and fuchsia.
         QCOMPARE(colors.size(), std::size_t{139});
         QCOMPARE(byName[u"rebeccapurple"_s], u"#663399"_s);
         QCOMPARE(byName[u"tomato"_s], u"#ff6347"_s);

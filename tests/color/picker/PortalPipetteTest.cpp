@@ -12,7 +12,7 @@
 using namespace lumora;
 using namespace Qt::StringLiterals;
 
-/// The three numbers of a colour, as portals send them.
+/// The three numbers of a color, as portals send them.
 struct PortalColor
 {
     double red = 0;

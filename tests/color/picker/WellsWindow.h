@@ -18,7 +18,7 @@
 namespace lumora
 {
 
-/// A window with two colour wells and a hand that clicks them and drags their popover. One for each test: going, it
+/// A window with two color wells and a hand that clicks them and drags their popover. One for each test: going, it
 /// leaves popover and panel as a test finds them.
 class WellsWindow
 {

@@ -6,7 +6,7 @@
 #include <QColor>
 #include <QImage>
 
-/// Pictures of shapes in one colour each, as icons are drawn.
+/// Pictures of shapes in one color each, as icons are drawn.
 namespace flat_drawings
 {
 
@@ -20,7 +20,7 @@ double aboveASlope(double x, double y);
 double insideADisc(double x, double y);
 double insideAHole(double x, double y);
 
-/// A shape of one colour on a ground of another, its edge smoothed over one pixel.
+/// A shape of one color on a ground of another, its edge smoothed over one pixel.
 QImage drawn(Shape shape, QColor color, QColor ground, int edge = sourceEdge);
 
 /// The red channel of a picture as the only plane.

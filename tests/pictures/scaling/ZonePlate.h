@@ -11,14 +11,14 @@ namespace lumora
 
 inline constexpr int zonePlateEdge = 1024;
 
-/// The zone plate cos(pi * r^2 * 0.5 / 512), r in source pixels from the centre: its local frequency at r is r * 0.5 /
+/// The zone plate cos(pi * r^2 * 0.5 / 512), r in source pixels from the center: its local frequency at r is r * 0.5 /
 /// 512 cycles a pixel.
 inline double zonePlate(double x, double y)
 {
     return 127.5 * (1 + std::cos(std::numbers::pi * (x * x + y * y) * 0.5 / 512));
 }
 
-/// The plate in grey, opaque.
+/// The plate in gray, opaque.
 inline QImage zonePlatePicture()
 {
     QImage picture(zonePlateEdge, zonePlateEdge, QImage::Format_RGB32);
@@ -39,7 +39,7 @@ struct ZonePlateErrors
 };
 
 /// Of the plate scaled to a smaller square, in any format that begins with red: root mean squares in 8-bit levels of
-/// what should be grey where the target cannot hold the detail, and of the deviation from the plate itself where it
+/// what should be gray where the target cannot hold the detail, and of the deviation from the plate itself where it
 /// easily can.
 inline ZonePlateErrors zonePlateErrors(const QImage &scaled)
 {

@@ -177,7 +177,7 @@ private slots:
         };
         QCOMPARE(at(102, 1), QColor(Qt::red));         // just inside the tip
         QCOMPARE(at(102, 60), QColor(0, 0, 255, 128)); // the balloon, with no shadow in it
-        QCOMPARE(at(2, 60), QColor(Qt::red));          // the border is centred on the content's edge
+        QCOMPARE(at(2, 60), QColor(Qt::red));          // the border is centered on the content's edge
         QCOMPARE(at(1.5, 60), QColor(Qt::red));
         QVERIFY(at(4, 60) == QColor(0, 0, 255, 128));
         QCOMPARE(at(102, 118), QColor(Qt::red));

@@ -40,7 +40,7 @@ QColor gray(float white)
 
 } // namespace
 
-/// The tools' colours are given, and with them white text on them and large headings in them. Every other text is ours.
+/// The tools' colors are given, and with them white text on them and large headings in them. Every other text is ours.
 class ContrastTest : public QObject
 {
     Q_OBJECT
@@ -53,7 +53,7 @@ private slots:
         QCOMPARE(contrast(Qt::white, Qt::black), 21.0);
         QCOMPARE(contrast(Qt::black, Qt::white), 21.0);
         QCOMPARE(contrast(Qt::red, Qt::red), 1.0);
-        // The guidelines' own example of the lightest grey that is still enough on white.
+        // The guidelines' own example of the lightest gray that is still enough on white.
         QVERIFY(contrast(QColor(0x76, 0x76, 0x76), Qt::white) >= enough);
         QVERIFY(contrast(QColor(0x77, 0x77, 0x77), Qt::white) < enough);
     }

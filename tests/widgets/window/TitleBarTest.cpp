@@ -225,7 +225,7 @@ private slots:
         const QImage picture = pictureOf(window.titleBarView(), scale);
         const auto grayAt = [&](qreal y) { return picture.pixelColor(QPoint(300 * scale, qFloor(y * scale))).red(); };
         const TitleBarGrays grays = titleBarGrays(PlatformGeneration::Newer, main);
-        // The noise over a main window's bar shifts a grey by a tenth of its distance to black or white at most.
+        // The noise over a main window's bar shifts a gray by a tenth of its distance to black or white at most.
         const int tolerance = main ? 26 : 2;
         QVERIFY(qAbs(grayAt(3) - qRound(grays.gradientTop * 255)) <= tolerance + 3);
         QVERIFY(qAbs(grayAt(30) - qRound((grays.gradientTop + grays.gradientBottom) / 2 * 255)) <= tolerance + 1);

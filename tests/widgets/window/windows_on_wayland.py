@@ -46,7 +46,7 @@ class Compositor:
 
 
 def bounds(picture, color):
-    """The rectangle around all pixels of the colour: left, top, right, bottom, the last two beyond it; None without one."""
+    """The rectangle around all pixels of the color: left, top, right, bottom, the last two beyond it; None without one."""
     width, height, pixels = picture
     wanted = bytes(color)
     rows = [pixels[y * width * 3:(y + 1) * width * 3] for y in range(height)]

@@ -198,7 +198,7 @@ def traffic_lights_work():
     with Desktop() as desktop:
         probe = desktop.probe()
         window = probe.report()["window"]
-        # Close, minimise and zoom stand 24 points apart from the left margin of 60.
+        # Close, minimize and zoom stand 24 points apart from the left margin of 60.
         close, minimize, zoom = [(window[0] + 68 + 24 * i, window[1] + 30) for i in range(3)]
         desktop.mouse("mousemove", *zoom, "click", "1")
         probe.wait("the window to fill the screen", lambda state: state["maximized"] and state["window"][2] == 1600)
