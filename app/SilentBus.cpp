@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "SilentBus.h"
 
+#include "foundation/FileDescriptor.h"
+
 #include <cerrno>
 #include <cstring>
 
@@ -37,21 +39,16 @@ bool isSilentBus(const QByteArray &address, std::chrono::milliseconds patience)
     if (path.isEmpty() || static_cast<std::size_t>(path.size()) >= sizeof place.sun_path)
         return false;
     std::memcpy(place.sun_path, path.constData(), static_cast<std::size_t>(path.size()));
-    const int descriptor = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
-    if (descriptor < 0)
+    const FileDescriptor bus(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
+    if (!bus.valid())
         return false;
-    bool silent = false;
+    // The bus has not taken the connections that already wait there.
+    if (::connect(bus.number(), reinterpret_cast<const sockaddr *>(&place), sizeof place) != 0)
+        return errno == EAGAIN;
     constexpr std::size_t length = sizeof greeting - 1;
-    if (::connect(descriptor, reinterpret_cast<const sockaddr *>(&place), sizeof place) == 0) {
-        pollfd answer{descriptor, POLLIN, 0};
-        silent = ::send(descriptor, greeting, length, MSG_NOSIGNAL) == static_cast<ssize_t>(length) &&
-                 ::poll(&answer, 1, static_cast<int>(patience.count())) == 0;
-    } else {
-        // Nobody has taken the connections that wait there already.
-        silent = errno == EAGAIN;
-    }
-    ::close(descriptor);
-    return silent;
+    pollfd answer{bus.number(), POLLIN, 0};
+    return ::send(bus.number(), greeting, length, MSG_NOSIGNAL) == static_cast<ssize_t>(length) &&
+           ::poll(&answer, 1, static_cast<int>(patience.count())) == 0;
 }
 
 } // namespace lumora

@@ -69,8 +69,8 @@ QJsonObject fileJson(const PlaceholderFile &file)
 
 ExitStatus report(Console &console, const PlaceholderRun &run, bool json)
 {
-    if (!run.folder.error.isEmpty()) {
-        console.complain(Failure{FailureCode::CannotCreateFolder, run.folder.path, run.folder.error});
+    if (run.folderFailure) {
+        console.complain(*run.folderFailure);
         return ExitStatus::Refused;
     }
     ExitStatus status = ExitStatus::Done;

@@ -10,6 +10,8 @@
 
 #include <sys/stat.h>
 
+using namespace Qt::StringLiterals;
+
 namespace lumora
 {
 
@@ -22,9 +24,9 @@ int makeFolder(const QString &path)
     return ::mkdir(QFile::encodeName(path).constData(), 0777) == 0 ? 0 : errno;
 }
 
-/// The error's number, EEXIST for a name that is in use, 0 when the folder was made. To look is not enough, since two
-/// runs may start together; nor is to make, since a file system may have another complaint of a folder that is there,
-/// which would then be written into.
+/// The error's number, EEXIST for a name that is in use, 0 when the folder was made. Looking alone is not enough: two
+/// runs may start together. Making alone is not enough either: a file system may report another error than EEXIST for a
+/// folder that exists, which would then be written into.
 int makeFreshFolder(const QString &path)
 {
     const QFileInfo info(path);
@@ -39,28 +41,30 @@ QString ExportFolder::name() const
     return QFileInfo(path).fileName();
 }
 
-ExportFolder makeExportFolder(const QString &destination, const QString &baseName)
+Result<ExportFolder> makeExportFolder(const QString &destination, const QString &baseName)
 {
     const QString base = destination + u'/' + baseName;
-    ExportFolder folder{base, false, {}};
+    ExportFolder folder{base, false};
     int error = makeFreshFolder(base);
     if (error == EEXIST)
-        logLine(QStringLiteral("Folder exists!"));
+        logLine(u"Folder exists!"_s);
     for (int number = 1; error == EEXIST; ++number) {
-        folder = {base + u'_' + QString::number(number), true, {}};
+        folder = {base + u'_' + QString::number(number), true};
         error = makeFreshFolder(folder.path);
     }
-    if (error != 0) {
-        folder.error = qt_error_string(error);
-        logLine(QStringLiteral("Folder error: ") + folder.error);
-    }
-    return folder;
+    if (error == 0)
+        return folder;
+    const Failure failure{FailureCode::CannotCreateFolder, folder.path, qt_error_string(error)};
+    logLine(u"Folder error: "_s + failure.detail);
+    return failure;
 }
 
-QString createFolder(const QString &path)
+Outcome createFolder(const QString &path)
 {
     const int error = makeFolder(path);
-    return error == 0 ? QString() : qt_error_string(error);
+    if (error == 0)
+        return Done{};
+    return Failure{FailureCode::CannotCreateFolder, path, qt_error_string(error)};
 }
 
 } // namespace lumora

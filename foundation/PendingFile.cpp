@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "PendingFile.h"
 
-#include "DescriptorWriting.h"
-
 #include <cerrno>
 
 #include <fcntl.h>
@@ -29,7 +27,7 @@ QByteArray linkOf(int descriptor)
     return "/proc/self/fd/" + QByteArray::number(descriptor);
 }
 
-/// The hidden name beside the file's; whoever finds it taken by a file that is being written takes the next number.
+/// The hidden name beside the file's. Where another process writes a file under it, the next number is taken.
 QByteArray siblingOf(const QByteArray &path, int number)
 {
     const qsizetype nameAt = path.lastIndexOf('/') + 1;
@@ -40,32 +38,30 @@ QByteArray siblingOf(const QByteArray &path, int number)
     return path.first(nameAt) + '.' + name;
 }
 
-/// Every writer holds this lock from the moment its file has a name. False when another holds it; a file system without
-/// locks has nobody to tell.
+/// Every writer holds this lock from the moment its file has a name. False when another process holds it. On a file
+/// system without locks the answer is true.
 bool lock(int descriptor)
 {
     return ::flock(descriptor, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK;
 }
 
-/// Removes the file under this name if it is one that a killed process of this user left: nobody holds its lock.
+/// Removes the file under this name if a killed process of this user left it: nobody holds its lock.
 bool removeAbandoned(const QByteArray &name)
 {
-    const int descriptor = ::open(name.constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
-    if (descriptor < 0)
+    const FileDescriptor file(::open(name.constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+    if (!file.valid())
         return errno == ENOENT;
     struct stat status = {};
-    const bool abandoned = ::fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode) &&
-                           status.st_uid == ::geteuid() && ::flock(descriptor, LOCK_EX | LOCK_NB) == 0;
-    // Renamed by its writer before it could be locked, it is no longer what stands under the name.
+    const bool abandoned = ::fstat(file.number(), &status) == 0 && S_ISREG(status.st_mode) &&
+                           status.st_uid == ::geteuid() && ::flock(file.number(), LOCK_EX | LOCK_NB) == 0;
+    // Its writer may have renamed it before it was locked; then the name belongs to another file or to none.
     struct stat named = {};
     const bool same = abandoned && ::lstat(name.constData(), &named) == 0 && named.st_ino == status.st_ino;
-    const bool removed = abandoned && (!same || ::unlink(name.constData()) == 0);
-    ::close(descriptor);
-    return removed;
+    return abandoned && (!same || ::unlink(name.constData()) == 0);
 }
 
-/// Makes a file under the first sibling's name that is free or was abandoned, by `make`, which answers whether it could
-/// and leaves the reason in `errno`; empty when it could not.
+/// Calls `make` with the first sibling's name that is free or was abandoned. Empty when that returns false; the reason
+/// is in `errno`.
 template <typename Make> QByteArray makeSibling(const QByteArray &path, Make make)
 {
     constexpr int writersAtOnce = 100;
@@ -85,93 +81,93 @@ template <typename Make> QByteArray makeSibling(const QByteArray &path, Make mak
 
 } // namespace
 
-PendingFile::PendingFile(QByteArray path) : m_path(std::move(path))
+Result<PendingFile> PendingFile::begin(const QByteArray &path)
 {
-    // A file without a name gets one through /proc; where that is missing, it never could.
-    m_descriptor = ::open(folderOf(m_path).constData(), O_TMPFILE | O_WRONLY | O_CLOEXEC, 0666);
-    if (m_descriptor >= 0 && ::access(linkOf(m_descriptor).constData(), F_OK) == 0)
-        return;
-    close();
-    // Systems without such files answer with EOPNOTSUPP, EISDIR or EINVAL; every other error is the folder's own and
-    // comes again.
-    m_temporaryName = makeSibling(m_path, [this](const QByteArray &name) { return openNamed(name); });
-    if (m_temporaryName.isEmpty())
-        fail();
+    PendingFile file(path);
+    if (file.open())
+        return file;
+    const bool denied = errno == EACCES || errno == EPERM;
+    return systemFailure(denied ? FailureCode::NoPermission : FailureCode::CannotWrite, {});
+}
+
+PendingFile::PendingFile(PendingFile &&other) noexcept
+    : m_path(std::move(other.m_path)), m_temporaryName(std::exchange(other.m_temporaryName, {})),
+      m_file(std::move(other.m_file))
+{
 }
 
 PendingFile::~PendingFile()
 {
-    // In this order: without the lock the name may be another's by then.
+    // Before the lock goes with the descriptor: after that the name may belong to another writer.
     if (!m_temporaryName.isEmpty())
         ::unlink(m_temporaryName.constData());
-    close();
 }
 
-bool PendingFile::write(const QByteArray &bytes)
+Outcome PendingFile::write(const QByteArray &bytes)
 {
-    return writeAll(m_descriptor, bytes) || fail();
+    return writeAll(m_file, bytes);
 }
 
-bool PendingFile::publish()
+Outcome PendingFile::publish()
 {
-    struct stat before;
+    struct stat before = {};
     if (::stat(m_path.constData(), &before) == 0)
-        ::fchmod(m_descriptor, before.st_mode & 07777);
+        ::fchmod(m_file.number(), before.st_mode & 07777);
     if (m_temporaryName.isEmpty()) {
         if (linkTo(m_path))
-            return close() || fail();
+            return m_file.close();
         if (errno != EEXIST)
-            return fail();
-        lock(m_descriptor);
+            return systemFailure(FailureCode::CannotWrite, {});
+        lock(m_file.number());
         m_temporaryName = makeSibling(m_path, [this](const QByteArray &name) { return linkTo(name); });
         if (m_temporaryName.isEmpty())
-            return fail();
+            return systemFailure(FailureCode::CannotWrite, {});
     }
     if (!flush() || ::rename(m_temporaryName.constData(), m_path.constData()) != 0)
-        return fail();
+        return systemFailure(FailureCode::CannotWrite, {});
     m_temporaryName.clear();
-    close();
-    return true;
+    m_file = {};
+    return Done{};
 }
 
-bool PendingFile::fail()
+bool PendingFile::open()
 {
-    m_error = errno;
-    return false;
+    // A file without a name gets one through /proc, so it needs that.
+    m_file = FileDescriptor(::open(folderOf(m_path).constData(), O_TMPFILE | O_WRONLY | O_CLOEXEC, 0666));
+    if (m_file.valid() && ::access(linkOf(m_file.number()).constData(), F_OK) == 0)
+        return true;
+    m_file = {};
+    // Systems without such files report EOPNOTSUPP, EISDIR or EINVAL; every other error is the folder's own and comes
+    // again.
+    m_temporaryName = makeSibling(m_path, [this](const QByteArray &name) { return openNamed(name); });
+    return !m_temporaryName.isEmpty();
 }
 
-bool PendingFile::close()
+bool PendingFile::flush() const
 {
-    const int descriptor = m_descriptor;
-    m_descriptor = -1;
-    return descriptor < 0 || ::close(descriptor) == 0;
-}
-
-bool PendingFile::flush()
-{
-    // Network file systems report lost writes when a descriptor is closed; the old file must not have gone by then, nor
-    // the lock, which the other descriptor keeps.
-    const int copy = ::fcntl(m_descriptor, F_DUPFD_CLOEXEC, 0);
-    return copy >= 0 && ::close(copy) == 0;
+    // Network file systems report lost writes when a descriptor is closed. The old file must still be there then, and
+    // the lock too, which the other descriptor keeps.
+    FileDescriptor copy(::fcntl(m_file.number(), F_DUPFD_CLOEXEC, 0));
+    return copy.valid() && copy.close();
 }
 
 bool PendingFile::openNamed(const QByteArray &name)
 {
-    m_descriptor = ::open(name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-    if (m_descriptor < 0)
+    m_file = FileDescriptor(::open(name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
+    if (!m_file.valid())
         return false;
-    // Between the two calls it may have been taken for an abandoned one.
+    // Between the two calls another process may have removed it as abandoned.
     struct stat status = {};
-    if (lock(m_descriptor) && ::fstat(m_descriptor, &status) == 0 && status.st_nlink > 0)
+    if (lock(m_file.number()) && ::fstat(m_file.number(), &status) == 0 && status.st_nlink > 0)
         return true;
-    close();
+    m_file = {};
     errno = EEXIST;
     return false;
 }
 
 bool PendingFile::linkTo(const QByteArray &name) const
 {
-    return ::linkat(AT_FDCWD, linkOf(m_descriptor).constData(), AT_FDCWD, name.constData(), AT_SYMLINK_FOLLOW) == 0;
+    return ::linkat(AT_FDCWD, linkOf(m_file.number()).constData(), AT_FDCWD, name.constData(), AT_SYMLINK_FOLLOW) == 0;
 }
 
 } // namespace lumora

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "WholeFile.h"
 
-#include "DescriptorWriting.h"
+#include "FileDescriptor.h"
 #include "PendingFile.h"
 
 #include <QFile>
@@ -14,35 +14,13 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+using namespace Qt::StringLiterals;
+
 namespace lumora
 {
 
 namespace
 {
-
-/// An open file descriptor that closes itself.
-class Descriptor
-{
-public:
-    explicit Descriptor(int descriptor) : m_descriptor(descriptor) {}
-    ~Descriptor() { close(); }
-    Descriptor(const Descriptor &) = delete;
-    Descriptor &operator=(const Descriptor &) = delete;
-
-    bool isOpen() const { return m_descriptor >= 0; }
-    int number() const { return m_descriptor; }
-
-    /// False when the system reports that earlier writes were lost.
-    bool close()
-    {
-        const int descriptor = m_descriptor;
-        m_descriptor = -1;
-        return descriptor < 0 || ::close(descriptor) == 0;
-    }
-
-private:
-    int m_descriptor;
-};
 
 FailureCode openingFailure(int error)
 {
@@ -62,44 +40,57 @@ FailureCode openingFailure(int error)
 }
 
 /// Makes writes wait until the other side has room.
-bool waitsForReaders(int descriptor)
+bool waitsForReaders(const FileDescriptor &file)
 {
-    const int flags = ::fcntl(descriptor, F_GETFL);
-    return flags >= 0 && ::fcntl(descriptor, F_SETFL, flags & ~O_NONBLOCK) == 0;
+    const int flags = ::fcntl(file.number(), F_GETFL);
+    return flags >= 0 && ::fcntl(file.number(), F_SETFL, flags & ~O_NONBLOCK) == 0;
 }
 
 /// Devices and pipes take the bytes as they come; so does a file that may be written in a folder that may not.
-Outcome writeInPlace(const QString &path, const QByteArray &name, const QByteArray &bytes)
+Outcome writeInPlace(const QByteArray &name, const QByteArray &bytes)
 {
-    // A pipe that nobody reads from would be waited for without end; one that somebody does is written at their pace.
-    Descriptor file(::open(name.constData(), O_WRONLY | O_TRUNC | O_NONBLOCK | O_CLOEXEC));
-    if (file.isOpen() && waitsForReaders(file.number()) && writeAll(file.number(), bytes) && file.close())
-        return Done{};
-    return Failure{FailureCode::CannotWrite, path, qt_error_string(errno)};
+    // O_NONBLOCK, since opening a pipe without a reader would block for ever; the writes then wait for the reader.
+    FileDescriptor file(::open(name.constData(), O_WRONLY | O_TRUNC | O_NONBLOCK | O_CLOEXEC));
+    if (!file.valid() || !waitsForReaders(file))
+        return systemFailure(FailureCode::CannotWrite, {});
+    const Outcome written = writeAll(file, bytes);
+    return written ? file.close() : written;
+}
+
+Outcome writePending(const QByteArray &name, const QByteArray &bytes)
+{
+    auto file = PendingFile::begin(name);
+    if (!file)
+        return file.failure();
+    const Outcome written = file.value().write(bytes);
+    return written ? file.value().publish() : written;
 }
 
 } // namespace
 
 Outcome writeWholeFile(const QString &path, const QByteArray &bytes)
 {
-    // A link stays a link: what it points to is what is written.
+    // A link stays a link: what it points to is written.
     const QFileInfo info(path);
     const QByteArray name = QFile::encodeName(info.exists() ? info.canonicalFilePath() : path);
-    if (info.exists() && !info.isFile())
-        return writeInPlace(path, name, bytes);
-    PendingFile file(name);
-    if (!file.isOpen() && info.exists() && (file.error() == EACCES || file.error() == EPERM))
-        return writeInPlace(path, name, bytes);
-    if (file.isOpen() && file.write(bytes) && file.publish())
-        return Done{};
-    return Failure{FailureCode::CannotWrite, path, qt_error_string(file.error())};
+    const bool inPlace = info.exists() && !info.isFile();
+    Outcome written = inPlace ? writeInPlace(name, bytes) : writePending(name, bytes);
+    if (!written && written.failure().code == FailureCode::NoPermission && info.exists())
+        written = writeInPlace(name, bytes);
+    if (written)
+        return written;
+    return Failure{FailureCode::CannotWrite, path, written.failure().detail};
 }
 
 Result<QByteArray> readWholeFile(const QString &path, qint64 limit)
 {
-    const Descriptor file(::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC));
-    if (!file.isOpen())
+    // O_NONBLOCK, since opening a pipe without a writer would block for ever.
+    const FileDescriptor file(::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    if (!file.valid())
         return Failure{openingFailure(errno), path, {}};
+    struct stat status = {};
+    if (::fstat(file.number(), &status) == 0 && !S_ISREG(status.st_mode) && !S_ISDIR(status.st_mode))
+        return Failure{FailureCode::NotReadable, path, u"not a regular file"_s};
     return readWholeDescriptor(file.number(), path, limit);
 }
 
@@ -116,7 +107,7 @@ Result<QByteArray> readWholeDescriptor(int descriptor, const QString &name, qint
     if (regular && status.st_size > limit)
         return Failure{FailureCode::TooLarge, name, {}};
 
-    // One byte more than a regular file is said to hold tells its end without a second, growing read.
+    // One byte more than a regular file should hold, so that its end shows without a second, growing read.
     constexpr qsizetype step = 1 << 16;
     QByteArray bytes(regular ? status.st_size + 1 : step, Qt::Uninitialized);
     qsizetype filled = 0;

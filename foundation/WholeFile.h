@@ -9,15 +9,17 @@
 namespace lumora
 {
 
-/// Writes the bytes as the whole content of the file at `path`. A file that stands there is replaced only once the new
-/// content is whole; when it cannot be written nothing is left of it, and the failure names the system's reason. A
-/// device is written in place, and so is a named pipe if somebody reads from it.
+/// Writes the bytes as the whole content of the file at `path`. An existing file is replaced only once the new content
+/// is whole; when that cannot be written nothing is left of it, and the failure names the system's reason. A device is
+/// written in place, and so is a named pipe that has a reader.
 Outcome writeWholeFile(const QString &path, const QByteArray &bytes);
 
-/// The whole content of a regular file, a pipe or a device, as long as it is no longer than `limit` bytes (`TooLarge`).
+/// The whole content of a regular file of at most `limit` bytes (`TooLarge`). Pipes and devices are refused at once
+/// (`NotReadable`): either might never end or never begin.
 Result<QByteArray> readWholeFile(const QString &path, qint64 limit);
 
-/// The same from an open file descriptor, which stays open; `name` stands in for it in a failure.
+/// The whole content of an open file, pipe or device of at most `limit` bytes. The descriptor stays open; a failure
+/// calls it `name`.
 Result<QByteArray> readWholeDescriptor(int descriptor, const QString &name, qint64 limit);
 
 } // namespace lumora

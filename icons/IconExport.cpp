@@ -10,6 +10,7 @@
 #include <QFileInfo>
 
 #include <memory>
+#include <tuple>
 #include <vector>
 
 namespace lumora
@@ -21,19 +22,23 @@ namespace
 /// Makes the fresh folder of a run; the run goes on even without it.
 void beginExport(IconExport &result, const QString &savePath)
 {
-    result.folder = makeExportFolder(savePath, QStringLiteral("icons"));
-    if (!result.folder.error.isEmpty())
-        result.folderFailure = Failure{FailureCode::CannotCreateFolder, result.folder.path, result.folder.error};
+    const auto folder = makeExportFolder(savePath, QStringLiteral("icons"));
+    if (folder) {
+        result.folder = folder.value();
+    } else {
+        result.folder.path = folder.failure().subject;
+        result.folderFailure = folder.failure();
+    }
 }
 
 /// Makes a sub-folder of the run's; a failure is logged.
 std::optional<Failure> makeSubfolder(const QString &path)
 {
-    const QString error = createFolder(path);
-    if (error.isEmpty())
+    const Outcome made = createFolder(path);
+    if (made)
         return std::nullopt;
-    logLine(QStringLiteral("CreateError: ") + error);
-    return Failure{FailureCode::CannotCreateFolder, path, error};
+    logLine(QStringLiteral("CreateError: ") + made.failure().detail);
+    return made.failure();
 }
 
 QString filePath(const QString &folder, const IconEntry &icon)
@@ -81,9 +86,9 @@ private:
         QString folder = m_result.folder.path + QLatin1StringView(platform.folderSuffix);
         if (platform.platform == IconPlatform::Mac) {
             // What goes wrong with these two shows in the pictures that cannot be written.
-            createFolder(folder);
+            std::ignore = createFolder(folder);
             folder += QLatin1StringView(iconsetSuffix);
-            createFolder(folder);
+            std::ignore = createFolder(folder);
             writeIcons(platform, folder);
             generateMacIcon(folder);
         } else if (const std::optional<Failure> failure = makeSubfolder(folder)) {

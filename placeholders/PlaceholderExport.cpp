@@ -45,7 +45,13 @@ PlaceholderRun savePlaceholders(const std::vector<Placeholder> &pictures, const 
                                 const PlaceholderWritten &written)
 {
     PlaceholderRun run;
-    run.folder = makeExportFolder(destination, QStringLiteral("placeholders"));
+    const auto folder = makeExportFolder(destination, QStringLiteral("placeholders"));
+    if (folder) {
+        run.folder = folder.value();
+    } else {
+        run.folder.path = folder.failure().subject;
+        run.folderFailure = folder.failure();
+    }
     for (const Placeholder &picture : pictures) {
         run.files.push_back(savePlaceholder(picture, run.folder.path));
         if (written)

@@ -8,6 +8,7 @@
 #include <QString>
 
 #include <functional>
+#include <optional>
 #include <vector>
 
 namespace lumora
@@ -26,6 +27,7 @@ struct PlaceholderFile
 struct PlaceholderRun
 {
     ExportFolder folder;
+    std::optional<Failure> folderFailure; ///< the folder could not be made
     std::vector<PlaceholderFile> files;
 };
 

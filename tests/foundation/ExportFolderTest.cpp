@@ -56,11 +56,12 @@ private slots:
 
         if (nameTaken)
             QTest::ignoreMessage(QtInfoMsg, "Folder exists!");
-        const ExportFolder folder = makeExportFolder(destination.path(), QStringLiteral("icons"));
+        const auto made = makeExportFolder(destination.path(), u"icons"_s);
+        QVERIFY(made);
+        const ExportFolder &folder = made.value();
         QTEST(folder.name(), "name");
         QCOMPARE(folder.nameTaken, nameTaken);
         QCOMPARE(folder.path, QString(destination.path() + u'/' + folder.name()));
-        QCOMPARE(folder.error, QString());
         QVERIFY(QFileInfo(folder.path).isDir());
     }
 
@@ -76,10 +77,10 @@ private slots:
             for (int i = 0; i < threads; ++i)
                 starters.emplace_back([&] {
                     for (int run = 0; run < runsPerThread; ++run) {
-                        const ExportFolder folder = makeExportFolder(destination.path(), u"icons"_s);
+                        const auto folder = makeExportFolder(destination.path(), u"icons"_s);
                         const std::scoped_lock lock(mutex);
-                        if (folder.error.isEmpty())
-                            paths += folder.path;
+                        if (folder)
+                            paths += folder.value().path;
                     }
                 });
         }
@@ -87,24 +88,24 @@ private slots:
         QCOMPARE(paths.size(), threads * runsPerThread);
     }
 
-    void tellsWhyTheFolderCannotBeMade()
+    void saysWhyTheFolderCannotBeMade()
     {
         const QTemporaryDir destination;
         QTest::ignoreMessage(QtInfoMsg, "Folder error: No such file or directory");
-        const ExportFolder folder = makeExportFolder(destination.filePath(u"missing"_s), u"icons"_s);
-        QCOMPARE(folder.error, u"No such file or directory"_s);
-        QCOMPARE(folder.path, destination.filePath(u"missing/icons"_s));
-        QVERIFY(!folder.nameTaken);
+        const auto folder = makeExportFolder(destination.filePath(u"missing"_s), u"icons"_s);
+        QVERIFY(!folder);
+        QCOMPARE(folder.failure(), (Failure{FailureCode::CannotCreateFolder, destination.filePath(u"missing/icons"_s),
+                                            u"No such file or directory"_s}));
     }
 
     void makesOneFolderWithoutParents()
     {
         const QTemporaryDir destination;
-        QCOMPARE(createFolder(destination.filePath(u"one"_s)), QString());
+        QVERIFY(createFolder(destination.filePath(u"one"_s)));
         QVERIFY(QFileInfo(destination.filePath(u"one"_s)).isDir());
-        QVERIFY(!createFolder(destination.filePath(u"missing/two"_s)).isEmpty());
+        QVERIFY(!createFolder(destination.filePath(u"missing/two"_s)));
         QVERIFY(!QFileInfo::exists(destination.filePath(u"missing"_s)));
-        QVERIFY(!createFolder(destination.filePath(u"one"_s)).isEmpty());
+        QCOMPARE(createFolder(destination.filePath(u"one"_s)).failure().code, FailureCode::CannotCreateFolder);
     }
 };
 

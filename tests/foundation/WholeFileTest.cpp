@@ -262,6 +262,41 @@ private slots:
         QCOMPARE(outcome.failure().code, FailureCode::CannotWrite);
     }
 
+    void onlyRegularFilesAreRead_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<int>("limit");
+        QTest::addColumn<int>("failure");
+        QTest::newRow("a file") << u"a.png"_s << 100 << -1;
+        QTest::newRow("a file as long as the limit") << u"a.png"_s << int(oldBytes.size()) << -1;
+        QTest::newRow("a file beyond the limit")
+            << u"a.png"_s << int(oldBytes.size()) - 1 << int(FailureCode::TooLarge);
+        QTest::newRow("a link to a file") << u"link"_s << 100 << -1;
+        QTest::newRow("a pipe without a writer") << u"pipe"_s << 100 << int(FailureCode::NotReadable);
+        QTest::newRow("a device without an end") << u"/dev/zero"_s << 100 << int(FailureCode::NotReadable);
+        QTest::newRow("a socket") << u"socket"_s << 100 << int(FailureCode::NotReadable);
+        QTest::newRow("a folder") << u"folder"_s << 100 << int(FailureCode::IsFolder);
+        QTest::newRow("nothing") << u"missing"_s << 100 << int(FailureCode::NotFound);
+        QTest::newRow("a step that is a file") << u"a.png/b"_s << 100 << int(FailureCode::NotFound);
+    }
+    void onlyRegularFilesAreRead()
+    {
+        QFETCH(QString, name);
+        QFETCH(int, limit);
+        QFETCH(int, failure);
+        QVERIFY(put(path(u"a.png"_s), oldBytes));
+        QVERIFY(QFile::link(path(u"a.png"_s), path(u"link"_s)));
+        QVERIFY(QDir(m_folder->path()).mkdir(u"folder"_s));
+        QCOMPARE(::mkfifo(QFile::encodeName(path(u"pipe"_s)).constData(), 0600), 0);
+        QCOMPARE(::mknod(QFile::encodeName(path(u"socket"_s)).constData(), S_IFSOCK | 0600, 0), 0);
+        const auto bytes = readWholeFile(name.startsWith(u'/') ? name : path(name), limit);
+        QCOMPARE(bytes.ok(), failure < 0);
+        if (bytes)
+            QCOMPARE(bytes.value(), oldBytes);
+        else
+            QCOMPARE(int(bytes.failure().code), failure);
+    }
+
     /// Root may write everywhere, so it steps down for this one.
     void aFileThatMayBeWrittenInAFolderThatMayNotIsWritten()
     {
