@@ -37,10 +37,10 @@ void nameApplication()
     QApplication::setDesktopFileName(QLatin1StringView(applicationId));
 }
 
-/// Null where there is no room for one; the tool that works in it says so to whom it concerns.
+/// Null if it cannot be made; the validator then reports it.
 std::unique_ptr<WorkFolder> makeWorkFolder()
 {
-    auto folder = WorkFolder::makeCurrent();
+    auto folder = WorkFolder::make();
     if (folder)
         return std::move(folder.value());
     logLine(QStringLiteral("CreateError: ") + folder.failure().detail);
@@ -93,11 +93,10 @@ int runWindow(int argc, char **argv)
     applyAppColors();
     const FrameClock frames;
 
-    // Every path that the user named is absolute by now: the arguments were made so when they were read.
     const std::unique_ptr<WorkFolder> workFolder = makeWorkFolder();
     DesktopServices desktop;
     Services services = desktop.services();
-    services.hasWorkFolder = workFolder != nullptr;
+    services.workFolder = workFolder ? workFolder->path() : QString();
     AppDelegate delegate(services);
     delegate.applicationDidFinishLaunching();
     const AppMenu menu(delegate);

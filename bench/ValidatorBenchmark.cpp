@@ -21,9 +21,8 @@ int main(int argc, char **argv)
     applyAppStyle();
     const QApplication application(argc, argv);
     QTextStream out(stdout);
-    // Made absolute before the private folder becomes the current one.
-    const QString path = QFileInfo(QApplication::arguments().value(1)).absoluteFilePath();
-    const auto workFolder = WorkFolder::makeCurrent();
+    const QString path = QApplication::arguments().value(1);
+    const auto workFolder = WorkFolder::make();
     if (!QFileInfo(path).isFile() || !workFolder) {
         out << "bench_validator: needs a package, and a folder to work in\n";
         return 2;
@@ -32,7 +31,7 @@ int main(int argc, char **argv)
     installTexts(*qApp, QLocale(QStringLiteral("en_GB")));
     applyAppColors();
     QLoggingCategory::setFilterRules(QStringLiteral("*.info=false"));
-    RecordingServices services{{}, {}, {}, {}, true};
+    RecordingServices services{{}, {}, {}, {}, workFolder.value()->path()};
     AppDelegate delegate(services.services());
     delegate.applicationDidFinishLaunching();
     delegate.showTool(QStringLiteral("validator"));

@@ -3,14 +3,12 @@
 
 #include "Console.h"
 #include "PackageReportText.h"
-#include "foundation/PrintableText.h"
 #include "pictures/PictureOperations.h"
-#include "validator/bundle/WorkFolder.h"
+#include "validator/archive/OpenPackage.h"
 
 #include <CLI/Validators.hpp>
 
 #include <QFile>
-#include <QFileInfo>
 #include <QJsonArray>
 
 #include <algorithm>
@@ -34,72 +32,57 @@ struct ValidateArguments
     bool json = false;
 };
 
-/// A path as it was given, and as it is reached from any folder.
-struct GivenPath
+Result<PackageReport> inspected(const QString &file, const ProfileDecoder &decoder)
 {
-    explicit GivenPath(const std::string &argument)
-        : given(QFile::decodeName(argument.c_str())), absolute(QFileInfo(given).absoluteFilePath())
-    {
-    }
-
-    QString given;
-    QString absolute;
-};
-
-Result<PackageReport> inspected(const GivenPath &file, const ProfileDecoder &decoder)
-{
-    if (!isPackageName(file.given))
-        return Failure{FailureCode::NotAnArchive, file.given, u"the name does not end in .ipa"_s};
-    // A folder of its own for each package: what one leaves behind neither fills the disk nor meets the next.
-    const auto folder = WorkFolder::makeCurrent();
-    if (!folder)
-        return folder.failure();
-    PackageReport report = inspectPackage(file.absolute, {{}, decoder});
-    if (auto failure = reportFailure(report)) {
-        failure->subject = file.given;
-        return *failure;
-    }
+    const auto source = openPackage(file);
+    if (!source)
+        return source.failure();
+    const WholeReading reading = source.value()->readAll([](const PackageEntry &) { return nullptr; });
+    PackageReport report = inspectPackage(*source.value(), reading, decoder);
+    const Outcome outcome = reportOutcome(report);
+    if (!outcome)
+        return outcome.failure();
     return report;
 }
 
 void complainOfDamage(Console &console, const QString &file, const PackageReport &report)
 {
     for (const QString &entry : report.extraction.damagedEntries)
-        console.complain(printableText(file + u": "_s + entry + u" is damaged or encrypted; pack the app again"_s));
+        console.complain(file + u": "_s + entry + u" is damaged or encrypted; pack the app again"_s);
     if (!report.facts.appInfoPlist)
-        console.complain(printableText(file + u": has no readable Info.plist, so nothing is known of the app"_s));
+        console.complain(file + u": has no readable Info.plist, so nothing is known of the app"_s);
 }
 
-bool writeIcon(Console &console, const QString &file, const PackageReport &report, const GivenPath &path)
+bool writeIcon(Console &console, const QString &file, const PackageReport &report, const QString &path)
 {
     if (report.artwork.appIcon.isNull()) {
-        console.complain(printableText(file + u": has no icon that can be shown, so none was written"_s));
+        console.complain(file + u": has no icon that can be shown, so none was written"_s);
         return false;
     }
-    const Outcome saved = saveImage(report.artwork.appIcon, BitmapType::Png, path.absolute);
+    const Outcome saved = saveImage(report.artwork.appIcon, BitmapType::Png, path);
     if (!saved)
-        console.complain(Failure{saved.failure().code, path.given, saved.failure().detail});
+        console.complain(saved.failure());
     return saved.ok();
 }
 
-ExitStatus validateOne(Console &console, const GivenPath &file, const std::optional<GivenPath> &icon, bool json,
+ExitStatus validateOne(Console &console, const QString &file, const std::optional<QString> &icon, bool json,
                        const ProfileDecoder &decoder, QJsonArray &objects)
 {
     const auto report = inspected(file, decoder);
     if (!report) {
         console.complain(report.failure());
         if (json)
-            objects += failureJson(file.given, report.failure());
+            objects += failureJson(file, report.failure());
         return ExitStatus::Unreadable;
     }
-    complainOfDamage(console, file.given, report.value());
+    complainOfDamage(console, file, report.value());
     if (json) {
-        objects += reportJson(file.given, report.value());
+        objects += reportJson(file, report.value());
     } else {
-        for (const QString &line : reportLines(file.given, report.value()))
+        for (const QString &line : reportLines(file, report.value()))
             console.print(line);
     }
-    const bool iconWritten = !icon || writeIcon(console, file.given, report.value(), *icon);
+    const bool iconWritten = !icon || writeIcon(console, file, report.value(), *icon);
     return allJudgedValid(report.value()) && iconWritten ? ExitStatus::Done : ExitStatus::Refused;
 }
 
@@ -109,16 +92,17 @@ ExitStatus runValidate(Console &console, const ValidateArguments &arguments)
         console.complain(u"--icon: writes the icon of one file, but several are given"_s);
         return ExitStatus::Usage;
     }
-    // All paths first: the folder that each package is unpacked in becomes the current one.
-    const std::vector<GivenPath> files(arguments.files.begin(), arguments.files.end());
-    const auto icon = arguments.icon.empty() ? std::nullopt : std::optional<GivenPath>(arguments.icon);
-    const auto decoder = systemProfileDecoder();
+    QStringList files;
+    for (const std::string &file : arguments.files)
+        files += QFile::decodeName(file.c_str());
+    const auto icon = arguments.icon.empty() ? std::nullopt : std::optional(QFile::decodeName(arguments.icon.c_str()));
+    const CmsProfileDecoder decoder;
     ExitStatus status = ExitStatus::Done;
     QJsonArray objects;
-    for (std::size_t i = 0; i < files.size(); ++i) {
+    for (qsizetype i = 0; i < files.size(); ++i) {
         if (i > 0 && !arguments.json)
             console.print(QString());
-        const ExitStatus one = validateOne(console, files[i], icon, arguments.json, *decoder, objects);
+        const ExitStatus one = validateOne(console, files[i], icon, arguments.json, decoder, objects);
         // "Could not be read" outranks "something is invalid", which outranks "all is well".
         status = std::max(status, one);
     }

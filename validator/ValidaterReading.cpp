@@ -12,29 +12,44 @@ using namespace Qt::StringLiterals;
 namespace lumora
 {
 
-struct ValidaterViewController::Reading
+/// Passes the results of one package on to the pane, unless another package has taken its place meanwhile.
+class ValidaterViewController::Reading final : public InspectionObserver
 {
-    const BackgroundJob &job;
-    QString path;
-    InspectionSite site;
-    ValidaterViewController *controller; ///< for what is posted only
-    quint64 number;
-    std::optional<Failure> stopped = {};
+public:
+    Reading(const BackgroundJob &job, ValidaterViewController *controller, quint64 number)
+        : m_job(job), m_controller(controller), m_number(number)
+    {
+    }
 
-    /// Runs the function on the main thread, unless another package has taken this one's place by then.
+    void gathered(const PackageFacts &facts, const Extraction &extraction) override
+    {
+        post([facts, outcome = extraction.outcome](ValidaterViewController &controller) {
+            controller.updateInterface(facts, outcome);
+        });
+    }
+    void validated(const ArtworkReport &artwork) override
+    {
+        post([artwork](ValidaterViewController &controller) { controller.validate(artwork); });
+    }
+
+private:
     void post(std::function<void(ValidaterViewController &)> show) const
     {
-        job.post([controller = controller, number = number, show = std::move(show)] {
+        m_job.post([controller = m_controller, number = m_number, show = std::move(show)] {
             if (controller->m_reading == number)
                 show(*controller);
         });
     }
+
+    const BackgroundJob &m_job;
+    ValidaterViewController *m_controller; ///< for what is posted only
+    quint64 m_number;
 };
 
 void ValidaterViewController::foundIpaFile(const QString &path)
 {
-    // A package that the system hands over while another is read or shown takes its place: the one that is read ends
-    // at its next block, and the queue comes to the new one.
+    // A package that the system hands over while another is read or shown replaces it: the reading ends at its next
+    // block, and the queue comes to the new package.
     m_stop.request_stop();
     m_stop = std::stop_source();
     reset();
@@ -43,49 +58,17 @@ void ValidaterViewController::foundIpaFile(const QString &path)
     const QString reading = qtTrId("VALIDATER_READING").replace("[FILE]"_L1, shownFact(QFileInfo(path).fileName()));
     m_ui->readingLoaderField->setText(breakingLongWords(reading));
     m_ui->readingLoaderField->setAccessibleName(reading);
-    if (!services().hasWorkFolder) {
+    if (services().workFolder.isEmpty()) {
         updateInterface(m_facts, Failure{FailureCode::CannotCreateFolder, path, {}});
         validate({});
         return;
     }
-    const InspectionSite site{{}, *m_profileDecoder, {}, m_stop.get_token()};
+    const InspectionSite site{services().workFolder, *m_profileDecoder, {}, m_stop.get_token()};
     const quint64 number = ++m_reading;
-    m_jobs.start([this, path, site, number](const BackgroundJob &job) { unzipApp({job, path, site, this, number}); });
-}
-
-void ValidaterViewController::unzipApp(Reading reading)
-{
-    reading.stopped = extractPackage(reading.path, reading.site).failure;
-    beginGatheringInfo(reading);
-}
-
-void ValidaterViewController::beginGatheringInfo(const Reading &reading)
-{
-    if (reading.site.stop.stop_requested())
-        doneGatheringInfo(reading);
-    else
-        fetchAppContents(reading);
-}
-
-void ValidaterViewController::fetchAppContents(const Reading &reading)
-{
-    const PackageFacts facts = readBundle(reading.path, reading.site);
-    reading.post([facts, stopped = reading.stopped](ValidaterViewController &controller) {
-        controller.updateInterface(facts, stopped);
+    m_jobs.start([this, path, site, number](const BackgroundJob &job) {
+        Reading observer(job, this, number);
+        PackageInspection(path, site.profileDecoder, observer).unzipApp(site);
     });
-    startValidate(reading, facts);
-    doneGatheringInfo(reading);
-}
-
-void ValidaterViewController::startValidate(const Reading &reading, const PackageFacts &facts)
-{
-    const ArtworkReport artwork = checkArtwork(facts, reading.site);
-    reading.post([artwork](ValidaterViewController &controller) { controller.validate(artwork); });
-}
-
-void ValidaterViewController::doneGatheringInfo(const Reading &reading)
-{
-    removePayload(reading.site);
 }
 
 } // namespace lumora

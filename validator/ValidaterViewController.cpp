@@ -281,7 +281,7 @@ void ValidaterViewController::showFact(QLabel *field, const char *labelKey, cons
     field->setAccessibleName(line);
 }
 
-void ValidaterViewController::updateInterface(const PackageFacts &facts, const std::optional<Failure> &stopped)
+void ValidaterViewController::updateInterface(const PackageFacts &facts, const Outcome &extraction)
 {
     m_facts = facts;
     showFact(m_ui->appNameField, "VALIDATER_APP_NAME", facts.appName());
@@ -295,7 +295,7 @@ void ValidaterViewController::updateInterface(const PackageFacts &facts, const s
                             << m_ui->validLocalizationsBox,
                 1);
     m_fade.fade({m_ui->readingLoaderField}, 0);
-    if (stopped && isTooMuch(stopped->code))
+    if (!extraction && isTooMuch(extraction.failure().code))
         showValidatePopupWithTitle(qtTrId("VALIDATER_STOPPED_TITLE"), qtTrId("VALIDATER_STOPPED_MESSAGE"),
                                    m_ui->validatingTitle, true);
 }

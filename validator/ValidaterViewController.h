@@ -96,15 +96,10 @@ private:
     void readyForIpa();
     void reset();
 
-    /// One package on its way through the background queue, where the steps below run one after the other.
-    struct Reading;
-    static void unzipApp(Reading reading);
-    static void beginGatheringInfo(const Reading &reading);
-    static void fetchAppContents(const Reading &reading);
-    static void startValidate(const Reading &reading, const PackageFacts &facts);
-    static void doneGatheringInfo(const Reading &reading);
+    /// One package on its way through the background queue, where `PackageInspection` takes its steps.
+    class Reading;
 
-    void updateInterface(const PackageFacts &facts, const std::optional<Failure> &stopped);
+    void updateInterface(const PackageFacts &facts, const Outcome &extraction);
     void validate(const ArtworkReport &artwork);
     void showFact(QLabel *field, const char *labelKey, const QString &value);
     void showPresence(CheckboxButton *box, bool present);

@@ -77,9 +77,9 @@ struct RecordingServices
     RecordingFolderChooser folderChooser;
     RecordingUrlOpener urlOpener;
     RecordingClipboard clipboard;
-    bool hasWorkFolder = false; ///< a test that makes one says so
+    QString workFolder = {}; ///< a test that makes one says so
 
-    Services services() { return {fileChooser, folderChooser, urlOpener, clipboard, hasWorkFolder}; }
+    Services services() { return {fileChooser, folderChooser, urlOpener, clipboard, workFolder}; }
 };
 
 } // namespace lumora

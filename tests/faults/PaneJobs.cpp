@@ -81,8 +81,8 @@ int main(int argc, char **argv)
     loadResources();
     installTexts(*qApp, QLocale(QStringLiteral("en_GB")));
     RecordingServices services;
-    const auto workFolder = WorkFolder::makeCurrent();
-    services.hasWorkFolder = workFolder.ok();
+    const auto workFolder = WorkFolder::make();
+    services.workFolder = workFolder ? workFolder.value()->path() : QString();
     AppDelegate delegate(services.services());
     delegate.applicationDidFinishLaunching();
     if (arguments.size() >= 3 && run(delegate, services, arguments.at(1), arguments.sliced(2)))

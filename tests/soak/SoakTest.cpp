@@ -78,10 +78,10 @@ private slots:
         QLoggingCategory::setFilterRules(u"*.info=false\ndefault.warning=false"_s);
         qputenv("TMPDIR", QFile::encodeName(m_work.path()));
         QVERIFY(runScript(u"make_packages.py"_s, {m_packages.path()}));
-        auto folder = WorkFolder::makeCurrent();
+        auto folder = WorkFolder::make();
         QVERIFY(folder.ok());
         m_workFolder = std::move(folder.value());
-        m_services.hasWorkFolder = true;
+        m_services.workFolder = m_workFolder->path();
         m_delegate = std::make_unique<AppDelegate>(m_services.services());
         m_delegate->applicationDidFinishLaunching();
         // A popover that still fades out would be taken for a visible one, whose button hides it.

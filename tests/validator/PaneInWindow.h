@@ -22,7 +22,8 @@ public:
     enum class Room { There, None };
 
     explicit PaneInWindow(Room room = Room::There)
-        : services{{}, {}, {}, {}, room == Room::There && folder.ok()}, tool(services.services())
+        : services{{}, {}, {}, {}, room == Room::There && folder ? folder.value()->path() : QString()},
+          tool(services.services())
     {
         window.resize(900, 660);
         tool.view()->setParent(&window);
@@ -46,7 +47,7 @@ public:
     QString explanation() const { return tool.validatePopupContentView()->messageLabel()->text(); }
 
     // As the program makes it: before the tools, and there until they have gone.
-    Result<std::unique_ptr<WorkFolder>> folder = WorkFolder::makeCurrent();
+    Result<std::unique_ptr<WorkFolder>> folder = WorkFolder::make();
     RecordingServices services;
     QWidget window;
     ValidaterViewController tool;

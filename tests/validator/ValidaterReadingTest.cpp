@@ -87,13 +87,14 @@ private slots:
     void unpacksInTheProcessesPrivateFolder()
     {
         PaneInWindow pane;
-        QCOMPARE(QDir::currentPath(), QDir(pane.folder.value()->path()).canonicalPath());
+        const QString before = QDir::currentPath();
         read(pane, u"leftovers"_s);
         QTRY_COMPARE(treeBelow(pane.folder.value()->path()),
                      (QMap<QString, QString>{{u"Documents"_s, u"/"_s},
                                              {u"Documents/app"_s, u"/"_s},
                                              {u"Documents/app/Symbols"_s, u"/"_s},
                                              {u"Documents/app/Symbols/a.symbols"_s, u"stays"_s}}));
+        QCOMPARE(QDir::currentPath(), before);
     }
 
     void goesBackToTheDropInterface()

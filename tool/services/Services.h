@@ -6,6 +6,8 @@
 #include "FolderChooser.h"
 #include "UrlOpener.h"
 
+#include <QString>
+
 namespace lumora
 {
 
@@ -17,9 +19,8 @@ struct Services
     FolderChooser &folderChooser;
     UrlOpener &urlOpener;
     Clipboard &clipboard;
-    /// The process's current folder is a private one that goes with the process, so that relative paths may be
-    /// written to.
-    bool hasWorkFolder = false;
+    /// A private folder that is removed when the process ends; empty where none could be made.
+    QString workFolder = {};
 };
 
 /// The services of the real desktop, owned in one place: the program's main().

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "CurrentEntry.h"
 
+#include <optional>
+
+#include <minizip/unzip.h>
+
 namespace lumora
 {
 
@@ -22,9 +26,21 @@ unsigned char passwordCheck(const unz_file_info64 &info)
     return static_cast<unsigned char>(info.crc >> 24);
 }
 
+/// The current entry's information and its extra fields; nothing when they cannot be read.
+std::optional<QByteArray> extraFields(unzFile archive, unz_file_info64 &info)
+{
+    if (::unzGetCurrentFileInfo64(archive, &info, nullptr, 0, nullptr, 0, nullptr, 0) != UNZ_OK)
+        return std::nullopt;
+    QByteArray fields(static_cast<qsizetype>(info.size_file_extra), '\0');
+    if (!fields.isEmpty() && ::unzGetCurrentFileInfo64(archive, &info, nullptr, 0, fields.data(),
+                                                       static_cast<uLong>(fields.size()), nullptr, 0) != UNZ_OK)
+        return std::nullopt;
+    return fields;
+}
+
 } // namespace
 
-CurrentEntry::CurrentEntry(unzFile archive, const QString &path, const QByteArray &password)
+CurrentEntry::CurrentEntry(void *archive, const QString &path, const QByteArray &password)
     : m_archive(archive), m_file(path), m_password(password)
 {
 }
@@ -48,21 +64,10 @@ void CurrentEntry::noteSizes(const unz_file_info &info)
         m_unreadable = info.compression_method != stored && info.compression_method != deflated;
 }
 
-std::optional<QByteArray> CurrentEntry::extraFields(unz_file_info64 &info) const
-{
-    if (::unzGetCurrentFileInfo64(m_archive, &info, nullptr, 0, nullptr, 0, nullptr, 0) != UNZ_OK)
-        return std::nullopt;
-    QByteArray fields(static_cast<qsizetype>(info.size_file_extra), '\0');
-    if (!fields.isEmpty() && ::unzGetCurrentFileInfo64(m_archive, &info, nullptr, 0, fields.data(),
-                                                       static_cast<uLong>(fields.size()), nullptr, 0) != UNZ_OK)
-        return std::nullopt;
-    return fields;
-}
-
 bool CurrentEntry::openAround()
 {
     unz_file_info64 info = {};
-    const auto fields = extraFields(info);
+    const auto fields = extraFields(m_archive, info);
     if (!fields)
         return false;
     ZipEntryData data;
@@ -93,6 +98,11 @@ bool CurrentEntry::openAround()
     }
     m_reader = ZipEntryReader::open(m_file, data, m_password);
     return m_reader != nullptr;
+}
+
+std::uint64_t CurrentEntry::size(const unz_file_info &info) const
+{
+    return m_reader ? m_reader->size() : info.uncompressed_size;
 }
 
 int CurrentEntry::read(char *buffer, unsigned size)

@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "EntryFile.h"
 
-#include <cerrno>
 #include <cstring>
 
-#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -24,33 +22,26 @@ bool isHole(std::span<const char> bytes)
 
 } // namespace
 
-bool EntryFile::write(std::span<const char> bytes)
+Outcome EntryFile::write(std::span<const char> bytes)
 {
+    const auto length = static_cast<std::int64_t>(bytes.size());
     if (isHole(bytes)) {
-        m_length += static_cast<std::int64_t>(bytes.size());
+        m_length += length;
         m_endsInHole = true;
-        return true;
+        return Done{};
     }
-    if (m_endsInHole) {
-        if (::lseek(m_file.number(), m_length, SEEK_SET) < 0)
-            return false;
-        m_endsInHole = false;
-    }
-    while (!bytes.empty()) {
-        const ssize_t written = ::write(m_file.number(), bytes.data(), bytes.size());
-        if (written < 0 && errno == EINTR)
-            continue;
-        if (written <= 0)
-            return false;
-        bytes = bytes.subspan(static_cast<std::size_t>(written));
-        m_length += written;
-    }
-    return true;
+    if (m_endsInHole && ::lseek(m_file.number(), m_length, SEEK_SET) < 0)
+        return systemFailure(FailureCode::CannotWrite, {});
+    m_endsInHole = false;
+    m_length += length;
+    return writeAll(m_file, bytes);
 }
 
-bool EntryFile::finish()
+Outcome EntryFile::finish()
 {
-    return !m_endsInHole || ::ftruncate(m_file.number(), m_length) == 0;
+    if (m_endsInHole && ::ftruncate(m_file.number(), m_length) != 0)
+        return systemFailure(FailureCode::CannotWrite, {});
+    return Done{};
 }
 
 bool EntryFile::setModified(const QDateTime &date)

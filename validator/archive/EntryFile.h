@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "ExtractionFolder.h"
+#include "foundation/FileDescriptor.h"
+#include "foundation/Result.h"
 
 #include <QDateTime>
 
@@ -17,10 +18,10 @@ class EntryFile
 public:
     explicit EntryFile(FileDescriptor file) : m_file(std::move(file)) {}
 
-    /// Appends the bytes; false when the system could not write all of them (errno says why).
-    bool write(std::span<const char> bytes);
+    /// Appends the bytes. `CannotWrite` with the system's reason; a failure's subject is left to the caller.
+    Outcome write(std::span<const char> bytes);
     /// Gives the file its full length where it ends in a hole.
-    bool finish();
+    Outcome finish();
     /// Sets the modification date; false when the date is invalid or the system refuses.
     bool setModified(const QDateTime &date);
 

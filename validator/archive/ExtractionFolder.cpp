@@ -15,12 +15,43 @@
 namespace lumora
 {
 
+namespace
+{
+
+/// True for what an archive can bring about by its entries' names alone: one that goes through a file, is a folder's or
+/// is too long.
+bool isTheNamesFault(int error)
+{
+    switch (error) {
+    case EEXIST:
+    case EINVAL:
+    case EISDIR:
+    case ELOOP:
+    case ENAMETOOLONG:
+    case ENOENT:
+    case ENOTDIR:
+    case ENXIO:
+        return true;
+    default:
+        return false;
+    }
+}
+
+/// The failure to make what the steps name; `errno` gives the reason.
+Failure notMade(const QList<QByteArray> &steps)
+{
+    const FailureCode code = isTheNamesFault(errno) ? FailureCode::InvalidValue : FailureCode::CannotWrite;
+    return systemFailure(code, QString::fromUtf8(steps.join('/')));
+}
+
+} // namespace
+
 Result<ExtractionFolder> ExtractionFolder::open(const QString &path)
 {
     QDir().mkpath(path);
     FileDescriptor root(::open(QFile::encodeName(path).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (!root.valid())
-        return Failure{FailureCode::CannotCreateFolder, path, qt_error_string(errno)};
+        return systemFailure(FailureCode::CannotCreateFolder, path);
     return ExtractionFolder(path, std::move(root));
 }
 
@@ -51,9 +82,11 @@ int ExtractionFolder::reach(const QList<QByteArray> &steps)
     return m_last.number();
 }
 
-bool ExtractionFolder::makeFolder(const QList<QByteArray> &steps)
+Outcome ExtractionFolder::makeFolder(const QList<QByteArray> &steps)
 {
-    return reach(steps) >= 0;
+    if (reach(steps) < 0)
+        return notMade(steps);
+    return Done{};
 }
 
 bool ExtractionFolder::exists(const QList<QByteArray> &steps)
@@ -65,25 +98,25 @@ bool ExtractionFolder::exists(const QList<QByteArray> &steps)
     return parent >= 0 && ::fstatat(parent, steps.last().constData(), &status, AT_SYMLINK_NOFOLLOW) == 0;
 }
 
-FileDescriptor ExtractionFolder::createFile(const QList<QByteArray> &steps)
+Result<FileDescriptor> ExtractionFolder::createFile(const QList<QByteArray> &steps)
 {
     if (steps.isEmpty())
-        return {};
+        return Failure{FailureCode::InvalidValue, {}, {}};
     const int parent = reach(steps.first(steps.size() - 1));
     if (parent < 0)
-        return {};
-    // A pipe or device that stands at the name must neither block the walk nor receive the bytes.
+        return notMade(steps);
+    // A pipe or device that has the name must neither block the walk nor receive the bytes.
     FileDescriptor file(
         ::openat(parent, steps.last().constData(), O_WRONLY | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, 0666));
     struct stat status = {};
     if (!file.valid() || ::fstat(file.number(), &status) != 0)
-        return {};
+        return notMade(steps);
     if (!S_ISREG(status.st_mode)) {
         errno = EEXIST;
-        return {};
+        return notMade(steps);
     }
     if (status.st_size > 0 && ::ftruncate(file.number(), 0) != 0)
-        return {};
+        return notMade(steps);
     return file;
 }
 

@@ -24,13 +24,14 @@ public:
 
     const QString &path() const { return m_path; }
 
-    /// Makes the folder with these steps, parents included. False when something that is no folder is in the way.
-    bool makeFolder(const QList<QByteArray> &steps);
-    /// True when something stands at the steps; a link counts as itself.
+    /// Makes the folder with these steps, parents included. `InvalidValue` where the name itself is the reason: it goes
+    /// through a file or is too long. `CannotWrite` where the system is.
+    Outcome makeFolder(const QList<QByteArray> &steps);
+    /// True when something exists at the steps; a link counts as itself.
     bool exists(const QList<QByteArray> &steps);
-    /// Opens the regular file at the steps for writing, emptied, its parent folders made first. Invalid when it cannot
-    /// be made or something other than a regular file stands there.
-    FileDescriptor createFile(const QList<QByteArray> &steps);
+    /// Opens the regular file at the steps for writing, emptied, its parent folders made first. Fails as `makeFolder`
+    /// does, with `InvalidValue` too where something other than a regular file has the name.
+    Result<FileDescriptor> createFile(const QList<QByteArray> &steps);
 
     /// Folders made so far.
     std::uint64_t foldersMade() const { return m_foldersMade; }
@@ -40,8 +41,8 @@ public:
 private:
     ExtractionFolder(QString path, FileDescriptor root) : m_path(std::move(path)), m_root(std::move(root)) {}
 
-    /// Descriptor of the folder at the steps, made where it is missing; -1 when it cannot be reached. Belongs to this
-    /// object and lasts until the next call.
+    /// Descriptor of the folder at the steps, made where it is missing; -1 when it cannot be reached, with the reason
+    /// in `errno`. Belongs to this object and lasts until the next call.
     int reach(const QList<QByteArray> &steps);
 
     QString m_path;

@@ -3,6 +3,8 @@
 
 #include "foundation/Log.h"
 
+#include <minizip/unzip.h>
+
 namespace lumora
 {
 

@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "CurrentEntry.h"
-#include "ExtractionFolder.h"
 #include "ExtractionLimits.h"
 #include "ZipArchiveDelegate.h"
 #include "foundation/Result.h"
 
 #include <QByteArray>
 #include <QDate>
+#include <QDateTime>
 #include <QString>
 #include <QStringList>
 
@@ -17,32 +16,35 @@
 #include <optional>
 #include <stop_token>
 
-#include <minizip/unzip.h>
-#include <minizip/zip.h>
+struct unz_file_info_s;
 
 namespace lumora
 {
 
+class CurrentEntry;
+class ExtractionFolder;
+class FileDescriptor;
+
 /// A zip archive over minizip: extracts every entry into a folder, or creates an archive and adds files to it. At most
 /// one archive is open for reading and one for writing. All work is done on the calling thread.
 ///
-/// Archives are hostile until proven otherwise: an entry whose name leaves the destination, directly or through a link,
-/// counts as a target that cannot be created, and an extraction ends before it passes its limits.
+/// Archives are taken for hostile: an entry whose name leaves the destination, directly or through a link, counts as a
+/// target that cannot be created, and an extraction ends before it passes its limits.
 class ZipArchive
 {
 public:
     ZipArchive() = default;
-    /// Closes an archive open for writing. One open for reading is its opener's to close, by `UnzipCloseFile`.
+    /// Closes an archive open for writing. An archive open for reading has to be closed by `UnzipCloseFile`.
     ~ZipArchive();
     Q_DISABLE_COPY_MOVE(ZipArchive)
 
-    /// Creates the archive, in place of a file that stands at the path.
+    /// Creates the archive, in place of a file that exists at the path.
     bool CreateZipFile2(const QString &path);
     /// Encrypts the files added until the archive is closed (traditional zip encryption).
     bool CreateZipFile2(const QString &path, const QString &password);
     /// Adds the file at `path` under the name `newname`, deflated, its contents whole in memory.
     bool addFileToZip(const QString &path, const QString &newname);
-    /// False when no archive was open or it could not be finished. Forgets the password.
+    /// False when no archive was open or when it could not be finished. Forgets the password.
     bool CloseZipFile2();
 
     bool UnzipOpenFile(const QString &path);
@@ -53,10 +55,10 @@ public:
     /// True when no archive was open or it closed without error. Forgets the password.
     bool UnzipCloseFile();
 
-    /// Forwards the message to the delegate. The question asked first is for the selector without colon, the operation
-    /// sent the one with it: a delegate that only has the latter is never called.
+    /// Forwards the message to the delegate. It asks for the selector without a colon and sends the operation with one:
+    /// a delegate that only has the latter is never called.
     void OutputErrorMessage(const QString &message);
-    /// Asks the delegate, under the same rule, whether the file may be replaced; true when there is nobody to ask.
+    /// Asks the delegate, under the same rule, whether the file may be replaced; true when there is no delegate to ask.
     bool OverWrite(const QString &path);
     /// The earliest date of the format, 1 January 1980.
     QDate Date1980() const;
@@ -68,9 +70,9 @@ public:
     /// A stop requested through the token ends an extraction at its next block, with the result false.
     void setStopToken(std::stop_token token) { m_stop = std::move(token); }
 
-    /// Why the last extraction answered false or left entries out that the system did not let it create; nothing when
-    /// it reached the end whole or was stopped through the token.
-    const std::optional<Failure> &extractionFailure() const { return m_failure; }
+    /// Why the last extraction returned false or left entries out that the system did not let it create. `Done` when it
+    /// reached the end whole or was stopped through the token.
+    const Outcome &extraction() const { return m_extraction; }
     /// Names of entries whose data the last extraction found damaged (the first `damagedNamesKept` of them).
     const QStringList &damagedEntries() const { return m_damaged; }
     static constexpr qsizetype damagedNamesKept = 100;
@@ -82,21 +84,21 @@ private:
     };
 
     Step extractEntry(CurrentEntry &entry, ExtractionFolder &folder, bool overWrite);
-    /// Logs the entry; where the system and not its name is to blame (a full disk), that is the extraction's failure.
-    void skipUncreated(const QString &name, int error);
+    /// Logs the entry. Where the system and not its name is to blame (a full disk), that is the extraction's failure.
+    void skipUncreated(const QString &name, const Failure &failure);
     /// The current entry's stored name; nothing when its information cannot be read.
-    std::optional<QByteArray> currentEntry(unz_file_info &info);
-    Step writeEntry(CurrentEntry &entry, ExtractionFolder &folder, FileDescriptor descriptor, const unz_file_info &info,
-                    const QString &name);
+    std::optional<QByteArray> currentEntry(unz_file_info_s &info);
+    Step writeEntry(CurrentEntry &entry, ExtractionFolder &folder, FileDescriptor descriptor,
+                    const unz_file_info_s &info, const QString &name);
     /// Counts the bytes about to be written and stops when they pass a limit.
     Step mayWrite(const ExtractionFolder &folder, std::uint64_t bytes);
     Step stop(FailureCode code, const QString &detail);
 
-    bool addPlain(const QByteArray &name, const zip_fileinfo &record, const QByteArray &contents);
-    bool addEncrypted(const QByteArray &name, const zip_fileinfo &record, const QByteArray &contents);
+    bool addPlain(const QByteArray &name, const QDateTime &modified, const QByteArray &contents);
+    bool addEncrypted(const QByteArray &name, const QDateTime &modified, const QByteArray &contents);
 
-    zipFile m_zipFile = nullptr;
-    unzFile m_unzFile = nullptr;
+    void *m_zipFile = nullptr; ///< minizip's handle
+    void *m_unzFile = nullptr; ///< minizip's handle
     QByteArray m_password;
     std::shared_ptr<ZipArchiveDelegate> m_delegate;
 
@@ -104,7 +106,7 @@ private:
     std::uint64_t m_entriesClaimed = 0;
     ExtractionLimits m_limits;
     std::stop_token m_stop;
-    std::optional<Failure> m_failure;
+    Outcome m_extraction = Done{};
     QStringList m_damaged;
     std::uint64_t m_entries = 0;
     std::uint64_t m_bytes = 0;

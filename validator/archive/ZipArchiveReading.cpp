@@ -1,13 +1,16 @@
 // SPDX-License-Identifier: MIT
+#include "CurrentEntry.h"
 #include "EntryFile.h"
 #include "EntryName.h"
+#include "ExtractionFolder.h"
 #include "ZipArchive.h"
 #include "ZipDate.h"
 #include "foundation/Log.h"
 #include "foundation/PrintableText.h"
 
 #include <array>
-#include <cerrno>
+
+#include <minizip/unzip.h>
 
 namespace lumora
 {
@@ -26,30 +29,19 @@ void logSkipped(const QString &name)
     logLine(u"Skipped, its target cannot be created: "_s + printableText(name));
 }
 
-/// True for what an archive can bring about by its entries' names alone: one that goes through a file, is a folder's or
-/// is too long.
-bool isTheNamesFault(int error)
+/// The entry's own date.
+ZipDate storedDate(const unz_file_info &info)
 {
-    switch (error) {
-    case EEXIST:
-    case EINVAL:
-    case EISDIR:
-    case ELOOP:
-    case ENAMETOOLONG:
-    case ENOENT:
-    case ENOTDIR:
-    case ENXIO:
-        return true;
-    default:
-        return false;
-    }
+    const tm_unz &date = info.tmu_date;
+    return {static_cast<int>(date.tm_year), static_cast<int>(date.tm_mon), static_cast<int>(date.tm_mday),
+            static_cast<int>(date.tm_hour), static_cast<int>(date.tm_min), static_cast<int>(date.tm_sec)};
 }
 
 } // namespace
 
 bool ZipArchive::UnzipFileTo(const QString &path, bool overWrite)
 {
-    m_failure.reset();
+    m_extraction = Done{};
     m_damaged.clear();
     m_entries = 0;
     m_bytes = 0;
@@ -61,7 +53,7 @@ bool ZipArchive::UnzipFileTo(const QString &path, bool overWrite)
     }
     auto folder = ExtractionFolder::open(path);
     if (!folder) {
-        m_failure = folder.failure();
+        m_extraction = folder.failure();
         return false;
     }
     if (::unzGoToFirstFile(m_unzFile) != UNZ_OK)
@@ -98,24 +90,25 @@ ZipArchive::Step ZipArchive::extractEntry(CurrentEntry &entry, ExtractionFolder 
     if (!steps || steps->isEmpty()) {
         logSkipped(name);
     } else if (isFolderEntry(*stored)) {
-        if (!folder.makeFolder(*steps))
-            skipUncreated(name, errno);
+        const Outcome made = folder.makeFolder(*steps);
+        if (!made)
+            skipUncreated(name, made.failure());
     } else if (overWrite || !folder.exists(*steps) || OverWrite(folder.path() + u'/' + name)) {
-        FileDescriptor file = folder.createFile(*steps);
-        if (file.valid())
-            return writeEntry(entry, folder, std::move(file), info, name);
-        skipUncreated(name, errno);
+        auto file = folder.createFile(*steps);
+        if (file)
+            return writeEntry(entry, folder, std::move(file).value(), info, name);
+        skipUncreated(name, file.failure());
     }
     entry.close();
     return Step::Next;
 }
 
-void ZipArchive::skipUncreated(const QString &name, int error)
+void ZipArchive::skipUncreated(const QString &name, const Failure &failure)
 {
     logSkipped(name);
     // The walk goes on, but what it leaves is not all that the archive holds.
-    if (!isTheNamesFault(error) && !m_failure)
-        m_failure = Failure{FailureCode::CannotWrite, m_path, qt_error_string(error)};
+    if (failure.code == FailureCode::CannotWrite && m_extraction)
+        m_extraction = Failure{failure.code, m_path, failure.detail};
 }
 
 std::optional<QByteArray> ZipArchive::currentEntry(unz_file_info &info)
@@ -139,8 +132,11 @@ ZipArchive::Step ZipArchive::writeEntry(CurrentEntry &entry, ExtractionFolder &f
     while ((count = entry.read(block.data(), blockSize)) > 0) {
         const auto bytes = static_cast<std::size_t>(count);
         Step next = mayWrite(folder, bytes);
-        if (next == Step::Next && !file.write(std::span(block).first(bytes)))
-            next = stop(FailureCode::CannotWrite, qt_error_string(errno));
+        if (next == Step::Next) {
+            const Outcome written = file.write(std::span(block).first(bytes));
+            if (!written)
+                next = stop(written.failure().code, written.failure().detail);
+        }
         if (next == Step::Stop || m_stop.stop_requested()) {
             entry.close();
             return Step::Stop;
@@ -148,9 +144,10 @@ ZipArchive::Step ZipArchive::writeEntry(CurrentEntry &entry, ExtractionFolder &f
     }
     if (count < 0)
         OutputErrorMessage(u"Failed to reading zip file"_s);
-    if (!file.finish())
-        return stop(FailureCode::CannotWrite, qt_error_string(errno));
-    if (!file.setModified(dateOfEntry(info.tmu_date)))
+    const Outcome finished = file.finish();
+    if (!finished)
+        return stop(finished.failure().code, finished.failure().detail);
+    if (!file.setModified(dateOfEntry(storedDate(info))))
         logLine(u"Failed to set attributes"_s);
     const bool checksumMatches = entry.close();
     if ((count < 0 || !checksumMatches) && m_damaged.size() < damagedNamesKept)
@@ -174,7 +171,7 @@ ZipArchive::Step ZipArchive::mayWrite(const ExtractionFolder &folder, std::uint6
 
 ZipArchive::Step ZipArchive::stop(FailureCode code, const QString &detail)
 {
-    m_failure = Failure{code, m_path, detail};
+    m_extraction = Failure{code, m_path, detail};
     return Step::Stop;
 }
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ZipArchive.h"
+#include "ZipCipher.h"
 #include "ZipDate.h"
 
 #include <QFile>
@@ -7,6 +8,9 @@
 #include <QRandomGenerator>
 
 #include <limits>
+
+#include <minizip/zip.h>
+#include <zlib.h>
 
 namespace lumora
 {
@@ -20,6 +24,20 @@ constexpr int windowBits = 15;
 constexpr int memoryLevel = 8;
 constexpr int defaultStrategy = 0;
 constexpr uLong encryptedFlag = 1;
+
+/// The record for a new entry: everything but the date (attributes, packed date) is zero.
+zip_fileinfo entryRecord(const QDateTime &modified)
+{
+    const ZipDate date = entryDate(modified);
+    zip_fileinfo record = {};
+    record.tmz_date.tm_sec = static_cast<uInt>(date.second);
+    record.tmz_date.tm_min = static_cast<uInt>(date.minute);
+    record.tmz_date.tm_hour = static_cast<uInt>(date.hour);
+    record.tmz_date.tm_mday = static_cast<uInt>(date.day);
+    record.tmz_date.tm_mon = static_cast<uInt>(date.month);
+    record.tmz_date.tm_year = static_cast<uInt>(date.year);
+    return record;
+}
 
 /// The bytes as a raw deflate stream; empty when zlib refuses.
 QByteArray deflated(const QByteArray &contents)
@@ -73,17 +91,18 @@ bool ZipArchive::addFileToZip(const QString &path, const QString &newname)
 {
     if (m_zipFile == nullptr)
         return false;
-    const zip_fileinfo record = entryRecord(QFileInfo(path).lastModified());
+    const QDateTime modified = QFileInfo(path).lastModified();
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly) || file.size() > qint64{std::numeric_limits<unsigned>::max()})
         return false;
     const QByteArray contents = file.readAll();
-    return m_password.isEmpty() ? addPlain(newname.toUtf8(), record, contents)
-                                : addEncrypted(newname.toUtf8(), record, contents);
+    return m_password.isEmpty() ? addPlain(newname.toUtf8(), modified, contents)
+                                : addEncrypted(newname.toUtf8(), modified, contents);
 }
 
-bool ZipArchive::addPlain(const QByteArray &name, const zip_fileinfo &record, const QByteArray &contents)
+bool ZipArchive::addPlain(const QByteArray &name, const QDateTime &modified, const QByteArray &contents)
 {
+    const zip_fileinfo record = entryRecord(modified);
     if (::zipOpenNewFileInZip(m_zipFile, name.constData(), &record, nullptr, 0, nullptr, 0, nullptr, deflateMethod,
                               defaultLevel) != ZIP_OK)
         return false;
@@ -93,8 +112,9 @@ bool ZipArchive::addPlain(const QByteArray &name, const zip_fileinfo &record, co
 
 /// The entry is deflated and encrypted here and handed over raw: the library's own encryption, reached through a
 /// password argument, makes entries that nothing can read (see `ZipCipher`).
-bool ZipArchive::addEncrypted(const QByteArray &name, const zip_fileinfo &record, const QByteArray &contents)
+bool ZipArchive::addEncrypted(const QByteArray &name, const QDateTime &modified, const QByteArray &contents)
 {
+    const zip_fileinfo record = entryRecord(modified);
     const uLong crc = ::crc32(::crc32(0, nullptr, 0), reinterpret_cast<const Bytef *>(contents.constData()),
                               static_cast<uInt>(contents.size()));
     const QByteArray sealed = encrypted(deflated(contents), m_password, crc);

@@ -4,30 +4,22 @@
 namespace lumora
 {
 
-QDateTime dateOfEntry(const tm_unz &stored)
+QDateTime dateOfEntry(const ZipDate &stored)
 {
-    const QDate date(static_cast<int>(stored.tm_year), static_cast<int>(stored.tm_mon + 1),
-                     static_cast<int>(stored.tm_mday));
-    const QTime time(static_cast<int>(stored.tm_hour), static_cast<int>(stored.tm_min),
-                     static_cast<int>(stored.tm_sec));
+    const QDate date(stored.year, stored.month + 1, stored.day);
+    const QTime time(stored.hour, stored.minute, stored.second);
     if (!date.isValid() || !time.isValid())
         return {};
     return QDateTime(date, time);
 }
 
-zip_fileinfo entryRecord(const QDateTime &modified)
+ZipDate entryDate(const QDateTime &modified)
 {
-    zip_fileinfo record = {};
     if (!modified.isValid())
-        return record;
-    const QDateTime local = modified.toLocalTime();
-    record.tmz_date.tm_sec = static_cast<uInt>(local.time().second());
-    record.tmz_date.tm_min = static_cast<uInt>(local.time().minute());
-    record.tmz_date.tm_hour = static_cast<uInt>(local.time().hour());
-    record.tmz_date.tm_mday = static_cast<uInt>(local.date().day());
-    record.tmz_date.tm_mon = static_cast<uInt>(local.date().month() - 1);
-    record.tmz_date.tm_year = static_cast<uInt>(local.date().year());
-    return record;
+        return {};
+    const QDate date = modified.toLocalTime().date();
+    const QTime time = modified.toLocalTime().time();
+    return {date.year(), date.month() - 1, date.day(), time.hour(), time.minute(), time.second()};
 }
 
 } // namespace lumora

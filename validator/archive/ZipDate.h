@@ -3,17 +3,26 @@
 
 #include <QDateTime>
 
-#include <minizip/unzip.h>
-#include <minizip/zip.h>
-
 namespace lumora
 {
 
-/// The local date and time stored with an entry, whose month counts from 0. Invalid when the fields are no date.
-QDateTime dateOfEntry(const tm_unz &stored);
+/// A date as archives hold it: local time without a zone. All zero where there is none.
+struct ZipDate
+{
+    int year = 0;
+    int month = 0; ///< from 0
+    int day = 0;   ///< from 1
+    int hour = 0;
+    int minute = 0;
+    int second = 0;
 
-/// The record for a new entry: the file's date split in local time with the month counted from 0, everything else
-/// (attributes, packed date) zero. An invalid date leaves the date fields zero as well.
-zip_fileinfo entryRecord(const QDateTime &modified);
+    bool operator==(const ZipDate &) const = default;
+};
+
+/// Invalid when the fields are no date.
+QDateTime dateOfEntry(const ZipDate &stored);
+
+/// The date split in local time; all zero for an invalid one.
+ZipDate entryDate(const QDateTime &modified);
 
 } // namespace lumora

@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <cstring>
 
+#include <zlib.h>
+
 namespace lumora
 {
 
@@ -87,15 +89,18 @@ std::unique_ptr<ZipEntryReader> ZipEntryReader::open(QFile &archive, const ZipEn
     std::unique_ptr<ZipEntryReader> reader(new ZipEntryReader(archive, data));
     if (data.encrypted && !reader->passHeader(password))
         return nullptr;
-    if (data.method == deflated && ::inflateInit2(&reader->m_stream, -MAX_WBITS) != Z_OK)
-        return nullptr;
+    if (data.method == deflated) {
+        reader->m_stream.reset(new z_stream());
+        if (::inflateInit2(reader->m_stream.get(), -MAX_WBITS) != Z_OK)
+            return nullptr;
+    }
     return reader;
 }
 
-ZipEntryReader::~ZipEntryReader()
+void ZipEntryReader::EndInflating::operator()(z_stream_s *stream) const
 {
-    if (m_data.method == deflated && m_stream.state != nullptr)
-        ::inflateEnd(&m_stream);
+    ::inflateEnd(stream);
+    delete stream;
 }
 
 bool ZipEntryReader::passHeader(const QByteArray &password)
@@ -113,7 +118,7 @@ bool ZipEntryReader::passHeader(const QByteArray &password)
 
 bool ZipEntryReader::fill()
 {
-    if (m_stream.avail_in > 0 || m_compressedLeft == 0)
+    if (m_available > 0 || m_compressedLeft == 0)
         return true;
     const auto wanted = static_cast<qint64>(std::min<std::uint64_t>(m_input.size(), m_compressedLeft));
     if (!m_archive.seek(static_cast<qint64>(m_position)) ||
@@ -123,8 +128,8 @@ bool ZipEntryReader::fill()
     m_compressedLeft -= static_cast<std::uint64_t>(wanted);
     if (m_cipher)
         m_cipher->decrypt(std::span(m_input.data(), static_cast<std::size_t>(wanted)));
-    m_stream.next_in = m_input.data();
-    m_stream.avail_in = static_cast<uInt>(wanted);
+    m_next = m_input.data();
+    m_available = static_cast<unsigned>(wanted);
     return true;
 }
 
@@ -144,29 +149,34 @@ int ZipEntryReader::read(char *buffer, unsigned size)
 
 int ZipEntryReader::copy(unsigned char *buffer, unsigned size)
 {
-    if (!fill() || m_stream.avail_in == 0)
+    if (!fill() || m_available == 0)
         return -1;
-    const unsigned count = std::min(size, m_stream.avail_in);
-    std::memcpy(buffer, m_stream.next_in, count);
-    m_stream.next_in += count;
-    m_stream.avail_in -= count;
+    const unsigned count = std::min(size, m_available);
+    std::memcpy(buffer, m_next, count);
+    m_next += count;
+    m_available -= count;
     return static_cast<int>(count);
 }
 
 int ZipEntryReader::inflateInto(unsigned char *buffer, unsigned size)
 {
-    m_stream.next_out = buffer;
-    m_stream.avail_out = size;
-    while (m_stream.avail_out > 0 && !m_ended) {
+    m_stream->next_out = buffer;
+    m_stream->avail_out = size;
+    while (m_stream->avail_out > 0 && !m_ended) {
         if (!fill())
             return -1;
-        const int status = ::inflate(&m_stream, Z_SYNC_FLUSH);
+        // The library's interface asks for a pointer to bytes that are not constant, and does not change them.
+        m_stream->next_in = const_cast<unsigned char *>(m_next);
+        m_stream->avail_in = m_available;
+        const int status = ::inflate(m_stream.get(), Z_SYNC_FLUSH);
+        m_next = m_stream->next_in;
+        m_available = m_stream->avail_in;
         if (status == Z_STREAM_END)
             m_ended = true;
         else if (status != Z_OK)
             return -1;
     }
-    return static_cast<int>(size - m_stream.avail_out);
+    return static_cast<int>(size - m_stream->avail_out);
 }
 
 } // namespace lumora

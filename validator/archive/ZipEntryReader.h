@@ -12,7 +12,7 @@
 #include <memory>
 #include <optional>
 
-#include <zlib.h>
+struct z_stream_s;
 
 namespace lumora
 {
@@ -51,11 +51,12 @@ class ZipEntryReader
 public:
     /// Nothing when the method is unknown or the password is wrong. The archive must outlive the reader.
     static std::unique_ptr<ZipEntryReader> open(QFile &archive, const ZipEntryData &data, const QByteArray &password);
-    ~ZipEntryReader();
     Q_DISABLE_COPY_MOVE(ZipEntryReader)
 
     /// Up to `size` bytes into the buffer: the number of bytes, 0 at the end, negative when the data is damaged.
     int read(char *buffer, unsigned size);
+    /// Bytes of the content, as the archive states them.
+    std::uint64_t size() const { return m_data.size; }
     /// True when what was read is what the archive's checksum says.
     bool checksumMatches() const { return m_checksum == m_data.crc; }
 
@@ -68,11 +69,19 @@ private:
     int copy(unsigned char *buffer, unsigned size);
     int inflateInto(unsigned char *buffer, unsigned size);
 
+    /// Ends the library's decoder.
+    struct EndInflating
+    {
+        void operator()(z_stream_s *stream) const;
+    };
+
     QFile &m_archive;
     ZipEntryData m_data;
     std::optional<ZipCipher> m_cipher;
     std::array<unsigned char, 16384> m_input = {};
-    z_stream m_stream = {};
+    std::unique_ptr<z_stream_s, EndInflating> m_stream; ///< null for stored data
+    const unsigned char *m_next = nullptr;              ///< of the input that was not used yet, ...
+    unsigned m_available = 0;                           ///< ... and its bytes
     std::uint64_t m_position = 0;
     std::uint64_t m_compressedLeft = 0;
     std::uint64_t m_left = 0;

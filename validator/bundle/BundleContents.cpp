@@ -3,13 +3,6 @@
 
 #include "LocalizationName.h"
 
-#include <QFile>
-
-#include <cerrno>
-#include <memory>
-
-#include <dirent.h>
-
 using namespace Qt::StringLiterals;
 
 namespace lumora
@@ -17,11 +10,6 @@ namespace lumora
 
 namespace
 {
-
-struct CloseFolder
-{
-    void operator()(DIR *folder) const { ::closedir(folder); }
-};
 
 const QString localizationExtension = u"lproj"_s;
 
@@ -32,22 +20,6 @@ QString pathExtension(const QString &path)
     const QString name = path.mid(path.lastIndexOf(u'/') + 1);
     const qsizetype dot = name.lastIndexOf(u'.');
     return dot <= 0 ? QString() : name.mid(dot + 1);
-}
-
-Result<QStringList> folderListing(const QString &folder)
-{
-    const std::unique_ptr<DIR, CloseFolder> open(::opendir(QFile::encodeName(folder).constData()));
-    if (!open)
-        return Failure{errno == ENOENT ? FailureCode::NotFound : FailureCode::NotReadable, folder,
-                       qt_error_string(errno)};
-    QStringList names;
-    while (const dirent *entry = ::readdir(open.get())) {
-        const QString name = QString::fromUtf8(entry->d_name);
-        if (name != u"." && name != u"..")
-            names += name;
-    }
-    names.sort();
-    return names;
 }
 
 QString appBundleName(const QStringList &payload)

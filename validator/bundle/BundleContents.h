@@ -1,19 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "foundation/Result.h"
-
 #include <QString>
 #include <QStringList>
 
 namespace lumora
 {
 
-/// What stands behind the last dot of a file name or path; empty for a name without dot or with its only dot in front.
+/// The text behind the last dot of a file name or path; empty for a name without dot or with its only dot in front.
 QString pathExtension(const QString &path);
-
-/// Every name in the folder, hidden ones too, sorted by code unit.
-Result<QStringList> folderListing(const QString &folder);
 
 /// The last name with the extension "app"; empty when there is none.
 QString appBundleName(const QStringList &payload);

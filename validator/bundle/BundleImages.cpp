@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "BundleImages.h"
 
-#include "foundation/WholeFile.h"
 #include "pictures/PictureOperations.h"
 #include "pictures/PictureReader.h"
 #include "pictures/png/ApplePngDecoder.h"
 #include "pictures/png/PngHeader.h"
-
-#include <QFile>
+#include "validator/archive/PackageSource.h"
 
 #include <array>
 
@@ -27,9 +25,9 @@ constexpr double firstFlatVersion = 7.0;
 constexpr int corners6 = 1;
 constexpr int corners7 = 2;
 
-Result<QImage> decoded(const QString &path)
+Result<QImage> decoded(const PackageSource &source, const QString &path)
 {
-    const auto bytes = readWholeFile(path, largestImageFile);
+    const auto bytes = source.read(path, largestImageFile);
     if (!bytes)
         return bytes.failure();
     const auto png = pngHeader(bytes.value());
@@ -46,35 +44,34 @@ bool mayBeAppIcon(QSize size)
 
 } // namespace
 
-QSize pictureSize(const QString &path)
+QSize pictureSize(const PackageSource &source, const QString &path)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+    const auto start = source.readStart(path, pngHeaderBytes);
+    if (!start)
         return {};
-    const QByteArray start = file.read(pngHeaderBytes);
-    if (const auto png = pngHeader(start))
+    if (const auto png = pngHeader(start.value()))
         return png->size;
-    if (file.size() > largestImageFile)
-        return {};
-    const auto size = storedPixelSize(path);
+    const auto bytes = source.read(path, largestImageFile);
+    const auto size = bytes ? storedPixelSize(bytes.value(), path) : Result<QSize>(QSize());
     return size ? size.value() : QSize();
 }
 
-QList<QSize> pictureSizes(const QString &folder, const QStringList &names)
+QList<QSize> pictureSizes(const PackageSource &source, const QString &folder, const QStringList &names)
 {
     QList<QSize> sizes;
     sizes.reserve(names.size());
     for (const QString &name : names)
-        sizes += pictureSize(folder + u'/' + name);
+        sizes += pictureSize(source, folder + u'/' + name);
     return sizes;
 }
 
-QImage appIcon(const QString &folder, const QStringList &candidates, const QList<QSize> &sizes, double minimumOS)
+QImage appIcon(const PackageSource &source, const QString &folder, const QStringList &candidates,
+               const QList<QSize> &sizes, double minimumOS)
 {
     for (qsizetype i = 0; i < candidates.size() && i < sizes.size(); ++i) {
         if (!mayBeAppIcon(sizes[i]))
             continue;
-        const auto picture = decoded(folder + u'/' + candidates[i]);
+        const auto picture = decoded(source, folder + u'/' + candidates[i]);
         if (picture)
             return resizeImage(picture.value(), appIconSize, minimumOS >= firstFlatVersion ? corners7 : corners6);
     }

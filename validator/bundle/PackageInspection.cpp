@@ -5,11 +5,14 @@
 #include "BundleImages.h"
 #include "PropertyList.h"
 #include "foundation/Log.h"
-#include "foundation/WholeFile.h"
+#include "validator/archive/FolderSource.h"
+#include "validator/archive/PackageView.h"
 #include "validator/archive/ZipArchive.h"
 
 #include <QDir>
 #include <QFileInfo>
+
+#include <cerrno>
 
 using namespace Qt::StringLiterals;
 
@@ -19,35 +22,31 @@ namespace lumora
 namespace
 {
 
-QString inWorkFolder(const InspectionSite &site, const QString &relative)
+/// Where a source shows the app's bundle.
+QString shownBundle(const PackageFacts &facts)
 {
-    return site.workFolder.isEmpty() ? relative : QString(site.workFolder + u'/' + relative);
+    return facts.appContentFolderPath.sliced(extractionFolder.size() + 1);
 }
 
 /// The folder's names; none when it cannot be listed, which is logged.
-QStringList loggedListing(const QString &folder)
+QStringList loggedListing(const PackageSource &source, const QString &folder)
 {
-    auto listing = folderListing(folder);
-    if (listing)
-        return std::move(listing).value();
-    logLine(u"Content error: "_s + listing.failure().detail);
-    return {};
+    if (!source.isFolder(folder))
+        logLine(u"Content error: "_s + qt_error_string(source.find(folder) == nullptr ? ENOENT : ENOTDIR));
+    return source.names(folder);
 }
 
-/// What keeps the path from being an archive at all; asked first, because opening a pipe would wait for its writer.
-std::optional<Failure> unopenable(const QString &path)
+/// A package of which nothing is there.
+class NoSource final : public PackageSource
 {
-    const QFileInfo info(path);
-    if (!info.exists())
-        return Failure{FailureCode::NotFound, path, {}};
-    if (info.isDir())
-        return Failure{FailureCode::IsFolder, path, {}};
-    if (!info.isFile())
-        return Failure{FailureCode::NotAnArchive, path, u"no ordinary file"_s};
-    if (!info.isReadable())
-        return Failure{FailureCode::NoPermission, path, {}};
-    return std::nullopt;
-}
+public:
+    NoSource() : PackageSource({}, {}) {}
+
+    Result<std::unique_ptr<EntryStream>> open(const PackageEntry &entry) const override
+    {
+        return Failure{FailureCode::NotFound, entry.path, {}};
+    }
+};
 
 } // namespace
 
@@ -58,69 +57,114 @@ bool isPackageName(const QString &path)
 
 Extraction extractPackage(const QString &ipaPath, const InspectionSite &site)
 {
-    if (const auto failure = unopenable(ipaPath))
-        return {failure, {}};
+    const Outcome openable = isArchiveFile(ipaPath);
+    if (!openable)
+        return {openable, {}};
     ZipArchive archive;
     archive.setLimits(site.limits);
     archive.setStopToken(site.stop);
     if (!archive.UnzipOpenFile(ipaPath))
         return {Failure{FailureCode::NotAnArchive, ipaPath, {}}, {}};
-    archive.UnzipFileTo(inWorkFolder(site, extractionFolder), true);
-    const Extraction extraction{archive.extractionFailure(), archive.damagedEntries()};
+    archive.UnzipFileTo(site.workFolder + u'/' + extractionFolder, true);
+    const Extraction extraction{archive.extraction(), archive.damagedEntries()};
     archive.UnzipCloseFile();
     return extraction;
 }
 
-PackageFacts readBundle(const QString &ipaPath, const InspectionSite &site)
+PackageFacts readBundle(const QString &ipaPath, const PackageSource &source, const ProfileDecoder &decoder)
 {
     PackageFacts facts;
     facts.ipaPath = ipaPath;
-    const QString bundle = appBundleName(loggedListing(inWorkFolder(site, payloadFolder)));
+    const QString bundle = appBundleName(loggedListing(source, u"Payload"_s));
     facts.appContentFolderPath = payloadFolder + bundle;
     if (bundle.isEmpty()) {
         facts.provisioningProfile = u""_s;
         return facts;
     }
-    const QString folder = inWorkFolder(site, facts.appContentFolderPath);
-    const BundleContents contents = bundleContents(loggedListing(folder));
+    const QString folder = shownBundle(facts);
+    const BundleContents contents = bundleContents(loggedListing(source, folder));
     if (contents.hasInfoPlist) {
-        const auto bytes = readWholeFile(folder + u"/Info.plist", PropertyListLimits().fileBytes);
+        const auto bytes = source.read(folder + u"/Info.plist", PropertyListLimits().fileBytes);
         if (bytes)
             facts.appInfoPlist = propertyListDictionary(bytes.value());
     }
     facts.appLocalizations = contents.localizations;
     facts.appImages = contents.images;
-    facts.provisioningProfile = site.profileDecoder.readProvisioningFromPath(folder + u"/embedded.mobileprovision");
+    facts.provisioningProfile = decoder.readProvisioning(source, folder + u"/embedded.mobileprovision");
     return facts;
 }
 
-IconFindings validateAppIcons(const PackageFacts &facts, const InspectionSite &site)
+IconFindings validateAppIcons(const PackageFacts &facts, const PackageSource &source)
 {
     const PlatformType platform = facts.appPlatformType();
     if (platform == PlatformType::None)
         return {};
-    const QString folder = inWorkFolder(site, facts.appContentFolderPath);
+    const QString folder = shownBundle(facts);
     const QStringList candidates = iconCandidates(facts.appImages);
-    const QList<QSize> sizes = pictureSizes(folder, candidates);
-    return {missingIcons(platform, sizes), appIcon(folder, candidates, sizes, facts.minimumOSNumber())};
+    const QList<QSize> sizes = pictureSizes(source, folder, candidates);
+    return {missingIcons(platform, sizes), appIcon(source, folder, candidates, sizes, facts.minimumOSNumber())};
 }
 
-QList<QSize> validateAppDefaults(const PackageFacts &facts, const InspectionSite &site)
+QList<QSize> validateAppDefaults(const PackageFacts &facts, const PackageSource &source)
 {
-    const QString folder = inWorkFolder(site, facts.appContentFolderPath);
-    const QList<QSize> sizes = pictureSizes(folder, launchImageCandidates(facts.appImages));
+    const QList<QSize> sizes = pictureSizes(source, shownBundle(facts), launchImageCandidates(facts.appImages));
     return missingLaunchImages(facts.appPlatformType(), sizes);
 }
 
-ArtworkReport checkArtwork(const PackageFacts &facts, const InspectionSite &site)
+PackageInspection::PackageInspection(QString ipaPath, const ProfileDecoder &decoder, InspectionObserver &observer)
+    : m_ipaPath(std::move(ipaPath)), m_decoder(decoder), m_observer(observer)
 {
-    const IconFindings icons = validateAppIcons(facts, site);
-    return {{icons.missing, validateAppDefaults(facts, site)}, icons.appIcon};
 }
 
-void removePayload(const InspectionSite &site)
+PackageReport PackageInspection::unzipApp(const InspectionSite &site)
 {
-    const QString payload = QDir::cleanPath(inWorkFolder(site, payloadFolder));
+    m_report.extraction = extractPackage(m_ipaPath, site);
+    beginGatheringInfo(site);
+    return std::move(m_report);
+}
+
+void PackageInspection::beginGatheringInfo(const InspectionSite &site)
+{
+    if (!site.stop.stop_requested()) {
+        const auto unpacked = FolderSource::open(site.workFolder + u'/' + extractionFolder, FolderLayout::Package);
+        if (unpacked)
+            fetchAppContents(*unpacked.value());
+        else
+            fetchAppContents(NoSource());
+    }
+    doneGatheringInfo(site);
+}
+
+PackageReport PackageInspection::fetchAppContents(const PackageSource &source, const WholeReading &reading)
+{
+    m_report.extraction.damagedEntries = reading.damaged;
+    if (source.failure())
+        m_report.extraction.outcome = *source.failure();
+    else if (reading.failure)
+        m_report.extraction.outcome = *reading.failure;
+    fetchAppContents(source);
+    return std::move(m_report);
+}
+
+void PackageInspection::fetchAppContents(const PackageSource &source)
+{
+    m_report.facts = readBundle(m_ipaPath, source, m_decoder);
+    const QString bundle = shownBundle(m_report.facts);
+    m_report.hasApp = !bundle.endsWith(u'/') && source.isFolder(bundle);
+    m_observer.gathered(m_report.facts, m_report.extraction);
+    startValidate(source);
+}
+
+void PackageInspection::startValidate(const PackageSource &source)
+{
+    const IconFindings icons = validateAppIcons(m_report.facts, source);
+    m_report.artwork = {{icons.missing, validateAppDefaults(m_report.facts, source)}, icons.appIcon};
+    m_observer.validated(m_report.artwork);
+}
+
+void PackageInspection::doneGatheringInfo(const InspectionSite &site)
+{
+    const QString payload = QDir::cleanPath(site.workFolder + u'/' + payloadFolder);
     // An archive may hold a plain file of the name.
     if (!QFile::remove(payload))
         QDir(payload).removeRecursively();
@@ -128,23 +172,23 @@ void removePayload(const InspectionSite &site)
 
 PackageReport inspectPackage(const QString &ipaPath, const InspectionSite &site)
 {
-    PackageReport report;
-    report.extraction = extractPackage(ipaPath, site);
-    report.facts = readBundle(ipaPath, site);
-    report.hasApp = report.facts.appContentFolderPath != payloadFolder &&
-                    QFileInfo(inWorkFolder(site, report.facts.appContentFolderPath)).isDir();
-    report.artwork = checkArtwork(report.facts, site);
-    removePayload(site);
-    return report;
+    InspectionObserver nobody;
+    return PackageInspection(ipaPath, site.profileDecoder, nobody).unzipApp(site);
 }
 
-std::optional<Failure> reportFailure(const PackageReport &report)
+PackageReport inspectPackage(const PackageSource &source, const WholeReading &reading, const ProfileDecoder &decoder)
 {
-    if (report.extraction.failure)
-        return report.extraction.failure;
+    InspectionObserver nobody;
+    return PackageInspection(source.path(), decoder, nobody).fetchAppContents(source, reading);
+}
+
+Outcome reportOutcome(const PackageReport &report)
+{
+    if (!report.extraction.outcome)
+        return report.extraction.outcome;
     if (!report.hasApp)
         return Failure{FailureCode::MissingContent, report.facts.ipaPath, u"no app in its Payload folder"_s};
-    return std::nullopt;
+    return Done{};
 }
 
 } // namespace lumora

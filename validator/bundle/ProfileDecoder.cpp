@@ -3,8 +3,8 @@
 
 #include "foundation/Log.h"
 #include "foundation/WholeFile.h"
+#include "validator/archive/PackageSource.h"
 
-#include <QDir>
 #include <QFileInfo>
 #include <QProcess>
 
@@ -63,18 +63,30 @@ std::optional<QString> CmsProfileDecoder::readProvisioningFromPath(const QString
     return message ? asciiText(signedMessageContent(message.value())) : u""_s;
 }
 
+std::optional<QString> CmsProfileDecoder::readProvisioning(const PackageSource &source, const QString &path) const
+{
+    const auto message = source.read(path, largestProfile);
+    return message ? asciiText(signedMessageContent(message.value())) : u""_s;
+}
+
 std::optional<QString> SecurityToolProfileDecoder::readProvisioningFromPath(const QString &path) const
 {
     QProcess tool;
     tool.setStandardErrorFile(QProcess::nullDevice());
-    // The path may be relative to the private folder, which a started program does not begin in everywhere
-    // (`WorkFolder`).
-    tool.setWorkingDirectory(QDir::currentPath());
     tool.start(m_program, {u"cms"_s, u"-D"_s, u"-i"_s, path}, QIODevice::ReadOnly);
     if (!tool.waitForStarted())
         return std::nullopt;
     tool.waitForFinished(-1);
     return receivedProvProfileOutput(tool);
+}
+
+std::optional<QString> SecurityToolProfileDecoder::readProvisioning(const PackageSource &source,
+                                                                    const QString &path) const
+{
+    const PackageEntry *entry = source.find(path);
+    // The tool says itself that there is no file.
+    const QString onDisk = entry == nullptr ? path : source.pathOnDisk(*entry);
+    return onDisk.isEmpty() ? std::nullopt : readProvisioningFromPath(onDisk);
 }
 
 QString SecurityToolProfileDecoder::receivedProvProfileOutput(QProcess &tool)

@@ -12,6 +12,8 @@ class QProcess;
 namespace lumora
 {
 
+class PackageSource;
+
 /// Decodes the signed provisioning profile of an app.
 class ProfileDecoder
 {
@@ -22,6 +24,8 @@ public:
     /// is no profile or it is no signed message (plain XML, PEM, damaged): an empty text is what a decoder that fails
     /// leaves behind. Nothing when no decoder could be asked at all.
     virtual std::optional<QString> readProvisioningFromPath(const QString &path) const = 0;
+    /// The same for the profile at the path in a package.
+    virtual std::optional<QString> readProvisioning(const PackageSource &source, const QString &path) const = 0;
 };
 
 /// Reads the signed message with OpenSSL. Like the system's tool it does not ask who signed: the text is shown and
@@ -30,6 +34,7 @@ class CmsProfileDecoder final : public ProfileDecoder
 {
 public:
     std::optional<QString> readProvisioningFromPath(const QString &path) const override;
+    std::optional<QString> readProvisioning(const PackageSource &source, const QString &path) const override;
 };
 
 /// Asks the system's `security` tool.
@@ -39,6 +44,8 @@ public:
     explicit SecurityToolProfileDecoder(QString program) : m_program(std::move(program)) {}
 
     std::optional<QString> readProvisioningFromPath(const QString &path) const override;
+    /// The tool reads files only: nothing is received for a profile that lies in an archive.
+    std::optional<QString> readProvisioning(const PackageSource &source, const QString &path) const override;
 
     /// The profile's text out of the tool that was asked for it, once it has ended: all that it printed.
     static QString receivedProvProfileOutput(QProcess &tool);

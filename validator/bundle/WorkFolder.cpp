@@ -4,11 +4,9 @@
 #include <QDir>
 #include <QFile>
 
-#include <atomic>
 #include <cerrno>
 
 #include <fcntl.h>
-#include <pthread.h>
 #include <stdlib.h>
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -51,25 +49,6 @@ bool stillThere(const FileDescriptor &folder)
     return ::fstat(folder.number(), &status) == 0 && status.st_nlink > 0;
 }
 
-/// Where programs that are started begin, -1 for where the process is. Forked children read it before anything else
-/// runs in them, so it is no more than a number.
-std::atomic<int> childrensFolder{-1};
-
-void enterChildrensFolder()
-{
-    // A child that cannot go there stays; there is nobody to tell.
-    const int folder = childrensFolder;
-    if (folder >= 0)
-        std::ignore = ::fchdir(folder);
-}
-
-void letChildrenBeginIn(const FileDescriptor &folder)
-{
-    static const int registered = ::pthread_atfork(nullptr, nullptr, enterChildrensFolder);
-    if (registered == 0)
-        childrensFolder = folder.number();
-}
-
 void removeLeftBehind(const QString &parent)
 {
     const QStringList names = QDir(parent).entryList({prefix + u'*'}, QDir::Dirs | QDir::NoSymLinks);
@@ -106,28 +85,8 @@ Result<std::unique_ptr<WorkFolder>> WorkFolder::make(const QString &parent)
     return Failure{FailureCode::CannotCreateFolder, parent, error == 0 ? QString() : qt_error_string(error)};
 }
 
-Result<std::unique_ptr<WorkFolder>> WorkFolder::makeCurrent()
-{
-    const QString before = QDir::currentPath();
-    FileDescriptor start(::open(".", O_PATH | O_DIRECTORY | O_CLOEXEC));
-    auto folder = make();
-    if (!folder)
-        return folder;
-    if (!QDir::setCurrent(folder.value()->path()))
-        return Failure{FailureCode::CannotCreateFolder, folder.value()->path(), qt_error_string(errno)};
-    folder.value()->m_before = before;
-    folder.value()->m_start = std::move(start);
-    letChildrenBeginIn(folder.value()->m_start);
-    return folder;
-}
-
 WorkFolder::~WorkFolder()
 {
-    if (m_start.valid())
-        childrensFolder = -1;
-    // A process must not be left in a folder that is gone. The one it came from may be gone by now, too.
-    if (QDir::currentPath() == QDir(m_path).canonicalPath() && (m_before.isEmpty() || !QDir::setCurrent(m_before)))
-        QDir::setCurrent(u"/"_s);
     QDir(m_path).removeRecursively();
 }
 

@@ -2,9 +2,11 @@
 #include "pictures/png/ApplePngDecoder.h"
 #include "pictures/png/PngHeader.h"
 #include "tests/doubles/ScriptedFiles.h"
+#include "validator/archive/FolderSource.h"
 #include "validator/bundle/BundleImages.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -108,7 +110,12 @@ private slots:
         QTest::newRow("signature only") << QSize();
         QTest::newRow("no such file") << QSize();
     }
-    void takesSizesFromTheHeaderAlone() { QTEST(pictureSize(path()), "expected"); }
+    void takesSizesFromTheHeaderAlone()
+    {
+        const auto source = FolderSource::open(m_pictures.path(), FolderLayout::Package);
+        QVERIFY(source);
+        QTEST(pictureSize(*source.value(), QFileInfo(path()).fileName()), "expected");
+    }
 
     void keepsToTheAreaItMayDecode()
     {

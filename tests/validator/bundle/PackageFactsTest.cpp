@@ -38,6 +38,8 @@ private slots:
         QTest::newRow("absent") << absent << QString();
         QTest::newRow("whole number") << QVariant(1337LL) << u"1337"_s;
         QTest::newRow("real") << QVariant(7.1) << u"7.1"_s;
+        QTest::newRow("real of nine digits") << QVariant(1234.56789) << u"1234.56789"_s;
+        QTest::newRow("real of fifteen digits") << QVariant(1.23456789012345) << u"1.23456789012345"_s;
         QTest::newRow("boolean") << QVariant(true) << u"1"_s;
         QTest::newRow("array") << QVariant(QVariantList{u"1.2"_s}) << QString();
         QTest::newRow("dictionary") << QVariant(QVariantMap{{u"a"_s, 1}}) << QString();

@@ -94,9 +94,9 @@ private slots:
     }
     void tellsWhyThereIsNoApp()
     {
-        const auto failure = reportFailure(inspected());
-        QVERIFY(failure);
-        QTEST(failure->code, "code");
+        const Outcome outcome = reportOutcome(inspected());
+        QVERIFY(!outcome);
+        QTEST(outcome.failure().code, "code");
     }
 
     void logsWhatCannotBeListed_data()
@@ -224,22 +224,37 @@ private slots:
                                                                  {u"Documents/app/Symbols/a.symbols"_s, u"stays"_s}}));
         const PackageReport second = inspectPackage(package(u"valid"_s), site(work));
         QCOMPARE(second.facts.appName(), u"Demo"_s);
-        QVERIFY(!reportFailure(second));
+        QVERIFY(reportOutcome(second));
         QVERIFY(QFile::exists(work.filePath(u"Documents/app/Symbols/a.symbols"_s)));
         inspectPackage(package(u"payload is a file"_s), site(work));
         QVERIFY(!QFile::exists(work.filePath(u"Documents/app/Payload"_s)));
     }
 
-    void worksInTheCurrentFolder()
+    void leavesTheCurrentFolderAlone()
     {
+        const QTemporaryDir current;
         const QTemporaryDir work;
         const QString before = QDir::currentPath();
-        QVERIFY(QDir::setCurrent(work.path()));
-        const CmsProfileDecoder decoder;
-        const PackageReport report = inspectPackage(package(u"valid"_s), {QString(), decoder});
+        QVERIFY(QDir::setCurrent(current.path()));
+        const PackageReport report = inspectPackage(package(u"valid"_s), site(work));
+        const QString after = QDir::currentPath();
         QDir::setCurrent(before);
         QCOMPARE(report.facts.appName(), u"Demo"_s);
         QVERIFY(QFile::exists(work.filePath(u"Documents/app"_s)));
+        QCOMPARE(after, QDir(current.path()).canonicalPath());
+        QVERIFY(QDir(current.path()).isEmpty());
+    }
+
+    void readsNothingOnceAStopIsRequested()
+    {
+        const QTemporaryDir work;
+        std::stop_source stop;
+        stop.request_stop();
+        InspectionSite stopped = site(work);
+        stopped.stop = stop.get_token();
+        const PackageReport report = inspectPackage(package(u"valid"_s), stopped);
+        QVERIFY(report.facts.ipaPath.isEmpty());
+        QVERIFY(!report.hasApp);
     }
 
     void readsWhatCouldBeUnpackedBeforeALimit()
@@ -248,8 +263,8 @@ private slots:
         InspectionSite limited = site(work);
         limited.limits.bytes = 5000;
         const PackageReport report = inspectPackage(package(u"valid"_s), limited);
-        QVERIFY(reportFailure(report));
-        QCOMPARE(reportFailure(report)->code, FailureCode::TooLarge);
+        QVERIFY(!reportOutcome(report));
+        QCOMPARE(reportOutcome(report).failure().code, FailureCode::TooLarge);
         QVERIFY(report.hasApp);
     }
 
@@ -263,8 +278,8 @@ private slots:
     {
         const QString pipe = m_packages.filePath(u"pipe.ipa"_s);
         QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
-        QCOMPARE(reportFailure(inspectedAt(pipe))->code, FailureCode::NotAnArchive);
-        QCOMPARE(reportFailure(inspectedAt(m_packages.path()))->code, FailureCode::IsFolder);
+        QCOMPARE(reportOutcome(inspectedAt(pipe)).failure().code, FailureCode::NotAnArchive);
+        QCOMPARE(reportOutcome(inspectedAt(m_packages.path())).failure().code, FailureCode::IsFolder);
     }
 
     void knowsPackagesByTheirExtension_data()

@@ -2,7 +2,7 @@
 #include "validator/bundle/ProfileDecoder.h"
 #include "tests/doubles/LogKeeper.h"
 #include "tests/doubles/ScriptedFiles.h"
-#include "validator/bundle/WorkFolder.h"
+#include "validator/archive/FolderSource.h"
 
 #include <QDir>
 #include <QFile>
@@ -85,15 +85,17 @@ private slots:
         QCOMPARE(text->size(), 1'000'004);
     }
 
-    void asksTheToolWhereThePathIsMeant()
+    void readsTheProfileOfAPackage()
     {
-        // Other programs begin outside the private folder; this one is given paths inside.
+        const auto source = FolderSource::open(m_profiles.path(), FolderLayout::Package);
+        QVERIFY(source);
+        const QString name = u"signed.mobileprovision"_s;
+        QCOMPARE(CmsProfileDecoder().readProvisioning(*source.value(), name),
+                 CmsProfileDecoder().readProvisioningFromPath(m_profiles.filePath(name)));
+        QCOMPARE(CmsProfileDecoder().readProvisioning(*source.value(), u"missing"_s), std::optional(u""_s));
         const QTemporaryDir folder;
-        const QString tool = script(folder, "pwd -P\n");
-        const auto current = WorkFolder::makeCurrent();
-        QVERIFY(current);
-        const auto text = SecurityToolProfileDecoder(tool).readProvisioningFromPath(u"relative"_s);
-        QCOMPARE(text, std::optional(QString(QDir(current.value()->path()).canonicalPath() + u'\n')));
+        const SecurityToolProfileDecoder tool(script(folder, "echo \"$4\"\n"));
+        QCOMPARE(tool.readProvisioning(*source.value(), name), std::optional(m_profiles.filePath(name) + u'\n'));
     }
 
     void logsWhatAToolPrints()

@@ -77,6 +77,33 @@ private slots:
         QVERIFY(!propertyListDictionary(contents(fault)));
     }
 
+    void readsXmlUpToItsLimits_data()
+    {
+        QTest::addColumn<QByteArray>("value");
+        QTest::addColumn<bool>("read");
+        // Around the values: the tags of the plist, the dictionary, its key and the array.
+        const PropertyListLimits limits;
+        const auto texts = [](qsizetype count) { return QByteArray("<string/>").repeated(count); };
+        const qsizetype tags = 2 * limits.values;
+        constexpr qsizetype around = 8;
+        QTest::newRow("as many tags as may be") << QByteArray("<array>" + texts(tags - around) + "</array>") << true;
+        QTest::newRow("one tag more") << QByteArray("<array>" + texts(tags - around + 1) + "</array>") << false;
+        const qsizetype containers = limits.depth * 100;
+        QTest::newRow("as many lists as may be")
+            << QByteArray("<array>" + QByteArray("<dict/>").repeated(containers - 2) + "</array>") << true;
+        QTest::newRow("one list more") << QByteArray("<array>" + QByteArray("<dict/>").repeated(containers - 1) +
+                                                     "</array>")
+                                       << false;
+    }
+    void readsXmlUpToItsLimits()
+    {
+        QFETCH(QByteArray, value);
+        const auto list = propertyListDictionary("<plist><dict><key>a</key>" + value + "</dict></plist>");
+        QTEST(list.has_value(), "read");
+        if (list)
+            QVERIFY(list->value(u"a"_s).toList().size() > 1000);
+    }
+
     void expandsNoEntities()
     {
         const auto list = propertyListDictionary(contents(u"entities"_s));

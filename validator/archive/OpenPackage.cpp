@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#include "OpenPackage.h"
+
+#include "FolderSource.h"
+#include "PackageView.h"
+
+#include <QDir>
+
+using namespace Qt::StringLiterals;
+
+namespace lumora
+{
+
+Result<std::unique_ptr<PackageSource>> openPackage(const QString &path, const ExtractionLimits &limits)
+{
+    // A folder's name may be completed with a slash behind it.
+    const QString name = QDir::cleanPath(path);
+    if (name.endsWith(u".ipa"))
+        return PackageView::open(path, limits);
+    if (name.endsWith(u".app"))
+        return FolderSource::open(path, FolderLayout::App, limits);
+    if (name.endsWith(u".xcarchive"))
+        return FolderSource::open(path, FolderLayout::XcodeArchive, limits);
+    return Failure{FailureCode::NotAnArchive, path, u"the name does not end in .ipa, .app or .xcarchive"_s};
+}
+
+} // namespace lumora
