@@ -97,7 +97,7 @@ void IconSourceTest::refusedPaths_data()
     QTest::newRow("text called .png") << u"text.png"_s << FailureCode::NotAPicture;
     QTest::newRow("name too long") << QString(300, u'x') << FailureCode::NotFound;
     QTest::newRow("an endless device") << u"/dev/zero"_s << FailureCode::NotReadable;
-    QTest::newRow("an empty device") << u"/dev/null"_s << FailureCode::NotAPicture;
+    QTest::newRow("an empty device") << u"/dev/null"_s << FailureCode::NotReadable;
 }
 
 void IconSourceTest::refusedPaths()
