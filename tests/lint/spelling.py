@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 """Finds British spellings in the names that code declares and uses: the tree's language is American English.
 
-"Catalogue" is spelled both ways in America and stays; so do names that an interface from outside fixes (KEPT).
+"Catalogue" and "judgement" are spelled both ways in America and stay; so do names that an interface from outside fixes (KEPT).
 """
 
 import re
@@ -15,7 +15,7 @@ BRITISH = re.compile(
     r"|(?:initial|serial|normal|organ|recogn|optim|minim|maxim|local|quant|summar|synchron|util|sanit|special|styl|general|real"
     r"|token|capital|emphas|visual|custom|standard|final|categor|priorit|author|stabil)is(?:e[drs]?|ing|ation|ations)$"
     r"|analys(?:e[drs]?|ing)$|(?:label|cancel|model|travel|signal|marshal|pencil|channel|level)l(?:ed|ing|er)"
-    r"|artefact|licence|defence|offence|judgement|dialogue|programme$|skilful|fulfil(?!l)|whilst"
+    r"|artefact|licence|defence|offence|dialogue|programme$|skilful|fulfil(?!l)|whilst"
 )
 # Names that the design or a library fixes, each with who fixes it.
 KEPT = {
