@@ -1,9 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "WindowArguments.h"
 
-#include "ToolTable.h"
+#include "cli/ArgumentParser.h"
+#include "cli/CommandTable.h"
+#include "cli/CommandText.h"
+#include "cli/OutputPlace.h"
+#include "cli/Suggestion.h"
 
 #include <QFileInfo>
+#include <QUrl>
+
+using namespace Qt::StringLiterals;
 
 namespace lumora
 {
@@ -11,32 +18,79 @@ namespace lumora
 namespace
 {
 
-bool isTool(const QString &name)
+const QString toolOption = u"--tool"_s;
+
+/// The arguments one after another.
+class Reader
 {
-    const std::span<const Tool> tools = toolTable();
-    return std::any_of(tools.begin(), tools.end(),
-                       [&](const Tool &tool) { return name == QLatin1StringView(tool.name); });
-}
+public:
+    explicit Reader(const QStringList &arguments) : m_arguments(arguments) {}
+
+    std::variant<OpenRequest, Complaint> read()
+    {
+        while (m_next < m_arguments.size() && !m_problem)
+            readOne(m_arguments[m_next++]);
+        if (m_problem)
+            return *m_problem;
+        return m_request;
+    }
+
+private:
+    void readOne(const QString &argument)
+    {
+        if (m_optionsEnded || !argument.startsWith(u'-') || argument == u"-")
+            takeFile(argument);
+        else if (argument == u"--")
+            m_optionsEnded = true;
+        else if (argument.startsWith(QString(toolOption + u'=')))
+            takeTool(argument.sliced(toolOption.size() + 1));
+        else if (argument == toolOption && m_next < m_arguments.size())
+            takeTool(m_arguments[m_next++]);
+        else if (argument == toolOption)
+            m_problem = misuse("missing-value",
+                               commandText("CLI_MISSING_VALUE", {{"[OPTION]", toolOption}, {"[NAME]", u"NAME"_s}}),
+                               commandText("CLI_CHOICES", {{"[WORDS]", alternatives(toolNames())}}));
+        else
+            m_problem = unknownOption(argument, {toolOption, u"--help"_s, u"--version"_s});
+    }
+
+    void takeTool(const QString &name)
+    {
+        m_request.tool = toolNamed(name);
+        if (m_request.tool.isEmpty())
+            m_problem = misuse(
+                "bad-value",
+                commandText("CLI_UNKNOWN_TOOL", {{"[WORDS]", alternatives(toolNames())}, {"[VALUE]", quoted(name)}}),
+                didYouMean(nearestWords(name, toolNames())));
+    }
+
+    void takeFile(const QString &argument)
+    {
+        const QUrl url(argument);
+        const QString given = url.isLocalFile() ? url.toLocalFile() : argument;
+        const Result<QString> path = absolutePath(given);
+        if (argument.isEmpty())
+            m_problem = misuse("empty-value", commandText("CLI_EMPTY_WORD"));
+        else if (!path)
+            m_problem = complaintOf(path.failure());
+        else if (!QFileInfo::exists(path.value()))
+            m_problem = complaintOf(Failure{FailureCode::NotFound, given, {}});
+        else
+            m_request.files << path.value();
+    }
+
+    const QStringList &m_arguments;
+    qsizetype m_next = 0;
+    bool m_optionsEnded = false;
+    OpenRequest m_request;
+    std::optional<Complaint> m_problem;
+};
 
 } // namespace
 
-Result<OpenRequest> parseWindowArguments(const QStringList &arguments)
+std::variant<OpenRequest, Complaint> parseWindowArguments(const QStringList &arguments)
 {
-    const QString toolOption = QStringLiteral("--tool=");
-    OpenRequest request;
-    bool optionsEnded = false;
-    for (const QString &argument : arguments) {
-        if (optionsEnded || !argument.startsWith(u'-') || argument == u'-') {
-            request.files << QFileInfo(argument).absoluteFilePath();
-        } else if (argument == QStringLiteral("--")) {
-            optionsEnded = true;
-        } else if (argument.startsWith(toolOption) && isTool(argument.sliced(toolOption.size()))) {
-            request.tool = argument.sliced(toolOption.size());
-        } else {
-            return Failure{FailureCode::InvalidValue, argument, {}};
-        }
-    }
-    return request;
+    return Reader(arguments).read();
 }
 
 } // namespace lumora

@@ -10,6 +10,8 @@
 #include "TerminationSignals.h"
 #include "WindowArguments.h"
 #include "cli/CommandLine.h"
+#include "cli/CommandTable.h"
+#include "cli/CommandText.h"
 #include "cli/Console.h"
 #include "foundation/Log.h"
 #include "foundation/Version.h"
@@ -24,6 +26,8 @@
 #include <QFile>
 #include <QTimer>
 
+#include <variant>
+
 namespace lumora
 {
 
@@ -35,6 +39,23 @@ void nameApplication()
     QApplication::setApplicationName(QStringLiteral("lumora"));
     QApplication::setApplicationVersion(QLatin1StringView(versionText));
     QApplication::setDesktopFileName(QLatin1StringView(applicationId));
+}
+
+QStringList windowArguments(int argc, char **argv)
+{
+    QStringList arguments;
+    for (int index = 1; index < argc; ++index)
+        arguments << QFile::decodeName(argv[index]);
+    return arguments;
+}
+
+Complaint noDisplay()
+{
+    return {Complaint::Kind::Failure,
+            QStringLiteral("no-display"),
+            {},
+            commandText("CLI_NO_DISPLAY", {{"[WORDS]", commandNames().join(QStringLiteral(", "))}}),
+            {}};
 }
 
 /// Null if it cannot be made; the validator then reports it.
@@ -61,21 +82,15 @@ void connectBus(BusApplication &bus, AppDelegate &delegate)
 
 int runWindow(int argc, char **argv)
 {
-    Console console;
-    QStringList arguments;
-    for (int index = 1; index < argc; ++index)
-        arguments << QFile::decodeName(argv[index]);
-    const Result<OpenRequest> request = parseWindowArguments(arguments);
-    if (!request) {
-        console.complain(request.failure());
-        return static_cast<int>(ExitStatus::Usage);
-    }
+    const QStringList arguments = windowArguments(argc, argv);
+    const std::variant<OpenRequest, Complaint> parsed = parseWindowArguments(arguments);
+    if (std::holds_alternative<Complaint>(parsed))
+        return endWithComplaint(argc, argv, ExitStatus::Usage,
+                                [&arguments] { return std::get<Complaint>(parseWindowArguments(arguments)); });
+    const auto &request = std::get<OpenRequest>(parsed);
     const Display display;
-    if (!display.isReachable()) {
-        console.complain(QStringLiteral("no display to open the window on; these commands work without one: %1")
-                             .arg(commandNames().join(QStringLiteral(", "))));
-        return static_cast<int>(ExitStatus::Refused);
-    }
+    if (!display.isReachable())
+        return endWithComplaint(argc, argv, ExitStatus::Refused, &noDisplay);
 
     // Behind what the display changes in the environment, which the other thread reads.
     FontPreparation fonts;
@@ -83,7 +98,7 @@ int runWindow(int argc, char **argv)
     const QApplication application(argc, argv);
     nameApplication();
     BusApplication bus;
-    if (bus.start(request.value()) == BusApplication::Start::Forwarded)
+    if (bus.start(request) == BusApplication::Start::Forwarded)
         return 0;
 
     loadResources();
@@ -106,10 +121,10 @@ int runWindow(int argc, char **argv)
     const TerminationSignals termination;
     QObject::connect(&termination, &TerminationSignals::terminated, delegate.window(), &INAppStoreWindow::performClose);
 
-    delegate.showTool(request.value().tool);
+    delegate.showTool(request.tool);
     delegate.activate();
-    if (!request.value().files.isEmpty())
-        delegate.applicationOpenFiles(request.value().files);
+    if (!request.files.isEmpty())
+        delegate.applicationOpenFiles(request.files);
     // For task bars and window lists, which may have it when the window is up.
     QTimer::singleShot(std::chrono::milliseconds(100), qApp,
                        [] { QApplication::setWindowIcon(NamedImage(QStringLiteral("app_icon")).icon()); });

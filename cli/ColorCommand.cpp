@@ -1,15 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "ColorCommand.h"
 
-#include "Console.h"
+#include "CommandText.h"
+#include "Declaration.h"
 #include "color/ColorCode.h"
 
-#include <CLI/Validators.hpp>
-
-#include <QJsonObject>
-
+#include <algorithm>
 #include <memory>
-#include <string>
 #include <utility>
 #include <vector>
 
@@ -23,9 +20,8 @@ namespace
 
 struct ColorArguments
 {
-    std::string text;
-    std::string notation = "all";
-    bool json = false;
+    QString text;
+    QString notation = u"all"_s;
 };
 
 /// Every notation by the name that --as, the lines and the JSON keys share.
@@ -38,12 +34,24 @@ std::vector<std::pair<QString, QString>> namedCodes(const ColorCodes &codes)
     };
 }
 
-void printJson(Console &console, const ColorCodes &codes)
+QJsonObject codesJson(const ColorCodes &codes)
 {
-    QJsonObject object{{u"schema"_s, 1}};
+    QJsonObject object;
     for (const auto &[name, code] : namedCodes(codes))
         object.insert(name, code);
-    console.print(QJsonDocument(object));
+    return object;
+}
+
+/// The window forgives a letter that is no digit while one types; a script gets what it wrote, or a word.
+bool isColorCode(QStringView text)
+{
+    if (text.startsWith(u'#'))
+        text = text.sliced(1);
+    const auto isDigit = [](QChar character) {
+        return (character >= u'0' && character <= u'9') || (character >= u'a' && character <= u'f') ||
+               (character >= u'A' && character <= u'F');
+    };
+    return (text.size() == 3 || text.size() == 6) && std::all_of(text.begin(), text.end(), isDigit);
 }
 
 void printLines(Console &console, const ColorCodes &codes, const QString &wanted)
@@ -58,32 +66,26 @@ void printLines(Console &console, const ColorCodes &codes, const QString &wanted
 
 ExitStatus runColor(Console &console, const ColorArguments &arguments)
 {
-    const QString text = QString::fromStdString(arguments.text);
-    const Result<ColorCodes> codes = codesForCopying(text);
-    if (!codes) {
-        console.complain(QString(
-            u"\""_s + text +
-            u"\": is no colour code; give three or six hexadecimal digits, with or without #, such as #abc or #34485e"_s));
+    const Result<ColorCodes> codes = codesForCopying(arguments.text);
+    if (!codes || !isColorCode(arguments.text)) {
+        console.complain(Complaint{Complaint::Kind::Failure, u"invalid-value"_s, quoted(arguments.text),
+                                   commandText("CLI_NO_COLOR"), commandText("CLI_NO_COLOR_ADVICE")});
         return ExitStatus::Refused;
     }
-    if (arguments.json)
-        printJson(console, codes.value());
-    else
-        printLines(console, codes.value(), QString::fromStdString(arguments.notation));
-    return ExitStatus::Done;
+    printLines(console, codes.value(), arguments.notation);
+    return console.finish(ExitStatus::Done, codesJson(codes.value()));
 }
 
 } // namespace
 
-CommandBody declareColorCommand(CLI::App &subcommand)
+CommandBody declareColorCommand(Declaration &declaration)
 {
     const auto arguments = std::make_shared<ColorArguments>();
-    subcommand.description("Print a colour as code");
-    subcommand.add_option("TEXT", arguments->text, "Three or six hexadecimal digits, with or without #")->required();
-    subcommand.add_option("--as", arguments->notation, "Notation to print, or all, each with its name")
-        ->check(CLI::IsMember({"hex", "ios", "mac", "rgb", "css", "all"}))
-        ->capture_default_str();
-    subcommand.add_flag("--json", arguments->json, "Print every notation as one JSON object");
+    declaration.operand("TEXT", &arguments->text, "CLI_COLOR_TEXT").required();
+    declaration.option("--as", &arguments->notation, "NOTATION", "CLI_COLOR_AS")
+        .words({u"hex"_s, u"ios"_s, u"mac"_s, u"rgb"_s, u"css"_s, u"all"_s});
+    declaration.example("lumora color '#34485e'");
+    declaration.example("lumora color 34485e --as css");
     return [arguments](Console &console) { return runColor(console, *arguments); };
 }
 

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "CommandLine.h"
+#include "CommandTable.h"
 
 namespace lumora
 {
 
 /// `lumora color TEXT`: a colour text as code in every notation or in one.
-CommandBody declareColorCommand(CLI::App &subcommand);
+CommandBody declareColorCommand(Declaration &declaration);
 
 } // namespace lumora

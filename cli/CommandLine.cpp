@@ -1,25 +1,27 @@
 // SPDX-License-Identifier: MIT
 #include "CommandLine.h"
 
-#include "ColorCommand.h"
+#include "ArgumentParser.h"
+#include "CommandTable.h"
+#include "CommandText.h"
 #include "Console.h"
-#include "DevicesCommand.h"
-#include "DownscaleCommand.h"
-#include "IconCommand.h"
-#include "IconsCommand.h"
-#include "PlaceholdersCommand.h"
-#include "ValidateCommand.h"
-#include "foundation/Log.h"
+#include "Declaration.h"
+#include "HelpText.h"
+#include "Suggestion.h"
 #include "foundation/Version.h"
+#include "resources/Resources.h"
 
-#include <CLI/CLI.hpp>
-
+#include <QFile>
+#include <QFileInfo>
 #include <QGuiApplication>
+#include <QLoggingCategory>
+#include <QUrl>
 
-#include <array>
-#include <cstring>
+#include <algorithm>
+#include <cstdio>
 #include <memory>
-#include <vector>
+
+using namespace Qt::StringLiterals;
 
 namespace lumora
 {
@@ -27,28 +29,48 @@ namespace lumora
 namespace
 {
 
-/// Every command, in the order in which --help lists them.
-const std::vector<Command> &commands()
+const QStringList helpOptions = {u"--help"_s, u"-h"_s};
+const QStringList versionOptions = {u"--version"_s, u"-V"_s};
+/// What every command takes and what may stand before its name, too.
+const QStringList leadingOptions = {u"--json"_s, u"--quiet"_s, u"-q"_s, u"--verbose"_s, u"-v"_s};
+const QString helpCommand = u"help"_s;
+const QString versionCommand = u"version"_s;
+
+QStringList wordsOf(int argc, const char *const *argv)
 {
-    static const std::vector<Command> all = {
-        {"icons", false, &declareIconsCommand},
-        {"icon", false, &declareIconCommand},
-        {"placeholders", true, &declarePlaceholdersCommand},
-        {"downscale", false, &declareDownscaleCommand},
-        {"color", false, &declareColorCommand},
-        {"devices", false, &declareDevicesCommand},
-        {"validate", false, &declareValidateCommand},
-    };
-    return all;
+    QStringList words;
+    for (int index = 1; index < argc; ++index)
+        words << QFile::decodeName(argv[index]);
+    return words;
 }
 
-const Command *commandNamed(const char *name)
+/// Brings what stands before the command's name behind it.
+QStringList withCommandFirst(QStringList words)
 {
-    for (const Command &command : commands()) {
-        if (std::strcmp(command.name, name) == 0)
-            return &command;
+    qsizetype leading = 0;
+    while (leading < words.size() && leadingOptions.contains(words[leading]))
+        ++leading;
+    if (leading < words.size())
+        words.move(leading, 0);
+    return words;
+}
+
+bool isForTheWindow(const QString &word)
+{
+    return word == u"--" || word == u"--tool" || word.startsWith(u"--tool=") || QFileInfo::exists(word) ||
+           QFileInfo(word).isSymLink() || QUrl(word).isLocalFile();
+}
+
+/// Whether an option is asked for, other than as an operand behind "--".
+bool asksFor(const QStringList &words, const QStringList &options)
+{
+    for (const QString &word : words) {
+        if (word == u"--")
+            return false;
+        if (options.contains(word))
+            return true;
     }
-    return nullptr;
+    return false;
 }
 
 std::unique_ptr<QCoreApplication> makeApplication(int &argc, char **argv, bool drawsText)
@@ -60,62 +82,128 @@ std::unique_ptr<QCoreApplication> makeApplication(int &argc, char **argv, bool d
     return std::make_unique<QGuiApplication>(argc, argv);
 }
 
+void installCommandTexts()
+{
+    loadResources();
+    installTexts(*QCoreApplication::instance(), QLocale::system(), ToolkitTexts::LeaveOut);
+}
+
+ExitStatus printLines(Console &console, const QString &text)
+{
+    console.print(text.toUtf8());
+    return ExitStatus::Done;
+}
+
+QString versionLine()
+{
+    return u"lumora "_s + QLatin1StringView(versionText) + u'\n';
+}
+
+Complaint unknownCommand(const QString &word)
+{
+    const QStringList known = commandNames() + toolNames() + QStringList{helpCommand, versionCommand};
+    const QStringList meant = nearestWords(word, known);
+    return misuse("unknown-command", commandText("CLI_UNKNOWN_COMMAND", {{"[WORD]", quoted(word)}}),
+                  meant.isEmpty() ? commandText("CLI_SEE_HELP", {{"[COMMAND]", u"lumora help"_s}}) : didYouMean(meant));
+}
+
+/// `lumora help [COMMAND]`.
+ExitStatus runHelp(Console &console, const QStringList &words)
+{
+    const auto isTopic = [](const QString &word) { return !word.startsWith(u'-'); };
+    const auto topic = std::find_if(words.begin(), words.end(), isTopic);
+    if (topic == words.end() || *topic == helpCommand || *topic == versionCommand)
+        return printLines(console, programHelp());
+    const Command *command = commandNamed(*topic);
+    if (command == nullptr) {
+        console.complain(unknownCommand(*topic));
+        return console.finish(ExitStatus::Usage);
+    }
+    Declaration declaration(QString::fromLatin1(command->name));
+    const CommandBody body = command->declare(declaration);
+    return printLines(console, commandHelp(*command, declaration));
+}
+
+ExitStatus runCommand(const Command &command, const QStringList &words)
+{
+    Declaration declaration(QString::fromLatin1(command.name));
+    const CommandBody body = command.declare(declaration);
+    if (asksFor(words, helpOptions) || asksFor(words, versionOptions)) {
+        Console console;
+        return printLines(console, asksFor(words, helpOptions) ? commandHelp(command, declaration) : versionLine());
+    }
+    if (const std::optional<Complaint> problem = readArguments(declaration, words)) {
+        // The form may stand behind the mistake.
+        Console console({asksFor(words, {u"--json"_s}), false, false}, declaration.commandName());
+        console.complain(*problem);
+        return console.finish(problem->kind == Complaint::Kind::Misuse ? ExitStatus::Usage : ExitStatus::Refused);
+    }
+    Console console(declaration.form(), declaration.commandName());
+    ExitStatus status = body(console);
+    console.finish(status);
+    if (!console.flush()) {
+        console.complain(Complaint{Complaint::Kind::Failure, u"cannot-write"_s, commandText("CLI_STANDARD_OUTPUT"),
+                                   commandText("CLI_CANNOT_WRITE"), commandText("CLI_STANDARD_OUTPUT_ADVICE")});
+        status = ExitStatus::Refused;
+    }
+    return status;
+}
+
+ExitStatus run(const QStringList &words)
+{
+    Console console({asksFor(words, {u"--json"_s}), false, false});
+    const QString first = words.value(0);
+    if (first == helpCommand || helpOptions.contains(first))
+        return runHelp(console, words.sliced(1));
+    if (first == versionCommand || versionOptions.contains(first))
+        return printLines(console, versionLine());
+    if (const Command *command = commandNamed(first))
+        return runCommand(*command, words.sliced(1));
+    if (leadingOptions.contains(first))
+        console.complain(misuse("missing-option", commandText("CLI_MISSING_OPTION", {{"[OPTION]", u"COMMAND"_s}}),
+                                commandText("CLI_SEE_HELP", {{"[COMMAND]", u"lumora help"_s}})));
+    else if (first.isEmpty())
+        console.complain(misuse("empty-value", commandText("CLI_EMPTY_WORD")));
+    else if (first.startsWith(u'-') && first.size() > 1)
+        console.complain(unknownOption(first, helpOptions.first(1) + versionOptions.first(1) + leadingOptions +
+                                                  QStringList{u"--tool"_s}));
+    else
+        console.complain(unknownCommand(first));
+    return console.finish(ExitStatus::Usage);
+}
+
 } // namespace
 
 bool isCommandLine(int argc, const char *const *argv)
 {
-    if (argc < 2)
+    const QStringList words = withCommandFirst(wordsOf(argc, argv));
+    if (words.isEmpty())
         return false;
-    return std::strcmp(argv[1], "--help") == 0 || std::strcmp(argv[1], "-h") == 0 ||
-           std::strcmp(argv[1], "--version") == 0 || commandNamed(argv[1]) != nullptr;
-}
-
-QStringList commandNames()
-{
-    QStringList names;
-    for (const Command &command : commands())
-        names << QString::fromLatin1(command.name);
-    return names;
+    const QString &first = words.first();
+    return commandNamed(first) != nullptr || first == helpCommand || first == versionCommand || !isForTheWindow(first);
 }
 
 int runCommandLine(int argc, char **argv)
 {
-    CLI::App parser{
-        "Lumora: icons, placeholders, down-scaling, colour codes, device matrix and app package checks.\n"
-        "Without a command it opens its window, with the given files if there are any; with --tool=NAME at the\n"
-        "tool icons, placeholders, resizer, color, devices or validator.",
-        "lumora"};
-    parser.set_version_flag("--version", std::string("lumora ") + versionText, "Print the version and exit");
-    parser.require_subcommand(1);
-
-    CommandBody chosen;
-    for (const Command &command : commands()) {
-        CLI::App *subcommand = parser.add_subcommand(command.name);
-        CommandBody body = command.declare(*subcommand);
-        subcommand->callback([&chosen, body] { chosen = body; });
-    }
-    try {
-        parser.parse(argc, argv);
-    } catch (const CLI::ParseError &error) {
-        const int status = parser.exit(error);
-        return status == 0 ? 0 : static_cast<int>(ExitStatus::Usage);
-    }
-
     // What the engines note for the window's log, and what Qt and its plug-ins remark on, is no business of a script;
-    // failures are told by the commands themselves.
-    QLoggingCategory::setFilterRules(QStringLiteral("*.info=false\n*.warning=false"));
-    const Command *command = commandNamed(argv[1]);
+    // the commands themselves say what failed.
+    QLoggingCategory::setFilterRules(u"*.info=false\n*.warning=false"_s);
+    const QStringList words = withCommandFirst(wordsOf(argc, argv));
+    const Command *command = words.isEmpty() ? nullptr : commandNamed(words.first());
     const auto application = makeApplication(argc, argv, command != nullptr && command->drawsText);
-    QCoreApplication::setApplicationName(QStringLiteral("lumora"));
+    QCoreApplication::setApplicationName(u"lumora"_s);
     QCoreApplication::setApplicationVersion(QLatin1StringView(versionText));
+    installCommandTexts();
+    const ExitStatus status = run(words);
+    std::fflush(stdout);
+    return static_cast<int>(status);
+}
 
-    Console console;
-    ExitStatus status = chosen(console);
-    console.endProgress();
-    if (!console.flush()) {
-        console.complain(QStringLiteral("standard output: could not be written; check where it goes"));
-        status = ExitStatus::Refused;
-    }
+int endWithComplaint(int argc, char **argv, ExitStatus status, const std::function<Complaint()> &complaint)
+{
+    const QCoreApplication application(argc, argv);
+    installCommandTexts();
+    Console().complain(complaint());
     return static_cast<int>(status);
 }
 

@@ -1,16 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "DevicesCommand.h"
 
-#include "Console.h"
+#include "Declaration.h"
 #include "devices/DeviceFilter.h"
 
-#include <CLI/Validators.hpp>
-
 #include <QJsonArray>
-#include <QJsonObject>
 
 #include <memory>
-#include <string>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -23,9 +19,8 @@ namespace
 
 struct DevicesArguments
 {
-    int ios = 0;
-    std::vector<std::string> features;
-    bool json = false;
+    QString ios;
+    QStringList features;
 };
 
 QString text(std::string_view view)
@@ -33,21 +28,21 @@ QString text(std::string_view view)
     return QString::fromUtf8(view.data(), static_cast<qsizetype>(view.size()));
 }
 
-std::vector<std::string> featureKeys()
+QStringList featureKeys()
 {
-    std::vector<std::string> keys;
+    QStringList keys;
     for (const DeviceFeature &feature : deviceFeatures)
-        keys.emplace_back(feature.key);
+        keys << text(feature.key);
     return keys;
 }
 
 FilterDictionary filterFrom(const DevicesArguments &arguments)
 {
     FilterDictionary filter;
-    if (arguments.ios > 0)
-        filter.setMaxIos(static_cast<float>(arguments.ios));
-    for (const std::string &key : arguments.features) {
-        if (const DeviceFeature *feature = deviceFeature(key))
+    if (!arguments.ios.isEmpty())
+        filter.setMaxIos(arguments.ios.toFloat());
+    for (const QString &key : arguments.features) {
+        if (const DeviceFeature *feature = deviceFeature(key.toStdString()))
             filter.setFeature(feature->key, true);
     }
     return filter;
@@ -92,33 +87,23 @@ ExitStatus runDevices(Console &console, const DevicesArguments &arguments)
 {
     DeviceLists devices = setupData();
     filterDevices(devices, filterFrom(arguments));
-    if (arguments.json) {
-        console.print(QJsonDocument(QJsonObject{{u"schema"_s, 1},
-                                                {u"iphones"_s, matchingJson(devices.iPhones)},
-                                                {u"ipods"_s, matchingJson(devices.iPods)},
-                                                {u"ipads"_s, matchingJson(devices.iPads)}}));
-        return ExitStatus::Done;
-    }
     console.print(groupLine(u"iPhone"_s, devices.iPhones));
     console.print(groupLine(u"iPod"_s, devices.iPods));
     console.print(groupLine(u"iPad"_s, devices.iPads));
-    return ExitStatus::Done;
+    return console.finish(ExitStatus::Done, {{u"iphones"_s, matchingJson(devices.iPhones)},
+                                             {u"ipods"_s, matchingJson(devices.iPods)},
+                                             {u"ipads"_s, matchingJson(devices.iPads)}});
 }
 
 } // namespace
 
-CommandBody declareDevicesCommand(CLI::App &subcommand)
+CommandBody declareDevicesCommand(Declaration &declaration)
 {
     const auto arguments = std::make_shared<DevicesArguments>();
-    subcommand.description("List the iPhones, iPods and iPads that can run an app");
-    subcommand.add_option("--ios", arguments->ios, "Oldest iOS version the app runs on")
-        ->check(CLI::IsMember({4, 5, 6, 7}));
-    subcommand.add_option("--feature", arguments->features, "Feature the app needs; may be given several times")
-        ->check(CLI::IsMember(featureKeys()))
-        ->type_name("KEY")
-        ->allow_extra_args(false);
-    subcommand.add_flag("--json", arguments->json,
-                        "Print the matching devices with all they can do as one JSON object");
+    declaration.option("--ios", &arguments->ios, "VERSION", "CLI_DEVICES_IOS").words({u"4"_s, u"5"_s, u"6"_s, u"7"_s});
+    declaration.option("--feature", &arguments->features, "KEY", "CLI_DEVICES_FEATURE").words(featureKeys()).list();
+    declaration.example("lumora devices --ios 7 --feature bluetooth_le");
+    declaration.example("lumora devices --feature gps,compass --json");
     return [arguments](Console &console) { return runDevices(console, *arguments); };
 }
 

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "CommandLine.h"
+#include "CommandTable.h"
 
 namespace lumora
 {
 
 /// `lumora devices`: the models that run an iOS version and have the wanted features.
-CommandBody declareDevicesCommand(CLI::App &subcommand);
+CommandBody declareDevicesCommand(Declaration &declaration);
 
 } // namespace lumora

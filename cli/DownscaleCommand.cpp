@@ -1,21 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "DownscaleCommand.h"
 
-#include "Console.h"
-#include "ExistingFolder.h"
-#include "FailureText.h"
-#include "resizer/DownscaleBatch.h"
+#include "CommandText.h"
+#include "Declaration.h"
+#include "Interruption.h"
+#include "OutputPlace.h"
 #include "resizer/DownscalePlan.h"
 
+#include <QDir>
 #include <QFileInfo>
-#include <QHash>
 #include <QJsonArray>
-#include <QJsonObject>
 
 #include <limits>
 #include <memory>
-#include <string>
-#include <vector>
 
 #include <cstdlib>
 #if defined(__GLIBC__)
@@ -32,18 +29,17 @@ namespace
 
 struct DownscaleArguments
 {
-    std::vector<std::string> sources;
-    std::string destination;
+    QStringList sources;
+    OutputPlace place;
     bool overwrite = false;
     bool dryRun = false;
-    bool json = false;
 };
 
-/// Prints results as they come, or gathers them for the JSON object; turns failures into lines and the exit status.
+/// Prints results as they come and gathers them for the JSON object; turns failures into lines and the exit status.
 class Report
 {
 public:
-    Report(Console &console, bool json) : m_console(console), m_json(json) {}
+    Report(Console &console, bool dryRun) : m_console(console), m_dryRun(dryRun) {}
 
     void add(const DownscaledFile &file)
     {
@@ -51,54 +47,53 @@ public:
             add(file.outcome.failure());
             return;
         }
-        if (!m_json) {
-            m_console.print(file.target);
-            return;
-        }
+        const bool exists = m_dryRun && QFileInfo::exists(file.target);
+        m_console.note(file.source);
+        m_console.print(exists ? file.target + u" ("_s + commandText("CLI_DRY_REPLACES") + u')' : file.target);
         QJsonObject entry{{u"source"_s, file.source},
                           {u"path"_s, file.target},
                           {u"width"_s, file.size.width()},
                           {u"height"_s, file.size.height()}};
         if (file.bytes > 0)
             entry.insert(u"bytes"_s, file.bytes);
+        if (exists)
+            entry.insert(u"exists"_s, true);
         m_files.append(entry);
     }
     void add(const Failure &failure)
     {
-        // Of all the formats that pictures come in, only one has a name that is taken here.
-        if (failure.code == FailureCode::NotAPicture)
-            m_console.complain(failureText(failure, "use an undamaged PNG file"_L1));
-        else
-            m_console.complain(failure);
+        if (m_dryRun && failure.code == FailureCode::Exists)
+            m_console.print(QString(failure.subject + u" ("_s + commandText("CLI_DRY_EXISTS") + u')'));
+        m_console.complain(worded(failure));
         m_status = ExitStatus::Refused;
     }
-    ExitStatus finish()
+    ExitStatus finish(qsizetype expected)
     {
         m_console.endProgress();
-        if (m_json)
-            m_console.print(QJsonDocument(QJsonObject{{u"schema"_s, 1}, {u"files"_s, m_files}}));
-        return m_status;
+        if (Interruption::isRequested() && m_files.size() < expected) {
+            m_console.complain(Interruption::complaint(m_files.size(), expected));
+            m_status = Interruption::status();
+        }
+        return m_console.finish(m_status, {{u"files"_s, m_files}});
     }
 
 private:
+    static Complaint worded(const Failure &failure)
+    {
+        // Of all the formats that pictures come in, only one has a name that is taken here.
+        if (failure.code == FailureCode::NotAPicture)
+            return complaintOf(failure, commandText("CLI_DOWNSCALE_FORMAT_ADVICE"));
+        Complaint complaint = complaintOf(failure);
+        if (failure.code == FailureCode::MissingContent)
+            complaint.message = commandText("CLI_NO_MARKED_PICTURE");
+        return complaint;
+    }
+
     Console &m_console;
-    const bool m_json;
+    const bool m_dryRun;
     QJsonArray m_files;
     ExitStatus m_status = ExitStatus::Done;
 };
-
-void warnOfSharedNames(Console &console, const QStringList &sources, const QString &destination)
-{
-    QHash<QString, QString> firstSource;
-    for (const QString &source : sources) {
-        const QString target = downscaledPath(source, destination);
-        if (firstSource.contains(target))
-            console.complain(
-                u"%1: replaces the half of %2, which has the same name; give them folders of their own"_s.arg(
-                    source, firstSource.value(target)));
-        firstSource.insert(target, source);
-    }
-}
 
 /// Every picture asks for several buffers as large as itself. Given back to the system between two pictures, their
 /// pages would have to be made anew each time, at a tenth of the whole run.
@@ -113,55 +108,57 @@ void keepFreedMemory()
 #endif
 }
 
+/// The destination: made by a run, only looked at by a dry one.
+Result<QString> destination(const DownscaleArguments &arguments)
+{
+    if (!arguments.dryRun)
+        return arguments.place.folder();
+    const QString &given = arguments.place.isExact() ? arguments.place.out : arguments.place.to;
+    const Result<QString> path = absolutePath(given);
+    if (path && QFileInfo::exists(path.value()) && !QFileInfo(path.value()).isDir())
+        return Failure{FailureCode::NotAFolder, given, {}};
+    return path;
+}
+
 ExitStatus runDownscale(Console &console, const DownscaleArguments &arguments)
 {
-    const Result<QString> folder = existingFolder(arguments.destination);
+    const Result<QString> folder = destination(arguments);
     if (!folder) {
         console.complain(folder.failure());
         return ExitStatus::Refused;
     }
-    const QString &destination = folder.value();
-    QStringList named;
-    for (const std::string &source : arguments.sources)
-        named << QString::fromStdString(source);
-    const DownscalePlan plan =
-        planDownscaling(named, destination, arguments.overwrite ? SourceReplacement::Allow : SourceReplacement::Refuse);
-
-    Report report(console, arguments.json);
+    const DownscalePlan plan = planDownscaling({arguments.sources, folder.value(),
+                                                arguments.overwrite ? FileReplacement::Allow : FileReplacement::Refuse,
+                                                arguments.place.isExact() ? TreeLayout::Kept : TreeLayout::Flat});
+    const Interruption interruption;
+    Report report(console, arguments.dryRun);
     for (const Failure &failure : plan.failures)
         report.add(failure);
-    warnOfSharedNames(console, plan.sources, destination);
     if (arguments.dryRun) {
-        for (const QString &source : plan.sources)
-            report.add(foreseenHalf(source, destination));
-        return report.finish();
+        for (const DownscaleJob &job : plan.jobs)
+            report.add(foreseenHalf(job));
+        return report.finish(plan.jobs.size());
     }
     keepFreedMemory();
-    createImagesFromDataPaths(plan.sources, destination, [&](qsizetype index, const DownscaledFile &file) {
+    downscale(plan.jobs, [&](qsizetype index, const DownscaledFile &file) {
         report.add(file);
-        console.progress(index + 1, plan.sources.size(), QFileInfo(file.target).fileName());
-        return true;
+        console.progress(index + 1, plan.jobs.size(), QFileInfo(file.target).fileName());
+        return !Interruption::isRequested();
     });
-    return report.finish();
+    return report.finish(plan.jobs.size());
 }
 
 } // namespace
 
-CommandBody declareDownscaleCommand(CLI::App &subcommand)
+CommandBody declareDownscaleCommand(Declaration &declaration)
 {
     const auto arguments = std::make_shared<DownscaleArguments>();
-    subcommand.description("Halve double-resolution PNG pictures");
-    subcommand
-        .add_option("SOURCE", arguments->sources,
-                    "PNG files marked @2x or -hd, or folders that are searched for such files")
-        ->type_name("FILE|FOLDER")
-        ->required();
-    subcommand.add_option("--to", arguments->destination, "Existing folder to write into")
-        ->type_name("DIR")
-        ->required();
-    subcommand.add_flag("--overwrite", arguments->overwrite, "Allow a result to replace one of the source files");
-    subcommand.add_flag("--dry-run", arguments->dryRun, "Print what would be written, write nothing");
-    subcommand.add_flag("--json", arguments->json, "Print the written files as one JSON object");
+    declaration.operand("SOURCE", &arguments->sources, "CLI_DOWNSCALE_SOURCE").required();
+    declaration.flag("--overwrite", &arguments->overwrite, "CLI_DOWNSCALE_OVERWRITE");
+    declaration.flag("--dry-run", &arguments->dryRun, "CLI_DOWNSCALE_DRY_RUN");
+    arguments->place.declareOn(declaration, "CLI_DOWNSCALE_TO");
+    declaration.example("lumora downscale art --out res --dry-run");
+    declaration.example("lumora downscale logo@2x.png --to res --overwrite");
     return [arguments](Console &console) { return runDownscale(console, *arguments); };
 }
 

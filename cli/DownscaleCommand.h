@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "CommandLine.h"
+#include "CommandTable.h"
 
 namespace lumora
 {
 
-/// `lumora downscale FILE|FOLDER... --to DIR`: halves double-resolution pictures, prints each written path.
-CommandBody declareDownscaleCommand(CLI::App &subcommand);
+/// `lumora downscale FILE|FOLDER... (--to DIR | --out DIR)`: halves double-resolution pictures, prints each written
+/// path.
+CommandBody declareDownscaleCommand(Declaration &declaration);
 
 } // namespace lumora

@@ -1,17 +1,23 @@
 // SPDX-License-Identifier: MIT
 #include "IconCommand.h"
 
-#include "ExistingFolder.h"
+#include "CommandText.h"
+#include "Declaration.h"
 #include "IconInput.h"
 #include "IconReport.h"
-#include "foundation/LeadingInteger.h"
+#include "Interruption.h"
 #include "icons/IconExport.h"
-#include "pictures/RoundedCorners.h"
+#include "pictures/PictureOperations.h"
+#include "pictures/png/PngEncoder.h"
 
-#include <CLI/Validators.hpp>
+#include <QFileInfo>
+#include <QJsonArray>
 
-#include <map>
 #include <memory>
+
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
 
 namespace lumora
 {
@@ -21,51 +27,115 @@ namespace
 
 struct IconCommandArguments : IconArguments
 {
-    std::string size;
-    CornerMode corners = CornerMode::None;
+    QList<int> sizes;
+    QString corners = u"none"_s;
+    QString file;
+
+    int cornerMode() const
+    {
+        const CornerMode mode = corners == u"ios6"   ? CornerMode::Ios6
+                                : corners == u"ios7" ? CornerMode::Ios7
+                                                     : CornerMode::None;
+        return static_cast<int>(mode);
+    }
+    bool isForStdout() const { return file == u"-"; }
 };
 
-ExitStatus refuse(Console &console, const Failure &failure)
+/// What the declaration alone cannot say about -o.
+std::optional<Complaint> misuseOfFile(const Console &console, const IconCommandArguments &arguments)
 {
-    console.complain(failure);
-    return ExitStatus::Refused;
+    if (arguments.file.isEmpty())
+        return {};
+    if (arguments.sizes.size() > 1)
+        return misuse("conflicting-options", commandText("CLI_ICON_ONE_FILE"), commandText("CLI_ICON_ONE_FILE_ADVICE"));
+    if (!arguments.isForStdout())
+        return {};
+    if (console.form().json)
+        return misuse("conflicting-options",
+                      commandText("CLI_CONFLICT", {{"[FIRST]", u"-o -"_s}, {"[SECOND]", u"--json"_s}}));
+    if (::isatty(STDOUT_FILENO) == 1)
+        return misuse("terminal", commandText("CLI_TERMINAL_OUTPUT"), commandText("CLI_TERMINAL_OUTPUT_ADVICE"));
+    return {};
 }
 
-ExitStatus runIcon(Console &console, const IconCommandArguments &arguments)
+ExitStatus writeToFile(Console &console, const IconCommandArguments &arguments, const QImage &source)
 {
-    const QString typed = QString::fromStdString(arguments.size);
-    const int size = leadingInteger(typed);
-    if (size < 1 || size > sourceIconSize) {
-        return refuse(console, {FailureCode::InvalidValue, QStringLiteral("--size ") + typed,
-                                QStringLiteral("a number from 1 to %1 is wanted").arg(sourceIconSize)});
+    const int size = arguments.sizes.constFirst();
+    if (arguments.isForStdout()) {
+        console.print(encodePng(resizeImage(source, size, arguments.cornerMode())));
+        return ExitStatus::Done;
     }
-    const Result<QString> destination = existingFolder(arguments.destination);
-    if (!destination)
-        return refuse(console, destination.failure());
+    const Result<QString> path = absolutePath(arguments.file);
+    if (!path) {
+        console.complain(path.failure());
+        return ExitStatus::Refused;
+    }
+    const IconFile file = writeCustomIcon(source, size, arguments.cornerMode(), path.value());
+    if (file.failure) {
+        console.complain(Failure{file.failure->code, arguments.file, file.failure->detail});
+        return ExitStatus::Refused;
+    }
+    console.print(path.value());
+    return console.finish(ExitStatus::Done,
+                          {{u"folder"_s, QFileInfo(file.path).path()},
+                           {u"files"_s, QJsonArray{QJsonObject{
+                                            {u"path"_s, file.path}, {u"size"_s, file.size}, {u"bytes"_s, file.bytes}}}},
+                           {u"icns"_s, QJsonValue()}});
+}
+
+ExitStatus writeToFolder(Console &console, const IconCommandArguments &arguments, const QImage &source)
+{
+    const Result<ExportFolder> folder = arguments.place.open(u"icons"_s);
+    if (!folder) {
+        console.complain(folder.failure());
+        return ExitStatus::Refused;
+    }
+    const Interruption interruption;
+    IconExport result;
+    result.folder = folder.value();
+    QString place = result.folder.path;
+    if (!arguments.place.isExact()) {
+        place += QLatin1StringView(customFolderSuffix);
+        if (const Outcome made = createFolder(place); !made)
+            result.folderFailure = made.failure();
+    }
+    for (const int size : arguments.sizes) {
+        result.isStopped = Interruption::isRequested();
+        if (result.folderFailure || result.isStopped)
+            break;
+        const QString path = place + customIconName(size, arguments.cornerMode());
+        result.files.append(writeCustomIcon(source, size, arguments.cornerMode(), path));
+    }
+    return reportIcons(console, result, arguments.sizes.size());
+}
+
+ExitStatus runIcon(Console &console, IconCommandArguments &arguments)
+{
+    if (const std::optional<Complaint> problem = misuseOfFile(console, arguments)) {
+        console.complain(*problem);
+        return ExitStatus::Usage;
+    }
     const Result<QImage> source = iconSource(arguments);
-    if (!source)
-        return refuse(console, source.failure());
-    const IconExport result =
-        generateCustomIcon({source.value(), destination.value(), size, static_cast<int>(arguments.corners)});
-    return reportIcons(console, result, arguments.json ? IconReportForm::Json : IconReportForm::Text);
+    if (!source) {
+        console.complain(source.failure());
+        return ExitStatus::Refused;
+    }
+    return arguments.file.isEmpty() ? writeToFolder(console, arguments, source.value())
+                                    : writeToFile(console, arguments, source.value());
 }
 
 } // namespace
 
-CommandBody declareIconCommand(CLI::App &subcommand)
+CommandBody declareIconCommand(Declaration &declaration)
 {
     const auto arguments = std::make_shared<IconCommandArguments>();
-    subcommand.description("Write one icon of a size of your own");
-    arguments->declareOn(subcommand);
-    subcommand.add_option("--size", arguments->size, "Edge length in pixels, 1 to 1024")
-        ->type_name("N")
-        ->allow_extra_args(false)
-        ->required();
-    const std::map<std::string, CornerMode> corners = {
-        {"none", CornerMode::None}, {"ios6", CornerMode::Ios6}, {"ios7", CornerMode::Ios7}};
-    subcommand.add_option("--corners", arguments->corners, "Rounded corners: none, ios6 or ios7")
-        ->transform(CLI::CheckedTransformer(corners).description(""))
-        ->type_name("STYLE");
+    arguments->declareOn(declaration, {u"--output"_s});
+    declaration.option("--output", &arguments->file, "FILE", "CLI_ICON_OUTPUT").letter(u'o').in(ArgumentGroup::Output);
+    declaration.option("--size", &arguments->sizes, "N", "CLI_ICON_SIZE").range(1, sourceIconSize).list().required();
+    declaration.option("--corners", &arguments->corners, "STYLE", "CLI_ICON_CORNERS")
+        .words({u"none"_s, u"ios6"_s, u"ios7"_s});
+    declaration.example("lumora icon logo.png --size 16,32,64 --out build");
+    declaration.example("lumora icon logo.png --size 180 --corners ios7 -o touch.png");
     return [arguments](Console &console) { return runIcon(console, *arguments); };
 }
 

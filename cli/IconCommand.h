@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "CommandLine.h"
+#include "CommandTable.h"
 
 namespace lumora
 {
 
-/// `lumora icon`: one icon of a custom size, with or without rounded corners.
-CommandBody declareIconCommand(CLI::App &subcommand);
+/// `lumora icon (SOURCE | --example) --size N[,N...] (--to DIR | --out DIR | -o FILE)`: icons of custom sizes, with or
+/// without rounded corners.
+CommandBody declareIconCommand(Declaration &declaration);
 
 } // namespace lumora

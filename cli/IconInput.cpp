@@ -1,40 +1,38 @@
 // SPDX-License-Identifier: MIT
 #include "IconInput.h"
 
+#include "CommandText.h"
+#include "Declaration.h"
 #include "foundation/WholeFile.h"
 #include "icons/IconSource.h"
 #include "pictures/PictureReader.h"
 
-#include <QFile>
-
 #include <unistd.h>
+
+using namespace Qt::StringLiterals;
 
 namespace lumora
 {
 
-void IconArguments::declareOn(CLI::App &subcommand)
+void IconArguments::declareOn(Declaration &declaration, const QStringList &otherPlaces)
 {
-    subcommand.add_option(
-        "source", source,
-        "Picture of 1024 x 1024 pixels (PNG, JPEG, TIFF, WebP, BMP, GIF, ICNS), - for standard input; "
-        "without one the built-in picture is used");
-    subcommand.add_option("--to", destination, "Existing folder that gets a fresh folder \"icons\"")
-        ->type_name("DIR")
-        ->required();
-    subcommand.add_flag("--json", json, "Print folder and files as one JSON object");
+    declaration.operand("SOURCE", &source, "CLI_ICONS_SOURCE");
+    declaration.flag("--example", &example, "CLI_EXAMPLE");
+    declaration.exactlyOne({u"SOURCE"_s, u"--example"_s});
+    place.declareOn(declaration, "CLI_ICONS_TO", otherPlaces);
 }
 
 Result<QImage> iconSource(const IconArguments &arguments)
 {
-    if (arguments.source.empty()) {
+    if (arguments.example) {
         const QImage picture = builtInIcon();
         if (picture.isNull())
-            return Failure{FailureCode::NotFound, QStringLiteral("the built-in picture"), {}};
+            return Failure{FailureCode::NotFound, u"--example"_s, {}};
         return picture;
     }
-    if (arguments.source != "-")
-        return readIconSource(QFile::decodeName(arguments.source.c_str()));
-    const QString name = QStringLiteral("standard input");
+    if (arguments.source != u"-")
+        return readIconSource(arguments.source);
+    const QString name = commandText("CLI_STANDARD_INPUT");
     const Result<QByteArray> bytes = readWholeDescriptor(STDIN_FILENO, name, largestPictureFile);
     if (!bytes)
         return bytes.failure();

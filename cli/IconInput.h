@@ -1,29 +1,28 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "OutputPlace.h"
 #include "foundation/Result.h"
-
-#include <CLI/App.hpp>
 
 #include <QImage>
 #include <QString>
 
-#include <string>
-
 namespace lumora
 {
+
+class Declaration;
 
 /// The arguments that both icon commands take.
 struct IconArguments
 {
-    std::string source;
-    std::string destination;
-    bool json = false;
+    QString source;
+    bool example = false;
+    OutputPlace place;
 
-    void declareOn(CLI::App &subcommand);
+    void declareOn(Declaration &declaration, const QStringList &otherPlaces = {});
 };
 
-/// The picture to make icons from: the named file, standard input for "-", the built-in one where none is named.
+/// The picture to make icons from: the named file, standard input for "-", the built-in one for --example.
 Result<QImage> iconSource(const IconArguments &arguments);
 
 } // namespace lumora

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "IconReport.h"
 
+#include "CommandText.h"
+#include "Interruption.h"
 #include "icons/IconExport.h"
 
 #include <QDir>
 #include <QJsonArray>
-#include <QJsonObject>
 
 using namespace Qt::StringLiterals;
 
@@ -15,16 +16,14 @@ namespace lumora
 namespace
 {
 
-QJsonObject resultJson(const IconExport &result)
+QJsonArray writtenFiles(const IconExport &result)
 {
     QJsonArray files;
     for (const IconFile &file : result.files) {
         if (!file.failure)
             files.append(QJsonObject{{u"path"_s, file.path}, {u"size"_s, file.size}, {u"bytes"_s, file.bytes}});
     }
-    return {{u"folder"_s, result.folder.path},
-            {u"files"_s, files},
-            {u"icns"_s, result.icns.isEmpty() ? QJsonValue() : QJsonValue(result.icns)}};
+    return files;
 }
 
 /// The files that are not there, by their paths inside the export folder.
@@ -41,24 +40,39 @@ QStringList missingFiles(const IconExport &result)
     return missing;
 }
 
-} // namespace
-
-ExitStatus reportIcons(Console &console, const IconExport &result, IconReportForm form)
+void complainOfFailures(Console &console, const IconExport &result)
 {
-    if (result.folderFailure) {
-        console.complain(*result.folderFailure);
-        return ExitStatus::Refused;
-    }
-    if (form == IconReportForm::Json)
-        console.print(QJsonDocument(resultJson(result)));
-    else
-        console.print(result.folder.path);
     const QList<Failure> failures = result.failures();
     if (failures.isEmpty())
-        return ExitStatus::Done;
+        return;
     console.complain(failures.first());
-    console.complain(u"missing in %1: %2"_s.arg(result.folder.path, missingFiles(result).join(u", "_s)));
-    return ExitStatus::Refused;
+    const QString missing = commandText(
+        "CLI_MISSING_FILES", {{"[FOLDER]", result.folder.path}, {"[FILES]", missingFiles(result).join(u", "_s)}});
+    console.complain(Complaint{Complaint::Kind::Failure, u"missing-files"_s, {}, missing, {}});
+}
+
+} // namespace
+
+ExitStatus reportIcons(Console &console, const IconExport &result, qsizetype expected)
+{
+    console.endProgress();
+    if (result.folderFailure) {
+        console.complain(*result.folderFailure);
+        return console.finish(ExitStatus::Refused);
+    }
+    const QJsonArray files = writtenFiles(result);
+    for (const QJsonValue &file : files)
+        console.note(file[u"path"].toString());
+    console.print(result.folder.path);
+    complainOfFailures(console, result);
+    ExitStatus status = result.failures().isEmpty() ? ExitStatus::Done : ExitStatus::Refused;
+    if (result.isStopped) {
+        console.complain(Interruption::complaint(files.size(), expected));
+        status = Interruption::status();
+    }
+    return console.finish(status, {{u"folder"_s, result.folder.path},
+                                   {u"files"_s, files},
+                                   {u"icns"_s, result.icns.isEmpty() ? QJsonValue() : QJsonValue(result.icns)}});
 }
 
 } // namespace lumora

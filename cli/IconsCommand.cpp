@@ -1,18 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "IconsCommand.h"
 
-#include "ExistingFolder.h"
+#include "Declaration.h"
 #include "IconInput.h"
 #include "IconReport.h"
+#include "Interruption.h"
 #include "KeptMemory.h"
 #include "icons/IconExport.h"
-
-#include <CLI/Validators.hpp>
 
 #include <QFileInfo>
 
 #include <memory>
-#include <vector>
+
+using namespace Qt::StringLiterals;
 
 namespace lumora
 {
@@ -20,52 +20,58 @@ namespace lumora
 namespace
 {
 
-constexpr char allPlatforms[] = "all";
+const QString allPlatforms = u"all"_s;
 
 struct IconsArguments : IconArguments
 {
-    std::vector<std::string> platforms;
+    QStringList platforms;
 };
 
-std::vector<std::string> platformNames()
+QStringList platformNames()
 {
-    std::vector<std::string> names;
+    QStringList names;
     for (const PlatformIcons &platform : iconPlatforms)
-        names.emplace_back(platform.commandName);
-    names.emplace_back(allPlatforms);
-    return names;
+        names << QString::fromLatin1(platform.commandName);
+    return names << allPlatforms;
 }
 
-QList<IconPlatform> chosenPlatforms(const std::vector<std::string> &names)
+QList<IconPlatform> chosenPlatforms(const QStringList &names)
 {
     QList<IconPlatform> chosen;
     for (const PlatformIcons &platform : iconPlatforms) {
-        for (const std::string &name : names) {
-            if (name == allPlatforms || name == platform.commandName) {
-                chosen << platform.platform;
-                break;
-            }
-        }
+        if (names.contains(allPlatforms) || names.contains(QLatin1StringView(platform.commandName)))
+            chosen << platform.platform;
     }
     return chosen;
+}
+
+qsizetype fileCount(const QList<IconPlatform> &platforms)
+{
+    qsizetype count = 0;
+    for (const PlatformIcons &platform : iconPlatforms) {
+        if (platforms.contains(platform.platform))
+            count += std::ssize(platform.icons);
+    }
+    return count;
 }
 
 ExitStatus runIcons(Console &console, const IconsArguments &arguments)
 {
     keepFreedMemory();
-    const Result<QString> destination = existingFolder(arguments.destination);
-    if (!destination) {
-        console.complain(destination.failure());
-        return ExitStatus::Refused;
-    }
     const Result<QImage> source = iconSource(arguments);
     if (!source) {
         console.complain(source.failure());
         return ExitStatus::Refused;
     }
+    const Result<ExportFolder> folder = arguments.place.open(u"icons"_s);
+    if (!folder) {
+        console.complain(folder.failure());
+        return ExitStatus::Refused;
+    }
+    const Interruption interruption;
     PlatformIconsRequest request;
     request.icon = source.value();
-    request.savePath = destination.value();
+    request.folder = folder.value();
     request.expected = chosenPlatforms(arguments.platforms);
     request.isChosen = [&request](const PlatformIcons &platform) {
         return request.expected.contains(platform.platform);
@@ -73,24 +79,22 @@ ExitStatus runIcons(Console &console, const IconsArguments &arguments)
     request.progress = [&console](const IconProgress &progress) {
         console.progress(progress.file, progress.count, QFileInfo(progress.path).fileName());
     };
-    const IconExport result = generatePlatformIcons(request);
-    console.endProgress();
-    return reportIcons(console, result, arguments.json ? IconReportForm::Json : IconReportForm::Text);
+    request.isStopped = &Interruption::isRequested;
+    return reportIcons(console, generatePlatformIcons(request), fileCount(request.expected));
 }
 
 } // namespace
 
-CommandBody declareIconsCommand(CLI::App &subcommand)
+CommandBody declareIconsCommand(Declaration &declaration)
 {
     const auto arguments = std::make_shared<IconsArguments>();
-    subcommand.description("Write every icon of whole platforms from one picture");
-    arguments->declareOn(subcommand);
-    subcommand.add_option("--platform", arguments->platforms, "Platforms, separated by commas")
-        ->delimiter(',')
-        ->check(CLI::IsMember(platformNames()))
-        ->type_name("LIST")
-        ->allow_extra_args(false)
-        ->required();
+    arguments->declareOn(declaration);
+    declaration.option("--platform", &arguments->platforms, "LIST", "CLI_ICONS_PLATFORM")
+        .words(platformNames())
+        .list()
+        .required();
+    declaration.example("lumora icons logo.png --platform iphone,ipad --to build");
+    declaration.example("lumora icons logo.png --platform all --out build/icons --json");
     return [arguments](Console &console) { return runIcons(console, *arguments); };
 }
 

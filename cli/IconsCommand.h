@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "CommandLine.h"
+#include "CommandTable.h"
 
 namespace lumora
 {
 
-/// `lumora icons`: the icon sets of whole platforms from one picture.
-CommandBody declareIconsCommand(CLI::App &subcommand);
+/// `lumora icons (SOURCE | --example) --platform LIST (--to DIR | --out DIR)`: the icon sets of whole platforms from
+/// one picture.
+CommandBody declareIconsCommand(Declaration &declaration);
 
 } // namespace lumora

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "PackageReportText.h"
 
-#include "FailureText.h"
+#include "Complaint.h"
 #include "foundation/PrintableText.h"
 #include "validator/bundle/MetadataChecks.h"
 
@@ -15,7 +15,6 @@ namespace lumora
 namespace
 {
 
-constexpr int schema = 1;
 constexpr int labelWidth = 18;
 
 QStringList sizeTexts(const QList<int> &edges)
@@ -82,7 +81,6 @@ QJsonObject reportJson(const QString &file, const PackageReport &report)
     };
     const auto facebookAppID = facts.appFacebookID();
     return {
-        {u"schema"_s, schema},
         {u"file"_s, file},
         {u"name"_s, facts.appName()},
         {u"version"_s, facts.appVersion()},
@@ -97,9 +95,9 @@ QJsonObject reportJson(const QString &file, const PackageReport &report)
     };
 }
 
-QJsonObject failureJson(const QString &file, const Failure &failure)
+QJsonObject failureJson(const QString &file, const Complaint &complaint)
 {
-    return {{u"schema"_s, schema}, {u"file"_s, file}, {u"error"_s, failureText(failure)}};
+    return {{u"file"_s, file}, {u"error"_s, complaint.line()}};
 }
 
 QStringList reportLines(const QString &file, const PackageReport &report)

@@ -1,22 +1,21 @@
 // SPDX-License-Identifier: MIT
 #include "PlaceholdersCommand.h"
 
-#include "Console.h"
-#include "ExistingFolder.h"
+#include "CommandText.h"
+#include "Declaration.h"
+#include "Interruption.h"
+#include "OutputPlace.h"
+#include "TypedNumber.h"
 #include "placeholders/LabelFont.h"
 #include "placeholders/PlaceholderExport.h"
 #include "placeholders/PlaceholderSizes.h"
-#include "placeholders/TypedSize.h"
 
-#include <CLI/Validators.hpp>
-
+#include <QFileInfo>
 #include <QJsonArray>
-#include <QJsonObject>
 
 #include <algorithm>
 #include <memory>
 #include <optional>
-#include <string>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -29,32 +28,45 @@ namespace
 
 struct PlaceholdersArguments
 {
-    std::string set;
-    std::vector<std::string> sizes;
-    std::string destination;
-    bool json = false;
+    QString set;
+    QStringList sizes;
+    OutputPlace place;
 };
 
-/// The sizes asked for, each once; none after a complaint.
-std::optional<std::vector<QSize>> wantedSizes(Console &console, const PlaceholdersArguments &arguments)
+/// What is wrong with a size: a text that is none is a wrong call, one out of range is refused.
+std::optional<Complaint> problemWith(const QString &text, const TypedSize &size)
 {
-    if (!arguments.set.empty()) {
-        const auto set = placeholderSizes(arguments.set == "ios" ? PlaceholderSet::Ios : PlaceholderSet::Mac);
+    if (size.isSize && isPlaceholderEdge(size.value.width()) && isPlaceholderEdge(size.value.height()))
+        return {};
+    Complaint complaint =
+        misuse("bad-value", commandText("CLI_WRONG_SIZE_TEXT", {{"[LEAST]", QString::number(shortestPlaceholderEdge)},
+                                                                {"[MOST]", QString::number(longestPlaceholderEdge)}}));
+    complaint.path = u"--size "_s + text;
+    if (size.isSize) {
+        complaint.kind = Complaint::Kind::Failure;
+        complaint.code = u"out-of-range"_s;
+    }
+    return complaint;
+}
+
+/// The sizes asked for, each once; none after a complaint.
+std::optional<std::vector<QSize>> wantedSizes(Console &console, const PlaceholdersArguments &arguments,
+                                              ExitStatus &status)
+{
+    if (!arguments.set.isEmpty()) {
+        const auto set = placeholderSizes(arguments.set == u"ios" ? PlaceholderSet::Ios : PlaceholderSet::Mac);
         return std::vector<QSize>(set.begin(), set.end());
     }
     std::vector<QSize> sizes;
-    for (const std::string &argument : arguments.sizes) {
-        const QString text = QString::fromStdString(argument);
-        const std::optional<QSize> size = typedPlaceholderSize(text);
-        if (!size) {
-            console.complain(
-                u"--size %1: is no size; give width x height, each from %2 to %3, such as 1136x640"_s.arg(text)
-                    .arg(shortestPlaceholderEdge)
-                    .arg(longestPlaceholderEdge));
+    for (const QString &text : arguments.sizes) {
+        const TypedSize size = typedSize(text);
+        if (const std::optional<Complaint> problem = problemWith(text, size)) {
+            console.complain(*problem);
+            status = problem->kind == Complaint::Kind::Misuse ? ExitStatus::Usage : ExitStatus::Refused;
             return std::nullopt;
         }
-        if (std::find(sizes.begin(), sizes.end(), *size) == sizes.end())
-            sizes.push_back(*size);
+        if (std::find(sizes.begin(), sizes.end(), size.value) == sizes.end())
+            sizes.push_back(size.value);
     }
     return sizes;
 }
@@ -67,69 +79,63 @@ QJsonObject fileJson(const PlaceholderFile &file)
             {u"bytes"_s, file.bytes}};
 }
 
-ExitStatus report(Console &console, const PlaceholderRun &run, bool json)
+ExitStatus report(Console &console, const PlaceholderRun &run, qsizetype expected)
 {
-    if (run.folderFailure) {
-        console.complain(*run.folderFailure);
-        return ExitStatus::Refused;
-    }
     ExitStatus status = ExitStatus::Done;
     QJsonArray files;
     for (const PlaceholderFile &file : run.files) {
         if (file.outcome) {
             files.append(fileJson(file));
+            console.note(file.path);
         } else {
             console.complain(file.outcome.failure());
             status = ExitStatus::Refused;
         }
     }
-    if (json)
-        console.print(
-            QJsonDocument(QJsonObject{{u"schema"_s, 1}, {u"folder"_s, run.folder.path}, {u"files"_s, files}}));
-    else
-        console.print(run.folder.path);
-    return status;
+    if (Interruption::isRequested() && std::ssize(run.files) < expected) {
+        console.complain(Interruption::complaint(files.size(), expected));
+        status = Interruption::status();
+    }
+    console.print(run.folder.path);
+    return console.finish(status, {{u"folder"_s, run.folder.path}, {u"files"_s, files}});
 }
 
 ExitStatus runPlaceholders(Console &console, const PlaceholdersArguments &arguments)
 {
-    const std::optional<std::vector<QSize>> sizes = wantedSizes(console, arguments);
+    ExitStatus status = ExitStatus::Refused;
+    const std::optional<std::vector<QSize>> sizes = wantedSizes(console, arguments, status);
     if (!sizes)
-        return ExitStatus::Refused;
-    const Result<QString> destination = existingFolder(arguments.destination);
-    if (!destination) {
-        console.complain(destination.failure());
+        return status;
+    const Result<ExportFolder> folder = arguments.place.open(u"placeholders"_s);
+    if (!folder) {
+        console.complain(folder.failure());
         return ExitStatus::Refused;
     }
+    const Interruption interruption;
     const LabelFont font;
     std::vector<Placeholder> pictures;
     for (const QSize size : *sizes)
         pictures.push_back(placeholderWithSize(size, font));
     const auto written = [&console](qsizetype done, qsizetype total) {
         console.progress(done, total, u"placeholders"_s);
+        return !Interruption::isRequested();
     };
-    const PlaceholderRun run = savePlaceholders(pictures, destination.value(), written);
+    const PlaceholderRun run = savePlaceholders(pictures, folder.value(), written);
     console.endProgress();
-    return report(console, run, arguments.json);
+    return report(console, run, std::ssize(pictures));
 }
 
 } // namespace
 
-CommandBody declarePlaceholdersCommand(CLI::App &subcommand)
+CommandBody declarePlaceholdersCommand(Declaration &declaration)
 {
     const auto arguments = std::make_shared<PlaceholdersArguments>();
-    subcommand.description("Write grey pictures labelled with their size");
-    CLI::Option_group *what = subcommand.add_option_group("What to write");
-    what->add_option("--set", arguments->set, "The screen sizes of iOS devices or of the Mac")
-        ->check(CLI::IsMember({"ios", "mac"}));
-    what->add_option("--size", arguments->sizes, "A width and height from 1 to 9999 pixels; may be given several times")
-        ->type_name("WxH")
-        ->allow_extra_args(false);
-    what->require_option(1);
-    subcommand.add_option("--to", arguments->destination, "Existing folder that gets a fresh folder \"placeholders\"")
-        ->type_name("DIR")
-        ->required();
-    subcommand.add_flag("--json", arguments->json, "Print folder and files as one JSON object");
+    declaration.option("--set", &arguments->set, "NAME", "CLI_PLACEHOLDERS_SET").words({u"ios"_s, u"mac"_s});
+    declaration.option("--size", &arguments->sizes, "WxH", "CLI_PLACEHOLDERS_SIZE").list();
+    declaration.exactlyOne({u"--set"_s, u"--size"_s});
+    arguments->place.declareOn(declaration, "CLI_PLACEHOLDERS_TO");
+    declaration.example("lumora placeholders --set ios --to build");
+    declaration.example("lumora placeholders --size 1136x640,64x64 --out build/placeholders");
     return [arguments](Console &console) { return runPlaceholders(console, *arguments); };
 }
 

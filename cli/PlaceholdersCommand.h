@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "CommandLine.h"
+#include "CommandTable.h"
 
 namespace lumora
 {
 
-/// `lumora placeholders (--set ios|mac | --size WxH ...) --to DIR`: writes placeholder pictures into a fresh folder.
-CommandBody declarePlaceholdersCommand(CLI::App &subcommand);
+/// `lumora placeholders (--set ios|mac | --size WxH) (--to DIR | --out DIR)`: writes placeholder pictures.
+CommandBody declarePlaceholdersCommand(Declaration &declaration);
 
 } // namespace lumora

@@ -1,21 +1,25 @@
 // SPDX-License-Identifier: MIT
 #include "ValidateCommand.h"
 
-#include "Console.h"
+#include "CommandText.h"
+#include "Declaration.h"
+#include "Interruption.h"
 #include "PackageReportText.h"
+#include "SpooledInput.h"
 #include "pictures/PictureOperations.h"
+#include "pictures/png/PngEncoder.h"
 #include "validator/archive/OpenPackage.h"
+#include "validator/bundle/WorkFolder.h"
 
-#include <CLI/Validators.hpp>
-
-#include <QFile>
 #include <QJsonArray>
+#include <QJsonDocument>
 
 #include <algorithm>
 #include <memory>
-#include <optional>
-#include <string>
+#include <variant>
 #include <vector>
+
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -27,37 +31,87 @@ namespace
 
 struct ValidateArguments
 {
-    std::vector<std::string> files;
-    std::string icon;
-    bool json = false;
+    QStringList files;
+    QString icon;
 };
 
-Result<PackageReport> inspected(const QString &file, const ProfileDecoder &decoder)
+/// A package by the name that messages and results use. "-" is standard input.
+struct GivenPackage
 {
-    const auto source = openPackage(file);
+    QString name;
+    bool isStdin = false;
+};
+
+GivenPackage givenPackage(const QString &argument)
+{
+    if (argument == u"-")
+        return {commandText("CLI_STANDARD_INPUT"), true};
+    return {argument, false};
+}
+
+/// Standard input as a file that can be read back and forth.
+class SpooledPackage
+{
+public:
+    Result<std::unique_ptr<PackageSource>> open(const QString &name)
+    {
+        auto folder = WorkFolder::make();
+        if (!folder)
+            return folder.failure();
+        m_folder = std::move(folder.value());
+        const QString path = m_folder->path() + u"/input.ipa"_s;
+        const Outcome spooled = spoolDescriptor(STDIN_FILENO, name, path, largestSpooledPackage);
+        if (!spooled)
+            return spooled.failure();
+        return openPackage(path);
+    }
+
+private:
+    std::unique_ptr<WorkFolder> m_folder;
+};
+
+Complaint wordedFailure(const GivenPackage &file, const Failure &failure)
+{
+    if (!file.isStdin && failure.code == FailureCode::NotAnArchive && !hasPackageName(file.name))
+        return {Complaint::Kind::Failure, u"wrong-name"_s, file.name, commandText("CLI_NOT_NAMED_IPA"),
+                commandText("CLI_NOT_NAMED_IPA_ADVICE")};
+    return complaintOf(Failure{failure.code, file.name, failure.detail});
+}
+
+std::variant<PackageReport, Complaint> inspected(const GivenPackage &file, const ProfileDecoder &decoder)
+{
+    SpooledPackage spooled;
+    const auto source = file.isStdin ? spooled.open(file.name) : openPackage(file.name);
     if (!source)
-        return source.failure();
+        return wordedFailure(file, source.failure());
     const WholeReading reading = source.value()->readAll([](const PackageEntry &) { return nullptr; });
     PackageReport report = inspectPackage(*source.value(), reading, decoder);
     const Outcome outcome = reportOutcome(report);
     if (!outcome)
-        return outcome.failure();
+        return wordedFailure(file, outcome.failure());
     return report;
 }
 
 void complainOfDamage(Console &console, const QString &file, const PackageReport &report)
 {
     for (const QString &entry : report.extraction.damagedEntries)
-        console.complain(file + u": "_s + entry + u" is damaged or encrypted; pack the app again"_s);
+        console.complain(Complaint{Complaint::Kind::Failure, u"damaged-entry"_s, file,
+                                   commandText("CLI_DAMAGED_ENTRY", {{"[ENTRY]", entry}}),
+                                   commandText("CLI_DAMAGED_ENTRY_ADVICE")});
     if (!report.facts.appInfoPlist)
-        console.complain(file + u": has no readable Info.plist, so nothing is known of the app"_s);
+        console.complain(
+            Complaint{Complaint::Kind::Failure, u"no-info-plist"_s, file, commandText("CLI_NO_INFO_PLIST"), {}});
 }
 
 bool writeIcon(Console &console, const QString &file, const PackageReport &report, const QString &path)
 {
     if (report.artwork.appIcon.isNull()) {
-        console.complain(file + u": has no icon that can be shown, so none was written"_s);
+        console.complain(Complaint{Complaint::Kind::Failure, u"no-icon"_s, file, commandText("CLI_NO_ICON"), {}});
         return false;
+    }
+    if (path == u"-") {
+        console.print(encodePng(report.artwork.appIcon));
+        return true;
     }
     const Outcome saved = saveImage(report.artwork.appIcon, BitmapType::Png, path);
     if (!saved)
@@ -65,64 +119,108 @@ bool writeIcon(Console &console, const QString &file, const PackageReport &repor
     return saved.ok();
 }
 
-ExitStatus validateOne(Console &console, const QString &file, const std::optional<QString> &icon, bool json,
-                       const ProfileDecoder &decoder, QJsonArray &objects)
+/// The files one after another, with what all of them share.
+class Validation
 {
-    const auto report = inspected(file, decoder);
-    if (!report) {
-        console.complain(report.failure());
-        if (json)
-            objects += failureJson(file, report.failure());
-        return ExitStatus::Unreadable;
+public:
+    Validation(Console &console, const ValidateArguments &arguments) : m_console(console), m_icon(arguments.icon)
+    {
+        for (const QString &file : arguments.files)
+            m_files.push_back(givenPackage(file));
     }
-    complainOfDamage(console, file, report.value());
-    if (json) {
-        objects += reportJson(file, report.value());
-    } else {
-        for (const QString &line : reportLines(file, report.value()))
-            console.print(line);
+
+    ExitStatus run()
+    {
+        const Interruption interruption;
+        for (const GivenPackage &file : m_files) {
+            if (Interruption::isRequested())
+                break;
+            m_console.note(file.name);
+            // "Could not be read" outranks "something is invalid", which outranks "all is well".
+            m_status = std::max(m_status, validate(file));
+        }
+        if (m_done < std::ssize(m_files)) {
+            m_console.complain(Interruption::complaint(m_done, std::ssize(m_files)));
+            m_status = Interruption::status();
+        }
+        return finish();
     }
-    const bool iconWritten = !icon || writeIcon(console, file, report.value(), *icon);
-    return allJudgedValid(report.value()) && iconWritten ? ExitStatus::Done : ExitStatus::Refused;
+
+private:
+    ExitStatus validate(const GivenPackage &file)
+    {
+        if (m_done++ > 0)
+            m_console.print(QString());
+        const auto result = inspected(file, m_decoder);
+        if (const auto *complaint = std::get_if<Complaint>(&result)) {
+            m_console.complain(*complaint);
+            m_objects.append(m_console.object(ExitStatus::Unreadable, failureJson(file.name, *complaint)));
+            return ExitStatus::Unreadable;
+        }
+        const PackageReport &report = std::get<PackageReport>(result);
+        complainOfDamage(m_console, file.name, report);
+        for (const QString &line : reportLines(file.name, report))
+            m_console.print(line);
+        const bool isIconWritten = m_icon.isEmpty() || writeIcon(m_console, file.name, report, m_icon);
+        const ExitStatus status = allJudgedValid(report) && isIconWritten ? ExitStatus::Done : ExitStatus::Refused;
+        m_objects.append(m_console.object(status, reportJson(file.name, report)));
+        return status;
+    }
+
+    /// One object for one file, an array for several.
+    ExitStatus finish()
+    {
+        if (m_console.form().json && m_files.size() == 1 && !m_objects.isEmpty())
+            m_console.print(QJsonDocument(m_objects.first().toObject()));
+        else if (m_console.form().json && m_files.size() > 1)
+            m_console.print(QJsonDocument(m_objects));
+        return m_console.finish(m_status);
+    }
+
+    Console &m_console;
+    const QString m_icon;
+    std::vector<GivenPackage> m_files;
+    const CmsProfileDecoder m_decoder;
+    QJsonArray m_objects;
+    qsizetype m_done = 0;
+    ExitStatus m_status = ExitStatus::Done;
+};
+
+std::optional<Complaint> misuseOf(const Console &console, const ValidateArguments &arguments)
+{
+    if (!arguments.icon.isEmpty() && arguments.files.size() > 1)
+        return misuse("conflicting-options", commandText("CLI_VALIDATE_ONE_ICON"));
+    if (arguments.icon == u"-" && console.form().json)
+        return misuse("conflicting-options",
+                      commandText("CLI_CONFLICT", {{"[FIRST]", u"--icon -"_s}, {"[SECOND]", u"--json"_s}}));
+    if (arguments.icon == u"-" && ::isatty(STDOUT_FILENO) == 1)
+        return misuse("terminal", commandText("CLI_TERMINAL_OUTPUT"), commandText("CLI_TERMINAL_OUTPUT_ADVICE"));
+    if (arguments.files.count(u"-"_s) > 1)
+        return misuse("given-twice", commandText("CLI_GIVEN_TWICE", {{"[OPTION]", u"-"_s}}));
+    return {};
 }
 
 ExitStatus runValidate(Console &console, const ValidateArguments &arguments)
 {
-    if (!arguments.icon.empty() && arguments.files.size() > 1) {
-        console.complain(u"--icon: writes the icon of one file, but several are given"_s);
+    if (const std::optional<Complaint> problem = misuseOf(console, arguments)) {
+        console.complain(*problem);
         return ExitStatus::Usage;
     }
-    QStringList files;
-    for (const std::string &file : arguments.files)
-        files += QFile::decodeName(file.c_str());
-    const auto icon = arguments.icon.empty() ? std::nullopt : std::optional(QFile::decodeName(arguments.icon.c_str()));
-    const CmsProfileDecoder decoder;
-    ExitStatus status = ExitStatus::Done;
-    QJsonArray objects;
-    for (qsizetype i = 0; i < files.size(); ++i) {
-        if (i > 0 && !arguments.json)
-            console.print(QString());
-        const ExitStatus one = validateOne(console, files[i], icon, arguments.json, decoder, objects);
-        // "Could not be read" outranks "something is invalid", which outranks "all is well".
-        status = std::max(status, one);
-    }
-    if (arguments.json)
-        console.print(files.size() == 1 ? QJsonDocument(objects.first().toObject()) : QJsonDocument(objects));
-    return status;
+    if (arguments.icon == u"-")
+        console.keepStdoutForAFile();
+    return Validation(console, arguments).run();
 }
 
 } // namespace
 
-CommandBody declareValidateCommand(CLI::App &subcommand)
+CommandBody declareValidateCommand(Declaration &declaration)
 {
     const auto arguments = std::make_shared<ValidateArguments>();
-    subcommand.description(
-        "Read iOS app packages, print their facts and check their icons, launch images, bundle "
-        "identifier and localizations.\nExit status: 0 all checks valid, 1 at least one invalid, 3 a "
-        "file is no archive with an app.");
-    subcommand.add_option("files", arguments->files, "App packages")->required()->type_name("FILE.ipa...");
-    subcommand.add_flag("--json", arguments->json, "Print one JSON object, or an array of them for several files");
-    subcommand.add_option("--icon", arguments->icon, "Write the app's icon, 128 pixels square")->type_name("OUT.png");
+    declaration.operand("FILE", &arguments->files, "CLI_VALIDATE_FILE").required();
+    declaration.option("--icon", &arguments->icon, "OUT.png", "CLI_VALIDATE_ICON").in(ArgumentGroup::Output);
+    declaration.explain("CLI_VALIDATE_STATUS");
+    declaration.example("lumora validate App.ipa");
+    declaration.example("lumora validate App.ipa --icon icon.png --json");
     return [arguments](Console &console) { return runValidate(console, *arguments); };
 }
 

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "CommandLine.h"
+#include "CommandTable.h"
 
 namespace lumora
 {
 
 /// `lumora validate`: the facts of app packages and what is wrong with them.
-CommandBody declareValidateCommand(CLI::App &subcommand);
+CommandBody declareValidateCommand(Declaration &declaration);
 
 } // namespace lumora

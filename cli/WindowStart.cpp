@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "WindowStart.h"
 
-#include "Console.h"
+#include "CommandLine.h"
+#include "CommandText.h"
 
 #include <cerrno>
-#include <cstdio>
-#include <cstring>
 #include <filesystem>
 #include <system_error>
 
@@ -14,7 +13,7 @@
 namespace lumora
 {
 
-int startWindow(char **argv)
+int startWindow(int argc, char **argv)
 {
     std::error_code error;
     const std::filesystem::path folder = std::filesystem::read_symlink("/proc/self/exe", error).parent_path();
@@ -22,14 +21,23 @@ int startWindow(char **argv)
     for (const char *place : {"lumora-window", LUMORA_WINDOW_FROM_BINDIR}) {
         execv((folder / place).c_str(), argv);
         if (errno != ENOENT && errno != ENOTDIR) {
-            std::fprintf(stderr, "lumora: the window could not be started: %s\n", std::strerror(errno));
-            return static_cast<int>(ExitStatus::Refused);
+            const QString reason = qt_error_string(errno);
+            return endWithComplaint(argc, argv, ExitStatus::Refused, [&reason] {
+                return Complaint{Complaint::Kind::Failure,
+                                 QStringLiteral("no-window"),
+                                 {},
+                                 commandText("CLI_WINDOW_FAILED", {{"[REASON]", reason}}),
+                                 {}};
+            });
         }
     }
-    std::fputs("lumora: the window is not installed; install the package \"lumora\", or see \"lumora --help\" for the"
-               " commands, which work without it\n",
-               stderr);
-    return static_cast<int>(ExitStatus::Refused);
+    return endWithComplaint(argc, argv, ExitStatus::Refused, [] {
+        return Complaint{Complaint::Kind::Failure,
+                         QStringLiteral("no-window"),
+                         {},
+                         commandText("CLI_NO_WINDOW"),
+                         commandText("CLI_NO_WINDOW_ADVICE")};
+    });
 }
 
 } // namespace lumora

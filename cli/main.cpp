@@ -4,5 +4,5 @@
 
 int main(int argc, char **argv)
 {
-    return lumora::isCommandLine(argc, argv) ? lumora::runCommandLine(argc, argv) : lumora::startWindow(argv);
+    return lumora::isCommandLine(argc, argv) ? lumora::runCommandLine(argc, argv) : lumora::startWindow(argc, argv);
 }

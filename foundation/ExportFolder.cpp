@@ -67,4 +67,22 @@ Outcome createFolder(const QString &path)
     return Failure{FailureCode::CannotCreateFolder, path, qt_error_string(error)};
 }
 
+Outcome createFolderWithParents(const QString &path)
+{
+    int error = makeFolder(path);
+    if (error == ENOENT) {
+        const QString parent = QFileInfo(path).path();
+        if (parent != path) {
+            const Outcome made = createFolderWithParents(parent);
+            if (!made)
+                return Failure{FailureCode::CannotCreateFolder, path, made.failure().detail};
+            error = makeFolder(path);
+        }
+    }
+    // Some file systems have another complaint of a folder that is there.
+    if (error == 0 || QFileInfo(path).isDir())
+        return Done{};
+    return Failure{FailureCode::CannotCreateFolder, path, qt_error_string(error)};
+}
+
 } // namespace lumora

@@ -29,4 +29,7 @@ Result<ExportFolder> makeExportFolder(const QString &destination, const QString 
 /// Makes the folder itself, without missing parents. `CannotCreateFolder` with the system's reason where it cannot.
 Outcome createFolder(const QString &path);
 
+/// Makes the folder and every parent that is missing. A folder that is there already is as good.
+Outcome createFolderWithParents(const QString &path);
+
 } // namespace lumora

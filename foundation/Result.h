@@ -28,6 +28,8 @@ enum class FailureCode {
     TooSmall,           ///< a picture of which halving leaves no pixel; `detail` gives its size
     NotMarked,          ///< a file that is no PNG marked as double resolution
     WouldReplaceSource, ///< writing would replace one of the files that the run reads
+    Exists,             ///< writing would replace a file that is there already
+    NameTaken,          ///< two results of one run have the same name; `detail` gives the other's source
 };
 
 /// One failure as data: what happened, to which file or value, and what the system or the decoder said about it.

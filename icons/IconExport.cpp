@@ -31,11 +31,11 @@ void beginExport(IconExport &result, const QString &savePath)
     }
 }
 
-/// Makes a sub-folder of the run's; a failure is logged.
+/// Makes a sub-folder of the run's, where it is not there already; a failure is logged.
 std::optional<Failure> makeSubfolder(const QString &path)
 {
     const Outcome made = createFolder(path);
-    if (made)
+    if (made || QFileInfo(path).isDir())
         return std::nullopt;
     logLine(QStringLiteral("CreateError: ") + made.failure().detail);
     return made.failure();
@@ -54,12 +54,15 @@ public:
 
     IconExport run()
     {
-        beginExport(m_result, m_request.savePath);
+        if (m_request.folder)
+            m_result.folder = *m_request.folder;
+        else
+            beginExport(m_result, m_request.savePath);
         for (const PlatformIcons &platform : iconPlatforms) {
             if (isExpected(platform))
                 prepare(platform);
         }
-        for (m_next = 0; m_next < iconPlatforms.size();) {
+        for (m_next = 0; m_next < iconPlatforms.size() && !m_result.isStopped;) {
             const PlatformIcons &platform = iconPlatforms[m_next++];
             if (!m_request.isChosen || !m_request.isChosen(platform))
                 continue;
@@ -90,7 +93,8 @@ private:
             folder += QLatin1StringView(iconsetSuffix);
             std::ignore = createFolder(folder);
             writeIcons(platform, folder);
-            generateMacIcon(folder);
+            if (!m_result.isStopped)
+                generateMacIcon(folder);
         } else if (const std::optional<Failure> failure = makeSubfolder(folder)) {
             for (const IconEntry &icon : platform.icons)
                 m_result.files.append({filePath(folder, icon), icon.size, 0, failure});
@@ -103,6 +107,9 @@ private:
     {
         int stillToWrite = static_cast<int>(platform.icons.size());
         for (const IconEntry &icon : platform.icons) {
+            m_result.isStopped = m_request.isStopped && m_request.isStopped();
+            if (m_result.isStopped)
+                return;
             IconFile file{filePath(folder, icon), icon.size, 0, std::nullopt};
             reportProgress(file.path, stillToWrite--);
             const QByteArray png = m_pictures.png(icon.size);
@@ -168,22 +175,27 @@ IconExport generatePlatformIcons(const PlatformIconsRequest &request)
     return PlatformRun(request).run();
 }
 
+IconFile writeCustomIcon(const QImage &icon, int customIconSize, int cornerMode, const QString &path)
+{
+    IconFile file{path, customIconSize, 0, std::nullopt};
+    const Outcome written = saveImage(resizeImage(icon, customIconSize, cornerMode), BitmapType::Png, path);
+    if (written)
+        file.bytes = QFileInfo(path).size();
+    else
+        file.failure = written.failure();
+    return file;
+}
+
 IconExport generateCustomIcon(const CustomIconRequest &request)
 {
     IconExport result;
     beginExport(result, request.savePath);
     const QString folder = result.folder.path + QLatin1StringView(customFolderSuffix);
-    IconFile file{folder + customIconName(request.customIconSize, request.cornerMode), request.customIconSize, 0,
-                  makeSubfolder(folder)};
-    if (!file.failure) {
-        const QImage picture = resizeImage(request.icon, request.customIconSize, request.cornerMode);
-        const Outcome written = saveImage(picture, BitmapType::Png, file.path);
-        if (written)
-            file.bytes = QFileInfo(file.path).size();
-        else
-            file.failure = written.failure();
-    }
-    result.files.append(file);
+    const QString path = folder + customIconName(request.customIconSize, request.cornerMode);
+    if (const std::optional<Failure> failure = makeSubfolder(folder))
+        result.files.append({path, request.customIconSize, 0, failure});
+    else
+        result.files.append(writeCustomIcon(request.icon, request.customIconSize, request.cornerMode, path));
     return result;
 }
 

@@ -34,6 +34,7 @@ struct IconExport
     QList<IconFile> files;                ///< every file of every chosen platform, in order
     QString icns;                         ///< the Mac icon file, empty where none was made
     std::optional<Failure> icnsFailure;
+    bool isStopped = false; ///< the run was stopped: what is listed is all that was begun
 
     /// Every failure, in the order of events.
     QList<Failure> failures() const;
@@ -57,10 +58,12 @@ struct PlatformIconsRequest
 {
     QImage icon;
     QString savePath;                      ///< the folder in which the export folder is made
+    std::optional<ExportFolder> folder;    ///< one that is there, to be written into in place of a fresh one
     PlatformChoice isChosen;               ///< none chooses nothing
     QList<IconPlatform> expected;          ///< platforms likely to be chosen: their pictures are begun ahead
     IconProgressReport progress;           ///< may be empty
     const IconsetPacker *packer = nullptr; ///< none means the system's
+    std::function<bool()> isStopped;       ///< asked before each file; none never stops
 };
 
 /// Writes the sets of all chosen platforms into a fresh folder "icons". Blocks until done; works on all cores; callable
@@ -74,6 +77,9 @@ struct CustomIconRequest
     int customIconSize = 0; ///< edge length in pixels, 1 to 1024
     int cornerMode = 0;     ///< see `CornerMode`
 };
+
+/// Writes one icon to `path`; its size and corners as in `CustomIconRequest`.
+IconFile writeCustomIcon(const QImage &icon, int customIconSize, int cornerMode, const QString &path);
 
 /// Writes one icon of a custom size into the folder "Custom" of a fresh folder "icons". Where that folder cannot be
 /// made the file's failure tells so (`CannotCreateFolder`).

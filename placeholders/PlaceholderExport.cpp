@@ -44,18 +44,23 @@ PlaceholderFile savePlaceholder(const Placeholder &picture, const QString &folde
 PlaceholderRun savePlaceholders(const std::vector<Placeholder> &pictures, const QString &destination,
                                 const PlaceholderWritten &written)
 {
-    PlaceholderRun run;
     const auto folder = makeExportFolder(destination, QStringLiteral("placeholders"));
-    if (folder) {
-        run.folder = folder.value();
-    } else {
-        run.folder.path = folder.failure().subject;
-        run.folderFailure = folder.failure();
-    }
+    if (folder)
+        return savePlaceholders(pictures, folder.value(), written);
+    PlaceholderRun run = savePlaceholders(pictures, ExportFolder{folder.failure().subject, false}, written);
+    run.folderFailure = folder.failure();
+    return run;
+}
+
+PlaceholderRun savePlaceholders(const std::vector<Placeholder> &pictures, const ExportFolder &folder,
+                                const PlaceholderWritten &written)
+{
+    PlaceholderRun run;
+    run.folder = folder;
     for (const Placeholder &picture : pictures) {
         run.files.push_back(savePlaceholder(picture, run.folder.path));
-        if (written)
-            written(std::ssize(run.files), std::ssize(pictures));
+        if (written && !written(std::ssize(run.files), std::ssize(pictures)))
+            break;
     }
     return run;
 }

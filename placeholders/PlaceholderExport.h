@@ -31,13 +31,17 @@ struct PlaceholderRun
     std::vector<PlaceholderFile> files;
 };
 
-/// Called after each picture with how many of all are done.
-using PlaceholderWritten = std::function<void(qsizetype done, qsizetype total)>;
+/// Called after each picture with how many of all are done. Answers whether to go on.
+using PlaceholderWritten = std::function<bool(qsizetype done, qsizetype total)>;
 
 /// Makes a fresh folder "placeholders" in the destination and writes the pictures into it, in order, each under the
 /// name that its size gives it. Goes on where a folder or file cannot be written. All cores work on each picture, with
 /// a few megabytes of memory besides the compressed file; the bytes do not depend on their number.
 PlaceholderRun savePlaceholders(const std::vector<Placeholder> &pictures, const QString &destination,
+                                const PlaceholderWritten &written = {});
+
+/// The same into a folder that is there.
+PlaceholderRun savePlaceholders(const std::vector<Placeholder> &pictures, const ExportFolder &folder,
                                 const PlaceholderWritten &written = {});
 
 } // namespace lumora

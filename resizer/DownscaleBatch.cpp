@@ -5,6 +5,7 @@
 #include "MemoryBudget.h"
 #include "RetinaName.h"
 #include "RetinaPicture.h"
+#include "foundation/ExportFolder.h"
 #include "foundation/WholeFile.h"
 #include "pictures/PictureReader.h"
 
@@ -61,22 +62,24 @@ Result<HalvedPicture> readAndHalve(const QString &path, MemoryBudget &budget)
     }
 }
 
+enum class MissingFolders { Refuse, Make };
+
 /// The batch in work: workers halve pictures, the thread that called writes them in order.
 class Batch
 {
 public:
-    Batch(const QStringList &paths, const QString &destination) : m_paths(paths), m_destination(destination)
+    Batch(const QList<DownscaleJob> &jobs, MissingFolders missing) : m_jobs(jobs), m_missingFolders(missing)
     {
         findDependencies();
     }
 
     void run(const FileDownscaled &downscaled)
     {
-        const auto workers = std::min<qsizetype>(std::max(QThread::idealThreadCount(), 1), m_paths.size());
+        const auto workers = std::min<qsizetype>(std::max(QThread::idealThreadCount(), 1), m_jobs.size());
         std::vector<std::jthread> threads;
         for (qsizetype i = 0; i < workers; ++i)
             threads.emplace_back([this] { work(); });
-        for (qsizetype index = 0; index < m_paths.size(); ++index) {
+        for (qsizetype index = 0; index < m_jobs.size(); ++index) {
             const DownscaledFile file = write(index, take(index));
             if (!downscaled(index, file))
                 break;
@@ -91,11 +94,11 @@ private:
     void findDependencies()
     {
         QHash<QString, qsizetype> writtenBy;
-        m_readableAfter.reserve(static_cast<std::size_t>(m_paths.size()));
-        for (qsizetype index = 0; index < m_paths.size(); ++index) {
-            const QString &path = m_paths.at(index);
-            m_readableAfter.push_back(writtenBy.value(fileIdentity(path), -1) + 1);
-            writtenBy.insert(fileIdentity(downscaledPath(path, m_destination)), index);
+        m_readableAfter.reserve(static_cast<std::size_t>(m_jobs.size()));
+        for (qsizetype index = 0; index < m_jobs.size(); ++index) {
+            const DownscaleJob &job = m_jobs.at(index);
+            m_readableAfter.push_back(writtenBy.value(fileIdentity(job.source), -1) + 1);
+            writtenBy.insert(fileIdentity(job.target), index);
         }
     }
 
@@ -104,13 +107,13 @@ private:
         for (;;) {
             std::unique_lock lock(m_mutex);
             const qsizetype index = m_next++;
-            if (index >= m_paths.size())
+            if (index >= m_jobs.size())
                 return;
             m_mayRead.wait(lock, [this, index] { return m_stopped || mayRead(index); });
             if (m_stopped)
                 return;
             lock.unlock();
-            Result<HalvedPicture> picture = readAndHalve(m_paths.at(index), m_budget);
+            Result<HalvedPicture> picture = readAndHalve(m_jobs.at(index).source, m_budget);
             lock.lock();
             m_bytesWaiting += bytesOf(picture);
             m_halved.emplace(index, std::move(picture));
@@ -139,12 +142,12 @@ private:
 
     DownscaledFile write(qsizetype index, const Result<HalvedPicture> &picture)
     {
-        const QString &path = m_paths.at(index);
-        DownscaledFile file{path, downscaledPath(path, m_destination), {}, 0, Done{}};
+        const DownscaleJob &job = m_jobs.at(index);
+        DownscaledFile file{job.source, job.target, {}, 0, Done{}};
         if (picture) {
             file.size = picture.value().size;
             file.bytes = picture.value().png.size();
-            file.outcome = writeWholeFile(file.target, picture.value().png);
+            file.outcome = writeHalf(file.target, picture.value().png);
         } else {
             file.outcome = picture.failure();
         }
@@ -154,8 +157,19 @@ private:
         return file;
     }
 
-    const QStringList m_paths;
-    const QString m_destination;
+    Outcome writeHalf(const QString &path, const QByteArray &png) const
+    {
+        if (m_missingFolders == MissingFolders::Make) {
+            const QString folder = QFileInfo(path).path();
+            Outcome made = createFolderWithParents(folder);
+            if (!made)
+                return made;
+        }
+        return writeWholeFile(path, png);
+    }
+
+    const QList<DownscaleJob> m_jobs;
+    const MissingFolders m_missingFolders;
     std::vector<qsizetype> m_readableAfter;
     MemoryBudget m_budget{memoryForPictures};
 
@@ -176,9 +190,10 @@ QString downscaledPath(const QString &source, const QString &destination)
     return destination + u'/' + singleResolutionName(source);
 }
 
-DownscaledFile foreseenHalf(const QString &source, const QString &destination)
+DownscaledFile foreseenHalf(const DownscaleJob &job)
 {
-    DownscaledFile file{source, downscaledPath(source, destination), {}, 0, Done{}};
+    const QString &source = job.source;
+    DownscaledFile file{source, job.target, {}, 0, Done{}};
     const Result<QByteArray> bytes = readSource(source);
     const Result<QSize> stored = bytes ? storedPixelSize(bytes.value(), source) : bytes.failure();
     const Result<QSize> half = stored ? halvedSize(stored.value(), source) : stored;
@@ -193,7 +208,16 @@ void createImagesFromDataPaths(const QStringList &paths, const QString &destinat
 {
     if (paths.isEmpty())
         return;
-    Batch(paths, destination).run(downscaled);
+    QList<DownscaleJob> jobs;
+    for (const QString &path : paths)
+        jobs.append({path, downscaledPath(path, destination)});
+    Batch(jobs, MissingFolders::Refuse).run(downscaled);
+}
+
+void downscale(const QList<DownscaleJob> &jobs, const FileDownscaled &downscaled)
+{
+    if (!jobs.isEmpty())
+        Batch(jobs, MissingFolders::Make).run(downscaled);
 }
 
 } // namespace lumora

@@ -22,12 +22,21 @@ struct DownscaledFile
     Outcome outcome = Done{};
 };
 
+/// One picture to be halved, and where its half goes.
+struct DownscaleJob
+{
+    QString source;
+    QString target;
+
+    bool operator==(const DownscaleJob &) const = default;
+};
+
 /// Where a source's half goes: its name without markers, in the destination folder.
 QString downscaledPath(const QString &source, const QString &destination);
 
 /// What would become of a file, judged by its header: a failure as the batch would meet it, or the path and the size
 /// that would be written. Writes nothing; damage behind the header shows only in the batch.
-DownscaledFile foreseenHalf(const QString &source, const QString &destination);
+DownscaledFile foreseenHalf(const DownscaleJob &job);
 
 /// Told about file number `index` of the batch (from 0), once for each file and in their order, whatever became of it.
 /// Answers whether the batch is to go on.
@@ -40,5 +49,8 @@ using FileDownscaled = std::function<bool(qsizetype index, const DownscaledFile 
 /// after another: files are written and reported in order, on the calling thread, and a source that an earlier file of
 /// the batch replaces is read after that.
 void createImagesFromDataPaths(const QStringList &paths, const QString &destination, const FileDownscaled &downscaled);
+
+/// The same with a target of its own for each file. Folders that are missing on the way to it are made.
+void downscale(const QList<DownscaleJob> &jobs, const FileDownscaled &downscaled);
 
 } // namespace lumora

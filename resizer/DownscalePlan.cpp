@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "DownscalePlan.h"
 
-#include "DownscaleBatch.h"
 #include "FileIdentity.h"
 #include "RetinaName.h"
 #include "RetinaSearch.h"
 
+#include <QDir>
 #include <QFileInfo>
+#include <QHash>
 #include <QSet>
 
 #include <iterator>
@@ -18,60 +19,132 @@ namespace lumora
 namespace
 {
 
-void gather(const QString &argument, DownscalePlan &plan)
+/// A picture, and the folder that was searched for it; empty where it was named itself.
+struct FoundPicture
 {
-    const QFileInfo entry(argument);
-    const QString path = entry.absoluteFilePath();
-    if (!entry.exists()) {
-        plan.failures.push_back({FailureCode::NotFound, argument, {}});
-    } else if (!entry.isDir()) {
-        if (isDoubleResolution(path))
-            plan.sources << path;
-        else
-            plan.failures.push_back({FailureCode::NotMarked, argument, {}});
-    } else {
-        RetinaSearch found = findDoubleResolution(path);
-        if (found.files.isEmpty() && found.failures.empty())
-            plan.failures.push_back(
-                {FailureCode::MissingContent, argument, QStringLiteral("no .png marked @2x or -hd")});
-        plan.sources << found.files;
-        std::move(found.failures.begin(), found.failures.end(), std::back_inserter(plan.failures));
-    }
-}
+    QString path;
+    QString root;
+};
 
-void keepEachFileOnce(QStringList &paths, QSet<QString> &identities)
+class Planning
 {
-    paths.removeIf([&identities](const QString &path) {
-        const QString identity = fileIdentity(path);
-        const bool seen = identities.contains(identity);
-        identities.insert(identity);
-        return seen;
-    });
-}
+public:
+    explicit Planning(const DownscaleRequest &request) : m_request(request) {}
+
+    DownscalePlan plan()
+    {
+        for (const QString &argument : m_request.filesAndFolders)
+            gather(argument);
+        for (const FoundPicture &picture : std::as_const(m_found)) {
+            m_sources.insert(fileIdentity(picture.path));
+            m_plainTargets.insert(fileIdentity(targetOf(picture)));
+        }
+        // What was named and refused is the user's picture too.
+        for (const QString &argument : m_request.filesAndFolders)
+            m_sources.insert(fileIdentity(argument));
+        for (const FoundPicture &picture : std::as_const(m_found))
+            add(picture);
+        return std::move(m_plan);
+    }
+
+private:
+    void gather(const QString &argument)
+    {
+        const QFileInfo entry(argument);
+        const QString path = entry.absoluteFilePath();
+        if (!entry.exists()) {
+            m_plan.failures.push_back({FailureCode::NotFound, argument, {}});
+        } else if (!entry.isDir()) {
+            if (isDoubleResolution(path))
+                keepOnce({path, {}});
+            else
+                m_plan.failures.push_back({FailureCode::NotMarked, argument, {}});
+        } else {
+            RetinaSearch found = findDoubleResolution(path);
+            if (found.files.isEmpty() && found.failures.empty())
+                m_plan.failures.push_back({FailureCode::MissingContent, argument, {}});
+            for (const QString &file : std::as_const(found.files)) {
+                if (!isOwnResult(file, path))
+                    keepOnce({file, path});
+            }
+            std::move(found.failures.begin(), found.failures.end(), std::back_inserter(m_plan.failures));
+        }
+    }
+
+    /// What an earlier run wrote into a folder inside the one that is searched is no source of this one.
+    bool isOwnResult(const QString &file, const QString &root) const
+    {
+        const QString destination = m_request.destination + u'/';
+        return m_request.layout == TreeLayout::Kept && destination.startsWith(QDir::cleanPath(root) + u'/') &&
+               m_request.destination != QDir::cleanPath(root) && QDir::cleanPath(file).startsWith(destination);
+    }
+
+    void keepOnce(const FoundPicture &picture)
+    {
+        const QString identity = fileIdentity(picture.path);
+        if (!m_seen.contains(identity))
+            m_found.append(picture);
+        m_seen.insert(identity);
+    }
+
+    QString targetOf(const FoundPicture &picture) const
+    {
+        QString folder = m_request.destination;
+        if (m_request.layout == TreeLayout::Kept && !picture.root.isEmpty()) {
+            const QString inside = QDir(picture.root).relativeFilePath(QFileInfo(picture.path).path());
+            if (inside != u".")
+                folder += u'/' + inside;
+        }
+        return downscaledPath(picture.path, folder);
+    }
+
+    void add(const FoundPicture &picture)
+    {
+        QString target = targetOf(picture);
+        const QString other = m_takenBy.value(fileIdentity(target));
+        if (!other.isEmpty())
+            target = numbered(target);
+        if (m_request.replacement == FileReplacement::Refuse) {
+            const QFileInfo there(target);
+            const bool isSource = m_sources.contains(fileIdentity(target));
+            if (isSource || there.exists() || there.isSymLink()) {
+                m_plan.failures.push_back(
+                    {isSource ? FailureCode::WouldReplaceSource : FailureCode::Exists, target, {}});
+                return;
+            }
+        }
+        if (!other.isEmpty())
+            m_plan.failures.push_back({FailureCode::NameTaken, picture.path, other + u" -> " + target});
+        m_takenBy.insert(fileIdentity(target), picture.path);
+        m_plan.jobs.append({picture.path, target});
+    }
+
+    /// "a_1.png" for "a.png", or the first number that no other picture has.
+    QString numbered(const QString &target) const
+    {
+        const QString stem = target.chopped(QStringView(u".png").size());
+        for (int number = 1;; ++number) {
+            const QString name = stem + u'_' + QString::number(number) + u".png";
+            const QString identity = fileIdentity(name);
+            if (!m_plainTargets.contains(identity) && !m_takenBy.contains(identity))
+                return name;
+        }
+    }
+
+    const DownscaleRequest &m_request;
+    DownscalePlan m_plan;
+    QList<FoundPicture> m_found;
+    QSet<QString> m_seen;              ///< identities of `m_found`
+    QSet<QString> m_sources;           ///< identities of all that is read or was named
+    QSet<QString> m_plainTargets;      ///< identities of the halves under the names that are their own
+    QHash<QString, QString> m_takenBy; ///< the identity of a target, and its source
+};
 
 } // namespace
 
-DownscalePlan planDownscaling(const QStringList &filesAndFolders, const QString &destination,
-                              SourceReplacement replacement)
+DownscalePlan planDownscaling(const DownscaleRequest &request)
 {
-    DownscalePlan plan;
-    for (const QString &argument : filesAndFolders)
-        gather(argument, plan);
-    QSet<QString> identities;
-    keepEachFileOnce(plan.sources, identities);
-    if (replacement == SourceReplacement::Allow)
-        return plan;
-    // What was named and refused is the user's picture too.
-    for (const QString &argument : filesAndFolders)
-        identities.insert(fileIdentity(argument));
-    plan.sources.removeIf([&](const QString &source) {
-        const QString target = downscaledPath(source, destination);
-        const bool replaces = identities.contains(fileIdentity(target));
-        if (replaces)
-            plan.failures.push_back({FailureCode::WouldReplaceSource, target, {}});
-        return replaces;
-    });
-    return plan;
+    return Planning(request).plan();
 }
 
 } // namespace lumora

@@ -32,9 +32,11 @@ bool installTable(QCoreApplication &application, const QString &name, const QStr
 
 /// What the toolkit says by itself, in its dialogs and in the menu of a text field, comes with the system. Without it
 /// that much is English.
-bool installLanguage(QCoreApplication &application, const QString &language)
+bool installLanguage(QCoreApplication &application, const QString &language, ToolkitTexts toolkit)
 {
-    installTable(application, QStringLiteral("qtbase_") + language, QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+    if (toolkit == ToolkitTexts::Install)
+        installTable(application, QStringLiteral("qtbase_") + language,
+                     QLibraryInfo::path(QLibraryInfo::TranslationsPath));
     return installTable(application, tablePrefix + language, QStringLiteral(":/strings"));
 }
 
@@ -55,7 +57,7 @@ QStringList availableLanguages()
     return languages;
 }
 
-QLocale installTexts(QCoreApplication &application, const QLocale &locale)
+QLocale installTexts(QCoreApplication &application, const QLocale &locale, ToolkitTexts toolkit)
 {
     const QStringList available = availableLanguages();
     const QStringList wanted = locale.uiLanguages();
@@ -64,11 +66,11 @@ QLocale installTexts(QCoreApplication &application, const QLocale &locale)
         QString name = tag;
         name.replace(u'-', u'_');
         for (; !name.isEmpty(); name = name.contains(u'_') ? name.section(u'_', 0, -2) : QString()) {
-            if (available.contains(name) && installLanguage(application, name))
+            if (available.contains(name) && installLanguage(application, name, toolkit))
                 return QLocale(name);
         }
     }
-    installLanguage(application, QStringLiteral("en"));
+    installLanguage(application, QStringLiteral("en"), toolkit);
     return QLocale(QLocale::English);
 }
 

@@ -1,60 +1,136 @@
 # SPDX-License-Identifier: MIT
-# bash completion for lumora. A new command gets a line in `options`, and in `_lumora` a case for each option that takes
-# one of a few words.
+# bash completion for lumora. A new command gets a line in `_lumora_options` and, for operands, in `_lumora_operands`; a
+# new option that takes one of a few words gets a line in `_lumora_values`.
+
+_lumora_general="--json --quiet --verbose --help --version"
+_lumora_tools="icons placeholders resizer color devices validator"
+
+# The command that a word is, in the name that the other functions know: a tool's name is its command's, too.
+_lumora_command() {
+  case $1 in
+    icons | icon | placeholders | downscale | color | devices | validate | help | version) echo "$1" ;;
+    resizer) echo downscale ;;
+    validator) echo validate ;;
+  esac
+}
 
 _lumora_options() {
   case $1 in
-    icons) echo "--platform --to --json --help" ;;
-    icon) echo "--size --to --corners --json --help" ;;
-    placeholders) echo "--set --size --to --json --help" ;;
-    downscale) echo "--to --json --dry-run --overwrite --help" ;;
-    color) echo "--as --json --help" ;;
-    devices) echo "--ios --feature --json --help" ;;
-    validate) echo "--json --icon --help" ;;
-    *) echo "icons icon placeholders downscale color devices validate --help --version" ;;
+    icons) echo "--example --platform --to --out $_lumora_general" ;;
+    icon) echo "--example --size --corners --to --out --output $_lumora_general" ;;
+    placeholders) echo "--set --size --to --out $_lumora_general" ;;
+    downscale) echo "--overwrite --dry-run --to --out $_lumora_general" ;;
+    color) echo "--as $_lumora_general" ;;
+    devices) echo "--ios --feature $_lumora_general" ;;
+    validate) echo "--icon $_lumora_general" ;;
+    help | version) ;;
+    *) echo "--tool $_lumora_general" ;;
   esac
+}
+
+# What an option takes: words, "list:" and words, "folder", "file" or "none"; nothing for a flag.
+_lumora_values() {
+  case $1:$2 in
+    *:--to | *:--out) echo folder ;;
+    icon:--output | icon:-o | validate:--icon) echo file ;;
+    icons:--platform) echo "list:iphone ipad mac android web-touch favicon all" ;;
+    icon:--corners) echo "none ios6 ios7" ;;
+    placeholders:--set) echo "ios mac" ;;
+    color:--as) echo "hex ios mac rgb css all" ;;
+    devices:--ios) echo "4 5 6 7" ;;
+    devices:--feature)
+      echo "list:retina multitask siri video_rec compass gyroscope gps back_cam front_cam flash_cam bluetooth_le" \
+        "opengl_2 opengl_3"
+      ;;
+    icon:--size | placeholders:--size) echo anything ;;
+    :--tool) echo "$_lumora_tools" ;;
+  esac
+}
+
+# The endings of the files that a command works on, as an extended pattern.
+_lumora_operands() {
+  case $1 in
+    icons | icon) echo "@(png|jpg|jpeg|tif|tiff|webp|bmp|gif|icns)" ;;
+    downscale) echo "png" ;;
+    validate) echo "ipa" ;;
+    "") echo "@(png|jpg|jpeg|tif|tiff|webp|bmp|gif|icns|ipa)" ;;
+  esac
+}
+
+# One line of each of its arguments becomes one offer, so that names may hold blanks.
+_lumora_offer() {
+  local offer
+  COMPREPLY=()
+  while IFS= read -r offer; do
+    [[ -n $offer ]] && COMPREPLY+=("$offer")
+  done
 }
 
 _lumora_words() {
-  mapfile -t COMPREPLY < <(compgen -W "$1" -- "$2")
+  _lumora_offer < <(compgen -W "$1" -- "$2")
 }
 
-# A list separated by commas: what comes before the last comma is kept.
+# A list separated by commas: what stands before the last comma is kept.
 _lumora_list() {
   local before=""
   [[ $2 == *,* ]] && before=${2%,*},
-  mapfile -t COMPREPLY < <(compgen -P "$before" -W "$1" -- "${2##*,}")
+  _lumora_offer < <(compgen -P "$before" -W "$1" -- "${2##*,}")
+  compopt -o nospace 2>/dev/null
+}
+
+_lumora_folders() {
+  compopt -o filenames 2>/dev/null
+  _lumora_offer < <(compgen -d -- "$1")
+}
+
+# Folders, and files with one of the endings in small or capital letters.
+_lumora_files() {
+  local name endings=$1 restore
+  restore=$(shopt -p extglob nocasematch)
+  shopt -s extglob nocasematch
+  compopt -o filenames 2>/dev/null
+  COMPREPLY=()
+  while IFS= read -r name; do
+    [[ -d $name || -z $endings || $name == *.$endings ]] && COMPREPLY+=("$name")
+  done < <(compgen -f -- "$2")
+  eval "$restore"
+}
+
+_lumora_value() {
+  case $1 in
+    folder) _lumora_folders "$2" ;;
+    file) _lumora_files "" "$2" ;;
+    anything) COMPREPLY=() ;;
+    list:*) _lumora_list "${1#list:}" "$2" ;;
+    *) _lumora_words "$1" "$2" ;;
+  esac
 }
 
 _lumora() {
-  local word=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]} command=""
-  ((COMP_CWORD > 1)) && command=${COMP_WORDS[1]}
-  compopt +o filenames 2>/dev/null
-  case $command:$previous in
-    *:--to)
-      compopt -o filenames
-      mapfile -t COMPREPLY < <(compgen -d -- "$word")
-      return
-      ;;
-    icons:--platform) _lumora_list "iphone ipad mac android web-touch favicon all" "$word" ;;
-    icon:--corners) _lumora_words "none ios6 ios7" "$word" ;;
-    placeholders:--set) _lumora_words "ios mac" "$word" ;;
-    color:--as) _lumora_words "hex ios mac rgb css all" "$word" ;;
-    devices:--ios) _lumora_words "4 5 6 7" "$word" ;;
-    devices:--feature)
-      _lumora_words "retina multitask siri video_rec compass gyroscope gps back_cam front_cam flash_cam bluetooth_le
-        opengl_2 opengl_3" "$word"
-      ;;
-    *:--size) COMPREPLY=() ;;
-    *)
-      if [[ $word == -* || -z $command ]]; then
-        _lumora_words "$(_lumora_options "$command")" "$word"
-        [[ $word == -* || ${#COMPREPLY[@]} -gt 0 ]] && return
-      fi
-      compopt -o filenames
-      mapfile -t COMPREPLY < <(compgen -f -- "$word")
-      ;;
-  esac
+  local word previous command="" values
+  # bash takes "--tool=ic" apart at the equals sign; put together again, it is one word.
+  word=${COMP_WORDS[COMP_CWORD]}
+  previous=${COMP_WORDS[COMP_CWORD - 1]}
+  ((COMP_CWORD > 1)) && command=$(_lumora_command "${COMP_WORDS[1]}")
+  if [[ $word == "=" && $previous == --* ]]; then
+    word=""
+  elif [[ $previous == "=" ]]; then
+    previous=${COMP_WORDS[COMP_CWORD - 2]}
+  fi
+  COMPREPLY=()
+  values=$(_lumora_values "$command" "$previous")
+  if [[ -n $values ]]; then
+    _lumora_value "$values" "$word"
+  elif [[ $word == -* ]]; then
+    _lumora_words "$(_lumora_options "$command")" "$word"
+  elif ((COMP_CWORD == 1)); then
+    _lumora_words "icons icon placeholders downscale color devices validate help version" "$word"
+    ((${#COMPREPLY[@]} > 0)) || _lumora_files "$(_lumora_operands "")" "$word"
+  elif [[ $command == help ]]; then
+    _lumora_words "icons icon placeholders downscale color devices validate" "$word"
+  elif [[ -n $(_lumora_operands "$command") ]]; then
+    _lumora_files "$(_lumora_operands "$command")" "$word"
+  fi
 }
 
 complete -F _lumora lumora

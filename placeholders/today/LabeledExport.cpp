@@ -61,8 +61,21 @@ PlaceholderRun saveLabeledPictures(const std::vector<ListedSize> &sizes, const P
                                    const LabeledOptions &options, const QString &destination,
                                    const PlaceholderWritten &written)
 {
+    const auto folder = makeExportFolder(destination, u"placeholders"_s);
+    if (folder)
+        return saveLabeledPictures(sizes, look, options, folder.value(), written);
+    PlaceholderRun run =
+        saveLabeledPictures(sizes, look, options, ExportFolder{folder.failure().subject, false}, written);
+    run.folderFailure = folder.failure();
+    return run;
+}
+
+PlaceholderRun saveLabeledPictures(const std::vector<ListedSize> &sizes, const PictureLook &look,
+                                   const LabeledOptions &options, const ExportFolder &folder,
+                                   const PlaceholderWritten &written)
+{
     PlaceholderRun run;
-    run.folder = makeExportFolder(destination, u"placeholders"_s);
+    run.folder = folder;
     const LabelFont font;
     for (const ListedSize &size : sizes) {
         PlaceholderFile file;
@@ -72,8 +85,8 @@ PlaceholderRun saveLabeledPictures(const std::vector<ListedSize> &sizes, const P
         file.outcome = bytes ? writeWholeFile(file.path, bytes.value()) : bytes.failure();
         file.bytes = file.outcome ? bytes.value().size() : 0;
         run.files.push_back(file);
-        if (written)
-            written(std::ssize(run.files), std::ssize(sizes));
+        if (written && !written(std::ssize(run.files), std::ssize(sizes)))
+            break;
     }
     return run;
 }

@@ -28,4 +28,9 @@ PlaceholderRun saveLabeledPictures(const std::vector<ListedSize> &sizes, const P
                                    const LabeledOptions &options, const QString &destination,
                                    const PlaceholderWritten &written = {});
 
+/// The same into a folder that is there.
+PlaceholderRun saveLabeledPictures(const std::vector<ListedSize> &sizes, const PictureLook &look,
+                                   const LabeledOptions &options, const ExportFolder &folder,
+                                   const PlaceholderWritten &written = {});
+
 } // namespace lumora

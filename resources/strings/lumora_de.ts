@@ -1201,5 +1201,532 @@
     <source>[CHECK]: not present</source>
     <translation>[CHECK]: nicht vorhanden</translation>
   </message>
+
+
+  <!-- The command line -->
+  <message id="CLI_OR">
+    <source>or</source>
+    <translation>oder</translation>
+  </message>
+  <message id="CLI_USAGE">
+    <source>Usage</source>
+    <translation>Aufruf</translation>
+  </message>
+  <message id="CLI_OPTION_WORD">
+    <source>OPTION</source>
+    <translation>OPTION</translation>
+  </message>
+  <message id="CLI_PROGRAM_USAGE">
+    <source>lumora COMMAND [ARGUMENT]...</source>
+    <translation>lumora BEFEHL [ARGUMENT]...</translation>
+  </message>
+  <message id="CLI_PROGRAM_ABOUT">
+    <source>Icons, placeholders, down-scaling, colour codes, devices and app package checks for people who make apps. Without a command the window opens, with the given files if there are any.</source>
+    <translation>Icons, Platzhalter, Verkleinern, Farbcodes, Geräte und App-Paket-Prüfung für alle, die Apps machen. Ohne Befehl öffnet sich das Fenster, mit den angegebenen Dateien, falls es welche gibt.</translation>
+  </message>
+  <message id="CLI_COMMANDS">
+    <source>Commands</source>
+    <translation>Befehle</translation>
+  </message>
+  <message id="CLI_WINDOW">
+    <source>Window</source>
+    <translation>Fenster</translation>
+  </message>
+  <message id="CLI_OPERANDS">
+    <source>What to work on</source>
+    <translation>Womit</translation>
+  </message>
+  <message id="CLI_OPTIONS">
+    <source>Options</source>
+    <translation>Optionen</translation>
+  </message>
+  <message id="CLI_OUTPUT">
+    <source>Where to write</source>
+    <translation>Wohin</translation>
+  </message>
+  <message id="CLI_GENERAL">
+    <source>General</source>
+    <translation>Allgemein</translation>
+  </message>
+  <message id="CLI_EXAMPLES">
+    <source>Examples</source>
+    <translation>Beispiele</translation>
+  </message>
+  <message id="CLI_TOOL">
+    <source>Open the window at one tool: [WORDS]</source>
+    <translation>Das Fenster bei einem Werkzeug öffnen: [WORDS]</translation>
+  </message>
+  <message id="CLI_JSON">
+    <source>Print the result as JSON, failures included</source>
+    <translation>Das Ergebnis als JSON ausgeben, auch Fehler</translation>
+  </message>
+  <message id="CLI_QUIET">
+    <source>Print failures only (and JSON that is asked for)</source>
+    <translation>Nur Fehler ausgeben (und verlangtes JSON)</translation>
+  </message>
+  <message id="CLI_VERBOSE">
+    <source>Name each file on standard error, too</source>
+    <translation>Jede Datei auch auf der Fehlerausgabe nennen</translation>
+  </message>
+  <message id="CLI_HELP">
+    <source>Explain the program or a command</source>
+    <translation>Das Programm oder einen Befehl erklären</translation>
+  </message>
+  <message id="CLI_VERSION">
+    <source>Print the version</source>
+    <translation>Die Version ausgeben</translation>
+  </message>
+  <message id="CLI_ICONS_ABOUT">
+    <source>Write every icon of whole platforms from one picture</source>
+    <translation>Alle Icons ganzer Plattformen aus einem Bild schreiben</translation>
+  </message>
+  <message id="CLI_ICON_ABOUT">
+    <source>Write icons of sizes of your own</source>
+    <translation>Icons in eigenen Größen schreiben</translation>
+  </message>
+  <message id="CLI_PLACEHOLDERS_ABOUT">
+    <source>Write grey pictures labelled with their size</source>
+    <translation>Graue Bilder mit ihrer Größe als Aufschrift schreiben</translation>
+  </message>
+  <message id="CLI_DOWNSCALE_ABOUT">
+    <source>Halve double-resolution PNG pictures</source>
+    <translation>PNG-Bilder doppelter Auflösung halbieren</translation>
+  </message>
+  <message id="CLI_COLOR_ABOUT">
+    <source>Print a colour as code</source>
+    <translation>Eine Farbe als Code ausgeben</translation>
+  </message>
+  <message id="CLI_DEVICES_ABOUT">
+    <source>List the iPhones, iPods and iPads that can run an app</source>
+    <translation>Die iPhones, iPods und iPads nennen, auf denen eine App läuft</translation>
+  </message>
+  <message id="CLI_VALIDATE_ABOUT">
+    <source>Read iOS app packages and check what is in them</source>
+    <translation>iOS-App-Pakete lesen und ihren Inhalt prüfen</translation>
+  </message>
+  <message id="CLI_ICONS_SOURCE">
+    <source>Picture of 1024 x 1024 pixels (PNG, JPEG, TIFF, WebP, BMP, GIF or ICNS), or - for standard input</source>
+    <translation>Bild mit 1024 x 1024 Pixeln (PNG, JPEG, TIFF, WebP, BMP, GIF oder ICNS) oder - für die Standardeingabe</translation>
+  </message>
+  <message id="CLI_EXAMPLE">
+    <source>Use the built-in picture in place of SOURCE</source>
+    <translation>Das eingebaute Bild statt SOURCE nehmen</translation>
+  </message>
+  <message id="CLI_ICONS_PLATFORM">
+    <source>Platforms, separated by commas: [WORDS]</source>
+    <translation>Plattformen, durch Kommas getrennt: [WORDS]</translation>
+  </message>
+  <message id="CLI_ICONS_TO">
+    <source>Make a fresh folder "icons" in DIR (icons_1 where that is taken)</source>
+    <translation>Einen neuen Ordner "icons" in DIR anlegen (icons_1, wenn es ihn schon gibt)</translation>
+  </message>
+  <message id="CLI_OUT">
+    <source>Write exactly into DIR: the same files on every run, other files are left alone</source>
+    <translation>Genau in DIR schreiben: bei jedem Lauf dieselben Dateien, andere bleiben unberührt</translation>
+  </message>
+  <message id="CLI_ICON_SIZE">
+    <source>Edge length in pixels, [LEAST] to [MOST]; several separated by commas</source>
+    <translation>Kantenlänge in Pixeln, [LEAST] bis [MOST]; mehrere durch Kommas getrennt</translation>
+  </message>
+  <message id="CLI_ICON_CORNERS">
+    <source>Rounded corners: [WORDS]</source>
+    <translation>Runde Ecken: [WORDS]</translation>
+  </message>
+  <message id="CLI_ICON_OUTPUT">
+    <source>Write one icon to FILE, or to standard output for -</source>
+    <translation>Ein Icon in die Datei FILE schreiben, bei - auf die Standardausgabe</translation>
+  </message>
+  <message id="CLI_PLACEHOLDERS_SET">
+    <source>Screen sizes of iOS devices or of the Mac: [WORDS]</source>
+    <translation>Bildschirmgrößen der iOS-Geräte oder des Mac: [WORDS]</translation>
+  </message>
+  <message id="CLI_PLACEHOLDERS_SIZE">
+    <source>Width and height, each from 1 to 9999 pixels; several separated by commas</source>
+    <translation>Breite und Höhe, je 1 bis 9999 Pixel; mehrere durch Kommas getrennt</translation>
+  </message>
+  <message id="CLI_PLACEHOLDERS_TO">
+    <source>Make a fresh folder "placeholders" in DIR (placeholders_1 where that is taken)</source>
+    <translation>Einen neuen Ordner "placeholders" in DIR anlegen (placeholders_1, wenn es ihn schon gibt)</translation>
+  </message>
+  <message id="CLI_DOWNSCALE_SOURCE">
+    <source>PNG files marked @2x or -hd, or folders that are searched for such files</source>
+    <translation>PNG-Dateien mit @2x oder -hd im Namen oder Ordner, die nach solchen durchsucht werden</translation>
+  </message>
+  <message id="CLI_DOWNSCALE_OVERWRITE">
+    <source>Replace files that are there already, the sources among them</source>
+    <translation>Vorhandene Dateien ersetzen, auch die Quellen selbst</translation>
+  </message>
+  <message id="CLI_DOWNSCALE_DRY_RUN">
+    <source>Print what would be written and mark what exists; write nothing</source>
+    <translation>Ausgeben, was geschrieben würde, Vorhandenes markieren; nichts schreiben</translation>
+  </message>
+  <message id="CLI_DOWNSCALE_TO">
+    <source>Write all halves into DIR, without sub-folders</source>
+    <translation>Alle Hälften in DIR schreiben, ohne Unterordner</translation>
+  </message>
+  <message id="CLI_COLOR_TEXT">
+    <source>Three or six hexadecimal digits, with or without #</source>
+    <translation>Drei oder sechs hexadezimale Ziffern, mit oder ohne #</translation>
+  </message>
+  <message id="CLI_COLOR_AS">
+    <source>Notation to print: [WORDS]; all prints each with its name</source>
+    <translation>Schreibweise: [WORDS]; all gibt jede mit ihrem Namen aus</translation>
+  </message>
+  <message id="CLI_DEVICES_IOS">
+    <source>Oldest iOS version the app runs on: [WORDS]</source>
+    <translation>Älteste iOS-Version, auf der die App läuft: [WORDS]</translation>
+  </message>
+  <message id="CLI_DEVICES_FEATURE">
+    <source>What the app needs; several separated by commas: [WORDS]</source>
+    <translation>Was die App braucht; mehrere durch Kommas getrennt: [WORDS]</translation>
+  </message>
+  <message id="CLI_VALIDATE_FILE">
+    <source>App packages (.ipa, .app or .xcarchive), or - for an .ipa on standard input</source>
+    <translation>App-Pakete (.ipa, .app oder .xcarchive) oder - für ein .ipa auf der Standardeingabe</translation>
+  </message>
+  <message id="CLI_VALIDATE_ICON">
+    <source>Write the app's icon, 128 pixels square; - is standard output</source>
+    <translation>Das Icon der App schreiben, 128 Pixel im Quadrat; - ist die Standardausgabe</translation>
+  </message>
+  <message id="CLI_VALIDATE_STATUS">
+    <source>Ends with 0 when all checks are valid, 1 when one is not, 3 when a file is no archive with an app.</source>
+    <translation>Endet mit 0, wenn alle Prüfungen bestanden sind, mit 1, wenn eine nicht, mit 3, wenn eine Datei kein Archiv mit einer App ist.</translation>
+  </message>
+  <message id="CLI_DID_YOU_MEAN">
+    <source>did you mean [WORD]?</source>
+    <translation>war [WORD] gemeint?</translation>
+  </message>
+  <message id="CLI_SEE_HELP">
+    <source>see "[COMMAND]"</source>
+    <translation>siehe "[COMMAND]"</translation>
+  </message>
+  <message id="CLI_UNKNOWN_OPTION">
+    <source>[OPTION] is no option</source>
+    <translation>[OPTION] ist keine Option</translation>
+  </message>
+  <message id="CLI_UNKNOWN_COMMAND">
+    <source>[WORD] is neither a command nor a file that exists</source>
+    <translation>[WORD] ist weder ein Befehl noch eine vorhandene Datei</translation>
+  </message>
+  <message id="CLI_UNKNOWN_TOOL">
+    <source>--tool takes [WORDS], not [VALUE]</source>
+    <translation>--tool nimmt [WORDS], nicht [VALUE]</translation>
+  </message>
+  <message id="CLI_WRONG_CHOICE">
+    <source>[OPTION] takes [WORDS], not [VALUE]</source>
+    <translation>[OPTION] nimmt [WORDS], nicht [VALUE]</translation>
+  </message>
+  <message id="CLI_WRONG_NUMBER">
+    <source>[OPTION] takes a whole number from [LEAST] to [MOST], not [VALUE]</source>
+    <translation>[OPTION] nimmt eine ganze Zahl von [LEAST] bis [MOST], nicht [VALUE]</translation>
+  </message>
+  <message id="CLI_WRONG_SIZE_TEXT">
+    <source>is no size; give width x height, each from [LEAST] to [MOST], such as 1136x640</source>
+    <translation>ist keine Größe; gebraucht wird Breite x Höhe, je von [LEAST] bis [MOST], etwa 1136x640</translation>
+  </message>
+  <message id="CLI_EMPTY_VALUE">
+    <source>[OPTION] is empty</source>
+    <translation>[OPTION] ist leer</translation>
+  </message>
+  <message id="CLI_EMPTY_WORD">
+    <source>an argument is empty</source>
+    <translation>ein Argument ist leer</translation>
+  </message>
+  <message id="CLI_UNEXPECTED">
+    <source>[WORD] is one argument too many</source>
+    <translation>[WORD] ist ein Argument zu viel</translation>
+  </message>
+  <message id="CLI_FLAG_WITH_VALUE">
+    <source>[OPTION] takes no value</source>
+    <translation>[OPTION] nimmt keinen Wert</translation>
+  </message>
+  <message id="CLI_MISSING_VALUE">
+    <source>[OPTION] lacks its value: [OPTION] [NAME]</source>
+    <translation>[OPTION] fehlt der Wert: [OPTION] [NAME]</translation>
+  </message>
+  <message id="CLI_VALUE_WITH_DASH">
+    <source>for a value that begins with a dash write [OPTION]</source>
+    <translation>für einen Wert, der mit einem Strich beginnt, [OPTION] schreiben</translation>
+  </message>
+  <message id="CLI_CHOICES">
+    <source>it takes [WORDS]</source>
+    <translation>möglich sind [WORDS]</translation>
+  </message>
+  <message id="CLI_GIVEN_TWICE">
+    <source>[OPTION] is given twice</source>
+    <translation>[OPTION] ist zweimal angegeben</translation>
+  </message>
+  <message id="CLI_CONFLICT">
+    <source>[FIRST] and [SECOND] exclude each other</source>
+    <translation>[FIRST] und [SECOND] schließen sich aus</translation>
+  </message>
+  <message id="CLI_MISSING_OPTION">
+    <source>[OPTION] is missing</source>
+    <translation>[OPTION] fehlt</translation>
+  </message>
+  <message id="CLI_NO_WINDOW">
+    <source>the window is not installed</source>
+    <translation>das Fenster ist nicht installiert</translation>
+  </message>
+  <message id="CLI_NO_WINDOW_ADVICE">
+    <source>install the package "lumora", or see "lumora help" for the commands, which work without it</source>
+    <translation>das Paket "lumora" installieren; "lumora help" nennt die Befehle, die ohne es gehen</translation>
+  </message>
+  <message id="CLI_WINDOW_FAILED">
+    <source>the window could not be started: [REASON]</source>
+    <translation>das Fenster ließ sich nicht starten: [REASON]</translation>
+  </message>
+  <message id="CLI_ICON_ONE_FILE">
+    <source>one file takes one size</source>
+    <translation>eine Datei nimmt eine Größe</translation>
+  </message>
+  <message id="CLI_ICON_ONE_FILE_ADVICE">
+    <source>use --out DIR for several</source>
+    <translation>für mehrere --out DIR nehmen</translation>
+  </message>
+  <message id="CLI_VALIDATE_ONE_ICON">
+    <source>--icon writes the icon of one file, but several are given</source>
+    <translation>--icon schreibt das Icon einer Datei, es sind aber mehrere angegeben</translation>
+  </message>
+  <message id="CLI_TERMINAL_OUTPUT">
+    <source>standard output is a terminal</source>
+    <translation>die Standardausgabe ist ein Terminal</translation>
+  </message>
+  <message id="CLI_TERMINAL_OUTPUT_ADVICE">
+    <source>send it into a file or another program</source>
+    <translation>sie in eine Datei oder ein anderes Programm leiten</translation>
+  </message>
+  <message id="CLI_NOT_FOUND">
+    <source>does not exist</source>
+    <translation>gibt es nicht</translation>
+  </message>
+  <message id="CLI_NOT_FOUND_ADVICE">
+    <source>check the path</source>
+    <translation>den Pfad prüfen</translation>
+  </message>
+  <message id="CLI_NOT_FOUND_UNDECODED">
+    <source>does not exist under a name in UTF-8</source>
+    <translation>gibt es nicht unter einem Namen in UTF-8</translation>
+  </message>
+  <message id="CLI_NOT_FOUND_UNDECODED_ADVICE">
+    <source>rename it if it is there, or check the path</source>
+    <translation>umbenennen, falls es da ist, sonst den Pfad prüfen</translation>
+  </message>
+  <message id="CLI_IS_FOLDER">
+    <source>is a folder</source>
+    <translation>ist ein Ordner</translation>
+  </message>
+  <message id="CLI_IS_FOLDER_ADVICE">
+    <source>name a file</source>
+    <translation>eine Datei angeben</translation>
+  </message>
+  <message id="CLI_NOT_A_FOLDER">
+    <source>is not a folder</source>
+    <translation>ist kein Ordner</translation>
+  </message>
+  <message id="CLI_NOT_A_FOLDER_ADVICE">
+    <source>name a folder</source>
+    <translation>einen Ordner angeben</translation>
+  </message>
+  <message id="CLI_NO_PERMISSION">
+    <source>may not be opened</source>
+    <translation>darf nicht geöffnet werden</translation>
+  </message>
+  <message id="CLI_NO_PERMISSION_ADVICE">
+    <source>change its permissions or choose another</source>
+    <translation>die Rechte ändern oder etwas anderes nehmen</translation>
+  </message>
+  <message id="CLI_NOT_A_PICTURE">
+    <source>is not a picture that can be read</source>
+    <translation>ist kein lesbares Bild</translation>
+  </message>
+  <message id="CLI_NOT_A_PICTURE_ADVICE">
+    <source>use an undamaged PNG, JPEG, TIFF, WebP, BMP, GIF or ICNS file</source>
+    <translation>eine unbeschädigte PNG-, JPEG-, TIFF-, WebP-, BMP-, GIF- oder ICNS-Datei nehmen</translation>
+  </message>
+  <message id="CLI_DOWNSCALE_FORMAT_ADVICE">
+    <source>use an undamaged PNG file</source>
+    <translation>eine unbeschädigte PNG-Datei nehmen</translation>
+  </message>
+  <message id="CLI_WRONG_SIZE">
+    <source>has the wrong size</source>
+    <translation>hat die falsche Größe</translation>
+  </message>
+  <message id="CLI_WRONG_SIZE_ADVICE">
+    <source>use a picture of exactly 1024 x 1024 pixels</source>
+    <translation>ein Bild mit genau 1024 x 1024 Pixeln nehmen</translation>
+  </message>
+  <message id="CLI_TOO_LARGE">
+    <source>is larger than what can be processed safely</source>
+    <translation>ist größer, als sich sicher verarbeiten lässt</translation>
+  </message>
+  <message id="CLI_TOO_LARGE_ADVICE">
+    <source>use a smaller file</source>
+    <translation>eine kleinere Datei nehmen</translation>
+  </message>
+  <message id="CLI_CANNOT_CREATE">
+    <source>could not be created</source>
+    <translation>ließ sich nicht anlegen</translation>
+  </message>
+  <message id="CLI_CANNOT_CREATE_ADVICE">
+    <source>check the destination's permissions and free space</source>
+    <translation>Rechte und freien Platz am Ziel prüfen</translation>
+  </message>
+  <message id="CLI_CANNOT_WRITE">
+    <source>could not be written</source>
+    <translation>ließ sich nicht schreiben</translation>
+  </message>
+  <message id="CLI_CANNOT_WRITE_ADVICE">
+    <source>check the destination's permissions and free space, then run again</source>
+    <translation>Rechte und freien Platz am Ziel prüfen, dann wiederholen</translation>
+  </message>
+  <message id="CLI_NOT_AN_ARCHIVE">
+    <source>is not a readable zip archive</source>
+    <translation>ist kein lesbares Zip-Archiv</translation>
+  </message>
+  <message id="CLI_NOT_AN_ARCHIVE_ADVICE">
+    <source>use an undamaged archive</source>
+    <translation>ein unbeschädigtes Archiv nehmen</translation>
+  </message>
+  <message id="CLI_MISSING_CONTENT">
+    <source>lacks what it has to contain</source>
+    <translation>enthält nicht, was hineingehört</translation>
+  </message>
+  <message id="CLI_MISSING_CONTENT_ADVICE">
+    <source>check how it was made</source>
+    <translation>prüfen, wie es entstanden ist</translation>
+  </message>
+  <message id="CLI_NOT_READABLE">
+    <source>could not be read</source>
+    <translation>ließ sich nicht lesen</translation>
+  </message>
+  <message id="CLI_NOT_READABLE_ADVICE">
+    <source>check that the file is undamaged</source>
+    <translation>prüfen, ob die Datei unbeschädigt ist</translation>
+  </message>
+  <message id="CLI_INVALID_VALUE">
+    <source>is not accepted</source>
+    <translation>wird nicht angenommen</translation>
+  </message>
+  <message id="CLI_INVALID_VALUE_ADVICE">
+    <source>see --help</source>
+    <translation>siehe --help</translation>
+  </message>
+  <message id="CLI_TOO_SMALL">
+    <source>is too small to be halved</source>
+    <translation>ist zu klein, um halbiert zu werden</translation>
+  </message>
+  <message id="CLI_TOO_SMALL_ADVICE">
+    <source>use a picture of at least 2 x 2 pixels</source>
+    <translation>ein Bild mit mindestens 2 x 2 Pixeln nehmen</translation>
+  </message>
+  <message id="CLI_NOT_MARKED">
+    <source>is not a .png file marked @2x or -hd</source>
+    <translation>ist keine .png-Datei mit @2x oder -hd im Namen</translation>
+  </message>
+  <message id="CLI_NOT_MARKED_ADVICE">
+    <source>rename it or leave it out</source>
+    <translation>umbenennen oder weglassen</translation>
+  </message>
+  <message id="CLI_WOULD_REPLACE">
+    <source>is one of the pictures to be scaled down</source>
+    <translation>ist eines der Bilder, die verkleinert werden sollen</translation>
+  </message>
+  <message id="CLI_WOULD_REPLACE_ADVICE">
+    <source>choose another folder, or allow it with --overwrite</source>
+    <translation>einen anderen Ordner nehmen oder es mit --overwrite erlauben</translation>
+  </message>
+  <message id="CLI_EXISTS">
+    <source>is there already</source>
+    <translation>ist schon da</translation>
+  </message>
+  <message id="CLI_EXISTS_ADVICE">
+    <source>choose another folder, or replace it with --overwrite</source>
+    <translation>einen anderen Ordner nehmen oder sie mit --overwrite ersetzen</translation>
+  </message>
+  <message id="CLI_NAME_TAKEN">
+    <source>its half has the name of another one and got a number</source>
+    <translation>seine Hälfte heißt wie eine andere und hat eine Nummer bekommen</translation>
+  </message>
+  <message id="CLI_NAME_TAKEN_ADVICE">
+    <source>rename one of the two, or keep their folders apart with --out</source>
+    <translation>eines der beiden umbenennen oder mit --out die Ordner getrennt lassen</translation>
+  </message>
+  <message id="CLI_NO_MARKED_PICTURE">
+    <source>holds no .png marked @2x or -hd</source>
+    <translation>enthält kein .png mit @2x oder -hd im Namen</translation>
+  </message>
+  <message id="CLI_NO_WORKING_FOLDER">
+    <source>the working folder has been removed</source>
+    <translation>der Arbeitsordner wurde gelöscht</translation>
+  </message>
+  <message id="CLI_MISSING_FILES">
+    <source>missing in [FOLDER]: [FILES]</source>
+    <translation>es fehlen in [FOLDER]: [FILES]</translation>
+  </message>
+  <message id="CLI_INTERRUPTED">
+    <source>interrupted; [DONE] of [TOTAL] files are whole</source>
+    <translation>unterbrochen; [DONE] von [TOTAL] Dateien sind fertig</translation>
+  </message>
+  <message id="CLI_INTERRUPTED_ADVICE">
+    <source>run it again for the rest</source>
+    <translation>für den Rest noch einmal starten</translation>
+  </message>
+  <message id="CLI_STANDARD_INPUT">
+    <source>standard input</source>
+    <translation>Standardeingabe</translation>
+  </message>
+  <message id="CLI_STANDARD_OUTPUT">
+    <source>standard output</source>
+    <translation>Standardausgabe</translation>
+  </message>
+  <message id="CLI_STANDARD_OUTPUT_ADVICE">
+    <source>check where it goes</source>
+    <translation>prüfen, wohin sie geht</translation>
+  </message>
+  <message id="CLI_DRY_EXISTS">
+    <source>exists, would be left as it is</source>
+    <translation>vorhanden, bliebe, wie es ist</translation>
+  </message>
+  <message id="CLI_DRY_REPLACES">
+    <source>exists, would be replaced</source>
+    <translation>vorhanden, würde ersetzt</translation>
+  </message>
+  <message id="CLI_NO_COLOR">
+    <source>is no colour code</source>
+    <translation>ist kein Farbcode</translation>
+  </message>
+  <message id="CLI_NO_COLOR_ADVICE">
+    <source>give three or six hexadecimal digits, with or without #, such as #abc or #34485e</source>
+    <translation>drei oder sechs hexadezimale Ziffern angeben, mit oder ohne #, etwa #abc oder #34485e</translation>
+  </message>
+  <message id="CLI_NOT_NAMED_IPA">
+    <source>the name does not end in .ipa, .app or .xcarchive</source>
+    <translation>der Name endet nicht auf .ipa, .app oder .xcarchive</translation>
+  </message>
+  <message id="CLI_NOT_NAMED_IPA_ADVICE">
+    <source>rename it so that it ends in one of these, in small letters</source>
+    <translation>so umbenennen, dass er auf eines davon endet, in Kleinbuchstaben</translation>
+  </message>
+  <message id="CLI_DAMAGED_ENTRY">
+    <source>[ENTRY] is damaged or encrypted</source>
+    <translation>[ENTRY] ist beschädigt oder verschlüsselt</translation>
+  </message>
+  <message id="CLI_DAMAGED_ENTRY_ADVICE">
+    <source>pack the app again</source>
+    <translation>die App neu packen</translation>
+  </message>
+  <message id="CLI_NO_INFO_PLIST">
+    <source>has no readable Info.plist, so nothing is known of the app</source>
+    <translation>hat keine lesbare Info.plist, also ist von der App nichts bekannt</translation>
+  </message>
+  <message id="CLI_NO_ICON">
+    <source>has no icon that can be shown, so none was written</source>
+    <translation>hat kein Icon, das sich zeigen ließe, also wurde keines geschrieben</translation>
+  </message>
+  <message id="CLI_NO_DISPLAY">
+    <source>no display to open the window on; these commands work without one: [WORDS]</source>
+    <translation>kein Bildschirm für das Fenster; ohne einen gehen diese Befehle: [WORDS]</translation>
+  </message>
 </context>
 </TS>

@@ -1199,5 +1199,532 @@
     <source>[CHECK]: not present</source>
     <translation>[CHECK]: not present</translation>
   </message>
+
+
+  <!-- The command line -->
+  <message id="CLI_OR">
+    <source>or</source>
+    <translation>or</translation>
+  </message>
+  <message id="CLI_USAGE">
+    <source>Usage</source>
+    <translation>Usage</translation>
+  </message>
+  <message id="CLI_OPTION_WORD">
+    <source>OPTION</source>
+    <translation>OPTION</translation>
+  </message>
+  <message id="CLI_PROGRAM_USAGE">
+    <source>lumora COMMAND [ARGUMENT]...</source>
+    <translation>lumora COMMAND [ARGUMENT]...</translation>
+  </message>
+  <message id="CLI_PROGRAM_ABOUT">
+    <source>Icons, placeholders, down-scaling, colour codes, devices and app package checks for people who make apps. Without a command the window opens, with the given files if there are any.</source>
+    <translation>Icons, placeholders, down-scaling, colour codes, devices and app package checks for people who make apps. Without a command the window opens, with the given files if there are any.</translation>
+  </message>
+  <message id="CLI_COMMANDS">
+    <source>Commands</source>
+    <translation>Commands</translation>
+  </message>
+  <message id="CLI_WINDOW">
+    <source>Window</source>
+    <translation>Window</translation>
+  </message>
+  <message id="CLI_OPERANDS">
+    <source>What to work on</source>
+    <translation>What to work on</translation>
+  </message>
+  <message id="CLI_OPTIONS">
+    <source>Options</source>
+    <translation>Options</translation>
+  </message>
+  <message id="CLI_OUTPUT">
+    <source>Where to write</source>
+    <translation>Where to write</translation>
+  </message>
+  <message id="CLI_GENERAL">
+    <source>General</source>
+    <translation>General</translation>
+  </message>
+  <message id="CLI_EXAMPLES">
+    <source>Examples</source>
+    <translation>Examples</translation>
+  </message>
+  <message id="CLI_TOOL">
+    <source>Open the window at one tool: [WORDS]</source>
+    <translation>Open the window at one tool: [WORDS]</translation>
+  </message>
+  <message id="CLI_JSON">
+    <source>Print the result as JSON, failures included</source>
+    <translation>Print the result as JSON, failures included</translation>
+  </message>
+  <message id="CLI_QUIET">
+    <source>Print failures only (and JSON that is asked for)</source>
+    <translation>Print failures only (and JSON that is asked for)</translation>
+  </message>
+  <message id="CLI_VERBOSE">
+    <source>Name each file on standard error, too</source>
+    <translation>Name each file on standard error, too</translation>
+  </message>
+  <message id="CLI_HELP">
+    <source>Explain the program or a command</source>
+    <translation>Explain the program or a command</translation>
+  </message>
+  <message id="CLI_VERSION">
+    <source>Print the version</source>
+    <translation>Print the version</translation>
+  </message>
+  <message id="CLI_ICONS_ABOUT">
+    <source>Write every icon of whole platforms from one picture</source>
+    <translation>Write every icon of whole platforms from one picture</translation>
+  </message>
+  <message id="CLI_ICON_ABOUT">
+    <source>Write icons of sizes of your own</source>
+    <translation>Write icons of sizes of your own</translation>
+  </message>
+  <message id="CLI_PLACEHOLDERS_ABOUT">
+    <source>Write grey pictures labelled with their size</source>
+    <translation>Write grey pictures labelled with their size</translation>
+  </message>
+  <message id="CLI_DOWNSCALE_ABOUT">
+    <source>Halve double-resolution PNG pictures</source>
+    <translation>Halve double-resolution PNG pictures</translation>
+  </message>
+  <message id="CLI_COLOR_ABOUT">
+    <source>Print a colour as code</source>
+    <translation>Print a colour as code</translation>
+  </message>
+  <message id="CLI_DEVICES_ABOUT">
+    <source>List the iPhones, iPods and iPads that can run an app</source>
+    <translation>List the iPhones, iPods and iPads that can run an app</translation>
+  </message>
+  <message id="CLI_VALIDATE_ABOUT">
+    <source>Read iOS app packages and check what is in them</source>
+    <translation>Read iOS app packages and check what is in them</translation>
+  </message>
+  <message id="CLI_ICONS_SOURCE">
+    <source>Picture of 1024 x 1024 pixels (PNG, JPEG, TIFF, WebP, BMP, GIF or ICNS), or - for standard input</source>
+    <translation>Picture of 1024 x 1024 pixels (PNG, JPEG, TIFF, WebP, BMP, GIF or ICNS), or - for standard input</translation>
+  </message>
+  <message id="CLI_EXAMPLE">
+    <source>Use the built-in picture in place of SOURCE</source>
+    <translation>Use the built-in picture in place of SOURCE</translation>
+  </message>
+  <message id="CLI_ICONS_PLATFORM">
+    <source>Platforms, separated by commas: [WORDS]</source>
+    <translation>Platforms, separated by commas: [WORDS]</translation>
+  </message>
+  <message id="CLI_ICONS_TO">
+    <source>Make a fresh folder "icons" in DIR (icons_1 where that is taken)</source>
+    <translation>Make a fresh folder "icons" in DIR (icons_1 where that is taken)</translation>
+  </message>
+  <message id="CLI_OUT">
+    <source>Write exactly into DIR: the same files on every run, other files are left alone</source>
+    <translation>Write exactly into DIR: the same files on every run, other files are left alone</translation>
+  </message>
+  <message id="CLI_ICON_SIZE">
+    <source>Edge length in pixels, [LEAST] to [MOST]; several separated by commas</source>
+    <translation>Edge length in pixels, [LEAST] to [MOST]; several separated by commas</translation>
+  </message>
+  <message id="CLI_ICON_CORNERS">
+    <source>Rounded corners: [WORDS]</source>
+    <translation>Rounded corners: [WORDS]</translation>
+  </message>
+  <message id="CLI_ICON_OUTPUT">
+    <source>Write one icon to FILE, or to standard output for -</source>
+    <translation>Write one icon to FILE, or to standard output for -</translation>
+  </message>
+  <message id="CLI_PLACEHOLDERS_SET">
+    <source>Screen sizes of iOS devices or of the Mac: [WORDS]</source>
+    <translation>Screen sizes of iOS devices or of the Mac: [WORDS]</translation>
+  </message>
+  <message id="CLI_PLACEHOLDERS_SIZE">
+    <source>Width and height, each from 1 to 9999 pixels; several separated by commas</source>
+    <translation>Width and height, each from 1 to 9999 pixels; several separated by commas</translation>
+  </message>
+  <message id="CLI_PLACEHOLDERS_TO">
+    <source>Make a fresh folder "placeholders" in DIR (placeholders_1 where that is taken)</source>
+    <translation>Make a fresh folder "placeholders" in DIR (placeholders_1 where that is taken)</translation>
+  </message>
+  <message id="CLI_DOWNSCALE_SOURCE">
+    <source>PNG files marked @2x or -hd, or folders that are searched for such files</source>
+    <translation>PNG files marked @2x or -hd, or folders that are searched for such files</translation>
+  </message>
+  <message id="CLI_DOWNSCALE_OVERWRITE">
+    <source>Replace files that are there already, the sources among them</source>
+    <translation>Replace files that are there already, the sources among them</translation>
+  </message>
+  <message id="CLI_DOWNSCALE_DRY_RUN">
+    <source>Print what would be written and mark what exists; write nothing</source>
+    <translation>Print what would be written and mark what exists; write nothing</translation>
+  </message>
+  <message id="CLI_DOWNSCALE_TO">
+    <source>Write all halves into DIR, without sub-folders</source>
+    <translation>Write all halves into DIR, without sub-folders</translation>
+  </message>
+  <message id="CLI_COLOR_TEXT">
+    <source>Three or six hexadecimal digits, with or without #</source>
+    <translation>Three or six hexadecimal digits, with or without #</translation>
+  </message>
+  <message id="CLI_COLOR_AS">
+    <source>Notation to print: [WORDS]; all prints each with its name</source>
+    <translation>Notation to print: [WORDS]; all prints each with its name</translation>
+  </message>
+  <message id="CLI_DEVICES_IOS">
+    <source>Oldest iOS version the app runs on: [WORDS]</source>
+    <translation>Oldest iOS version the app runs on: [WORDS]</translation>
+  </message>
+  <message id="CLI_DEVICES_FEATURE">
+    <source>What the app needs; several separated by commas: [WORDS]</source>
+    <translation>What the app needs; several separated by commas: [WORDS]</translation>
+  </message>
+  <message id="CLI_VALIDATE_FILE">
+    <source>App packages (.ipa, .app or .xcarchive), or - for an .ipa on standard input</source>
+    <translation>App packages (.ipa, .app or .xcarchive), or - for an .ipa on standard input</translation>
+  </message>
+  <message id="CLI_VALIDATE_ICON">
+    <source>Write the app's icon, 128 pixels square; - is standard output</source>
+    <translation>Write the app's icon, 128 pixels square; - is standard output</translation>
+  </message>
+  <message id="CLI_VALIDATE_STATUS">
+    <source>Ends with 0 when all checks are valid, 1 when one is not, 3 when a file is no archive with an app.</source>
+    <translation>Ends with 0 when all checks are valid, 1 when one is not, 3 when a file is no archive with an app.</translation>
+  </message>
+  <message id="CLI_DID_YOU_MEAN">
+    <source>did you mean [WORD]?</source>
+    <translation>did you mean [WORD]?</translation>
+  </message>
+  <message id="CLI_SEE_HELP">
+    <source>see "[COMMAND]"</source>
+    <translation>see "[COMMAND]"</translation>
+  </message>
+  <message id="CLI_UNKNOWN_OPTION">
+    <source>[OPTION] is no option</source>
+    <translation>[OPTION] is no option</translation>
+  </message>
+  <message id="CLI_UNKNOWN_COMMAND">
+    <source>[WORD] is neither a command nor a file that exists</source>
+    <translation>[WORD] is neither a command nor a file that exists</translation>
+  </message>
+  <message id="CLI_UNKNOWN_TOOL">
+    <source>--tool takes [WORDS], not [VALUE]</source>
+    <translation>--tool takes [WORDS], not [VALUE]</translation>
+  </message>
+  <message id="CLI_WRONG_CHOICE">
+    <source>[OPTION] takes [WORDS], not [VALUE]</source>
+    <translation>[OPTION] takes [WORDS], not [VALUE]</translation>
+  </message>
+  <message id="CLI_WRONG_NUMBER">
+    <source>[OPTION] takes a whole number from [LEAST] to [MOST], not [VALUE]</source>
+    <translation>[OPTION] takes a whole number from [LEAST] to [MOST], not [VALUE]</translation>
+  </message>
+  <message id="CLI_WRONG_SIZE_TEXT">
+    <source>is no size; give width x height, each from [LEAST] to [MOST], such as 1136x640</source>
+    <translation>is no size; give width x height, each from [LEAST] to [MOST], such as 1136x640</translation>
+  </message>
+  <message id="CLI_EMPTY_VALUE">
+    <source>[OPTION] is empty</source>
+    <translation>[OPTION] is empty</translation>
+  </message>
+  <message id="CLI_EMPTY_WORD">
+    <source>an argument is empty</source>
+    <translation>an argument is empty</translation>
+  </message>
+  <message id="CLI_UNEXPECTED">
+    <source>[WORD] is one argument too many</source>
+    <translation>[WORD] is one argument too many</translation>
+  </message>
+  <message id="CLI_FLAG_WITH_VALUE">
+    <source>[OPTION] takes no value</source>
+    <translation>[OPTION] takes no value</translation>
+  </message>
+  <message id="CLI_MISSING_VALUE">
+    <source>[OPTION] lacks its value: [OPTION] [NAME]</source>
+    <translation>[OPTION] lacks its value: [OPTION] [NAME]</translation>
+  </message>
+  <message id="CLI_VALUE_WITH_DASH">
+    <source>for a value that begins with a dash write [OPTION]</source>
+    <translation>for a value that begins with a dash write [OPTION]</translation>
+  </message>
+  <message id="CLI_CHOICES">
+    <source>it takes [WORDS]</source>
+    <translation>it takes [WORDS]</translation>
+  </message>
+  <message id="CLI_GIVEN_TWICE">
+    <source>[OPTION] is given twice</source>
+    <translation>[OPTION] is given twice</translation>
+  </message>
+  <message id="CLI_CONFLICT">
+    <source>[FIRST] and [SECOND] exclude each other</source>
+    <translation>[FIRST] and [SECOND] exclude each other</translation>
+  </message>
+  <message id="CLI_MISSING_OPTION">
+    <source>[OPTION] is missing</source>
+    <translation>[OPTION] is missing</translation>
+  </message>
+  <message id="CLI_NO_WINDOW">
+    <source>the window is not installed</source>
+    <translation>the window is not installed</translation>
+  </message>
+  <message id="CLI_NO_WINDOW_ADVICE">
+    <source>install the package "lumora", or see "lumora help" for the commands, which work without it</source>
+    <translation>install the package "lumora", or see "lumora help" for the commands, which work without it</translation>
+  </message>
+  <message id="CLI_WINDOW_FAILED">
+    <source>the window could not be started: [REASON]</source>
+    <translation>the window could not be started: [REASON]</translation>
+  </message>
+  <message id="CLI_ICON_ONE_FILE">
+    <source>one file takes one size</source>
+    <translation>one file takes one size</translation>
+  </message>
+  <message id="CLI_ICON_ONE_FILE_ADVICE">
+    <source>use --out DIR for several</source>
+    <translation>use --out DIR for several</translation>
+  </message>
+  <message id="CLI_VALIDATE_ONE_ICON">
+    <source>--icon writes the icon of one file, but several are given</source>
+    <translation>--icon writes the icon of one file, but several are given</translation>
+  </message>
+  <message id="CLI_TERMINAL_OUTPUT">
+    <source>standard output is a terminal</source>
+    <translation>standard output is a terminal</translation>
+  </message>
+  <message id="CLI_TERMINAL_OUTPUT_ADVICE">
+    <source>send it into a file or another program</source>
+    <translation>send it into a file or another program</translation>
+  </message>
+  <message id="CLI_NOT_FOUND">
+    <source>does not exist</source>
+    <translation>does not exist</translation>
+  </message>
+  <message id="CLI_NOT_FOUND_ADVICE">
+    <source>check the path</source>
+    <translation>check the path</translation>
+  </message>
+  <message id="CLI_NOT_FOUND_UNDECODED">
+    <source>does not exist under a name in UTF-8</source>
+    <translation>does not exist under a name in UTF-8</translation>
+  </message>
+  <message id="CLI_NOT_FOUND_UNDECODED_ADVICE">
+    <source>rename it if it is there, or check the path</source>
+    <translation>rename it if it is there, or check the path</translation>
+  </message>
+  <message id="CLI_IS_FOLDER">
+    <source>is a folder</source>
+    <translation>is a folder</translation>
+  </message>
+  <message id="CLI_IS_FOLDER_ADVICE">
+    <source>name a file</source>
+    <translation>name a file</translation>
+  </message>
+  <message id="CLI_NOT_A_FOLDER">
+    <source>is not a folder</source>
+    <translation>is not a folder</translation>
+  </message>
+  <message id="CLI_NOT_A_FOLDER_ADVICE">
+    <source>name a folder</source>
+    <translation>name a folder</translation>
+  </message>
+  <message id="CLI_NO_PERMISSION">
+    <source>may not be opened</source>
+    <translation>may not be opened</translation>
+  </message>
+  <message id="CLI_NO_PERMISSION_ADVICE">
+    <source>change its permissions or choose another</source>
+    <translation>change its permissions or choose another</translation>
+  </message>
+  <message id="CLI_NOT_A_PICTURE">
+    <source>is not a picture that can be read</source>
+    <translation>is not a picture that can be read</translation>
+  </message>
+  <message id="CLI_NOT_A_PICTURE_ADVICE">
+    <source>use an undamaged PNG, JPEG, TIFF, WebP, BMP, GIF or ICNS file</source>
+    <translation>use an undamaged PNG, JPEG, TIFF, WebP, BMP, GIF or ICNS file</translation>
+  </message>
+  <message id="CLI_DOWNSCALE_FORMAT_ADVICE">
+    <source>use an undamaged PNG file</source>
+    <translation>use an undamaged PNG file</translation>
+  </message>
+  <message id="CLI_WRONG_SIZE">
+    <source>has the wrong size</source>
+    <translation>has the wrong size</translation>
+  </message>
+  <message id="CLI_WRONG_SIZE_ADVICE">
+    <source>use a picture of exactly 1024 x 1024 pixels</source>
+    <translation>use a picture of exactly 1024 x 1024 pixels</translation>
+  </message>
+  <message id="CLI_TOO_LARGE">
+    <source>is larger than what can be processed safely</source>
+    <translation>is larger than what can be processed safely</translation>
+  </message>
+  <message id="CLI_TOO_LARGE_ADVICE">
+    <source>use a smaller file</source>
+    <translation>use a smaller file</translation>
+  </message>
+  <message id="CLI_CANNOT_CREATE">
+    <source>could not be created</source>
+    <translation>could not be created</translation>
+  </message>
+  <message id="CLI_CANNOT_CREATE_ADVICE">
+    <source>check the destination's permissions and free space</source>
+    <translation>check the destination's permissions and free space</translation>
+  </message>
+  <message id="CLI_CANNOT_WRITE">
+    <source>could not be written</source>
+    <translation>could not be written</translation>
+  </message>
+  <message id="CLI_CANNOT_WRITE_ADVICE">
+    <source>check the destination's permissions and free space, then run again</source>
+    <translation>check the destination's permissions and free space, then run again</translation>
+  </message>
+  <message id="CLI_NOT_AN_ARCHIVE">
+    <source>is not a readable zip archive</source>
+    <translation>is not a readable zip archive</translation>
+  </message>
+  <message id="CLI_NOT_AN_ARCHIVE_ADVICE">
+    <source>use an undamaged archive</source>
+    <translation>use an undamaged archive</translation>
+  </message>
+  <message id="CLI_MISSING_CONTENT">
+    <source>lacks what it has to contain</source>
+    <translation>lacks what it has to contain</translation>
+  </message>
+  <message id="CLI_MISSING_CONTENT_ADVICE">
+    <source>check how it was made</source>
+    <translation>check how it was made</translation>
+  </message>
+  <message id="CLI_NOT_READABLE">
+    <source>could not be read</source>
+    <translation>could not be read</translation>
+  </message>
+  <message id="CLI_NOT_READABLE_ADVICE">
+    <source>check that the file is undamaged</source>
+    <translation>check that the file is undamaged</translation>
+  </message>
+  <message id="CLI_INVALID_VALUE">
+    <source>is not accepted</source>
+    <translation>is not accepted</translation>
+  </message>
+  <message id="CLI_INVALID_VALUE_ADVICE">
+    <source>see --help</source>
+    <translation>see --help</translation>
+  </message>
+  <message id="CLI_TOO_SMALL">
+    <source>is too small to be halved</source>
+    <translation>is too small to be halved</translation>
+  </message>
+  <message id="CLI_TOO_SMALL_ADVICE">
+    <source>use a picture of at least 2 x 2 pixels</source>
+    <translation>use a picture of at least 2 x 2 pixels</translation>
+  </message>
+  <message id="CLI_NOT_MARKED">
+    <source>is not a .png file marked @2x or -hd</source>
+    <translation>is not a .png file marked @2x or -hd</translation>
+  </message>
+  <message id="CLI_NOT_MARKED_ADVICE">
+    <source>rename it or leave it out</source>
+    <translation>rename it or leave it out</translation>
+  </message>
+  <message id="CLI_WOULD_REPLACE">
+    <source>is one of the pictures to be scaled down</source>
+    <translation>is one of the pictures to be scaled down</translation>
+  </message>
+  <message id="CLI_WOULD_REPLACE_ADVICE">
+    <source>choose another folder, or allow it with --overwrite</source>
+    <translation>choose another folder, or allow it with --overwrite</translation>
+  </message>
+  <message id="CLI_EXISTS">
+    <source>is there already</source>
+    <translation>is there already</translation>
+  </message>
+  <message id="CLI_EXISTS_ADVICE">
+    <source>choose another folder, or replace it with --overwrite</source>
+    <translation>choose another folder, or replace it with --overwrite</translation>
+  </message>
+  <message id="CLI_NAME_TAKEN">
+    <source>its half has the name of another one and got a number</source>
+    <translation>its half has the name of another one and got a number</translation>
+  </message>
+  <message id="CLI_NAME_TAKEN_ADVICE">
+    <source>rename one of the two, or keep their folders apart with --out</source>
+    <translation>rename one of the two, or keep their folders apart with --out</translation>
+  </message>
+  <message id="CLI_NO_MARKED_PICTURE">
+    <source>holds no .png marked @2x or -hd</source>
+    <translation>holds no .png marked @2x or -hd</translation>
+  </message>
+  <message id="CLI_NO_WORKING_FOLDER">
+    <source>the working folder has been removed</source>
+    <translation>the working folder has been removed</translation>
+  </message>
+  <message id="CLI_MISSING_FILES">
+    <source>missing in [FOLDER]: [FILES]</source>
+    <translation>missing in [FOLDER]: [FILES]</translation>
+  </message>
+  <message id="CLI_INTERRUPTED">
+    <source>interrupted; [DONE] of [TOTAL] files are whole</source>
+    <translation>interrupted; [DONE] of [TOTAL] files are whole</translation>
+  </message>
+  <message id="CLI_INTERRUPTED_ADVICE">
+    <source>run it again for the rest</source>
+    <translation>run it again for the rest</translation>
+  </message>
+  <message id="CLI_STANDARD_INPUT">
+    <source>standard input</source>
+    <translation>standard input</translation>
+  </message>
+  <message id="CLI_STANDARD_OUTPUT">
+    <source>standard output</source>
+    <translation>standard output</translation>
+  </message>
+  <message id="CLI_STANDARD_OUTPUT_ADVICE">
+    <source>check where it goes</source>
+    <translation>check where it goes</translation>
+  </message>
+  <message id="CLI_DRY_EXISTS">
+    <source>exists, would be left as it is</source>
+    <translation>exists, would be left as it is</translation>
+  </message>
+  <message id="CLI_DRY_REPLACES">
+    <source>exists, would be replaced</source>
+    <translation>exists, would be replaced</translation>
+  </message>
+  <message id="CLI_NO_COLOR">
+    <source>is no colour code</source>
+    <translation>is no colour code</translation>
+  </message>
+  <message id="CLI_NO_COLOR_ADVICE">
+    <source>give three or six hexadecimal digits, with or without #, such as #abc or #34485e</source>
+    <translation>give three or six hexadecimal digits, with or without #, such as #abc or #34485e</translation>
+  </message>
+  <message id="CLI_NOT_NAMED_IPA">
+    <source>the name does not end in .ipa, .app or .xcarchive</source>
+    <translation>the name does not end in .ipa, .app or .xcarchive</translation>
+  </message>
+  <message id="CLI_NOT_NAMED_IPA_ADVICE">
+    <source>rename it so that it ends in one of these, in small letters</source>
+    <translation>rename it so that it ends in one of these, in small letters</translation>
+  </message>
+  <message id="CLI_DAMAGED_ENTRY">
+    <source>[ENTRY] is damaged or encrypted</source>
+    <translation>[ENTRY] is damaged or encrypted</translation>
+  </message>
+  <message id="CLI_DAMAGED_ENTRY_ADVICE">
+    <source>pack the app again</source>
+    <translation>pack the app again</translation>
+  </message>
+  <message id="CLI_NO_INFO_PLIST">
+    <source>has no readable Info.plist, so nothing is known of the app</source>
+    <translation>has no readable Info.plist, so nothing is known of the app</translation>
+  </message>
+  <message id="CLI_NO_ICON">
+    <source>has no icon that can be shown, so none was written</source>
+    <translation>has no icon that can be shown, so none was written</translation>
+  </message>
+  <message id="CLI_NO_DISPLAY">
+    <source>no display to open the window on; these commands work without one: [WORDS]</source>
+    <translation>no display to open the window on; these commands work without one: [WORDS]</translation>
+  </message>
 </context>
 </TS>

@@ -5,7 +5,9 @@
 
 #include <QDir>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QTest>
+#include <QUrl>
 
 #include <chrono>
 
@@ -17,6 +19,14 @@ class BusApplicationTest : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase()
+    {
+        for (const QString &name : {u"b.ipa"_s, u"--fast"_s}) {
+            QFile file(here() + u'/' + name);
+            QVERIFY(file.open(QIODevice::WriteOnly));
+        }
+    }
+
     void objectPath_data()
     {
         QTest::addColumn<QString>("id");
@@ -82,29 +92,45 @@ private slots:
         QTest::addColumn<bool>("accepted");
         QTest::addColumn<QString>("tool");
         QTest::addColumn<QStringList>("files");
-        const QString here = QDir::currentPath();
         QTest::newRow("none") << QStringList() << true << QString() << QStringList();
-        QTest::newRow("files, relative ones made absolute") << QStringList{u"/a.png"_s, u"b.ipa"_s} << true << QString()
-                                                            << QStringList{u"/a.png"_s, QString(here + u"/b.ipa"_s)};
+        QTest::newRow("files, relative ones made absolute")
+            << QStringList{QDir::tempPath(), u"b.ipa"_s} << true << QString()
+            << QStringList{QDir::tempPath(), QString(here() + u"/b.ipa"_s)};
+        QTest::newRow("an address of a file") << QStringList{QUrl::fromLocalFile(here() + u"/b.ipa"_s).toString()}
+                                              << true << QString() << QStringList{QString(here() + u"/b.ipa"_s)};
+        QTest::newRow("a file there is not") << QStringList{u"c.ipa"_s} << false << QString() << QStringList();
+        QTest::newRow("an empty argument") << QStringList{u""_s} << false << QString() << QStringList();
         QTest::newRow("a tool") << QStringList{u"--tool=icons"_s} << true << u"icons"_s << QStringList();
+        QTest::newRow("a tool behind a blank")
+            << QStringList{u"--tool"_s, u"devices"_s} << true << u"devices"_s << QStringList();
+        QTest::newRow("a tool by its command")
+            << QStringList{u"--tool=downscale"_s} << true << u"resizer"_s << QStringList();
+        QTest::newRow("no tool behind the option") << QStringList{u"--tool"_s} << false << QString() << QStringList();
         QTest::newRow("a tool there is not") << QStringList{u"--tool=toaster"_s} << false << QString() << QStringList();
         QTest::newRow("an option there is not") << QStringList{u"--fast"_s} << false << QString() << QStringList();
         QTest::newRow("after two hyphens all are files")
-            << QStringList{u"--"_s, u"--fast"_s} << true << QString() << QStringList{QString(here + u"/--fast"_s)};
+            << QStringList{u"--"_s, u"--fast"_s} << true << QString() << QStringList{QString(here() + u"/--fast"_s)};
     }
     void arguments()
     {
         QFETCH(QStringList, arguments);
         QFETCH(bool, accepted);
-        const Result<OpenRequest> request = parseWindowArguments(arguments);
-        QCOMPARE(request.ok(), accepted);
-        if (!accepted) {
-            QCOMPARE(request.failure().subject, arguments.last());
+        const QDir before = QDir::current();
+        QVERIFY(QDir::setCurrent(here()));
+        const std::variant<OpenRequest, Complaint> parsed = parseWindowArguments(arguments);
+        QVERIFY(QDir::setCurrent(before.path()));
+        QCOMPARE(std::holds_alternative<OpenRequest>(parsed), accepted);
+        if (!accepted)
             return;
-        }
-        QTEST(request.value().tool, "tool");
-        QTEST(request.value().files, "files");
+        QTEST(std::get<OpenRequest>(parsed).tool, "tool");
+        QTEST(std::get<OpenRequest>(parsed).files, "files");
     }
+
+private:
+    /// The working folder of the arguments; it holds b.ipa and --fast.
+    QString here() const { return QFileInfo(m_folder.path()).canonicalFilePath(); }
+
+    QTemporaryDir m_folder;
 };
 
 QTEST_MAIN(BusApplicationTest)

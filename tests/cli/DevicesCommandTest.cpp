@@ -56,7 +56,7 @@ private slots:
         const LumoraRun run = runLumora({u"devices"_s, u"--json"_s, u"--feature"_s, u"gps"_s, u"--ios"_s, u"4"_s});
         QCOMPARE(run.status, 0);
         const QJsonObject json = run.json();
-        QCOMPARE(json.keys(), (QStringList{u"ipads"_s, u"iphones"_s, u"ipods"_s, u"schema"_s}));
+        QCOMPARE(json.keys(), (QStringList{u"errors"_s, u"ipads"_s, u"iphones"_s, u"ipods"_s, u"ok"_s, u"schema"_s}));
         QCOMPARE(json[u"schema"_s].toInt(), 1);
         QCOMPARE(json[u"iphones"_s].toArray().size(), 7);
         QVERIFY(json[u"ipods"_s].isArray());
@@ -84,6 +84,8 @@ private slots:
         QTest::newRow("the version is no feature") << QStringList{u"--feature"_s, u"max_ios"_s};
         QTest::newRow("an unknown version") << QStringList{u"--ios"_s, u"8"_s};
         QTest::newRow("a version that is no number") << QStringList{u"--ios"_s, u"seven"_s};
+        QTest::newRow("an empty version") << QStringList{u"--ios"_s, u""_s};
+        QTest::newRow("a version with a point") << QStringList{u"--ios"_s, u"7.0"_s};
         QTest::newRow("a value where none belongs") << QStringList{u"7"_s};
     }
     void refusesAWrongCall()

@@ -46,6 +46,8 @@ private slots:
         QCOMPARE(
             run.json(),
             (QJsonObject{{u"schema"_s, 1},
+                         {u"ok"_s, true},
+                         {u"errors"_s, QJsonArray()},
                          {u"files"_s, QJsonArray{QJsonObject{{u"source"_s, at(u"b@2x.png"_s)},
                                                              {u"path"_s, at(u"out/b.png"_s)},
                                                              {u"width"_s, 20},
@@ -149,13 +151,58 @@ private slots:
                      run.err.constData());
     }
 
-    void sharedNamesAreTold()
+    void whatIsThereStays_data()
     {
-        put({u"art/a@2x.png"_s, u"art/a-hd.png"_s});
+        QTest::addColumn<QStringList>("options");
+        QTest::addColumn<int>("status");
+        QTest::addColumn<bool>("replaced");
+        QTest::addColumn<QString>("marked");
+        QTest::newRow("left as it is") << QStringList{} << 1 << false << QString();
+        QTest::newRow("allowed to go") << QStringList{u"--overwrite"_s} << 0 << true << QString();
+        QTest::newRow("foreseen") << QStringList{u"--dry-run"_s} << 1 << false << u"a.png (exists, would be left"_s;
+        QTest::newRow("foreseen to go") << QStringList{u"--dry-run"_s, u"--overwrite"_s} << 0 << false
+                                        << u"a.png (exists, would be replaced)"_s;
+    }
+    void whatIsThereStays()
+    {
+        QFETCH(QStringList, options);
+        QFETCH(int, status);
+        QFETCH(bool, replaced);
+        QFETCH(QString, marked);
+        put({u"a@2x.png"_s, u"b@2x.png"_s});
+        QVERIFY(putFile(at(u"out/a.png"_s), "mine"));
+        const LumoraRun run = downscale(QStringList{at(u"a@2x.png"_s), at(u"b@2x.png"_s)} + options);
+        QCOMPARE(run.status, status);
+        QCOMPARE(contentOfFile(at(u"out/a.png"_s)) != "mine", replaced);
+        QCOMPARE(QFile::exists(at(u"out/b.png"_s)), !options.contains(u"--dry-run"_s));
+        QCOMPARE(run.err.contains("out/a.png: is there already"), status == 1);
+        QVERIFY2(run.out.contains(marked.toUtf8()), run.out.constData());
+    }
+
+    void treesKeepTheirFolders()
+    {
+        put({u"art/z@2x.png"_s, u"art/x/y/c-hd.png"_s, u"art/x/c@2x.png"_s, u"b@2x.png"_s});
+        const QStringList arguments{u"downscale"_s, at(u"art"_s), at(u"b@2x.png"_s), u"--out"_s, at(u"art/half"_s)};
+        QCOMPARE(runLumora(arguments).status, 0);
+        const QStringList tree{u"b.png"_s, u"x/c.png"_s, u"x/y/c.png"_s, u"z.png"_s};
+        QCOMPARE(filesBelowFolder(at(u"art/half"_s)), tree);
+        // The same tree once more, and none of it taken for a source.
+        QCOMPARE(runLumora(arguments + QStringList{u"--overwrite"_s}).status, 0);
+        QCOMPARE(filesBelowFolder(at(u"art/half"_s)), tree);
+    }
+
+    void ofTwoHalvesOfOneNameNeitherIsLost()
+    {
+        put({u"art/a-hd.png"_s});
+        QVERIFY(putFile(at(u"art/a@2x.png"_s), pictureFile(testPicture(20, 20))));
         const LumoraRun run = downscale({at(u"art"_s)});
-        QCOMPARE(run.status, 0);
+        QCOMPARE(run.status, 1);
         QCOMPARE(run.complaints().size(), 1);
-        QVERIFY2(run.err.contains("a@2x.png: replaces the half of"), run.err.constData());
+        QVERIFY2(run.err.contains("a@2x.png: its half has the name of another one"), run.err.constData());
+        // The first keeps the name, and the other one is there as well.
+        QCOMPARE(filesBelowFolder(at(u"out"_s)), (QStringList{u"a.png"_s, u"a_1.png"_s}));
+        QCOMPARE(QImage(at(u"out/a.png"_s)).size(), QSize(20, 15));
+        QCOMPARE(QImage(at(u"out/a_1.png"_s)).size(), QSize(10, 10));
     }
 
     void wrongUsage_data()

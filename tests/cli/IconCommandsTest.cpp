@@ -37,6 +37,10 @@ private slots:
     void helpAndVersion();
     void customIcon_data();
     void customIcon();
+    void sizesAndPlaces_data();
+    void sizesAndPlaces();
+    void toStandardOutput();
+    void exactPlace();
     void standardInput();
     void relativePaths();
     void takenNames();
@@ -68,7 +72,7 @@ void IconCommandsTest::init()
 
 void IconCommandsTest::everyPlatformOfTheBuiltInPicture()
 {
-    const LumoraRun run = runLumora({u"icons"_s, u"--platform"_s, u"all"_s, u"--to"_s, at(u"out"_s)});
+    const LumoraRun run = runLumora({u"icons"_s, u"--example"_s, u"--platform"_s, u"all"_s, u"--to"_s, at(u"out"_s)});
     QCOMPARE(run.err, QByteArray());
     QCOMPARE(run.status, 0);
     QCOMPARE(run.lastLine(), at(u"out/icons"_s));
@@ -99,7 +103,7 @@ void IconCommandsTest::json()
         runLumora({u"icons"_s, at(u"my.png"_s), u"--platform"_s, u"all"_s, u"--to"_s, at(u"out"_s), u"--json"_s});
     QCOMPARE(run.status, 0);
     const QJsonObject result = run.json();
-    QCOMPARE(result.keys(), (QStringList{u"files"_s, u"folder"_s, u"icns"_s}));
+    QCOMPARE(result.keys(), (QStringList{u"errors"_s, u"files"_s, u"folder"_s, u"icns"_s, u"ok"_s, u"schema"_s}));
     QCOMPARE(result[u"folder"_s].toString(), at(u"out/icons"_s));
     QCOMPARE(result[u"icns"_s].toString(), at(u"out/icons/Mac/icons.icns"_s));
     const QJsonArray files = result[u"files"_s].toArray();
@@ -114,7 +118,8 @@ void IconCommandsTest::json()
 
 void IconCommandsTest::jsonWithoutMac()
 {
-    const LumoraRun run = runLumora({u"icons"_s, u"--platform"_s, u"favicon"_s, u"--to"_s, at(u"out"_s), u"--json"_s});
+    const LumoraRun run =
+        runLumora({u"icons"_s, u"--example"_s, u"--platform"_s, u"favicon"_s, u"--to"_s, at(u"out"_s), u"--json"_s});
     QVERIFY(run.json().contains(u"icns"_s));
     QVERIFY(run.json()[u"icns"_s].isNull());
 }
@@ -125,6 +130,7 @@ void IconCommandsTest::platformList_data()
     QTest::addColumn<QStringList>("folders");
     const QStringList phones{u"iPad"_s, u"iPhone"_s};
     QTest::newRow("two") << QStringList{u"--platform"_s, u"iphone,ipad"_s} << phones;
+    QTest::newRow("with a blank") << QStringList{u"--platform"_s, u"iphone, ipad"_s} << phones;
     QTest::newRow("in another order") << QStringList{u"--platform"_s, u"ipad,iphone"_s} << phones;
     QTest::newRow("given twice") << QStringList{u"--platform"_s, u"ipad"_s, u"--platform"_s, u"iphone"_s} << phones;
     QTest::newRow("joined by =") << QStringList{u"--platform=web-touch"_s} << QStringList{u"Web Touch"_s};
@@ -136,7 +142,7 @@ void IconCommandsTest::platformList_data()
 void IconCommandsTest::platformList()
 {
     QFETCH(QStringList, arguments);
-    const LumoraRun run = runLumora(QStringList{u"icons"_s, u"--to"_s, at(u"out"_s)} + arguments);
+    const LumoraRun run = runLumora(QStringList{u"icons"_s, u"--example"_s, u"--to"_s, at(u"out"_s)} + arguments);
     QCOMPARE(run.status, 0);
     QStringList folders = QDir(at(u"out/icons"_s)).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
     folders.sort();
@@ -147,21 +153,37 @@ void IconCommandsTest::wrongUsage_data()
 {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QString>("named");
-    QTest::newRow("no platform") << QStringList{u"icons"_s, u"--to"_s, u"out"_s} << u"--platform"_s;
-    QTest::newRow("no destination") << QStringList{u"icons"_s, u"--platform"_s, u"all"_s} << u"--to"_s;
-    QTest::newRow("unknown platform") << QStringList{u"icons"_s, u"--platform"_s, u"palm"_s, u"--to"_s, u"out"_s}
-                                      << u"web-touch"_s;
-    QTest::newRow("empty platform") << QStringList{u"icons"_s, u"--platform"_s, u""_s, u"--to"_s, u"out"_s}
-                                    << u"--platform"_s;
+    const QStringList icons{u"icons"_s, u"my.png"_s, u"--to"_s, u"out"_s};
+    QTest::newRow("no platform") << icons << u"--platform"_s;
+    QTest::newRow("no source") << QStringList{u"icons"_s, u"--platform"_s, u"all"_s, u"--to"_s, u"out"_s}
+                               << u"SOURCE or --example"_s;
+    QTest::newRow("an empty source") << QStringList{u"icons"_s, u""_s, u"--platform"_s, u"all"_s, u"--to"_s, u"out"_s}
+                                     << u"SOURCE is empty"_s;
+    QTest::newRow("a source and the example")
+        << icons + QStringList{u"--example"_s, u"--platform"_s, u"all"_s} << u"--example"_s;
+    QTest::newRow("no destination") << QStringList{u"icons"_s, u"my.png"_s, u"--platform"_s, u"all"_s} << u"--to"_s;
+    QTest::newRow("an empty destination")
+        << QStringList{u"icons"_s, u"my.png"_s, u"--platform"_s, u"all"_s, u"--to"_s, u""_s} << u"--to is empty"_s;
+    QTest::newRow("both destinations") << icons + QStringList{u"--platform"_s, u"all"_s, u"--out"_s, u"out"_s}
+                                       << u"--out"_s;
+    QTest::newRow("unknown platform") << icons + QStringList{u"--platform"_s, u"palm"_s} << u"web-touch"_s;
+    QTest::newRow("a mistyped platform") << icons + QStringList{u"--platform"_s, u"iphnoe"_s}
+                                         << u"did you mean iphone?"_s;
+    QTest::newRow("empty platform") << icons + QStringList{u"--platform"_s, u""_s} << u"--platform"_s;
+    QTest::newRow("an empty one of two") << icons + QStringList{u"--platform"_s, u"ipad,"_s} << u"--platform"_s;
+    QTest::newRow("several sizes for one file")
+        << QStringList{u"icon"_s, u"my.png"_s, u"--size"_s, u"16,32"_s, u"-o"_s, u"out/a.png"_s} << u"--out"_s;
+    QTest::newRow("a picture and JSON on one output")
+        << QStringList{u"icon"_s, u"my.png"_s, u"--size"_s, u"16"_s, u"-o"_s, u"-"_s, u"--json"_s} << u"--json"_s;
     QTest::newRow("unknown option") << QStringList{u"icons"_s, u"--platform"_s, u"all"_s, u"--to"_s, u"out"_s, u"--x"_s}
                                     << u"--x"_s;
     QTest::newRow("two sources") << QStringList{u"icons"_s, u"a"_s,    u"b"_s,  u"--platform"_s,
                                                 u"all"_s,   u"--to"_s, u"out"_s}
                                  << u"b"_s;
-    QTest::newRow("no size") << QStringList{u"icon"_s, u"--to"_s, u"out"_s} << u"--size"_s;
-    QTest::newRow("unknown corners") << QStringList{u"icon"_s, u"--size"_s, u"10"_s, u"--corners"_s,
-                                                    u"ios8"_s, u"--to"_s,   u"out"_s}
-                                     << u"ios7"_s;
+    QTest::newRow("no size") << QStringList{u"icon"_s, u"my.png"_s, u"--to"_s, u"out"_s} << u"--size"_s;
+    QTest::newRow("unknown corners") << QStringList{u"icon"_s,      u"my.png"_s, u"--size"_s, u"10"_s,
+                                                    u"--corners"_s, u"ios8"_s,   u"--to"_s,   u"out"_s}
+                                     << u"lumora icon: --corners takes none, ios6 or ios7, not \"ios8\""_s;
 }
 
 void IconCommandsTest::wrongUsage()
@@ -170,7 +192,8 @@ void IconCommandsTest::wrongUsage()
     QFETCH(QString, named);
     const LumoraRun run = LumoraProcess().in(m_folder->path()).run(arguments);
     QCOMPARE(run.status, 2);
-    QCOMPARE(run.out, QByteArray());
+    QCOMPARE(run.out.isEmpty(), !arguments.contains(u"--json"_s));
+    QCOMPARE(run.complaints().size(), 1);
     QVERIFY2(run.err.contains(named.toUtf8()), run.err.constData());
     QVERIFY(nothingWritten());
 }
@@ -180,6 +203,12 @@ void IconCommandsTest::helpAndVersion_data()
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QString>("said");
     QTest::newRow("--version") << QStringList{u"--version"_s} << u"lumora "_s;
+    QTest::newRow("-V") << QStringList{u"-V"_s} << u"lumora "_s;
+    QTest::newRow("version") << QStringList{u"version"_s} << u"lumora "_s;
+    QTest::newRow("icons --version") << QStringList{u"icons"_s, u"--version"_s} << u"lumora "_s;
+    QTest::newRow("help") << QStringList{u"help"_s} << u"icons"_s;
+    QTest::newRow("help of a command") << QStringList{u"help"_s, u"icon"_s} << u"--corners"_s;
+    QTest::newRow("help of a tool") << QStringList{u"help"_s, u"resizer"_s} << u"--dry-run"_s;
     QTest::newRow("--help") << QStringList{u"--help"_s} << u"icons"_s;
     QTest::newRow("icons --help") << QStringList{u"icons"_s, u"--help"_s} << u"--platform"_s;
     QTest::newRow("icon --help") << QStringList{u"icon"_s, u"--help"_s} << u"--corners"_s;
@@ -222,6 +251,60 @@ void IconCommandsTest::customIcon()
     QCOMPARE(qAlpha(QImage(path).pixel(99, 99)), cornerAlpha);
 }
 
+void IconCommandsTest::sizesAndPlaces_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QStringList>("files");
+    QTest::newRow("a list in a fresh folder")
+        << QStringList{u"--size"_s, u"16,32, 64"_s, u"--to"_s, u"out"_s}
+        << QStringList{u"icons/Custom/icon_16x16.png"_s, u"icons/Custom/icon_32x32.png"_s,
+                       u"icons/Custom/icon_64x64.png"_s};
+    QTest::newRow("a list in a folder") << QStringList{u"--size=16"_s, u"--size=32"_s, u"--out"_s, u"out/a/b"_s}
+                                        << QStringList{u"a/b/icon_16x16.png"_s, u"a/b/icon_32x32.png"_s};
+    QTest::newRow("a file") << QStringList{u"--size"_s, u"16"_s, u"-o"_s, u"out/my icon"_s}
+                            << QStringList{u"my icon"_s};
+    QTest::newRow("a folder that is to be made") << QStringList{u"--size"_s, u"16"_s, u"--to"_s, u"out/a/b"_s}
+                                                 << QStringList{u"a/b/icons/Custom/icon_16x16.png"_s};
+}
+
+void IconCommandsTest::sizesAndPlaces()
+{
+    QFETCH(QStringList, arguments);
+    const LumoraProcess process = LumoraProcess().in(m_folder->path());
+    const LumoraRun run = process.run(QStringList{u"icon"_s, u"my.png"_s} + arguments);
+    QCOMPARE(run.err, QByteArray());
+    QCOMPARE(run.status, 0);
+    QTEST(filesBelowFolder(at(u"out"_s)), "files");
+}
+
+void IconCommandsTest::toStandardOutput()
+{
+    const LumoraRun run = runLumora({u"icon"_s, at(u"my.png"_s), u"--size"_s, u"48"_s, u"-o"_s, u"-"_s});
+    QCOMPARE(run.err, QByteArray());
+    QCOMPARE(run.status, 0);
+    QVERIFY(nothingWritten());
+    QCOMPARE(runLumora({u"icon"_s, at(u"my.png"_s), u"--size=48"_s, u"-o"_s, at(u"out/a.png"_s)}).status, 0);
+    QCOMPARE(run.out, contentOfFile(at(u"out/a.png"_s)));
+}
+
+void IconCommandsTest::exactPlace()
+{
+    const QStringList arguments{u"icons"_s, at(u"my.png"_s),  u"--platform"_s, u"mac,favicon"_s,
+                                u"--out"_s, at(u"out/res"_s), u"--json"_s};
+    const LumoraRun first = runLumora(arguments);
+    QCOMPARE(first.status, 0);
+    QCOMPARE(first.json()[u"folder"_s].toString(), at(u"out/res"_s));
+    const QStringList tree = filesBelowFolder(at(u"out/res"_s));
+    QCOMPARE(tree.size(), 16);
+    QVERIFY(tree.contains(u"Mac/icons.icns"_s) && tree.contains(u"Favicon/favicon-16.png"_s));
+    QVERIFY(putFile(at(u"out/res/mine.txt"_s), "mine"));
+    QVERIFY(putFile(at(u"out/res/Favicon/favicon-16.png"_s), "old"));
+    QCOMPARE(runLumora(arguments).status, 0);
+    QCOMPARE(filesBelowFolder(at(u"out/res"_s)).size(), 17);
+    QCOMPARE(contentOfFile(at(u"out/res/mine.txt"_s)), QByteArray("mine"));
+    QCOMPARE(QImage(at(u"out/res/Favicon/favicon-16.png"_s)).size(), QSize(16, 16));
+}
+
 void IconCommandsTest::standardInput()
 {
     const LumoraRun run = LumoraProcess().withInput(m_picture).run(
@@ -237,6 +320,8 @@ void IconCommandsTest::standardInput()
 
 void IconCommandsTest::relativePaths()
 {
+    // Neither a folder nor a file of that name takes a command's place.
+    QVERIFY(QDir(m_folder->path()).mkdir(u"icons"_s));
     const LumoraRun run = LumoraProcess()
                               .in(m_folder->path())
                               .run({u"icons"_s, u"my.png"_s, u"--platform"_s, u"favicon"_s, u"--to"_s, u"out"_s});
@@ -249,7 +334,8 @@ void IconCommandsTest::takenNames()
     QVERIFY(putFile(at(u"out/icons"_s), "mine"));
     QVERIFY(QDir(at(u"out"_s)).mkdir(u"icons_1"_s));
     QVERIFY(QFile::link(at(u"nowhere"_s), at(u"out/icons_2"_s)));
-    const LumoraRun run = runLumora({u"icons"_s, u"--platform"_s, u"favicon"_s, u"--to"_s, at(u"out"_s)});
+    const LumoraRun run =
+        runLumora({u"icons"_s, u"--example"_s, u"--platform"_s, u"favicon"_s, u"--to"_s, at(u"out"_s)});
     QCOMPARE(run.status, 0);
     QCOMPARE(run.lastLine(), at(u"out/icons_3"_s));
     QCOMPARE(contentOfFile(at(u"out/icons"_s)), QByteArray("mine"));

@@ -64,6 +64,8 @@ private slots:
         const QJsonObject none{{u"valid"_s, true}, {u"missing"_s, QJsonArray()}};
         QCOMPARE(runLumora({u"validate"_s, u"--json"_s, package(u"valid"_s)}).json(),
                  (QJsonObject{{u"schema"_s, 1},
+                              {u"ok"_s, true},
+                              {u"errors"_s, QJsonArray()},
                               {u"file"_s, package(u"valid"_s)},
                               {u"name"_s, u"Demo"_s},
                               {u"version"_s, u"1.2.3"_s},
@@ -104,7 +106,7 @@ private slots:
     void standsInForAnUnreadableFileInJson()
     {
         const QJsonObject report = runLumora({u"validate"_s, u"--json"_s, package(u"no app"_s)}).json();
-        QCOMPARE(report.keys(), (QStringList{u"error"_s, u"file"_s, u"schema"_s}));
+        QCOMPARE(report.keys(), (QStringList{u"error"_s, u"errors"_s, u"file"_s, u"ok"_s, u"schema"_s}));
         QCOMPARE(report[u"file"], QJsonValue(package(u"no app"_s)));
     }
 

@@ -41,8 +41,8 @@ class UndecodableNames(unittest.TestCase):
         self.assertEqual(self.written(), [])
 
     def test_a_destination_is_refused(self):
-        self.refused("icons", "--platform", "favicon", "--to", FOLDER)
-        self.refused("icon", "--size", "16", "--to", FOLDER)
+        self.refused("icons", "--example", "--platform", "favicon", "--to", FOLDER)
+        self.refused("icon", "--example", "--size", "16", "--to", FOLDER)
         self.refused("placeholders", "--set", "mac", "--to", FOLDER)
         self.refused("downscale", "good@2x.png", "--to", FOLDER)
         self.assertEqual(self.written(), [])

@@ -200,7 +200,7 @@ class FreshRoot(unittest.TestCase):
         self.assertIn("iPhone", self.lumora("devices"))
 
     def test_2_every_icon_is_written(self):
-        self.lumora("icons", "--platform", "all", "--to", self.work("."))
+        self.lumora("icons", "--example", "--platform", "all", "--to", self.work("."))
         written = [path for path in (self.root.folder / "scratch/icons").rglob("*") if path.is_file()]
         # The catalogue's 51, and the Mac icon file.
         self.assertEqual(len(written), 52)

@@ -24,4 +24,10 @@ Result<std::unique_ptr<PackageSource>> openPackage(const QString &path, const Ex
     return Failure{FailureCode::NotAnArchive, path, u"the name does not end in .ipa, .app or .xcarchive"_s};
 }
 
+bool hasPackageName(const QString &path)
+{
+    const QString name = QDir::cleanPath(path);
+    return name.endsWith(u".ipa") || name.endsWith(u".app") || name.endsWith(u".xcarchive");
+}
+
 } // namespace lumora

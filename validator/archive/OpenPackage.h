@@ -10,4 +10,7 @@ namespace lumora
 /// any other name.
 Result<std::unique_ptr<PackageSource>> openPackage(const QString &path, const ExtractionLimits &limits = {});
 
+/// True for the names that `openPackage` looks into.
+bool hasPackageName(const QString &path);
+
 } // namespace lumora

@@ -1,0 +1,128 @@
+# SPDX-License-Identifier: MIT
+"""usage: test_json_schemas.py LUMORA SCHEMAS PACKAGES   Every command's JSON, of success, failure and misuse, is what its schema
+says: of that form, without a key that the schema does not describe, and `ok` exactly when the exit status is 0."""
+import json
+import subprocess
+import sys
+import tempfile
+import unittest
+from pathlib import Path
+
+import jsonschema
+
+LUMORA, SCHEMAS, MAKE_PACKAGES = (Path(argument).resolve() for argument in sys.argv[1:4])
+
+# Schema, arguments and the exit status.
+CALLS = {
+    "icons": ("icons", ["icons", "icon.png", "--platform", "mac,favicon", "--out", "a"], 0),
+    "icons in a fresh folder": ("icons", ["icons", "--example", "--platform", "web-touch", "--to", "b"], 0),
+    "icons of no picture": ("icons", ["icons", "notes.txt", "--platform", "all", "--to", "b"], 1),
+    "icons of a missing picture": ("icons", ["icons", "none.png", "--platform", "all", "--to", "b"], 1),
+    "icons where a folder cannot be": ("icons", ["icons", "icon.png", "--platform", "all", "--out", "notes.txt/x"], 1),
+    "icons some of which cannot be": ("icons", ["icons", "icon.png", "--platform", "favicon,ipad", "--out", "blocked"], 1),
+    "icons without a source": ("icons", ["icons", "--platform", "all", "--to", "b"], 2),
+    "icons of an unknown platform": ("icons", ["icons", "icon.png", "--platform", "palm", "--to", "b"], 2),
+    "icons by an unknown option": ("icons", ["icons", "--json", "--plaform"], 2),
+    "icon": ("icons", ["icon", "icon.png", "--size", "16,32", "--out", "c"], 0),
+    "icon to a file": ("icons", ["icon", "icon.png", "--size", "16", "-o", "c.png"], 0),
+    "icon to a folder's name": ("icons", ["icon", "icon.png", "--size", "16", "-o", "marked"], 1),
+    "icon out of range": ("icons", ["icon", "icon.png", "--size", "1025", "--out", "c"], 1),
+    "icon of no size": ("icons", ["icon", "icon.png", "--size", "180.5", "--out", "c"], 2),
+    "placeholders": ("placeholders", ["placeholders", "--set", "mac", "--to", "d"], 0),
+    "placeholders of sizes": ("placeholders", ["placeholders", "--size", "3x4,5x6", "--out", "d"], 0),
+    "placeholders out of range": ("placeholders", ["placeholders", "--size", "10000x1", "--out", "d"], 1),
+    "placeholders of no size": ("placeholders", ["placeholders", "--size", "0x7", "--out", "d"], 2),
+    "downscale": ("downscale", ["downscale", "marked", "--out", "e"], 0),
+    "downscale once more": ("downscale", ["downscale", "marked", "--out", "e"], 1),
+    "downscale foreseen": ("downscale", ["downscale", "marked", "--out", "e", "--overwrite", "--dry-run"], 0),
+    "downscale of nothing": ("downscale", ["downscale", "empty", "icon.png", "--out", "e"], 1),
+    "downscale without a place": ("downscale", ["downscale", "marked"], 2),
+    "color": ("color", ["color", "#abc"], 0),
+    "color in one notation": ("color", ["color", "34485e", "--as", "css"], 0),
+    "no color": ("color", ["color", "1z2z3z"], 1),
+    "color in no notation": ("color", ["color", "abc", "--as", "java"], 2),
+    "devices": ("devices", ["devices"], 0),
+    "devices by features": ("devices", ["devices", "--ios", "7", "--feature", "siri,gps"], 0),
+    "devices of no version": ("devices", ["devices", "--ios", "7.0"], 2),
+    "validate": ("validate", ["validate", "packages/valid.ipa"], 0),
+    "validate with faults": ("validate", ["validate", "packages/logo.ipa"], 1),
+    "validate what is damaged": ("validate", ["validate", "packages/encrypted.ipa"], 1),
+    "validate what is none": ("validate", ["validate", "packages/no app.ipa"], 3),
+    "validate several": ("validate", ["validate", "packages/valid.ipa", "packages/logo.ipa", "none.ipa"], 3),
+    "validate another name": ("validate", ["validate", "notes.txt"], 3),
+    "validate nothing": ("validate", ["validate"], 2),
+}
+
+
+def described_keys(schema, root, found=None):
+    """The names of all keys that the schema describes, wherever they stand."""
+    found = set() if found is None else found
+    if isinstance(schema, dict):
+        found.update(schema.get("properties", {}))
+        for part in schema.values():
+            described_keys(part, root, found)
+    elif isinstance(schema, list):
+        for part in schema:
+            described_keys(part, root, found)
+    return found
+
+
+def keys_of(value):
+    if isinstance(value, dict):
+        for key, part in value.items():
+            yield key
+            yield from keys_of(part)
+    elif isinstance(value, list):
+        for part in value:
+            yield from keys_of(part)
+
+
+class JsonContract(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.scratch = tempfile.TemporaryDirectory()
+        cls.addClassCleanup(cls.scratch.cleanup)
+        folder = Path(cls.scratch.name)
+        (folder / "notes.txt").write_text("notes")
+        for name in ("marked/sub", "empty", "blocked"):
+            (folder / name).mkdir(parents=True)
+        # A file in the place of a folder that is to be made.
+        (folder / "blocked/iPad").write_text("mine")
+        for name, size in (("icon.png", "1024x1024"), ("marked/a@2x.png", "8x6"), ("marked/sub/b-hd.png", "8x6")):
+            subprocess.run(["convert", "-size", size, "xc:tomato", folder / name], check=True)
+        (folder / "packages").mkdir()
+        subprocess.run([sys.executable, MAKE_PACKAGES, folder / "packages"], check=True, capture_output=True)
+
+    def test_each_schema_is_one(self):
+        files = sorted(SCHEMAS.glob("*.schema.json"))
+        self.assertTrue(files)
+        for file in files:
+            with self.subTest(file.name):
+                jsonschema.Draft202012Validator.check_schema(json.loads(file.read_text()))
+        self.assertEqual({file.name.split(".")[0] for file in files}, {schema for schema, _, _ in CALLS.values()})
+
+    def test_each_call(self):
+        for name, (schema_name, arguments, status) in CALLS.items():
+            for language in ("C.UTF-8", "de_DE.UTF-8"):
+                # What a run wrote, the same run in another language meets.
+                if language == "de_DE.UTF-8" and schema_name == "downscale" and status == 0 and "--dry-run" not in arguments:
+                    continue
+                with self.subTest(name, language=language):
+                    self.check(schema_name, arguments, status, language)
+
+    def check(self, schema_name, arguments, status, language):
+        schema = json.loads((SCHEMAS / f"{schema_name}.schema.json").read_text())
+        ended = subprocess.run([LUMORA, *arguments, "--json"], cwd=self.scratch.name, capture_output=True, timeout=120,
+                               env={"PATH": "/usr/bin:/bin", "LC_ALL": language})
+        self.assertEqual(ended.returncode, status, ended)
+        result = json.loads(ended.stdout)
+        jsonschema.validate(result, schema, cls=jsonschema.Draft202012Validator)
+        self.assertEqual(set(keys_of(result)) - described_keys(schema, schema), set())
+        objects = result if isinstance(result, list) else [result]
+        self.assertEqual(all(one["ok"] for one in objects), status == 0)
+        complaints = [line for line in ended.stderr.decode().splitlines() if line.startswith("lumora")]
+        self.assertEqual(sum(len(one["errors"]) for one in objects), len(complaints), ended)
+
+
+if __name__ == "__main__":
+    unittest.main(argv=sys.argv[:1])
