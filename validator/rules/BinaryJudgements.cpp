@@ -1,0 +1,332 @@
+// SPDX-License-Identifier: MIT
+#include "Judging.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace lumora
+{
+
+namespace
+{
+
+struct SdkDemand
+{
+    QDate since;
+    int major;
+};
+
+QVersionNumber versionNumber(const BinaryVersion &version)
+{
+    return QVersionNumber(version.major(), version.minor());
+}
+
+Judgement sdkAtLeast(const PackageContents &contents, const SdkDemand &demand)
+{
+    const QVersionNumber sdk = sdkOf(contents);
+    if (sdk.isNull())
+        return cannotBeKnown(u"neither the binary nor the Info.plist names an SDK"_s);
+    if (sdk.majorVersion() >= demand.major)
+        return holds();
+    return brokenBy({{contents.app()->executable,
+                      u"built with the SDK of %1, %2 is asked for since %3"_s.arg(
+                          sdk.toString(), QString::number(demand.major), demand.since.toString(u"yyyy-MM"_s))}});
+}
+
+bool isSimulator(BinaryPlatform platform)
+{
+    return platform == BinaryPlatform::IosSimulator || platform == BinaryPlatform::TvOSSimulator ||
+           platform == BinaryPlatform::WatchOSSimulator || platform == BinaryPlatform::VisionOSSimulator;
+}
+
+bool isMacApp(const PackageContents &contents)
+{
+    const BinaryPlatform platform = platformOf(contents);
+    return platform == BinaryPlatform::MacOS || platform == BinaryPlatform::MacCatalyst;
+}
+
+/// A folder right inside one that ends in the extension, as in "A.framework/Frameworks".
+QStringList foldersIn(const PackageContents &contents, const QString &extension, const QString &folder)
+{
+    const QString mark = extension + u'/' + folder + u'/';
+    QStringList found;
+    for (const QString &path : contents.paths) {
+        const qsizetype at = path.indexOf(mark);
+        if (at < 0)
+            continue;
+        const QString place = path.first(at + mark.size() - 1);
+        if (!found.contains(place))
+            found += place;
+    }
+    return found;
+}
+
+} // namespace
+
+Judgement judgeSdkAge(const PackageContents &contents, const RuleSettings &settings)
+{
+    if (!isPhoneApp(contents))
+        return notApplicable(u"no app for iPhone or iPad"_s);
+    // The day within the month is not taken for sure: each begins when its month is over.
+    const SdkDemand demands[] = {{QDate(2026, 4, 30), 26}, {QDate(2025, 4, 30), 18}};
+    for (const SdkDemand &demand : demands) {
+        if (settings.on > demand.since)
+            return sdkAtLeast(contents, demand);
+    }
+    return notApplicable(u"nothing is known of what was asked for on that day"_s);
+}
+
+Judgement judgeSdkAgeNext(const PackageContents &contents, const RuleSettings &settings)
+{
+    if (!isPhoneApp(contents))
+        return notApplicable(u"no app for iPhone or iPad"_s);
+    const SdkDemand demand{QDate(2027, 4, 30), 27};
+    return settings.on > demand.since ? sdkAtLeast(contents, demand) : notApplicable(u"not asked for on that day"_s);
+}
+
+Judgement judgeExecutable(const PackageContents &contents, const RuleSettings &)
+{
+    QList<Evidence> bad;
+    for (const PackageBundle *bundle : codeBundles(contents)) {
+        if (!bundle->info || bundle->kind == BundleKind::WatchApp)
+            continue;
+        const PackageBinary *binary = contents.binaryOf(*bundle);
+        if (bundle->executable.isEmpty())
+            bad += Evidence{infoPath(*bundle), u"no CFBundleExecutable"_s};
+        else if (binary == nullptr)
+            bad += Evidence{bundle->executable,
+                            contents.holds(bundle->executable) ? u"no Mach-O file"_s : u"is not there"_s};
+    }
+    for (const PackageBinary &binary : contents.binaries) {
+        const bool damaged =
+            !binary.facts.faults.isEmpty() || binary.facts.slices.isEmpty() ||
+            std::ranges::any_of(binary.facts.slices, [](const BinarySlice &slice) {
+                return std::ranges::any_of(slice.faults, [](BinaryFault fault) {
+                    return fault != BinaryFault::TooManySymbols && fault != BinaryFault::DamagedBindings;
+                });
+            });
+        if (damaged)
+            bad += Evidence{binary.path, u"load commands that are damaged or lead out of the file"_s};
+    }
+    return brokenBy(bad);
+}
+
+Judgement judgeSimulatorSlices(const PackageContents &contents, const RuleSettings &)
+{
+    if (isMacApp(contents))
+        return notApplicable(u"an app for the Mac"_s);
+    QList<Evidence> slices;
+    for (const PackageBinary &binary : contents.binaries) {
+        for (const BinarySlice &slice : binary.facts.slices) {
+            const bool simulator = !slice.targets.isEmpty() && isSimulator(slice.targets.first().platform);
+            if (simulator || slice.architecture == "i386"_L1 || slice.architecture.startsWith("x86_64"_L1))
+                slices += Evidence{binary.path, u"a slice for the simulator: %1"_s.arg(slice.architecture)};
+        }
+    }
+    return brokenBy(slices);
+}
+
+Judgement judgeAlignment(const PackageContents &contents, const RuleSettings &)
+{
+    constexpr quint64 smallestPage = 0x1000;
+    QList<Evidence> segments;
+    for (const PackageBinary &binary : contents.binaries) {
+        for (const BinarySlice &slice : binary.facts.slices) {
+            if (slice.fileType == BinaryFileType::Object)
+                continue;
+            for (const BinarySegment &segment : slice.segments) {
+                if (segment.fileSize > 0 &&
+                    (segment.fileOffset % smallestPage != 0 || segment.address % smallestPage != 0))
+                    segments += Evidence{binary.path, u"%1 of %2 does not begin at a page"_s.arg(
+                                                          QString::fromLatin1(segment.name), slice.architecture)};
+            }
+        }
+    }
+    return brokenBy(segments);
+}
+
+Judgement judgeBitcode(const PackageContents &contents, const RuleSettings &)
+{
+    bool known = false;
+    const int xcode = contents.app()->text(u"DTXcode"_s).toInt(&known);
+    constexpr int firstWithout = 1600;
+    if (known && xcode < firstWithout)
+        return notApplicable(u"built with Xcode before 16"_s);
+    if (!known)
+        return cannotBeKnown(u"the Info.plist does not name the Xcode"_s);
+    QList<Evidence> found;
+    for (const PackageBinary &binary : contents.binaries) {
+        for (const BinarySlice &slice : binary.facts.slices) {
+            if (slice.segment("__LLVM") != nullptr)
+                found += Evidence{binary.path, u"a segment __LLVM for %1"_s.arg(slice.architecture)};
+        }
+    }
+    return brokenBy(found);
+}
+
+Judgement judgeEncryptionInfo(const PackageContents &contents, const RuleSettings &)
+{
+    if (!isPhoneApp(contents))
+        return notApplicable(u"no app for iPhone or iPad"_s);
+    const PackageBinary *binary = contents.binaryOf(*contents.app());
+    if (binary == nullptr)
+        return cannotBeKnown(u"the app's binary cannot be read"_s);
+    QList<Evidence> bad;
+    for (const BinarySlice &slice : binary->facts.slices) {
+        if (!slice.encryption)
+            bad += Evidence{binary->path, u"%1 has no LC_ENCRYPTION_INFO"_s.arg(slice.architecture)};
+        else if (slice.isEncrypted())
+            bad += Evidence{binary->path, u"%1 is enciphered already"_s.arg(slice.architecture)};
+    }
+    return brokenBy(bad);
+}
+
+Judgement judgeWebView(const PackageContents &contents, const RuleSettings &)
+{
+    QList<Evidence> uses;
+    for (const PackageBinary &binary : contents.binaries) {
+        if (std::ranges::any_of(binary.facts.slices,
+                                [](const BinarySlice &slice) { return slice.importsClass("UIWebView"); }))
+            uses += Evidence{binary.path, u"imports the class UIWebView"_s};
+    }
+    return brokenBy(uses);
+}
+
+Judgement judgeFrameworkMinimum(const PackageContents &contents, const RuleSettings &)
+{
+    if (!isPhoneApp(contents))
+        return notApplicable(u"no app for iPhone or iPad"_s);
+    QList<Evidence> bad;
+    bool found = false;
+    for (const PackageBundle &bundle : contents.bundles) {
+        if (bundle.kind != BundleKind::Framework || !bundle.info)
+            continue;
+        found = true;
+        const QVersionNumber minimum = minimumSystem(bundle);
+        if (minimum.isNull())
+            bad += Evidence{infoPath(bundle), u"no MinimumOSVersion"_s};
+        else if (minimum < QVersionNumber(8))
+            bad += Evidence{infoPath(bundle), u"MinimumOSVersion is %1"_s.arg(minimum.toString())};
+    }
+    return found ? brokenBy(bad) : notApplicable(u"there is no framework"_s);
+}
+
+Judgement judgeFrameworkBinaryMinimum(const PackageContents &contents, const RuleSettings &)
+{
+    const QVersionNumber appMinimum = minimumSystem(*contents.app());
+    QList<Evidence> bad;
+    bool found = false;
+    for (const PackageBundle &bundle : contents.bundles) {
+        const PackageBinary *binary = contents.binaryOf(bundle);
+        if (bundle.kind != BundleKind::Framework || binary == nullptr)
+            continue;
+        found = true;
+        const QVersionNumber stated = minimumSystem(bundle);
+        for (const BinarySlice &slice : binary->facts.slices) {
+            if (slice.targets.isEmpty())
+                continue;
+            const QVersionNumber real = versionNumber(slice.targets.first().minimumOS);
+            if (!stated.isNull() &&
+                real.normalized() != QVersionNumber(stated.majorVersion(), stated.minorVersion()).normalized())
+                bad += Evidence{binary->path,
+                                u"is built for %1, its Info.plist says %2"_s.arg(real.toString(), stated.toString())};
+            else if (!appMinimum.isNull() && real > appMinimum)
+                bad += Evidence{binary->path,
+                                u"is built for %1, the app for %2"_s.arg(real.toString(), appMinimum.toString())};
+        }
+    }
+    return found ? brokenBy(bad) : notApplicable(u"there is no framework"_s);
+}
+
+Judgement judgeFrameworkFileType(const PackageContents &contents, const RuleSettings &)
+{
+    QList<Evidence> bad;
+    bool found = false;
+    for (const PackageBundle &bundle : contents.bundles) {
+        if (bundle.kind != BundleKind::Framework)
+            continue;
+        found = true;
+        const PackageBinary *binary = contents.binaryOf(bundle);
+        if (contents.staticArchives.contains(bundle.executable))
+            bad += Evidence{bundle.executable, u"a static library"_s};
+        for (const BinarySlice &slice : binary == nullptr ? QList<BinarySlice>() : binary->facts.slices) {
+            if (slice.fileType != BinaryFileType::Dylib)
+                bad += Evidence{binary->path, u"its type is \"%1\""_s.arg(fileTypeName(slice.fileType))};
+        }
+    }
+    return found ? brokenBy(bad) : notApplicable(u"there is no framework"_s);
+}
+
+Judgement judgeSwiftEntry(const PackageContents &contents, const RuleSettings &)
+{
+    QList<Evidence> bad;
+    bool found = false;
+    for (const PackageBundle &bundle : contents.bundles) {
+        const PackageBinary *binary = contents.binaryOf(bundle);
+        if (bundle.kind != BundleKind::Extension || binary == nullptr || !bundle.has(u"EXAppExtensionAttributes"_s))
+            continue;
+        found = true;
+        for (const BinarySlice &slice : binary->facts.slices) {
+            if (slice.section("__swift5_entry") == nullptr)
+                bad += Evidence{binary->path, u"%1 has no section __swift5_entry"_s.arg(slice.architecture)};
+        }
+    }
+    return found ? brokenBy(bad) : notApplicable(u"there is no extension of that kind"_s);
+}
+
+Judgement judgeLooseCode(const PackageContents &contents, const RuleSettings &)
+{
+    const PackageBundle &app = *contents.app();
+    if (isMacApp(contents))
+        return notApplicable(u"an app for the Mac"_s);
+    QList<Evidence> loose;
+    for (const PackageBinary &binary : contents.binaries) {
+        if (!binary.path.startsWith(app.path + u'/'))
+            continue;
+        const bool isExecutable = std::ranges::any_of(
+            contents.bundles, [&](const PackageBundle &bundle) { return bundle.executable == binary.path; });
+        const bool isSwift =
+            binary.path.startsWith(app.path + u"/Frameworks/libswift") && binary.path.endsWith(".dylib"_L1);
+        if (!isExecutable && !isSwift)
+            loose += Evidence{binary.path, u"code outside of a bundle of its own"_s};
+    }
+    for (const QString &path : contents.staticArchives)
+        loose += Evidence{path, u"a static library"_s};
+    for (const QString &path : foldersIn(contents, u".framework"_s, u"Versions"_s))
+        loose += Evidence{path, u"a framework laid out as on the Mac"_s};
+    return brokenBy(loose);
+}
+
+Judgement judgeNestedFrameworks(const PackageContents &contents, const RuleSettings &)
+{
+    if (isMacApp(contents))
+        return notApplicable(u"an app for the Mac"_s);
+    QList<Evidence> nested;
+    for (const QString &extension : {u".framework"_s, u".appex"_s}) {
+        for (const QString &path : foldersIn(contents, extension, u"Frameworks"_s))
+            nested += Evidence{path, u"a folder of frameworks inside of nested code"_s};
+    }
+    return brokenBy(nested);
+}
+
+Judgement judgeSwiftSupport(const PackageContents &contents, const RuleSettings &)
+{
+    const PackageBundle &app = *contents.app();
+    if (!contents.isArchive || !app.profile || app.profile->kind != ProfileKind::AppStore)
+        return notApplicable(u"no archive for the store"_s);
+    QList<Evidence> missing;
+    bool found = false;
+    for (const PackageBinary &binary : contents.binaries) {
+        const QString folder = app.path + u"/Frameworks/";
+        if (!binary.path.startsWith(folder + u"libswift"))
+            continue;
+        found = true;
+        const QString name = binary.path.mid(folder.size());
+        if (!contents.holds(u"SwiftSupport/iphoneos/"_s + name))
+            missing += Evidence{binary.path, u"SwiftSupport/iphoneos/%1 is not there"_s.arg(name)};
+    }
+    return found ? brokenBy(missing) : notApplicable(u"it brings no libraries of Swift"_s);
+}
+
+} // namespace lumora

@@ -1,0 +1,198 @@
+// SPDX-License-Identifier: MIT
+#include "Judging.h"
+
+#include <QRegularExpression>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace lumora
+{
+
+namespace
+{
+
+constexpr int marketingEdge = 1024;
+
+const QString noPhoneApp = u"no app for iPhone or iPad"_s;
+
+/// The icon set's name in a dictionary of icons ("CFBundleIcons", or with "~ipad").
+QString iconName(const PackageBundle &app, const QString &key)
+{
+    const QVariantMap icons = app.info ? app.info->value(key).toMap() : QVariantMap();
+    return icons.value(u"CFBundlePrimaryIcon"_s).toMap().value(u"CFBundleIconName"_s).toString();
+}
+
+QString anyIconName(const PackageBundle &app)
+{
+    for (const QString &name :
+         {iconName(app, u"CFBundleIcons"_s), iconName(app, u"CFBundleIcons~ipad"_s), app.text(u"CFBundleIconName"_s)}) {
+        if (!name.isEmpty())
+            return name;
+    }
+    return {};
+}
+
+/// The pictures of the app's icon in its catalog.
+QList<CatalogRendition> iconPictures(const PackageBundle &app)
+{
+    QList<CatalogRendition> pictures;
+    if (!app.catalog)
+        return pictures;
+    const QString name = anyIconName(app);
+    for (const CatalogRendition &each : app.catalog->renditions) {
+        const bool named = !name.isEmpty() && each.facet == name;
+        if (each.isPicture() && (named || each.part == CatalogRendition::IconPart))
+            pictures += each;
+    }
+    return pictures;
+}
+
+bool fitsPhone(const CatalogRendition &picture)
+{
+    return picture.idiom == "phone"_L1 || picture.idiom == "universal"_L1 || picture.idiom == "marketing"_L1;
+}
+
+bool fitsPad(const CatalogRendition &picture)
+{
+    return picture.idiom == "pad"_L1 || picture.idiom == "universal"_L1 || picture.idiom == "marketing"_L1;
+}
+
+bool catalogHolds(const PackageBundle &app, int edge, bool (*fits)(const CatalogRendition &))
+{
+    return std::ranges::any_of(iconPictures(app), [&](const CatalogRendition &picture) {
+        return picture.width == edge && picture.height == edge && fits(picture);
+    });
+}
+
+/// Loose pictures say their size by their name alone here: "AppIcon60x60@2x.png" is 120 pixels square.
+bool looseIconHas(const PackageContents &contents, int edge)
+{
+    static const QRegularExpression form(u"(\\d+(?:\\.\\d+)?)x\\1(?:@(\\d)x)?(?:~\\w+)?\\.png$"_s);
+    const QString start = contents.app()->path + u'/';
+    for (const QString &path : contents.paths) {
+        if (!path.startsWith(start) || path.indexOf(u'/', start.size()) >= 0)
+            continue;
+        const auto match = form.match(path);
+        if (!match.hasMatch())
+            continue;
+        const double factor = match.hasCaptured(2) ? match.captured(2).toDouble() : 1.0;
+        if (qRound(match.captured(1).toDouble() * factor) == edge)
+            return true;
+    }
+    return false;
+}
+
+/// The icon files that the Info.plist names, which may have any name: their pixels are not looked at.
+bool namesLooseIcons(const PackageBundle &app)
+{
+    return app.has(u"CFBundleIconFiles"_s) || app.has(u"CFBundleIconFile"_s) ||
+           (app.info && !app.info->value(u"CFBundleIcons"_s)
+                             .toMap()
+                             .value(u"CFBundlePrimaryIcon"_s)
+                             .toMap()
+                             .value(u"CFBundleIconFiles"_s)
+                             .toList()
+                             .isEmpty());
+}
+
+QString catalogPath(const PackageBundle &app)
+{
+    return app.path + u"/Assets.car";
+}
+
+Judgement judgeSizes(const PackageContents &contents, const QList<int> &edges, const QString &device,
+                     bool (*fits)(const CatalogRendition &))
+{
+    const PackageBundle &app = *contents.app();
+    if (!app.info)
+        return cannotBeKnown(u"the Info.plist cannot be read"_s);
+    QList<Evidence> missing;
+    for (const int edge : edges) {
+        if (catalogHolds(app, marketingEdge, fits) || catalogHolds(app, edge, fits) || looseIconHas(contents, edge))
+            continue;
+        if (!app.catalog && namesLooseIcons(app))
+            return cannotBeKnown(u"the icon files' names do not tell their sizes"_s);
+        missing +=
+            Evidence{app.catalog ? catalogPath(app) : app.path,
+                     u"no %1 icon of %2 by %2 pixels, neither in the catalog nor as a file"_s.arg(device).arg(edge)};
+    }
+    return brokenBy(missing);
+}
+
+} // namespace
+
+Judgement judgePhoneIcon(const PackageContents &contents, const RuleSettings &)
+{
+    const PackageBundle *app = contents.app();
+    if (!isPhoneApp(contents) || !deviceFamilies(*app).contains(1))
+        return notApplicable(u"no app for the iPhone"_s);
+    if (!minimumSystem(*app).isNull() && minimumSystem(*app) < QVersionNumber(7))
+        return notApplicable(u"it also runs before iOS 7"_s);
+    return judgeSizes(contents, {120}, u"iPhone"_s, &fitsPhone);
+}
+
+Judgement judgePadIcon(const PackageContents &contents, const RuleSettings &)
+{
+    const PackageBundle *app = contents.app();
+    if (!isPhoneApp(contents) || !deviceFamilies(*app).contains(2))
+        return notApplicable(u"no app for the iPad"_s);
+    if (!minimumSystem(*app).isNull() && minimumSystem(*app) < QVersionNumber(7))
+        return notApplicable(u"it also runs before iOS 7"_s);
+    return judgeSizes(contents, {152}, u"iPad"_s, &fitsPad);
+}
+
+Judgement judgeMarketingIcon(const PackageContents &contents, const RuleSettings &)
+{
+    if (!isPhoneApp(contents))
+        return notApplicable(noPhoneApp);
+    const PackageBundle &app = *contents.app();
+    if (sdkOf(contents) < QVersionNumber(11))
+        return notApplicable(u"built with an SDK before iOS 11"_s);
+    if (!app.catalog)
+        return brokenBy({{app.path, u"there is no asset catalog, and so no large icon in one"_s}});
+    const bool found = std::ranges::any_of(iconPictures(app), [](const CatalogRendition &picture) {
+        return picture.width == marketingEdge && picture.height == marketingEdge &&
+               (fitsPhone(picture) || fitsPad(picture));
+    });
+    return found ? holds() : brokenBy({{catalogPath(app), u"no icon of 1024 by 1024 pixels"_s}});
+}
+
+Judgement judgeIconName(const PackageContents &contents, const RuleSettings &)
+{
+    if (!isPhoneApp(contents))
+        return notApplicable(noPhoneApp);
+    const PackageBundle &app = *contents.app();
+    if (sdkOf(contents) < QVersionNumber(11))
+        return notApplicable(u"built with an SDK before iOS 11"_s);
+    if (!app.info)
+        return cannotBeKnown(u"the Info.plist cannot be read"_s);
+    const QString name = anyIconName(app);
+    if (name.isEmpty())
+        return brokenBy({{infoPath(app), u"no CFBundleIconName, neither in CFBundleIcons nor by itself"_s}});
+    if (app.catalog && !app.catalog->facets.contains(name))
+        return brokenBy({{infoPath(app), u"CFBundleIconName is \"%1\", which the catalog does not hold"_s.arg(name)}});
+    return holds();
+}
+
+Judgement judgeOpaqueIcon(const PackageContents &contents, const RuleSettings &)
+{
+    if (!isPhoneApp(contents))
+        return notApplicable(noPhoneApp);
+    const PackageBundle &app = *contents.app();
+    QList<Evidence> translucent;
+    bool found = false;
+    for (const CatalogRendition &picture : iconPictures(app)) {
+        // The dark and the tinted picture may be translucent.
+        if (picture.width != marketingEdge || !picture.appearance.isEmpty())
+            continue;
+        found = true;
+        if (picture.opaque == false)
+            translucent += Evidence{catalogPath(app), u"\"%1\" for %2 has transparent pixels or an alpha channel"_s.arg(
+                                                          picture.name, picture.idiom)};
+    }
+    return found ? brokenBy(translucent) : notApplicable(u"there is no large icon in a catalog"_s);
+}
+
+} // namespace lumora

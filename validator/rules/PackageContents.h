@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "PrivacyManifest.h"
+#include "validator/archive/PackageSource.h"
+#include "validator/binary/AssetCatalog.h"
+#include "validator/binary/BinaryFacts.h"
+#include "validator/binary/CodeSignature.h"
+#include "validator/binary/ProvisioningProfile.h"
+#include "validator/binary/ResourceSeal.h"
+
+#include <QMap>
+#include <QVariantMap>
+
+#include <optional>
+#include <stop_token>
+
+namespace lumora
+{
+
+enum class BundleKind { App, Extension, WatchApp, Framework, Resources };
+
+/// A Mach-O file of the package.
+struct PackageBinary
+{
+    QString path;
+    BinaryFacts facts;
+    /// One for each slice that is signed, in the order of the slices.
+    QList<CodeSignature> signatures;
+
+    bool isSigned() const { return !facts.slices.isEmpty() && signatures.size() == facts.slices.size(); }
+};
+
+/// How a bundle's files agree with what is signed.
+struct BundleSeal
+{
+    bool present = false;   ///< there is a seal, and it can be read
+    bool infoBound = false; ///< the signature is about this Info.plist
+    bool sealBound = false; ///< the signature is about this seal
+    SealFindings findings;
+};
+
+/// One bundle: the app, or what is nested in it. Paths are those of the package.
+struct PackageBundle
+{
+    QString path;
+    BundleKind kind = BundleKind::App;
+    std::optional<QVariantMap> info; ///< nothing when there is no Info.plist that can be read
+    QString executable;              ///< path; empty when the bundle names none
+    qsizetype binary = -1;           ///< number of the executable in `PackageContents::binaries`
+    BundleSeal seal;
+    std::optional<ProvisioningProfile> profile;
+    bool hasProfileFile = false;
+    std::optional<AssetCatalog> catalog;
+    std::optional<PrivacyManifest> privacy;
+    bool hasPrivacyFile = false;
+
+    QString text(const QString &key) const; ///< of the Info.plist; a number as text
+    bool has(const QString &key) const { return info && info->contains(key); }
+    /// The last step of the path.
+    QString name() const { return path.mid(path.lastIndexOf(u'/') + 1); }
+};
+
+/// What a package holds, read once; it knows nothing of rules.
+struct PackageContents
+{
+    QList<PackageBundle> bundles; ///< the app first; empty without one
+    QList<PackageBinary> binaries;
+    QStringList staticArchives;
+    QStringList paths;            ///< all files and links, in order
+    QMap<QString, quint64> sizes; ///< of files, unpacked; bytes
+    quint64 packedSize = 0;
+    bool isArchive = false; ///< an .ipa; in other forms what stands beside "Payload" is not there yet
+    QStringList damaged;
+
+    const PackageBundle *app() const { return bundles.isEmpty() ? nullptr : &bundles.first(); }
+    const PackageBinary *binaryOf(const PackageBundle &bundle) const;
+    const CodeSignature *signatureOf(const PackageBundle &bundle) const;
+    bool holds(const QString &path) const { return sizes.contains(path); }
+    bool holdsFolder(const QString &path) const;
+};
+
+/// Reads every file of the package once. What is larger than any real file of its kind is taken as unreadable.
+PackageContents readPackageContents(const PackageSource &source, const std::stop_token &stop = {});
+
+} // namespace lumora

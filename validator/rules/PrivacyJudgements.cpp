@@ -1,0 +1,192 @@
+// SPDX-License-Identifier: MIT
+#include "Judging.h"
+
+#include <QSet>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace lumora
+{
+
+namespace
+{
+
+/// A class whose use needs a text for people; any of the keys will do.
+struct Purpose
+{
+    const char *className;
+    const char *keys;
+};
+
+constexpr Purpose surePurposes[] = {
+    {"AVCaptureDevice", "NSCameraUsageDescription NSMicrophoneUsageDescription"},
+    {"PHPhotoLibrary", "NSPhotoLibraryUsageDescription NSPhotoLibraryAddUsageDescription"},
+    {"CLLocationManager", "NSLocationWhenInUseUsageDescription NSLocationAlwaysAndWhenInUseUsageDescription "
+                          "NSLocationAlwaysUsageDescription NSLocationUsageDescription"},
+    {"CNContactStore", "NSContactsUsageDescription"},
+};
+
+constexpr Purpose likelyPurposes[] = {
+    {"EKEventStore", "NSCalendarsUsageDescription NSCalendarsFullAccessUsageDescription "
+                     "NSCalendarsWriteOnlyAccessUsageDescription NSRemindersUsageDescription "
+                     "NSRemindersFullAccessUsageDescription"},
+    {"CBCentralManager", "NSBluetoothAlwaysUsageDescription"},
+    {"CBPeripheralManager", "NSBluetoothAlwaysUsageDescription"},
+    {"LAContext", "NSFaceIDUsageDescription"},
+    {"CMMotionActivityManager", "NSMotionUsageDescription"},
+    {"CMPedometer", "NSMotionUsageDescription"},
+    {"SFSpeechRecognizer", "NSSpeechRecognitionUsageDescription"},
+    {"ATTrackingManager", "NSUserTrackingUsageDescription"},
+    {"HKHealthStore", "NSHealthShareUsageDescription NSHealthUpdateUsageDescription"},
+    {"HMHomeManager", "NSHomeKitUsageDescription"},
+    {"MPMediaLibrary", "NSAppleMusicUsageDescription"},
+    {"INPreferences", "NSSiriUsageDescription"},
+    {"NFCReaderSession", "NFCReaderUsageDescription"},
+    {"NFCNDEFReaderSession", "NFCReaderUsageDescription"},
+    {"NFCTagReaderSession", "NFCReaderUsageDescription"},
+};
+
+bool importsClass(const PackageBinary &binary, const char *name)
+{
+    return std::ranges::any_of(binary.facts.slices, [&](const BinarySlice &slice) { return slice.importsClass(name); });
+}
+
+template <std::size_t Count> Judgement judgeTexts(const PackageContents &contents, const Purpose (&purposes)[Count])
+{
+    const PackageBundle &app = *contents.app();
+    if (!app.info)
+        return cannotBeKnown(u"the Info.plist cannot be read"_s);
+    QList<Evidence> missing;
+    QSet<QString> said;
+    for (const Purpose &purpose : purposes) {
+        const QStringList keys = QString::fromLatin1(purpose.keys).split(u' ');
+        if (std::ranges::any_of(keys, [&](const QString &key) { return app.has(key); }))
+            continue;
+        for (const PackageBinary &binary : contents.binaries) {
+            if (!importsClass(binary, purpose.className) || said.contains(keys.first()))
+                continue;
+            said += keys.first();
+            missing += Evidence{infoPath(app), u"no %1, and %2 imports the class %3"_s.arg(
+                                                   keys.first(), binary.path, QString::fromLatin1(purpose.className))};
+        }
+    }
+    return brokenBy(missing);
+}
+
+/// The first thing of the category that the binary uses; empty for none.
+QString use(const PackageBinary &binary, const RequiredReason &category)
+{
+    for (const BinarySlice &slice : binary.facts.slices) {
+        for (const QByteArray &symbol : QByteArray(category.symbols).split(' ')) {
+            if (!symbol.isEmpty() && slice.imports(symbol))
+                return QString::fromLatin1(symbol);
+        }
+        for (const QByteArray &selector : QByteArray(category.selectors).split(' ')) {
+            if (!selector.isEmpty() && slice.namesSelector(selector))
+                return QString::fromLatin1(selector);
+        }
+    }
+    return {};
+}
+
+/// What is declared for the code of a bundle: by itself, by the app, and by the bundles of resources that kits linked
+/// into the code bring.
+QSet<QString> declaredFor(const PackageContents &contents, const PackageBundle &bundle)
+{
+    QSet<QString> declared;
+    for (const PackageBundle &each : contents.bundles) {
+        const bool speaksForIt =
+            each.path == bundle.path || each.kind == BundleKind::App || each.kind == BundleKind::Resources;
+        if (!speaksForIt || !each.privacy)
+            continue;
+        for (const QString &category : each.privacy->reasons.keys())
+            declared += category;
+    }
+    return declared;
+}
+
+} // namespace
+
+Judgement judgePurposes(const PackageContents &contents, const RuleSettings &)
+{
+    return judgeTexts(contents, surePurposes);
+}
+
+Judgement judgeLikelyPurposes(const PackageContents &contents, const RuleSettings &)
+{
+    return judgeTexts(contents, likelyPurposes);
+}
+
+Judgement judgeEmptyPurposes(const PackageContents &contents, const RuleSettings &)
+{
+    QList<Evidence> empty;
+    for (const PackageBundle *bundle : codeBundles(contents)) {
+        if (!bundle->info)
+            continue;
+        for (auto each = bundle->info->cbegin(); each != bundle->info->cend(); ++each) {
+            if (each.key().endsWith("UsageDescription"_L1) && each->toString().trimmed().isEmpty())
+                empty += Evidence{infoPath(*bundle), u"%1 is empty"_s.arg(each.key())};
+        }
+    }
+    return brokenBy(empty);
+}
+
+Judgement judgeRequiredReasons(const PackageContents &contents, const RuleSettings &settings)
+{
+    if (settings.on < QDate(2024, 5, 1))
+        return notApplicable(u"not asked for on that day"_s);
+    const BinaryPlatform platform = platformOf(contents);
+    if (platform != BinaryPlatform::Ios && platform != BinaryPlatform::TvOS)
+        return notApplicable(u"no app for iPhone, iPad or TV"_s);
+    QList<Evidence> missing;
+    for (const PackageBundle *bundle : codeBundles(contents)) {
+        const PackageBinary *binary = contents.binaryOf(*bundle);
+        if (binary == nullptr)
+            continue;
+        const QSet<QString> declared = declaredFor(contents, *bundle);
+        for (const RequiredReason &category : requiredReasons()) {
+            const QString name = QString::fromLatin1(category.category);
+            const QString used = declared.contains(name) ? QString() : use(*binary, category);
+            if (!used.isEmpty())
+                missing += Evidence{binary->path, u"uses %1, and no manifest gives a reason for %2"_s.arg(used, name)};
+        }
+    }
+    return brokenBy(missing);
+}
+
+Judgement judgePrivacyForm(const PackageContents &contents, const RuleSettings &)
+{
+    QList<Evidence> bad;
+    bool found = false;
+    for (const PackageBundle &bundle : contents.bundles) {
+        if (!bundle.hasPrivacyFile)
+            continue;
+        found = true;
+        const QString path = bundle.path + u"/PrivacyInfo.xcprivacy";
+        if (!bundle.privacy)
+            bad += Evidence{path, u"cannot be read"_s};
+        for (const QString &fault : bundle.privacy ? bundle.privacy->faults : QStringList())
+            bad += Evidence{path, fault};
+    }
+    return found ? brokenBy(bad) : notApplicable(u"there is no privacy manifest"_s);
+}
+
+Judgement judgeListedKits(const PackageContents &contents, const RuleSettings &settings)
+{
+    if (settings.on < QDate(2024, 5, 1))
+        return notApplicable(u"not asked for on that day"_s);
+    QList<Evidence> bad;
+    bool found = false;
+    for (const PackageBundle &bundle : contents.bundles) {
+        if (bundle.kind != BundleKind::Framework || !isListedKit(bundle.name().chopped(10)))
+            continue;
+        found = true;
+        if (!bundle.hasPrivacyFile)
+            bad += Evidence{bundle.path, u"has no PrivacyInfo.xcprivacy"_s};
+    }
+    return found ? brokenBy(bad) : notApplicable(u"it brings none of the kits that are listed"_s);
+}
+
+} // namespace lumora

@@ -1,0 +1,119 @@
+// SPDX-License-Identifier: MIT
+#include "PrivacyManifest.h"
+
+#include <QSet>
+
+using namespace Qt::StringLiterals;
+
+namespace lumora
+{
+
+namespace
+{
+
+constexpr auto categoryPrefix = "NSPrivacyAccessedAPICategory"_L1;
+
+constexpr const char *listedKits =
+    "Abseil AFNetworking Alamofire AppAuth BoringSSL openssl_grpc Capacitor Charts connectivity_plus Cordova "
+    "device_info_plus DKImagePickerController DKPhotoGallery FBAEMKit FBLPromises FBSDKCoreKit FBSDKCoreKit_Basics "
+    "FBSDKLoginKit FBSDKShareKit file_picker FirebaseABTesting FirebaseAuth FirebaseCore FirebaseCoreDiagnostics "
+    "FirebaseCoreExtension FirebaseCoreInternal FirebaseCrashlytics FirebaseDynamicLinks FirebaseFirestore "
+    "FirebaseInstallations FirebaseMessaging FirebaseRemoteConfig Flutter flutter_inappwebview "
+    "flutter_local_notifications fluttertoast FMDB geolocator_apple GoogleDataTransport GoogleSignIn "
+    "GoogleToolboxForMac GoogleUtilities grpcpp GTMAppAuth GTMSessionFetcher hermes image_picker_ios IQKeyboardManager "
+    "IQKeyboardManagerSwift Kingfisher leveldb Lottie MBProgressHUD nanopb OneSignal OneSignalCore OneSignalExtension "
+    "OneSignalOutcomes OpenSSL OrderedSet package_info package_info_plus path_provider path_provider_ios Promises "
+    "Protobuf Reachability RealmSwift RxCocoa RxRelay RxSwift SDWebImage share_plus shared_preferences_ios SnapKit "
+    "sqflite Starscream SVProgressHUD SwiftyGif SwiftyJSON Toast UnityFramework url_launcher url_launcher_ios "
+    "video_player_avfoundation wakelock webview_flutter_wkwebview";
+
+const RequiredReason *reasonNamed(const QString &category)
+{
+    for (const RequiredReason &each : requiredReasons()) {
+        if (category == QLatin1StringView(each.category))
+            return &each;
+    }
+    return nullptr;
+}
+
+void readAccess(const QVariantMap &access, PrivacyManifest &manifest)
+{
+    const QString type = access.value(u"NSPrivacyAccessedAPIType"_s).toString();
+    const QString category = type.startsWith(categoryPrefix) ? type.mid(categoryPrefix.size()) : QString();
+    const RequiredReason *known = reasonNamed(category);
+    if (known == nullptr) {
+        manifest.faults += u"unknown NSPrivacyAccessedAPIType \"%1\""_s.arg(type);
+        return;
+    }
+    const QStringList allowed = QString::fromLatin1(known->reasons).split(u' ');
+    const QVariantList reasons = access.value(u"NSPrivacyAccessedAPITypeReasons"_s).toList();
+    if (reasons.isEmpty())
+        manifest.faults += u"no reason for %1"_s.arg(category);
+    for (const QVariant &reason : reasons) {
+        if (!allowed.contains(reason.toString()))
+            manifest.faults += u"unknown reason \"%1\" for %2"_s.arg(reason.toString(), category);
+        manifest.reasons[category] += reason.toString();
+    }
+    if (!manifest.reasons.contains(category))
+        manifest.reasons.insert(category, {});
+}
+
+} // namespace
+
+const QList<RequiredReason> &requiredReasons()
+{
+    static const QList<RequiredReason> all{
+        {"FileTimestamp",
+         "_stat _fstat _lstat _fstatat _getattrlist _getattrlistbulk _fgetattrlist _getattrlistat _NSFileCreationDate "
+         "_NSFileModificationDate _NSURLContentModificationDateKey _NSURLCreationDateKey",
+         "fileModificationDate", "DDA9.1 C617.1 3B52.1 0A2A.1"},
+        {"SystemBootTime", "_mach_absolute_time", "systemUptime", "35F9.1 8FFB.1 3D61.1"},
+        {"DiskSpace",
+         "_statfs _statvfs _fstatfs _fstatvfs _NSFileSystemFreeSize _NSFileSystemSize _NSURLVolumeAvailableCapacityKey "
+         "_NSURLVolumeAvailableCapacityForImportantUsageKey _NSURLVolumeAvailableCapacityForOpportunisticUsageKey "
+         "_NSURLVolumeTotalCapacityKey",
+         "", "85F4.1 E174.1 7D9E.1 B728.1"},
+        {"ActiveKeyboards", "", "activeInputModes", "3EC4.1 54BD.1"},
+        {"UserDefaults", "_OBJC_CLASS_$_NSUserDefaults", "", "CA92.1 1C8F.1 C56D.1 AC6B.1"},
+    };
+    return all;
+}
+
+bool isListedKit(const QString &name)
+{
+    static const QStringList names = QString::fromLatin1(listedKits).split(u' ');
+    static const QSet<QString> known(names.cbegin(), names.cend());
+    return known.contains(name);
+}
+
+PrivacyManifest readPrivacyManifest(const QVariantMap &list)
+{
+    static const QSet<QString> knownKeys{u"NSPrivacyTracking"_s, u"NSPrivacyTrackingDomains"_s,
+                                         u"NSPrivacyCollectedDataTypes"_s, u"NSPrivacyAccessedAPITypes"_s};
+    PrivacyManifest manifest;
+    for (const QString &key : list.keys()) {
+        if (!knownKeys.contains(key))
+            manifest.faults += u"unknown key \"%1\""_s.arg(key);
+    }
+    const QVariant tracking = list.value(u"NSPrivacyTracking"_s);
+    if (tracking.isValid() && tracking.typeId() != QMetaType::Bool)
+        manifest.faults += u"NSPrivacyTracking is no boolean"_s;
+    manifest.tracks = tracking.toBool();
+    manifest.trackingDomains = list.value(u"NSPrivacyTrackingDomains"_s).toStringList();
+    const QVariantList collected = list.value(u"NSPrivacyCollectedDataTypes"_s).toList();
+    manifest.collectedDataTypes = collected.size();
+    for (const QVariant &each : collected) {
+        const QVariantMap type = each.toMap();
+        if (type.value(u"NSPrivacyCollectedDataType"_s).toString().isEmpty())
+            manifest.faults += u"a collected data type without NSPrivacyCollectedDataType"_s;
+        else if (type.value(u"NSPrivacyCollectedDataTypePurposes"_s).toList().isEmpty())
+            manifest.faults += u"no purposes for %1"_s.arg(type.value(u"NSPrivacyCollectedDataType"_s).toString());
+    }
+    if (manifest.tracks && manifest.trackingDomains.isEmpty() && collected.isEmpty())
+        manifest.faults += u"NSPrivacyTracking is true, but there are neither domains nor data types"_s;
+    for (const QVariant &access : list.value(u"NSPrivacyAccessedAPITypes"_s).toList())
+        readAccess(access.toMap(), manifest);
+    return manifest;
+}
+
+} // namespace lumora
