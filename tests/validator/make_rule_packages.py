@@ -1,0 +1,341 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
+"""usage: make_rule_packages.py FOLDER   Signed packages: one that keeps every rule, and one that breaks each.
+
+Each that breaks a rule is named for the rule's id, or the ids where one fault cannot be without the other; other words
+tell ways to break one rule apart.
+"""
+
+import plistlib
+import sys
+import zipfile
+from pathlib import Path
+
+from catalog_builder import app_icon, catalog
+from macho_builder import DYLIB, BUNDLE, MachO, patched_bytes
+from make_provisioning import TEAM, profile, signed
+from signing import Identity, Signer, seal
+
+APP = "Payload/Lamp.app"
+BULB = f"{APP}/Frameworks/Bulb.framework"
+SHARE = f"{APP}/PlugIns/Share.appex"
+SYSTEM = "/usr/lib/libSystem.B.dylib"
+ORIENTATIONS = [f"UIInterfaceOrientation{name}" for name in ("Portrait", "PortraitUpsideDown", "LandscapeLeft", "LandscapeRight")]
+
+
+class Package:
+    """A package for the store. Every attribute may be changed before `write`."""
+
+    def __init__(self, identity):
+        self.identity = identity
+        common = {"CFBundleShortVersionString": "1.2.0", "CFBundleVersion": "7", "MinimumOSVersion": "15.0", "DTXcode": "2600",
+                  "CFBundleSupportedPlatforms": ["iPhoneOS"], "DTPlatformName": "iphoneos", "DTPlatformVersion": "26.0"}
+        icons = {"CFBundlePrimaryIcon": {"CFBundleIconName": "AppIcon", "CFBundleIconFiles": ["AppIcon60x60"]}}
+        self.info = common | {
+            "CFBundleIdentifier": "com.example.lamp", "CFBundleExecutable": "Lamp", "CFBundlePackageType": "APPL",
+            "CFBundleName": "Lamp", "UIDeviceFamily": [1, 2], "CFBundleIcons": icons, "CFBundleIcons~ipad": icons,
+            "UISupportedInterfaceOrientations": ORIENTATIONS, "UILaunchScreen": {}, "ITSAppUsesNonExemptEncryption": False}
+        self.bulb_info = common | {"CFBundleIdentifier": "com.example.bulb", "CFBundleExecutable": "Bulb",
+                                   "CFBundlePackageType": "FMWK"}
+        self.share_info = common | {"CFBundleIdentifier": "com.example.lamp.share", "CFBundleExecutable": "Share",
+                                    "CFBundlePackageType": "XPC!"}
+        self.code = MachO()
+        self.bulb = MachO(filetype=DYLIB)
+        self.share = MachO()
+        for code in (self.code, self.bulb, self.share):
+            code.signature_room = 0x6000
+        self.icons = app_icon()
+        self.privacy = {"NSPrivacyTracking": False, "NSPrivacyAccessedAPITypes": [
+            {"NSPrivacyAccessedAPIType": "NSPrivacyAccessedAPICategoryUserDefaults",
+             "NSPrivacyAccessedAPITypeReasons": ["CA92.1"]}]}
+        self.profile = profile(identity)
+        self.share_profile = profile(identity)
+        self.share_profile["Entitlements"] = self.share_profile["Entitlements"] | {
+            "application-identifier": f"{TEAM}.com.example.lamp.share"}
+        self.entitlements = {"application-identifier": f"{TEAM}.com.example.lamp", "get-task-allow": False,
+                             "com.apple.developer.team-identifier": TEAM}
+        self.files = {"en.lproj/Localizable.strings": b"\"on\" = \"On\";", "de.lproj/Localizable.strings": b"\"on\" = \"An\";"}
+        self.roots = {}
+        self.sign_app = True
+        self.signer = {}
+        self.executable = "Lamp"
+        self.bulb_path = BULB
+        self.after = None  # changes what lies in the package once all is signed
+
+    def sealed(self, folder, files, info, code, name, entitlements, sign=True, **changes):
+        """The files of a bundle, signed; paths are those of the package."""
+        executable = info.get("CFBundleExecutable", "")
+        files = files | {"Info.plist": plistlib.dumps(info)}
+        if sign and executable:
+            signer = Signer(self.identity, name, entitlements)
+            signer.info = files["Info.plist"]
+            signer.seal = seal(files, executable)
+            for key, value in changes.items():
+                setattr(signer, key, value)
+            code.sign = signer
+            files["_CodeSignature/CodeResources"] = signer.seal
+        if executable:
+            files[executable] = code.bytes() if isinstance(code, MachO) else code
+        return {f"{folder}/{path}": content for path, content in files.items()}
+
+    def contents(self):
+        nested = self.sealed(self.bulb_path, {}, self.bulb_info, self.bulb, "com.example.bulb", None)
+        share_files = {"embedded.mobileprovision": signed(self.identity, self.share_profile)}
+        share_files |= {path[len(SHARE) + 1:]: content for path, content in nested.items() if path.startswith(SHARE)}
+        nested |= self.sealed(SHARE, share_files, self.share_info, self.share, "com.example.lamp.share",
+                              {"application-identifier": f"{TEAM}.com.example.lamp.share"})
+        files = {path[len(APP) + 1:]: content for path, content in nested.items()} | self.files | {"PkgInfo": b"APPL????"}
+        if self.icons is not None:
+            files["Assets.car"] = catalog(self.icons).bytes()
+        if self.privacy is not None:
+            files["PrivacyInfo.xcprivacy"] = plistlib.dumps(self.privacy)
+        if self.profile is not None:
+            files["embedded.mobileprovision"] = signed(self.identity, self.profile)
+        everything = self.sealed(APP, files, self.info, self.code, "com.example.lamp", self.entitlements, self.sign_app,
+                                 **self.signer) | self.roots
+        if self.after:
+            self.after(everything)
+        return everything
+
+    def write(self, path):
+        with zipfile.ZipFile(path, "w", zipfile.ZIP_DEFLATED) as archive:
+            for name, content in sorted(self.contents().items()):
+                archive.writestr(name, content)
+
+
+def without(dictionary, *keys):
+    return {key: value for key, value in dictionary.items() if key not in keys}
+
+
+def breaking(identity, other, developer, ended):
+    """Name to a function that changes a good package."""
+    def info(**changes):
+        return lambda package: package.info.update(changes)
+
+    def drop(*keys):
+        def change(package):
+            package.info = without(package.info, *keys)
+        return change
+
+    def replace(path, content):
+        def change(package):
+            package.after = lambda files: files.update({path: content})
+        return change
+
+    def code(which="code", **changes):
+        def change(package):
+            for name, value in changes.items():
+                setattr(getattr(package, which), name, value)
+        return change
+
+    def icons(entries):
+        return lambda package: setattr(package, "icons", entries)
+
+    def signer(**changes):
+        return lambda package: package.signer.update(changes)
+
+    def entitlement(**claims):
+        return lambda package: package.entitlements.update({key.replace("__", "-"): value for key, value in claims.items()})
+
+    def by(someone, in_profile=None):
+        """Signed by another, whose certificate is in the profile; or somebody else's."""
+        def change(package):
+            package.signer["identity"] = someone
+            package.profile["DeveloperCertificates"] = [(in_profile or someone).leaf]
+        return change
+
+    def byte(path):
+        def change(package):
+            def alter(files):
+                files[path] = patched_bytes(files[path], len(files[path]) // 2, bytes([files[path][len(files[path]) // 2] ^ 1]))
+            package.after = alter
+        return change
+
+    def remove(path):
+        def change(package):
+            package.after = lambda files: files.pop(path)
+        return change
+
+    def new_kind(package):
+        package.share_info["EXAppExtensionAttributes"] = {"EXExtensionPointIdentifier": "com.example.point"}
+
+    def moved_framework(name):
+        def change(package):
+            package.bulb_path = f"{APP}/Frameworks/{name}.framework"
+        return change
+
+    def store_swift(package):
+        library = MachO(filetype=DYLIB)
+        library.signature_room = 0x6000
+        library.sign = Signer(package.identity, "libswiftCore")
+        package.files["Frameworks/libswiftCore.dylib"] = library.bytes()
+
+    def loose(package):
+        library = MachO(filetype=DYLIB)
+        library.signature_room = 0x6000
+        library.sign = Signer(package.identity, "libloose")
+        package.files["libloose.dylib"] = library.bytes()
+
+    def other_team(package):
+        package.profile["TeamIdentifier"] = ["OTHER12345"]
+
+    def profile_changes(**changes):
+        return lambda package: package.profile.update(changes)
+
+    def profile_entitlements(**changes):
+        return lambda package: package.profile["Entitlements"].update(
+            {key.replace("__", "-"): value for key, value in changes.items()})
+
+    def debuggable(package):
+        package.entitlements["get-task-allow"] = True
+        package.profile["Entitlements"]["get-task-allow"] = True
+
+    def runs_on(system):
+        def change(package):
+            for information in (package.info, package.bulb_info, package.share_info):
+                information["MinimumOSVersion"] = system
+            for binary in (package.code, package.bulb, package.share):
+                binary.minimum = system
+        return change
+
+    small = app_icon(size=512, dark=False)
+    return {
+        "icon-phone": icons(app_icon(idioms=("pad",))),
+        "icon-pad": icons(app_icon(idioms=("phone",))),
+        "icon-marketing icon-phone icon-pad": icons(small),
+        "icon-name": drop("CFBundleIcons", "CFBundleIcons~ipad"),
+        "icon-name wrong": info(CFBundleIcons={"CFBundlePrimaryIcon": {"CFBundleIconName": "Other"}}),
+        "icon-opaque": icons(app_icon(opaque=False)),
+        "pad-orientations": info(UISupportedInterfaceOrientations=ORIENTATIONS[:1]),
+        "launch-screen": drop("UILaunchScreen"),
+        "package-type": info(CFBundlePackageType="FMWK"),
+        "minimum-system": runs_on("14.5"),
+        "arm64-capability minimum-system": runs_on("10.3"),
+        "nested-version": lambda package: [information.update(CFBundleShortVersionString="1.2 beta")
+                                           for information in (package.info, package.share_info)],
+        "nested-version missing": lambda package: package.bulb_info.pop("CFBundleShortVersionString"),
+        "extension-version": lambda package: package.share_info.update(CFBundleVersion="8"),
+        "identifier-once": lambda package: package.bulb_info.update(CFBundleIdentifier="com.example.lamp"),
+        "nested-identifier profile-identifier": lambda package: package.share_info.update(
+            CFBundleIdentifier="com.example.share"),
+        "sdk-age": code(sdk="18.5"),
+        "executable": code("bulb", more_commands=[b"\x32\0\0\0\x08\0\0\0"]),
+        "simulator-code": code("bulb", platform="ios-simulator"),
+        "alignment": code("bulb", segments=[("__ODD", 0x200000123, 0x1000, 0x4000, 0x100)]),
+        "bitcode": code("bulb", segments=[("__LLVM", 0x200000000, 0x4000, 0x4000, 0x100)]),
+        "encryption-info": code(encryption=None),
+        "encryption-info enciphered": code(encryption=(0x4000, 0x4000, 1)),
+        "web-view": code(imports=["_OBJC_CLASS_$_UIWebView"]),
+        "framework-minimum": lambda package: package.bulb_info.pop("MinimumOSVersion"),
+        "framework-system": code("bulb", minimum="17.0"),
+        "framework-type": code("bulb", filetype=BUNDLE),
+        "swift-entry": new_kind,
+        "loose-code": loose,
+        "nested-frameworks": lambda package: setattr(package, "bulb_path", f"{SHARE}/Frameworks/Bulb.framework"),
+        "swift-support": store_swift,
+        "signed": signer(identity=None, team="", flags=2),
+        "signed not at all": lambda package: setattr(package, "sign_app", False),
+        "signature": byte(f"{APP}/Lamp"),
+        "signature seal": byte(f"{BULB}/Bulb"),
+        "seal": replace(f"{APP}/de.lproj/Localizable.strings", b"changed"),
+        "seal Info.plist": lambda package: setattr(package, "after", lambda files: files.update(
+            {f"{APP}/Info.plist": plistlib.dumps(package.info | {"CFBundleName": "Lump"})})),
+        "seal embedded": lambda package: setattr(package, "after", lambda files: files.update(
+            {f"{APP}/embedded.mobileprovision": signed(package.identity, package.profile | {"Name": "Another"})})),
+        "seal missing": remove(f"{APP}/PrivacyInfo.xcprivacy"),
+        "seal more": replace(f"{APP}/more.txt", b"more"),
+        "certificate-kind": by(developer),
+        "certificate-validity": by(ended),
+        "certificate-profile": by(identity, in_profile=other),
+        "profile": lambda package: setattr(package, "profile", None),
+        "profile-kind": profile_changes(ProvisionedDevices=["device"]),
+        "profile-expiry": profile_changes(ExpirationDate=plistlib.loads(
+            b"<plist><date>2026-09-01T00:00:00Z</date></plist>")),
+        "profile-identifier entitlements": lambda package: package.profile["Entitlements"].update(
+            {"application-identifier": f"{TEAM}.com.example.*.other"}),
+        "team": other_team,
+        "entitlements": entitlement(**{"com.apple.developer.healthkit": True}),
+        "debuggable profile-kind": debuggable,
+        "push": code(selectors=["registerForRemoteNotifications"]),
+        "purpose": code(imports=["_OBJC_CLASS_$_AVCaptureDevice"]),
+        "purpose-likely": code(imports=["_OBJC_CLASS_$_EKEventStore"]),
+        "purpose-empty": info(NSCameraUsageDescription=" "),
+        "required-reason": code(imports=["_statfs"]),
+        "required-reason in a framework": code("bulb", selectors=["systemUptime"]),
+        "privacy-form": lambda package: package.privacy.update({"NSPrivacyTracking": True}),
+        "privacy-form reason": lambda package: package.privacy["NSPrivacyAccessedAPITypes"].append(
+            {"NSPrivacyAccessedAPIType": "NSPrivacyAccessedAPICategoryDiskSpace", "NSPrivacyAccessedAPITypeReasons": ["X"]}),
+        "listed-kit": moved_framework("Alamofire"),
+        "export-compliance": drop("ITSAppUsesNonExemptEncryption"),
+        "background-processing": info(UIBackgroundModes=["processing"]),
+        "arbitrary-loads": info(NSAppTransportSecurity={"NSAllowsArbitraryLoads": True}),
+        "localization-holes": lambda package: package.files.update({"de.lproj/More.strings": b""}),
+        "facebook": info(FacebookAppID="12345"),
+    }
+
+
+def keeping():
+    """Packages near the border that keep every rule."""
+    def web_view_selector(package):
+        package.code.selectors = ["UIWebView"]
+
+    def declared(package):
+        package.code.imports = ["_OBJC_CLASS_$_NSUserDefaults"]
+
+    def purpose(package):
+        package.code.imports = ["_OBJC_CLASS_$_AVCaptureDevice"]
+        package.info["NSCameraUsageDescription"] = "The lamp sees how bright it is."
+
+    def facebook(package):
+        package.info["FacebookAppID"] = "12345"
+        package.info["CFBundleURLTypes"] = [{"CFBundleURLSchemes": ["lamp", "fb12345"]}]
+
+    def full_screen(package):
+        package.info |= {"UIRequiresFullScreen": True, "UISupportedInterfaceOrientations": ORIENTATIONS[:1]}
+
+    def tasks(package):
+        package.info |= {"UIBackgroundModes": ["processing"], "BGTaskSchedulerPermittedIdentifiers": ["com.example.lamp.task"]}
+
+    def swift(package):
+        library = MachO(filetype=DYLIB)
+        library.signature_room = 0x6000
+        library.sign = Signer(package.identity, "libswiftCore")
+        package.files["Frameworks/libswiftCore.dylib"] = library.bytes()
+        package.roots["SwiftSupport/iphoneos/libswiftCore.dylib"] = library.bytes()
+
+    def push(package):
+        package.code.selectors = ["registerForRemoteNotifications"]
+        package.entitlements["aps-environment"] = "production"
+        package.profile["Entitlements"]["aps-environment"] = "production"
+
+    def wildcard(package):
+        package.profile["Entitlements"]["application-identifier"] = f"{TEAM}.*"
+
+    def entry(package):
+        package.share_info["EXAppExtensionAttributes"] = {"EXExtensionPointIdentifier": "com.example.point"}
+        package.share.sections = {"__swift5_entry": bytes(4)}
+
+    return {"all": lambda package: None, "a selector of that name": web_view_selector, "declared use": declared,
+            "purpose said": purpose, "facebook scheme": facebook, "the whole screen": full_screen, "tasks listed": tasks,
+            "swift libraries twice": swift, "push with its entitlement": push, "wildcard profile": wildcard,
+            "swift entry": entry}
+
+
+def main():
+    out = Path(sys.argv[1])
+    identity = Identity()
+    other = Identity()
+    developer = Identity(common_name="Apple Development: Ann Example (ABCDE12345)")
+    ended = Identity(start="20250101000000Z", end="20260901000000Z")
+    for name, change in breaking(identity, other, developer, ended).items():
+        package = Package(identity)
+        change(package)
+        package.write(out / f"{name}.ipa")
+    for name, change in keeping().items():
+        package = Package(identity)
+        change(package)
+        package.write(out / f"keeps, {name}.ipa")
+
+
+if __name__ == "__main__":
+    main()
