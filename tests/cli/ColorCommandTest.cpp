@@ -93,6 +93,14 @@ private slots:
         }
     }
 
+    void aComplaintCannotSteerTheTerminal()
+    {
+        const LumoraRun run = runLumora({u"color"_s, u"\x1b[31mred\x07"_s});
+        QCOMPARE(run.status, 1);
+        QVERIFY(run.err.contains("<U+001B>[31mred<U+0007>"));
+        QVERIFY(!run.err.contains('\x1b') && !run.err.contains('\x07'));
+    }
+
     void refusesAWrongCall_data()
     {
         QTest::addColumn<QStringList>("arguments");

@@ -17,6 +17,7 @@ private slots:
     void fadesInAQuarterOfASecond_data();
     void fadesInAQuarterOfASecond();
     void turnsRoundFromTheOpacityItHas();
+    void aHiddenViewChangesAtOnce();
 };
 
 namespace
@@ -74,6 +75,13 @@ void FadingViewTest::turnsRoundFromTheOpacityItHas()
     QVERIFY(std::abs(view.alphaValue() - (turned + 1) / 2) < tolerance);
     clock.pass(125);
     QCOMPARE(view.alphaValue(), 1.0F);
+}
+
+void FadingViewTest::aHiddenViewChangesAtOnce()
+{
+    FadingView view;
+    view.fadeTo(0.25F);
+    QCOMPARE(view.alphaValue(), 0.25F);
 }
 
 QTEST_MAIN(FadingViewTest)

@@ -6,8 +6,10 @@
 #include <QTest>
 #include <QThread>
 
+#include <array>
 #include <csignal>
 #include <memory>
+#include <thread>
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -75,6 +77,65 @@ private slots:
     {
         m_folder = std::make_unique<QTemporaryDir>();
         QVERIFY(m_folder->isValid());
+    }
+
+    void readsAFileOfUpToTheLimit_data()
+    {
+        QTest::addColumn<qsizetype>("size");
+        QTest::addColumn<qint64>("limit");
+        QTest::addColumn<bool>("fits");
+        QTest::newRow("empty") << qsizetype{0} << qint64{0} << true;
+        QTest::newRow("one byte") << qsizetype{1} << qint64{100} << true;
+        QTest::newRow("just the limit") << qsizetype{100} << qint64{100} << true;
+        QTest::newRow("a byte more") << qsizetype{101} << qint64{100} << false;
+        QTest::newRow("more than one step of reading") << qsizetype{200'000} << qint64{200'000} << true;
+        QTest::newRow("more than one step, a byte more") << qsizetype{200'001} << qint64{200'000} << false;
+    }
+    void readsAFileOfUpToTheLimit()
+    {
+        QFETCH(qsizetype, size);
+        QFETCH(qint64, limit);
+        QFETCH(bool, fits);
+        QByteArray content(size, 'x');
+        for (qsizetype i = 0; i < size; i += 7)
+            content[i] = static_cast<char>(i);
+        const QString path = m_folder->filePath(u"read"_s);
+        QVERIFY(put(path, content));
+        const auto whole = readWholeFile(path, limit);
+        QCOMPARE(whole.ok(), fits);
+        if (fits)
+            QCOMPARE(whole.value(), content);
+        else
+            QCOMPARE(whole.failure().code, FailureCode::TooLarge);
+
+        // What cannot say its size beforehand is read to the same limit.
+        int ends[2] = {-1, -1};
+        QVERIFY(::pipe(ends) == 0);
+        std::jthread writer([&content, end = ends[1]] {
+            qsizetype written = 0;
+            for (ssize_t count = 1; written < content.size() && count > 0; written += count)
+                count = ::write(end, content.constData() + written, static_cast<std::size_t>(content.size() - written));
+            ::close(end);
+        });
+        const auto piped = readWholeDescriptor(ends[0], u"pipe"_s, limit);
+        // Takes what is left, so that the writer ends.
+        std::array<char, 4096> rest{};
+        while (::read(ends[0], rest.data(), rest.size()) > 0) {
+        }
+        ::close(ends[0]);
+        QCOMPARE(piped.ok(), fits);
+        if (fits)
+            QCOMPARE(piped.value(), content);
+        else
+            QCOMPARE(piped.failure().code, FailureCode::TooLarge);
+    }
+
+    void aFolderIsNoFile()
+    {
+        const auto whole = readWholeFile(m_folder->path(), 100);
+        QVERIFY(!whole);
+        QCOMPARE(whole.failure().code, FailureCode::IsFolder);
+        QCOMPARE(whole.failure().detail, QString());
     }
 
     void writesWhereTheNameLeads_data()

@@ -279,6 +279,7 @@ void PictureReaderTest::truncatedIsRefused_data()
         const QImage written = qstrcmp(format, "bmp") == 0 ? picture.convertToFormat(QImage::Format_RGB32) : picture;
         QTest::newRow(format) << encoded(written, format);
     }
+    QTest::newRow("bmp, rows padded") << encoded(quarters(63, 48).convertToFormat(QImage::Format_RGB32), "bmp");
 }
 
 void PictureReaderTest::truncatedIsRefused()

@@ -24,6 +24,13 @@ QPainterPath ring()
     return path;
 }
 
+QPainterPath twoOnOneAnother()
+{
+    QPainterPath path = rectangle(0, 0, 2, 1);
+    path.addPath(rectangle(1, 0, 2, 1));
+    return path;
+}
+
 QPainterPath triangle()
 {
     QPainterPath path(QPointF(0, 0));
@@ -67,6 +74,8 @@ private slots:
         QTest::newRow("inside one pixel") << rectangle(0.25, 0.25, 0.5, 0.5) << 0 << QList<int>{64};
         QTest::newRow("a hole stays open") << ring() << 2 << QList<int>{255, 0, 0, 0, 255};
         QTest::newRow("above a hole") << ring() << 0 << QList<int>{255, 255, 255, 255, 255};
+        QTest::newRow("what lies twice on a pixel covers it once")
+            << twoOnOneAnother() << 0 << QList<int>{255, 255, 255};
         QTest::newRow("a slope halves its pixel") << triangle() << 2 << QList<int>{255, 255, 128, 0};
         QTest::newRow("a slope over several pixels") << flatTriangle() << 0 << QList<int>{223, 159, 96, 32};
         QTest::newRow("a row above") << rectangle(0, 4, 3, 1) << 3 << QList<int>{0, 0, 0};

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "placeholders/Placeholder.h"
 #include "placeholders/LabelFont.h"
+#include "placeholders/OutlineCoverage.h"
+#include "placeholders/PlaceholderLabel.h"
 
 #include <QFontDatabase>
 #include <QTest>
@@ -93,6 +95,28 @@ private slots:
         QVERIFY(slice.width() > 3500 && slice.width() < 4000);
         QCOMPARE(strip.pixel(0, 0), gray);
         QCOMPARE(strip.pixel(9998, 0), gray);
+    }
+
+    void theLabelIsDrawnToItsEdges()
+    {
+        const QSizeF size(320, 100);
+        const LabelFont font;
+        const OutlineCoverage label(labelOutline(size, font));
+        const QRect bounds = label.bounds();
+        const QImage picture = placeholderWithSize(size, font).toImage();
+        std::vector<unsigned char> row(static_cast<std::size_t>(bounds.width()));
+        bool leftIsMet = false;
+        bool rightIsMet = false;
+        for (int y = bounds.top(); y <= bounds.bottom(); ++y) {
+            label.readRow(y, row);
+            // The least coverage that is seen on gray.
+            constexpr int least = 2;
+            QCOMPARE(picture.pixel(bounds.left(), y) != gray, row.front() >= least);
+            QCOMPARE(picture.pixel(bounds.right(), y) != gray, row.back() >= least);
+            leftIsMet = leftIsMet || row.front() >= least;
+            rightIsMet = rightIsMet || row.back() >= least;
+        }
+        QVERIFY(leftIsMet && rightIsMet);
     }
 
     void rowsAgreeWithTheWholePicture()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "resizer/DownscaleBatch.h"
 #include "RetinaFixtures.h"
+#include "resizer/MemoryBudget.h"
 
 #include <QDir>
 #include <QFile>
@@ -177,6 +178,16 @@ private slots:
         }
         createImagesFromDataPaths(paths, out({}), [](qsizetype index, const DownscaledFile &) { return index < 2; });
         QCOMPARE(QDir(out({})).entryList(QDir::Files).size(), 3);
+    }
+
+    void aShareLargerThanAllIsAllOfIt()
+    {
+        MemoryBudget budget(10);
+        for (const qint64 bytes : {qint64{100}, qint64{10}, qint64{11}})
+            const MemoryBudget::Share share(budget, bytes);
+        // What was lent is back.
+        const MemoryBudget::Share half(budget, 5);
+        const MemoryBudget::Share other(budget, 5);
     }
 
     void nothingToDoIsDoneAtOnce() { QVERIFY(run({}).empty()); }

@@ -197,6 +197,15 @@ private slots:
         QVERIFY(halvedPicture(pictureFile(picture, "bmp"), QStringLiteral("bitmap@2x.png")).ok());
     }
 
+    void whatIsTooLargeHasNoHalf()
+    {
+        QCOMPARE(halvedSize({8192, 8192}, QStringLiteral("x")).value(), QSize(4096, 4096));
+        const Result<QSize> half = halvedSize({8192, 8193}, QStringLiteral("x"));
+        QVERIFY(!half);
+        QCOMPARE(half.failure().code, FailureCode::TooLarge);
+        QCOMPARE(half.failure().subject, QStringLiteral("x"));
+    }
+
     void sameBytesAgain()
     {
         const QByteArray file = pictureFile(testPicture(301, 200));

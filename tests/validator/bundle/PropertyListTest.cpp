@@ -77,6 +77,42 @@ private slots:
         QVERIFY(!propertyListDictionary(contents(fault)));
     }
 
+    void boundsWhatABinaryListUnfoldsTo_data()
+    {
+        QTest::addColumn<QList<QByteArray>>("objects");
+        QTest::addColumn<qsizetype>("depth");
+        QTest::addColumn<bool>("bounded");
+        const QByteArray empty("\xA0", 1);
+        const auto arrayOf = [](const QByteArray &members) -> QByteArray {
+            return QByteArray(1, static_cast<char>(0xA0 | members.size())) + members;
+        };
+        const QList<QByteArray> shared{arrayOf("\1\3"), arrayOf("\2"), empty, arrayOf("\1")};
+        QTest::newRow("an empty array") << QList{empty} << qsizetype{1} << true;
+        QTest::newRow("an array that holds itself") << QList{arrayOf(QByteArray(1, '\0'))} << qsizetype{9} << false;
+        QTest::newRow("two arrays that hold each other")
+            << QList{arrayOf("\1"), arrayOf(QByteArray(1, '\0'))} << qsizetype{9} << false;
+        QTest::newRow("a part that is met twice, as deep as may be") << shared << qsizetype{4} << true;
+        QTest::newRow("a part that is met twice, a step too deep") << shared << qsizetype{3} << false;
+    }
+    void boundsWhatABinaryListUnfoldsTo()
+    {
+        QFETCH(QList<QByteArray>, objects);
+        QFETCH(qsizetype, depth);
+        QByteArray list("bplist00");
+        QByteArray offsets;
+        for (const QByteArray &object : std::as_const(objects)) {
+            offsets += static_cast<char>(list.size());
+            list += object;
+        }
+        const auto number = [](qsizetype value) -> QByteArray {
+            return QByteArray(7, '\0') + static_cast<char>(value);
+        };
+        const QByteArray trailer =
+            QByteArray(6, '\0') + "\1\1" + number(objects.size()) + number(0) + number(list.size());
+        const QByteArray file = list + offsets + trailer;
+        QTEST(binaryPlistIsBounded(file, {.depth = depth}), "bounded");
+    }
+
     void readsXmlUpToItsLimits_data()
     {
         QTest::addColumn<QByteArray>("value");
