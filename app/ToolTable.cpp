@@ -7,7 +7,6 @@
 #include "placeholders/PlaceholderViewController.h"
 #include "resizer/ResizerViewController.h"
 #include "validator/ValidaterViewController.h"
-#include "widgets/style/Palette.h"
 
 namespace lumora
 {
@@ -35,20 +34,14 @@ void openPackage(ToolViewController &controller, const QString &path)
 std::span<const Tool> toolTable()
 {
     static const Tool tools[] = {
-        {"icons", "icon_icons", "APP_ICONS", "HELP_ICONS", "HELP_ICONS_TEXT", "help_icon_icons", palette::icons,
-         palette::iconsBorder, &make<IconsViewController>, "png", &openIcon},
-        {"placeholders", "icon_placeholders", "APP_PLACEHOLDER", "HELP_PLACEHOLDER", "HELP_PLACEHOLDER_TEXT",
-         "help_icon_placeholder", palette::placeholders, palette::placeholdersBorder, &make<PlaceholderViewController>},
-        {"resizer", "icon_resizer", "APP_RESIZER", "HELP_RESIZER", "HELP_RESIZER_TEXT", "help_icon_resizer",
-         palette::resizer, palette::resizerBorder, &make<ResizerViewController>},
-        {"color", "icon_colors", "APP_COLOR", "HELP_COLOR", "HELP_COLOR_TEXT", "help_icon_color", palette::color,
-         palette::colorBorder, &make<ColorViewController>},
-        {"devices", "icon_devices", "APP_DEVICES", "HELP_DEVICES", "HELP_DEVICES_TEXT", "help_icon_devices",
-         palette::devices, palette::devicesBorder, &make<DeviceViewController>},
-        {"validator", "icon_validater_active", "APP_VALIDATER", "HELP_VALIDATER", "HELP_VALIDATER_TEXT",
-         "help_icon_validater", palette::validator, palette::validatorBorder, &make<ValidaterViewController>, "ipa",
-         &openPackage},
+        {factsOf(ToolIndex::Icons), &make<IconsViewController>, &openIcon},
+        {factsOf(ToolIndex::Placeholders), &make<PlaceholderViewController>},
+        {factsOf(ToolIndex::Resizer), &make<ResizerViewController>},
+        {factsOf(ToolIndex::Color), &make<ColorViewController>},
+        {factsOf(ToolIndex::Devices), &make<DeviceViewController>},
+        {factsOf(ToolIndex::Validator), &make<ValidaterViewController>, &openPackage},
     };
+    static_assert(std::size(tools) == toolFacts.size());
     return tools;
 }
 

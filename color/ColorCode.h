@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "RgbaColor.h"
 #include "foundation/Result.h"
+#include "foundation/RgbaColor.h"
 
 #include <QString>
 #include <QStringView>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "RgbaColor.h"
+#include "foundation/RgbaColor.h"
 
 #include <QString>
 
@@ -10,6 +10,8 @@
 
 namespace lumora
 {
+
+// The first two have no caller but the tests; they belong to the color class all the same.
 
 /// A new color of the platform in generic RGB with the same red, green, blue and opacity, whatever model the given one
 /// was made in. The caller owns it, as any value.

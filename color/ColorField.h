@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "RgbaColor.h"
+#include "foundation/RgbaColor.h"
 
 #include <QLineEdit>
 

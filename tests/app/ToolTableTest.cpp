@@ -127,8 +127,8 @@ private slots:
         QCOMPARE(tool.helpTitleKey, expected.helpTitleKey);
         QCOMPARE(tool.helpTextKey, expected.helpTextKey);
         QCOMPARE(tool.helpIcon, expected.helpIcon);
-        QCOMPARE(tool.color, colorOf(expected.color));
-        QCOMPARE(tool.borderColor, colorOf(expected.borderColor));
+        QCOMPARE(platformColor(tool.color), colorOf(expected.color));
+        QCOMPARE(platformColor(tool.borderColor), colorOf(expected.borderColor));
         QCOMPARE(tool.openedExtension, expected.openedExtension);
         QCOMPARE(tool.openFile != nullptr, expected.openedExtension != nullptr);
         QVERIFY(!NamedImage(QString::fromLatin1(tool.sidebarImage)).isNull());

@@ -30,41 +30,41 @@ void KBButtonCell::setKBButtonType(KBButtonType type)
     m_baseColor = getColorForButtonType(type);
 }
 
-CalibratedColor KBButtonCell::getColorForButtonType(KBButtonType type)
+RgbaColor KBButtonCell::getColorForButtonType(KBButtonType type)
 {
     switch (type) {
     case KBButtonType::Primary:
-        return CalibratedColor::fromColor(palette::icons);
+        return rgbaFrom(palette::icons);
     case KBButtonType::Information:
-        return CalibratedColor::fromColor(palette::socialBlueDark);
+        return rgbaFrom(palette::socialBlueDark);
     case KBButtonType::Success:
-        return CalibratedColor::fromColor(palette::successDark);
+        return rgbaFrom(palette::successDark);
     case KBButtonType::Warning:
-        return CalibratedColor::fromColor(palette::devices);
+        return rgbaFrom(palette::devices);
     case KBButtonType::Danger:
-        return CalibratedColor::fromColor(palette::errorDark);
+        return rgbaFrom(palette::errorDark);
     case KBButtonType::Inverse:
-        return CalibratedColor::fromColor(palette::chromeText);
+        return rgbaFrom(palette::chromeText);
     case KBButtonType::Default:
         break;
     }
-    return CalibratedColor::fromColor(palette::panel);
+    return rgbaFrom(palette::panel);
 }
 
 void KBButtonCell::drawBezelWithFrame(QPainter &painter, const QRectF &frame) const
 {
     painter.save();
     painter.setPen(Qt::NoPen);
-    painter.setBrush(darkenColorByValue(m_baseColor, bezelContrast).toColor());
+    painter.setBrush(platformColor(darkenColorByValue(m_baseColor, bezelContrast)));
     painter.drawRoundedRect(frame, bezelRadius, bezelRadius);
 
     const QRectF inner = frame.adjusted(outlineWidth, outlineWidth, -outlineWidth, -outlineWidth);
-    const CalibratedColor base = m_hovered ? lightenColorByValue(m_baseColor, hoverContrast) : m_baseColor;
-    const CalibratedColor begin =
+    const RgbaColor base = m_hovered ? lightenColorByValue(m_baseColor, hoverContrast) : m_baseColor;
+    const RgbaColor begin =
         m_highlighted ? darkenColorByValue(base, bezelContrast) : lightenColorByValue(base, bezelContrast);
     QLinearGradient gradient(inner.topLeft(), inner.bottomLeft());
-    gradient.setColorAt(0, begin.toColor());
-    gradient.setColorAt(1, base.toColor());
+    gradient.setColorAt(0, platformColor(begin));
+    gradient.setColorAt(1, platformColor(base));
     painter.setBrush(gradient);
     painter.drawRoundedRect(inner, bezelRadius, bezelRadius);
     painter.restore();

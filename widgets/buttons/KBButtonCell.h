@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "widgets/style/ColorExtensions.h"
+#include "widgets/style/ColorShades.h"
 
 #include <QFont>
 #include <QObject>
@@ -14,11 +14,11 @@ namespace lumora
 {
 Q_NAMESPACE
 
-/// What a bezelled button is for; each has its own colour.
+/// What a beveled button is for; each has its own color.
 enum class KBButtonType { Default, Primary, Information, Success, Warning, Danger, Inverse };
 Q_ENUM_NS(KBButtonType)
 
-/// Draws the bezel and the title of a KBButton: a dark outline, inside it a gradient of the type's colour from light at
+/// Draws the bezel and the title of a KBButton: a dark outline, inside it a gradient of the type's color from light at
 /// the top to plain at the bottom.
 class KBButtonCell
 {
@@ -26,12 +26,12 @@ public:
     KBButtonCell();
 
     KBButtonType kbButtonType() const { return m_type; }
-    /// Also picks the base colour.
+    /// Also picks the base color.
     void setKBButtonType(KBButtonType type);
-    static CalibratedColor getColorForButtonType(KBButtonType type);
-    const CalibratedColor &baseColor() const { return m_baseColor; }
+    static RgbaColor getColorForButtonType(KBButtonType type);
+    const RgbaColor &baseColor() const { return m_baseColor; }
 
-    /// Whether the button is held down; its gradient then runs from a darker colour to the plain one.
+    /// Whether the button is held down; its gradient then runs from a darker color to the plain one.
     bool isHighlighted() const { return m_highlighted; }
     void setHighlighted(bool highlighted) { m_highlighted = highlighted; }
     /// Whether the pointer is over the button; its gradient is then lighter throughout.
@@ -42,13 +42,13 @@ public:
 
     /// Fill the frame, corners rounded by 3. Both leave the painter as it was.
     void drawBezelWithFrame(QPainter &painter, const QRectF &frame) const;
-    /// Draws the title in the middle of the frame, dark on a light base colour, else white; cut with an ellipsis where
+    /// Draws the title in the middle of the frame, dark on a light base color, else white; cut with an ellipsis where
     /// it does not fit.
     void drawTitle(QPainter &painter, const QString &title, const QRectF &frame) const;
 
 private:
     KBButtonType m_type = KBButtonType::Default;
-    CalibratedColor m_baseColor;
+    RgbaColor m_baseColor;
     QFont m_font;
     bool m_highlighted = false;
     bool m_hovered = false;

@@ -8,12 +8,14 @@
 #include <QPalette>
 #include <QToolTip>
 
+using namespace Qt::StringLiterals;
+
 namespace lumora
 {
 
 void applyAppStyle()
 {
-    QApplication::setStyle(QStringLiteral("fusion"));
+    QApplication::setStyle(u"fusion"_s);
 }
 
 void applyAppColors()

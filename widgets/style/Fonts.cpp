@@ -5,6 +5,8 @@
 
 #include <QFontDatabase>
 
+using namespace Qt::StringLiterals;
+
 namespace lumora
 {
 
@@ -16,8 +18,8 @@ QString latoFamily()
 {
     static const QString family = [] {
         loadResources();
-        const int regular = QFontDatabase::addApplicationFont(QStringLiteral(":/fonts/Lato-Regular.ttf"));
-        const int bold = QFontDatabase::addApplicationFont(QStringLiteral(":/fonts/Lato-Bold.ttf"));
+        const int regular = QFontDatabase::addApplicationFont(u":/fonts/Lato-Regular.ttf"_s);
+        const int bold = QFontDatabase::addApplicationFont(u":/fonts/Lato-Bold.ttf"_s);
         if (regular < 0 || bold < 0)
             return QString();
         return QFontDatabase::applicationFontFamilies(bold).value(0);

@@ -16,7 +16,7 @@ class FrameClock final : public QAnimationDriver
 {
 public:
     /// What fades in from nothing has its first visible value, 1/256, after 11.4 ms; one frame of 60 a second has not
-    /// passed by then, with time to spare for drawing it.
+    /// passed at that time, with time to spare for drawing it.
     static constexpr std::chrono::milliseconds interval{12};
 
     FrameClock();

@@ -12,6 +12,8 @@
 
 #include <memory>
 
+using namespace Qt::StringLiterals;
+
 namespace lumora
 {
 
@@ -26,7 +28,7 @@ QSvgRenderer *rendererOf(const QString &name)
     if (known != renderers.cend())
         return known->get();
     loadResources();
-    const QString path = QStringLiteral(":/images/") + name + QStringLiteral(".svg");
+    const QString path = u":/images/"_s + name + u".svg"_s;
     std::shared_ptr<QSvgRenderer> renderer;
     if (QFile::exists(path)) {
         renderer = std::make_shared<QSvgRenderer>(path);
@@ -77,7 +79,7 @@ QPixmap NamedImage::pixmap(const QSizeF &size, qreal devicePixelRatio) const
     if (isNull() || pixels.isEmpty())
         return {};
     const QString key =
-        QStringLiteral("lumora/%1/%2x%3/%4").arg(m_name).arg(pixels.width()).arg(pixels.height()).arg(devicePixelRatio);
+        u"lumora/%1/%2x%3/%4"_s.arg(m_name).arg(pixels.width()).arg(pixels.height()).arg(devicePixelRatio);
     QPixmap pixmap;
     if (!QPixmapCache::find(key, &pixmap)) {
         pixmap = QPixmap(pixels);

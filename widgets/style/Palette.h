@@ -1,18 +1,20 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "foundation/ToolFacts.h"
+
 #include <QColor>
 
 namespace lumora::palette
 {
 
-/// An opaque colour from components 0 to 1, kept in single precision as they stand.
+/// An opaque color from components 0 to 1, kept in single precision as they stand.
 inline QColor rgb(float red, float green, float blue)
 {
     return QColor::fromRgbF(red, green, blue);
 }
 
-/// Body text, borders and everything that is neither a tool's nor a message's colour.
+/// Body text, borders and everything that is neither a tool's nor a message's color.
 inline const QColor chromeText = rgb(0.204F, 0.286F, 0.369F);
 /// The same, pressed or under the pointer.
 inline const QColor chromeTextDark = rgb(0.153F, 0.216F, 0.278F);
@@ -27,19 +29,19 @@ inline const QColor panelOutline = rgb(0.741F, 0.765F, 0.780F);
 /// Thin rules inside popovers.
 inline const QColor separator = rgb(0.584F, 0.647F, 0.651F);
 
-/// Each tool's own colour fills header and sidebar; its border shade lines them.
-inline const QColor icons = rgb(0.204F, 0.596F, 0.859F);
-inline const QColor iconsBorder = rgb(0.161F, 0.502F, 0.725F);
-inline const QColor placeholders = rgb(0.180F, 0.800F, 0.443F);
-inline const QColor placeholdersBorder = rgb(0.153F, 0.682F, 0.376F);
-inline const QColor resizer = rgb(0.906F, 0.298F, 0.235F);
-inline const QColor resizerBorder = rgb(0.753F, 0.224F, 0.169F);
-inline const QColor color = rgb(0.608F, 0.349F, 0.714F);
-inline const QColor colorBorder = rgb(0.557F, 0.267F, 0.678F);
-inline const QColor devices = rgb(0.902F, 0.494F, 0.133F);
-inline const QColor devicesBorder = rgb(0.827F, 0.329F, 0.000F);
-inline const QColor validator = rgb(0.945F, 0.769F, 0.059F);
-inline const QColor validatorBorder = rgb(0.953F, 0.612F, 0.071F);
+/// Each tool's own color fills header and sidebar; its border shade lines them.
+inline const QColor icons = platformColor(factsOf(ToolIndex::Icons).color);
+inline const QColor iconsBorder = platformColor(factsOf(ToolIndex::Icons).borderColor);
+inline const QColor placeholders = platformColor(factsOf(ToolIndex::Placeholders).color);
+inline const QColor placeholdersBorder = platformColor(factsOf(ToolIndex::Placeholders).borderColor);
+inline const QColor resizer = platformColor(factsOf(ToolIndex::Resizer).color);
+inline const QColor resizerBorder = platformColor(factsOf(ToolIndex::Resizer).borderColor);
+inline const QColor color = platformColor(factsOf(ToolIndex::Color).color);
+inline const QColor colorBorder = platformColor(factsOf(ToolIndex::Color).borderColor);
+inline const QColor devices = platformColor(factsOf(ToolIndex::Devices).color);
+inline const QColor devicesBorder = platformColor(factsOf(ToolIndex::Devices).borderColor);
+inline const QColor validator = platformColor(factsOf(ToolIndex::Validator).color);
+inline const QColor validatorBorder = platformColor(factsOf(ToolIndex::Validator).borderColor);
 
 /// What a message is about: it went well, it failed, it informs.
 inline const QColor successLight = placeholders;
@@ -64,7 +66,7 @@ inline const QColor inactiveTitleText = rgb(0.36F, 0.36F, 0.36F);
 /// What falls from a popover onto the window below it.
 inline const QColor popoverShadow = QColor::fromRgbF(0.0F, 0.0F, 0.0F, 0.35F);
 
-/// Filled buttons: their text, and their colours before their owner sets others.
+/// Filled buttons: their text, and their colors before their owner sets others.
 inline const QColor buttonText = rgb(1, 1, 1);
 inline const QColor button = icons;
 inline const QColor buttonHover = iconsBorder;
@@ -75,7 +77,7 @@ inline const QColor focusRing = iconsBorder;
 inline const QColor focusRingInner = rgb(1, 1, 1);
 
 /// The progress bar: its filled part and stripes before its owner sets others, the faint light on its outline, and two
-/// lines that are drawn in clear colours.
+/// lines that are drawn in clear colors.
 inline const QColor progressLight = resizer;
 inline const QColor progressDark = resizerBorder;
 inline const QColor progressHighlight = QColor::fromRgbF(1.0F, 1.0F, 1.0F, 0.2F);
@@ -95,19 +97,19 @@ inline const QColor placeholderText = rgb(0.38F, 0.44F, 0.48F);
 inline const QColor selectedText = rgb(1, 1, 1);
 inline const QColor selectedTextBackground = linkText;
 
-/// The sidebar's own blue, before a tool colours it.
+/// The sidebar's own blue, before a tool colors it.
 inline const QColor sidebar = rgb(0.341F, 0.565F, 0.898F);
 /// The selected item's frame, the item under the pointer, and the ring while keys go to the sidebar.
 inline const QColor sidebarSelection = rgb(1, 1, 1);
 inline const QColor sidebarHover = QColor::fromRgbF(1, 1, 1, 0.15F);
 inline const QColor sidebarFocus = QColor::fromRgbF(1, 1, 1, 0.6F);
 
-/// What shows through a colour that is not opaque, a chequered pattern.
+/// What shows through a color that is not opaque, a checkered pattern.
 inline const QColor transparencyLight = rgb(1.0F, 1.0F, 1.0F);
 inline const QColor transparencyDark = rgb(0.831F, 0.851F, 0.863F);
 /// Keeps a white swatch visible on white.
 inline const QColor swatchOutline = QColor::fromRgbF(0.0F, 0.0F, 0.0F, 0.18F);
-/// Rings and knobs on colours, seen on every one: bright with a dark edge.
+/// Rings and knobs on colors, seen on every one: bright with a dark edge.
 inline const QColor marker = rgb(1.0F, 1.0F, 1.0F);
 inline const QColor markerEdge = QColor::fromRgbF(0.0F, 0.0F, 0.0F, 0.45F);
 

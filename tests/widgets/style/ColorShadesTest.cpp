@@ -2,7 +2,7 @@
 #include "tests/doubles/Pointer.h"
 
 #include "widgets/buttons/KBButton.h"
-#include "widgets/style/ColorExtensions.h"
+#include "widgets/style/ColorShades.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -11,52 +11,49 @@ using namespace lumora;
 using namespace lumora::testing;
 using namespace Qt::StringLiterals;
 
-class ColorExtensionsTest : public QObject
+class ColorShadesTest : public QObject
 {
     Q_OBJECT
 private slots:
     void lightenAndDarken_data()
     {
-        QTest::addColumn<CalibratedColor>("color");
+        QTest::addColumn<RgbaColor>("color");
         QTest::addColumn<float>("value");
-        QTest::addColumn<CalibratedColor>("lighter");
-        QTest::addColumn<CalibratedColor>("darker");
-        QTest::newRow("plain") << CalibratedColor{0.5F, 0.25F, 0.75F, 1} << 0.125F
-                               << CalibratedColor{0.625F, 0.375F, 0.875F, 1}
-                               << CalibratedColor{0.375F, 0.125F, 0.625F, 1};
-        QTest::newRow("not clamped") << CalibratedColor{1, 0, 0.5F, 1} << 0.75F
-                                     << CalibratedColor{1.75F, 0.75F, 1.25F, 1}
-                                     << CalibratedColor{0.25F, -0.75F, -0.25F, 1};
-        QTest::newRow("single precision") << CalibratedColor{0.204F, 0.286F, 0.369F, 1} << 0.12F
-                                          << CalibratedColor{0.204F + 0.12F, 0.286F + 0.12F, 0.369F + 0.12F, 1}
-                                          << CalibratedColor{0.204F - 0.12F, 0.286F - 0.12F, 0.369F - 0.12F, 1};
-        QTest::newRow("alpha becomes 1") << CalibratedColor{0, 0, 0, 0.25F} << 0.5F
-                                         << CalibratedColor{0.5F, 0.5F, 0.5F, 1}
-                                         << CalibratedColor{-0.5F, -0.5F, -0.5F, 1};
+        QTest::addColumn<RgbaColor>("lighter");
+        QTest::addColumn<RgbaColor>("darker");
+        QTest::newRow("plain") << RgbaColor{0.5F, 0.25F, 0.75F, 1} << 0.125F << RgbaColor{0.625F, 0.375F, 0.875F, 1}
+                               << RgbaColor{0.375F, 0.125F, 0.625F, 1};
+        QTest::newRow("not clamped") << RgbaColor{1, 0, 0.5F, 1} << 0.75F << RgbaColor{1.75F, 0.75F, 1.25F, 1}
+                                     << RgbaColor{0.25F, -0.75F, -0.25F, 1};
+        QTest::newRow("single precision") << RgbaColor{0.204F, 0.286F, 0.369F, 1} << 0.12F
+                                          << RgbaColor{0.204F + 0.12F, 0.286F + 0.12F, 0.369F + 0.12F, 1}
+                                          << RgbaColor{0.204F - 0.12F, 0.286F - 0.12F, 0.369F - 0.12F, 1};
+        QTest::newRow("alpha becomes 1") << RgbaColor{0, 0, 0, 0.25F} << 0.5F << RgbaColor{0.5F, 0.5F, 0.5F, 1}
+                                         << RgbaColor{-0.5F, -0.5F, -0.5F, 1};
     }
     void lightenAndDarken()
     {
-        QFETCH(CalibratedColor, color);
+        QFETCH(RgbaColor, color);
         QFETCH(float, value);
-        QFETCH(CalibratedColor, lighter);
-        QFETCH(CalibratedColor, darker);
+        QFETCH(RgbaColor, lighter);
+        QFETCH(RgbaColor, darker);
         QVERIFY(lightenColorByValue(color, value) == lighter);
         QVERIFY(darkenColorByValue(color, value) == darker);
     }
 
     void light_data()
     {
-        QTest::addColumn<CalibratedColor>("color");
+        QTest::addColumn<RgbaColor>("color");
         QTest::addColumn<bool>("light");
-        QTest::newRow("white") << CalibratedColor{1, 1, 1} << true;
-        QTest::newRow("mean at the limit") << CalibratedColor{0.8F, 0.8F, 0.8F} << false;
-        QTest::newRow("mean just above") << CalibratedColor{0.8F, 0.8F, 0.801F} << true;
-        QTest::newRow("yellow") << CalibratedColor{1, 1, 0} << false;
-        QTest::newRow("alpha does not count") << CalibratedColor{1, 1, 1, 0} << true;
+        QTest::newRow("white") << RgbaColor{1, 1, 1} << true;
+        QTest::newRow("mean at the limit") << RgbaColor{0.8F, 0.8F, 0.8F} << false;
+        QTest::newRow("mean just above") << RgbaColor{0.8F, 0.8F, 0.801F} << true;
+        QTest::newRow("yellow") << RgbaColor{1, 1, 0} << false;
+        QTest::newRow("alpha does not count") << RgbaColor{1, 1, 1, 0} << true;
     }
     void light()
     {
-        QFETCH(CalibratedColor, color);
+        QFETCH(RgbaColor, color);
         QTEST(isLightColor(color), "light");
     }
 
@@ -68,7 +65,7 @@ private slots:
 
     void paintedColorIsClamped()
     {
-        QCOMPARE((CalibratedColor{1.5F, -0.5F, 0.5F}.toColor().rgb()), QColor(255, 0, 128).rgb());
+        QCOMPARE(platformColor(RgbaColor{1.5F, -0.5F, 0.5F}).rgb(), QColor(255, 0, 128).rgb());
     }
 
     void bezel_data()
@@ -88,7 +85,7 @@ private slots:
         KBButton button;
         button.setKBButtonType(type);
         button.resize(101, 31);
-        const CalibratedColor base = KBButtonCell::getColorForButtonType(type);
+        const RgbaColor base = KBButtonCell::getColorForButtonType(type);
         QVERIFY(button.cell().baseColor() == base);
         const QImage picture = pictureOf(&button, scale);
         const auto near = [](const QColor &a, const QColor &b, int tolerance) {
@@ -97,15 +94,15 @@ private slots:
         };
         const int middle = qRound(50 * scale);
         const int bottom = picture.height() - 1;
-        QCOMPARE(picture.pixelColor(middle, 0).rgb(), darkenColorByValue(base, 0.12F).toColor().rgb());
-        QCOMPARE(picture.pixelColor(middle, bottom).rgb(), darkenColorByValue(base, 0.12F).toColor().rgb());
+        QCOMPARE(picture.pixelColor(middle, 0).rgb(), platformColor(darkenColorByValue(base, 0.12F)).rgb());
+        QCOMPARE(picture.pixelColor(middle, bottom).rgb(), platformColor(darkenColorByValue(base, 0.12F)).rgb());
         // The first and last row inside the outline lie half a row inside the gradient's ends.
         const int inside = qRound(scale);
-        QVERIFY(near(picture.pixelColor(middle, inside), lightenColorByValue(base, 0.12F).toColor(), 2));
-        QVERIFY(near(picture.pixelColor(middle, bottom - inside), base.toColor(), 2));
+        QVERIFY(near(picture.pixelColor(middle, inside), platformColor(lightenColorByValue(base, 0.12F)), 2));
+        QVERIFY(near(picture.pixelColor(middle, bottom - inside), platformColor(base), 2));
         QTest::mousePress(&button, Qt::LeftButton);
-        QVERIFY(
-            near(pictureOf(&button, scale).pixelColor(middle, inside), darkenColorByValue(base, 0.12F).toColor(), 2));
+        QVERIFY(near(pictureOf(&button, scale).pixelColor(middle, inside),
+                     platformColor(darkenColorByValue(base, 0.12F)), 2));
     }
 
     void typeIsAPropertyForInterfaceFiles()
@@ -139,5 +136,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(ColorExtensionsTest)
-#include "ColorExtensionsTest.moc"
+QTEST_MAIN(ColorShadesTest)
+#include "ColorShadesTest.moc"

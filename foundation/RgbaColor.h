@@ -6,8 +6,8 @@
 namespace lumora
 {
 
-/// A color as the color tool computes with it: calibrated RGB in single precision. Components run from 0 to 1 and are
-/// kept as they are given, beyond that range too.
+/// A color to compute with: calibrated RGB in single precision. Components run from 0 to 1 and are kept as they are
+/// given, also beyond that range.
 struct RgbaColor
 {
     float red = 0.0F;

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#include "EasedAnimation.h"
+
+namespace lumora
+{
+
+EasedAnimation::EasedAnimation(QObject *parent, int duration) : QVariantAnimation(parent)
+{
+    setDuration(duration);
+    setEasingCurve(easeInEaseOut());
+}
+
+void EasedAnimation::run(const QVariant &from, const QVariant &to)
+{
+    stop();
+    setStartValue(from);
+    setEndValue(to);
+    start();
+}
+
+QVariant EasedAnimation::interpolated(const QVariant &from, const QVariant &to, qreal progress) const
+{
+    // The platform's curve ends a hair beside its target.
+    return currentTime() >= duration() ? to : QVariantAnimation::interpolated(from, to, progress);
+}
+
+} // namespace lumora
