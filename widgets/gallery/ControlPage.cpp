@@ -17,6 +17,8 @@
 #include <array>
 #include <chrono>
 
+using namespace Qt::StringLiterals;
+
 namespace lumora::gallery
 {
 
@@ -65,19 +67,19 @@ HoverButton *hoverButton(const QColor &normal, const QColor &hover)
 IconButton *iconButton()
 {
     auto *made = named<IconButton>("Reset");
-    made->setIconName(QStringLiteral("button_icon_reset"));
+    made->setIconName(u"button_icon_reset"_s);
     made->setNormalColor(palette::icons);
     made->setHoverColor(palette::iconsBorder);
     made->setActiveColor(palette::chromeText);
     return made;
 }
 
-/// On a band of the colour that it has under it in the program's header.
+/// On a band of the color that it has under it in the program's header.
 QWidget *imageButton()
 {
     auto *made = new ImageButton;
-    made->setImageName(QStringLiteral("icon_settings"));
-    made->setAlternateImageName(QStringLiteral("header_icon"));
+    made->setImageName(u"icon_settings"_s);
+    made->setAlternateImageName(u"header_icon"_s);
     made->setFixedSize(44, 44);
     QPalette colors = made->palette();
     colors.setColor(made->backgroundRole(), palette::icons);
@@ -97,7 +99,7 @@ ZKTextField *textField(const char *text, bool secure = false)
 {
     auto *made = new ZKTextField;
     made->setString(QLatin1StringView(text));
-    made->setPlaceholderString(QStringLiteral("Width"));
+    made->setPlaceholderString(u"Width"_s);
     made->setSecure(secure);
     return made;
 }
@@ -118,33 +120,31 @@ BFIconTabBar *tabBar(bool multiple, const IndexSet &selected)
 
 ControlPage::ControlPage(QWidget *parent) : GalleryPage(parent)
 {
-    addHeadings({QStringLiteral("At rest"), QStringLiteral("Under the pointer"), QStringLiteral("Held down"),
-                 QStringLiteral("Keyboard focus"), QStringLiteral("Disabled"), QStringLiteral("Mirrored")});
-    addStates(QStringLiteral("CheckboxButton"), [] { return named<CheckboxButton>("Check box"); });
-    addStates(QStringLiteral("active"), [] { return active(named<CheckboxButton>("Check box")); });
-    addStates(QStringLiteral("frozen, invalid"), [] { return frozen(true); });
-    addStates(QStringLiteral("frozen, valid"), [] { return frozen(false); });
-    addStates(QStringLiteral("RadioButton"), [] { return named<RadioButton>("Radio"); });
-    addStates(QStringLiteral("active"), [] { return active(named<RadioButton>("Radio")); });
-    addStates(QStringLiteral("HoverButton"),
-              [] { return hoverButton(palette::placeholders, palette::placeholdersBorder); });
-    addStates(QStringLiteral("in a light colour"),
-              [] { return hoverButton(palette::validator, palette::validatorBorder); });
-    addStates(QStringLiteral("IconButton"), [] { return iconButton(); });
-    addStates(QStringLiteral("ImageButton"), [] { return imageButton(); });
+    addHeadings(
+        {u"At rest"_s, u"Under the pointer"_s, u"Held down"_s, u"Keyboard focus"_s, u"Disabled"_s, u"Mirrored"_s});
+    addStates(u"CheckboxButton"_s, [] { return named<CheckboxButton>("Check box"); });
+    addStates(u"active"_s, [] { return active(named<CheckboxButton>("Check box")); });
+    addStates(u"frozen, invalid"_s, [] { return frozen(true); });
+    addStates(u"frozen, valid"_s, [] { return frozen(false); });
+    addStates(u"RadioButton"_s, [] { return named<RadioButton>("Radio"); });
+    addStates(u"active"_s, [] { return active(named<RadioButton>("Radio")); });
+    addStates(u"HoverButton"_s, [] { return hoverButton(palette::placeholders, palette::placeholdersBorder); });
+    addStates(u"in a light colour"_s, [] { return hoverButton(palette::validator, palette::validatorBorder); });
+    addStates(u"IconButton"_s, [] { return iconButton(); });
+    addStates(u"ImageButton"_s, [] { return imageButton(); });
     findChild<ImageButton *>()->setObjectName(QLatin1StringView(popoverAnchorName));
-    addStates(QStringLiteral("KBButton, default"), [] { return bezelled("Default", KBButtonType::Default); });
-    addStates(QStringLiteral("primary"), [] { return bezelled("Primary", KBButtonType::Primary); });
-    addStates(QStringLiteral("information"), [] { return bezelled("Information", KBButtonType::Information); });
-    addStates(QStringLiteral("success"), [] { return bezelled("Success", KBButtonType::Success); });
-    addStates(QStringLiteral("warning"), [] { return bezelled("Warning", KBButtonType::Warning); });
-    addStates(QStringLiteral("danger"), [] { return bezelled("Danger", KBButtonType::Danger); });
-    addStates(QStringLiteral("inverse"), [] { return bezelled("Inverse", KBButtonType::Inverse); });
-    addStates(QStringLiteral("ZKTextField"), [] { return textField("1024"); });
-    addStates(QStringLiteral("empty"), [] { return textField(""); });
-    addStates(QStringLiteral("secure"), [] { return textField("secret", true); });
-    addStates(QStringLiteral("BFIconTabBar"), [] { return tabBar(false, {0}); });
-    addStates(QStringLiteral("several selected"), [] { return tabBar(true, {0, 2}); });
+    addStates(u"KBButton, default"_s, [] { return bezelled("Default", KBButtonType::Default); });
+    addStates(u"primary"_s, [] { return bezelled("Primary", KBButtonType::Primary); });
+    addStates(u"information"_s, [] { return bezelled("Information", KBButtonType::Information); });
+    addStates(u"success"_s, [] { return bezelled("Success", KBButtonType::Success); });
+    addStates(u"warning"_s, [] { return bezelled("Warning", KBButtonType::Warning); });
+    addStates(u"danger"_s, [] { return bezelled("Danger", KBButtonType::Danger); });
+    addStates(u"inverse"_s, [] { return bezelled("Inverse", KBButtonType::Inverse); });
+    addStates(u"ZKTextField"_s, [] { return textField("1024"); });
+    addStates(u"empty"_s, [] { return textField(""); });
+    addStates(u"secure"_s, [] { return textField("secret", true); });
+    addStates(u"BFIconTabBar"_s, [] { return tabBar(false, {0}); });
+    addStates(u"several selected"_s, [] { return tabBar(true, {0, 2}); });
     QTimer::singleShot(pictureDelay, this, &ControlPage::showStates);
 }
 

@@ -13,6 +13,8 @@
 
 #include <functional>
 
+using namespace Qt::StringLiterals;
+
 namespace lumora::gallery
 {
 
@@ -31,7 +33,7 @@ struct Look
 
 INWindowButton *closeLight(const INAppStoreWindow &window)
 {
-    return window.findChild<INWindowButton *>(QStringLiteral("close"));
+    return window.findChild<INWindowButton *>(u"close"_s);
 }
 
 void color(INAppStoreWindow &window)
@@ -70,7 +72,7 @@ void drawByBlock(INAppStoreWindow &window)
         painter->fillPath(clippingPath, palette::color);
         painter->setPen(palette::headerText);
         painter->setFont(latoRegular(13));
-        painter->drawText(rect, Qt::AlignCenter, QStringLiteral("Drawn by a block"));
+        painter->drawText(rect, Qt::AlignCenter, u"Drawn by a block"_s);
     });
 }
 
@@ -120,7 +122,7 @@ QPixmap picture(const Look &look)
     window.setAttribute(Qt::WA_DontShowOnScreen);
     window.setAttribute(Qt::WA_QuitOnClose, false);
     window.setBackgroundColor(palette::window);
-    window.setTitle(QStringLiteral("Lumora"));
+    window.setTitle(u"Lumora"_s);
     window.setShowsTitle(true);
     look.prepare(window);
     const Qt::WindowStates state = window.windowState();
@@ -155,7 +157,7 @@ void TitleBarPage::showPictures()
         if (row.size() < 3 && &look != &looks().last())
             continue;
         addHeadings(titles);
-        addRow(titles.size() == 3 && &look == &looks()[2] ? QStringLiteral("INAppStoreWindow") : QString(), row);
+        addRow(titles.size() == 3 && &look == &looks()[2] ? u"INAppStoreWindow"_s : QString(), row);
         row.clear();
         titles.clear();
     }

@@ -10,6 +10,8 @@
 #include "widgets/style/Palette.h"
 #include "widgets/textfield/ZKTextField.h"
 
+using namespace Qt::StringLiterals;
+
 namespace lumora::gallery
 {
 
@@ -59,14 +61,14 @@ template <typename Control> Control *narrow(Control *control)
 template <typename Button> Button *talkative()
 {
     auto *made = narrow(new Button);
-    made->setText(QStringLiteral("A text that is by far too long"));
+    made->setText(u"A text that is by far too long"_s);
     return made;
 }
 
 ZKTextField *talkativeField()
 {
     auto *made = narrow(new ZKTextField);
-    made->setString(QStringLiteral("A text that is by far too long"));
+    made->setString(u"A text that is by far too long"_s);
     return made;
 }
 
@@ -74,22 +76,21 @@ ZKTextField *talkativeField()
 
 ValuePage::ValuePage(QWidget *parent) : GalleryPage(parent)
 {
-    addHeadings({QStringLiteral("Nothing"), QStringLiteral("Little"), QStringLiteral("Part"), QStringLiteral("Running"),
-                 QStringLiteral("Full")});
-    addRow(QStringLiteral("LBProgressBar"), progressBars(Look::Plain));
-    addRow(QStringLiteral("disabled"), progressBars(Look::Disabled));
-    addRow(QStringLiteral("mirrored"), progressBars(Look::Mirrored));
-    addRow(QStringLiteral("IconButton, icons"), {iconButton("Bug", "button_icon_bugreport", palette::icons),
-                                                 iconButton("Idea", "button_icon_featurerequest", palette::icons),
-                                                 iconButton("Feedback", "button_icon_feedback", palette::icons),
-                                                 iconButton("Follow us", "button_icon_twitter", palette::socialBlue),
-                                                 iconButton("Find us", "button_icon_facebook", palette::networkNavy)});
+    addHeadings({u"Nothing"_s, u"Little"_s, u"Part"_s, u"Running"_s, u"Full"_s});
+    addRow(u"LBProgressBar"_s, progressBars(Look::Plain));
+    addRow(u"disabled"_s, progressBars(Look::Disabled));
+    addRow(u"mirrored"_s, progressBars(Look::Mirrored));
+    addRow(u"IconButton, icons"_s, {iconButton("Bug", "button_icon_bugreport", palette::icons),
+                                    iconButton("Idea", "button_icon_featurerequest", palette::icons),
+                                    iconButton("Feedback", "button_icon_feedback", palette::icons),
+                                    iconButton("Follow us", "button_icon_twitter", palette::socialBlue),
+                                    iconButton("Find us", "button_icon_facebook", palette::networkNavy)});
     addRow(QString(), {iconButton("Close", "button_icon_close", palette::errorLight),
                        iconButton("Copy", "button_icon_copy", palette::icons),
                        iconButton("Mail", "button_icon_mail", palette::devices),
                        iconButton("Reset", "button_icon_reset", palette::devices)});
-    addRow(QStringLiteral("Text too long"), {talkative<HoverButton>(), talkative<IconButton>(), talkative<KBButton>(),
-                                             talkative<CheckboxButton>(), talkativeField()});
+    addRow(u"Text too long"_s, {talkative<HoverButton>(), talkative<IconButton>(), talkative<KBButton>(),
+                                talkative<CheckboxButton>(), talkativeField()});
 }
 
 } // namespace lumora::gallery

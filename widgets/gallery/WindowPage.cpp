@@ -12,6 +12,8 @@
 
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 namespace lumora::gallery
 {
 
@@ -22,7 +24,7 @@ constexpr std::array kinds{"close", "minimize", "zoom", "fullscreen"};
 
 enum class Look { Active, NotKey, Rollover, Pressed, Disabled };
 
-/// The four buttons on a band of the colour that most windows have there.
+/// The four buttons on a band of the color that most windows have there.
 QWidget *lights(Look look)
 {
     auto *band = new QWidget;
@@ -31,7 +33,7 @@ QWidget *lights(Look look)
     band->setPalette(colors);
     band->setAutoFillBackground(true);
     band->setFixedSize(120, 32);
-    const QString group = QStringLiteral("gallery.%1").arg(static_cast<int>(look));
+    const QString group = u"gallery.%1"_s.arg(static_cast<int>(look));
     int x = 16;
     for (const char *kind : kinds) {
         auto *button = new INWindowButton(group, QLatin1StringView(kind), band);
@@ -83,8 +85,7 @@ SFBPopoverWindowFrame *balloonAt(int position)
                                "Below, near the right",
                                "Below, near the left"};
     const auto index = static_cast<size_t>(position);
-    SFBPopoverWindowFrame *frame =
-        balloon(QStringLiteral("%1 · %2").arg(position).arg(QLatin1StringView(names[index])));
+    SFBPopoverWindowFrame *frame = balloon(u"%1 · %2"_s.arg(position).arg(QLatin1StringView(names[index])));
     frame->setBackgroundColor(palette::window);
     frame->setBorderColor(palette::icons);
     frame->setPopoverPosition(static_cast<PopoverPosition>(position));
@@ -94,7 +95,7 @@ SFBPopoverWindowFrame *balloonAt(int position)
 /// As it is before anything is set.
 SFBPopoverWindowFrame *plainBalloon()
 {
-    SFBPopoverWindowFrame *frame = balloon(QStringLiteral("As it comes"));
+    SFBPopoverWindowFrame *frame = balloon(u"As it comes"_s);
     QLabel *label = frame->findChild<QLabel *>();
     QPalette colors = label->palette();
     colors.setColor(QPalette::WindowText, palette::buttonText);
@@ -106,7 +107,7 @@ SFBPopoverWindowFrame *plainBalloon()
 SFBPopoverWindowFrame *squareBalloon()
 {
     SFBPopoverWindowFrame *frame = balloonAt(static_cast<int>(PopoverPosition::BelowArrowNearLeft));
-    frame->findChild<QLabel *>()->setText(QStringLiteral("Square corner, wide border"));
+    frame->findChild<QLabel *>()->setText(u"Square corner, wide border"_s);
     frame->setDrawRoundCornerBesideArrow(false);
     frame->setBorderWidth(4);
     frame->setBorderColor(palette::successDark);
@@ -116,7 +117,7 @@ SFBPopoverWindowFrame *squareBalloon()
 SFBPopoverWindowFrame *balloonWithoutArrow()
 {
     SFBPopoverWindowFrame *frame = balloonAt(static_cast<int>(PopoverPosition::Below));
-    frame->findChild<QLabel *>()->setText(QStringLiteral("No arrow"));
+    frame->findChild<QLabel *>()->setText(u"No arrow"_s);
     frame->setDrawsArrow(false);
     frame->setBorderColor(palette::errorDark);
     return frame;
@@ -126,15 +127,15 @@ SFBPopoverWindowFrame *balloonWithoutArrow()
 
 WindowPage::WindowPage(QWidget *parent) : GalleryPage(parent)
 {
-    addHeadings({QStringLiteral("Active"), QStringLiteral("Not key"), QStringLiteral("Under the pointer")});
-    addRow(QStringLiteral("INWindowButton"), {lights(Look::Active), lights(Look::NotKey), lights(Look::Rollover)});
-    addHeadings({QStringLiteral("Held down"), QStringLiteral("Disabled")});
+    addHeadings({u"Active"_s, u"Not key"_s, u"Under the pointer"_s});
+    addRow(u"INWindowButton"_s, {lights(Look::Active), lights(Look::NotKey), lights(Look::Rollover)});
+    addHeadings({u"Held down"_s, u"Disabled"_s});
     addRow(QString(), {lights(Look::Pressed), lights(Look::Disabled)});
     for (int row = 0; row < 4; ++row) {
         QList<QWidget *> balloons;
         for (int position = row * 3; position < row * 3 + 3; ++position)
             balloons << balloonAt(position);
-        addRow(row == 0 ? QStringLiteral("SFBPopover") : QString(), balloons);
+        addRow(row == 0 ? u"SFBPopover"_s : QString(), balloons);
     }
     addRow(QString(), {plainBalloon(), squareBalloon(), balloonWithoutArrow()});
 }

@@ -17,6 +17,8 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
+using namespace Qt::StringLiterals;
+
 using namespace lumora;
 using namespace lumora::gallery;
 
@@ -43,21 +45,19 @@ QWidget *allPages()
 }
 
 /// A popover at the right edge of the control.
-void pointAt(const QAbstractButton *control, PopoverPosition position, const QColor &color)
+void pointAt(QAbstractButton *control, const QColor &color)
 {
-    auto *content = new QLabel(QStringLiteral("SFBPopover, shown by a point of the window"));
+    auto *content = new QLabel(u"SFBPopover, beside the button"_s);
     content->setFont(latoRegular(13));
     content->setAlignment(Qt::AlignCenter);
     content->resize(300, 36);
     auto *popover = new SFBPopover(content, control->window());
-    popover->setPosition(position);
     popover->setBorderColor(color);
     popover->setBorderWidth(2);
     popover->setBackgroundColor(palette::buttonText);
     popover->setClosesWhenPopoverResignsKey(true);
     QObject::connect(popover, &SFBPopover::closed, popover, &QObject::deleteLater);
-    const QPoint point = control->mapTo(control->window(), QPoint(control->width(), control->height() / 2));
-    popover->displayPopoverInWindow(control->window(), QPointF(point.x(), control->window()->height() - point.y()));
+    popover->displayPopover({control, Qt::RightEdge, 0, {}});
 }
 
 } // namespace
@@ -69,7 +69,7 @@ int main(int argc, char *argv[])
     applyAppColors();
     const FrameClock frames;
     INAppStoreWindow window;
-    window.setTitle(QStringLiteral("Lumora gallery"));
+    window.setTitle(u"Lumora gallery"_s);
     window.setTitleBarHeight(40);
     window.setBackgroundColor(palette::buttonText);
     QWidget *pages = allPages();
@@ -77,8 +77,8 @@ int main(int argc, char *argv[])
     window.resize(pages->sizeHint() + QSize(2, 42));
     window.show();
     window.activateWindow();
-    const auto *opener = window.findChild<ImageButton *>(QString::fromLatin1(ControlPage::popoverAnchorName));
+    auto *opener = window.findChild<ImageButton *>(QString::fromLatin1(ControlPage::popoverAnchorName));
     QObject::connect(opener, &QAbstractButton::clicked, &window,
-                     [&window, opener] { pointAt(opener, PopoverPosition::Right, palette::icons); });
+                     [&window, opener] { pointAt(opener, palette::icons); });
     return QApplication::exec();
 }

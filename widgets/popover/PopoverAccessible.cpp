@@ -9,27 +9,7 @@
 namespace lumora
 {
 
-namespace
-{
-
-QAccessibleInterface *makePopoverAccessible(const QString &, QObject *object)
-{
-    auto *popover = qobject_cast<SFBPopoverWindow *>(object);
-    return popover ? new PopoverAccessible(popover) : nullptr;
-}
-
-} // namespace
-
 PopoverAccessible::PopoverAccessible(SFBPopoverWindow *popover) : QAccessibleWidget(popover, QAccessible::Dialog) {}
-
-void PopoverAccessible::install()
-{
-    static const bool installed = [] {
-        QAccessible::installFactory(makePopoverAccessible);
-        return true;
-    }();
-    Q_UNUSED(installed)
-}
 
 void PopoverAccessible::renew(SFBPopoverWindow *popover)
 {

@@ -15,9 +15,7 @@ class PopoverAccessible final : public QAccessibleWidget
 public:
     explicit PopoverAccessible(SFBPopoverWindow *popover);
 
-    /// Makes every popover known to the platform's accessibility. Harmless when called again.
-    static void install();
-    /// Tells whoever keeps the popover's texts to ask for them again: they are its content's, which may have changed
+    /// Has screen readers ask for the popover's texts again: they are its content's, which may have changed
     /// while nobody saw it.
     static void renew(SFBPopoverWindow *popover);
     /// Tells the screen reader that the popover has just come up.

@@ -32,11 +32,6 @@ Side sideOf(PopoverPosition position)
     return Side::None;
 }
 
-qreal arrowRoom(const PopoverMetrics &metrics)
-{
-    return metrics.arrowHeight + metrics.distance;
-}
-
 QRectF grown(const QRectF &rect, qreal by)
 {
     return rect.adjusted(-by, -by, by, by);
@@ -46,7 +41,7 @@ QRectF grown(const QRectF &rect, qreal by)
 
 QRectF frameRectForContentRect(const QRectF &contentRect, const PopoverMetrics &metrics)
 {
-    const qreal room = arrowRoom(metrics);
+    const qreal room = metrics.arrowRoom();
     QRectF frame = grown(contentRect, metrics.viewMargin);
     switch (sideOf(metrics.position)) {
     case Side::Left:
@@ -69,7 +64,7 @@ QRectF frameRectForContentRect(const QRectF &contentRect, const PopoverMetrics &
 
 QRectF contentRectForFrameRect(const QRectF &frameRect, const PopoverMetrics &metrics)
 {
-    const qreal room = arrowRoom(metrics);
+    const qreal room = metrics.arrowRoom();
     QRectF content = grown(frameRect, -metrics.borderWidth);
     switch (sideOf(metrics.position)) {
     case Side::Left:
@@ -93,7 +88,7 @@ QRectF contentRectForFrameRect(const QRectF &frameRect, const PopoverMetrics &me
 QRectF placedContentRect(const QRectF &frameRect, const PopoverMetrics &metrics)
 {
     const QRectF content = contentRectForFrameRect(frameRect, metrics);
-    return sideOf(metrics.position) == Side::Above ? content.translated(0, 2 * arrowRoom(metrics)) : content;
+    return sideOf(metrics.position) == Side::Above ? content.translated(0, 2 * metrics.arrowRoom()) : content;
 }
 
 QPointF attachmentPointForRect(const QRectF &rect, const PopoverMetrics &metrics)
@@ -135,45 +130,6 @@ QPointF attachmentPointForRect(const QRectF &rect, const PopoverMetrics &metrics
         return {minX + k, maxY};
     }
     return {};
-}
-
-PopoverPosition bestPopoverPosition(const PopoverSurroundings &surroundings, const PopoverMetrics &metrics)
-{
-    const QPointF point = surroundings.point;
-    const QRectF screen = surroundings.screen;
-    const qreal screenMaxX = screen.x() + screen.width();
-    const qreal screenMaxY = screen.y() + screen.height();
-    const qreal width = surroundings.frameSize.width() + 2 * metrics.viewMargin;
-    const qreal height = surroundings.frameSize.height() + 2 * metrics.viewMargin;
-    const qreal room = arrowRoom(metrics);
-
-    PopoverPosition side = PopoverPosition::Below;
-    if (screen.y() > point.y() - height - room) {
-        if (point.x() + width + room < screenMaxX)
-            side = PopoverPosition::Right;
-        else if (screen.x() <= point.x() - width - room)
-            side = PopoverPosition::Left;
-        else if (screenMaxY > point.y() + height + room)
-            side = PopoverPosition::Above;
-    }
-
-    const QRectF limit = surroundings.parentFrame ? surroundings.parentFrame->intersected(screen) : screen;
-    const qreal arrowEnd = metrics.arrowWidth / 2 + (metrics.drawRoundCornerBesideArrow ? metrics.cornerRadius : 0);
-
-    if (side == PopoverPosition::Below || side == PopoverPosition::Above) {
-        const bool below = side == PopoverPosition::Below;
-        if (limit.x() > point.x() - width / 2 && screenMaxX > point.x() + width - arrowEnd)
-            return below ? PopoverPosition::BelowArrowNearLeft : PopoverPosition::AboveArrowNearLeft;
-        if (point.x() + width / 2 >= limit.x() + limit.width() && point.x() - width + arrowEnd >= screen.x())
-            return below ? PopoverPosition::BelowArrowNearRight : PopoverPosition::AboveArrowNearRight;
-    } else {
-        const bool right = side == PopoverPosition::Right;
-        if (limit.y() > point.y() - height / 2 && screenMaxY > point.y() + height - arrowEnd)
-            return right ? PopoverPosition::RightArrowNearBottom : PopoverPosition::LeftArrowNearBottom;
-        if (point.y() + height / 2 >= limit.y() + limit.height() && point.y() - height + arrowEnd >= screen.y())
-            return right ? PopoverPosition::RightArrowNearTop : PopoverPosition::LeftArrowNearTop;
-    }
-    return side;
 }
 
 QRectF flipped(const QRectF &rect, qreal height)

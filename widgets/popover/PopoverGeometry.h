@@ -5,8 +5,6 @@
 #include <QRectF>
 #include <QSizeF>
 
-#include <optional>
-
 namespace lumora
 {
 
@@ -39,6 +37,9 @@ struct PopoverMetrics
     qreal arrowHeight = 16;
     bool drawRoundCornerBesideArrow = true;
     qreal viewMargin = 0;
+
+    /// What the arrow takes on its side of the balloon.
+    qreal arrowRoom() const { return arrowHeight + distance; }
 };
 
 // All rectangles and points below count y upwards: a QRectF's y() is its lower edge, y() + height() its upper one.
@@ -49,22 +50,11 @@ QRectF frameRectForContentRect(const QRectF &contentRect, const PopoverMetrics &
 /// The inverse of frameRectForContentRect().
 QRectF contentRectForFrameRect(const QRectF &frameRect, const PopoverMetrics &metrics);
 /// Where the content lies on screen inside a frame that stands with its attachment point on the anchor. The same as
-/// contentRectForFrameRect() but for the positions above the point, where that one would lay the content over it.
+/// contentRectForFrameRect() but for the positions above the point, where that function would lay the content over it.
 QRectF placedContentRect(const QRectF &frameRect, const PopoverMetrics &metrics);
 
 /// The arrow's place on the frame's edge, the spot that is laid on the anchor. An unknown position yields (0, 0).
 QPointF attachmentPointForRect(const QRectF &rect, const PopoverMetrics &metrics);
-
-/// What choosing the best position looks at; screen coordinates.
-struct PopoverSurroundings
-{
-    QPointF point;                     ///< the anchor
-    QSizeF frameSize;                  ///< of the popover's window
-    QRectF screen;                     ///< the usable area of the parent's screen
-    std::optional<QRectF> parentFrame; ///< none without a parent window
-};
-/// The position that keeps the balloon on the screen and, along its side, over the parent window.
-PopoverPosition bestPopoverPosition(const PopoverSurroundings &surroundings, const PopoverMetrics &metrics);
 
 /// Turns y-up into Qt's y-down coordinates and back, inside an area of the height. The one place where that happens.
 QRectF flipped(const QRectF &rect, qreal height);

@@ -4,12 +4,13 @@
 #include "PopoverKeyStatus.h"
 #include "ScreenCoordinates.h"
 #include "ViewController.h"
-#include "widgets/style/AnimationTiming.h"
+#include "widgets/style/EasedAnimation.h"
 
 #include <QEvent>
 #include <QGuiApplication>
 #include <QScreen>
-#include <QVariantAnimation>
+
+using namespace Qt::StringLiterals;
 
 namespace lumora
 {
@@ -20,11 +21,9 @@ SFBPopover::SFBPopover(QWidget *contentView, QObject *parent) : SFBPopover(new V
 
 SFBPopover::SFBPopover(ViewController *contentViewController, QObject *parent, const PopoverPlatform &platform)
     : QObject(parent), m_window(std::make_unique<SFBPopoverWindow>(QRectF(), platform)),
-      m_keyStatus(new PopoverKeyStatus(m_window.get())), m_fade(new QVariantAnimation(m_window.get()))
+      m_keyStatus(new PopoverKeyStatus(m_window.get())), m_fade(new EasedAnimation(m_window.get()))
 {
-    m_fade->setObjectName(QStringLiteral("alphaValue"));
-    m_fade->setDuration(shortAnimationDuration);
-    m_fade->setEasingCurve(easeInEaseOut());
+    m_fade->setObjectName(u"alphaValue"_s);
     connect(m_fade, &QVariantAnimation::valueChanged, m_window.get(),
             [this](const QVariant &value) { m_window->setAlphaValue(value.toReal()); });
     connect(m_fade, &QVariantAnimation::finished, this, [this] { animationDidStop(m_fade, true); });
@@ -41,7 +40,7 @@ SFBPopover::SFBPopover(ViewController *contentViewController, QObject *parent, c
 
 SFBPopover::~SFBPopover()
 {
-    // Nobody is told any more: the window goes with the popover.
+    // No more signals: the window goes with the popover.
     m_window->disconnect(this);
 }
 
@@ -90,13 +89,32 @@ void SFBPopover::displayPopoverInWindow(QWidget *window, const QPointF &atPoint,
     if (isVisible())
         return;
     QWidget *parentWindow = window ? window->window() : nullptr;
-    // A content that was resized while nobody saw it is shown in its new size.
-    const QWidget *content = m_window->contentView();
-    if (content && content->size() != m_window->contentRectForFrameRect(m_window->frame()).size().toSize())
-        m_window->setContentSize(content->size());
+    takeContentSize();
     if (chooseBestLocation)
         setPosition(bestPositionInWindow(parentWindow, atPoint));
     m_anchor = PopoverAnchor(parentWindow, atPoint);
+    show(parentWindow);
+}
+
+void SFBPopover::displayPopover(const PopoverTarget &target)
+{
+    if (isVisible() || !target.view)
+        return;
+    takeContentSize();
+    m_anchor = PopoverAnchor(target);
+    show(target.view->window());
+}
+
+/// A content that was resized while nobody saw it is shown in its new size.
+void SFBPopover::takeContentSize()
+{
+    const QWidget *content = m_window->contentView();
+    if (content && content->size() != m_window->contentRectForFrameRect(m_window->frame()).size().toSize())
+        m_window->setContentSize(content->size());
+}
+
+void SFBPopover::show(QWidget *parentWindow)
+{
     m_draggedAway = false;
     placeAtAnchor();
     if (m_animates)
@@ -105,7 +123,7 @@ void SFBPopover::displayPopoverInWindow(QWidget *window, const QPointF &atPoint,
         parentWindow->installEventFilter(this);
         m_parentPosition = parentWindow->pos();
     }
-    const bool keyboard = wantsKeyboard(content, parentWindow);
+    const bool keyboard = wantsKeyboard(m_window->contentView(), parentWindow);
     m_window->orderFront(parentWindow, keyboard);
     m_keyStatus->begin(parentWindow, keyboard);
     emit displayed();
@@ -126,16 +144,18 @@ void SFBPopover::movePopoverToPoint(const QPointF &point)
 
 void SFBPopover::placeAtAnchor()
 {
+    const QSizeF contentSize = m_window->contentRectForFrameRect(m_window->frame()).size();
+    const auto placement = m_anchor.placement(contentSize, m_window->popoverWindowFrame()->metrics());
+    if (!placement)
+        return;
+    setPosition(placement->position);
     const QRectF bounds(QPointF(), m_window->frame().size());
-    m_window->setFrameOrigin(m_anchor.onScreen() - m_window->popoverWindowFrame()->attachmentPointForRect(bounds));
+    m_window->setFrameOrigin(placement->point - m_window->popoverWindowFrame()->attachmentPointForRect(bounds));
 }
 
 void SFBPopover::fadeTo(qreal alpha)
 {
-    m_fade->stop();
-    m_fade->setStartValue(m_window->alphaValue());
-    m_fade->setEndValue(alpha);
-    m_fade->start();
+    m_fade->run(m_window->alphaValue(), alpha);
 }
 
 void SFBPopover::closePopover(QObject *)
@@ -155,8 +175,6 @@ void SFBPopover::animationDidStop(QAbstractAnimation *animation, bool finished)
 {
     if (!finished || animation != m_fade)
         return;
-    // The curve ends a hair beside its target.
-    m_window->setAlphaValue(m_fade->endValue().toReal());
     if (m_window->alphaValue() == 0)
         m_window->orderOut();
 }

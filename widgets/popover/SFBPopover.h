@@ -11,16 +11,16 @@
 #include <memory>
 
 class QAbstractAnimation;
-class QVariantAnimation;
 
 namespace lumora
 {
 
+class EasedAnimation;
 class PopoverKeyStatus;
 
 /// Shows any view in a balloon that points at a spot in a parent window, fades in and out, follows its parent, and
-/// closes itself when it is told to. Points are in the parent window's base coordinates: from its lower left corner, y
-/// upwards, in points; without a parent they are screen coordinates.
+/// closes itself where that is asked for. Points are in the parent window's base coordinates: from its lower left
+/// corner, y upwards, in points; without a parent they are screen coordinates.
 class SFBPopover : public QObject
 {
     Q_OBJECT
@@ -45,6 +45,8 @@ public:
     /// Ignored while the popover is visible, also while it fades out. `window` may be any widget of the parent window,
     /// or null.
     void displayPopoverInWindow(QWidget *window, const QPointF &atPoint, bool chooseBestLocation = false);
+    /// Opens beside a control and stays beside it, on the screen, wherever the control goes. Ignored as above.
+    void displayPopover(const PopoverTarget &target);
     void movePopoverToPoint(const QPointF &point);
     PopoverPosition bestPositionInWindow(QWidget *window, const QPointF &atPoint) const;
     /// True from the display on until the fade-out has ended.
@@ -106,13 +108,15 @@ private:
     void windowDidOrderOut();
     void applicationStateChanged(Qt::ApplicationState state);
     void fadeTo(qreal alpha);
+    void takeContentSize();
+    void show(QWidget *parentWindow);
     void placeAtAnchor();
     void parentMoved();
     void parentLaidOut();
 
     std::unique_ptr<SFBPopoverWindow> m_window;
     PopoverKeyStatus *m_keyStatus = nullptr;
-    QVariantAnimation *m_fade = nullptr;
+    EasedAnimation *m_fade = nullptr;
     QPointer<ViewController> m_contentViewController;
     PopoverAnchor m_anchor;
     QPoint m_parentPosition;

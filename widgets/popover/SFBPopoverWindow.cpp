@@ -4,6 +4,7 @@
 #include "PopoverAccessible.h"
 #include "ScreenCoordinates.h"
 #include "WindowShape.h"
+#include "widgets/style/InstallAccessible.h"
 
 #include <QGraphicsOpacityEffect>
 #include <QGuiApplication>
@@ -28,7 +29,7 @@ constexpr int shadowMargin = SFBPopoverWindowFrame::shadowMargin;
 SFBPopoverWindow::SFBPopoverWindow(const QRectF &contentRect, const PopoverPlatform &platform)
     : QWidget(nullptr, platform.windowFlags), m_platform(platform), m_frameView(new SFBPopoverWindowFrame(this))
 {
-    PopoverAccessible::install();
+    installAccessible<SFBPopoverWindow, PopoverAccessible>();
     setAttribute(Qt::WA_TranslucentBackground);
     setAttribute(Qt::WA_QuitOnClose, false);
     m_frame = frameRectForContentRect(contentRect);
@@ -147,14 +148,29 @@ void SFBPopoverWindow::updateShape()
         outline = outline.united(stroker.createStroke(outline));
     }
     const QRegion balloon = QRegion(outline.toFillPolygon().toPolygon());
-    // Without blending the margin would be drawn black, so the window takes the balloon's shape instead.
+    // Without blending the margin would be drawn black, so the window takes the balloon's shape instead, and what its
+    // smooth edge is drawn on is a picture of the window below.
     const bool translucent = windowsAreTranslucent();
     m_frameView->setBlends(translucent);
-    if (translucent)
-        clearMask();
-    else
-        setMask(balloon);
+    setWindowShape(windowHandle(), translucent ? QPainterPath() : outline);
+    if (!translucent)
+        m_frameView->setBackdrop(pictureBelow());
     setInputRegion(windowHandle(), balloon);
+}
+
+/// What the parent shows where this window covers it; transparent beside it.
+QPixmap SFBPopoverWindow::pictureBelow() const
+{
+    QPixmap below((QSizeF(size()) * devicePixelRatioF()).toSize());
+    below.setDevicePixelRatio(devicePixelRatioF());
+    below.fill(Qt::transparent);
+    if (!m_parentWindow)
+        return below;
+    const QPoint origin = m_parentWindow->mapFromGlobal(mapToGlobal(QPoint()));
+    const QRect covered = m_parentWindow->rect().intersected(QRect(origin, size()));
+    if (!covered.isEmpty())
+        m_parentWindow->render(&below, covered.topLeft() - origin, covered);
+    return below;
 }
 
 void SFBPopoverWindow::setAlphaValue(qreal alpha)

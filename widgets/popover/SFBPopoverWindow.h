@@ -108,6 +108,7 @@ private:
     void placeWidget();
     void placeContentView();
     void updateShape();
+    QPixmap pictureBelow() const;
     void moveByDrag(const QPointF &travel);
     void resizeByDrag(const QPointF &travel, const QPointF &corner);
     void dragTo(const QRectF &frame);

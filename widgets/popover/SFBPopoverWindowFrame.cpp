@@ -151,6 +151,13 @@ void SFBPopoverWindowFrame::setBlends(bool blends)
     update();
 }
 
+void SFBPopoverWindowFrame::setBackdrop(const QPixmap &backdrop)
+{
+    m_backdrop = backdrop;
+    m_drawn = {};
+    update();
+}
+
 QPixmap SFBPopoverWindowFrame::drawn(qreal devicePixelRatio) const
 {
     QImage image((QSizeF(size()) * devicePixelRatio).toSize(), QImage::Format_ARGB32_Premultiplied);
@@ -167,6 +174,7 @@ QPixmap SFBPopoverWindowFrame::drawn(qreal devicePixelRatio) const
         painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
     } else {
         painter.fillRect(rect(), m_metrics.borderWidth > 0 ? m_borderColor : opaque(m_backgroundColor));
+        painter.drawPixmap(0, 0, m_backdrop);
     }
     painter.fillPath(path, m_blends ? m_backgroundColor : opaque(m_backgroundColor));
     if (m_metrics.borderWidth > 0)

@@ -88,6 +88,8 @@ public:
     /// Whether what is drawn is blended with what lies behind the window. Where it is not, there is no shadow, and
     /// everything is opaque up to the edge that the window's shape cuts.
     void setBlends(bool blends);
+    /// What lies below the frame, for its smooth edge where nothing blends windows.
+    void setBackdrop(const QPixmap &backdrop);
 
     /// Makes the drawing that the next paint would have to make first.
     void prepareDrawing();
@@ -129,6 +131,7 @@ private:
     QPointF m_dragCorner;
     /// The whole drawing, made at the first paint after a change: the shadow costs more than a repaint may.
     QPixmap m_drawn;
+    QPixmap m_backdrop;
 };
 
 } // namespace lumora

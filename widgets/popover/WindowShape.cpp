@@ -2,6 +2,8 @@
 #include "WindowShape.h"
 
 #include <QGuiApplication>
+#include <QImage>
+#include <QPainter>
 #include <QWindow>
 
 #include <xcb/shape.h>
@@ -10,6 +12,8 @@
 #include <cstdlib>
 #include <memory>
 #include <vector>
+
+using namespace Qt::StringLiterals;
 
 namespace lumora
 {
@@ -27,6 +31,32 @@ xcb_connection_t *x11Connection()
 {
     const auto *x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
     return x11 ? x11->connection() : nullptr;
+}
+
+/// One rectangle for each run of pixels that the outline covers wholly or in part.
+std::vector<xcb_rectangle_t> rectanglesTouched(const QPainterPath &outline, const QWindow *window)
+{
+    const qreal ratio = window->devicePixelRatio();
+    QImage coverage((QSizeF(window->size()) * ratio).toSize(), QImage::Format_ARGB32_Premultiplied);
+    coverage.fill(Qt::transparent);
+    QPainter painter(&coverage);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(ratio, ratio);
+    painter.fillPath(outline, Qt::black);
+    painter.end();
+    std::vector<xcb_rectangle_t> rectangles;
+    for (int y = 0; y < coverage.height(); ++y) {
+        const auto *line = reinterpret_cast<const QRgb *>(coverage.constScanLine(y));
+        for (int x = 0; x < coverage.width(); ++x) {
+            const int start = x;
+            while (x < coverage.width() && qAlpha(line[x]) > 0)
+                ++x;
+            if (x > start)
+                rectangles.push_back(
+                    {static_cast<int16_t>(start), static_cast<int16_t>(y), static_cast<uint16_t>(x - start), 1});
+        }
+    }
+    return rectangles;
 }
 
 } // namespace
@@ -49,6 +79,22 @@ bool windowsAreTranslucent()
     return owner && owner->owner != XCB_WINDOW_NONE;
 }
 
+void setWindowShape(QWindow *window, const QPainterPath &outline)
+{
+    xcb_connection_t *connection = x11Connection();
+    if (!connection)
+        return;
+    const auto id = static_cast<xcb_window_t>(window->winId());
+    if (outline.isEmpty()) {
+        xcb_shape_mask(connection, XCB_SHAPE_SO_SET, XCB_SHAPE_SK_BOUNDING, id, 0, 0, XCB_NONE);
+    } else {
+        const std::vector<xcb_rectangle_t> touched = rectanglesTouched(outline, window);
+        xcb_shape_rectangles(connection, XCB_SHAPE_SO_SET, XCB_SHAPE_SK_BOUNDING, XCB_CLIP_ORDERING_YX_SORTED, id, 0, 0,
+                             static_cast<uint32_t>(touched.size()), touched.data());
+    }
+    xcb_flush(connection);
+}
+
 void setInputRegion(QWindow *window, const QRegion &region)
 {
     if (xcb_connection_t *connection = x11Connection()) {
@@ -63,7 +109,7 @@ void setInputRegion(QWindow *window, const QRegion &region)
                              static_cast<xcb_window_t>(window->winId()), 0, 0, static_cast<uint32_t>(rectangles.size()),
                              rectangles.data());
         xcb_flush(connection);
-    } else if (QGuiApplication::platformName().startsWith(QStringLiteral("wayland"))) {
+    } else if (QGuiApplication::platformName().startsWith(u"wayland"_s)) {
         // Here a window's mask is its input region alone.
         window->setMask(region);
     }

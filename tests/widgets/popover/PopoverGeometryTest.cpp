@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "widgets/popover/PopoverGeometry.h"
 #include "widgets/popover/PopoverPath.h"
+#include "widgets/popover/PopoverPlacement.h"
 
 #include <QTest>
 
