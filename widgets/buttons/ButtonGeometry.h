@@ -29,8 +29,8 @@ QRectF selectionTextArea(QSizeF bounds, Qt::LayoutDirection direction);
 /// reading begins, its own aspect kept. ink is the part of the icon that is not empty, in fractions of its size; the
 /// icon shrinks only where its ink would not fit otherwise.
 QRectF iconRect(QSizeF bounds, QSizeF iconSize, const QRectF &ink, Qt::LayoutDirection direction);
-/// The area in which a filled button's text is centred: all of the bounds where a text of that width keeps clear of the
-/// icon's ink, else what the ink leaves free. iconInk is in the button's coordinates, empty without an icon.
+/// The area in which a filled button's text is centered: all of the bounds where a text of that width keeps clear of
+/// the icon's ink, else what the ink leaves free. iconInk is in the button's coordinates, empty without an icon.
 QRectF filledTextArea(QSizeF bounds, const QRectF &iconInk, qreal textWidth, Qt::LayoutDirection direction);
 /// An image at its own size in the middle, smaller in proportion where it does not fit.
 QRectF centeredImageRect(QSizeF bounds, QSizeF imageSize);

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "CheckboxButton.h"
 
+using namespace Qt::StringLiterals;
+
 namespace lumora
 {
 
 CheckboxButton::CheckboxButton(QWidget *parent)
-    : SelectionButton(QAccessible::CheckBox, QStringLiteral("button_checkbox"), parent),
-      m_invalidImage(QStringLiteral("button_checkbox_invalid"))
+    : SelectionButton(QAccessible::CheckBox, u"button_checkbox"_s, parent), m_invalidImage(u"button_checkbox_invalid"_s)
 {
 }
 

@@ -6,7 +6,7 @@
 namespace lumora
 {
 
-/// A check box. Once told whether what it stands for is valid it keeps its image, whatever the pointer does.
+/// A check box. Once it is set valid or invalid it keeps its image, whatever the pointer does.
 class CheckboxButton final : public SelectionButton
 {
     Q_OBJECT
@@ -25,6 +25,7 @@ public:
     const NamedImage &invalidImage() const { return m_invalidImage; }
 
 protected:
+    bool isFrozen() const override { return m_staticBox; }
     void mouseEntered() override;
     void mouseExited() override;
     void mouseDown() override;

@@ -18,7 +18,7 @@ namespace
 constexpr int hintHeight = 36;
 constexpr int hintMargin = 20;
 constexpr int iconGap = 8;
-/// The focus ring is a dark line along the edge and a light one inside it, so that one of them shows on any colour.
+/// The focus ring is a dark line along the edge and a light one inside it, so that one of the two shows on any color.
 constexpr qreal outerRingWidth = 2;
 constexpr qreal innerRingWidth = 1.5;
 /// The relative luminance from which white text has less than two thirds of the contrast that large text needs.
@@ -135,7 +135,7 @@ void FilledButton::drawText(QPainter &painter)
     area.setHeight(height);
     painter.setFont(m_font);
     if (relativeLuminance(m_color) > tooLightForWhite) {
-        // A button takes any colour that its owner gives it; a dark edge keeps the text readable on a light one.
+        // A button takes any color that its owner gives it; a dark edge keeps the text readable on a light one.
         painter.setPen(palette::chromeText);
         for (const QPointF &edge : {QPointF(-1, 0), QPointF(1, 0), QPointF(0, -1), QPointF(0, 1)})
             painter.drawText(area.translated(edge), flags, shown);

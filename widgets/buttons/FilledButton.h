@@ -9,7 +9,7 @@
 namespace lumora
 {
 
-/// What buttons with a filled, rounded shape and a centred white text share.
+/// What buttons with a filled, rounded shape and a centered white text share.
 class FilledButton : public PaintedButton
 {
     Q_OBJECT
@@ -17,7 +17,7 @@ class FilledButton : public PaintedButton
     Q_PROPERTY(QColor color READ color)
 public:
     QColor normalColor() const { return m_normalColor; }
-    /// Also becomes the current colour, even under the pointer.
+    /// Also becomes the current color, even under the pointer.
     void setNormalColor(const QColor &color);
     /// What the shape is filled with now.
     QColor color() const { return m_color; }
@@ -29,9 +29,9 @@ protected:
     FilledButton(const QFont &font, QWidget *parent);
 
     void setColor(const QColor &color);
-    /// The colour under the pointer.
+    /// The color under the pointer.
     virtual QColor colorUnderPointer() const = 0;
-    /// The colour of a pressed button.
+    /// The color of a pressed button.
     virtual QColor colorPressed() const = 0;
     /// The part that an icon covers of a button of that size (a width of 0 stands for any), empty without an icon.
     virtual QRectF iconInk(QSizeF) const { return {}; }

@@ -7,7 +7,7 @@
 namespace lumora
 {
 
-/// A filled button with an icon, a text and three colours: at rest, under the pointer, after a press until the pointer
+/// A filled button with an icon, a text and three colors: at rest, under the pointer, after a press until the pointer
 /// leaves.
 ///
 /// The icon is a picture of the whole button, its glyph near the left edge. It is drawn as high as the button with its

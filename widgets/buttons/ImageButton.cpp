@@ -12,7 +12,7 @@ namespace lumora
 namespace
 {
 
-/// The focus ring is a dark line and a light one inside it, so that one of them shows on any background.
+/// The focus ring is a dark line and a light one inside it, so that one of the two shows on any background.
 constexpr qreal outerRingWidth = 2;
 constexpr qreal innerRingWidth = 1.5;
 constexpr qreal ringInset = 2;

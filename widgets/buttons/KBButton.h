@@ -7,7 +7,8 @@
 namespace lumora
 {
 
-/// A push button with a gradient bezel in the colour of its type, drawn by its KBButtonCell.
+/// A push button with a gradient bezel in the color of its type, drawn by its KBButtonCell. Part of
+/// the kit's public face: the gallery and the tests use it, the program does not.
 class KBButton final : public PaintedButton
 {
     Q_OBJECT

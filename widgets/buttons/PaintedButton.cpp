@@ -2,6 +2,7 @@
 #include "PaintedButton.h"
 
 #include "PaintedButtonAccessible.h"
+#include "widgets/style/InstallAccessible.h"
 #include "widgets/style/NamedImage.h"
 #include "widgets/style/Palette.h"
 
@@ -16,7 +17,7 @@ namespace lumora
 
 PaintedButton::PaintedButton(QAccessible::Role role, QWidget *parent) : QAbstractButton(parent), m_role(role)
 {
-    PaintedButtonAccessible::install();
+    installAccessible<PaintedButton, PaintedButtonAccessible>();
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::PointingHandCursor);
     updateTrackingAreas();
@@ -56,6 +57,9 @@ bool PaintedButton::event(QEvent *event)
 {
     if (m_keyboardFocus.follow(event))
         update();
+    // Where the pointer goes over a dialog, no event reports it to the button.
+    if (event->type() == QEvent::WindowBlocked)
+        leave();
     return QAbstractButton::event(event);
 }
 

@@ -13,7 +13,7 @@ namespace lumora
 class NamedImage;
 
 /// What the painted buttons share: an own text instead of the platform's title, the pointing hand, the press animation,
-/// return and space, the ring that keyboard users see, the disabled look and what a screen reader is told.
+/// return and space, the ring that keyboard users see, the disabled look and what a screen reader learns.
 ///
 /// clicked() is sent when the pointer is released over the button, on space and on return. A subclass gets
 /// mouseEntered(), mouseExited() and mouseDown() only while the button is enabled; disabling it under the pointer
@@ -56,7 +56,7 @@ protected:
     virtual void drawRect(QPainter &painter) = 0;
     virtual void drawFocusRing(QPainter &painter) = 0;
 
-    /// Whether the pointer is over the button, as far as the button was told.
+    /// Whether the pointer is over the button, as far as events have reported it.
     bool isHovered() const { return m_hovered; }
     /// Draws a picture sharp also at the scale that an animation has come to rest at.
     void drawImage(QPainter &painter, const NamedImage &image, const QRectF &target) const;

@@ -6,29 +6,9 @@
 namespace lumora
 {
 
-namespace
-{
-
-QAccessibleInterface *accessibleOf(const QString &, QObject *object)
-{
-    auto *button = qobject_cast<PaintedButton *>(object);
-    return button == nullptr ? nullptr : new PaintedButtonAccessible(button);
-}
-
-} // namespace
-
 PaintedButtonAccessible::PaintedButtonAccessible(PaintedButton *button)
     : QAccessibleWidget(button, button->accessibleRole())
 {
-}
-
-void PaintedButtonAccessible::install()
-{
-    static const bool installed = [] {
-        QAccessible::installFactory(accessibleOf);
-        return true;
-    }();
-    Q_UNUSED(installed)
 }
 
 QString PaintedButtonAccessible::text(QAccessible::Text kind) const

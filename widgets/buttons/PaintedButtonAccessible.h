@@ -15,9 +15,6 @@ class PaintedButtonAccessible final : public QAccessibleWidget
 public:
     explicit PaintedButtonAccessible(PaintedButton *button);
 
-    /// Makes every painted button known to the platform's accessibility. Harmless when called again.
-    static void install();
-
     QString text(QAccessible::Text kind) const override;
     QAccessible::State state() const override;
     QStringList actionNames() const override;

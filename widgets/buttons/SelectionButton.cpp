@@ -37,6 +37,9 @@ void SelectionButton::setActive(bool active)
     if (active == m_active)
         return;
     m_active = active;
+    // The last press left the active image behind; a button that is no longer active would still look it.
+    if (!active && !isFrozen())
+        setCurrentImage(isHovered() ? m_hoverImage : m_idleImage);
     update();
     QAccessible::State changed;
     changed.checked = true;

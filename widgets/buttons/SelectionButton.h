@@ -9,7 +9,7 @@ namespace lumora
 {
 
 /// What check boxes and radio buttons share: a 20 × 20 image where reading begins and a text beside it. The button
-/// never checks itself: whoever owns it sets `active` in answer to clicked().
+/// never checks itself: its owner sets `active` in answer to clicked().
 class SelectionButton : public PaintedButton
 {
     Q_OBJECT
@@ -32,6 +32,8 @@ protected:
     SelectionButton(QAccessible::Role role, const QString &imageStem, QWidget *parent);
 
     void setCurrentImage(const NamedImage &image);
+    /// Whether the image stays whatever happens.
+    virtual bool isFrozen() const { return false; }
 
     void mouseEntered() override;
     void mouseExited() override;

@@ -3,6 +3,7 @@
 
 #include "LBProgressBarAccessible.h"
 #include "ProgressGeometry.h"
+#include "widgets/style/InstallAccessible.h"
 #include "widgets/style/Palette.h"
 
 #include <QPainter>
@@ -40,7 +41,7 @@ QSize pixelSize(const QSizeF &size, qreal devicePixelRatio)
 LBProgressBar::LBProgressBar(QWidget *parent)
     : QWidget(parent), m_lightColor(palette::progressLight), m_darkColor(palette::progressDark)
 {
-    LBProgressBarAccessible::install();
+    installAccessible<LBProgressBar, LBProgressBarAccessible>();
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     m_animator.setInterval(redrawInterval);
     m_animator.setTimerType(Qt::PreciseTimer);
@@ -219,7 +220,7 @@ QPixmap LBProgressBar::drawnBezel(qreal devicePixelRatio) const
     painter.setBrush(palette::chromeText);
     painter.drawRoundedRect(transform.mapRect(QRectF(0, 0, w, h - 1)), cornerRadius, cornerRadius);
 
-    // Leaves no mark while its colour is clear.
+    // Leaves no mark while its color is clear.
     painter.setPen(palette::progressBase);
     painter.drawLine(transform.map(QLineF(cornerRadius, 0, w - cornerRadius, 0)));
     return bezel;
@@ -266,7 +267,7 @@ void LBProgressBar::drawStripesInBounds(QPainter &painter, const QRectF &bounds)
 
 void LBProgressBar::drawShadowInBounds(QPainter &painter, const QRectF &bounds) const
 {
-    // Leaves no mark while its colour is clear.
+    // Leaves no mark while its color is clear.
     painter.setPen(palette::progressShadow);
     painter.drawLine(toWidget().map(QLineF(0, shadowHeight, bounds.width(), shadowHeight)));
     painter.setPen(Qt::NoPen);

@@ -8,28 +8,8 @@
 namespace lumora
 {
 
-namespace
-{
-
-QAccessibleInterface *accessibleOf(const QString &, QObject *object)
-{
-    auto *bar = qobject_cast<LBProgressBar *>(object);
-    return bar == nullptr ? nullptr : new LBProgressBarAccessible(bar);
-}
-
-} // namespace
-
 LBProgressBarAccessible::LBProgressBarAccessible(LBProgressBar *bar) : QAccessibleWidget(bar, QAccessible::ProgressBar)
 {
-}
-
-void LBProgressBarAccessible::install()
-{
-    static const bool installed = [] {
-        QAccessible::installFactory(accessibleOf);
-        return true;
-    }();
-    Q_UNUSED(installed)
 }
 
 void *LBProgressBarAccessible::interface_cast(QAccessible::InterfaceType type)

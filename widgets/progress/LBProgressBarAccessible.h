@@ -14,9 +14,6 @@ class LBProgressBarAccessible final : public QAccessibleWidget, public QAccessib
 public:
     explicit LBProgressBarAccessible(LBProgressBar *bar);
 
-    /// Makes every progress bar known to the platform's accessibility. Harmless when called again.
-    static void install();
-
     void *interface_cast(QAccessible::InterfaceType type) override;
     QString text(QAccessible::Text kind) const override;
     QAccessible::State state() const override;

@@ -3,6 +3,7 @@
 
 #include "BFIconTabBarAccessible.h"
 #include "foundation/Log.h"
+#include "widgets/style/InstallAccessible.h"
 #include "widgets/style/Palette.h"
 
 #include <QHelpEvent>
@@ -12,6 +13,10 @@
 #include <QToolTip>
 
 #include <cmath>
+
+#include <utility>
+
+using namespace Qt::StringLiterals;
 
 namespace lumora
 {
@@ -29,7 +34,8 @@ constexpr qreal ringWidth = 2;
 
 BFIconTabBar::BFIconTabBar(QWidget *parent) : QWidget(parent)
 {
-    BFIconTabBarAccessible::install();
+    installAccessible<BFIconTabBar, BFIconTabBarAccessible>();
+    installAccessible<BFIconTabBarItem, BFIconTabBarItemAccessible>();
     setFocusPolicy(Qt::TabFocus);
     setMouseTracking(true);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
@@ -112,7 +118,7 @@ QList<BFIconTabBarItem *> BFIconTabBar::selectedItems() const
 void BFIconTabBar::selectIndexes(const IndexSet &indexes, bool byExtendingSelection)
 {
     if (indexes.empty()) {
-        logLine(QStringLiteral("Selection indexset empty."));
+        logLine(u"Selection indexset empty."_s);
         return;
     }
     m_selection.select(indexes, byExtendingSelection);
@@ -140,7 +146,7 @@ void BFIconTabBar::selectAll()
 void BFIconTabBar::deselectIndexes(const IndexSet &indexes)
 {
     if (indexes.empty()) {
-        logLine(QStringLiteral("Deselection indexset empty."));
+        logLine(u"Deselection indexset empty."_s);
         return;
     }
     m_selection.deselect(indexes);
@@ -170,6 +176,15 @@ void BFIconTabBar::selectionChanged()
     update();
     QAccessibleEvent changed(this, QAccessible::SelectionWithin);
     QAccessible::updateAccessibility(&changed);
+    // Screen readers on this platform hear only of the single items.
+    const QList<BFIconTabBarItem *> before = std::exchange(m_announced, selectedItems());
+    for (BFIconTabBarItem *item : std::as_const(m_items)) {
+        const bool isSelected = m_announced.contains(item);
+        if (isSelected == before.contains(item))
+            continue;
+        QAccessibleEvent itemChanged(item, isSelected ? QAccessible::SelectionAdd : QAccessible::SelectionRemove);
+        QAccessible::updateAccessibility(&itemChanged);
+    }
 }
 
 BFIconTabBarItem *BFIconTabBar::itemAtX(double x) const

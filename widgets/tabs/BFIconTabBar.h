@@ -11,7 +11,7 @@
 namespace lumora
 {
 
-/// Is told when the user changes what is selected in a BFIconTabBar.
+/// Hears when the user changes what is selected in a BFIconTabBar.
 class BFIconTabBarDelegate
 {
 public:
@@ -22,7 +22,7 @@ public:
 /// A row of icon tabs, one or several of which are selected.
 ///
 /// Slot i reaches from startX + i × itemWidth over one itemWidth, counted from the edge where reading begins. Selecting
-/// by code tells nobody; a press, a drag or a key of the user sends action() and then tells the delegate.
+/// by code is silent; a press, a drag or a key of the user sends action() and then calls the delegate.
 class BFIconTabBar final : public QWidget
 {
     Q_OBJECT
@@ -76,7 +76,7 @@ public:
     /// In multiple selection, what the press does and a drag over further items: select them, or for false deselect.
     bool firstItemWasSelected() const { return m_firstItemWasSelected; }
 
-    /// Sends action() and tells the delegate.
+    /// Sends action() and calls the delegate.
     void notify();
 
     QSize sizeHint() const override;
@@ -107,6 +107,7 @@ private:
 
     QList<BFIconTabBarItem *> m_items;
     TabSelection m_selection;
+    QList<BFIconTabBarItem *> m_announced; ///< selected when it was last said; compared only
     KeyboardFocus m_keyboardFocus;
     BFIconTabBarDelegate *m_delegate = nullptr;
     BFIconTabBarItem *m_draggedOver = nullptr;

@@ -6,30 +6,7 @@
 namespace lumora
 {
 
-namespace
-{
-
-QAccessibleInterface *accessibleOf(const QString &, QObject *object)
-{
-    if (auto *bar = qobject_cast<BFIconTabBar *>(object))
-        return new BFIconTabBarAccessible(bar);
-    if (auto *item = qobject_cast<BFIconTabBarItem *>(object))
-        return new BFIconTabBarItemAccessible(item);
-    return nullptr;
-}
-
-} // namespace
-
 BFIconTabBarAccessible::BFIconTabBarAccessible(BFIconTabBar *bar) : QAccessibleWidget(bar, QAccessible::PageTabList) {}
-
-void BFIconTabBarAccessible::install()
-{
-    static const bool installed = [] {
-        QAccessible::installFactory(accessibleOf);
-        return true;
-    }();
-    Q_UNUSED(installed)
-}
 
 int BFIconTabBarAccessible::childCount() const
 {

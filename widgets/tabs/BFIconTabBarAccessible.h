@@ -16,9 +16,6 @@ class BFIconTabBarAccessible final : public QAccessibleWidget
 public:
     explicit BFIconTabBarAccessible(BFIconTabBar *bar);
 
-    /// Makes every tab bar and every item known to the platform's accessibility. Harmless when called again.
-    static void install();
-
     int childCount() const override;
     QAccessibleInterface *child(int index) const override;
     QAccessibleInterface *childAt(int x, int y) const override;

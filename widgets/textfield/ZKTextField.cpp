@@ -6,6 +6,7 @@
 #include "ZKSecureGlyphGenerator.h"
 #include "ZKTextFieldAccessible.h"
 #include "widgets/style/Fonts.h"
+#include "widgets/style/InstallAccessible.h"
 #include "widgets/style/Palette.h"
 
 #include <QPointer>
@@ -21,7 +22,7 @@ ZKTextField::ZKTextField(QWidget *parent)
       m_selectedAttributes{palette::selectedText, palette::selectedTextBackground},
       m_backgroundColor(palette::textFieldBackground)
 {
-    ZKTextFieldAccessible::install();
+    installAccessible<ZKTextField, ZKTextFieldAccessible>();
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_InputMethodEnabled);
     setAcceptDrops(true);
@@ -110,7 +111,7 @@ void ZKTextField::setSecure(bool secure)
 {
     if (secure == m_secure)
         return;
-    // An editor that has shown the text begins anew.
+    // An editor that has shown the text begins again.
     endEditing();
     m_secure = secure;
     update();

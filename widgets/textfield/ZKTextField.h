@@ -6,6 +6,8 @@
 #include <QVariantMap>
 #include <QWidget>
 
+class QMimeData;
+
 namespace lumora
 {
 
@@ -110,6 +112,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    bool takesDrop(const QMimeData &content) const;
     void configureFieldEditor(Qt::FocusReason reason);
     void styleFieldEditor();
     void placeFieldEditor();

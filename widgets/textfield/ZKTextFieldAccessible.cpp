@@ -9,28 +9,8 @@
 namespace lumora
 {
 
-namespace
-{
-
-QAccessibleInterface *accessibleOf(const QString &, QObject *object)
-{
-    auto *field = qobject_cast<ZKTextField *>(object);
-    return field == nullptr ? nullptr : new ZKTextFieldAccessible(field);
-}
-
-} // namespace
-
 ZKTextFieldAccessible::ZKTextFieldAccessible(ZKTextField *field) : QAccessibleWidget(field, QAccessible::EditableText)
 {
-}
-
-void ZKTextFieldAccessible::install()
-{
-    static const bool installed = [] {
-        QAccessible::installFactory(accessibleOf);
-        return true;
-    }();
-    Q_UNUSED(installed)
 }
 
 void *ZKTextFieldAccessible::interface_cast(QAccessible::InterfaceType type)

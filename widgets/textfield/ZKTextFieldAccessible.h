@@ -8,7 +8,7 @@ namespace lumora
 
 class ZKTextField;
 
-/// What a screen reader learns about a text field: its name, its text and how to change it. A secret text is told as
+/// What a screen reader learns about a text field: its name, its text and how to change it. A secret text is read as
 /// bullets only. While the field is edited its editor speaks for itself.
 class ZKTextFieldAccessible final : public QAccessibleWidget,
                                     public QAccessibleTextInterface,
@@ -16,9 +16,6 @@ class ZKTextFieldAccessible final : public QAccessibleWidget,
 {
 public:
     explicit ZKTextFieldAccessible(ZKTextField *field);
-
-    /// Makes every text field known to the platform's accessibility. Harmless when called again.
-    static void install();
 
     void *interface_cast(QAccessible::InterfaceType type) override;
     QString text(QAccessible::Text kind) const override;
@@ -45,7 +42,7 @@ public:
 
 private:
     ZKTextField *field() const;
-    /// The text as it may be told.
+    /// The text as it may be read out.
     QString shown() const;
 };
 

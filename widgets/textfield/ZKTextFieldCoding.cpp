@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Text fields to and from an archive of plain values.
+// Text fields to and from an archive of plain values. Part of the kit's public face: only the tests use it.
 #include "ZKTextField.h"
 
 #include <array>

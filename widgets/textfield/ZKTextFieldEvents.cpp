@@ -139,9 +139,15 @@ void ZKTextField::contextMenuEvent(QContextMenuEvent *event)
     QCoreApplication::sendEvent(m_currentFieldEditor, &passed);
 }
 
+/// A file's name comes as a text, too, but a dropped file is for what lies below the field.
+bool ZKTextField::takesDrop(const QMimeData &content) const
+{
+    return m_editable && content.hasText() && !content.hasUrls();
+}
+
 void ZKTextField::dragEnterEvent(QDragEnterEvent *event)
 {
-    if (m_editable && event->mimeData()->hasText())
+    if (takesDrop(*event->mimeData()))
         event->acceptProposedAction();
     else
         event->ignore();
@@ -149,7 +155,7 @@ void ZKTextField::dragEnterEvent(QDragEnterEvent *event)
 
 void ZKTextField::dropEvent(QDropEvent *event)
 {
-    if (!m_editable || !event->mimeData()->hasText()) {
+    if (!takesDrop(*event->mimeData())) {
         event->ignore();
         return;
     }

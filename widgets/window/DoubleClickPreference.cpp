@@ -7,18 +7,21 @@
 #include <QDBusPendingReply>
 #include <QDBusVariant>
 
+using namespace Qt::StringLiterals;
+
 namespace lumora
 {
 
 namespace
 {
 
-const QString portalService = QStringLiteral("org.freedesktop.portal.Desktop");
-const QString portalPath = QStringLiteral("/org/freedesktop/portal/desktop");
-const QString settingsInterface = QStringLiteral("org.freedesktop.portal.Settings");
-const QString settingGroup = QStringLiteral("org.gnome.desktop.wm.preferences");
-const QString settingKey = QStringLiteral("action-double-click-titlebar");
-const QString miniaturizes = QStringLiteral("minimize");
+const QString portalService = u"org.freedesktop.portal.Desktop"_s;
+const QString portalPath = u"/org/freedesktop/portal/desktop"_s;
+const QString settingsInterface = u"org.freedesktop.portal.Settings"_s;
+const QString settingGroup = u"org.gnome.desktop.wm.preferences"_s;
+const QString settingKey = u"action-double-click-titlebar"_s;
+const QString miniaturizes = u"minimize"_s;
+const QString zooms = u"toggle-maximize"_s;
 
 /// The text in a variant, however often the portal has wrapped it: its Read answers a variant in a variant.
 QString textIn(QVariant value)
@@ -35,10 +38,9 @@ DesktopDoubleClickPreference::DesktopDoubleClickPreference(QObject *parent) : QO
     QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected())
         return;
-    bus.connect(portalService, portalPath, settingsInterface, QStringLiteral("SettingChanged"), this,
+    bus.connect(portalService, portalPath, settingsInterface, u"SettingChanged"_s, this,
                 SLOT(settingChanged(QString, QString, QDBusVariant)));
-    QDBusMessage read =
-        QDBusMessage::createMethodCall(portalService, portalPath, settingsInterface, QStringLiteral("Read"));
+    QDBusMessage read = QDBusMessage::createMethodCall(portalService, portalPath, settingsInterface, u"Read"_s);
     read << settingGroup << settingKey;
     auto *watcher = new QDBusPendingCallWatcher(bus.asyncCall(read), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, &DesktopDoubleClickPreference::answered);
@@ -47,6 +49,11 @@ DesktopDoubleClickPreference::DesktopDoubleClickPreference(QObject *parent) : QO
 bool DesktopDoubleClickPreference::miniaturizesOnDoubleClick() const
 {
     return m_action == miniaturizes;
+}
+
+bool DesktopDoubleClickPreference::zoomsOnDoubleClick() const
+{
+    return m_action == zooms;
 }
 
 void DesktopDoubleClickPreference::answered(QDBusPendingCallWatcher *watcher)

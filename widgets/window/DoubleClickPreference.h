@@ -15,8 +15,11 @@ class DoubleClickPreference
 {
 public:
     virtual ~DoubleClickPreference() = default;
-    /// It is to miniaturise the window. Anything else the user may want does nothing here.
+    /// It is to miniaturize the window.
     virtual bool miniaturizesOnDoubleClick() const = 0;
+    /// It is to make the window fill the screen, or give it back its size. Anything else that the user may want does
+    /// nothing here.
+    virtual bool zoomsOnDoubleClick() const { return false; }
 };
 
 /// The desktop's own setting, asked of the settings portal on the session bus and followed while it changes. Without a
@@ -29,6 +32,7 @@ public:
     explicit DesktopDoubleClickPreference(QObject *parent = nullptr);
 
     bool miniaturizesOnDoubleClick() const override;
+    bool zoomsOnDoubleClick() const override;
 
 private slots:
     void settingChanged(const QString &group, const QString &key, const QDBusVariant &value);

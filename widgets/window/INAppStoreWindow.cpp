@@ -20,6 +20,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace lumora
 {
 
@@ -74,7 +76,7 @@ void INAppStoreWindow::doInitialWindowSetup()
     std::transform(edges.cbegin(), edges.cend(), m_edges.begin(),
                    [this](Qt::Edge edge) { return new WindowEdge(edge, this); });
     m_frameAnimation = new QVariantAnimation(this);
-    m_frameAnimation->setObjectName(QStringLiteral("frame"));
+    m_frameAnimation->setObjectName(u"frame"_s);
     m_frameAnimation->setDuration(shortAnimationDuration);
     m_frameAnimation->setEasingCurve(easeInEaseOut());
     connect(m_frameAnimation, &QVariantAnimation::valueChanged, this,
@@ -97,9 +99,8 @@ void INAppStoreWindow::createTitlebarView()
 void INAppStoreWindow::createButtons()
 {
     // Of its own, so that the buttons of another window do not light up with these.
-    const QString group = QStringLiteral("app.lumora.window.%1").arg(reinterpret_cast<quintptr>(this), 0, 16);
-    const std::array<QString, 4> kinds = {QStringLiteral("close"), QStringLiteral("minimize"), QStringLiteral("zoom"),
-                                          QStringLiteral("fullscreen")};
+    const QString group = u"app.lumora.window.%1"_s.arg(reinterpret_cast<quintptr>(this), 0, 16);
+    const std::array<QString, 4> kinds = {u"close"_s, u"minimize"_s, u"zoom"_s, u"fullscreen"_s};
     for (const ButtonKind kind : {Close, Minimize, Zoom, EnterFullScreen}) {
         m_standardButtons[kind] = new INWindowButton(group, kinds[kind], m_titleBarContainer);
         m_standardButtons[kind]->setObjectName(kinds[kind]);
@@ -161,7 +162,7 @@ void INAppStoreWindow::pressed(ButtonKind kind)
 void INAppStoreWindow::showWindowMenu()
 {
     auto *menu = new QMenu(this);
-    menu->setObjectName(QStringLiteral("windowMenu"));
+    menu->setObjectName(u"windowMenu"_s);
     for (const ButtonKind kind : {Minimize, Zoom, EnterFullScreen, Close}) {
         if (kind == Close)
             menu->addSeparator();

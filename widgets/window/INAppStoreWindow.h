@@ -37,8 +37,10 @@ struct TextShadow
 };
 
 /// A top-level window that draws its own title bar, as tall as wanted and open to custom views, with the close,
-/// minimise, zoom and full-screen buttons laid out inside it. It is dragged by the title bar, resized at its edges, and
+/// minimize, zoom and full-screen buttons laid out inside it. It is dragged by the title bar, resized at its edges, and
 /// set off from a white window behind it by a line along its edges.
+///
+/// Its settings are part of the kit's public face: the program uses some of them, the gallery and the tests all.
 ///
 /// The widget is the whole window: title bar, content and outline. There is no margin around it, so its geometry is
 /// what the user sees, and its base coordinates count y upwards from its lower left corner.
@@ -116,7 +118,7 @@ public:
     const std::optional<TextShadow> &inactiveTitleTextShadow() const { return m_inactiveTitleTextShadow; }
     void setInactiveTitleTextShadow(const std::optional<TextShadow> &shadow);
 
-    /// An invalid colour, as they all are at first, stands for the built-in grey.
+    /// An invalid color, as they all are at first, means the built-in gray.
     QColor titleBarStartColor() const { return m_titleBarStartColor; }
     void setTitleBarStartColor(const QColor &color);
     QColor titleBarEndColor() const { return m_titleBarEndColor; }

@@ -6,7 +6,7 @@ namespace lumora
 
 class INAppStoreWindow;
 
-/// What a window tells, and asks, whoever looks after it. Every operation is optional: as they stand they do nothing
+/// What a window reports to its owner and asks of it. Every operation is optional: as they stand they do nothing
 /// and allow everything.
 class INAppStoreWindowDelegate
 {

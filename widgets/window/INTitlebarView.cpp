@@ -159,8 +159,12 @@ void INTitlebarView::mouseReleaseEvent(QMouseEvent *event)
     event->ignore();
     const bool doubleClick = std::exchange(m_clickCount, 0) == 2;
     auto *window = qobject_cast<INAppStoreWindow *>(this->window());
-    if (doubleClick && window && window->doubleClickPreference()->miniaturizesOnDoubleClick())
+    if (!doubleClick || !window)
+        return;
+    if (window->doubleClickPreference()->miniaturizesOnDoubleClick())
         window->miniaturize();
+    else if (window->doubleClickPreference()->zoomsOnDoubleClick())
+        window->performZoom();
 }
 
 } // namespace lumora

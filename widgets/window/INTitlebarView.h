@@ -11,7 +11,7 @@ namespace lumora
 
 class INAppStoreWindow;
 
-/// Draws the title bar of its window, by the window's settings, and miniaturises the window on a double-click where the
+/// Draws the title bar of its window, by the window's settings, and miniaturizes the window on a double-click where the
 /// user wants that. A window's custom content is added to it as children.
 class INTitlebarView : public QWidget
 {
@@ -29,7 +29,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
-    /// What the background was drawn for; any other is drawn anew.
+    /// What the background was drawn for; for any other it is drawn again.
     struct Background
     {
         QColor top;

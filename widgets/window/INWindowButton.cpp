@@ -6,6 +6,8 @@
 #include <QEvent>
 #include <QPainter>
 
+using namespace Qt::StringLiterals;
+
 namespace lumora
 {
 
@@ -22,13 +24,13 @@ INWindowButton::INWindowButton(const QString &groupIdentifier, const QString &ki
     : INWindowButton(groupIdentifier, parent)
 {
     const auto named = [&kind](const QString &state) {
-        return NamedImage(QStringLiteral("window_") + kind + QLatin1Char('_') + state);
+        return NamedImage(u"window_"_s + kind + QLatin1Char('_') + state);
     };
-    m_activeImage = named(QStringLiteral("active"));
-    m_activeNotKeyWindowImage = named(QStringLiteral("notkey"));
-    m_inactiveImage = named(QStringLiteral("inactive"));
-    m_rolloverImage = named(QStringLiteral("rollover"));
-    m_pressedImage = named(QStringLiteral("pressed"));
+    m_activeImage = named(u"active"_s);
+    m_activeNotKeyWindowImage = named(u"notkey"_s);
+    m_inactiveImage = named(u"inactive"_s);
+    m_rolloverImage = named(u"rollover"_s);
+    m_pressedImage = named(u"pressed"_s);
     resize(sizeHint());
 }
 

@@ -5,13 +5,15 @@
 #include <unordered_map>
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace lumora
 {
 
 namespace
 {
 
-const QString defaultIdentifier = QStringLiteral("app.lumora.defaultWindowButtonGroup");
+const QString defaultIdentifier = u"app.lumora.defaultWindowButtonGroup"_s;
 
 } // namespace
 

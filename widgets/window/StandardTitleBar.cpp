@@ -6,6 +6,8 @@
 #include <QApplication>
 #include <QStyle>
 
+using namespace Qt::StringLiterals;
+
 namespace lumora
 {
 
@@ -13,9 +15,9 @@ const StandardTitleBar &standardTitleBar()
 {
     static const StandardTitleBar measured = [] {
         const QStyle *style = QApplication::style();
-        const qreal button = NamedImage(QStringLiteral("window_close_active")).size().height();
+        const qreal button = NamedImage(u"window_close_active"_s).size().height();
         StandardTitleBar standard{};
-        // A style may know no title bars; a button must fit in all the same.
+        // A style may know no title bars; a button must fit in nevertheless.
         standard.height = qMax<qreal>(style->pixelMetric(QStyle::PM_TitleBarHeight), button);
         // As far from the side as from above.
         standard.trafficLightButtonsLeftMargin = qMax((standard.height - button) / 2, button / 2);

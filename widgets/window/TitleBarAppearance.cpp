@@ -23,7 +23,7 @@ QColor opaqueGray(float white)
 QPixmap noiseTexture()
 {
     constexpr int side = 128;
-    // Around the middle grey: enough to take the smoothness off a gradient, too little to be seen as a pattern.
+    // Around the middle gray: enough to take the smoothness off a gradient, too little to be seen as a pattern.
     constexpr int middle = 128;
     constexpr int spread = 48;
     QImage tile(side, side, QImage::Format_RGB32);

@@ -13,7 +13,7 @@ enum class PlatformGeneration { Older, Newer };
 /// The generation of every platform this program runs on.
 inline constexpr PlatformGeneration platformGeneration = PlatformGeneration::Newer;
 
-/// The greys a title bar is drawn in as long as no colours were given.
+/// The grays a title bar is drawn in as long as no colors were given.
 struct TitleBarGrays
 {
     float gradientTop;
@@ -29,7 +29,7 @@ inline constexpr qreal titleBarNoiseOpacity = 0.1;
 /// Of the title bar's upper corners, in points.
 inline constexpr qreal titleBarCornerRadius = 4;
 
-/// A tile of even grey noise, the same on every run.
+/// A tile of even gray noise, the same on every run.
 QPixmap noiseTexture();
 
 } // namespace lumora

@@ -12,13 +12,13 @@ namespace lumora
 // Where the parts of a window with a tall title bar lie. All rectangles count y upwards from the window's lower edge,
 // all lengths are points.
 
-/// How the close, minimise and zoom buttons stand in their title bar.
+/// How the close, minimize and zoom buttons stand in their title bar.
 struct TrafficLights
 {
-    /// Close, minimise, zoom.
+    /// Close, minimize, zoom.
     std::array<QSizeF, 3> sizes;
     qreal leftMargin = 0;
-    qreal topMargin = 0; ///< where they are not centred
+    qreal topMargin = 0; ///< where they are not centered
     qreal separation = 0;
     bool centered = true;
     bool vertical = false;
@@ -29,16 +29,16 @@ QRectF titleBarRect(const QSizeF &window, qreal titleBarHeight);
 /// What is left below it.
 QRectF contentRectBelowTitleBar(const QSizeF &window, qreal titleBarHeight);
 
-/// The close, minimise and zoom buttons inside the container. Upright, the buttons lie 2 points closer together than
-/// side by side, and the centred group stands on a whole point.
+/// The close, minimize and zoom buttons inside the container. Upright, the buttons lie 2 points closer together than
+/// side by side, and the centered group stands on a whole point.
 std::array<QRectF, 3> trafficLightRects(const TrafficLights &lights, const QRectF &container);
 
-/// The full-screen button, centred or by its margin from the container's top.
+/// The full-screen button, centered or by its margin from the container's top.
 QRectF fullScreenButtonRect(const QSizeF &button, qreal rightMargin, qreal topMargin, bool centered,
                             const QRectF &container);
 
 /// The title: as near to the container's middle as the buttons on both sides let it, cut where it does not fit between
-/// them. `standardHeight` is the band at the container's top that the title stands in when it is not centred.
+/// them. `standardHeight` is the band at the container's top that the title stands in when it is not centered.
 QRectF titleRect(const QSizeF &text, const QRectF &container, qreal leftLimit, qreal rightLimit, bool centered,
                  qreal standardHeight);
 

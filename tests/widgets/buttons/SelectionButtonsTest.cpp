@@ -47,6 +47,39 @@ class SelectionButtonsTest : public QObject
 {
     Q_OBJECT
 private slots:
+    void looksChosenOnlyWhileItIs_data()
+    {
+        QTest::addColumn<bool>("pointerStays");
+        QTest::addColumn<QString>("image");
+        QTest::newRow("with the pointer still on it") << true << u"button_radiobutton_hover"_s;
+        QTest::newRow("with the pointer elsewhere") << false << u"button_radiobutton_idle"_s;
+    }
+    void looksChosenOnlyWhileItIs()
+    {
+        QFETCH(bool, pointerStays);
+        RadioButton radio;
+        connect(&radio, &RadioButton::clicked, &radio, [&radio] { radio.setActive(true); });
+        radio.resize(100, 24);
+        enter(&radio);
+        QTest::mouseClick(&radio, Qt::LeftButton, {}, QPoint(10, 10));
+        QVERIFY(radio.isActive());
+        if (!pointerStays)
+            leave(&radio);
+        // Another one is chosen by key.
+        radio.setActive(false);
+        QTEST(radio.currentImage().name(), "image");
+    }
+
+    void aDialogTakesThePointerAway()
+    {
+        RadioButton radio;
+        enter(&radio);
+        QCOMPARE(radio.currentImage().name(), u"button_radiobutton_hover"_s);
+        QEvent blocked(QEvent::WindowBlocked);
+        QCoreApplication::sendEvent(&radio, &blocked);
+        QCOMPARE(radio.currentImage().name(), u"button_radiobutton_idle"_s);
+    }
+
     void startsIdle()
     {
         const CheckboxButton box;

@@ -298,6 +298,21 @@ private slots:
         QCOMPARE(form.field->currentFieldEditor()->selectedText(), u"one"_s);
     }
 
+    void aDroppedFileIsForWhatLiesBelow()
+    {
+        ZKTextField field;
+        field.resize(200, 24);
+        QMimeData data;
+        data.setUrls({QUrl(u"file:///tmp/icon.png"_s)});
+        data.setText(u"/tmp/icon.png"_s);
+        QDragEnterEvent drag(QPoint(50, 12), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(&field, &drag);
+        QVERIFY(!drag.isAccepted());
+        QDropEvent drop(QPointF(50, 12), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(&field, &drop);
+        QCOMPARE(field.string(), QString());
+    }
+
     void droppedTextIsInserted()
     {
         ZKTextField field;

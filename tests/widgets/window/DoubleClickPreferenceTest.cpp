@@ -74,6 +74,7 @@ private slots:
         QTRY_COMPARE(portal.reads, 1);
         QTest::qWait(50); // for the answer, which in most rows changes nothing that could be waited for
         QTEST(preference.miniaturizesOnDoubleClick(), "miniaturizes");
+        QCOMPARE(preference.zoomsOnDoubleClick(), known && action == u"toggle-maximize");
     }
 
     void followsTheSetting()

@@ -19,11 +19,13 @@ namespace
 class FixedPreference final : public DoubleClickPreference
 {
 public:
-    explicit FixedPreference(bool miniaturizes) : m_miniaturizes(miniaturizes) {}
+    explicit FixedPreference(bool miniaturizes, bool zooms = false) : m_miniaturizes(miniaturizes), m_zooms(zooms) {}
     bool miniaturizesOnDoubleClick() const override { return m_miniaturizes; }
+    bool zoomsOnDoubleClick() const override { return m_zooms; }
 
 private:
     bool m_miniaturizes;
+    bool m_zooms;
 };
 
 } // namespace
@@ -57,6 +59,19 @@ private slots:
         QVERIFY(!window.isMinimized());
         QTest::mouseDClick(window.windowHandle(), Qt::LeftButton, {}, at);
         QTEST(window.isMinimized(), "miniaturizes");
+    }
+
+    void fillsTheScreenOnADoubleClickWhereTheUserWantsThat()
+    {
+        INAppStoreWindow window;
+        window.setTitleBarHeight(60);
+        window.setDoubleClickPreference(std::make_shared<FixedPreference>(false, true));
+        show(window);
+        for (const bool filling : {true, false}) {
+            QTest::mouseDClick(window.windowHandle(), Qt::LeftButton, {}, QPoint(300, 30));
+            QTRY_COMPARE(window.isMaximized(), filling);
+            QVERIFY(!window.isMinimized());
+        }
     }
 
     void dragsByTheWholeBar_data()

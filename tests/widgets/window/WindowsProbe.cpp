@@ -116,9 +116,7 @@ private:
             m_popover.closePopover();
             return;
         }
-        // The middle of the anchor's lower edge, from the window's lower left corner, y upwards.
-        const QPoint inWindow = m_anchor->mapTo(&m_window, QPoint(20, 40));
-        m_popover.displayPopoverInWindow(&m_window, QPointF(inWindow.x(), m_window.height() - inWindow.y()));
+        m_popover.displayPopover({m_anchor, Qt::BottomEdge, 0, {}});
     }
 
     void read()
