@@ -32,7 +32,8 @@ void ColorField::setTextColor(const RgbaColor &color)
     const bool light = (color.red + color.green + color.blue) / 3.0F > lightest;
     m_groundColor = light ? palette::chromeText : palette::window;
     QPalette colors = QLineEdit::palette();
-    colors.setColor(QPalette::Text, platformColor(color));
+    // An opacity would make it pale or invisible, and it belongs to no code.
+    colors.setColor(QPalette::Text, platformColor({color.red, color.green, color.blue, 1.0F}));
     setPalette(colors);
     update();
 }

@@ -45,6 +45,7 @@ ColorViewController::ColorViewController(const Services &services, QObject *pare
     setUpField();
     setUpRows();
     m_ui->dropView->setDelegate(this);
+    m_ui->dropView->setTakesColors(true);
     m_ui->dropView->installEventFilter(this);
     m_resetTimer.setSingleShot(true);
     m_resetTimer.setInterval(copiedDuration);

@@ -6,6 +6,7 @@
 #include "SnippetKeys.h"
 #include "pictures/PictureOperations.h"
 #include "tool/ButtonStyle.h"
+#include "tool/DropDownStyle.h"
 #include "tool/DropHighlight.h"
 #include "tool/LabelStyle.h"
 #include "ui_IconsViewController.h"
@@ -156,6 +157,7 @@ void IconsViewController::connectControls()
     connect(m_ui->favIconCheckbox, &CheckboxButton::clicked, this, &Self::faviconCheckboxChecked);
     connect(m_ui->customIconRoundedCheckbox, &RadioButton::clicked, this, &Self::checkbox_rounded_ios7_checked);
     connect(m_ui->customIconRoundedSixCheckbox, &RadioButton::clicked, this, &Self::checkbox_rounded_ios6_checked);
+    styleDropDown(m_ui->codeSnippetDropdown);
     connect(m_ui->codeSnippetDropdown, &QComboBox::activated, this, &Self::snippetPlatformClicked);
     connect(m_ui->codeSnippetCopyButton, &IconButton::clicked, this, &Self::copyButtonClicked);
 }

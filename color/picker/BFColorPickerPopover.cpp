@@ -6,17 +6,13 @@
 #include "ColorPanel.h"
 #include "ColorWell.h"
 #include "PickerContent.h"
-#include "PopoverPlacement.h"
 #include "SharedInstance.h"
 #include "widgets/popover/SFBPopover.h"
-#include "widgets/popover/ScreenCoordinates.h"
-#include "widgets/style/AnimationTiming.h"
+#include "widgets/style/EasedAnimation.h"
 #include "widgets/style/Palette.h"
 
 #include <QApplication>
 #include <QMouseEvent>
-#include <QScreen>
-#include <QVariantAnimation>
 
 #include <utility>
 
@@ -48,14 +44,10 @@ BFColorPickerPopover *BFColorPickerPopover::sharedPopover()
     return shared.get();
 }
 
-BFColorPickerPopover::BFColorPickerPopover() : m_return(new QVariantAnimation(this))
+BFColorPickerPopover::BFColorPickerPopover() : m_return(new EasedAnimation(this))
 {
-    m_return->setDuration(shortAnimationDuration);
-    m_return->setEasingCurve(easeInEaseOut());
     connect(m_return, &QVariantAnimation::valueChanged, this,
             [this](const QVariant &value) { setWindowOrigin(value.toPointF()); });
-    // The curve ends a hair beside its target.
-    connect(m_return, &QVariantAnimation::finished, this, [this] { setWindowOrigin(m_return->endValue().toPointF()); });
 }
 
 BFColorPickerPopover::~BFColorPickerPopover() = default;
@@ -128,16 +120,9 @@ void BFColorPickerPopover::showRelativeToRect(const QRect &rect, QWidget *ofView
     }
     makeBalloon();
 
-    const QRectF control = flippedOnScreen(QRectF(ofView->mapToGlobal(rect.topLeft()), rect.size()));
-    const QRectF screen = flippedOnScreen(QRectF(ofView->screen()->availableGeometry()));
-    const PopoverPlacement placement =
-        popoverPlacement(control, m_contentViewController->view()->size(), screen, preferredEdge,
-                         m_balloon->popoverWindow()->popoverWindowFrame()->metrics());
-    QWidget *window = ofView->window();
     m_balloon->setAnimates(m_animates);
-    m_balloon->setPosition(placement.position);
-    m_balloon->displayPopoverInWindow(window, placement.point - basePointToScreen(window, {}));
-    m_parentWindow = window;
+    m_balloon->displayPopover({ofView, preferredEdge, 0, rect});
+    m_parentWindow = ofView->window();
     m_windowOrigin = m_balloon->popoverWindow()->frame().topLeft();
     m_shown = true;
     qApp->installEventFilter(this);
@@ -209,10 +194,7 @@ void BFColorPickerPopover::setWindowOrigin(const QPointF &origin)
 
 void BFColorPickerPopover::animateWindowOriginTo(const QPointF &origin)
 {
-    m_return->stop();
-    m_return->setStartValue(m_windowOrigin);
-    m_return->setEndValue(origin);
-    m_return->start();
+    m_return->run(m_windowOrigin, origin);
 }
 
 void BFColorPickerPopover::setShouldHideAnchor(bool hide)

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "color/RgbaColor.h"
+#include "foundation/RgbaColor.h"
 
 #include <QObject>
 #include <QPointer>
@@ -10,19 +10,18 @@
 #include <functional>
 #include <memory>
 
-class QVariantAnimation;
-
 namespace lumora
 {
 
 class BFColorPickerViewController;
 class ColorPanel;
 class ColorWell;
+class EasedAnimation;
 class SFBPopover;
 
-/// Shows the shared colour picker in a balloon beside a colour well. It closes when the user goes on working in the
+/// Shows the shared color picker in a balloon beside a color well. It closes when the user goes on working in the
 /// well's window and stays when another program comes to the front; dragged off, it becomes the floating panel. Under
-/// Wayland it cannot follow the drag: only its arrow tells that it will come off, and the compositor places the panel.
+/// Wayland it cannot follow the drag: only its arrow shows that it will come off, and the compositor places the panel.
 class BFColorPickerPopover final : public QObject
 {
     Q_OBJECT
@@ -36,10 +35,10 @@ public:
     BFColorPickerPopover();
     ~BFColorPickerPopover() override;
 
-    /// The panel's colour while the popover is shown.
+    /// The panel's color while the popover is shown.
     RgbaColor color() const;
     void setColor(const RgbaColor &color);
-    /// Who is told of each colour picked here, and how. The action is not performed for a target that is gone.
+    /// Who hears of each color picked here, and how. The action is not performed for a target that is gone.
     QObject *target() const { return m_target; }
     const Action &action() const { return m_action; }
     void setTarget(QObject *target, Action action);
@@ -98,7 +97,7 @@ private:
     QPointer<ColorWell> m_colorWell;
     QPointer<QObject> m_target;
     Action m_action;
-    QVariantAnimation *m_return = nullptr;
+    EasedAnimation *m_return = nullptr;
     RgbaColor m_color{1.0F, 1.0F, 1.0F, 1.0F};
     QPointF m_windowOrigin;
     bool m_animates = true;

@@ -5,7 +5,7 @@
 #include "ColorPanel.h"
 #include "ColorWell.h"
 #include "PickerContent.h"
-#include "PickerTabs.h"
+#include "PickerMode.h"
 #include "widgets/tabs/BFIconTabBar.h"
 
 namespace lumora

@@ -10,7 +10,7 @@ namespace lumora
 
 class BFColorPickerPopover;
 
-/// A colour well that opens the picker in a popover beside it instead of as a floating window.
+/// A color well that opens the picker in a popover beside it instead of as a floating window.
 class BFPopoverColorWell final : public ColorWell
 {
     Q_OBJECT

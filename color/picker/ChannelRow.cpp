@@ -118,7 +118,7 @@ void ChannelRow::showPicked()
 {
     const int number = channelNumber(m_model->picked(), m_channel);
     m_slider->setStops(channelStops(m_model->picked(), m_channel));
-    // What is only shown is not taken back: a colour between two numbers stays where it is.
+    // What is only shown is not taken back: a color between two numbers stays where it is.
     const QSignalBlocker sliderBlocker(m_slider);
     const QSignalBlocker numberBlocker(m_number);
     m_slider->setValue(number);

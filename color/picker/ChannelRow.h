@@ -13,7 +13,7 @@ namespace lumora
 class ColorSlider;
 class PickerModel;
 
-/// One channel of the picked colour: its name, a slider and its number, all three kept in step with the model.
+/// One channel of the picked color: its name, a slider and its number, all three kept in step with the model.
 class ChannelRow final : public QWidget
 {
     Q_OBJECT

@@ -4,16 +4,18 @@
 #include "ColorWell.h"
 #include "PickerContent.h"
 #include "PickerMetrics.h"
-#include "PickerTabs.h"
+#include "PickerMode.h"
 #include "SharedInstance.h"
 #include "color/ColorExtensions.h"
+#include "widgets/style/AccessibleRole.h"
 #include "widgets/tabs/BFIconTabBar.h"
 
-#include <QAccessibleWidget>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QVBoxLayout>
 #include <QWindow>
+
+#include <algorithm>
 
 namespace lumora
 {
@@ -23,22 +25,6 @@ namespace
 
 SharedInstance<ColorPanel> shared;
 bool panelDisabled = false;
-
-QAccessibleInterface *accessibleOf(const QString &, QObject *object)
-{
-    auto *panel = qobject_cast<ColorPanel *>(object);
-    return panel == nullptr ? nullptr : new QAccessibleWidget(panel, QAccessible::Dialog);
-}
-
-/// To a screen reader the window is a dialog by its title.
-void installAccessible()
-{
-    static const bool installed = [] {
-        QAccessible::installFactory(accessibleOf);
-        return true;
-    }();
-    Q_UNUSED(installed)
-}
 
 } // namespace
 
@@ -74,14 +60,14 @@ QString ColorPanel::colorText()
 
 ColorPanel::ColorPanel(QWidget *parent) : QWidget(parent, Qt::Tool), m_contentView(new PickerContent(&m_model))
 {
-    installAccessible();
+    setAccessibleRole(this, QAccessible::Dialog);
     setWindowTitle(qtTrId("COLOR_PICKER"));
     for (const PickerModeItem &mode : pickerModes())
         m_toolbarItems.append({mode, [mode](ColorPanel &panel) { panel.setMode(mode.mode); }});
     m_toolbar = makePickerTabs(*this, this);
     m_toolbar->setFixedHeight(metrics::pickerTabBarHeight);
     connect(m_toolbar, &BFIconTabBar::action, this, &ColorPanel::tabBarChangedSelection);
-    connect(&m_model, &PickerModel::colorChanged, this, &ColorPanel::colorChanged);
+    connect(&m_model, &PickerModel::colorChanged, this, &ColorPanel::takePicked);
 
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
@@ -100,6 +86,7 @@ ColorPanel::~ColorPanel()
 
 void ColorPanel::setColor(const RgbaColor &color)
 {
+    m_recentBefore.reset();
     m_givenColor = color;
     m_model.setColor(color);
 }
@@ -127,8 +114,8 @@ void ColorPanel::setMode(PickerMode mode)
 {
     if (mode == m_contentView->mode())
         return;
-    if (mode == PickerMode::Recent)
-        rememberColor();
+    rememberColor();
+    m_recentBefore.reset();
     m_contentView->setMode(mode);
     emit modeChanged(mode);
 }
@@ -155,6 +142,23 @@ void ColorPanel::rememberColor()
     m_givenColor = color();
     m_recent.add(color());
     m_contentView->setRecentColors(m_recent);
+}
+
+void ColorPanel::takePicked(const RgbaColor &color)
+{
+    // While the recent colors are open the newest of them follows what is picked; one that stands there already stays
+    // in its place.
+    const std::vector<RgbaColor> &known = (m_recentBefore ? *m_recentBefore : m_recent).colors();
+    if (mode() == PickerMode::Recent && color != m_givenColor &&
+        std::find(known.cbegin(), known.cend(), color) == known.cend()) {
+        if (!m_recentBefore)
+            m_recentBefore = m_recent;
+        m_recent = *m_recentBefore;
+        m_recent.add(color);
+        m_givenColor = color;
+        m_contentView->setRecentColors(m_recent);
+    }
+    emit colorChanged(color);
 }
 
 void ColorPanel::setContentRect(const QRect &rect)

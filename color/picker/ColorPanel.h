@@ -9,6 +9,7 @@
 #include <QWidget>
 
 #include <functional>
+#include <optional>
 
 namespace lumora
 {
@@ -16,7 +17,7 @@ namespace lumora
 class BFIconTabBar;
 class PickerContent;
 
-/// The colour picker of the whole program, and the floating window that is one of its two hosts. The other is the
+/// The color picker of the whole program, and the floating window that is one of its two hosts. The other is the
 /// popover, which borrows the content view; the window shows itself only with the content back in it.
 class ColorPanel final : public QWidget
 {
@@ -62,7 +63,7 @@ public:
     /// The content is in this window, not in a popover.
     bool hostsContentView() const;
     const RecentColors &recentColors() const { return m_recent; }
-    /// Puts the colour among the recent ones if it was picked since the program last set one.
+    /// Puts the color among the recent ones if it was picked since the program last set one.
     void rememberColor();
 
     /// Gives the window the frame with which its content lies exactly on the rectangle, in screen coordinates.
@@ -84,12 +85,15 @@ protected:
 private:
     void takeBackContentView();
     void tabBarChangedSelection();
+    void takePicked(const RgbaColor &color);
 
     PickerModel m_model;
     QList<ToolbarItem> m_toolbarItems;
     BFIconTabBar *m_toolbar = nullptr;
     QPointer<PickerContent> m_contentView;
     RecentColors m_recent;
+    /// The recent colors as they were before the pick that is going on, while they are shown.
+    std::optional<RecentColors> m_recentBefore;
     RgbaColor m_givenColor = m_model.color();
 };
 

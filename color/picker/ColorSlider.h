@@ -9,7 +9,7 @@
 namespace lumora
 {
 
-/// A horizontal slider whose track shows the colours that its positions stand for. A press anywhere on it takes the
+/// A horizontal slider whose track shows the colors that its positions stand for. A press anywhere on it takes the
 /// knob there. Keyboard and screen reader work as with any slider of the platform.
 class ColorSlider final : public QSlider
 {
@@ -18,7 +18,7 @@ class ColorSlider final : public QSlider
 public:
     explicit ColorSlider(QWidget *parent = nullptr);
 
-    /// The track's colours from the smallest to the largest value; what is not opaque lies over a pattern.
+    /// The track's colors from the smallest to the largest value; what is not opaque lies over a pattern.
     void setStops(const QGradientStops &stops);
     /// The knob's middle for the current value.
     QPointF knobCenter() const;

@@ -11,6 +11,7 @@
 #include <QGuiApplication>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QScopedValueRollback>
 
 namespace lumora
 {
@@ -33,7 +34,7 @@ Wells &wells()
 
 constexpr qreal frameWidth = 2;
 constexpr QSize preferredSize(90, 44);
-/// Of no use but to be told apart from every colour that anybody picks.
+/// Only there to differ from every color that anybody picks.
 constexpr RgbaColor hiddenWellColor{1.0F / 255.0F, 2.0F / 255.0F, 3.0F / 255.0F, 1.0F};
 
 } // namespace
@@ -57,11 +58,16 @@ void ColorWell::setColor(const RgbaColor &color)
     m_color = color;
     describeColor();
     update();
+    // The picker goes on from the color that its well shows.
+    if (m_active && !m_takesPicked) {
+        const QScopedValueRollback telling(m_tellsPicker, true);
+        ColorPanel::sharedColorPanel()->setColor(color);
+    }
 }
 
 void ColorWell::describeColor()
 {
-    // Painted only: a screen reader has to be told.
+    // Painted only: a screen reader needs it in words.
     setAccessibleDescription(stringFromColor(m_color));
 }
 
@@ -82,7 +88,7 @@ void ColorWell::deactivateAll()
     ColorPanel::disablePanel();
     auto hidden = std::make_unique<ColorWell>();
     hidden->setColor(hiddenWellColor);
-    // Only the exclusiveness is wanted: the panel keeps its colour.
+    // Only the exclusiveness is wanted: the panel keeps its color.
     hidden->joinActiveWells(true);
     hidden->deactivate();
     wells().hidden = std::move(hidden);
@@ -156,6 +162,9 @@ void ColorWell::joinActiveWells(bool exclusive)
 
 void ColorWell::takePickedColor(const RgbaColor &color)
 {
+    if (m_tellsPicker)
+        return;
+    const QScopedValueRollback taking(m_takesPicked, true);
     setColor(color);
     emit colorPicked(this);
 }

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "color/RgbaColor.h"
+#include "foundation/RgbaColor.h"
 #include "widgets/buttons/PaintedButton.h"
 
 namespace lumora
 {
 
-/// Shows a colour and, while it is active, takes each one that is picked in the shared colour panel. Several wells can
+/// Shows a color and, while it is active, takes each one that is picked in the shared color panel. Several wells can
 /// be active together; activating one exclusively makes the others inactive.
 class ColorWell : public PaintedButton
 {
@@ -19,11 +19,11 @@ public:
     ~ColorWell() override;
 
     const RgbaColor &color() const { return m_color; }
-    /// Sends no action: only picking does.
+    /// Sends no action: only picking does. While the well is active the picker shows the color, too.
     void setColor(const RgbaColor &color);
 
     bool isActive() const override { return m_active; }
-    /// Connects the well to the shared colour panel, which takes its colour and shows itself.
+    /// Connects the well to the shared color panel, which takes its color and shows itself.
     virtual void activate(bool exclusive);
     virtual void deactivate();
 
@@ -39,7 +39,7 @@ public:
     QSize sizeHint() const override;
 
 signals:
-    /// The user picked a colour while the well was active; it has taken it.
+    /// The user picked a color while the well was active; it has taken it.
     void colorPicked(lumora::ColorWell *sender);
 
 protected:
@@ -59,6 +59,8 @@ private:
 
     RgbaColor m_color{1.0F, 1.0F, 1.0F, 1.0F};
     bool m_active = false;
+    bool m_takesPicked = false;
+    bool m_tellsPicker = false;
 };
 
 } // namespace lumora

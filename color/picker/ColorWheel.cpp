@@ -4,7 +4,8 @@
 #include "ColorPainting.h"
 #include "ColorWheelAccessible.h"
 #include "PickerMetrics.h"
-#include "WheelImage.h"
+#include "Wheel.h"
+#include "widgets/style/InstallAccessible.h"
 #include "widgets/style/Palette.h"
 
 #include <QAccessible>
@@ -31,7 +32,7 @@ constexpr float largeStep = 10.0F;
 
 ColorWheel::ColorWheel(PickerModel *model, QWidget *parent) : QWidget(parent), m_model(model)
 {
-    ColorWheelAccessible::install();
+    installAccessible<ColorWheel, ColorWheelAccessible>();
     setFocusPolicy(Qt::StrongFocus);
     setAccessibleName(qtTrId("COLOR_MODE_WHEEL"));
     setCursor(Qt::CrossCursor);

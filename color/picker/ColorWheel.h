@@ -2,7 +2,7 @@
 #pragma once
 
 #include "PickerModel.h"
-#include "WheelGeometry.h"
+#include "Wheel.h"
 
 #include "widgets/style/KeyboardFocus.h"
 
@@ -26,7 +26,7 @@ public:
     PickerModel *model() const { return m_model; }
     /// Where the ring's centre is.
     QPointF markerCenter() const;
-    /// The value in words, as a screen reader tells it.
+    /// The value in words, as a screen reader reads it.
     QString valueText() const;
 
     QSize sizeHint() const override;

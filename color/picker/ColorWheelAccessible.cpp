@@ -6,27 +6,7 @@
 namespace lumora
 {
 
-namespace
-{
-
-QAccessibleInterface *accessibleOf(const QString &, QObject *object)
-{
-    auto *wheel = qobject_cast<ColorWheel *>(object);
-    return wheel == nullptr ? nullptr : new ColorWheelAccessible(wheel);
-}
-
-} // namespace
-
 ColorWheelAccessible::ColorWheelAccessible(ColorWheel *wheel) : QAccessibleWidget(wheel, QAccessible::Dial) {}
-
-void ColorWheelAccessible::install()
-{
-    static const bool installed = [] {
-        QAccessible::installFactory(accessibleOf);
-        return true;
-    }();
-    Q_UNUSED(installed)
-}
 
 void *ColorWheelAccessible::interface_cast(QAccessible::InterfaceType type)
 {

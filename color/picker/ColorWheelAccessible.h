@@ -8,15 +8,12 @@ namespace lumora
 
 class ColorWheel;
 
-/// The colour wheel for a screen reader: a dial whose value is the hue in degrees, with hue and saturation in words as
+/// The color wheel for a screen reader: a dial whose value is the hue in degrees, with hue and saturation in words as
 /// its description.
 class ColorWheelAccessible final : public QAccessibleWidget, public QAccessibleValueInterface
 {
 public:
     explicit ColorWheelAccessible(ColorWheel *wheel);
-
-    /// Makes colour wheels known to the platform's accessibility. Harmless when called again.
-    static void install();
 
     void *interface_cast(QAccessible::InterfaceType type) override;
     QString text(QAccessible::Text kind) const override;

@@ -7,7 +7,7 @@
 #include "PickerModel.h"
 #include "PickerPages.h"
 #include "Pipette.h"
-#include "SwatchWidget.h"
+#include "SwatchList.h"
 #include "color/ColorCode.h"
 #include "color/TypingRule.h"
 #include "widgets/style/Fonts.h"
@@ -17,7 +17,6 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QSignalBlocker>
 #include <QSpinBox>
 #include <QStackedWidget>
 #include <QToolButton>
@@ -147,7 +146,7 @@ void PickerContent::putBehindInTabOrder(const QWidget *page)
         return (control->focusPolicy() & Qt::TabFocus) != 0 && control->focusProxy() == nullptr &&
                control->window() == window();
     });
-    // From the last to the first: what already comes next, be it around the end of the chain, would not be moved.
+    // From the last to the first: what already comes next, even around the end of the chain, would not be moved.
     for (QWidget *control :
          std::initializer_list<QWidget *>{m_pipetteButton, m_code, m_opacity->number(), m_opacity->slider()})
         setTabOrder(*last, control);
@@ -182,7 +181,7 @@ void PickerContent::setPipette(std::unique_ptr<Pipette> pipette)
 void PickerContent::showPicked()
 {
     m_swatch->setColor(m_model->color());
-    // While a code is being typed it stands as typed; the colour follows it, not the other way round.
+    // While a code is being typed it stands as typed; the color follows it, not the other way round.
     if (!m_code->hasFocus() || !m_code->isModified())
         codeFinished();
 }

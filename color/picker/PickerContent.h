@@ -21,7 +21,7 @@ class PickerModel;
 class Pipette;
 class SwatchWidget;
 
-/// The picker itself, without a host: the page of the mode, below it the opacity, the colour with its code, and the
+/// The picker itself, without a host: the page of the mode, below it the opacity, the color with its code, and the
 /// pipette. It fills whatever it is put into.
 class PickerContent final : public QWidget
 {

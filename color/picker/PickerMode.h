@@ -4,10 +4,15 @@
 #include <QList>
 #include <QString>
 
+class QWidget;
+
 namespace lumora
 {
 
-/// The ways in which the picker lets choose a colour, in the order of its tabs.
+class BFIconTabBar;
+class ColorPanel;
+
+/// The ways in which the picker lets choose a color, in the order of its tabs.
 enum class PickerMode { Wheel, Sliders, Palettes, Recent };
 
 /// What the picker's tabs know of a mode.
@@ -21,5 +26,11 @@ struct PickerModeItem
 
 /// Every mode; the texts are those of the language installed at the time of the call.
 QList<PickerModeItem> pickerModes();
+
+/// A bar with one tab for each of the panel's modes, its current one selected, that follows the panel's mode.
+BFIconTabBar *makePickerTabs(ColorPanel &panel, QWidget *parent);
+
+/// Performs the action of the panel's item at the selected tab, if one is selected.
+void performSelectedTab(const BFIconTabBar &tabs, ColorPanel &panel);
 
 } // namespace lumora

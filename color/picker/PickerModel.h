@@ -8,7 +8,7 @@
 namespace lumora
 {
 
-/// The one colour that all of the picker's controls show and change.
+/// The one color that all of the picker's controls show and change.
 class PickerModel final : public QObject
 {
     Q_OBJECT
@@ -22,9 +22,9 @@ public:
     void setPicked(const PickedColor &picked);
 
 signals:
-    /// Something shown has changed, be it only the hue of a grey.
+    /// Something shown has changed, if only the hue of a gray.
     void pickedChanged();
-    /// The colour itself has changed.
+    /// The color itself has changed.
     void colorChanged(const lumora::RgbaColor &color);
 
 private:

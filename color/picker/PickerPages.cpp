@@ -8,12 +8,15 @@
 #include "RecentColors.h"
 #include "SwatchList.h"
 #include "ToolPalette.h"
+#include "tool/DropDownStyle.h"
 #include "widgets/style/Fonts.h"
 
 #include <QComboBox>
 #include <QLabel>
 #include <QStackedWidget>
 #include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
 
 namespace lumora
 {
@@ -24,12 +27,12 @@ namespace
 constexpr int fontSize = 12;
 
 /// As flat as the fields below it, with the arrow of the other tools' boxes.
-const auto flatComboBox = QStringLiteral(R"(
+const auto flatComboBox = uR"(
     QComboBox { background: palette(base); border: 1px solid palette(mid); border-radius: 3px; padding: 3px 6px; }
     QComboBox:focus { border: 2px solid palette(highlight); padding: 2px 5px; }
     QComboBox::drop-down { border: 0; width: 24px; }
     QComboBox::down-arrow { image: url(:/images/dropdown_arrow.svg); width: 10px; height: 10px; }
-)");
+)"_s;
 
 QVBoxLayout *columnOn(QWidget *page)
 {
@@ -60,6 +63,7 @@ SlidersPage::SlidersPage(PickerModel *model, QWidget *parent)
 {
     m_kind->setFont(latoRegular(fontSize));
     m_kind->setStyleSheet(flatComboBox);
+    styleDropDown(m_kind);
     m_kind->setAccessibleName(qtTrId("COLOR_SLIDERS_KIND"));
     QVBoxLayout *layout = columnOn(this);
     layout->addWidget(m_kind);

@@ -33,7 +33,7 @@ private:
     ColorWheel *m_wheel;
 };
 
-/// Sliders with numbers, for red, green and blue, for hue, saturation and brightness, or for grey.
+/// Sliders with numbers, for red, green and blue, for hue, saturation and brightness, or for gray.
 class SlidersPage final : public QWidget
 {
     Q_OBJECT
@@ -51,7 +51,7 @@ private:
     QStackedWidget *m_sliders;
 };
 
-/// The program's own colours and the named colours of the web, with the name of the chosen one.
+/// The program's own colors and the named colors of the web, with the name of the chosen one.
 class PalettesPage final : public QWidget
 {
     Q_OBJECT
@@ -71,7 +71,7 @@ private:
     QLabel *m_name;
 };
 
-/// The colours picked before.
+/// The colors picked before.
 class RecentPage final : public QWidget
 {
     Q_OBJECT

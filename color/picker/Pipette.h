@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "color/RgbaColor.h"
+#include "foundation/RgbaColor.h"
 
 #include <QObject>
 
@@ -12,7 +12,7 @@ class QWidget;
 namespace lumora
 {
 
-/// Picks a colour anywhere on the screen. One pick at a time; each ends with exactly one of the signals.
+/// Picks a color anywhere on the screen. One pick at a time; each ends with exactly one of the signals.
 class Pipette : public QObject
 {
     Q_OBJECT
@@ -20,7 +20,7 @@ class Pipette : public QObject
 public:
     using QObject::QObject;
 
-    /// Lets the user point at a colour; the window is the one that asks.
+    /// Lets the user point at a color; the window is the one that asks.
     virtual void pick(QWidget *window) = 0;
 
 signals:
@@ -31,7 +31,7 @@ signals:
     void failed();
 };
 
-/// The desktop's own colour picker where its portal offers one, else X11's way of reading the screen.
+/// The desktop's own color picker where its portal offers one, else X11's way of reading the screen.
 std::unique_ptr<Pipette> makeScreenPipette();
 
 } // namespace lumora

@@ -28,11 +28,11 @@ public:
     void pick(QWidget *window) override;
 
 signals:
-    /// No portal on the bus can pick colours. Ends the pick instead of one of the other signals.
+    /// No portal on the bus can pick colors. Ends the pick instead of one of the other signals.
     void unavailable();
 
 private slots:
-    /// The portal's answer: 0 with the colour, 1 when the user cancelled, anything else when it failed.
+    /// The portal's answer: 0 with the color, 1 when the user canceled, anything else when it failed.
     void received(uint response, const QVariantMap &results);
 
 private:

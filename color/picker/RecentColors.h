@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "color/RgbaColor.h"
+#include "foundation/RgbaColor.h"
 
 #include <vector>
 
 namespace lumora
 {
 
-/// The colours used last in this run of the program, the newest first.
+/// The colors used last in this run of the program, the newest first.
 class RecentColors
 {
 public:
@@ -16,7 +16,7 @@ public:
     static constexpr std::size_t capacity = 40;
 
     const std::vector<RgbaColor> &colors() const { return m_colors; }
-    /// Puts the colour in front; one that shows the same bytes moves there instead of standing twice. The oldest go
+    /// Puts the color in front; one that shows the same bytes moves there instead of standing twice. The oldest go
     /// when there are too many.
     void add(const RgbaColor &color);
 

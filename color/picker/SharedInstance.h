@@ -4,22 +4,22 @@
 #include <QCoreApplication>
 
 #include <memory>
-#include <mutex>
 
 namespace lumora
 {
 
-/// The one object of its kind that the whole program shares: made once, at first use, from whichever thread, and
-/// deleted with the application, while widgets may still be deleted. One per type.
+/// The one object of its kind that the whole program shares: made at first use and deleted with the application, while
+/// widgets may still be deleted; null from then on. One per type; main thread only.
 template <typename Object> class SharedInstance
 {
 public:
     Object *get()
     {
-        std::call_once(m_once, [] {
+        if (!m_made) {
+            m_made = true;
             instance() = std::make_unique<Object>();
             qAddPostRoutine([] { instance().reset(); });
-        });
+        }
         return instance().get();
     }
     bool exists() const { return instance() != nullptr; }
@@ -31,7 +31,7 @@ private:
         return object;
     }
 
-    std::once_flag m_once;
+    bool m_made = false;
 };
 
 } // namespace lumora

@@ -3,6 +3,7 @@
 
 #include "ColorPainting.h"
 #include "PickerMetrics.h"
+#include "color/ColorCode.h"
 
 #include <QKeyEvent>
 #include <QPainter>
@@ -10,6 +11,8 @@
 #include <QStyledItemDelegate>
 
 #include <algorithm>
+
+using namespace Qt::StringLiterals;
 
 namespace lumora
 {
@@ -40,6 +43,41 @@ public:
 };
 
 } // namespace
+
+void SwatchModel::setColors(std::vector<NamedColor> colors)
+{
+    beginResetModel();
+    m_colors = std::move(colors);
+    endResetModel();
+}
+
+QModelIndex SwatchModel::indexOf(const RgbaColor &color) const
+{
+    const auto found = std::ranges::find_if(m_colors, [&](const NamedColor &named) {
+        return stringFromColor(named.color) == stringFromColor(color) && named.color.alpha == color.alpha;
+    });
+    return found == m_colors.end() ? QModelIndex() : index(static_cast<int>(found - m_colors.begin()));
+}
+
+int SwatchModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(m_colors.size());
+}
+
+QVariant SwatchModel::data(const QModelIndex &index, int role) const
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+        return {};
+    const NamedColor &named = at(index);
+    const QString code = stringFromColor(named.color);
+    switch (role) {
+    case Qt::ToolTipRole:
+    case Qt::AccessibleTextRole:
+        return named.name.isEmpty() ? code : QString(named.name + u", "_s + code);
+    default:
+        return {};
+    }
+}
 
 SwatchList::SwatchList(QWidget *parent) : QListView(parent), m_model(new SwatchModel(this))
 {
@@ -120,6 +158,20 @@ void SwatchList::choose(const QModelIndex &index)
 {
     if (index.isValid())
         emit colorChosen(m_model->at(index).color);
+}
+
+void SwatchWidget::setColor(const RgbaColor &color)
+{
+    if (m_color == color)
+        return;
+    m_color = color;
+    update();
+}
+
+void SwatchWidget::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    paintSwatch(painter, rect(), m_color, metrics::swatchCorner);
 }
 
 } // namespace lumora

@@ -1,12 +1,34 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "SwatchModel.h"
+#include "NamedColors.h"
 
+#include <QAbstractListModel>
 #include <QListView>
 
 namespace lumora
 {
+
+/// A row of named colors for a list of swatches.
+class SwatchModel final : public QAbstractListModel
+{
+    Q_OBJECT
+
+public:
+    using QAbstractListModel::QAbstractListModel;
+
+    void setColors(std::vector<NamedColor> colors);
+    const NamedColor &at(const QModelIndex &index) const { return m_colors[static_cast<std::size_t>(index.row())]; }
+    /// The first swatch of the color's text, an invalid index where there is none.
+    QModelIndex indexOf(const RgbaColor &color) const;
+
+    int rowCount(const QModelIndex &parent = {}) const override;
+    /// Name and code as tool tip and for screen readers; nothing to display, since the swatch is painted.
+    QVariant data(const QModelIndex &index, int role) const override;
+
+private:
+    std::vector<NamedColor> m_colors;
+};
 
 /// Swatches side by side, as many in a row as fit. A click, return, an arrow key or a selection by
 /// assistive technology chooses one.
@@ -19,7 +41,7 @@ public:
 
     void setColors(std::vector<NamedColor> colors);
     const SwatchModel &swatches() const { return *m_model; }
-    /// Marks the swatch of the colour, none where there is none, without choosing it.
+    /// Marks the swatch of the color, none where there is none, without choosing it.
     void showColor(const RgbaColor &color);
     /// The list takes the height of all its rows instead of scrolling.
     void setGrowsWithContent(bool grows);
@@ -41,6 +63,24 @@ private:
     SwatchModel *m_model;
     bool m_growsWithContent = false;
     bool m_showing = false;
+};
+
+/// Shows one color.
+class SwatchWidget final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    using QWidget::QWidget;
+
+    const RgbaColor &color() const { return m_color; }
+    void setColor(const RgbaColor &color);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    RgbaColor m_color;
 };
 
 } // namespace lumora

@@ -6,7 +6,7 @@
 namespace lumora
 {
 
-/// The colours that the program itself is made of, named after what they colour: each tool's colour and its darker
+/// The colors that the program itself is made of, named after what they color: each tool's color and its darker
 /// shade, then text, panels and rules.
 std::vector<NamedColor> toolPalette();
 

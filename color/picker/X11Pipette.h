@@ -9,7 +9,7 @@
 namespace lumora
 {
 
-/// Reads the screen itself, which X11 allows: grabs pointer and keyboard, takes the colour under the pointer at the
+/// Reads the screen itself, which X11 allows: grabs pointer and keyboard, takes the color under the pointer at the
 /// next click; Escape or another button changes the mind. With the keyboard, the arrows move the pointer by a point, by
 /// ten with Shift, and Return or Space picks.
 class X11Pipette final : public Pipette

@@ -73,6 +73,47 @@ private slots:
         QCOMPARE(interface->text(QAccessible::Name), panel()->windowTitle());
     }
 
+    void aColorGivenToTheActiveWellIsThePickersToo_data()
+    {
+        QTest::addColumn<bool>("tornOff");
+        QTest::newRow("in the popover") << false;
+        QTest::newRow("in the floating panel") << true;
+    }
+    void aColorGivenToTheActiveWellIsThePickersToo()
+    {
+        QFETCH(bool, tornOff);
+        if (tornOff)
+            m_wells->openFloatingPanel();
+        else
+            m_wells->click(m_wells->well);
+        const QSignalSpy pickedColors(&m_wells->well, &ColorWell::colorPicked);
+        m_wells->well.setColor(second);
+        QCOMPARE(panel()->color(), second);
+        QCOMPARE(pickedColors.count(), 0);
+        // The next change in the picker goes on from there.
+        panel()->model()->setColor({second.red, second.green, second.blue, 0.5F});
+        QCOMPARE(m_wells->well.color(), (RgbaColor{second.red, second.green, second.blue, 0.5F}));
+        QCOMPARE(pickedColors.count(), 1);
+        // A well that is not active leaves the picker alone.
+        m_wells->other.setColor(picked);
+        QVERIFY(panel()->color() != picked);
+    }
+
+    void theRecentPageTakesUpWhatIsPickedWhileItIsOpen()
+    {
+        panel()->setColor(first);
+        panel()->setMode(PickerMode::Recent);
+        const std::size_t before = panel()->recentColors().colors().size();
+        // A drag over several colors leaves one behind, the last.
+        panel()->model()->setColor(second);
+        panel()->model()->setColor(picked);
+        QCOMPARE(panel()->recentColors().colors().size(), before + 1);
+        QCOMPARE(panel()->recentColors().colors().front(), picked);
+        // Leaving the page adds nothing.
+        panel()->setMode(PickerMode::Wheel);
+        QCOMPARE(panel()->recentColors().colors().size(), before + 1);
+    }
+
     void describesTheSharedPanelsColor()
     {
         panel()->setColor({0.204F, 0.286F, 0.369F, 1.0F});

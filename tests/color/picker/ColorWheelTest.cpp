@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "color/picker/ColorWheel.h"
 #include "PickerTest.h"
-#include "color/picker/WheelGeometry.h"
-#include "color/picker/WheelImage.h"
+#include "color/picker/Wheel.h"
 
 #include <QMouseEvent>
 #include <QSignalSpy>

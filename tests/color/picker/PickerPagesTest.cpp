@@ -65,6 +65,30 @@ private slots:
         QVERIFY(!shown(ColorChannel::Red) && !shown(ColorChannel::Hue) && shown(ColorChannel::Gray));
     }
 
+    void theListOfKindsShowsAllOfThemAndTheHighlightedOneCanBeRead()
+    {
+        m_picker->content.setMode(PickerMode::Sliders);
+        QComboBox *kind = static_cast<SlidersPage *>(m_picker->content.page(PickerMode::Sliders))->kind();
+        kind->showPopup();
+        QAbstractItemView *list = kind->view();
+        QVERIFY(QTest::qWaitForWindowExposed(list->window()));
+        list->setCurrentIndex(kind->model()->index(1, 0));
+        for (int row = 0; row < kind->count(); ++row)
+            QVERIFY(list->viewport()->rect().contains(list->visualRect(kind->model()->index(row, 0))));
+        const QRect row = list->visualRect(kind->model()->index(1, 0));
+        const QImage picture = list->viewport()->grab(row).toImage();
+        // The background and the brightest of the text differ as text on its ground has to.
+        const QColor ground = picture.pixelColor(picture.width() - 4, picture.height() / 2);
+        int most = 0;
+        for (int x = 0; x < picture.width(); ++x) {
+            for (int y = 2; y < picture.height() - 2; ++y)
+                most = std::max(most, std::abs(qGray(picture.pixel(x, y)) - qGray(ground.rgb())));
+        }
+        kind->hidePopup();
+        QVERIFY2(most > 100, qPrintable(u"%1 on %2"_s.arg(most).arg(ground.name())));
+        QVERIFY(qGray(ground.rgb()) < 160);
+    }
+
     void whatASliderShowsDoesNotChangeTheColor()
     {
         m_picker->content.page(PickerMode::Sliders);

@@ -4,8 +4,9 @@
 #include "color/HsbColor.h"
 #include "color/picker/DragRule.h"
 #include "color/picker/NamedColors.h"
+#include "color/picker/PickedColor.h"
 #include "color/picker/RecentColors.h"
-#include "color/picker/WheelGeometry.h"
+#include "color/picker/Wheel.h"
 
 #include <QLineF>
 #include <QTest>
@@ -80,6 +81,17 @@ private slots:
         QCOMPARE(hsbFrom(rgba("black"), before), (HsbColor{0.6F, 0.7F, 0.0F}));
         QCOMPARE(hsbFrom(rgba("white"), before), (HsbColor{0.6F, 0.0F, 1.0F}));
         QCOMPARE(hsbFrom(rgba("red"), before), (HsbColor{0.0F, 1.0F, 1.0F}));
+    }
+
+    void aHueJustBelowAFullTurnIsNoDegreesAgain()
+    {
+        PickedColor color;
+        for (const auto &[hue, degrees] :
+             {std::pair(0.0F, 0), std::pair(358.4F / 360, 358), std::pair(358.6F / 360, 359),
+              std::pair(359.4F / 360, 359), std::pair(359.6F / 360, 0)}) {
+            color.hsb = {hue, 1.0F, 1.0F};
+            QCOMPARE(channelNumber(color, ColorChannel::Hue), degrees);
+        }
     }
 
     void aHueBeyondOneTurnWrapsAround()

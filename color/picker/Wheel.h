@@ -1,20 +1,21 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QImage>
 #include <QPointF>
 #include <QRectF>
 
 namespace lumora
 {
 
-/// A place on the colour wheel.
+/// A place on the color wheel.
 struct WheelPosition
 {
     float hue = 0.0F;        ///< 0 up to 1: red at the right, then counterclockwise as seen on screen
     float saturation = 0.0F; ///< 0 in the middle, 1 on the rim
 };
 
-/// The disc of colours inside a rectangle whose y runs downwards.
+/// The disc of colors inside a rectangle whose y runs downwards.
 class WheelGeometry
 {
 public:
@@ -34,5 +35,9 @@ private:
     QPointF m_center;
     qreal m_radius = 0;
 };
+
+/// The fully bright color wheel of a radius in points for a screen of the scale factor, its rim smoothed, around it
+/// nothing. Its size is the disc's, rounded up to whole pixels.
+QImage wheelImage(qreal radius, qreal devicePixelRatio);
 
 } // namespace lumora
