@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "DeviceViews.h"
 
+#include "widgets/style/AccessibleRole.h"
 #include "widgets/style/Fonts.h"
 #include "widgets/style/Palette.h"
 
-#include <QAccessibleWidget>
 #include <QPainter>
 
 namespace lumora
@@ -15,30 +15,11 @@ namespace
 
 constexpr int labelFontSize = 13;
 
-/// Pictures are graphics and labels texts to a screen reader.
-QAccessibleInterface *accessibleOf(const QString &, QObject *object)
-{
-    if (auto *picture = qobject_cast<DevicePicture *>(object))
-        return new QAccessibleWidget(picture, QAccessible::Graphic);
-    if (auto *label = qobject_cast<DeviceLabel *>(object))
-        return new QAccessibleWidget(label, QAccessible::StaticText, label->text());
-    return nullptr;
-}
-
-void installAccessible()
-{
-    static const bool installed = [] {
-        QAccessible::installFactory(accessibleOf);
-        return true;
-    }();
-    Q_UNUSED(installed)
-}
-
 } // namespace
 
 DevicePicture::DevicePicture(const NamedImage &image, QWidget *parent) : FadingView(parent), m_image(image)
 {
-    installAccessible();
+    setAccessibleRole(this, QAccessible::Graphic);
 }
 
 void DevicePicture::paintEvent(QPaintEvent *)
@@ -52,7 +33,8 @@ void DevicePicture::paintEvent(QPaintEvent *)
 
 DeviceLabel::DeviceLabel(const QString &text, QWidget *parent) : FadingView(parent), m_text(text)
 {
-    installAccessible();
+    setAccessibleRole(this, QAccessible::StaticText);
+    setAccessibleName(text);
     setFont(latoBold(labelFontSize));
 }
 

@@ -1,19 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "FadingView.h"
 
-#include "widgets/style/AnimationTiming.h"
-
 namespace lumora
 {
 
 FadingView::FadingView(QWidget *parent) : QWidget(parent)
 {
-    m_fade.setDuration(shortAnimationDuration);
-    m_fade.setEasingCurve(easeInEaseOut());
     connect(&m_fade, &QVariantAnimation::valueChanged, this,
             [this](const QVariant &value) { setAlphaValue(value.toFloat()); });
-    // The curve ends a hair beside its target.
-    connect(&m_fade, &QVariantAnimation::finished, this, [this] { setAlphaValue(m_fade.endValue().toFloat()); });
 }
 
 void FadingView::setAlphaValue(float alpha)
@@ -33,9 +27,7 @@ void FadingView::fadeTo(float alpha)
         setAlphaValue(alpha);
         return;
     }
-    m_fade.setStartValue(m_alphaValue);
-    m_fade.setEndValue(alpha);
-    m_fade.start();
+    m_fade.run(m_alphaValue, alpha);
 }
 
 void FadingView::hideEvent(QHideEvent *event)

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QVariantAnimation>
+#include "widgets/style/EasedAnimation.h"
+
 #include <QWidget>
 
 namespace lumora
@@ -27,7 +28,7 @@ protected:
     void hideEvent(QHideEvent *event) override;
 
 private:
-    QVariantAnimation m_fade;
+    EasedAnimation m_fade;
     float m_alphaValue = 1.0F;
 };
 

@@ -7,6 +7,8 @@
 #include "widgets/style/NamedImage.h"
 #include "widgets/style/Palette.h"
 
+using namespace Qt::StringLiterals;
+
 namespace lumora
 {
 
@@ -24,7 +26,7 @@ void AlertContentView::awakeFromNib()
     styleLabel(m_ui->messageLabel, latoRegular(13), palette::chromeText);
     setLightColor(palette::errorLight, palette::errorDark);
     m_ui->closeButton->setText(qtTrId("CLOSE"));
-    m_ui->closeButton->setIcon(NamedImage(QStringLiteral("button_icon_close")));
+    m_ui->closeButton->setIcon(NamedImage(u"button_icon_close"_s));
     connect(m_ui->closeButton, &IconButton::clicked, this, &AlertContentView::closeButtonClicked);
 }
 

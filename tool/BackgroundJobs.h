@@ -57,7 +57,7 @@ public:
     };
     using Work = std::function<void(const BackgroundJob &job)>;
 
-    /// The label names the jobs' threads for whoever looks at the process from outside; at most 15 characters, empty
+    /// The label names the jobs' threads for those who look at the process from outside; at most 15 characters, empty
     /// for the program's own name.
     explicit BackgroundJobs(Order order = Order::Concurrent, const std::string &label = {});
     ~BackgroundJobs() override;

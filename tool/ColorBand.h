@@ -7,7 +7,7 @@
 namespace lumora
 {
 
-/// An area of one colour: the header band, the borders, the rules inside popups.
+/// An area of one color: the header band, the borders, the rules inside popups.
 class ColorBand final : public QWidget
 {
     Q_OBJECT

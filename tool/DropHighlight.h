@@ -9,7 +9,7 @@ namespace lumora
 
 class DropView;
 
-/// The drop area's visible side: a dashed outline at rest, a filled one in the tool's colour while a drag that will be
+/// The drop area's visible side: a dashed outline at rest, a filled one in the tool's color while a drag that will be
 /// taken is over it. Lies behind everything else on its drop view and follows its size.
 class DropHighlight final : public QWidget
 {

@@ -9,6 +9,8 @@
 #include <QGuiApplication>
 #include <QMimeData>
 
+using namespace Qt::StringLiterals;
+
 namespace lumora
 {
 
@@ -17,9 +19,8 @@ namespace
 
 DragOperations operationsOf(const QDropEvent *event)
 {
-    static const DragProtocol protocol = QGuiApplication::platformName().startsWith(QStringLiteral("wayland"))
-                                             ? DragProtocol::WithoutLinks
-                                             : DragProtocol::WithLinks;
+    static const DragProtocol protocol =
+        QGuiApplication::platformName().startsWith(u"wayland"_s) ? DragProtocol::WithoutLinks : DragProtocol::WithLinks;
     return sourceOperations(event->possibleActions(), protocol);
 }
 
@@ -44,8 +45,9 @@ DragOperations sourceOperations(Qt::DropActions offered, DragProtocol protocol)
 {
     DragOperations mask;
     mask.setFlag(DragOperation::Copy, offered.testFlag(Qt::CopyAction));
-    mask.setFlag(DragOperation::Link, offered.testFlag(Qt::LinkAction) ||
-                                          (protocol == DragProtocol::WithoutLinks && offered.testFlag(Qt::CopyAction)));
+    const bool leavesChoice = protocol == DragProtocol::WithoutLinks || offered.testFlag(Qt::MoveAction);
+    mask.setFlag(DragOperation::Link,
+                 offered.testFlag(Qt::LinkAction) || (leavesChoice && offered.testFlag(Qt::CopyAction)));
     mask.setFlag(DragOperation::Generic, offered != Qt::IgnoreAction);
     return mask;
 }
@@ -89,7 +91,7 @@ bool DropView::performDragOperation(const QMimeData &mimeData, DragOperations ma
             m_delegate->dropViewReceivedColor(qvariant_cast<QColor>(mimeData.colorData()));
     } else if (content.files) {
         if (!mask.testFlag(DragOperation::Link))
-            logLine(QStringLiteral("Error - Copied?!"));
+            logLine(u"Error - Copied?!"_s);
         else if (m_delegate != nullptr)
             m_delegate->dropViewReceivedFiles(localFiles(mimeData.urls()));
     }
@@ -98,12 +100,12 @@ bool DropView::performDragOperation(const QMimeData &mimeData, DragOperations ma
 
 void DropView::dragEnterEvent(QDragEnterEvent *event)
 {
-    answer(event);
+    judge(event);
 }
 
 void DropView::dragMoveEvent(QDragMoveEvent *event)
 {
-    answer(event);
+    judge(event);
 }
 
 void DropView::dragLeaveEvent(QDragLeaveEvent *)
@@ -111,21 +113,38 @@ void DropView::dragLeaveEvent(QDragLeaveEvent *)
     setTargeted(false);
 }
 
+bool DropView::isRegisteredFor(const QMimeData &mimeData) const
+{
+    return mimeData.hasUrls() || m_takesColors;
+}
+
 void DropView::dropEvent(QDropEvent *event)
 {
+    receive(event);
+}
+
+void DropView::receive(QDropEvent *event)
+{
     setTargeted(false);
+    if (!isRegisteredFor(*event->mimeData())) {
+        event->ignore();
+        return;
+    }
     const DragOperations mask = operationsOf(event);
     const DragOperation operation = draggingEntered(DragContent::of(*event->mimeData()), mask);
     event->setDropAction(actionFor(operation, event->possibleActions()));
     event->setAccepted(performDragOperation(*event->mimeData(), mask));
 }
 
-void DropView::answer(QDropEvent *event)
+void DropView::judge(QDropEvent *event)
 {
-    const DragOperation operation = draggingEntered(DragContent::of(*event->mimeData()), operationsOf(event));
+    const DragOperation operation = isRegisteredFor(*event->mimeData())
+                                        ? draggingEntered(DragContent::of(*event->mimeData()), operationsOf(event))
+                                        : DragOperation::None;
     event->setDropAction(actionFor(operation, event->possibleActions()));
     event->setAccepted(operation != DragOperation::None);
-    setTargeted(operation != DragOperation::None);
+    // A copy alone is shown to the source, but would not be delivered.
+    setTargeted(operation == DragOperation::Link || operation == DragOperation::Generic);
 }
 
 void DropView::setTargeted(bool targeted)

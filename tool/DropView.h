@@ -25,15 +25,15 @@ Q_DECLARE_OPERATORS_FOR_FLAGS(DragOperations)
 enum class DragProtocol { WithLinks, WithoutLinks };
 
 /// The source's operations as the drop view judges them: copy and link as offered, generic for any drag that offers
-/// something. Where the protocol has no links, a file list that may be copied may be linked: it holds nothing but
-/// references.
+/// something. A source that lets its files be copied or moved lets them be linked: it leaves to the receiver what
+/// becomes of them. Where the protocol has no links, so does one that lets them be copied.
 DragOperations sourceOperations(Qt::DropActions offered, DragProtocol protocol);
 
 /// What a drag carries that a drop view can take.
 struct DragContent
 {
-    bool color = false; ///< a colour
-    bool files = false; ///< a list of this machine's files, be it empty
+    bool color = false; ///< a color
+    bool files = false; ///< a list of this machine's files, possibly empty
 
     static DragContent of(const QMimeData &mimeData);
 };
@@ -62,15 +62,24 @@ public:
     /// The delegate is not owned; it has to outlive the view or take itself away by setting nullptr.
     void setDelegate(DropViewDelegate *delegate) { m_delegate = delegate; }
 
-    /// A drag that would be taken is over the view.
+    /// Whether a color is taken that comes without files; false at first.
+    void setTakesColors(bool takes) { m_takesColors = takes; }
+
+    /// A drag that would be delivered is over the view.
     bool isTargeted() const { return m_targeted; }
 
-    /// The operation to show for a drag that comes in: generic for a colour where the source allows it, else link or
+    /// The operation to show for a drag that comes in: generic for a color where the source allows it, else link or
     /// copy for files, else none.
     static DragOperation draggingEntered(DragContent content, DragOperations mask);
-    /// Delivers the drop to the delegate: a colour first, files only where the source allows linking (else the line
+    /// Delivers the drop to the delegate: a color first, files only where the source allows linking (else the line
     /// "Error - Copied?!" is logged). Answers true whatever came of it.
     bool performDragOperation(const QMimeData &mimeData, DragOperations mask);
+
+    /// What the view does with a drag over it and with a drop, also one that came down on something else and is meant
+    /// for it.
+    void judge(QDropEvent *event);
+    void forget() { setTargeted(false); }
+    void receive(QDropEvent *event);
 
 signals:
     void targetedChanged(bool targeted);
@@ -83,11 +92,13 @@ protected:
 
 private:
     void initialize();
-    void answer(QDropEvent *event);
+    /// Whether the drag is one of the kinds that the view hears of.
+    bool isRegisteredFor(const QMimeData &mimeData) const;
     void setTargeted(bool targeted);
 
     DropViewDelegate *m_delegate = nullptr;
     bool m_targeted = false;
+    bool m_takesColors = false;
 };
 
 } // namespace lumora

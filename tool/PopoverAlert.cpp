@@ -3,10 +3,11 @@
 
 #include "PopoverAlertView.h"
 #include "PopoverStyle.h"
-#include "PopupPlacement.h"
 #include "widgets/buttons/IconButton.h"
 #include "widgets/popover/SFBPopover.h"
 #include "widgets/style/Palette.h"
+
+#include <QEvent>
 
 #include <vector>
 
@@ -30,13 +31,6 @@ Alerts &alerts()
     return all;
 }
 
-/// The middle of the view's upper edge, from its window's lower left corner, counting upwards.
-QPointF upperEdge(const QWidget *view)
-{
-    const QPoint inWindow = view->mapTo(view->window(), QPoint(view->width() / 2, 0));
-    return QPointF(inWindow.x(), view->window()->height() - inWindow.y());
-}
-
 } // namespace
 
 std::shared_ptr<PopoverAlert> PopoverAlert::create()
@@ -57,7 +51,10 @@ void PopoverAlert::runAsPopoverForView(QWidget *view, CompletionBlock withComple
 void PopoverAlert::runAsPopoverForView(QWidget *view, RectEdge, CompletionBlock withCompletionBlock)
 {
     m_completionBlock = std::move(withCompletionBlock);
+    if (m_targetView)
+        m_targetView->removeEventFilter(this);
     m_targetView = view;
+    view->installEventFilter(this);
     retirePopover();
     m_view = new PopoverAlertView(*this);
     for (IconButton *button : m_view->buttons())
@@ -75,14 +72,32 @@ void PopoverAlert::runAsPopoverForView(QWidget *view, RectEdge, CompletionBlock 
         all.queue.push_back(all.current);
         all.current->retirePopover();
     }
-    displayOnScreen(*m_parentPopover, view->window(), upperEdge(view), PopoverPosition::Above);
+    showOnView();
     all.currentPopover = m_parentPopover.get();
     all.current = shared_from_this();
 }
 
+void PopoverAlert::showOnView()
+{
+    if (m_parentPopover != nullptr && m_targetView && m_targetView->isVisible())
+        m_parentPopover->displayPopover({m_targetView, Qt::TopEdge, 0, {}});
+}
+
+bool PopoverAlert::eventFilter(QObject *watched, QEvent *event)
+{
+    // An alert of a tool that is not in view waits for it.
+    if (watched == m_targetView && m_parentPopover != nullptr && !event->spontaneous()) {
+        if (event->type() == QEvent::Hide)
+            m_parentPopover->closePopover();
+        else if (event->type() == QEvent::Show)
+            QMetaObject::invokeMethod(this, &PopoverAlert::showOnView, Qt::QueuedConnection);
+    }
+    return QObject::eventFilter(watched, event);
+}
+
 void PopoverAlert::stopSynchronousPopoverAlert(const IconButton *button)
 {
-    // The completion may drop the last other reference to this alert, run it anew, or run another one.
+    // The completion may drop the last other reference to this alert, run it again, or run another one.
     const std::shared_ptr<PopoverAlert> self = shared_from_this();
     const CompletionBlock completion = m_completionBlock;
     const SFBPopover *const answered = m_parentPopover.get();

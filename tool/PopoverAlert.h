@@ -63,9 +63,14 @@ public:
     static PopoverAlert *currentAlert();
     static int queueLength();
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     PopoverAlert() = default;
 
+    /// Opens the popover where its view is in sight.
+    void showOnView();
     /// Closes the popover and leaves it to fade out and delete itself.
     void retirePopover();
 

@@ -9,7 +9,7 @@ inline constexpr int windowWidth = 900;
 inline constexpr int windowHeight = 660;
 inline constexpr int titleBarHeight = 60;
 inline constexpr int sidebarWidth = 60;
-/// The coloured bands under the title bar and between sidebar and tool.
+/// The colored bands under the title bar and between sidebar and tool.
 inline constexpr int borderWidth = 5;
 /// What turns a tool view's coordinates into the window's: the tool begins right of sidebar and band.
 inline constexpr int toolLeft = sidebarWidth + borderWidth;

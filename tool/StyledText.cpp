@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "StyledText.h"
 
+using namespace Qt::StringLiterals;
+
 namespace lumora
 {
 
@@ -9,7 +11,7 @@ namespace
 
 QString htmlOf(const QString &text, const QFont &font)
 {
-    return QStringLiteral("<span style=\"font-family:'%1'; font-weight:%2; font-size:%3px\">%4</span>")
+    return u"<span style=\"font-family:'%1'; font-weight:%2; font-size:%3px\">%4</span>"_s
         .arg(font.family().toHtmlEscaped())
         .arg(font.weight())
         .arg(font.pixelSize())
@@ -38,12 +40,12 @@ QString StyledText::toHtml() const
         while (end < m_text.size() && runAt[end] == run)
             ++end;
         QString part = m_text.sliced(start, end - start).toHtmlEscaped();
-        part.replace(u'\n', QStringLiteral("<br>"));
+        part.replace(u'\n', u"<br>"_s);
         html += run < 0 ? part : htmlOf(part, m_runs[run].font);
         start = end;
     }
-    // A blank at either end of a run would be folded into its neighbour.
-    return QStringLiteral("<span style=\"white-space:pre-wrap\">") + html + QStringLiteral("</span>");
+    // A blank at either end of a run would be folded into its neighbor.
+    return u"<span style=\"white-space:pre-wrap\">"_s + html + u"</span>"_s;
 }
 
 } // namespace lumora

@@ -28,7 +28,7 @@ public:
 
     /// Shows the caption until another is shown; a pending return to rest is called off.
     void show(const QString &caption);
-    /// Shows the caption and returns to rest 2.0 seconds later, counted anew when shown again before that.
+    /// Shows the caption and returns to rest 2.0 seconds later, counted again when shown again before that.
     void showForAWhile(const QString &caption);
 
 private:

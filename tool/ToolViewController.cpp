@@ -1,18 +1,22 @@
 // SPDX-License-Identifier: MIT
 #include "ToolViewController.h"
 
+#include "PaneFocus.h"
 #include "PopoverStyle.h"
-#include "PopupAnchor.h"
-#include "PopupPlacement.h"
+#include "ShellMetrics.h"
 #include "widgets/popover/SFBPopover.h"
 #include "widgets/style/Palette.h"
+
+#include <QApplication>
+#include <QEvent>
 
 namespace lumora
 {
 
 ToolViewController::ToolViewController(const Services &services, QObject *parent)
-    : QObject(parent), m_services(services), m_view(new QWidget)
+    : QObject(parent), m_services(services), m_view(new QWidget), m_focus(new PaneFocus(m_view))
 {
+    m_view->installEventFilter(this);
 }
 
 ToolViewController::~ToolViewController()
@@ -25,12 +29,19 @@ QWidget *ToolViewController::window() const
     return m_window.isNull() ? m_view->window() : m_window.get();
 }
 
+void ToolViewController::takeFocus()
+{
+    m_focus->take();
+}
+
 void ToolViewController::createPopup()
 {
     m_popupContentView = new AlertContentView;
     m_popupView = std::make_unique<SFBPopover>(m_popupContentView);
     stylePopover(*m_popupView);
     m_popupContentView->setDelegate(this);
+    // The popover is hidden for good only when everybody has heard that it closed.
+    connect(m_popupView.get(), &SFBPopover::closed, this, &ToolViewController::displayWaiting, Qt::QueuedConnection);
 }
 
 void ToolViewController::showPopupWithTitle(const QString &title, const QString &message, QWidget *fromView,
@@ -40,18 +51,69 @@ void ToolViewController::showPopupWithTitle(const QString &title, const QString 
     m_popupView->setBorderColor(isError ? palette::errorLight : palette::successLight);
     m_popupContentView->setLightColor(isError ? palette::errorLight : palette::successLight,
                                       isError ? palette::errorDark : palette::successDark);
+    const Message asked{title, message, fromView, isError};
     if (m_popupView->isVisible()) {
+        if (asked != m_shownMessage)
+            m_waitingMessage = asked;
         m_popupView->closePopover();
         return;
     }
-    const QSizeF size = fromView == nullptr ? QSizeF(0, 0) : QSizeF(fromView->size());
-    displayOnScreen(*m_popupView, window(), popupAnchor(popupAnchorOrigin(fromView), size));
+    if ((m_view->isVisible() && !isBlocked()) || fromView == nullptr)
+        display(asked);
+    else {
+        m_waitingMessage = asked;
+        jobEnded();
+    }
+}
+
+void ToolViewController::jobEnded()
+{
+    if (!m_view->isVisible())
+        emit attentionWanted();
+}
+
+/// A dialog is open, whose keyboard a message would take.
+bool ToolViewController::isBlocked() const
+{
+    const QWidget *dialog = QApplication::activeModalWidget();
+    return dialog != nullptr && (dialog->windowModality() == Qt::ApplicationModal ||
+                                 (dialog->parentWidget() != nullptr && dialog->parentWidget()->window() == window()));
+}
+
+void ToolViewController::display(const Message &message)
+{
+    m_shownMessage = message;
+    m_waitingMessage.reset();
+    if (message.control.isNull())
+        m_popupView->displayPopoverInWindow(window(), QPointF(metrics::toolLeft, -metrics::popupGap));
+    else
+        m_popupView->displayPopover({message.control, Qt::BottomEdge, metrics::popupGap, {}});
+}
+
+void ToolViewController::displayWaiting()
+{
+    if (m_waitingMessage.has_value() && m_view->isVisible() && !m_popupView->isVisible() && !isBlocked())
+        display(*m_waitingMessage);
 }
 
 void ToolViewController::popupCloseButtonPressed()
 {
     if (m_popupView->isVisible())
         m_popupView->closePopover();
+}
+
+bool ToolViewController::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_view && m_popupView && !event->spontaneous()) {
+        if (event->type() == QEvent::Hide) {
+            m_popupView->closePopover();
+            emit leftView();
+        } else if (event->type() == QEvent::Show || event->type() == QEvent::WindowUnblocked) {
+            // The view gets its place in the window, and a dialog goes, only after this.
+            QMetaObject::invokeMethod(this, &ToolViewController::displayWaiting, Qt::QueuedConnection);
+        }
+    }
+    return QObject::eventFilter(watched, event);
 }
 
 } // namespace lumora

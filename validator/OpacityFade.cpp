@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "OpacityFade.h"
 
-#include "widgets/style/AnimationTiming.h"
-
 #include <QGraphicsOpacityEffect>
 
 namespace lumora
@@ -36,10 +34,6 @@ void setOpacity(QWidget *view, qreal opacity)
 
 OpacityFade::OpacityFade(QObject *parent) : QObject(parent)
 {
-    m_animation.setStartValue(0.0);
-    m_animation.setEndValue(1.0);
-    m_animation.setDuration(duration);
-    m_animation.setEasingCurve(easeInEaseOut());
     connect(&m_animation, &QVariantAnimation::valueChanged, this, &OpacityFade::advance);
 }
 
@@ -54,8 +48,7 @@ void OpacityFade::fade(const QList<QWidget *> &views, qreal to)
         m_steps.removeIf([view](const Step &step) { return step.view == view || !step.view; });
         m_steps += {view, opacity(view), to};
     }
-    m_animation.stop();
-    m_animation.start();
+    m_animation.run(0.0, 1.0);
 }
 
 void OpacityFade::finish()

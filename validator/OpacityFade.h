@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "widgets/style/EasedAnimation.h"
+
 #include <QList>
 #include <QObject>
 #include <QPointer>
-#include <QVariantAnimation>
 #include <QWidget>
 
 namespace lumora
@@ -41,7 +42,7 @@ private:
     void advance(const QVariant &progress);
 
     QList<Step> m_steps;
-    QVariantAnimation m_animation;
+    EasedAnimation m_animation{nullptr, duration};
 };
 
 } // namespace lumora

@@ -4,8 +4,7 @@
 #include "ValidaterViewController.h"
 #include "foundation/PrintableText.h"
 #include "tool/PopoverAlert.h"
-#include "tool/PopupAnchor.h"
-#include "tool/PopupPlacement.h"
+#include "tool/ShellMetrics.h"
 #include "ui_ValidaterViewController.h"
 #include "widgets/popover/SFBPopover.h"
 #include "widgets/style/Palette.h"
@@ -122,8 +121,7 @@ void ValidaterViewController::showValidatePopupWithTitle(const QString &title, c
         return;
     }
     m_validatePopupContentView->fitToText();
-    const QSizeF size = fromView == nullptr ? QSizeF(0, 0) : QSizeF(fromView->size());
-    displayOnScreen(*m_validatePopup, window(), popupAnchor(popupAnchorOrigin(fromView), size));
+    m_validatePopup->displayPopover({fromView, Qt::BottomEdge, metrics::popupGap, {}});
 }
 
 void ValidaterViewController::showAlertWithTitle(const QString &title, const QString &andMessage, QWidget *fromView)

@@ -164,6 +164,7 @@ void ValidaterViewController::createValidatePopup()
     stylePopover(*m_validatePopup);
     connect(m_validatePopupContentView, &ValidatePopupContentView::closeButtonPressed, m_validatePopup.get(),
             [this] { m_validatePopup->closePopover(); });
+    connect(this, &ToolViewController::leftView, m_validatePopup.get(), [this] { m_validatePopup->closePopover(); });
 }
 
 QList<QWidget *> ValidaterViewController::factViews() const

@@ -6,7 +6,6 @@
 #include "tests/doubles/DrivenCaption.h"
 #include "tests/doubles/RecordingServices.h"
 #include "tool/DropHighlight.h"
-#include "tool/PopupAnchor.h"
 #include "ui_IconsViewController.h"
 #include "widgets/popover/SFBPopover.h"
 #include "widgets/popover/ScreenCoordinates.h"
@@ -45,9 +44,8 @@ struct IconsPane
     /// The popup's arrow is where a message about the control belongs.
     bool popupPointsAt(const QWidget *control) const
     {
-        const QPointF expected =
-            basePointToScreen(&window, popupAnchor(popupAnchorOrigin(control), QSizeF(control->size())));
-        return QLineF(tool.popupView()->popoverWindow()->attachmentPoint(), expected).length() < 1;
+        const QPointF below = control->mapToGlobal(QPointF(control->width() / 2.0, control->height() + 5));
+        return QLineF(tool.popupView()->popoverWindow()->attachmentPoint(), flippedOnScreen(below)).length() < 1;
     }
     /// Lets the time run out after which the buttons' captions return to rest.
     void letTimePass() const

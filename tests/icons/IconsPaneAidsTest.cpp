@@ -19,15 +19,6 @@ private slots:
         installTexts(*qApp, QLocale(u"en_GB"_s));
     }
 
-    void popupAnchorsSitTwoLevelsBelowTheRoot()
-    {
-        const IconsPane pane;
-        for (const QWidget *anchor : std::initializer_list<QWidget *>{
-                 pane.ui.browseButton, pane.ui.generateIconsButton, pane.ui.generateCustomButton,
-                 pane.ui.customIconSizeTextField, pane.ui.codeSnippetCopyButton})
-            QCOMPARE(anchor->parentWidget()->parentWidget(), pane.tool.view());
-    }
-
     void previewIsDrawnPixelByPixel()
     {
         IconsPane pane;

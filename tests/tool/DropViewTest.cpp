@@ -151,6 +151,8 @@ private slots:
         QTest::newRow("copy") << Qt::DropActions(Qt::CopyAction) << links << (copyOp | genericOp);
         QTest::newRow("move is neither copy nor link")
             << Qt::DropActions(Qt::MoveAction) << links << DragOperations(genericOp);
+        QTest::newRow("copy and move, as some file managers offer")
+            << (Qt::CopyAction | Qt::MoveAction) << links << (copyOp | linkOp | genericOp);
         QTest::newRow("copy, move and link")
             << (Qt::CopyAction | Qt::MoveAction | Qt::LinkAction) << links << (copyOp | linkOp | genericOp);
         QTest::newRow("copy where no links exist")
@@ -188,6 +190,7 @@ private slots:
         QTest::addColumn<int>("deliveries");
         QTest::newRow("a file manager's drag")
             << (Qt::CopyAction | Qt::MoveAction | Qt::LinkAction) << Qt::LinkAction << 1;
+        QTest::newRow("one that offers no link") << (Qt::CopyAction | Qt::MoveAction) << Qt::CopyAction << 1;
         QTest::newRow("copy only shows copy and delivers nothing")
             << Qt::DropActions(Qt::CopyAction) << Qt::CopyAction << 0;
     }
@@ -207,15 +210,17 @@ private slots:
         QCoreApplication::sendEvent(&view, &enter);
         QVERIFY(enter.isAccepted());
         QCOMPARE(enter.dropAction(), shown);
-        QVERIFY(view.isTargeted());
+        // What would not be delivered does not light the view.
+        QFETCH(int, deliveries);
+        QCOMPARE(view.isTargeted(), deliveries > 0);
 
-        if (shown == Qt::CopyAction)
+        if (deliveries == 0)
             QTest::ignoreMessage(QtInfoMsg, "Error - Copied?!");
         QDropEvent drop(QPointF(5, 5), offered, &mimeData, Qt::LeftButton, Qt::NoModifier);
         QCoreApplication::sendEvent(&view, &drop);
         QVERIFY(drop.isAccepted());
         QVERIFY(!view.isTargeted());
-        QCOMPARE(targeted.size(), 2);
+        QCOMPARE(targeted.size(), 2 * deliveries);
         QTEST(static_cast<int>(delegate.received.size()), "deliveries");
     }
 
@@ -228,6 +233,30 @@ private slots:
         QCoreApplication::sendEvent(&view, &enter);
         QVERIFY(!enter.isAccepted());
         QVERIFY(!view.isTargeted());
+    }
+
+    void aColorAloneIsTakenOnlyWhereColorsAre_data()
+    {
+        QTest::addColumn<bool>("takesColors");
+        QTest::newRow("by a view for files") << false;
+        QTest::newRow("by a view for colors") << true;
+    }
+    void aColorAloneIsTakenOnlyWhereColorsAre()
+    {
+        QFETCH(bool, takesColors);
+        QMimeData mimeData;
+        mimeData.setColorData(QColor(Qt::red));
+        RecordingDelegate delegate;
+        DropView view;
+        view.setDelegate(&delegate);
+        view.setTakesColors(takesColors);
+        QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &mimeData, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(&view, &enter);
+        QCOMPARE(enter.isAccepted(), takesColors);
+        QCOMPARE(view.isTargeted(), takesColors);
+        QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &mimeData, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(&view, &drop);
+        QCOMPARE(delegate.colors.size(), takesColors ? 1 : 0);
     }
 
     void leavingEndsTheHighlight()

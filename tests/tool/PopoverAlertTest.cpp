@@ -61,6 +61,20 @@ private slots:
         QTRY_VERIFY(popover.isNull());
     }
 
+    void anAlertWaitsWhileItsViewIsOutOfSight()
+    {
+        const auto alert = run(u"one"_s);
+        alert->parentPopover()->setAnimates(false);
+        QVERIFY(alert->parentPopover()->isVisible());
+        m_target->hide();
+        QVERIFY(!alert->parentPopover()->isVisible());
+        QCOMPARE(PopoverAlert::currentAlert(), alert.get());
+        m_target->show();
+        QTRY_VERIFY(alert->parentPopover()->isVisible());
+        alert->buttons().first()->click();
+        QCOMPARE(m_answers, QStringList{u"one 1000"_s});
+    }
+
     void postponedAlertsComeBackLastInFirstOut()
     {
         const auto one = run(u"one"_s);

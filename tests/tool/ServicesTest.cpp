@@ -5,10 +5,12 @@
 
 #include <QDir>
 #include <QFileDialog>
+#include <QHeaderView>
 #include <QScopeGuard>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTreeView>
 
 using namespace Qt::StringLiterals;
 using namespace lumora;
@@ -93,6 +95,30 @@ private slots:
         static_cast<QDialog *>(dialog)->accept();
         QTRY_COMPARE(chosen, QStringList{path});
         QTRY_VERIFY(window.findChild<QFileDialog *>() == nullptr);
+    }
+
+    void fileDialogOpensWhereTheLastChoiceWasMadeAndShowsWholeNames()
+    {
+        const QTemporaryDir temporary;
+        const QString path = temporary.filePath(u"one.png"_s);
+        QVERIFY(QFile(path).open(QIODevice::WriteOnly));
+        QWidget window;
+        window.show();
+        DialogFileChooser chooser;
+        chooser.chooseFiles(&window, {u"Choose"_s, temporary.path(), {}, false}, [](const QStringList &) {});
+        auto *dialog = window.findChild<QFileDialog *>();
+        dialog->selectFile(path);
+        static_cast<QDialog *>(dialog)->accept();
+        QTRY_VERIFY(window.findChild<QFileDialog *>() == nullptr);
+        chooser.chooseFiles(&window, {u"Choose"_s, {}, {}, false}, [](const QStringList &) {});
+        dialog = window.findChild<QFileDialog *>();
+        QCOMPARE(dialog->directory().path(), temporary.path());
+        QVERIFY(dialog->width() >= 800);
+        const auto *list = dialog->findChild<QTreeView *>(u"treeView"_s);
+        QVERIFY(list->columnWidth(0) >= 300);
+        for (int column = 1; column < list->header()->count(); ++column)
+            QVERIFY(list->isColumnHidden(column) ||
+                    list->columnWidth(column) >= list->header()->sectionSizeHint(column));
     }
 
     void folderDialogAnswersItsFolder()

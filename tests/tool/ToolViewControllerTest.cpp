@@ -7,6 +7,7 @@
 #include "widgets/popover/SFBPopover.h"
 #include "widgets/style/Palette.h"
 
+#include <QDialog>
 #include <QLabel>
 #include <QSignalSpy>
 #include <QTest>
@@ -148,19 +149,76 @@ private slots:
         QCOMPARE(arrowTip(*tool.popupView(), window.window), QPointF(65, -5));
     }
 
-    void messageShowsOnTheApplicationsWindowWhileTheViewIsOutOfSight()
+    void messageWaitsWhileAnotherToolIsInView()
     {
         PlainTool tool(m_services.services());
         const Window window(tool);
         tool.setWindow(tool.view()->window());
-        QCOMPARE(tool.window(), &window.window);
         tool.view()->hide();
         tool.view()->setParent(nullptr);
         QCOMPARE(tool.window(), &window.window);
         tool.showPopupWithTitle(u"T"_s, u"M"_s, tool.button, false);
-        QVERIFY(tool.popupView()->isVisible());
+        QCoreApplication::processEvents();
+        QVERIFY(!tool.popupView()->isVisible());
+        tool.view()->setParent(tool.window());
+        tool.view()->setGeometry(65, 60, 835, 600);
+        tool.view()->show();
+        QTRY_VERIFY(tool.popupView()->isVisible());
         QCOMPARE(tool.popupView()->popoverWindow()->parentWindow(), &window.window);
         QCOMPARE(arrowTip(*tool.popupView(), window.window), QPointF(65 + 480, 430 - 5));
+        // It is shown once.
+        tool.popupView()->closePopover();
+        tool.view()->hide();
+        tool.view()->show();
+        QCoreApplication::processEvents();
+        QVERIFY(!tool.popupView()->isVisible());
+    }
+
+    void messageWaitsForAnOpenDialog()
+    {
+        PlainTool tool(m_services.services());
+        Window window(tool);
+        QDialog dialog(&window.window);
+        dialog.setWindowModality(Qt::WindowModal);
+        dialog.open();
+        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        tool.showPopupWithTitle(u"T"_s, u"M"_s, tool.button, false);
+        QVERIFY(!tool.popupView()->isVisible());
+        dialog.reject();
+        QTRY_VERIFY(tool.popupView()->isVisible());
+    }
+
+    void messageGoesWithItsTool()
+    {
+        PlainTool tool(m_services.services());
+        const Window window(tool);
+        const QSignalSpy left(&tool, &ToolViewController::leftView);
+        tool.showPopupWithTitle(u"T"_s, u"M"_s, tool.button, false);
+        QVERIFY(tool.popupView()->isVisible());
+        tool.view()->hide();
+        QVERIFY(!tool.popupView()->isVisible());
+        QCOMPARE(left.count(), 1);
+    }
+
+    void anotherMessageFollowsTheOneThatItHid_data()
+    {
+        QTest::addColumn<QString>("second");
+        QTest::addColumn<bool>("follows");
+        QTest::newRow("the same message only hides it") << u"The size is missing"_s << false;
+        QTest::newRow("another one is shown then") << u"The picture is missing"_s << true;
+    }
+    void anotherMessageFollowsTheOneThatItHid()
+    {
+        QFETCH(QString, second);
+        QFETCH(bool, follows);
+        PlainTool tool(m_services.services());
+        const Window window(tool);
+        tool.showPopupWithTitle(u"T"_s, u"The size is missing"_s, tool.button, true);
+        tool.showPopupWithTitle(u"T"_s, second, tool.button, true);
+        QVERIFY(!tool.popupView()->isVisible());
+        QCoreApplication::processEvents();
+        QCOMPARE(tool.popupView()->isVisible(), follows);
+        QCOMPARE(tool.popupContentView()->messageLabel()->text(), second);
     }
 
     void closeButtonClosesThePopup()

@@ -20,7 +20,7 @@ public:
     virtual QStringList files() const = 0;
     /// The copied picture, null when none was copied.
     virtual QImage image() const = 0;
-    /// The copied colour, invalid when none was copied; a picture or a text is none.
+    /// The copied color, invalid when none was copied; a picture or a text is none.
     virtual QColor color() const = 0;
     /// The copied text, empty when none was copied.
     virtual QString plainText() const = 0;

@@ -1,21 +1,25 @@
 // SPDX-License-Identifier: MIT
 #include "FileChooser.h"
 
+#include "FileDialog.h"
 #include "StartFolder.h"
 
-#include <QFileDialog>
+#include <QFileInfo>
 
 namespace lumora
 {
 
 void DialogFileChooser::chooseFiles(QWidget *window, const FileRequest &request, FilesChosen chosen)
 {
-    auto *dialog = new QFileDialog(window, request.message, existingStartFolder(request.startFolder));
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    const QString start = request.startFolder.isEmpty() ? m_lastFolder : request.startFolder;
+    QFileDialog *dialog = makeFileDialog(window, request.message, existingStartFolder(start));
     dialog->setFileMode(request.severalFiles ? QFileDialog::ExistingFiles : QFileDialog::ExistingFile);
     if (!request.nameFilters.isEmpty())
         dialog->setNameFilters(request.nameFilters);
-    QObject::connect(dialog, &QFileDialog::filesSelected, dialog, chosen);
+    QObject::connect(dialog, &QFileDialog::filesSelected, dialog, [this, chosen](const QStringList &paths) {
+        m_lastFolder = QFileInfo(paths.first()).absolutePath();
+        chosen(paths);
+    });
     dialog->open();
 }
 

@@ -14,7 +14,7 @@ namespace lumora
 struct FileRequest
 {
     QString message;           ///< what the choice is for; the dialog's title
-    QString startFolder;       ///< where it opens, empty for the user's documents
+    QString startFolder;       ///< where it opens, empty for where the last choice was made, the user's documents first
     QStringList nameFilters;   ///< "PNG pictures (*.png)", the first one active; empty for every file
     bool severalFiles = false; ///< whether more than one may be chosen
 };
@@ -38,6 +38,9 @@ class DialogFileChooser final : public FileChooser
 {
 public:
     void chooseFiles(QWidget *window, const FileRequest &request, FilesChosen chosen) override;
+
+private:
+    QString m_lastFolder;
 };
 
 } // namespace lumora

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "FolderChooser.h"
 
+#include "FileDialog.h"
 #include "StartFolder.h"
 
 #include <QDir>
-#include <QFileDialog>
 
 namespace lumora
 {
@@ -12,8 +12,7 @@ namespace lumora
 void DialogFolderChooser::chooseFolder(QWidget *window, const FolderRequest &request, FolderChosen chosen,
                                        FolderDeclined declined)
 {
-    auto *dialog = new QFileDialog(window, request.message, existingStartFolder(request.startFolder));
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    QFileDialog *dialog = makeFileDialog(window, request.message, existingStartFolder(request.startFolder));
     dialog->setFileMode(QFileDialog::Directory);
     dialog->setOption(QFileDialog::ShowDirsOnly);
     QObject::connect(dialog, &QFileDialog::fileSelected, dialog, [chosen = std::move(chosen)](const QString &path) {

@@ -3,6 +3,8 @@
 
 #include <QSysInfo>
 
+using namespace Qt::StringLiterals;
+
 namespace lumora
 {
 
@@ -13,7 +15,7 @@ QStringList localFiles(const QList<QUrl> &urls)
         if (!url.isLocalFile())
             continue;
         const QString host = url.host();
-        if (host == QStringLiteral("localhost") || host.compare(QSysInfo::machineHostName(), Qt::CaseInsensitive) == 0)
+        if (host == u"localhost"_s || host.compare(QSysInfo::machineHostName(), Qt::CaseInsensitive) == 0)
             url.setHost(QString());
         paths << url.toLocalFile();
     }

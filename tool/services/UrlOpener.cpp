@@ -5,6 +5,8 @@
 #include <QFile>
 #include <QStandardPaths>
 
+using namespace Qt::StringLiterals;
+
 namespace lumora
 {
 
@@ -17,8 +19,8 @@ QStringList mimeAppsFiles()
     QStringList names;
     const QStringList desktops = qEnvironmentVariable("XDG_CURRENT_DESKTOP").split(u':', Qt::SkipEmptyParts);
     for (const QString &desktop : desktops)
-        names << desktop.toLower() + QStringLiteral("-mimeapps.list");
-    names << QStringLiteral("mimeapps.list");
+        names << desktop.toLower() + u"-mimeapps.list"_s;
+    names << u"mimeapps.list"_s;
 
     QStringList contents;
     const auto read = [&](const QString &path) {
@@ -32,7 +34,7 @@ QStringList mimeAppsFiles()
     }
     for (const QString &folder : QStandardPaths::standardLocations(QStandardPaths::GenericDataLocation)) {
         for (const QString &name : names)
-            read(folder + QStringLiteral("/applications/") + name);
+            read(folder + u"/applications/"_s + name);
     }
     return contents;
 }
@@ -47,7 +49,7 @@ void DesktopUrlOpener::open(const QUrl &url)
 
 QString DesktopUrlOpener::applicationFor(const QUrl &url) const
 {
-    return defaultApplication(mimeAppsFiles(), QStringLiteral("x-scheme-handler/") + url.scheme());
+    return defaultApplication(mimeAppsFiles(), u"x-scheme-handler/"_s + url.scheme());
 }
 
 QString defaultApplication(const QStringList &mimeAppsFiles, const QString &mimeType)
@@ -57,7 +59,7 @@ QString defaultApplication(const QStringList &mimeAppsFiles, const QString &mime
         for (const QString &line : file.split(u'\n')) {
             const QString entry = line.trimmed();
             if (entry.startsWith(u'[')) {
-                defaults = entry == QStringLiteral("[Default Applications]");
+                defaults = entry == u"[Default Applications]"_s;
                 continue;
             }
             if (!defaults || entry.section(u'=', 0, 0).trimmed() != mimeType)

@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: MIT
+#include "PaneFocus.h"
+
+#include <QApplication>
+#include <QEvent>
+
+namespace lumora
+{
+
+namespace
+{
+
+bool canTakeFocus(const QWidget *control)
+{
+    return control->isVisible() && control->isEnabled() && (control->focusPolicy() & Qt::TabFocus) != 0;
+}
+
+} // namespace
+
+PaneFocus::PaneFocus(QWidget *pane) : QObject(pane), m_pane(pane)
+{
+    connect(qApp, &QApplication::focusChanged, this, &PaneFocus::focusChanged);
+}
+
+void PaneFocus::take()
+{
+    controlAfter(m_pane)->setFocus(Qt::TabFocusReason);
+}
+
+QWidget *PaneFocus::controlAfter(QWidget *start) const
+{
+    // A widget that is being destroyed is in no chain any more.
+    for (QWidget *next = start->nextInFocusChain(); next != nullptr && next != start; next = next->nextInFocusChain()) {
+        if (m_pane->isAncestorOf(next) && canTakeFocus(next))
+            return next;
+    }
+    return m_pane;
+}
+
+void PaneFocus::focusChanged(QWidget *old, QWidget *now)
+{
+    if (now != nullptr && now != m_standIn) {
+        // Elsewhere by the user's own doing.
+        if (m_left)
+            m_left->removeEventFilter(this);
+        m_left = nullptr;
+        m_standIn = nullptr;
+    }
+    const bool isLost =
+        old != nullptr && old != m_pane && m_pane->isVisible() && m_pane->isAncestorOf(old) && !canTakeFocus(old);
+    if (!isLost || (now != nullptr && (now->window() != m_pane->window() || m_pane->isAncestorOf(now))))
+        return;
+    m_left = old;
+    m_standIn = controlAfter(old);
+    old->installEventFilter(this);
+    m_standIn->setFocus(Qt::OtherFocusReason);
+}
+
+bool PaneFocus::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_left && (event->type() == QEvent::Show || event->type() == QEvent::EnabledChange))
+        QMetaObject::invokeMethod(this, &PaneFocus::giveBack, Qt::QueuedConnection);
+    return QObject::eventFilter(watched, event);
+}
+
+void PaneFocus::giveBack()
+{
+    if (!m_left || !canTakeFocus(m_left) || QApplication::focusWidget() != m_standIn)
+        return;
+    QWidget *left = m_left;
+    left->setFocus(Qt::OtherFocusReason);
+}
+
+} // namespace lumora
