@@ -7,6 +7,8 @@
 #include "widgets/style/Fonts.h"
 #include "widgets/style/Palette.h"
 
+using namespace Qt::StringLiterals;
+
 namespace lumora
 {
 
@@ -23,18 +25,17 @@ void AboutPopupContentView::awakeFromNib()
 {
     setAccessibleName(qtTrId("ACCESSIBLE_ABOUT"));
     styleLabel(m_ui->versionLabel, latoBold(13), palette::chromeText);
-    m_ui->versionLabel->setText(QStringLiteral("Lumora (%1)").arg(QCoreApplication::applicationVersion()));
+    m_ui->versionLabel->setText(u"Lumora (%1)"_s.arg(QCoreApplication::applicationVersion()));
     styleLabel(m_ui->developerLabel, latoRegular(13), palette::chromeText);
-    m_ui->developerLabel->setText(QStringLiteral("KESTREL interactive"));
+    m_ui->developerLabel->setText(u"KESTREL interactive"_s);
     styleLabel(m_ui->aboutAppLabel, latoRegular(13), palette::chromeText);
     m_ui->aboutAppLabel->setText(qtTrId("ABOUT_TEXT"));
     m_ui->seperatorViewOne->setBackgroundColor(palette::separator);
-    styleButton(m_ui->twitterButton, qtTrId("ABOUT_TWITTER"), QStringLiteral("button_icon_twitter"),
-                palette::socialBlue, palette::socialBlueDark);
-    styleButton(m_ui->facebookButton, qtTrId("ABOUT_FACEBOOK"), QStringLiteral("button_icon_facebook"),
-                palette::networkNavy, palette::networkNavyDark);
-    styleButton(m_ui->mailButton, qtTrId("ABOUT_MAIL"), QStringLiteral("button_icon_mail"), palette::errorLight,
-                palette::errorDark);
+    styleButton(m_ui->twitterButton, qtTrId("ABOUT_TWITTER"), u"button_icon_twitter"_s, palette::socialBlue,
+                palette::socialBlueDark);
+    styleButton(m_ui->facebookButton, qtTrId("ABOUT_FACEBOOK"), u"button_icon_facebook"_s, palette::networkNavy,
+                palette::networkNavyDark);
+    styleButton(m_ui->mailButton, qtTrId("ABOUT_MAIL"), u"button_icon_mail"_s, palette::errorLight, palette::errorDark);
     connect(m_ui->twitterButton, &IconButton::clicked, this, &AboutPopupContentView::twitterClicked);
     connect(m_ui->facebookButton, &IconButton::clicked, this, &AboutPopupContentView::facebookClicked);
     connect(m_ui->mailButton, &IconButton::clicked, this, &AboutPopupContentView::mailClicked);

@@ -2,16 +2,17 @@
 #include "AppDelegate.h"
 
 #include "AboutPopupContentView.h"
+#include "DropRouter.h"
 #include "HeaderView.h"
 #include "ITSidebar.h"
 #include "ITSidebarItemCell.h"
 #include "PopupContentView.h"
+#include "SidebarMatrix.h"
 #include "ToolTable.h"
 #include "foundation/Version.h"
 #include "tool/ColorBand.h"
 #include "tool/PopoverAlert.h"
 #include "tool/PopoverStyle.h"
-#include "tool/PopupPlacement.h"
 #include "tool/ShellMetrics.h"
 #include "tool/ToolViewController.h"
 #include "ui_MainWindow.h"
@@ -26,13 +27,15 @@
 #include <QLabel>
 #include <QTimer>
 
+using namespace Qt::StringLiterals;
+
 namespace lumora
 {
 
 namespace
 {
 
-/// The 62 points of a sidebar item stand centred in the strip; the sidebar itself moves 10 to the right.
+/// The 62 points of a sidebar item stand centered in the strip; the sidebar itself moves 10 to the right.
 constexpr int sidebarFrameX = -11;
 constexpr qreal trafficLightsTopMargin = 5;
 /// Left of the two header buttons.
@@ -66,8 +69,9 @@ void AppDelegate::applicationDidFinishLaunching()
 {
     setUpWindow();
     setUpHeader();
-    setUpSidebar();
     m_controllers.resize(toolTable().size());
+    m_dropRouter = new DropRouter(*this);
+    setUpSidebar();
     m_currentController = controller(0);
     m_ui->contentView->layout()->addWidget(m_currentController->view());
     m_sideBar->setSelectedIndex(0);
@@ -147,12 +151,14 @@ void AppDelegate::setUpSidebar()
     m_sideBar->setFrame(QRect(sidebarFrameX, 0, 0, 0));
     m_ui->sideBarScrollView->setDocumentOrigin(m_sideBar->pos());
     m_sideBar->setAllowsEmptySelection(false);
+    std::size_t index = 0;
     for (const Tool &tool : toolTable()) {
         const NamedImage image(QString::fromLatin1(tool.sidebarImage));
         ITSidebarItemCell *cell =
             m_sideBar->addItemWithImage(image, image, this, [this](ITSidebarItemCell *) { sideBarItemClicked(); });
         cell->setAccessibleName(text(tool.helpTitleKey));
         cell->setToolTip(text(tool.helpTitleKey));
+        m_dropRouter->watchItem(cell, index++);
     }
 }
 
@@ -162,6 +168,9 @@ ToolViewController *AppDelegate::controller(std::size_t index)
     if (controller == nullptr) {
         controller = toolTable()[index].makeController(m_services);
         controller->setWindow(m_window.get());
+        m_dropRouter->watchTool(index);
+        connect(controller.get(), &ToolViewController::attentionWanted, this,
+                [this, index] { m_sideBar->matrix()->cells().at(static_cast<qsizetype>(index))->setBadge(true); });
     }
     return controller.get();
 }
@@ -219,7 +228,7 @@ StyledText AppDelegate::createAttributedStringForHeaderTitle(const QString &titl
 {
     StyledText attributed(title);
     attributed.setFontOfFirst(qtTrId("APP_DEFAULT"), latoBold(20));
-    attributed.setFontOfFirst(QStringLiteral("|"), latoRegular(20));
+    attributed.setFontOfFirst(u"|"_s, latoRegular(20));
     return attributed;
 }
 
@@ -242,18 +251,22 @@ void AppDelegate::updateViewForIndex()
     QWidget *previous = layout->itemAt(0)->widget();
     QWidget *next = m_currentController->view();
     if (previous != next) {
+        const QWidget *focused = QApplication::focusWidget();
+        const bool hadFocus = focused != nullptr && (focused == previous || previous->isAncestorOf(focused));
         layout->removeWidget(previous);
         previous->hide();
         previous->setParent(nullptr);
         layout->addWidget(next);
         next->show();
+        if (hadFocus)
+            m_currentController->takeFocus();
     }
 
     m_header->setTitle(createAttributedStringForHeaderTitle(qtTrId("APP_DEFAULT") + text(tool.headerKey)));
-    m_sideBar->setBackgroundColor(tool.color);
-    m_header->curBackgroundColor()->setBackgroundColor(tool.color);
-    m_header->topBorderView()->setBackgroundColor(tool.borderColor);
-    m_ui->leftBorderView->setBackgroundColor(tool.borderColor);
+    m_sideBar->setBackgroundColor(platformColor(tool.color));
+    m_header->curBackgroundColor()->setBackgroundColor(platformColor(tool.color));
+    m_header->topBorderView()->setBackgroundColor(platformColor(tool.borderColor));
+    m_ui->leftBorderView->setBackgroundColor(platformColor(tool.borderColor));
 
     for (SFBPopover *popup : {m_popupView.get(), m_aboutPopupView.get()}) {
         if (popup != nullptr && popup->isVisible())
@@ -271,7 +284,7 @@ void AppDelegate::tellHelp()
     m_popupContentView->setTitle(text(tool.helpTitleKey));
     m_popupContentView->setText(text(tool.helpTextKey));
     m_popupContentView->setIcon(NamedImage(QString::fromLatin1(tool.helpIcon)));
-    m_popupContentView->setColor(tool.color);
+    m_popupContentView->setColor(platformColor(tool.color));
 }
 
 void AppDelegate::showTool(const QString &name)
@@ -292,7 +305,7 @@ void AppDelegate::iconButtonClicked(QWidget *sender)
     togglePopup(aboutPopupView(), m_popupView.get(), sender);
 }
 
-void AppDelegate::togglePopup(SFBPopover *popup, SFBPopover *other, const QWidget *sender)
+void AppDelegate::togglePopup(SFBPopover *popup, SFBPopover *other, QWidget *sender)
 {
     if (other != nullptr && other->isVisible())
         other->closePopover();
@@ -300,12 +313,13 @@ void AppDelegate::togglePopup(SFBPopover *popup, SFBPopover *other, const QWidge
         popup->closePopover();
         return;
     }
-    QRectF frame;
-    if (sender != nullptr) {
-        frame = sender->geometry();
-        frame.moveTop(m_header->height() - frame.bottom());
+    if (sender == nullptr) {
+        popup->displayPopoverInWindow(m_window.get(),
+                                      headerPopupAnchor({}, m_window->height(), m_window->titleBarHeight()));
+        return;
     }
-    displayOnScreen(*popup, m_window.get(), headerPopupAnchor(frame, m_window->height(), m_window->titleBarHeight()));
+    // The anchor is given from the button's middle, the gap from its lower edge.
+    popup->displayPopover({sender, Qt::BottomEdge, popupAnchorBelowTitleBar - sender->height() / 2.0, {}});
 }
 
 void AppDelegate::aboutButtonClicked()

@@ -22,6 +22,7 @@ namespace lumora
 
 class AboutPopupContentView;
 class ColorBand;
+class DropRouter;
 class HeaderView;
 class INAppStoreWindow;
 class ITSidebar;
@@ -66,6 +67,8 @@ public:
     ToolViewController *controller(std::size_t index);
     /// Of the tool in view: the sidebar's selection, or the last one where that was cleared.
     ToolViewController *currentController() const { return m_currentController; }
+    /// Its place in the tool table.
+    std::size_t toolInView() const { return m_toolInView; }
     /// Nothing is left to be made: every tool and both popups are there.
     bool isComplete() const;
 
@@ -106,7 +109,7 @@ private:
     void makeNext();
     std::unique_ptr<SFBPopover> makePopover(QWidget *content) const;
     void tellHelp();
-    void togglePopup(SFBPopover *popup, SFBPopover *other, const QWidget *sender);
+    void togglePopup(SFBPopover *popup, SFBPopover *other, QWidget *sender);
 
     Services m_services;
     std::unique_ptr<INAppStoreWindow> m_window;
@@ -117,6 +120,7 @@ private:
     AboutPopupContentView *m_aboutPopupContentView = nullptr; ///< owned by its popover
     std::unique_ptr<SFBPopover> m_popupView;                  ///< null until needed, as the other popover
     std::unique_ptr<SFBPopover> m_aboutPopupView;
+    DropRouter *m_dropRouter = nullptr;
     std::size_t m_toolInView = 0;
     ToolViewController *m_currentController = nullptr;
     std::vector<std::unique_ptr<ToolViewController>> m_controllers; ///< null where not needed yet

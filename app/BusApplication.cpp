@@ -10,6 +10,8 @@
 #include <QDBusMessage>
 #include <QUrl>
 
+using namespace Qt::StringLiterals;
+
 namespace lumora
 {
 
@@ -17,10 +19,10 @@ namespace
 {
 
 constexpr char addressVariable[] = "DBUS_SESSION_BUS_ADDRESS";
-const QString interfaceName = QStringLiteral("org.freedesktop.Application");
+const QString interfaceName = u"org.freedesktop.Application"_s;
 
 /// Until when the caller waits, by the clock that all processes of the machine share, in milliseconds.
-const QString answerUntilKey = QStringLiteral("lumora-answer-until");
+const QString answerUntilKey = u"lumora-answer-until"_s;
 
 qint64 sharedClock()
 {
@@ -35,7 +37,7 @@ bool comesTooLate(const QVariantMap &platformData)
     return until.isValid() && sharedClock() >= until.toLongLong();
 }
 
-/// What lets the running program take the focus that this start was given, and tells it how long this start waits.
+/// What lets the running program take the focus that this start was given, and how long this start waits.
 QVariantMap platformData(std::chrono::milliseconds patience)
 {
     QVariantMap data{{answerUntilKey, sharedClock() + patience.count()}};
@@ -44,14 +46,14 @@ QVariantMap platformData(std::chrono::milliseconds patience)
         if (!value.isEmpty())
             data.insert(key, value);
     };
-    pass("XDG_ACTIVATION_TOKEN", QStringLiteral("activation-token"));
-    pass("DESKTOP_STARTUP_ID", QStringLiteral("desktop-startup-id"));
+    pass("XDG_ACTIVATION_TOKEN", u"activation-token"_s);
+    pass("DESKTOP_STARTUP_ID", u"desktop-startup-id"_s);
     return data;
 }
 
 void takePlatformData(const QVariantMap &data)
 {
-    const QString token = data.value(QStringLiteral("activation-token")).toString();
+    const QString token = data.value(u"activation-token"_s).toString();
     if (!token.isEmpty())
         qputenv("XDG_ACTIVATION_TOKEN", token.toUtf8());
 }
@@ -72,15 +74,15 @@ public:
     bool forward(const OpenRequest &request) const
     {
         if (!request.tool.isEmpty() &&
-            !call(QStringLiteral("ActivateAction"), {request.tool, QVariantList(), platformData(m_patience)}))
+            !call(u"ActivateAction"_s, {request.tool, QVariantList(), platformData(m_patience)}))
             return false;
         if (!request.files.isEmpty()) {
             QStringList uris;
             for (const QString &file : request.files)
                 uris << QUrl::fromLocalFile(file).toString(QUrl::FullyEncoded);
-            return call(QStringLiteral("Open"), {uris, platformData(m_patience)});
+            return call(u"Open"_s, {uris, platformData(m_patience)});
         }
-        return !request.tool.isEmpty() || call(QStringLiteral("Activate"), {platformData(m_patience)});
+        return !request.tool.isEmpty() || call(u"Activate"_s, {platformData(m_patience)});
     }
 
 private:
@@ -89,7 +91,7 @@ private:
         const QString id = QString::fromLatin1(applicationId);
         QDBusMessage call = QDBusMessage::createMethodCall(id, BusApplication::objectPath(id), interfaceName, member);
         call.setArguments(arguments);
-        // Should that program have just ended, the bus would start it anew for the call; this one is there already.
+        // Otherwise the bus would start a new instance if that one has just exited; this one is there already.
         call.setAutoStartService(false);
         return m_bus.call(call, QDBus::Block, static_cast<int>(m_patience.count())).type() ==
                QDBusMessage::ReplyMessage;

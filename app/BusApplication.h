@@ -18,7 +18,7 @@ struct OpenRequest
 };
 
 /// The running program on the session bus, as org.freedesktop.Application describes it: there is one window a session,
-/// and whoever starts the program again talks to it.
+/// and a second start of the program talks to it.
 class BusApplication final : public QObject
 {
     Q_OBJECT
@@ -36,7 +36,7 @@ public:
     /// A program that does not answer within this time is not there for the user either.
     static constexpr std::chrono::milliseconds defaultPatience{5000};
 
-    /// Becomes the program on the bus, or hands the request to the one that is. Where that one does not answer, this
+    /// Becomes the program on the bus, or hands the request to the one that is. Where it does not answer, this
     /// one takes its place as soon as it is gone.
     Start start(const OpenRequest &request, std::chrono::milliseconds patience = defaultPatience);
 

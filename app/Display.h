@@ -9,7 +9,7 @@ namespace lumora
 {
 
 /// Finds out whether a window can be opened at all: a display server answers, or the user asked for a platform that
-/// needs none. Where only one kind of server answers, the toolkit is told to use that one. Make it before the
+/// needs none. Where only one kind of server answers, the toolkit is made to use that server. Make it before the
 /// application object, which would abort the program, and keep it until that one is connected: an X server without
 /// clients may start over and be away for a moment.
 class Display

@@ -11,6 +11,8 @@
 
 #include <QLabel>
 
+using namespace Qt::StringLiterals;
+
 namespace lumora
 {
 
@@ -48,8 +50,8 @@ HeaderLayout HeaderLayout::forSize(QSize titleBar)
 
 HeaderView::HeaderView(QWidget *parent)
     : QWidget(parent), m_band(new ColorBand(this)), m_title(new QLabel(this)), m_topBorder(new ColorBand(this)),
-      m_infoButton(headerButton(QStringLiteral("icon_settings"), qtTrId("ACCESSIBLE_HELP"), this)),
-      m_iconButton(headerButton(QStringLiteral("header_icon"), qtTrId("ACCESSIBLE_ABOUT"), this))
+      m_infoButton(headerButton(u"icon_settings"_s, qtTrId("ACCESSIBLE_HELP"), this)),
+      m_iconButton(headerButton(u"header_icon"_s, qtTrId("ACCESSIBLE_ABOUT"), this))
 {
     m_band->setBackgroundColor(palette::icons);
     m_topBorder->setBackgroundColor(palette::icons);

@@ -25,7 +25,7 @@ struct HeaderLayout
     static HeaderLayout forSize(QSize titleBar);
 };
 
-/// What covers the window's title bar: a band in the tool's colour with the title in its middle, a border under it and
+/// What covers the window's title bar: a band in the tool's color with the title in its middle, a border under it and
 /// two buttons at its right end.
 class HeaderView final : public QWidget
 {

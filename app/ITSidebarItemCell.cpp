@@ -14,6 +14,8 @@ namespace
 constexpr qreal selectionInset = 10;
 constexpr qreal selectionRadius = 5;
 constexpr qreal selectionLineWidth = 2;
+constexpr qreal badgeRadius = 5;
+constexpr qreal badgeOutline = 2;
 
 } // namespace
 
@@ -22,6 +24,16 @@ ITSidebarItemCell::ITSidebarItemCell(QWidget *parent) : QAbstractButton(parent)
     setCheckable(true);
     setFocusPolicy(Qt::NoFocus);
     setAttribute(Qt::WA_Hover);
+    connect(this, &QAbstractButton::toggled, this, [this] { setBadge(false); });
+}
+
+void ITSidebarItemCell::setBadge(bool badge)
+{
+    if (m_badge == badge)
+        return;
+    m_badge = badge;
+    setAccessibleDescription(badge ? qtTrId("ACCESSIBLE_JOB_ENDED") : QString());
+    update();
 }
 
 void ITSidebarItemCell::setImage(const NamedImage &image)
@@ -88,6 +100,8 @@ void ITSidebarItemCell::paintEvent(QPaintEvent *)
     drawInteriorWithFrame(&painter, frame);
     if (state() || isHighlighted())
         drawSelectionWithFrame(&painter, frame);
+    if (m_badge)
+        drawBadgeWithFrame(&painter, frame);
 }
 
 void ITSidebarItemCell::drawBackgroundWithFrame(QPainter *painter, const QRectF &frame) const
@@ -116,6 +130,14 @@ void ITSidebarItemCell::drawImageWithFrame(QPainter *painter, const QRectF &fram
 void ITSidebarItemCell::drawImage(QPainter *painter, const NamedImage &image, const QRectF &withFrame) const
 {
     image.paint(painter, imageRect(withFrame, image.size()), isEnabled() ? 1.0 : palette::disabledOpacity);
+}
+
+void ITSidebarItemCell::drawBadgeWithFrame(QPainter *painter, const QRectF &frame) const
+{
+    const QRectF square = selectionRect(frame);
+    painter->setPen(QPen(palette::chromeText, badgeOutline));
+    painter->setBrush(palette::sidebarSelection);
+    painter->drawEllipse(square.topRight() + QPointF(-badgeRadius, badgeRadius), badgeRadius, badgeRadius);
 }
 
 void ITSidebarItemCell::drawSelectionWithFrame(QPainter *painter, const QRectF &frame) const

@@ -34,14 +34,18 @@ public:
 
     TargetAction<ITSidebarItemCell> &targetAction() { return m_targetAction; }
 
+    /// Marks the item with a dot: its tool has something new. Taken away when the item is selected.
+    bool hasBadge() const { return m_badge; }
+    void setBadge(bool badge);
+
     /// On is selected.
     bool state() const { return isChecked(); }
     bool isHighlighted() const { return isDown(); }
     /// The image that is drawn in the present state.
     const NamedImage &shownImage() const;
-    /// Offered to whoever wants to draw one; the cell's own drawing uses none.
+    /// Offered for those who want to draw one; the cell's own drawing uses none.
     static Shadow shadow();
-    /// The natural size centred in the frame.
+    /// The natural size centered in the frame.
     static QRectF imageRect(const QRectF &frame, const QSizeF &imageSize);
     /// The middle of the selection's line.
     static QRectF selectionRect(const QRectF &frame);
@@ -61,10 +65,12 @@ private:
     void drawImageWithFrame(QPainter *painter, const QRectF &frame) const;
     void drawImage(QPainter *painter, const NamedImage &image, const QRectF &withFrame) const;
     void drawSelectionWithFrame(QPainter *painter, const QRectF &frame) const;
+    void drawBadgeWithFrame(QPainter *painter, const QRectF &frame) const;
 
     NamedImage m_image;
     NamedImage m_alternateImage;
     TargetAction<ITSidebarItemCell> m_targetAction;
+    bool m_badge = false;
 };
 
 } // namespace lumora

@@ -7,6 +7,8 @@
 #include "widgets/style/Fonts.h"
 #include "widgets/style/Palette.h"
 
+using namespace Qt::StringLiterals;
+
 namespace lumora
 {
 
@@ -25,12 +27,12 @@ void PopupContentView::awakeFromNib()
     styleLabel(m_ui->popupTextField, latoRegular(13), palette::chromeText);
     m_ui->popupTitleSeperator->setBackgroundColor(palette::successLight);
     m_ui->popupTextSeperator->setBackgroundColor(palette::successLight);
-    styleButton(m_ui->bugreportButton, qtTrId("HELP_BUG_REPORT"), QStringLiteral("button_icon_bugreport"),
-                palette::errorLight, palette::errorDark);
-    styleButton(m_ui->featurerequestButton, qtTrId("HELP_FEATURE_REQUEST"),
-                QStringLiteral("button_icon_featurerequest"), palette::successLight, palette::successDark);
-    styleButton(m_ui->feedbackButton, qtTrId("HELP_FEEDBACK"), QStringLiteral("button_icon_feedback"),
-                palette::infoLight, palette::infoDark);
+    styleButton(m_ui->bugreportButton, qtTrId("HELP_BUG_REPORT"), u"button_icon_bugreport"_s, palette::errorLight,
+                palette::errorDark);
+    styleButton(m_ui->featurerequestButton, qtTrId("HELP_FEATURE_REQUEST"), u"button_icon_featurerequest"_s,
+                palette::successLight, palette::successDark);
+    styleButton(m_ui->feedbackButton, qtTrId("HELP_FEEDBACK"), u"button_icon_feedback"_s, palette::infoLight,
+                palette::infoDark);
     connect(m_ui->bugreportButton, &IconButton::clicked, this, &PopupContentView::bugreportClicked);
     connect(m_ui->featurerequestButton, &IconButton::clicked, this, &PopupContentView::featurerequestClicked);
     connect(m_ui->feedbackButton, &IconButton::clicked, this, &PopupContentView::feedbackClicked);

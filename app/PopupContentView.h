@@ -17,7 +17,7 @@ class PopupContentView;
 namespace lumora
 {
 
-/// The help on one tool: icon, title and text in the tool's colour, and three ways to write to the maker.
+/// The help on one tool: icon, title and text in the tool's color, and three ways to write to the maker.
 class PopupContentView final : public QWidget
 {
     Q_OBJECT

@@ -8,15 +8,17 @@
 #include "widgets/style/Fonts.h"
 #include "widgets/style/Palette.h"
 
+using namespace Qt::StringLiterals;
+
 namespace lumora
 {
 
 StyledText contactText(const QString &firstLine, const QString &secondLine, const ContactDetails &details)
 {
     QString filled = secondLine;
-    filled.replace(QStringLiteral("[MAIL]"), details.mail);
-    filled.replace(QStringLiteral("[TWITTER]"), details.twitter);
-    filled.replace(QStringLiteral("[FACEBOOK]"), details.facebook);
+    filled.replace(u"[MAIL]"_s, details.mail);
+    filled.replace(u"[TWITTER]"_s, details.twitter);
+    filled.replace(u"[FACEBOOK]"_s, details.facebook);
     StyledText text(firstLine + u'\n' + filled);
     text.setFontOfFirst(firstLine, latoBold(18));
     for (const QString &value : {details.mail, details.twitter, details.facebook})
@@ -43,17 +45,16 @@ void SettingsViewController::awakeFromNib()
     m_view->setPalette(colors);
     m_view->setAutoFillBackground(true);
 
-    styleButton(m_ui->contactMailButton, QStringLiteral("Mail"), palette::validator, palette::validatorBorder);
-    styleButton(m_ui->contactTwitterButton, QStringLiteral("Twitter"), palette::validator, palette::validatorBorder);
-    m_ui->appIconImageView->setImage(NamedImage(QStringLiteral("info_app_icon")));
+    styleButton(m_ui->contactMailButton, u"Mail"_s, palette::validator, palette::validatorBorder);
+    styleButton(m_ui->contactTwitterButton, u"Twitter"_s, palette::validator, palette::validatorBorder);
+    m_ui->appIconImageView->setImage(NamedImage(u"info_app_icon"_s));
 
     styleLabel(m_ui->appTitleLabel, latoBold(18), palette::chromeText);
     m_ui->appTitleLabel->setText(
-        qtTrId("INFORMATION_APP").replace(QStringLiteral("[VERSION]"), QCoreApplication::applicationVersion()));
+        qtTrId("INFORMATION_APP").replace(u"[VERSION]"_s, QCoreApplication::applicationVersion()));
 
-    const StyledText info =
-        contactText(qtTrId("INFORMATION_INFO_1"), qtTrId("INFORMATION_INFO_2"),
-                    {qtTrId("INFORMATION_MAIL"), qtTrId("INFORMATION_TWITTER"), QStringLiteral("Facebook")});
+    const StyledText info = contactText(qtTrId("INFORMATION_INFO_1"), qtTrId("INFORMATION_INFO_2"),
+                                        {qtTrId("INFORMATION_MAIL"), qtTrId("INFORMATION_TWITTER"), u"Facebook"_s});
     styleLabel(m_ui->infoLabel, latoRegular(13), palette::chromeText);
     m_ui->infoLabel->setTextFormat(Qt::RichText);
     m_ui->infoLabel->setText(info.toHtml());
@@ -66,9 +67,8 @@ void SettingsViewController::awakeFromNib()
 
 void SettingsViewController::contactMailButtonPressed()
 {
-    const QUrl url(QStringLiteral("mailto:") + qtTrId("INFORMATION_MAIL") +
-                   QStringLiteral("?Subject=HALLO&body=Hallooootjes"));
-    logLine(QStringLiteral("URL: ") + m_services.urlOpener.applicationFor(url));
+    const QUrl url(u"mailto:"_s + qtTrId("INFORMATION_MAIL") + u"?Subject=HALLO&body=Hallooootjes"_s);
+    logLine(u"URL: "_s + m_services.urlOpener.applicationFor(url));
     m_services.urlOpener.open(url);
 }
 

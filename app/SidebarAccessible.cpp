@@ -3,6 +3,7 @@
 
 #include "ITSidebar.h"
 #include "ITSidebarItemCell.h"
+#include "widgets/style/InstallAccessible.h"
 
 #include <QAccessibleWidget>
 
@@ -35,23 +36,18 @@ private:
     ITSidebarItemCell *m_cell;
 };
 
-QAccessibleInterface *makeAccessible(const QString &, QObject *object)
+class SidebarAccessible final : public QAccessibleWidget
 {
-    if (auto *cell = qobject_cast<ITSidebarItemCell *>(object))
-        return new ItemAccessible(cell);
-    if (auto *sidebar = qobject_cast<ITSidebar *>(object))
-        return new QAccessibleWidget(sidebar, QAccessible::PageTabList);
-    return nullptr;
-}
+public:
+    explicit SidebarAccessible(ITSidebar *sidebar) : QAccessibleWidget(sidebar, QAccessible::PageTabList) {}
+};
 
 } // namespace
 
 void installSidebarAccessible()
 {
-    [[maybe_unused]] static const bool installed = [] {
-        QAccessible::installFactory(&makeAccessible);
-        return true;
-    }();
+    installAccessible<ITSidebarItemCell, ItemAccessible>();
+    installAccessible<ITSidebar, SidebarAccessible>();
 }
 
 } // namespace lumora

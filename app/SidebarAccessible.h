@@ -4,7 +4,7 @@
 namespace lumora
 {
 
-/// Has screen readers told of the sidebar as a list of tabs one of which is selected. Harmless when called again.
+/// Presents the sidebar to screen readers as a list of tabs, one of which is selected. Harmless when called again.
 void installSidebarAccessible();
 
 } // namespace lumora

@@ -25,7 +25,6 @@ public:
     /// Puts the sidebar into the strip and owns it.
     void setDocumentView(ITSidebar *sidebar);
     /// Where the sidebar's upper left corner stands while nothing is scrolled.
-    QPoint documentOrigin() const { return m_documentOrigin; }
     void setDocumentOrigin(QPoint origin);
     /// Scrolls as little as brings the rectangle (in the sidebar's coordinates) into view.
     void scrollTo(const QRect &rectangle);

@@ -24,6 +24,7 @@
 
 #include <QApplication>
 #include <QFile>
+#include <QSettings>
 #include <QTimer>
 
 #include <variant>
@@ -38,6 +39,8 @@ void nameApplication()
 {
     QApplication::setApplicationName(QStringLiteral("lumora"));
     QApplication::setApplicationVersion(QLatin1StringView(versionText));
+    // The toolkit's dialogs would keep settings of their own from run to run; here they find no place to.
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("/dev/null"));
     QApplication::setDesktopFileName(QLatin1StringView(applicationId));
 }
 

@@ -200,6 +200,7 @@ void IconsViewController::generatePlatformIcons()
         const ExportFolder folder = lumora::generatePlatformIcons(request).folder;
         job.post([this, folder] {
             m_platformCaption->showForAWhile(qtTrId("ICONS_DONE"));
+            jobEnded();
             if (folder.nameTaken)
                 showNewFolder(folder.name(), m_ui->generateIconsButton);
         });

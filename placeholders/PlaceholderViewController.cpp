@@ -187,6 +187,7 @@ void PlaceholderViewController::finish(const QString &newFolder)
 {
     if (TimedCaption *caption = m_captions.value(m_selectedButton))
         caption->showForAWhile(qtTrId("ALL_DONE"));
+    jobEnded();
     if (!newFolder.isEmpty())
         showPopupWithTitle(
             qtTrId("PLACEHOLDER_NEW_FOLDER_ALERT_TITLE"),

@@ -134,6 +134,7 @@ void ResizerViewController::doneResizingAndSaving()
 {
     setProgressVisible(false);
     setNoticeVisible(true);
+    jobEnded();
     m_ready.start();
 }
 

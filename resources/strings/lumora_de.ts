@@ -1129,6 +1129,10 @@
     <source>Tools</source>
     <translation>Werkzeuge</translation>
   </message>
+  <message id="ACCESSIBLE_JOB_ENDED">
+    <source>Finished while you were elsewhere</source>
+    <translation>Fertig geworden, während Sie woanders waren</translation>
+  </message>
   <message id="ACCESSIBLE_HELP">
     <source>Help on this tool</source>
     <translation>Hilfe zu diesem Werkzeug</translation>

@@ -1127,6 +1127,10 @@
     <source>Tools</source>
     <translation>Tools</translation>
   </message>
+  <message id="ACCESSIBLE_JOB_ENDED">
+    <source>Finished while you were elsewhere</source>
+    <translation>Finished while you were elsewhere</translation>
+  </message>
   <message id="ACCESSIBLE_HELP">
     <source>Help on this tool</source>
     <translation>Help on this tool</translation>

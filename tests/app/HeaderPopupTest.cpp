@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ShellFixture.h"
 #include "app/HeaderView.h"
+#include "app/ITSidebar.h"
 #include "resources/Resources.h"
 #include "tool/PopoverAlert.h"
 #include "widgets/buttons/IconButton.h"
@@ -62,6 +63,24 @@ private slots:
         delegate.header()->infoButton()->click();
         QVERIFY(delegate.popupView()->isVisible());
         QVERIFY(!delegate.aboutPopupView()->isVisible());
+    }
+
+    void switchingToolsClosesBoth_data()
+    {
+        QTest::addColumn<bool>("about");
+        QTest::newRow("help") << false;
+        QTest::newRow("about") << true;
+    }
+    void switchingToolsClosesBoth()
+    {
+        QFETCH(bool, about);
+        Application application;
+        AppDelegate &delegate = application.delegate;
+        const SFBPopover *popup = about ? delegate.aboutPopupView() : delegate.popupView();
+        (about ? delegate.header()->iconButton() : delegate.header()->infoButton())->click();
+        QVERIFY(popup->isVisible());
+        delegate.sideBar()->setSelectedIndex(2);
+        QVERIFY(!popup->isVisible());
     }
 
     void aboutMenuTogglesTheAboutPopup()

@@ -2,7 +2,9 @@
 #include "ShellFixture.h"
 #include "app/HeaderView.h"
 #include "app/ITSidebar.h"
+#include "app/ITSidebarItemCell.h"
 #include "app/PopupContentView.h"
+#include "app/SidebarMatrix.h"
 #include "app/ToolTable.h"
 #include "resources/Resources.h"
 #include "tool/ColorBand.h"
@@ -103,10 +105,10 @@ private slots:
         delegate.infoButtonClicked(delegate.header()->infoButton());
         delegate.sideBar()->setSelectedIndex(index);
         QVERIFY(!delegate.popupView()->isVisible());
-        QCOMPARE(delegate.header()->curBackgroundColor()->backgroundColor(), tool.color);
-        QCOMPARE(delegate.sideBar()->backgroundColor(), tool.color);
-        QCOMPARE(delegate.header()->topBorderView()->backgroundColor(), tool.borderColor);
-        QCOMPARE(delegate.leftBorderView()->backgroundColor(), tool.borderColor);
+        QCOMPARE(delegate.header()->curBackgroundColor()->backgroundColor(), platformColor(tool.color));
+        QCOMPARE(delegate.sideBar()->backgroundColor(), platformColor(tool.color));
+        QCOMPARE(delegate.header()->topBorderView()->backgroundColor(), platformColor(tool.borderColor));
+        QCOMPARE(delegate.leftBorderView()->backgroundColor(), platformColor(tool.borderColor));
         QCOMPARE(delegate.header()->titleLabel()->accessibleName(),
                  QString(qtTrId("APP_DEFAULT") + qtTrId(tool.headerKey)));
         const auto &help = delegate.popupContentView()->outlets();
@@ -114,7 +116,7 @@ private slots:
         QCOMPARE(help.popupTextField->text(), qtTrId(tool.helpTextKey));
         QCOMPARE(help.popupIconView->image(), NamedImage(QString::fromLatin1(tool.helpIcon)));
         QVERIFY(!help.popupIconView->image().isNull());
-        QCOMPARE(help.popupTitleSeperator->backgroundColor(), tool.color);
+        QCOMPARE(help.popupTitleSeperator->backgroundColor(), platformColor(tool.color));
         QCOMPARE(delegate.contentView()->layout()->count(), 1);
         QCOMPARE(delegate.contentView()->layout()->itemAt(0)->widget(),
                  delegate.controller(static_cast<std::size_t>(index))->view());
@@ -182,7 +184,7 @@ private slots:
         }
     }
 
-    void messageOfAToolOutOfSightShowsOnTheWindow()
+    void messageOfAToolOutOfSightWaitsForItsTool()
     {
         const QTemporaryDir folder;
         QVERIFY(QDir(folder.path()).mkdir(u"icons"_s));
@@ -194,7 +196,18 @@ private slots:
         icons.outlets().generateIconsButton->click();
         application.services.folderChooser.confirm(folder.path());
         delegate.sideBar()->setSelectedIndex(1);
-        QTRY_VERIFY_WITH_TIMEOUT(icons.popupView()->isVisible(), 30000);
+        QTRY_COMPARE_WITH_TIMEOUT(icons.popupContentView()->titleLabel()->text(),
+                                  qtTrId("ICONS_NEW_FOLDER_ALERT_TITLE"), 30000);
+        QCoreApplication::processEvents();
+        QVERIFY(!icons.popupView()->isVisible());
+        // Its item in the sidebar says so.
+        const QList<ITSidebarItemCell *> items = delegate.sideBar()->matrix()->cells();
+        QVERIFY(items.at(0)->hasBadge());
+        QCOMPARE(items.at(0)->accessibleDescription(), qtTrId("ACCESSIBLE_JOB_ENDED"));
+        QVERIFY(!items.at(1)->hasBadge());
+        delegate.sideBar()->setSelectedIndex(0);
+        QVERIFY(!items.at(0)->hasBadge());
+        QTRY_VERIFY(icons.popupView()->isVisible());
         QCOMPARE(icons.popupContentView()->titleLabel()->text(), qtTrId("ICONS_NEW_FOLDER_ALERT_TITLE"));
         QCOMPARE(icons.popupView()->popoverWindow()->parentWindow(), delegate.window());
     }
