@@ -92,14 +92,11 @@ class Desktop:
 
     def _start_window_system(self):
         self.environment["QT_SCALE_FACTOR"] = str(self.scale)
-        self.run("openbox", "--sm-disable")
-        wait_for("the window manager", self._is_managed)
-
-    def _is_managed(self):
-        # A window that is mapped while the window manager takes over may be lost to both.
-        answer = subprocess.run(["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"], env=self.environment,
-                                capture_output=True, text=True)
-        return "window id" in answer.stdout
+        # A window that is mapped while the window manager takes over is lost: it stays unmapped. Its own start command is
+        # run when all that is over; what it sets on the root window before comes too early.
+        ready = self.folder / "managed"
+        self.run("openbox", "--sm-disable", "--startup", f"touch {ready}")
+        wait_for("the window manager", ready.exists)
 
     def _start_x(self):
         # Several desktops may start at once; if a number is taken, the next one is tried.

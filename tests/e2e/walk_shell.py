@@ -41,6 +41,13 @@ def main(program):
         lumora.wait_gone("Report a bug")
         desktop.key("Escape")
         lumora.wait_gone("KESTREL interactive")
+        for button, text in ((help_button, "Report a bug"), (about_button, "KESTREL interactive")):
+            for number in (2, 1):
+                button.press()
+                lumora.wait_shown(text)
+                desktop.key(f"ctrl+{number}")
+                lumora.wait_gone(text)
+                wait_for("the tool", lambda number=number: sidebar[number - 1].has_state("selected"))
 
         # A second start talks to the first and ends.
         assert desktop.start_again() == 0
