@@ -18,11 +18,13 @@ def heard(event):
     print(event.type, "|", event.source.getRoleName(), "|", event.source.name, flush=True)
 pyatspi.Registry.registerEventListener(heard, "object:property-change:accessible-name",
                                        "object:property-change:accessible-value", "object:state-changed:checked",
-                                       "object:state-changed:selected", "object:selection-changed")
+                                       "object:state-changed:selected", "object:selection-changed",
+                                       "object:text-changed:insert")
 print("ready", flush=True)
 pyatspi.Registry.start()
 """
 NAME, VALUE = "object:property-change:accessible-name", "object:property-change:accessible-value"
+TEXT = "object:text-changed:insert"
 CHECKED, SELECTION = "object:state-changed:checked", ("object:state-changed:selected", "object:selection-changed")
 
 
@@ -80,7 +82,7 @@ def controls_speak(desktop, lumora, reader):
     box = wait_for("a check box", lambda: lumora.controls("check box"))[0]
     reader.hears(CHECKED, "check box", box.name, box.press)
     field = wait_for("the size field", lambda: lumora.controls("text"))[0]
-    reader.hears(VALUE, "text", field.name, lambda: field.set_text("57"))
+    reader.hears(TEXT, "text", field.name, lambda: field.set_text("57"))
 
 
 def popovers_tell_their_new_names(desktop, lumora, reader):

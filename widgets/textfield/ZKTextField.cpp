@@ -35,12 +35,14 @@ void ZKTextField::setString(const QString &string)
 {
     if (string == m_string)
         return;
+    const QString before = m_secure ? m_bullets : m_string;
     m_string = string;
     m_bullets = ZKSecureGlyphGenerator().glyphsForString(string);
     if (m_currentFieldEditor != nullptr && m_currentFieldEditor->text() != string)
         m_currentFieldEditor->setText(string);
     update();
-    QAccessibleValueChangeEvent changed(this, m_secure ? m_bullets : m_string);
+    // A changed value of a text would not be passed on to screen readers.
+    QAccessibleTextUpdateEvent changed(this, 0, before, m_secure ? m_bullets : m_string);
     QAccessible::updateAccessibility(&changed);
 }
 
