@@ -17,6 +17,7 @@ enum class FailureCode {
     NotAFolder,         ///< a file stands where a folder is wanted
     NoPermission,       ///< the system refuses to read or write
     NotAPicture,        ///< no decoder knows the content, or it is damaged
+    HighDynamicRange,   ///< a picture whose colors are far brighter than white, which the formats here cannot hold
     WrongSize,          ///< a picture of another size than the one wanted; `detail` gives its size
     TooLarge,           ///< more pixels, bytes or entries than the promised limits allow
     CannotCreateFolder, ///< a destination folder could not be made
@@ -25,7 +26,6 @@ enum class FailureCode {
     MissingContent,     ///< a well-formed file that lacks what is looked for in it
     NotReadable,        ///< readable bytes that do not make sense as what they claim to be
     InvalidValue,       ///< a typed value out of its range
-    TooSmall,           ///< a picture of which halving leaves no pixel; `detail` gives its size
     NotMarked,          ///< a file that is no PNG marked as double resolution
     WouldReplaceSource, ///< writing would replace one of the files that the run reads
     Exists,             ///< writing would replace a file that is there already

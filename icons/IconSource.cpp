@@ -4,6 +4,7 @@
 #include "IconCatalogue.h"
 #include "foundation/WholeFile.h"
 #include "pictures/PictureReader.h"
+#include "pictures/pixels/SizeText.h"
 #include "resources/Resources.h"
 
 #include <QFile>
@@ -27,8 +28,7 @@ Result<QImage> readIconSource(const QByteArray &bytes, const QString &name)
     const QSize size = stored.value();
     const auto wanted = static_cast<float>(sourceIconSize);
     if (static_cast<float>(size.width()) != wanted || static_cast<float>(size.height()) != wanted) {
-        return Failure{FailureCode::WrongSize, name,
-                       QStringLiteral("%1 x %2 pixels").arg(size.width()).arg(size.height())};
+        return Failure{FailureCode::WrongSize, name, pixelsText(size)};
     }
     return readPicture(bytes, name);
 }

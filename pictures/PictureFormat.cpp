@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "PictureFormat.h"
 
+#include "pictures/png/PngChunks.h"
+
 #include <QtEndian>
 
 #include <cstdlib>
@@ -18,7 +20,7 @@ struct Signature
 };
 
 const Signature signatures[] = {
-    {QByteArrayView("\x89PNG\r\n\x1A\n", 8), "png"},
+    {pngSignature, "png"},
     {QByteArrayView("\xFF\xD8\xFF", 3), "jpeg"},
     {QByteArrayView("II*\0", 4), "tiff"},
     {QByteArrayView("MM\0*", 4), "tiff"},
@@ -27,16 +29,13 @@ const Signature signatures[] = {
     {QByteArrayView("icns", 4), "icns"},
 };
 
-/// Decoders take the memory that a chunk claims before they look whether the file holds as much.
+/// Decoders allocate the memory that a chunk claims before they look whether the file holds as much.
 bool isWholePng(const QByteArray &bytes)
 {
-    constexpr qint64 signatureBytes = 8;
-    constexpr qint64 frameBytes = 12; // length, type, checksum
-    for (qint64 at = signatureBytes; at + frameBytes <= bytes.size();) {
-        const qint64 length = qFromBigEndian<quint32>(bytes.constData() + at);
-        if (QByteArrayView(bytes).sliced(at + 4, 4) == "IEND")
+    PngChunkWalk walk(bytes);
+    while (const auto chunk = walk.next()) {
+        if (chunk->type == "IEND")
             return true;
-        at += frameBytes + length;
     }
     return false;
 }

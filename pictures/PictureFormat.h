@@ -10,7 +10,7 @@ namespace lumora
 /// "gif", "icns"); empty where it is none that pictures are accepted in.
 QByteArray pictureFormat(const QByteArray &bytes);
 
-/// False when a JPEG or BMP file breaks off before its end, which their decoders would fill with grey or black and call
+/// False when a JPEG or BMP file breaks off before its end, which their decoders would fill with gray or black and call
 /// a success, and when a PNG file does, whose decoder would first take all the memory that its last chunk claims; true
 /// for every other format, whose decoders notice.
 bool isWhole(const QByteArray &bytes);

@@ -21,9 +21,9 @@ QImage resizeImage(const QImage &image, int toSize);
 /// no mode square corners.
 QImage resizeImage(const QImage &image, int toSize, int withRoundedCorners);
 
-/// Writes the picture to a file as 8-bit RGBA, one pixel per point whatever its scale factor. Replaces what stands at
-/// the path; not atomic. A file that could not be written whole is removed again. Panes ignore the outcome, the command
-/// line must not.
+/// Writes the picture to a file as 8-bit RGBA, one pixel per point whatever its scale factor. Replaces what is
+/// at the path only once the new file is whole (see `writeWholeFile`). Panes ignore the outcome, the command line must
+/// not.
 Outcome saveImage(const QImage &image, BitmapType withType, const QString &toPath);
 
 } // namespace lumora

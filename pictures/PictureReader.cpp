@@ -6,8 +6,10 @@
 #include "PictureFormat.h"
 #include "foundation/WholeFile.h"
 #include "pictures/pixels/PixelFormat.h"
+#include "pictures/pixels/SizeText.h"
 #include "pictures/png/OrdinaryPng.h"
 #include "pictures/png/PngDecoder.h"
+#include "pictures/png/PngHeader.h"
 
 #include <QBuffer>
 #include <QColorSpace>
@@ -20,23 +22,30 @@
 namespace lumora
 {
 
+using namespace Qt::StringLiterals;
+
 namespace
 {
 
-/// What the decoders need to be told once in a program.
+/// Settings that the decoders need once in a program.
 void prepareDecoders()
 {
     static std::once_flag prepared;
     std::call_once(prepared, [] {
         // Qt's own limit is one for the whole program and too low for 16-bit pictures; ours is checked besides.
         QImageReader::setAllocationLimit(largestDecodedBytes / (1024 * 1024));
-        // It would write its remarks on damaged files to stderr.
+        // libtiff would write about damaged files to stderr.
         TIFFSetErrorHandler(nullptr);
         TIFFSetWarningHandler(nullptr);
     });
 }
 
-/// A failed read answers a null picture.
+Failure damaged(const QString &name)
+{
+    return {FailureCode::NotAPicture, name, u"damaged"_s};
+}
+
+/// A failed read returns a null picture.
 QImage decodeByQt(const QByteArray &bytes, const QByteArray &format)
 {
     prepareDecoders();
@@ -56,30 +65,30 @@ QImage turned(const QImage &picture, QImageIOHandler::Transformations how)
     return how.testFlag(QImageIOHandler::TransformationRotate90) ? result.transformed(QTransform().rotate(90)) : result;
 }
 
-/// The picture upright, in the depth and colours of its file.
-QImage decode(const QByteArray &bytes, const QByteArray &format)
+QImage upright(const QImage &picture, const QByteArray &exif)
 {
-    QByteArray exif;
-    QImage picture;
-    if (format == "png") {
-        if (std::optional<QImage> ordinary = decodeOrdinaryPng(bytes))
-            return *std::move(ordinary);
-        picture = decodePng(bytes, &exif);
-    } else {
-        picture = decodeByQt(bytes, format);
-        if (format == "webp")
-            exif = webpExif(bytes);
-    }
     const QImageIOHandler::Transformations how = exifOrientation(exif);
     return how == QImageIOHandler::TransformationNone ? picture : turned(picture, how);
 }
 
-QString sizeText(QSize size)
+/// The picture upright, in the depth and colors of its file.
+Result<QImage> decode(const QByteArray &bytes, const QByteArray &format, const QString &name)
 {
-    return QStringLiteral("%1 x %2 pixels").arg(size.width()).arg(size.height());
+    if (format == "png") {
+        if (std::optional<QImage> ordinary = decodeOrdinaryPng(bytes))
+            return *std::move(ordinary);
+        Result<DecodedPng> png = decodePng(bytes, name);
+        if (!png)
+            return png.failure();
+        return upright(png.value().picture, png.value().exif);
+    }
+    const QImage picture = decodeByQt(bytes, format);
+    if (picture.isNull())
+        return damaged(name);
+    return format == "webp" ? upright(picture, webpExif(bytes)) : picture;
 }
 
-/// Takes the picture so that it is gone before its last copy is made.
+/// Takes the picture by value, so that it is freed before its last copy is made.
 QImage toSrgb(QImage picture)
 {
     const QColorSpace embedded = picture.colorSpace();
@@ -107,7 +116,8 @@ Result<QSize> storedPixelSize(const QByteArray &bytes, const QString &name)
         return storedPixelSize(largestIcnsPicture(bytes), name);
     QSize size;
     if (format == "png") {
-        size = pngPixelSize(bytes);
+        if (const std::optional<PngHeader> header = pngHeader(bytes); header && !header->appleOptimized)
+            size = header->size;
     } else {
         prepareDecoders();
         QBuffer buffer;
@@ -128,14 +138,19 @@ Result<QImage> readStraightPicture(const QByteArray &bytes, const QString &name)
         return stored.failure();
     const QSize size = stored.value();
     if (qint64{size.width()} * size.height() > largestPictureArea)
-        return Failure{FailureCode::TooLarge, name, sizeText(size)};
+        return Failure{FailureCode::TooLarge, name, pixelsText(size)};
     const QByteArray format = pictureFormat(bytes);
     if (format == "icns")
         return readStraightPicture(largestIcnsPicture(bytes), name);
-    QImage picture = isWhole(bytes) ? decode(bytes, format) : QImage();
-    // Some decoders find another size on their way than the one they told from the header, which was checked.
-    if (picture.isNull() || (picture.size() != size && picture.size() != size.transposed()))
-        return Failure{FailureCode::NotAPicture, name, QStringLiteral("damaged")};
+    if (!isWhole(bytes))
+        return damaged(name);
+    Result<QImage> decoded = decode(bytes, format, name);
+    if (!decoded)
+        return decoded;
+    QImage picture = std::move(decoded).value();
+    // Some decoders find another size than the header's, which is the one that was checked.
+    if (picture.size() != size && picture.size() != size.transposed())
+        return damaged(name);
     return toSrgb(std::move(picture));
 }
 

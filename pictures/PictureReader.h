@@ -27,15 +27,15 @@ Result<QSize> storedPixelSize(const QByteArray &bytes, const QString &name);
 Result<QSize> storedPixelSize(const QString &path);
 
 /// Decodes a PNG, JPEG, TIFF, WebP, BMP, GIF or ICNS file, known by its content and not its name: turned as its EXIF
-/// orientation asks, an embedded colour profile converted to sRGB, as `QImage::Format_RGBA8888_Premultiplied`. A
-/// profile that cannot be understood is as good as none: the colours are taken for sRGB. Of several pictures in a file
-/// it takes the first, of an ICNS file's the largest. Resolution is ignored: the result's scale factor is 1. Formats
-/// that can run or fetch something (SVG) are not accepted. `name` is what a failure calls the bytes. Keeps no state;
-/// callable on any thread.
+/// orientation asks, the colors that its profile or marks name converted to sRGB, as
+/// `QImage::Format_RGBA8888_Premultiplied`. A profile that cannot be understood is as good as none: the colors are
+/// taken for sRGB. Of several pictures in a file it takes the first, of an ICNS file's the largest. Resolution is
+/// ignored: the result's scale factor is 1. Formats that can run or fetch something (SVG) are not accepted. `name` is
+/// what a failure calls the bytes. Keeps no state; callable on any thread.
 Result<QImage> readPicture(const QByteArray &bytes, const QString &name);
 Result<QImage> readPicture(const QString &path);
 
-/// The same as straight `QImage::Format_RGBA8888`, as the file stores its colours: what is faint keeps them whole.
+/// The same as straight `QImage::Format_RGBA8888`, as the file stores its colors: faint pixels keep theirs whole.
 Result<QImage> readStraightPicture(const QByteArray &bytes, const QString &name);
 
 } // namespace lumora

@@ -27,7 +27,8 @@ QString extension(const QString &name)
 
 int half(int pixels)
 {
-    return static_cast<int>(std::floor(static_cast<float>(pixels) * 0.5F));
+    // A separator one pixel wide stays one: half of it cannot be drawn, and none of it is no picture.
+    return pixels == 1 ? 1 : static_cast<int>(std::floor(static_cast<float>(pixels) * 0.5F));
 }
 
 } // namespace

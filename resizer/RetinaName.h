@@ -14,7 +14,7 @@ bool isDoubleResolution(const QString &path);
 /// The last component of the path without its markers: all "@2x", then all "@2X", then all "-hd", then all "-HD".
 QString singleResolutionName(const QString &path);
 
-/// Half the pixels in each direction, rounded down. Zero for a single pixel.
+/// Half the pixels in each direction, rounded down, but a single one stays one.
 QSize halfSize(QSize pixels);
 
 } // namespace lumora

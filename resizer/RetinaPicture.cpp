@@ -3,6 +3,7 @@
 
 #include "RetinaName.h"
 #include "pictures/PictureReader.h"
+#include "pictures/pixels/SizeText.h"
 #include "pictures/png/PngEncoder.h"
 #include "pictures/scaling/Resampler.h"
 
@@ -36,11 +37,8 @@ qint64 halvingMemory(QSize pixels)
 Result<QSize> halvedSize(QSize pixels, const QString &name)
 {
     const QSize half = halfSize(pixels);
-    const QString text = QStringLiteral("%1 x %2 pixels").arg(pixels.width()).arg(pixels.height());
-    if (half.isEmpty())
-        return Failure{FailureCode::TooSmall, name, text};
     if (qint64{pixels.width()} * pixels.height() > largestPictureArea)
-        return Failure{FailureCode::TooLarge, name, text};
+        return Failure{FailureCode::TooLarge, name, pixelsText(pixels)};
     return half;
 }
 

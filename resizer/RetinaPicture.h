@@ -10,8 +10,8 @@
 namespace lumora
 {
 
-/// The picture at half its pixels in each direction, rounded down, as
-/// `QImage::Format_RGBA8888_Premultiplied`. Null where that leaves nothing.
+/// The picture at half its pixels in each direction (see `halfSize`), as
+/// `QImage::Format_RGBA8888_Premultiplied`. Null for a null picture.
 QImage unRetinaImage(const QImage &picture);
 
 /// A half-size picture ready to be written.

@@ -13,7 +13,7 @@ namespace lumora
 QImage premultiplied(QImage picture);
 
 /// Turns `count` premultiplied RGBA pixels into straight ones in place. A translucent pixel has as many colors as its
-/// premultiplied bytes tell apart, which are all that show on any ground: 23 shades of grey at an alpha of 22. Fully
+/// premultiplied bytes tell apart, which are all that show on any ground: 23 shades of gray at an alpha of 22. Fully
 /// transparent pixels become transparent black, and a color above its alpha is taken for equal to it.
 void straightenPixels(std::uint8_t *pixels, int count);
 

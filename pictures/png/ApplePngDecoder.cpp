@@ -3,8 +3,7 @@
 
 #include "PngHeader.h"
 #include "PngRowReader.h"
-
-#include <QtEndian>
+#include "pictures/pixels/SizeText.h"
 
 #include <algorithm>
 #include <array>
@@ -40,7 +39,7 @@ int countFrom(int first, int step, int size)
 }
 
 /// Writes a row of BGRA or BGR pixels to every `stepX`-th place of the picture's line.
-void placeRow(std::span<const unsigned char> row, int channels, bool opaque, unsigned char *line, const Pass &pass)
+void placeRow(std::span<const std::uint8_t> row, int channels, bool opaque, unsigned char *line, const Pass &pass)
 {
     const auto pixels = row.size() / static_cast<std::size_t>(channels);
     for (std::size_t i = 0; i < pixels; ++i) {
@@ -65,13 +64,13 @@ Result<QImage> decodeApplePng(QByteArrayView bytes, const QString &name, qint64 
         return damaged;
     const QSize size = header->size;
     if (qint64{size.width()} * size.height() > largestArea)
-        return Failure{FailureCode::TooLarge, name,
-                       QStringLiteral("%1 x %2 pixels").arg(size.width()).arg(size.height())};
+        return Failure{FailureCode::TooLarge, name, pixelsText(size)};
     QImage picture(size, QImage::Format_RGBA8888_Premultiplied);
     if (picture.isNull())
         return damaged;
 
     const int channels = header->colorType == rgba ? 4 : 3;
+    // Without a fourth channel no pixel has an alpha, whatever the first chunk says.
     const bool opaque = header->opaque || channels == 3;
     PngRowReader rows(bytes, channels);
     const auto passes =

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "OrdinaryPng.h"
 
+#include "CodePoints.h"
 #include "PngChunks.h"
+#include "PngHeader.h"
 #include "PngUnfilter.h"
 
 #include <libdeflate.h>
@@ -25,15 +27,13 @@ constexpr int maximum8Bit = 255;
 /// What the chunks before the pixels say.
 struct PngInfo
 {
-    QSize size;
-    int depth = 0;
-    std::uint8_t colorType = 0;
+    PngHeader header;
     QByteArrayView palette;
     QByteArrayView transparency;
 
     int channels() const
     {
-        switch (colorType) {
+        switch (header.colorType) {
         case Rgb:
             return 3;
         case GrayAlpha:
@@ -44,7 +44,7 @@ struct PngInfo
             return 1;
         }
     }
-    qsizetype rowBytes() const { return (qsizetype{size.width()} * channels() * depth + 7) / 8; }
+    qsizetype rowBytes() const { return (qsizetype{header.size.width()} * channels() * header.bitDepth + 7) / 8; }
 };
 
 bool isNear(QByteArrayView content, qsizetype index, std::uint32_t expected, std::uint32_t tolerance)
@@ -72,9 +72,10 @@ bool areSrgbPrimaries(QByteArrayView content)
     return true;
 }
 
-/// How a file names its colours.
+/// How a file names its colors.
 struct ColorMarks
 {
+    std::optional<CodePoints> points;
     bool srgb = false;
     bool profile = false;
     bool otherGamma = false;
@@ -82,7 +83,9 @@ struct ColorMarks
 
     void note(const PngChunkView &chunk)
     {
-        if (chunk.type == "sRGB") {
+        if (chunk.type == "cICP") {
+            points = codePoints(chunk.content);
+        } else if (chunk.type == "sRGB") {
             srgb = true;
         } else if (chunk.type == "iCCP") {
             profile = true;
@@ -92,24 +95,23 @@ struct ColorMarks
             otherPrimaries = !areSrgbPrimaries(chunk.content);
         }
     }
-    bool colorsAreSrgb() const { return !profile && (srgb || (!otherGamma && !otherPrimaries)); }
+    /// False where the general decoder has to find out.
+    bool colorsAreSrgb() const
+    {
+        if (points)
+            return isSrgb(*points);
+        return !profile && (srgb || (!otherGamma && !otherPrimaries));
+    }
 };
 
-bool isOrdinaryHeader(QByteArrayView header, PngInfo &info)
+bool isOrdinary(const PngHeader &header)
 {
-    constexpr qsizetype headerBytes = 13;
-    if (header.size() != headerBytes)
-        return false;
-    info.size = QSize(static_cast<int>(bigEndian32(header)), static_cast<int>(bigEndian32(header.sliced(4))));
-    info.depth = header.at(8);
-    info.colorType = static_cast<std::uint8_t>(header.at(9));
-    const bool plainMethods = header.at(10) == 0 && header.at(11) == 0 && header.at(12) == 0;
-    const bool small = info.depth == 1 || info.depth == 2 || info.depth == 4;
+    const bool small = header.bitDepth == 1 || header.bitDepth == 2 || header.bitDepth == 4;
     const bool known =
-        (info.depth == 8 && (info.colorType == Gray || info.colorType == Rgb || info.colorType == Palette ||
-                             info.colorType == GrayAlpha || info.colorType == Rgba)) ||
-        (small && (info.colorType == Gray || info.colorType == Palette));
-    return plainMethods && known && !info.size.isEmpty();
+        (header.bitDepth == 8 && (header.colorType == Gray || header.colorType == Rgb || header.colorType == Palette ||
+                                  header.colorType == GrayAlpha || header.colorType == Rgba)) ||
+        (small && (header.colorType == Gray || header.colorType == Palette));
+    return known && !header.interlaced && !header.appleOptimized;
 }
 
 bool isCritical(QByteArrayView type)
@@ -121,8 +123,6 @@ bool isCritical(QByteArrayView type)
 /// `joined`.
 bool takeChunks(const std::vector<PngChunkView> &chunks, PngInfo &info, QByteArrayView &deflated, QByteArray &joined)
 {
-    if (chunks.empty() || chunks.front().type != "IHDR" || !isOrdinaryHeader(chunks.front().content, info))
-        return false;
     ColorMarks marks;
     std::vector<QByteArrayView> parts;
     for (auto chunk = chunks.begin() + 1; chunk != chunks.end(); ++chunk) {
@@ -136,7 +136,7 @@ bool takeChunks(const std::vector<PngChunkView> &chunks, PngInfo &info, QByteArr
         else if (chunk->type == "eXIf" || (isCritical(chunk->type) && chunk->type != "IEND"))
             return false;
     }
-    if (!marks.colorsAreSrgb() || parts.empty() || (info.colorType == Palette && info.palette.isEmpty()))
+    if (!marks.colorsAreSrgb() || parts.empty() || (info.header.colorType == Palette && info.palette.isEmpty()))
         return false;
     deflated = parts.front();
     if (parts.size() > 1) {
@@ -166,15 +166,15 @@ bool inflate(QByteArrayView deflated, std::uint8_t *target, std::size_t bytes)
 
 using Pixel = std::array<std::uint8_t, 4>;
 
-/// The colour of every value that a sample of a palette or grey picture can take.
+/// The color of every value that a sample of a palette or gray picture can take.
 std::array<Pixel, 256> colorTable(const PngInfo &info)
 {
     std::array<Pixel, 256> table{};
-    const int values = 1 << info.depth;
+    const int values = 1 << info.header.bitDepth;
     for (int value = 0; value < values; ++value) {
         Pixel &pixel = table[static_cast<std::size_t>(value)];
-        if (info.colorType == Palette) {
-            // A value beyond the palette is black, as decoders have it.
+        if (info.header.colorType == Palette) {
+            // A value beyond the palette is black, as in other decoders.
             for (int channel = 0; channel < 3; ++channel) {
                 const qsizetype at = 3 * qsizetype{value} + channel;
                 pixel[static_cast<std::size_t>(channel)] =
@@ -225,7 +225,7 @@ void expandRgb(const std::uint8_t *samples, int width, std::uint8_t *pixel)
     }
 }
 
-/// Makes the one colour of an RGB picture that is named as transparent so.
+/// Makes the one color of an RGB picture that is named as transparent so.
 void applyColorKey(QByteArrayView key, int width, std::uint8_t *pixel)
 {
     constexpr qsizetype keyBytes = 6;
@@ -252,8 +252,11 @@ void expandGrayAlpha(const std::uint8_t *samples, int width, std::uint8_t *pixel
 
 std::optional<QImage> decodeOrdinaryPng(const QByteArray &bytes)
 {
+    const std::optional<PngHeader> header = pngHeader(bytes);
+    if (!header || !isOrdinary(*header))
+        return std::nullopt;
     const auto chunks = readPngChunks(bytes);
-    PngInfo info;
+    PngInfo info{*header, {}, {}};
     QByteArrayView deflated;
     QByteArray joined;
     if (!chunks || !takeChunks(*chunks, info, deflated, joined))
@@ -261,15 +264,15 @@ std::optional<QImage> decodeOrdinaryPng(const QByteArray &bytes)
 
     const auto rowBytes = static_cast<std::size_t>(info.rowBytes());
     const auto stride = rowBytes + 1;
-    const auto height = static_cast<std::size_t>(info.size.height());
+    const auto height = static_cast<std::size_t>(info.header.size.height());
     const std::unique_ptr<std::uint8_t[]> rows(new (std::nothrow) std::uint8_t[stride * height]);
-    QImage picture(info.size, QImage::Format_RGBA8888);
+    QImage picture(info.header.size, QImage::Format_RGBA8888);
     if (rows == nullptr || picture.isNull() || !inflate(deflated, rows.get(), stride * height))
         return std::nullopt;
 
-    const int pixelBytes = std::max(1, info.channels() * info.depth / 8);
+    const int pixelBytes = std::max(1, info.channels() * info.header.bitDepth / 8);
     const std::array<Pixel, 256> table = info.channels() == 1 ? colorTable(info) : std::array<Pixel, 256>{};
-    const int width = info.size.width();
+    const int width = info.header.size.width();
     const std::vector<std::uint8_t> zeroes(rowBytes);
     const std::uint8_t *above = zeroes.data();
     for (std::size_t y = 0; y < height; ++y) {
@@ -277,7 +280,7 @@ std::optional<QImage> decodeOrdinaryPng(const QByteArray &bytes)
         if (!unfilterRow(row[-1], row, above, rowBytes, pixelBytes))
             return std::nullopt;
         std::uint8_t *pixel = picture.scanLine(static_cast<int>(y));
-        switch (info.colorType) {
+        switch (info.header.colorType) {
         case Rgba:
             std::copy_n(row, rowBytes, pixel);
             break;
@@ -289,7 +292,7 @@ std::optional<QImage> decodeOrdinaryPng(const QByteArray &bytes)
             expandGrayAlpha(row, width, pixel);
             break;
         default:
-            expandTable(row, info.depth, width, table, pixel);
+            expandTable(row, info.header.bitDepth, width, table, pixel);
         }
         above = row;
     }

@@ -8,35 +8,69 @@
 namespace lumora
 {
 
+namespace
+{
+
+constexpr qsizetype lengthBytes = 4;
+constexpr qsizetype typeBytes = 4;
+constexpr qsizetype checksumBytes = 4;
+
+} // namespace
+
 std::uint32_t bigEndian32(QByteArrayView bytes)
 {
     return qFromBigEndian<std::uint32_t>(bytes.data());
 }
 
+bool PngChunkView::isUndamaged() const
+{
+    // Both lie side by side in the file.
+    return libdeflate_crc32(0, type.data(), static_cast<std::size_t>(type.size() + content.size())) == checksum;
+}
+
+PngChunkWalk::PngChunkWalk(QByteArrayView file)
+    : m_rest(file.startsWith(pngSignature) ? file.sliced(pngSignature.size()) : QByteArrayView())
+{
+}
+
+std::optional<PngChunkView> PngChunkWalk::next()
+{
+    constexpr qsizetype frameBytes = lengthBytes + typeBytes + checksumBytes;
+    if (m_rest.size() < frameBytes)
+        return std::nullopt;
+    const auto length = qsizetype{bigEndian32(m_rest)};
+    if (length > m_rest.size() - frameBytes)
+        return std::nullopt;
+    const PngChunkView chunk{m_rest.sliced(lengthBytes, typeBytes), m_rest.sliced(lengthBytes + typeBytes, length),
+                             bigEndian32(m_rest.sliced(lengthBytes + typeBytes + length))};
+    m_rest = m_rest.sliced(frameBytes + length);
+    return chunk;
+}
+
 std::optional<std::vector<PngChunkView>> readPngChunks(QByteArrayView file)
 {
-    constexpr QByteArrayView signature("\x89PNG\r\n\x1A\n", 8);
-    constexpr qsizetype lengthBytes = 4;
-    constexpr qsizetype typeBytes = 4;
-    constexpr qsizetype checksumBytes = 4;
-    if (!file.startsWith(signature))
-        return std::nullopt;
     std::vector<PngChunkView> chunks;
-    for (QByteArrayView rest = file.sliced(signature.size());;) {
-        if (rest.size() < lengthBytes + typeBytes + checksumBytes)
+    PngChunkWalk walk(file);
+    while (const std::optional<PngChunkView> chunk = walk.next()) {
+        if (!chunk->isUndamaged())
             return std::nullopt;
-        const auto length = qsizetype{bigEndian32(rest)};
-        if (length > rest.size() - lengthBytes - typeBytes - checksumBytes)
-            return std::nullopt;
-        const QByteArrayView checked = rest.sliced(lengthBytes, typeBytes + length);
-        rest = rest.sliced(lengthBytes + checked.size());
-        if (libdeflate_crc32(0, checked.data(), static_cast<std::size_t>(checked.size())) != bigEndian32(rest))
-            return std::nullopt;
-        rest = rest.sliced(checksumBytes);
-        chunks.push_back({checked.first(typeBytes), checked.sliced(typeBytes)});
-        if (chunks.back().type == "IEND")
+        chunks.push_back(*chunk);
+        if (chunk->type == "IEND")
             return chunks;
     }
+    return std::nullopt;
+}
+
+std::optional<QByteArrayView> earlyPngChunk(QByteArrayView file, QByteArrayView type)
+{
+    PngChunkWalk walk(file);
+    while (const std::optional<PngChunkView> chunk = walk.next()) {
+        if (chunk->type == "PLTE" || chunk->type == "IDAT")
+            break;
+        if (chunk->type == type && chunk->isUndamaged())
+            return chunk->content;
+    }
+    return std::nullopt;
 }
 
 } // namespace lumora

@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "PngDecoder.h"
 
+#include "CodePoints.h"
+#include "PngChunks.h"
+
 #include <QColorSpace>
-#include <QtEndian>
+#include <QSize>
 
 #include <png.h>
 
@@ -12,6 +15,8 @@
 
 namespace lumora
 {
+
+using namespace Qt::StringLiterals;
 
 namespace
 {
@@ -32,7 +37,7 @@ void readFromSource(png_structp png, png_bytep destination, png_size_t count)
     source->at += static_cast<qsizetype>(count);
 }
 
-// The default handlers write to stderr, which is not theirs.
+// libpng's own handlers would write to stderr.
 [[noreturn]] void fail(png_structp png, png_const_charp)
 {
     png_longjmp(png, 1);
@@ -95,6 +100,7 @@ public:
         return true;
     }
 
+    /// What the iCCP, sRGB, gAMA and cHRM chunks name.
     QColorSpace colorSpace() const
     {
         png_charp name = nullptr;
@@ -110,7 +116,7 @@ public:
         double gamma = 0;
         if (png_get_valid(m_png, m_info, PNG_INFO_sRGB) != 0 || png_get_gAMA(m_png, m_info, &gamma) == 0)
             return {};
-        // The inverse of 2.2 is how files of old say sRGB; the two curves are not told apart.
+        // Old files write sRGB as the inverse of 2.2; the two curves count as one.
         const bool usualGamma = std::abs(gamma - 0.45455) < 0.001;
         double wx = 0.3127;
         double wy = 0.3290;
@@ -144,35 +150,28 @@ private:
 
 } // namespace
 
-QSize pngPixelSize(const QByteArray &file)
+Result<DecodedPng> decodePng(const QByteArray &file, const QString &name)
 {
-    // Signature, then the header chunk: length 13, type, width, height.
-    constexpr qsizetype headerEnd = 8 + 8 + 13 + 4;
-    if (file.size() < headerEnd || file.mid(8, 8) != QByteArrayView("\0\0\0\x0DIHDR", 8))
-        return {};
-    const auto width = qFromBigEndian<quint32>(file.constData() + 16);
-    const auto height = qFromBigEndian<quint32>(file.constData() + 20);
-    if (width > 0x7FFFFFFF || height > 0x7FFFFFFF)
-        return {};
-    return {static_cast<int>(width), static_cast<int>(height)};
-}
-
-QImage decodePng(const QByteArray &file, QByteArray *exif)
-{
+    const auto chunk = earlyPngChunk(file, "cICP");
+    const auto points = chunk ? codePoints(*chunk) : std::nullopt;
+    if (points && isHighDynamicRange(*points))
+        return Failure{FailureCode::HighDynamicRange, name, u"PQ or HLG"_s};
+    const Failure damaged{FailureCode::NotAPicture, name, u"damaged"_s};
     Decoding decoding(file);
     if (!decoding.readHeader())
-        return {};
-    QImage picture(decoding.size(), decoding.format());
-    if (picture.isNull())
-        return {};
+        return damaged;
+    DecodedPng result{QImage(decoding.size(), decoding.format()), {}};
+    if (result.picture.isNull())
+        return damaged;
     std::vector<png_bytep> rows;
-    for (int y = 0; y < picture.height(); ++y)
-        rows.push_back(picture.scanLine(y));
+    for (int y = 0; y < result.picture.height(); ++y)
+        rows.push_back(result.picture.scanLine(y));
     if (!decoding.readRows(rows.data()))
-        return {};
-    picture.setColorSpace(decoding.colorSpace());
-    *exif = decoding.exif();
-    return picture;
+        return damaged;
+    const auto named = points ? colorSpaceOf(*points) : std::nullopt;
+    result.picture.setColorSpace(named ? *named : decoding.colorSpace());
+    result.exif = decoding.exif();
+    return result;
 }
 
 } // namespace lumora

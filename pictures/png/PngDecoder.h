@@ -1,18 +1,26 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "foundation/Result.h"
+
 #include <QByteArray>
 #include <QImage>
-#include <QSize>
+#include <QString>
 
 namespace lumora
 {
 
-/// The size in a PNG file's header; empty where that is damaged.
-QSize pngPixelSize(const QByteArray &file);
+/// What a PNG file holds.
+struct DecodedPng
+{
+    QImage picture;  ///< `Format_RGBA8888` or `Format_RGBA64` as the file's depth is, with the color space it names
+    QByteArray exif; ///< the content of its EXIF chunk, empty where it has none
+};
 
-/// A PNG file's pixels in the depth it stores, as `Format_RGBA8888` or `Format_RGBA64`, with the colour space it names;
-/// null where anything is damaged. `exif` receives the content of its EXIF chunk, if it has one.
-QImage decodePng(const QByteArray &file, QByteArray *exif);
+/// Decodes a PNG file of any kind but Apple's. Its colors are those that its cICP chunk names, else its iCCP, sRGB, or
+/// gAMA and cHRM chunks; what cannot be understood of these is as good as missing. Fails for a damaged file
+/// (`NotAPicture`) and for colors of high dynamic range (`HighDynamicRange`), which have no place in sRGB. `name` is
+/// what a failure calls the file.
+Result<DecodedPng> decodePng(const QByteArray &file, const QString &name);
 
 } // namespace lumora

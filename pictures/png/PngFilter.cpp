@@ -2,6 +2,7 @@
 #include "PngFilter.h"
 
 #include "ByteOrderliness.h"
+#include "Paeth.h"
 #include "PngRows.h"
 
 #include <algorithm>
@@ -27,18 +28,7 @@ int magnitude(std::uint8_t residue)
     return std::abs(static_cast<int>(static_cast<std::int8_t>(residue)));
 }
 
-/// The neighbour (left, above, above left) nearest to left + above - aboveLeft; without branches, so that it runs on
-/// whole vectors.
-std::uint8_t paeth(int left, int above, int aboveLeft)
-{
-    const int toLeft = std::abs(above - aboveLeft);
-    const int toAbove = std::abs(left - aboveLeft);
-    const int toAboveLeft = std::abs(above + left - 2 * aboveLeft);
-    const int upper = toAbove <= toAboveLeft ? above : aboveLeft;
-    return static_cast<std::uint8_t>(toLeft <= toAbove && toLeft <= toAboveLeft ? left : upper);
-}
-
-/// Fills `residues` by one filter and answers the sum of their magnitudes. `row` and `above` have a pixel of zeroes
+/// Fills `residues` by one filter and returns the sum of their magnitudes. `row` and `above` have a pixel of zeroes
 /// before their first one.
 template <typename Predict>
 unsigned residuesOf(const std::uint8_t *row, const std::uint8_t *above, int bytes, std::uint8_t *residues,
@@ -101,6 +91,7 @@ void addPlainRows(const PngRows &picture, RowRange range, std::vector<std::uint8
 constexpr auto predictNothing = [](int, int, int) { return 0; };
 constexpr auto predictLeft = [](int left, int, int) { return left; };
 constexpr auto predictUp = [](int, int up, int) { return up; };
+constexpr auto predictPaeth = [](int left, int up, int upperLeft) { return paeth(left, up, upperLeft); };
 constexpr auto predictAverage = [](int left, int up, int) { return (left + up) / 2; };
 
 template <typename Predict>
@@ -166,7 +157,7 @@ void addAdaptiveRows(const PngRows &picture, RowRange range, PngFilterChoice cho
             residuesOf(pixels, upper, bytes, residues[1].data(), predictLeft),
             residuesOf(pixels, upper, bytes, residues[2].data(), predictUp),
             residuesOf(pixels, upper, bytes, residues[3].data(), predictAverage),
-            residuesOf(pixels, upper, bytes, residues[4].data(), paeth),
+            residuesOf(pixels, upper, bytes, residues[4].data(), predictPaeth),
         };
         const std::size_t best =
             choice == PngFilterChoice::ByEntropy ? smallestByEntropy(residues) : smallestByMagnitude(sums);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "PngHeader.h"
 
-#include <QtEndian>
+#include "PngChunks.h"
 
 #include <limits>
 
@@ -11,7 +11,6 @@ namespace lumora
 namespace
 {
 
-constexpr QByteArrayView signature("\x89PNG\r\n\x1a\n", 8);
 constexpr qsizetype chunkFrame = 12; // length, name, checksum
 constexpr quint32 headerLength = 13;
 constexpr quint32 longestAppleChunk = 16;
@@ -24,11 +23,11 @@ constexpr int firstAlphaInfoWithoutAlpha = 5;
 
 std::optional<PngHeader> pngHeader(QByteArrayView start)
 {
-    if (!start.startsWith(signature))
+    if (!start.startsWith(pngSignature))
         return std::nullopt;
     PngHeader header;
-    qsizetype at = signature.size();
-    const auto length = [&] { return qFromBigEndian<quint32>(start.data() + at); };
+    qsizetype at = pngSignature.size();
+    const auto length = [&] { return bigEndian32(start.sliced(at)); };
     if (start.size() >= at + 8 && start.sliced(at + 4, 4) == QByteArrayView("CgBI")) {
         const quint32 appleLength = length();
         if (appleLength > longestAppleChunk || start.size() < at + chunkFrame + qsizetype{appleLength})
@@ -43,16 +42,21 @@ std::optional<PngHeader> pngHeader(QByteArrayView start)
     if (start.size() < at + 8 + qsizetype{headerLength} || start.sliced(at + 4, 4) != QByteArrayView("IHDR") ||
         length() != headerLength)
         return std::nullopt;
-    const char *fields = start.data() + at + 8;
-    const auto width = qFromBigEndian<quint32>(fields);
-    const auto height = qFromBigEndian<quint32>(fields + 4);
+    const QByteArrayView fields = start.sliced(at + 8, headerLength);
+    const quint32 width = bigEndian32(fields);
+    const quint32 height = bigEndian32(fields.sliced(4));
     constexpr quint32 largest = std::numeric_limits<qint32>::max();
     if (width == 0 || height == 0 || width > largest || height > largest)
+        return std::nullopt;
+    const char compression = fields[10];
+    const char filtering = fields[11];
+    const char interlacing = fields[12];
+    if (compression != 0 || filtering != 0 || (interlacing != 0 && interlacing != 1))
         return std::nullopt;
     header.size = QSize(static_cast<int>(width), static_cast<int>(height));
     header.bitDepth = static_cast<unsigned char>(fields[8]);
     header.colorType = static_cast<unsigned char>(fields[9]);
-    header.interlaced = fields[12] == 1;
+    header.interlaced = interlacing == 1;
     return header;
 }
 

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "PngChunks.h"
+
 #include <QByteArrayView>
 
+#include <cstdint>
+#include <memory>
 #include <span>
 #include <vector>
-
-#include <zlib.h>
 
 namespace lumora
 {
@@ -23,21 +25,20 @@ public:
     /// Starts a pass whose rows have this many pixels; there is no row above its first one.
     void beginPass(int columns);
     /// The next row of the pass, valid until the next call; empty when the data is damaged or ends too early.
-    std::span<const unsigned char> next();
+    std::span<const std::uint8_t> next();
 
 private:
+    class Inflater;
+
     bool inflateRow();
     /// Makes the next IDAT chunk the inflater's input; false when there is none.
     bool nextChunk();
-    bool unfilter(int filter);
 
-    QByteArrayView m_bytes;
-    std::size_t m_pixel;
-    qsizetype m_at = 0;
-    z_stream m_stream = {};
-    bool m_ready = false;
-    std::vector<unsigned char> m_row; ///< the filter byte and the row
-    std::vector<unsigned char> m_above;
+    PngChunkWalk m_chunks;
+    int m_pixelBytes;
+    std::unique_ptr<Inflater> m_inflater;
+    std::vector<std::uint8_t> m_row; ///< the number of its filter and the row
+    std::vector<std::uint8_t> m_above;
 };
 
 } // namespace lumora

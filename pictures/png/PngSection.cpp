@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "PngSection.h"
 
+#include "PngChunks.h"
 #include "PngDeflate.h"
 #include "PngFilter.h"
 #include "PngRows.h"
@@ -227,7 +228,7 @@ QByteArray joinPngSections(QSize size, std::span<const PngSection> sections)
     }
     append32(stream, static_cast<std::uint32_t>(checksum));
 
-    QByteArray file(QByteArrayView("\x89PNG\r\n\x1A\n", 8).toByteArray());
+    QByteArray file(pngSignature.toByteArray());
     file.reserve(stream.size() + 128);
     appendChunk(file, "IHDR", header(size));
     // Rendering intent: perceptual.

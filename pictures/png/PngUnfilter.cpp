@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "PngUnfilter.h"
 
-#include <algorithm>
+#include "Paeth.h"
+
 #include <array>
-#include <cstdlib>
 
 namespace lumora
 {
@@ -17,15 +17,6 @@ void undoUp(std::uint8_t *row, const std::uint8_t *above, std::size_t bytes)
 {
     for (std::size_t i = 0; i < bytes; ++i)
         row[i] = static_cast<std::uint8_t>(row[i] + above[i]);
-}
-
-int paeth(int left, int above, int aboveLeft)
-{
-    const int toLeft = std::abs(above - aboveLeft);
-    const int toAbove = std::abs(left - aboveLeft);
-    const int toAboveLeft = std::abs(above + left - 2 * aboveLeft);
-    const int upper = toAbove <= toAboveLeft ? above : aboveLeft;
-    return toLeft <= toAbove && toLeft <= toAboveLeft ? left : upper;
 }
 
 /// Runs a filter that looks at the pixel before; its channels stay in registers from one pixel to the next.
@@ -61,7 +52,8 @@ bool undo(std::uint8_t filter, std::uint8_t *row, const std::uint8_t *above, std
         undoWithLeft<PixelBytes>(row, above, bytes, [](int left, int up, int) { return (left + up) / 2; });
         return true;
     case Paeth:
-        undoWithLeft<PixelBytes>(row, above, bytes, paeth);
+        undoWithLeft<PixelBytes>(row, above, bytes,
+                                 [](int left, int up, int upperLeft) { return paeth(left, up, upperLeft); });
         return true;
     default:
         return false;

@@ -1616,13 +1616,13 @@
     <source>see --help</source>
     <translation>siehe --help</translation>
   </message>
-  <message id="CLI_TOO_SMALL">
-    <source>is too small to be halved</source>
-    <translation>ist zu klein, um halbiert zu werden</translation>
+  <message id="CLI_HIGH_DYNAMIC_RANGE">
+    <source>has colors of high dynamic range</source>
+    <translation>hat Farben mit hohem Dynamikumfang</translation>
   </message>
-  <message id="CLI_TOO_SMALL_ADVICE">
-    <source>use a picture of at least 2 x 2 pixels</source>
-    <translation>ein Bild mit mindestens 2 x 2 Pixeln nehmen</translation>
+  <message id="CLI_HIGH_DYNAMIC_RANGE_ADVICE">
+    <source>convert it to sRGB or Display P3 first</source>
+    <translation>zuerst in sRGB oder Display P3 umwandeln</translation>
   </message>
   <message id="CLI_NOT_MARKED">
     <source>is not a .png file marked @2x or -hd</source>

@@ -1614,13 +1614,13 @@
     <source>see --help</source>
     <translation>see --help</translation>
   </message>
-  <message id="CLI_TOO_SMALL">
-    <source>is too small to be halved</source>
-    <translation>is too small to be halved</translation>
+  <message id="CLI_HIGH_DYNAMIC_RANGE">
+    <source>has colors of high dynamic range</source>
+    <translation>has colors of high dynamic range</translation>
   </message>
-  <message id="CLI_TOO_SMALL_ADVICE">
-    <source>use a picture of at least 2 x 2 pixels</source>
-    <translation>use a picture of at least 2 x 2 pixels</translation>
+  <message id="CLI_HIGH_DYNAMIC_RANGE_ADVICE">
+    <source>convert it to sRGB or Display P3 first</source>
+    <translation>convert it to sRGB or Display P3 first</translation>
   </message>
   <message id="CLI_NOT_MARKED">
     <source>is not a .png file marked @2x or -hd</source>

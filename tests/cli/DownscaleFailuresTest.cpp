@@ -49,8 +49,6 @@ private slots:
             << u"bad@2x.png"_s << pngClaiming(60000, 60000) << u"is larger than what can be processed safely"_s;
         QTest::newRow("more claimed than there is") << u"bad@2x.png"_s << pngClaiming(500, 500) << damaged;
         QTest::newRow("no pixels") << u"bad@2x.png"_s << pngClaiming(0, 0) << noPicture;
-        QTest::newRow("one pixel") << u"bad@2x.png"_s << pictureFile(testPicture(1, 1))
-                                   << u"is too small to be halved (1 x 1 pixels)"_s;
         QTest::newRow("missing") << u"bad@2x.png"_s << QByteArray() << u"does not exist"_s;
         const QString notMarked = u"is not a .png file marked @2x or -hd"_s;
         QTest::newRow("no marker") << u"bad.png"_s << m_picture << notMarked;

@@ -25,6 +25,14 @@ QImage plain(QColorSpace space = {})
     return picture;
 }
 
+/// The file with a chunk that names its colors by code points: primaries, transfer, and whether samples use their whole
+/// range.
+QByteArray withCodePoints(const QByteArray &png, char primaries, char transfer, char fullRange = 1)
+{
+    const char fields[] = {primaries, transfer, 0, fullRange};
+    return withPngChunk(png, "cICP", QByteArray(fields, sizeof fields));
+}
+
 QByteArray pngProfile(const QByteArray &profile)
 {
     return QByteArray("name\0\0", 6) + qCompress(profile).sliced(4);
@@ -55,6 +63,10 @@ class PictureProfileTest : public QObject
 private slots:
     void convertsTheProfile_data();
     void convertsTheProfile();
+    void convertsCodePoints_data();
+    void convertsCodePoints();
+    void refusesHighDynamicRange_data();
+    void refusesHighDynamicRange();
 };
 
 void PictureProfileTest::convertsTheProfile_data()
@@ -105,6 +117,65 @@ void PictureProfileTest::convertsTheProfile()
     QVERIFY(read.ok());
     const QRgb found = read.value().pixel(4, 4);
     QVERIFY2(near(found, color, 2), qPrintable(QColor(found).name()));
+}
+
+void PictureProfileTest::convertsCodePoints_data()
+{
+    QTest::addColumn<QByteArray>("file");
+    QTest::addColumn<QRgb>("color");
+    // Expected colors: the published transfer function, the published primaries by way of XYZ, the sRGB curve.
+    const QByteArray png = pictureFile(plain());
+    const QByteArray deep = pictureFile(plain().convertToFormat(QImage::Format_RGBX64));
+    const QByteArray inDisplayP3 = pictureFile(plain(QColorSpace::DisplayP3));
+    const QByteArray linear("\0\1\x86\xA0", 4);
+    QTest::newRow("sRGB") << withCodePoints(png, 1, 13) << stored;
+    QTest::newRow("Display P3") << withCodePoints(png, 12, 13) << fromDisplayP3;
+    QTest::newRow("Display P3, 16 bits") << withCodePoints(deep, 12, 13) << fromDisplayP3;
+    QTest::newRow("Display P3, linear") << withCodePoints(png, 12, 8) << qRgb(240, 165, 114);
+    QTest::newRow("BT.709") << withCodePoints(png, 1, 1) << qRgb(206, 114, 66);
+    QTest::newRow("BT.709, 16 bits") << withCodePoints(deep, 1, 1) << qRgb(206, 114, 66);
+    QTest::newRow("BT.709 by the curve of BT.601") << withCodePoints(png, 1, 6) << qRgb(206, 114, 66);
+    QTest::newRow("BT.2020, curve of sRGB") << withCodePoints(png, 9, 13) << qRgb(241, 76, 29);
+    QTest::newRow("BT.2020 of 10 bits") << withCodePoints(png, 9, 14) << qRgb(246, 94, 50);
+    QTest::newRow("BT.2020 of 12 bits") << withCodePoints(png, 9, 15) << qRgb(246, 94, 50);
+    QTest::newRow("gamma 2.2") << withCodePoints(png, 1, 4) << qRgb(201, 100, 46);
+    QTest::newRow("gamma 2.8") << withCodePoints(png, 1, 5) << qRgb(189, 76, 26);
+
+    QTest::newRow("before a profile") << withCodePoints(inDisplayP3, 1, 13) << stored;
+    QTest::newRow("before the mark of sRGB")
+        << withCodePoints(withPngChunk(png, "sRGB", QByteArray(1, '\0')), 12, 13) << fromDisplayP3;
+    QTest::newRow("before a gamma") << withCodePoints(withPngChunk(png, "gAMA", linear), 1, 13) << stored;
+
+    // What cannot be understood is as good as missing.
+    QTest::newRow("unknown primaries") << withCodePoints(png, 99, 13) << stored;
+    QTest::newRow("unknown primaries, but a profile") << withCodePoints(inDisplayP3, 99, 13) << fromDisplayP3;
+    QTest::newRow("unknown transfer, but a gamma")
+        << withCodePoints(withPngChunk(png, "gAMA", linear), 1, 99) << fromLinear;
+    QTest::newRow("narrow range") << withCodePoints(png, 12, 13, 0) << stored;
+    QTest::newRow("too short") << withPngChunk(png, "cICP", QByteArray("\x0C\x0D\0", 3)) << stored;
+    QTest::newRow("another matrix") << withPngChunk(png, "cICP", QByteArray("\x0C\x0D\1\1", 4)) << stored;
+}
+
+void PictureProfileTest::convertsCodePoints()
+{
+    convertsTheProfile();
+}
+
+void PictureProfileTest::refusesHighDynamicRange_data()
+{
+    QTest::addColumn<QByteArray>("file");
+    const QByteArray png = pictureFile(plain());
+    QTest::newRow("PQ") << withCodePoints(png, 9, 16);
+    QTest::newRow("HLG") << withCodePoints(png, 9, 18);
+    QTest::newRow("PQ, with a profile") << withCodePoints(pictureFile(plain(QColorSpace::DisplayP3)), 9, 16);
+}
+
+void PictureProfileTest::refusesHighDynamicRange()
+{
+    QFETCH(QByteArray, file);
+    const Result<QImage> read = readPicture(file, u"x"_s);
+    QVERIFY(!read.ok());
+    QCOMPARE(read.failure(), (Failure{FailureCode::HighDynamicRange, u"x"_s, u"PQ or HLG"_s}));
 }
 
 QTEST_GUILESS_MAIN(PictureProfileTest)

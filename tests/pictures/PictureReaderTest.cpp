@@ -202,6 +202,13 @@ void PictureReaderTest::refuses_data()
     QTest::newRow("zeroes") << QByteArray(100000, '\0');
     QTest::newRow("icns, empty") << QByteArray("icns\0\0\0\x08", 8);
     QTest::newRow("icns, member of length 0") << QByteArray("icns\0\0\0\x10ic10\0\0\0\0", 16);
+    const QByteArray picture = pictureFile(quarters(16, 16));
+    QTest::newRow("icns, member longer than the file") << [&picture] {
+        // All of the picture is there; only the member's length says that it goes on.
+        QByteArray file = icnsFile({{IcnsMember{"ic10", picture}}});
+        qToBigEndian<quint32>(static_cast<quint32>(8 + picture.size() + 1), file.data() + 12);
+        return file;
+    }();
     QTest::newRow("icns, longer than it is") << QByteArray("icns\x7F\0\0\x10ic10\0\0\0\x08", 16);
 }
 

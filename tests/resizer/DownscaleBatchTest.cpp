@@ -96,12 +96,15 @@ private slots:
         QCOMPARE(QDir(out({})).entryList(QDir::Files), (QStringList{u"a.png"_s, u"c.png"_s}));
     }
 
-    void aSinglePixelLeavesNothing()
+    void aSinglePixelStaysOne()
     {
         QVERIFY(putFlatPng(at(u"dot@2x.png"_s), {1, 1}, Qt::red));
-        const std::vector<DownscaledFile> files = run({at(u"dot@2x.png"_s)});
-        QCOMPARE(files[0].outcome.failure().code, FailureCode::TooSmall);
-        QVERIFY(QDir(out({})).isEmpty());
+        QVERIFY(putFlatPng(at(u"separator@2x.png"_s), {1, 155}, Qt::red));
+        for (const DownscaledFile &file : run({at(u"dot@2x.png"_s), at(u"separator@2x.png"_s)}))
+            QVERIFY(file.outcome.ok());
+        QCOMPARE(QImage(out(u"dot.png"_s)).size(), QSize(1, 1));
+        QCOMPARE(QImage(out(u"separator.png"_s)).size(), QSize(1, 77));
+        QCOMPARE(QImage(out(u"separator.png"_s)).pixelColor(0, 40), QColor(Qt::red));
     }
 
     void aFolderIsNoPicture()

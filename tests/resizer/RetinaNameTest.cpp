@@ -75,8 +75,9 @@ private slots:
         QTest::newRow("odd") << QSize(57, 57) << QSize(28, 28);
         QTest::newRow("odd both") << QSize(101, 75) << QSize(50, 37);
         QTest::newRow("two pixels") << QSize(2, 3) << QSize(1, 1);
-        QTest::newRow("a single pixel leaves nothing") << QSize(1, 1) << QSize(0, 0);
-        QTest::newRow("a line") << QSize(1, 100) << QSize(0, 50);
+        QTest::newRow("a single pixel stays one") << QSize(1, 1) << QSize(1, 1);
+        QTest::newRow("an upright line") << QSize(1, 155) << QSize(1, 77);
+        QTest::newRow("a lying line") << QSize(100, 1) << QSize(50, 1);
         // 16777219 is no single-precision number; the nearest one is 16777220.
         QTest::newRow("beyond single precision") << QSize(16777219, 2) << QSize(8388610, 1);
     }

@@ -62,7 +62,8 @@ private slots:
         QTest::addColumn<QRgb (*)(int, int)>("expected");
         for (const char *name : {"multiplied", "multiplied interlaced", "data in many chunks", "other chunks between"})
             QTest::newRow(name) << &multiplied;
-        for (const char *name : {"opaque", "opaque interlaced", "three channels"})
+        for (const char *name : {"opaque", "opaque by the lowest number", "opaque interlaced", "three channels",
+                                 "three channels that claim alpha"})
             QTest::newRow(name) << &opaque;
         QTest::newRow("colours above alpha") << &cutToAlpha;
     }

@@ -117,11 +117,10 @@ private slots:
         QFETCH(QByteArray, file);
         const std::optional<QImage> ordinary = decodeOrdinaryPng(file);
         QVERIFY(ordinary.has_value());
-        QByteArray exif;
-        QImage general = decodePng(file, &exif);
-        QVERIFY(!general.isNull());
-        general.setColorSpace({});
-        QCOMPARE(*ordinary, general);
+        Result<DecodedPng> general = decodePng(file, {});
+        QVERIFY(general.ok());
+        general.value().picture.setColorSpace({});
+        QCOMPARE(*ordinary, general.value().picture);
     }
 
     void leavesTheRestToTheGeneralDecoder_data()
