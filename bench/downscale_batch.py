@@ -5,7 +5,7 @@
 usage: bench/downscale_batch.py LUMORA [--runs N] [--keep FOLDER] [--peer NAME ...]
 
 The pictures are made by ImageMagick from fixed seeds. sharp is installed by npm into a scratch folder. vipsthumbnail
-knows no percentage: it gets the box that makes its pictures as many pixels in all as the halves have.
+knows no percentage: it gets the box in which its pictures have as many pixels together as the halves.
 Prints times and processor times (user and system; best of the runs, taken in turns), the bytes written, and Lumora's
 ratio to each peer. The processor time hardly depends on what else the machine is doing.
 """
@@ -79,7 +79,7 @@ def make_pictures(folder):
 
 
 def box_of_as_many_pixels(sizes, wanted):
-    """The square box into which the pictures, shrunk only, fit with that many pixels in all."""
+    """The square box into which the pictures, shrunk only, fit with that many pixels together."""
     def pixels(box):
         total = 0
         for width, height in sizes:

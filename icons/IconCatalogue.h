@@ -12,13 +12,13 @@ namespace lumora
 /// One output file of a platform's set. Every icon is square.
 struct IconEntry
 {
-    const char *name; ///< the file name as it stands; the content is PNG whatever it ends with
+    const char *name; ///< the whole file name; the content is PNG whatever it ends with
     int size;         ///< edge length in pixels
 
     bool operator==(const IconEntry &) const = default;
 };
 
-// The lists stand in the order in which their files are written.
+// The lists are in the order in which their files are written.
 
 inline constexpr std::array<IconEntry, 10> iPhoneIcons = {{
     {"Icon.png", 57},

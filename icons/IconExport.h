@@ -49,9 +49,9 @@ struct IconProgress
     QString path;
 };
 
-/// Asked for each platform, in order, just before it would be exported.
+/// Called for each platform, in order, just before it would be exported; returns whether it is.
 using PlatformChoice = std::function<bool(const PlatformIcons &)>;
-/// Told of each picture file, in order, on the thread that exports.
+/// Called for each picture file, in order, on the thread that exports.
 using IconProgressReport = std::function<void(const IconProgress &)>;
 
 struct PlatformIconsRequest

@@ -20,7 +20,7 @@ public:
 };
 
 /// Runs the system's tool: PROGRAM -c icns FOLDER. Its exit status and output are not looked at; what counts is whether
-/// the icon file stands there afterwards.
+/// the icon file is there afterwards.
 class IconutilPacker final : public IconsetPacker
 {
 public:

@@ -31,10 +31,10 @@ struct Piece
     bool finished = false;
 };
 
-/// Sections go before any new size: finishing what was begun keeps the memory low.
+/// Sections go before any new size: finishing a size that is begun keeps memory low.
 constexpr int sectionPriority = 1 << 20;
 
-/// Sizes that take so long that none of them may be left to the end, when no other core has anything to do.
+/// From this size on an icon takes so long that it is begun early: at the end the other cores would wait for it.
 constexpr int smallestEarlySize = 256;
 
 } // namespace
@@ -73,9 +73,9 @@ public:
     }
 
 private:
-    /// Has the pool do the work, that of the highest priority first. The pool itself is told no more than that there is
-    /// some: what threads hand to each other goes through the standard library's lock, which a thread sanitizer sees
-    /// through without a toolkit of its own.
+    /// Queues the work by priority, the highest first. The pool only learns how many pieces of work wait: they pass
+    /// between threads under a lock of the standard library, which a thread sanitizer understands without a Qt built
+    /// for it.
     void start(std::function<void()> work, int priority)
     {
         {

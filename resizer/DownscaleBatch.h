@@ -38,11 +38,11 @@ QString downscaledPath(const QString &source, const QString &destination);
 /// that would be written. Writes nothing; damage behind the header shows only in the batch.
 DownscaledFile foreseenHalf(const DownscaleJob &job);
 
-/// Told about file number `index` of the batch (from 0), once for each file and in their order, whatever became of it.
-/// Answers whether the batch is to go on.
+/// Called once for each file of the batch in their order, `index` counted from 0, whether it succeeded or failed.
+/// Returns whether the batch goes on.
 using FileDownscaled = std::function<bool(qsizetype index, const DownscaledFile &file)>;
 
-/// Halves every file of `paths` into the destination folder, replacing what stands there under the same names. A file
+/// Halves every file of `paths` into the destination folder, replacing what is there under the same names. A file
 /// that cannot be read or written is reported as such and the batch goes on.
 ///
 /// Several files are in work at once, with memory bounded whatever their number and size, but the result is that of one

@@ -34,7 +34,7 @@ struct DownscalePlan
     std::vector<Failure> failures; ///< what is left out, and why; and `NameTaken` for what gets another name
 };
 
-/// Gathers the pictures: a folder stands for every marked picture in it and below, a file for itself. Left out are
+/// Gathers the pictures: a folder means every marked picture in it and below, a file means itself. Left out are
 /// files without a marker or with another extension, folders without any, and, unless allowed, files whose half would
 /// replace a file that is there. Of two files whose halves have the same name, the later one's gets a number
 /// ("a_1.png") and is named among the failures, so that neither is lost and nobody takes one for the other.

@@ -25,7 +25,7 @@ class ResizerViewController final : public ToolViewController, public DropViewDe
     Q_OBJECT
 
 public:
-    /// How long the notice stands that a batch is done.
+    /// How long the notice is shown that a batch is done.
     static constexpr std::chrono::milliseconds noticeDuration{2000};
 
     explicit ResizerViewController(const Services &services, QObject *parent = nullptr);

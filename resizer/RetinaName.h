@@ -7,7 +7,7 @@
 namespace lumora
 {
 
-/// Whether the down-scaler takes the file: one of the markers "@2x", "@2X", "-hd", "-HD" stands anywhere in its path,
+/// Whether the down-scaler takes the file: one of the markers "@2x", "@2X", "-hd", "-HD" is anywhere in its path,
 /// folder names included, and its extension is exactly "png". Looks at the text only.
 bool isDoubleResolution(const QString &path);
 

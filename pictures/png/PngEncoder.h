@@ -14,11 +14,11 @@ class PngRows;
 QByteArray encodePng(const QImage &picture);
 
 /// The same pixels in about half the time for noisy photos, at up to a twentieth more bytes: for batches of many
-/// pictures. Again the same bytes on every run and machine.
+/// pictures. The bytes are the same on every run and machine, too.
 QByteArray encodePngQuickly(const QImage &picture);
 
-/// The same file as `encodePng` from rows of pixels, with several threads at work and no more than their own sections
-/// of the picture in memory besides the compressed file.
+/// The same file as `encodePng` makes of a picture, from rows of pixels: several threads work at once, and besides the
+/// compressed file only the section of each is in memory.
 QByteArray encodePng(const PngRows &picture, int threads);
 
 } // namespace lumora

@@ -33,7 +33,7 @@ std::vector<std::uint8_t> filteredRows(const PngRows &picture, std::span<const R
                                        PngFilterChoice choice);
 
 /// Of rows as `PngFilterChoice::None` gives them, the share of pixels that differ from the one to their left and from
-/// the one above: 0 for one colour, near 1 for a photograph.
+/// the one above: 0 for one color, near 1 for a photograph.
 double novelty(const std::vector<std::uint8_t> &rows, int width);
 
 } // namespace lumora

@@ -24,10 +24,10 @@ namespace
 
 // docs/performance.md holds the measurements behind these figures.
 
-/// Of filtered rows; large enough that what a section cannot find in the one before it does not count.
+/// Of filtered rows: large enough that a section loses little by not looking back into the one before it.
 constexpr qsizetype bytesPerSection = 1024 * 1024;
 
-/// Of filtered rows; a quarter of a section, within these limits, stands for it when its filters are chosen.
+/// Of filtered rows: a section's filters are chosen on a quarter of it, within these limits.
 constexpr qsizetype smallestSample = 16 * 1024;
 constexpr qsizetype largestSample = 64 * 1024;
 constexpr qsizetype shareOfSample = 4;
@@ -37,12 +37,12 @@ constexpr int placesPerSample = 4;
 /// Rows with more novelty are a photograph's.
 constexpr double mostNoveltyOfDrawings = 0.6;
 
-/// Of what a drawing's filters are chosen by.
+/// libdeflate's level on which a drawing's filters are tried.
 constexpr int drawingTrialLevel = 4;
-/// A choice of filters for each row, the costliest, has to save one part in so many of what one filter for all takes.
+/// A choice of filters for each row, the costliest, has to save at least 1/128 of what one filter for all takes.
 constexpr qsizetype leastGainOfRows = 128;
 
-/// Enough to tell which filters suit noise.
+/// The level on which a photo's filters are tried, and its level in a batch.
 constexpr int trialLevel = 1;
 /// Of batches: a photo that shrinks to no less than this share of its bytes at that level is mostly noise.
 constexpr double noisyShare = 0.3;
@@ -129,7 +129,7 @@ std::vector<RowRange> sampleOf(const PngRows &picture, RowRange section)
     return sample;
 }
 
-/// No rule tells which filters suit a picture: plain shapes shrink most without any, slow shades by the pixel to the
+/// No rule says which filters suit a picture: plain shapes shrink most without any, slow shades by the pixel to the
 /// left, photographs by one filter throughout as often as by a choice for each row. So they are tried.
 CompressedRows compressed(const PngRows &picture, RowRange section)
 {

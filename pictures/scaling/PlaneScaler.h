@@ -12,14 +12,14 @@ struct zimg_filter_graph;
 namespace lumora
 {
 
-/// How much a sample of a colour plane holds; the number is its bytes.
+/// How much a sample of a color plane holds; the number is its bytes.
 enum class SampleDepth : int { Bits8 = 1, Bits16 = 2 };
 
 struct FreeAlignedMemory
 {
     void operator()(void *memory) const { std::free(memory); }
 };
-/// Memory that planes may be kept in.
+/// Memory aligned for planes.
 using AlignedBytes = std::unique_ptr<std::uint8_t, FreeAlignedMemory>;
 
 /// What planes and their rows have to be aligned to, in bytes.
@@ -30,7 +30,7 @@ AlignedBytes alignedBytes(std::size_t count);
 /// The distance from one row of a plane to the next, in bytes.
 qsizetype planeStride(int width, SampleDepth depth);
 
-/// Scales single colour planes from one size to another: Lanczos with three lobes, by libzimg. Samples use the whole
+/// Scales single color planes from one size to another: Lanczos with three lobes, by libzimg. Samples use the whole
 /// range of their depth. Used by one thread at a time.
 class PlaneScaler
 {

@@ -52,7 +52,7 @@ def main():
     write("opaque interlaced", opaque, apple=6, interlaced=True)
     write("three channels", three, color_type=2, apple=6)
     write("three channels that claim alpha", three, color_type=2, apple=2)
-    write("colours above alpha", above_alpha)
+    write("colors above alpha", above_alpha)
     write("plain", apple=None)
     write("data ends early", keep=0.6)
     write("no data", keep=0)

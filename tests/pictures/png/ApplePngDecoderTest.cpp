@@ -65,7 +65,7 @@ private slots:
         for (const char *name : {"opaque", "opaque by the lowest number", "opaque interlaced", "three channels",
                                  "three channels that claim alpha"})
             QTest::newRow(name) << &opaque;
-        QTest::newRow("colours above alpha") << &cutToAlpha;
+        QTest::newRow("colors above alpha") << &cutToAlpha;
     }
     void decodes()
     {

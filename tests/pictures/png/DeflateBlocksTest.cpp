@@ -110,7 +110,7 @@ void DeflateBlocksTest::findsWhatZlibFinds_data()
     for (const int level : {0, 1, 4, 7, 12}) {
         QTest::addRow("nothing, level %d", level) << byLibdeflate({}, level);
         QTest::addRow("one byte, level %d", level) << byLibdeflate({42}, level);
-        QTest::addRow("one colour, level %d", level) << byLibdeflate(Bytes(500000, 9), level);
+        QTest::addRow("one color, level %d", level) << byLibdeflate(Bytes(500000, 9), level);
         QTest::addRow("noise, level %d", level) << byLibdeflate(noise(200000, 256), level);
         QTest::addRow("faint noise, level %d", level) << byLibdeflate(noise(600000, 23), level);
         QTest::addRow("mixture, level %d", level) << byLibdeflate(mixture(), level);

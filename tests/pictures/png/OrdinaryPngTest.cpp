@@ -98,7 +98,7 @@ private slots:
         }
         QTest::newRow("grey with a transparent level")
             << noisePng(size, {0, 2}, chunk("tRNS", QByteArray("\0\x02", 2)));
-        QTest::newRow("RGB with a transparent colour")
+        QTest::newRow("RGB with a transparent color")
             << noisePng({1000, 50}, {2, 8}, chunk("tRNS", QByteArray("\0\x07\0\x08\0\x09", 6)));
         QTest::newRow("one pixel") << noisePng({1, 1}, {6, 8});
         QTest::newRow("one column") << noisePng({1, 300}, {2, 8});
@@ -133,13 +133,13 @@ private slots:
         QTest::newRow("signature only") << good.first(8);
         QTest::newRow("16 bits") << noisePng(size, {6, 16});
         QTest::newRow("interlaced") << noisePng(size, {6, 8, 1});
-        QTest::newRow("colour profile") << noisePng(size, {6, 8}, chunk("iCCP", "a profile"));
+        QTest::newRow("color profile") << noisePng(size, {6, 8}, chunk("iCCP", "a profile"));
         QTest::newRow("another gamma") << noisePng(size, {6, 8}, otherGamma);
         QTest::newRow("gamma of sRGB, other primaries") << noisePng(size, {6, 8}, usualGamma + primaries(68000));
         QTest::newRow("turned by its EXIF") << noisePng(size, {6, 8}, chunk("eXIf", "MM"));
         QTest::newRow("palette missing") << noisePng(size, {3, 8});
         QTest::newRow("critical chunk of unknown kind") << noisePng(size, {6, 8}, chunk("CgBI", number32(0)));
-        QTest::newRow("impossible colour type") << noisePng(size, {5, 8});
+        QTest::newRow("impossible color type") << noisePng(size, {5, 8});
         QTest::newRow("impossible depth") << noisePng(size, {2, 4});
         QTest::newRow("filter that does not exist") << noisePng(size, {6, 8}, {}, {}, 6);
         QByteArray damaged = good;

@@ -76,7 +76,7 @@ void PngEncoderTest::readsBackAsItWas_data()
     QTest::newRow("tall, more sections than fit") << gradient({1, 3000});
     QTest::newRow("several sections, noise") << noise({1024, 1024}, QImage::Format_ARGB32);
     QTest::newRow("several sections, gradient") << gradient({1024, 1024});
-    QTest::newRow("several sections, one colour") << QImage(QSize(1024, 1024), QImage::Format_RGB32);
+    QTest::newRow("several sections, one color") << QImage(QSize(1024, 1024), QImage::Format_RGB32);
     QTest::newRow("rows that repeat") << gradient({300, 1}).scaled(300, 40);
     QTest::newRow("transparent black rows that repeat") << transparent({300, 40});
     QTest::newRow("odd rows per section") << gradient({1000, 1013});
