@@ -13,12 +13,17 @@ QImage resizeImage(const QImage &image, int toSize)
     return resample(image, QSize(toSize, toSize));
 }
 
-QImage resizeImage(const QImage &image, int toSize, int withRoundedCorners)
+QImage resizeImage(const QImage &image, int toSize, CornerMode withRoundedCorners)
 {
     QImage result = resizeImage(image, toSize);
-    if (withRoundedCorners != static_cast<int>(CornerMode::None))
+    if (withRoundedCorners != CornerMode::None)
         roundCorners(result, cornerRadius(toSize, withRoundedCorners));
     return result;
+}
+
+QImage resizeImage(const QImage &image, int toSize, int withRoundedCorners)
+{
+    return resizeImage(image, toSize, cornerModeOf(withRoundedCorners));
 }
 
 Outcome saveImage(const QImage &image, BitmapType withType, const QString &toPath)

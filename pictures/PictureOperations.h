@@ -17,8 +17,10 @@ enum class BitmapType : int { Png = 4 };
 /// 1 gives a null picture. Keeps no state; callable on any thread.
 QImage resizeImage(const QImage &image, int toSize);
 
-/// The same with its corners cut (see `CornerMode`): mode 0 gives exactly what the plain operation gives, a number of
-/// no mode square corners.
+/// The same with its corners cut; square ones give exactly what the plain operation gives.
+QImage resizeImage(const QImage &image, int toSize, CornerMode withRoundedCorners);
+
+/// The same by the number of a style (see `cornerModeOf`).
 QImage resizeImage(const QImage &image, int toSize, int withRoundedCorners);
 
 /// Writes the picture to a file as 8-bit RGBA, one pixel per point whatever its scale factor. Replaces what is

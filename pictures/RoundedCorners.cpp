@@ -42,9 +42,15 @@ void fade(std::uint8_t *pixel, unsigned share)
 
 } // namespace
 
-float cornerRadius(int size, int cornerMode)
+CornerMode cornerModeOf(int number)
 {
-    switch (CornerMode{cornerMode}) {
+    const CornerMode mode{number};
+    return mode == CornerMode::Ios6 || mode == CornerMode::Ios7 ? mode : CornerMode::None;
+}
+
+float cornerRadius(int size, CornerMode mode)
+{
+    switch (mode) {
     case CornerMode::Ios6:
         return static_cast<float>(size) / 6.4F;
     case CornerMode::Ios7:

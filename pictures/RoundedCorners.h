@@ -6,12 +6,15 @@
 namespace lumora
 {
 
-/// How an icon's corners are cut. Numbers of no style name square corners.
+/// How an icon's corners are cut; the number is the one that the tools pass on.
 enum class CornerMode : int { None = 0, Ios6 = 1, Ios7 = 2 };
 
+/// The style of that number; numbers of no style mean square corners.
+CornerMode cornerModeOf(int number);
+
 /// The corner radius in pixels of an icon `size` pixels wide: size / 6.4 for iOS 6, size / 4.444444 for iOS 7, both in
-/// single precision, and 0 for every other mode.
-float cornerRadius(int size, int cornerMode);
+/// single precision, and 0 for square ones.
+float cornerRadius(int size, CornerMode mode);
 
 /// Cuts circular corners of `radius` pixels into a `Format_RGBA8888_Premultiplied` picture: inside the arcs nothing
 /// changes, outside is fully transparent, and pixels on an arc keep the share of them that lies inside.

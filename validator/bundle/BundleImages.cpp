@@ -22,8 +22,6 @@ constexpr qint64 largestIconArea = 2 << 20;
 constexpr std::array iconHeights = {512, 144, 120, 152, 1024, 114};
 
 constexpr double firstFlatVersion = 7.0;
-constexpr int corners6 = 1;
-constexpr int corners7 = 2;
 
 Result<QImage> decoded(const PackageSource &source, const QString &path)
 {
@@ -73,7 +71,8 @@ QImage appIcon(const PackageSource &source, const QString &folder, const QString
             continue;
         const auto picture = decoded(source, folder + u'/' + candidates[i]);
         if (picture)
-            return resizeImage(picture.value(), appIconSize, minimumOS >= firstFlatVersion ? corners7 : corners6);
+            return resizeImage(picture.value(), appIconSize,
+                               minimumOS >= firstFlatVersion ? CornerMode::Ios7 : CornerMode::Ios6);
     }
     return {};
 }
