@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "DevicesCommand.h"
 
+#include "CommandText.h"
 #include "Declaration.h"
 #include "devices/DeviceFilter.h"
 
@@ -80,7 +81,7 @@ QString groupLine(const QString &group, const std::vector<DeviceRecord> &devices
         if (device.active)
             models += text(device.model) + (isMini(device) ? u" (mini)"_s : QString());
     }
-    return group + u": "_s + (models.isEmpty() ? u"none"_s : models.join(u", "_s));
+    return group + u": "_s + (models.isEmpty() ? commandText("CLI_NONE") : models.join(u", "_s));
 }
 
 ExitStatus runDevices(Console &console, const DevicesArguments &arguments)

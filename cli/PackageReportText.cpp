@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "PackageReportText.h"
 
+#include "CommandText.h"
 #include "Complaint.h"
 #include "foundation/PrintableText.h"
 #include "validator/bundle/MetadataChecks.h"
@@ -43,16 +44,21 @@ QString factLine(const QString &label, const QString &value)
     return u"  "_s + label.leftJustified(labelWidth) + (value.isEmpty() ? u"-"_s : printableText(value));
 }
 
+/// What a check came to, as wide as the widest of them.
+QString verdictText(const char *textKey)
+{
+    constexpr int width = 9;
+    return u"  "_s + commandText(textKey).leftJustified(width);
+}
+
 QString checkLine(bool valid, const QString &what, const QString &fault)
 {
-    if (valid)
-        return u"  valid    "_s + what;
-    return u"  INVALID  "_s + what + u": "_s + fault;
+    return verdictText(valid ? "CLI_CHECK_VALID" : "CLI_CHECK_INVALID") + what + (valid ? QString() : u": "_s + fault);
 }
 
 QString presenceLine(bool present, const QString &what)
 {
-    return (present ? u"  present  "_s : u"  absent   "_s) + what;
+    return verdictText(present ? "CLI_CHECK_PRESENT" : "CLI_CHECK_ABSENT") + what;
 }
 
 } // namespace
@@ -110,23 +116,25 @@ QStringList reportLines(const QString &file, const PackageReport &report)
         schemes += scheme + u"://"_s;
     return {
         printableText(file),
-        factLine(u"Name"_s, facts.appName()),
-        factLine(u"Version"_s, facts.appVersion()),
-        factLine(u"Platform"_s, facts.appPlatform()),
-        factLine(u"Minimum OS"_s, facts.appMinimumOSVersion()),
-        factLine(u"Bundle identifier"_s, facts.appBundleIdentifier()),
-        factLine(u"Build"_s, buildText(facts)),
-        factLine(u"Localizations"_s, facts.appLocalizations.join(u", "_s)),
-        factLine(u"URL schemes"_s, schemes.join(u", "_s)),
-        factLine(u"Facebook app ID"_s, facts.appFacebookID().value_or(QString())),
-        checkLine(findings.missingIcons.isEmpty(), u"icons"_s,
-                  u"missing "_s + sizeTexts(findings.missingIcons).join(u", "_s)),
-        checkLine(findings.missingLaunchImages.isEmpty(), u"launch images"_s,
-                  u"none of "_s + sizeTexts(findings.missingLaunchImages).join(u", "_s)),
-        checkLine(verdicts.bundleIdentifierValid, u"bundle identifier"_s, u"not in the provisioning profile"_s),
-        checkLine(verdicts.localizationsValid, u"localizations"_s, u"none"_s),
-        presenceLine(verdicts.urlSchemesPresent, u"URL schemes"_s),
-        presenceLine(verdicts.facebookAppIDPresent, u"Facebook app ID"_s),
+        factLine(commandText("CLI_FACT_NAME"), facts.appName()),
+        factLine(commandText("CLI_FACT_VERSION"), facts.appVersion()),
+        factLine(commandText("CLI_FACT_PLATFORM"), facts.appPlatform()),
+        factLine(commandText("CLI_FACT_MINIMUM_OS"), facts.appMinimumOSVersion()),
+        factLine(commandText("CLI_FACT_IDENTIFIER"), facts.appBundleIdentifier()),
+        factLine(commandText("CLI_FACT_BUILD"), buildText(facts)),
+        factLine(commandText("CLI_FACT_LOCALIZATIONS"), facts.appLocalizations.join(u", "_s)),
+        factLine(commandText("CLI_FACT_URL_SCHEMES"), schemes.join(u", "_s)),
+        factLine(commandText("CLI_FACT_FACEBOOK"), facts.appFacebookID().value_or(QString())),
+        checkLine(findings.missingIcons.isEmpty(), commandText("CLI_CHECK_ICONS"),
+                  commandText("CLI_CHECK_MISSING", {{"[SIZES]", sizeTexts(findings.missingIcons).join(u", "_s)}})),
+        checkLine(
+            findings.missingLaunchImages.isEmpty(), commandText("CLI_CHECK_LAUNCH_IMAGES"),
+            commandText("CLI_CHECK_NONE_OF", {{"[SIZES]", sizeTexts(findings.missingLaunchImages).join(u", "_s)}})),
+        checkLine(verdicts.bundleIdentifierValid, commandText("CLI_CHECK_IDENTIFIER"),
+                  commandText("CLI_CHECK_NOT_IN_PROFILE")),
+        checkLine(verdicts.localizationsValid, commandText("CLI_CHECK_LOCALIZATIONS"), commandText("CLI_NONE")),
+        presenceLine(verdicts.urlSchemesPresent, commandText("CLI_FACT_URL_SCHEMES")),
+        presenceLine(verdicts.facebookAppIDPresent, commandText("CLI_FACT_FACEBOOK")),
     };
 }
 

@@ -16,6 +16,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <optional>
 #include <variant>
 #include <vector>
 
@@ -131,7 +132,11 @@ public:
 
     ExitStatus run()
     {
-        const Interruption interruption;
+        // A single package is over at once, and standard input may never end: there, a signal ends the program itself.
+        std::optional<Interruption> interruption;
+        if (m_files.size() > 1 &&
+            std::none_of(m_files.begin(), m_files.end(), [](const GivenPackage &file) { return file.isStdin; }))
+            interruption.emplace();
         for (const GivenPackage &file : m_files) {
             if (Interruption::isRequested())
                 break;

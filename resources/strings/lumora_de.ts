@@ -1728,6 +1728,90 @@
     <source>has no icon that can be shown, so none was written</source>
     <translation>hat kein Icon, das sich zeigen ließe, also wurde keines geschrieben</translation>
   </message>
+  <message id="CLI_NONE">
+    <source>none</source>
+    <translation>keine</translation>
+  </message>
+  <message id="CLI_FACT_NAME">
+    <source>Name</source>
+    <translation>Name</translation>
+  </message>
+  <message id="CLI_FACT_VERSION">
+    <source>Version</source>
+    <translation>Version</translation>
+  </message>
+  <message id="CLI_FACT_PLATFORM">
+    <source>Platform</source>
+    <translation>Plattform</translation>
+  </message>
+  <message id="CLI_FACT_MINIMUM_OS">
+    <source>Minimum OS</source>
+    <translation>Mindestsystem</translation>
+  </message>
+  <message id="CLI_FACT_IDENTIFIER">
+    <source>Bundle identifier</source>
+    <translation>Paketkennung</translation>
+  </message>
+  <message id="CLI_FACT_BUILD">
+    <source>Build</source>
+    <translation>Build</translation>
+  </message>
+  <message id="CLI_FACT_LOCALIZATIONS">
+    <source>Localizations</source>
+    <translation>Sprachen</translation>
+  </message>
+  <message id="CLI_FACT_URL_SCHEMES">
+    <source>URL schemes</source>
+    <translation>URL-Schemata</translation>
+  </message>
+  <message id="CLI_FACT_FACEBOOK">
+    <source>Facebook app ID</source>
+    <translation>Facebook-App-ID</translation>
+  </message>
+  <message id="CLI_CHECK_VALID">
+    <source>valid</source>
+    <translation>gültig</translation>
+  </message>
+  <message id="CLI_CHECK_INVALID">
+    <source>INVALID</source>
+    <translation>UNGÜLTIG</translation>
+  </message>
+  <message id="CLI_CHECK_PRESENT">
+    <source>present</source>
+    <translation>da</translation>
+  </message>
+  <message id="CLI_CHECK_ABSENT">
+    <source>absent</source>
+    <translation>fehlt</translation>
+  </message>
+  <message id="CLI_CHECK_ICONS">
+    <source>icons</source>
+    <translation>Icons</translation>
+  </message>
+  <message id="CLI_CHECK_MISSING">
+    <source>missing [SIZES]</source>
+    <translation>es fehlen [SIZES]</translation>
+  </message>
+  <message id="CLI_CHECK_LAUNCH_IMAGES">
+    <source>launch images</source>
+    <translation>Startbilder</translation>
+  </message>
+  <message id="CLI_CHECK_NONE_OF">
+    <source>none of [SIZES]</source>
+    <translation>keines von [SIZES]</translation>
+  </message>
+  <message id="CLI_CHECK_IDENTIFIER">
+    <source>bundle identifier</source>
+    <translation>Paketkennung</translation>
+  </message>
+  <message id="CLI_CHECK_NOT_IN_PROFILE">
+    <source>not in the provisioning profile</source>
+    <translation>nicht im Bereitstellungsprofil</translation>
+  </message>
+  <message id="CLI_CHECK_LOCALIZATIONS">
+    <source>localizations</source>
+    <translation>Sprachen</translation>
+  </message>
   <message id="CLI_NO_DISPLAY">
     <source>no display to open the window on; these commands work without one: [WORDS]</source>
     <translation>kein Bildschirm für das Fenster; ohne einen gehen diese Befehle: [WORDS]</translation>

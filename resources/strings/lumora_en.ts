@@ -1726,6 +1726,90 @@
     <source>has no icon that can be shown, so none was written</source>
     <translation>has no icon that can be shown, so none was written</translation>
   </message>
+  <message id="CLI_NONE">
+    <source>none</source>
+    <translation>none</translation>
+  </message>
+  <message id="CLI_FACT_NAME">
+    <source>Name</source>
+    <translation>Name</translation>
+  </message>
+  <message id="CLI_FACT_VERSION">
+    <source>Version</source>
+    <translation>Version</translation>
+  </message>
+  <message id="CLI_FACT_PLATFORM">
+    <source>Platform</source>
+    <translation>Platform</translation>
+  </message>
+  <message id="CLI_FACT_MINIMUM_OS">
+    <source>Minimum OS</source>
+    <translation>Minimum OS</translation>
+  </message>
+  <message id="CLI_FACT_IDENTIFIER">
+    <source>Bundle identifier</source>
+    <translation>Bundle identifier</translation>
+  </message>
+  <message id="CLI_FACT_BUILD">
+    <source>Build</source>
+    <translation>Build</translation>
+  </message>
+  <message id="CLI_FACT_LOCALIZATIONS">
+    <source>Localizations</source>
+    <translation>Localizations</translation>
+  </message>
+  <message id="CLI_FACT_URL_SCHEMES">
+    <source>URL schemes</source>
+    <translation>URL schemes</translation>
+  </message>
+  <message id="CLI_FACT_FACEBOOK">
+    <source>Facebook app ID</source>
+    <translation>Facebook app ID</translation>
+  </message>
+  <message id="CLI_CHECK_VALID">
+    <source>valid</source>
+    <translation>valid</translation>
+  </message>
+  <message id="CLI_CHECK_INVALID">
+    <source>INVALID</source>
+    <translation>INVALID</translation>
+  </message>
+  <message id="CLI_CHECK_PRESENT">
+    <source>present</source>
+    <translation>present</translation>
+  </message>
+  <message id="CLI_CHECK_ABSENT">
+    <source>absent</source>
+    <translation>absent</translation>
+  </message>
+  <message id="CLI_CHECK_ICONS">
+    <source>icons</source>
+    <translation>icons</translation>
+  </message>
+  <message id="CLI_CHECK_MISSING">
+    <source>missing [SIZES]</source>
+    <translation>missing [SIZES]</translation>
+  </message>
+  <message id="CLI_CHECK_LAUNCH_IMAGES">
+    <source>launch images</source>
+    <translation>launch images</translation>
+  </message>
+  <message id="CLI_CHECK_NONE_OF">
+    <source>none of [SIZES]</source>
+    <translation>none of [SIZES]</translation>
+  </message>
+  <message id="CLI_CHECK_IDENTIFIER">
+    <source>bundle identifier</source>
+    <translation>bundle identifier</translation>
+  </message>
+  <message id="CLI_CHECK_NOT_IN_PROFILE">
+    <source>not in the provisioning profile</source>
+    <translation>not in the provisioning profile</translation>
+  </message>
+  <message id="CLI_CHECK_LOCALIZATIONS">
+    <source>localizations</source>
+    <translation>localizations</translation>
+  </message>
   <message id="CLI_NO_DISPLAY">
     <source>no display to open the window on; these commands work without one: [WORDS]</source>
     <translation>no display to open the window on; these commands work without one: [WORDS]</translation>

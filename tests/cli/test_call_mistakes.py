@@ -111,6 +111,12 @@ class Calls(unittest.TestCase):
                 with self.subTest(line, variable=variable):
                     self.expect(line, status, said, **{"LC_ALL": "", variable: "de_DE.UTF-8"})
 
+    def test_results_for_people_are_german_those_for_scripts_are_not(self):
+        line = "devices --feature flash_cam"
+        self.assertIn("iPod: none\n", self.run_line(line).stdout)
+        self.assertIn("iPod: keine\n", self.run_line(line, LC_ALL="de_DE.UTF-8").stdout)
+        self.assertEqual(self.run_line(f"{line} --json").stdout, self.run_line(f"{line} --json", LC_ALL="de_DE.UTF-8").stdout)
+
     def test_help_fits_a_terminal(self):
         for language in ("C.UTF-8", "de_DE.UTF-8"):
             for line in HELP_OF_ALL:
