@@ -6,6 +6,7 @@
 #include "Interruption.h"
 #include "PackageReportText.h"
 #include "SpooledInput.h"
+#include "foundation/ProcessLock.h"
 #include "pictures/PictureOperations.h"
 #include "pictures/png/PngEncoder.h"
 #include "validator/archive/OpenPackage.h"
@@ -34,6 +35,7 @@ struct ValidateArguments
 {
     QStringList files;
     QString icon;
+    bool noSandbox = false;
 };
 
 /// A package by the name that messages and results use. "-" is standard input.
@@ -54,21 +56,31 @@ GivenPackage givenPackage(const QString &argument)
 class SpooledPackage
 {
 public:
-    Result<std::unique_ptr<PackageSource>> open(const QString &name)
+    /// Copies all of it. To be called before the process is locked in.
+    void spool(const QString &name)
     {
         auto folder = WorkFolder::make();
-        if (!folder)
-            return folder.failure();
+        if (!folder) {
+            m_spooled = folder.failure();
+            return;
+        }
         m_folder = std::move(folder.value());
-        const QString path = m_folder->path() + u"/input.ipa"_s;
-        const Outcome spooled = spoolDescriptor(STDIN_FILENO, name, path, largestSpooledPackage);
-        if (!spooled)
-            return spooled.failure();
-        return openPackage(path);
+        m_spooled = spoolDescriptor(STDIN_FILENO, name, path(), largestSpooledPackage);
     }
+    Result<std::unique_ptr<PackageSource>> open() const
+    {
+        if (!m_spooled)
+            return m_spooled.failure();
+        return openPackage(path());
+    }
+    /// Where it lies; nothing where there was no need or no room for it.
+    QStringList folders() const { return m_folder ? QStringList(m_folder->path()) : QStringList(); }
 
 private:
+    QString path() const { return m_folder->path() + u"/input.ipa"_s; }
+
     std::unique_ptr<WorkFolder> m_folder;
+    Outcome m_spooled = Done{};
 };
 
 Complaint wordedFailure(const GivenPackage &file, const Failure &failure)
@@ -79,10 +91,10 @@ Complaint wordedFailure(const GivenPackage &file, const Failure &failure)
     return complaintOf(Failure{failure.code, file.name, failure.detail});
 }
 
-std::variant<PackageReport, Complaint> inspected(const GivenPackage &file, const ProfileDecoder &decoder)
+std::variant<PackageReport, Complaint> inspected(const GivenPackage &file, const SpooledPackage &spooled,
+                                                 const ProfileDecoder &decoder)
 {
-    SpooledPackage spooled;
-    const auto source = file.isStdin ? spooled.open(file.name) : openPackage(file.name);
+    const auto source = file.isStdin ? spooled.open() : openPackage(file.name);
     if (!source)
         return wordedFailure(file, source.failure());
     const WholeReading reading = source.value()->readAll([](const PackageEntry &) { return nullptr; });
@@ -124,7 +136,8 @@ bool writeIcon(Console &console, const QString &file, const PackageReport &repor
 class Validation
 {
 public:
-    Validation(Console &console, const ValidateArguments &arguments) : m_console(console), m_icon(arguments.icon)
+    Validation(Console &console, const ValidateArguments &arguments)
+        : m_console(console), m_icon(arguments.icon), m_isSandboxed(!arguments.noSandbox)
     {
         for (const QString &file : arguments.files)
             m_files.push_back(givenPackage(file));
@@ -137,6 +150,11 @@ public:
         if (m_files.size() > 1 &&
             std::none_of(m_files.begin(), m_files.end(), [](const GivenPackage &file) { return file.isStdin; }))
             interruption.emplace();
+        for (const GivenPackage &file : m_files) {
+            if (file.isStdin)
+                m_spooled.spool(file.name);
+        }
+        lockIn();
         for (const GivenPackage &file : m_files) {
             if (Interruption::isRequested())
                 break;
@@ -152,11 +170,33 @@ public:
     }
 
 private:
+    /// From here on the process reaches the packages and the icon's place and nothing else.
+    void lockIn()
+    {
+        if (!m_isSandboxed) {
+            m_console.note(commandText("CLI_SANDBOX_OFF"));
+            return;
+        }
+        LockedPlaces places;
+        for (const GivenPackage &file : m_files) {
+            if (!file.isStdin)
+                places.readable += file.name;
+        }
+        if (!m_icon.isEmpty() && m_icon != u"-")
+            places.written += m_icon;
+        places.scratch = m_spooled.folders();
+        const ProcessLock lock = lockProcess(places);
+        if (lock.files)
+            m_console.note(commandText(lock.calls ? "CLI_SANDBOX_BOTH" : "CLI_SANDBOX_FILES"));
+        else
+            m_console.note(commandText(lock.calls ? "CLI_SANDBOX_CALLS" : "CLI_SANDBOX_NONE"));
+    }
+
     ExitStatus validate(const GivenPackage &file)
     {
         if (m_done++ > 0)
             m_console.print(QString());
-        const auto result = inspected(file, m_decoder);
+        const auto result = inspected(file, m_spooled, m_decoder);
         if (const auto *complaint = std::get_if<Complaint>(&result)) {
             m_console.complain(*complaint);
             m_objects.append(m_console.object(ExitStatus::Unreadable, failureJson(file.name, *complaint)));
@@ -184,7 +224,9 @@ private:
 
     Console &m_console;
     const QString m_icon;
+    const bool m_isSandboxed;
     std::vector<GivenPackage> m_files;
+    SpooledPackage m_spooled;
     const CmsProfileDecoder m_decoder;
     QJsonArray m_objects;
     qsizetype m_done = 0;
@@ -223,6 +265,7 @@ CommandBody declareValidateCommand(Declaration &declaration)
     const auto arguments = std::make_shared<ValidateArguments>();
     declaration.operand("FILE", &arguments->files, "CLI_VALIDATE_FILE").required();
     declaration.option("--icon", &arguments->icon, "OUT.png", "CLI_VALIDATE_ICON").in(ArgumentGroup::Output);
+    declaration.flag("--no-sandbox", &arguments->noSandbox, "CLI_NO_SANDBOX");
     declaration.explain("CLI_VALIDATE_STATUS");
     declaration.example("lumora validate App.ipa");
     declaration.example("lumora validate App.ipa --icon icon.png --json");

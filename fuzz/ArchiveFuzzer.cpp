@@ -2,6 +2,8 @@
 // Any bytes as an app package: unpacked, read, judged and removed as the program does it. Whatever the archive holds,
 // nothing may appear beside the work folder.
 #include "foundation/Log.h"
+#include "validator/archive/FolderSource.h"
+#include "validator/archive/PackageView.h"
 #include "validator/archive/ZipArchive.h"
 #include "validator/bundle/PackageInspection.h"
 
@@ -9,6 +11,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <algorithm>
 #include <cstdlib>
 
 using namespace lumora;
@@ -23,6 +26,31 @@ void inspect(const QString &path, const QString &folder)
 {
     const CmsProfileDecoder decoder;
     inspectPackage(path, {folder, decoder, fuzzLimits});
+}
+
+/// The view of the archive has to show what unpacking leaves: names, damage, failure.
+void compareWithView(const QString &path, const QString &folder)
+{
+    const CmsProfileDecoder decoder;
+    const Extraction extraction = extractPackage(path, {folder, decoder, fuzzLimits});
+    const auto view = PackageView::open(path, fuzzLimits);
+    const auto unpacked = FolderSource::open(folder + u'/' + extractionFolder, FolderLayout::Package);
+    if (!view || !unpacked)
+        return;
+    const WholeReading reading = view.value()->readAll([](const PackageEntry &) { return nullptr; });
+    // A limit ends both, though not at the same entry.
+    if (!extraction.outcome || reading.failure)
+        return;
+    if (reading.damaged != extraction.damagedEntries)
+        std::abort();
+    const QList<PackageEntry> &seen = view.value()->entries();
+    const QList<PackageEntry> &onDisk = unpacked.value()->entries();
+    if (!std::equal(seen.cbegin(), seen.cend(), onDisk.cbegin(), onDisk.cend(),
+                    [](const PackageEntry &one, const PackageEntry &other) {
+                        return one.path == other.path &&
+                               (one.kind == EntryKind::Folder) == (other.kind == EntryKind::Folder);
+                    }))
+        std::abort();
 }
 
 /// The way round minizip that encrypted entries take.
@@ -55,6 +83,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     const QString work = folder.filePath(u"work"_s);
     inspect(path, work);
     extractWithPassword(path, work);
+    QDir(work).removeRecursively();
+    compareWithView(path, work);
     QDir(work).removeRecursively();
     if (QDir(folder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot) !=
         QStringList{u"package.ipa"_s})

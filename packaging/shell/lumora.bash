@@ -22,7 +22,7 @@ _lumora_options() {
     downscale) echo "--overwrite --dry-run --to --out $_lumora_general" ;;
     color) echo "--as $_lumora_general" ;;
     devices) echo "--ios --feature $_lumora_general" ;;
-    validate) echo "--icon $_lumora_general" ;;
+    validate) echo "--icon --no-sandbox $_lumora_general" ;;
     help | version) ;;
     *) echo "--tool $_lumora_general" ;;
   esac

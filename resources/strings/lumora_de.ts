@@ -1392,6 +1392,30 @@
     <source>Write the app's icon, 128 pixels square; - is standard output</source>
     <translation>Das Icon der App schreiben, 128 Pixel im Quadrat; - ist die Standardausgabe</translation>
   </message>
+  <message id="CLI_NO_SANDBOX">
+    <source>Read the packages without locking the process in first</source>
+    <translation>Die Pakete lesen, ohne den Prozess vorher einzusperren</translation>
+  </message>
+  <message id="CLI_SANDBOX_BOTH">
+    <source>Locked in: no other files (Landlock), no connections and no programs (seccomp)</source>
+    <translation>Eingesperrt: keine anderen Dateien (Landlock), keine Verbindungen und keine Programme (seccomp)</translation>
+  </message>
+  <message id="CLI_SANDBOX_FILES">
+    <source>Locked in: no other files (Landlock); the kernel offers no seccomp</source>
+    <translation>Eingesperrt: keine anderen Dateien (Landlock); der Kernel bietet kein seccomp</translation>
+  </message>
+  <message id="CLI_SANDBOX_CALLS">
+    <source>Locked in: no connections and no programs (seccomp); the kernel offers no Landlock</source>
+    <translation>Eingesperrt: keine Verbindungen und keine Programme (seccomp); der Kernel bietet kein Landlock</translation>
+  </message>
+  <message id="CLI_SANDBOX_NONE">
+    <source>Not locked in: the kernel offers neither Landlock nor seccomp</source>
+    <translation>Nicht eingesperrt: Der Kernel bietet weder Landlock noch seccomp</translation>
+  </message>
+  <message id="CLI_SANDBOX_OFF">
+    <source>Not locked in: --no-sandbox</source>
+    <translation>Nicht eingesperrt: --no-sandbox</translation>
+  </message>
   <message id="CLI_VALIDATE_STATUS">
     <source>Ends with 0 when all checks are valid, 1 when one is not, 3 when a file is no archive with an app.</source>
     <translation>Endet mit 0, wenn alle Prüfungen bestanden sind, mit 1, wenn eine nicht, mit 3, wenn eine Datei kein Archiv mit einer App ist.</translation>

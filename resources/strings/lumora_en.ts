@@ -1390,6 +1390,30 @@
     <source>Write the app's icon, 128 pixels square; - is standard output</source>
     <translation>Write the app's icon, 128 pixels square; - is standard output</translation>
   </message>
+  <message id="CLI_NO_SANDBOX">
+    <source>Read the packages without locking the process in first</source>
+    <translation>Read the packages without locking the process in first</translation>
+  </message>
+  <message id="CLI_SANDBOX_BOTH">
+    <source>Locked in: no other files (Landlock), no connections and no programs (seccomp)</source>
+    <translation>Locked in: no other files (Landlock), no connections and no programs (seccomp)</translation>
+  </message>
+  <message id="CLI_SANDBOX_FILES">
+    <source>Locked in: no other files (Landlock); the kernel offers no seccomp</source>
+    <translation>Locked in: no other files (Landlock); the kernel offers no seccomp</translation>
+  </message>
+  <message id="CLI_SANDBOX_CALLS">
+    <source>Locked in: no connections and no programs (seccomp); the kernel offers no Landlock</source>
+    <translation>Locked in: no connections and no programs (seccomp); the kernel offers no Landlock</translation>
+  </message>
+  <message id="CLI_SANDBOX_NONE">
+    <source>Not locked in: the kernel offers neither Landlock nor seccomp</source>
+    <translation>Not locked in: the kernel offers neither Landlock nor seccomp</translation>
+  </message>
+  <message id="CLI_SANDBOX_OFF">
+    <source>Not locked in: --no-sandbox</source>
+    <translation>Not locked in: --no-sandbox</translation>
+  </message>
   <message id="CLI_VALIDATE_STATUS">
     <source>Ends with 0 when all checks are valid, 1 when one is not, 3 when a file is no archive with an app.</source>
     <translation>Ends with 0 when all checks are valid, 1 when one is not, 3 when a file is no archive with an app.</translation>

@@ -96,7 +96,7 @@ ZipArchive::Step ZipArchive::extractEntry(CurrentEntry &entry, ExtractionFolder 
     } else if (overWrite || !folder.exists(*steps) || OverWrite(folder.path() + u'/' + name)) {
         auto file = folder.createFile(*steps);
         if (file)
-            return writeEntry(entry, folder, std::move(file).value(), info, name);
+            return writeEntry(entry, folder, std::move(file).value(), info, QString::fromUtf8(steps->join('/')));
         skipUncreated(name, file.failure());
     }
     entry.close();

@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "tests/doubles/ScriptedFiles.h"
+#include "validator/archive/PackageView.h"
 #include "validator/archive/ZipArchive.h"
 
 #include <QDir>
 #include <QFileInfo>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include <algorithm>
 
 #include <sys/stat.h>
 
@@ -55,6 +58,33 @@ private slots:
         struct stat status = {};
         QCOMPARE(::stat(QFile::encodeName(zeros).constData(), &status), 0);
         QVERIFY2(status.st_blocks * 512 < 1 << 20, "zeros are holes and take no disk space");
+    }
+
+    void readsThemWhereTheyLie_data()
+    {
+        QTest::addColumn<qsizetype>("files");
+        QTest::addColumn<QString>("last");
+        QTest::addColumn<QByteArray>("contents");
+        QTest::newRow("over 4 GB") << qsizetype(2) << u"behind"_s << "behind the large one"_ba;
+        QTest::newRow("sparse over 4 GB") << qsizetype(2) << u"beyond"_s << "beyond 4 GB"_ba;
+        QTest::newRow("70000 entries") << qsizetype(70'000) << u""_s << QByteArray();
+    }
+    void readsThemWhereTheyLie()
+    {
+        QFETCH(QString, last);
+        const auto view =
+            PackageView::open(m_archives.filePath(QString::fromUtf8(QTest::currentDataTag()) + u".zip"_s));
+        QVERIFY(view);
+        QVERIFY(!view.value()->failure());
+        const auto &entries = view.value()->entries();
+        const auto files = std::count_if(entries.cbegin(), entries.cend(),
+                                         [](const PackageEntry &entry) { return entry.kind == EntryKind::File; });
+        QTEST(qsizetype(files), "files");
+        if (!last.isEmpty())
+            QTEST(view.value()->read(last, 1000).value(), "contents");
+        const WholeReading reading = view.value()->readAll([](const PackageEntry &) { return nullptr; });
+        QVERIFY(!reading.failure);
+        QCOMPARE(reading.damaged, QStringList());
     }
 
 private:
