@@ -60,7 +60,7 @@ private slots:
         QTest::newRow("start a program") << u"start"_s << u""_s << Held::Calls;
         QTest::newRow("fork") << u"fork"_s << u""_s << Held::Calls;
         QTest::newRow("signal another process") << u"signal"_s << u""_s << Held::Calls;
-        QTest::newRow("trace") << u"trace"_s << u""_s << Held::Calls;
+        QTest::newRow("take hold of another process") << u"hold"_s << u""_s << Held::Calls;
     }
     void refusesWhatAFaultTries()
     {
