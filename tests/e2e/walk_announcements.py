@@ -15,6 +15,11 @@ from window_system import Desktop
 LISTENER = """
 import pyatspi
 def heard(event):
+    try:
+        say(event)
+    except Exception:  # what it comes from went away meanwhile
+        pass
+def say(event):
     print(event.type, "|", event.source.getRoleName(), "|", event.source.name, flush=True)
 pyatspi.Registry.registerEventListener(heard, "object:property-change:accessible-name",
                                        "object:property-change:accessible-value", "object:state-changed:checked",
