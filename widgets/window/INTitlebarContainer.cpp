@@ -26,9 +26,6 @@ void INTitlebarContainer::mouseMoveEvent(QMouseEvent *event)
 {
     const QPoint travel = event->globalPosition().toPoint() - m_dragStart;
     if (m_drag == Drag::Pressed && travel.manhattanLength() >= QGuiApplication::styleHints()->startDragDistance()) {
-        // The window system moves the window from here on; what the pointer has travelled before would be missing.
-        if (!window()->isMaximized())
-            window()->move(m_windowOrigin + travel);
         QWindow *handle = window()->windowHandle();
         m_drag = handle && handle->startSystemMove() ? Drag::None : Drag::Moves;
     }
