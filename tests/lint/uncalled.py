@@ -63,25 +63,37 @@ def public_face(text: str) -> dict[str, str]:
     return kept
 
 
-def problems(signatures: list[str], kept: dict[str, str]) -> list[str]:
-    """Functions without a caller that nobody marked, and marks for functions that are called or gone."""
-    names = [plain(signature) for signature in signatures]
-    found = [f"{signature}: nothing calls it" for signature, name in zip(signatures, names) if name not in kept]
-    found += [f"{name}: marked in {PUBLIC_FACE.name}, but it is called or gone" for name in kept if name not in names]
+def defined(objects: list[Path]) -> set[str]:
+    """The plain names of all functions that other files could call."""
+    return {plain(name) for name in demangled([min(names) for file in object_files(objects) for names in file.aliases])}
+
+
+def problems(signatures: list[str], kept: dict[str, str], known: set[str]) -> list[str]:
+    """Functions without a caller that nobody marked, and marks that name nothing `known` or give no reason."""
+    found = [f"{signature}: nothing calls it" for signature in signatures if plain(signature) not in kept]
+    found += [f"{name}: marked in {PUBLIC_FACE.name}, but there is no such function" for name in kept if name not in known]
     return found + [f"{name}: marked without a reason" for name, reason in kept.items() if not reason]
 
 
-def unnamed_inline_functions(root: Path) -> list[str]:
-    """Functions written in a header that leave no symbol where nobody calls them: their name stands nowhere else.
+def inline_functions(root: Path) -> dict[str, str]:
+    """The names of functions written in a header, each with its place. The class is taken from the file's name."""
+    found: dict[str, str] = {}
+    for file in program_files(root):
+        if file.suffix == ".h":
+            names = INLINE.findall(NO_CODE.sub(" ", file.read_text("utf-8")))
+            found.update({name: str(file.relative_to(root)) for name in names if name not in NOT_FUNCTIONS})
+    return found
 
-    The class is taken from the file's name."""
+
+def defined_inline(root: Path) -> set[str]:
+    return {f"{Path(place).stem}::{name}" for name, place in inline_functions(root).items()}
+
+
+def unnamed_inline_functions(root: Path) -> list[str]:
+    """Functions written in a header that leave no symbol where nobody calls them: their name is nowhere else."""
     words: Counter[str] = Counter()
-    inline: dict[str, str] = {}
     for file in program_files(root):
         text = file.read_text("utf-8")
-        code = text if file.suffix == ".ui" else NO_CODE.sub(" ", text)
-        words.update(re.findall(r"\w+", code))
-        if file.suffix == ".h":
-            inline.update(dict.fromkeys(INLINE.findall(code), str(file.relative_to(root))))
-    unnamed = [name for name in inline if words[name] == 1 and name not in NOT_FUNCTIONS]
-    return sorted(f"{Path(inline[name]).stem}::{name}() in {inline[name]}" for name in unnamed)
+        words.update(re.findall(r"\w+", text if file.suffix == ".ui" else NO_CODE.sub(" ", text)))
+    unnamed = {name: place for name, place in inline_functions(root).items() if words[name] == 1}
+    return sorted(f"{Path(place).stem}::{name}() in {place}" for name, place in unnamed.items())
