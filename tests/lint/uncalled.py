@@ -68,10 +68,14 @@ def defined(objects: list[Path]) -> set[str]:
     return {plain(name) for name in demangled([min(names) for file in object_files(objects) for names in file.aliases])}
 
 
-def problems(signatures: list[str], kept: dict[str, str], known: set[str]) -> list[str]:
-    """Functions without a caller that nobody marked, and marks that name nothing `known` or give no reason."""
+def outdated(kept: dict[str, str], known: set[str]) -> list[str]:
+    """Marks that name no function any more."""
+    return sorted(set(kept) - known)
+
+
+def problems(signatures: list[str], kept: dict[str, str]) -> list[str]:
+    """Functions without a caller that nobody marked, and marks without a reason."""
     found = [f"{signature}: nothing calls it" for signature in signatures if plain(signature) not in kept]
-    found += [f"{name}: marked in {PUBLIC_FACE.name}, but there is no such function" for name in kept if name not in known]
     return found + [f"{name}: marked without a reason" for name, reason in kept.items() if not reason]
 
 
