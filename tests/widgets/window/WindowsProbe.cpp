@@ -116,7 +116,13 @@ private:
             m_popover.closePopover();
             return;
         }
-        m_popover.displayPopover({m_anchor, Qt::BottomEdge, 0, {}});
+        if (m_popover.position() == PopoverPosition::Below) {
+            m_popover.displayPopover({m_anchor, Qt::BottomEdge, 0, {}});
+            return;
+        }
+        // A position that was set stays with a bare point: the middle of the anchor's lower edge, y upwards.
+        const QPoint inWindow = m_anchor->mapTo(&m_window, QPoint(20, 40));
+        m_popover.displayPopoverInWindow(&m_window, QPointF(inWindow.x(), m_window.height() - inWindow.y()));
     }
 
     void read()
