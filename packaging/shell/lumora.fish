@@ -48,3 +48,4 @@ complete -c lumora -n '__fish_seen_subcommand_from devices' -l ios -x -a '4 5 6 
 complete -c lumora -n '__fish_seen_subcommand_from devices' -l feature -x -a '(__fish_append , retina multitask siri video_rec compass gyroscope gps back_cam front_cam flash_cam bluetooth_le opengl_2 opengl_3)' -d 'Needed features'
 complete -c lumora -n '__fish_seen_subcommand_from validate validator' -a '(__lumora_files ipa)'
 complete -c lumora -n '__fish_seen_subcommand_from validate validator' -l icon -r -F -d 'Write the icon here'
+complete -c lumora -n '__fish_seen_subcommand_from validate validator' -l no-sandbox -d 'Do not lock the process in'

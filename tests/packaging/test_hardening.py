@@ -1,5 +1,6 @@
 # SPDX-License-Identifier: MIT
 """The guards that the release build asks for are in the program that came out; read from its ELF tables."""
+import re
 import unittest
 
 from place import BUILD, run
@@ -17,7 +18,7 @@ class Hardening(unittest.TestCase):
     def check(self, expected, *options):
         for program in PROGRAMS:
             with self.subTest(program):
-                self.assertRegex(readelf(program, *options), expected)
+                self.assertTrue(re.search(expected, readelf(program, *options)), expected)
 
     def test_they_are_position_independent(self):
         self.check(r"Type:\s+DYN", "--file-header")
@@ -34,8 +35,8 @@ class Hardening(unittest.TestCase):
         self.check("__stack_chk_fail", "--dyn-syms")
 
     def test_fortified_calls_are_used(self):
-        # Which ones they are depends on what the code calls; formatting into a buffer is always among them.
-        self.check(r"\b__vsnprintf_chk\b", "--dyn-syms")
+        # Which ones they are depends on what the code calls.
+        self.check(r"\b__(?!stack_)\w+_chk@", "--dyn-syms")
 
     def test_no_search_path_is_built_in_after_installation(self):
         for folder in ("app", "cli"):

@@ -195,7 +195,7 @@ class Flatpak(unittest.TestCase):
         text = (SOURCE / "cmake" / "LumoraDependencies.cmake").read_text()
         found = re.findall(r"find_package\((\w+)", text) + re.findall(r"pkg_check_modules\((\w+)", text)
         wanted = {name.lower() for name in found} - runtime
-        names = {"plist": "libplist"}
+        names = {"plist": "libplist", "seccomp": "libseccomp", "webp": "libwebp"}
         built = {module["name"] for module in self.manifest["modules"]}
         self.assertLessEqual({names.get(name, name) for name in wanted}, built)
 
