@@ -10,7 +10,7 @@ from desktop import WAIT, wait_for
 from wayland_desktop import WaylandDesktop
 
 LUMORA, PROBE = (str(Path(name).resolve()) for name in sys.argv[1:3])
-sys.path.insert(0, str(Path(__file__).resolve().parent.parent / "widgets"))
+sys.path.insert(0, str(Path(__file__).resolve().parent.parent / "widgets" / "window"))
 from windows_driver import Probe  # noqa: E402
 
 GREEN, CYAN = (0, 255, 0), (0, 255, 255)
