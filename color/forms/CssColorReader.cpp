@@ -36,7 +36,6 @@ using Arguments = std::array<Accepted, 3>;
 
 constexpr double anything = 1e6;
 constexpr Accepted hue{true, false, true, 1.0, -anything, anything, 1.0};
-constexpr Accepted byteNumber{true, false, false, 1.0, 0.0, 255.0, 1.0 / 255.0};
 constexpr Accepted share{false, true};
 constexpr Accepted shareOrHundred{true, true, false, 1.0, 0.0, 100.0, 0.01};
 constexpr Accepted byteOrShare{true, true, false, 1.0, 0.0, 255.0, 1.0 / 255.0};

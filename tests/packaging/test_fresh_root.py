@@ -217,6 +217,7 @@ class FreshRoot(unittest.TestCase):
             self.lumora("icon", self.work(source.name), "--size", "16", "--to", self.work("."))
 
     def test_3_the_window_opens(self):
+        (self.root.folder / "scratch" / "dropped.png").touch()
         with Screen() as screen:
             window = subprocess.Popen(
                 self.root.command("lumora", self.work("dropped.png"), display=screen.display),
