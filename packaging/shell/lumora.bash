@@ -16,7 +16,10 @@ _lumora_command() {
 
 _lumora_options() {
   case $1 in
-    icons) echo "--example --platform --to --out $_lumora_general" ;;
+    icons)
+      echo "--example --platform --to --out --name --dark --tinted --foreground --background --monochrome --layer --flatten" \
+        "--fit --ios-form --mac-full-bleed --into --dry-run --flavor --target --check $_lumora_general"
+      ;;
     icon) echo "--example --size --corners --to --out --output $_lumora_general" ;;
     placeholders) echo "--set --size --to --out $_lumora_general" ;;
     downscale) echo "--overwrite --dry-run --to --out $_lumora_general" ;;
@@ -33,7 +36,16 @@ _lumora_values() {
   case $1:$2 in
     *:--to | *:--out) echo folder ;;
     icon:--output | icon:-o | validate:--icon) echo file ;;
-    icons:--platform) echo "list:iphone ipad mac android web-touch favicon all" ;;
+    icons:--platform)
+      echo "list:iphone ipad mac android web-touch favicon all ios macos watchos adaptive web windows linux tvos visionos" \
+        "icon-composer today"
+      ;;
+    icons:--into | icons:--check) echo folder ;;
+    icons:--dark | icons:--tinted | icons:--foreground | icons:--background | icons:--monochrome | icons:--layer)
+      echo file
+      ;;
+    icons:--ios-form) echo "one-size sizes" ;;
+    icons:--name | icons:--flatten | icons:--flavor | icons:--target) echo anything ;;
     icon:--corners) echo "none ios6 ios7" ;;
     placeholders:--set) echo "ios mac" ;;
     color:--as) echo "hex ios mac rgb css all" ;;
@@ -50,7 +62,8 @@ _lumora_values() {
 # The endings of the files that a command works on, as an extended pattern.
 _lumora_operands() {
   case $1 in
-    icons | icon) echo "@(png|jpg|jpeg|tif|tiff|webp|bmp|gif|icns)" ;;
+    icons) echo "@(png|jpg|jpeg|tif|tiff|webp|bmp|gif|icns|svg)" ;;
+    icon) echo "@(png|jpg|jpeg|tif|tiff|webp|bmp|gif|icns)" ;;
     downscale) echo "png" ;;
     validate) echo "ipa" ;;
     "") echo "@(png|jpg|jpeg|tif|tiff|webp|bmp|gif|icns|ipa)" ;;
