@@ -6,6 +6,8 @@
 #include "Interruption.h"
 #include "PackageReportText.h"
 #include "SpooledInput.h"
+#include "StoreReport.h"
+#include "foundation/WholeFile.h"
 #include "pictures/PictureOperations.h"
 #include "pictures/png/PngEncoder.h"
 #include "validator/archive/OpenPackage.h"
@@ -34,6 +36,29 @@ struct ValidateArguments
 {
     QStringList files;
     QString icon;
+    QString rules = u"auto"_s;
+    QString failOn = u"error"_s;
+    QStringList ignored;
+    QString ignoreFile;
+    QString on;
+};
+
+/// What is asked of every package.
+struct Demands
+{
+    QString rules;                  ///< "auto", "store", "classic" or "all"
+    std::optional<Severity> failOn; ///< the least severe finding that counts; nothing for none
+    QStringList ignored;            ///< ids or store codes
+    RuleSettings settings;
+};
+
+/// A package with all that is known of it.
+struct Inspection
+{
+    PackageReport report;
+    std::optional<PackageContents> contents; ///< nothing where only the classic rules are asked for
+    QList<Finding> findings;
+    bool classicCounts = true;
 };
 
 /// A package by the name that messages and results use. "-" is standard input.
@@ -79,18 +104,32 @@ Complaint wordedFailure(const GivenPackage &file, const Failure &failure)
     return complaintOf(Failure{failure.code, file.name, failure.detail});
 }
 
-std::variant<PackageReport, Complaint> inspected(const GivenPackage &file, const ProfileDecoder &decoder)
+std::variant<Inspection, Complaint> inspected(const GivenPackage &file, const ProfileDecoder &decoder,
+                                              const Demands &demands)
 {
     SpooledPackage spooled;
     const auto source = file.isStdin ? spooled.open(file.name) : openPackage(file.name);
     if (!source)
         return wordedFailure(file, source.failure());
-    const WholeReading reading = source.value()->readAll([](const PackageEntry &) { return nullptr; });
-    PackageReport report = inspectPackage(*source.value(), reading, decoder);
-    const Outcome outcome = reportOutcome(report);
+    Inspection inspection;
+    WholeReading reading;
+    if (demands.rules == u"classic") {
+        reading = source.value()->readAll([](const PackageEntry &) { return nullptr; });
+    } else {
+        inspection.contents = readPackageContents(*source.value());
+        reading = inspection.contents->reading;
+    }
+    inspection.report = inspectPackage(*source.value(), reading, decoder);
+    const Outcome outcome = reportOutcome(inspection.report);
     if (!outcome)
         return wordedFailure(file, outcome.failure());
-    return report;
+    if (inspection.contents) {
+        const bool isOld = isOfOldTime(*inspection.contents);
+        inspection.classicCounts = demands.rules == u"all" || (demands.rules == u"auto" && isOld);
+        if (demands.rules != u"auto" || !isOld)
+            inspection.findings = findingsIn(*inspection.contents, demands.settings, demands.ignored);
+    }
+    return inspection;
 }
 
 void complainOfDamage(Console &console, const QString &file, const PackageReport &report)
@@ -124,7 +163,8 @@ bool writeIcon(Console &console, const QString &file, const PackageReport &repor
 class Validation
 {
 public:
-    Validation(Console &console, const ValidateArguments &arguments) : m_console(console), m_icon(arguments.icon)
+    Validation(Console &console, const ValidateArguments &arguments, Demands demands)
+        : m_console(console), m_icon(arguments.icon), m_demands(std::move(demands))
     {
         for (const QString &file : arguments.files)
             m_files.push_back(givenPackage(file));
@@ -156,20 +196,52 @@ private:
     {
         if (m_done++ > 0)
             m_console.print(QString());
-        const auto result = inspected(file, m_decoder);
+        const auto result = inspected(file, m_decoder, m_demands);
         if (const auto *complaint = std::get_if<Complaint>(&result)) {
             m_console.complain(*complaint);
-            m_objects.append(m_console.object(ExitStatus::Unreadable, failureJson(file.name, *complaint)));
+            m_objects.append(m_console.object(ExitStatus::Unreadable, failureJson(file.name, *complaint), schema));
             return ExitStatus::Unreadable;
         }
-        const PackageReport &report = std::get<PackageReport>(result);
+        const Inspection &inspection = std::get<Inspection>(result);
+        const PackageReport &report = inspection.report;
         complainOfDamage(m_console, file.name, report);
-        for (const QString &line : reportLines(file.name, report))
-            m_console.print(line);
+        printLines(file.name, inspection);
         const bool isIconWritten = m_icon.isEmpty() || writeIcon(m_console, file.name, report, m_icon);
-        const ExitStatus status = allJudgedValid(report) && isIconWritten ? ExitStatus::Done : ExitStatus::Refused;
-        m_objects.append(m_console.object(status, reportJson(file.name, report)));
+        const bool isRefused =
+            !isIconWritten || failsByFindings(inspection) || (inspection.classicCounts && !allJudgedValid(report));
+        const ExitStatus status = isRefused ? ExitStatus::Refused : ExitStatus::Done;
+        QJsonObject object = reportJson(file.name, report);
+        const QJsonObject store = storeJson(inspection.contents.value_or(PackageContents()), inspection.findings);
+        for (auto member = store.begin(); member != store.end(); ++member)
+            object.insert(member.key(), member.value());
+        m_objects.append(m_console.object(status, object, schema));
         return status;
+    }
+
+    /// Facts, then what the store finds, then the classic checks.
+    void printLines(const QString &name, const Inspection &inspection)
+    {
+        const QStringList lines = reportLines(name, inspection.report);
+        const QStringList found = findingLines(inspection.findings);
+        const bool hasHeadings = !inspection.classicCounts || !found.isEmpty();
+        const qsizetype facts = std::max<qsizetype>(0, lines.size() - classicLines);
+        for (const QString &line : lines.first(facts) + found)
+            m_console.print(line);
+        if (hasHeadings && found.isEmpty())
+            m_console.print(u"  valid    the store's rules"_s);
+        if (m_demands.rules == u"store")
+            return;
+        if (hasHeadings)
+            m_console.print(u"  iOS 7 rules"_s);
+        for (const QString &line : lines.sliced(facts))
+            m_console.print(line);
+    }
+
+    bool failsByFindings(const Inspection &inspection) const
+    {
+        return m_demands.failOn && std::ranges::any_of(inspection.findings, [&](const Finding &finding) {
+                   return finding.rule->severity >= *m_demands.failOn;
+               });
     }
 
     /// One object for one file, an array for several.
@@ -182,8 +254,13 @@ private:
         return m_console.finish(m_status);
     }
 
+    static constexpr int schema = 2;
+    /// The checks at the end of a report's lines.
+    static constexpr qsizetype classicLines = 6;
+
     Console &m_console;
     const QString m_icon;
+    const Demands m_demands;
     std::vector<GivenPackage> m_files;
     const CmsProfileDecoder m_decoder;
     QJsonArray m_objects;
@@ -205,15 +282,59 @@ std::optional<Complaint> misuseOf(const Console &console, const ValidateArgument
     return {};
 }
 
+/// Ids out of a file, one a line; what follows a "#" is a remark.
+Result<QStringList> idsInFile(const QString &path)
+{
+    constexpr qint64 largest = 1 << 20;
+    const auto bytes = readWholeFile(path, largest);
+    if (!bytes)
+        return bytes.failure();
+    QStringList ids;
+    for (const QString &line : QString::fromUtf8(bytes.value()).split(u'\n')) {
+        const QString id = line.section(u'#', 0, 0).trimmed();
+        if (!id.isEmpty())
+            ids += id;
+    }
+    return ids;
+}
+
+std::variant<Demands, Complaint> demandsOf(const ValidateArguments &arguments)
+{
+    Demands demands{arguments.rules, Severity::Error, arguments.ignored, {}};
+    if (arguments.failOn == u"warning")
+        demands.failOn = Severity::Warning;
+    else if (arguments.failOn == u"never")
+        demands.failOn = std::nullopt;
+    if (!arguments.ignoreFile.isEmpty()) {
+        const auto ids = idsInFile(arguments.ignoreFile);
+        if (!ids)
+            return complaintOf(ids.failure());
+        demands.ignored += ids.value();
+    }
+    for (const QString &id : demands.ignored) {
+        if (ruleNamed(id) == nullptr)
+            return misuse("unknown-rule", commandText("CLI_UNKNOWN_RULE", {{"[RULE]", quoted(id)}}));
+    }
+    demands.settings.on = arguments.on.isEmpty() ? QDate::currentDate() : QDate::fromString(arguments.on, Qt::ISODate);
+    if (!demands.settings.on.isValid())
+        return misuse("not-a-date", commandText("CLI_NOT_A_DATE", {{"[DATE]", quoted(arguments.on)}}));
+    return demands;
+}
+
 ExitStatus runValidate(Console &console, const ValidateArguments &arguments)
 {
     if (const std::optional<Complaint> problem = misuseOf(console, arguments)) {
         console.complain(*problem);
         return ExitStatus::Usage;
     }
+    auto demands = demandsOf(arguments);
+    if (const auto *problem = std::get_if<Complaint>(&demands)) {
+        console.complain(*problem);
+        return ExitStatus::Usage;
+    }
     if (arguments.icon == u"-")
         console.keepStdoutForAFile();
-    return Validation(console, arguments).run();
+    return Validation(console, arguments, std::get<Demands>(std::move(demands))).run();
 }
 
 } // namespace
@@ -223,6 +344,13 @@ CommandBody declareValidateCommand(Declaration &declaration)
     const auto arguments = std::make_shared<ValidateArguments>();
     declaration.operand("FILE", &arguments->files, "CLI_VALIDATE_FILE").required();
     declaration.option("--icon", &arguments->icon, "OUT.png", "CLI_VALIDATE_ICON").in(ArgumentGroup::Output);
+    declaration.option("--rules", &arguments->rules, "RULES", "CLI_VALIDATE_RULES")
+        .words({u"auto"_s, u"store"_s, u"classic"_s, u"all"_s});
+    declaration.option("--fail-on", &arguments->failOn, "SEVERITY", "CLI_VALIDATE_FAIL_ON")
+        .words({u"error"_s, u"warning"_s, u"never"_s});
+    declaration.option("--ignore", &arguments->ignored, "ID", "CLI_VALIDATE_IGNORE").list();
+    declaration.option("--ignore-file", &arguments->ignoreFile, "FILE", "CLI_VALIDATE_IGNORE_FILE");
+    declaration.option("--on", &arguments->on, "DATE", "CLI_VALIDATE_ON");
     declaration.explain("CLI_VALIDATE_STATUS");
     declaration.example("lumora validate App.ipa");
     declaration.example("lumora validate App.ipa --icon icon.png --json");

@@ -22,7 +22,7 @@ _lumora_options() {
     downscale) echo "--overwrite --dry-run --to --out $_lumora_general" ;;
     color) echo "--as $_lumora_general" ;;
     devices) echo "--ios --feature $_lumora_general" ;;
-    validate) echo "--icon $_lumora_general" ;;
+    validate) echo "--icon --rules --fail-on --ignore --ignore-file --on $_lumora_general" ;;
     help | version) ;;
     *) echo "--tool $_lumora_general" ;;
   esac
@@ -32,7 +32,7 @@ _lumora_options() {
 _lumora_values() {
   case $1:$2 in
     *:--to | *:--out) echo folder ;;
-    icon:--output | icon:-o | validate:--icon) echo file ;;
+    icon:--output | icon:-o | validate:--icon | validate:--ignore-file) echo file ;;
     icons:--platform) echo "list:iphone ipad mac android web-touch favicon all" ;;
     icon:--corners) echo "none ios6 ios7" ;;
     placeholders:--set) echo "ios mac" ;;
@@ -42,7 +42,9 @@ _lumora_values() {
       echo "list:retina multitask siri video_rec compass gyroscope gps back_cam front_cam flash_cam bluetooth_le" \
         "opengl_2 opengl_3"
       ;;
-    icon:--size | placeholders:--size) echo anything ;;
+    validate:--rules) echo "auto store classic all" ;;
+    validate:--fail-on) echo "error warning never" ;;
+    icon:--size | placeholders:--size | validate:--ignore | validate:--on) echo anything ;;
     :--tool) echo "$_lumora_tools" ;;
   esac
 }

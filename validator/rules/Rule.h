@@ -60,6 +60,9 @@ const Rule *ruleNamed(const QString &name);
 /// "error", "warning", "note".
 QString severityName(Severity severity);
 
+/// True for an app of the time before these rules: built with an SDK before iOS 8, or with none that is named.
+bool isOfOldTime(const PackageContents &contents);
+
 struct Finding
 {
     const Rule *rule = nullptr;
