@@ -33,6 +33,8 @@ public:
     Argument &operand(const char *name, Argument::Target target, const char *textKey);
     /// Of these (options or operands, by their names) exactly one has to be given.
     void exactlyOne(const QStringList &names);
+    /// Of these, one or several have to be given.
+    void atLeastOne(const QStringList &names);
     /// Of these, one at most may be given.
     void atMostOne(const QStringList &names);
     /// A whole command line for the end of the help; two for each command. A test runs each.
@@ -44,6 +46,7 @@ public:
     {
         QStringList names;
         bool isRequired = true;
+        bool isExclusive = true;
     };
 
     const QString &commandName() const { return m_commandName; }

@@ -30,6 +30,8 @@ struct OutputPlace
 
     /// `toKey` explains --to; `others` are further options of which exactly one has to be given ("-o").
     void declareOn(Declaration &declaration, const char *toKey, const QStringList &others = {});
+    /// The same where one of `others` does without a place: each may be given with --to or --out or alone.
+    void declareBeside(Declaration &declaration, const char *toKey, const QStringList &others);
 
     bool isExact() const { return !out.isEmpty(); }
     /// DIR itself, made where it is missing.
@@ -37,6 +39,9 @@ struct OutputPlace
     /// The folder of this run: a fresh one of that name in --to DIR, or --out DIR. Call it when the input is known to
     /// be good, so that nothing is left of a call that is refused.
     Result<ExportFolder> open(const QString &baseName) const;
+
+private:
+    void declareOptions(Declaration &declaration, const char *toKey);
 };
 
 } // namespace lumora
