@@ -3,8 +3,8 @@
 
 #include "AppDelegate.h"
 #include "HeaderView.h"
-#include "ITSidebar.h"
 #include "ToolTable.h"
+#include "app/sidebar/ITSidebar.h"
 #include "tool/ToolViewController.h"
 #include "widgets/buttons/ImageButton.h"
 #include "widgets/window/INAppStoreWindow.h"

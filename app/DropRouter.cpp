@@ -2,7 +2,7 @@
 #include "DropRouter.h"
 
 #include "AppDelegate.h"
-#include "ITSidebar.h"
+#include "app/sidebar/ITSidebar.h"
 #include "foundation/ToolFacts.h"
 #include "tool/DropView.h"
 #include "tool/ToolViewController.h"

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "WindowArguments.h"
 
-#include "cli/ArgumentParser.h"
-#include "cli/CommandTable.h"
-#include "cli/CommandText.h"
-#include "cli/OutputPlace.h"
-#include "cli/Suggestion.h"
+#include "cli/arguments/ArgumentParser.h"
+#include "cli/arguments/OutputPlace.h"
+#include "cli/arguments/Suggestion.h"
+#include "cli/commands/CommandTable.h"
+#include "cli/console/CommandText.h"
 
 #include <QFileInfo>
 #include <QUrl>

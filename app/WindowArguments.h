@@ -2,7 +2,7 @@
 #pragma once
 
 #include "BusApplication.h"
-#include "cli/Complaint.h"
+#include "cli/console/Complaint.h"
 
 #include <variant>
 

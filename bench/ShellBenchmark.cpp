@@ -2,8 +2,8 @@
 // Times tool switches up to the drawn frame, and how long the event loop stalls while all platforms are exported.
 #include "Heartbeat.h"
 #include "app/AppDelegate.h"
-#include "app/ITSidebar.h"
 #include "app/ToolTable.h"
+#include "app/sidebar/ITSidebar.h"
 #include "icons/IconsViewController.h"
 #include "resources/Resources.h"
 #include "tests/doubles/RecordingServices.h"

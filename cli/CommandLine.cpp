@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "CommandLine.h"
 
-#include "ArgumentParser.h"
-#include "CommandTable.h"
-#include "CommandText.h"
-#include "Console.h"
-#include "Declaration.h"
 #include "HelpText.h"
-#include "Suggestion.h"
+#include "cli/arguments/ArgumentParser.h"
+#include "cli/arguments/Declaration.h"
+#include "cli/arguments/Suggestion.h"
+#include "cli/commands/CommandTable.h"
+#include "cli/console/CommandText.h"
+#include "cli/console/Console.h"
 #include "foundation/Version.h"
 #include "resources/Resources.h"
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Complaint.h"
-#include "Console.h"
+#include "cli/console/Complaint.h"
+#include "cli/console/Console.h"
 
 #include <functional>
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "HelpText.h"
 
-#include "CommandTable.h"
-#include "CommandText.h"
-#include "Declaration.h"
+#include "cli/arguments/Declaration.h"
+#include "cli/commands/CommandTable.h"
+#include "cli/console/CommandText.h"
 
 #include <algorithm>
 

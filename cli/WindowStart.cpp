@@ -2,7 +2,7 @@
 #include "WindowStart.h"
 
 #include "CommandLine.h"
-#include "CommandText.h"
+#include "cli/console/CommandText.h"
 
 #include <cerrno>
 #include <filesystem>

@@ -2,9 +2,9 @@
 #include "BFColorPickerPopoverView.h"
 
 #include "BFColorPickerPopover.h"
-#include "DragRule.h"
 #include "PickerContent.h"
 #include "PickerMetrics.h"
+#include "color/picking/DragRule.h"
 #include "widgets/popover/ScreenCoordinates.h"
 
 #include <QMouseEvent>

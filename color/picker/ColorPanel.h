@@ -3,7 +3,7 @@
 
 #include "PickerMode.h"
 #include "PickerModel.h"
-#include "RecentColors.h"
+#include "color/picking/RecentColors.h"
 
 #include <QPointer>
 #include <QWidget>

@@ -4,7 +4,7 @@
 #include "ColorPainting.h"
 #include "ColorWheelAccessible.h"
 #include "PickerMetrics.h"
-#include "Wheel.h"
+#include "color/picking/Wheel.h"
 #include "widgets/style/InstallAccessible.h"
 #include "widgets/style/Palette.h"
 

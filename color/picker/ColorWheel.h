@@ -2,7 +2,7 @@
 #pragma once
 
 #include "PickerModel.h"
-#include "Wheel.h"
+#include "color/picking/Wheel.h"
 
 #include "widgets/style/KeyboardFocus.h"
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "PickerMode.h"
-#include "RecentColors.h"
+#include "color/picking/RecentColors.h"
 
 #include <QHash>
 #include <QPointer>

@@ -5,9 +5,9 @@
 #include "ColorWheel.h"
 #include "PickerMetrics.h"
 #include "PickerModel.h"
-#include "RecentColors.h"
 #include "SwatchList.h"
 #include "ToolPalette.h"
+#include "color/picking/RecentColors.h"
 #include "tool/DropDownStyle.h"
 #include "widgets/style/Fonts.h"
 

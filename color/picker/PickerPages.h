@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "PickedColor.h"
+#include "color/picking/PickedColor.h"
 
 #include <QWidget>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "NamedColors.h"
+#include "color/picking/NamedColors.h"
 
 #include <QAbstractListModel>
 #include <QListView>

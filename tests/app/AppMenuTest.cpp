@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/AppMenu.h"
 #include "ShellFixture.h"
-#include "app/ITSidebar.h"
 #include "app/ToolTable.h"
+#include "app/sidebar/ITSidebar.h"
 #include "resources/Resources.h"
 #include "ui_IconsViewController.h"
 

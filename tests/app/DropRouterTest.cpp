@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "app/DropRouter.h"
 #include "ShellFixture.h"
-#include "app/ITSidebar.h"
-#include "app/ITSidebarItemCell.h"
-#include "app/SidebarMatrix.h"
+#include "app/sidebar/ITSidebar.h"
+#include "app/sidebar/ITSidebarItemCell.h"
+#include "app/sidebar/SidebarMatrix.h"
 #include "foundation/ToolFacts.h"
 #include "resources/Resources.h"
 #include "tool/DropView.h"

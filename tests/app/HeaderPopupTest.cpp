@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ShellFixture.h"
 #include "app/HeaderView.h"
-#include "app/ITSidebar.h"
+#include "app/sidebar/ITSidebar.h"
 #include "resources/Resources.h"
 #include "tool/PopoverAlert.h"
 #include "widgets/buttons/IconButton.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ShellFixture.h"
 #include "app/FileOpenFilter.h"
-#include "app/ITSidebar.h"
+#include "app/sidebar/ITSidebar.h"
 #include "resources/Resources.h"
 #include "ui_IconsViewController.h"
 #include "validator/ValidaterViewController.h"

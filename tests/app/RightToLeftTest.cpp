@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/AppDelegate.h"
 #include "app/HeaderView.h"
-#include "app/ITSidebar.h"
 #include "app/ToolTable.h"
+#include "app/sidebar/ITSidebar.h"
 #include "placeholders/PlaceholderViewController.h"
 #include "resources/Resources.h"
 #include "tests/doubles/RecordingServices.h"

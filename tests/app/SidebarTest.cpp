@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "app/ITSidebar.h"
-#include "app/ITSidebarItemCell.h"
-#include "app/SidebarMatrix.h"
-#include "app/SidebarScrollView.h"
+#include "app/sidebar/ITSidebar.h"
+#include "app/sidebar/ITSidebarItemCell.h"
+#include "app/sidebar/SidebarMatrix.h"
+#include "app/sidebar/SidebarScrollView.h"
 #include "widgets/style/Palette.h"
 
 #include <QTest>

@@ -3,7 +3,7 @@
 // Does one job as the window does it, all panes in place, and ends when the pane says that it is done. What a user
 // would click and choose is given.
 #include "app/AppDelegate.h"
-#include "app/ITSidebar.h"
+#include "app/sidebar/ITSidebar.h"
 #include "icons/IconsViewController.h"
 #include "placeholders/PlaceholderViewController.h"
 #include "resizer/ResizerViewController.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/AppDelegate.h"
 #include "app/HeaderView.h"
-#include "app/ITSidebar.h"
+#include "app/sidebar/ITSidebar.h"
 #include "icons/IconsViewController.h"
 #include "resources/Resources.h"
 #include "tests/doubles/RecordingServices.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "color/picker/ColorWheel.h"
 #include "PickerTest.h"
-#include "color/picker/Wheel.h"
+#include "color/picking/Wheel.h"
 
 #include <QMouseEvent>
 #include <QSignalSpy>

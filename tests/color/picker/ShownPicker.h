@@ -6,7 +6,7 @@
 #include "color/picker/PickerContent.h"
 #include "color/picker/PickerModel.h"
 #include "color/picker/PickerPages.h"
-#include "color/picker/Pipette.h"
+#include "color/pipette/Pipette.h"
 
 #include <QAccessible>
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Argument.h"
-#include "Console.h"
+#include "cli/console/Console.h"
 
 #include <deque>
 #include <vector>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "PackageReportText.h"
 
-#include "CommandText.h"
-#include "Complaint.h"
+#include "cli/console/CommandText.h"
+#include "cli/console/Complaint.h"
 #include "foundation/PrintableText.h"
 #include "validator/bundle/MetadataChecks.h"
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "ValidateCommand.h"
 
-#include "CommandText.h"
-#include "Declaration.h"
-#include "Interruption.h"
 #include "PackageReportText.h"
-#include "SpooledInput.h"
+#include "cli/arguments/Declaration.h"
+#include "cli/console/CommandText.h"
+#include "cli/console/Interruption.h"
+#include "cli/console/SpooledInput.h"
 #include "foundation/ProcessLock.h"
 #include "pictures/PictureOperations.h"
 #include "pictures/png/PngEncoder.h"

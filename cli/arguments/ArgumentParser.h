@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Complaint.h"
+#include "cli/console/Complaint.h"
 
 #include <QStringList>
 

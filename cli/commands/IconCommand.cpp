@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "IconCommand.h"
 
-#include "CommandText.h"
-#include "Declaration.h"
 #include "IconInput.h"
 #include "IconReport.h"
-#include "Interruption.h"
+#include "cli/arguments/Declaration.h"
+#include "cli/console/CommandText.h"
+#include "cli/console/Interruption.h"
 #include "icons/IconExport.h"
 #include "pictures/PictureOperations.h"
 #include "pictures/png/PngEncoder.h"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "IconInput.h"
 
-#include "CommandText.h"
-#include "Declaration.h"
+#include "cli/arguments/Declaration.h"
+#include "cli/console/CommandText.h"
 #include "foundation/WholeFile.h"
 #include "icons/IconSource.h"
 #include "pictures/PictureReader.h"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ColorCommand.h"
 
-#include "CommandText.h"
-#include "Declaration.h"
+#include "cli/arguments/Declaration.h"
+#include "cli/console/CommandText.h"
 #include "color/ColorCode.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "OutputPlace.h"
+#include "cli/arguments/OutputPlace.h"
 #include "foundation/Result.h"
 
 #include <QImage>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "DownscaleCommand.h"
 
-#include "CommandText.h"
-#include "Declaration.h"
-#include "Interruption.h"
-#include "OutputPlace.h"
+#include "cli/arguments/Declaration.h"
+#include "cli/arguments/OutputPlace.h"
+#include "cli/console/CommandText.h"
+#include "cli/console/Interruption.h"
 #include "resizer/DownscalePlan.h"
 
 #include <QDir>

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "PlaceholdersCommand.h"
 
-#include "CommandText.h"
-#include "Declaration.h"
-#include "Interruption.h"
-#include "OutputPlace.h"
-#include "TypedNumber.h"
+#include "cli/arguments/Declaration.h"
+#include "cli/arguments/OutputPlace.h"
+#include "cli/arguments/TypedNumber.h"
+#include "cli/console/CommandText.h"
+#include "cli/console/Interruption.h"
 #include "placeholders/LabelFont.h"
 #include "placeholders/PlaceholderExport.h"
 #include "placeholders/PlaceholderSizes.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "color/picker/PortalPipette.h"
+#include "color/pipette/PortalPipette.h"
 
 #include <QDBusContext>
 #include <QDBusMessage>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "ArgumentParser.h"
 
-#include "CommandText.h"
 #include "Declaration.h"
 #include "Suggestion.h"
 #include "TypedNumber.h"
+#include "cli/console/CommandText.h"
 
 #include <algorithm>
 

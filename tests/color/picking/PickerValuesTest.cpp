@@ -2,11 +2,11 @@
 #include "color/ColorCode.h"
 #include "color/ColorExtensions.h"
 #include "color/HsbColor.h"
-#include "color/picker/DragRule.h"
-#include "color/picker/NamedColors.h"
-#include "color/picker/PickedColor.h"
-#include "color/picker/RecentColors.h"
-#include "color/picker/Wheel.h"
+#include "color/picking/DragRule.h"
+#include "color/picking/NamedColors.h"
+#include "color/picking/PickedColor.h"
+#include "color/picking/RecentColors.h"
+#include "color/picking/Wheel.h"
 
 #include <QLineF>
 #include <QTest>

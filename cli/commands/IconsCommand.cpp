@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "IconsCommand.h"
 
-#include "Declaration.h"
 #include "IconInput.h"
 #include "IconReport.h"
-#include "Interruption.h"
-#include "KeptMemory.h"
+#include "cli/arguments/Declaration.h"
+#include "cli/console/Interruption.h"
+#include "cli/console/KeptMemory.h"
 #include "icons/IconExport.h"
 
 #include <QFileInfo>

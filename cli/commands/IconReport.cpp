@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "IconReport.h"
 
-#include "CommandText.h"
-#include "Interruption.h"
+#include "cli/console/CommandText.h"
+#include "cli/console/Interruption.h"
 #include "icons/IconExport.h"
 
 #include <QDir>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "OutputPlace.h"
 
-#include "CommandText.h"
 #include "Declaration.h"
+#include "cli/console/CommandText.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "DevicesCommand.h"
 
-#include "CommandText.h"
-#include "Declaration.h"
+#include "cli/arguments/Declaration.h"
+#include "cli/console/CommandText.h"
 #include "devices/DeviceFilter.h"
 
 #include <QJsonArray>
