@@ -18,19 +18,19 @@ namespace lumora
 namespace
 {
 
-/// The error's number, 0 when the folder was made.
+/// The error number, 0 when the folder was made.
 int makeFolder(const QString &path)
 {
     return ::mkdir(QFile::encodeName(path).constData(), 0777) == 0 ? 0 : errno;
 }
 
-/// The error's number, EEXIST for a name that is in use, 0 when the folder was made. Looking alone is not enough: two
-/// runs may start together. Making alone is not enough either: a file system may report another error than EEXIST for a
-/// folder that exists, which would then be written into.
+/// The error number: EEXIST for a name that is in use, 0 when the folder was made. Looking first is not enough, since
+/// two runs may start together. Making without looking is not enough either: for an existing folder some file systems
+/// report another error than EEXIST.
 int makeFreshFolder(const QString &path)
 {
     const QFileInfo info(path);
-    // exists() follows links; a broken link takes the name all the same.
+    // exists() follows links, but a broken link occupies the name, too.
     return info.exists() || info.isSymLink() ? EEXIST : makeFolder(path);
 }
 
@@ -79,7 +79,7 @@ Outcome createFolderWithParents(const QString &path)
             error = makeFolder(path);
         }
     }
-    // Some file systems have another complaint of a folder that is there.
+    // Some file systems report another error than EEXIST for an existing folder.
     if (error == 0 || QFileInfo(path).isDir())
         return Done{};
     return Failure{FailureCode::CannotCreateFolder, path, qt_error_string(error)};

@@ -20,16 +20,16 @@ struct ExportFolder
     bool operator==(const ExportFolder &) const = default;
 };
 
-/// Makes a fresh folder for one run, without missing parents: `destination`/`baseName`, or the first of baseName_1,
-/// baseName_2, ... at which neither a file, a folder nor a link (even a broken one) exists. No two runs get the same
-/// one, at whatever moment they ask. Logs "Folder exists!" when the plain name is taken, "Folder error: ..." when the
-/// folder cannot be made; the failure's subject is the folder's path then.
+/// Makes a new folder for one run: `destination`/`baseName`, or the first of baseName_1, baseName_2, ... at which no
+/// file, folder or link (not even a broken one) exists. Missing parents are not made. Two runs never get the same
+/// folder, even if they ask at the same moment. Logs "Folder exists!" when the plain name is taken, and "Folder error:
+/// ..." when the folder cannot be made; the failure's subject is then the folder's path.
 Result<ExportFolder> makeExportFolder(const QString &destination, const QString &baseName);
 
-/// Makes the folder itself, without missing parents. `CannotCreateFolder` with the system's reason where it cannot.
+/// Makes the folder itself, but no missing parents. Fails with `CannotCreateFolder` and the system's reason.
 Outcome createFolder(const QString &path);
 
-/// Makes the folder and every parent that is missing. A folder that is there already is as good.
+/// Makes the folder and every missing parent. Succeeds if the folder already exists.
 Outcome createFolderWithParents(const QString &path);
 
 } // namespace lumora

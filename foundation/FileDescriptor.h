@@ -36,11 +36,11 @@ private:
 /// The failure of a system call that has just failed: `errno` gives the detail.
 Failure systemFailure(FailureCode code, const QString &subject);
 
-/// Writes all bytes, with as many calls as that takes. `CannotWrite` when the system takes no more; the subject is the
-/// caller's to add.
+/// Writes all bytes, with as many calls as needed. Fails with `CannotWrite` when the system accepts no more; the caller
+/// adds the subject.
 Outcome writeAll(const FileDescriptor &file, std::span<const char> bytes);
 
-/// Reads from the position until the buffer is full or the file ends. The number of bytes read.
+/// Reads from the current position until the buffer is full or the file ends. Returns the number of bytes read.
 Result<std::size_t> readAt(const FileDescriptor &file, std::uint64_t position, std::span<char> buffer);
 
 } // namespace lumora

@@ -27,7 +27,7 @@ QByteArray linkOf(int descriptor)
     return "/proc/self/fd/" + QByteArray::number(descriptor);
 }
 
-/// The hidden name beside the file's. Where another process writes a file under it, the next number is taken.
+/// The hidden name beside the file's own. If another process writes a file under it, the caller takes the next number.
 QByteArray siblingOf(const QByteArray &path, int number)
 {
     const qsizetype nameAt = path.lastIndexOf('/') + 1;
@@ -38,8 +38,8 @@ QByteArray siblingOf(const QByteArray &path, int number)
     return path.first(nameAt) + '.' + name;
 }
 
-/// Every writer holds this lock from the moment its file has a name. False when another process holds it. On a file
-/// system without locks the answer is true.
+/// Every writer holds this lock from the moment its file has a name. Returns false when another process holds it, and
+/// true on a file system without locks.
 bool lock(int descriptor)
 {
     return ::flock(descriptor, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK;
@@ -54,14 +54,14 @@ bool removeAbandoned(const QByteArray &name)
     struct stat status = {};
     const bool abandoned = ::fstat(file.number(), &status) == 0 && S_ISREG(status.st_mode) &&
                            status.st_uid == ::geteuid() && ::flock(file.number(), LOCK_EX | LOCK_NB) == 0;
-    // Its writer may have renamed it before it was locked; then the name belongs to another file or to none.
+    // The writer may have renamed the file before it was locked; then the name belongs to another file or to none.
     struct stat named = {};
     const bool same = abandoned && ::lstat(name.constData(), &named) == 0 && named.st_ino == status.st_ino;
     return abandoned && (!same || ::unlink(name.constData()) == 0);
 }
 
-/// Calls `make` with the first sibling's name that is free or was abandoned. Empty when that returns false; the reason
-/// is in `errno`.
+/// Calls `make` with the first hidden name that is free or abandoned. Empty when `make` returns false; the reason is in
+/// `errno`.
 template <typename Make> QByteArray makeSibling(const QByteArray &path, Make make)
 {
     constexpr int writersAtOnce = 100;
@@ -98,7 +98,7 @@ PendingFile::PendingFile(PendingFile &&other) noexcept
 
 PendingFile::~PendingFile()
 {
-    // Before the lock goes with the descriptor: after that the name may belong to another writer.
+    // Removed before closing the descriptor releases the lock: after that the name may belong to another writer.
     if (!m_temporaryName.isEmpty())
         ::unlink(m_temporaryName.constData());
 }
@@ -132,13 +132,13 @@ Outcome PendingFile::publish()
 
 bool PendingFile::open()
 {
-    // A file without a name gets one through /proc, so it needs that.
+    // A file without a name gets its name through /proc, so /proc must be there.
     m_file = FileDescriptor(::open(folderOf(m_path).constData(), O_TMPFILE | O_WRONLY | O_CLOEXEC, 0666));
     if (m_file.valid() && ::access(linkOf(m_file.number()).constData(), F_OK) == 0)
         return true;
     m_file = {};
-    // Systems without such files report EOPNOTSUPP, EISDIR or EINVAL; every other error is the folder's own and comes
-    // again.
+    // Systems without such files report EOPNOTSUPP, EISDIR or EINVAL. Every other error comes from the folder and would
+    // come again.
     m_temporaryName = makeSibling(m_path, [this](const QByteArray &name) { return openNamed(name); });
     return !m_temporaryName.isEmpty();
 }
@@ -156,7 +156,7 @@ bool PendingFile::openNamed(const QByteArray &name)
     m_file = FileDescriptor(::open(name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
     if (!m_file.valid())
         return false;
-    // Between the two calls another process may have removed it as abandoned.
+    // Between the two calls another process may have removed the file as abandoned.
     struct stat status = {};
     if (lock(m_file.number()) && ::fstat(m_file.number(), &status) == 0 && status.st_nlink > 0)
         return true;

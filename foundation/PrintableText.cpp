@@ -26,7 +26,7 @@ bool isHarmless(QChar character)
 
 QString printableText(const QString &text)
 {
-    // Nearly always, and then nothing is copied.
+    // The usual case: nothing is copied.
     if (std::all_of(text.cbegin(), text.cend(), isHarmless))
         return text;
     QString printable;

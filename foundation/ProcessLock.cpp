@@ -28,7 +28,7 @@ namespace lumora
 namespace
 {
 
-// Younger than the headers of some systems: cutting files short came with the third version of the interface, orders to
+// Missing in the headers of some systems: truncating files came with the third version of the interface, ioctl on
 // devices with the fifth.
 constexpr quint64 truncateFile = 1ULL << 14;
 constexpr quint64 orderDevice = 1ULL << 15;
@@ -36,11 +36,11 @@ constexpr quint64 orderDevice = 1ULL << 15;
 constexpr quint64 readFile = LANDLOCK_ACCESS_FS_READ_FILE;
 constexpr quint64 readAll = LANDLOCK_ACCESS_FS_READ_FILE | LANDLOCK_ACCESS_FS_READ_DIR;
 constexpr quint64 writeFile = LANDLOCK_ACCESS_FS_WRITE_FILE | truncateFile;
-/// Writing beside the file under another name and renaming that.
+/// To write a new file beside the old one and rename it.
 constexpr quint64 replaceFile =
     writeFile | LANDLOCK_ACCESS_FS_MAKE_REG | LANDLOCK_ACCESS_FS_REMOVE_FILE | LANDLOCK_ACCESS_FS_REFER;
 
-/// What is loaded late: libraries, picture plug-ins, tables of time zones and character sets.
+/// Files that are loaded late: libraries, picture plug-ins, tables of time zones and character sets.
 constexpr std::array systemFolders = {"/usr/lib", "/usr/lib64", "/usr/share", "/lib", "/lib64"};
 
 /// All kinds of access that this version of the kernel's interface can refuse; 0 where there is none.
@@ -59,7 +59,7 @@ quint64 refusable()
     return access;
 }
 
-/// Allows the access to the file or folder at the path and to all that is in it. What does not exist needs no leave.
+/// Allows access to the file or folder at the path and to everything in it. A path that does not exist is skipped.
 void allow(const FileDescriptor &rules, const QString &path, quint64 access)
 {
     const FileDescriptor place(::open(QFile::encodeName(path).constData(), O_PATH | O_CLOEXEC));
@@ -68,7 +68,7 @@ void allow(const FileDescriptor &rules, const QString &path, quint64 access)
         return;
     landlock_path_beneath_attr rule = {};
     rule.parent_fd = place.number();
-    // Rights over folders make no sense for a file and are refused as a mistake.
+    // For a file, the kernel refuses a rule with rights over folders.
     rule.allowed_access = S_ISDIR(status.st_mode) ? access : access & (readFile | writeFile);
     ::syscall(SYS_landlock_add_rule, rules.number(), LANDLOCK_RULE_PATH_BENEATH, &rule, 0);
 }
@@ -88,7 +88,7 @@ bool lockFiles(const LockedPlaces &places)
     for (const QString &path : places.readable)
         allow(rules, path, readAll);
     for (const QString &path : places.written) {
-        // A device or pipe is written as it is; a file is replaced by another one in its folder.
+        // A device or pipe is written in place; a file is replaced by a new one in its folder.
         const QFileInfo info(path);
         const QFileInfo file(info.exists() ? info.canonicalFilePath() : path);
         if (info.exists() && !info.isFile())
@@ -108,7 +108,7 @@ struct ReleaseFilter
     void operator()(void *filter) const { ::seccomp_release(filter); }
 };
 
-/// Calls by which a process reaches the network, other programs or the kernel's inner works.
+/// Calls by which a process reaches the network, other programs or the inside of the kernel.
 constexpr std::array refusedCalls = {
     SCMP_SYS(socket),
     SCMP_SYS(socketpair),
@@ -159,16 +159,16 @@ bool lockCalls()
         return false;
     bool complete = ::seccomp_attr_set(filter.get(), SCMP_FLTATR_CTL_TSYNC, 1) == 0;
     for (const int call : refusedCalls) {
-        // A call that this machine does not have is no gap.
+        // A call that this machine does not have needs no rule.
         const int added = ::seccomp_rule_add(filter.get(), SCMP_ACT_ERRNO(EPERM), call, 0);
         complete = complete && (added == 0 || added == -EDOM);
     }
-    // A thread shares its memory; whatever does not is a process.
+    // A thread shares its memory; a clone that does not is a process.
     const scmp_arg_cmp aProcess = SCMP_A0(SCMP_CMP_MASKED_EQ, CLONE_VM, 0);
     complete = complete && ::seccomp_rule_add(filter.get(), SCMP_ACT_ERRNO(EPERM), SCMP_SYS(clone), 1, aProcess) == 0;
-    // Its arguments lie in memory, where no filter sees them; the C library then uses the call above.
+    // clone3 has its arguments in memory, where no filter sees them. When it is missing, the C library uses clone.
     complete = complete && ::seccomp_rule_add(filter.get(), SCMP_ACT_ERRNO(ENOSYS), SCMP_SYS(clone3), 0) == 0;
-    // Typing into the user's terminal.
+    // TIOCSTI types into the user's terminal.
     const scmp_arg_cmp typing = SCMP_A1(SCMP_CMP_MASKED_EQ, 0xFFFFFFFF, TIOCSTI);
     complete = complete && ::seccomp_rule_add(filter.get(), SCMP_ACT_ERRNO(EPERM), SCMP_SYS(ioctl), 1, typing) == 0;
     return complete && ::seccomp_load(filter.get()) == 0;
@@ -178,7 +178,7 @@ bool lockCalls()
 
 ProcessLock lockProcess(const LockedPlaces &places)
 {
-    // Both ask for it: no program that is started may gain rights that this one does not have.
+    // Landlock and seccomp both require this: no program that is started may gain rights that this one does not have.
     if (::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) != 0)
         return {};
     ProcessLock lock;

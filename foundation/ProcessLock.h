@@ -14,17 +14,16 @@ struct LockedPlaces
     QStringList scratch;  ///< folders in which it may do everything, and which it may remove
 };
 
-/// What holds the process.
+/// Which parts of the lock are in force.
 struct ProcessLock
 {
     bool files = false; ///< it reaches no other files (Landlock)
     bool calls = false; ///< it can open no connection, start no program and touch no other process (seccomp)
 };
 
-/// Locks the calling process in for good, so that what a hostile file makes of it can do nothing but compute: to be
-/// called before the first foreign byte is parsed and before other threads are started. Everything the places do not
-/// name is refused, but for the system's own libraries and tables, which may be read. Does as much as the kernel
-/// offers.
+/// Locks the calling process in for good, so that a hostile file that takes it over can do nothing but compute. Call it
+/// before the first foreign byte is parsed and before other threads are started. Refuses every path that `places` does
+/// not name, except the system's own libraries and tables, which may be read. Does as much as the kernel offers.
 ProcessLock lockProcess(const LockedPlaces &places);
 
 } // namespace lumora

@@ -13,8 +13,8 @@ namespace lumora
 /// on stderr.
 enum class FailureCode {
     NotFound,           ///< nothing exists at the path
-    IsFolder,           ///< a folder stands where a file is wanted
-    NotAFolder,         ///< a file stands where a folder is wanted
+    IsFolder,           ///< a folder is where a file is wanted
+    NotAFolder,         ///< a file is where a folder is wanted
     NoPermission,       ///< the system refuses to read or write
     NotAPicture,        ///< no decoder knows the content, or it is damaged
     HighDynamicRange,   ///< a picture whose colors are far brighter than white, which the formats here cannot hold
@@ -26,9 +26,9 @@ enum class FailureCode {
     MissingContent,     ///< a well-formed file that lacks what is looked for in it
     NotReadable,        ///< readable bytes that do not make sense as what they claim to be
     InvalidValue,       ///< a typed value out of its range
-    NotMarked,          ///< a file that is no PNG marked as double resolution
+    NotMarked,          ///< a file that is not a PNG marked as double resolution
     WouldReplaceSource, ///< writing would replace one of the files that the run reads
-    Exists,             ///< writing would replace a file that is there already
+    Exists,             ///< writing would replace an existing file
     NameTaken,          ///< two results of one run have the same name; `detail` gives the other's source
 };
 
@@ -37,12 +37,12 @@ struct Failure
 {
     FailureCode code = FailureCode::NotReadable;
     QString subject; ///< the path or the typed text concerned
-    QString detail;  ///< free text from below (system error, picture size), may be empty
+    QString detail;  ///< free text from the system or a decoder (error, picture size), may be empty
 
     bool operator==(const Failure &) const = default;
 };
 
-/// Either a value or the failure that stands in its place. Ask `ok()` before either is taken.
+/// Either a value or the failure that prevented it. Check `ok()` before taking either.
 template <typename Value> class [[nodiscard]] Result
 {
 public:
@@ -61,7 +61,7 @@ private:
     std::variant<Value, Failure> m_state;
 };
 
-/// The value of a function that has nothing to give back but its success.
+/// The value of a function that returns nothing but its success.
 struct Done
 {
     bool operator==(const Done &) const = default;

@@ -6,8 +6,8 @@
 namespace lumora
 {
 
-/// A color to compute with: calibrated RGB in single precision. Components run from 0 to 1 and are kept as they are
-/// given, also beyond that range.
+/// A color to compute with: calibrated RGB in single precision. Components run from 0 to 1; values beyond that range
+/// are kept as given.
 struct RgbaColor
 {
     float red = 0.0F;
@@ -18,7 +18,7 @@ struct RgbaColor
     bool operator==(const RgbaColor &) const = default;
 };
 
-/// The components of a platform color, whatever model it was made in.
+/// The components of a platform color, in whatever color model it was made.
 RgbaColor rgbaFrom(const QColor &color);
 
 /// The color for painting and for the clipboard; components outside 0 to 1 are clamped, since no screen shows them.

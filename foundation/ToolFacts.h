@@ -9,7 +9,7 @@ namespace lumora
 {
 
 /// What is known of a tool without its window: names, text keys, image names and colors. The command line, the window,
-/// the palette and the color picker all read the one table of these; a tool's index is its place in it.
+/// the palette and the color picker all read the one table below; a tool's index is its place in that table.
 struct ToolFacts
 {
     const char *name;         ///< on the command line and in the desktop's menu: `lumora --tool=NAME`
@@ -19,9 +19,9 @@ struct ToolFacts
     const char *helpTextKey;
     const char *helpIcon;
     RgbaColor color;       ///< fills header and sidebar
-    RgbaColor borderColor; ///< the shade of it that lines them
-    /// The ending (without its dot, case counts) of files that are handed to this tool when the application is asked to
-    /// open them; nullptr for none.
+    RgbaColor borderColor; ///< its shade, for their borders
+    /// The ending (without the dot, case-sensitive) of the files that this tool opens when the desktop asks the
+    /// application to open them; nullptr for none.
     const char *openedExtension = nullptr;
 };
 

@@ -39,17 +39,18 @@ FailureCode openingFailure(int error)
     }
 }
 
-/// Makes writes wait until the other side has room.
+/// Makes writes block until the other side has room.
 bool waitsForReaders(const FileDescriptor &file)
 {
     const int flags = ::fcntl(file.number(), F_GETFL);
     return flags >= 0 && ::fcntl(file.number(), F_SETFL, flags & ~O_NONBLOCK) == 0;
 }
 
-/// Devices and pipes take the bytes as they come; so does a file that may be written in a folder that may not.
+/// Writes in place: to a device, to a pipe, or to a writable file in a folder that is not writable.
 Outcome writeInPlace(const QByteArray &name, const QByteArray &bytes)
 {
-    // O_NONBLOCK, since opening a pipe without a reader would block for ever; the writes then wait for the reader.
+    // O_NONBLOCK, since opening a pipe without a reader would block forever. The writes themselves then wait for the
+    // reader.
     FileDescriptor file(::open(name.constData(), O_WRONLY | O_TRUNC | O_NONBLOCK | O_CLOEXEC));
     if (!file.valid() || !waitsForReaders(file))
         return systemFailure(FailureCode::CannotWrite, {});
@@ -70,7 +71,7 @@ Outcome writePending(const QByteArray &name, const QByteArray &bytes)
 
 Outcome writeWholeFile(const QString &path, const QByteArray &bytes)
 {
-    // A link stays a link: what it points to is written.
+    // A link stays a link; the file that it points to is written.
     const QFileInfo info(path);
     const QByteArray name = QFile::encodeName(info.exists() ? info.canonicalFilePath() : path);
     const bool inPlace = info.exists() && !info.isFile();
@@ -84,7 +85,7 @@ Outcome writeWholeFile(const QString &path, const QByteArray &bytes)
 
 Result<QByteArray> readWholeFile(const QString &path, qint64 limit)
 {
-    // O_NONBLOCK, since opening a pipe without a writer would block for ever.
+    // O_NONBLOCK, since opening a pipe without a writer would block forever.
     const FileDescriptor file(::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
     if (!file.valid())
         return Failure{openingFailure(errno), path, {}};
@@ -107,7 +108,7 @@ Result<QByteArray> readWholeDescriptor(int descriptor, const QString &name, qint
     if (regular && status.st_size > limit)
         return Failure{FailureCode::TooLarge, name, {}};
 
-    // One byte more than a regular file should hold, so that its end shows without a second, growing read.
+    // One byte more than the file's size, so that one read reaches the end without growing the buffer.
     constexpr qsizetype step = 1 << 16;
     QByteArray bytes(regular ? status.st_size + 1 : step, Qt::Uninitialized);
     qsizetype filled = 0;

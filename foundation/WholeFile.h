@@ -10,16 +10,16 @@ namespace lumora
 {
 
 /// Writes the bytes as the whole content of the file at `path`. An existing file is replaced only once the new content
-/// is whole; when that cannot be written nothing is left of it, and the failure names the system's reason. A device is
-/// written in place, and so is a named pipe that has a reader.
+/// is complete. When writing fails, nothing of the new content is left, and the failure has the system's reason. A
+/// device is written in place, and so is a named pipe that has a reader.
 Outcome writeWholeFile(const QString &path, const QByteArray &bytes);
 
 /// The whole content of a regular file of at most `limit` bytes (`TooLarge`). Pipes and devices are refused at once
-/// (`NotReadable`): either might never end or never begin.
+/// (`NotReadable`), since they might never end or never begin.
 Result<QByteArray> readWholeFile(const QString &path, qint64 limit);
 
-/// The whole content of an open file, pipe or device of at most `limit` bytes. The descriptor stays open; a failure
-/// calls it `name`.
+/// The whole content of an open file, pipe or device of at most `limit` bytes. The descriptor stays open; a failure's
+/// subject is `name`.
 Result<QByteArray> readWholeDescriptor(int descriptor, const QString &name, qint64 limit);
 
 } // namespace lumora
