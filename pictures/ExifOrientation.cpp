@@ -76,7 +76,7 @@ QByteArray webpExif(const QByteArray &file)
             return {};
         if (QByteArrayView(file).sliced(at, 4) == "EXIF") {
             const QByteArray exif = file.mid(at + 8, length);
-            // Some writers keep the mark that JPEG files put before the block.
+            // Some writers keep the signature that JPEG files put before the block.
             return exif.startsWith(QByteArrayView("Exif\0\0", 6)) ? exif.mid(6) : exif;
         }
         at += 8 + length + length % 2;

@@ -32,7 +32,7 @@ QByteArray largestIcnsPicture(const QByteArray &bytes)
         const qsizetype length = lengthAt(bytes, at);
         if (length < headerBytes || length > end - at)
             return {};
-        // The bytes are only looked at, so the member need not be copied before it is known to win.
+        // A view, so that only the largest member is copied.
         const QByteArray member = QByteArray::fromRawData(bytes.constData() + at + headerBytes, length - headerBytes);
         if (pictureFormat(member) == "png") {
             const Result<QSize> size = storedPixelSize(member, {});

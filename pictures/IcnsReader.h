@@ -6,8 +6,8 @@
 namespace lumora
 {
 
-/// The largest picture of a Mac icon file as a file of its own (PNG); empty where the container is damaged or holds
-/// none in that form. Legacy members with run-length packed planes, 128 pixels at most, are passed over.
+/// The PNG file of the largest picture in a Mac icon file; empty where the container is damaged or holds no PNG. Legacy
+/// members with run-length packed planes, 128 pixels at most, are skipped.
 QByteArray largestIcnsPicture(const QByteArray &bytes);
 
 } // namespace lumora

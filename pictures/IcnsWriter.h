@@ -15,7 +15,8 @@ struct IcnsMember
     QByteArray content;
 };
 
-/// The Mac icon file of these members, in this order: each led by its type and its length, both together by "icns".
+/// The Mac icon file of these members, in this order: "icns" and the file's length, then for each member its type, its
+/// length and its bytes.
 QByteArray icnsFile(std::span<const IcnsMember> members);
 
 } // namespace lumora

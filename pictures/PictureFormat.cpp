@@ -29,7 +29,7 @@ const Signature signatures[] = {
     {QByteArrayView("icns", 4), "icns"},
 };
 
-/// Decoders allocate the memory that a chunk claims before they look whether the file holds as much.
+/// Decoders allocate the memory that a chunk claims before they check that the file is long enough.
 bool isWholePng(const QByteArray &bytes)
 {
     PngChunkWalk walk(bytes);
@@ -62,7 +62,7 @@ bool isWholeBmp(const QByteArray &bytes)
         return false;
     const auto infoBytes = littleEndianAt<quint32>(bytes, 14);
     const auto compression = littleEndianAt<quint32>(bytes, 30);
-    // The length of run-length packed rows shows only in decoding; the header of 12 bytes has its fields elsewhere.
+    // Only decoding shows the length of run-length packed rows; a header of 12 bytes has its fields in other places.
     if (infoBytes < 40 || (compression != plainRows && compression != maskedRows))
         return true;
     const qint64 width = littleEndianAt<qint32>(bytes, 18);

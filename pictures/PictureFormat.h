@@ -6,13 +6,13 @@
 namespace lumora
 {
 
-/// The name by which Qt's decoders know the format that the content begins as ("png", "jpeg", "tiff", "webp", "bmp",
-/// "gif", "icns"); empty where it is none that pictures are accepted in.
+/// The format of the content, known by its first bytes, as Qt's decoders name it ("png", "jpeg", "tiff", "webp", "bmp",
+/// "gif", "icns"); empty for formats that are not accepted.
 QByteArray pictureFormat(const QByteArray &bytes);
 
-/// False when a JPEG or BMP file breaks off before its end, which their decoders would fill with gray or black and call
-/// a success, and when a PNG file does, whose decoder would first take all the memory that its last chunk claims; true
-/// for every other format, whose decoders notice.
+/// False when a JPEG, BMP or PNG file is cut off. The decoders of JPEG and BMP would fill the rest with gray or black
+/// and report success; that of PNG would first allocate all the memory that the last chunk claims. True for every other
+/// format, whose decoders notice.
 bool isWhole(const QByteArray &bytes);
 
 } // namespace lumora

@@ -27,12 +27,12 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-/// Settings that the decoders need once in a program.
+/// Settings that the decoders need once per program.
 void prepareDecoders()
 {
     static std::once_flag prepared;
     std::call_once(prepared, [] {
-        // Qt's own limit is one for the whole program and too low for 16-bit pictures; ours is checked besides.
+        // Qt's own limit holds for the whole program and is too low for 16-bit pictures; readers here check their own.
         QImageReader::setAllocationLimit(largestDecodedBytes / (1024 * 1024));
         // libtiff would write about damaged files to stderr.
         TIFFSetErrorHandler(nullptr);
@@ -88,7 +88,7 @@ Result<QImage> decode(const QByteArray &bytes, const QByteArray &format, const Q
     return format == "webp" ? upright(picture, webpExif(bytes)) : picture;
 }
 
-/// Takes the picture by value, so that it is freed before its last copy is made.
+/// Takes the picture by value, so that its memory is freed before the last copy is made.
 QImage toSrgb(QImage picture)
 {
     const QColorSpace embedded = picture.colorSpace();
@@ -148,7 +148,7 @@ Result<QImage> readStraightPicture(const QByteArray &bytes, const QString &name)
     if (!decoded)
         return decoded;
     QImage picture = std::move(decoded).value();
-    // Some decoders find another size than the header's, which is the one that was checked.
+    // Only the header's size was checked, and some decoders return another.
     if (picture.size() != size && picture.size() != size.transposed())
         return damaged(name);
     return toSrgb(std::move(picture));

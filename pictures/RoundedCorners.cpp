@@ -11,11 +11,11 @@ namespace lumora
 namespace
 {
 
-/// Horizontal slices a pixel is measured by; within a slice the arc's crossing is exact, so the share errs by less
+/// How many horizontal slices a pixel is measured by. Within a slice the arc's crossing is exact, so the error is less
 /// than half an 8-bit level.
 constexpr int slices = 64;
 
-/// The share of pixel (x, y) inside the top left arc, whose centre is (radius, radius).
+/// The share of pixel (x, y) inside the top left arc, whose center is (radius, radius).
 double insideShare(int x, int y, double radius)
 {
     double sum = 0;
@@ -73,7 +73,7 @@ void roundCorners(QImage &picture, float radius)
             const auto share = static_cast<unsigned>(std::lround(insideShare(x, y, radius) * 255));
             if (share == 255)
                 break;
-            // In a picture of one pixel all four corners share it, and each takes its part.
+            // In a picture of one pixel, all four corners cut from the same pixel.
             fade(top + 4 * x, share);
             fade(top + 4 * (right - x), share);
             fade(mirrored + 4 * x, share);

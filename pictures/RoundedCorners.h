@@ -6,7 +6,7 @@
 namespace lumora
 {
 
-/// How an icon's corners are cut; the number is the one that the tools pass on.
+/// How an icon's corners are cut; the tools pass the numbers on.
 enum class CornerMode : int { None = 0, Ios6 = 1, Ios7 = 2 };
 
 /// The style of that number; numbers of no style mean square corners.
@@ -16,8 +16,8 @@ CornerMode cornerModeOf(int number);
 /// single precision, and 0 for square ones.
 float cornerRadius(int size, CornerMode mode);
 
-/// Cuts circular corners of `radius` pixels into a `Format_RGBA8888_Premultiplied` picture: inside the arcs nothing
-/// changes, outside is fully transparent, and pixels on an arc keep the share of them that lies inside.
+/// Cuts circular corners of `radius` pixels into a `Format_RGBA8888_Premultiplied` picture: pixels inside the arcs
+/// stay, pixels outside become fully transparent, and a pixel on an arc keeps the share of it that lies inside.
 void roundCorners(QImage &picture, float radius);
 
 } // namespace lumora

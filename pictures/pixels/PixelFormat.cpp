@@ -44,7 +44,7 @@ void premultiplyRow(std::uint8_t *pixel, int width)
 
 bool areOpaque(const std::uint8_t *pixels, int count)
 {
-    // Without branches, so that it runs on whole vectors.
+    // Without branches, so that the compiler can vectorize it.
     std::uint8_t smallest = 255;
     for (int i = 0; i < count; ++i)
         smallest = std::min(smallest, pixels[4 * i + 3]);

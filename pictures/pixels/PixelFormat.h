@@ -8,16 +8,16 @@
 namespace lumora
 {
 
-/// Converts any picture to `QImage::Format_RGBA8888_Premultiplied`. Written out here, since Qt's own conversions round
-/// differently from one processor to the next and the files must not.
+/// Converts any picture to `QImage::Format_RGBA8888_Premultiplied`. Qt's own conversions round differently on different
+/// processors; the written files must be the same everywhere.
 QImage premultiplied(QImage picture);
 
-/// Turns `count` premultiplied RGBA pixels into straight ones in place. A translucent pixel has as many colors as its
-/// premultiplied bytes tell apart, which are all that show on any ground: 23 shades of gray at an alpha of 22. Fully
-/// transparent pixels become transparent black, and a color above its alpha is taken for equal to it.
+/// Turns `count` premultiplied RGBA pixels into straight ones in place. A translucent pixel gets no more color
+/// precision than its premultiplied bytes have, since more would not show on any background: 23 shades of gray at an
+/// alpha of 22. Fully transparent pixels become transparent black; a color above its alpha counts as equal to it.
 void straightenPixels(std::uint8_t *pixels, int count);
 
-/// Whether the alpha of all these RGBA pixels is 255.
+/// Whether all these RGBA pixels have an alpha of 255.
 bool areOpaque(const std::uint8_t *pixels, int count);
 
 } // namespace lumora

@@ -70,7 +70,7 @@ Result<QImage> decodeApplePng(QByteArrayView bytes, const QString &name, qint64 
         return damaged;
 
     const int channels = header->colorType == rgba ? 4 : 3;
-    // Without a fourth channel no pixel has an alpha, whatever the first chunk says.
+    // Without a fourth channel every pixel is opaque, whatever the first chunk says.
     const bool opaque = header->opaque || channels == 3;
     PngRowReader rows(bytes, channels);
     const auto passes =

@@ -40,7 +40,7 @@ constexpr auto weights = [] {
 
 std::uint64_t orderliness(std::span<const std::uint8_t> bytes)
 {
-    // As many tables as bytes in a pixel: the processor need not wait for one count before it begins the next.
+    // One table for each byte of a pixel, so that the processor need not wait for one count before it begins the next.
     constexpr std::size_t lanes = 4;
     std::array<std::array<std::uint32_t, 256>, lanes> counts{};
     std::size_t i = 0;

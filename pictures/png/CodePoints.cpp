@@ -44,13 +44,13 @@ const std::array<Gamut, 3> gamuts = {{
 }};
 const QPointF d65(0.3127, 0.3290);
 
-/// The light that BT.709, BT.601 and BT.2020 encode, which have one curve between them: linear below 0.018.
+/// The linear light of an encoded value. BT.709, BT.601 and BT.2020 share this curve, which is linear below 0.018.
 double lightOfBt709(double sample)
 {
     return sample < 0.081 ? sample / 4.5 : std::pow((sample + 0.099) / 1.099, 1 / 0.45);
 }
 
-/// Light of 16 bits for samples as far apart as a 16th of a byte's steps, so that each byte has an entry of its own.
+/// A table of 16-bit light in steps of a 16th of an 8-bit level, so that each 8-bit value has an exact entry.
 QList<uint16_t> tableOfBt709()
 {
     constexpr int steps = 255 * 16;
@@ -79,7 +79,7 @@ std::optional<QColorSpace> colorSpaceOf(const Gamut &gamut, int transfer)
     case TransferBt601:
     case TransferBt2020Of10Bits:
     case TransferBt2020Of12Bits:
-        // Qt 6.4 takes no table together with primaries of one's own: what it makes of them is invalid.
+        // Qt 6.4 makes an invalid color space of a table with custom primaries.
         return space(QColorSpace::TransferFunction::Linear).withTransferFunction(tableOfBt709());
     default:
         return std::nullopt;
@@ -90,7 +90,7 @@ std::optional<QColorSpace> colorSpaceOf(const Gamut &gamut, int transfer)
 
 std::optional<CodePoints> codePoints(QByteArrayView content)
 {
-    // Primaries, transfer, matrix, whether samples use their full range.
+    // Four bytes: primaries, transfer, matrix, and whether samples use their full range.
     constexpr qsizetype fields = 4;
     constexpr char rgbMatrix = 0;
     constexpr char fullRange = 1;

@@ -20,7 +20,7 @@ constexpr std::size_t literalSymbols = 288;
 constexpr std::size_t distanceSymbols = 32;
 constexpr unsigned endOfBlock = 256;
 
-/// Reads bits, the lowest of each byte first; behind the stream's end there are zeroes.
+/// Reads bits, the lowest of each byte first; beyond the stream's end it reads zeroes.
 class Bits
 {
 public:
@@ -31,7 +31,7 @@ public:
     void skip(std::size_t bits) { m_position += bits; }
     void skipToByte() { m_position = (m_position + 7) / 8 * 8; }
 
-    /// The bits from here on, at least 57 of them.
+    /// The next bits, at least 57.
     std::uint64_t ahead() const
     {
         const std::size_t byte = m_position / 8;
@@ -57,10 +57,10 @@ private:
 struct Symbol
 {
     std::uint16_t value = 0;
-    std::uint16_t bits = 0; ///< of its code; 0 where no code begins like that
+    std::uint16_t bits = 0; ///< of its code; 0 where no code has this beginning
 };
 
-/// A prefix code, looked up by as many bits as its longest code has.
+/// A prefix code, looked up by the number of bits in its longest code.
 class PrefixCode
 {
 public:
@@ -106,7 +106,7 @@ private:
     std::vector<Symbol> m_symbols;
 };
 
-/// Bits that follow a length's or a distance's code.
+/// The number of bits that follow the code of a length or distance.
 constexpr unsigned extraBitsOfLength(unsigned symbol)
 {
     constexpr unsigned first = 257;
@@ -229,7 +229,7 @@ private:
                 m_bits.skip(symbol.bits);
                 return true;
             }
-            // The distance is in what is at hand, whatever the length takes.
+            // The bits at hand are enough for the distance, whatever the length took.
             const unsigned lengthBits = symbol.bits + extraBitsOfLength(symbol.value);
             ahead >>= lengthBits;
             symbol = m_distances.at(ahead);

@@ -12,11 +12,11 @@ namespace lumora
 /// The last block of a raw deflate stream, in bits from the stream's start.
 struct LastDeflateBlock
 {
-    std::size_t first = 0; ///< its first bit, which marks it as the last
+    std::size_t first = 0; ///< the bit that marks the block as the last
     std::size_t end = 0;   ///< behind its last bit
 };
 
-/// Walks over a stream's blocks without unpacking them. Nothing where the stream is broken or ends too early.
+/// Walks over a stream's blocks without unpacking them. Empty where the stream is damaged or ends too early.
 std::optional<LastDeflateBlock> findLastDeflateBlock(std::span<const std::uint8_t> stream);
 
 } // namespace lumora

@@ -53,13 +53,13 @@ bool isNear(QByteArrayView content, qsizetype index, std::uint32_t expected, std
     return value >= expected - tolerance && value <= expected + tolerance;
 }
 
-/// gAMA 1 / 2.2, in hundred thousandths.
+/// gAMA of 1 / 2.2, times 100,000.
 bool isSrgbGamma(QByteArrayView content)
 {
     return content.size() == 4 && isNear(content, 0, 45455, 50);
 }
 
-/// cHRM with the white point and primaries of ITU-R BT.709, in hundred thousandths.
+/// cHRM with the white point and primaries of ITU-R BT.709, times 100,000.
 bool areSrgbPrimaries(QByteArrayView content)
 {
     constexpr std::array<std::uint32_t, 8> expected = {31270, 32900, 64000, 33000, 30000, 60000, 15000, 6000};
@@ -95,7 +95,7 @@ struct ColorMarks
             otherPrimaries = !areSrgbPrimaries(chunk.content);
         }
     }
-    /// False where the general decoder has to find out.
+    /// False where only the general decoder can tell the colors.
     bool colorsAreSrgb() const
     {
         if (points)
@@ -119,7 +119,7 @@ bool isCritical(QByteArrayView type)
     return type.front() >= 'A' && type.front() <= 'Z';
 }
 
-/// Fills in what the chunks say; false for whatever is not ordinary. Views of several IDAT chunks are joined into
+/// Reads the chunks before the pixels; false when the file is not ordinary. Several IDAT chunks are joined into
 /// `joined`.
 bool takeChunks(const std::vector<PngChunkView> &chunks, PngInfo &info, QByteArrayView &deflated, QByteArray &joined)
 {
@@ -209,7 +209,7 @@ void expandRgb(const std::uint8_t *samples, int width, std::uint8_t *pixel)
 {
     int x = 0;
     if constexpr (Q_BYTE_ORDER == Q_LITTLE_ENDIAN) {
-        // Four bytes at a time, all but the last pixel, which has none behind it: a third of the time.
+        // Reads four bytes a pixel, which takes a third of the time. Not for the last pixel, since no byte follows it.
         for (; x < width - 1; ++x, samples += 3, pixel += 4) {
             std::uint32_t value = 0;
             std::memcpy(&value, samples, sizeof value);
@@ -225,7 +225,7 @@ void expandRgb(const std::uint8_t *samples, int width, std::uint8_t *pixel)
     }
 }
 
-/// Makes the one color of an RGB picture that is named as transparent so.
+/// Makes the pixels of an RGB picture's one transparent color transparent.
 void applyColorKey(QByteArrayView key, int width, std::uint8_t *pixel)
 {
     constexpr qsizetype keyBytes = 6;

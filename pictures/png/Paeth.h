@@ -6,8 +6,9 @@
 namespace lumora
 {
 
-/// PNG's fourth predictor: of the samples to the left, above, and above to the left the one nearest to left + above -
-/// aboveLeft, the first of them where two are as near. Without branches, so that it runs on whole vectors.
+/// PNG's fourth predictor: of the samples to the left, above, and above to the left, the one nearest to left + above -
+/// aboveLeft; of two that are equally near, the first in this order. Without branches, so that the compiler can
+/// vectorize it.
 inline int paeth(int left, int above, int aboveLeft)
 {
     const int toLeft = std::abs(above - aboveLeft);

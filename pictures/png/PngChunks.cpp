@@ -24,7 +24,7 @@ std::uint32_t bigEndian32(QByteArrayView bytes)
 
 bool PngChunkView::isUndamaged() const
 {
-    // Both lie side by side in the file.
+    // Type and content are adjacent in the file.
     return libdeflate_crc32(0, type.data(), static_cast<std::size_t>(type.size() + content.size())) == checksum;
 }
 

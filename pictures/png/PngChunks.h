@@ -31,17 +31,19 @@ public:
     /// The file's bytes must outlive the object.
     explicit PngChunkWalk(QByteArrayView file);
 
-    /// The next chunk, its checksum not looked at. Nothing behind the last whole one, or when the signature is wrong.
+    /// The next chunk; its checksum is not checked. Empty after the last complete chunk, or when the signature is
+    /// wrong.
     std::optional<PngChunkView> next();
 
 private:
     QByteArrayView m_rest;
 };
 
-/// The number of four bytes, the highest first, at the start of the view, which is that long.
+/// The big-endian 32-bit number at the start of the view, which has at least four bytes.
 std::uint32_t bigEndian32(QByteArrayView bytes);
 
-/// The chunks up to and with IEND. Nothing where the signature, a length or a checksum is wrong or the end is missing.
+/// The chunks up to and including IEND. Empty where the signature, a length or a checksum is wrong or the end is
+/// missing.
 std::optional<std::vector<PngChunkView>> readPngChunks(QByteArrayView file);
 
 /// The content of the first undamaged chunk of that type before the palette and the pixels.

@@ -21,7 +21,7 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-/// What libpng is given to read from.
+/// Where libpng reads from.
 struct Source
 {
     const QByteArray &bytes;
@@ -63,7 +63,7 @@ public:
     Decoding(const Decoding &) = delete;
     Decoding &operator=(const Decoding &) = delete;
 
-    /// Everything before the pixels.
+    /// Reads everything before the pixels.
     bool readHeader()
     {
         if (m_info == nullptr || setjmp(png_jmpbuf(m_png)) != 0)
@@ -83,7 +83,7 @@ public:
         return png_get_bit_depth(m_png, m_info) == 16 ? QImage::Format_RGBA64 : QImage::Format_RGBA8888;
     }
 
-    /// Reads all rows into as many pointers, then the rest of the file.
+    /// Reads all rows into the places that the pointers name, then the rest of the file.
     bool readRows(png_bytep *rows)
     {
         if (setjmp(png_jmpbuf(m_png)) != 0)

@@ -13,14 +13,13 @@ namespace lumora
 /// What a PNG file holds.
 struct DecodedPng
 {
-    QImage picture;  ///< `Format_RGBA8888` or `Format_RGBA64` as the file's depth is, with the color space it names
-    QByteArray exif; ///< the content of its EXIF chunk, empty where it has none
+    QImage picture;  ///< `Format_RGBA8888` or `Format_RGBA64` by the file's depth, with the file's color space
+    QByteArray exif; ///< the content of its EXIF chunk; empty if it has none
 };
 
-/// Decodes a PNG file of any kind but Apple's. Its colors are those that its cICP chunk names, else its iCCP, sRGB, or
-/// gAMA and cHRM chunks; what cannot be understood of these is as good as missing. Fails for a damaged file
-/// (`NotAPicture`) and for colors of high dynamic range (`HighDynamicRange`), which have no place in sRGB. `name` is
-/// what a failure calls the file.
+/// Decodes a PNG file of any kind but Apple's. The cICP chunk names the color space, else the iCCP, sRGB, or gAMA and
+/// cHRM chunks; a chunk that cannot be understood is ignored. Fails for a damaged file (`NotAPicture`) and for colors
+/// of high dynamic range (`HighDynamicRange`), which sRGB cannot hold. `name` is the subject of a failure.
 Result<DecodedPng> decodePng(const QByteArray &file, const QString &name);
 
 } // namespace lumora

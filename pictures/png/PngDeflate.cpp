@@ -20,7 +20,7 @@ struct FreeCompressor
     void operator()(libdeflate_compressor *compressor) const { libdeflate_free_compressor(compressor); }
 };
 
-/// A compressor is nearly a megabyte of tables, so each thread keeps its own for the next stream.
+/// A compressor has nearly a megabyte of tables, so each thread keeps one for the next stream.
 libdeflate_compressor *compressorOf(int level)
 {
     thread_local std::map<int, std::unique_ptr<libdeflate_compressor, FreeCompressor>> compressors;

@@ -17,8 +17,8 @@ QByteArray encodePng(const QImage &picture);
 /// pictures. The bytes are the same on every run and machine, too.
 QByteArray encodePngQuickly(const QImage &picture);
 
-/// The same file as `encodePng` makes of a picture, from rows of pixels: several threads work at once, and besides the
-/// compressed file only the section of each is in memory.
+/// The same file as `encodePng` makes, from rows of pixels. Several threads work at once; besides the compressed file,
+/// only one section for each thread is in memory.
 QByteArray encodePng(const PngRows &picture, int threads);
 
 } // namespace lumora

@@ -45,7 +45,7 @@ unsigned residuesOf(const std::uint8_t *row, const std::uint8_t *above, int byte
     return sum;
 }
 
-/// A row of the picture, or zeroes above its first one, with a pixel of zeroes in front.
+/// A row of the picture with a pixel of zeroes in front; all zeroes above the first row.
 class PaddedRow
 {
 public:
@@ -145,7 +145,7 @@ void addAdaptiveRows(const PngRows &picture, RowRange range, PngFilterChoice cho
     for (int y = range.first; y < range.end; ++y) {
         row.load(picture, y);
         if (row == above && !row.isZero()) {
-            // Large flat areas: nothing but zeroes is left of a repeated row, and no other filter manages that.
+            // For large flat areas: only this filter turns a repeated row into nothing but zeroes.
             result.push_back(upFilter);
             result.insert(result.end(), static_cast<std::size_t>(bytes), 0);
             continue;

@@ -15,7 +15,7 @@ constexpr qsizetype chunkFrame = 12; // length, name, checksum
 constexpr quint32 headerLength = 13;
 constexpr quint32 longestAppleChunk = 16;
 
-/// The lowest bits of the Apple chunk say how the fourth channel is meant; from here on it is left out.
+/// The lowest bits of the Apple chunk give the meaning of the fourth channel; from this value on it is to be ignored.
 constexpr int alphaInfoMask = 0x1F;
 constexpr int firstAlphaInfoWithoutAlpha = 5;
 

@@ -9,7 +9,7 @@
 namespace lumora
 {
 
-/// What a PNG file's first chunks say.
+/// The facts in a PNG file's first chunks.
 struct PngHeader
 {
     QSize size; ///< pixels, 1 to 2^31 - 1 either way
@@ -23,8 +23,8 @@ struct PngHeader
 /// Bytes at the start of a file that `pngHeader` needs.
 constexpr qsizetype pngHeaderBytes = 64;
 
-/// Nothing when the bytes do not begin a PNG file, Apple-optimized or not, or one of a compression, filtering or
-/// interlacing that PNG does not define. Checksums are not looked at.
+/// Empty when the bytes do not begin a PNG file, Apple-optimized or not, or when they name a compression, filtering or
+/// interlacing that PNG does not define. Checksums are not checked.
 std::optional<PngHeader> pngHeader(QByteArrayView start);
 
 } // namespace lumora

@@ -80,7 +80,7 @@ bool PngRowReader::inflateRow()
         const int status = ::inflate(&stream, Z_NO_FLUSH);
         if (status == Z_STREAM_END)
             return stream.avail_out == 0;
-        // All input used up without output is no error as long as there are chunks left.
+        // Input may run out without output; that is an error only after the last chunk.
         if (status != Z_OK && !(status == Z_BUF_ERROR && stream.avail_in == 0))
             return false;
     }

@@ -22,7 +22,7 @@ public:
     ~PngRowReader();
     Q_DISABLE_COPY_MOVE(PngRowReader)
 
-    /// Starts a pass whose rows have this many pixels; there is no row above its first one.
+    /// Starts a pass whose rows have this many pixels; its first row has no row above it.
     void beginPass(int columns);
     /// The next row of the pass, valid until the next call; empty when the data is damaged or ends too early.
     std::span<const std::uint8_t> next();

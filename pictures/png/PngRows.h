@@ -10,7 +10,7 @@
 namespace lumora
 {
 
-/// Where an encoder takes its pixels from: a picture that need not exist as a whole.
+/// The source of an encoder's pixels: a picture that need not be in memory as a whole.
 class PngRows
 {
 public:
@@ -18,12 +18,12 @@ public:
 
     /// In pixels; not empty.
     virtual QSize size() const = 0;
-    /// Writes one row as straight RGBA, 4 bytes a pixel; `rgba` is exactly one row long. Rows are asked for in any
-    /// order, some of them several times, from several threads at once.
+    /// Writes one row as straight RGBA, 4 bytes a pixel; `rgba` is exactly one row long. Called in any order, for some
+    /// rows several times, from several threads at once.
     virtual void readRow(int row, std::span<std::uint8_t> rgba) const = 0;
 };
 
-/// The rows of a picture; one that is not `Format_RGBA8888` yet is made straight row by row as it is read.
+/// The rows of a picture. A picture in another format than `Format_RGBA8888` is converted row by row as it is read.
 class ImageRows final : public PngRows
 {
 public:

@@ -24,31 +24,32 @@ namespace
 
 // docs/performance.md holds the measurements behind these figures.
 
-/// Of filtered rows: large enough that a section loses little by not looking back into the one before it.
+/// Bytes of filtered rows: large enough that a section loses little by not looking back into the previous one.
 constexpr qsizetype bytesPerSection = 1024 * 1024;
 
-/// Of filtered rows: a section's filters are chosen on a quarter of it, within these limits.
+/// Bytes of filtered rows: a section's filters are chosen on a quarter of it, within these limits.
 constexpr qsizetype smallestSample = 16 * 1024;
 constexpr qsizetype largestSample = 64 * 1024;
 constexpr qsizetype shareOfSample = 4;
-/// A sample's rows come from as many places.
+/// The number of places from which a sample's rows come.
 constexpr int placesPerSample = 4;
 
-/// Rows with more novelty are a photograph's.
+/// Rows with more novelty count as a photograph.
 constexpr double mostNoveltyOfDrawings = 0.6;
 
 /// libdeflate's level on which a drawing's filters are tried.
 constexpr int drawingTrialLevel = 4;
-/// A choice of filters for each row, the costliest, has to save at least 1/128 of what one filter for all takes.
+/// Choosing a filter for each row is the slowest way; it must save at least 1/128 of the bytes that one filter for all
+/// rows takes.
 constexpr qsizetype leastGainOfRows = 128;
 
 /// The level on which a photo's filters are tried, and its level in a batch.
 constexpr int trialLevel = 1;
-/// Of batches: a photo that shrinks to no less than this share of its bytes at that level is mostly noise.
+/// In batches: a photo that stays above this share of its bytes at that level is mostly noise.
 constexpr double noisyShare = 0.3;
 /// libdeflate's level for drawings in a batch.
 constexpr int batchDrawingLevel = 6;
-/// Of batches: a drawing that shrinks to one byte in this many without a filter gains too little from one.
+/// In batches: a drawing that shrinks to one byte in this many without a filter gains too little from a filter.
 constexpr qsizetype plainEnough = 20;
 
 qsizetype filteredRowBytes(QSize size)
@@ -56,15 +57,15 @@ qsizetype filteredRowBytes(QSize size)
     return qsizetype{size.width()} * 4 + 1;
 }
 
-/// libdeflate's levels for small, middle and large pictures. Noise is its own limit: in large pictures of it, higher
-/// levels take several times the time for a few percent; small ones have less noise left and more to find in reach.
+/// libdeflate's levels for small, middle and large pictures. In large noisy pictures, higher levels take several times
+/// as long to save a few percent; small pictures have less noise left and more to gain.
 using Levels = std::array<int, 3>;
 constexpr Levels noiseLevels = {7, 6, 4};
 constexpr Levels drawingLevels = {7, 6, 6};
 /// Plain shapes, which shrink most without a filter and are fast to compress.
 constexpr Levels shapesLevels = {7, 7, 8};
 
-/// Where the levels change, in bytes of filtered rows.
+/// The sizes at which the level changes, in bytes of filtered rows.
 constexpr qsizetype largestOfSmall = 512 * 1024;
 constexpr qsizetype largestOfMiddle = 2 * 1024 * 1024;
 
@@ -110,7 +111,7 @@ CompressedRows compressed(std::vector<std::uint8_t> rows, int level)
     return {std::move(rows), std::move(stream)};
 }
 
-/// The rows from which a section's filters are chosen: all of them where there are few.
+/// The rows from which a section's filters are chosen; all rows of a small section.
 std::vector<RowRange> sampleOf(const PngRows &picture, RowRange section)
 {
     const int count = section.end - section.first;
@@ -129,8 +130,8 @@ std::vector<RowRange> sampleOf(const PngRows &picture, RowRange section)
     return sample;
 }
 
-/// No rule says which filters suit a picture: plain shapes shrink most without any, slow shades by the pixel to the
-/// left, photographs by one filter throughout as often as by a choice for each row. So they are tried.
+/// No rule predicts the best filters: plain shapes shrink most without a filter, gentle gradients by the pixel to the
+/// left, and photographs as often by one filter for all rows as by a choice for each row. So the choices are tried.
 CompressedRows compressed(const PngRows &picture, RowRange section)
 {
     const std::vector<RowRange> sample = sampleOf(picture, section);
@@ -155,7 +156,7 @@ CompressedRows compressed(const PngRows &picture, RowRange section)
     } else {
         tryRows(PngFilterChoice::None, std::move(plain), 0);
     }
-    // What suits plain shapes leaves the costliest choice nothing to gain.
+    // Where no filter is best, a choice for each row gains nothing.
     if (choice != PngFilterChoice::None)
         tryOther(PngFilterChoice::ByEntropy, best.stream.size() / leastGainOfRows);
     if (const bool sampleIsAll = sample.size() == 1; !sampleIsAll)
@@ -191,7 +192,7 @@ PngSection makePngSection(const PngRows &picture, int index)
     PngSection section = finished(compressed(picture, {first, end}));
     if (index + 1 < sections)
         keepOpen(section.deflated);
-    // Made as long as the worst case; of a large and plain picture nearly all of that would stay behind.
+    // The buffer has the length of the worst case; for a large, plain picture nearly all of it is unused.
     section.deflated.squeeze();
     return section;
 }
@@ -203,7 +204,8 @@ PngSection makeOnlyPngSection(const PngRows &picture)
     std::vector<std::uint8_t> plain = rowsBy(PngFilterChoice::None);
     if (novelty(plain, picture.size().width()) > mostNoveltyOfDrawings) {
         CompressedRows photo = compressed(rowsBy(PngFilterChoice::ByMagnitude), trialLevel);
-        // Slow shades shrink further in little time; noise takes twice the time for a twentieth of its bytes.
+        // At a higher level gentle gradients shrink further in little time, but noise takes twice the time to save a
+        // twentieth.
         if (static_cast<double>(photo.stream.size()) < noisyShare * static_cast<double>(photo.rows.size()))
             photo.stream = deflated(photo.rows, batchDrawingLevel);
         return finished(std::move(photo));
@@ -219,7 +221,7 @@ PngSection makeOnlyPngSection(const PngRows &picture)
 
 QByteArray joinPngSections(QSize size, std::span<const PngSection> sections)
 {
-    // The zlib header names a 32 KiB window and carries no hint of the effort spent.
+    // The zlib header names a 32 KiB window and gives no compression level.
     QByteArray stream(QByteArrayView("\x78\x9C", 2).toByteArray());
     uLong checksum = 1;
     for (const PngSection &section : sections) {

@@ -13,22 +13,22 @@ namespace lumora
 class PngRows;
 
 /// A run of rows of one picture, filtered and deflated by itself, so that several cores can work inside one picture.
-/// The sections of a picture follow from its size alone, never from the machine, so the file's bytes do not either.
+/// The sections depend only on the picture's size, not on the machine, so the file's bytes are the same everywhere.
 struct PngSection
 {
-    QByteArray deflated; ///< whole deflate blocks, ended at a byte's border; only the last section's end the stream
+    QByteArray deflated; ///< complete deflate blocks, ending at a byte boundary; only the last section ends the stream
     std::uint32_t checksum = 1; ///< Adler-32 of the filtered rows
     qsizetype filteredBytes = 0;
 };
 
-/// How many sections a picture of that size is made of; 1 for small ones.
+/// The number of sections in a picture of that size; 1 for small pictures.
 int pngSectionCount(QSize size);
 
 /// Makes one section of a picture. Sections may be made in any order, on any threads.
 PngSection makePngSection(const PngRows &picture, int index);
 
-/// The whole picture as its only section, with no more effort than pays. For batches, in which every core has a picture
-/// of its own.
+/// The whole picture as a single section, made with as much effort as is worth its time. For batches, in which each
+/// core works on its own picture.
 PngSection makeOnlyPngSection(const PngRows &picture);
 
 /// The PNG file of all sections of a picture of that size.

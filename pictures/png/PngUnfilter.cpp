@@ -19,7 +19,7 @@ void undoUp(std::uint8_t *row, const std::uint8_t *above, std::size_t bytes)
         row[i] = static_cast<std::uint8_t>(row[i] + above[i]);
 }
 
-/// Runs a filter that looks at the pixel before; its channels stay in registers from one pixel to the next.
+/// Runs a filter that uses the previous pixel; the channels stay in registers from one pixel to the next.
 template <int PixelBytes, typename Predict>
 void undoWithLeft(std::uint8_t *row, const std::uint8_t *above, std::size_t bytes, Predict predict)
 {

@@ -11,11 +11,11 @@
 namespace lumora
 {
 
-/// A picture as one plane of samples for each of its channels, which is how it is scaled.
+/// A picture as one plane of samples for each channel, the form in which it is scaled.
 class ColorPlanes
 {
 public:
-    /// Not empty; the samples are not set.
+    /// `size` is not empty; the samples are not initialized.
     ColorPlanes(QSize size, int channels, SampleDepth depth);
     ColorPlanes(const ColorPlanes &other);
     ColorPlanes &operator=(const ColorPlanes &) = delete;
@@ -26,7 +26,7 @@ public:
     int channels() const { return m_channels; }
     SampleDepth depth() const { return m_depth; }
 
-    /// One row of one channel; `Sample` is as wide as the depth says.
+    /// One row of one channel; `Sample` has the width of the depth.
     template <typename Sample> Sample *row(int channel, int y) { return reinterpret_cast<Sample *>(bytes(channel, y)); }
     template <typename Sample> const Sample *row(int channel, int y) const
     {

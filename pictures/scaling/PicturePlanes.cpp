@@ -18,10 +18,10 @@ constexpr int colors = 3;
 constexpr std::size_t alphaChannel = 3;
 constexpr std::size_t pixelBytes = 4;
 
-/// What makes 16 bits of 8, so that 255 becomes 65535.
+/// The factor from 8 to 16 bits, so that 255 becomes 65535.
 constexpr unsigned to16Bits = 257;
 
-/// The samples of one row; no alpha in an opaque picture.
+/// The samples of one row; alpha is null in an opaque picture.
 template <typename Sample> using Rows = std::array<Sample *, pixelBytes>;
 
 template <typename Sample, typename Planes> Rows<Sample> rowsOf(Planes &planes, int y)
@@ -76,7 +76,7 @@ void putTogether(const Rows<const std::uint16_t> &rows, int width, std::uint8_t 
             std::fill_n(pixel, pixelBytes, std::uint8_t{0});
             continue;
         }
-        // The color keeps its share of the alpha, which is rounded, too.
+        // The color keeps its ratio to the alpha, which is rounded, too.
         for (std::size_t channel = 0; channel < alphaChannel; ++channel) {
             const unsigned value = std::min<unsigned>(rows[channel][x], alpha);
             pixel[channel] = static_cast<std::uint8_t>((value * alphaByte + alpha / 2) / alpha);

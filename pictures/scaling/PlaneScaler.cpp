@@ -38,7 +38,7 @@ zimg_filter_graph *lanczosGraph(QSize from, QSize to, SampleDepth depth)
     return zimg_filter_graph_build(&source, &destination, &parameters);
 }
 
-/// A scaler and what it was made for.
+/// A scaler and the sizes it was made for.
 struct KeptScaler
 {
     QSize from;
@@ -47,7 +47,7 @@ struct KeptScaler
     std::shared_ptr<const PlaneScaler> scaler;
 };
 
-/// Each takes a hundred kilobytes or so.
+/// The number of scalers kept for each thread; each takes about 100 KB.
 constexpr std::size_t mostScalersKept = 8;
 
 } // namespace

@@ -12,7 +12,7 @@ struct zimg_filter_graph;
 namespace lumora
 {
 
-/// How much a sample of a color plane holds; the number is its bytes.
+/// The depth of a color plane's samples; the number is in bytes.
 enum class SampleDepth : int { Bits8 = 1, Bits16 = 2 };
 
 struct FreeAlignedMemory
@@ -22,7 +22,7 @@ struct FreeAlignedMemory
 /// Memory aligned for planes.
 using AlignedBytes = std::unique_ptr<std::uint8_t, FreeAlignedMemory>;
 
-/// What planes and their rows have to be aligned to, in bytes.
+/// The alignment of planes and their rows, in bytes.
 inline constexpr qsizetype planeAlignment = 64;
 
 AlignedBytes alignedBytes(std::size_t count);
@@ -31,21 +31,21 @@ AlignedBytes alignedBytes(std::size_t count);
 qsizetype planeStride(int width, SampleDepth depth);
 
 /// Scales single color planes from one size to another: Lanczos with three lobes, by libzimg. Samples use the whole
-/// range of their depth. Used by one thread at a time.
+/// range of their depth. One thread at a time may use a scaler.
 class PlaneScaler
 {
 public:
-    /// Both sizes are not empty.
+    /// Neither size is empty.
     PlaneScaler(QSize from, QSize to, SampleDepth depth);
     ~PlaneScaler();
     PlaneScaler(const PlaneScaler &) = delete;
     PlaneScaler &operator=(const PlaneScaler &) = delete;
 
-    /// The calling thread's scaler for these sizes: one of the last few, since whole batches come in few sizes and each
-    /// scaler begins with a sine for every weight.
+    /// The calling thread's scaler for these sizes: one of the last few is used again, since batches come in few sizes
+    /// and a new scaler computes a sine for every weight.
     static std::shared_ptr<const PlaneScaler> kept(QSize from, QSize to, SampleDepth depth);
 
-    /// Both planes aligned, with strides as `planeStride` gives. False when the library refuses.
+    /// Both planes are aligned and have the stride of `planeStride`. False when the library refuses.
     bool scale(const std::uint8_t *from, std::uint8_t *to) const;
 
 private:

@@ -15,11 +15,11 @@ namespace lumora
 namespace
 {
 
-/// Small sizes are made from halves of the source, each halving being a Lanczos step of its own. While the last step
-/// shrinks at least this much, neither aliasing nor sharpness differ from a single step by more than rounding.
+/// Small sizes are made from halves of the source; each halving is a Lanczos step. As long as the last step shrinks by
+/// at least this factor, aliasing and sharpness differ from a single step only by rounding.
 constexpr double smallestLastStep = 2.5;
 
-/// The half itself is one of them: it is kept, so that it is made only once.
+/// The half itself is one of these sizes: it is kept, so that it is made only once.
 bool isMadeFromHalf(QSize source, QSize size)
 {
     const QSize half = source / 2;
@@ -35,7 +35,7 @@ QImage ready(QImage picture)
     if (picture.isNull() || multiplied || !picture.hasAlphaChannel())
         return premultiplied(std::move(picture));
     picture.convertTo(QImage::Format_RGBA8888);
-    // Without transparency both formats say the same.
+    // Without transparency both formats have the same bytes.
     if (isOpaque(picture))
         picture.reinterpretAsFormat(QImage::Format_RGBA8888_Premultiplied);
     return picture;

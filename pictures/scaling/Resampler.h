@@ -12,20 +12,20 @@ namespace lumora
 
 class ColorPlanes;
 
-/// Lanczos with three lobes, by libzimg on the premultiplied color planes, so that no color of a transparent pixel
-/// bleeds into its neighbors, its ringing taken out by `clampRinging`. Takes the picture apart once; any number of
-/// sizes may then be made from it, by several threads at a time.
+/// Resamples by Lanczos with three lobes (libzimg) and removes its ringing by `clampRinging`. It works on premultiplied
+/// color planes, so that the color of a transparent pixel does not bleed into its neighbors. The picture is split into
+/// planes once; then several threads may make any number of sizes from it.
 class Resampler
 {
 public:
-    /// Keeps a planar copy of the picture: 5 bytes a pixel (4 for an opaque one), and a third more once a small size
-    /// was made. Of a straight picture with transparency it keeps twice as much, since bytes of premultiplied color
-    /// cannot hold its faint colors.
+    /// Keeps a planar copy of the picture: 5 bytes a pixel (4 for an opaque picture), and a third more once a small
+    /// size was made. For a straight picture with transparency it keeps twice as much, since 8 bits of premultiplied
+    /// color cannot hold the colors of nearly transparent pixels.
     explicit Resampler(const QImage &source);
     ~Resampler();
 
-    /// The picture stretched to `size` pixels, as `QImage::Format_RGBA8888_Premultiplied`. A size equal to the source's
-    /// gives its pixels unchanged; an empty size, or an empty source, a null picture.
+    /// The picture stretched to `size` pixels, as `QImage::Format_RGBA8888_Premultiplied`. The source's own size gives
+    /// its pixels unchanged; an empty size or an empty source gives a null picture.
     QImage scaledTo(QSize size) const;
 
 private:

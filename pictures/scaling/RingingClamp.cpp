@@ -13,8 +13,8 @@ namespace lumora
 namespace
 {
 
-/// The samples of a picture's row or column from `first` to `last`, both included. Those before 0 or beyond the end are
-/// not there.
+/// The samples of a picture's row or column from `first` to `last`, both included. Positions before 0 or beyond the end
+/// have no sample.
 struct Window
 {
     int first = 0;
@@ -28,8 +28,8 @@ qint64 dividedDown(qint64 number, qint64 by)
     return number >= 0 ? number / by : -((-number + by - 1) / by);
 }
 
-/// What the middle lobe sees from each pixel of a scaled row or column. All integers, so that no rounding differs from
-/// one machine to the next.
+/// The samples that the filter's middle lobe covers, for each pixel of a scaled row or column. All arithmetic is in
+/// integers, so that it rounds the same on every machine.
 std::vector<Window> middleLobes(int scaled, int picture)
 {
     // In units of half a scaled pixel, which is 2 * scaled of them to a sample of the picture.
@@ -58,12 +58,12 @@ public:
     {
         const int behind = std::max(columns.back().last - (width - 1), 0);
         const auto samples = static_cast<std::size_t>(m_before + width + behind);
-        // What is not there neither lowers the least nor raises the most.
+        // Missing samples neither lower the least nor raise the most.
         m_least.resize(samples);
         m_most.resize(samples);
     }
 
-    /// Looks at these rows of the picture.
+    /// Collects the bounds from these rows of the picture.
     void find(const ColorPlanes &picture, int channel, Window rows)
     {
         std::fill(m_least.begin(), m_least.end(), std::numeric_limits<Sample>::max());
@@ -74,10 +74,10 @@ public:
         joinNeighbors();
     }
 
-    /// The value kept within what the window of that column has.
+    /// The value, clamped to the bounds of that column's window.
     Sample clamped(Sample value, std::size_t column) const
     {
-        // Two joined runs that overlap make up the window.
+        // Two overlapping runs together cover the window.
         const auto first = static_cast<std::size_t>(m_columns[column].first + m_before);
         const auto last = static_cast<std::size_t>(m_columns[column].last + m_before - m_joined + 1);
         const Sample least = std::min(m_least[first], m_least[last]);
@@ -96,7 +96,8 @@ private:
         }
     }
 
-    /// Makes each bound that of a run of samples from there on, by doubling the runs as long as they fit every window.
+    /// Turns each bound into that of a run of samples that begins there. The runs double in length as long as they fit
+    /// every window.
     void joinNeighbors()
     {
         for (m_joined = 1; 2 * m_joined <= m_shortest; m_joined *= 2) {
@@ -115,7 +116,7 @@ private:
 
     const std::vector<Window> &m_columns;
     int m_width;
-    int m_before; ///< places before the row's first sample
+    int m_before; ///< positions before the row's first sample
     int m_shortest;
     int m_joined = 1;
     std::vector<Sample> m_least;

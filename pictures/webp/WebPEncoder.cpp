@@ -13,7 +13,7 @@ namespace lumora
 namespace
 {
 
-/// libwebp's picture and the memory that it writes to, freed with them.
+/// libwebp's picture and its output buffer; frees both.
 struct Encoding
 {
     WebPPicture picture;
