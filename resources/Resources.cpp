@@ -30,8 +30,8 @@ bool installTable(QCoreApplication &application, const QString &name, const QStr
     return translator->load(name, folder) && QCoreApplication::installTranslator(translator.release());
 }
 
-/// What the toolkit says by itself, in its dialogs and in the menu of a text field, comes with the system. Without it
-/// that much is English.
+/// The toolkit's own texts, in its dialogs and in the menu of a text field, come with the system. Where they are
+/// missing, these texts are in English.
 bool installLanguage(QCoreApplication &application, const QString &language, ToolkitTexts toolkit)
 {
     if (toolkit == ToolkitTexts::Install)
@@ -62,7 +62,7 @@ QLocale installTexts(QCoreApplication &application, const QLocale &locale, Toolk
     const QStringList available = availableLanguages();
     const QStringList wanted = locale.uiLanguages();
     for (const QString &tag : wanted) {
-        // "de-AT" is served by a table of its own where there is one, else by "de".
+        // "de-AT" uses its own table if there is one, else that of "de".
         QString name = tag;
         name.replace(u'-', u'_');
         for (; !name.isEmpty(); name = name.contains(u'_') ? name.section(u'_', 0, -2) : QString()) {

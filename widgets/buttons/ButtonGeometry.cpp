@@ -10,10 +10,10 @@ namespace lumora::buttongeometry
 namespace
 {
 
-/// Kept free between an icon's ink and the text, and between the text and the button's edges.
+/// The least distance between an icon's ink and the text, and between the text and the button's edges.
 constexpr qreal textMargin = 8;
 
-/// The same rectangle where reading begins at the right.
+/// The rectangle, mirrored for text that runs from the right.
 QRectF mirrored(const QRectF &rect, qreal width)
 {
     return {width - rect.right(), rect.top(), rect.width(), rect.height()};
@@ -58,7 +58,7 @@ QRectF iconRect(QSizeF bounds, QSizeF iconSize, const QRectF &ink, Qt::LayoutDir
         scale = std::min(scale, bounds.width() / inkRight);
     const QSizeF size = iconSize * scale;
     if (direction == Qt::RightToLeft) {
-        // The ink keeps its distance from the edge where reading begins; a glyph itself is never turned round.
+        // The ink keeps its distance from the edge where reading begins; the glyph itself is never mirrored.
         const qreal left = bounds.width() - (ink.left() + ink.right()) * size.width();
         return {QPointF(left, (bounds.height() - size.height()) / 2), size};
     }

@@ -6,7 +6,7 @@
 namespace lumora
 {
 
-/// A check box. Once it is set valid or invalid it keeps its image, whatever the pointer does.
+/// A check box. Once it is set valid or invalid, it keeps its image whatever the pointer does.
 class CheckboxButton final : public SelectionButton
 {
     Q_OBJECT
@@ -15,9 +15,9 @@ public:
     explicit CheckboxButton(QWidget *parent = nullptr);
 
     bool isInvalid() const { return m_invalid; }
-    /// Shows the invalid image, or the active image for false. Either freezes the box: isStaticBox() holds from now on.
+    /// Shows the invalid image, or the active image for false. Both freeze the box: isStaticBox() is true from then on.
     void setInvalid(bool invalid);
-    /// Whether the box takes no notice of the pointer; it still sends clicked().
+    /// Whether the box ignores the pointer; it still sends clicked().
     bool isStaticBox() const { return m_staticBox; }
     /// Shows the idle image; a frozen box stays frozen.
     void setIdle();

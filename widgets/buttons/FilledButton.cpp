@@ -21,10 +21,10 @@ constexpr int iconGap = 8;
 /// The focus ring is a dark line along the edge and a light one inside it, so that one of the two shows on any color.
 constexpr qreal outerRingWidth = 2;
 constexpr qreal innerRingWidth = 1.5;
-/// The relative luminance from which white text has less than two thirds of the contrast that large text needs.
+/// Above this relative luminance, white text has less than two thirds of the contrast that large text needs.
 constexpr double tooLightForWhite = 0.5;
 
-/// As WCAG 2 defines it, 0 for black to 1 for white.
+/// Relative luminance as WCAG 2 defines it: 0 for black, 1 for white.
 double relativeLuminance(const QColor &color)
 {
     const auto linear = [](float component) {
@@ -124,7 +124,7 @@ void FilledButton::drawText(QPainter &painter)
         buttongeometry::filledTextArea(size(), iconInk(size()), metrics.horizontalAdvance(text()), layoutDirection());
     int flags = Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap;
     QString shown = text();
-    // Lato's figures count the room above its capitals as leading, so every line carries its leading on top.
+    // Lato's metrics count the space above its capitals as leading, so the leading goes on top of each line.
     qreal height = metrics.leading() + metrics.boundingRect(area, flags, shown).height();
     if (height > size().height()) {
         flags = Qt::AlignHCenter | Qt::AlignTop | Qt::TextSingleLine;

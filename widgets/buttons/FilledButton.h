@@ -9,7 +9,7 @@
 namespace lumora
 {
 
-/// What buttons with a filled, rounded shape and a centered white text share.
+/// The base of buttons with a filled, rounded shape and a centered white text.
 class FilledButton : public PaintedButton
 {
     Q_OBJECT
@@ -17,9 +17,9 @@ class FilledButton : public PaintedButton
     Q_PROPERTY(QColor color READ color)
 public:
     QColor normalColor() const { return m_normalColor; }
-    /// Also becomes the current color, even under the pointer.
+    /// Also sets the current color, even under the pointer.
     void setNormalColor(const QColor &color);
-    /// What the shape is filled with now.
+    /// The color of the shape now.
     QColor color() const { return m_color; }
 
     QSize sizeHint() const override;
@@ -33,7 +33,7 @@ protected:
     virtual QColor colorUnderPointer() const = 0;
     /// The color of a pressed button.
     virtual QColor colorPressed() const = 0;
-    /// The part that an icon covers of a button of that size (a width of 0 stands for any), empty without an icon.
+    /// The part of a button of that size that an icon covers (a width of 0 means any width); empty without an icon.
     virtual QRectF iconInk(QSizeF) const { return {}; }
     virtual void drawIcon(QPainter &) {}
 

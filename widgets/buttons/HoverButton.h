@@ -6,7 +6,7 @@
 namespace lumora
 {
 
-/// A filled button with a bold text and two colors: one at rest, one under the pointer.
+/// A filled button with bold text and two colors: one at rest, one under the pointer.
 class HoverButton final : public FilledButton
 {
     Q_OBJECT

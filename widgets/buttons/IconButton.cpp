@@ -14,7 +14,8 @@ namespace lumora
 namespace
 {
 
-/// The smallest rectangle that holds everything drawn in the picture, in fractions of its size; empty for an empty one.
+/// The smallest rectangle that holds everything drawn in the picture, in fractions of its size; empty for an empty
+/// picture.
 QRectF inkOf(const NamedImage &icon)
 {
     const QImage image = icon.pixmap(icon.size(), 1).toImage().convertToFormat(QImage::Format_Alpha8);

@@ -10,8 +10,8 @@ namespace lumora
 /// A filled button with an icon, a text and three colors: at rest, under the pointer, after a press until the pointer
 /// leaves.
 ///
-/// The icon is a picture of the whole button, its glyph near the left edge. It is drawn as high as the button with its
-/// aspect kept, at the right edge where reading begins there, and the text moves out of the glyph's way.
+/// The icon is a picture of the whole button with its glyph near the left edge. It is drawn as high as the button, in
+/// its own aspect ratio, at the edge where reading begins; the text keeps clear of the glyph.
 class IconButton final : public FilledButton
 {
     Q_OBJECT
@@ -23,7 +23,7 @@ public:
 
     const NamedImage &icon() const { return m_icon; }
     void setIcon(const NamedImage &icon);
-    /// The icon by the name it has among the program's pictures, for interface files.
+    /// The icon by its name in the program's resources, for interface files.
     QString iconName() const { return m_icon.name(); }
     void setIconName(const QString &name) { setIcon(NamedImage(name)); }
 

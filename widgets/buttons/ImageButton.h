@@ -7,8 +7,8 @@
 namespace lumora
 {
 
-/// A button that is nothing but its picture, with another picture while it is pressed. Give it an accessible name or a
-/// tool tip: it has no text that could name it.
+/// A button that shows only a picture, and another picture while it is pressed. Give it an accessible name or a tool
+/// tip, since it has no text.
 class ImageButton final : public PaintedButton
 {
     Q_OBJECT
@@ -19,11 +19,11 @@ public:
 
     const NamedImage &image() const { return m_image; }
     void setImage(const NamedImage &image);
-    /// Shown while the button is pressed; the image itself stands in where there is none.
+    /// Shown while the button is pressed; if null, the image itself is shown.
     const NamedImage &alternateImage() const { return m_alternateImage; }
     void setAlternateImage(const NamedImage &image);
 
-    /// The pictures by the names they have among the program's pictures, for interface files.
+    /// The pictures by their names in the program's resources, for interface files.
     QString imageName() const { return m_image.name(); }
     void setImageName(const QString &name) { setImage(NamedImage(name)); }
     QString alternateImageName() const { return m_alternateImage.name(); }

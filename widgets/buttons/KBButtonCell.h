@@ -14,7 +14,7 @@ namespace lumora
 {
 Q_NAMESPACE
 
-/// What a beveled button is for; each has its own color.
+/// The purpose of a beveled button; each has its own color.
 enum class KBButtonType { Default, Primary, Information, Success, Warning, Danger, Inverse };
 Q_ENUM_NS(KBButtonType)
 
@@ -40,10 +40,10 @@ public:
 
     const QFont &font() const { return m_font; }
 
-    /// Fill the frame, corners rounded by 3. Both leave the painter as it was.
+    /// These two fill the frame, with corners rounded by 3, and keep the painter's state.
     void drawBezelWithFrame(QPainter &painter, const QRectF &frame) const;
-    /// Draws the title in the middle of the frame, dark on a light base color, else white; cut with an ellipsis where
-    /// it does not fit.
+    /// Draws the title in the middle of the frame, dark on a light base color, else white; shortened with an ellipsis
+    /// if it does not fit.
     void drawTitle(QPainter &painter, const QString &title, const QRectF &frame) const;
 
 private:

@@ -57,7 +57,7 @@ bool PaintedButton::event(QEvent *event)
 {
     if (m_keyboardFocus.follow(event))
         update();
-    // Where the pointer goes over a dialog, no event reports it to the button.
+    // When a dialog opens under the pointer, the button gets no leave event.
     if (event->type() == QEvent::WindowBlocked)
         leave();
     return QAbstractButton::event(event);
@@ -107,7 +107,7 @@ void PaintedButton::mouseReleaseEvent(QMouseEvent *event)
 {
     const bool ends = isDown() && event->button() == Qt::LeftButton;
     const QPointer<PaintedButton> alive(this);
-    // The owner may close what the button stands in, and the button with it.
+    // The owner may close the window that the button is in, and so delete the button.
     QAbstractButton::mouseReleaseEvent(event);
     if (!alive)
         return;

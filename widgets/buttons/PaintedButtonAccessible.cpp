@@ -18,7 +18,7 @@ QString PaintedButtonAccessible::text(QAccessible::Text kind) const
             return widget()->accessibleName();
         if (!button()->text().isEmpty())
             return button()->text();
-        // A button with nothing but a picture is best named by what its tool tip says.
+        // A button with only a picture is named by its tool tip.
         if (!widget()->toolTip().isEmpty())
             return widget()->toolTip();
     }

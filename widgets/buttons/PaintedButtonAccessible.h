@@ -8,8 +8,8 @@ namespace lumora
 
 class PaintedButton;
 
-/// What a screen reader learns about a painted button: its role, its text as its name, whether it is checked, and how
-/// to press it.
+/// Presents a painted button to screen readers: its role, its text as its name, whether it is checked, and how to press
+/// it.
 class PaintedButtonAccessible final : public QAccessibleWidget
 {
 public:

@@ -6,9 +6,9 @@
 namespace lumora
 {
 
-/// The scale that a button is drawn at: it shrinks under the pointer and springs back when the pointer leaves. Runs
-/// only while the button can be seen; otherwise the scale takes its final value at once. Emits valueChanged() for every
-/// new scale.
+/// The scale of a button's drawing: it shrinks under the pointer and springs back when the pointer leaves. Runs only
+/// while the button is visible; otherwise the scale takes its final value at once. Emits valueChanged() for every new
+/// scale.
 class PressAnimation final : public QVariantAnimation
 {
     Q_OBJECT
@@ -17,12 +17,12 @@ public:
 
     /// Shrinks: 0.95, 0.9, 0.95 within a quarter of a second, and stays there.
     void touchIn();
-    /// Springs back: 0.95, 1.05, 1.0 within a quarter of a second. Takes the place of a running touchIn().
+    /// Springs back: 0.95, 1.05, 1.0 within a quarter of a second. Replaces a running touchIn().
     void touchOut();
-    /// Jumps to where the running animation would end.
+    /// Jumps to the end of the running animation.
     void finish();
 
-    /// 1 before the first animation, afterwards the last scale of the last animation while none runs.
+    /// 1 before the first animation; while none runs, the final scale of the last one.
     qreal scale() const;
 
 private:

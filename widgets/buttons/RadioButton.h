@@ -6,7 +6,7 @@
 namespace lumora
 {
 
-/// A radio button. It knows no group: the owner of the buttons of a choice sets `active` on each of them.
+/// A radio button. It knows no group: the owner of the buttons sets `active` on each of them.
 class RadioButton final : public SelectionButton
 {
     Q_OBJECT

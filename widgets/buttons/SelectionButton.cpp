@@ -19,7 +19,7 @@ namespace
 constexpr int hintHeight = 24;
 constexpr qreal ringWidth = 2;
 constexpr qreal ringRadius = 4;
-/// Between the text and the outer edge of the focus ring, where it begins and ends.
+/// The distance from both ends of the text to the outer edge of the focus ring.
 constexpr qreal leadingMargin = 6;
 constexpr int trailingMargin = 6;
 
@@ -37,7 +37,7 @@ void SelectionButton::setActive(bool active)
     if (active == m_active)
         return;
     m_active = active;
-    // The last press left the active image behind; a button that is no longer active would still look it.
+    // The last press left the active image, but the button may no longer be active.
     if (!active && !isFrozen())
         setCurrentImage(isHovered() ? m_hoverImage : m_idleImage);
     update();
@@ -92,7 +92,7 @@ void SelectionButton::drawRect(QPainter &painter)
         return;
     const QFontMetricsF metrics(m_font);
     QRectF area = buttongeometry::selectionTextArea(bounds, layoutDirection());
-    // Lato's figures count the room above its capitals as leading, so the line carries its leading on top.
+    // Lato's metrics count the space above its capitals as leading, so the leading goes on top of the line.
     area.setTop(buttongeometry::selectionTextTop(bounds.height(), metrics.lineSpacing()) + metrics.leading());
     area.setHeight(metrics.height());
     painter.setFont(m_font);
@@ -104,7 +104,7 @@ void SelectionButton::drawRect(QPainter &painter)
 
 void SelectionButton::drawFocusRing(QPainter &painter)
 {
-    // The image reaches to the very edge, so the ring goes round the text where there is one.
+    // The image reaches to the button's edge, so the ring is drawn around the text if there is one.
     QRectF ring = rect();
     if (!text().isEmpty()) {
         ring = buttongeometry::selectionTextArea(size(), layoutDirection());

@@ -8,8 +8,8 @@
 namespace lumora
 {
 
-/// What check boxes and radio buttons share: a 20 × 20 image where reading begins and a text beside it. The button
-/// never checks itself: its owner sets `active` in answer to clicked().
+/// The base of check boxes and radio buttons: a 20 × 20 image at the edge where reading begins, and a text beside it.
+/// The button never checks itself: its owner sets `active` in a slot of clicked().
 class SelectionButton : public PaintedButton
 {
     Q_OBJECT
@@ -21,7 +21,7 @@ public:
     const NamedImage &idleImage() const { return m_idleImage; }
     const NamedImage &hoverImage() const { return m_hoverImage; }
     const NamedImage &activeImage() const { return m_activeImage; }
-    /// What is drawn while the button is not active.
+    /// The image while the button is not active.
     const NamedImage &currentImage() const { return m_currentImage; }
 
     QSize sizeHint() const override;
@@ -32,7 +32,7 @@ protected:
     SelectionButton(QAccessible::Role role, const QString &imageStem, QWidget *parent);
 
     void setCurrentImage(const NamedImage &image);
-    /// Whether the image stays whatever happens.
+    /// Whether the image never changes.
     virtual bool isFrozen() const { return false; }
 
     void mouseEntered() override;

@@ -27,9 +27,9 @@ namespace
 
 using namespace std::chrono_literals;
 
-/// How long the press animation takes to come to rest, and some more.
+/// A little longer than the press animation.
 constexpr auto pictureDelay = 500ms;
-/// Of a control here, in points; some would fill the page.
+/// The widest control here, in points; some would fill the page.
 constexpr int widest = 140;
 
 enum class State { AtRest, UnderPointer, Pressed, KeyFocus, Disabled, Mirrored };
@@ -74,7 +74,7 @@ IconButton *iconButton()
     return made;
 }
 
-/// On a band of the color that it has under it in the program's header.
+/// On a band of the color of the program's header.
 QWidget *imageButton()
 {
     auto *made = new ImageButton;
@@ -162,7 +162,7 @@ void ControlPage::addStates(const QString &title, const std::function<QWidget *(
             m_underPointer << control;
             break;
         case State::Pressed:
-            // A field is edited from the press on, and only one can be.
+            // A press begins the editing of a field, and only one field can be edited.
             (qobject_cast<ZKTextField *>(control) ? m_clicked : m_held) << control;
             break;
         case State::KeyFocus:

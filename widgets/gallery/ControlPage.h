@@ -8,18 +8,18 @@
 namespace lumora::gallery
 {
 
-/// Every control that answers to the pointer and the keyboard, in every state that they put it in.
+/// Every control that reacts to the pointer and the keyboard, in each of its states.
 class ControlPage final : public GalleryPage
 {
     Q_OBJECT
 public:
     explicit ControlPage(QWidget *parent = nullptr);
 
-    /// Of the button that opens a popover.
+    /// The object name of the button that opens a popover.
     static constexpr auto popoverAnchorName = "popoverAnchor";
 
 private:
-    /// One of the kind in each state.
+    /// One control of the kind in each state.
     void addStates(const QString &title, const std::function<QWidget *()> &make);
     void showStates();
 

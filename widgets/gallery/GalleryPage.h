@@ -8,7 +8,7 @@ class QGridLayout;
 namespace lumora::gallery
 {
 
-/// A page of rows: what is shown at the left, the control in one state each to the right of it.
+/// A page of rows: a label at the left, then the control in each of its states.
 class GalleryPage : public QWidget
 {
     Q_OBJECT
@@ -18,12 +18,12 @@ public:
 protected:
     /// Names the columns; all of them become equally wide.
     void addHeadings(const QStringList &headings);
-    /// Adds a row; the page takes the controls over.
+    /// Adds a row; the page owns the controls from then on.
     void addRow(const QString &title, const QList<QWidget *> &controls);
-    /// Puts a picture of the control, as it looks now, in its place: for what only one control at a time can be.
+    /// Replaces the control by a picture of its present look: for states that only one control at a time can have.
     void photograph(QWidget *control);
 
-    /// Tells a control that the pointer came over it, as a real pointer would.
+    /// Sends a control the events of a pointer that moves over it.
     static void hover(QWidget *control);
     /// The same, and holds the left button down.
     static void press(QWidget *control);

@@ -131,7 +131,7 @@ QPixmap picture(const Look &look)
     window.show();
     window.setWindowState(state);
     QApplication::setActiveWindow(look.active ? &window : nullptr);
-    // Full screen may have made it as large as the screen.
+    // Full screen may have resized it to the screen.
     window.resize(barWidth, static_cast<int>(window.titleBarHeight()) + contentHeight);
     const QPixmap grabbed = window.grab();
     closeLight(window)->group()->resetMouseCaptures();

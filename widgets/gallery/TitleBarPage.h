@@ -6,8 +6,8 @@
 namespace lumora::gallery
 {
 
-/// Pictures of windows' title bars. Only one window at a time can be the active one, so each is shown out of sight,
-/// made active where its look wants that, and photographed.
+/// Pictures of title bars. Only one window at a time can be active, so each is shown off screen, made active if its
+/// look needs that, and captured.
 class TitleBarPage final : public GalleryPage
 {
     Q_OBJECT

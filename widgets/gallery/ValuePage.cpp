@@ -51,7 +51,7 @@ IconButton *iconButton(const char *text, const char *icon, const QColor &color)
     return made;
 }
 
-/// No wider than a column, with more to say than fits in.
+/// No wider than a column, with a text that does not fit.
 template <typename Control> Control *narrow(Control *control)
 {
     control->setFixedWidth(130);

@@ -6,8 +6,7 @@
 namespace lumora::gallery
 {
 
-/// The progress bar at every value that is drawn in its own way, the icons of the icon buttons, and texts that do not
-/// fit.
+/// The progress bar at every value with a look of its own, the icons of the icon buttons, and texts that do not fit.
 class ValuePage final : public GalleryPage
 {
     Q_OBJECT

@@ -24,7 +24,7 @@ constexpr std::array kinds{"close", "minimize", "zoom", "fullscreen"};
 
 enum class Look { Active, NotKey, Rollover, Pressed, Disabled };
 
-/// The four buttons on a band of the color that most windows have there.
+/// The four buttons on a band of the color of most title bars.
 QWidget *lights(Look look)
 {
     auto *band = new QWidget;
@@ -37,7 +37,7 @@ QWidget *lights(Look look)
     int x = 16;
     for (const char *kind : kinds) {
         auto *button = new INWindowButton(group, QLatin1StringView(kind), band);
-        // Whether or not the gallery has the keyboard.
+        // Also when the gallery does not have the keyboard.
         if (look == Look::NotKey)
             button->setActiveImage(button->activeNotKeyWindowImage());
         else
@@ -92,7 +92,7 @@ SFBPopoverWindowFrame *balloonAt(int position)
     return frame;
 }
 
-/// As it is before anything is set.
+/// A balloon with its default settings.
 SFBPopoverWindowFrame *plainBalloon()
 {
     SFBPopoverWindowFrame *frame = balloon(u"As it comes"_s);

@@ -8,17 +8,16 @@ namespace lumora
 
 class SFBPopoverWindow;
 
-/// What a screen reader learns about a popover: a message that wants attention, or a dialog where there is something to
-/// operate, named as its content is.
+/// Presents a popover to screen readers: as a dialog if it has something to operate, else as an alert; it has its
+/// content's name.
 class PopoverAccessible final : public QAccessibleWidget
 {
 public:
     explicit PopoverAccessible(SFBPopoverWindow *popover);
 
-    /// Has screen readers ask for the popover's texts again: they are its content's, which may have changed
-    /// while nobody saw it.
+    /// Makes screen readers read the popover's texts again: its content may have changed while it was hidden.
     static void renew(SFBPopoverWindow *popover);
-    /// Tells the screen reader that the popover has just come up.
+    /// Reports to screen readers that the popover has just appeared.
     static void announce(SFBPopoverWindow *popover);
 
     QAccessible::Role role() const override;

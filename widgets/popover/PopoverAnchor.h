@@ -16,26 +16,27 @@ namespace lumora
 struct PopoverTarget
 {
     QWidget *view = nullptr;
-    /// The edge on which the popover opens where there is room; elsewhere it opens on another.
+    /// The edge on which the popover opens if there is room; otherwise it opens on another.
     Qt::Edge preferredEdge = Qt::BottomEdge;
-    /// From that edge to the arrow's tip, in points.
+    /// The distance from that edge to the arrow's tip, in points.
     qreal gap = 0;
     /// In the view's own coordinates; empty for the whole view.
     QRect area;
 };
 
-/// What a shown popover points at, wherever that has moved meanwhile: a control, or a point of a window.
+/// The target of a shown popover: a control, or a point of a window. It is found again when the control or window
+/// moves.
 class PopoverAnchor
 {
 public:
     PopoverAnchor() = default;
-    /// A point in the window's base coordinates (from its lower left corner, y upwards), which keeps its place below
-    /// the window's upper left corner; in screen coordinates without a window.
+    /// A point in the window's base coordinates (from its lower left corner, y up); in screen coordinates without a
+    /// window. It keeps its distance from the window's upper left corner.
     PopoverAnchor(QWidget *window, const QPointF &point);
     explicit PopoverAnchor(const PopoverTarget &target);
 
-    /// Where a balloon around a content of the size opens now; the point of a popover that was given one keeps the
-    /// position. Nothing where the control is gone.
+    /// The place of a balloon around a content of the size. A popover with a point keeps the position; empty if the
+    /// control is gone.
     std::optional<PopoverPlacement> placement(const QSizeF &contentSize, const PopoverMetrics &metrics) const;
 
 private:

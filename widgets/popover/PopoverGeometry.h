@@ -8,8 +8,8 @@
 namespace lumora
 {
 
-/// Where a balloon lies relative to the point it points at, and where its arrow sits on it. The plain sides have the
-/// arrow in the middle of the facing side; the others name the end of that side which the arrow is near.
+/// On which side of its point a balloon lies, and where its arrow is. The plain values have the arrow in the middle of
+/// the side that faces the point; the others name the end of that side that is near the arrow.
 enum class PopoverPosition : quint32 {
     Left = 0,
     Below = 1,
@@ -38,25 +38,27 @@ struct PopoverMetrics
     bool drawRoundCornerBesideArrow = true;
     qreal viewMargin = 0;
 
-    /// What the arrow takes on its side of the balloon.
+    /// The space that the arrow takes on its side of the balloon.
     qreal arrowRoom() const { return arrowHeight + distance; }
 };
 
-// All rectangles and points below count y upwards: a QRectF's y() is its lower edge, y() + height() its upper one.
+// Below, y counts upwards: a QRectF's y() is its lower edge, y() + height() its upper edge.
 
 /// The frame around a content rectangle: margin, room for the arrow and its distance, border. For a balloon above its
-/// point the origin moves up by that room, not down; contentRectForFrameRect() undoes exactly this.
+/// point the origin moves up by that room, not down; contentRectForFrameRect() reverses exactly this.
 QRectF frameRectForContentRect(const QRectF &contentRect, const PopoverMetrics &metrics);
 /// The inverse of frameRectForContentRect().
 QRectF contentRectForFrameRect(const QRectF &frameRect, const PopoverMetrics &metrics);
-/// Where the content lies on screen inside a frame that stands with its attachment point on the anchor. The same as
-/// contentRectForFrameRect() but for the positions above the point, where that function would lay the content over it.
+/// The content's rectangle on screen, inside a frame whose attachment point is on the anchor. The same as
+/// contentRectForFrameRect(), except for positions above the point, where that function would place the content over
+/// the point.
 QRectF placedContentRect(const QRectF &frameRect, const PopoverMetrics &metrics);
 
-/// The arrow's place on the frame's edge, the spot that is laid on the anchor. An unknown position yields (0, 0).
+/// The arrow's place on the frame's edge, which is put on the anchor. An unknown position gives (0, 0).
 QPointF attachmentPointForRect(const QRectF &rect, const PopoverMetrics &metrics);
 
-/// Turns y-up into Qt's y-down coordinates and back, inside an area of the height. The one place where that happens.
+/// Converts y-up coordinates to Qt's y-down ones and back, inside an area of the height. Nothing else does this
+/// conversion.
 QRectF flipped(const QRectF &rect, qreal height);
 QPointF flipped(const QPointF &point, qreal height);
 

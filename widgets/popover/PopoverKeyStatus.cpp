@@ -115,13 +115,14 @@ bool PopoverKeyStatus::belongsToParent(const QObject *receiver) const
 void PopoverKeyStatus::focusWindowChanged(QWindow *window)
 {
     if (!window)
-        return; // between two windows, or the application became inactive, which says so itself
+        return; // between two windows; or the application became inactive, which sends its own event
     if (belongsToPopover(window)) {
         m_hadFocus = true;
         become();
         return;
     }
-    // A parent that becomes active just after the popover was shown has not taken the keyboard from it.
+    // When the parent becomes active just after the popover was shown, that does not take the keyboard from the
+    // popover.
     if (m_hadFocus || !belongsToParent(window))
         resign();
 }
@@ -149,7 +150,7 @@ bool PopoverKeyStatus::takesKey(QObject *receiver, QKeyEvent *event)
         return false;
     const bool escape = event->key() == Qt::Key_Escape && event->modifiers() == Qt::NoModifier;
     if (event->type() == QEvent::ShortcutOverride) {
-        // Whoever takes the key takes it before any shortcut of the parent window.
+        // The popover gets the key before any shortcut of the parent window.
         if (escape)
             event->accept();
         return escape || handsOnToFocus(receiver, event);

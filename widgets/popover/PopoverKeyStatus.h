@@ -13,13 +13,13 @@ namespace lumora
 
 class SFBPopoverWindow;
 
-/// Whether a popover needs the keyboard once it is shown: it has something to type into, or something to operate while
-/// nobody is typing in the parent window. Otherwise typing goes on where it was.
+/// Whether a popover needs the keyboard once it is shown: if it has a text field, or if it has a control and no text
+/// field of the parent window has the focus. Otherwise the keyboard stays where it is.
 bool wantsKeyboard(const QWidget *content, const QWidget *parentWindow);
 
-/// Watches whether a shown popover is the key window: the one the user works in. It is from its showing on, whether or
-/// not it has the keyboard, until the user presses or activates another window. Where the system cannot give the
-/// popover the keyboard, the parent window's keys are handed on to it as long as it is key.
+/// Watches whether a shown popover is the key window: the window in which the user works. It is key as soon as it is
+/// shown, with or without the keyboard, until the user presses or activates another window. If the system cannot give
+/// the popover the keyboard, it gets the parent window's keys as long as it is key.
 class PopoverKeyStatus : public QObject
 {
     Q_OBJECT
@@ -30,12 +30,12 @@ public:
     bool isKeyWindow() const { return m_isKey; }
     /// The popover was shown above the parent, which may be null.
     void begin(QWidget *parentWindow, bool wantsKeyboard);
-    /// The popover is about to go: typing returns to the parent if the popover had it.
+    /// The popover is about to be hidden: the keyboard returns to the parent if the popover had it.
     void end();
 
 signals:
     void resignedKey();
-    /// Escape was pressed in the parent window, which the user sees as pressed in the popover.
+    /// Escape was pressed in the parent window while the popover is key.
     void canceled();
 
 protected:
@@ -57,7 +57,7 @@ private:
     bool m_isKey = false;
     bool m_wantsKeyboard = false;
     bool m_hadFocus = false;
-    /// The parent's keys go to the popover.
+    /// Whether the parent's keys go to the popover.
     bool m_borrowsKeys = false;
 };
 

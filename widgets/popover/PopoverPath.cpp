@@ -14,7 +14,7 @@ namespace
 enum Corner { LowerLeft, LowerRight, UpperRight, UpperLeft };
 enum BalloonSide { BottomSide, RightSide, TopSide, LeftSide, NoSide };
 
-/// The side of the balloon that carries the arrow: the one that faces the point.
+/// The side of the balloon with the arrow, which faces the point.
 BalloonSide arrowSide(PopoverPosition position)
 {
     switch (position) {
@@ -38,7 +38,7 @@ BalloonSide arrowSide(PopoverPosition position)
     return NoSide;
 }
 
-/// The corner that an arrow near the end of its side stands next to, or -1 for an arrow in the middle.
+/// The corner next to an arrow near the end of its side; -1 for an arrow in the middle.
 int cornerBesideArrow(PopoverPosition position)
 {
     switch (position) {
@@ -131,7 +131,7 @@ QPainterPath popoverPath(const QRectF &contentRect, const QPointF &attachmentPoi
                                             QPointF(balloon.x(), balloon.y() + balloon.height())};
     // The unit vector along each side, in drawing order.
     const std::array<QPointF, 4> along = {QPointF(1, 0), QPointF(0, 1), QPointF(-1, 0), QPointF(0, -1)};
-    // How far a cubic's handles reach from a quarter circle's ends, as a part of the radius: 4 / 3 * (sqrt(2) - 1).
+    // The length of a cubic curve's handles for a quarter circle, in radii: 4 / 3 * (sqrt(2) - 1).
     constexpr qreal handle = 0.5522847498307936;
 
     QPainterPath path(corners[LowerLeft] + along[BottomSide] * radii[LowerLeft]);

@@ -13,7 +13,7 @@ struct EdgeChoice
 {
     Qt::Edge edge;
     Qt::Edge opposite;
-    /// Centered first, then shifted either way.
+    /// First the centered position, then the shifted ones.
     std::array<PopoverPosition, 3> positions;
 };
 
@@ -25,7 +25,7 @@ constexpr std::array<EdgeChoice, 4> choices{{
     {Qt::TopEdge, Qt::BottomEdge, {Above, AboveArrowNearRight, AboveArrowNearLeft}},
 }};
 
-/// More than the rounding errors of sums of fractions, less than anybody sees; square points.
+/// In square points: larger than rounding errors, smaller than any visible difference.
 constexpr qreal roundingArea = 0.5;
 
 const EdgeChoice &choiceOf(Qt::Edge edge)
@@ -37,7 +37,7 @@ const EdgeChoice &choiceOf(Qt::Edge edge)
     return choices.front();
 }
 
-/// In front of the middle of an edge, y upwards.
+/// The point in front of the middle of an edge, y upwards.
 QPointF pointBeside(const PopoverTargetArea &target, Qt::Edge edge)
 {
     const QRectF &area = target.area;

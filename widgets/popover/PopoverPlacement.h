@@ -8,7 +8,7 @@
 namespace lumora
 {
 
-/// Where a balloon lies and the spot that its arrow points at.
+/// The place of a balloon, and the point that its arrow points at.
 struct PopoverPlacement
 {
     PopoverPosition position = PopoverPosition::Below;
@@ -21,19 +21,19 @@ struct PopoverPlacement
 struct PopoverTargetArea
 {
     QRectF area;
-    /// The edge on which the popover opens where there is room.
+    /// The edge on which the popover opens if there is room.
     Qt::Edge preferredEdge = Qt::BottomEdge;
-    /// From that edge to the arrow's tip, in points.
+    /// The distance from that edge to the arrow's tip, in points.
     qreal gap = 0;
 };
 
-/// Where a balloon around a content of the size opens beside the area so that it stays on the screen: on the preferred
-/// edge, else on the opposite one, else on another; along that edge centered, else shifted. Where it fits nowhere, it
-/// opens where most of it can be seen, and as preferred where nothing can.
+/// The place beside the area of a balloon around a content of the size, so that it stays on the screen: on the
+/// preferred edge, else on the opposite one, else on another; centered along that edge, else shifted. If it fits
+/// nowhere, it opens where most of it is visible, or as preferred if no place is visible at all.
 PopoverPlacement popoverPlacement(const PopoverTargetArea &target, const QSizeF &contentSize, const QRectF &screen,
                                   PopoverMetrics metrics);
 
-/// What the best position depends on; screen coordinates, y upwards.
+/// The input for the best position, in screen coordinates, y upwards.
 struct PopoverSurroundings
 {
     QPointF point;                     ///< the anchor
@@ -41,8 +41,8 @@ struct PopoverSurroundings
     QRectF screen;                     ///< the usable area of the parent's screen
     std::optional<QRectF> parentFrame; ///< none without a parent window
 };
-/// For a popover that was given a bare point: the position that keeps the balloon on the screen and, along its side,
-/// over the parent window.
+/// For a popover with a point instead of an area: the position that keeps the balloon on the screen and, along its
+/// side, over the parent window.
 PopoverPosition bestPopoverPosition(const PopoverSurroundings &surroundings, const PopoverMetrics &metrics);
 
 } // namespace lumora

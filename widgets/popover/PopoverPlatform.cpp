@@ -12,8 +12,9 @@ PopoverPlatform popoverPlatform(const QString &platformName)
     PopoverPlatform platform;
     if (platformName.startsWith(u"wayland"_s)) {
         // A Wayland client cannot place a top-level window. A window of the tool-tip type becomes a popup without a
-        // grab, which the compositor lays at its exact place relative to its parent and which follows the parent; one
-        // of the popup type grabs the pointer and lands beside its anchor, one of the tool type lands anywhere.
+        // grab: the compositor puts it at its exact place relative to its parent and moves it with the parent. A window
+        // of the popup type grabs the pointer and appears beside its anchor, and one of the tool type may appear
+        // anywhere.
         platform.windowFlags = Qt::ToolTip | borderless;
         platform.takesKeyboard = false;
         platform.blendsWindows = false;

@@ -7,19 +7,19 @@
 namespace lumora
 {
 
-/// What a window system lets a popover's window do, and the window type that follows from it.
+/// The abilities of a popover's window on a window system, and the window type for it.
 struct PopoverPlatform
 {
     Qt::WindowFlags windowFlags;
-    /// Its window can have the keyboard itself. Where it cannot, the parent window hands its keys on.
+    /// The window can have the keyboard itself. If not, the parent window passes its keys on.
     bool takesKeyboard = true;
-    /// The system blends a whole window; elsewhere the drawing is faded.
+    /// The system can fade a whole window; otherwise the drawing is faded.
     bool blendsWindows = true;
-    /// It can be moved while it is shown; elsewhere it is hidden and shown again at the new place.
+    /// The window can be moved while it is shown; otherwise it is hidden and shown again at the new place.
     bool movesWhileShown = true;
 };
 
-/// The one place where that is decided, by the name Qt gives the platform ("xcb", "wayland", ...).
+/// Decides this by Qt's name for the platform ("xcb", "wayland", ...); nothing else does.
 PopoverPlatform popoverPlatform(const QString &platformName);
 
 } // namespace lumora

@@ -40,7 +40,7 @@ SFBPopover::SFBPopover(ViewController *contentViewController, QObject *parent, c
 
 SFBPopover::~SFBPopover()
 {
-    // No more signals: the window goes with the popover.
+    // No more signals: the popover deletes its window.
     m_window->disconnect(this);
 }
 
@@ -105,7 +105,7 @@ void SFBPopover::displayPopover(const PopoverTarget &target)
     show(target.view->window());
 }
 
-/// A content that was resized while nobody saw it is shown in its new size.
+/// The content may have been resized while it was hidden.
 void SFBPopover::takeContentSize()
 {
     const QWidget *content = m_window->contentView();
@@ -130,7 +130,8 @@ void SFBPopover::show(QWidget *parentWindow)
     if (!m_animates)
         return;
     fadeTo(1);
-    // Before the fade has come to anything that can be seen there is time for what costs most of the first frame.
+    // Done here, since nothing is visible before the fade's first steps: drawing the shadow takes most of the first
+    // frame.
     QMetaObject::invokeMethod(m_window->popoverWindowFrame(), &SFBPopoverWindowFrame::prepareDrawing,
                               Qt::QueuedConnection);
 }
@@ -240,7 +241,7 @@ bool SFBPopover::eventFilter(QObject *watched, QEvent *event)
             parentMoved();
             break;
         case QEvent::Resize:
-            // The controls are where they belong only after the layouts have seen the new size.
+            // The controls have their places only after the layouts were updated for the new size.
             QMetaObject::invokeMethod(this, &SFBPopover::parentLaidOut, Qt::QueuedConnection);
             break;
         case QEvent::Hide:

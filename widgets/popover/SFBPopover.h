@@ -18,9 +18,9 @@ namespace lumora
 class EasedAnimation;
 class PopoverKeyStatus;
 
-/// Shows any view in a balloon that points at a spot in a parent window, fades in and out, follows its parent, and
-/// closes itself where that is asked for. Points are in the parent window's base coordinates: from its lower left
-/// corner, y upwards, in points; without a parent they are screen coordinates.
+/// Shows any view in a balloon that points at a place in a parent window. It fades in and out, follows its parent, and
+/// closes by itself if so set. Points are in the parent window's base coordinates: from its lower left corner, y
+/// upwards, in points; without a parent they are screen coordinates.
 class SFBPopover : public QObject
 {
     Q_OBJECT
@@ -30,9 +30,9 @@ class SFBPopover : public QObject
 public:
     /// A popover without content.
     SFBPopover();
-    /// Wraps the view in a plain controller. The popover owns the view from then on.
+    /// Wraps the view in a plain controller. The popover owns the view.
     explicit SFBPopover(QWidget *contentView, QObject *parent = nullptr);
-    /// Owns the controller and its view from then on.
+    /// The popover owns the controller and its view.
     explicit SFBPopover(ViewController *contentViewController, QObject *parent = nullptr,
                         const PopoverPlatform &platform = popoverPlatform(QGuiApplication::platformName()));
     ~SFBPopover() override;
@@ -45,13 +45,13 @@ public:
     /// Ignored while the popover is visible, also while it fades out. `window` may be any widget of the parent window,
     /// or null.
     void displayPopoverInWindow(QWidget *window, const QPointF &atPoint, bool chooseBestLocation = false);
-    /// Opens beside a control and stays beside it, on the screen, wherever the control goes. Ignored as above.
+    /// Opens beside a control and stays beside it, on the screen, when the control moves. Ignored as above.
     void displayPopover(const PopoverTarget &target);
     void movePopoverToPoint(const QPointF &point);
     PopoverPosition bestPositionInWindow(QWidget *window, const QPointF &atPoint) const;
     /// True from the display on until the fade-out has ended.
     bool isVisible() const;
-    /// It is the window the user works in, with or without the keyboard.
+    /// Whether it is the window in which the user works, with or without the keyboard.
     bool isKeyWindow() const;
 
     bool animates() const { return m_animates; }
@@ -94,7 +94,7 @@ public slots:
 
 signals:
     void displayed();
-    /// It begins to go, fading out or at once; it is still visible.
+    /// The popover begins to close, fading out or at once; it is still visible.
     void closing();
     void closed();
 

@@ -51,7 +51,7 @@ void SFBPopoverWindow::setContentView(QWidget *view)
     m_contentView = view;
     if (!view)
         return;
-    // A view that nobody has sized yet has no size of its own to go by.
+    // A view that was never resized has no meaningful size yet.
     if (!view->testAttribute(Qt::WA_Resized))
         view->adjustSize();
     const QSizeF size = view->size();
@@ -148,8 +148,8 @@ void SFBPopoverWindow::updateShape()
         outline = outline.united(stroker.createStroke(outline));
     }
     const QRegion balloon = QRegion(outline.toFillPolygon().toPolygon());
-    // Without blending the margin would be drawn black, so the window takes the balloon's shape instead, and what its
-    // smooth edge is drawn on is a picture of the window below.
+    // Without blending the margin would be black. So the window takes the balloon's shape, and its smooth edge is drawn
+    // on a picture of the window below.
     const bool translucent = windowsAreTranslucent();
     m_frameView->setBlends(translucent);
     setWindowShape(windowHandle(), translucent ? QPainterPath() : outline);
@@ -158,7 +158,7 @@ void SFBPopoverWindow::updateShape()
     setInputRegion(windowHandle(), balloon);
 }
 
-/// What the parent shows where this window covers it; transparent beside it.
+/// A picture of the part of the parent that this window covers; transparent beside the parent.
 QPixmap SFBPopoverWindow::pictureBelow() const
 {
     QPixmap below((QSizeF(size()) * devicePixelRatioF()).toSize());
@@ -341,7 +341,7 @@ void SFBPopoverWindow::resizeByDrag(const QPointF &travel, const QPointF &corner
 void SFBPopoverWindow::dragTo(const QRectF &frame)
 {
     if (!m_platform.movesWhileShown) {
-        // To be moved it is hidden and shown again, which would take the mouse from it in the middle of the drag.
+        // Moving it would hide it and show it again, which would take the mouse from it during the drag.
         m_dragTarget = frame;
         return;
     }

@@ -17,7 +17,7 @@ namespace lumora
 /// The borderless window of a popover. It carries the frame view, which carries the content view.
 ///
 /// `frame()` is the popover's frame on screen, in points, y upwards from the primary screen's lower edge. The widget
-/// itself is larger by SFBPopoverWindowFrame::shadowMargin on every side; the mouse goes through that band.
+/// itself is larger by SFBPopoverWindowFrame::shadowMargin on every side; mouse events pass through that band.
 class SFBPopoverWindow : public QWidget
 {
     Q_OBJECT
@@ -30,7 +30,7 @@ public:
 
     SFBPopoverWindowFrame *popoverWindowFrame() const { return m_frameView; }
     QWidget *contentView() const { return m_contentView; }
-    /// Puts the view in, sized around it; the window owns it from then on and deletes the view it had before.
+    /// Resizes the window around the view. The window owns the view and deletes the previous one.
     void setContentView(QWidget *view);
     /// Resizes the window around a content of the size. A shown popover keeps its arrow's tip in place.
     void setContentSize(const QSizeF &size);
@@ -56,11 +56,11 @@ public:
     qreal alphaValue() const { return m_alphaValue; }
     void setAlphaValue(qreal alpha);
 
-    /// Shows the window above the parent, which may be null. `takingKeyboard` says whether the system is asked to give
-    /// it the keyboard.
+    /// Shows the window above the parent, which may be null. `takingKeyboard` sets whether it asks the system for the
+    /// keyboard.
     void orderFront(QWidget *parentWindow, bool takingKeyboard);
     void orderOut();
-    /// The window it was shown above; null while it is hidden.
+    /// The window above which it is shown; null while it is hidden.
     QWidget *parentWindow() const { return m_parentWindow; }
 
     PopoverPosition popoverPosition() const { return m_frameView->popoverPosition(); }
@@ -91,9 +91,9 @@ public:
     void setResizable(bool resizable);
 
 signals:
-    /// Escape was pressed and the content had no use for it.
+    /// Escape was pressed, and the content did not use it.
     void canceled();
-    /// The window went, by whatever cause; `parentWindow()` is still known.
+    /// The window was hidden, for any reason; `parentWindow()` is still valid.
     void orderedOut();
     /// The user dragged it away from its anchor.
     void draggedAway();
@@ -120,7 +120,7 @@ private:
     QPointer<QWidget> m_parentWindow;
     QRectF m_frame;
     QRectF m_frameBeforeDrag;
-    /// Where a drag has come to that is only followed at its end.
+    /// The position of a drag that moves the window only when it ends.
     std::optional<QRectF> m_dragTarget;
     QSizeF m_minSize;
     QSizeF m_maxSize{QWIDGETSIZE_MAX, QWIDGETSIZE_MAX};

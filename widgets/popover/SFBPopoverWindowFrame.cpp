@@ -17,7 +17,7 @@ namespace
 {
 
 const DropShadow shadow{palette::popoverShadow, 18, 4};
-/// How near its outline a press drags the edge of a balloon that is movable too, in points.
+/// In a balloon that is also movable, a press this near to the outline resizes; in points.
 constexpr qreal resizeGrip = 6;
 
 QColor opaque(QColor color)
@@ -168,7 +168,7 @@ QPixmap SFBPopoverWindowFrame::drawn(qreal devicePixelRatio) const
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     if (m_blends) {
         painter.drawImage(QRectF(rect()), shadowOf(path, size(), shadow));
-        // A translucent balloon lets the window behind it through, not its own shadow.
+        // A translucent balloon shows the window behind it, but not its own shadow.
         painter.setCompositionMode(QPainter::CompositionMode_Clear);
         painter.fillPath(path, Qt::black);
         painter.setCompositionMode(QPainter::CompositionMode_SourceOver);

@@ -12,9 +12,9 @@
 namespace lumora
 {
 
-/// The view that draws a popover's balloon with its arrow and shadow, and holds every setting of its looks. It fills
-/// the popover's window. The frame that all geometry speaks of is `bounds()`; around it, on every side, the view keeps
-/// `shadowMargin` points for the shadow and the tip's stroke. Rectangles and points count y upwards.
+/// The view that draws a popover's balloon with its arrow and shadow, and holds all settings of its look. It fills the
+/// popover's window. In all geometry the frame is `bounds()`; on every side of it the view has `shadowMargin` points
+/// for the shadow and the tip's stroke. Y counts upwards in rectangles and points.
 class SFBPopoverWindowFrame : public QWidget
 {
     Q_OBJECT
@@ -41,7 +41,7 @@ public:
     QRectF contentRectForFrameRect(const QRectF &frameRect) const;
     /// The frame in its own coordinates: its size at the origin (0, 0).
     QRectF bounds() const;
-    /// Where the content view belongs inside the bounds.
+    /// The content view's rectangle inside the bounds.
     QRectF contentArea() const;
     QPointF attachmentPoint() const;
     QPointF attachmentPointForRect(const QRectF &rect) const;
@@ -55,7 +55,7 @@ public:
     const PopoverMetrics &metrics() const { return m_metrics; }
     PopoverPosition popoverPosition() const { return m_metrics.position; }
     void setPopoverPosition(PopoverPosition position);
-    /// Points between the arrow's tip and the point it points at.
+    /// The distance from the arrow's tip to the point that it points at.
     qreal distance() const { return m_metrics.distance; }
     void setDistance(qreal distance);
     QColor borderColor() const { return m_borderColor; }
@@ -80,30 +80,30 @@ public:
     /// A press inside the balloon drags the window.
     bool movable() const { return m_movable; }
     void setMovable(bool movable) { m_movable = movable; }
-    /// A press inside the balloon drags the nearest corner. Where the balloon is movable too, only a press on its
-    /// border does.
+    /// A press inside the balloon drags the nearest corner. If the balloon is also movable, only a press on its border
+    /// does.
     bool resizable() const { return m_resizable; }
     void setResizable(bool resizable) { m_resizable = resizable; }
 
-    /// Whether what is drawn is blended with what lies behind the window. Where it is not, there is no shadow, and
-    /// everything is opaque up to the edge that the window's shape cuts.
+    /// Whether the system blends the window with what is behind it. If not, there is no shadow, and everything is
+    /// opaque up to the edge of the window's shape.
     void setBlends(bool blends);
-    /// What lies below the frame, for its smooth edge where nothing blends windows.
+    /// A picture of what is below the frame, for its smooth edge when the system does not blend windows.
     void setBackdrop(const QPixmap &backdrop);
 
-    /// Makes the drawing that the next paint would have to make first.
+    /// Makes the drawing that the next paint needs.
     void prepareDrawing();
 
 signals:
     /// The balloon's outline changed, by a setting or with the size.
     void outlineChanged();
-    /// The mouse travelled while dragging the balloon: points since the press, y upwards.
+    /// The mouse moved while dragging the balloon: points since the press, y upwards.
     void moveDragged(const QPointF &travel);
-    /// The same for a drag that resizes. `corner` has the sign of the dragged corner's direction from the middle.
+    /// The same for a resizing drag. The signs of `corner` give the dragged corner's direction from the middle.
     void resizeDragged(const QPointF &travel, const QPointF &corner);
-    /// A drag begins with this press.
+    /// A press began a drag.
     void dragStarted();
-    /// The button was let go after a drag.
+    /// The mouse button was released after a drag.
     void dragEnded();
 
 protected:
@@ -129,7 +129,7 @@ private:
     Drag m_drag = Drag::None;
     QPointF m_dragStart;
     QPointF m_dragCorner;
-    /// The whole drawing, made at the first paint after a change: the shadow costs more than a repaint may.
+    /// The whole drawing, made at the first paint after a change: the shadow is too slow for every repaint.
     QPixmap m_drawn;
     QPixmap m_backdrop;
 };

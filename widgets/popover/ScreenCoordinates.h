@@ -8,8 +8,8 @@ class QWidget;
 namespace lumora
 {
 
-/// Screen coordinates that count y upwards from the lower edge of the primary screen, in points, and their twins that
-/// Qt counts downwards. Each function is its own inverse.
+/// Converts between Qt's screen coordinates and those that count y upwards from the lower edge of the primary screen,
+/// in points. Each function is its own inverse.
 QRectF flippedOnScreen(const QRectF &rect);
 QPointF flippedOnScreen(const QPointF &point);
 

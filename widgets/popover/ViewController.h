@@ -8,7 +8,7 @@
 namespace lumora
 {
 
-/// A controller that has a view and nothing else; a popover's content comes with one. Whoever shows the view owns it.
+/// A controller that has only a view, as a popover's content needs. The widget that shows the view owns it.
 class ViewController : public QObject
 {
     Q_OBJECT

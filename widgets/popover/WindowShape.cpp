@@ -110,7 +110,7 @@ void setInputRegion(QWindow *window, const QRegion &region)
                              rectangles.data());
         xcb_flush(connection);
     } else if (QGuiApplication::platformName().startsWith(u"wayland"_s)) {
-        // Here a window's mask is its input region alone.
+        // On this platform a window's mask is only its input region.
         window->setMask(region);
     }
 }

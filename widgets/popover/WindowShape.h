@@ -9,15 +9,16 @@ class QWindow;
 namespace lumora
 {
 
-/// Whether transparent pixels of a window show what lies behind it. Under X11 that needs a compositing manager.
+/// Whether transparent pixels of a window show what is behind it. Under X11 that needs a compositing manager.
 bool windowsAreTranslucent();
 
-/// Cuts the window to the pixels that the outline touches, in the window's own points; an empty outline makes it whole
-/// again. The window must have been created; only X11 cuts.
+/// Cuts the window to the pixels that the outline touches, in the window's own points; an empty outline undoes this.
+/// The window must have been created. Does nothing on platforms other than X11.
 void setWindowShape(QWindow *window, const QPainterPath &outline);
 
-/// Lets the mouse through the window everywhere but in the region, which is in the window's own points. What is drawn
-/// stays as it is. The window must have been created; platforms without such a region take every press.
+/// Lets mouse events pass through the window everywhere except in the region, which is in the window's own points. The
+/// drawing does not change. The window must have been created. On platforms without such a region the window gets every
+/// press.
 void setInputRegion(QWindow *window, const QRegion &region);
 
 } // namespace lumora
