@@ -25,7 +25,7 @@ constexpr QSize hint(200, 20);
 constexpr QSize smallest(40, 12);
 constexpr qreal shadowHeight = 2;
 constexpr qreal outlineInset = 0.5;
-/// Beyond these two pitches no stripe can reach into what is seen.
+/// Stripes more than two pitches outside the bar are never visible.
 constexpr qreal stripeReach = 40;
 constexpr qreal stripePitch = 20;
 
@@ -220,7 +220,7 @@ QPixmap LBProgressBar::drawnBezel(qreal devicePixelRatio) const
     painter.setBrush(palette::chromeText);
     painter.drawRoundedRect(transform.mapRect(QRectF(0, 0, w, h - 1)), cornerRadius, cornerRadius);
 
-    // Leaves no mark while its color is clear.
+    // Invisible while its color is transparent.
     painter.setPen(palette::progressBase);
     painter.drawLine(transform.map(QLineF(cornerRadius, 0, w - cornerRadius, 0)));
     return bezel;
@@ -234,8 +234,8 @@ void LBProgressBar::drawProgressWithBounds(QPainter &painter, const QRectF &boun
 
 void LBProgressBar::drawStripesInBounds(QPainter &painter, const QRectF &bounds)
 {
-    // A clip path has hard edges. The stripes are painted beside the bar instead, and the rounded shape is filled with
-    // what was painted, which leaves its edge smooth.
+    // A clip path has hard edges. Instead the stripes are painted into a picture, and the rounded shape is filled with
+    // that picture, which keeps its edge smooth.
     const qreal ratio = painter.deviceTransform().m11();
     const QSize pixels = pixelSize(size(), ratio);
     if (m_stripes.size() != pixels)
@@ -247,8 +247,8 @@ void LBProgressBar::drawStripesInBounds(QPainter &painter, const QRectF &bounds)
     stripes.scale(ratio, ratio);
     stripes.setPen(Qt::NoPen);
     stripes.setBrush(m_darkColor);
-    // One by one: the stripes do not touch, and many small shapes are painted several times faster than one path of
-    // them.
+    // One by one: the stripes do not touch, and many small shapes are painted several times faster than one path with
+    // all of them.
     const QTransform transform = toWidget();
     const qint64 seen = static_cast<qint64>((width() + stripeReach) / stripePitch);
     for (qint64 k = 0; k < std::min(stripeCount(bounds.width()), seen); ++k)
@@ -267,7 +267,7 @@ void LBProgressBar::drawStripesInBounds(QPainter &painter, const QRectF &bounds)
 
 void LBProgressBar::drawShadowInBounds(QPainter &painter, const QRectF &bounds) const
 {
-    // Leaves no mark while its color is clear.
+    // Invisible while its color is transparent.
     painter.setPen(palette::progressShadow);
     painter.drawLine(toWidget().map(QLineF(0, shadowHeight, bounds.width(), shadowHeight)));
     painter.setPen(Qt::NoPen);

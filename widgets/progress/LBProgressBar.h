@@ -12,7 +12,7 @@ namespace lumora
 
 /// A rounded bar that fills with moving stripes.
 ///
-/// The stripes step on with every redraw. While the bar animates and can be seen it redraws itself thirty times a
+/// The stripes advance with every redraw. While the bar animates and is visible it redraws itself thirty times a
 /// second; otherwise no timer runs.
 class LBProgressBar final : public QWidget
 {
@@ -37,16 +37,16 @@ public:
     bool isDisplayedWhenStopped() const { return m_displayedWhenStopped; }
     void setDisplayedWhenStopped(bool displayed);
 
-    /// What the filled part is painted with, and its stripes.
+    /// The colors of the filled part and of its stripes.
     QColor lightColor() const { return m_lightColor; }
     void setLightColor(const QColor &color);
     QColor darkColor() const { return m_darkColor; }
     void setDarkColor(const QColor &color);
 
-    /// How far the stripes have moved, 0 to 20 points.
+    /// The offset of the stripes, 0 to 20 points.
     double progressOffset() const { return m_progressOffset; }
     bool isAnimating() const { return m_animating; }
-    /// Sends the redraws; runs while the bar animates and can be seen.
+    /// Triggers the redraws; runs while the bar animates and is visible.
     const QTimer &animator() const { return m_animator; }
 
     void startAnimation();
@@ -69,11 +69,11 @@ private:
     void drawProgressWithBounds(QPainter &painter, const QRectF &bounds) const;
     void drawStripesInBounds(QPainter &painter, const QRectF &bounds);
     void drawShadowInBounds(QPainter &painter, const QRectF &bounds) const;
-    /// From points counted upwards to the widget's own, turned round where reading begins at the right.
+    /// From y-up points to the widget's coordinates; mirrored for text that runs from the right.
     QTransform toWidget() const;
 
     QTimer m_animator;
-    /// Kept between redraws, which come thirty times a second.
+    /// Kept from one redraw to the next.
     QImage m_stripes;
     QPixmap m_bezel;
     QColor m_lightColor;

@@ -8,7 +8,7 @@ namespace lumora
 
 class LBProgressBar;
 
-/// What a screen reader learns about a progress bar: its range and its value, which cannot be set from outside.
+/// Presents a progress bar to screen readers: its range and its value, which they cannot set.
 class LBProgressBarAccessible final : public QAccessibleWidget, public QAccessibleValueInterface
 {
 public:

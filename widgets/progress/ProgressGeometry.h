@@ -5,24 +5,24 @@
 #include <QRectF>
 #include <QSizeF>
 
-/// The arithmetic of the striped progress bar, in points with y counted upwards from the bar's lower edge.
+/// The geometry of the striped progress bar, in points; y counts upwards from the bar's lower edge.
 namespace lumora::progressgeometry
 {
 
-/// The rounding of everything in the bar.
+/// The corner radius of everything in the bar.
 inline constexpr qreal cornerRadius = 10;
 
-/// The offset of the next redraw: 1, 2, ..., 20, 0, 1, ... from 0 on.
+/// The offset of the next redraw: from 0 on 1, 2, ..., 20, 0, 1, ...
 double nextOffset(double offset);
 
-/// How much of the bar is filled, in single precision. The minimum counts in the range but is not taken off the value,
-/// so the answer may lie outside of 0 to 1; it is 0 where minimum and maximum are equal.
+/// The filled share of the bar, in single precision. The minimum counts in the range but is not subtracted from the
+/// value, so the result may be outside 0 to 1; it is 0 where minimum and maximum are equal.
 float fraction(double value, double minimum, double maximum);
 
-/// The filled part of a bar whose frame has that size; of no or negative width for small fractions.
+/// The filled part of a bar whose frame has that size. Its width is zero or negative for small fractions.
 QRectF progressRect(float fraction, QSizeF frame);
 
-/// How many stripes a filled part of that width has, whether they can be seen or not.
+/// The number of stripes in a filled part of that width, visible or not.
 qint64 stripeCount(qreal progressWidth);
 
 /// Stripe k: 10 wide, leaning 8 to the left over the height of the filled part, 20 right of stripe k - 1.

@@ -6,8 +6,8 @@
 namespace lumora
 {
 
-/// Tells the platform's accessibility what a widget is that paints itself and is operated by nobody: a picture, an
-/// area. Without it such a widget counts as mere filling, and its name is passed over.
+/// Sets the accessible role of a painted widget without interaction: a picture, an area. Without a role, screen readers
+/// treat such a widget as filler and skip its name.
 void setAccessibleRole(QWidget *widget, QAccessible::Role role);
 
 } // namespace lumora

@@ -7,7 +7,7 @@
 namespace lumora
 {
 
-/// How long every short interface animation takes, in milliseconds.
+/// The duration of every short interface animation, in milliseconds.
 inline constexpr int shortAnimationDuration = 250;
 
 /// Slow at both ends: the cubic curve with the handles (0.42, 0) and (0.58, 1).

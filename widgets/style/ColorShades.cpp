@@ -7,7 +7,7 @@ namespace lumora
 namespace
 {
 
-/// Above this mean only dark text can be read.
+/// Above this mean only dark text is readable.
 constexpr float lightFrom = 0.8F;
 
 } // namespace

@@ -15,12 +15,12 @@ struct CalibratedGray
 
 // The functions below are part of the kit's public face: KBButton and the tests use them.
 
-/// Red, green and blue each raised by the value, not clamped; opaque whatever the color was.
+/// Red, green and blue each raised by the value, not clamped; always opaque.
 RgbaColor lightenColorByValue(const RgbaColor &color, float value);
-/// Red, green and blue each lowered by the value, not clamped; opaque whatever the color was.
+/// Red, green and blue each lowered by the value, not clamped; always opaque.
 RgbaColor darkenColorByValue(const RgbaColor &color, float value);
 
-/// Whether the mean of red, green and blue is above 0.8, that is, whether only dark text can be read on the color.
+/// Whether the mean of red, green and blue is above 0.8, so that only dark text is readable on the color.
 bool isLightColor(const RgbaColor &color);
 /// Whether the gray is above 0.8.
 bool isLightColor(const CalibratedGray &color);

@@ -12,7 +12,7 @@ namespace lumora
 namespace
 {
 
-/// One pass of a box of 2 * radius + 1 pixels along the rows; beyond the edge there is nothing.
+/// One pass of a box of 2 * radius + 1 pixels along the rows; pixels beyond the edge count as transparent.
 void blurRows(QImage &image, int radius)
 {
     const int width = image.width();
@@ -71,7 +71,7 @@ QImage shadowOf(const QPainterPath &path, const QSize &area, const DropShadow &s
         painter.translate(0, shadow.offset);
         painter.fillPath(path, Qt::black);
     }
-    // Three boxes in a row are close to a Gaussian; each spreads by a third of the blur.
+    // Three passes are close to a Gaussian; each spreads by a third of the blur.
     const int radius = std::max(1, qRound(shadow.blur / 3));
     for (int pass = 0; pass < 3; ++pass) {
         blurRows(mask, radius);

@@ -8,7 +8,7 @@
 namespace lumora
 {
 
-/// How a shadow falls; lengths in points, the offset downwards.
+/// The settings of a shadow; lengths are in points, the offset counts downwards.
 struct DropShadow
 {
     QColor color;
@@ -18,8 +18,8 @@ struct DropShadow
     bool operator==(const DropShadow &) const = default;
 };
 
-/// The soft shadow of a filled path, as large as the area (in points, y down). It is computed at one pixel a point: a
-/// blurred edge holds no more detail, and a screen of any scale draws it enlarged.
+/// The soft shadow of a filled path, as large as the area (in points, y down). It is computed at one pixel per point,
+/// since a blurred edge has no more detail; screens of other scales enlarge it.
 QImage shadowOf(const QPainterPath &path, const QSize &area, const DropShadow &shadow);
 
 } // namespace lumora

@@ -20,7 +20,7 @@ void EasedAnimation::run(const QVariant &from, const QVariant &to)
 
 QVariant EasedAnimation::interpolated(const QVariant &from, const QVariant &to, qreal progress) const
 {
-    // The platform's curve ends a hair beside its target.
+    // The platform's curve ends at a value slightly beside the target.
     return currentTime() >= duration() ? to : QVariantAnimation::interpolated(from, to, progress);
 }
 

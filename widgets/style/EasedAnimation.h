@@ -8,7 +8,7 @@
 namespace lumora
 {
 
-/// Takes a value from one end to another, slow at both ends, and ends exactly on its target.
+/// Animates a value from one end to the other, slow at both ends, and ends exactly on its target.
 class EasedAnimation final : public QVariantAnimation
 {
     Q_OBJECT
@@ -17,7 +17,7 @@ public:
     /// The duration is in milliseconds.
     explicit EasedAnimation(QObject *parent = nullptr, int duration = shortAnimationDuration);
 
-    /// Starts over from the one value to the other.
+    /// Starts again, from the first value to the second.
     void run(const QVariant &from, const QVariant &to);
 
 protected:

@@ -13,7 +13,7 @@ namespace lumora
 namespace
 {
 
-/// Loads both weights once and answers the family name they share, empty when they could not be loaded.
+/// Loads both weights once and returns the family name they share; empty when they could not be loaded.
 QString latoFamily()
 {
     static const QString family = [] {

@@ -9,14 +9,14 @@
 namespace lumora
 {
 
-/// Lets every animation of the program take its steps at a frame's distance, the first one included; the platform's own
-/// pace is a little slower than the frames of most screens. Install one for as long as the event loop runs. Ticks only
+/// Makes every animation of the program step once per frame, from the first frame on; the platform's own interval is a
+/// little longer than a frame of most screens. Install one clock for the time that the event loop runs. It ticks only
 /// while something is animated.
 class FrameClock final : public QAnimationDriver
 {
 public:
-    /// What fades in from nothing has its first visible value, 1/256, after 11.4 ms; one frame of 60 a second has not
-    /// passed at that time, with time to spare for drawing it.
+    /// A fade-in reaches its first visible value, 1/256, after 11.4 ms; that is before the end of a frame at 60 Hz and
+    /// leaves time for drawing it.
     static constexpr std::chrono::milliseconds interval{12};
 
     FrameClock();

@@ -8,8 +8,8 @@
 namespace lumora
 {
 
-/// Shows a named image as large as fits, in its own proportions, in the middle. Name it for screen readers where the
-/// picture says something that no text beside it does.
+/// Shows a named image in the middle, as large as fits in its own proportions. Give it an accessible name if the
+/// picture says something that no text beside it says.
 class ImageView final : public QWidget
 {
     Q_OBJECT

@@ -6,9 +6,9 @@
 namespace lumora
 {
 
-/// Has every widget of the class, which needs the Q_OBJECT macro, represented to assistive technology by an interface
-/// of the other class, made from a pointer to the widget. To be called in the widget's constructor; the first call
-/// counts.
+/// Presents every widget of the class, which needs the Q_OBJECT macro, to assistive technology by an object of the
+/// interface class, constructed from a pointer to the widget. Call it in the widget's constructor; only the first call
+/// has an effect.
 template <typename Widget, typename Interface> void installAccessible()
 {
     static const bool installed = [] {

@@ -20,7 +20,7 @@ bool KeyboardFocus::follow(const QEvent *event)
         case Qt::ActiveWindowFocusReason:
         case Qt::PopupFocusReason:
         case Qt::MenuBarFocusReason:
-            // The focus only comes back to where it was.
+            // The focus returns to the widget that had it before.
             break;
         default:
             m_shown = false;

@@ -6,12 +6,12 @@ class QEvent;
 namespace lumora
 {
 
-/// Tells whether a focus ring is called for: it is when the focus came by key or a key was pressed since, not when it
-/// came by a click. Feed it every event of the widget.
+/// Decides whether a widget shows a focus ring: it does when the focus came by key or a key was pressed since, not when
+/// the focus came by a click. Pass it every event of the widget.
 class KeyboardFocus
 {
 public:
-    /// Answers whether isShown() changed.
+    /// Returns whether isShown() changed.
     bool follow(const QEvent *event);
     /// Whether to draw the ring while the widget has the focus.
     bool isShown() const { return m_shown; }

@@ -20,7 +20,7 @@ namespace lumora
 namespace
 {
 
-/// The parsed picture of a name, or nullptr where there is none; parsed once.
+/// The parsed picture of a name, nullptr if there is none; parsed once.
 QSvgRenderer *rendererOf(const QString &name)
 {
     static QHash<QString, std::shared_ptr<QSvgRenderer>> renderers;
@@ -95,7 +95,7 @@ QPixmap NamedImage::pixmap(const QSizeF &size, qreal devicePixelRatio) const
 
 void NamedImage::paint(QPainter *painter, const QRectF &target, qreal opacity) const
 {
-    // Asked of the transformation: a widget that is drawn into a picture has the picture's scale, not its screen's.
+    // Taken from the transformation: a widget that is drawn into a picture has the picture's scale, not its screen's.
     const QPixmap picture = pixmap(target.size(), painter->deviceTransform().m11());
     if (picture.isNull())
         return;

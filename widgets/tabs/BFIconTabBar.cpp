@@ -43,7 +43,7 @@ BFIconTabBar::BFIconTabBar(QWidget *parent) : QWidget(parent)
 
 BFIconTabBar::~BFIconTabBar()
 {
-    // The base class destroys the items it owns when the list of them is already gone.
+    // The base class would destroy the items after the list of them.
     disconnectItems();
 }
 
@@ -75,7 +75,7 @@ void BFIconTabBar::disconnectItems()
 
 void BFIconTabBar::forgetItem(QObject *gone)
 {
-    // Only its address is left of what is being destroyed.
+    // Only the address of a destroyed item may be used.
     m_items.removeIf([gone](const BFIconTabBarItem *item) { return item == gone; });
     m_draggedOver = nullptr;
     m_hovered = nullptr;
@@ -176,7 +176,7 @@ void BFIconTabBar::selectionChanged()
     update();
     QAccessibleEvent changed(this, QAccessible::SelectionWithin);
     QAccessible::updateAccessibility(&changed);
-    // Screen readers on this platform hear only of the single items.
+    // Screen readers on this platform get events of single items only.
     const QList<BFIconTabBarItem *> before = std::exchange(m_announced, selectedItems());
     for (BFIconTabBarItem *item : std::as_const(m_items)) {
         const bool isSelected = m_announced.contains(item);

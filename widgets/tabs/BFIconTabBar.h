@@ -11,7 +11,7 @@
 namespace lumora
 {
 
-/// Hears when the user changes what is selected in a BFIconTabBar.
+/// Is notified when the user changes the selection in a BFIconTabBar.
 class BFIconTabBarDelegate
 {
 public:
@@ -21,8 +21,8 @@ public:
 
 /// A row of icon tabs, one or several of which are selected.
 ///
-/// Slot i reaches from startX + i × itemWidth over one itemWidth, counted from the edge where reading begins. Selecting
-/// by code is silent; a press, a drag or a key of the user sends action() and then calls the delegate.
+/// Slot i begins at startX + i × itemWidth from the edge where reading begins, and is itemWidth wide. Selecting by code
+/// sends nothing; a press, a drag or a key of the user sends action() and then calls the delegate.
 class BFIconTabBar final : public QWidget
 {
     Q_OBJECT
@@ -35,26 +35,25 @@ public:
     ~BFIconTabBar() override;
 
     const QList<BFIconTabBarItem *> &items() const { return m_items; }
-    /// The bar becomes every item's tabBar, and the owner of those that have none. Selects index 0 where nothing is
-    /// selected yet.
+    /// The bar becomes every item's tabBar, and owns those without an owner. Selects index 0 if nothing is selected.
     void setItems(const QList<BFIconTabBarItem *> &items);
-    /// In points; 32 unless set otherwise. A width that is not above 0 is not taken.
+    /// In points; 32 by default. A width of 0 or less is ignored.
     double itemWidth() const { return m_itemWidth; }
     void setItemWidth(double width);
     bool multipleSelection() const { return m_selection.isMultiple(); }
     void setMultipleSelection(bool multiple);
-    /// Not owned; must outlive the bar or be taken off with nullptr.
+    /// Not owned; must outlive the bar, or be removed by setting nullptr.
     BFIconTabBarDelegate *delegate() const { return m_delegate; }
     void setDelegate(BFIconTabBarDelegate *delegate) { m_delegate = delegate; }
 
-    /// The first selected item or index; nullptr and -1 where there is none.
+    /// The first selected item or index; nullptr and -1 if there is none.
     BFIconTabBarItem *selectedItem() const;
     int selectedIndex() const { return m_selection.first(); }
     QList<BFIconTabBarItem *> selectedItems() const;
     IndexSet selectedIndexes() const { return m_selection.indexes(); }
 
-    /// Selects the indexes, in single selection only the first. Keeps what was selected only where extending is asked
-    /// for in multiple selection. An empty set is logged and changes nothing.
+    /// Selects the indexes, in single selection only the first. Keeps the present selection only if `extending` is set
+    /// in multiple selection. An empty set is logged and changes nothing.
     void selectIndexes(const IndexSet &indexes, bool byExtendingSelection);
     void selectIndex(int index);
     void selectItem(const BFIconTabBarItem *item);
@@ -66,14 +65,14 @@ public:
     void deselectItem(const BFIconTabBarItem *item);
     void deselectAll();
 
-    /// The item whose slot x lies in, x counted from the edge where reading begins; nullptr outside of all slots.
+    /// The item whose slot contains x, counted from the edge where reading begins; nullptr outside all slots.
     BFIconTabBarItem *itemAtX(double x) const;
     /// The slot of an index in the widget's coordinates.
     QRectF slotRect(int index) const;
 
-    /// The pointer was pressed on an item and is still down.
+    /// The item on which the pointer was pressed and is still down.
     bool isDragging() const { return m_dragging; }
-    /// In multiple selection, what the press does and a drag over further items: select them, or for false deselect.
+    /// In multiple selection, whether a press, and a drag over further items, selects or deselects them.
     bool firstItemWasSelected() const { return m_firstItemWasSelected; }
 
     /// Sends action() and calls the delegate.
@@ -98,7 +97,7 @@ private:
     void disconnectItems();
     void forgetItem(QObject *gone);
     BFIconTabBarItem *itemAt(QPointF position) const;
-    /// What a press on the item does, and a drag over it.
+    /// Handles a press on the item, or a drag over it.
     void applyPressTo(BFIconTabBarItem *item);
     void setHovered(BFIconTabBarItem *item);
     void moveCurrent(int index);
@@ -107,13 +106,13 @@ private:
 
     QList<BFIconTabBarItem *> m_items;
     TabSelection m_selection;
-    QList<BFIconTabBarItem *> m_announced; ///< selected when it was last said; compared only
+    QList<BFIconTabBarItem *> m_announced; ///< selected at the last notification; only compared
     KeyboardFocus m_keyboardFocus;
     BFIconTabBarDelegate *m_delegate = nullptr;
     BFIconTabBarItem *m_draggedOver = nullptr;
     BFIconTabBarItem *m_hovered = nullptr;
     double m_itemWidth = 32;
-    /// Where keys go to in the bar; only meaningful in multiple selection.
+    /// The item that gets the keys; only used in multiple selection.
     int m_current = 0;
     bool m_dragging = false;
     bool m_firstItemWasSelected = false;

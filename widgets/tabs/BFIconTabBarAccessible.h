@@ -10,7 +10,7 @@ namespace lumora
 class BFIconTabBar;
 class BFIconTabBarItem;
 
-/// What a screen reader learns about a tab bar: its items, in order.
+/// Presents a tab bar to screen readers: its items, in order.
 class BFIconTabBarAccessible final : public QAccessibleWidget
 {
 public:
@@ -25,7 +25,7 @@ private:
     BFIconTabBar *bar() const;
 };
 
-/// One tab: named by its tool tip, selected or not, pressed like by a click.
+/// One tab: named by its tool tip, selected or not; pressing it works like a click.
 class BFIconTabBarItemAccessible final : public QAccessibleObject, public QAccessibleActionInterface
 {
 public:

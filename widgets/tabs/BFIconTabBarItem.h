@@ -16,7 +16,7 @@ class BFIconTabBarItem final : public QObject
     Q_OBJECT
 public:
     BFIconTabBarItem(const QIcon &icon, const QString &tooltip, QObject *parent = nullptr);
-    /// The caller owns it until a bar receives it.
+    /// The caller owns the item until a bar receives it.
     static BFIconTabBarItem *itemWithIcon(const QIcon &icon, const QString &tooltip);
 
     const QIcon &icon() const { return m_icon; }
@@ -24,7 +24,7 @@ public:
     const QString &tooltip() const { return m_tooltip; }
     void setTooltip(const QString &tooltip) { m_tooltip = tooltip; }
 
-    /// The bar that received the item last, nullptr before and after that bar's life.
+    /// The bar that received the item last; nullptr before that and once the bar is deleted.
     BFIconTabBar *tabBar() const;
     void setTabBar(BFIconTabBar *tabBar);
 

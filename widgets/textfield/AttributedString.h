@@ -8,20 +8,20 @@
 namespace lumora
 {
 
-/// How a line of text is drawn.
+/// The look of a line of text.
 struct TextAttributes
 {
     QFont font;
     QColor color;
-    /// Where a line that does not fit is cut.
+    /// Where a line that does not fit is shortened.
     Qt::TextElideMode lineBreakMode = Qt::ElideRight;
-    /// Left and right change places where reading begins at the right.
+    /// Left and right are swapped where reading begins at the right.
     Qt::Alignment alignment = Qt::AlignLeft;
 
     bool operator==(const TextAttributes &other) const = default;
 };
 
-/// A line of text that is drawn one way throughout.
+/// A line of text with one look throughout.
 struct AttributedString
 {
     QString string;
@@ -30,7 +30,7 @@ struct AttributedString
     bool operator==(const AttributedString &other) const = default;
 };
 
-/// How selected text is drawn.
+/// The look of selected text.
 struct SelectionAttributes
 {
     QColor color;

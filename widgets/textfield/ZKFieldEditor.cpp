@@ -17,7 +17,7 @@ ZKFieldEditor::ZKFieldEditor(QWidget *field) : QLineEdit(field)
     setFrame(false);
     setAlignment(Qt::AlignTop);
     setDragEnabled(true);
-    // The field stands in the chain of focus, its editor only gets the focus from it.
+    // The field is in the tab order; its editor only gets the focus from the field.
     setFocusPolicy(Qt::ClickFocus);
 }
 
@@ -28,7 +28,7 @@ void ZKFieldEditor::setSecure(bool secure)
         return;
     }
     setEchoMode(Password);
-    // Styles are free to show the last character for a while, and to draw another character than a bullet.
+    // A style may show the last character for a while, and draw another character than a bullet.
     setStyleSheet(QStringLiteral("QLineEdit { background: transparent; border: none; lineedit-password-character: %1; "
                                  "lineedit-password-mask-delay: 0; }")
                       .arg(static_cast<int>(ZKSecureGlyphGenerator::bullet)));
@@ -48,7 +48,7 @@ void ZKFieldEditor::keyPressEvent(QKeyEvent *event)
         return;
     }
     if (echoMode() != Normal && event->matches(QKeySequence::Cut)) {
-        // A secret that cannot be copied would only be lost.
+        // A secret cannot be copied, so cutting it would only lose it.
         event->accept();
         return;
     }
@@ -63,7 +63,7 @@ void ZKFieldEditor::beginWithPress(const QMouseEvent &press)
 
 void ZKFieldEditor::mousePressEvent(QMouseEvent *event)
 {
-    // What the field hands on of the first press bears no time.
+    // The first press, which the field passes on, has no time stamp.
     const quint64 first = event->timestamp() == 0 ? 0 : std::exchange(m_firstPressTime, 0);
     const QStyleHints *hints = QGuiApplication::styleHints();
     const QPointF travel = event->globalPosition() - m_firstPress;
@@ -83,7 +83,7 @@ void ZKFieldEditor::focusOutEvent(QFocusEvent *event)
     case Qt::ActiveWindowFocusReason:
     case Qt::PopupFocusReason:
     case Qt::MenuBarFocusReason:
-        // The focus comes back.
+        // The focus returns, for example from a menu.
         return;
     default:
         emit textDidEndEditing();

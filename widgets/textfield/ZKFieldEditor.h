@@ -6,23 +6,23 @@
 namespace lumora
 {
 
-/// The line editor that lies over a text field while it is edited. It has no look of its own, and leaves to the field
-/// what return, tab and the loss of the focus mean.
+/// The line editor over a text field while it is edited. It has no look of its own; the field handles return, tab and
+/// the loss of the focus.
 class ZKFieldEditor final : public QLineEdit
 {
     Q_OBJECT
 public:
     explicit ZKFieldEditor(QWidget *field);
 
-    /// Shows bullets, keeps the text from the clipboard and from what the input method learns.
+    /// Shows bullets, and keeps the text out of the clipboard and of the input method's memory.
     void setSecure(bool secure);
-    /// This press went to the field, and the editor may have appeared under it: a second one soon after is a double
-    /// click, though the system sees two presses of two widgets.
+    /// Sets the press that the field got before the editor appeared under it. A second press soon after is a double
+    /// click, although the system sees presses on two widgets.
     void beginWithPress(const QMouseEvent &press);
 
 signals:
     void insertNewline();
-    /// Tab, or for false the way back.
+    /// Tab was pressed, or Shift+Tab for false.
     void insertTab(bool forward);
     void textDidEndEditing();
 
@@ -33,7 +33,8 @@ protected:
     void focusOutEvent(QFocusEvent *event) override;
 
 private:
-    /// Of the press that went to the field; 0 after the next one. On screen and in milliseconds.
+    /// The place on screen and the time in milliseconds of the press that the field got; the time is 0 after the next
+    /// press.
     QPointF m_firstPress;
     quint64 m_firstPressTime = 0;
 };

@@ -6,8 +6,8 @@
 namespace lumora
 {
 
-/// Puts a bullet in the place of every character, so that what is typed is never shown. Counts as a field editor does,
-/// by UTF-16 units, so that nothing moves when editing begins.
+/// Replaces every character by a bullet, so that the typed text is never shown. Counts UTF-16 units, as the field
+/// editor does, so that nothing moves when editing begins.
 class ZKSecureGlyphGenerator
 {
 public:

@@ -41,7 +41,7 @@ void ZKTextField::setString(const QString &string)
     if (m_currentFieldEditor != nullptr && m_currentFieldEditor->text() != string)
         m_currentFieldEditor->setText(string);
     update();
-    // A changed value of a text would not be passed on to screen readers.
+    // A text update, since a value change of a text would not reach screen readers.
     QAccessibleTextUpdateEvent changed(this, 0, before, m_secure ? m_bullets : m_string);
     QAccessible::updateAccessibility(&changed);
 }
@@ -113,7 +113,7 @@ void ZKTextField::setSecure(bool secure)
 {
     if (secure == m_secure)
         return;
-    // An editor that has shown the text begins again.
+    // A new editor, since the old one has shown the text.
     endEditing();
     m_secure = secure;
     update();
@@ -144,7 +144,7 @@ void ZKTextField::setSelectable(bool selectable)
 
 void ZKTextField::setFrame(const QRect &frame)
 {
-    // No bound on the maximum.
+    // 0 means no maximum.
     setGeometry(
         {frame.topLeft(), textfieldgeometry::clampedSize(frame.size(), textfieldgeometry::minimumSize, QSize(0, 0))});
     placeFieldEditor();
@@ -161,7 +161,7 @@ void ZKTextField::endEditing()
         return;
     ZKFieldEditor *editor = std::exchange(m_currentFieldEditor, nullptr);
     editor->disconnect(this);
-    // Hiding what has the focus would hand it on.
+    // Hiding the widget that has the focus would give the focus to the next one.
     if (editor->hasFocus())
         takeFocusQuietly();
     editor->hide();

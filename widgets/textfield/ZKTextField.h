@@ -14,7 +14,7 @@ namespace lumora
 class ZKFieldEditor;
 
 /// A line of text in a white rounded box, drawn by the field itself. A press, a key, the focus or beginEditing() puts
-/// an editor over the text; return, tab and the loss of the focus take it away again.
+/// an editor over the text; return, tab and the loss of the focus remove it.
 ///
 /// action() is sent on return and, while the field is continuous, on every change the user makes; never for
 /// setString().
@@ -61,10 +61,10 @@ public:
     /// Whether the pointer becomes a text cursor over the field.
     bool hasHoverCursor() const { return m_hasHoverCursor; }
     void setHasHoverCursor(bool has);
-    /// Shows bullets instead of the text, which cannot be copied either.
+    /// Shows bullets instead of the text, which then cannot be copied.
     bool isSecure() const { return m_secure; }
     void setSecure(bool secure);
-    /// Whether the corners of what is drawn are rounded.
+    /// Whether the drawn corners are rounded.
     bool shouldClipContent() const { return m_shouldClipContent; }
     void setShouldClipContent(bool clip);
     bool shouldShowFocus() const { return m_shouldShowFocus; }
@@ -81,14 +81,14 @@ public:
     bool isEditing() const { return m_currentFieldEditor != nullptr; }
     /// The editor over the text, nullptr while the field is not edited.
     ZKFieldEditor *currentFieldEditor() const { return m_currentFieldEditor; }
-    /// Whether the field can be edited, or at least its text selected.
+    /// Whether the field can be edited, or its text selected.
     bool acceptsFirstResponder() const { return isEnabled() && (m_editable || m_selectable); }
 
     /// Places the field, at least 60 × 24 points large.
     void setFrame(const QRect &frame);
     QSize sizeHint() const override;
 
-    /// Everything the field was set to, by name; the text only while it is not secret.
+    /// All settings of the field, by name; the text only if it is not secret.
     QVariantMap encodeWithCoder() const;
     void initWithCoder(const QVariantMap &archive);
 
@@ -129,12 +129,12 @@ private:
     void drawInteriorWithRect(QPainter &painter, const QRectF &rect) const;
     void drawTextWithRect(QPainter &painter, const QRectF &rect, const AttributedString &string) const;
     void drawFocusRing(QPainter &painter, const QRectF &rect) const;
-    /// The box of the letters, y downwards, on whole points so that text and editor show them at the same place.
+    /// The box of the letters, y downwards, on whole points, so that text and editor draw them at the same place.
     QRect letterRect(const QFont &font) const;
 
     QString m_string;
     QString m_placeholder;
-    /// What is shown in the text's place while it is secret.
+    /// The bullets that are shown instead of a secret text.
     QString m_bullets;
     TextAttributes m_stringAttributes;
     TextAttributes m_placeholderAttributes;

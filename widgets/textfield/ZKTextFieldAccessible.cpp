@@ -92,7 +92,7 @@ void ZKTextFieldAccessible::replaceText(int start, int end, const QString &text)
     end = std::clamp(end, start, characterCount());
     QString string = field()->string();
     field()->setString(string.replace(start, end - start, text));
-    // It is the user's change, whatever he made it with.
+    // A change by assistive technology is the user's change, too.
     if (field()->isContinuous())
         emit field()->action(field());
 }

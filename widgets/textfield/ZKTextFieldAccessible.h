@@ -8,8 +8,8 @@ namespace lumora
 
 class ZKTextField;
 
-/// What a screen reader learns about a text field: its name, its text and how to change it. A secret text is read as
-/// bullets only. While the field is edited its editor speaks for itself.
+/// Presents a text field to screen readers: its name, its text and how to change it. A secret text is read as bullets.
+/// While the field is edited, its editor has its own interface.
 class ZKTextFieldAccessible final : public QAccessibleWidget,
                                     public QAccessibleTextInterface,
                                     public QAccessibleEditableTextInterface
@@ -42,7 +42,7 @@ public:
 
 private:
     ZKTextField *field() const;
-    /// The text as it may be read out.
+    /// The text for screen readers, bullets for a secret one.
     QString shown() const;
 };
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How a text field looks, and where its editor lies so that it looks the same while it is edited.
+// The look of a text field, and the place of its editor, so that the field looks the same while it is edited.
 #include "TextFieldGeometry.h"
 #include "ZKFieldEditor.h"
 #include "ZKTextField.h"
@@ -20,11 +20,11 @@ namespace
 constexpr int hintWidth = 120;
 constexpr int hintHeight = 28;
 constexpr qreal ringWidth = 2;
-/// What a QLineEdit keeps free around its text without a frame; it offers no way to ask.
+/// The margin of a QLineEdit without a frame around its text; it has no function that returns it.
 constexpr int editorMarginX = 2;
 constexpr int editorMarginY = 1;
 
-/// A rounded rectangle whose line of that width lies inside of the bounds.
+/// A rounded rectangle whose line of that width is inside the bounds.
 void strokeInside(QPainter &painter, const QRectF &bounds, qreal radius, qreal width, const QColor &color)
 {
     const qreal inset = width / 2;
@@ -44,7 +44,7 @@ QSize ZKTextField::sizeHint() const
 QRect ZKTextField::letterRect(const QFont &font) const
 {
     const QFontMetricsF metrics(font);
-    // Lato's figures count the room above its capitals as leading, so the line carries its leading on top.
+    // Lato's metrics count the space above its capitals as leading, so the leading goes on top of the line.
     const QRectF line = textRect(size(), metrics.lineSpacing());
     const qreal top = height() - line.bottom() + metrics.leading();
     return {qRound(line.left()), qRound(top), qRound(line.width()), qCeil(metrics.height())};
@@ -85,8 +85,8 @@ void ZKTextField::drawBackgroundWithRect(QPainter &painter, const QRectF &rect) 
 
 void ZKTextField::drawFrameWithRect(QPainter &painter, const QRectF &rect) const
 {
-    // The line runs along the clipping path itself, so the outer half of its width is clipped away. Drawing only the
-    // inner half gives the same, with smooth corners.
+    // The line is on the clipping path, which cuts off the outer half of its width. Drawing only the inner half gives
+    // the same result with smooth corners.
     strokeInside(painter, rect, m_shouldClipContent ? clippingRadius : 0, borderWidth / 2, palette::chromeText);
 }
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What makes a text field begin to edit, and how the event that did it reaches the editor.
+// The events that begin the editing of a text field, and how they reach the editor.
 #include "ZKFieldEditor.h"
 #include "ZKTextField.h"
 
@@ -14,7 +14,7 @@ namespace lumora
 namespace
 {
 
-/// Escape belongs to what the field stands in, and a modifier alone means nothing yet.
+/// Escape is for the window around the field, and a modifier key alone does nothing.
 bool beginsEditing(int key)
 {
     switch (key) {
@@ -37,9 +37,9 @@ bool beginsEditing(int key)
 
 bool ZKTextField::event(QEvent *event)
 {
-    // What the layout asks for takes the minimum that the field has as a widget, so nothing more is to be clamped here.
+    // The layout already respects the widget's minimum size, so nothing else is clamped here.
     if (event->type() == QEvent::ShortcutOverride && !isEditing() && acceptsFirstResponder()) {
-        // A typed character begins to edit rather than trigger a shortcut of the window.
+        // A typed character begins editing instead of triggering a shortcut of the window.
         const auto *key = static_cast<QKeyEvent *>(event);
         const bool plain = (key->modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) == 0;
         if (plain && !key->text().isEmpty() && key->text().at(0).isPrint()) {
@@ -92,7 +92,7 @@ void ZKTextField::passToEditor(QMouseEvent *event)
 
 void ZKTextField::keyPressEvent(QKeyEvent *event)
 {
-    // What the editor has no use for comes here too.
+    // Keys that the editor ignores also arrive here.
     if (isEditing() || !acceptsFirstResponder() || !beginsEditing(event->key())) {
         QWidget::keyPressEvent(event);
         return;
@@ -139,7 +139,7 @@ void ZKTextField::contextMenuEvent(QContextMenuEvent *event)
     QCoreApplication::sendEvent(m_currentFieldEditor, &passed);
 }
 
-/// A file's name comes as a text, too, but a dropped file is for what lies below the field.
+/// A dropped file also has a text, its name, but it is meant for the drop area below the field.
 bool ZKTextField::takesDrop(const QMimeData &content) const
 {
     return m_editable && content.hasText() && !content.hasUrls();

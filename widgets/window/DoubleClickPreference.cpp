@@ -23,7 +23,7 @@ const QString settingKey = u"action-double-click-titlebar"_s;
 const QString miniaturizes = u"minimize"_s;
 const QString zooms = u"toggle-maximize"_s;
 
-/// The text in a variant, however often the portal has wrapped it: its Read answers a variant in a variant.
+/// The text in a variant, unwrapped as often as needed: the portal's Read returns a variant in a variant.
 QString textIn(QVariant value)
 {
     while (value.canConvert<QDBusVariant>())

@@ -10,19 +10,18 @@ class QDBusVariant;
 namespace lumora
 {
 
-/// What the user wants a double-click on a title bar to do.
+/// The user's choice of what a double-click on a title bar does.
 class DoubleClickPreference
 {
 public:
     virtual ~DoubleClickPreference() = default;
-    /// It is to miniaturize the window.
+    /// A double-click miniaturizes the window.
     virtual bool miniaturizesOnDoubleClick() const = 0;
-    /// It is to make the window fill the screen, or give it back its size. Anything else that the user may want does
-    /// nothing here.
+    /// A double-click makes the window fill the screen, or restores its size. Any other choice does nothing here.
     virtual bool zoomsOnDoubleClick() const { return false; }
 };
 
-/// The desktop's own setting, asked of the settings portal on the session bus and followed while it changes. Without a
+/// The desktop's own setting, read from the settings portal on the session bus and updated when it changes. Without a
 /// portal, and until it has answered, a double-click does nothing.
 class DesktopDoubleClickPreference : public QObject, public DoubleClickPreference
 {

@@ -55,7 +55,7 @@ INAppStoreWindow::INAppStoreWindow(const QRectF &contentRect, StyleMask styleMas
 
 INAppStoreWindow::~INAppStoreWindow()
 {
-    // The parts of the window are torn down as any child; none of them speaks to it any more.
+    // The parts of the window are deleted as its children; they must not call the window any more.
     m_delegateProxy.setSecondaryDelegate(nullptr);
 }
 
@@ -98,7 +98,7 @@ void INAppStoreWindow::createTitlebarView()
 
 void INAppStoreWindow::createButtons()
 {
-    // Of its own, so that the buttons of another window do not light up with these.
+    // A group of its own, so that the buttons of other windows do not light up with these.
     const QString group = u"app.lumora.window.%1"_s.arg(reinterpret_cast<quintptr>(this), 0, 16);
     const std::array<QString, 4> kinds = {u"close"_s, u"minimize"_s, u"zoom"_s, u"fullscreen"_s};
     for (const ButtonKind kind : {Close, Minimize, Zoom, EnterFullScreen}) {
@@ -209,7 +209,7 @@ void INAppStoreWindow::layoutTrafficLightsAndContent()
     for (const ButtonKind kind : {Close, Minimize, Zoom})
         lights.sizes[kind] = button(kind)->size();
     const auto rects = trafficLightRects(lights, bar);
-    // The container begins at the window's upper edge, so the window's coordinates are its own.
+    // The container begins at the window's upper edge, so both have the same coordinates.
     for (const ButtonKind kind : {Close, Minimize, Zoom})
         button(kind)->setGeometry(pixelRect(rects[kind], height()));
     button(EnterFullScreen)

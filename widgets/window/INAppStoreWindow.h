@@ -27,7 +27,7 @@ class INTitlebarContainer;
 class INWindowButton;
 class WindowEdge;
 
-/// A hard shadow of a text, `offset` in points, y down.
+/// A hard shadow of a text; `offset` is in points, y down.
 struct TextShadow
 {
     QColor color;
@@ -36,14 +36,14 @@ struct TextShadow
     bool operator==(const TextShadow &) const = default;
 };
 
-/// A top-level window that draws its own title bar, as tall as wanted and open to custom views, with the close,
-/// minimize, zoom and full-screen buttons laid out inside it. It is dragged by the title bar, resized at its edges, and
-/// set off from a white window behind it by a line along its edges.
+/// A top-level window that draws its own title bar, of any height and with custom views, and with the close, minimize,
+/// zoom and full-screen buttons inside it. The user drags it by the title bar and resizes it at its edges; a line along
+/// its edges sets it off from a white window behind it.
 ///
 /// Its settings are part of the kit's public face: the program uses some of them, the gallery and the tests all.
 ///
-/// The widget is the whole window: title bar, content and outline. There is no margin around it, so its geometry is
-/// what the user sees, and its base coordinates count y upwards from its lower left corner.
+/// The widget is the whole window: title bar, content and outline. It has no margin, so its geometry is what the user
+/// sees. Its base coordinates count y upwards from its lower left corner.
 class INAppStoreWindow : public QWidget
 {
     Q_OBJECT
@@ -61,8 +61,7 @@ public:
                                                     const QRectF &drawingRect, const QPainterPath &clippingPath)>;
 
     explicit INAppStoreWindow(QWidget *parent = nullptr);
-    /// The content rectangle is on the screen's coordinates, y upwards; the title bar of standard height comes above
-    /// it.
+    /// The content rectangle is in screen coordinates, y upwards; a title bar of standard height is added above it.
     explicit INAppStoreWindow(const QRectF &contentRect, StyleMask styleMask = standardStyleMask,
                               QScreen *screen = nullptr);
     ~INAppStoreWindow() override;
@@ -72,11 +71,11 @@ public:
     void setTitleBarHeight(qreal height);
     /// The height of a plain title bar, measured once for all windows.
     static qreal minimumTitleBarHeight();
-    /// Fills the title bar below the buttons; custom content becomes its children. A null view restores the standard
-    /// one.
+    /// The view that fills the title bar below the buttons; custom content becomes its children. A null view restores
+    /// the standard one.
     QWidget *titleBarView() const { return m_titleBarView; }
     void setTitleBarView(QWidget *view);
-    /// Fills the window below the title bar. The window owns it and deletes the one it had before.
+    /// The view that fills the window below the title bar. The window owns it and deletes the previous one.
     QWidget *contentView() const { return m_contentView; }
     void setContentView(QWidget *view);
 
@@ -118,7 +117,7 @@ public:
     const std::optional<TextShadow> &inactiveTitleTextShadow() const { return m_inactiveTitleTextShadow; }
     void setInactiveTitleTextShadow(const std::optional<TextShadow> &shadow);
 
-    /// An invalid color, as they all are at first, means the built-in gray.
+    /// An invalid color, the default of all of them, means the built-in gray.
     QColor titleBarStartColor() const { return m_titleBarStartColor; }
     void setTitleBarStartColor(const QColor &color);
     QColor titleBarEndColor() const { return m_titleBarEndColor; }
@@ -135,8 +134,7 @@ public:
     const TitleBarDrawingBlock &titleBarDrawingBlock() const { return m_titleBarDrawingBlock; }
     void setTitleBarDrawingBlock(const TitleBarDrawingBlock &block);
 
-    /// The caller's own button, or null while the standard one stands in its place. The window owns the one it is
-    /// given.
+    /// The caller's own button; null while the standard one is used. The window owns it.
     QAbstractButton *closeButton() const { return m_userButtons[Close]; }
     void setCloseButton(QAbstractButton *button);
     QAbstractButton *minimizeButton() const { return m_userButtons[Minimize]; }
@@ -148,11 +146,11 @@ public:
 
     QString title() const { return windowTitle(); }
     void setTitle(const QString &title);
-    /// The sizes of a whole window whose title bar is of standard height; what a taller one adds is added by the
-    /// window.
+    /// The sizes of a whole window with a title bar of standard height; the window adds the extra height of a taller
+    /// one.
     void setMinSize(const QSizeF &size);
     void setMaxSize(const QSizeF &size);
-    /// What the window may do; full screen is in it while it lasts and is not set by hand.
+    /// The abilities of the window. Full screen is one of them while it lasts; do not set it by hand.
     StyleMask styleMask() const;
     void setStyleMask(StyleMask mask);
     QColor backgroundColor() const;
@@ -161,29 +159,29 @@ public:
     QRectF frame() const;
     void setFrame(const QRectF &frame, bool display = true, bool animate = false);
 
-    /// Not owned. It hears of everything after the window's own work is done.
+    /// Not owned. It is notified of everything after the window has done its own work.
     INAppStoreWindowDelegate *delegate() const { return m_delegateProxy.secondaryDelegate(); }
     void setDelegate(INAppStoreWindowDelegate *delegate);
 
-    /// It has the keyboard.
+    /// Whether the window has the keyboard.
     bool isKeyWindow() const { return m_isKey; }
-    /// It or one of its popovers or dialogs has the keyboard.
+    /// Whether the window, one of its popovers or one of its dialogs has the keyboard.
     bool isMainWindow() const { return m_isMain; }
 
     const DoubleClickPreference *doubleClickPreference() const { return m_doubleClickPreference.get(); }
     void setDoubleClickPreference(std::shared_ptr<const DoubleClickPreference> preference);
 
-    /// Where a title of the size is drawn, in the title bar's coordinates, y down.
+    /// The rectangle of a title of the size, in the title bar's coordinates, y down.
     QRectF titleFrame(const QSizeF &text) const;
 
 public slots:
     void performClose();
     void miniaturize();
-    /// Between the largest size the screen offers and the one before.
+    /// Toggles between the largest size on the screen and the previous size.
     void performZoom();
     void toggleFullScreen();
-    /// Offers what the buttons in the title bar do to those who use the keyboard: Alt+Space opens it, as it does on
-    /// desktops that keep such a menu of their own and then take the key themselves.
+    /// The menu with the actions of the title bar's buttons, for the keyboard. Alt+Space opens it; desktops that have
+    /// such a menu of their own take that key themselves.
     void showWindowMenu();
 
 protected:

@@ -6,14 +6,14 @@ namespace lumora
 
 class INAppStoreWindow;
 
-/// What a window reports to its owner and asks of it. Every operation is optional: as they stand they do nothing
-/// and allow everything.
+/// What a window reports to its owner and asks its owner. Every operation is optional; by default they do nothing and
+/// allow everything.
 class INAppStoreWindowDelegate
 {
 public:
     virtual ~INAppStoreWindowDelegate() = default;
 
-    /// Answering false keeps the window open.
+    /// Returning false keeps the window open.
     virtual bool windowShouldClose(INAppStoreWindow *) { return true; }
     virtual void windowWillClose(INAppStoreWindow *) {}
     virtual void windowDidBecomeKey(INAppStoreWindow *) {}
@@ -30,9 +30,8 @@ public:
     virtual void windowDidExitFullScreen(INAppStoreWindow *) {}
 };
 
-/// Stands between a window and its real delegate, the secondary one: the window always has someone to talk to, and
-/// every word goes on to the secondary delegate if there is one. The window's own full-screen work comes before the
-/// delegate's.
+/// The delegate that every window has. It forwards every call to the real one, the secondary delegate, if there is one.
+/// The window's own full-screen work comes before the delegate's.
 class INAppStoreWindowDelegateProxy : public INAppStoreWindowDelegate
 {
 public:

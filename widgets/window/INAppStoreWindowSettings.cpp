@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The settings of the window: every setter lays the window out again and redraws it where something changed.
+// The settings of the window: a setter that changes something lays the window out again and redraws it.
 #include "INAppStoreWindow.h"
 
 #include "INTitlebarContainer.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What happens to the window: closing, miniaturising, zooming, full screen, key and main status.
+// The state of the window: closing, miniaturizing, zooming, full screen, key and main status.
 #include "INAppStoreWindow.h"
 
 #include "INTitlebarContainer.h"
@@ -83,7 +83,7 @@ void INAppStoreWindow::windowStateChanged(Qt::WindowStates before)
     if (isMinimized() == wasMiniaturized)
         return;
     if (isMinimized()) {
-        // No mouse leaves a window that goes away under it.
+        // No leave event comes when a window disappears under the mouse.
         m_standardButtons[Close]->group()->resetMouseCaptures();
         m_delegateProxy.windowDidMiniaturize(this);
     } else {
@@ -183,7 +183,7 @@ void INAppStoreWindow::hideEvent(QHideEvent *event)
 
 void INAppStoreWindow::keyPressEvent(QKeyEvent *event)
 {
-    // The way out of full screen where the title bar with its button is hidden.
+    // Leaves full screen, where the title bar with its button is hidden.
     if (event->key() == Qt::Key_F11 && m_styleMask & Resizable)
         toggleFullScreen();
     else

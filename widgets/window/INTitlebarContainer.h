@@ -6,8 +6,8 @@
 namespace lumora
 {
 
-/// The view that holds a window's title bar view and buttons and drags the window by its whole height. The window
-/// system moves the window where it can; elsewhere the window follows the mouse itself. A window in full screen stays.
+/// The view with a window's title bar view and buttons; dragging it anywhere moves the window. The window system moves
+/// the window if it can; otherwise the window follows the mouse by itself. A window in full screen does not move.
 class INTitlebarContainer : public QWidget
 {
     Q_OBJECT

@@ -44,7 +44,7 @@ bool INTitlebarView::drawsAsMainWindow() const
 
 QPainterPath INTitlebarView::clippingPath() const
 {
-    // Only the upper corners are round: the lower ones of the rounded rectangle lie below the view.
+    // Only the upper corners are round: the lower ones of the rounded rectangle are below the view.
     QPainterPath rounded;
     rounded.addRoundedRect(QRectF(rect()).adjusted(0, 0, 0, titleBarCornerRadius), titleBarCornerRadius,
                            titleBarCornerRadius);
@@ -116,7 +116,7 @@ void INTitlebarView::drawBackground(QPainter *painter, const INAppStoreWindow &w
         m_background = wanted;
     }
     painter->save();
-    // Pixel for pixel, whatever the scale.
+    // Drawn pixel by pixel at every scale.
     painter->scale(1 / ratio, 1 / ratio);
     painter->drawPixmap(0, 0, m_drawn);
     painter->restore();

@@ -11,8 +11,8 @@ namespace lumora
 
 class INAppStoreWindow;
 
-/// Draws the title bar of its window, by the window's settings, and miniaturizes the window on a double-click where the
-/// user wants that. A window's custom content is added to it as children.
+/// Draws the title bar of its window by the window's settings, and handles the double-click as the user prefers. A
+/// window's custom content becomes its children.
 class INTitlebarView : public QWidget
 {
     Q_OBJECT
@@ -20,7 +20,7 @@ class INTitlebarView : public QWidget
 public:
     explicit INTitlebarView(QWidget *parent = nullptr);
 
-    /// The window is the main one and the application is active.
+    /// Whether the window is the main one and the application is active.
     bool drawsAsMainWindow() const;
 
 protected:
@@ -29,7 +29,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
-    /// What the background was drawn for; for any other it is drawn again.
+    /// The settings for which the background was drawn; it is drawn again when they change.
     struct Background
     {
         QColor top;
@@ -50,8 +50,8 @@ private:
     void drawTitle(QPainter *painter, const INAppStoreWindow &window) const;
 
     int m_clickCount = 0;
-    /// Kept from one repaint to the next: a gradient of this size with noise over it takes several times as long to
-    /// draw as to copy.
+    /// Kept from one repaint to the next: drawing a gradient of this size with noise takes several times as long as
+    /// copying it.
     Background m_background;
     QPixmap m_drawn;
 };

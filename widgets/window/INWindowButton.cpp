@@ -14,7 +14,7 @@ namespace lumora
 INWindowButton::INWindowButton(const QString &groupIdentifier, QWidget *parent)
     : QAbstractButton(parent), m_group(INWindowButtonGroup::groupWithIdentifier(groupIdentifier))
 {
-    // As in every window frame: not in the way of the Tab key. The keyboard has the window's menu for what these do.
+    // Not in the tab order, as in every window frame. The window's menu offers the same actions to the keyboard.
     setFocusPolicy(Qt::NoFocus);
     connect(m_group, &INWindowButtonGroup::INWindowButtonGroupDidUpdateRolloverStateNotification, this,
             qOverload<>(&QWidget::update));
@@ -130,7 +130,7 @@ void INWindowButton::release()
 void INWindowButton::hideEvent(QHideEvent *event)
 {
     QAbstractButton::hideEvent(event);
-    // A button that goes away under the mouse, with its window for example, gets no leave event.
+    // A button that is hidden under the mouse, with its window for example, gets no leave event.
     release();
 }
 

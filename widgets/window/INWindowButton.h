@@ -20,32 +20,32 @@ class INWindowButton : public QAbstractButton
 public:
     /// A null identifier joins the default group.
     explicit INWindowButton(const QString &groupIdentifier = {}, QWidget *parent = nullptr);
-    /// With the five pictures of a kind, "close" for example: "window_close_active" and so on.
+    /// Uses the five pictures of a kind, for "close" for example "window_close_active" and so on.
     INWindowButton(const QString &groupIdentifier, const QString &kind, QWidget *parent);
     ~INWindowButton() override;
 
     QString groupIdentifier() const;
     INWindowButtonGroup *group() const { return m_group; }
 
-    /// In the key window.
+    /// Shown in the key window.
     NamedImage activeImage() const { return m_activeImage; }
     void setActiveImage(const NamedImage &image);
-    /// In any other window.
+    /// Shown in any other window.
     NamedImage activeNotKeyWindowImage() const { return m_activeNotKeyWindowImage; }
     void setActiveNotKeyWindowImage(const NamedImage &image);
-    /// While the button is disabled.
+    /// Shown while the button is disabled.
     NamedImage inactiveImage() const { return m_inactiveImage; }
     void setInactiveImage(const NamedImage &image);
-    /// While the mouse is over a button of the group.
+    /// Shown while the mouse is over a button of the group.
     NamedImage rolloverImage() const { return m_rolloverImage; }
     void setRolloverImage(const NamedImage &image);
-    /// While the button is held down.
+    /// Shown while the button is held down.
     NamedImage pressedImage() const { return m_pressedImage; }
     void setPressedImage(const NamedImage &image);
 
-    /// The picture that the state asks for now.
+    /// The picture of the current state.
     NamedImage image() const;
-    /// Where the mouse counts as over the button, in its own coordinates.
+    /// The area in which the mouse counts as over the button, in its own coordinates.
     QRect mouseTrackingArea() const { return rect(); }
 
     QSize sizeHint() const override;

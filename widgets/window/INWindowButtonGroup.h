@@ -7,20 +7,20 @@
 namespace lumora
 {
 
-/// Window buttons that show their rollover look together: as long as the mouse is over one of them, all of them do.
-/// Groups are found by their identifier and live as long as the program.
+/// Window buttons that show their rollover look together, as long as the mouse is over one of them. Groups are found by
+/// their identifier and live as long as the program.
 class INWindowButtonGroup : public QObject
 {
     Q_OBJECT
 
 public:
-    /// The group of the identifier, made when it is asked for first; a null identifier means the default group.
+    /// The group with the identifier, made at the first call; a null identifier means the default group.
     static INWindowButtonGroup *groupWithIdentifier(const QString &identifier);
 
     const QString &identifier() const { return m_identifier; }
-    /// How many of the buttons the mouse is over.
+    /// The number of buttons that the mouse is over.
     int numberOfCaptures() const { return m_numberOfCaptures; }
-    /// A negative number is refused.
+    /// Ignores a negative number.
     void setNumberOfCaptures(int number);
 
     void didCaptureMousePointer();

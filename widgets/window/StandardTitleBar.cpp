@@ -17,9 +17,9 @@ const StandardTitleBar &standardTitleBar()
         const QStyle *style = QApplication::style();
         const qreal button = NamedImage(u"window_close_active"_s).size().height();
         StandardTitleBar standard{};
-        // A style may know no title bars; a button must fit in nevertheless.
+        // A style may have no title bars, but a button must fit.
         standard.height = qMax<qreal>(style->pixelMetric(QStyle::PM_TitleBarHeight), button);
-        // As far from the side as from above.
+        // As far from the side as from the top.
         standard.trafficLightButtonsLeftMargin = qMax((standard.height - button) / 2, button / 2);
         standard.trafficLightSeparation = button / 2;
         standard.fullScreenButtonRightMargin = standard.trafficLightButtonsLeftMargin;

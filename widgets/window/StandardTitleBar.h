@@ -6,7 +6,7 @@
 namespace lumora
 {
 
-/// The metrics of a title bar that nobody has changed, in points.
+/// The metrics of an unchanged title bar, in points.
 struct StandardTitleBar
 {
     qreal height;

@@ -23,7 +23,8 @@ QColor opaqueGray(float white)
 QPixmap noiseTexture()
 {
     constexpr int side = 128;
-    // Around the middle gray: enough to take the smoothness off a gradient, too little to be seen as a pattern.
+    // The noise's range around middle gray: enough to break up a smooth gradient, too little to be visible as a
+    // pattern.
     constexpr int middle = 128;
     constexpr int spread = 48;
     QImage tile(side, side, QImage::Format_RGB32);

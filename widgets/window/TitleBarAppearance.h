@@ -7,13 +7,13 @@
 namespace lumora
 {
 
-/// Which generation of a platform's look the title bar follows.
+/// The generation of a platform's look that the title bar follows.
 enum class PlatformGeneration { Older, Newer };
 
-/// The generation of every platform this program runs on.
+/// The generation for every platform on which this program runs.
 inline constexpr PlatformGeneration platformGeneration = PlatformGeneration::Newer;
 
-/// The grays a title bar is drawn in as long as no colors were given.
+/// The grays of a title bar without colors of its own.
 struct TitleBarGrays
 {
     float gradientTop;
@@ -23,10 +23,10 @@ struct TitleBarGrays
 TitleBarGrays titleBarGrays(PlatformGeneration generation, bool drawsAsMainWindow);
 QColor opaqueGray(float white);
 
-/// How strongly the line along a title bar's upper edge and the noise over it are drawn, 0 to 1.
+/// The opacity of the line along a title bar's upper edge and of the noise over it, 0 to 1.
 inline constexpr float titleBarHighlightAlpha = 0.12F;
 inline constexpr qreal titleBarNoiseOpacity = 0.1;
-/// Of the title bar's upper corners, in points.
+/// The radius of the title bar's upper corners, in points.
 inline constexpr qreal titleBarCornerRadius = 4;
 
 /// A tile of even gray noise, the same on every run.

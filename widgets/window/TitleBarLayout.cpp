@@ -10,7 +10,7 @@ namespace lumora
 namespace
 {
 
-/// How much closer the buttons lie when they are stacked, in points.
+/// By how much stacked buttons are closer together, in points.
 constexpr qreal stackedReduction = 2;
 
 qreal topOf(const QRectF &rect)

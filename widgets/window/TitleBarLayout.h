@@ -9,13 +9,13 @@
 namespace lumora
 {
 
-// Where the parts of a window with a tall title bar lie. All rectangles count y upwards from the window's lower edge,
-// all lengths are points.
+// The layout of a window with a tall title bar. Rectangles count y upwards from the window's lower edge; lengths are in
+// points.
 
-/// How the close, minimize and zoom buttons stand in their title bar.
+/// The arrangement of the close, minimize and zoom buttons in their title bar.
 struct TrafficLights
 {
-    /// Close, minimize, zoom.
+    /// The buttons close, minimize and zoom.
     std::array<QSizeF, 3> sizes;
     qreal leftMargin = 0;
     qreal topMargin = 0; ///< where they are not centered
@@ -24,21 +24,22 @@ struct TrafficLights
     bool vertical = false;
 };
 
-/// The title bar's container: full width, at the top of the window.
+/// The rectangle of the title bar's container: full width, at the top of the window.
 QRectF titleBarRect(const QSizeF &window, qreal titleBarHeight);
-/// What is left below it.
+/// The rest of the window, below the container.
 QRectF contentRectBelowTitleBar(const QSizeF &window, qreal titleBarHeight);
 
-/// The close, minimize and zoom buttons inside the container. Upright, the buttons lie 2 points closer together than
-/// side by side, and the centered group stands on a whole point.
+/// The close, minimize and zoom buttons inside the container. Stacked, the buttons are 2 points closer together than
+/// side by side, and the centered group is on a whole point.
 std::array<QRectF, 3> trafficLightRects(const TrafficLights &lights, const QRectF &container);
 
 /// The full-screen button, centered or by its margin from the container's top.
 QRectF fullScreenButtonRect(const QSizeF &button, qreal rightMargin, qreal topMargin, bool centered,
                             const QRectF &container);
 
-/// The title: as near to the container's middle as the buttons on both sides let it, cut where it does not fit between
-/// them. `standardHeight` is the band at the container's top that the title stands in when it is not centered.
+/// The title: as near to the container's middle as the buttons on both sides allow, shortened if it does not fit
+/// between them. `standardHeight` is the height of the band at the container's top that holds a title that is not
+/// centered vertically.
 QRectF titleRect(const QSizeF &text, const QRectF &container, qreal leftLimit, qreal rightLimit, bool centered,
                  qreal standardHeight);
 

@@ -81,7 +81,7 @@ void WindowEdge::mousePressEvent(QMouseEvent *event)
 void WindowEdge::mouseMoveEvent(QMouseEvent *event)
 {
     if (m_dragged) {
-        // The window system does not resize windows for their owners, so this one does it itself.
+        // The window system cannot resize the window, so this code does it.
         window()->setGeometry(resizedFrame(m_frameBeforeDrag, m_dragged,
                                            event->globalPosition().toPoint() - m_dragStart, window()->minimumSize(),
                                            window()->maximumSize()));

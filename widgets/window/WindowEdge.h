@@ -7,20 +7,20 @@ namespace lumora
 {
 
 /// A strip along one edge of a frameless window, above everything in it: it draws the line that sets the window off
-/// from what lies behind, and resizes the window when it is dragged.
+/// from its background, and resizes the window when it is dragged.
 class WindowEdge : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// How far into the window the strip reaches, in points.
+    /// The width of the strip inside the window, in points.
     static constexpr int thickness = 4;
 
     WindowEdge(Qt::Edge edge, QWidget *window);
 
-    /// Lays the strip along its edge of the window.
+    /// Puts the strip along its edge of the window.
     void follow();
-    /// Whether dragging it resizes; the line is drawn all the same.
+    /// Whether dragging it resizes; the line is always drawn.
     void setResizes(bool resizes);
 
 protected:

@@ -9,9 +9,9 @@ namespace lumora
 namespace
 {
 
-/// How much of a title bar must be on a screen to take hold of it, in points.
+/// The least part of a title bar that must be on a screen to drag the window, in points.
 constexpr int handhold = 100;
-/// How far from a corner along an edge a press takes both edges, in points.
+/// The distance from a corner, along an edge, within which a press drags both edges, in points.
 constexpr int cornerReach = 16;
 
 qint64 area(const QRect &rect)
