@@ -12,13 +12,13 @@ namespace lumora
 /// One output file of a platform's set. Every icon is square.
 struct IconEntry
 {
-    const char *name; ///< the whole file name; the content is PNG whatever it ends with
+    const char *name; ///< the whole file name; the content is PNG whatever the ending
     int size;         ///< edge length in pixels
 
     bool operator==(const IconEntry &) const = default;
 };
 
-// The lists are in the order in which their files are written.
+// Each list is in the order in which its files are written.
 
 inline constexpr std::array<IconEntry, 10> iPhoneIcons = {{
     {"Icon.png", 57},
@@ -91,15 +91,15 @@ inline constexpr std::array<IconEntry, 5> FavIcons = {{
 
 enum class IconPlatform { IPhone, IPad, Mac, Android, WebTouch, Favicon };
 
-/// What is fixed about one platform's set.
+/// The fixed facts of one platform's set.
 struct PlatformIcons
 {
     IconPlatform platform;
-    const char *property;         ///< name of its list
-    const char *checkboxProperty; ///< name of the checkbox that chooses it
+    const char *property;         ///< the name of its list
+    const char *checkboxProperty; ///< the name of the checkbox that chooses it
     const char *commandName;      ///< its name on the command line
     const char *folderSuffix;     ///< its sub-folder, a path suffix of the export folder
-    const char *logLine;          ///< written to the log before it is exported
+    const char *logLine;          ///< the line that is logged before its export
     std::span<const IconEntry> icons;
 };
 
@@ -115,17 +115,17 @@ inline constexpr std::array<PlatformIcons, 6> iconPlatforms = {{
     {IconPlatform::Favicon, "FavIcons", "favIconCheckbox", "favicon", "/Favicon", "Export favicons icons", FavIcons},
 }};
 
-/// Inside the Mac folder: the folder of the pictures, from which the Mac icon file beside it is packed.
+/// Inside the Mac folder: the folder of the pictures. The Mac icon file beside it is packed from them.
 inline constexpr char iconsetSuffix[] = "/icons.iconset";
 
-/// The edge length in pixels that a source picture must have, both ways.
+/// The width and height of a source picture, in pixels.
 inline constexpr int sourceIconSize = 1024;
 
-/// The sub-folder of an export folder that takes the icon of a custom size.
+/// The sub-folder of an export folder for the icon of a custom size.
 inline constexpr char customFolderSuffix[] = "/Custom";
 
-/// The file name of the icon of a custom size, led by a slash: "/icon_100x100.png", with "_iOS6" or "_iOS7" before the
-/// ending where the corners are cut in that style.
+/// The file name of the icon of a custom size, beginning with a slash: "/icon_100x100.png", with "_iOS6" or "_iOS7"
+/// before the ending if the corners are cut in that style.
 QString customIconName(int size, int cornerMode);
 
 } // namespace lumora

@@ -19,7 +19,7 @@ namespace lumora
 namespace
 {
 
-/// Makes the fresh folder of a run; the run goes on even without it.
+/// Makes the new folder of a run; the run continues even without it.
 void beginExport(IconExport &result, const QString &savePath)
 {
     const auto folder = makeExportFolder(savePath, QStringLiteral("icons"));
@@ -31,7 +31,7 @@ void beginExport(IconExport &result, const QString &savePath)
     }
 }
 
-/// Makes a sub-folder of the run's, where it is not there already; a failure is logged.
+/// Makes a sub-folder in the run's folder if it does not exist; logs a failure.
 std::optional<Failure> makeSubfolder(const QString &path)
 {
     const Outcome made = createFolder(path);
@@ -88,7 +88,7 @@ private:
         prepare(platform);
         QString folder = m_result.folder.path + QLatin1StringView(platform.folderSuffix);
         if (platform.platform == IconPlatform::Mac) {
-            // What goes wrong with these two shows in the pictures that cannot be written.
+            // Failures of these two show in the pictures that cannot be written.
             std::ignore = createFolder(folder);
             folder += QLatin1StringView(iconsetSuffix);
             std::ignore = createFolder(folder);
@@ -151,7 +151,7 @@ private:
     const PlatformIconsRequest &m_request;
     RenderedIcons m_pictures;
     IconExport m_result;
-    std::size_t m_next = 0; ///< the first platform that was not asked for yet
+    std::size_t m_next = 0; ///< the first platform that was not exported yet
 };
 
 } // namespace

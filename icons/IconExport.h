@@ -17,31 +17,32 @@ namespace lumora
 
 class IconsetPacker;
 
-/// One picture file of an export: written, or why not.
+/// One picture file of an export: its size, or the failure.
 struct IconFile
 {
     QString path;
     int size = 0;     ///< edge length in pixels
-    qint64 bytes = 0; ///< length of the file, 0 where it was not written
+    qint64 bytes = 0; ///< length of the file, 0 if it was not written
     std::optional<Failure> failure;
 };
 
-/// What an export did. Nothing here stops it: a folder or file that could not be made is recorded and the rest follows.
+/// The result of an export. A folder or file that could not be made does not stop it: the failure is recorded, and the
+/// export continues.
 struct IconExport
 {
     ExportFolder folder;
     std::optional<Failure> folderFailure; ///< the export folder could not be made
     QList<IconFile> files;                ///< every file of every chosen platform, in order
-    QString icns;                         ///< the Mac icon file, empty where none was made
+    QString icns;                         ///< the Mac icon file, empty if none was made
     std::optional<Failure> icnsFailure;
-    bool isStopped = false; ///< the run was stopped: what is listed is all that was begun
+    bool isStopped = false; ///< the run was stopped: only the files that were begun are listed
 
-    /// Every failure, in the order of events.
+    /// All failures, in the order of events.
     QList<Failure> failures() const;
 };
 
-/// How far an export is: file number `file`, counted from 1, of `count` is about to be written at `path`. The count
-/// follows when platforms are chosen or dropped while the export runs.
+/// The progress of an export: file number `file`, counted from 1, of `count` is about to be written at `path`. The
+/// count changes when platforms are chosen or dropped while the export runs.
 struct IconProgress
 {
     int file = 0;
@@ -58,16 +59,16 @@ struct PlatformIconsRequest
 {
     QImage icon;
     QString savePath;                      ///< the folder in which the export folder is made
-    std::optional<ExportFolder> folder;    ///< one that is there, to be written into in place of a fresh one
+    std::optional<ExportFolder> folder;    ///< an existing folder to write into instead of a new one
     PlatformChoice isChosen;               ///< none chooses nothing
-    QList<IconPlatform> expected;          ///< platforms likely to be chosen: their pictures are begun ahead
+    QList<IconPlatform> expected;          ///< platforms that will probably be chosen: their pictures are begun early
     IconProgressReport progress;           ///< may be empty
-    const IconsetPacker *packer = nullptr; ///< none means the system's
-    std::function<bool()> isStopped;       ///< asked before each file; none never stops
+    const IconsetPacker *packer = nullptr; ///< null means the system's
+    std::function<bool()> isStopped;       ///< called before each file; an empty one never stops
 };
 
-/// Writes the sets of all chosen platforms into a fresh folder "icons". Blocks until done; works on all cores; callable
-/// on any thread. Writes the log lines of each step.
+/// Writes the sets of all chosen platforms into a new folder "icons". Blocks until done, works on all cores, logs each
+/// step; callable on any thread.
 IconExport generatePlatformIcons(const PlatformIconsRequest &request);
 
 struct CustomIconRequest
@@ -81,8 +82,8 @@ struct CustomIconRequest
 /// Writes one icon to `path`; its size and corners as in `CustomIconRequest`.
 IconFile writeCustomIcon(const QImage &icon, int customIconSize, int cornerMode, const QString &path);
 
-/// Writes one icon of a custom size into the folder "Custom" of a fresh folder "icons". Where that folder cannot be
-/// made the file's failure tells so (`CannotCreateFolder`).
+/// Writes one icon of a custom size into the folder "Custom" of a new folder "icons". If that folder cannot be made,
+/// the file's failure is `CannotCreateFolder`.
 IconExport generateCustomIcon(const CustomIconRequest &request);
 
 } // namespace lumora

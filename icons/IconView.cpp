@@ -28,7 +28,7 @@ void IconView::setPicture(const QImage &picture)
 bool IconView::event(QEvent *event)
 {
     const bool handled = QWidget::event(event);
-    // The scale is known for good once the view is shown, and no event tells of every way in which it changes.
+    // The scale is certain only when the view is shown, and some changes of it send no event.
     if (event->type() == QEvent::Resize || event->type() == QEvent::Show || event->type() == QEvent::Paint)
         noteSide();
     if (event->type() == QEvent::Paint && !std::exchange(m_painted, true))
@@ -52,7 +52,7 @@ void IconView::paintEvent(QPaintEvent *)
 void IconView::noteSide()
 {
     const int side = pixelSide();
-    // A view that is not shown yet may still be resized many times.
+    // Before it is shown, a view may be resized many times.
     if (!isVisible() || side == m_notedSide)
         return;
     m_notedSide = side;

@@ -7,8 +7,8 @@
 namespace lumora
 {
 
-/// Shows a square picture, pixel by pixel: one pixel of the picture is one pixel of the screen. Whoever owns it renders
-/// the picture at `pixelSide` and again when that changes.
+/// Shows a square picture: one pixel of the picture is one pixel of the screen. The owner renders the picture at
+/// `pixelSide`, and again when that changes.
 class IconView final : public QWidget
 {
     Q_OBJECT
@@ -22,7 +22,7 @@ public:
     void setPicture(const QImage &picture);
 
 signals:
-    /// The view was resized or came to a screen of another scale.
+    /// The view was resized or moved to a screen of another scale.
     void pixelSideChanged();
     /// The view has been drawn for the first time.
     void firstPainted();

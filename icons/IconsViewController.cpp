@@ -179,7 +179,7 @@ void IconsViewController::openChooseDestinationForPlatforms(bool forPlatforms)
 void IconsViewController::generatePlatformIcons()
 {
     PlatformIconsRequest request;
-    // A picture of its own: the tool may take another source while the export runs.
+    // A copy, since the tool may take another source while the export runs.
     request.icon = icon().copy();
     request.savePath = m_savePath;
     request.isChosen = [choices = m_choices](const PlatformIcons &icons) {

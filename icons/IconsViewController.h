@@ -37,26 +37,26 @@ public:
 
     const Ui::IconsViewController &outlets() const { return *m_ui; }
 
-    /// The accepted source; a built-in picture until the user brings one.
+    /// The accepted source; a built-in picture until the user chooses one.
     const QImage &icon();
-    /// Takes the picture as it is; a null one leaves the tool without a source.
+    /// Takes the picture without checks; a null picture leaves the tool without a source.
     void setIcon(const QImage &icon);
-    /// The folder last chosen to export into, empty at first.
+    /// The last destination folder of an export, empty at first.
     const QString &savePath() const { return m_savePath; }
     /// The folder of the last source, empty at first.
     const QString &browsePath() const { return m_browsePath; }
-    /// The edge length of the custom icon in pixels, 0 until one was accepted.
+    /// The edge length of the custom icon in pixels, 0 until one is accepted.
     int customIconSize() const { return m_customIconSize; }
-    /// See `CornerMode`; as the two corner options stand.
+    /// The number of the `CornerMode` that the two corner options give.
     int cornerMode() const;
 
-    /// Takes the picture as the source if it is exactly 1024 pixels wide and high, else says so at the browse button
-    /// and keeps the one it has.
+    /// Takes the picture as the source if it is exactly 1024 pixels wide and high; otherwise shows a message at the
+    /// browse button and keeps the present source.
     void createIconFromURL(const QString &path);
     /// The same as dropping that one file.
     void setIconFromDelegate(const QString &path);
     void dropViewReceivedFiles(const QStringList &files) override;
-    /// Colours are of no use here.
+    /// Does nothing: colors are of no use here.
     void dropViewReceivedColor(const QColor &) override {}
 
     bool takesFiles() const override { return true; }
@@ -64,7 +64,7 @@ public:
     void paste() override;
 
 signals:
-    /// The built-in picture was read behind the first frame; it is the source unless another was taken before.
+    /// The built-in picture was read after the first frame. It becomes the source unless another was chosen before.
     void builtInIconRead();
 
 public slots:
@@ -82,7 +82,7 @@ public slots:
 
     void snippetPlatformClicked();
     void copyButtonClicked();
-    /// Redraws the previews with the corner option in force.
+    /// Redraws the previews with the present corner option.
     void editPreviewIcon();
 
 private:
@@ -114,7 +114,7 @@ private:
 
     std::unique_ptr<Ui::IconsViewController> m_ui;
     QImage m_icon;
-    bool m_builtInIconPending = true; ///< it is read after the window's first frame, or as soon as it is needed
+    bool m_builtInIconPending = true; ///< read after the window's first frame, or as soon as it is needed
     QString m_savePath;
     QString m_browsePath;
     int m_customIconSize = 0;
@@ -122,7 +122,7 @@ private:
     TimedCaption *m_platformCaption = nullptr;
     TimedCaption *m_customCaption = nullptr;
     std::shared_ptr<Choices> m_choices = std::make_shared<Choices>();
-    BackgroundJobs m_jobs; ///< last, so that it waits for running exports before anything else goes
+    BackgroundJobs m_jobs; ///< last, so that it waits for running exports before other members are destroyed
 };
 
 } // namespace lumora

@@ -40,7 +40,7 @@ void IconsViewController::setUpAppearance()
     styleButton(m_ui->codeSnippetCopyButton, qtTrId("COPY"), QStringLiteral("button_icon_copy"), palette::icons,
                 palette::iconsBorder);
 
-    // Two buttons of one name are told apart by the panels they stand on.
+    // The accessible descriptions distinguish two buttons of the same name by their panels.
     m_ui->generateIconsButton->setAccessibleDescription(qtTrId("ICONS_PLATFORMS_TITLE"));
     m_ui->generateCustomButton->setAccessibleDescription(qtTrId("ICONS_CUSTOM_SETTINGS"));
 
@@ -69,7 +69,7 @@ void IconsViewController::setUpPreviews()
                                m_ui->iconPreviewLabelFour, m_ui->iconPreviewLabelFive};
     for (std::size_t number = 0; number < m_previews.size(); ++number) {
         IconView *preview = m_previews[number];
-        // Its interface file gives it this one size; the layout has not run yet.
+        // The interface file gives it only this size; the layout has not run yet.
         preview->resize(preview->minimumSize());
         const QString width = QString::number(preview->width());
         styleLabel(labels[number], latoBold(13), palette::chromeText);
@@ -89,7 +89,7 @@ void IconsViewController::setUpPreviews()
 
 void IconsViewController::loadBuiltInIcon()
 {
-    // Reading and scaling it takes longer than all the rest of the window, which need not wait for it.
+    // Reading and scaling it takes longer than all the rest of the window, so the window does not wait for it.
     QList<int> sides{m_ui->sourceIconView->pixelSide()};
     for (const IconView *preview : m_previews)
         sides << preview->pixelSide();
@@ -113,7 +113,7 @@ void IconsViewController::showBuiltInIcon(const QImage &icon, const QList<QImage
     m_ui->sourceIconView->setPicture(pictures.first());
     for (std::size_t number = 0; number < m_previews.size(); ++number)
         m_previews[number]->setPicture(pictures.at(static_cast<qsizetype>(number) + 1));
-    // What changed its size meanwhile is drawn anew.
+    // A view whose size changed meanwhile is drawn again.
     if (m_ui->sourceIconView->pixelSide() != pictures.first().width())
         showSource();
     if (this->cornerMode() != cornerMode)
@@ -131,7 +131,7 @@ void IconsViewController::setUpSnippets()
     addEntry(qtTrId("ICONS_WEB_TOUCH"), SnippetPlatform::WebTouch);
     addEntry(qtTrId("ICONS_FAV_ICONS"), SnippetPlatform::Favicon);
     m_ui->codeSnippetDropdown->setAccessibleName(qtTrId("ACCESSIBLE_SNIPPET_PLATFORM"));
-    // The toolkit passes on what is chosen as the name; what the choice is for comes from its label.
+    // The toolkit reports the chosen entry as the name; the label says what the choice is for.
     m_ui->codeSnippetTitle->setBuddy(m_ui->codeSnippetDropdown);
 
     m_ui->codeSnippedView->setAccessibleName(qtTrId("ACCESSIBLE_SNIPPET"));

@@ -15,12 +15,12 @@ class IconsetPacker
 {
 public:
     virtual ~IconsetPacker() = default;
-    /// The path of the icon file, or why it could not be made. Blocks until it is.
+    /// The path of the icon file, or the failure. Blocks until done.
     virtual Result<QString> pack(const QString &iconsetPath) const = 0;
 };
 
-/// Runs the system's tool: PROGRAM -c icns FOLDER. Its exit status and output are not looked at; what counts is whether
-/// the icon file is there afterwards.
+/// Runs the system's tool: PROGRAM -c icns FOLDER. Ignores its exit status and output; succeeds if the icon file exists
+/// afterwards.
 class IconutilPacker final : public IconsetPacker
 {
 public:
@@ -31,7 +31,7 @@ private:
     QString m_program;
 };
 
-/// Writes the icon file itself, from the pictures it finds in the folder; every one of the ten must be there.
+/// Writes the icon file itself from the folder's ten pictures; fails if one is missing.
 class OwnIconsetPacker final : public IconsetPacker
 {
 public:

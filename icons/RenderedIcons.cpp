@@ -31,10 +31,11 @@ struct Piece
     bool finished = false;
 };
 
-/// Sections go before any new size: finishing a size that is begun keeps memory low.
+/// Sections have priority over new sizes: finishing a size that is begun keeps memory low.
 constexpr int sectionPriority = 1 << 20;
 
-/// From this size on an icon takes so long that it is begun early: at the end the other cores would wait for it.
+/// An icon of this size or larger takes so long that it is begun early; otherwise the other cores would wait for it at
+/// the end.
 constexpr int smallestEarlySize = 256;
 
 } // namespace
@@ -57,7 +58,7 @@ public:
             if (m_pieces.contains(size))
                 continue;
             Piece *piece = m_pieces.emplace(size, std::make_unique<Piece>()).first->second.get();
-            // The files are written in the order in which they were asked for, beside the rendering.
+            // The files are written in the requested order while others are rendered.
             const int priority = size >= smallestEarlySize ? size : -static_cast<int>(m_pieces.size());
             start([this, piece, size] { render(*piece, size); }, priority);
         }
@@ -73,9 +74,9 @@ public:
     }
 
 private:
-    /// Queues the work by priority, the highest first. The pool only learns how many pieces of work wait: they pass
-    /// between threads under a lock of the standard library, which a thread sanitizer understands without a Qt built
-    /// for it.
+    /// Queues the work by priority, the highest first. The pool only gets the number of waiting tasks. The tasks
+    /// themselves pass between threads under a lock of the standard library, which the thread sanitizer sees without an
+    /// instrumented Qt.
     void start(std::function<void()> work, int priority)
     {
         {
@@ -125,7 +126,7 @@ private:
         m_finished.notify_all();
     }
 
-    /// Made by the first thread that needs it while another may already encode the picture in its own size.
+    /// Made by the first thread that needs it; another may already encode the picture at its original size.
     const Resampler &resampler()
     {
         std::call_once(m_takenApart, [this] { m_resampler = std::make_unique<Resampler>(m_icon); });
@@ -138,9 +139,9 @@ private:
     std::mutex m_mutex;
     std::condition_variable m_finished;
     std::map<int, std::unique_ptr<Piece>> m_pieces;
-    std::mutex m_waitingMutex; ///< guards the work that waits
+    std::mutex m_waitingMutex; ///< guards the waiting tasks
     std::multimap<int, std::function<void()>, std::greater<>> m_waiting;
-    QThreadPool m_pool; ///< last, so that its threads end before what they use
+    QThreadPool m_pool; ///< last, so that its threads end before the members that they use
 };
 
 RenderedIcons::RenderedIcons(const QImage &icon) : m_workshop(std::make_unique<Workshop>(icon)) {}

@@ -10,21 +10,23 @@
 namespace lumora
 {
 
-/// The PNG files of one source icon in any sizes: each size is rendered and encoded once, on all cores, the largest
-/// picture's sections side by side. Holds the encoded files only, so memory stays near the source's own.
+/// The PNG files of one source icon in any sizes. Each size is rendered and encoded once, on all cores; the sections of
+/// the largest pictures are encoded in parallel. Keeps only the encoded files, so it needs little more memory than the
+/// source.
 class RenderedIcons
 {
 public:
     explicit RenderedIcons(const QImage &icon);
-    /// Drops what was prepared and not begun; waits for what was.
+    /// Drops the sizes that were prepared but not begun; waits for those that were begun.
     ~RenderedIcons();
     RenderedIcons(const RenderedIcons &) = delete;
     RenderedIcons &operator=(const RenderedIcons &) = delete;
 
-    /// Starts work on sizes that will be wanted and are not there yet: the largest first, the quick ones in this order.
+    /// Starts work on sizes that will be needed: the largest first, the quick ones in this order.
     void prepare(std::span<const int> sizes);
 
-    /// The icon of that edge length as a PNG file; waits until it is made. Empty for a size below 1 or a null icon.
+    /// The icon of that edge length as a PNG file; waits until it is made. Empty for a size below 1 and for a null
+    /// icon.
     QByteArray png(int size);
 
 private:

@@ -37,7 +37,7 @@ LabelFont::LabelFont()
     const QRawFont probe(bytes, 1.0, QFont::PreferNoHinting);
     m_unitsPerEm = probe.unitsPerEm();
     m_font = QRawFont(bytes, m_unitsPerEm, QFont::PreferNoHinting);
-    // The font's own header, since what a platform answers for ascent and descent depends on its taste.
+    // The font's own header, since platforms compute ascent and descent differently.
     const QByteArray header = m_font.fontTable("hhea");
     m_ascent = headerFigure(header, ascenderOffset) / m_unitsPerEm;
     m_descent = -headerFigure(header, descenderOffset) / m_unitsPerEm;

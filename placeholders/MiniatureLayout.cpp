@@ -51,7 +51,7 @@ QList<QRectF> miniatureRectangles(const QList<QSize> &pictures, const QRectF &ar
 {
     if (pictures.isEmpty() || area.isEmpty())
         return {};
-    // Halving the doubt this often leaves less of it than a thousandth of a point for the largest picture.
+    // After this number of halvings the error is below a thousandth of a point for the largest picture.
     constexpr int halvings = 24;
     double fitting = 0;
     double limit = 1;

@@ -8,9 +8,9 @@
 namespace lumora
 {
 
-/// Lays pictures out like a contact sheet: in their order, in rows from the top, all at the one largest scale (never
-/// above 1) at which they fit into the area with `gap` between them; rows centered, the whole in the middle. Empty
-/// where the area is.
+/// Arranges pictures like a contact sheet: in their order, in centered rows from the top, with `gap` between them, and
+/// the whole in the middle of the area. All have the same scale, the largest up to 1 at which they fit. Empty if the
+/// area is empty.
 QList<QRectF> miniatureRectangles(const QList<QSize> &pictures, const QRectF &area, double gap);
 
 } // namespace lumora

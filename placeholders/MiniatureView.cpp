@@ -65,7 +65,7 @@ void MiniatureView::paintEvent(QPaintEvent *)
     const QColor gray(Placeholder::gray, Placeholder::gray, Placeholder::gray);
     for (qsizetype i = 0; i < m_rectangles.size(); ++i) {
         const QRectF &rectangle = m_rectangles.at(i);
-        // A strip stays visible, however thin its miniature would be.
+        // A very thin picture stays visible as a strip.
         const QRectF visible(rectangle.topLeft(),
                              QSizeF(std::max(rectangle.width(), 1.0), std::max(rectangle.height(), 1.0)));
         painter.save();

@@ -8,8 +8,8 @@
 namespace lumora
 {
 
-/// Shows the placeholders that a run would write, all at one scale: the same gray, the same label at the same place.
-/// Without any it shows an empty frame.
+/// Shows the placeholders that a run would write, all at the same scale, with the gray and the label that they will
+/// have. Without placeholders it shows an empty frame.
 class MiniatureView final : public QWidget
 {
     Q_OBJECT
@@ -17,7 +17,7 @@ class MiniatureView final : public QWidget
 public:
     explicit MiniatureView(QWidget *parent = nullptr);
 
-    /// Of the pictures in pixels, in the order of writing.
+    /// The sizes of the pictures in pixels, in the order of writing.
     const QList<QSize> &pictures() const { return m_pictures; }
     void setPictures(const QList<QSize> &pictures);
 

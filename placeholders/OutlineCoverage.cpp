@@ -15,7 +15,7 @@ struct Passage
 {
     double left;   ///< its least x
     double right;  ///< its greatest x
-    double height; ///< how much of the row it crosses, signed by direction
+    double height; ///< the share of the row that it crosses, signed by direction
 
     /// The area right of the edge and left of the vertical line at x.
     double areaUpTo(double x) const
@@ -28,7 +28,7 @@ struct Passage
     }
 };
 
-/// Adds the passage's area to the differences between neighboring pixels, whose running sum is the coverage.
+/// Adds the passage's area to the differences between neighboring pixels; their running sum is the coverage.
 void addPassage(const Passage &passage, std::span<double> differences)
 {
     const auto last = static_cast<std::ptrdiff_t>(differences.size()) - 1;

@@ -10,8 +10,8 @@
 namespace lumora
 {
 
-/// How much of each pixel a filled outline covers, row by row and in any order, from several threads at once. The area
-/// is computed, not sampled, by plain arithmetic of our own: no graphics backend has a say in the result.
+/// The share of each pixel that a filled outline covers. Rows may be computed in any order and by several threads at
+/// once. The area is computed exactly, without a graphics backend, so that the result is the same everywhere.
 class OutlineCoverage
 {
 public:

@@ -15,7 +15,7 @@ namespace
 constexpr std::size_t bytesPerPixel = 4;
 constexpr unsigned char opaque = 255;
 
-/// Gray under as much white as the coverage says, rounded to the nearest byte.
+/// Gray with the share of white that the coverage gives, rounded to the nearest byte.
 unsigned char whiteOverGray(unsigned char coverage)
 {
     constexpr int lift = 255 - Placeholder::gray;
@@ -64,7 +64,7 @@ QImage Placeholder::toImage() const
 
 Placeholder placeholderWithSize(QSizeF size, const LabelFont &font)
 {
-    // Lengths are whole numbers by way of single precision, as every written picture's are.
+    // Lengths are truncated after conversion to single precision, as for every written picture.
     const QSize pixels(static_cast<int>(static_cast<float>(size.width())),
                        static_cast<int>(static_cast<float>(size.height())));
     return {pixels, std::make_shared<const OutlineCoverage>(labelOutline(size, font))};

@@ -15,15 +15,15 @@ namespace lumora
 class LabelFont;
 
 /// One placeholder picture: 50 % gray with its own size written on it in white. It keeps the shape of its label and
-/// answers rows of pixels when asked, so the largest costs no more memory than the smallest. A cheap value: copies
-/// share the label; rows may be read from several threads.
+/// computes rows of pixels on demand, so the largest takes no more memory than the smallest. A cheap value: copies
+/// share the label. Several threads may read rows at once.
 class Placeholder
 {
 public:
     /// The standard 50 % gray, as a byte.
     static constexpr unsigned char gray = 128;
 
-    /// The picture's size in pixels, truncated as it is written.
+    /// The picture's size in pixels, truncated to whole numbers.
     QSize size() const { return m_size; }
     /// Writes a row as straight RGBA, 4 bytes a pixel; `rgba` holds 4 * width bytes.
     void readRow(int row, std::span<unsigned char> rgba) const;

@@ -14,7 +14,7 @@
 namespace lumora
 {
 
-/// One picture of a run as it was written, or not.
+/// One picture of a run: written, or the failure.
 struct PlaceholderFile
 {
     QString path;
@@ -23,7 +23,7 @@ struct PlaceholderFile
     Outcome outcome = Done{};
 };
 
-/// What a run of the placeholder generator did.
+/// The result of a run of the placeholder generator.
 struct PlaceholderRun
 {
     ExportFolder folder;
@@ -31,16 +31,16 @@ struct PlaceholderRun
     std::vector<PlaceholderFile> files;
 };
 
-/// Called after each picture with how many of all are done. Answers whether to go on.
+/// Called after each picture with the number of finished pictures and of all. Returns whether to continue.
 using PlaceholderWritten = std::function<bool(qsizetype done, qsizetype total)>;
 
-/// Makes a fresh folder "placeholders" in the destination and writes the pictures into it, in order, each under the
-/// name that its size gives it. Goes on where a folder or file cannot be written. All cores work on each picture, with
-/// a few megabytes of memory besides the compressed file; the bytes do not depend on their number.
+/// Makes a new folder "placeholders" in the destination and writes the pictures into it, in order, each named for its
+/// size. Continues when a folder or file cannot be written. All cores work on each picture, with a few megabytes of
+/// memory besides the compressed file; the bytes do not depend on the number of cores.
 PlaceholderRun savePlaceholders(const std::vector<Placeholder> &pictures, const QString &destination,
                                 const PlaceholderWritten &written = {});
 
-/// The same into a folder that is there.
+/// The same into an existing folder.
 PlaceholderRun savePlaceholders(const std::vector<Placeholder> &pictures, const ExportFolder &folder,
                                 const PlaceholderWritten &written = {});
 

@@ -10,14 +10,14 @@ namespace lumora
 
 class LabelFont;
 
-/// What a placeholder of the size says: both lengths truncated to whole pixels ("1136 x 640").
+/// The label of a placeholder of the size, both lengths truncated to whole pixels: "1136 x 640".
 QString labelText(QSizeF picture);
 
-/// The label's font size in points, which are pixels here: a tenth of the width, whatever the height.
+/// The label's font size in points, here the same as pixels: a tenth of the width, whatever the height.
 float labelPointSize(double pictureWidth);
 
-/// Where a text of the measured size goes: centered, its origin snapped down to whole pixels. Counts y upwards, origin
-/// at the lower left corner; the rectangle may reach beyond a picture that is lower than the text.
+/// The rectangle of a text of the measured size: centered, its origin rounded down to whole pixels. Y counts upwards
+/// from the lower left corner. The rectangle may reach beyond a picture that is lower than the text.
 QRectF labelRectangle(QSizeF picture, QSizeF text);
 
 /// The width and the line height of the picture's label in pixels.

@@ -16,11 +16,11 @@ enum class PlaceholderSet { Ios, Mac };
 inline constexpr int shortestPlaceholderEdge = 1;
 inline constexpr int longestPlaceholderEdge = 9999;
 
-/// The pictures of a set in pixels, in the order of drawing and of writing. No size is in a set twice, since files
-/// are named after it.
+/// The sizes of a set's pictures in pixels, in the order of writing. No size is in a set twice, since files are named
+/// for it.
 std::span<const QSize> placeholderSizes(PlaceholderSet set);
 
-/// Whether a custom picture may have an edge of that many pixels.
+/// Whether a custom picture may have an edge of that length in pixels.
 constexpr bool isPlaceholderEdge(int pixels)
 {
     return pixels >= shortestPlaceholderEdge && pixels <= longestPlaceholderEdge;

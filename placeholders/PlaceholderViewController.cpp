@@ -87,7 +87,7 @@ void PlaceholderViewController::setUpAppearance()
 void PlaceholderViewController::setUpButton(HoverButton *button, const QString &what)
 {
     styleButton(button, qtTrId("GENERATE"), palette::placeholders, palette::placeholdersBorder);
-    // Three buttons say the same; the description makes the difference.
+    // Three buttons have the same text; the description distinguishes them.
     button->setAccessibleDescription(what);
     m_captions.insert(button, new TimedCaption([button](const QString &caption) { button->setText(caption); },
                                                qtTrId("GENERATE"), this));
@@ -125,7 +125,7 @@ void PlaceholderViewController::customButtonPressed()
 
 bool PlaceholderViewController::acceptEdge(ZKTextField *field, int &edge)
 {
-    // An empty text reads as 0, which is refused too.
+    // An empty text counts as 0, which is refused, too.
     const int typed = leadingInteger(field->string());
     if (isPlaceholderEdge(typed)) {
         edge = typed;
@@ -160,7 +160,7 @@ void PlaceholderViewController::createPlaceholders(const QList<QSize> &sizes)
 
 void PlaceholderViewController::openChooseDestination()
 {
-    // The prompt is shared with the down-scaler, which asks for the same.
+    // The down-scaler uses the same prompt.
     services().folderChooser.chooseFolder(
         window(), {qtTrId("RESIZER_DESTINATION_PANEL"), m_savePath},
         [this](const QString &path) {

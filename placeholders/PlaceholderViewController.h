@@ -25,7 +25,7 @@ class TimedCaption;
 class ZKTextField;
 
 /// The placeholder tool: writes labeled gray pictures in the screen sizes of iOS devices or of the Mac, or one in a
-/// typed size, and shows beforehand what they will be.
+/// typed size, and shows them beforehand.
 class PlaceholderViewController final : public ToolViewController
 {
     Q_OBJECT
@@ -36,17 +36,17 @@ public:
 
     const Ui::PlaceholderViewController &outlets() const { return *m_ui; }
 
-    /// The pictures that wait for a destination, in the order of writing; empty between runs.
+    /// The pictures to write once a destination is chosen, in order; empty between runs.
     const std::vector<Placeholder> &saveImages() const { return m_saveImages; }
-    /// The folder last chosen to write into, empty at first.
+    /// The last destination folder, empty at first.
     const QString &savePath() const { return m_savePath; }
-    /// The custom size last accepted, 0 at first.
+    /// The last accepted custom size, 0 at first.
     int customWidth() const { return m_customWidth; }
     int customHeight() const { return m_customHeight; }
     /// A name for the custom picture, empty at first. It changes nothing: files are named for their size.
     const QString &customName() const { return m_customName; }
     void setCustomName(const QString &name) { m_customName = name; }
-    /// The button that started the run; nullptr once a run has closed.
+    /// The button that started the run; nullptr after the run.
     HoverButton *selectedButton() const { return m_selectedButton; }
 
 public slots:
@@ -77,7 +77,7 @@ private:
     QString m_customName;
     HoverButton *m_selectedButton = nullptr;
     QHash<HoverButton *, TimedCaption *> m_captions;
-    BackgroundJobs m_jobs; ///< last, so that it waits for running jobs before anything else goes
+    BackgroundJobs m_jobs; ///< last, so that it waits for running jobs before other members are destroyed
 };
 
 } // namespace lumora

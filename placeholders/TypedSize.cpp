@@ -22,7 +22,7 @@ bool startsWithNumber(QStringView text)
 
 std::optional<QSize> typedPlaceholderSize(QStringView text)
 {
-    // What follows a number may hold an x of its own ("300px x 200"); the one that counts has a number after it.
+    // A unit may contain an x ("300px x 200"); the separator is the x with a number after it.
     for (qsizetype i = 0; i < text.size(); ++i) {
         const QChar character = text.at(i);
         const bool cross = character == u'x' || character == u'X' || character == u'\u00D7';

@@ -9,8 +9,8 @@
 namespace lumora
 {
 
-/// The custom size that a text such as "300x200" names, each number read as the size fields read theirs ("300px x 200"
-/// is 300 x 200). None where an x between two numbers is missing or an edge is out of range.
+/// The custom size in a text such as "300x200". Each number is read as in the size fields: "300px x 200" is 300 x 200.
+/// Empty if there is no x between two numbers or an edge is out of range.
 std::optional<QSize> typedPlaceholderSize(QStringView text);
 
 } // namespace lumora
