@@ -18,7 +18,7 @@ namespace lumora
 
 class IconButton;
 
-/// Told when the message is to go away; optional.
+/// Is called when the message is to be closed; optional.
 class AlertContentViewDelegate
 {
 public:
@@ -27,8 +27,8 @@ public:
     virtual void popupCloseButtonPressed() {}
 };
 
-/// What a tool's message popup shows: a title, a message and a button that closes it. Keeps the size of its interface
-/// file whatever the texts.
+/// The content of a tool's message popup: a title, a message and a button that closes it. Its size is always that of
+/// its interface file.
 class AlertContentView final : public QWidget
 {
     Q_OBJECT
@@ -38,7 +38,7 @@ public:
     ~AlertContentView() override;
 
     AlertContentViewDelegate *delegate() const { return m_delegate; }
-    /// Not owned; has to outlive the view or take itself away by setting nullptr.
+    /// Not owned; must outlive the view, or be removed by setting nullptr.
     void setDelegate(AlertContentViewDelegate *delegate) { m_delegate = delegate; }
 
     QLabel *titleLabel() const;

@@ -45,7 +45,7 @@ BackgroundJobs::~BackgroundJobs()
     {
         const std::lock_guard lock(m_mutex);
         m_stopRequested = true;
-        // A concurrent job counts as started even where its thread has not come to it yet.
+        // A concurrent job counts as started even if its thread has not begun it yet.
         if (m_order == Order::Serial)
             m_waiting.clear();
     }

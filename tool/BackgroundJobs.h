@@ -16,14 +16,14 @@ namespace lumora
 
 class BackgroundJobs;
 
-/// What a running job has of the outside. Used on the job's own thread only.
+/// A running job's connection to the main thread. Used on the job's own thread only.
 class BackgroundJob
 {
 public:
-    /// Runs the function on the main thread, soon, in the order of the posts; not at all once the controller's
+    /// Queues the function for the main thread, which runs posted functions in order, but none once the controller's
     /// BackgroundJobs is being destroyed. Returns at once: a job never waits for the main thread.
     void post(std::function<void()> onMainThread) const;
-    /// The window is closing. A job that only reads may return early; one that writes files goes on to the end.
+    /// The window is closing. A job that only reads may return early; a job that writes files continues to its end.
     bool isStopRequested() const;
 
 private:
@@ -42,10 +42,10 @@ private:
 ///         job.post([this, result] { showResult(result); });
 ///     });
 ///
-/// A job copies the values it needs into its closure and reaches nothing else; `this` stands in the closure for the
-/// posted functions only. Being destroyed waits for the jobs that were begun, so that no file is left half-written, and
-/// drops those of a serial row whose turn has not come and whatever was posted and not yet run: make the BackgroundJobs
-/// the controller's last member, so that it goes first. Made, used and destroyed on the main thread.
+/// A job copies the values it needs into its closure and uses nothing else; the closure captures `this` only for the
+/// posted functions. The destructor waits for the jobs that were begun, so that no file is left half-written. It drops
+/// serial jobs that were not begun and posted functions that have not run. Make the BackgroundJobs the controller's
+/// last member, so that it is destroyed first. Create, use and destroy it on the main thread.
 class BackgroundJobs final : public QObject
 {
     Q_OBJECT
@@ -57,13 +57,13 @@ public:
     };
     using Work = std::function<void(const BackgroundJob &job)>;
 
-    /// The label names the jobs' threads for those who look at the process from outside; at most 15 characters, empty
-    /// for the program's own name.
+    /// The label names the jobs' threads in tools that list them; at most 15 characters, empty for the program's own
+    /// name.
     explicit BackgroundJobs(Order order = Order::Concurrent, const std::string &label = {});
     ~BackgroundJobs() override;
 
     void start(Work work);
-    /// Waits until every job has returned; what they posted runs with the next round of the event loop.
+    /// Waits until every job has returned; their posted functions run when the event loop continues.
     void waitForDone();
 
 protected:
@@ -82,7 +82,7 @@ private:
 
     const Order m_order;
     const std::string m_label;
-    // The standard library's locks, not the toolkit's: a thread sanitizer sees through them without a build of its own.
+    // The standard library's locks, not the toolkit's: the thread sanitizer sees them without an instrumented toolkit.
     mutable std::mutex m_mutex; ///< guards everything below
     std::condition_variable m_workerFinished;
     std::deque<Work> m_waiting;

@@ -10,7 +10,7 @@ namespace lumora
 class HoverButton;
 class IconButton;
 
-/// The looks of an icon button whose hover and active colors are one, by the name of its icon.
+/// The look of an icon button with one color for hovering and pressing; the icon is given by name.
 void styleButton(IconButton *button, const QString &text, const QString &iconName, const QColor &normalColor,
                  const QColor &hoverColor);
 void styleButton(HoverButton *button, const QString &text, const QColor &normalColor, const QColor &hoverColor);

@@ -11,14 +11,14 @@ namespace lumora
 
 void styleDropDown(QComboBox *box)
 {
-    // What the platform's style would drop down takes the box's own background for its highlighted row, too.
+    // The platform's own list would use the box's background for its highlighted row, too.
     box->setStyleSheet(box->styleSheet() + uR"(
         QComboBox { combobox-popup: 0; }
         QComboBox QAbstractItemView { background: palette(base); color: palette(text); border: 1px solid palette(mid);
             outline: 0; selection-background-color: palette(highlight); selection-color: palette(highlighted-text); }
         QComboBox QAbstractItemView::item { min-height: 26px; padding: 0 8px; }
     )"_s);
-    // The box's own delegate takes no notice of the rows' style.
+    // The box's own delegate ignores the style of the rows.
     box->setItemDelegate(new QStyledItemDelegate(box));
 }
 

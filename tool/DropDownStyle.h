@@ -6,8 +6,8 @@ class QComboBox;
 namespace lumora
 {
 
-/// Lets the box drop down a plain list whose rows are as high as rows of a menu and whose highlighted row can be read.
-/// To be called after the box has got its own style sheet, if it has one.
+/// Gives the box a plain drop-down list with rows as high as those of a menu and a readable highlighted row. Call it
+/// after setting the box's own style sheet, if it has one.
 void styleDropDown(QComboBox *box);
 
 } // namespace lumora

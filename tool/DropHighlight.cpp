@@ -14,9 +14,9 @@ namespace
 {
 
 constexpr qreal lineWidth = 2;
-constexpr qreal cornerRadius = 8; ///< as the panels beside it
+constexpr qreal cornerRadius = 8; ///< the same as that of the panels beside it
 constexpr float fillOpacity = 0.12F;
-/// In line widths, as pens count: a dash, a gap.
+/// A dash and a gap, in line widths.
 const QList<qreal> dashes = {4, 3};
 
 } // namespace

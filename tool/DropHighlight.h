@@ -9,8 +9,8 @@ namespace lumora
 
 class DropView;
 
-/// The drop area's visible side: a dashed outline at rest, a filled one in the tool's color while a drag that will be
-/// taken is over it. Lies behind everything else on its drop view and follows its size.
+/// The visible part of a drop area: a dashed outline at rest, filled with the tool's color while a drag that will be
+/// accepted is over it. It is behind everything else on its drop view and has the same size.
 class DropHighlight final : public QWidget
 {
     Q_OBJECT

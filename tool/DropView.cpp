@@ -24,7 +24,7 @@ DragOperations operationsOf(const QDropEvent *event)
     return sourceOperations(event->possibleActions(), protocol);
 }
 
-/// The toolkit's action that stands for the operation in the answer to the source.
+/// The toolkit's action for the operation, for the answer to the source.
 Qt::DropAction actionFor(DragOperation operation, Qt::DropActions offered)
 {
     switch (operation) {
@@ -143,7 +143,7 @@ void DropView::judge(QDropEvent *event)
                                         : DragOperation::None;
     event->setDropAction(actionFor(operation, event->possibleActions()));
     event->setAccepted(operation != DragOperation::None);
-    // A copy alone is shown to the source, but would not be delivered.
+    // A mere copy is shown to the source, but would not be delivered.
     setTargeted(operation == DragOperation::Link || operation == DragOperation::Generic);
 }
 

@@ -6,8 +6,8 @@
 namespace lumora
 {
 
-/// One line of plain text, its middle left out where it is too long for the label; the whole of it is its tool tip then
-/// and what screen readers say. Never makes its layout wider.
+/// One line of plain text. If it is too long for the label, its middle is left out; the tool tip and the accessible
+/// name then have the whole text. Never makes its layout wider.
 class ElidedLabel final : public QLabel
 {
     Q_OBJECT

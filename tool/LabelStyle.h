@@ -9,7 +9,7 @@ class QLabel;
 namespace lumora
 {
 
-/// Gives a label its font and color; what it shows is taken as plain text, whatever a file name or a key looks like.
+/// Sets a label's font and color, and shows its text as plain text, since file names may look like markup.
 void styleLabel(QLabel *label, const QFont &font, const QColor &color);
 
 } // namespace lumora

@@ -29,7 +29,7 @@ void PaneFocus::take()
 
 QWidget *PaneFocus::controlAfter(QWidget *start) const
 {
-    // A widget that is being destroyed is in no chain any more.
+    // A widget that is being destroyed is no longer in the focus chain.
     for (QWidget *next = start->nextInFocusChain(); next != nullptr && next != start; next = next->nextInFocusChain()) {
         if (m_pane->isAncestorOf(next) && canTakeFocus(next))
             return next;
@@ -40,7 +40,7 @@ QWidget *PaneFocus::controlAfter(QWidget *start) const
 void PaneFocus::focusChanged(QWidget *old, QWidget *now)
 {
     if (now != nullptr && now != m_standIn) {
-        // Elsewhere by the user's own doing.
+        // The user has moved the focus elsewhere.
         if (m_left)
             m_left->removeEventFilter(this);
         m_left = nullptr;

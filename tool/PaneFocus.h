@@ -8,9 +8,9 @@
 namespace lumora
 {
 
-/// Keeps the keyboard in a pane. Where the focused control is hidden or disabled, the next one of the pane takes the
-/// focus, not whatever comes next in the window; without one, the pane itself. The control gets the focus back when it
-/// can take it again, unless it has been moved meanwhile.
+/// Keeps the focus in a pane. When the focused control is hidden or disabled, the pane's next control gets the focus,
+/// or the pane itself if it has none. The first control gets the focus back as soon as it can take it, unless the user
+/// has moved the focus meanwhile.
 class PaneFocus final : public QObject
 {
     Q_OBJECT
@@ -28,12 +28,12 @@ protected:
 private:
     void focusChanged(QWidget *old, QWidget *now);
     void giveBack();
-    /// The next control behind this one, in the order of Tab, that can take the focus; the pane where there is none.
+    /// The next control in the tab order that can take the focus; the pane if there is none.
     QWidget *controlAfter(QWidget *start) const;
 
     QWidget *m_pane;
-    QPointer<QWidget> m_left;    ///< lost the focus by being hidden or disabled
-    QPointer<QWidget> m_standIn; ///< has it instead
+    QPointer<QWidget> m_left;    ///< the control that lost the focus by being hidden or disabled
+    QPointer<QWidget> m_standIn; ///< the widget that has it instead
 };
 
 } // namespace lumora

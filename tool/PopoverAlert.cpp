@@ -17,7 +17,7 @@ namespace lumora
 namespace
 {
 
-/// One alert is on screen in the whole process, and one queue holds those that made way. Main thread only.
+/// One alert of the whole process is on screen, and one queue holds the alerts that it replaced. Main thread only.
 struct Alerts
 {
     std::vector<std::shared_ptr<PopoverAlert>> queue;
@@ -85,7 +85,7 @@ void PopoverAlert::showOnView()
 
 bool PopoverAlert::eventFilter(QObject *watched, QEvent *event)
 {
-    // An alert of a tool that is not in view waits for it.
+    // An alert of a tool that is not in view waits until the tool is shown.
     if (watched == m_targetView && m_parentPopover != nullptr && !event->spontaneous()) {
         if (event->type() == QEvent::Hide)
             m_parentPopover->closePopover();
@@ -97,7 +97,7 @@ bool PopoverAlert::eventFilter(QObject *watched, QEvent *event)
 
 void PopoverAlert::stopSynchronousPopoverAlert(const IconButton *button)
 {
-    // The completion may drop the last other reference to this alert, run it again, or run another one.
+    // The completion may release the last other reference to this alert, run it again, or run another one.
     const std::shared_ptr<PopoverAlert> self = shared_from_this();
     const CompletionBlock completion = m_completionBlock;
     const SFBPopover *const answered = m_parentPopover.get();
@@ -107,7 +107,7 @@ void PopoverAlert::stopSynchronousPopoverAlert(const IconButton *button)
     if (m_parentPopover.get() == answered)
         retirePopover();
     Alerts &all = alerts();
-    // One that made way to what its own completion ran has its answer.
+    // An alert that was replaced by one that its own completion ran is already answered.
     std::erase(all.queue, self);
     if (all.currentPopover != answered)
         return;
@@ -121,7 +121,7 @@ void PopoverAlert::retirePopover()
     SFBPopover *popover = m_parentPopover.release();
     if (popover == nullptr)
         return;
-    // One of its buttons may be delivering the click that closes it.
+    // Deleted later, since one of its buttons may be delivering the click that closes it.
     if (!popover->isVisible()) {
         popover->deleteLater();
         return;
@@ -146,7 +146,7 @@ void PopoverAlert::checkForPreviouslyShownAlerts()
     while (!all.queue.empty()) {
         const std::shared_ptr<PopoverAlert> last = all.queue.back();
         all.queue.pop_back();
-        // Nobody can answer an alert whose view has gone with its window.
+        // An alert cannot be answered once its view is deleted with its window.
         if (last->m_targetView.isNull())
             continue;
         last->runAsPopoverForView(last->m_targetView, last->m_completionBlock);

@@ -18,18 +18,18 @@ class IconButton;
 class PopoverAlertView;
 class SFBPopover;
 
-/// The edge of a view that a popover is meant to open at.
+/// The edge of a view at which a popover opens.
 enum class RectEdge : int { MinX = 0, MinY = 1, MaxX = 2, MaxY = 3 };
 
-/// A standard alert (title, message, icon, some buttons) shown as a popover on a view. One is on screen at a time: an
-/// alert that comes while another shows takes its place, and the one that made way comes back afterwards, the latest
-/// first. Made by `create`; keeps itself alive while it shows or waits.
+/// A standard alert (title, message, icon, some buttons) shown as a popover on a view. One is on screen at a time: a
+/// new alert replaces the one that is shown. Replaced alerts come back afterwards, the latest first. Made by `create`;
+/// keeps itself alive while it shows or waits.
 class PopoverAlert final : public QObject, public std::enable_shared_from_this<PopoverAlert>
 {
     Q_OBJECT
 
 public:
-    /// What a pressed button answers: 1000 for the first, 1001 for the second and so on.
+    /// The response of a pressed button: 1000 for the first, 1001 for the second and so on.
     using CompletionBlock = std::function<void(int response)>;
 
     static constexpr int firstButtonReturn = 1000;
@@ -40,14 +40,14 @@ public:
     ~PopoverAlert() override;
 
     QString messageText;     ///< the title
-    QString informativeText; ///< what it is about
+    QString informativeText; ///< the message
     QStringList buttonTitles;
     NamedImage icon;
 
     void runAsPopoverForView(QWidget *view, CompletionBlock withCompletionBlock);
     /// The edge is ignored: an alert always opens at the view's upper edge.
     void runAsPopoverForView(QWidget *view, RectEdge prefferedEdge, CompletionBlock withCompletionBlock);
-    /// Answers for the pressed button, closes the popover and brings back the alert that made way last.
+    /// Responds for the pressed button, closes the popover and shows the alert that was replaced last.
     void stopSynchronousPopoverAlert(const IconButton *button);
 
     QWidget *targetView() const { return m_targetView; }
@@ -55,9 +55,9 @@ public:
     /// In the order of the titles; empty before the alert has run.
     QList<IconButton *> buttons() const;
 
-    /// The response for a button's position; a position that is a response already is passed through.
+    /// The response for a button's position; a position that is already a response is returned unchanged.
     static int responseForButton(int index);
-    /// Runs the alert that made way last, if any waits.
+    /// Runs the alert that was replaced last, if one waits.
     static void checkForPreviouslyShownAlerts();
     /// The alert on screen, nullptr for none, and the number of those that wait.
     static PopoverAlert *currentAlert();
@@ -69,9 +69,9 @@ protected:
 private:
     PopoverAlert() = default;
 
-    /// Opens the popover where its view is in sight.
+    /// Opens the popover if its view is visible.
     void showOnView();
-    /// Closes the popover and leaves it to fade out and delete itself.
+    /// Closes the popover, which fades out and deletes itself.
     void retirePopover();
 
     QPointer<QWidget> m_targetView;

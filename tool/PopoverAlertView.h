@@ -10,7 +10,7 @@ namespace lumora
 class IconButton;
 class PopoverAlert;
 
-/// What an alert's popover shows; its size follows the texts. The first button is the one return presses.
+/// The content of an alert's popover; its size depends on the texts. Return presses the first button.
 class PopoverAlertView final : public QWidget
 {
     Q_OBJECT

@@ -6,8 +6,8 @@ namespace lumora
 
 class SFBPopover;
 
-/// What the shell's and the tools' popovers have in common: white, square, a thick border, closed when the user turns
-/// to something else. The border's color is set when it is shown.
+/// The style of the shell's and the tools' popovers: white, square, with a thick border, closed when the user turns to
+/// something else. The border's color is set when it is shown.
 void stylePopover(SFBPopover &popover);
 
 } // namespace lumora

@@ -44,7 +44,7 @@ QString StyledText::toHtml() const
         html += run < 0 ? part : htmlOf(part, m_runs[run].font);
         start = end;
     }
-    // A blank at either end of a run would be folded into its neighbor.
+    // Rich text would merge a space at either end of a run with its neighbor.
     return u"<span style=\"white-space:pre-wrap\">"_s + html + u"</span>"_s;
 }
 

@@ -8,7 +8,7 @@
 namespace lumora
 {
 
-/// A text parts of which have a font of their own; the rest takes that of the label that shows it.
+/// A text with parts in fonts of their own; the rest has the font of the label that shows it.
 class StyledText
 {
 public:
@@ -27,10 +27,9 @@ public:
     /// In the order in which they were set.
     const QList<Run> &runs() const { return m_runs; }
 
-    /// Gives the first occurrence of the part the font; a part that is empty or does not occur changes nothing.
+    /// Sets the font of the part's first occurrence; an empty or missing part changes nothing.
     void setFontOfFirst(const QString &part, const QFont &font);
-    /// For a label that shows rich text: every character stands for itself. Of two runs over one character the later
-    /// one counts.
+    /// Rich text for a label, with every character escaped. Where two runs overlap, the later one counts.
     QString toHtml() const;
 
 private:

@@ -11,7 +11,8 @@
 namespace lumora
 {
 
-/// The caption of a button that reports on the work it started: working, done, and after a while at rest again.
+/// The caption of a button that reports on the work it started: working, done, and after a while the caption at rest
+/// again.
 class TimedCaption final : public QObject
 {
     Q_OBJECT
@@ -19,16 +20,16 @@ class TimedCaption final : public QObject
 public:
     using SetCaption = std::function<void(const QString &caption)>;
 
-    /// How long a report stands.
+    /// How long a report is shown.
     static constexpr std::chrono::milliseconds duration{2000};
 
-    /// `setCaption` puts a text on the button, called at once with the caption at rest. The parent (the controller, or
-    /// the button itself) has to keep the button alive.
+    /// `setCaption` puts a text on the button; it is called at once with the caption at rest. The parent (the
+    /// controller, or the button itself) must keep the button alive.
     TimedCaption(SetCaption setCaption, QString restCaption, QObject *parent);
 
-    /// Shows the caption until another is shown; a pending return to rest is called off.
+    /// Shows the caption until another is shown; cancels a pending return to rest.
     void show(const QString &caption);
-    /// Shows the caption and returns to rest 2.0 seconds later, counted again when shown again before that.
+    /// Shows the caption and returns to rest 2.0 seconds after the last call.
     void showForAWhile(const QString &caption);
 
 private:

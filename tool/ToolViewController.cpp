@@ -40,7 +40,7 @@ void ToolViewController::createPopup()
     m_popupView = std::make_unique<SFBPopover>(m_popupContentView);
     stylePopover(*m_popupView);
     m_popupContentView->setDelegate(this);
-    // The popover is hidden for good only when everybody has heard that it closed.
+    // The popover is certain to stay hidden only when all receivers of its signal have run.
     connect(m_popupView.get(), &SFBPopover::closed, this, &ToolViewController::displayWaiting, Qt::QueuedConnection);
 }
 
@@ -72,7 +72,7 @@ void ToolViewController::jobEnded()
         emit attentionWanted();
 }
 
-/// A dialog is open, whose keyboard a message would take.
+/// A dialog is open, and a message would take the keyboard from it.
 bool ToolViewController::isBlocked() const
 {
     const QWidget *dialog = QApplication::activeModalWidget();
@@ -109,7 +109,7 @@ bool ToolViewController::eventFilter(QObject *watched, QEvent *event)
             m_popupView->closePopover();
             emit leftView();
         } else if (event->type() == QEvent::Show || event->type() == QEvent::WindowUnblocked) {
-            // The view gets its place in the window, and a dialog goes, only after this.
+            // Queued, since the view gets its place in the window, and a dialog closes, only after this event.
             QMetaObject::invokeMethod(this, &ToolViewController::displayWaiting, Qt::QueuedConnection);
         }
     }

@@ -17,7 +17,7 @@ namespace lumora
 class PaneFocus;
 class SFBPopover;
 
-/// What all tools' controllers share: a view made from the interface file named like the class, the services of the
+/// The base of all tools' controllers: a view made from the interface file named like the class, the services of the
 /// desktop, and one message popup that points at the control concerned.
 ///
 /// A tool's controller, in its constructor: `m_ui.setupUi(view())`, sets its fixed data and appearance, connects its
@@ -29,50 +29,50 @@ class ToolViewController : public QObject, public AlertContentViewDelegate
 public:
     ~ToolViewController() override;
 
-    /// The tool's root view. The shell shows it in its window and hides it again; the controller owns it.
+    /// The tool's root view. The shell shows and hides it in its window; the controller owns it.
     QWidget *view() const { return m_view; }
-    /// The window that the tool belongs to, also while another tool is in view; messages and sheets show on it.
+    /// The tool's window, also while another tool is in view; messages and sheets are shown on it.
     QWidget *window() const;
     void setWindow(QWidget *window) { m_window = window; }
     SFBPopover *popupView() const { return m_popupView.get(); }
     AlertContentView *popupContentView() const { return m_popupContentView; }
 
-    /// Points a message at the control: green for what went well, red for what did not. While a message is open,
-    /// showing another hides it; one that says something else is shown when the first has gone. While another tool is
-    /// in view the message waits.
+    /// Shows a message that points at the control: green for success, red for failure. While a message is open, showing
+    /// another hides the first; a message with another text is then shown when the first has closed. While another tool
+    /// is in view, the message waits.
     void showPopupWithTitle(const QString &title, const QString &message, QWidget *fromView, bool isError);
     void popupCloseButtonPressed() override;
 
     /// Gives the keyboard to the tool's first control.
     void takeFocus();
 
-    /// Whether the tool opens files, and so has a use for the two operations below.
+    /// Whether the tool opens files, and so uses the two operations below.
     virtual bool takesFiles() const { return false; }
-    /// Lets the user choose what the tool works on, as the tool's own browse button does.
+    /// Lets the user choose the tool's input, as the tool's own browse button does.
     virtual void browseButtonPressed() {}
-    /// Whether what is on the clipboard can be of use to the tool.
+    /// Whether the tool can use the clipboard's contents.
     virtual bool takesClipboard() const { return takesFiles(); }
-    /// Takes what is on the clipboard (files, a picture, a color), as if it were dropped on the tool.
+    /// Takes the clipboard's contents (files, a picture, a color) as if they were dropped on the tool.
     virtual void paste() {}
 
 signals:
     /// Another tool is in view now.
     void leftView();
-    /// Something has ended, or is to be read, while another tool is in view.
+    /// A job has ended, or a message waits, while another tool is in view.
     void attentionWanted();
 
 protected:
     explicit ToolViewController(const Services &services, QObject *parent = nullptr);
 
     const Services &services() const { return m_services; }
-    /// To be called when a job has ended.
+    /// Call this when a job has ended.
     void jobEnded();
-    /// Makes the message popup; once.
+    /// Makes the message popup. Call it once.
     void createPopup();
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    /// What a message says and where it points.
+    /// The text of a message and the control that it points at.
     struct Message
     {
         QString title;

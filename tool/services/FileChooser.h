@@ -10,11 +10,11 @@
 namespace lumora
 {
 
-/// What a chooser of existing files shows.
+/// The settings of a chooser of existing files.
 struct FileRequest
 {
-    QString message;           ///< what the choice is for; the dialog's title
-    QString startFolder;       ///< where it opens, empty for where the last choice was made, the user's documents first
+    QString message;           ///< the purpose of the choice; the dialog's title
+    QString startFolder;       ///< where it opens; empty for the last folder, at first the user's documents
     QStringList nameFilters;   ///< "PNG pictures (*.png)", the first one active; empty for every file
     bool severalFiles = false; ///< whether more than one may be chosen
 };

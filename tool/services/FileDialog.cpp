@@ -22,7 +22,7 @@ QFileDialog *makeFileDialog(QWidget *window, const QString &title, const QString
     auto *dialog = new QFileDialog(window, title, startFolder);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->resize(dialogSize);
-    // None where the desktop shows its own dialog.
+    // Null where the desktop shows its own dialog.
     if (const auto *list = dialog->findChild<QTreeView *>(u"treeView"_s)) {
         for (int column = 1; column < list->header()->count(); ++column)
             list->header()->setSectionResizeMode(column, QHeaderView::ResizeToContents);

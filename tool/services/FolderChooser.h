@@ -9,20 +9,20 @@
 namespace lumora
 {
 
-/// What a chooser of a destination folder shows.
+/// The settings of a chooser of a destination folder.
 struct FolderRequest
 {
-    QString message;     ///< what the folder is for; the dialog's title
-    QString startFolder; ///< where it opens, empty for the user's documents
+    QString message;     ///< the purpose of the folder; the dialog's title
+    QString startFolder; ///< where it opens; empty for the user's documents
 };
 
-/// Lets the user choose one folder to write into; a new one may be made on the way.
+/// Lets the user choose one folder to write into, or make a new one.
 class FolderChooser
 {
 public:
-    /// Receives the folder's absolute path, without a slash at its end.
+    /// Receives the folder's absolute path, without a slash at the end.
     using FolderChosen = std::function<void(const QString &path)>;
-    /// Told that the user wants none after all.
+    /// Called when the user cancels.
     using FolderDeclined = std::function<void()>;
 
     virtual ~FolderChooser() = default;

@@ -8,8 +8,8 @@
 namespace lumora
 {
 
-/// The absolute paths of those addresses that name files of this machine, in their order. Some file managers put the
-/// machine's own name into the address; it is understood.
+/// The absolute paths of the addresses that name local files, in their order. Also accepts the machine's own name in
+/// the address, which some file managers add.
 QStringList localFiles(const QList<QUrl> &urls);
 
 } // namespace lumora

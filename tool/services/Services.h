@@ -11,7 +11,7 @@
 namespace lumora
 {
 
-/// What a controller reaches of the desktop around it; handed to each when it is made. The services outlive every
+/// The services of the desktop that a controller uses, passed to each controller when it is made. They outlive every
 /// controller. A value: copy it freely.
 struct Services
 {
@@ -19,7 +19,7 @@ struct Services
     FolderChooser &folderChooser;
     UrlOpener &urlOpener;
     Clipboard &clipboard;
-    /// A private folder that is removed when the process ends; empty where none could be made.
+    /// A private folder that is removed when the process ends; empty if none could be made.
     QString workFolder = {};
 };
 

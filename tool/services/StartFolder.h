@@ -6,8 +6,8 @@
 namespace lumora
 {
 
-/// Where a chooser opens: the wanted folder, the user's documents when none is wanted; where that does not exist, the
-/// nearest one above it that does. Never nothing, which a dialog takes for the process's current folder.
+/// Where a chooser opens: the wanted folder, or the user's documents when none is wanted; if that does not exist, the
+/// nearest existing folder above it. Never empty, which a dialog would take as the process's current folder.
 QString existingStartFolder(const QString &wanted);
 
 } // namespace lumora

@@ -13,7 +13,7 @@ namespace lumora
 namespace
 {
 
-/// The desktop's lists of which program opens what, most important first.
+/// The desktop's lists of default applications, most important first.
 QStringList mimeAppsFiles()
 {
     QStringList names;

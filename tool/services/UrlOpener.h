@@ -13,10 +13,10 @@ class UrlOpener
 public:
     virtual ~UrlOpener() = default;
 
-    /// Hands the address to the application that the desktop prefers for its scheme. An address that is none (a text
-    /// that is missing from the table yields one) is let go without a word.
+    /// Opens the address with the application that the desktop prefers for its scheme. Ignores an invalid address,
+    /// which results from a missing text.
     virtual void open(const QUrl &url) = 0;
-    /// The name of that application as the desktop knows it ("thunderbird.desktop"), empty where it names none.
+    /// The desktop's name of that application ("thunderbird.desktop"); empty if it has none.
     virtual QString applicationFor(const QUrl &url) const = 0;
 };
 
@@ -28,8 +28,8 @@ public:
     QString applicationFor(const QUrl &url) const override;
 };
 
-/// The first desktop entry that one of the lists (contents of `mimeapps.list` files, most important first) gives as
-/// the default for the type; empty where none does.
+/// The first desktop entry in the lists (contents of `mimeapps.list` files, most important first) that is the default
+/// for the type; empty if there is none.
 QString defaultApplication(const QStringList &mimeAppsFiles, const QString &mimeType);
 
 } // namespace lumora
