@@ -20,7 +20,7 @@ constexpr std::array<DeviceRecord, 7> iPhoneTable{{
     {"5S",  "device_iphone",     7.0F, 1, 1,  1,   1,  1,  1,  1, 1, 1, 1, 1,  1,  1},
 }};
 
-// The 5G shows the newer iPhone's picture, which it looks like; there is no picture of its own.
+// The 5G has no picture of its own; it shows the similar one of the newer iPhone.
 constexpr std::array<DeviceRecord, 5> iPodTable{{
     //                                 iOS   MT RET SIRI GPS CMP GYR BC FC FL VR BLE GL2 GL3
     {"1G", "device_ipod_old", 3.1F, 0, 0,  0,   0,  0,  0,  0, 0, 0, 0, 0,  0,  0},
@@ -30,7 +30,7 @@ constexpr std::array<DeviceRecord, 5> iPodTable{{
     {"5G", "device_iphone",   7.0F, 1, 1,  1,   0,  0,  1,  1, 1, 0, 1, 1,  1,  0},
 }};
 
-// "2th Gen" is the label as it is shown.
+// "2th Gen" is the label as the window shows it.
 constexpr std::array<DeviceRecord, 5> iPadTable{{
     //                                       iOS   MT RET SIRI GPS CMP GYR BC FC FL VR BLE GL2 GL3
     {"1st Gen", "device_ipad_mini", 7.0F, 1, 0,  1,   1,  1,  1,  1, 1, 0, 1, 1,  1,  0},

@@ -18,7 +18,7 @@ struct DeviceLists
     bool operator==(const DeviceLists &) const = default;
 };
 
-/// New lists of new records, every device active.
+/// These return new lists of new records, with every device active.
 std::vector<DeviceRecord> setupiPhones();
 std::vector<DeviceRecord> setupiPods();
 /// The first record is the iPad mini; only its picture differs from the first iPad's.

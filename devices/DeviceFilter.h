@@ -10,20 +10,21 @@
 namespace lumora
 {
 
-/// What a device has to offer: at most one oldest iOS version and any number of features. Empty, it asks for nothing.
+/// The requirements on a device: at most one oldest iOS version and any number of features. An empty filter requires
+/// nothing.
 class FilterDictionary
 {
 public:
     bool isEmpty() const { return !m_maxIos && m_features.empty(); }
     void clear();
 
-    /// The version that a device has to run at least; setting another replaces it.
+    /// The oldest version that a device must run; setting another replaces it.
     std::optional<float> maxIos() const { return m_maxIos; }
     void setMaxIos(float version) { m_maxIos = version; }
 
-    /// The keys asked for. A key of no feature is one that no device has.
+    /// The keys of the required features. No device has an unknown key.
     const std::set<std::string_view> &features() const { return m_features; }
-    /// Asks for the feature, or no longer does. The key has to outlive the dictionary, as those of `deviceFeatures` do.
+    /// Requires the feature, or no longer does. The key must outlive the filter, as those of `deviceFeatures` do.
     void setFeature(std::string_view key, bool wanted);
 
     bool operator==(const FilterDictionary &) const = default;
@@ -33,7 +34,7 @@ private:
     std::set<std::string_view> m_features;
 };
 
-/// True when the device runs at least the wanted iOS version and has every wanted feature.
+/// True when the device runs the oldest iOS version and has every required feature.
 bool matches(const DeviceRecord &device, const FilterDictionary &filter);
 
 /// Stores in every record's `active` whether it matches.

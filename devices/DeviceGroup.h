@@ -21,14 +21,14 @@ struct DeviceGroup
     std::vector<DevicePicture *> images;
     std::vector<DeviceLabel *> labels;
 
-    /// The place of the device at an index in its container.
+    /// The place, in the container, of the device at an index.
     using Placement = DevicePlacement (*)(const DeviceRecord &device, int index);
 
-    /// Puts a picture and a label into the container for each device. The group's name goes before each model's where a
-    /// screen reader says it.
+    /// Puts a picture and a label into the container for each device. The accessible name is the group's name followed
+    /// by the model's.
     static DeviceGroup create(const std::vector<DeviceRecord> &devices, const QString &name, Placement placement,
                               QWidget *container);
-    /// Says in the picture's description whether its device matches, for those who do not see it fade.
+    /// Sets the picture's accessible description to whether its device matches, for users who do not see it fade.
     static void describe(DevicePicture *picture, bool matches);
 };
 

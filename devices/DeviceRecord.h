@@ -7,7 +7,7 @@
 namespace lumora
 {
 
-/// One device model and what it can do. The members are in the order of the keys of `deviceFeatures` and of the
+/// One device model and its capabilities. The members are in the order of the keys of `deviceFeatures` and of the
 /// catalogue's columns.
 struct DeviceRecord
 {
@@ -46,7 +46,7 @@ constexpr bool isMini(const DeviceRecord &device)
 struct DeviceFeature
 {
     std::string_view key;
-    /// Shown beside the feature's check box, in every language alike.
+    /// The text of the feature's check box, the same in every language.
     std::string_view label;
     bool DeviceRecord::*value;
 };
@@ -92,7 +92,7 @@ constexpr const DeviceFeature *deviceFeature(std::string_view key)
     return nullptr;
 }
 
-/// Whether the device has the feature; a key that no record carries reads as no.
+/// Whether the device has the feature; false for an unknown key.
 constexpr bool hasFeature(const DeviceRecord &device, std::string_view key)
 {
     const DeviceFeature *feature = deviceFeature(key);

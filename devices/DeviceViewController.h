@@ -22,14 +22,14 @@ class CheckboxButton;
 class IconButton;
 class RadioButton;
 
-/// The device matrix: every model as a picture with its label, those that do not meet the chosen iOS version and
-/// features faded.
+/// The device matrix: every model as a picture with its label. Models without the chosen iOS version and features are
+/// faded.
 class DeviceViewController final : public ToolViewController
 {
     Q_OBJECT
 
 public:
-    /// How opaque a device is that does not match.
+    /// The opacity of a device that does not match.
     static constexpr float fadedAlpha = 0.25F;
 
     explicit DeviceViewController(const Services &services, QObject *parent = nullptr);
@@ -71,7 +71,7 @@ public:
     void checkbox_opengl3_checked(CheckboxButton *sender) { toggleFeature("opengl_3", sender); }
 
     void deselectRadioButtons();
-    /// Asks for the feature while its box is active, then filters. The key is one of `deviceFeatures`.
+    /// Requires the feature if its box is active, then filters. The key is one of `deviceFeatures`.
     void checkboxCheckForKey(std::string_view key, const CheckboxButton *button);
     /// Filters the devices again and fades those that do not match.
     void filter();

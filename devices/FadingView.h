@@ -20,8 +20,8 @@ public:
     /// 0 to 1.
     float alphaValue() const { return m_alphaValue; }
     void setAlphaValue(float alpha);
-    /// Fades to the opacity within a quarter of a second, from the current one, also in the middle of a fade. Out
-    /// of sight it takes it at once.
+    /// Fades from the current opacity to this one within a quarter of a second, also during another fade. A hidden view
+    /// gets the opacity at once.
     void fadeTo(float alpha);
 
 protected:

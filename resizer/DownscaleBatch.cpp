@@ -26,18 +26,18 @@ namespace lumora
 namespace
 {
 
-/// What all pictures in work may take together.
+/// The memory that all pictures in work may take together.
 constexpr qint64 memoryForPictures = 768LL * 1024 * 1024;
 
-/// How far the workers may be ahead of the writing, in files and in bytes of finished ones: enough that nobody waits
-/// while one worker has a large picture.
+/// How far the workers may be ahead of the writing, in files and in bytes of finished ones: enough that no worker waits
+/// while another has a large picture.
 constexpr qsizetype filesAhead = 256;
 constexpr qint64 bytesAhead = 64LL * 1024 * 1024;
 
 Result<QByteArray> readSource(const QString &path)
 {
     const QFileInfo file(path);
-    // A pipe that nobody writes to would hold up the whole batch.
+    // A pipe without a writer would block the whole batch.
     if (file.exists() && !file.isFile() && !file.isDir())
         return Failure{FailureCode::NotReadable, path, QStringLiteral("not a regular file")};
     return readWholeFile(path, largestPictureFile);
@@ -64,7 +64,7 @@ Result<HalvedPicture> readAndHalve(const QString &path, MemoryBudget &budget)
 
 enum class MissingFolders { Refuse, Make };
 
-/// The batch in work: workers halve pictures, the thread that called writes them in order.
+/// The running batch: workers halve pictures, the calling thread writes them in order.
 class Batch
 {
 public:
@@ -90,7 +90,7 @@ public:
     }
 
 private:
-    /// For each file the number of files that have to be written before it may be read.
+    /// For each file, the number of files that must be written before it may be read.
     void findDependencies()
     {
         QHash<QString, qsizetype> writtenBy;
@@ -123,7 +123,7 @@ private:
 
     bool mayRead(qsizetype index) const
     {
-        // The one that is waited for always goes on, or nothing would.
+        // The file that the writer waits for is never held back, or the batch would stop.
         const bool near = index < m_written + filesAhead && m_bytesWaiting < bytesAhead;
         return (near || index == m_written) && m_written >= m_readableAfter[static_cast<std::size_t>(index)];
     }
@@ -175,7 +175,7 @@ private:
 
     std::mutex m_mutex;                 ///< guards everything below
     std::condition_variable m_finished; ///< a picture is halved
-    std::condition_variable m_mayRead;  ///< a file is written, or the batch is to stop
+    std::condition_variable m_mayRead;  ///< a file is written, or the batch must stop
     std::map<qsizetype, Result<HalvedPicture>> m_halved;
     qint64 m_bytesWaiting = 0; ///< of `m_halved`
     qsizetype m_next = 0;

@@ -22,7 +22,7 @@ struct DownscaledFile
     Outcome outcome = Done{};
 };
 
-/// One picture to be halved, and where its half goes.
+/// One picture to be halved, and the path of its half.
 struct DownscaleJob
 {
     QString source;
@@ -31,26 +31,26 @@ struct DownscaleJob
     bool operator==(const DownscaleJob &) const = default;
 };
 
-/// Where a source's half goes: its name without markers, in the destination folder.
+/// The path of a source's half: its name without markers, in the destination folder.
 QString downscaledPath(const QString &source, const QString &destination);
 
-/// What would become of a file, judged by its header: a failure as the batch would meet it, or the path and the size
-/// that would be written. Writes nothing; damage behind the header shows only in the batch.
+/// The result that the batch would have for a file, as far as its header shows: the failure, or the path and size that
+/// would be written. Writes nothing; damage behind the header shows only in the batch.
 DownscaledFile foreseenHalf(const DownscaleJob &job);
 
-/// Called once for each file of the batch in their order, `index` counted from 0, whether it succeeded or failed.
-/// Returns whether the batch goes on.
+/// Called once for each file of the batch in order, whether it succeeded or failed; `index` counts from 0. Returns
+/// whether the batch continues.
 using FileDownscaled = std::function<bool(qsizetype index, const DownscaledFile &file)>;
 
-/// Halves every file of `paths` into the destination folder, replacing what is there under the same names. A file
-/// that cannot be read or written is reported as such and the batch goes on.
+/// Halves every file of `paths` into the destination folder, replacing what is there under the same names. A file that
+/// cannot be read or written is reported, and the batch continues.
 ///
-/// Several files are in work at once, with memory bounded whatever their number and size, but the result is that of one
-/// after another: files are written and reported in order, on the calling thread, and a source that an earlier file of
-/// the batch replaces is read after that.
+/// Several files are in work at once, with bounded memory, but the result is the same as for one after another: files
+/// are written and reported in order, on the calling thread, and a source that an earlier file of the batch replaces is
+/// read after that.
 void createImagesFromDataPaths(const QStringList &paths, const QString &destination, const FileDownscaled &downscaled);
 
-/// The same with a target of its own for each file. Folders that are missing on the way to it are made.
+/// The same with a target for each file. Missing parent folders are made.
 void downscale(const QList<DownscaleJob> &jobs, const FileDownscaled &downscaled);
 
 } // namespace lumora

@@ -19,7 +19,7 @@ namespace lumora
 namespace
 {
 
-/// A picture, and the folder that was searched for it; empty where it was named itself.
+/// A picture, and the searched folder in which it was found; empty if the user named the picture itself.
 struct FoundPicture
 {
     QString path;
@@ -39,7 +39,7 @@ public:
             m_sources.insert(fileIdentity(picture.path));
             m_plainTargets.insert(fileIdentity(targetOf(picture)));
         }
-        // What was named and refused is the user's picture too.
+        // A named file that was refused is the user's picture, too.
         for (const QString &argument : m_request.filesAndFolders)
             m_sources.insert(fileIdentity(argument));
         for (const FoundPicture &picture : std::as_const(m_found))
@@ -71,7 +71,7 @@ private:
         }
     }
 
-    /// What an earlier run wrote into a folder inside the one that is searched is no source of this one.
+    /// Files that an earlier run wrote into a folder inside the searched one are not sources.
     bool isOwnResult(const QString &file, const QString &root) const
     {
         const QString destination = m_request.destination + u'/';
@@ -135,8 +135,8 @@ private:
     DownscalePlan m_plan;
     QList<FoundPicture> m_found;
     QSet<QString> m_seen;              ///< identities of `m_found`
-    QSet<QString> m_sources;           ///< identities of all that is read or was named
-    QSet<QString> m_plainTargets;      ///< identities of the halves under the names that are their own
+    QSet<QString> m_sources;           ///< identities of all files that are read or were named
+    QSet<QString> m_plainTargets;      ///< identities of the halves under their own names
     QHash<QString, QString> m_takenBy; ///< the identity of a target, and its source
 };
 

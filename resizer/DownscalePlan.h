@@ -11,14 +11,13 @@
 namespace lumora
 {
 
-/// Whether a run may replace files that are there, its own sources among them.
+/// Whether a run may replace existing files, including its own sources.
 enum class FileReplacement { Refuse, Allow };
 
-/// Whether all halves go into one folder, or those of a searched folder into sub-folders like those that they were
-/// found in.
+/// Whether all halves go into one folder, or those of a searched folder into the same sub-folders as their sources.
 enum class TreeLayout { Flat, Kept };
 
-/// What the user asks for.
+/// The user's request.
 struct DownscaleRequest
 {
     QStringList filesAndFolders;
@@ -27,17 +26,18 @@ struct DownscaleRequest
     TreeLayout layout = TreeLayout::Flat;
 };
 
-/// What a run over files and folders named by the user is going to do.
+/// The plan of a run over files and folders that the user named.
 struct DownscalePlan
 {
-    QList<DownscaleJob> jobs;      ///< absolute paths, each file once, in the order given
-    std::vector<Failure> failures; ///< what is left out, and why; and `NameTaken` for what gets another name
+    QList<DownscaleJob> jobs; ///< absolute paths, each file once, in the order given
+    std::vector<Failure>
+        failures; ///< files that are left out, with the reason; and `NameTaken` for files that get another name
 };
 
-/// Gathers the pictures: a folder means every marked picture in it and below, a file means itself. Left out are
-/// files without a marker or with another extension, folders without any, and, unless allowed, files whose half would
-/// replace a file that is there. Of two files whose halves have the same name, the later one's gets a number
-/// ("a_1.png") and is named among the failures, so that neither is lost and nobody takes one for the other.
+/// Collects the pictures: of a folder every marked picture in it and its sub-folders, of a file the file itself. Leaves
+/// out files without a marker or with another extension, folders without pictures, and, unless allowed, files whose
+/// half would replace an existing file. If the halves of two files have the same name, the later half gets a number
+/// ("a_1.png") and is listed among the failures, so that neither is lost or mistaken for the other.
 DownscalePlan planDownscaling(const DownscaleRequest &request);
 
 } // namespace lumora

@@ -12,7 +12,7 @@ QString fileIdentity(const QString &path)
     const QString canonical = file.canonicalFilePath();
     if (!canonical.isEmpty())
         return canonical;
-    // Folders that do not exist yet have no links in them.
+    // Folders that do not exist yet contain no links.
     const QString folder = file.path();
     return (file.fileName().isEmpty() || folder == path ? folder : fileIdentity(folder)) + u'/' + file.fileName();
 }

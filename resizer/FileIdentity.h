@@ -6,8 +6,8 @@
 namespace lumora
 {
 
-/// One path for each file, however it is spelled and through whatever links it is reached; for a file that does not
-/// exist yet, the path that it would have.
+/// The same path for the same file, whatever the spelling and the links in it; for a file that does not exist yet, the
+/// path that it would have.
 QString fileIdentity(const QString &path);
 
 } // namespace lumora

@@ -9,14 +9,14 @@
 namespace lumora
 {
 
-/// Keeps the pictures that are in work at one time below an amount of memory, whatever the number of cores. A picture
-/// that asks for more than all of it is let in alone.
+/// Limits the memory of the pictures that are in work at the same time, whatever the number of cores. A picture that
+/// needs more than the limit is worked on alone.
 class MemoryBudget
 {
 public:
     explicit MemoryBudget(qint64 bytes) : m_free(bytes), m_total(bytes) {}
 
-    /// A share that is given back when it goes out of scope.
+    /// A share of the memory; its destructor returns it.
     class Share
     {
     public:

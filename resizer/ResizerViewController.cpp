@@ -19,7 +19,7 @@ namespace lumora
 namespace
 {
 
-/// The text with its first two "%i" replaced. Not a format for printf: a text table must not be able to read memory.
+/// The text with its first two "%i" replaced. Does not use printf, so that a wrong text table cannot read memory.
 QString progressText(QString text, qsizetype done, qsizetype total)
 {
     const QString place = QStringLiteral("%i");
@@ -91,7 +91,7 @@ void ResizerViewController::dropViewReceivedFiles(const QStringList &files)
 
 void ResizerViewController::browseButtonPressed()
 {
-    // The shortcut works while the button is hidden.
+    // The shortcut also works while the button is hidden.
     if (!isWorking())
         openBrowsePanel();
 }

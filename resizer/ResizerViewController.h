@@ -18,14 +18,14 @@ class ResizerViewController;
 namespace lumora
 {
 
-/// The retina down-scaler: takes double-resolution PNG files and writes their halves into a folder, telling how far it
-/// is and when it is done.
+/// The retina down-scaler: takes double-resolution PNG files, writes their halves into a folder, and shows the progress
+/// and the end.
 class ResizerViewController final : public ToolViewController, public DropViewDelegate
 {
     Q_OBJECT
 
 public:
-    /// How long the notice is shown that a batch is done.
+    /// How long the notice at the end of a batch is shown.
     static constexpr std::chrono::milliseconds noticeDuration{2000};
 
     explicit ResizerViewController(const Services &services, QObject *parent = nullptr);
@@ -35,13 +35,13 @@ public:
 
     /// The accepted files of the last drop or choice, in its order.
     const QStringList &sourceImages() const { return m_sourceImages; }
-    /// The folder to write into: the first accepted file's, then the chosen one.
+    /// The folder to write into: that of the first accepted file, until another is chosen.
     const QString &savePath() const { return m_savePath; }
     /// The first accepted file's folder, empty at first.
     const QString &browsePath() const { return m_browsePath; }
 
     void dropViewReceivedFiles(const QStringList &files) override;
-    /// Colours are of no use here.
+    /// Does nothing: colors are of no use here.
     void dropViewReceivedColor(const QColor &) override {}
 
     bool takesFiles() const override { return true; }
@@ -67,7 +67,7 @@ private:
     QString m_savePath;
     QString m_browsePath;
     QTimer m_ready;
-    BackgroundJobs m_jobs; ///< last, so that it waits for running jobs before anything else goes
+    BackgroundJobs m_jobs; ///< last, so that it waits for running jobs before other members are destroyed
 };
 
 } // namespace lumora

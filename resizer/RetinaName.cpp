@@ -18,7 +18,7 @@ QString lastComponent(const QString &path)
     return path.section(u'/', -1, -1, QString::SectionSkipEmpty);
 }
 
-/// What follows the last dot of the name; a name that merely begins with its only dot has no extension.
+/// The part after the last dot of the name; a name whose only dot is its first character has no extension.
 QString extension(const QString &name)
 {
     const qsizetype dot = name.lastIndexOf(u'.');
@@ -27,7 +27,7 @@ QString extension(const QString &name)
 
 int half(int pixels)
 {
-    // A separator one pixel wide stays one: half of it cannot be drawn, and none of it is no picture.
+    // A separator one pixel wide stays one pixel wide, since zero pixels are no picture.
     return pixels == 1 ? 1 : static_cast<int>(std::floor(static_cast<float>(pixels) * 0.5F));
 }
 

@@ -28,8 +28,8 @@ Result<HalvedPicture> halvedPicture(const QByteArray &bytes, const QString &name
 
 qint64 halvingMemory(QSize pixels)
 {
-    // The costliest pictures are those with transparency: their pixels, color planes of 16 bits a sample, the same
-    // planes at half the size, and the half itself.
+    // Pictures with transparency need the most: their pixels, color planes of 16 bits a sample, the same planes at half
+    // the size, and the half itself.
     constexpr qint64 bytesPerPixel = 4 + 8 + 2 + 1;
     return bytesPerPixel * pixels.width() * pixels.height();
 }

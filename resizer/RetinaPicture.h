@@ -23,14 +23,14 @@ struct HalvedPicture
     bool operator==(const HalvedPicture &) const = default;
 };
 
-/// Decodes the content of a picture file, halves it and encodes it as an 8-bit RGBA PNG. `name` is what a failure calls
-/// it. Keeps no state; callable on any thread.
+/// Decodes the content of a picture file, halves it and encodes it as an 8-bit RGBA PNG. `name` is the subject of a
+/// failure. Keeps no state; callable on any thread.
 Result<HalvedPicture> halvedPicture(const QByteArray &bytes, const QString &name);
 
-/// How much memory `halvedPicture` takes at its peak for a picture of that size, in bytes, beyond the file's content.
+/// The peak memory of `halvedPicture` for a picture of that size, in bytes, besides the file's content.
 qint64 halvingMemory(QSize pixels);
 
-/// The size that `halvedPicture` would give a picture whose header stores `pixels`, or the failure it would end in.
+/// The size that `halvedPicture` would return for a picture whose header gives `pixels`, or its failure.
 Result<QSize> halvedSize(QSize pixels, const QString &name);
 
 } // namespace lumora

@@ -10,15 +10,15 @@
 namespace lumora
 {
 
-/// What a search of a folder brought.
+/// The result of searching a folder.
 struct RetinaSearch
 {
-    QStringList files;             ///< every accepted file, absolute, in the order of their paths
-    std::vector<Failure> failures; ///< folders that could not be looked into
+    QStringList files;             ///< every accepted file, absolute, sorted by path
+    std::vector<Failure> failures; ///< folders that could not be read
 };
 
-/// Searches the folder and all folders in it for files that `isDoubleResolution` accepts. Hidden entries and links to
-/// folders are left out.
+/// Searches the folder and all folders in it for files that `isDoubleResolution` accepts. Skips hidden entries and
+/// links to folders.
 RetinaSearch findDoubleResolution(const QString &folder);
 
 } // namespace lumora

@@ -12,24 +12,24 @@ enum class DeviceFamily { IPhone, IPad, IPod };
 
 enum class Biometry { Unknown, None, TouchId, FaceId };
 
-/// What a model has, where somebody could say.
+/// Whether a model has something, if that is known.
 enum class Having { Unknown, No, Yes };
 
-/// One identifier's hardware, as the device list has it; texts live as long as the list they came from. Sizes are in
-/// portrait; those of a screen that nobody has measured are 0.
+/// One identifier's hardware, from the device list. The texts live as long as the list. Sizes are in portrait; an
+/// unknown screen has sizes of 0.
 struct DeviceModel
 {
     std::string_view identifier; ///< "iPhone15,2"
-    std::string_view name;       ///< what a person calls it: "iPhone 14 Pro"
-    std::string_view released;   ///< first day of sale, "2022-09-16"; a month where the day is not known
+    std::string_view name;       ///< the usual name: "iPhone 14 Pro"
+    std::string_view released;   ///< first day of sale, "2022-09-16"; only the month if the day is not known
     std::string_view chip;       ///< "A16 Bionic"
     std::string_view arch;       ///< "arm64e"
-    OsVersion minOs;             ///< what it came with
-    OsVersion maxOs;             ///< the newest it is offered; a lone major version where it still gets all of that
-    int widthPixels = 0;         ///< of the panel
+    OsVersion minOs;             ///< the version it was sold with
+    OsVersion maxOs;     ///< the newest version for it; only the major version if it still gets every update of it
+    int widthPixels = 0; ///< of the panel
     int heightPixels = 0;
     int scale = 0;
-    int renderWidth = 0; ///< what apps draw, in pixels; differs from the panel on a few models
+    int renderWidth = 0; ///< the pixels that apps draw; on a few models not those of the panel
     int renderHeight = 0;
     int widthPoints = 0;
     int heightPoints = 0;
@@ -54,7 +54,7 @@ constexpr bool hasKnownScreen(const DeviceModel &model)
     return model.widthPixels > 0;
 }
 
-/// By the identifier's first letters; a list holds no others.
+/// Known by the identifier's first letters; a list contains no other families.
 constexpr DeviceFamily familyOf(const DeviceModel &model)
 {
     if (model.identifier.starts_with("iPhone"))
@@ -62,7 +62,7 @@ constexpr DeviceFamily familyOf(const DeviceModel &model)
     return model.identifier.starts_with("iPad") ? DeviceFamily::IPad : DeviceFamily::IPod;
 }
 
-/// The family's name, "iPhone", and the word the command line takes for it, "iphone".
+/// The family's name, "iPhone", and its word on the command line, "iphone".
 constexpr std::string_view familyName(DeviceFamily family)
 {
     return family == DeviceFamily::IPhone ? "iPhone" : family == DeviceFamily::IPad ? "iPad" : "iPod touch";

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// usage: generate_device_models models.csv models.inc   The device list as rows of a constexpr table. What the list's
-// reader refuses, and a list out of order, stops the build.
+// usage: generate_device_models models.csv models.inc The device list as rows of a constexpr table. A list that the
+// reader refuses, or one out of order, stops the build.
 #include "ModelList.h"
 #include "foundation/WholeFile.h"
 

@@ -13,7 +13,7 @@
 namespace lumora
 {
 
-/// What a card says of a model, in its order. What is not known is an empty value.
+/// The facts on a model's card, in the card's order. An unknown fact is an empty value.
 enum class CardFact {
     Identifiers,
     Released,
@@ -43,12 +43,12 @@ inline constexpr int cardFactCount = static_cast<int>(CardFact::ScreenshotSizes)
 /// The fact's English name, such as "minimum iOS".
 QString cardFactName(CardFact fact);
 
-/// The fact as text of its own, to be shown or copied; several values of a group are joined by ", ".
+/// The fact as text, to be shown or copied; several values of a group are joined by ", ".
 QString cardText(const ModelGroup &group, CardFact fact);
 
-/// The picture that a launch screen fills, upright and across, in pixels.
+/// The size of a launch screen in portrait and landscape, in pixels.
 std::vector<QSize> launchSizes(const DeviceModel &model);
-/// The screenshots that the App Store takes for the model's screen, upright and across.
+/// The sizes of screenshots that the App Store accepts for the model's screen, in portrait and landscape.
 std::vector<QSize> screenshotSizes(const DeviceModel &model);
 
 /// One fact of several models side by side.

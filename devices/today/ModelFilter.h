@@ -14,7 +14,7 @@
 namespace lumora
 {
 
-/// What an app may require in its UIRequiredDeviceCapabilities and the list can tell.
+/// The capabilities that an app may require in its UIRequiredDeviceCapabilities and that the list knows.
 struct ModelCapability
 {
     std::string_view key;
@@ -24,26 +24,26 @@ struct ModelCapability
 std::span<const ModelCapability> modelCapabilities();
 const ModelCapability *modelCapability(QStringView key);
 
-/// What a model has that is not known of every model.
+/// Features that are not known for every model.
 enum class ModelFeature { DynamicIsland, Lidar, UsbC, Cellular5G };
 Having havingOf(const DeviceModel &model, ModelFeature feature);
 
-/// What is asked of a model. Empty, it asks for nothing; each set is met by any of its members.
+/// The requirements on a model. An empty filter requires nothing; any member of a set satisfies the set.
 struct ModelFilter
 {
-    /// The model has to run some version from the first to the last of these.
+    /// The model must run some version from the first to the last of these.
     std::optional<OsVersion> iosFrom;
     std::optional<OsVersion> iosTo;
     std::set<DeviceFamily> families;
-    QStringList chips; ///< "A12 Bionic", or what it begins with up to a space: "a12"
+    QStringList chips; ///< "A12 Bionic", or its beginning up to a space: "a12"
     std::vector<const ModelCapability *> capabilities;
     QStringList screenClasses; ///< keys of `screenClasses()`
     std::set<Biometry> biometries;
     std::set<ModelFeature> features;
-    QString search; ///< words, each of which is in the name or the identifier
+    QString search; ///< words; the name or the identifier must contain each of them
 };
 
-/// Why a model falls out.
+/// The reason why a model does not match.
 enum class FallsOut {
     EndsBefore,  ///< `detail` is the newest version that it runs
     BeginsAfter, ///< `detail` is the oldest version that it runs
@@ -65,16 +65,16 @@ struct FallsOutReason
     bool operator==(const FallsOutReason &) const = default;
 };
 
-/// Every reason why the model falls out, in the filter's order; none where it fits.
+/// All reasons why the model does not match, in the filter's order; empty if it matches.
 std::vector<FallsOutReason> reasonsAgainst(const DeviceModel &model, const ModelFilter &filter);
 
 /// "ends at iOS 12.5.8": the reason in English.
 QString reasonText(const FallsOutReason &reason);
 
-/// Reads "15..", "..12", "9..12.4" or "15" into the filter; false where it is no such range.
+/// Reads "15..", "..12", "9..12.4" or "15" into the filter; false if the text is no such range.
 bool takeIosRange(QStringView text, ModelFilter &filter);
 
-/// How many of the models run the version or a newer one.
+/// The number of models that run the version or a newer one.
 int modelsRunning(std::span<const DeviceModel> models, const OsVersion &version);
 
 } // namespace lumora

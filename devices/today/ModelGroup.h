@@ -10,8 +10,8 @@
 namespace lumora
 {
 
-/// What a person takes for one model: all identifiers of one name, such as iPhone3,1 to iPhone3,3. Points into the list
-/// it was made from.
+/// All identifiers of one name, such as iPhone3,1 to iPhone3,3, which people consider one model. Points into the list
+/// that it was made from.
 struct ModelGroup
 {
     std::vector<const DeviceModel *> variants; ///< never empty, in the order of their identifiers
@@ -19,10 +19,10 @@ struct ModelGroup
     const DeviceModel &first() const { return *variants.front(); }
 };
 
-/// The models by family (iPhone, iPad, iPod touch), in each the newest first by its first day of sale.
+/// The models by family (iPhone, iPad, iPod touch), in each family sorted by the first day of sale, the newest first.
 std::vector<ModelGroup> groupedModels(std::span<const DeviceModel> models);
 
-/// Whether any of the group's variants fits; if none does, every reason of any of them, each once.
+/// Whether any of the group's variants matches; if none does, the reasons of all of them, each once.
 struct GroupVerdict
 {
     bool fits = true;

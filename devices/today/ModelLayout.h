@@ -19,7 +19,7 @@ struct ModelTileMetrics
     int headingHeight = 28;
 };
 
-/// Where everything stands, in points with y downwards from the top of the list.
+/// The places of headings and tiles, in points; y counts downwards from the top of the list.
 struct ModelLayout
 {
     struct Heading
@@ -33,7 +33,7 @@ struct ModelLayout
     int height = 0;
 };
 
-/// Lays the groups out in rows as wide as `width` allows, at least one tile wide, a heading above each family.
+/// Arranges the groups in rows of the width, at least one tile wide, with a heading above each family.
 ModelLayout layOutModels(const std::vector<ModelGroup> &groups, int width, const ModelTileMetrics &metrics = {});
 
 } // namespace lumora

@@ -31,10 +31,10 @@ QString text(std::string_view view)
     return QString::fromUtf8(view.data(), static_cast<qsizetype>(view.size()));
 }
 
-/// What is wrong with a line, if anything.
+/// The fault of a line, if it has one.
 using Complaint = std::optional<QString>;
 
-/// Takes the next field off the line. Quotation marks may stand around a whole field and nowhere else.
+/// Removes the next field from the line. Quotation marks are only allowed around a whole field.
 std::optional<std::string_view> nextField(std::string_view &rest)
 {
     std::string_view field;
@@ -71,7 +71,7 @@ Complaint split(std::string_view line, Fields &fields)
     return std::nullopt;
 }
 
-/// Reads one line's fields in their order and remembers the first that is wrong.
+/// Reads one line's fields in order and remembers the first wrong one.
 class FieldReader
 {
 public:
@@ -87,7 +87,7 @@ public:
         return field;
     }
 
-    /// 0 for an empty field.
+    /// Returns 0 for an empty field.
     int number(int most)
     {
         const std::string_view field = next();

@@ -12,12 +12,12 @@
 namespace lumora
 {
 
-/// The largest file, and the most models, that a device list may have.
+/// The limits of a device list: bytes of the file, and number of models.
 inline constexpr qsizetype largestModelFile = 1024 * 1024;
 inline constexpr std::size_t mostModels = 5000;
 
-/// Models read from a file, with the bytes that their texts point into. Moves, so that nobody copies the one without
-/// the other.
+/// Models read from a file, with the bytes that their texts point into. Only movable, so that the models are never
+/// copied without the bytes.
 class ModelList
 {
 public:
@@ -37,16 +37,16 @@ private:
     std::vector<DeviceModel> m_models;
 };
 
-/// Reads a device list: comma-separated values after lines of comment that begin with "#", one header line that names
-/// every column, one line a model. Every field is checked, and that sizes are points times scale, no identifier stands
-/// twice, no model ends before it began. Refused as a whole, with line and column in `detail`; `name` is what the
-/// failure calls the file.
+/// Reads a device list: comment lines that begin with "#", one header line that names every column, then one line of
+/// comma-separated values per model. Checks every field, that sizes are points times scale, that no identifier occurs
+/// twice, and that no model's newest version is older than its first. A list with a fault is refused as a whole, with
+/// line and column in `detail`; `name` is the failure's subject.
 Result<ModelList> readModelList(const QByteArray &bytes, const QString &name);
 
-/// Whether each family's models stand together, the newest first: what the list that is built in has to keep.
+/// Whether each family's models are together, the newest first. The built-in list must be in this order.
 bool areNewestFirst(std::span<const DeviceModel> models);
 
-/// The models that are built in.
+/// The built-in models.
 std::span<const DeviceModel> builtInModels();
 
 } // namespace lumora

@@ -15,16 +15,16 @@ namespace lumora
 struct OsVersion
 {
     std::array<int, 3> numbers{};
-    int count = 0; ///< how many of the numbers are given
+    int count = 0; ///< the number of given numbers
 
     constexpr int major() const { return numbers[0]; }
     bool operator==(const OsVersion &) const = default;
 };
 
-/// Compared as far as both are given: 27 and 27.1 are equivalent, 15.8.8 comes after 15.8.7.
+/// Compares only the numbers that both have: 27 and 27.1 are equivalent, 15.8.8 comes after 15.8.7.
 std::weak_ordering comparedVersions(const OsVersion &one, const OsVersion &other);
 
-/// "12.5.8". None where the text is no version: one to three numbers below 1000 with dots between.
+/// Reads "12.5.8": one to three numbers below 1000 with dots between. Empty if the text is no version.
 std::optional<OsVersion> osVersion(QStringView text);
 
 QString versionText(const OsVersion &version);

@@ -12,7 +12,8 @@ namespace
 
 using Sizes = std::span<const QSize>;
 
-// What the store takes: fastlane's deliver (app_screenshot.rb at d5347690d) and guides of 2026 that agree with it.
+// The sizes that the store accepts. Source: fastlane's deliver (app_screenshot.rb at d5347690d) and guides of 2026 that
+// agree with it.
 constexpr std::array points69 = {QSize(440, 956), QSize(430, 932), QSize(420, 912)};
 constexpr std::array shots69 = {QSize(1260, 2736), QSize(1290, 2796), QSize(1320, 2868)};
 constexpr std::array points65 = {QSize(414, 896), QSize(428, 926)};

@@ -11,7 +11,7 @@
 namespace lumora
 {
 
-/// How many pixels a point has, as a fraction: 3 for @3x and xxhdpi, 3/2 for hdpi.
+/// The number of pixels per point, as a fraction: 3 for @3x and xxhdpi, 3/2 for hdpi.
 struct Density
 {
     int numerator = 1;
@@ -25,21 +25,21 @@ struct Density
     }
 };
 
-/// "3x", "1.5x", or the name of an Android bucket ("xxhdpi"). None for a density that no layout has.
+/// Reads "3x", "1.5x", or the name of an Android bucket ("xxhdpi"). Empty for a density that no layout has.
 std::optional<Density> densityNamed(QStringView text);
 
 /// "3x", "1.5x".
 QString densityText(const Density &density);
 
-/// What becomes of a size when a picture changes its density.
+/// A size after a change of density.
 struct ScaledSize
 {
     QSize size;
-    /// Whether an edge was no whole number of pixels, or none at all, and was rounded.
+    /// Whether an edge was not a whole number of pixels, or below one, and was rounded.
     bool rounded = false;
 };
 
-/// Each edge times to/from, rounded to the nearest pixel (a half goes up), at least 1.
+/// Each edge times to/from, rounded to the nearest pixel (a half rounds up), at least 1.
 ScaledSize scaledSize(QSize pixels, const Density &from, const Density &to);
 
 } // namespace lumora

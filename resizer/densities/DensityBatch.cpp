@@ -26,11 +26,11 @@ namespace lumora
 namespace
 {
 
-/// What all pictures in work may take together.
+/// The memory that all pictures in work may take together.
 constexpr qint64 memoryForPictures = 768LL * 1024 * 1024;
 
-/// The decoded picture, its color planes with their half, twice as deep for a translucent one, and the largest result
-/// with its file.
+/// The decoded picture, its color planes and their halves (twice as deep for a translucent picture), and the largest
+/// result with its file.
 qint64 scalingMemory(QSize pixels)
 {
     constexpr qint64 bytesPerPixel = 4 + 14 + 6;
@@ -55,7 +55,7 @@ Outcome write(const QString &path, const QByteArray &bytes, ExistingFiles existi
     return writeWholeFile(path, bytes);
 }
 
-/// One source at work. Reading it once serves all of its sizes.
+/// One source in work, read once for all of its sizes.
 class SourceScaling
 {
 public:
@@ -93,8 +93,8 @@ private:
             return;
         }
         const QSize size = picture.value().size();
-        // One that its orientation turns is as large as its header says, the other way round; any other one is a file
-        // that somebody has changed since.
+        // The orientation may swap the sides that the header gives; any other size means that the file has changed
+        // since.
         if (size != m_source.size && size != m_source.size.transposed()) {
             failAll(files, {FailureCode::WrongSize, m_source.source, u"it has changed since it was looked at"_s});
             return;
@@ -115,7 +115,7 @@ private:
 
     static void failAll(std::vector<ScaledFile> &files, const Failure &failure)
     {
-        // What is written is written.
+        // Files that are already written stay.
         for (ScaledFile &file : files) {
             if (file.bytes == 0)
                 file.outcome = failure;
@@ -126,7 +126,7 @@ private:
     const DensityBatchOptions &m_options;
 };
 
-/// Workers scale the sources; the thread that called reports them in order.
+/// Workers scale the sources; the calling thread reports them in order.
 class Batch
 {
 public:

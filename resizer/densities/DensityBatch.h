@@ -8,14 +8,14 @@
 namespace lumora
 {
 
-/// How a batch packs its WebP pictures; see `WebPOptions`.
+/// How a batch compresses its WebP pictures; see `WebPOptions`.
 struct DensityBatchOptions
 {
     std::optional<int> webpQuality;
     ExistingFiles existing = ExistingFiles::Keep;
 };
 
-/// What became of one planned picture.
+/// The result of one planned picture.
 struct ScaledFile
 {
     QString source;
@@ -26,13 +26,13 @@ struct ScaledFile
     Outcome outcome = Done{};
 };
 
-/// Told about the pictures of source number `index` (from 0), once for each source and in their order. Answers whether
-/// the batch is to go on.
+/// Called with the pictures of source number `index` (from 0), once for each source, in order. Returns whether the
+/// batch continues.
 using SourceScaled = std::function<bool(qsizetype index, const std::vector<ScaledFile> &files)>;
 
-/// Writes what the plan says is written, with folders made where they are missing. Each source is read once; several
-/// are in work at a time, with memory bounded whatever their number and size. A file that came to stand in a target's
-/// place since the plan was made is not replaced unless the options allow it.
+/// Writes the planned pictures and makes missing folders. Each source is read once; several are in work at the same
+/// time, with bounded memory. A file that has appeared at a target's path since the plan was made is not replaced
+/// unless the options allow it.
 void scaleDensities(const DensityPlan &plan, const DensityBatchOptions &options, const SourceScaled &scaled);
 
 } // namespace lumora

@@ -126,7 +126,7 @@ constexpr std::array<Density, 5> androidUsual{{{4, 1}, {3, 1}, {2, 1}, {3, 2}, {
 constexpr std::array<Density, 5> flutterDensities{{{4, 1}, {3, 1}, {2, 1}, {3, 2}, {1, 1}}};
 constexpr std::array<Density, 4> flutterUsual{{{4, 1}, {3, 1}, {2, 1}, {1, 1}}};
 constexpr std::array<Density, 5> nativeDensities{{{4, 1}, {3, 1}, {2, 1}, {3, 2}, {1, 1}}};
-// Whoever begins with @4x has @3x below it; both sides of the mark are the same in all of these.
+// Below @4x comes @3x. The parts before and after the mark are the same in all of these.
 constexpr std::array<Density, 5> markedDensities{{{4, 1}, {3, 1}, {2, 1}, {3, 2}, {1, 1}}};
 
 constexpr std::array<DensityLayout, 5> layouts{{

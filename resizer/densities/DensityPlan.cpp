@@ -72,13 +72,13 @@ private:
     std::vector<FoundPicture> m_found;
 };
 
-/// The same picture in all its densities has one key.
+/// A picture has the same key in all its densities.
 QString keyOf(const DensityPlace &place)
 {
     return place.folder + u'/' + place.name + u'/' + place.suffix + u'/' + place.extension;
 }
 
-/// The pictures to scale from: those of the wanted density, or of each the largest.
+/// The pictures to scale from: those of the wanted density, or the largest of each picture.
 std::vector<FoundPicture> chosenSources(const std::vector<FoundPicture> &found, const DensityRequest &request)
 {
     std::map<QString, FoundPicture> largest;

@@ -13,20 +13,21 @@
 namespace lumora
 {
 
-/// What becomes of files that stand where a picture is to go.
+/// What happens to existing files at a target's path.
 enum class ExistingFiles { Keep, Replace };
 
 enum class ScaledFormat { AsSource, Png, WebP };
 
-/// What a person asks of a run.
+/// The user's request for a run.
 struct DensityRequest
 {
     const DensityLayout *layout = nullptr;
-    /// The density to scale from; without one each picture's largest.
+    /// The density to scale from; if empty, the largest of each picture.
     std::optional<Density> from;
     /// The densities to make; empty for the layout's usual ones below the source's.
     std::vector<Density> to;
-    /// Where the results go, in the same folders as their sources; empty for beside them.
+    /// The destination folder, in which results get the sub-folders of their sources; empty to put them beside their
+    /// sources.
     QString destination;
     ScaledFormat format = ScaledFormat::AsSource;
     ExistingFiles existing = ExistingFiles::Keep;
@@ -39,31 +40,31 @@ struct PlannedPicture
     Density density;
     QSize size; ///< in pixels
     bool rounded = false;
-    /// The file exists: it is left alone, or replaced where the request allows it.
+    /// The file exists: it is kept, or replaced if the request allows it.
     bool exists = false;
-    bool written = true; ///< false for one that is left alone
+    bool written = true; ///< false if the existing file is kept
     ScaledFormat format = ScaledFormat::Png;
 };
 
-/// One source with all that is made of it.
+/// One source with all its targets.
 struct PlannedSource
 {
     QString source;
-    QSize size; ///< in pixels, as its header has it; the batch turns what is to be turned
+    QSize size; ///< in pixels, from its header; the batch applies the orientation
     Density density;
     std::vector<PlannedPicture> pictures;
 };
 
 struct DensityPlan
 {
-    std::vector<PlannedSource> sources; ///< in the order of their paths
-    std::vector<Failure> failures;      ///< what is left out, and why
+    std::vector<PlannedSource> sources; ///< sorted by path
+    std::vector<Failure> failures;      ///< files that are left out, with the reason
 };
 
-/// Looks through the folder and all in it (hidden entries and links to folders left out) for pictures of the layout,
-/// and says what would be made of them; writes nothing. PNG and WebP files are sources. Never is a target a source, in
-/// whatever way its path is spelled, nor do two sources have one target. Android's stretchable pictures (.9.png) are
-/// refused: their border says in whole pixels where to stretch.
+/// Searches the folder and all folders in it (not hidden entries and links to folders) for pictures of the layout, and
+/// plans what to make of them; writes nothing. PNG and WebP files are sources. A target is never a source, whatever the
+/// spelling of its path, and two sources never have the same target. Refuses Android's stretchable pictures (.9.png),
+/// since their border marks in whole pixels where to stretch.
 DensityPlan planDensities(const QString &folder, const DensityRequest &request);
 
 } // namespace lumora
