@@ -29,9 +29,8 @@ struct DownscaleRequest
 /// The plan of a run over files and folders that the user named.
 struct DownscalePlan
 {
-    QList<DownscaleJob> jobs; ///< absolute paths, each file once, in the order given
-    std::vector<Failure>
-        failures; ///< files that are left out, with the reason; and `NameTaken` for files that get another name
+    QList<DownscaleJob> jobs;      ///< absolute paths, each file once, in the order given
+    std::vector<Failure> failures; ///< why files are left out; and `NameTaken` for files that get another name
 };
 
 /// Collects the pictures: of a folder every marked picture in it and its sub-folders, of a file the file itself. Leaves

@@ -25,8 +25,8 @@ struct DeviceModel
     std::string_view chip;       ///< "A16 Bionic"
     std::string_view arch;       ///< "arm64e"
     OsVersion minOs;             ///< the version it was sold with
-    OsVersion maxOs;     ///< the newest version for it; only the major version if it still gets every update of it
-    int widthPixels = 0; ///< of the panel
+    OsVersion maxOs;             ///< the newest version for it; only the major one if it gets all of its updates
+    int widthPixels = 0;         ///< of the panel
     int heightPixels = 0;
     int scale = 0;
     int renderWidth = 0; ///< the pixels that apps draw; on a few models not those of the panel

@@ -13,8 +13,7 @@ namespace lumora
 /// A picture's path in a project without its density; the paths of all other densities follow from it.
 struct DensityPlace
 {
-    QString folder; ///< relative to the searched folder, "" for that folder; Android's has "{density}" in place of the
-                    ///< bucket
+    QString folder; ///< relative to the searched folder, or ""; for Android with "{density}" in place of the bucket
     QString name;   ///< without density and extension
     QString suffix; ///< the text after the density in the name, "~ipad"
     QString extension;
