@@ -30,7 +30,7 @@ std::optional<int> hexDigit(QChar character)
     return std::nullopt;
 }
 
-/// The leading digits of two characters: "1z" is 1; nothing where even the first is no digit.
+/// The leading digits of two characters: "1z" is 1. Empty if the first is not a digit.
 std::optional<int> hexPair(QStringView pair)
 {
     const std::optional<int> first = hexDigit(pair[0]);
@@ -40,7 +40,7 @@ std::optional<int> hexPair(QStringView pair)
     return second ? *first * 16 + *second : *first;
 }
 
-/// Eight characters or more where the text can be read at all.
+/// Eight characters or more if the text is readable.
 QString withAllPairs(const QString &digits)
 {
     QString full = digits;
@@ -78,7 +78,7 @@ int componentByte(float component)
     const float scaled = component * byteScale;
     if (std::isnan(scaled))
         return 0;
-    // Beyond the range of int the conversion itself would be undefined.
+    // Beyond the range of int the conversion would be undefined.
     constexpr float limit = 2147483520.0F;
     return static_cast<int>(std::clamp(scaled, -limit, limit));
 }

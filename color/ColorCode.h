@@ -12,7 +12,7 @@
 namespace lumora
 {
 
-/// The notations of the code list, in its order. The number is also the tag of the button that copies it.
+/// The notations of the code list, in order. The number is also the tag of the notation's copy button.
 enum class ColorNotation {
     Ios = 0,
     Mac = 1,
@@ -22,7 +22,7 @@ enum class ColorNotation {
 
 inline constexpr int colorNotationCount = 4;
 
-/// What a color text comes down to: the color and its code in every notation.
+/// The result of reading a color text: the color and its code in every notation.
 struct ColorCodes
 {
     RgbaColor color;
@@ -31,15 +31,16 @@ struct ColorCodes
     const QString &code(ColorNotation notation) const { return list[static_cast<std::size_t>(notation)]; }
 };
 
-/// A component multiplied by 255 in single precision and cut toward zero, neither rounded nor clamped: 0.286 is 72.
+/// A component multiplied by 255 in single precision and truncated, neither rounded nor clamped: 0.286 is 72.
 int componentByte(float component);
 
-/// "#rrggbb" in lower case. A component that is not between 0 and 1 is printed as its byte comes out, as wide as it is.
+/// "#rrggbb" in lower case. A component outside 0 to 1 is printed as its unclamped byte, with as many digits as that
+/// has.
 QString stringFromColor(const RgbaColor &color);
 
 /// Reads a color text: every "#" is removed, three digits are doubled to six, six get full opacity, and red, green,
-/// blue and alpha are the leading hexadecimal digits of the first four pairs. Refused with InvalidValue where a pair is
-/// missing or begins with no hexadecimal digit.
+/// blue and alpha are the leading hexadecimal digits of the first four pairs. Fails with InvalidValue if a pair is
+/// missing or does not begin with a hexadecimal digit.
 Result<ColorCodes> colorWithHexString(const QString &text);
 
 /// True when the text may be copied as code: 3 to 7 characters, each "#" counted.

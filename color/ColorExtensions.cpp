@@ -14,7 +14,7 @@ QColor copyCGColor(const QColor &color)
 RgbaColor randomColor(const RandomSource &random)
 {
     const auto component = [&random] { return static_cast<float>(std::ldexp(static_cast<double>(random()), -31)); };
-    // One statement each: the order in which the numbers are drawn is fixed.
+    // One statement for each, since the numbers must be drawn in this order.
     const float red = component();
     const float green = component();
     const float blue = component();

@@ -11,13 +11,13 @@
 namespace lumora
 {
 
-// The first two have no caller but the tests; they belong to the color class all the same.
+// Only the tests call the first two; they complete the color class.
 
-/// A new color of the platform in generic RGB with the same red, green, blue and opacity, whatever model the given one
-/// was made in. The caller owns it, as any value.
+/// A new platform color in generic RGB with the same red, green, blue and opacity, whatever the model of the given one.
+/// The caller owns it, like any value.
 QColor copyCGColor(const QColor &color);
 
-/// Draws a number from 0 to 2^31 - 1, as random(3) does.
+/// Returns a random number from 0 to 2^31 - 1, as random(3) does.
 using RandomSource = std::function<long()>;
 
 /// An opaque color of three numbers drawn in the order red, green, blue, each times 2^-31.

@@ -13,7 +13,7 @@ namespace
 
 constexpr qreal cornerRadius = 6;
 constexpr qreal borderWidth = 2;
-/// The mean of red, green and blue from which a color is too light for white.
+/// Above this mean of red, green and blue, a color is too light for a white background.
 constexpr float lightest = 0.8F;
 
 } // namespace
@@ -22,7 +22,7 @@ ColorField::ColorField(QWidget *parent) : QLineEdit(parent), m_groundColor(palet
 {
     setFrame(false);
     QPalette colors = QLineEdit::palette();
-    // The platform would fill the corners too.
+    // The platform would fill the corners, too.
     colors.setColor(QPalette::Base, Qt::transparent);
     setPalette(colors);
 }
@@ -32,7 +32,7 @@ void ColorField::setTextColor(const RgbaColor &color)
     const bool light = (color.red + color.green + color.blue) / 3.0F > lightest;
     m_groundColor = light ? palette::chromeText : palette::window;
     QPalette colors = QLineEdit::palette();
-    // An opacity would make it pale or invisible, and it belongs to no code.
+    // The opacity is not part of the code and would make the text pale or invisible.
     colors.setColor(QPalette::Text, platformColor({color.red, color.green, color.blue, 1.0F}));
     setPalette(colors);
     update();

@@ -8,7 +8,7 @@
 namespace lumora
 {
 
-/// The field for the color's text, written in the color itself on a rounded ground that keeps it readable.
+/// The field for the color's text, written in the color itself on a rounded background that keeps it readable.
 class ColorField final : public QLineEdit
 {
     Q_OBJECT
@@ -17,7 +17,7 @@ public:
     explicit ColorField(QWidget *parent = nullptr);
 
     QColor textColor() const { return palette().color(QPalette::Text); }
-    /// Also chooses the ground: white, or dark for a color that white would swallow.
+    /// Also chooses the background: white, or dark for a color that is too light for white.
     void setTextColor(const RgbaColor &color);
     QColor groundColor() const { return m_groundColor; }
 

@@ -23,14 +23,14 @@ namespace lumora
 namespace
 {
 
-/// The color at start-up: the chrome text's, in the figures that its code is cut from.
+/// The color at start-up: that of the chrome text, with the exact components from which its code is truncated.
 constexpr RgbaColor firstColor{0.204F, 0.286F, 0.369F, 1.0F};
 constexpr int fieldFontSize = 35;
 constexpr int labelFontSize = 13;
 
 constexpr auto tagName = "tag";
 
-/// A color, or a text that is the code of one; a file is neither, though its name comes as a text too.
+/// Accepts a color, or a text that is a color code. A file is neither, although its name arrives as a text, too.
 bool carriesColor(const QMimeData &content)
 {
     return content.hasColor() || (!content.hasUrls() && !content.hasImage() && codesForCopying(content.text()).ok());
@@ -62,10 +62,10 @@ void ColorViewController::setUpField()
     QLineEdit *field = m_ui->colorTextField;
     field->setFont(latoBold(fieldFontSize));
     field->setAccessibleName(qtTrId("ACCESSIBLE_COLOR_FIELD"));
-    // A dropped text is the pane's; a file's name would only be typed into the field.
+    // The pane handles a dropped text. The field would accept a dropped file's name as typed text.
     field->setAcceptDrops(false);
     field->installEventFilter(this);
-    // Not only textEdited: what assistive technology writes into the field has been typed, too.
+    // Not only textEdited: text from assistive technology counts as typed, too.
     connect(field, &QLineEdit::textChanged, this, [this] {
         if (!m_setsText)
             controlTextDidChange(m_ui->colorTextField);
@@ -258,7 +258,7 @@ bool ColorViewController::filterDrag(QEvent *event)
         return false;
     auto *drop = static_cast<QDropEvent *>(event);
     const QMimeData &content = *drop->mimeData();
-    // The view takes a color itself; pictures and other files are for other tools.
+    // The view itself accepts colors; pictures and other files are for other tools.
     if (content.hasColor())
         return false;
     if (!carriesColor(content)) {
@@ -273,7 +273,7 @@ bool ColorViewController::filterDrag(QEvent *event)
 
 bool ColorViewController::filterKey(QEvent *event)
 {
-    // The field pastes texts, and would make nothing of a copied color.
+    // The field only pastes texts, not a copied color.
     if (event->type() != QEvent::KeyPress || !static_cast<QKeyEvent *>(event)->matches(QKeySequence::Paste) ||
         !services().clipboard.color().isValid())
         return false;

@@ -26,7 +26,8 @@ class ColorField;
 class ColorWell;
 class HoverButton;
 
-/// The color tool: a color typed, picked, dropped or pasted, and a button for each notation that copies its code.
+/// The color tool: takes a typed, picked, dropped or pasted color and has a button for each notation that copies its
+/// code.
 class ColorViewController final : public ToolViewController, public DropViewDelegate
 {
     Q_OBJECT
@@ -46,38 +47,38 @@ public:
     QLabel *javaLabel() const;
     QLabel *cssLabel() const;
 
-    /// The current color: the last one that was valid, whatever is being typed.
+    /// The current color: the last valid one, whatever the field contains.
     const RgbaColor &theColor() const { return m_theColor; }
-    /// What the copy button pressed last showed before.
+    /// The previous caption of the copy button that was pressed last.
     const QString &savedButtonTitle() const { return m_savedButtonTitle; }
 
-    /// How long a button says that it has copied.
+    /// How long a button reports that it has copied.
     static constexpr std::chrono::milliseconds copiedDuration{2000};
 
-    /// The code list of the text, whose color becomes the current one; refused text changes nothing.
+    /// The code list of the text. Its color becomes the current one; a refused text changes nothing.
     Result<ColorCodes> colorWithHexString(const QString &text);
-    /// Parses while the user types; of interest only where it comes from the color's field.
+    /// Parses while the user types; ignores every sender except the color's field.
     void controlTextDidChange(const QObject *notificationObject);
     void colorWellReceivedColor(const ColorWell *sender);
     void iosButtonPressed(HoverButton *sender);
     void macButtonPressed(HoverButton *sender);
     void javaButtonPressed(HoverButton *sender);
     void cssButtonPressed(HoverButton *sender);
-    /// Copies the code whose index in the list is the button's tag.
+    /// Copies the code at the index that is the button's tag.
     void copyCodeForButton(HoverButton *button);
-    /// Gives buttons and labels the look they have at rest.
+    /// Sets the initial look of buttons and labels.
     void resetButtons();
 
     void dropViewReceivedColor(const QColor &color) override;
     bool takesClipboard() const override { return true; }
-    /// Takes a copied color, or a copied text that is one.
+    /// Takes a copied color, or a copied text with a color's code.
     void paste() override;
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    /// What belongs to one notation.
+    /// The controls of one notation.
     struct CodeRow
     {
         HoverButton *button;
@@ -95,7 +96,7 @@ private:
     void saveTitleAndCopy(HoverButton *sender);
     void setTheColor(const RgbaColor &color);
     void takeColor(const RgbaColor &color);
-    /// Setting the text from the program does not count as typing.
+    /// Sets the text from the program, which does not count as typing.
     void setFieldText(const QString &text);
     void showCodes();
 

@@ -12,7 +12,7 @@ namespace
 
 constexpr float sectors = 6.0F;
 
-/// One component of a fully bright color: a trapezium over the six sectors of the wheel, `shift` sectors turned.
+/// One component of a fully bright color: a trapezoid over the six sectors of the wheel, turned by `shift` sectors.
 float wheelComponent(float hue, float shift, float saturation)
 {
     const float sector = std::fmod(hue * sectors + shift, sectors);
@@ -20,8 +20,8 @@ float wheelComponent(float hue, float shift, float saturation)
     return 1.0F - saturation * chroma;
 }
 
-/// The fraction of the byte that a component is meant to be, where it misses one only by single precision's error.
-/// Bytes are cut from components, so that a hair less would be a whole byte less.
+/// The component of a whole byte, if the component misses it only by single precision's error. Bytes are truncated, so
+/// that a tiny bit less would be a whole byte less.
 float withoutError(float component)
 {
     constexpr float error = 0.001F;

@@ -17,11 +17,11 @@ struct HsbColor
     bool operator==(const HsbColor &) const = default;
 };
 
-/// The color with the opacity. The hue may be any number of turns; saturation and brightness are taken as 0 to 1.
+/// The color with the opacity. The hue may be any number of turns; saturation and brightness are clamped to 0 to 1.
 RgbaColor rgbaFrom(const HsbColor &color, float alpha);
 
-/// Hue, saturation and brightness of components from 0 to 1. Where the color says nothing about its hue (grays) or its
-/// saturation (black), those of `fallback` are kept, so that a slider does not jump away from where the user left it.
+/// Hue, saturation and brightness of components from 0 to 1. Grays have no hue and black has no saturation; they get
+/// those of `fallback`, so that a slider stays where the user left it.
 HsbColor hsbFrom(const RgbaColor &color, const HsbColor &fallback = {});
 
 } // namespace lumora

@@ -8,20 +8,19 @@
 namespace lumora
 {
 
-/// What follows from one change that the user made to the color field's text.
+/// The result of the user's change to the color field's text.
 struct TypingOutcome
 {
-    /// The text the field has to show instead of what was typed; nothing where it stays as it is.
+    /// The text that must replace the typed one; empty if the typed one stays.
     std::optional<QString> correctedText;
-    /// The digits to take as the new color; nothing while they do not make one. They may still turn out not to be
-    /// hexadecimal.
+    /// The digits of the new color; empty while they are not complete. They may not be hexadecimal.
     std::optional<QString> colorText;
 
     bool operator==(const TypingOutcome &) const = default;
 };
 
-/// The rule of live typing: counted without "#", a seventh character undoes itself (of a longer pasted text only the
-/// last character goes), and three or six characters are taken as the color at once.
+/// The rule of live typing. Characters count without "#". A seventh character is removed again (of a longer pasted text
+/// only the last character is removed), and three or six characters become the color at once.
 TypingOutcome outcomeOfTyping(const QString &fieldText);
 
 } // namespace lumora

@@ -27,9 +27,9 @@ struct GrammarRow
 constexpr RgbSpace srgb = RgbSpace::Srgb;
 constexpr RgbSpace displayP3 = RgbSpace::DisplayP3;
 
-/// What is understood beyond the forms that are written. Places are those of the forms, and besides {w} a gray, {h} {s}
-/// {v} hue (a turn is 1), saturation and brightness, {name} any word. Rows of whole numbers stand before those of
-/// fractions where one text could be both, as the languages choose between their overloads.
+/// The forms that are read but not written. They have the places of the written forms, and in addition {w} for a gray,
+/// {h} {s} {v} for hue (a turn is 1), saturation and brightness, {name} for any word. If a text could be either, rows
+/// of whole numbers come before rows of fractions, as the languages choose between their overloads.
 constexpr GrammarRow readOnly[] = {
     {"swiftui"_L1, srgb, "Color(red: {r}, green: {g}, blue: {b})"_L1},
     {"swiftui"_L1, srgb, "Color(.sRGB, red: {r}, green: {g}, blue: {b}, opacity: {a})"_L1},
@@ -47,7 +47,7 @@ constexpr GrammarRow readOnly[] = {
     {"appkit-swift"_L1, srgb, "NSColor(calibratedRed: {r}, green: {g}, blue: {b}, alpha: {a})"_L1},
     {"appkit-swift"_L1, srgb, "NSColor(hue: {h}, saturation: {s}, brightness: {v}, alpha: {a})"_L1},
     {"appkit-objc"_L1, srgb, "[NSColor colorWithRed:{r} green:{g} blue:{b} alpha:{a}]"_L1},
-    // The figures of the calibrated space are taken for those of sRGB, as the code list writes them.
+    // Components of the calibrated space are read as sRGB, as the code list writes them.
     {"appkit-objc"_L1, srgb, "[NSColor colorWithCalibratedRed:{r} green:{g} blue:{b} alpha:{a}]"_L1},
     {"compose"_L1, srgb, "Color({R}, {G}, {B})"_L1},
     {"compose"_L1, srgb, "Color({R}, {G}, {B}, {A})"_L1},
@@ -101,8 +101,8 @@ struct Grammar
     Grammar(Grammar &&) = default;
 };
 
-/// The forms that are written first, so that what was written is understood as what it is. Colors of the web and JSON
-/// have grammars of their own.
+/// Written forms come first, so that their texts are read back as the same form. Colors of the web and JSON have other
+/// readers.
 std::vector<Grammar> completeGrammar()
 {
     std::vector<Grammar> rows;
@@ -144,7 +144,7 @@ public:
         const bool byte = letter >= u'A' && letter <= u'Z';
         if (!number || *number < 0.0 || *number > (byte ? 255.0 : 1.0))
             return false;
-        // Only a number without a point is a whole one, as the languages see it.
+        // As in the languages, only a number without a point is an integer.
         if (byte && !std::ranges::all_of(token.text, [](QChar digit) { return digit.isDigit(); }))
             return false;
         return store(letter, byte ? *number / 255.0 : *number);
@@ -219,7 +219,7 @@ private:
     double m_brightness = 0.0;
 };
 
-/// A place after a fixed word of the same token is filled from the token that stands there.
+/// A place that follows a fixed word in the same token is filled from the rest of that token.
 std::optional<WideColor> matched(const Grammar &grammar, const Tokens &tokens)
 {
     if (grammar.tokens.size() != tokens.size())

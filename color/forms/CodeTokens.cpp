@@ -41,7 +41,7 @@ template <typename Predicate> qsizetype lengthWhile(QStringView text, qsizetype 
     return end - from;
 }
 
-/// How long the decimal number at the beginning is, without a suffix; 0 where there is none.
+/// The length of the decimal number at the beginning, without a suffix; 0 if there is none.
 qsizetype decimalLength(QStringView text)
 {
     qsizetype at = !text.isEmpty() && (text[0] == u'-' || text[0] == u'+') ? 1 : 0;
@@ -84,7 +84,7 @@ qsizetype placeLength(QStringView text)
     return named && end > 0 ? end + 1 : 0;
 }
 
-/// The token at the beginning of the text; empty where there is no sound one.
+/// The token at the beginning of the text; empty if there is no valid one.
 CodeToken tokenAt(QStringView text, CodePlaces places)
 {
     const QChar first = text[0];

@@ -9,14 +9,14 @@
 namespace lumora
 {
 
-/// One word of a piece of code. White space tells words apart and is nothing itself.
+/// One word of a piece of code. White space separates words and is not a word.
 struct CodeToken
 {
     enum class Kind {
         Word,   ///< letters, digits, "_" and "-", not beginning with a digit
         Number, ///< decimal, with the suffix of its type if any; or 0x and hexadecimal digits
         Hash,   ///< # and hexadecimal digits
-        Place,  ///< {name}, which stands for a value; only where asked for
+        Place,  ///< {name}, the place of a value; only if asked for
         Sign,   ///< any other single character
     };
 
@@ -28,11 +28,11 @@ struct CodeToken
 
 enum class CodePlaces { None, Known };
 
-/// The words of the text, which has to outlive them; none where it has more of them than any color code, or begins a
-/// number or # that is none.
+/// The words of the text, which must outlive them. Empty if it has more words than any color code, or an invalid number
+/// or "#".
 std::optional<std::vector<CodeToken>> codeTokens(QStringView text, CodePlaces places = CodePlaces::None);
 
-/// The value of a decimal number token, its suffix left out; none for a hexadecimal one.
+/// The value of a decimal number token without its suffix; empty for a hexadecimal one.
 std::optional<double> decimalValue(QStringView number);
 
 } // namespace lumora

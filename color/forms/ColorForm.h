@@ -11,33 +11,33 @@
 namespace lumora
 {
 
-/// Who writes code with a form; people bring the forms of their own platform to the top.
+/// The platform of a form; users can list the forms of their own platform first.
 enum class ColorPlatform { Apple, Android, Flutter, Web, Qt, DotNet };
 
-/// One form that a color is written in. All the rest (command line, pane, reader) loops over the table of these.
+/// One form of writing a color. Command line, pane and reader loop over the table of these.
 struct ColorForm
 {
-    /// The name that the command line and the JSON keys share.
+    /// The name on the command line and the key in JSON.
     QLatin1StringView name;
     ColorPlatform platform;
     /// The form with a place for each value; see FormValues.h for their names.
     QLatin1StringView text;
-    /// The same for Display P3; empty where the form knows sRGB only, or holds any color as it is.
+    /// The same for Display P3; empty if the form has only sRGB, or can hold any color.
     QLatin1StringView displayP3Text;
-    /// True when `text` shows colors outside sRGB as they are.
+    /// True when `text` can hold colors outside sRGB.
     bool showsAnyGamut = false;
 };
 
-/// Every form, in the order in which they are listed.
+/// All forms, in the order of listing.
 std::span<const ColorForm> colorForms();
 
-/// The form of the name; null where there is none.
+/// The form with the name; null if there is none.
 const ColorForm *colorFormNamed(QStringView name);
 
-/// The color in the form. One that sRGB can't show is clipped there, unless the form shows any gamut.
+/// The color in the form. A color outside sRGB is clipped, unless the form holds any gamut.
 QString formText(const ColorForm &form, const WideColor &color);
 
-/// The color in the form's Display P3 variant; empty where it has none.
+/// The color in the form's Display P3 variant; empty if there is none.
 QString displayP3FormText(const ColorForm &form, const WideColor &color);
 
 } // namespace lumora

@@ -23,7 +23,7 @@ std::optional<ColorReading> colorFromDigits(const QString &text)
     return color ? std::optional(ColorReading{*color, "css-hex"_L1}) : std::nullopt;
 }
 
-/// The color that the set shows in any appearance.
+/// The set's color for any appearance.
 std::optional<ColorReading> colorFromColorSet(const QString &text)
 {
     if (!text.startsWith(u'{'))

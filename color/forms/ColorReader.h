@@ -9,12 +9,12 @@
 namespace lumora
 {
 
-/// The longest text that is looked at, in characters.
+/// The longest text that is read, in characters.
 inline constexpr qsizetype longestColorText = 16384;
 
-/// Understands a color in any form that `colorForms` lists and their languages' other spellings, CSS names, and three
-/// or six hexadecimal digits without #. Whatever is not wholly understood is refused with InvalidValue; nothing is
-/// guessed, cut or clamped. Eight digits after # are CSS's, opacity last; in quotation marks they are QML's, opacity
+/// Reads a color in any form of `colorForms`, in their languages' other spellings, as a CSS name, or as three or six
+/// hexadecimal digits without #. A text that is not completely understood fails with InvalidValue; nothing is guessed,
+/// truncated or clamped. Eight digits after # are read as in CSS, opacity last; in quotation marks as in QML, opacity
 /// first.
 Result<ColorReading> readColor(const QString &text);
 

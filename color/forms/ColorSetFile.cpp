@@ -17,7 +17,7 @@ namespace lumora
 namespace
 {
 
-/// Extended spaces state what lies beyond them; anything further is no color.
+/// Components of extended spaces may be outside 0 to 1, but beyond this limit a value is no color.
 constexpr double least = -2.0;
 constexpr double most = 3.0;
 
@@ -31,7 +31,7 @@ std::optional<double> component(const QString &text, bool isAlpha)
     const double number = text.toDouble(&ok);
     if (!ok || !std::isfinite(number))
         return std::nullopt;
-    // A whole number is a byte; an opacity is a fraction however it is written.
+    // A whole number is a byte, but an opacity is always a fraction.
     const double value = text.contains(u'.') || isAlpha ? number : number / 255.0;
     const bool within = isAlpha ? value >= 0.0 && value <= 1.0 : value >= least && value <= most;
     return within ? std::optional(value) : std::nullopt;
@@ -92,7 +92,7 @@ std::optional<std::vector<ColorSetEntry>> readColorSet(const QByteArray &json)
     std::vector<ColorSetEntry> entries;
     for (const QJsonValue value : colors) {
         const QJsonObject entry = value.toObject();
-        // A slot that nobody filled has no color.
+        // An empty slot has no color.
         if (!entry.contains("color"_L1))
             continue;
         const std::optional<WideColor> color = entryColor(entry.value("color"_L1).toObject());

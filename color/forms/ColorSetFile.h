@@ -18,8 +18,8 @@ struct ColorSetEntry
     QString appearance; ///< "dark", "high" and the like, joined by a space; empty for the color of any appearance
 };
 
-/// Reads a color set's Contents.json: sRGB, extended and linear sRGB, Display P3 and gray, components as fractions,
-/// bytes or hexadecimal bytes. None where any color of it is in another form, so that no set is taken in part.
+/// Reads a color set's Contents.json: sRGB, extended and linear sRGB, Display P3 and gray, with components as
+/// fractions, bytes or hexadecimal bytes. Empty if any color has another form, so that a set is never read in part.
 std::optional<std::vector<ColorSetEntry>> readColorSet(const QByteArray &json);
 
 } // namespace lumora

@@ -18,17 +18,17 @@ namespace lumora
 namespace
 {
 
-/// The kinds of value that an argument may be.
+/// The kinds of value that an argument may have.
 struct Accepted
 {
     bool number = false;
     bool percentage = false;
     bool angle = false;
-    /// What 100 % is, and the range of plain numbers; both ends belong to it.
+    /// The value of 100 %, and the range of plain numbers, both ends included.
     double whole = 1.0;
     double least = 0.0;
     double most = 1.0;
-    /// What a plain number is multiplied by.
+    /// The factor for a plain number.
     double unit = 1.0;
 };
 
@@ -134,7 +134,7 @@ constexpr FunctionRow functions[] = {
 
 std::optional<ColorReading> colorFromFunction(CssFunction function)
 {
-    // The space is color()'s first argument; here it is part of the function's name.
+    // In color() the space is the first argument; here it is part of the function's name.
     if (function.name == u"color" && !function.arguments.empty()) {
         function.name += u' ' + function.arguments.front().word;
         function.arguments.erase(function.arguments.begin());
@@ -143,7 +143,7 @@ std::optional<ColorReading> colorFromFunction(CssFunction function)
         std::ranges::find_if(functions, [&function](const FunctionRow &one) { return function.name == one.name; });
     if (row == std::end(functions) || function.arguments.size() != 3 || (function.commas && !row->withCommas))
         return std::nullopt;
-    // The old form knows no "none", and rgb() there is of one kind throughout.
+    // The old form has no "none", and all arguments of its rgb() have the same kind.
     const bool isRgb = row->notation == "css-rgb"_L1;
     if (function.commas && (holdsNone(function) || (isRgb && mixesKinds(function.arguments))))
         return std::nullopt;
@@ -196,7 +196,7 @@ std::optional<ColorReading> colorFromCss(QStringView text)
     static const QRegularExpression utility(uR"(^[a-z][a-z0-9-]*-\[([^\[\]\s]*)\]$)"_s);
     QString value = text.trimmed().toString();
     if (const auto match = utility.match(value); match.hasMatch()) {
-        // White space would end the class name, so that "_" stands for it.
+        // White space would end the class name, so "_" replaces it.
         std::optional<ColorReading> reading = colorFromValue(match.captured(1).replace(u'_', u' '));
         if (reading)
             reading->notation = "tailwind"_L1;

@@ -27,7 +27,7 @@ bool isCssSpace(QChar character)
     return character == u' ' || character == u'\t' || character == u'\n' || character == u'\r' || character == u'\f';
 }
 
-/// How much of the text is a CSS number; 0 where it begins with none.
+/// The length of the CSS number at the beginning of the text; 0 if there is none.
 qsizetype numberLength(QStringView text)
 {
     const auto digitsFrom = [text](qsizetype from) {

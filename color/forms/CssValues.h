@@ -26,11 +26,11 @@ struct CssFunction
     QString name; ///< in lower case
     std::vector<CssValue> arguments;
     std::optional<CssValue> alpha;
-    /// Whether commas stand between the arguments, and so before the opacity.
+    /// Whether commas separate the arguments, and so also the opacity.
     bool commas = false;
 };
 
-/// The call that the text is as a whole. Arguments all stand after commas or none does.
+/// Reads a text that is one call. Either all arguments are separated by commas or none is.
 std::optional<CssFunction> cssFunction(QStringView text);
 
 } // namespace lumora

@@ -73,7 +73,7 @@ void addBytes(Values &values, const WideColor &color)
 void addModels(Values &values, const WideColor &color)
 {
     const auto percent = [](double value) { return shortDecimal(value * 100.0, degreeDecimals); };
-    // What rounds to the whole turn is none.
+    // A hue that rounds to a whole turn becomes 0.
     const auto angle = [](double degrees, int decimals) {
         const QString text = shortDecimal(degrees, decimals);
         return text == u"360" ? u"0"_s : text;

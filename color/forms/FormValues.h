@@ -9,7 +9,7 @@
 namespace lumora
 {
 
-/// The text with every place for a value filled in, each rounded to nearest at its last digit:
+/// The text with every place filled by its value, rounded to nearest at the last digit:
 ///
 /// {r} {g} {b} {a}       components and opacity as 0 to 1, up to four decimals
 /// {r.} ... {a.}         the same with one decimal at least; {rf} ... {af} with an f behind
@@ -24,7 +24,7 @@ namespace lumora
 /// Components are those of the color clipped to the space. What is no place stays as it is.
 QString withFormValues(QLatin1StringView text, const WideColor &color, RgbSpace space);
 
-/// The number rounded to at most so many decimals, without trailing zeros and never "-0".
+/// The number rounded to at most `decimals` decimals, without trailing zeros and never "-0".
 QString shortDecimal(double value, int decimals);
 
 } // namespace lumora

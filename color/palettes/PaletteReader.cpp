@@ -22,7 +22,7 @@ Failure refused(const QString &name, const QString &detail)
     return {FailureCode::NotReadable, name, detail};
 }
 
-/// Adds the color; a failure where it is not understood or one too many.
+/// Adds the color; fails if it is not understood or the palette is full.
 Outcome add(Palette &palette, const QString &color, const QString &value, const QString &file)
 {
     if (palette.size() == mostPaletteColors)
@@ -61,7 +61,7 @@ Result<Palette> readJson(const QJsonObject &object, const QString &name)
     Palette palette;
     for (const QJsonValue value : object.value("colors"_L1).toArray()) {
         const QJsonObject entry = value.toObject();
-        // The wide form says more than the clipped one beside it.
+        // The wide form is more exact than the clipped one beside it.
         const QString css = entry.value("css"_L1).toString();
         const QString color = css.isEmpty() ? entry.value("hex8"_L1).toString() : css;
         if (const Outcome added = add(palette, entry.value("name"_L1).toString(), color, name); !added)

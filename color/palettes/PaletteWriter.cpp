@@ -33,14 +33,14 @@ bool isPlain(QChar character)
     return character.isLetterOrNumber() || character == u'-' || character == u'_';
 }
 
-/// Gives each name once: the second "sky" is "sky-2".
+/// Makes names unique: the second "sky" becomes "sky-2".
 class DistinctNames
 {
 public:
     QString take(const QString &wanted)
     {
         QString name = wanted;
-        // File systems of the Mac take upper and lower case for the same.
+        // Some file systems, such as the Mac's, ignore case.
         for (int number = 2; m_taken.contains(name.toCaseFolded()); ++number)
             name = wanted + u'-' + QString::number(number);
         m_taken.insert(name.toCaseFolded());
@@ -51,7 +51,7 @@ private:
     QSet<QString> m_taken;
 };
 
-/// The name with "-" for what is neither letter nor digit; never empty, never beginning with a dot.
+/// The name with "-" in place of all characters except letters and digits; never empty, never beginning with a dot.
 QString plainName(const QString &name)
 {
     QString plain;

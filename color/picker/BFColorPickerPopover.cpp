@@ -185,7 +185,7 @@ void BFColorPickerPopover::setWindowOrigin(const QPointF &origin)
 {
     m_windowOrigin = origin;
     SFBPopoverWindow *window = m_balloon->popoverWindow();
-    // Elsewhere the window would have to be hidden for each step, which would end the drag.
+    // Otherwise each step would have to hide the window, which would end the drag.
     if (!window->platform().movesWhileShown)
         return;
     window->setFrameOrigin(origin);
@@ -209,7 +209,7 @@ void BFColorPickerPopover::tearOff()
     if (content == nullptr)
         return;
     colorPanel()->setContentRect(QRect(content->mapToGlobal(QPoint()), content->size()));
-    // The floating panel takes the balloon's place in the same instant; a fade would show both.
+    // The floating panel replaces the balloon at once; a fade would show both.
     const bool animated = std::exchange(m_animates, false);
     closeAndDeactivateColorWell(false, false, false);
     m_animates = animated;
@@ -245,7 +245,7 @@ void BFColorPickerPopover::panelColorChanged(const RgbaColor &color)
 
 void BFColorPickerPopover::balloonClosing()
 {
-    // It goes by itself: Escape, or the window below it is gone.
+    // It closed by itself: by Escape, or because its parent window was closed.
     if (m_shown)
         cancelOperation();
 }

@@ -19,9 +19,9 @@ class ColorWell;
 class EasedAnimation;
 class SFBPopover;
 
-/// Shows the shared color picker in a balloon beside a color well. It closes when the user goes on working in the
-/// well's window and stays when another program comes to the front; dragged off, it becomes the floating panel. Under
-/// Wayland it cannot follow the drag: only its arrow shows that it will come off, and the compositor places the panel.
+/// Shows the shared color picker in a balloon beside a color well. It closes when the user continues in the well's
+/// window, and stays when another program becomes active. Dragged away, it becomes the floating panel. Under Wayland it
+/// cannot follow the drag: only its arrow shows that it will be detached, and the compositor places the panel.
 class BFColorPickerPopover final : public QObject
 {
     Q_OBJECT
@@ -29,7 +29,7 @@ class BFColorPickerPopover final : public QObject
 public:
     using Action = std::function<void(BFColorPickerPopover *)>;
 
-    /// The program's only one, made when it is first asked for.
+    /// The program's only one, made at the first call.
     static BFColorPickerPopover *sharedPopover();
 
     BFColorPickerPopover();
@@ -38,7 +38,8 @@ public:
     /// The panel's color while the popover is shown.
     RgbaColor color() const;
     void setColor(const RgbaColor &color);
-    /// Who hears of each color picked here, and how. The action is not performed for a target that is gone.
+    /// The object that gets an action for each color that is picked here, and the action. It is not sent once the
+    /// target is deleted.
     QObject *target() const { return m_target; }
     const Action &action() const { return m_action; }
     void setTarget(QObject *target, Action action);
@@ -49,10 +50,10 @@ public:
 
     bool animates() const { return m_animates; }
     void setAnimates(bool animates) { m_animates = animates; }
-    /// True from the showing on until it begins to close.
+    /// True from when it is shown until it begins to close.
     bool isShown() const { return m_shown; }
 
-    /// Opens beside the rectangle of the view, on the edge where there is room, else on another.
+    /// Opens beside the rectangle of the view, on the edge if there is room, else on another.
     void showRelativeToRect(const QRect &rect, QWidget *ofView, Qt::Edge preferredEdge);
     void close();
     void closeWithoutAnimation();
@@ -61,18 +62,18 @@ public:
     void closeAndDeactivateColorWell(bool deactivate, bool removeTarget, bool removeObserver);
     void deactivateColorWell();
     void removeTargetAndAction();
-    /// Asked before the popover closes by itself; agrees, after letting go of well and target.
+    /// Called before the popover closes by itself. Releases the well and the target, and returns true.
     bool delegatePopoverShouldClose();
 
     /// The balloon's window origin, in points, y upwards.
     QPointF windowOrigin() const { return m_windowOrigin; }
     /// Moves the balloon at once.
     void setWindowOrigin(const QPointF &origin);
-    /// Moves the balloon back to where it points at the well.
+    /// Moves the balloon back to its place at the well.
     void animateWindowOriginTo(const QPointF &origin);
     bool shouldHideAnchor() const { return m_shouldHideAnchor; }
     void setShouldHideAnchor(bool hide);
-    /// Goes on in the floating panel, whose content takes the place where it is now.
+    /// Continues in the floating panel, with the content at the same place on screen.
     void tearOff();
 
     BFColorPickerViewController *contentViewController() const;

@@ -19,7 +19,7 @@ BFColorPickerPopoverView::BFColorPickerPopoverView(QWidget *parent) : QWidget(pa
 
 BFColorPickerPopoverView::~BFColorPickerPopoverView()
 {
-    // What is only borrowed must not go with the host.
+    // The content is only borrowed and must not be deleted with the host.
     if (m_colorPanelView && m_colorPanelView->parentWidget() == this)
         m_colorPanelView->setParent(nullptr);
 }
@@ -67,7 +67,7 @@ void BFColorPickerPopoverView::mouseMoveEvent(QMouseEvent *event)
     const QPointF origin = popover->windowOrigin();
     const QPointF mouseInWindow = flippedOnScreen(event->globalPosition()) - origin;
     popover->setWindowOrigin(origin + (mouseInWindow - m_originalMouseOffset));
-    // Judged by where the window was before this step, so that the arrow follows the drag by one step.
+    // Uses the window's position before this step, so that the arrow is one step behind the drag.
     popover->setShouldHideAnchor(tearsOff(dragDistance(m_originalWindowOrigin, origin)));
 }
 

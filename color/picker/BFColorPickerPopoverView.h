@@ -10,8 +10,8 @@ namespace lumora
 
 class PickerContent;
 
-/// The popover's background, 250 × 400 points. Dragged where no control is, it takes the popover along, and far enough
-/// away off the well.
+/// The popover's background, 250 × 400 points. A drag beside the controls moves the popover, and detaches it from the
+/// well when it is far enough away.
 class BFColorPickerPopoverView final : public QWidget
 {
     Q_OBJECT
@@ -20,15 +20,15 @@ public:
     explicit BFColorPickerPopoverView(QWidget *parent = nullptr);
     ~BFColorPickerPopoverView() override;
 
-    /// Where the popover's window was when the drag began, y upwards.
+    /// The position of the popover's window when the drag began, y upwards.
     QPointF originalWindowOrigin() const { return m_originalWindowOrigin; }
-    /// Where in the window the pointer went down.
+    /// The position of the press in the window.
     QPointF originalMouseOffset() const { return m_originalMouseOffset; }
     bool isDragging() const { return m_dragging; }
 
     /// Puts the tabs across the top.
     void setTabBar(QWidget *tabs);
-    /// Puts the picker below the strip of tabs. It stays the panel's: it does not go with the view.
+    /// Puts the picker below the strip of tabs. The panel still owns it.
     void setColorPanelView(PickerContent *content);
 
 protected:

@@ -13,13 +13,13 @@ class BFIconTabBar;
 class ColorPanel;
 class PickerContent;
 
-/// The popover's content: the shared panel's modes as tabs, below them the panel's content view, borrowed.
+/// The popover's content: the shared panel's modes as tabs, and below them the panel's content view, which it borrows.
 class BFColorPickerViewController final : public ViewController
 {
     Q_OBJECT
 
 public:
-    /// Takes the content over from the floating panel, which goes out of sight.
+    /// Takes the content from the floating panel, which is hidden.
     BFColorPickerViewController();
 
     ColorPanel *colorPanel() const { return m_colorPanel; }

@@ -80,7 +80,7 @@ void BFPopoverColorWell::mouseDoubleClickEvent(QMouseEvent *event)
 
 void BFPopoverColorWell::hideEvent(QHideEvent *event)
 {
-    // Nothing can be picked for a well that is out of sight; a floating panel stays for when it comes back.
+    // No color can be picked for a hidden well; a floating panel stays until the well is shown again.
     if (m_popover && m_popover->isShown() && m_popover->colorWell() == this)
         m_popover->closeWithoutAnimation();
     ColorWell::hideEvent(event);

@@ -20,10 +20,10 @@ class BFPopoverColorWell final : public ColorWell
 public:
     explicit BFPopoverColorWell(QWidget *parent = nullptr);
 
-    /// The side of the well on which the popover opens where there is room.
+    /// The side of the well on which the popover opens if there is room.
     Qt::Edge preferredEdgeForPopover() const { return m_preferredEdgeForPopover; }
     void setPreferredEdgeForPopover(Qt::Edge edge) { m_preferredEdgeForPopover = edge; }
-    /// Whether a floating panel that is on screen already serves the well, without any popover.
+    /// Whether the well uses the floating panel instead of a popover if the panel is on screen.
     bool useColorPanelIfAvailable() const { return m_useColorPanelIfAvailable; }
     void setUseColorPanelIfAvailable(bool use) { m_useColorPanelIfAvailable = use; }
     /// The popover while the well is active through it, else null.

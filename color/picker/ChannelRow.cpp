@@ -38,7 +38,7 @@ QString suffix(ColorChannel channel)
     }
 }
 
-/// Points that the longest of all names needs, so that every slider begins at the same place.
+/// The width of the longest of all names, in points, so that every slider begins at the same place.
 int labelWidth()
 {
     const QFontMetrics font(latoRegular(fontSize));
@@ -87,7 +87,7 @@ ChannelRow::ChannelRow(ColorChannel channel, PickerModel *model, QWidget *parent
 
 ChannelRow::~ChannelRow()
 {
-    // A number that goes while it has the focus reports what was being typed.
+    // A number field that is deleted while it has the focus reports its unfinished text.
     m_number->disconnect(this);
 }
 
@@ -118,7 +118,7 @@ void ChannelRow::showPicked()
 {
     const int number = channelNumber(m_model->picked(), m_channel);
     m_slider->setStops(channelStops(m_model->picked(), m_channel));
-    // What is only shown is not taken back: a color between two numbers stays where it is.
+    // A number that was only displayed is not read back: a color between two numbers does not change.
     const QSignalBlocker sliderBlocker(m_slider);
     const QSignalBlocker numberBlocker(m_number);
     m_slider->setValue(number);

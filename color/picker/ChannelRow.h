@@ -13,13 +13,14 @@ namespace lumora
 class ColorSlider;
 class PickerModel;
 
-/// One channel of the picked color: its name, a slider and its number, all three kept in step with the model.
+/// One channel of the picked color: its name, a slider and its number. Slider and number follow the model and change
+/// it.
 class ChannelRow final : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// The model has to outlive the row.
+    /// The model must outlive the row.
     ChannelRow(ColorChannel channel, PickerModel *model, QWidget *parent = nullptr);
     ~ChannelRow() override;
 
@@ -27,7 +28,7 @@ public:
     ColorSlider *slider() const { return m_slider; }
     QSpinBox *number() const { return m_number; }
 
-    /// What the channel is called.
+    /// The name of the channel.
     static QString name(ColorChannel channel);
 
 private:

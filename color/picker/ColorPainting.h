@@ -10,14 +10,14 @@ class QPainter;
 namespace lumora
 {
 
-/// Fills the rounded rectangle with the pattern that marks what is not opaque.
+/// Fills the rounded rectangle with the pattern that marks translucent colors.
 void paintTransparencyPattern(QPainter &painter, const QRectF &rect, qreal corner);
-/// Fills the rounded rectangle with the color, over the pattern where it is not opaque, with a thin outline that keeps
-/// white visible on white.
+/// Fills the rounded rectangle with the color, over the pattern if it is translucent, and draws a thin outline so that
+/// white shows on white.
 void paintSwatch(QPainter &painter, const QRectF &rect, const RgbaColor &color, qreal corner);
-/// A ring that can be seen on every color: white, with a dark edge on both sides.
+/// Draws a ring that shows on every color: white, with a dark edge on both sides.
 void paintMarker(QPainter &painter, const QRectF &rect);
-/// What shows the keyboard's place: around the rectangle, outside it.
+/// Draws the focus ring around the rectangle.
 void paintFocusRing(QPainter &painter, const QRectF &rect, qreal corner);
 
 } // namespace lumora

@@ -80,7 +80,7 @@ ColorPanel::ColorPanel(QWidget *parent) : QWidget(parent, Qt::Tool), m_contentVi
 
 ColorPanel::~ColorPanel()
 {
-    // The content may be in the popover just now; it is this panel's all the same.
+    // The content may be in the popover, but this panel owns it.
     delete m_contentView;
 }
 
@@ -146,7 +146,7 @@ void ColorPanel::rememberColor()
 
 void ColorPanel::takePicked(const RgbaColor &color)
 {
-    // While the recent colors are open the newest of them follows what is picked; one that stands there already stays
+    // While the recent colors are open, the newest of them follows the pick; a color that is already in the list stays
     // in its place.
     const std::vector<RgbaColor> &known = (m_recentBefore ? *m_recentBefore : m_recent).colors();
     if (mode() == PickerMode::Recent && color != m_givenColor &&
@@ -188,13 +188,13 @@ void ColorPanel::closeEvent(QCloseEvent *event)
 {
     rememberColor();
     QWidget::closeEvent(event);
-    // A well that stayed active would be one that nobody can pick for, and its next click would be lost.
+    // No color could be picked for a well that stayed active, and its next click would be lost.
     ColorWell::deactivateAll();
 }
 
 bool ColorPanel::event(QEvent *event)
 {
-    // The key that closes a window closes this one here, before the main window's command takes it.
+    // The shortcut that closes a window closes this one, before the main window's command gets it.
     if (event->type() == QEvent::ShortcutOverride && static_cast<QKeyEvent *>(event)->matches(QKeySequence::Close))
         event->accept();
     return QWidget::event(event);

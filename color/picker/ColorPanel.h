@@ -17,8 +17,8 @@ namespace lumora
 class BFIconTabBar;
 class PickerContent;
 
-/// The color picker of the whole program, and the floating window that is one of its two hosts. The other is the
-/// popover, which borrows the content view; the window shows itself only with the content back in it.
+/// The color picker of the whole program, and the floating window that is one of its two hosts. The other host is the
+/// popover, which borrows the content view; the window is shown only when it has the content back.
 class ColorPanel final : public QWidget
 {
     Q_OBJECT
@@ -32,11 +32,11 @@ public:
         std::function<void(ColorPanel &)> action;
     };
 
-    /// Made when it is first asked for, and gone with the application.
+    /// Made at the first call, and deleted with the application.
     static ColorPanel *sharedColorPanel();
     static bool sharedColorPanelExists();
 
-    /// While the panel is disabled it does not show itself.
+    /// A disabled panel is never shown.
     static void disablePanel();
     static void enablePanel();
     static bool isPanelDisabled();
@@ -58,19 +58,19 @@ public:
     void setMode(PickerMode mode);
     PickerMode mode() const;
 
-    /// The picker without its host. Null only while the application goes down.
+    /// The picker without its host. Null only while the application ends.
     PickerContent *contentView() const;
-    /// The content is in this window, not in a popover.
+    /// Whether the content is in this window, not in a popover.
     bool hostsContentView() const;
     const RecentColors &recentColors() const { return m_recent; }
-    /// Puts the color among the recent ones if it was picked since the program last set one.
+    /// Adds the color to the recent ones if it was picked after the program last set one.
     void rememberColor();
 
-    /// Gives the window the frame with which its content lies exactly on the rectangle, in screen coordinates.
+    /// Sets the window's frame so that its content is exactly at the rectangle, in screen coordinates.
     void setContentRect(const QRect &rect);
     /// Takes the content view back from the popover and shows the window, unless the panel is disabled.
     void orderFront(QWidget *above = nullptr);
-    /// Hides the window without a word to anybody.
+    /// Hides the window without notifying anything.
     void orderOut();
 
 signals:
@@ -92,7 +92,7 @@ private:
     BFIconTabBar *m_toolbar = nullptr;
     QPointer<PickerContent> m_contentView;
     RecentColors m_recent;
-    /// The recent colors as they were before the pick that is going on, while they are shown.
+    /// The recent colors before the current pick, while they are shown.
     std::optional<RecentColors> m_recentBefore;
     RgbaColor m_givenColor = m_model.color();
 };

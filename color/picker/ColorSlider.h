@@ -9,8 +9,8 @@
 namespace lumora
 {
 
-/// A horizontal slider whose track shows the colors that its positions stand for. A press anywhere on it takes the
-/// knob there. Keyboard and screen reader work as with any slider of the platform.
+/// A horizontal slider whose track shows the colors of its positions. A press anywhere on it moves the knob there.
+/// Keyboard and screen reader work as with any slider of the platform.
 class ColorSlider final : public QSlider
 {
     Q_OBJECT
@@ -18,9 +18,9 @@ class ColorSlider final : public QSlider
 public:
     explicit ColorSlider(QWidget *parent = nullptr);
 
-    /// The track's colors from the smallest to the largest value; what is not opaque lies over a pattern.
+    /// The track's colors from the smallest to the largest value; translucent ones are drawn over a pattern.
     void setStops(const QGradientStops &stops);
-    /// The knob's middle for the current value.
+    /// The middle of the knob at the current value.
     QPointF knobCenter() const;
 
     QSize sizeHint() const override;

@@ -19,7 +19,7 @@ namespace lumora
 namespace
 {
 
-/// What the whole program's wells have in common.
+/// The state that all wells of the program share.
 struct Wells
 {
     QList<ColorWell *> active;
@@ -34,14 +34,14 @@ Wells &wells()
 
 constexpr qreal frameWidth = 2;
 constexpr QSize preferredSize(90, 44);
-/// Only there to differ from every color that anybody picks.
+/// An unlikely color, so that it differs from picked ones.
 constexpr RgbaColor hiddenWellColor{1.0F / 255.0F, 2.0F / 255.0F, 3.0F / 255.0F, 1.0F};
 
 } // namespace
 
 ColorWell::ColorWell(QWidget *parent) : PaintedButton(QAccessible::ColorChooser, parent)
 {
-    // By key and by screen reader; the pointer acts on going down, as a well does.
+    // For keys and screen readers; the pointer activates a well when it is pressed, not released.
     connect(this, &QAbstractButton::clicked, this, [this] { performActivationClickWithShiftDown(false); });
     describeColor();
 }
@@ -58,7 +58,7 @@ void ColorWell::setColor(const RgbaColor &color)
     m_color = color;
     describeColor();
     update();
-    // The picker goes on from the color that its well shows.
+    // The picker starts from its well's color.
     if (m_active && !m_takesPicked) {
         const QScopedValueRollback telling(m_tellsPicker, true);
         ColorPanel::sharedColorPanel()->setColor(color);
@@ -67,7 +67,7 @@ void ColorWell::setColor(const RgbaColor &color)
 
 void ColorWell::describeColor()
 {
-    // Painted only: a screen reader needs it in words.
+    // The color is only painted; a screen reader needs a text.
     setAccessibleDescription(stringFromColor(m_color));
 }
 
@@ -88,11 +88,11 @@ void ColorWell::deactivateAll()
     ColorPanel::disablePanel();
     auto hidden = std::make_unique<ColorWell>();
     hidden->setColor(hiddenWellColor);
-    // Only the exclusiveness is wanted: the panel keeps its color.
+    // Only deactivates the others: the panel keeps its color.
     hidden->joinActiveWells(true);
     hidden->deactivate();
     wells().hidden = std::move(hidden);
-    // Gone before the application's last widgets are.
+    // Null once the panel is deleted, before the application's last widgets.
     static const bool cleared = [] {
         qAddPostRoutine([] { wells().hidden.reset(); });
         return true;
@@ -195,7 +195,7 @@ void ColorWell::mousePressEvent(QMouseEvent *event)
 
 void ColorWell::mouseReleaseEvent(QMouseEvent *event)
 {
-    // The press did it all.
+    // The press has already done everything.
     event->accept();
 }
 

@@ -7,8 +7,8 @@
 namespace lumora
 {
 
-/// Shows a color and, while it is active, takes each one that is picked in the shared color panel. Several wells can
-/// be active together; activating one exclusively makes the others inactive.
+/// Shows a color and, while it is active, takes each color that is picked in the shared panel. Several wells can be
+/// active at once; activating one exclusively makes the others inactive.
 class ColorWell : public PaintedButton
 {
     Q_OBJECT
@@ -19,31 +19,31 @@ public:
     ~ColorWell() override;
 
     const RgbaColor &color() const { return m_color; }
-    /// Sends no action: only picking does. While the well is active the picker shows the color, too.
+    /// Sends no action, as only picking does. While the well is active, the picker shows the color, too.
     void setColor(const RgbaColor &color);
 
     bool isActive() const override { return m_active; }
-    /// Connects the well to the shared color panel, which takes its color and shows itself.
+    /// Connects the well to the shared color panel, which takes the well's color and is shown.
     virtual void activate(bool exclusive);
     virtual void deactivate();
 
-    /// Makes whichever well is active inactive.
+    /// Makes every active well inactive.
     static void deactivateAll();
     /// The well that the last `deactivateAll` made for its purpose; null before the first.
     static ColorWell *hiddenWell();
 
-    /// What a click on the well does: an active one becomes inactive, another becomes active and, without Shift, the
-    /// only one.
+    /// The action of a click: an active well becomes inactive; an inactive one becomes active, and without Shift the
+    /// only active one.
     void performActivationClickWithShiftDown(bool shiftDown);
 
     QSize sizeHint() const override;
 
 signals:
-    /// The user picked a color while the well was active; it has taken it.
+    /// The user picked a color while the well was active; the well already has it.
     void colorPicked(lumora::ColorWell *sender);
 
 protected:
-    /// Becomes active as every well does: among the active ones, served by the panel.
+    /// Becomes active in the ordinary way: as one of the active wells, with the panel.
     void activateAsOrdinaryWell(bool exclusive);
     void deactivateAsOrdinaryWell();
 

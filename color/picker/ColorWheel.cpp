@@ -101,7 +101,7 @@ void ColorWheel::resizeEvent(QResizeEvent *event)
 
 void ColorWheel::mousePressEvent(QMouseEvent *event)
 {
-    // Beside the disc the press is the window's: the picker can be dragged there.
+    // A press beside the disc is for the window: the picker can be dragged there.
     if (event->button() != Qt::LeftButton || !geometryOfWheel().contains(event->position())) {
         event->ignore();
         return;
@@ -160,7 +160,7 @@ void ColorWheel::pick(const QPointF &point)
 {
     const WheelPosition position = geometryOfWheel().positionAt(point);
     HsbColor hsb = m_model->picked().hsb;
-    // The very middle has every hue; the one picked before is kept.
+    // The exact middle has no hue; the previous one is kept.
     if (position.saturation > 0.0F)
         hsb.hue = position.hue;
     hsb.saturation = position.saturation;

@@ -12,21 +12,21 @@
 namespace lumora
 {
 
-/// The disc of hues and saturations at the picked brightness, with a ring on the picked one. Clicking and dragging
-/// pick; with the keyboard, left and right turn the hue by a degree, up and down change the saturation by one percent,
-/// ten times as much with Shift.
+/// The disc of hues and saturations at the picked brightness, with a ring at the picked color. Clicking and dragging
+/// pick. On the keyboard, left and right turn the hue by a degree, and up and down change the saturation by one
+/// percent; with Shift, ten times as much.
 class ColorWheel final : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// The model has to outlive the wheel.
+    /// The model must outlive the wheel.
     explicit ColorWheel(PickerModel *model, QWidget *parent = nullptr);
 
     PickerModel *model() const { return m_model; }
-    /// Where the ring's centre is.
+    /// The center of the ring.
     QPointF markerCenter() const;
-    /// The value in words, as a screen reader reads it.
+    /// The value in words, for screen readers.
     QString valueText() const;
 
     QSize sizeHint() const override;
@@ -48,8 +48,8 @@ private:
     const QImage &disc() const;
 
     PickerModel *m_model;
-    /// The fully bright disc, drawn once for a size and scale factor; dimming it is exact, since brightness scales
-    /// every component alike.
+    /// The fully bright disc, drawn once for each size and scale factor. Dimming it is exact, since brightness scales
+    /// every component by the same factor.
     mutable QImage m_disc;
     KeyboardFocus m_keyboardFocus;
     bool m_dragging = false;

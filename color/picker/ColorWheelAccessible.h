@@ -8,8 +8,8 @@ namespace lumora
 
 class ColorWheel;
 
-/// The color wheel for a screen reader: a dial whose value is the hue in degrees, with hue and saturation in words as
-/// its description.
+/// Presents the color wheel to screen readers: a dial whose value is the hue in degrees, with hue and saturation in
+/// words as its description.
 class ColorWheelAccessible final : public QAccessibleWidget, public QAccessibleValueInterface
 {
 public:

@@ -66,7 +66,7 @@ PickerContent::PickerContent(PickerModel *model, QWidget *parent)
 
     setPipette(makeScreenPipette());
     connect(m_model, &PickerModel::pickedChanged, this, &PickerContent::showPicked);
-    // Not only textEdited: what assistive technology writes into the field has been typed, too.
+    // Not only textEdited: text from assistive technology counts as typed, too.
     connect(m_code, &QLineEdit::textChanged, this, [this](const QString &text) {
         if (!m_setsCode)
             codeEdited(text);
@@ -80,7 +80,7 @@ PickerContent::PickerContent(PickerModel *model, QWidget *parent)
 
 PickerContent::~PickerContent()
 {
-    // A field that goes while it has the focus says that editing is finished.
+    // A field that is deleted while it has the focus reports that editing is finished.
     m_code->disconnect(this);
 }
 
@@ -146,7 +146,8 @@ void PickerContent::putBehindInTabOrder(const QWidget *page)
         return (control->focusPolicy() & Qt::TabFocus) != 0 && control->focusProxy() == nullptr &&
                control->window() == window();
     });
-    // From the last to the first: what already comes next, even around the end of the chain, would not be moved.
+    // From the last to the first, since setTabOrder() moves no widget that already comes next, even around the end of
+    // the chain.
     for (QWidget *control :
          std::initializer_list<QWidget *>{m_pipetteButton, m_code, m_opacity->number(), m_opacity->slider()})
         setTabOrder(*last, control);
@@ -181,7 +182,7 @@ void PickerContent::setPipette(std::unique_ptr<Pipette> pipette)
 void PickerContent::showPicked()
 {
     m_swatch->setColor(m_model->color());
-    // While a code is being typed it stands as typed; the color follows it, not the other way round.
+    // While a code is being typed, the color follows it and does not change it.
     if (!m_code->hasFocus() || !m_code->isModified())
         codeFinished();
 }
@@ -226,7 +227,7 @@ void PickerContent::pickFromScreen()
 void PickerContent::endPicking()
 {
     m_pipetteButton->setEnabled(true);
-    // A disabled button hands the focus on.
+    // A disabled button would pass the focus on.
     if (m_pipetteHadFocus)
         m_pipetteButton->setFocus();
 }

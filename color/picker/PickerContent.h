@@ -21,42 +21,42 @@ class PickerModel;
 class Pipette;
 class SwatchWidget;
 
-/// The picker itself, without a host: the page of the mode, below it the opacity, the color with its code, and the
-/// pipette. It fills whatever it is put into.
+/// The picker itself, without a host: the page of the mode, and below it the opacity, the color with its code, and the
+/// pipette. It fills its parent.
 class PickerContent final : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// The model has to outlive the content.
+    /// The model must outlive the content.
     explicit PickerContent(PickerModel *model, QWidget *parent = nullptr);
     ~PickerContent() override;
 
     PickerMode mode() const { return m_mode; }
     void setMode(PickerMode mode);
-    /// The page of a mode, made when it is first asked for.
+    /// The page of a mode, made at the first call.
     QWidget *page(PickerMode mode);
 
     bool showsAlpha() const;
     void setShowsAlpha(bool shows);
     void setRecentColors(const RecentColors &recent);
-    /// Replaces what picks from the screen.
+    /// Replaces the pipette that picks from the screen.
     void setPipette(std::unique_ptr<Pipette> pipette);
 
     ChannelRow *opacityRow() const { return m_opacity; }
     QLineEdit *codeField() const { return m_code; }
     QToolButton *pipetteButton() const { return m_pipetteButton; }
-    /// Says that the screen could not be read; hidden as long as nothing went wrong.
+    /// Reports that the screen could not be read; hidden without an error.
     QLabel *complaint() const { return m_complaint; }
 
 private:
     QLayout *makeCodeRow();
-    /// Lets Tab come to what every mode has after the page, which stands above but is made later.
+    /// Makes Tab go from the page to the controls of all modes; the page is above them but made later.
     void putBehindInTabOrder(const QWidget *page);
     void showPicked();
     void codeEdited(const QString &text);
     void codeFinished();
-    /// Sets the text without taking it for typed.
+    /// Sets the text without counting it as typed.
     void setCodeText(const QString &text);
     void pickFromScreen();
     void screenFailed();

@@ -6,7 +6,7 @@
 namespace lumora::metrics
 {
 
-/// Points. The popover's view and the strip of tabs along its top; the picker fills what is below.
+/// In points: the popover's view and the strip of tabs at its top; the picker fills the rest.
 inline constexpr QSize pickerSize(250, 400);
 inline constexpr int pickerTabBarHeight = 34;
 inline constexpr int pickerMargin = 12;
@@ -22,11 +22,11 @@ inline constexpr int pickerFieldHeight = 24;
 inline constexpr int wheelMarker = 14;
 inline constexpr int wheelMargin = wheelMarker / 2 + 2;
 
-/// Ten in a row, beside a scroll bar too.
+/// Ten fit in a row, also beside a scroll bar.
 inline constexpr int swatch = 19;
 inline constexpr int swatchCell = swatch + 2;
 inline constexpr int swatchCorner = 4;
-/// One square of the pattern that shows through what is not opaque.
+/// One square of the pattern behind translucent colors.
 inline constexpr int transparencySquare = 5;
 
 } // namespace lumora::metrics

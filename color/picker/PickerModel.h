@@ -22,7 +22,7 @@ public:
     void setPicked(const PickedColor &picked);
 
 signals:
-    /// Something shown has changed, if only the hue of a gray.
+    /// A displayed value has changed, at least the hue of a gray.
     void pickedChanged();
     /// The color itself has changed.
     void colorChanged(const lumora::RgbaColor &color);

@@ -26,7 +26,7 @@ namespace
 
 constexpr int fontSize = 12;
 
-/// As flat as the fields below it, with the arrow of the other tools' boxes.
+/// Flat like the fields below it, with the arrow of the other tools' boxes.
 const auto flatComboBox = uR"(
     QComboBox { background: palette(base); border: 1px solid palette(mid); border-radius: 3px; padding: 3px 6px; }
     QComboBox:focus { border: 2px solid palette(highlight); padding: 2px 5px; }

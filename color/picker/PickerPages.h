@@ -41,7 +41,7 @@ class SlidersPage final : public QWidget
 public:
     explicit SlidersPage(PickerModel *model, QWidget *parent = nullptr);
 
-    /// What chooses between the three kinds.
+    /// Chooses between the three kinds.
     QComboBox *kind() const { return m_kind; }
 
 private:

@@ -8,8 +8,8 @@
 namespace lumora
 {
 
-/// The one object of its kind that the whole program shares: made at first use and deleted with the application, while
-/// widgets may still be deleted; null from then on. One per type; main thread only.
+/// The one object of its type that the whole program shares: made at first use and deleted with the application, while
+/// widgets can still be deleted; null from then on. Main thread only.
 template <typename Object> class SharedInstance
 {
 public:

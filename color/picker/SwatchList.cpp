@@ -93,7 +93,7 @@ SwatchList::SwatchList(QWidget *parent) : QListView(parent), m_model(new SwatchM
     setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     setFrameShape(QFrame::NoFrame);
     viewport()->setAutoFillBackground(false);
-    // Pointer, arrow keys and assistive technology all select; what the list merely shows is not chosen.
+    // Pointer, arrow keys and assistive technology select; a swatch that the program marks is not chosen.
     connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, [this](const QItemSelection &selected) {
         if (!m_showing && !selected.isEmpty())
             choose(selected.indexes().constFirst());
@@ -140,7 +140,7 @@ int SwatchList::heightForWidth(int width) const
 
 void SwatchList::keyPressEvent(QKeyEvent *event)
 {
-    // The swatch that Tab came to is current, but not selected.
+    // The swatch that gets the focus by Tab is current, but not selected.
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_Space)
         choose(currentIndex());
     else

@@ -9,7 +9,7 @@
 namespace lumora
 {
 
-/// A row of named colors for a list of swatches.
+/// A model of named colors for a list of swatches.
 class SwatchModel final : public QAbstractListModel
 {
     Q_OBJECT
@@ -19,11 +19,11 @@ public:
 
     void setColors(std::vector<NamedColor> colors);
     const NamedColor &at(const QModelIndex &index) const { return m_colors[static_cast<std::size_t>(index.row())]; }
-    /// The first swatch of the color's text, an invalid index where there is none.
+    /// The first swatch with the color's text; an invalid index if there is none.
     QModelIndex indexOf(const RgbaColor &color) const;
 
     int rowCount(const QModelIndex &parent = {}) const override;
-    /// Name and code as tool tip and for screen readers; nothing to display, since the swatch is painted.
+    /// Name and code as tool tip and for screen readers; no display text, since the swatch is painted.
     QVariant data(const QModelIndex &index, int role) const override;
 
 private:
@@ -41,9 +41,9 @@ public:
 
     void setColors(std::vector<NamedColor> colors);
     const SwatchModel &swatches() const { return *m_model; }
-    /// Marks the swatch of the color, none where there is none, without choosing it.
+    /// Marks the swatch of the color, if there is one, without choosing it.
     void showColor(const RgbaColor &color);
-    /// The list takes the height of all its rows instead of scrolling.
+    /// Makes the list as high as all its rows, without scrolling.
     void setGrowsWithContent(bool grows);
 
     QSize sizeHint() const override;

@@ -6,8 +6,7 @@
 namespace lumora
 {
 
-/// The colors that the program itself is made of, named after what they color: each tool's color and its darker
-/// shade, then text, panels and rules.
+/// The program's own colors, named for their use: each tool's color and its darker shade, then text, panels and rules.
 std::vector<NamedColor> toolPalette();
 
 } // namespace lumora

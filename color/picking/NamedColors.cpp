@@ -16,7 +16,7 @@ namespace lumora
 namespace
 {
 
-/// Hues that the eye takes for one family stand together, however light or dark.
+/// Hues that look like one family are together, however light or dark.
 constexpr float hueFamilies = 12.0F;
 constexpr float graySaturation = 0.08F;
 

@@ -10,7 +10,7 @@
 namespace lumora
 {
 
-/// A color with the name it goes by.
+/// A color and its name.
 struct NamedColor
 {
     QString name;
@@ -18,8 +18,8 @@ struct NamedColor
 };
 
 /// The named colors of the web, grays first, then around the wheel, each hue from light to dark. Names and values are
-/// those of SVG 1.0, as Qt carries them, and `rebeccapurple`, which CSS Color Module Level 4 added. Of names for one
-/// color (aqua and cyan, gray and gray) the first in the alphabet stands.
+/// those of SVG 1.0, as Qt carries them, and `rebeccapurple`, which CSS Color Module Level 4 added. If a color has
+/// several names (aqua and cyan), the list has the first in the alphabet.
 std::vector<NamedColor> webColors();
 
 } // namespace lumora

@@ -16,7 +16,7 @@ constexpr int byteMaximum = 255;
 constexpr int percentMaximum = 100;
 constexpr int degreeMaximum = 359;
 
-/// How light a color looks in black and white: the luma weights of ITU-R BT.601.
+/// The lightness of a color in black and white, by the luma weights of ITU-R BT.601.
 float grayOf(const RgbaColor &color)
 {
     return 0.299F * color.red + 0.587F * color.green + 0.114F * color.blue;
@@ -123,7 +123,7 @@ PickedColor withChannel(const PickedColor &before, ColorChannel channel, int num
 QGradientStops channelStops(const PickedColor &color, ColorChannel channel)
 {
     const PickedColor opaque = withOpacity(color, channel == ColorChannel::Opacity ? color.rgba.alpha : 1.0F);
-    // Only the hue's colors do not lie on the straight line between the two ends.
+    // Only the hue's colors are not on the straight line between the two ends.
     const int steps = channel == ColorChannel::Hue ? 6 : 1;
     QGradientStops stops;
     for (int step = 0; step <= steps; ++step) {

@@ -12,12 +12,12 @@ namespace lumora
 class RecentColors
 {
 public:
-    /// As many as are remembered: what the picker shows without scrolling.
+    /// The number of colors that are remembered: as many as the picker shows without scrolling.
     static constexpr std::size_t capacity = 40;
 
     const std::vector<RgbaColor> &colors() const { return m_colors; }
-    /// Puts the color in front; one that shows the same bytes moves there instead of standing twice. The oldest go
-    /// when there are too many.
+    /// Puts the color in front; if a color with the same bytes is in the list, it moves to the front instead. Drops the
+    /// oldest when there are too many.
     void add(const RgbaColor &color);
 
 private:

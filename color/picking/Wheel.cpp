@@ -14,8 +14,8 @@ namespace
 constexpr qreal fullTurn = 2 * std::numbers::pi;
 constexpr float sectors = 6.0F;
 
-/// One component of a fully bright color, as a byte: a trapezium over the six sectors of the wheel, `shift` of them
-/// turned.
+/// One component of a fully bright color, as a byte: a trapezoid over the six sectors of the wheel, turned by `shift`
+/// sectors.
 int componentAt(float sector, float shift, float saturation)
 {
     float turned = sector + shift;
@@ -24,8 +24,8 @@ int componentAt(float sector, float shift, float saturation)
     return static_cast<int>((1.0F - saturation * chroma) * 255.0F + 0.5F);
 }
 
-/// The pixel at an offset from the middle, in pixels, y downwards. The same as taking the place on the wheel and its
-/// color one by one, but faster: the picker's first frame waits for some 50 000 of them.
+/// The pixel at an offset from the middle, in pixels, y downwards. Gives the same color as computing the place on the
+/// wheel first, but faster: the picker's first frame needs about 50,000 of them.
 QRgb pixelAt(float x, float y, float radius)
 {
     const float distance = std::sqrt(x * x + y * y);

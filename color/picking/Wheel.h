@@ -19,14 +19,14 @@ struct WheelPosition
 class WheelGeometry
 {
 public:
-    /// The largest disc that fits with the margin around it; empty where none does.
+    /// The largest disc that fits with the margin around it; empty if none fits.
     explicit WheelGeometry(const QRectF &bounds, qreal margin = 0);
 
     QPointF center() const { return m_center; }
     qreal radius() const { return m_radius; }
     QRectF disc() const;
 
-    /// What is at the point; beyond the rim, what is on the rim in that direction.
+    /// The place at the point; beyond the rim, the place on the rim in that direction.
     WheelPosition positionAt(const QPointF &point) const;
     QPointF pointAt(const WheelPosition &position) const;
     bool contains(const QPointF &point) const;
@@ -36,8 +36,8 @@ private:
     qreal m_radius = 0;
 };
 
-/// The fully bright color wheel of a radius in points for a screen of the scale factor, its rim smoothed, around it
-/// nothing. Its size is the disc's, rounded up to whole pixels.
+/// The fully bright color wheel of a radius in points for a screen of the scale factor, with a smooth rim and
+/// transparent around it. Its size is the disc's, rounded up to whole pixels.
 QImage wheelImage(qreal radius, qreal devicePixelRatio);
 
 } // namespace lumora

@@ -8,7 +8,7 @@ namespace lumora
 namespace
 {
 
-/// Asks the portal first: it works on every kind of desktop and shows what the user is used to.
+/// Tries the portal first: it works on every kind of desktop, with a picker that the user knows.
 class ScreenPipette final : public Pipette
 {
 public:
@@ -19,7 +19,7 @@ public:
     }
 
 private:
-    /// Made with the first pick: the bus is not joined for a picker that only opens.
+    /// Made at the first pick, so that merely opening the picker does not connect to the bus.
     PortalPipette *portal()
     {
         if (m_portal == nullptr) {

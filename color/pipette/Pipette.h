@@ -20,18 +20,18 @@ class Pipette : public QObject
 public:
     using QObject::QObject;
 
-    /// Lets the user point at a color; the window is the one that asks.
+    /// Lets the user point at a color, on behalf of the window.
     virtual void pick(QWidget *window) = 0;
 
 signals:
     void picked(const lumora::RgbaColor &color);
-    /// The user changed their mind.
+    /// The user canceled.
     void canceled();
-    /// The system has no way to do it, or refused.
+    /// The system cannot pick colors, or refused.
     void failed();
 };
 
-/// The desktop's own color picker where its portal offers one, else X11's way of reading the screen.
+/// The desktop's own color picker if its portal offers one, else reading the screen under X11.
 std::unique_ptr<Pipette> makeScreenPipette();
 
 } // namespace lumora

@@ -22,10 +22,10 @@ constexpr auto screenshot = "org.freedesktop.portal.Screenshot"_L1;
 constexpr auto requestInterface = "org.freedesktop.portal.Request"_L1;
 constexpr auto properties = "org.freedesktop.DBus.Properties"_L1;
 constexpr uint firstVersionWithPickColor = 2;
-/// Starting a portal takes a moment; nobody wants to wait for one that hangs.
+/// Starting a portal takes a moment; the limit is for a portal that hangs.
 constexpr int patienceMilliseconds = 5000;
 
-/// Three numbers from 0 to 1 in a structure; nothing where the portal answered something else.
+/// Reads a structure of three numbers from 0 to 1; empty if the portal answered something else.
 bool readColor(const QVariant &value, RgbaColor &color)
 {
     if (!value.canConvert<QDBusArgument>())
@@ -43,7 +43,7 @@ bool readColor(const QVariant &value, RgbaColor &color)
     return true;
 }
 
-/// How portals name the window that asks: known for X11 only.
+/// The portal's name for the calling window; known for X11 only.
 QString parentName(const QWidget *window)
 {
     if (window == nullptr || qEnvironmentVariable("XDG_SESSION_TYPE") == u"wayland")
@@ -85,8 +85,8 @@ void PortalPipette::answered(QDBusPendingCallWatcher *call)
 
 void PortalPipette::request()
 {
-    // The answer comes as a signal of an object whose path follows from the caller's name and the token; listening
-    // before asking is the only way not to miss it.
+    // The answer is a signal of an object whose path follows from the caller's name and the token. The connection must
+    // be made before the call, or the signal may be missed.
     const QString token = u"lumora"_s + QString::number(++m_requests);
     QString sender = m_bus.baseService().mid(1);
     listenTo(u"/org/freedesktop/portal/desktop/request/"_s + sender.replace(u'.', u'_') + u'/' + token);
@@ -122,7 +122,7 @@ void PortalPipette::listenTo(const QString &requestPath)
 void PortalPipette::requested(QDBusPendingCallWatcher *call)
 {
     call->deleteLater();
-    // Answered, or the portal gone, before the call returned.
+    // The portal has answered, or has left the bus, before the call returned.
     if (m_requestPath.isEmpty())
         return;
     const QDBusPendingReply<QDBusObjectPath> reply = *call;

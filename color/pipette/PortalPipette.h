@@ -23,12 +23,12 @@ class PortalPipette final : public Pipette
 public:
     explicit PortalPipette(QDBusConnection bus, QObject *parent = nullptr);
 
-    /// Asks the bus for a portal first, which starts one where that is possible; nothing waits for its answer. A portal
-    /// that leaves the bus before the user has picked has failed.
+    /// First asks the bus for a portal, which starts one if possible. Does not block. Fails if the portal leaves the
+    /// bus before the user has picked.
     void pick(QWidget *window) override;
 
 signals:
-    /// No portal on the bus can pick colors. Ends the pick instead of one of the other signals.
+    /// No portal on the bus can pick colors. Sent instead of one of the other signals.
     void unavailable();
 
 private slots:

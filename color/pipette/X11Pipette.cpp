@@ -16,7 +16,7 @@ namespace lumora
 namespace
 {
 
-/// Points that an arrow key takes the pointer with Shift.
+/// The distance that Shift and an arrow key move the pointer, in points.
 constexpr int largeStep = 10;
 
 } // namespace

@@ -9,9 +9,9 @@
 namespace lumora
 {
 
-/// Reads the screen itself, which X11 allows: grabs pointer and keyboard, takes the color under the pointer at the
-/// next click; Escape or another button changes the mind. With the keyboard, the arrows move the pointer by a point, by
-/// ten with Shift, and Return or Space picks.
+/// Reads the screen itself, which X11 allows: grabs pointer and keyboard and takes the color under the pointer at the
+/// next click; Escape or another mouse button cancels. On the keyboard, the arrows move the pointer by a point, with
+/// Shift by ten, and Return or Space picks.
 class X11Pipette final : public Pipette
 {
     Q_OBJECT
@@ -19,7 +19,7 @@ class X11Pipette final : public Pipette
 public:
     using Pipette::Pipette;
 
-    /// Whether the program runs under X11, which also lets it read what is not its own.
+    /// Whether the program runs under X11, which lets it read other programs' windows.
     static bool isAvailable();
     void pick(QWidget *window) override;
 

@@ -17,7 +17,7 @@ constexpr ColorVector multiplied(const ColorMatrix &matrix, const ColorVector &v
     return result;
 }
 
-/// The inverse of a matrix that has one.
+/// The inverse of an invertible matrix.
 constexpr ColorMatrix inverted(const ColorMatrix &m)
 {
     const auto cofactor = [&m](std::size_t row, std::size_t column) {
@@ -43,7 +43,8 @@ struct Chromaticity
     double y;
 };
 
-/// What takes linear components to CIE XYZ, out of the space's three primaries and its white, which has Y = 1.
+/// The matrix from linear components to CIE XYZ, computed from the space's three primaries and its white, which has Y =
+/// 1.
 constexpr ColorMatrix xyzMatrix(const std::array<Chromaticity, 3> &primaries, const Chromaticity &white)
 {
     const auto xyz = [](const Chromaticity &point) {

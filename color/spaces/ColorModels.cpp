@@ -24,8 +24,8 @@ constexpr ColorMatrix xyzOfCones = inverted(conesOfXyz);
 constexpr ColorMatrix conesOfOklab = inverted(oklabOfCones);
 constexpr ColorMatrix srgbOfXyz = inverted(xyzOfSrgb);
 
-/// Below it a color is a gray: some hundred times what the matrices' own rounding leaves, a tenth of what a form
-/// prints.
+/// A color of less chroma is a gray. The limit is about a hundred times the rounding errors of the matrices, and a
+/// tenth of the last digit that a form prints.
 constexpr double grayChroma = 1e-6;
 constexpr double degrees = 180.0 / std::numbers::pi;
 
@@ -60,7 +60,7 @@ Extremes extremesOf(const WideColor &rgb)
     return {smallest, largest, turned(sector * 60.0)};
 }
 
-/// A fully saturated color of the hue: one component of a trapezium over the wheel, `shift` sixths turned.
+/// One component of a fully saturated color of the hue: a trapezoid over the wheel, turned by `shift` sixths.
 double pureComponent(double hue, double shift)
 {
     const double sector = std::fmod(turned(hue) / 60.0 + shift, 6.0);

@@ -6,8 +6,7 @@
 namespace lumora
 {
 
-/// Hue in degrees, 0 up to but not including 360; the others from 0 to 1. A gray's hue is 0 whatever rounding left of
-/// it.
+/// Hue in degrees, 0 up to but not including 360; the others from 0 to 1. A gray's hue is exactly 0.
 struct HslColor
 {
     double hue = 0.0;
@@ -38,24 +37,24 @@ struct OklchColor
     double hue = 0.0;
 };
 
-/// Of the color as sRGB shows it.
+/// These two use the color as sRGB shows it.
 HslColor hslOf(const WideColor &color);
 HwbColor hwbOf(const WideColor &color);
-/// Of the color itself, in whatever gamut.
+/// These two use the color itself, in any gamut.
 OklabColor oklabOf(const WideColor &color);
 OklchColor oklchOf(const WideColor &color);
 
-/// In sRGB. The hue may be any number of degrees. A whiteness and blackness of more than 1 together are a gray in their
-/// proportion.
+/// In sRGB. The hue may be any number of degrees. If whiteness and blackness together exceed 1, the color is a gray in
+/// their proportion.
 WideColor wideColorFrom(const HslColor &color, double alpha);
 WideColor wideColorFrom(const HwbColor &color, double alpha);
 WideColor wideColorFrom(const OklabColor &color, double alpha);
 WideColor wideColorFrom(const OklchColor &color, double alpha);
 
-/// How far apart two colors look: the distance in OKLab.
+/// The perceived difference of two colors: the distance in OKLab.
 double oklabDistance(const OklabColor &one, const OklabColor &other);
 
-/// The share of light that a gamma-encoded component is, and back. Negative ones mirror the positive.
+/// From a gamma-encoded component to linear light, and back. Negative values mirror positive ones.
 double linearComponent(double encoded);
 double encodedComponent(double linear);
 

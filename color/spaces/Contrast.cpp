@@ -13,7 +13,7 @@ namespace lumora
 namespace
 {
 
-/// What shows where a color lies on an opaque one.
+/// The visible color of a translucent one on an opaque background.
 WideColor over(const WideColor &color, const WideColor &opaque)
 {
     const WideColor upper = clippedTo(color, RgbSpace::Srgb);
@@ -23,7 +23,7 @@ WideColor over(const WideColor &color, const WideColor &opaque)
             1.0};
 }
 
-// WCAG 2's weights of the linear components, and the light that every screen throws back.
+// WCAG 2's weights of the linear components, and its constant for light that a screen reflects.
 constexpr double redWeight = 0.2126;
 constexpr double greenWeight = 0.7152;
 constexpr double blueWeight = 0.0722;
@@ -41,7 +41,7 @@ WideColor colorOf(const Bytes &bytes)
     return wideColorFromBytes(bytes[0], bytes[1], bytes[2]);
 }
 
-/// The colors of whole bytes that reach a ratio on one side of a background.
+/// Searches the colors of whole bytes that reach a ratio on one side of a background.
 class PassingColors
 {
 public:
@@ -50,16 +50,16 @@ public:
     {
     }
 
-    /// The green closest to the threshold that reaches the ratio with the red and the blue; none where no green does.
-    /// A color on the wanted one's side fails, so that the nearest that passes lies on the threshold; and nothing
-    /// weighs as much in the luminance as green.
+    /// The green closest to the threshold that reaches the ratio with this red and blue; empty if no green does. The
+    /// given color fails, so the nearest passing color is at the threshold; green is chosen last because it has the
+    /// largest weight in the luminance.
     std::optional<Bytes> onThreshold(int red, int blue) const
     {
         const double luminance =
             m_lighter ? (m_background + flare) * m_ratio - flare : (m_background + flare) / m_ratio - flare;
         const double rest = luminance - redWeight * linearOf(red) - blueWeight * linearOf(blue);
         const double green = encodedComponent(std::clamp(rest / greenWeight, 0.0, 1.0)) * 255.0;
-        // From a step on the failing side of where rounding may have left it.
+        // Starts one step on the failing side, since rounding may have moved the result.
         const int step = m_lighter ? 1 : -1;
         const int begin = static_cast<int>(std::lround(green)) - step;
         for (int count = 0; count < 4; ++count) {

@@ -28,7 +28,7 @@ WideColor inSpace(const WideColor &color, RgbSpace space)
 {
     if (color.space == space)
         return color;
-    // One curve and one white serve both spaces, so that grays have to stay what they are, to the last bit.
+    // Both spaces have the same curve and white, so grays must stay the same to the last bit.
     if (color.red == color.green && color.green == color.blue)
         return {space, color.red, color.green, color.blue, color.alpha};
     const ColorVector linear{linearComponent(color.red), linearComponent(color.green), linearComponent(color.blue)};

@@ -8,11 +8,11 @@
 namespace lumora
 {
 
-/// The spaces that color codes name their components in. Both share one white and one curve.
+/// The color spaces of color codes. Both have the same white and the same curve.
 enum class RgbSpace { Srgb, DisplayP3 };
 
-/// A color in double precision, gamma-encoded as code states it. Components run from 0 to 1 where the space can show
-/// the color and beyond where it can't; nothing is clamped until a form has to print it.
+/// A color in double precision, gamma-encoded as code states it. Components are from 0 to 1 if the space can show the
+/// color, otherwise outside that range; they are clamped only when a form prints them.
 struct WideColor
 {
     RgbSpace space = RgbSpace::Srgb;
@@ -30,11 +30,11 @@ WideColor wideColorFromBytes(int red, int green, int blue, int alpha = 255);
 /// The same color with its components in another space.
 WideColor inSpace(const WideColor &color, RgbSpace space);
 
-/// Whether the space can't show the color, so that its form there is a clipped one. Less than what eight bits tell
-/// apart does not count.
+/// Whether the space cannot show the color, so that its form there is clipped. A difference that 8 bits cannot show
+/// does not count.
 bool isClippedIn(const WideColor &color, RgbSpace space);
 
-/// The color in the space, each component brought to 0 to 1 by itself, as browsers and drawing libraries do.
+/// The color in the space, with each component clamped to 0 to 1 separately, as browsers and drawing libraries do.
 WideColor clippedTo(const WideColor &color, RgbSpace space);
 
 /// Red, green, blue and alpha from 0 to 255, clipped to sRGB and rounded to nearest.
