@@ -11,7 +11,7 @@ constexpr qsizetype longestWord = 24;
 constexpr qsizetype longestPiece = 16;
 constexpr QChar breakHere(0x200B);
 
-/// False for what must stay with the character before it.
+/// False for a character that must stay with the previous one.
 bool mayBegin(QChar character)
 {
     return !character.isLowSurrogate() && !character.isMark();
@@ -25,7 +25,7 @@ void appendInPieces(QString &text, QStringView word)
         ++piece;
         if (i + 1 == word.size())
             break;
-        // Not inside a row of it: the "://" of an address stays together.
+        // Not inside a run of punctuation: the "://" of an address stays together.
         const bool endsPunctuation = word[i].isPunct() && !word[i + 1].isPunct();
         if ((piece >= longestPiece || endsPunctuation) && mayBegin(word[i + 1])) {
             text += breakHere;

@@ -6,9 +6,8 @@
 namespace lumora
 {
 
-/// The text with invisible places at which a line may end inside words that are longer than a line may be: behind
-/// their punctuation, and every few characters where there is none. Labels break lines between words only and would
-/// cut an endless identifier off.
+/// The text with invisible break points inside words that are longer than a line: after punctuation, and every few
+/// characters where there is none. Labels only break lines between words and would cut off a long identifier.
 QString breakingLongWords(const QString &text);
 
 } // namespace lumora

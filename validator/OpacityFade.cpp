@@ -39,7 +39,7 @@ OpacityFade::OpacityFade(QObject *parent) : QObject(parent)
 
 void OpacityFade::fade(const QList<QWidget *> &views, qreal to)
 {
-    // Those still on their way go on from where they are, in step with the new ones.
+    // Views that are still fading continue from their current opacity, together with the new ones.
     for (Step &step : m_steps) {
         if (step.view)
             step.from = opacity(step.view);

@@ -11,13 +11,13 @@
 namespace lumora
 {
 
-/// How opaque a view of a pane is, 0 to 1. At 0 it is hidden, so that neither pointer nor keys nor screen readers find
-/// it, and keeps its place; at 1 nothing stands between it and the screen.
+/// Sets the opacity of a pane's view, 0 to 1. At 0 it is hidden, so that pointer, keys and screen readers cannot reach
+/// it, and keeps its place; at 1 it has no effect.
 qreal opacity(const QWidget *view);
 void setOpacity(QWidget *view, qreal opacity);
 
-/// Fades several views at once, as one group. A view that is faded again, or whose opacity is set while it fades, ends
-/// where it was told last.
+/// Fades several views at once, as one group. If a view is faded again, or its opacity is set while it fades, the last
+/// value counts.
 class OpacityFade final : public QObject
 {
     Q_OBJECT
@@ -28,7 +28,7 @@ public:
     explicit OpacityFade(QObject *parent = nullptr);
 
     void fade(const QList<QWidget *> &views, qreal to);
-    /// Puts every view where its fade was to end.
+    /// Sets every view to the end of its fade.
     void finish();
 
 private:

@@ -6,7 +6,7 @@
 namespace lumora
 {
 
-/// A fact as one line of the pane, cut where a hostile package puts megabytes in its place.
+/// A fact as one line of the pane, shortened because a hostile package may contain megabytes of it.
 inline QString shownFact(const QString &value)
 {
     constexpr qsizetype longest = 120;

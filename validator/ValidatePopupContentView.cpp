@@ -20,13 +20,14 @@ namespace lumora
 namespace
 {
 
-/// Above a line, for the accents of capitals: the font counts them as leading, and a label has none above its text.
+/// The space above a line for the accents of capitals: the font counts it as leading, and a label has no leading above
+/// its text.
 constexpr int accentRoom = 3;
 
-/// Of the scroll bar's thumb while nobody is at it.
+/// The opacity of the scroll bar's thumb at rest.
 constexpr float restingThumbOpacity = 0.6F;
 
-/// A thumb alone, without groove and arrows, at some distance from the text.
+/// Only a thumb, without groove and arrows, at some distance from the text.
 QString thinScrollBar()
 {
     QColor resting = palette::chromeText;
@@ -98,8 +99,8 @@ void ValidatePopupContentView::fitToText()
 {
     const QMargins margins = m_ui->layout->contentsMargins();
     const int titleWidth = width() - margins.left() - margins.right();
-    // Room for the scroll bar is kept free, so that a text that needs it wraps as one that does not. Its width is known
-    // once its style is.
+    // Space for the scroll bar is always reserved, so that every text wraps at the same width. The width is known only
+    // after the style is set.
     m_ui->scrollArea->verticalScrollBar()->ensurePolished();
     const int messageWidth = titleWidth - m_ui->scrollArea->verticalScrollBar()->sizeHint().width();
     m_ui->messageLabel->setFixedWidth(messageWidth);

@@ -19,8 +19,8 @@ namespace lumora
 
 class IconButton;
 
-/// What the validator's own popup shows: a title, an explanation of any length and a button that closes it. It is as
-/// high as its text wants, up to `largestHeight`; a longer text scrolls.
+/// The content of the validator's own popup: a title, an explanation of any length and a button that closes it. It is
+/// as high as its text, up to `largestHeight`; a longer text scrolls.
 class ValidatePopupContentView final : public QWidget
 {
     Q_OBJECT
@@ -39,7 +39,7 @@ public:
     void setTitle(const QString &title, const QString &andMessage);
     /// The close button at rest and under the mouse.
     void setLightColor(const QColor &lightColor, const QColor &andDarkColor);
-    /// Takes the height that the text wants, and shows its beginning.
+    /// Adapts the height to the text, and shows its beginning.
     void fitToText();
 
 signals:

@@ -28,13 +28,13 @@ namespace
 
 constexpr qreal missingIconRadius = 28;
 constexpr int titleSize = 25;
-/// Of the invisible character that begins a fact.
+/// The size of the invisible character that begins a fact.
 constexpr int accentRoomSize = 20;
 constexpr int readingSize = 18;
 constexpr int informationSize = 13;
-/// What a box of absent things is drawn at in all; being disabled is part of it.
+/// The total opacity of a box whose subject is absent, including the dimming of disabled boxes.
 constexpr double absentOpacity = 0.25;
-/// The key's text with its placeholder filled, once per missing size.
+/// The key's text with its placeholder filled, once for each missing size.
 QStringList sentences(const char *key, QLatin1StringView placeholder, const QList<QSize> &sizes)
 {
     QStringList list;
@@ -43,7 +43,7 @@ QStringList sentences(const char *key, QLatin1StringView placeholder, const QLis
     return list;
 }
 
-/// What a box shows by its picture, in words for those who do not see it; the key's text names the box.
+/// The meaning of a box's picture in words, for screen readers; the key's text names the box.
 void tell(CheckboxButton *box, const QString &verdict)
 {
     box->setAccessibleName(QString(verdict).replace("[CHECK]"_L1, box->text()));
@@ -55,7 +55,7 @@ void judge(CheckboxButton *box, bool valid)
     tell(box, valid ? qtTrId("ACCESSIBLE_CHECK_PASSED") : qtTrId("ACCESSIBLE_CHECK_FAILED"));
 }
 
-/// Stands where the app's icon would be: the outline of one.
+/// The outline of an icon, shown in place of a missing one.
 QPixmap missingIcon(qreal devicePixelRatio)
 {
     QPixmap picture(QSize(appIconSize, appIconSize) * devicePixelRatio);
@@ -69,13 +69,13 @@ QPixmap missingIcon(qreal devicePixelRatio)
 }
 
 /// An invisible character that is higher than the line: the font counts the accents of capitals as leading, and a label
-/// of styled text cuts off what is above its line.
+/// with styled text clips everything above its line.
 QString roomForAccents()
 {
     return u"<span style=\"font-size:%1px\">\u200B</span>"_s.arg(accentRoomSize);
 }
 
-/// A package that cannot be read shows up as empty. One that was too much for this machine needs a word.
+/// A package that cannot be read is shown as empty. One that exceeded a limit of this machine needs a message.
 bool isTooMuch(FailureCode code)
 {
     return code == FailureCode::TooLarge || code == FailureCode::CannotWrite || code == FailureCode::CannotCreateFolder;
@@ -106,7 +106,7 @@ ValidaterViewController::ValidaterViewController(const Services &services, QObje
 
 ValidaterViewController::~ValidaterViewController()
 {
-    // A reading that runs ends at its next block; m_jobs waits for it.
+    // A running reading ends at its next block; m_jobs waits for it.
     m_stop.request_stop();
     m_ui->dropView->setDelegate(nullptr);
 }
@@ -125,7 +125,7 @@ void ValidaterViewController::awakeFromNib()
     styleButton(m_ui->resetButton, qtTrId("CLOSE"), u"button_icon_close"_s, palette::chromeText,
                 palette::chromeTextDark);
     styleLabel(m_ui->readingLoaderField, latoRegular(readingSize), palette::chromeText);
-    // It lies over the report, which can be pressed while it still fades.
+    // It is above the report, which can be pressed during the fade.
     m_ui->readingLoaderField->setAttribute(Qt::WA_TransparentForMouseEvents);
     for (QLabel *field : {m_ui->appNameField, m_ui->appVersionField, m_ui->appPlatformField, m_ui->appMinOSField,
                           m_ui->appBundleIDField, m_ui->appBuildField}) {

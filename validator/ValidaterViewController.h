@@ -24,8 +24,8 @@ namespace lumora
 class CheckboxButton;
 class ValidatePopupContentView;
 
-/// The app package validator's pane. It has two interfaces: one to drop a package on or browse for one, and one that
-/// shows what was read and seven boxes that explain their verdict when pressed.
+/// The app package validator's pane. It has two interfaces: one for dropping or choosing a package, and one that shows
+/// the results, with seven boxes that explain their verdict when pressed.
 class ValidaterViewController final : public ToolViewController, public DropViewDelegate
 {
     Q_OBJECT
@@ -38,28 +38,28 @@ public:
     SFBPopover *validatePopup() const { return m_validatePopup.get(); }
     ValidatePopupContentView *validatePopupContentView() const { return m_validatePopupContentView; }
 
-    /// Of the package being validated.
+    /// The path of the package that is validated.
     QString ipaPath() const { return m_facts.ipaPath; }
     const PackageFacts &facts() const { return m_facts; }
-    /// One sentence per missing icon size, and per required launch image where there is none.
+    /// One sentence for each missing icon size; and for each required launch image, if the app has none.
     const QStringList &invalidAppIconsArray() const { return m_invalidAppIconsArray; }
     const QStringList &invalidDefaultsArray() const { return m_invalidDefaultsArray; }
 
     /// The folder in which the browse panel opens, empty for the user's own.
     QString browsePath() const { return m_browsePath; }
     void setBrowsePath(const QString &path) { m_browsePath = path; }
-    /// Every tool has one. This one writes nothing, so it only keeps it.
+    /// Every tool has a save path. The validator writes nothing, so it only stores it.
     QString savePath() const { return m_savePath; }
     void setSavePath(const QString &path) { m_savePath = path; }
-    /// Nothing: which icons are required is the artwork checks' to know (`requiredIcons`), by the app's platform.
+    /// Always empty: the artwork checks know the required icons (`requiredIcons`) of the app's platform.
     std::optional<QList<int>> iPhoneRequiredIcons() const { return std::nullopt; }
 
-    /// Size of the facts' fonts.
+    /// The font size of the facts.
     static constexpr int fontSize = 15;
-    /// Between the browse panel's confirmation and the reading, so that the sheet is gone by then; milliseconds.
+    /// The delay from the browse panel's confirmation to the reading, so that the sheet is closed; in milliseconds.
     static constexpr int browseDelay = 1000;
 
-    /// Takes the one path as if it had been dropped.
+    /// Takes the path as if it had been dropped.
     void dropIpaFileFromDelegate(const QString &path);
     void dropViewReceivedFiles(const QStringList &files) override;
     bool takesFiles() const override { return true; }
@@ -70,7 +70,7 @@ public:
     static StyledText createAttributedTextFromString(const QString &string, const QFont &withFont,
                                                      const QString &forString);
 
-    /// As the shared popup, in the pane's own, whose message may be of any length.
+    /// Like the shared popup, but in the pane's own popup, whose message may have any length.
     void showValidatePopupWithTitle(const QString &title, const QString &message, QWidget *fromView, bool isError);
     void showAlertWithTitle(const QString &title, const QString &andMessage, QWidget *fromView);
 
@@ -116,12 +116,12 @@ private:
     PackageFacts m_facts;
     QStringList m_invalidAppIconsArray;
     QStringList m_invalidDefaultsArray;
-    /// Counts the packages; what a reading that was overtaken still posts is dropped.
+    /// Counts the packages, so that results of a replaced reading are dropped.
     quint64 m_reading = 0;
     std::stop_source m_stop;
-    /// Packages are read one after the other, whoever opens them: all are unpacked into the same folder, where two at a
-    /// time would judge, and remove, each other's files. Whichever comes while another is read stops that one and waits
-    /// for it to end, which takes it a block of 4 KB. Last, so that it goes first.
+    /// Packages are read one after the other: all are unpacked into the same folder, where two readings would judge,
+    /// and remove, each other's files. A new package stops the current reading and waits for its end, which comes
+    /// within a block of 4 KB. Last, so that it is destroyed first.
     BackgroundJobs m_jobs{BackgroundJobs::Order::Serial, "bgQueue"};
 };
 

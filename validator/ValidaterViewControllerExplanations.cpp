@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the validator's pane says when one of its boxes is pressed.
+// The explanations that the validator's pane shows when one of its boxes is pressed.
 #include "ValidatePopupContentView.h"
 #include "ValidaterViewController.h"
 #include "foundation/PrintableText.h"
@@ -17,11 +17,11 @@ namespace lumora
 namespace
 {
 
-/// More than a popup can be read through; a hostile package may list millions.
+/// More lines than people read in a popup; a hostile package may list millions.
 constexpr qsizetype mostListed = 500;
 constexpr qsizetype longestListed = 200;
 
-/// Every sentence on its own line, the last one too.
+/// Every sentence ends with a line break, including the last.
 QString lines(const QStringList &sentences)
 {
     QString text;
@@ -30,7 +30,7 @@ QString lines(const QStringList &sentences)
     return text;
 }
 
-/// A bullet line for each, without a break behind the last.
+/// A bullet line for each, without a line break after the last.
 QString bullets(const QStringList &items, const QString &ending)
 {
     QStringList list;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How a package gets from its path to the validator's pane.
+// The way of a package from its path to the validator's pane.
 #include "LongWords.h"
 #include "ShownFact.h"
 #include "ValidaterViewController.h"
@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 namespace lumora
 {
 
-/// Passes the results of one package on to the pane, unless another package has taken its place meanwhile.
+/// Passes the results of one package on to the pane, unless another package has replaced it meanwhile.
 class ValidaterViewController::Reading final : public InspectionObserver
 {
 public:
@@ -42,14 +42,14 @@ private:
     }
 
     const BackgroundJob &m_job;
-    ValidaterViewController *m_controller; ///< for what is posted only
+    ValidaterViewController *m_controller; ///< only for posted functions
     quint64 m_number;
 };
 
 void ValidaterViewController::foundIpaFile(const QString &path)
 {
-    // A package that the system hands over while another is read or shown replaces it: the reading ends at its next
-    // block, and the queue comes to the new package.
+    // A package that the system opens while another is read or shown replaces the other: the reading ends at its next
+    // block, and the queue continues with the new package.
     m_stop.request_stop();
     m_stop = std::stop_source();
     reset();

@@ -17,7 +17,7 @@ constexpr uLong sizesFollowFlag = 8;
 constexpr uLong stored = 0;
 constexpr uLong deflated = 8;
 
-/// The last byte of the encryption header repeats one of the checksum, or of the time where the checksum comes after
+/// The last byte of the encryption header repeats a byte of the checksum, or of the time if the checksum comes after
 /// the data.
 unsigned char passwordCheck(const unz_file_info64 &info)
 {
@@ -26,7 +26,7 @@ unsigned char passwordCheck(const unz_file_info64 &info)
     return static_cast<unsigned char>(info.crc >> 24);
 }
 
-/// The current entry's information and its extra fields; nothing when they cannot be read.
+/// The current entry's information and its extra fields; empty when they cannot be read.
 std::optional<QByteArray> extraFields(unzFile archive, unz_file_info64 &info)
 {
     if (::unzGetCurrentFileInfo64(archive, &info, nullptr, 0, nullptr, 0, nullptr, 0) != UNZ_OK)

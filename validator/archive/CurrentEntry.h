@@ -13,26 +13,26 @@ struct unz_file_info_s;
 namespace lumora
 {
 
-/// The data of the entry at which an open archive stands: read by minizip, or around it where it cannot.
+/// The data of an open archive's current entry: read by minizip, or without it if it cannot.
 class CurrentEntry
 {
 public:
-    /// `archive` is the open minizip handle of the archive at `path`, `password` empty for none. Both stay the
-    /// caller's.
+    /// `archive` is the open minizip handle of the archive at `path`; an empty `password` means none. The caller keeps
+    /// the handle.
     CurrentEntry(void *archive, const QString &path, const QByteArray &password);
 
     /// False when the entry cannot be opened: damage, an unknown method, a wrong password.
     bool open();
-    /// To be called once the entry is open and its information known: makes sure that an entry of more than 4 GB is
-    /// read to its end, and that one of a method that minizip hands out undecoded counts as unreadable.
+    /// Call this once the entry is open and its information known. It makes sure that an entry of more than 4 GB is
+    /// read to its end, and that an entry of a method that minizip returns undecoded counts as unreadable.
     void noteSizes(const unz_file_info_s &info);
-    /// True when minizip reads the entry as any other: without ways round it, and not as unreadable.
+    /// True when minizip reads the entry itself, and the entry is readable.
     bool isOrdinary() const { return !m_reader && !m_unreadable; }
-    /// Bytes of the content, as the archive states them.
+    /// The size of the content in bytes, as the archive states it.
     std::uint64_t size(const unz_file_info_s &info) const;
-    /// Up to `size` bytes: their number, 0 at the end, negative on an error.
+    /// Reads up to `size` bytes. Returns their number, 0 at the end, a negative number on an error.
     int read(char *buffer, unsigned size);
-    /// False when what was read does not have the stored checksum.
+    /// False when the read bytes do not have the stored checksum.
     bool close();
 
 private:

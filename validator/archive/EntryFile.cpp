@@ -12,7 +12,7 @@ namespace lumora
 namespace
 {
 
-/// The smallest block worth leaving out: that of common file systems.
+/// The smallest hole: a block of common file systems.
 constexpr std::size_t holeSize = 4096;
 
 bool isHole(std::span<const char> bytes)

@@ -12,15 +12,16 @@
 namespace lumora
 {
 
-/// One file being extracted. Blocks of zeros become holes, so that an entry of endless zeros costs no disk space.
+/// One file that is being extracted. Blocks of zeros become holes, so that an entry of endless zeros takes no disk
+/// space.
 class EntryFile
 {
 public:
     explicit EntryFile(FileDescriptor file) : m_file(std::move(file)) {}
 
-    /// Appends the bytes. `CannotWrite` with the system's reason; a failure's subject is left to the caller.
+    /// Appends the bytes. Fails with `CannotWrite` and the system's reason; the caller adds the subject.
     Outcome write(std::span<const char> bytes);
-    /// Gives the file its full length where it ends in a hole.
+    /// Sets the file's full length if it ends in a hole.
     Outcome finish();
     /// Sets the modification date; false when the date is invalid or the system refuses.
     bool setModified(const QDateTime &date);

@@ -9,7 +9,7 @@ namespace lumora
 namespace
 {
 
-/// Code page 437 from 0x80 on; the figures are those of Unicode's mapping table CP437.TXT.
+/// Code page 437 from 0x80 on, from Unicode's mapping table CP437.TXT.
 constexpr char16_t upperHalf437[] = u"ÇüéâäàåçêëèïîìÄÅÉæÆôöòûùÿÖÜ¢£¥₧ƒáíóúñÑªº¿⌐¬½¼¡«»░▒▓│┤╡╢╖╕╣║╗╝╜╛┐└┴┬├─┼╞╟╚╔╩╦╠═╬╧"
                                     u"╨╤╥╙╘╒╓╫╪┘┌█▄▌▐▀αßΓπΣσµτΦΘΩδ∞φε∩≡±≥≤⌠⌡÷≈°∙·√ⁿ²■\u00A0";
 static_assert(std::size(upperHalf437) == 128 + 1);

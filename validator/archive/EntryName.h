@@ -10,20 +10,20 @@
 namespace lumora
 {
 
-/// The text of an archive entry's stored name: UTF-8 where the bytes are valid UTF-8 (whether the entry says so or
-/// not: most tools on Unix never say so), else the PC character set, code page 437. Ends at the first zero byte.
+/// The text of an archive entry's stored name: UTF-8 if the bytes are valid UTF-8 (even if the entry's flag does not
+/// say so, as most Unix tools never set it), else the PC character set, code page 437. Ends at the first zero byte.
 QString entryNameText(const QByteArray &stored);
 
-/// True when the stored name ends in "/" or "\", that is, when the entry is a folder.
+/// True when the stored name ends in "/" or "\", which means that the entry is a folder.
 bool isFolderEntry(const QByteArray &stored);
 
-/// The name with "/" for every "\".
+/// The name with every "\" replaced by "/".
 QString withForwardSlashes(QString name);
 
-/// The steps from the destination down to the entry, in UTF-8; empty and "." steps are left out. Nothing when the name
-/// would leave the destination (absolute, with a drive letter, with a ".." step) or cannot stand in a file system
-/// (longer than `longestEntryPath` bytes, deeper than `deepestEntryPath` folders). An empty list is the destination
-/// itself.
+/// The folders and the name on the way from the destination to the entry, in UTF-8, without empty and "." steps.
+/// `std::nullopt` when the name would leave the destination (absolute, with a drive letter, with a ".." step) or is not
+/// possible in a file system (longer than `longestEntryPath` bytes, deeper than `deepestEntryPath` folders). An empty
+/// list is the destination itself.
 std::optional<QList<QByteArray>> safeSteps(const QString &name);
 
 constexpr qsizetype longestEntryPath = 2048; ///< bytes; keeps every path below the system's limit of 4096

@@ -18,8 +18,8 @@ namespace lumora
 namespace
 {
 
-/// True for what an archive can bring about by its entries' names alone: one that goes through a file, is a folder's or
-/// is too long.
+/// True for failures that the names of an archive's entries alone can cause: a name that has a file as a folder, is
+/// that of a folder, or is too long.
 bool isTheNamesFault(int error)
 {
     switch (error) {
@@ -37,7 +37,7 @@ bool isTheNamesFault(int error)
     }
 }
 
-/// The failure to make what the steps name; `errno` gives the reason.
+/// The failure to make the file or folder at the steps; `errno` gives the reason.
 Failure notMade(const QList<QByteArray> &steps)
 {
     const FailureCode code = isTheNamesFault(errno) ? FailureCode::InvalidValue : FailureCode::CannotWrite;
@@ -70,7 +70,7 @@ int ExtractionFolder::reach(const QList<QByteArray> &steps)
             ++m_foldersMade;
         FileDescriptor next(::openat(parent, step.constData(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
         if (!next.valid()) {
-            // Where the folder could not be made, that is the reason, and not that it is missing now.
+            // If the folder could not be made, that is the reason, not that it is missing now.
             if (!made && reason != EEXIST)
                 errno = reason;
             return -1;
@@ -105,7 +105,7 @@ Result<FileDescriptor> ExtractionFolder::createFile(const QList<QByteArray> &ste
     const int parent = reach(steps.first(steps.size() - 1));
     if (parent < 0)
         return notMade(steps);
-    // A pipe or device that has the name must neither block the walk nor receive the bytes.
+    // A pipe or device of that name must not block the extraction or receive the bytes.
     FileDescriptor file(
         ::openat(parent, steps.last().constData(), O_WRONLY | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, 0666));
     struct stat status = {};

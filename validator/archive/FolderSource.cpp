@@ -27,13 +27,13 @@ struct CloseFolder
     void operator()(DIR *folder) const { ::closedir(folder); }
 };
 
-/// True for the folder itself and what lies in it; every path lies in "".
+/// True for the folder itself and everything in it; every path is in "".
 bool liesIn(const QString &path, const QString &folder)
 {
     return folder.isEmpty() || path == folder || path.startsWith(folder + u'/');
 }
 
-/// The path with the folder it lies in replaced by another.
+/// The path with its folder replaced by another.
 QString moved(const QString &path, const QString &from, const QString &to)
 {
     const QString rest = from.isEmpty() ? path : path.sliced(std::min(from.size() + 1, path.size()));
@@ -110,7 +110,7 @@ Result<std::unique_ptr<PackageSource>> FolderSource::open(const QString &path, F
             return Failure{FailureCode::NotFound, path, {}};
         return systemFailure(errno == EACCES ? FailureCode::NoPermission : FailureCode::NotAFolder, path);
     }
-    // The constructor is private, which std::make_unique cannot reach.
+    // Not std::make_unique, since the constructor is private.
     std::unique_ptr<FolderSource> source(new FolderSource(path, layout, limits, std::move(root)));
     source->listAll();
     return std::unique_ptr<PackageSource>(std::move(source));
@@ -189,7 +189,7 @@ Result<std::unique_ptr<EntryStream>> FolderSource::open(const PackageEntry &entr
     if (entry.kind == EntryKind::Link)
         return std::unique_ptr<EntryStream>(
             std::make_unique<TextStream>(linkTarget(parent, steps.last().constData()).toUtf8()));
-    // What has become a pipe since it was listed must not be waited for.
+    // Must not block if the file has become a pipe since it was listed.
     FileDescriptor file(::openat(parent, steps.last().constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
     struct stat status = {};
     if (!file.valid() || ::fstat(file.number(), &status) != 0 || !S_ISREG(status.st_mode))

@@ -9,14 +9,14 @@
 namespace lumora
 {
 
-/// What kind of folder holds the package.
+/// The kinds of folder that hold a package.
 enum class FolderLayout {
-    Package,      ///< laid out like an .ipa: what an archive was unpacked to
+    Package,      ///< the layout of an .ipa: the folder of an unpacked archive
     App,          ///< the app itself, shown as "Payload/NAME.app"
     XcodeArchive, ///< an .xcarchive, whose "Products/Applications" is shown as "Payload"
 };
 
-/// A package that lies in a folder. Links are listed and never followed, so that nothing outside the folder is read.
+/// A package in a folder. Links are listed and never followed, so that nothing outside the folder is read.
 class FolderSource final : public PackageSource
 {
 public:
@@ -30,14 +30,14 @@ private:
     FolderSource(QString path, FolderLayout layout, const ExtractionLimits &limits, FileDescriptor root);
 
     void listAll();
-    /// Adds what lies in the folder. False when there are too many entries.
+    /// Adds the folder's contents. False when there are too many entries.
     bool list(FileDescriptor folder, const QString &relative, qsizetype depth, QList<PackageEntry> &entries);
-    /// The shown path of what lies at the relative path, and the other way round.
+    /// From a relative path to the shown path, and back.
     QString shown(const QString &relative) const;
     QString relative(const QString &shown) const;
 
     QString m_onDisk;  ///< this folder in the package's own tree, ...
-    QString m_payload; ///< ... and where it is shown
+    QString m_payload; ///< ... and its shown place
     FileDescriptor m_root;
 };
 

@@ -13,7 +13,7 @@ namespace lumora
 
 Result<std::unique_ptr<PackageSource>> openPackage(const QString &path, const ExtractionLimits &limits)
 {
-    // A folder's name may be completed with a slash behind it.
+    // Shell completion may have added a slash to a folder's name.
     const QString name = QDir::cleanPath(path);
     if (name.endsWith(u".ipa"))
         return PackageView::open(path, limits);

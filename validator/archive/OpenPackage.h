@@ -6,11 +6,11 @@
 namespace lumora
 {
 
-/// Opens what can hold an app by its name: an .ipa archive, an .app folder or an .xcarchive folder. `NotAnArchive` for
-/// any other name.
+/// Opens a package by its ending: an .ipa archive, an .app folder or an .xcarchive folder. Fails with `NotAnArchive`
+/// for other names.
 Result<std::unique_ptr<PackageSource>> openPackage(const QString &path, const ExtractionLimits &limits = {});
 
-/// True for the names that `openPackage` looks into.
+/// True for the names that `openPackage` opens.
 bool hasPackageName(const QString &path);
 
 } // namespace lumora

@@ -17,7 +17,7 @@ namespace
 {
 
 constexpr qsizetype blockSize = 1 << 16;
-/// More threads would each hold an entry of `wholeEntry` bytes, packed and unpacked, at a time.
+/// A limit, since each thread holds an entry of up to `wholeEntry` bytes, packed and unpacked.
 constexpr unsigned mostThreads = 6;
 
 bool comesBefore(const PackageEntry &entry, const QString &path)
@@ -25,7 +25,7 @@ bool comesBefore(const PackageEntry &entry, const QString &path)
     return entry.path < path;
 }
 
-/// What one `readAll` has still to do and has found, shared by its threads.
+/// The remaining work and the results of one `readAll`, shared by its threads.
 struct Progress
 {
     std::vector<const PackageEntry *> entries;
@@ -50,7 +50,7 @@ bool PackageSource::isFolder(const QString &path) const
 
 QStringList PackageSource::names(const QString &folder) const
 {
-    // The character behind "/": everything in a folder lies between the two.
+    // The character after "/": all paths in a folder sort between the two.
     constexpr QChar behindSlash(u'/' + 1);
     const QString start = folder.isEmpty() ? QString() : QString(folder + u'/');
     QStringList names;
@@ -61,7 +61,7 @@ QStringList PackageSource::names(const QString &folder) const
             names += entry->path.sliced(start.size());
             ++entry;
         } else {
-            // The folder itself was listed before its content.
+            // The folder itself comes before its contents.
             entry =
                 std::lower_bound(entry, m_entries.cend(), QString(entry->path.first(slash) + behindSlash), comesBefore);
         }
@@ -90,10 +90,10 @@ Result<QByteArray> PackageSource::readStart(const QString &path, qsizetype lengt
     QByteArray bytes;
     while (bytes.size() < length) {
         const qsizetype filled = bytes.size();
-        // The stated size is not to be trusted with memory: it grows with what is there.
+        // The stated size may be a lie, so the buffer grows with the actual content.
         bytes.resize(std::min(length, filled + std::max(blockSize, filled)));
         const auto count = stream.value()->read(bytes.data() + filled, bytes.size() - filled);
-        // What came before the damage is all there is.
+        // Returns the part before the damage.
         bytes.truncate(filled + (count ? count.value() : 0));
         if (!count || count.value() == 0)
             break;
@@ -115,7 +115,7 @@ PackageSource::readAll(const std::function<std::unique_ptr<EntryConsumer>(const 
     };
     for (const PackageEntry &entry : m_hidden)
         progress.entries.push_back(&entry);
-    // The largest first, so that no thread is left alone with one at the end.
+    // The largest first, so that the threads end at about the same time.
     std::stable_sort(progress.entries.begin(), progress.entries.end(),
                      [](const PackageEntry *a, const PackageEntry *b) { return a->size > b->size; });
 

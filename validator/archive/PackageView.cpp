@@ -27,9 +27,9 @@ namespace
 constexpr uLong encryptedFlag = 1;
 constexpr uLong methodStored = 0;
 constexpr uLong methodDeflated = 8;
-/// As many bytes as an extraction reads at a time: behind damage both end at the same byte.
+/// The block size of an extraction, so that at damage both end at the same byte.
 constexpr unsigned blockSize = 4096;
-/// Up to here an entry that is asked for is unpacked at once instead of block by block; bytes.
+/// An entry of at most this many bytes is unpacked at once instead of block by block.
 constexpr std::uint64_t unpackedAtOnce = 1 << 20;
 
 struct CloseArchive
@@ -48,7 +48,7 @@ ArchivePointer openArchive(const QString &path)
     return ArchivePointer(::unzOpen(path.toUtf8().constData()));
 }
 
-/// The mode that systems with permission bits store.
+/// The file mode, if the archive was made on a system with permission bits.
 unsigned unixMode(const unz_file_info &info)
 {
     constexpr uLong unixSystem = 3;
@@ -57,7 +57,7 @@ unsigned unixMode(const unz_file_info &info)
     return system == unixSystem || system == darwinSystem ? static_cast<unsigned>(info.external_fa >> 16) : 0;
 }
 
-/// The current entry's stored name; nothing when its information cannot be read.
+/// The current entry's stored name; empty when its information cannot be read.
 std::optional<QByteArray> storedName(unzFile archive, unz_file_info &info)
 {
     if (::unzGetCurrentFileInfo(archive, &info, nullptr, 0, nullptr, 0, nullptr, 0) != UNZ_OK)
@@ -154,17 +154,17 @@ private:
 
 } // namespace
 
-/// What unpacking at once takes, kept by each thread from entry to entry.
+/// The buffers for unpacking at once, kept by each thread from entry to entry.
 struct PackageView::Workspace
 {
     std::unique_ptr<libdeflate_decompressor, FreeDecompressor> decompressor{::libdeflate_alloc_decompressor()};
     std::vector<char> packed;
     std::vector<char> unpacked;
-    std::span<const char> content; ///< of the entry unpacked last; lies in one of the two
+    std::span<const char> content; ///< of the last unpacked entry; points into one of the two
     bool matches = false;          ///< it has the stored checksum
 };
 
-/// Walks through an archive as an extraction does and lists what that would leave.
+/// Walks through an archive as an extraction does and lists its results.
 class PackageView::Listing
 {
 public:
@@ -186,7 +186,7 @@ public:
     }
 
 private:
-    /// Lists the current entry. False where an extraction would end.
+    /// Lists the current entry. False if an extraction would end here.
     bool add()
     {
         if (++m_count + m_listing.foldersMade() > m_view.limits().entries)
@@ -270,7 +270,7 @@ Result<std::unique_ptr<PackageSource>> PackageView::open(const QString &path, co
     const ArchivePointer archive = openArchive(path);
     if (!file.valid() || !archive)
         return Failure{FailureCode::NotAnArchive, path, {}};
-    // The constructor is private, which std::make_unique cannot reach.
+    // Not std::make_unique, since the constructor is private.
     std::unique_ptr<PackageView> view(new PackageView(path, limits, std::move(file)));
     Listing(*view, archive.get()).run();
     return std::unique_ptr<PackageSource>(std::move(view));

@@ -28,21 +28,21 @@ class FileDescriptor;
 /// A zip archive over minizip: extracts every entry into a folder, or creates an archive and adds files to it. At most
 /// one archive is open for reading and one for writing. All work is done on the calling thread.
 ///
-/// Archives are taken for hostile: an entry whose name leaves the destination, directly or through a link, counts as a
-/// target that cannot be created, and an extraction ends before it passes its limits.
+/// Archives may be hostile: an entry whose name leaves the destination, directly or through a link, counts as a target
+/// that cannot be created, and an extraction ends before it exceeds its limits.
 class ZipArchive
 {
 public:
     ZipArchive() = default;
-    /// Closes an archive open for writing. An archive open for reading has to be closed by `UnzipCloseFile`.
+    /// Closes an archive open for writing. An archive open for reading must be closed by `UnzipCloseFile`.
     ~ZipArchive();
     Q_DISABLE_COPY_MOVE(ZipArchive)
 
-    /// Creates the archive, in place of a file that exists at the path.
+    /// Creates the archive and replaces an existing file at the path.
     bool CreateZipFile2(const QString &path);
-    /// Encrypts the files added until the archive is closed (traditional zip encryption).
+    /// Encrypts all files that are added until the archive is closed (traditional zip encryption).
     bool CreateZipFile2(const QString &path, const QString &password);
-    /// Adds the file at `path` under the name `newname`, deflated, its contents whole in memory.
+    /// Adds the file at `path` under the name `newname`, deflated. Holds its whole contents in memory.
     bool addFileToZip(const QString &path, const QString &newname);
     /// False when no archive was open or when it could not be finished. Forgets the password.
     bool CloseZipFile2();
@@ -55,8 +55,8 @@ public:
     /// True when no archive was open or it closed without error. Forgets the password.
     bool UnzipCloseFile();
 
-    /// Forwards the message to the delegate. It asks for the selector without a colon and sends the operation with one:
-    /// a delegate that only has the latter is never called.
+    /// Forwards the message to the delegate. Asks for the selector without a colon but sends the operation with one, so
+    /// a delegate with only the latter is never called.
     void OutputErrorMessage(const QString &message);
     /// Asks the delegate, under the same rule, whether the file may be replaced; true when there is no delegate to ask.
     bool OverWrite(const QString &path);
@@ -67,7 +67,7 @@ public:
     void setDelegate(std::shared_ptr<ZipArchiveDelegate> delegate) { m_delegate = std::move(delegate); }
 
     void setLimits(const ExtractionLimits &limits) { m_limits = limits; }
-    /// A stop requested through the token ends an extraction at its next block, with the result false.
+    /// A stop request through the token ends an extraction at its next block, with the result false.
     void setStopToken(std::stop_token token) { m_stop = std::move(token); }
 
     /// Why the last extraction returned false or left entries out that the system did not let it create. `Done` when it
@@ -79,18 +79,18 @@ public:
 
 private:
     enum class Step {
-        Next, ///< go on with the next entry
-        Stop, ///< the walk cannot or must not go on
+        Next, ///< continue with the next entry
+        Stop, ///< the walk cannot or must not continue
     };
 
     Step extractEntry(CurrentEntry &entry, ExtractionFolder &folder, bool overWrite);
-    /// Logs the entry. Where the system and not its name is to blame (a full disk), that is the extraction's failure.
+    /// Logs the entry. If the system and not the name is the cause (a full disk), that is the extraction's failure.
     void skipUncreated(const QString &name, const Failure &failure);
-    /// The current entry's stored name; nothing when its information cannot be read.
+    /// The current entry's stored name; empty when its information cannot be read.
     std::optional<QByteArray> currentEntry(unz_file_info_s &info);
     Step writeEntry(CurrentEntry &entry, ExtractionFolder &folder, FileDescriptor descriptor,
                     const unz_file_info_s &info, const QString &name);
-    /// Counts the bytes about to be written and stops when they pass a limit.
+    /// Counts the bytes before they are written and stops when they exceed a limit.
     Step mayWrite(const ExtractionFolder &folder, std::uint64_t bytes);
     Step stop(FailureCode code, const QString &detail);
 

@@ -7,15 +7,15 @@
 namespace lumora
 {
 
-/// Who a `ZipArchive` tells about errors and asks about files in the way. An informal protocol: both operations are
-/// optional, and which ones there are is asked by selector before they are sent.
+/// Receives the errors of a `ZipArchive` and its questions about existing files. An informal protocol: both operations
+/// are optional, and the archive asks by selector whether an operation exists before sending it.
 class ZipArchiveDelegate
 {
 public:
     virtual ~ZipArchiveDelegate() = default;
 
     /// True when the delegate has the operation. The operations below have the selectors "ErrorMessage:" and
-    /// "OverWriteOperation:", with the colon of their one argument, and a delegate has those by nature.
+    /// "OverWriteOperation:", with the colon of their one argument; every delegate has these by default.
     virtual bool respondsToSelector(QLatin1StringView selector) const;
 
     virtual void ErrorMessage(const QString &message);

@@ -21,7 +21,7 @@ namespace
 {
 
 constexpr unsigned blockSize = 4096;
-/// How much is written between two looks at the free space.
+/// The number of bytes that are written between two checks of the free space.
 constexpr std::uint64_t diskCheckInterval = 4 << 20;
 
 void logSkipped(const QString &name)
@@ -29,7 +29,7 @@ void logSkipped(const QString &name)
     logLine(u"Skipped, its target cannot be created: "_s + printableText(name));
 }
 
-/// The entry's own date.
+/// The entry's date.
 ZipDate storedDate(const unz_file_info &info)
 {
     const tm_unz &date = info.tmu_date;
@@ -106,7 +106,7 @@ ZipArchive::Step ZipArchive::extractEntry(CurrentEntry &entry, ExtractionFolder 
 void ZipArchive::skipUncreated(const QString &name, const Failure &failure)
 {
     logSkipped(name);
-    // The walk goes on, but what it leaves is not all that the archive holds.
+    // The walk continues, but the extraction is not complete.
     if (failure.code == FailureCode::CannotWrite && m_extraction)
         m_extraction = Failure{failure.code, m_path, failure.detail};
 }

@@ -58,7 +58,7 @@ QByteArray deflated(const QByteArray &contents)
     return status == Z_STREAM_END ? packed : QByteArray();
 }
 
-/// The encryption header and the encrypted bytes behind it.
+/// The encryption header and the encrypted bytes after it.
 QByteArray encrypted(const QByteArray &bytes, const QByteArray &password, uLong crc)
 {
     QByteArray sealed(static_cast<qsizetype>(ZipCipher::headerSize), '\0');
@@ -110,8 +110,8 @@ bool ZipArchive::addPlain(const QByteArray &name, const QDateTime &modified, con
            ::zipCloseFileInZip(m_zipFile) == ZIP_OK;
 }
 
-/// The entry is deflated and encrypted here and handed over raw: the library's own encryption, reached through a
-/// password argument, makes entries that nothing can read (see `ZipCipher`).
+/// The entry is deflated and encrypted here and passed on raw: the library's own encryption, used by its password
+/// argument, makes entries that no program can read (see `ZipCipher`).
 bool ZipArchive::addEncrypted(const QByteArray &name, const QDateTime &modified, const QByteArray &contents)
 {
     const zip_fileinfo record = entryRecord(modified);

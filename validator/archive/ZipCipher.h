@@ -11,13 +11,13 @@ namespace lumora
 {
 
 /// The traditional encryption of zip archives: a stream cipher over three 32-bit keys, as PKWARE's application note
-/// (APPNOTE 6.1) gives it. Weak by today's measure; it is what password-protected archives use. Debian's minizip is
-/// built without the reading side of it, and its writing side takes the CRC table for one of 64-bit words, which no
-/// other program can read.
+/// (APPNOTE 6.1) defines it. It is weak, but password-protected archives use it. Debian's minizip is built without the
+/// reading side, and its writing side treats the CRC table as one of 64-bit words, so that no other program can read
+/// its output.
 class ZipCipher
 {
 public:
-    /// Bytes of random header in front of the entry's data.
+    /// The length of the random header before the entry's data, in bytes.
     static constexpr std::size_t headerSize = 12;
 
     explicit ZipCipher(const QByteArray &password);

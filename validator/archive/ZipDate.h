@@ -6,7 +6,7 @@
 namespace lumora
 {
 
-/// A date as archives hold it: local time without a zone. All zero where there is none.
+/// A date as stored in archives: local time without a zone. All zero if there is none.
 struct ZipDate
 {
     int year = 0;

@@ -85,7 +85,7 @@ std::unique_ptr<ZipEntryReader> ZipEntryReader::open(QFile &archive, const ZipEn
 {
     if (data.method != stored && data.method != deflated)
         return nullptr;
-    // The constructor is private, which std::make_unique cannot reach.
+    // Not std::make_unique, since the constructor is private.
     std::unique_ptr<ZipEntryReader> reader(new ZipEntryReader(archive, data));
     if (data.encrypted && !reader->passHeader(password))
         return nullptr;
@@ -165,7 +165,7 @@ int ZipEntryReader::inflateInto(unsigned char *buffer, unsigned size)
     while (m_stream->avail_out > 0 && !m_ended) {
         if (!fill())
             return -1;
-        // The library's interface asks for a pointer to bytes that are not constant, and does not change them.
+        // The library's interface takes a pointer to non-constant bytes but does not change them.
         m_stream->next_in = const_cast<unsigned char *>(m_next);
         m_stream->avail_in = m_available;
         const int status = ::inflate(m_stream.get(), Z_SYNC_FLUSH);

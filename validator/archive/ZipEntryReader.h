@@ -17,16 +17,16 @@ struct z_stream_s;
 namespace lumora
 {
 
-/// Where an entry's data lies in its archive and what it should come to.
+/// The place of an entry's data in its archive, and its expected result.
 struct ZipEntryData
 {
-    std::uint64_t offset = 0; ///< of the first data byte (of the encryption header where there is one) in the file
+    std::uint64_t offset = 0; ///< of the first data byte (or of the encryption header) in the file
     std::uint64_t compressedSize = 0;
     std::uint64_t size = 0;
     unsigned method = 0; ///< 0 stored, 8 deflated
     std::uint32_t crc = 0;
     bool encrypted = false;
-    unsigned char passwordCheck = 0; ///< what the last byte of the encryption header decrypts to
+    unsigned char passwordCheck = 0; ///< the expected last byte of the decrypted encryption header
 };
 
 /// The 64-bit values of an entry whose 32-bit fields overflowed.
@@ -37,11 +37,11 @@ struct Zip64Values
     std::optional<std::uint64_t> localHeader; ///< present when the field holds a further value
 };
 
-/// Reads the Zip64 extra field (id 1) out of an entry's extra fields. Only those of the two sizes that are 0xFFFFFFFF
-/// are in it, in this order. Nothing when there is no such field or it is too short.
+/// Reads the Zip64 extra field (id 1) from an entry's extra fields. It contains only those of the two sizes that are
+/// 0xFFFFFFFF, in this order. Empty when there is no such field or it is too short.
 std::optional<Zip64Values> zip64Values(const QByteArray &extraFields, std::uint64_t size, std::uint64_t compressedSize);
 
-/// Position of the data behind the local header at `localHeader`, nothing when no such header stands there.
+/// The position of the data after the local header at `localHeader`; empty if there is no such header.
 std::optional<std::uint64_t> dataBehindLocalHeader(QFile &archive, std::uint64_t localHeader);
 
 /// Reads one entry that Debian's minizip cannot read: an encrypted one (the library is built without decryption), or
@@ -49,15 +49,16 @@ std::optional<std::uint64_t> dataBehindLocalHeader(QFile &archive, std::uint64_t
 class ZipEntryReader
 {
 public:
-    /// Nothing when the method is unknown or the password is wrong. The archive must outlive the reader.
+    /// Empty when the method is unknown or the password is wrong. The archive must outlive the reader.
     static std::unique_ptr<ZipEntryReader> open(QFile &archive, const ZipEntryData &data, const QByteArray &password);
     Q_DISABLE_COPY_MOVE(ZipEntryReader)
 
-    /// Up to `size` bytes into the buffer: the number of bytes, 0 at the end, negative when the data is damaged.
+    /// Reads up to `size` bytes into the buffer. Returns their number, 0 at the end, a negative number when the data is
+    /// damaged.
     int read(char *buffer, unsigned size);
-    /// Bytes of the content, as the archive states them.
+    /// The size of the content in bytes, as the archive states it.
     std::uint64_t size() const { return m_data.size; }
-    /// True when what was read is what the archive's checksum says.
+    /// True when the read bytes have the archive's checksum.
     bool checksumMatches() const { return m_checksum == m_data.crc; }
 
 private:
@@ -80,8 +81,8 @@ private:
     std::optional<ZipCipher> m_cipher;
     std::array<unsigned char, 16384> m_input = {};
     std::unique_ptr<z_stream_s, EndInflating> m_stream; ///< null for stored data
-    const unsigned char *m_next = nullptr;              ///< of the input that was not used yet, ...
-    unsigned m_available = 0;                           ///< ... and its bytes
+    const unsigned char *m_next = nullptr;              ///< start of the unused input, ...
+    unsigned m_available = 0;                           ///< ... and its length in bytes
     std::uint64_t m_position = 0;
     std::uint64_t m_compressedLeft = 0;
     std::uint64_t m_left = 0;
