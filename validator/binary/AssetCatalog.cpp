@@ -16,7 +16,7 @@ namespace lumora
 namespace
 {
 
-/// Kinds of numbers in a rendition's key.
+/// The kinds of numbers in a rendition's key.
 enum KeyToken : quint32 { PartToken = 2, AppearanceToken = 7, ScaleToken = 12, IdiomToken = 15, IdentifierToken = 17 };
 
 constexpr std::array idiomNames{"universal", "phone", "pad", "tv", "car", "watch", "marketing", "mac", "vision"};
@@ -34,7 +34,7 @@ struct PixelSize
     int height = 0;
 };
 
-/// Of a JPEG file, from the first frame's header.
+/// The size of a JPEG picture, from the first frame's header.
 std::optional<PixelSize> jpegSize(QByteArrayView bytes)
 {
     const ByteReader file(bytes, ByteOrder::Big);
@@ -45,7 +45,7 @@ std::optional<PixelSize> jpegSize(QByteArrayView bytes)
         const quint16 kind = *marker & 0xFF;
         if ((*marker & 0xFF00) != 0xFF00)
             return std::nullopt;
-        // Frames are C0 to CF, save three that are tables.
+        // Frames are C0 to CF, except for three that are tables.
         if (kind >= 0xC0 && kind <= 0xCF && kind != 0xC4 && kind != 0xC8 && kind != 0xCC) {
             const auto height = file.u16(at + 5);
             const auto width = file.u16(at + 7);

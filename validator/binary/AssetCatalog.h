@@ -16,7 +16,7 @@ namespace lumora
 /// One picture, color or other thing in a compiled asset catalogue.
 struct CatalogRendition
 {
-    /// What a rendition is stored as; the numbers are the file's own, and there are more of them.
+    /// How a rendition is stored; the numbers are those of the file, which has more kinds.
     enum Layout : quint16 {
         Vector = 9,
         Picture = 12,
@@ -25,27 +25,27 @@ struct CatalogRendition
         Atlas = 1004,
         MultiSizeSet = 1010,
     };
-    /// What parts of an icon set are called; the numbers are the file's own.
+    /// The parts of an icon set; the numbers are those of the file.
     enum Part : quint16 { IconSetPart = 218, IconPart = 220 };
 
-    QString facet; ///< the name it is asked for by; empty when no facet leads to it
-    QString name;  ///< of the file it was made from
-    int width = 0; ///< pixels; of a JPEG picture, whose entry says 0, from the picture itself
+    QString facet; ///< the name by which apps request it; empty when no facet refers to it
+    QString name;  ///< of its source file
+    int width = 0; ///< pixels; for a JPEG picture, whose entry has 0, from the picture itself
     int height = 0;
-    double scale = 0;   ///< 1, 2, 3; 0 for what has none
+    double scale = 0;   ///< 1, 2, 3; 0 for none
     QString idiom;      ///< "universal", "phone", "pad" ...
-    QString appearance; ///< empty for the one that fits any
+    QString appearance; ///< empty for any appearance
     quint16 part = 0;
     quint16 layout = 0;
     QByteArray pixelFormat; ///< "ARGB", "GA8 ", "JPEG" ...
-    /// Nothing when the entry does not say it: what lies in an atlas is marked there for all pictures together.
+    /// Empty when the entry does not say it: an atlas has one mark for all its pictures.
     std::optional<bool> opaque;
 
     bool isPicture() const { return layout == Picture || layout == AtlasLink || pixelFormat == "JPEG"; }
 };
 
 enum class CatalogFault {
-    DamagedTree,      ///< a tree that leads out of the file, into itself or nowhere
+    DamagedTree,      ///< a tree with a reference out of the file, to itself or to nothing
     DamagedRendition, ///< an entry that is cut off
 };
 
@@ -54,7 +54,7 @@ struct AssetCatalog
 {
     quint32 coreVersion = 0;
     quint32 storageVersion = 0;
-    QString tool;     ///< that made it; empty in old ones
+    QString tool;     ///< of the tool that made it; empty in old catalogues
     QString platform; ///< "ios" ...
     QString platformVersion;
     QStringList facets; ///< in order
@@ -62,7 +62,7 @@ struct AssetCatalog
     QList<CatalogFault> faults;
 };
 
-/// Nothing when the bytes are no asset catalogue. Bounded in time and memory whatever the file says.
+/// Empty when the bytes are not an asset catalogue. Time and memory are bounded whatever the file contains.
 std::optional<AssetCatalog> readAssetCatalog(QByteArrayView bytes);
 
 } // namespace lumora

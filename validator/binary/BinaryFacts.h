@@ -11,7 +11,7 @@
 namespace lumora
 {
 
-/// Three numbers in one word, as load commands hold them: 16, 8 and 8 bits.
+/// Three numbers in one word of 16, 8 and 8 bits, as load commands store them.
 struct BinaryVersion
 {
     quint32 packed = 0;
@@ -61,7 +61,7 @@ struct BuildTool
     bool operator==(const BuildTool &) const = default;
 };
 
-/// What a load command says of the system the file is built for.
+/// A load command's facts about the system for which the file is built.
 struct BinaryTarget
 {
     BinaryPlatform platform = BinaryPlatform::Unknown;
@@ -108,7 +108,7 @@ struct EncryptionInfo
 {
     quint32 offset = 0;
     quint32 size = 0;
-    quint32 id = 0; ///< 0 where the part is yet in the clear
+    quint32 id = 0; ///< 0 if the part is not encrypted yet
 };
 
 /// Bytes inside the slice.
@@ -118,22 +118,22 @@ struct FileRange
     quint64 size = 0;
 };
 
-/// What is wrong with the shape of a binary. What could be read is there all the same.
+/// The faults in the structure of a binary. The readable part is still reported.
 enum class BinaryFault {
     CutOff,               ///< the file ends before its header or slice does
-    TooManySlices,        ///< more than any real file has; none past the limit is read
+    TooManySlices,        ///< more than any real file has; none beyond the limit is read
     OverlappingSlices,    ///< two slices share bytes; the second is not read
-    SlicePastEnd,         ///< a slice begins or ends behind the file's end
+    SlicePastEnd,         ///< a slice begins or ends beyond the file's end
     UnreadableSlice,      ///< a slice holds no Mach-O file
-    LoadCommandsPastEnd,  ///< the load commands reach behind the slice's end
-    LoadCommandSize,      ///< a load command is shorter than its own header or longer than the room left
+    LoadCommandsPastEnd,  ///< the load commands reach beyond the slice's end
+    LoadCommandSize,      ///< a load command is shorter than its header or longer than the remaining space
     TooManyLoadCommands,  ///< more than any real file has
     DamagedLoadCommand,   ///< a load command whose content does not fit into it
-    SegmentPastEnd,       ///< a segment's bytes reach behind the slice's end
-    SymbolsPastEnd,       ///< the symbol table or its names reach behind the slice's end
+    SegmentPastEnd,       ///< a segment's bytes reach beyond the slice's end
+    SymbolsPastEnd,       ///< the symbol table or its names reach beyond the slice's end
     TooManySymbols,       ///< more names than are kept
-    DamagedBindings,      ///< binding opcodes or chained imports that lead nowhere
-    CodeSignaturePastEnd, ///< the code signature reaches behind the slice's end
+    DamagedBindings,      ///< binding opcodes or chained imports with invalid references
+    CodeSignaturePastEnd, ///< the code signature reaches beyond the slice's end
 };
 
 /// One architecture's part of a binary.
@@ -146,7 +146,7 @@ struct BinarySlice
     bool is64Bit = false;
     BinaryFileType fileType = BinaryFileType::Object;
     quint32 flags = 0;
-    QList<BinaryTarget> targets; ///< one, or two in a file for the Mac and for Mac Catalyst
+    QList<BinaryTarget> targets; ///< one, or two in a file for both the Mac and Mac Catalyst
     std::optional<QUuid> uuid;
     std::optional<BinaryVersion> sourceVersion;
     QString identity; ///< the install name of a dynamic library
@@ -158,21 +158,21 @@ struct BinarySlice
     bool hasEntryPoint = false;
     bool hasSymbolTable = false;
 
-    QByteArrayList importedSymbols;     ///< sorted, each once
-    QByteArrayList definedSymbols;      ///< external ones, sorted, each once
+    QByteArrayList importedSymbols;     ///< sorted, without duplicates
+    QByteArrayList definedSymbols;      ///< external symbols, sorted, without duplicates
     QByteArrayList objectiveCClasses;   ///< names of classes, categories and protocols that it defines; sorted
     QByteArrayList objectiveCSelectors; ///< of methods and messages; sorted
-    QList<BinaryFault> faults;          ///< each once, in the order of the enumeration
+    QList<BinaryFault> faults;          ///< without duplicates, in the order of the enumeration
 
     bool imports(const QByteArray &symbol) const;
-    /// True when the class is imported, or referred to in the way of 32-bit programs.
+    /// True when the class is imported, or used in the way of 32-bit programs.
     bool importsClass(const QByteArray &name) const;
     bool namesSelector(const QByteArray &name) const;
     const BinarySegment *segment(const QByteArray &name) const;
     const BinarySection *section(const QByteArray &name) const;
     bool usesSwift() const;
     bool usesAutomaticReferenceCounting() const;
-    /// True when the store has enciphered the code: names in it cannot be known.
+    /// True when the store has encrypted the code, so that its names cannot be read.
     bool isEncrypted() const { return encryption && encryption->id != 0; }
 };
 
@@ -180,13 +180,13 @@ struct BinaryFacts
 {
     bool isFat = false;
     QList<BinarySlice> slices;
-    QList<BinaryFault> faults; ///< of the file around the slices
+    QList<BinaryFault> faults; ///< faults of the file around the slices
 };
 
-/// "ios", "ios-simulator", "macos" ...; empty for a number that nobody has given a meaning.
+/// "ios", "ios-simulator", "macos" ...; empty for an unknown number.
 QString platformName(BinaryPlatform platform);
 
-/// As the tools of the platform call it; "cpu 7.3" for a type that has no name.
+/// The name that the platform's tools use; "cpu 7.3" for a type without a name.
 QString architectureName(quint32 cpuType, quint32 cpuSubtype);
 
 /// "clang", "swift", "ld", "lld"; "tool 9" for a number without a name.

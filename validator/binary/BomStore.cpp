@@ -43,7 +43,7 @@ std::optional<BomStore> BomStore::open(QByteArrayView bytes)
 
 QByteArrayView BomStore::block(quint32 number) const
 {
-    // The first block is nobody's.
+    // The first block is unused.
     if (number == 0 || number >= m_blockCount)
         return {};
     const quint64 entry = m_indexOffset + 4 + quint64{number} * 8;
@@ -65,7 +65,7 @@ BomStore::Pairs BomStore::tree(const QByteArray &name) const
         found.whole = false;
         return found;
     }
-    // Down to the first leaf, then from leaf to leaf.
+    // Goes down to the first leaf, then from leaf to leaf.
     quint32 number = *tree.u32(8);
     int depth = 0;
     QSet<quint32> seen;

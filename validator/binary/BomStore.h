@@ -24,16 +24,16 @@ public:
     struct Pairs
     {
         QList<Pair> pairs;
-        bool whole = true; ///< false when the tree leads out of the file, into itself or holds too much
+        bool whole = true; ///< false when the tree leads out of the file or into itself, or is too large
     };
 
-    /// Nothing when the bytes are no such container.
+    /// Empty when the bytes are not such a container.
     static std::optional<BomStore> open(QByteArrayView bytes);
 
     bool holds(const QByteArray &name) const { return m_names.contains(name); }
-    /// Empty when there is none of the name, or it lies outside of the file.
+    /// The block with the name; empty when there is none, or it is outside the file.
     QByteArrayView named(const QByteArray &name) const { return block(m_names.value(name)); }
-    /// All pairs of a tree in the order of its leaves; none when there is no such tree.
+    /// All pairs of a tree in the order of its leaves; empty when there is no such tree.
     Pairs tree(const QByteArray &name) const;
 
 private:

@@ -12,8 +12,8 @@ namespace lumora
 
 enum class ByteOrder { Little, Big };
 
-/// Numbers and texts out of foreign bytes. Nothing is ever read past the end: what does not lie in the bytes is
-/// nothing.
+/// Reads numbers and texts from foreign bytes. Never reads past the end: a value that is not completely inside is
+/// empty.
 class ByteReader
 {
 public:
@@ -30,7 +30,7 @@ public:
     std::optional<quint32> u32(quint64 offset) const { return number<quint32>(offset); }
     std::optional<quint64> u64(quint64 offset) const { return number<quint64>(offset); }
 
-    /// The length bytes at the offset, or none at all.
+    /// The `length` bytes at the offset; empty if they are not all there.
     std::optional<QByteArrayView> span(quint64 offset, quint64 length) const
     {
         if (!holds(offset, length))
@@ -38,7 +38,7 @@ public:
         return m_bytes.sliced(static_cast<qsizetype>(offset), static_cast<qsizetype>(length));
     }
 
-    /// The part of the length bytes at the offset that is there; empty past the end.
+    /// The existing part of the `length` bytes at the offset; empty past the end.
     QByteArrayView clipped(quint64 offset, quint64 length) const
     {
         if (offset >= size())

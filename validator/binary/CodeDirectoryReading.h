@@ -7,8 +7,8 @@
 namespace lumora
 {
 
-/// The directory in a blob, with its pages compared to the slice's bytes. A kind of hash that nobody knows leaves
-/// `digest` at None and the rest empty; nothing when a table does not lie inside the blob.
+/// The directory in a blob, with its pages compared to the slice's bytes. For an unknown kind of hash `digest` is None
+/// and the rest is empty. The result is empty when a table is not inside the blob.
 std::optional<CodeDirectory> readCodeDirectory(QByteArrayView bytes, QByteArrayView slice, quint64 signatureOffset);
 
 } // namespace lumora

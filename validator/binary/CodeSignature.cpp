@@ -129,7 +129,7 @@ void SignatureReading::checkSlot(SignatureSlot slot, SignatureFault changed)
 {
     const Blob blob = m_blobs.value(static_cast<quint32>(slot));
     for (const CodeDirectory &directory : m_signature.directories) {
-        // What is bound must be there, and what is there must be bound.
+        // A blob with a hash must exist, and an existing blob must have a hash.
         if (directory.hasSlot(slot) == blob.whole.isEmpty() ||
             (!blob.whole.isEmpty() && !directory.binds(slot, blob.whole)))
             fault(changed);

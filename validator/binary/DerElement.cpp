@@ -16,7 +16,7 @@ struct Extent
     qsizetype whole;
 };
 
-/// Where the value that the bytes begin with has its parts.
+/// The parts of the value at the beginning of the bytes.
 std::optional<Extent> extent(QByteArrayView bytes, int depthLeft)
 {
     constexpr quint8 numberBits = 0x1F;
@@ -29,7 +29,7 @@ std::optional<Extent> extent(QByteArrayView bytes, int depthLeft)
         return Extent{2, first, 2 + first};
     }
     if (first == 0x80) {
-        // Of indefinite length: values up to an end mark of two zeros.
+        // A value of indefinite length: values up to an end mark of two zeros.
         qsizetype at = 2;
         while (at + 2 <= bytes.size()) {
             if (bytes[at] == 0 && bytes[at + 1] == 0)

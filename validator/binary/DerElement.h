@@ -9,13 +9,13 @@
 namespace lumora
 {
 
-/// One value of ASN.1 in DER or BER, where it lies in the bytes it was read from.
+/// One value of ASN.1 in DER or BER, as views of the bytes that it was read from.
 struct DerElement
 {
-    /// The identifier as it is written, number and constructed bit in one; tag numbers past 30 are read as no value.
+    /// The identifier byte as written, with the constructed bit; values with tag numbers above 30 are not read.
     quint8 tag = 0;
     QByteArrayView whole;   ///< with identifier and length
-    QByteArrayView content; ///< without; without the end mark of an indefinite length
+    QByteArrayView content; ///< without them, and without the end mark of an indefinite length
 
     static constexpr quint8 boolean = 0x01;
     static constexpr quint8 integer = 0x02;
@@ -26,10 +26,10 @@ struct DerElement
     static constexpr quint8 set = 0x31;
 };
 
-/// The value that the bytes begin with; nothing when they are cut off or nested deeper than anything real.
+/// The value at the beginning of the bytes; empty when it is cut off or nested deeper than any real value.
 std::optional<DerElement> derElement(QByteArrayView bytes);
 
-/// The values that follow one another in the bytes, at most `limit`; nothing when one of them is damaged.
+/// The consecutive values in the bytes, at most `limit`; empty when one of them is damaged.
 std::optional<QList<DerElement>> derElements(QByteArrayView bytes, qsizetype limit = 10'000);
 
 } // namespace lumora

@@ -9,7 +9,7 @@ namespace lumora
 namespace
 {
 
-/// The newer of the two forms is wrapped in a version; in it dictionaries have a tag of their own.
+/// The newer of the two forms begins with a version, and its dictionaries have a tag of their own.
 constexpr quint8 versioned = 0x70;
 constexpr quint8 dictionary = 0xB0;
 constexpr int deepest = 16;

@@ -10,7 +10,7 @@ namespace lumora
 {
 
 /// The dictionary of entitlements in the form that newer systems read: texts as QString, whole numbers as qlonglong,
-/// booleans, arrays and dictionaries as in a property list. Nothing when the bytes are no such dictionary.
+/// booleans, arrays and dictionaries as in a property list. Empty when the bytes are not such a dictionary.
 std::optional<QVariantMap> entitlementsFromDer(QByteArrayView der);
 
 } // namespace lumora

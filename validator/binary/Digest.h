@@ -14,10 +14,10 @@ namespace lumora
 /// The numbers are those of code signatures.
 enum class DigestKind : quint8 { None = 0, Sha1 = 1, Sha256 = 2, Sha256Truncated = 3, Sha384 = 4, Sha512 = 5 };
 
-/// Length of a digest in bytes; 0 for a kind that is none.
+/// The length of a digest in bytes; 0 for None.
 qsizetype digestSize(DigestKind kind);
 
-/// Taken over content that comes piece by piece.
+/// Computes a digest of content that comes piece by piece.
 class Digest
 {
 public:
@@ -27,7 +27,7 @@ public:
     Digest &operator=(Digest &&) noexcept;
 
     void add(QByteArrayView bytes);
-    /// Once; empty for a kind that is none.
+    /// The digest; empty for None. Call it once.
     QByteArray result();
 
     static QByteArray of(DigestKind kind, QByteArrayView bytes);

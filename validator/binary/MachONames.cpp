@@ -13,10 +13,10 @@ constexpr quint8 debugBits = 0xE0;
 constexpr quint8 typeBits = 0x0E;
 constexpr quint8 externalBit = 0x01;
 
-/// What a kept name costs beyond its letters.
+/// The memory of a kept name in addition to its letters.
 constexpr qsizetype nameOverhead = 48;
 
-/// A number of seven bits a byte, least first; nothing when it does not end in time.
+/// A number with seven bits in each byte, least significant first; empty when it does not end in time.
 std::optional<quint64> leb128(QByteArrayView bytes, qsizetype &at)
 {
     quint64 value = 0;
@@ -32,7 +32,7 @@ std::optional<quint64> leb128(QByteArrayView bytes, qsizetype &at)
     return std::nullopt;
 }
 
-/// How many such numbers follow the opcode (in its high four bits).
+/// The count of such numbers after an opcode (its high four bits).
 int numbersBehind(quint8 opcode)
 {
     switch (opcode & 0xF0) {
@@ -115,7 +115,7 @@ std::optional<BinaryFault> gatherBindings(QByteArrayView opcodes, GatheredNames 
             continue;
         }
         if ((opcode & 0xF0) == 0xD0) {
-            // Threaded binding: kind 0 brings the size of its table, kind 1 nothing.
+            // Threaded binding: kind 0 is followed by the size of its table, kind 1 by nothing.
             if ((opcode & 0x0F) == 0 && !leb128(opcodes, at))
                 return BinaryFault::DamagedBindings;
             continue;
@@ -143,7 +143,7 @@ std::optional<BinaryFault> gatherChainedImports(const ByteReader &fixups, const 
     constexpr quint32 plain = 1;
     constexpr quint32 withAddend = 2;
     constexpr quint32 withLongAddend = 3;
-    // Compressed texts are allowed for by the format, but no linker writes them.
+    // The format allows compressed texts, but no linker writes them.
     if (*format < plain || *format > withLongAddend || *textsFormat != 0)
         return BinaryFault::DamagedBindings;
     const quint64 entrySize = *format == plain ? 4 : *format == withAddend ? 8 : 16;

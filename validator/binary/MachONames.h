@@ -7,7 +7,7 @@
 namespace lumora
 {
 
-/// Names of one slice as they are gathered: bounded in number of bytes, sorted and each once in the end.
+/// Collects the names of one slice: bounded in bytes, sorted and without duplicates at the end.
 class GatheredNames
 {
 public:
@@ -16,14 +16,14 @@ public:
     {
     }
 
-    /// False once the room for names is used up, or too many bytes were looked at; the name is dropped then.
+    /// False once the space for names is used up, or too many bytes were read; the name is then dropped.
     bool add(QByteArrayList &list, QByteArrayView name);
     qsizetype nameLength() const { return m_limits.nameLength; }
 
     static void finish(QByteArrayList &list);
 
 private:
-    /// A table can name one long text a million times: what is looked at is bounded, too.
+    /// A table can refer to one long text a million times, so the number of read bytes is bounded, too.
     static constexpr qsizetype looksPerByte = 8;
 
     BinaryLimits m_limits;
@@ -31,7 +31,7 @@ private:
     qsizetype m_lookLeft;
 };
 
-/// Where a slice keeps its symbols.
+/// The place of a slice's symbols.
 struct SymbolTable
 {
     quint32 symbolOffset = 0;
@@ -40,12 +40,12 @@ struct SymbolTable
     quint32 nameSize = 0;
 };
 
-/// Adds the undefined external symbols to the imported and the defined external ones to the defined. Answers the fault
-/// met, if any.
+/// Adds the undefined external symbols to the imported ones, and the defined external symbols to the defined ones.
+/// Returns the fault, if there is one.
 std::optional<BinaryFault> gatherSymbols(const ByteReader &slice, const SymbolTable &table, const BinaryLimits &limits,
                                          GatheredNames &names, BinarySlice &facts);
 
-/// Adds the names that the binding opcodes (LC_DYLD_INFO) ask for to the imported symbols.
+/// Adds the names in the binding opcodes (LC_DYLD_INFO) to the imported symbols.
 std::optional<BinaryFault> gatherBindings(QByteArrayView opcodes, GatheredNames &names, BinarySlice &facts);
 
 /// Adds the names of the import table of LC_DYLD_CHAINED_FIXUPS to the imported symbols.

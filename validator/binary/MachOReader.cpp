@@ -28,8 +28,8 @@ bool overlap(const FileRange &one, const FileRange &other)
     return one.offset < other.offset + other.size && other.offset < one.offset + one.size;
 }
 
-/// A fat file's magic number is that of a Java class, too; where this one has its number of slices, that one has its
-/// version, and no Java version is below 45.
+/// A fat file's magic number is also that of a Java class. The number of slices is at the place of Java's version,
+/// which is never below 45.
 bool isFat(const ByteReader &file)
 {
     constexpr quint32 firstJavaVersion = 45;

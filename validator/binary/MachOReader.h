@@ -10,25 +10,25 @@
 namespace lumora
 {
 
-/// How much of a binary is taken in. Real ones stay far below.
+/// The limits of reading a binary, far above those of real ones.
 struct BinaryLimits
 {
     qsizetype slices = 32;
     qsizetype loadCommands = 20'000;
-    qsizetype symbols = 2'000'000;             ///< entries of a slice's table that are looked at
-    qsizetype nameBytes = qsizetype{24} << 20; ///< of all names that are kept of a slice
-    qsizetype nameLength = 16 << 10;           ///< a longer name is cut
+    qsizetype symbols = 2'000'000;             ///< entries of a slice's table that are read
+    qsizetype nameBytes = qsizetype{24} << 20; ///< bytes of all names that are kept of a slice
+    qsizetype nameLength = 16 << 10;           ///< longer names are cut
 };
 
-/// True when the bytes begin as a Mach-O file or a fat file around some does.
+/// True when the bytes begin like a Mach-O file or a fat file.
 bool isMachO(QByteArrayView bytes);
 
-/// True when the bytes begin as a static library does.
+/// True when the bytes begin like a static library.
 bool isStaticArchive(QByteArrayView bytes);
 
-/// The facts of a Mach-O file, thin or fat, of either byte order and width; nothing when the bytes are no such file.
-/// Time and memory are bounded whatever the file says: each byte is looked at a fixed number of times at the most, and
-/// what the limits cut off is a fault.
+/// The facts of a Mach-O file, thin or fat, of either byte order and width; empty when the bytes are not such a file.
+/// Time and memory are bounded whatever the file contains: each byte is read at most a fixed number of times, and
+/// exceeding a limit is a fault.
 std::optional<BinaryFacts> readMachO(QByteArrayView bytes, const BinaryLimits &limits = {});
 
 } // namespace lumora

@@ -43,7 +43,7 @@ enum LoadCommand : quint32 {
     ChainedFixupsCommand = 0x80000034,
 };
 
-/// Sections whose type says that they have no bytes in the file.
+/// The types of sections without bytes in the file.
 bool hasNoBytes(quint32 flags)
 {
     constexpr quint32 typeBits = 0xFF;
@@ -145,7 +145,7 @@ void SliceReading::readLoadCommands()
             fault(BinaryFault::LoadCommandsPastEnd);
             return;
         }
-        // A size below the command's own header would lead the walk in a circle.
+        // With a size below that of the command's header the walk might not advance.
         constexpr quint32 smallest = 8;
         const auto content = commands.span(at, *size);
         if (*size < smallest || !content) {
@@ -163,7 +163,7 @@ bool SliceReading::readCommand(quint32 command, const ByteReader &content)
     switch (command) {
     case SegmentCommand:
     case Segment64Command:
-        // The width of a segment's command is that of the file.
+        // A segment's command must have the width of the file.
         return (command == Segment64Command) == m_facts.is64Bit && readSegment(content);
     case SymbolTableCommand:
         return readSymbolTable(content);
@@ -363,7 +363,7 @@ bool SliceReading::readUuid(const ByteReader &content)
 
 bool SliceReading::readSourceVersion(const ByteReader &content)
 {
-    // 24 bits, then four times 10; the first three numbers are kept in the form of the other versions.
+    // 24 bits, then four times 10 bits; the first three numbers are stored in the form of the other versions.
     const auto version = content.u64(8);
     if (!version)
         return false;
@@ -405,9 +405,9 @@ void SliceReading::readNames()
         const ByteReader fixups(m_reader.clipped(m_chainedFixups->offset, m_chainedFixups->size), m_reader.order());
         fault(gatherChainedImports(fixups, m_limits, m_names, m_facts));
     }
-    // Enciphered names say nothing.
+    // Encrypted names are meaningless.
     if (!m_facts.isEncrypted()) {
-        // Sections may claim the same bytes many times over; no real file has more texts than this.
+        // Sections may claim the same bytes many times; no real file has more texts than this.
         quint64 room = static_cast<quint64>(m_limits.nameBytes);
         for (const BinarySegment &segment : m_facts.segments) {
             for (const BinarySection &section : segment.sections) {

@@ -13,10 +13,10 @@
 namespace lumora
 {
 
-/// What a profile lets an app be installed for.
+/// The kind of distribution that a profile allows.
 enum class ProfileKind { Development, AdHoc, Enterprise, AppStore };
 
-/// The facts of an `embedded.mobileprovision`. What it does not name is empty.
+/// The facts of an `embedded.mobileprovision`. Missing facts are empty.
 struct ProvisioningProfile
 {
     ProfileKind kind = ProfileKind::Development;
@@ -28,20 +28,20 @@ struct ProvisioningProfile
     QStringList platforms;
     QDateTime created; ///< UTC
     QDateTime expires;
-    QStringList devices; ///< their identifiers; empty in kinds that name none
+    QStringList devices; ///< their identifiers; empty in kinds without a list of devices
     bool allDevices = false;
     QList<QByteArray> certificates; ///< DER
     QVariantMap entitlements;
 
-    /// The identifier that it is for, with the prefix; may end in "*".
+    /// The app identifier, with the prefix; may end in "*".
     QString applicationIdentifier() const;
 };
 
-/// Nothing when the bytes are no signed message with a property list in it.
+/// Empty when the bytes are not a signed message with a property list.
 std::optional<ProvisioningProfile> readProvisioningProfile(const QByteArray &message);
 
-/// True when a profile that grants the one value lets an app claim the other: the same value, a text that the granted
-/// one with a "*" at its end covers, a list of which every item is granted.
+/// True when a profile with the granted value allows an app to claim the other: the same value, a text that matches a
+/// granted one with a "*" at its end, or a list whose items are all granted.
 bool entitlementIsGranted(const QVariant &granted, const QVariant &claimed);
 
 /// "development", "ad-hoc", "enterprise", "app-store".

@@ -15,7 +15,7 @@ namespace lumora
 namespace
 {
 
-/// Some 60,000 files with two hashes each.
+/// Enough for about 60,000 files with two hashes each.
 constexpr PropertyListLimits sealLimits{
     .fileBytes = 24 << 20, .values = 600'000, .expandedBytes = 48 << 20, .depth = 16};
 constexpr qsizetype mostRules = 64;
@@ -45,13 +45,13 @@ SealRule sealRule(const QString &pattern, const QVariant &value)
         rule.weight = map.value(u"weight"_s, 1.0).toDouble();
         rule.omit = map.value(u"omit"_s).toBool();
     } else {
-        // A rule that is false keeps files out.
+        // A rule with the value false excludes files.
         rule.omit = !value.toBool();
     }
     return rule;
 }
 
-/// A rule ready to match. The pattern is foreign: how far it may search is part of it.
+/// A compiled rule. The pattern is foreign, so it includes a limit for its search.
 struct ReadyRule
 {
     QRegularExpression expression;
@@ -69,14 +69,14 @@ QList<ReadyRule> readyRules(const QList<SealRule> &rules)
         if (expression.isValid())
             ready += ReadyRule{expression, rule.weight, rule.omit};
     }
-    // Of two rules of one weight the one that leaves out is the exception that somebody meant.
+    // Of two rules with the same weight the excluding one wins, as it is the intended exception.
     std::ranges::stable_sort(ready, [](const ReadyRule &one, const ReadyRule &other) {
         return one.weight != other.weight ? one.weight > other.weight : one.omit && !other.omit;
     });
     return ready;
 }
 
-/// True when the heaviest rule that speaks of the path leaves it out, or none speaks of it.
+/// True when the matching rule of the largest weight excludes the path, or no rule matches.
 bool isLeftOut(const QString &path, const QList<ReadyRule> &rules)
 {
     for (const ReadyRule &rule : rules) {
@@ -86,7 +86,7 @@ bool isLeftOut(const QString &path, const QList<ReadyRule> &rules)
     return true;
 }
 
-/// What no seal holds: the seal itself, the link to it of old, the store's own receipts.
+/// Files that are never sealed: the seal itself, the old link to it, the store's receipts.
 bool isNeverSealed(const QString &path, const SealSubject &subject)
 {
     return path == subject.executable || path == "CodeResources"_L1 || path.startsWith("_CodeSignature/"_L1) ||
@@ -153,7 +153,7 @@ SealFindings compareWithSeal(const ResourceSeal &seal, const QMap<QString, Bundl
         const QString &path = file.key();
         if (seal.files.contains(path) || isNeverSealed(path, subject))
             continue;
-        // Nested code seals what lies in it.
+        // Nested code seals its own files.
         if (std::ranges::any_of(nested, [&](const QString &code) { return isInside(path, code); }))
             continue;
         if (!isLeftOut(path, rules))

@@ -13,17 +13,17 @@
 namespace lumora
 {
 
-/// What the seal says of one file.
+/// The seal's entry for one file.
 struct SealedFile
 {
     QByteArray sha1;
     QByteArray sha256;
-    QByteArray codeHash;   ///< of nested code: the short hash of its code directory
+    QByteArray codeHash;   ///< for nested code: the short hash of its code directory
     QString linkTarget;    ///< of a link
-    bool optional = false; ///< may be missing
+    bool optional = false; ///< the file may be missing
 };
 
-/// A rule that says which files are sealed.
+/// A rule about which files are sealed.
 struct SealRule
 {
     QString pattern; ///< regular expression over the path in the bundle
@@ -34,24 +34,24 @@ struct SealRule
 /// The content of `_CodeSignature/CodeResources`.
 struct ResourceSeal
 {
-    QMap<QString, SealedFile> files; ///< by path in the bundle; the newer list where there is one
-    QList<SealRule> rules;           ///< of the same list
-    bool hasNewList = false;         ///< false in seals of old, which know SHA-1 only
+    QMap<QString, SealedFile> files; ///< by path in the bundle; the newer list if there is one
+    QList<SealRule> rules;           ///< rules of the same list
+    bool hasNewList = false;         ///< false in old seals, which only have SHA-1
 };
 
-/// Nothing when the bytes are no seal, or hold more rows than any real one.
+/// Empty when the bytes are not a seal, or have more rows than any real one.
 std::optional<ResourceSeal> readResourceSeal(const QByteArray &bytes);
 
-/// A file of a bundle, as it is found.
+/// A file as it is in the bundle.
 struct BundleFile
 {
-    QByteArray sha1; ///< empty where nobody took it
+    QByteArray sha1; ///< empty if it was not computed
     QByteArray sha256;
     QString linkTarget;
     bool isLink = false;
 };
 
-/// How a bundle differs from its seal; paths in the bundle, in order.
+/// The differences of a bundle from its seal, as sorted paths in the bundle.
 struct SealFindings
 {
     QStringList changed;
@@ -61,11 +61,11 @@ struct SealFindings
     bool isEmpty() const { return changed.isEmpty() && missing.isEmpty() && extra.isEmpty(); }
 };
 
-/// What the comparison knows besides the files.
+/// The other input of the comparison.
 struct SealSubject
 {
     QString executable;                            ///< path of the main binary, which seals itself
-    QMap<QString, QList<QByteArray>> nestedHashes; ///< path of nested code to the short hashes of its directories
+    QMap<QString, QList<QByteArray>> nestedHashes; ///< from the path of nested code to its directories' short hashes
 };
 
 SealFindings compareWithSeal(const ResourceSeal &seal, const QMap<QString, BundleFile> &files,

@@ -106,7 +106,7 @@ QDateTime timeOf(const ASN1_TIME *time)
                      QTime(parts.tm_hour, parts.tm_min, parts.tm_sec), Qt::UTC);
 }
 
-/// A time as it stands in an attribute.
+/// Reads a time from an attribute.
 std::optional<QDateTime> attributeTime(const DerElement &element)
 {
     const auto *bytes = reinterpret_cast<const unsigned char *>(element.whole.data());
@@ -128,7 +128,7 @@ template <typename Value, typename Encode> QByteArray encoded(const Value *value
     return der;
 }
 
-/// True when the certificate is the one that the signer names, by issuer and number or by key.
+/// True when the signer refers to the certificate, by issuer and number or by key.
 bool isNamedBy(X509 *certificate, const DerElement &name)
 {
     if (name.tag == plainContext0) {
@@ -184,7 +184,7 @@ bool signatureIsBy(X509 *certificate, DigestKind digest, const QByteArray &signe
     return matches;
 }
 
-/// From the signer's certificate to the one that has signed itself, or as far as the certificates go.
+/// From the signer's certificate to the self-signed one, or as far as the certificates lead.
 void followChain(X509 *certificate, const std::vector<CertificatePointer> &all, MessageSigner &signer)
 {
     X509 *current = certificate;
@@ -285,7 +285,7 @@ std::optional<MessageSigner> readSigner(QByteArrayView message, QByteArrayView c
     if (hasAttributes) {
         for (const DerElement &attribute : derElements(fields->at(3).content, 64).value_or(QList<DerElement>()))
             readAttribute(attribute, contentDigest, signer);
-        // What was signed is the set itself, under the tag of a set.
+        // The signature is over the set itself, with the tag of a set.
         signedBytes = fields->at(3).whole.toByteArray();
         signedBytes[0] = static_cast<char>(DerElement::set);
     } else {

@@ -10,11 +10,11 @@
 namespace lumora
 {
 
-/// The artwork an app lacks, in the order of the required lists.
+/// The missing artwork of an app, in the order of the required lists.
 struct ArtworkFindings
 {
     QList<int> missingIcons; ///< edge lengths
-    /// All required launch images when the app has none of them, nothing as soon as it has one.
+    /// All required launch images when the app has none of them; empty when it has at least one.
     QList<QSize> missingLaunchImages;
 
     bool isEmpty() const { return missingIcons.isEmpty() && missingLaunchImages.isEmpty(); }
@@ -30,7 +30,7 @@ QStringList launchImageCandidates(const QStringList &images);
 
 /// The required edge lengths at which no candidate is exactly that wide and high.
 QList<int> missingIcons(PlatformType platform, const QList<QSize> &candidateSizes);
-/// Every required size when no candidate has exactly one of them, else nothing.
+/// Every required size when no candidate has exactly one of them, else empty.
 QList<QSize> missingLaunchImages(PlatformType platform, const QList<QSize> &candidateSizes);
 
 /// "57x57".

@@ -15,7 +15,7 @@ namespace
 constexpr qsizetype headerSize = 8;   // "bplist00"
 constexpr qsizetype trailerSize = 32; // 6 unused bytes, two sizes, three 64-bit numbers
 
-/// What one object comes to when every reference in it is followed.
+/// The size of one object when every reference in it is followed.
 struct Extent
 {
     enum class State : std::uint8_t { Unseen, Open, Known };
@@ -26,7 +26,7 @@ struct Extent
     qsizetype depth = 0;
 };
 
-/// The object's kind, and where its references or bytes are.
+/// The object's kind, and the place of its references or bytes.
 struct Object
 {
     qsizetype references = 0;
@@ -47,7 +47,8 @@ public:
     bool bounded();
 
 private:
-    /// Big-endian number of 1 to 8 bytes; nothing beyond the end of the file or above what a file size can be.
+    /// Reads a big-endian number of 1 to 8 bytes; empty beyond the end of the file and for numbers larger than any file
+    /// size.
     std::optional<qsizetype> number(qsizetype at, qsizetype width) const;
     std::optional<Object> object(qsizetype index) const;
     std::optional<qsizetype> lengthAt(qsizetype &at, int nibble) const;
@@ -75,7 +76,7 @@ std::optional<qsizetype> Walk::number(qsizetype at, qsizetype width) const
     return static_cast<qsizetype>(value);
 }
 
-/// The length that follows a marker: in its low four bits, or where these are all set in a number behind it.
+/// The length after a marker: in its low four bits, or, if these are all set, in the number after it.
 std::optional<qsizetype> Walk::lengthAt(qsizetype &at, int nibble) const
 {
     if (nibble != 0xF)
@@ -120,7 +121,7 @@ std::optional<Object> Walk::object(qsizetype index) const
     case 0x7: // UTF-8 text
         result.bytes = *length;
         break;
-    case 0x6: // UTF-16 text, up to three bytes of UTF-8 a unit
+    case 0x6: // UTF-16 text, up to three bytes of UTF-8 per unit
         width = 2;
         result.bytes = *length * 3;
         break;
@@ -192,7 +193,7 @@ bool Walk::measure(qsizetype root)
             return false;
         const Extent &inner = m_extents[static_cast<std::size_t>(*child)];
         if (inner.state == Extent::State::Open)
-            return false; // refers to what it is part of
+            return false; // refers to an object that contains it
         if (inner.state == Extent::State::Unseen) {
             const auto entered = enter(*child);
             if (!entered)

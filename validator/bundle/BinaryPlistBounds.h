@@ -6,19 +6,19 @@
 namespace lumora
 {
 
-/// How large and deep a property list may become when it is read.
+/// The limits of size and depth for reading a property list.
 struct PropertyListLimits
 {
     qsizetype fileBytes = 4 << 20;
-    qsizetype values = 100'000;         ///< counted as often as they are referred to
-    qsizetype expandedBytes = 16 << 20; ///< of texts and data, counted as often as they are referred to
-    qsizetype depth = 200;              ///< of arrays and dictionaries in one another
+    qsizetype values = 100'000;         ///< objects, counted as often as they are referred to
+    qsizetype expandedBytes = 16 << 20; ///< bytes of texts and data, counted as often as they are referred to
+    qsizetype depth = 200;              ///< depth of nested arrays and dictionaries
 };
 
-/// True when libplist can be trusted with the binary property list: it unfolds within the limits. Its objects refer to
-/// one another, so that a few bytes can stand for a list of any size or depth, or for one without end; libplist unfolds
-/// them without asking. Broken references and sizes make the answer false, and so do texts with a zero in them, at
-/// which libplist ends the program when they are keys.
+/// True when it is safe to read the binary property list with libplist, because it unfolds within the limits. Objects
+/// refer to one another, so a few bytes can describe a list of any size or depth, or an endless one, and libplist
+/// unfolds them without limits. Returns false for broken references and sizes, and for texts with a zero, since
+/// libplist ends the program at such a key.
 bool binaryPlistIsBounded(QByteArrayView bytes, const PropertyListLimits &limits);
 
 } // namespace lumora

@@ -35,7 +35,7 @@ QString appBundleName(const QStringList &payload)
 BundleContents bundleContents(QStringList listing)
 {
     BundleContents contents;
-    // A hostile bundle holds half a million names: each is kept once, in the memory it already has.
+    // A hostile bundle may have half a million names, so no name is copied.
     for (QString &name : listing) {
         const QString extension = pathExtension(name);
         if (name == u"Info.plist")

@@ -7,13 +7,13 @@
 namespace lumora
 {
 
-/// The text behind the last dot of a file name or path; empty for a name without dot or with its only dot in front.
+/// The text after the last dot of a file name or path; empty for a name without a dot or with its only dot in front.
 QString pathExtension(const QString &path);
 
 /// The last name with the extension "app"; empty when there is none.
 QString appBundleName(const QStringList &payload);
 
-/// What a bundle's listing says.
+/// The facts in a bundle's listing.
 struct BundleContents
 {
     bool hasInfoPlist = false;

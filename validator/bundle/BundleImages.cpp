@@ -15,7 +15,7 @@ namespace lumora
 namespace
 {
 
-/// The largest file and picture that are looked into; what an icon takes in practice is a tenth of it.
+/// The largest file and picture that are read; real icons need a tenth of that.
 constexpr qint64 largestImageFile = 16 << 20;
 constexpr qint64 largestIconArea = 2 << 20;
 

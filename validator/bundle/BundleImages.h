@@ -12,16 +12,16 @@ namespace lumora
 
 class PackageSource;
 
-/// The pixel counts of a picture in the package, from its header alone; an empty size when it is no picture.
+/// The size in pixels of a picture in the package, from its header alone; empty when it is not a picture.
 QSize pictureSize(const PackageSource &source, const QString &path);
 
 /// `pictureSize` of each file in the folder.
 QList<QSize> pictureSizes(const PackageSource &source, const QString &folder, const QStringList &names);
 
 /// The picture that represents the app: of the candidates, in their order, the first that is 512, 144, 120, 152, 1024
-/// or 114 pixels high and can be decoded, stretched to `appIconSize` pixels square with corners as the iOS version
-/// rounds them. Null when there is none. `sizes` are the candidates' own. The first one, not whichever is drawn last:
-/// the window and the command show the same icon on every run.
+/// or 114 pixels high and can be decoded, stretched to `appIconSize` pixels square with the corners of the iOS version.
+/// Null when there is none. `sizes` are the candidates' sizes. It takes the first, so that the window and the command
+/// show the same icon on every run.
 QImage appIcon(const PackageSource &source, const QString &folder, const QStringList &candidates,
                const QList<QSize> &sizes, double minimumOS);
 

@@ -6,13 +6,13 @@
 namespace lumora
 {
 
-/// For whom a package was built.
+/// The users for whom a package was built.
 enum class BuildKind {
     Debug,   ///< for the devices named in its profile, or the profile was never received
     Release, ///< the profile names no devices, or there is none
 };
 
-/// What the facts say besides the artwork.
+/// The results of checking the facts, without the artwork.
 struct MetadataVerdicts
 {
     bool bundleIdentifierValid = false;
@@ -25,9 +25,9 @@ struct MetadataVerdicts
 
 BuildKind buildKind(const PackageFacts &facts);
 
-/// The identifier is valid when it occurs anywhere in the profile's text, so "com.example" is valid in a profile for
-/// "com.example.app", while a wildcard is only valid for an app of that very identifier. A profile that was never
-/// received counts as containing everything; an app without identifier has none that a text could contain.
+/// The identifier is valid when it occurs anywhere in the profile's text. So "com.example" is valid in a profile for
+/// "com.example.app", while a wildcard is only valid for an app with exactly that identifier. A profile that was never
+/// received counts as containing every identifier; an app without an identifier is never valid.
 MetadataVerdicts metadataVerdicts(const PackageFacts &facts);
 
 } // namespace lumora

@@ -13,7 +13,7 @@ namespace lumora
 namespace
 {
 
-/// Nothing for a kind of value that is not shown.
+/// Empty for a kind of value that is not shown.
 std::optional<QString> shownText(const QVariant &value)
 {
     switch (value.typeId()) {

@@ -18,35 +18,35 @@ enum class PlatformType : int {
     Universal = 2,
 };
 
-/// What was found in an app package. Where the property list holds another kind of value than expected: numbers and
-/// booleans (1 or 0) are shown as text, every other kind as nothing at all.
+/// The facts of an app package. If the property list has an unexpected kind of value, numbers and booleans (1 or 0) are
+/// shown as text, and other kinds are not shown.
 struct PackageFacts
 {
     QString ipaPath;
-    /// Of the bundle inside the extracted package: "Documents/app/Payload/" and the bundle's name. Ends in the slash
-    /// when there is no bundle.
+    /// The path of the bundle inside the extracted package: "Documents/app/Payload/" and the bundle's name. Ends in the
+    /// slash when there is no bundle.
     QString appContentFolderPath;
-    std::optional<QVariantMap> appInfoPlist; ///< nothing when there is none that can be read
+    std::optional<QVariantMap> appInfoPlist; ///< empty when there is no readable one
     QStringList appLocalizations;            ///< English names, in the order of the folders' names
     QStringList appImages;                   ///< file names, sorted
-    /// Nothing when it was never received, empty when there is no readable profile.
+    /// `std::nullopt` when it was never received, empty when there is no readable profile.
     std::optional<QString> provisioningProfile;
 
     QString appName() const;
     QString appVersion() const;
     QString appBundleIdentifier() const;
     QString appMinimumOSVersion() const;
-    /// Nothing when the list has no such text or number.
+    /// Empty when the list has no such text or number.
     std::optional<QString> appFacebookID() const;
-    /// "iPhone", "iPad" or "iPhone & iPad"; without any property list empty. A list that names no family is an iPad
-    /// app's. A family that stands alone instead of in an array counts as an array of one.
+    /// "iPhone", "iPad" or "iPhone & iPad"; empty without a property list. A list without a family is that of an iPad
+    /// app. A family without an array counts as an array of one.
     QString appPlatform() const;
     PlatformType appPlatformType() const;
-    /// Of the first URL type only; nothing when there is no URL type or it has no schemes. One that stands alone
-    /// instead of in an array counts as an array of one.
+    /// The schemes of the first URL type; empty when there is no URL type or it has no schemes. A scheme without an
+    /// array counts as an array of one.
     std::optional<QStringList> appURLSchemes() const;
 
-    /// The minimum system version's leading number, 0 without one.
+    /// The minimum system version's leading number; 0 if there is none.
     double minimumOSNumber() const;
 
 private:

@@ -22,13 +22,13 @@ namespace lumora
 namespace
 {
 
-/// Where a source shows the app's bundle.
+/// The path at which a source shows the app's bundle.
 QString shownBundle(const PackageFacts &facts)
 {
     return facts.appContentFolderPath.sliced(extractionFolder.size() + 1);
 }
 
-/// The folder's names; none when it cannot be listed, which is logged.
+/// The folder's names; empty when it cannot be listed, which is logged.
 QStringList loggedListing(const PackageSource &source, const QString &folder)
 {
     if (!source.isFolder(folder))
@@ -36,7 +36,7 @@ QStringList loggedListing(const PackageSource &source, const QString &folder)
     return source.names(folder);
 }
 
-/// A package of which nothing is there.
+/// A package without any contents.
 class NoSource final : public PackageSource
 {
 public:
@@ -165,7 +165,7 @@ void PackageInspection::startValidate(const PackageSource &source)
 void PackageInspection::doneGatheringInfo(const InspectionSite &site)
 {
     const QString payload = QDir::cleanPath(site.workFolder + u'/' + payloadFolder);
-    // An archive may hold a plain file of the name.
+    // An archive may contain a plain file of that name.
     if (!QFile::remove(payload))
         QDir(payload).removeRecursively();
 }

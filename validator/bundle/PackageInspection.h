@@ -17,34 +17,34 @@
 namespace lumora
 {
 
-/// Where a package is unpacked and what its inspection may use. One inspection at a time works in one folder.
+/// The folder and the means of an inspection. Only one inspection at a time may use a folder.
 struct InspectionSite
 {
     QString workFolder; ///< the package is unpacked to `extractionFolder` in it
     const ProfileDecoder &profileDecoder;
     ExtractionLimits limits = {};
-    std::stop_token stop = {}; ///< ends the extraction early, and nothing is read then
+    std::stop_token stop = {}; ///< ends the extraction early; then nothing is read
 };
 
-/// Where a package is unpacked to, and the part of it that holds the app; relative to the work folder.
+/// The folder of the unpacked package, and the part of it with the app; relative to the work folder.
 inline constexpr QLatin1StringView extractionFolder("Documents/app");
 inline constexpr QLatin1StringView payloadFolder("Documents/app/Payload/");
 
-/// How the unpacking or the reading went. What could be read is there in every case.
+/// The result of the unpacking or the reading. The readable part is always there.
 struct Extraction
 {
-    Outcome outcome = Done{}; ///< the archive could not be opened or read to its end, or passed a limit
+    Outcome outcome = Done{}; ///< the archive could not be opened or read to its end, or exceeded a limit
     QStringList damagedEntries;
 };
 
-/// What the icons of an app come to.
+/// The results about the icons of an app.
 struct IconFindings
 {
     QList<int> missing; ///< edge lengths, in the order of the required list
     QImage appIcon;     ///< the picture that represents the app, null when the bundle has none
 };
 
-/// What the artwork checks found, and the picture that represents the app.
+/// The results of the artwork checks, and the picture that represents the app.
 struct ArtworkReport
 {
     ArtworkFindings findings;
@@ -60,7 +60,7 @@ struct PackageReport
     bool hasApp = false;
 };
 
-/// Sees the results of an inspection as they come, on the thread that inspects.
+/// Receives the results of an inspection as they come, on the inspecting thread.
 class InspectionObserver
 {
 public:
@@ -76,9 +76,9 @@ class PackageInspection
 public:
     PackageInspection(QString ipaPath, const ProfileDecoder &decoder, InspectionObserver &observer);
 
-    /// The first step for a package that is unpacked: all others follow, and the payload is removed at the end.
+    /// The first step for a package that must be unpacked: all others follow, and the payload is removed at the end.
     PackageReport unzipApp(const InspectionSite &site);
-    /// The first step for a package that is read where it lies.
+    /// The first step for a package that is read in place.
     PackageReport fetchAppContents(const PackageSource &source, const WholeReading &reading);
 
 private:
@@ -98,7 +98,7 @@ bool isPackageName(const QString &path);
 
 /// Unpacks the package and inspects it.
 PackageReport inspectPackage(const QString &ipaPath, const InspectionSite &site);
-/// Inspects the package where it lies. `reading` is what `readAll` said of the same source.
+/// Inspects the package in place. `reading` is the result of `readAll` for the same source.
 PackageReport inspectPackage(const PackageSource &source, const WholeReading &reading, const ProfileDecoder &decoder);
 
 /// The parts of the steps.
@@ -107,7 +107,7 @@ PackageFacts readBundle(const QString &ipaPath, const PackageSource &source, con
 IconFindings validateAppIcons(const PackageFacts &facts, const PackageSource &source);
 QList<QSize> validateAppDefaults(const PackageFacts &facts, const PackageSource &source);
 
-/// `Done` for a report about an app. Else the archive's failure, or that there is no app in it.
+/// `Done` for a report about an app; otherwise the archive's failure, or the failure that it has no app.
 Outcome reportOutcome(const PackageReport &report);
 
 } // namespace lumora

@@ -84,7 +84,7 @@ std::optional<QString> SecurityToolProfileDecoder::readProvisioning(const Packag
                                                                     const QString &path) const
 {
     const PackageEntry *entry = source.find(path);
-    // The tool says itself that there is no file.
+    // The tool itself reports a missing file.
     const QString onDisk = entry == nullptr ? path : source.pathOnDisk(*entry);
     return onDisk.isEmpty() ? std::nullopt : readProvisioningFromPath(onDisk);
 }

@@ -34,7 +34,7 @@ QVariantList arrayOf(plist_t node, qsizetype depthLeft)
     QVariantList list;
     const std::uint32_t size = ::plist_array_get_size(node);
     list.reserve(size);
-    // The iterator goes from link to link; asking by index would walk from the start each time.
+    // The iterator follows the links; access by index would walk from the start each time.
     plist_array_iter iterator = nullptr;
     ::plist_array_new_iter(node, &iterator);
     const std::unique_ptr<void, FreeMemory> owner(iterator);
@@ -113,7 +113,7 @@ bool isBinary(QByteArrayView bytes)
     return bytes.startsWith("bplist");
 }
 
-/// As UTF-8 without a byte order mark, which is all that libplist reads.
+/// As UTF-8 without a byte order mark, the only encoding that libplist reads.
 QByteArray asUtf8(const QByteArray &bytes)
 {
     const auto encoding = QStringDecoder::encodingForData(bytes, u'<');
@@ -124,17 +124,18 @@ QByteArray asUtf8(const QByteArray &bytes)
     return text.toUtf8();
 }
 
-/// A zero, plain or as a character reference. libplist ends the program at one in a key.
+/// Whether there is a zero, plain or as a character reference. libplist ends the program at a zero in a key.
 bool holdsZero(const QByteArray &xml)
 {
     static const QRegularExpression reference(QStringLiteral("&#[xX]?0*;"));
     return xml.contains('\0') || reference.match(QString::fromLatin1(xml)).hasMatch();
 }
 
-/// XML cannot refer back, so its tags bound what it unfolds to.
+/// XML has no references, so the number of tags limits its unfolded size.
 bool xmlIsBounded(const QByteArray &xml, const PropertyListLimits &limits)
 {
-    // Most tags come in pairs. The other half of the depth is held by arrays and dictionaries that are never closed.
+    // Most tags come in pairs; the opening tags of arrays and dictionaries limit the depth, even when they are never
+    // closed.
     constexpr qsizetype containersPerDepth = 100;
     return xml.count('<') <= limits.values * 2 &&
            xml.count("<array") + xml.count("<dict") <= limits.depth * containersPerDepth;

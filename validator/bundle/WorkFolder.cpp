@@ -27,11 +27,11 @@ QString defaultParent()
     const QString chosen = qEnvironmentVariable("TMPDIR");
     if (!chosen.isEmpty())
         return chosen;
-    // A package may unpack to gigabytes, and /tmp is in memory on many systems.
+    // A package may unpack to gigabytes, and on many systems /tmp is in memory.
     return QFileInfo(u"/var/tmp"_s).isWritable() ? u"/var/tmp"_s : u"/tmp"_s;
 }
 
-/// The folder's descriptor with an exclusive lock on it; invalid when it is no folder of this user's or in use.
+/// The folder's descriptor with an exclusive lock; invalid when it is not this user's folder or is in use.
 FileDescriptor lockedFolder(const QString &path)
 {
     FileDescriptor folder(::open(QFile::encodeName(path).constData(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
@@ -42,7 +42,7 @@ FileDescriptor lockedFolder(const QString &path)
     return folder;
 }
 
-/// False when the folder was removed between its making and its locking.
+/// False when the folder was removed after it was made and before it was locked.
 bool stillThere(const FileDescriptor &folder)
 {
     struct stat status = {};

@@ -11,14 +11,14 @@
 namespace lumora
 {
 
-/// A private folder on disk for what is unpacked while the program runs; removed, with all that is in it, when the
-/// object goes. A lock marks it as in use, so that the next process removes what a killed one left behind.
+/// A private folder on disk for unpacked files. The destructor removes it with all its contents. A lock marks it as in
+/// use, so that the next process can remove the folder of a killed one.
 class WorkFolder
 {
 public:
-    /// Makes a fresh folder, readable for this user only, below TMPDIR, else /var/tmp, else /tmp.
+    /// Makes a new folder, readable for this user only, below TMPDIR, else /var/tmp, else /tmp.
     static Result<std::unique_ptr<WorkFolder>> make();
-    /// The same below a folder of the caller's choice.
+    /// The same below the given folder.
     static Result<std::unique_ptr<WorkFolder>> make(const QString &parent);
     ~WorkFolder();
     Q_DISABLE_COPY_MOVE(WorkFolder)

@@ -7,14 +7,14 @@
 namespace lumora
 {
 
-/// The artwork an iPad app needs, in pixels. Figures from Apple's human interface guidelines for iOS 6 and 7.
+/// The artwork that an iPad app needs, in pixels, from Apple's human interface guidelines for iOS 6 and 7.
 class iPadData
 {
 public:
-    /// Edge lengths of the square icons of an iPad app.
+    /// The edge lengths of the square icons of an iPad app.
     QList<int> icons() const { return {72, 144, 76, 152, 29, 58, 40, 80, 50, 100, 512, 1024}; }
 
-    /// The edge lengths that an iPhone app needs besides its own to run on the iPad as well.
+    /// The additional edge lengths for an iPhone app that also runs on the iPad.
     QList<int> universalIcons() const { return {72, 144, 76, 152}; }
 
     /// Launch images.

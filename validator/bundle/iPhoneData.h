@@ -7,7 +7,7 @@
 namespace lumora
 {
 
-/// The artwork an iPhone app needs, in pixels. Figures from Apple's human interface guidelines for iOS 6 and 7.
+/// The artwork that an iPhone app needs, in pixels, from Apple's human interface guidelines for iOS 6 and 7.
 class iPhoneData
 {
 public:

@@ -46,7 +46,7 @@ bool isMacApp(const PackageContents &contents)
     return platform == BinaryPlatform::MacOS || platform == BinaryPlatform::MacCatalyst;
 }
 
-/// A folder right inside one that ends in the extension, as in "A.framework/Frameworks".
+/// Whether the path has a folder directly inside one with the extension, as in "A.framework/Frameworks".
 QStringList foldersIn(const PackageContents &contents, const QString &extension, const QString &folder)
 {
     const QString mark = extension + u'/' + folder + u'/';
@@ -68,7 +68,7 @@ Judgement judgeSdkAge(const PackageContents &contents, const RuleSettings &setti
 {
     if (!isPhoneApp(contents))
         return notApplicable(u"no app for iPhone or iPad"_s);
-    // The day within the month is not taken for sure: each begins when its month is over.
+    // The day within the month is not certain, so each date counts from the end of its month.
     const SdkDemand demands[] = {{QDate(2026, 4, 30), 26}, {QDate(2025, 4, 30), 18}};
     for (const SdkDemand &demand : demands) {
         if (settings.on > demand.since)

@@ -66,7 +66,7 @@ bool catalogHolds(const PackageBundle &app, int edge, bool (*fits)(const Catalog
     });
 }
 
-/// Loose pictures say their size by their name alone here: "AppIcon60x60@2x.png" is 120 pixels square.
+/// The size of loose pictures comes from their names only: "AppIcon60x60@2x.png" is 120 pixels square.
 bool looseIconHas(const PackageContents &contents, int edge)
 {
     static const QRegularExpression form(u"(\\d+(?:\\.\\d+)?)x\\1(?:@(\\d)x)?(?:~\\w+)?\\.png$"_s);
@@ -84,7 +84,7 @@ bool looseIconHas(const PackageContents &contents, int edge)
     return false;
 }
 
-/// The icon files that the Info.plist names, which may have any name: their pixels are not looked at.
+/// The icon files in the Info.plist. They may have any name, so their sizes are not known.
 bool namesLooseIcons(const PackageBundle &app)
 {
     return app.has(u"CFBundleIconFiles"_s) || app.has(u"CFBundleIconFile"_s) ||

@@ -28,7 +28,7 @@ bool isVersion(const QString &text)
     return form.match(text).hasMatch();
 }
 
-/// Only iPad apps that share the screen have to turn into every direction.
+/// Only iPad apps that share the screen must support all orientations.
 bool sharesTheScreen(const PackageBundle &app)
 {
     return deviceFamilies(app).contains(2) && !app.info->value(u"UIRequiresFullScreen"_s).toBool() &&
@@ -242,7 +242,7 @@ Judgement judgeFacebook(const PackageContents &contents, const RuleSettings &)
 Judgement judgeLocalizationHoles(const PackageContents &contents, const RuleSettings &)
 {
     const QString start = contents.app()->path + u'/';
-    // Language to its tables, of the app itself only.
+    // From language to its tables, of the app itself only.
     QMap<QString, QSet<QString>> tables;
     for (const QString &path : contents.paths) {
         const QStringList steps = path.startsWith(start) ? path.mid(start.size()).split(u'/') : QStringList();

@@ -23,7 +23,7 @@ inline Judgement cannotBeKnown(const QString &reason)
     return {Judgement::Unknown, {}, reason};
 }
 
-/// Broken when there is any evidence, else it holds.
+/// Broken when there is any evidence; otherwise the rule holds.
 inline Judgement brokenBy(const QList<Evidence> &evidence)
 {
     return evidence.isEmpty() ? holds() : Judgement{Judgement::Broken, evidence, {}};
@@ -34,17 +34,17 @@ inline QString infoPath(const PackageBundle &bundle)
     return bundle.path + QStringLiteral("/Info.plist");
 }
 
-/// Of the app: what its binary says, else what its Info.plist says. Nothing is known of an app with neither.
+/// From the app's binary, else from its Info.plist; unknown without both.
 BinaryPlatform platformOf(const PackageContents &contents);
 bool isPhoneApp(const PackageContents &contents);
-/// 1 for the phone, 2 for the pad; an app that names none is for the phone.
+/// 1 for the phone, 2 for the pad; an app without device families is for the phone.
 QList<int> deviceFamilies(const PackageBundle &app);
 QVersionNumber minimumSystem(const PackageBundle &bundle);
-/// The SDK that the app's binary was built with, else the one that its Info.plist names; null when neither does.
+/// The SDK of the app's binary, else that of its Info.plist; null if neither has one.
 QVersionNumber sdkOf(const PackageContents &contents);
 /// The entitlements that the app's signature claims.
 QVariantMap entitlementsOf(const PackageContents &contents, const PackageBundle &bundle);
-/// The bundles that hold code of their own: the app, extensions, frameworks, watch apps.
+/// The bundles with code of their own: the app, extensions, frameworks, watch apps.
 QList<const PackageBundle *> codeBundles(const PackageContents &contents);
 
 Judgement judgePhoneIcon(const PackageContents &, const RuleSettings &);

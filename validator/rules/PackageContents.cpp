@@ -20,12 +20,12 @@ namespace
 constexpr qsizetype largestBinary = qsizetype{1} << 30;
 constexpr qsizetype largestKept = 64 << 20;
 
-/// What one file of the package came to.
+/// The result of reading one file of the package.
 struct ReadFile
 {
     QByteArray sha1;
     QByteArray sha256;
-    QByteArray content; ///< of the files that facts are drawn from
+    QByteArray content; ///< only for files with facts
     std::optional<PackageBinary> binary;
     bool isStaticArchive = false;
 };
@@ -50,7 +50,7 @@ PackageBinary readBinary(const QString &path, const QByteArray &content, BinaryF
     return binary;
 }
 
-/// Where the threads that read leave what they found.
+/// The results of the reading threads.
 struct Gathering
 {
     std::mutex mutex;

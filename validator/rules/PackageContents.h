@@ -25,27 +25,27 @@ struct PackageBinary
 {
     QString path;
     BinaryFacts facts;
-    /// One for each slice that is signed, in the order of the slices.
+    /// One for each signed slice, in the order of the slices.
     QList<CodeSignature> signatures;
 
     bool isSigned() const { return !facts.slices.isEmpty() && signatures.size() == facts.slices.size(); }
 };
 
-/// How a bundle's files agree with what is signed.
+/// The comparison of a bundle's files with its signature.
 struct BundleSeal
 {
-    bool present = false;   ///< there is a seal, and it can be read
+    bool present = false;   ///< there is a readable seal
     bool infoBound = false; ///< the signature is about this Info.plist
     bool sealBound = false; ///< the signature is about this seal
     SealFindings findings;
 };
 
-/// One bundle: the app, or what is nested in it. Paths are those of the package.
+/// One bundle: the app, or a bundle nested in it. Paths are relative to the package.
 struct PackageBundle
 {
     QString path;
     BundleKind kind = BundleKind::App;
-    std::optional<QVariantMap> info; ///< nothing when there is no Info.plist that can be read
+    std::optional<QVariantMap> info; ///< empty when there is no readable Info.plist
     QString executable;              ///< path; empty when the bundle names none
     qsizetype binary = -1;           ///< number of the executable in `PackageContents::binaries`
     BundleSeal seal;
@@ -61,16 +61,16 @@ struct PackageBundle
     QString name() const { return path.mid(path.lastIndexOf(u'/') + 1); }
 };
 
-/// What a package holds, read once; it knows nothing of rules.
+/// The contents of a package, read once; independent of rules.
 struct PackageContents
 {
-    QList<PackageBundle> bundles; ///< the app first; empty without one
+    QList<PackageBundle> bundles; ///< the app first; empty if there is none
     QList<PackageBinary> binaries;
     QStringList staticArchives;
     QStringList paths;            ///< all files and links, in order
     QMap<QString, quint64> sizes; ///< of files, unpacked; bytes
     quint64 packedSize = 0;
-    bool isArchive = false; ///< an .ipa; in other forms what stands beside "Payload" is not there yet
+    bool isArchive = false; ///< an .ipa; other forms have no files beside "Payload" yet
     QStringList damaged;
 
     const PackageBundle *app() const { return bundles.isEmpty() ? nullptr : &bundles.first(); }
@@ -80,7 +80,7 @@ struct PackageContents
     bool holdsFolder(const QString &path) const;
 };
 
-/// Reads every file of the package once. What is larger than any real file of its kind is taken as unreadable.
+/// Reads every file of the package once. A file that is larger than any real file of its kind counts as unreadable.
 PackageContents readPackageContents(const PackageSource &source, const std::stop_token &stop = {});
 
 } // namespace lumora

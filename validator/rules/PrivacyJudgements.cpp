@@ -13,7 +13,7 @@ namespace lumora
 namespace
 {
 
-/// A class whose use needs a text for people; any of the keys will do.
+/// A class whose use needs a text for the user; any one of the keys is enough.
 struct Purpose
 {
     const char *className;
@@ -75,7 +75,7 @@ template <std::size_t Count> Judgement judgeTexts(const PackageContents &content
     return brokenBy(missing);
 }
 
-/// The first thing of the category that the binary uses; empty for none.
+/// The first symbol of the category that the binary uses; empty if there is none.
 QString use(const PackageBinary &binary, const RequiredReason &category)
 {
     for (const BinarySlice &slice : binary.facts.slices) {
@@ -91,8 +91,8 @@ QString use(const PackageBinary &binary, const RequiredReason &category)
     return {};
 }
 
-/// What is declared for the code of a bundle: by itself, by the app, and by the bundles of resources that kits linked
-/// into the code bring.
+/// The declarations for the code of a bundle: its own, the app's, and those in resource bundles of kits that are linked
+/// into the code.
 QSet<QString> declaredFor(const PackageContents &contents, const PackageBundle &bundle)
 {
     QSet<QString> declared;

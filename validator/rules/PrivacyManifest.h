@@ -16,12 +16,12 @@ struct PrivacyManifest
     QStringList trackingDomains;
     qsizetype collectedDataTypes = 0;
     QMap<QString, QStringList> reasons; ///< by category, without "NSPrivacyAccessedAPICategory"
-    QStringList faults;                 ///< what is wrong with its form, in plain words
+    QStringList faults;                 ///< the faults of its form, in plain words
 };
 
 PrivacyManifest readPrivacyManifest(const QVariantMap &list);
 
-/// A category of which the use has to be declared with a reason.
+/// A category whose use must be declared with a reason.
 struct RequiredReason
 {
     const char *category;

@@ -14,34 +14,34 @@ namespace lumora
 
 enum class Severity { Note, Warning, Error };
 
-/// What was found, and where in the package.
+/// A finding, and its place in the package.
 struct Evidence
 {
     QString path;
     QString text;
 };
 
-/// What a rule comes to for one package.
+/// The result of a rule for one package.
 struct Judgement
 {
     enum State { Holds, Broken, NotApplicable, Unknown };
 
     State state = Holds;
-    QList<Evidence> evidence; ///< of what is broken
+    QList<Evidence> evidence; ///< evidence of a broken rule
     QString reason;           ///< why the rule does not apply or cannot be known
 };
 
-/// What a judgement takes for granted.
+/// The assumptions of a judgement.
 struct RuleSettings
 {
-    QDate on; ///< the day that rules with a date are judged for
+    QDate on; ///< the day for which rules with a date are judged
 };
 
 /// A rule of the store, as a row.
 struct Rule
 {
     const char *id;
-    const char *code; ///< of the store's own message; empty where it has none
+    const char *code; ///< of the store's own message; empty if it has none
     Severity severity;
     const char *title;
     const char *rule;
@@ -51,7 +51,7 @@ struct Rule
     Judgement (*judge)(const PackageContents &, const RuleSettings &);
 };
 
-/// Every rule, in the order in which they are listed.
+/// All rules, in the order of listing.
 std::span<const Rule> allRules();
 
 /// Null when no rule has the id or the store code.
@@ -66,8 +66,8 @@ struct Finding
     Evidence evidence;
 };
 
-/// What the rules find in the package, errors first, each piece of evidence on its own. Rules that are named in
-/// `ignored`, by id or store code, are not asked.
+/// The rules' findings in the package, errors first, one for each piece of evidence. Rules in `ignored`, given by id or
+/// store code, are skipped.
 QList<Finding> findingsIn(const PackageContents &contents, const RuleSettings &settings,
                           const QStringList &ignored = {});
 

@@ -70,7 +70,7 @@ std::optional<CertificateFacts> signerOf(const PackageContents &contents, const 
 
 bool isDistribution(const QString &commonName)
 {
-    // "Apple iPhone OS Application Signing" is what the store itself signs with.
+    // The store itself signs with "Apple iPhone OS Application Signing".
     return commonName.startsWith("iPhone Distribution"_L1) || commonName.startsWith("Apple Distribution"_L1) ||
            commonName.startsWith("Apple iPhone OS Application Signing"_L1);
 }
@@ -257,7 +257,7 @@ Judgement judgeEntitlements(const PackageContents &contents, const RuleSettings 
         found = true;
         const QVariantMap claimed = entitlementsOf(contents, bundle);
         for (auto each = claimed.cbegin(); each != claimed.cend(); ++each) {
-            // What is false or empty claims nothing.
+            // A false or empty entitlement claims nothing.
             const bool claimsNothing = each.value() == QVariant(false) ||
                                        (each->typeId() == QMetaType::QVariantList && each->toList().isEmpty());
             if (!claimsNothing && !entitlementIsGranted(bundle.profile->entitlements.value(each.key()), each.value()))
