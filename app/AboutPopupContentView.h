@@ -15,7 +15,7 @@ class AboutPopupContentView;
 namespace lumora
 {
 
-/// What the application is, its version and maker, and three ways to reach them.
+/// The about panel: the application, its version and maker, and three ways to contact the maker.
 class AboutPopupContentView final : public QWidget
 {
     Q_OBJECT

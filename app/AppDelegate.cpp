@@ -35,10 +35,10 @@ namespace lumora
 namespace
 {
 
-/// The 62 points of a sidebar item stand centered in the strip; the sidebar itself moves 10 to the right.
+/// The strip centers a sidebar item's 62 points; the sidebar itself moves 10 points to the right.
 constexpr int sidebarFrameX = -11;
 constexpr qreal trafficLightsTopMargin = 5;
-/// Left of the two header buttons.
+/// The left one of the two header buttons.
 constexpr qreal fullScreenButtonRightMargin = 130;
 constexpr int popupAnchorBelowTitleBar = 20;
 
@@ -124,8 +124,8 @@ void AppDelegate::setUpWindow()
     m_ui = std::make_unique<Ui::MainWindow>();
     m_ui->setupUi(content);
     m_window->setContentView(content);
-    // The window's frame stands as it is drawn in every language: sidebar left, its popups placed from there. What is
-    // inside it follows the direction of reading.
+    // The window's frame is the same in every language: the sidebar is at the left. Its contents follow the direction
+    // of reading.
     m_window->setLayoutDirection(Qt::LeftToRight);
     m_ui->contentView->setLayoutDirection(QApplication::layoutDirection());
     const qreal standardHeight =
@@ -240,7 +240,7 @@ void AppDelegate::sideBarItemClicked()
 void AppDelegate::updateViewForIndex()
 {
     const qint32 index = m_sideBar->selectedIndex();
-    // The sidebar can be cleared by its escape key; the tool that was current stays in view then.
+    // The escape key clears the sidebar's selection; the current tool then stays in view.
     if (index < 0)
         return;
     m_toolInView = static_cast<std::size_t>(index);
@@ -318,7 +318,7 @@ void AppDelegate::togglePopup(SFBPopover *popup, SFBPopover *other, QWidget *sen
                                       headerPopupAnchor({}, m_window->height(), m_window->titleBarHeight()));
         return;
     }
-    // The anchor is given from the button's middle, the gap from its lower edge.
+    // The anchor is relative to the button's middle, the gap to its lower edge.
     popup->displayPopover({sender, Qt::BottomEdge, popupAnchorBelowTitleBar - sender->height() / 2.0, {}});
 }
 
@@ -373,7 +373,7 @@ void AppDelegate::showAlertWithTitle(const QString &title, const QString &andMes
     alert->buttonTitles = QStringList{qtTrId("CLOSE"), qtTrId("BUG_REPORT"), qtTrId("SUPPORT")};
     UrlOpener &opener = m_services.urlOpener;
     alert->runAsPopoverForView(fromView, [&opener](int response) {
-        // The second button opens the support page and the third the report page, whatever they say.
+        // The second button opens the support page and the third the report page, whatever their texts.
         if (response == PopoverAlert::thirdButtonReturn)
             opener.open(QUrl(qtTrId("ABOUT_BUG_REPORT_WEB")));
         else if (response == PopoverAlert::secondButtonReturn)

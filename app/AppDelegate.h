@@ -31,27 +31,27 @@ class PopupContentView;
 class SFBPopover;
 class ToolViewController;
 
-/// Where a header button's popup points, from the window's lower left corner, counting upwards; the button's frame is
-/// in the title bar's coordinates, counting upwards too.
+/// The point at which a header button's popup points, from the window's lower left corner, y upwards. The button's
+/// frame is in the title bar's coordinates, also y upwards.
 QPointF headerPopupAnchor(const QRectF &buttonFrame, qreal windowHeight, qreal titleBarHeight);
 
 /// The application: one window with header and sidebar, the tools' controllers, and the help and about popups. The
-/// current tool is the sidebar's selection. What the first frame does not show (the other tools, both popups) is made
-/// one by one behind it, or as soon as it is needed.
+/// current tool is the sidebar's selection. The parts that the first frame does not show (the other tools, both popups)
+/// are made one by one after it, or as soon as they are needed.
 class AppDelegate final : public QObject, public INAppStoreWindowDelegate
 {
     Q_OBJECT
 
 public:
     explicit AppDelegate(const Services &services, QObject *parent = nullptr);
-    /// Waits for exports that run.
+    /// Waits for running exports.
     ~AppDelegate() override;
 
-    /// Builds the window, ready to be shown; once.
+    /// Builds the window, ready to be shown. Call it once.
     void applicationDidFinishLaunching();
-    /// Hands the first file to the tool that takes its kind; brings the window to the front in any case.
+    /// Passes the first file to the tool for its kind, and always brings the window to the front.
     void applicationOpenFiles(const QStringList &files);
-    /// Brings the window to the front and answers false: there are no documents.
+    /// Brings the window to the front and returns false: there are no documents.
     bool applicationShouldOpenUntitledFile();
 
     INAppStoreWindow *window() const { return m_window.get(); }
@@ -63,16 +63,16 @@ public:
     PopupContentView *popupContentView();
     SFBPopover *aboutPopupView();
     AboutPopupContentView *aboutPopupContentView();
-    /// Of the tool at the place in the tool table; lives until the application quits.
+    /// The controller of the tool at the index of the tool table; lives until the application quits.
     ToolViewController *controller(std::size_t index);
-    /// Of the tool in view: the sidebar's selection, or the last one where that was cleared.
+    /// The controller of the tool in view: the sidebar's selection, or the last one if that was cleared.
     ToolViewController *currentController() const { return m_currentController; }
-    /// Its place in the tool table.
+    /// Its index in the tool table.
     std::size_t toolInView() const { return m_toolInView; }
-    /// Nothing is left to be made: every tool and both popups are there.
+    /// Whether every tool and both popups are made.
     bool isComplete() const;
 
-    /// The name the application goes by is bold, the first bar regular; the rest takes the label's font.
+    /// The application's name is bold, the first bar regular; the rest has the label's font.
     static StyledText createAttributedStringForHeaderTitle(const QString &title);
 
     /// Shows a question with three buttons on the view: close, report, support.
@@ -105,7 +105,7 @@ private:
     void setUpWindow();
     void setUpHeader();
     void setUpSidebar();
-    /// Makes one thing that the first frame did not need; again with the next turn of the event loop.
+    /// Makes one part that the first frame did not need, then continues in the next turn of the event loop.
     void makeNext();
     std::unique_ptr<SFBPopover> makePopover(QWidget *content) const;
     void tellHelp();
@@ -118,7 +118,7 @@ private:
     ITSidebar *m_sideBar = nullptr;
     PopupContentView *m_popupContentView = nullptr;           ///< owned by its popover
     AboutPopupContentView *m_aboutPopupContentView = nullptr; ///< owned by its popover
-    std::unique_ptr<SFBPopover> m_popupView;                  ///< null until needed, as the other popover
+    std::unique_ptr<SFBPopover> m_popupView;                  ///< null until needed, like the other popover
     std::unique_ptr<SFBPopover> m_aboutPopupView;
     DropRouter *m_dropRouter = nullptr;
     std::size_t m_toolInView = 0;

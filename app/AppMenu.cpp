@@ -19,7 +19,7 @@ namespace lumora
 namespace
 {
 
-/// Hands an editing command to the text that is being edited; those that take it have a slot of that name.
+/// Passes an editing command to the edited text; widgets that accept it have a slot of that name.
 void editText(const char *slot)
 {
     QWidget *focused = QApplication::focusWidget();
@@ -46,7 +46,7 @@ AppMenu::AppMenu(AppDelegate &delegate) : m_delegate(delegate)
     });
     window->addAction(showMenu);
 
-    // Not only the header: the menu key goes to whatever has the focus, and what has no menu of its own passes it on.
+    // Not only the header: the menu key goes to the focused widget, and widgets without a menu of their own pass it on.
     window->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(window, &QWidget::customContextMenuRequested, this,
             [this, window](QPoint position) { m_menu.popup(window->mapToGlobal(position)); });
@@ -83,7 +83,7 @@ void AppMenu::addEditMenu()
     QMenu *menu = m_menu.addMenu(qtTrId("MENU_EDIT"));
     add(menu, qtTrId("MENU_CUT"), QKeySequence::Cut, [] { editText("cut"); });
     add(menu, qtTrId("MENU_COPY"), QKeySequence::Copy, [] { editText("copy"); });
-    // A text that is being edited takes the keys before they come here.
+    // An edited text gets the keys before they arrive here.
     m_paste = add(menu, qtTrId("MENU_PASTE"), QKeySequence::Paste, [this] { m_delegate.currentController()->paste(); });
     add(menu, qtTrId("MENU_SELECT_ALL"), QKeySequence::SelectAll, [] { editText("selectAll"); });
 }

@@ -21,7 +21,7 @@ namespace
 constexpr char addressVariable[] = "DBUS_SESSION_BUS_ADDRESS";
 const QString interfaceName = u"org.freedesktop.Application"_s;
 
-/// Until when the caller waits, by the clock that all processes of the machine share, in milliseconds.
+/// The end of the caller's wait, in milliseconds of the clock that all processes of the machine share.
 const QString answerUntilKey = u"lumora-answer-until"_s;
 
 qint64 sharedClock()
@@ -30,14 +30,14 @@ qint64 sharedClock()
     return duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count();
 }
 
-/// Whether the caller has given up by now and does what it asked for itself.
+/// Whether the caller has stopped waiting and now does the work itself.
 bool comesTooLate(const QVariantMap &platformData)
 {
     const QVariant until = platformData.value(answerUntilKey);
     return until.isValid() && sharedClock() >= until.toLongLong();
 }
 
-/// What lets the running program take the focus that this start was given, and how long this start waits.
+/// The data that let the running program take the focus of this start, and the end of this start's wait.
 QVariantMap platformData(std::chrono::milliseconds patience)
 {
     QVariantMap data{{answerUntilKey, sharedClock() + patience.count()}};
@@ -91,7 +91,8 @@ private:
         const QString id = QString::fromLatin1(applicationId);
         QDBusMessage call = QDBusMessage::createMethodCall(id, BusApplication::objectPath(id), interfaceName, member);
         call.setArguments(arguments);
-        // Otherwise the bus would start a new instance if that one has just exited; this one is there already.
+        // Otherwise the bus would start a new instance if the running one has just exited; this process is already
+        // there.
         call.setAutoStartService(false);
         return m_bus.call(call, QDBus::Block, static_cast<int>(m_patience.count())).type() ==
                QDBusMessage::ReplyMessage;
@@ -109,21 +110,21 @@ QString BusApplication::objectPath(const QString &id)
 {
     QString path = u'/' + id;
     path.replace(u'.', u'/');
-    // A bus path may not hold hyphens, which an id may.
+    // An id may contain hyphens, but a bus path may not.
     return path.replace(u'-', u'_');
 }
 
 BusApplication::Start BusApplication::start(const OpenRequest &request, std::chrono::milliseconds patience)
 {
     if (isSilentBus(qgetenv(addressVariable), patience)) {
-        // The toolkit would join it too, for its own purposes, and hang.
+        // The toolkit would also connect to it, and hang.
         qputenv(addressVariable, "disabled:");
         return Start::Alone;
     }
     QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected())
         return Start::Alone;
-    // The object first: calls may come in as soon as the name is taken.
+    // The object first: calls may arrive as soon as the name is taken.
     bus.registerObject(objectPath(QString::fromLatin1(applicationId)), this, QDBusConnection::ExportAllSlots);
     if (takeName(bus, QDBusConnectionInterface::DontQueueService))
         return Start::First;

@@ -10,15 +10,15 @@
 namespace lumora
 {
 
-/// What a start of the program asks for.
+/// The request of a start of the program.
 struct OpenRequest
 {
-    QString tool;      ///< the tool to show, by its name; empty for none in particular
+    QString tool;      ///< the name of the tool to show; empty for none
     QStringList files; ///< absolute paths
 };
 
-/// The running program on the session bus, as org.freedesktop.Application describes it: there is one window a session,
-/// and a second start of the program talks to it.
+/// The running program on the session bus, as org.freedesktop.Application describes it: there is one window per
+/// session, and a second start of the program passes its request to it.
 class BusApplication final : public QObject
 {
     Q_OBJECT
@@ -26,18 +26,18 @@ class BusApplication final : public QObject
 
 public:
     enum class Start {
-        First,     ///< this process is the program now
-        Forwarded, ///< another one is, and it took the request
-        Alone,     ///< there is no bus, or nobody there answered; for now nobody finds this process
+        First,     ///< this process is now the program
+        Forwarded, ///< another process is, and it took the request
+        Alone,     ///< there is no bus, or nothing there answered; no other start can find this process for now
     };
 
     explicit BusApplication(QObject *parent = nullptr);
 
-    /// A program that does not answer within this time is not there for the user either.
+    /// A program that does not answer within this time counts as hung.
     static constexpr std::chrono::milliseconds defaultPatience{5000};
 
-    /// Becomes the program on the bus, or hands the request to the one that is. Where it does not answer, this
-    /// one takes its place as soon as it is gone.
+    /// Becomes the program on the bus, or passes the request to the running one. If that does not answer, this process
+    /// replaces it as soon as it has ended.
     Start start(const OpenRequest &request, std::chrono::milliseconds patience = defaultPatience);
 
     /// The bus object's path for an application id: the same with slashes.

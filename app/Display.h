@@ -8,10 +8,10 @@ struct xcb_connection_t;
 namespace lumora
 {
 
-/// Finds out whether a window can be opened at all: a display server answers, or the user asked for a platform that
-/// needs none. Where only one kind of server answers, the toolkit is made to use that server. Make it before the
-/// application object, which would abort the program, and keep it until that one is connected: an X server without
-/// clients may start over and be away for a moment.
+/// Finds out whether a window can be opened: a display server answers, or the user asked for a platform that needs
+/// none. If only one kind of server answers, it makes the toolkit use that one. Make it before the application object,
+/// which would abort the program, and keep it until that object is connected, since an X server without clients may
+/// restart and be away for a moment.
 class Display
 {
 public:

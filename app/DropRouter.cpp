@@ -85,7 +85,7 @@ bool DropRouter::eventFilter(QObject *watched, QEvent *event)
     auto *drop = static_cast<QDropEvent *>(event);
     const auto own = m_views.constFind(watched);
     const std::optional<std::size_t> tool = target(watched, *drop);
-    // A drop view takes what is meant for its tool, and refuses what is meant for none, by itself.
+    // A drop view itself accepts drags for its tool, and refuses drags for no tool.
     if (own != m_views.cend() && (!tool || *tool == *own))
         return false;
     DropView *view = tool ? dropViewOf(*tool) : nullptr;

@@ -16,9 +16,9 @@ namespace lumora
 class AppDelegate;
 class DropView;
 
-/// Takes what is dropped anywhere in the window to the tool that it is meant for: a package to the package check, a
-/// picture to the icons where the tool in view takes none, a color to the color tool; what is dropped on an item of the
-/// sidebar, to that item's tool.
+/// Passes anything that is dropped in the window to the right tool: a package to the package check, a picture to the
+/// icons if the tool in view takes none, a color to the color tool, and a drop on an item of the sidebar to that item's
+/// tool.
 class DropRouter final : public QObject
 {
     Q_OBJECT
@@ -27,19 +27,19 @@ public:
     /// The delegate has built its window and outlives the router.
     explicit DropRouter(AppDelegate &delegate);
 
-    /// Watches a tool's drop view, which would take every file.
+    /// Watches a tool's drop view, which would accept every file.
     void watchTool(std::size_t index);
-    /// Takes drops on the widget to the tool.
+    /// Passes drops on the widget to the tool.
     void watchItem(QWidget *item, std::size_t index);
 
-    /// The tool that a drag is meant for while another, or the same, is in view; none for what no tool takes.
+    /// The tool for a drag while any tool is in view; empty if no tool takes it.
     static std::optional<std::size_t> toolFor(const QMimeData &content, std::size_t toolInView, bool inViewTakesFiles);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    /// The tool that the event is to go to instead of the watched object.
+    /// The tool that gets the event instead of the watched object.
     std::optional<std::size_t> target(const QObject *watched, const QDropEvent &event) const;
     DropView *dropViewOf(std::size_t index) const;
     void setHovered(DropView *view);
@@ -47,7 +47,7 @@ private:
     AppDelegate &m_delegate;
     QHash<QObject *, std::size_t> m_items; ///< of the sidebar
     QHash<QObject *, std::size_t> m_views; ///< the tools' drop views
-    DropView *m_hovered = nullptr;         ///< lit for a drag that is elsewhere
+    DropView *m_hovered = nullptr;         ///< highlighted for a drag over another widget
 };
 
 } // namespace lumora

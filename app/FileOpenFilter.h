@@ -8,13 +8,13 @@ namespace lumora
 
 class AppDelegate;
 
-/// Installed on the application, passes on the files that a desktop hands over by an event of its own.
+/// Installed on the application, passes on the files that a desktop sends by its own event.
 class FileOpenFilter final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// The delegate outlives the filter.
+    /// The delegate must outlive the filter.
     explicit FileOpenFilter(AppDelegate &delegate, QObject *parent = nullptr);
 
 protected:

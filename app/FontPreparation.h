@@ -6,18 +6,18 @@
 namespace lumora
 {
 
-/// Reads the system's font configuration on a thread of its own. That takes longer than all the rest of a window's
-/// start but its connection to the display, and the main thread has that to wait for meanwhile.
+/// Reads the system's font configuration on a thread of its own. Apart from connecting to the display this is the
+/// slowest part of the window's start, so both run at the same time.
 class FontPreparation final
 {
 public:
     FontPreparation();
-    /// Waits until it is read.
+    /// Waits until the configuration is read.
     ~FontPreparation();
     FontPreparation(const FontPreparation &) = delete;
     FontPreparation &operator=(const FontPreparation &) = delete;
 
-    /// To be called before the first font is used, which would read everything once more.
+    /// Call this before using the first font, which would otherwise read everything again.
     void wait();
 
 private:

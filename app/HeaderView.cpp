@@ -58,7 +58,7 @@ HeaderView::HeaderView(QWidget *parent)
     styleLabel(m_title, latoRegular(20), palette::headerText);
     m_title->setTextFormat(Qt::RichText);
     m_title->setAlignment(Qt::AlignCenter);
-    // The title bar below drags the window wherever no button is.
+    // The title bar below drags the window, except at the buttons.
     for (QWidget *passive : std::initializer_list<QWidget *>{m_band, m_title, m_topBorder})
         passive->setAttribute(Qt::WA_TransparentForMouseEvents);
 }

@@ -13,7 +13,7 @@ class StyledText;
 class ColorBand;
 class ImageButton;
 
-/// Where the header's parts lie in a title bar of the size, y down.
+/// The layout of the header's parts in a title bar of the size, y down.
 struct HeaderLayout
 {
     QRect band;
@@ -25,7 +25,7 @@ struct HeaderLayout
     static HeaderLayout forSize(QSize titleBar);
 };
 
-/// What covers the window's title bar: a band in the tool's color with the title in its middle, a border under it and
+/// The cover of the window's title bar: a band in the tool's color with the title in its middle, a border below it and
 /// two buttons at its right end.
 class HeaderView final : public QWidget
 {

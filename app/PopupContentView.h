@@ -17,7 +17,7 @@ class PopupContentView;
 namespace lumora
 {
 
-/// The help on one tool: icon, title and text in the tool's color, and three ways to write to the maker.
+/// The help for one tool: icon, title and text in the tool's color, and three ways to write to the maker.
 class PopupContentView final : public QWidget
 {
     Q_OBJECT
@@ -31,7 +31,7 @@ public:
     void setTitle(const QString &title);
     void setText(const QString &text);
     void setIcon(const NamedImage &icon);
-    /// Of the title and both rules.
+    /// The color of the title and both rules.
     void setColor(const QColor &color);
 
 public slots:

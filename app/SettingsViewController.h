@@ -18,7 +18,7 @@ class SettingsViewController;
 namespace lumora
 {
 
-/// The maker's addresses as the contact panel names them.
+/// The maker's addresses in the contact panel.
 struct ContactDetails
 {
     QString mail;
@@ -30,8 +30,8 @@ struct ContactDetails
 /// first line and the first occurrence of each value are bold.
 StyledText contactText(const QString &firstLine, const QString &secondLine, const ContactDetails &details);
 
-/// The panel with the application's icon, its version and two ways to contact the maker. A host places its view; the
-/// window has no such host yet, and only the tests use it.
+/// The panel with the application's icon, its version and two ways to contact the maker. A host shows its view; the
+/// window has no such host yet, so only the tests use it.
 class SettingsViewController final : public QObject
 {
     Q_OBJECT

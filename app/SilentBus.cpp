@@ -17,7 +17,7 @@ namespace lumora
 namespace
 {
 
-/// A byte 0 begins every connection; the question which ways to authenticate there are has to be answered by all.
+/// Every connection begins with a byte 0. Every bus must answer the question for its authentication mechanisms.
 constexpr char greeting[] = "\0AUTH\r\n";
 
 QByteArray pathOf(const QByteArray &address)
@@ -42,7 +42,7 @@ bool isSilentBus(const QByteArray &address, std::chrono::milliseconds patience)
     const FileDescriptor bus(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
     if (!bus.valid())
         return false;
-    // The bus has not taken the connections that already wait there.
+    // The bus has not accepted the connections that already wait.
     if (::connect(bus.number(), reinterpret_cast<const sockaddr *>(&place), sizeof place) != 0)
         return errno == EAGAIN;
     constexpr std::size_t length = sizeof greeting - 1;

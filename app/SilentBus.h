@@ -8,9 +8,9 @@
 namespace lumora
 {
 
-/// Whether a message bus takes connections at the address and then says nothing within the time, so that joining it
-/// would hang the program for minutes. A bus that cannot be reached at all is not silent, and only addresses of
-/// local sockets by path ("unix:path=...") are looked at.
+/// Whether a message bus accepts connections at the address but does not answer within the time, so that connecting to
+/// it would block the program for minutes. A bus that cannot be reached is not silent. Only addresses of local sockets
+/// by path ("unix:path=...") are checked.
 bool isSilentBus(const QByteArray &address, std::chrono::milliseconds patience);
 
 } // namespace lumora

@@ -17,7 +17,7 @@ namespace
 
 constexpr std::array handledSignals = {SIGHUP, SIGINT, SIGTERM};
 
-/// Read and write end of a pipe: all that a signal handler may do is write into it.
+/// The read and write ends of a pipe: a signal handler may do nothing but write to it.
 std::array<int, 2> wakeUpPipe = {-1, -1};
 
 void handle(int)
@@ -39,7 +39,7 @@ TerminationSignals::TerminationSignals(QObject *parent) : QObject(parent)
     });
     struct sigaction action = {};
     action.sa_handler = handle;
-    // A second signal ends the program at once, should it hang.
+    // A second signal ends the program at once, in case it hangs.
     action.sa_flags = static_cast<int>(SA_RESTART | SA_RESETHAND);
     for (const int signal : handledSignals)
         ::sigaction(signal, &action, nullptr);

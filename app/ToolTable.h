@@ -14,13 +14,13 @@ namespace lumora
 
 class ToolViewController;
 
-/// Everything the shell knows of one tool. Sidebar, header, help popup, switching, shortcuts and opened files all loop
-/// over the one table of these; the tool's index is its place in it.
+/// The shell's facts of one tool. Sidebar, header, help popup, switching, shortcuts and opened files all loop over the
+/// one table below; a tool's index is its place in that table.
 struct Tool : ToolFacts
 {
     /// Makes the controller, whose view comes from the interface file named like its class.
     std::unique_ptr<ToolViewController> (*makeController)(const Services &services);
-    /// Hands over a file of the tool's extension; nullptr for a tool without one. The controller is this row's.
+    /// Passes a file with the tool's extension to this row's controller; nullptr for a tool without one.
     void (*openFile)(ToolViewController &controller, const QString &path) = nullptr;
 };
 

@@ -20,7 +20,7 @@ namespace
 
 const QString toolOption = u"--tool"_s;
 
-/// The arguments one after another.
+/// Reads the arguments one after another.
 class Reader
 {
 public:

@@ -9,9 +9,9 @@
 namespace lumora
 {
 
-/// What `lumora [--tool NAME] [FILE...]` asks for; `arguments` come without the program's name. Relative paths count
-/// from the working folder. A tool answers to the name of its command, too. An option that is none, a tool that is none
-/// and a file that does not exist are complained of.
+/// The request of `lumora [--tool NAME] [FILE...]`; `arguments` do not include the program's name. Paths are relative
+/// to the working folder. A tool may also be named by its command. Reports unknown options, unknown tools and missing
+/// files.
 std::variant<OpenRequest, Complaint> parseWindowArguments(const QStringList &arguments);
 
 } // namespace lumora

@@ -39,7 +39,7 @@ void nameApplication()
 {
     QApplication::setApplicationName(QStringLiteral("lumora"));
     QApplication::setApplicationVersion(QLatin1StringView(versionText));
-    // The toolkit's dialogs would keep settings of their own from run to run; here they find no place to.
+    // The toolkit's dialogs would store settings of their own; here they have no place for them.
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("/dev/null"));
     QApplication::setDesktopFileName(QLatin1StringView(applicationId));
 }
@@ -95,7 +95,7 @@ int runWindow(int argc, char **argv)
     if (!display.isReachable())
         return endWithComplaint(argc, argv, ExitStatus::Refused, &noDisplay);
 
-    // Behind what the display changes in the environment, which the other thread reads.
+    // After the display's changes to the environment, which the other thread reads.
     FontPreparation fonts;
     applyAppStyle();
     const QApplication application(argc, argv);
@@ -128,7 +128,7 @@ int runWindow(int argc, char **argv)
     delegate.activate();
     if (!request.files.isEmpty())
         delegate.applicationOpenFiles(request.files);
-    // For task bars and window lists, which may have it when the window is up.
+    // For task bars and window lists; it may come after the window is shown.
     QTimer::singleShot(std::chrono::milliseconds(100), qApp,
                        [] { QApplication::setWindowIcon(NamedImage(QStringLiteral("app_icon")).icon()); });
     return QApplication::exec();

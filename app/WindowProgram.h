@@ -4,8 +4,8 @@
 namespace lumora
 {
 
-/// Opens the window and runs until it is closed; answers the exit status. With a window open already, hands over what
-/// was asked for and returns.
+/// Opens the window and runs until it is closed; returns the exit status. If a window is already open, passes the
+/// request to it and returns.
 int runWindow(int argc, char **argv);
 
 } // namespace lumora

@@ -31,7 +31,7 @@ namespace
 
 const QStringList helpOptions = {u"--help"_s, u"-h"_s};
 const QStringList versionOptions = {u"--version"_s, u"-V"_s};
-/// What every command takes and what may stand before its name, too.
+/// The options of every command; they may also come before its name.
 const QStringList leadingOptions = {u"--json"_s, u"--quiet"_s, u"-q"_s, u"--verbose"_s, u"-v"_s};
 const QString helpCommand = u"help"_s;
 const QString versionCommand = u"version"_s;
@@ -44,7 +44,7 @@ QStringList wordsOf(int argc, const char *const *argv)
     return words;
 }
 
-/// Brings what stands before the command's name behind it.
+/// Moves the words before the command's name behind it.
 QStringList withCommandFirst(QStringList words)
 {
     qsizetype leading = 0;
@@ -61,7 +61,7 @@ bool isForTheWindow(const QString &word)
            QFileInfo(word).isSymLink() || QUrl(word).isLocalFile();
 }
 
-/// Whether an option is asked for, other than as an operand behind "--".
+/// Whether an option is given, except as an operand after "--".
 bool asksFor(const QStringList &words, const QStringList &options)
 {
     for (const QString &word : words) {
@@ -77,7 +77,7 @@ std::unique_ptr<QCoreApplication> makeApplication(int &argc, char **argv, bool d
 {
     if (!drawsText)
         return std::make_unique<QCoreApplication>(argc, argv);
-    // Text is drawn into pictures only; a screen is neither needed nor asked for.
+    // Text is only drawn into pictures, so no screen is needed.
     qputenv("QT_QPA_PLATFORM", "offscreen");
     return std::make_unique<QGuiApplication>(argc, argv);
 }
@@ -133,7 +133,7 @@ ExitStatus runCommand(const Command &command, const QStringList &words)
         return printLines(console, asksFor(words, helpOptions) ? commandHelp(command, declaration) : versionLine());
     }
     if (const std::optional<Complaint> problem = readArguments(declaration, words)) {
-        // The form may stand behind the mistake.
+        // The option may come after the mistake.
         Console console({asksFor(words, {u"--json"_s}), false, false}, declaration.commandName());
         console.complain(*problem);
         return console.finish(problem->kind == Complaint::Kind::Misuse ? ExitStatus::Usage : ExitStatus::Refused);
@@ -185,8 +185,8 @@ bool isCommandLine(int argc, const char *const *argv)
 
 int runCommandLine(int argc, char **argv)
 {
-    // What the engines note for the window's log, and what Qt and its plug-ins remark on, is no business of a script;
-    // the commands themselves say what failed.
+    // Scripts do not need the engines' lines for the window's log or the remarks of Qt and its plug-ins; the commands
+    // themselves report failures.
     QLoggingCategory::setFilterRules(u"*.info=false\n*.warning=false"_s);
     const QStringList words = withCommandFirst(wordsOf(argc, argv));
     const Command *command = words.isEmpty() ? nullptr : commandNamed(words.first());

@@ -15,7 +15,7 @@ namespace lumora
 namespace
 {
 
-/// The words of the text in lines, each behind `indent` blanks.
+/// The words of the text in lines, each indented by `indent` spaces.
 QString wrapped(const QString &text, qsizetype indent, qsizetype firstColumn)
 {
     QString lines;
@@ -38,7 +38,7 @@ QString wrapped(const QString &text, qsizetype indent, qsizetype firstColumn)
     return lines + u'\n';
 }
 
-/// A name, and its explanation from one column on; on the next line where the name is too long.
+/// A name, and its explanation from a fixed column on; if the name is too long, on the next line.
 QString entry(const QString &name, const QString &explanation)
 {
     constexpr qsizetype column = 22;

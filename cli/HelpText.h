@@ -12,10 +12,10 @@ struct Command;
 /// The widest line of a help, in characters.
 inline constexpr int helpWidth = 80;
 
-/// `lumora help`: what there is.
+/// The text of `lumora help`: all commands.
 QString programHelp();
 
-/// `lumora help COMMAND`: how it is called, its operands and options under headings, examples.
+/// The text of `lumora help COMMAND`: its usage, its operands and options under headings, examples.
 QString commandHelp(const Command &command, const Declaration &declaration);
 
 } // namespace lumora

@@ -17,7 +17,7 @@ int startWindow(int argc, char **argv)
 {
     std::error_code error;
     const std::filesystem::path folder = std::filesystem::read_symlink("/proc/self/exe", error).parent_path();
-    // Beside this program in a build folder, in the folder of programs for programs where it is installed.
+    // Beside this program in a build folder; in libexec when installed.
     for (const char *place : {"lumora-window", LUMORA_WINDOW_FROM_BINDIR}) {
         execv((folder / place).c_str(), argv);
         if (errno != ENOENT && errno != ENOTDIR) {

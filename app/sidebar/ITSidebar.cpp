@@ -18,7 +18,7 @@ namespace
 {
 
 constexpr int frameShift = 10;
-/// The ring lies between the selected item's frame and the edge of its cell.
+/// The ring is between the selected item's frame and the edge of its cell.
 constexpr int focusRingInset = 6;
 constexpr qreal focusRingRadius = 8;
 

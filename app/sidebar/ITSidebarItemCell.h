@@ -28,32 +28,32 @@ public:
 
     const NamedImage &image() const { return m_image; }
     void setImage(const NamedImage &image);
-    /// Shown while the mouse is held down on the item and while it is selected; null shows the image then too.
+    /// Shown while the mouse is pressed on the item and while it is selected; if null, the image is shown instead.
     const NamedImage &alternateImage() const { return m_alternateImage; }
     void setAlternateImage(const NamedImage &image);
 
     TargetAction<ITSidebarItemCell> &targetAction() { return m_targetAction; }
 
-    /// Marks the item with a dot: its tool has something new. Taken away when the item is selected.
+    /// Marks the item with a dot: its tool has something new. Removed when the item is selected.
     bool hasBadge() const { return m_badge; }
     void setBadge(bool badge);
 
-    /// On is selected.
+    /// On means selected.
     bool state() const { return isChecked(); }
     bool isHighlighted() const { return isDown(); }
-    /// The image that is drawn in the present state.
+    /// The image for the present state.
     const NamedImage &shownImage() const;
-    /// Offered for those who want to draw one; the cell's own drawing uses none.
+    /// For subclasses that draw a background; the cell itself draws none.
     static Shadow shadow();
-    /// The natural size centered in the frame.
+    /// The rectangle of the natural size, centered in the frame.
     static QRectF imageRect(const QRectF &frame, const QSizeF &imageSize);
-    /// The middle of the selection's line.
+    /// The middle of the selection's outline.
     static QRectF selectionRect(const QRectF &frame);
 
     QSize sizeHint() const override;
 
 protected:
-    /// The sidebar alone decides what is selected.
+    /// Only the sidebar sets the selection.
     void nextCheckState() override {}
     void enterEvent(QEnterEvent *event) override;
     void leaveEvent(QEvent *event) override;

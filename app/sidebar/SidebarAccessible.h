@@ -4,7 +4,7 @@
 namespace lumora
 {
 
-/// Presents the sidebar to screen readers as a list of tabs, one of which is selected. Harmless when called again.
+/// Presents the sidebar to screen readers as a list of tabs, one of which is selected. Further calls do nothing.
 void installSidebarAccessible();
 
 } // namespace lumora

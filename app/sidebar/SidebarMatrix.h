@@ -29,13 +29,13 @@ public:
     ITSidebarItemCell *selectedCell() const;
     /// Takes ownership.
     void addRow(ITSidebarItemCell *cell);
-    /// Removes and deletes the cell; a row that does not exist is the caller's error.
+    /// Removes and deletes the cell; the row must exist.
     void removeRow(int row);
 
-    /// Turns the cell on and every other off, and sends nothing. The cell has to be one of the matrix.
+    /// Turns the cell on and all others off, and sends nothing. The cell must be in the matrix.
     void selectCell(ITSidebarItemCell *cell);
     void deselectSelectedCell();
-    /// Takes the size of its cells.
+    /// Resizes to its cells.
     void sizeToCells();
 
 private:

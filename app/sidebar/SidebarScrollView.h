@@ -10,11 +10,11 @@ namespace lumora
 
 class ITSidebar;
 
-/// How a scroll view's knob is drawn to stand out from what it lies on.
+/// The style of a scroll view's knob, chosen to show on its background.
 enum class ScrollerKnobStyle : int { Default = 0, Dark = 1, Light = 2 };
 
-/// The strip in which the sidebar stands. Scrolls it with the wheel and to the selected item where the strip is too
-/// low for all of them.
+/// The strip that contains the sidebar. If it is too low for all items, it scrolls by the wheel and to the selected
+/// item.
 class SidebarScrollView final : public QAbstractScrollArea
 {
     Q_OBJECT
@@ -24,18 +24,18 @@ public:
 
     /// Puts the sidebar into the strip and owns it.
     void setDocumentView(ITSidebar *sidebar);
-    /// Where the sidebar's upper left corner stands while nothing is scrolled.
+    /// The place of the sidebar's upper left corner without scrolling.
     void setDocumentOrigin(QPoint origin);
-    /// Scrolls as little as brings the rectangle (in the sidebar's coordinates) into view.
+    /// Scrolls only as far as needed to show the rectangle (in the sidebar's coordinates).
     void scrollTo(const QRect &rectangle);
-    /// Takes note of the sidebar's present size.
+    /// Updates after a change of the sidebar's size.
     void updateScrollRange();
 
     QColor backgroundColor() const { return m_backgroundColor; }
     void setBackgroundColor(const QColor &color);
     ScrollerKnobStyle scrollerKnobStyle() const { return m_scrollerKnobStyle; }
     void setScrollerKnobStyle(ScrollerKnobStyle style);
-    /// The part of the strip that shows the sidebar.
+    /// The visible part of the sidebar.
     QSize clipViewSize() const { return viewport()->size(); }
 
     QSize sizeHint() const override;

@@ -9,8 +9,8 @@
 namespace lumora
 {
 
-/// Where a control sends its action: nowhere once the target is gone or while either half is missing. Two controls may
-/// stand in line for one event, and the first whose pair responds sends; a signal cannot know which that is.
+/// The target and action of a control. Sends nothing once the target is deleted or while either half is missing. Not a
+/// signal, since of two controls for one event only the first with a responding pair may send.
 template <typename Sender> struct TargetAction
 {
     QPointer<QObject> target;

@@ -40,16 +40,16 @@ struct Argument
     bool isCommaList = false;
     int least = 0;
     int most = 0;
-    bool isGiven = false; ///< set by reading the command line
+    bool isGiven = false; ///< set when the command line is read
 
-    /// A letter of its own: `.letter(u'o')` accepts -o.
+    /// Adds a letter: `.letter(u'o')` accepts -o.
     Argument &letter(char16_t character);
-    /// The only words accepted. Another one is answered with this list and the nearest of them.
+    /// The only accepted words. The complaint about another word has this list and the nearest of them.
     Argument &words(const QStringList &accepted);
-    /// The smallest and the largest number accepted. One beyond them is refused (status 1), what is no whole number at
-    /// all is a wrong call (status 2).
+    /// The smallest and the largest accepted number. A number beyond them is refused (status 1); a text that is not a
+    /// whole number is a wrong call (status 2).
     Argument &range(int smallest, int largest);
-    /// Takes several values between commas, with blanks around them or not.
+    /// Takes several values separated by commas, with or without spaces.
     Argument &list();
     Argument &required();
     Argument &in(ArgumentGroup heading);

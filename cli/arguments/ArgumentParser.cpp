@@ -40,7 +40,7 @@ Complaint wrongNumber(const Argument &argument, const QString &value, const char
                                                          {"[VALUE]", quoted(value)}}));
 }
 
-/// One reading of one command line.
+/// The state of reading one command line.
 class Reader
 {
 public:
@@ -249,7 +249,7 @@ std::optional<Complaint> readArguments(Declaration &declaration, const QStringLi
 
 Complaint unknownOption(const QString &typed, const QStringList &names)
 {
-    // -platform for --platform is a common slip, too.
+    // -platform for --platform is a common mistake, too.
     const QString name = (typed.startsWith(u"--") ? typed : u'-' + typed).section(u'=', 0, 0);
     const bool isLetter = typed.size() == 2;
     return misuse("unknown-option", commandText("CLI_UNKNOWN_OPTION", {{"[OPTION]", typed}}),

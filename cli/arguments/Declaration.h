@@ -10,8 +10,8 @@
 namespace lumora
 {
 
-/// What a command takes: filled in by the command, read by the parser, the help and the tests of both. Every command
-/// has --json, --quiet, --verbose, --help and --version without asking.
+/// The arguments of a command: filled in by the command, read by the parser, the help and the tests of both. Every
+/// command has --json, --quiet, --verbose, --help and --version without declaring them.
 ///
 ///     declaration.operand("SOURCE", &arguments->source, "CLI_ICONS_SOURCE");
 ///     declaration.option("--size", &arguments->sizes, "N", "CLI_ICON_SIZE").range(1, 1024).list().required();
@@ -19,7 +19,7 @@ namespace lumora
 ///     declaration.exactlyOne({"SOURCE", "--example"});
 ///     declaration.example("lumora icon logo.png --size 180 --to build");
 ///
-/// Texts are keys of resources/strings. The targets have to live as long as the declaration.
+/// Texts are keys of resources/strings. The targets must live as long as the declaration.
 class Declaration
 {
 public:
@@ -29,15 +29,15 @@ public:
 
     Argument &flag(const char *name, bool *target, const char *textKey);
     Argument &option(const char *name, Argument::Target target, const char *placeholder, const char *textKey);
-    /// Operands are filled in the order of their declaration; one with a `QStringList` takes all that follow.
+    /// Operands are filled in the order of their declaration; one with a `QStringList` takes all remaining words.
     Argument &operand(const char *name, Argument::Target target, const char *textKey);
-    /// Of these (options or operands, by their names) exactly one has to be given.
+    /// Exactly one of these (options or operands, by their names) must be given.
     void exactlyOne(const QStringList &names);
-    /// Of these, one at most may be given.
+    /// At most one of these may be given.
     void atMostOne(const QStringList &names);
-    /// A whole command line for the end of the help; two for each command. A test runs each.
+    /// A whole command line for the end of the help; each command has two. A test runs each.
     void example(const char *line);
-    /// A paragraph for the help, below the usage.
+    /// Adds a paragraph to the help, below the usage.
     void explain(const char *textKey);
 
     struct Choice
@@ -47,14 +47,14 @@ public:
     };
 
     const QString &commandName() const { return m_commandName; }
-    /// Addresses stay as they are while more are declared.
+    /// A deque, so that addresses stay valid while more are declared.
     const std::deque<Argument> &arguments() const { return m_arguments; }
     const std::vector<Choice> &choices() const { return m_choices; }
     const QStringList &examples() const { return m_examples; }
     const std::vector<const char *> &explanations() const { return m_explanations; }
     const ConsoleForm &form() const { return m_form; }
 
-    /// The option or operand of that name, or the option of that letter; nullptr where there is none.
+    /// The option or operand of that name, or the option of that letter; nullptr if there is none.
     Argument *named(QStringView name);
     const Argument *named(QStringView name) const;
     Argument *lettered(QChar letter);

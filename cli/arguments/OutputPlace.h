@@ -11,13 +11,13 @@ namespace lumora
 
 class Declaration;
 
-/// The absolute path of a file or folder that was named. Fails with `NotFound` where it is relative and the working
-/// folder has been removed, or where its name holds bytes that are no UTF-8 and so cannot be kept.
+/// The absolute path of a given file or folder. Fails with `NotFound` if it is relative and the working folder has been
+/// removed, or if its name has bytes that are not UTF-8.
 Result<QString> absolutePath(const QString &given);
 
-/// Where a command writes: `--to DIR` makes a fresh numbered folder in DIR, `--out DIR` writes exactly there, the same
-/// tree on every run, and leaves other files alone. Either makes DIR and its parents. Every command that writes takes
-/// these two, in these words:
+/// The destination of a command: `--to DIR` makes a new numbered folder in DIR; `--out DIR` writes exactly there, the
+/// same tree on every run, and keeps other files. Both make DIR and its parents. Every command that writes takes these
+/// two, as follows:
 ///
 ///     arguments->place.declareOn(declaration, "CLI_ICONS_TO");
 ///     ...
@@ -28,14 +28,14 @@ struct OutputPlace
     QString to;
     QString out;
 
-    /// `toKey` explains --to; `others` are further options of which exactly one has to be given ("-o").
+    /// `toKey` explains --to; exactly one of --to, --out and the options in `others` ("-o") must be given.
     void declareOn(Declaration &declaration, const char *toKey, const QStringList &others = {});
 
     bool isExact() const { return !out.isEmpty(); }
-    /// DIR itself, made where it is missing.
+    /// DIR itself, made if it is missing.
     Result<QString> folder() const;
-    /// The folder of this run: a fresh one of that name in --to DIR, or --out DIR. Call it when the input is known to
-    /// be good, so that nothing is left of a call that is refused.
+    /// The folder of this run: a new one of that name in --to DIR, or --out DIR. Call it after checking the input, so
+    /// that a refused call leaves nothing behind.
     Result<ExportFolder> open(const QString &baseName) const;
 };
 

@@ -11,7 +11,7 @@ namespace lumora
 namespace
 {
 
-/// How many slips lead from one word to the other; two neighbors that changed places are one.
+/// The number of typing errors from one word to the other; two swapped neighbors count as one.
 qsizetype slips(const QString &from, const QString &to)
 {
     using Row = std::vector<qsizetype>;
@@ -44,7 +44,7 @@ QStringList nearestWords(const QString &typed, const QStringList &words)
     if (typed.isEmpty() || typed.size() > longestTyped)
         return {};
     const QString lower = typed.toLower();
-    // Of a short word, less may be wrong; a third of it makes another word.
+    // Short words allow fewer errors: with a third of its letters wrong, a word is another word.
     const qsizetype most = std::max<qsizetype>(1, typed.size() / 3);
     std::vector<std::pair<qsizetype, QString>> near;
     for (const QString &word : words) {
@@ -58,7 +58,7 @@ QStringList nearestWords(const QString &typed, const QStringList &words)
     }
     std::stable_sort(near.begin(), near.end(), [](const auto &a, const auto &b) { return a.first < b.first; });
     QStringList nearest;
-    // One slip more is forgiven only beside a better word: "icon or icons".
+    // A second word may have one error more than the nearest: "icon or icons".
     if (near.empty() || near.front().first > most)
         return nearest;
     for (const auto &[count, word] : near) {

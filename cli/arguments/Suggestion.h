@@ -7,9 +7,9 @@
 namespace lumora
 {
 
-/// The words that were probably meant by what was typed, the nearest first, three at most: those that differ in case
-/// only, that what was typed begins or that begin it, or that a few slips of the fingers (a letter left out, added,
-/// wrong or in its neighbor's place) lead away from. None where none is near.
+/// The words that were probably meant, the nearest first, at most three: words that differ from the typed one only in
+/// case, that begin with it or with which it begins, or that differ by a few typing errors (a missing, added, wrong or
+/// swapped letter). Empty if no word is near.
 QStringList nearestWords(const QString &typed, const QStringList &words);
 
 } // namespace lumora

@@ -42,7 +42,7 @@ QJsonObject codesJson(const ColorCodes &codes)
     return object;
 }
 
-/// The window forgives a letter that is no digit while one types; a script gets what it wrote, or a word.
+/// While the user types, the window accepts letters that are not digits; a script gets the exact color or a complaint.
 bool isColorCode(QStringView text)
 {
     if (text.startsWith(u'#'))

@@ -6,7 +6,7 @@
 namespace lumora
 {
 
-/// `lumora color TEXT`: a colour text as code in every notation or in one.
+/// `lumora color TEXT`: a color text as code in every notation or in one.
 CommandBody declareColorCommand(Declaration &declaration);
 
 } // namespace lumora

@@ -14,35 +14,34 @@ class Console;
 class Declaration;
 enum class ExitStatus : int;
 
-/// What a command does once its arguments are read.
+/// The work of a command, once its arguments are read.
 using CommandBody = std::function<ExitStatus(Console &)>;
 
-/// One command of `lumora`. Each stands in a file of its own.
+/// One command of `lumora`. Each is in a file of its own.
 struct Command
 {
     /// The word on the command line.
     const char *name;
-    /// The tool of the window that does the same work (`lumora --tool TOOL`). Commands and tools answer to each other's
-    /// names.
+    /// The tool of the window for the same work (`lumora --tool TOOL`). Commands and tools accept each other's names.
     const char *tool;
-    /// What it is for, in half a line.
+    /// Its purpose, in half a line.
     const char *textKey;
-    /// Draws text and so needs fonts, that is, a QGuiApplication (without a screen) instead of a QCoreApplication.
+    /// Whether it draws text and so needs fonts: a QGuiApplication (without a screen) instead of a QCoreApplication.
     bool drawsText;
-    /// Declares arguments; answers what to run once they are read.
+    /// Declares the arguments; returns the function to run once they are read.
     CommandBody (*declare)(Declaration &declaration);
 };
 
-/// Every command, in the order in which the help lists them.
+/// All commands, in the order of the help.
 std::span<const Command> commandTable();
 
-/// The command of that name, or of the tool of that name; nullptr where there is none.
+/// The command of that name, or of the tool of that name; nullptr if there is none.
 const Command *commandNamed(QStringView name);
 
 /// The words that commands begin with.
 QStringList commandNames();
 
-/// The name of the tool that is meant by it or by the name of its command; empty where there is none.
+/// The name of the tool, given its name or that of its command; empty if there is none.
 QString toolNamed(const QString &name);
 
 /// The names of the window's tools, in its order.

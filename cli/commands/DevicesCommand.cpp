@@ -54,7 +54,7 @@ QJsonObject recordJson(const DeviceRecord &device)
     QJsonObject record{
         {u"model"_s, text(device.model)},
         {u"image"_s, text(device.image)},
-        // The decimal figure that is meant, not the nearest float's long expansion.
+        // The short decimal number, not the nearest float's long expansion.
         {u"max_ios"_s, QString::number(static_cast<double>(device.maxIos), 'g', 6).toDouble()},
         {u"active"_s, device.active},
     };

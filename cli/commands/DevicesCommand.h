@@ -6,7 +6,7 @@
 namespace lumora
 {
 
-/// `lumora devices`: the models that run an iOS version and have the wanted features.
+/// `lumora devices`: the models that run an iOS version and have the required features.
 CommandBody declareDevicesCommand(Declaration &declaration);
 
 } // namespace lumora

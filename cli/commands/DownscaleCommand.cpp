@@ -35,7 +35,7 @@ struct DownscaleArguments
     bool dryRun = false;
 };
 
-/// Prints results as they come and gathers them for the JSON object; turns failures into lines and the exit status.
+/// Prints results as they come and collects them for the JSON object; turns failures into lines and the exit status.
 class Report
 {
 public:
@@ -80,7 +80,7 @@ public:
 private:
     static Complaint worded(const Failure &failure)
     {
-        // Of all the formats that pictures come in, only one has a name that is taken here.
+        // Only one of the picture formats is accepted here.
         if (failure.code == FailureCode::NotAPicture)
             return complaintOf(failure, commandText("CLI_DOWNSCALE_FORMAT_ADVICE"));
         Complaint complaint = complaintOf(failure);
@@ -95,20 +95,20 @@ private:
     ExitStatus m_status = ExitStatus::Done;
 };
 
-/// Every picture asks for several buffers as large as itself. Given back to the system between two pictures, their
-/// pages would have to be made anew each time, at a tenth of the whole run.
+/// Every picture needs several buffers of its own size. Returning them to the system between two pictures would cost a
+/// tenth of the run's time for new pages.
 void keepFreedMemory()
 {
 #if defined(__GLIBC__)
     constexpr int largestKept = 32 * 1024 * 1024;
     ::mallopt(M_MMAP_THRESHOLD, largestKept);
     ::mallopt(M_TRIM_THRESHOLD, std::numeric_limits<int>::max());
-    // Only the first arena grows without bounds; for few and large requests its lock does not matter.
+    // Only the first arena grows without limit; for few large requests its lock does not matter.
     ::mallopt(M_ARENA_MAX, 1);
 #endif
 }
 
-/// The destination: made by a run, only looked at by a dry one.
+/// The destination: a run makes it, a dry run only checks it.
 Result<QString> destination(const DownscaleArguments &arguments)
 {
     if (!arguments.dryRun)

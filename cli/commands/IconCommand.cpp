@@ -41,7 +41,7 @@ struct IconCommandArguments : IconArguments
     bool isForStdout() const { return file == u"-"; }
 };
 
-/// What the declaration alone cannot say about -o.
+/// The rules for -o that the declaration cannot express.
 std::optional<Complaint> misuseOfFile(const Console &console, const IconCommandArguments &arguments)
 {
     if (arguments.file.isEmpty())

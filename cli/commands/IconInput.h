@@ -12,7 +12,7 @@ namespace lumora
 
 class Declaration;
 
-/// The arguments that both icon commands take.
+/// The arguments of both icon commands.
 struct IconArguments
 {
     QString source;
@@ -22,7 +22,7 @@ struct IconArguments
     void declareOn(Declaration &declaration, const QStringList &otherPlaces = {});
 };
 
-/// The picture to make icons from: the named file, standard input for "-", the built-in one for --example.
+/// The source picture: the given file, standard input for "-", or the built-in picture for --example.
 Result<QImage> iconSource(const IconArguments &arguments);
 
 } // namespace lumora

@@ -26,7 +26,7 @@ QJsonArray writtenFiles(const IconExport &result)
     return files;
 }
 
-/// The files that are not there, by their paths inside the export folder.
+/// The missing files, by their paths inside the export folder.
 QStringList missingFiles(const IconExport &result)
 {
     const QDir folder(result.folder.path);

@@ -8,8 +8,8 @@ namespace lumora
 
 struct IconExport;
 
-/// Prints what an export wrote and complains about what it could not: the first failure whole, the rest by the names of
-/// the files that are missing. `expected` is how many files were to be written. Ends the command.
+/// Prints the written files of an export and complains about the others: about the first failure in full, about the
+/// rest by the names of the missing files. `expected` is the planned number of files. Ends the command.
 ExitStatus reportIcons(Console &console, const IconExport &result, qsizetype expected);
 
 } // namespace lumora

@@ -44,7 +44,7 @@ QString factLine(const QString &label, const QString &value)
     return u"  "_s + label.leftJustified(labelWidth) + (value.isEmpty() ? u"-"_s : printableText(value));
 }
 
-/// What a check came to, as wide as the widest of them.
+/// The result of a check, padded to the width of the widest.
 QString verdictText(const char *textKey)
 {
     constexpr int width = 9;

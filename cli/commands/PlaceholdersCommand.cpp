@@ -33,7 +33,7 @@ struct PlaceholdersArguments
     OutputPlace place;
 };
 
-/// What is wrong with a size: a text that is none is a wrong call, one out of range is refused.
+/// The fault of a size: a text that is not a size is a wrong call; a size out of range is refused.
 std::optional<Complaint> problemWith(const QString &text, const TypedSize &size)
 {
     if (size.isSize && isPlaceholderEdge(size.value.width()) && isPlaceholderEdge(size.value.height()))
@@ -49,7 +49,7 @@ std::optional<Complaint> problemWith(const QString &text, const TypedSize &size)
     return complaint;
 }
 
-/// The sizes asked for, each once; none after a complaint.
+/// The requested sizes without duplicates; empty after a complaint.
 std::optional<std::vector<QSize>> wantedSizes(Console &console, const PlaceholdersArguments &arguments,
                                               ExitStatus &status)
 {

@@ -38,7 +38,7 @@ struct ValidateArguments
     bool noSandbox = false;
 };
 
-/// A package by the name that messages and results use. "-" is standard input.
+/// A package, named as in messages and results. "-" is standard input.
 struct GivenPackage
 {
     QString name;
@@ -52,11 +52,11 @@ GivenPackage givenPackage(const QString &argument)
     return {argument, false};
 }
 
-/// Standard input as a file that can be read back and forth.
+/// Standard input as a seekable file.
 class SpooledPackage
 {
 public:
-    /// Copies all of it. To be called before the process is locked in.
+    /// Copies all of it. Call this before the process is locked in.
     void spool(const QString &name)
     {
         auto folder = WorkFolder::make();
@@ -73,7 +73,7 @@ public:
             return m_spooled.failure();
         return openPackage(path());
     }
-    /// Where it lies; nothing where there was no need or no room for it.
+    /// The path of the copy; empty if it was not needed or there was no space.
     QStringList folders() const { return m_folder ? QStringList(m_folder->path()) : QStringList(); }
 
 private:
@@ -132,7 +132,7 @@ bool writeIcon(Console &console, const QString &file, const PackageReport &repor
     return saved.ok();
 }
 
-/// The files one after another, with what all of them share.
+/// Reads the files one after another, with their shared settings.
 class Validation
 {
 public:
@@ -145,7 +145,8 @@ public:
 
     ExitStatus run()
     {
-        // A single package is over at once, and standard input may never end: there, a signal ends the program itself.
+        // A single package takes only a moment, and standard input may never end; in both cases a signal ends the
+        // program itself.
         std::optional<Interruption> interruption;
         if (m_files.size() > 1 &&
             std::none_of(m_files.begin(), m_files.end(), [](const GivenPackage &file) { return file.isStdin; }))
@@ -159,7 +160,7 @@ public:
             if (Interruption::isRequested())
                 break;
             m_console.note(file.name);
-            // "Could not be read" outranks "something is invalid", which outranks "all is well".
+            // "Could not be read" outranks "something is invalid", which outranks success.
             m_status = std::max(m_status, validate(file));
         }
         if (m_done < std::ssize(m_files)) {
@@ -170,7 +171,7 @@ public:
     }
 
 private:
-    /// From here on the process reaches the packages and the icon's place and nothing else.
+    /// From here on the process can only reach the packages and the icon's path.
     void lockIn()
     {
         if (!m_isSandboxed) {

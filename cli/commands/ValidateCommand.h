@@ -6,7 +6,7 @@
 namespace lumora
 {
 
-/// `lumora validate`: the facts of app packages and what is wrong with them.
+/// `lumora validate`: the facts of app packages and their faults.
 CommandBody declareValidateCommand(Declaration &declaration);
 
 } // namespace lumora

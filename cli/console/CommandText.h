@@ -10,11 +10,10 @@
 namespace lumora
 {
 
-/// A bracketed name in a text, such as "[FILE]", and what comes in its place.
+/// A bracketed name in a text, such as "[FILE]", and its replacement.
 using TextValue = std::pair<const char *, QString>;
 
-/// The text of a key in the language of the user, its bracketed names replaced. What a value holds is not looked at
-/// again.
+/// The text of a key in the user's language, with its bracketed names replaced. Names inside a replacement stay.
 QString commandText(const char *key, std::initializer_list<TextValue> values = {});
 
 /// "none, ios6 or ios7".

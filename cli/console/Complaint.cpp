@@ -43,7 +43,7 @@ constexpr Wording wordings[] = {
     {FailureCode::NameTaken, "name-taken", "CLI_NAME_TAKEN", "CLI_NAME_TAKEN_ADVICE"},
 };
 
-/// For a name that held bytes of another encoding and was looked for without them.
+/// For a name with bytes of another encoding, which was searched for without them.
 constexpr Wording notFoundUndecoded = {FailureCode::NotFound, "not-found", "CLI_NOT_FOUND_UNDECODED",
                                        "CLI_NOT_FOUND_UNDECODED_ADVICE"};
 

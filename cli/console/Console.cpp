@@ -18,7 +18,7 @@ namespace
 
 void write(std::FILE *stream, QByteArrayView bytes)
 {
-    // Of an empty line there is no first byte to point at.
+    // An empty line has no first byte to point at.
     if (!bytes.isEmpty())
         std::fwrite(bytes.data(), 1, static_cast<std::size_t>(bytes.size()), stream);
 }

@@ -13,27 +13,27 @@
 namespace lumora
 {
 
-/// How a command ended, as the shell sees it. Scripts rely on these numbers.
+/// The exit status of a command. Scripts rely on these numbers.
 enum class ExitStatus : int {
-    Done = 0,          ///< everything asked for was done (or, for a check, everything judged is valid)
+    Done = 0,          ///< everything was done (or, for a check, everything is valid)
     Refused = 1,       ///< the input was refused, something could not be written, or a check found something invalid
     Usage = 2,         ///< the call itself is wrong
-    Unreadable = 3,    ///< a file could not be read as what it has to be (validation only)
-    Interrupted = 130, ///< stopped by Ctrl+C; what is whole stays
-    Terminated = 143,  ///< stopped by `kill` or the end of the session; what is whole stays
+    Unreadable = 3,    ///< a file could not be read as a package (validation only)
+    Interrupted = 130, ///< stopped by Ctrl+C; complete files stay
+    Terminated = 143,  ///< stopped by `kill` or the end of the session; complete files stay
 };
 
-/// What is printed, and how.
+/// The form and amount of the output.
 struct ConsoleForm
 {
-    bool json = false;    ///< one JSON value on stdout in place of lines
-    bool quiet = false;   ///< nothing but failures; JSON that is asked for all the same
+    bool json = false;    ///< one JSON value on stdout instead of lines
+    bool quiet = false;   ///< only failures, and the JSON if it is asked for
     bool verbose = false; ///< a line on stderr for each step
 };
 
-/// The command line's way out: results on stdout; complaints, notes and the progress line on stderr.
+/// The command line's output: results on stdout; complaints, notes and the progress line on stderr.
 ///
-/// Every complaint is a line on stderr at once and an entry of `errors` in the JSON result, so a command has only to
+/// Every complaint is at once a line on stderr and an entry of `errors` in the JSON result, so a command only needs to
 /// complain and to end with `finish()`.
 class Console
 {
@@ -42,37 +42,37 @@ public:
 
     const ConsoleForm &form() const { return m_form; }
 
-    /// One line of result, UTF-8. Nothing where JSON is asked for or --quiet.
+    /// Prints one line of the result in UTF-8; nothing with --json or --quiet.
     void print(const QString &line);
-    /// Bytes as they are, in every form.
+    /// Prints the bytes unchanged, with all options.
     void print(const QByteArray &bytes);
-    /// One JSON value, indented, as the whole result. Commands with one object call `finish()` instead.
+    /// Prints one indented JSON value as the whole result. Commands with one object call `finish()` instead.
     void print(const QJsonDocument &document);
-    /// From now on, lines go to stderr: stdout carries a file.
+    /// From now on, lines go to stderr, since stdout carries a file.
     void keepStdoutForAFile() { m_linesToStderr = true; }
 
-    /// One line on stderr: "lumora: " in front of a failure, "lumora COMMAND: " in front of a misuse; ends a progress
-    /// line first. A file's name may hold line breaks and orders to the terminal; they are spelled out.
+    /// Prints one line on stderr, with "lumora: " before a failure and "lumora COMMAND: " before a misuse; ends a
+    /// progress line first. Line breaks and control characters in a file's name are printed as code points.
     void complain(const Complaint &complaint);
-    /// The failure worded as `complaintOf` words it.
+    /// Complains about the failure in the words of `complaintOf`.
     void complain(const Failure &failure);
-    /// A line on stderr that is no error; nothing with --quiet.
+    /// Prints a line on stderr that is not an error; nothing with --quiet.
     void warn(const QString &line);
-    /// A line on stderr with --verbose only.
+    /// Prints a line on stderr, with --verbose only.
     void note(const QString &line);
 
-    /// Shows how far a batch is, on a terminal only; see `ProgressLine`.
+    /// Shows the progress of a batch, on a terminal only; see `ProgressLine`.
     void progress(qsizetype done, qsizetype total, const QString &what);
     void endProgress();
 
     /// Adds `schema`, `ok` (the status is 0) and `errors` (the complaints since the last object) to a result.
     QJsonObject object(ExitStatus status, QJsonObject result, int schema = 1);
-    /// Ends a command: prints the object where JSON is asked for. Answers the status.
+    /// Ends a command: prints the object with --json. Returns the status.
     ExitStatus finish(ExitStatus status, const QJsonObject &result = {}, int schema = 1);
-    /// False while JSON is asked for and nothing of it was printed.
+    /// False while JSON is asked for and was not printed.
     bool isFinished() const { return m_finished || !m_form.json; }
 
-    /// False when something meant for stdout could not be written (a full disk, a closed pipe).
+    /// False when output to stdout could not be written (a full disk, a closed pipe).
     bool flush();
 
 private:

@@ -16,7 +16,7 @@ namespace
 
 constexpr int handledSignals[] = {SIGHUP, SIGINT, SIGTERM};
 
-/// The signal that came, 0 for none.
+/// The received signal, 0 for none.
 std::atomic<int> received = 0;
 static_assert(std::atomic<int>::is_always_lock_free, "a signal handler may not wait for a lock");
 
@@ -34,7 +34,7 @@ Interruption::Interruption()
     action.sa_flags = static_cast<int>(SA_RESTART | SA_RESETHAND);
     for (const int signal : handledSignals) {
         struct sigaction before = {};
-        // What the caller had the program ignore (`nohup`), it goes on ignoring.
+        // Signals that the caller made the program ignore (`nohup`) stay ignored.
         if (::sigaction(signal, nullptr, &before) == 0 && before.sa_handler != SIG_IGN)
             ::sigaction(signal, &action, nullptr);
     }

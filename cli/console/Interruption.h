@@ -6,9 +6,9 @@
 namespace lumora
 {
 
-/// While one of these lives, Ctrl+C, `kill` and the end of the session do not end the program at once: the batch asks
-/// `isRequested()` between two files, stops there, names what is whole and ends with `status()`. A second signal of the
-/// same kind ends it at once. One object at a time.
+/// While an object of this class exists, Ctrl+C, `kill` and the end of the session do not end the program at once: the
+/// batch checks `isRequested()` between two files, stops there, reports the complete files and ends with `status()`. A
+/// second signal of the same kind ends the program at once. Only one object may exist at a time.
 class Interruption
 {
 public:
@@ -18,9 +18,9 @@ public:
     Interruption &operator=(const Interruption &) = delete;
 
     static bool isRequested();
-    /// 128 and the signal's number, as shells count: 130 for Ctrl+C, 143 for `kill`.
+    /// 128 plus the signal's number, as in shells: 130 for Ctrl+C, 143 for `kill`.
     static ExitStatus status();
-    /// What to say of it; `done` of `total` files are whole.
+    /// The complaint about it; `done` of `total` files are complete.
     static Complaint complaint(qsizetype done, qsizetype total);
 };
 

@@ -20,7 +20,8 @@ void keepFreedMemory()
     mallopt(M_MMAP_MAX, 0);
     mallopt(M_TRIM_THRESHOLD, room);
     mallopt(M_TOP_PAD, room);
-    // A piece that does not fit makes the heap grow by all of the room; volatile, so that it is really asked for.
+    // A block that does not fit makes the heap grow by the whole size. Volatile, so that the compiler keeps the
+    // allocation.
     const auto *before = static_cast<const std::uint8_t *>(sbrk(0));
     void *volatile piece = malloc(1 << 20);
     free(piece);

@@ -21,7 +21,7 @@ void write(const QByteArray &bytes)
     std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stderr);
 }
 
-/// Of a terminal that does not say how wide it is, nothing is known; 80 is the least that they have.
+/// For a terminal that does not report its width: the smallest usual width.
 qsizetype columns()
 {
     winsize size = {};

@@ -7,9 +7,9 @@
 namespace lumora
 {
 
-/// One line on stderr that says how far a batch is: "12/51 Icon.png  140/s". It is written over ten times a second at
-/// most, besides the first and the last step, and never longer than the terminal is wide. Where stderr is no terminal,
-/// or one that cannot move its cursor (TERM=dumb), nothing is written.
+/// One line on stderr with the progress of a batch: "12/51 Icon.png  140/s". It is rewritten at most ten times a
+/// second, plus at the first and the last step, and is never longer than the terminal's width. Nothing is written if
+/// stderr is not a terminal, or one that cannot move its cursor (TERM=dumb).
 class ProgressLine
 {
 public:

@@ -8,11 +8,11 @@
 namespace lumora
 {
 
-/// The longest package that is taken from standard input, in bytes; it lies on the disk while it is read.
+/// The longest package that is read from standard input, in bytes; it is on disk while it is read.
 inline constexpr qint64 largestSpooledPackage = 8'000'000'000;
 
-/// Copies all that a descriptor gives into a new file, for readers that have to go back and forth. Fails with
-/// `TooLarge` past `limit` bytes. `name` is what failures call the descriptor.
+/// Copies everything from a descriptor into a new file, for readers that need to seek. Fails with `TooLarge` beyond
+/// `limit` bytes. `name` is the subject of failures.
 Outcome spoolDescriptor(int descriptor, const QString &name, const QString &path, qint64 limit);
 
 } // namespace lumora
