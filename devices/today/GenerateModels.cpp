@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// usage: generate_device_models models.csv models.inc The device list as rows of a constexpr table. A list that the
+// usage: generate_device_models models.csv models.inc   The device list as rows of a constexpr table. A list that the
 // reader refuses, or one out of order, stops the build.
 #include "ModelList.h"
 #include "foundation/WholeFile.h"

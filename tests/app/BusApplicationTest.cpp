@@ -127,7 +127,7 @@ private slots:
     }
 
 private:
-    /// The working folder of the arguments; it holds b.ipa and --fast.
+    /// The working folder of the arguments; it contains b.ipa and --fast.
     QString here() const { return QFileInfo(m_folder.path()).canonicalFilePath(); }
 
     QTemporaryDir m_folder;

@@ -20,7 +20,7 @@ namespace
 
 constexpr Qt::DropActions fileManagers = Qt::CopyAction | Qt::MoveAction | Qt::LinkAction;
 
-/// A drag over the widget that ends on it; answers whether it was taken.
+/// A drag that ends on the widget; returns whether it was accepted.
 bool dropOn(QWidget *widget, const QMimeData &content)
 {
     const QPoint middle = widget->rect().center();
@@ -125,7 +125,7 @@ private slots:
         QVERIFY(dropOn(delegate.sideBar()->matrix()->cells().at(0), content));
         QCOMPARE(delegate.sideBar()->selectedIndex(), 0);
         QTRY_COMPARE(application.icons().icon().pixelColor(500, 500), QColor(Qt::magenta));
-        // The devices take no files: it goes where it would go without an item.
+        // The device tool takes no files, so the drop goes where it would go without an item.
         QVERIFY(dropOn(delegate.sideBar()->matrix()->cells().at(4), content));
         QCOMPARE(delegate.sideBar()->selectedIndex(), 0);
     }

@@ -135,7 +135,7 @@ private slots:
 
     void popupsStayOnTheScreen_data()
     {
-        // The window's upper right corner, and that of the screen's usable area; some of the window is off the screen.
+        // The upper right corners of the window and of the screen's usable area; part of the window is off the screen.
         const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
         const int middle = screen.center().x() + 100;
         const int low = screen.bottom() - 100;

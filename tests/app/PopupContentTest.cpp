@@ -21,7 +21,7 @@ using namespace lumora;
 namespace
 {
 
-/// Every text of a table whose key the filter takes.
+/// All texts of a table whose key passes the filter.
 QStringList textsOf(const QString &language, const QRegularExpression &keys)
 {
     QTranslator table;

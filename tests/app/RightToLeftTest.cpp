@@ -27,7 +27,7 @@ using namespace lumora;
 namespace
 {
 
-/// The window in one direction of reading, with services that remember.
+/// The window in one direction of reading, with recording services.
 struct Application
 {
     explicit Application(Qt::LayoutDirection direction)
@@ -52,7 +52,7 @@ struct Application
     std::unique_ptr<AppDelegate> delegate;
 };
 
-/// Every widget that shows below this one, by a path of its own.
+/// All visible widgets below this one, each with a unique path.
 void collect(const QWidget *parent, const QString &path, QMap<QString, const QWidget *> &found)
 {
     int number = 0;
@@ -64,13 +64,13 @@ void collect(const QWidget *parent, const QString &path, QMap<QString, const QWi
         if (widget->isHidden())
             continue;
         found.insert(name, widget);
-        // What scrolls lays its own inside out.
+        // A scroll area arranges its own contents.
         if (qobject_cast<const QAbstractScrollArea *>(widget) == nullptr)
             collect(widget, name, found);
     }
 }
 
-/// What is centered in an odd width is off by half a point, to one side or the other.
+/// A widget that is centered in an odd width is off by half a point, to either side.
 bool isAt(const QRect &one, const QRect &other)
 {
     return one.size() == other.size() && (one.topLeft() - other.topLeft()).manhattanLength() <= 1;
@@ -83,7 +83,7 @@ QRect mirrored(const QRect &rectangle, int width)
 
 } // namespace
 
-/// No table of texts reads from right to left yet; the window has to stand the day one comes.
+/// No table of texts reads from right to left yet, but the window must be ready for one.
 class RightToLeftTest : public QObject
 {
     Q_OBJECT
@@ -129,7 +129,7 @@ private slots:
         collect(tool, {}, widgets);
         savePicture(application, index);
         QCOMPARE(widgets.keys(), plain.keys());
-        // What is placed by hand, as the devices are in their rows, may stay where it is, all of it.
+        // A group that is placed by hand, such as the devices in their rows, may keep its place as a whole.
         QSet<const QWidget *> mirroredInside;
         QSet<const QWidget *> unchangedInside;
         for (auto [name, widget] : widgets.asKeyValueRange()) {
@@ -159,7 +159,7 @@ private slots:
     }
 
 private:
-    /// To look at: LUMORA_PICTURES names the folder for the pictures.
+    /// For visual checks: LUMORA_PICTURES names the folder for the pictures.
     static void savePicture(const Application &application, qint32 index)
     {
         const QString folder = qEnvironmentVariable("LUMORA_PICTURES");

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A start of the program while another one has its name on the bus, and how the other may behave.
+// A start of the program while another program has its name on the bus, and the ways in which that one may behave.
 #include "app/BusApplication.h"
 #include "foundation/Version.h"
 
@@ -22,7 +22,7 @@ const QString id = QString::fromLatin1(applicationId);
 
 enum class Manner { Answers, AnswersLate, Refuses, NeverAnswers, EndsWhenCalled };
 
-/// Another program that has the name. Works on a thread of its own, since its caller waits.
+/// Another program with the name. It runs on a thread of its own, since its caller waits.
 class OtherProgram final : public QDBusVirtualObject
 {
 public:
@@ -48,7 +48,7 @@ public:
         m_bus = QDBusConnection(QString());
         QDBusConnection::disconnectFromBus(name);
     }
-    /// "Open file:///a.png" and so on; to be read once the caller has its answer.
+    /// "Open file:///a.png" and so on. Read it once the caller has its answer.
     QStringList calls;
 
     QString introspect(const QString &) const override { return {}; }
@@ -168,7 +168,7 @@ private slots:
         QElapsedTimer clock;
         clock.start();
         QCOMPARE(application.start({u"icons"_s, {u"/a.png"_s}}, 300ms), BusApplication::Start::Alone);
-        // One patience, not one for each call; a busy machine may take some time of its own.
+        // One time limit for all calls together; a busy machine may add some time.
         QVERIFY2(clock.elapsed() < 5000, qPrintable(QString::number(clock.elapsed())));
         QCOMPARE(running.calls, QStringList{u"ActivateAction icons"_s});
         QVERIFY(!isMine());

@@ -12,7 +12,7 @@
 namespace lumora
 {
 
-/// The whole application with services that remember; its header popups come and go at once.
+/// The whole application with recording services; its header popups open and close without a fade.
 struct Application
 {
     Application() : delegate(services.services())
@@ -29,7 +29,7 @@ struct Application
     AppDelegate delegate;
 };
 
-/// Answers the path of a picture written into the folder.
+/// Writes a picture into the folder and returns its path.
 inline QString savePicture(const QTemporaryDir &folder, const QString &name, QSize size = {1024, 1024})
 {
     QImage picture(size, QImage::Format_RGB32);

@@ -200,7 +200,7 @@ private slots:
                                   qtTrId("ICONS_NEW_FOLDER_ALERT_TITLE"), 30000);
         QCoreApplication::processEvents();
         QVERIFY(!icons.popupView()->isVisible());
-        // Its item in the sidebar says so.
+        // The tool's item in the sidebar shows a dot.
         const QList<ITSidebarItemCell *> items = delegate.sideBar()->matrix()->cells();
         QVERIFY(items.at(0)->hasBadge());
         QCOMPARE(items.at(0)->accessibleDescription(), qtTrId("ACCESSIBLE_JOB_ENDED"));

@@ -15,7 +15,7 @@ using namespace lumora;
 namespace
 {
 
-/// A sidebar in its scroll view, with items that count what they are sent.
+/// A sidebar in its scroll view, with items that count their actions.
 struct Fixture
 {
     explicit Fixture(int items = 6, QSize size = {62, 600})
@@ -93,7 +93,8 @@ private slots:
         QFETCH(Qt::Key, key);
         Fixture fixture;
         fixture.sidebar->setSelectedIndex(before);
-        // Not clear(): an empty list that keeps its memory is compared with one that has none by memcmp(), of nothing.
+        // Not clear(): comparing an empty list that keeps its memory with one without memory passes a null pointer to
+        // memcmp().
         fixture.sent = {};
         QTest::keyClick(fixture.sidebar, key);
         QTEST(fixture.sidebar->selectedIndex(), "after");

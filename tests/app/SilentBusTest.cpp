@@ -19,7 +19,7 @@ using namespace std::chrono_literals;
 namespace
 {
 
-/// A socket that lets everybody connect and never says a word.
+/// A socket that accepts connections and never answers.
 class Listener
 {
 public:
@@ -88,7 +88,7 @@ private slots:
         clock.start();
         QCOMPARE(application.start({}, 200ms), BusApplication::Start::Alone);
         QVERIFY2(clock.elapsed() < 5000, qPrintable(QString::number(clock.elapsed())));
-        // Nor does whatever else of the program would like to.
+        // Nor do other parts of the program connect.
         QVERIFY(qgetenv("DBUS_SESSION_BUS_ADDRESS") != address);
     }
 

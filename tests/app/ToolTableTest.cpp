@@ -13,7 +13,7 @@ using namespace lumora;
 namespace
 {
 
-/// Every fact of the table once more, on purpose.
+/// Repeats every fact of the table on purpose.
 struct Expected
 {
     const char *name;

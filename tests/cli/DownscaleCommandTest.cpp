@@ -109,11 +109,11 @@ private slots:
         const LumoraRun dry = downscale(arguments + form + QStringList{u"--dry-run"_s});
         QCOMPARE(dry.status, 1);
         QVERIFY(QDir(at(u"out"_s)).isEmpty());
-        // It says what the run itself then says, but for the files' lengths.
+        // The dry run reports the same as the run, except for the files' lengths.
         const LumoraRun wet = downscale(arguments + form);
         QCOMPARE(dry.status, wet.status);
         QCOMPARE(dry.complaints(), wet.complaints());
-        // A picture of one pixel is a picture, so three are refused.
+        // A picture of one pixel is valid, so three are refused.
         QCOMPARE(dry.complaints().size(), 3);
         if (!json) {
             QCOMPARE(dry.out, wet.out);
@@ -142,7 +142,7 @@ private slots:
         const LumoraRun run =
             runLumora(QStringList{u"downscale"_s, at(u"art-hd"_s), u"--to"_s, at(destination)} + overwrite);
         QCOMPARE(QImage(at(u"art-hd/plain.png"_s)).size(), left);
-        // The other one has a name of its own and is done in any case.
+        // The other file has another name and is always scaled.
         QCOMPARE(QImage(at(u"art-hd/other.png"_s)).size(), QSize(20, 15));
         QCOMPARE(run.status, overwrite.isEmpty() ? 1 : 0);
         QCOMPARE(run.complaints().size(), overwrite.isEmpty() ? 1 : 0);
@@ -187,7 +187,7 @@ private slots:
         QCOMPARE(runLumora(arguments).status, 0);
         const QStringList tree{u"b.png"_s, u"x/c.png"_s, u"x/y/c.png"_s, u"z.png"_s};
         QCOMPARE(filesBelowFolder(at(u"art/half"_s)), tree);
-        // The same tree once more, and none of it taken for a source.
+        // The same tree again; none of the results is a source.
         QCOMPARE(runLumora(arguments + QStringList{u"--overwrite"_s}).status, 0);
         QCOMPARE(filesBelowFolder(at(u"art/half"_s)), tree);
     }
@@ -200,7 +200,7 @@ private slots:
         QCOMPARE(run.status, 1);
         QCOMPARE(run.complaints().size(), 1);
         QVERIFY2(run.err.contains("a@2x.png: its half has the name of another one"), run.err.constData());
-        // The first keeps the name, and the other one is there as well.
+        // The first keeps the name, and the other is written, too.
         QCOMPARE(filesBelowFolder(at(u"out"_s)), (QStringList{u"a.png"_s, u"a_1.png"_s}));
         QCOMPARE(QImage(at(u"out/a.png"_s)).size(), QSize(20, 15));
         QCOMPARE(QImage(at(u"out/a_1.png"_s)).size(), QSize(10, 10));

@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-/// Bytes of address space, the libraries' included, that hostile files are met with.
+/// The address space for runs with hostile files, in bytes, including the libraries.
 constexpr quint64 limitedMemory = 1'500'000'000;
 
 } // namespace
@@ -186,7 +186,7 @@ private slots:
         QVERIFY(putFile(at(u"b@2x.png"_s), pictureFile(testPicture(600, 600))));
         const SmallDisk disk(40 * 1024);
         LumoraProcess process;
-        // Where mounting is not allowed the files' length is limited instead, which fails at the same call.
+        // If mounting is not allowed, the files' length is limited instead, which fails at the same call.
         if (!disk.isMounted())
             process.withLongestFile(40 * 1024);
         const LumoraRun run = process.run(

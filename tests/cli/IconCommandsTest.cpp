@@ -320,7 +320,7 @@ void IconCommandsTest::standardInput()
 
 void IconCommandsTest::relativePaths()
 {
-    // Neither a folder nor a file of that name takes a command's place.
+    // A folder or file with a command's name does not replace the command.
     QVERIFY(QDir(m_folder->path()).mkdir(u"icons"_s));
     const LumoraRun run = LumoraProcess()
                               .in(m_folder->path())
@@ -381,7 +381,7 @@ void IconCommandsTest::icnsIsReadByAnotherProgram()
 {
     QCOMPARE(runLumora({u"icons"_s, at(u"my.png"_s), u"--platform"_s, u"mac"_s, u"--to"_s, at(u"out"_s)}).status, 0);
     QProcess reader;
-    // It makes out the members that were known in its day: 256, 512 and 1024 pixels.
+    // The tool only knows older members: 256, 512 and 1024 pixels.
     reader.start(u"icns2png"_s, {u"-x"_s, u"-o"_s, at(u"out"_s), at(u"out/icons/Mac/icons.icns"_s)});
     QVERIFY2(reader.waitForFinished(), "icns2png, from the Debian package icnsutils, is not there");
     const QMap<QString, QString> wanted = {{u"256x256"_s, u"icon_256x256.png"_s},

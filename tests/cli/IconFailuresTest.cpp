@@ -14,12 +14,12 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-/// Bytes of address space, the libraries' included, that hostile files are met with.
+/// The address space for runs with hostile files, in bytes, including the libraries.
 constexpr quint64 limitedMemory = 1'000'000'000;
 
 } // namespace
 
-/// What the icon commands refuse, and what they say when they cannot write.
+/// The input that the icon commands refuse, and their complaints when they cannot write.
 class IconFailuresTest : public QObject
 {
     Q_OBJECT
@@ -185,7 +185,7 @@ void IconFailuresTest::fullDisk()
     const SmallDisk disk(bytes);
     QVERIFY(putFile(at(u"big"_s), {}));
     LumoraProcess process;
-    // Where mounting is not allowed the files' length is limited instead, which fails at the same call.
+    // If mounting is not allowed, the files' length is limited instead, which fails at the same call.
     if (!disk.isMounted())
         process.withLongestFile(bytes / 10);
     const QString place = disk.path();
@@ -201,7 +201,7 @@ void IconFailuresTest::fullDisk()
     QCOMPARE(lines.size(), 2);
     QVERIFY(lines[1].startsWith(u"lumora: missing in "_s));
     QStringList missing = lines[1].section(u": "_s, 2).split(u", "_s);
-    // Written and missing together are everything, and nothing half-written is left.
+    // The written and the missing files together are all files, and no partial file is left.
     QCOMPARE(missing.size() + written.size(), 52);
     for (const QString &file : written) {
         QVERIFY(!missing.contains(file));
@@ -262,7 +262,7 @@ void IconFailuresTest::customSize_data()
     QTest::addColumn<int>("status");
     for (const char *size : {"0", "-5", "1025", "4294967360"})
         QTest::newRow(size) << QString::fromLatin1(size) << 0 << 1;
-    // What is no number at all is a wrong call; nothing of it is cut off to make one.
+    // A text that is not a number is a wrong call; nothing is cut off to make it a number.
     for (const char *size : {"abc", "64px", "180.5", "180px", "0x7", "1e3", "--", "64 64", "½"})
         QTest::newRow(size) << QString::fromUtf8(size) << 0 << 2;
     QTest::newRow(" +64") << u" +64"_s << 64 << 0;

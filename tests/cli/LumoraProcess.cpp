@@ -22,7 +22,7 @@ namespace
 
 constexpr int longestRun = 60'000;
 
-/// Both ends of a terminal that one process is given.
+/// Both ends of a terminal for one process.
 class Terminal
 {
 public:

@@ -11,18 +11,18 @@
 namespace lumora
 {
 
-/// How one run of the program ended.
+/// The result of one run of the program.
 struct LumoraRun
 {
     int status = -1; ///< exit status; -1 when it crashed, hung or did not start
     QByteArray out;
     QByteArray err;
 
-    /// The last line of stdout, without its end.
+    /// The last line of stdout, without its line break.
     QString lastLine() const;
     /// Every line of stderr.
     QStringList complaints() const;
-    /// stdout as one JSON object; empty where it is something else.
+    /// stdout as one JSON object; empty if it is something else.
     QJsonObject json() const;
 };
 
@@ -30,24 +30,24 @@ struct LumoraRun
 class LumoraProcess
 {
 public:
-    /// What standard input holds; empty by default.
+    /// The content of standard input; empty by default.
     LumoraProcess &withInput(const QByteArray &input);
     /// The working folder.
     LumoraProcess &in(const QString &folder);
-    /// Every file it writes ends at that length, as on a full disk (the system answers "File too large").
+    /// Limits the length of every written file, as on a full disk (the system reports "File too large").
     LumoraProcess &withLongestFile(quint64 bytes);
-    /// It gets no more address space than that. Has no effect in a build with sanitizers, whose shadow takes more.
+    /// Limits the address space. Has no effect in a build with sanitizers, whose shadow memory needs more.
     LumoraProcess &withMemory(quint64 bytes);
-    /// Takes the right to pass over file permissions, which root has, so that they hold in a container too.
+    /// Drops root's right to ignore file permissions, so that they also hold in a container.
     LumoraProcess &underPermissions();
     /// stdout goes to this file or device instead of `LumoraRun::out`.
     LumoraProcess &withOutputTo(const QString &path);
-    /// stderr is a terminal; what it shows is `LumoraRun::err`.
+    /// Makes stderr a terminal; its output is `LumoraRun::err`.
     LumoraProcess &onTerminal();
-    /// Sets a variable of its environment.
+    /// Sets a variable of the program's environment.
     LumoraProcess &withVariable(const QString &name, const QString &value);
 
-    /// Runs it to its end, or for one minute.
+    /// Runs the program to its end, for at most one minute.
     LumoraRun run(const QStringList &arguments) const;
 
 private:
@@ -61,7 +61,7 @@ private:
     bool m_terminal = false;
 };
 
-/// Runs it without anything special.
+/// Runs the program with the default settings.
 LumoraRun runLumora(const QStringList &arguments);
 
 } // namespace lumora

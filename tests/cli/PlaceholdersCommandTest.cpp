@@ -29,10 +29,10 @@ QString fileOfSize(QSize size)
     return u"placeholder_%1x%2.png"_s.arg(size.width()).arg(size.height());
 }
 
-/// What a font configuration without any font says.
+/// A font configuration without any font.
 const QByteArray noFonts = "<?xml version=\"1.0\"?><!DOCTYPE fontconfig SYSTEM \"fonts.dtd\"><fontconfig/>";
 
-/// The most memory that any process run so far has held, in bytes.
+/// The peak memory of any process so far, in bytes.
 [[maybe_unused]] qint64 peakMemory()
 {
     rusage usage{};
@@ -59,7 +59,7 @@ private slots:
         QCOMPARE(write({u"--size"_s, u"9999x9999"_s}).status, 0);
         QVERIFY(filesBelowFolder(out()).contains(u"placeholders/placeholder_9999x9999.png"_s));
 #if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
-        // Its pixels alone would be 400 MB; what it takes is hardly more than the program itself.
+        // Its pixels alone would take 400 MB; the run takes hardly more than the program itself.
         QVERIFY2(peakMemory() < 100'000'000, qPrintable(QString::number(peakMemory())));
 #endif
     }
@@ -145,7 +145,7 @@ private slots:
         QTest::addColumn<int>("status");
         for (const char *size : {"10x0", "10000x10", "10x10000", "-5x10", "10x-5", "4294967297x10"})
             QTest::newRow(size) << QString::fromLatin1(size) << 1;
-        // What is no size at all is a wrong call; nothing of it is cut off to make one.
+        // A text that is not a size is a wrong call; nothing is cut off to make it a size.
         for (const char *size : {"0x10", "0x7", "abcx10", "10xabc", "x10", "10x", "300", "1e3x5", "300abcx200",
                                  "180.5x20", "10x10px", "10x10x10"})
             QTest::newRow(size) << QString::fromLatin1(size) << 2;
@@ -153,7 +153,7 @@ private slots:
     void refusedSize()
     {
         QFETCH(QString, size);
-        // Among good ones, which are not written either.
+        // Together with good sizes, which are not written either.
         const LumoraRun run = write({u"--size"_s, u"30x20"_s, u"--size="_s + size});
         QTEST(run.status, "status");
         QCOMPARE(run.out, QByteArray());
@@ -275,7 +275,7 @@ private slots:
 
     void oneFileTooLong()
     {
-        // Of the Mac's set, the picture of 512 pixels alone is short enough.
+        // In the Mac's set, only the picture of 512 pixels is short enough.
         const LumoraRun reference = write({u"--set"_s, u"mac"_s, u"--json"_s});
         QList<qint64> lengths;
         for (const QJsonValue &file : reference.json()[u"files"_s].toArray())
@@ -294,17 +294,17 @@ private slots:
 
     void fullDisk()
     {
-        // Room for the folder and the small pictures.
+        // Enough space for the folder and the small pictures.
         const SmallDisk disk(24 * 1024);
         LumoraProcess process;
-        // Where mounting is not allowed the files' length is limited instead, which fails at the same call.
+        // If mounting is not allowed, the files' length is limited instead, which fails at the same call.
         if (!disk.isMounted())
             process.withLongestFile(6 * 1024);
         const LumoraRun run = process.run({u"placeholders"_s, u"--set"_s, u"ios"_s, u"--to"_s, disk.path()});
         QCOMPARE(run.status, 1);
         const QStringList written = filesBelowFolder(disk.path() + u"/placeholders"_s);
         QVERIFY(!written.isEmpty());
-        // Each that is missing is reported, and none is a torso.
+        // Each missing file is reported, and none is partly written.
         QCOMPARE(run.complaints().size() + written.size(), iosFiles.size());
         for (const QString &name : written)
             QVERIFY2(!QImage(disk.path() + u"/placeholders/"_s + name).isNull(), qPrintable(name));

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// Preloaded into the program, this stands in the middle of the unpacking, where a hostile archive would: the first
-// entry that is unpacked tries what LUMORA_PLANTED_FAULT names, at the path in LUMORA_PLANTED_PLACE, and says how that
-// went.
+// Preloaded into the program, this runs in the middle of the unpacking, as a hostile archive would: at the first
+// unpacked entry it tries the action in LUMORA_PLANTED_FAULT at the path in LUMORA_PLANTED_PLACE, and reports the
+// result.
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
@@ -23,7 +23,7 @@
 namespace
 {
 
-/// 0 when it could be done, else the reason.
+/// 0 when the action succeeded, else the reason.
 int reason(bool done)
 {
     return done ? 0 : errno;

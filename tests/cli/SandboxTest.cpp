@@ -18,12 +18,12 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-/// What a fault needs the kernel to offer in order to be refused.
+/// The kernel feature that is needed to refuse a fault.
 enum class Held { Files, Calls };
 
 } // namespace
 
-/// What the code that unpacks an archive can do to the rest of the machine, tried from within.
+/// Tries, from inside the code that unpacks an archive, what it can do to the rest of the machine.
 class SandboxTest : public QObject
 {
     Q_OBJECT
@@ -128,7 +128,7 @@ private:
         QVERIFY(QFile::copy(m_packages.filePath(u"valid.ipa"_s), at(name)));
     }
 
-    /// A run whose unpacking tries the row's fault on fresh files.
+    /// A run whose unpacking tries the row's fault on new files.
     LumoraRun planted(const QStringList &options)
     {
         QFETCH(QString, fault);

@@ -27,7 +27,7 @@ QStringList commands()
     for (const QRegularExpressionMatch &match :
          line.globalMatch(help.section(u"\nCommands:"_s, 1).section(u"Window:"_s, 0, 0)))
         names << match.captured(1);
-    // It has no arguments.
+    // This command has no arguments.
     names.removeOne(u"version"_s);
     return names;
 }
@@ -44,7 +44,7 @@ QStringList optionsOf(const QString &command)
 
 } // namespace
 
-/// What the shells offer and the manual describes is what the program understands.
+/// The shells offer, and the manual describes, exactly what the program accepts.
 class ShellHelpTest : public QObject
 {
     Q_OBJECT

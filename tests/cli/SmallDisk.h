@@ -7,7 +7,7 @@
 namespace lumora
 {
 
-/// A folder on a disk of its own that takes a given number of bytes and no more. Mounting needs root.
+/// A folder on a disk of its own with a given size in bytes. Mounting needs root.
 class SmallDisk
 {
 public:

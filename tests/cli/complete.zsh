@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-# usage: zsh -f complete.zsh FOLDER LINE WANTED   Types LINE and the tab key into an interactive zsh that knows the
-# completions in FOLDER, and waits until it shows WANTED.
+# usage: zsh -f complete.zsh FOLDER LINE WANTED   Types LINE and the tab key into an interactive zsh with the completions in
+# FOLDER, and waits until it shows WANTED.
 zmodload zsh/zpty
 export TERM=xterm
 zpty shell zsh -f -i

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""usage: test_call_mistakes.py LUMORA   The mistakes that people make at a prompt: the exit status, one line that says what is wrong
+"""usage: test_call_mistakes.py LUMORA   The mistakes that people make at a prompt: the exit status, one line with the problem
 and what may have been meant, and nothing written."""
 import os
 import subprocess
@@ -10,7 +10,7 @@ from pathlib import Path
 
 LUMORA = str(Path(sys.argv[1]).resolve())
 
-# What is typed, the exit status and the one line on standard error (its beginning).
+# The typed line, the exit status and the beginning of the one line on standard error.
 MISTAKES = [
     ("icno", 2, 'lumora: "icno" is neither a command nor a file that exists; did you mean icon or icons?'),
     ("validte x.ipa", 2, 'lumora: "validte" is neither a command nor a file that exists; did you mean validate'),
@@ -66,7 +66,7 @@ MISTAKES = [
     ("validate - -", 2, "lumora validate: - is given twice"),
 ]
 
-# The same in German, as it is asked for by the environment.
+# The same in German, as the environment requests.
 GERMAN = [
     ("icno", 2, 'lumora: "icno" ist weder ein Befehl noch eine vorhandene Datei; war icon oder icons gemeint?'),
     ("icons missing.png --platform all --to out", 1, "lumora: missing.png: gibt es nicht; den Pfad prüfen"),
@@ -134,7 +134,7 @@ class Calls(unittest.TestCase):
         for command, tool in (("downscale", "resizer"), ("validate", "validator")):
             self.assertEqual(self.run_line(f"help {command}").stdout, self.run_line(f"help {tool}").stdout)
             self.assertEqual(self.run_line(f"{tool} --help").stdout, self.run_line(f"help {tool}").stdout)
-        # There is no display, and the complaint is about that, not about the name.
+        # There is no display, so the complaint is about the display, not about the name.
         for tool in ("resizer", "downscale", "validator", "validate", "icon"):
             for line in (f"--tool {tool}", f"--tool={tool}"):
                 ended = self.run_line(line)

@@ -17,7 +17,7 @@ SHELL, FOLDER = sys.argv[1], Path(sys.argv[2]).resolve()
 FACTOR = max(1, int(os.environ.get("LUMORA_TIME_FACTOR", "1")))
 FILES = ["my icon.png", "plain.JPG", "notes.txt", "Great App.ipa", "other.zip"]
 
-# What is typed before the tab key, and the arguments that come of it. Each has one answer, so that one tab is enough.
+# The text before the tab key, and the resulting arguments. Each has one answer, so that one tab is enough.
 LINES = {
     "a command": ("plac", ["placeholders"]),
     "a command of help": ("help dow", ["help", "downscale"]),
@@ -57,7 +57,7 @@ STEERING = re.compile(r"\x1b(\[[0-9;?>=<]*[a-zA-Z]|\][^\x07\x1b]*(\x07|\x1b\\)|[
 
 
 class Shell:
-    """An interactive shell on a terminal of its own."""
+    """An interactive shell on its own terminal."""
 
     def __init__(self, folder):
         arguments, start = START[SHELL]
@@ -74,7 +74,7 @@ class Shell:
         os.write(self.terminal, text.encode())
 
     def wait(self, pattern):
-        """Reads until the pattern is shown; the match."""
+        """Reads until the pattern is shown; returns the match."""
         end = time.monotonic() + 20 * FACTOR
         while time.monotonic() < end:
             found = re.search(pattern, STEERING.sub("", self.shown))
@@ -104,11 +104,11 @@ class Completion(unittest.TestCase):
             self.addCleanup(shell.close)
             for name, (typed, arguments) in LINES.items():
                 with self.subTest(name):
-                    # The mark behind the line shows when the shell is done with the tab.
+                    # The mark after the line shows that the shell has finished the completion.
                     shell.type(f"lumora {typed}\t")
                     shell.type(" #end\n" if SHELL == "fish" else "\n")
                     given = shell.wait(r"\n((<[^\n]*>)+)\n").group(1)
-                    # zsh takes the slash behind a folder away again when the line ends there.
+                    # zsh removes the slash after a folder when the line ends there.
                     self.assertEqual([word.rstrip("/") for word in re.findall(r"<(.*?)>", given)],
                                      [word.rstrip("/") for word in arguments])
 

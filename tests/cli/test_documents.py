@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-"""usage: test_documents.py LUMORA SOURCE   What README, the manual, docs/ci.md and the help say to type is typed, word for word, and
-ends well. The lines that install a package are handed to an apt-get that only looks whether it is given one."""
+"""usage: test_documents.py LUMORA SOURCE   Types the commands in README, the manual, docs/ci.md and the help, word for word;
+they must succeed. The lines that install a package get an apt-get that only checks whether it is given one."""
 import os
 import re
 import subprocess
@@ -11,7 +11,7 @@ from pathlib import Path
 
 LUMORA, SOURCE = (Path(argument).resolve() for argument in sys.argv[1:3])
 COMMANDS = ["icons", "icon", "placeholders", "downscale", "color", "devices", "validate"]
-# apt-get is no part of this: packaging's tests install the packages with the real one.
+# Not the real apt-get: packaging's tests install the packages with that.
 APT_GET = """#!/bin/sh
 case $1 in
   update) exit 0 ;;
@@ -27,12 +27,12 @@ def fenced(text, kind):
 
 def readme_lines():
     text = (SOURCE / "README.md").read_text()
-    # What stands under Install builds the program itself.
+    # The commands under Install build the program itself.
     return fenced(text.split("## One example a tool")[1], "sh")
 
 
 def ci_lines():
-    """The lines of each block that belong together, one list a block."""
+    """The lines of each block, one list per block."""
     text = (SOURCE / "docs/ci.md").read_text()
     scripts = [fenced(text, "sh")]
     yaml, groovy = fenced(text, "yaml"), fenced(text, "groovy")
@@ -92,7 +92,7 @@ class Documents(unittest.TestCase):
         self.put_package("App.ipa")
         self.type(readme_lines())
         self.assertEqual(self.commands_of(readme_lines()), set(COMMANDS))
-        # As the table says.
+        # As in the table.
         self.assertEqual(sum(path.is_file() for path in (self.folder / "build/icons").rglob("*")), 52)
         self.assertTrue((self.folder / "build/art/button.png").is_file())
 

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-"""usage: test_interruption.py LUMORA   Ctrl+C in the middle of a batch: it ends soon with status 130, what it names is whole, nothing
-half-written is left, and the result says what happened. And the progress line, on a terminal and elsewhere."""
+"""usage: test_interruption.py LUMORA   Ctrl+C in the middle of a batch: it ends soon with status 130, the files it names are
+complete, no partial file is left, and the result reports the interruption. Also the progress line, on a terminal and elsewhere."""
 import json
 import os
 import pty
@@ -38,7 +38,7 @@ class Interruption(unittest.TestCase):
         out = Path(tempfile.mkdtemp(dir=self.scratch.name))
         process = subprocess.Popen([LUMORA, *arguments, "--out", out], stdout=subprocess.PIPE, stderr=subprocess.PIPE)
         end = time.monotonic() + 60
-        # Polled without a pause: there is nothing to be notified by.
+        # Polled without a pause, since nothing sends a notification.
         while time.monotonic() < end and process.poll() is None and not any(path.is_file() for path in out.rglob("*")):
             select.select([], [], [], 0.001)
         process.send_signal(number)
@@ -66,7 +66,7 @@ class Interruption(unittest.TestCase):
 
     def test_icons(self):
         returned, printed, complained, out = self.stopped(signal.SIGINT, "icons", "--example", "--platform", "all")
-        # A fast machine may have been done.
+        # A fast machine may have finished.
         if returned == 0:
             self.assertEqual(sum(path.is_file() for path in out.rglob("*")), 52)
             return
@@ -80,7 +80,7 @@ class Interruption(unittest.TestCase):
 
 class Progress(unittest.TestCase):
     def shown(self, *options, **variables):
-        """What a run shows on a terminal for standard error."""
+        """The output of a run on a terminal for standard error."""
         with tempfile.TemporaryDirectory() as folder:
             master, slave = pty.openpty()
             ended = subprocess.Popen([LUMORA, "icons", "--example", "--platform", "all", "--to", folder, *options],
@@ -103,7 +103,7 @@ class Progress(unittest.TestCase):
         start = time.monotonic()
         shown = self.shown()
         steps = shown.split("\r\x1b[K")[1:]
-        # Ten a second, besides the first and the last; the last of all removes the line.
+        # Ten per second, plus the first and the last; the very last one removes the line.
         self.assertLessEqual(len(steps), 3 + 10 * (time.monotonic() - start) + 1)
         self.assertTrue(steps[0].startswith("1/51 "), steps)
         self.assertTrue(steps[-2].startswith("51/51 "), steps)

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-"""usage: test_json_schemas.py LUMORA SCHEMAS PACKAGES   Every command's JSON, of success, failure and misuse, is what its schema
-says: of that form, without a key that the schema does not describe, and `ok` exactly when the exit status is 0."""
+"""usage: test_json_schemas.py LUMORA SCHEMAS PACKAGES   Every command's JSON, of success, failure and misuse, matches its
+schema: it has that form, no key that the schema does not describe, and `ok` is true exactly when the exit status is 0."""
 import json
 import subprocess
 import sys
@@ -55,7 +55,7 @@ CALLS = {
 
 
 def described_keys(schema, root, found=None):
-    """The names of all keys that the schema describes, wherever they stand."""
+    """The names of all keys in the schema, at any depth."""
     found = set() if found is None else found
     if isinstance(schema, dict):
         found.update(schema.get("properties", {}))
@@ -86,7 +86,7 @@ class JsonContract(unittest.TestCase):
         (folder / "notes.txt").write_text("notes")
         for name in ("marked/sub", "empty", "blocked"):
             (folder / name).mkdir(parents=True)
-        # A file in the place of a folder that is to be made.
+        # A file at the path of the folder to make.
         (folder / "blocked/iPad").write_text("mine")
         for name, size in (("icon.png", "1024x1024"), ("marked/a@2x.png", "8x6"), ("marked/sub/b-hd.png", "8x6")):
             subprocess.run(["convert", "-size", size, "xc:tomato", folder / name], check=True)
@@ -104,7 +104,7 @@ class JsonContract(unittest.TestCase):
     def test_each_call(self):
         for name, (schema_name, arguments, status) in CALLS.items():
             for language in ("C.UTF-8", "de_DE.UTF-8"):
-                # What a run wrote, the same run in another language meets.
+                # The same run in another language finds the files of the first.
                 if language == "de_DE.UTF-8" and schema_name == "downscale" and status == 0 and "--dry-run" not in arguments:
                     continue
                 with self.subTest(name, language=language):

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-"""usage: test_undecodable_names.py LUMORA   Names that are not UTF-8: every command refuses them in a line that says so, does what it
-was asked for the rest, and writes under no other name."""
+"""usage: test_undecodable_names.py LUMORA   Names that are not UTF-8: every command refuses them in one clear line, does the
+rest of its work, and writes under no other name."""
 import os
 import subprocess
 import sys

@@ -125,7 +125,7 @@ private slots:
             QVERIFY(result.ok());
             QCOMPARE(result.value().code(ColorNotation::Rgb), QString::asprintf("rgb(%i, %i, %i)", byte, byte, byte));
             QCOMPARE(stringFromColor(result.value().color), u'#' + pair + pair + pair);
-            // The detour over a platform color, as a well or the clipboard holds it, loses nothing either.
+            // Converting to a platform color, as in a well or on the clipboard, and back loses nothing either.
             QCOMPARE(stringFromColor(rgbaFrom(platformColor(result.value().color))), u'#' + pair + pair + pair);
         }
     }

@@ -38,7 +38,7 @@ private:
         field()->selectAll();
         QTest::keyClicks(field(), text);
     }
-    /// Puts a text into the field of which typing would make something else.
+    /// Sets a text in the field that the typing rule would change.
     void show(const QString &text)
     {
         const QSignalBlocker blocker(field());
@@ -47,7 +47,7 @@ private:
     static void press(HoverButton *button) { QTest::mouseClick(button, Qt::LeftButton); }
     HoverButton *button(const QString &name) { return m_controller->view()->findChild<HoverButton *>(name); }
 
-    /// Drops the content on the pane, answers whether the drag was taken.
+    /// Drops the content on the pane; returns whether the drag was accepted.
     bool drop(const QMimeData &content)
     {
         QWidget *target = m_controller->view()->findChild<QWidget *>(u"dropView"_s);
@@ -149,7 +149,7 @@ private slots:
         const QColor chosen = platformColor(m_controller->theColor());
         QCOMPARE(pressed->normalColor(), chosen);
         QCOMPARE(pressed->hovercolor(), chosen);
-        // Converting for the copy makes the text's color the current one, though it was not typed.
+        // Converting for the copy makes the text's color the current one, although it was not typed.
         QCOMPARE(m_controller->colorWell()->color(), codesForCopying(text).value().color);
         QCOMPARE(field()->textColor(), chosen);
     }
@@ -204,7 +204,7 @@ private slots:
         QCOMPARE(m_controller->popupView()->borderColor(), palette::errorLight);
         QCOMPARE(m_controller->popupContentView()->titleLabel()->text(), qtTrId("COLOR_ALERT_TITLE"));
         QCOMPARE(m_controller->popupContentView()->messageLabel()->text(), qtTrId("COLOR_ALERT_MESSAGE"));
-        // All at rest again, the one that had copied too; the color is the last valid one.
+        // All buttons are at rest again, also the one that had copied; the color is the last valid one.
         QCOMPARE(m_controller->iosButton()->text(), qtTrId("COLOR_IOS_BUTTON"));
         QCOMPARE(m_controller->macButton()->text(), qtTrId("COLOR_MAC_BUTTON"));
         QCOMPARE(stringFromColor(m_controller->theColor()), u"#34485e"_s);
@@ -213,7 +213,7 @@ private slots:
     void anotherCopyRestoresTheFirstButtonAndStartsAnew()
     {
         press(m_controller->iosButton());
-        // Some of the first two seconds has to go by, or a restart would look like going on.
+        // Part of the first two seconds must pass, or a restart would look like a continuation.
         QTest::qWait(500);
         press(m_controller->macButton());
         QElapsedTimer sinceSecond;
@@ -285,7 +285,7 @@ private slots:
         QTest::mouseClick(m_controller->colorWell(), Qt::LeftButton);
         QVERIFY(BFColorPickerPopover::sharedPopover()->isShown());
         ColorPanel::sharedColorPanel()->model()->setColor({0.999F, 0.0F, 0.0F, 1.0F});
-        // 254.7 is cut, not rounded.
+        // 254.7 is truncated, not rounded.
         QCOMPARE(field()->text(), u"#fe0000"_s);
         QCOMPARE(m_controller->theColor(), (RgbaColor{0.999F, 0.0F, 0.0F, 1.0F}));
         QCOMPARE(field()->textColor(), platformColor(m_controller->theColor()));

@@ -44,7 +44,7 @@ class DeviceFilterTest : public QObject
 private slots:
     void fadesWhatDoesNotMatch_data()
     {
-        QTest::addColumn<float>("maxIos"); // 0 is no version
+        QTest::addColumn<float>("maxIos"); // 0 is not a version
         QTest::addColumn<QByteArrayList>("features");
         QTest::addColumn<QStringList>("faded");
 

@@ -55,7 +55,7 @@ private:
         collect(u"iPad"_s, m_controller->iPads(), m_controller->iPadsImages(), m_controller->iPadsLabels());
         return all;
     }
-    /// The devices whose picture and label are faded, once every fade has ended; "?" for one in between.
+    /// The devices whose picture and label are faded, once every fade has ended; "?" for a partly faded one.
     QStringList faded() const
     {
         QStringList names;
@@ -204,7 +204,7 @@ private slots:
         const float middle = picture->alphaValue();
         QVERIFY(middle > 0.25F);
         press(m_controller->resetButton());
-        // Nothing jumps when the direction changes.
+        // The opacity does not jump when the direction changes.
         QVERIFY(picture->alphaValue() <= middle);
         QTRY_COMPARE(picture->alphaValue(), 1.0F);
     }

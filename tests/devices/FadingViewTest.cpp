@@ -23,7 +23,7 @@ private slots:
 namespace
 {
 
-/// Less than the eye can see, and what a Bézier curve is computed to.
+/// The precision of a computed Bézier curve, too small to be visible.
 constexpr float tolerance = 0.003F;
 
 void startFading(FadingView &view, float alpha)

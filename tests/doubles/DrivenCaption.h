@@ -14,8 +14,7 @@ inline QTimer &timerOf(const TimedCaption &caption)
     return *caption.findChild<QTimer *>();
 }
 
-/// Lets the time run out after which a caption that waits for it returns to rest; at once, and not for one that does
-/// not wait.
+/// Ends at once the time after which a waiting caption returns to rest. Does nothing to a caption that does not wait.
 inline void letTimePass(const TimedCaption &caption)
 {
     QTimer &timer = timerOf(caption);

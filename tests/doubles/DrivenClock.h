@@ -8,21 +8,21 @@
 namespace lumora::testing
 {
 
-/// Time that passes for every animation of this thread only when a test says so.
+/// Time that passes for all animations of this thread only when the test advances it.
 class DrivenClock final : public QAnimationDriver
 {
 public:
     DrivenClock()
     {
         install();
-        // While nothing is animated Qt goes by the real clock, and a first animation would begin with what a busy
-        // machine let pass before its first step.
+        // While nothing is animated, Qt uses the real clock, and a first animation would begin with the time that a
+        // busy machine takes before its first step.
         m_alwaysRunning.setStartValue(0);
         m_alwaysRunning.setEndValue(1);
         m_alwaysRunning.setLoopCount(-1);
         m_alwaysRunning.start();
         QCoreApplication::processEvents();
-        // Takes up what passed until now.
+        // Applies the time that has passed until now.
         pass(0);
     }
     ~DrivenClock() override

@@ -8,13 +8,13 @@
 namespace lumora
 {
 
-/// Writes a file and the folders on its way; false when it could not.
+/// Writes a file and its missing parent folders; returns false on failure.
 bool putFile(const QString &path, const QByteArray &content);
 
-/// The content of a file; null where there is none.
+/// The content of a file; null if there is none.
 QByteArray contentOfFile(const QString &path);
 
-/// Every file in the folder and below, hidden ones too, by its path from there, in order.
+/// All files in the folder and below, including hidden ones, as sorted relative paths.
 QStringList filesBelowFolder(const QString &folder);
 
 } // namespace lumora

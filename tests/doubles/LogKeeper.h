@@ -7,7 +7,7 @@
 namespace lumora
 {
 
-/// Collects what is logged while it lives; one at a time.
+/// Collects the log lines while it exists. Only one may exist at a time.
 class LogKeeper
 {
 public:

@@ -29,7 +29,7 @@ inline void showAside(QWidget *widget)
     widget->show();
 }
 
-/// What the widget draws at a scale factor, pixel by pixel.
+/// The picture that the widget draws at a scale factor.
 inline QImage pictureOf(QWidget *widget, qreal scale = 1)
 {
     QImage picture(widget->size() * scale, QImage::Format_ARGB32_Premultiplied);

@@ -8,7 +8,7 @@
 namespace lumora
 {
 
-/// Remembers each request and stays open until the test confirms or cancels it, as a user would.
+/// Records each request and stays open until the test confirms or cancels it, as a user would.
 class RecordingFileChooser final : public FileChooser
 {
 public:
@@ -24,7 +24,7 @@ private:
     FilesChosen m_chosen;
 };
 
-/// As the file chooser, for folders.
+/// The same for folders.
 class RecordingFolderChooser final : public FolderChooser
 {
 public:
@@ -42,7 +42,7 @@ private:
     FolderDeclined m_declined;
 };
 
-/// Remembers every address instead of opening it.
+/// Records every address instead of opening it.
 class RecordingUrlOpener final : public UrlOpener
 {
 public:
@@ -53,7 +53,7 @@ public:
     QString application = QStringLiteral("mail.desktop");
 };
 
-/// Keeps its content to itself.
+/// A clipboard that other programs cannot see.
 class RecordingClipboard final : public Clipboard
 {
 public:
@@ -70,14 +70,14 @@ public:
     int changes = 0; ///< how often a text was set
 };
 
-/// Services for tests: nothing leaves the test, everything is remembered.
+/// Services for tests: nothing leaves the test, everything is recorded.
 struct RecordingServices
 {
     RecordingFileChooser fileChooser;
     RecordingFolderChooser folderChooser;
     RecordingUrlOpener urlOpener;
     RecordingClipboard clipboard;
-    QString workFolder = {}; ///< a test that makes one says so
+    QString workFolder = {}; ///< set by tests that make one
 
     Services services() { return {fileChooser, folderChooser, urlOpener, clipboard, workFolder}; }
 };

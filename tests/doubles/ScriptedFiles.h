@@ -5,8 +5,8 @@
 #include <QString>
 #include <QStringList>
 
-/// Runs one of this folder's Python scripts with the arguments; what it says goes to the test's own output. False when
-/// it fails.
+/// Runs one of this folder's Python scripts with the arguments; its output goes to the test's output. Returns false
+/// when it fails.
 bool runScript(const QString &name, const QStringList &arguments);
 
 /// Every file, folder and link below the folder: path to content for a file of at most 100 bytes, to "SIZE bytes" for a

@@ -9,7 +9,7 @@
 using namespace lumora;
 using namespace Qt::StringLiterals;
 
-/// What each form prints, and that all of it reads back.
+/// The text of each form, and that every text is read back.
 class ColorFormTest : public QObject
 {
     Q_OBJECT
@@ -162,7 +162,7 @@ private:
             const Result<ColorReading> back = readColor(text);
             QVERIFY2(back.ok(), qPrintable(text));
             QVERIFY2(bytesOf(back.value().color) == bytesOf(color), qPrintable(text + u" of "_s + hex8Of(color)));
-            // Compose's number and Flutter's are one and the same text but for the word before them.
+            // Compose's and Flutter's numbers are the same text except for the word before them.
             QCOMPARE(QString(back.value().notation), QString(form.name));
         }
     }

@@ -7,7 +7,7 @@
 using namespace lumora;
 using namespace Qt::StringLiterals;
 
-/// What people paste, and what is no color.
+/// Texts that people paste, and texts that are not colors.
 class ColorReaderTest : public QObject
 {
     Q_OBJECT

@@ -24,7 +24,7 @@ Palette sample()
             {u"../../etc"_s, color(u"black"_s)}};
 }
 
-/// The colors of all files, each set under its folder's name.
+/// The colors of all files; each color set is named for its folder.
 Palette readAll(const std::vector<PaletteFile> &files)
 {
     Palette all;

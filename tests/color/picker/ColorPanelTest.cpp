@@ -52,7 +52,7 @@ private slots:
     void closesByKey()
     {
         QFETCH(QKeySequence, keys);
-        // A command of the main window with the same keys stays out of it.
+        // A command of the main window with the same keys is not triggered.
         QAction command;
         command.setShortcut(QKeySequence::Close);
         command.setShortcutContext(Qt::ApplicationShortcut);
@@ -90,11 +90,11 @@ private slots:
         m_wells->well.setColor(second);
         QCOMPARE(panel()->color(), second);
         QCOMPARE(pickedColors.count(), 0);
-        // The next change in the picker goes on from there.
+        // The next change in the picker starts from there.
         panel()->model()->setColor({second.red, second.green, second.blue, 0.5F});
         QCOMPARE(m_wells->well.color(), (RgbaColor{second.red, second.green, second.blue, 0.5F}));
         QCOMPARE(pickedColors.count(), 1);
-        // A well that is not active leaves the picker alone.
+        // A well that is not active does not change the picker.
         m_wells->other.setColor(picked);
         QVERIFY(panel()->color() != picked);
     }
@@ -104,7 +104,7 @@ private slots:
         panel()->setColor(first);
         panel()->setMode(PickerMode::Recent);
         const std::size_t before = panel()->recentColors().colors().size();
-        // A drag over several colors leaves one behind, the last.
+        // A drag over several colors adds only the last.
         panel()->model()->setColor(second);
         panel()->model()->setColor(picked);
         QCOMPARE(panel()->recentColors().colors().size(), before + 1);

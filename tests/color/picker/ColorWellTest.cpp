@@ -39,7 +39,7 @@ private slots:
         QSignalSpy pickedByFirst(&m_wells->well, &ColorWell::colorPicked);
         QSignalSpy closed(popover(), &BFColorPickerPopover::closed);
         m_wells->click(m_wells->other);
-        // Closed at once, that is, without a fade.
+        // Closed without a fade.
         QCOMPARE(closed.count(), 1);
         QVERIFY(popover()->animates());
         QVERIFY(popover()->isShown());

@@ -123,7 +123,7 @@ private slots:
 
     void everyPixelOfTheWheelIsThePlacesColor()
     {
-        // Of 61.25 points, so that the disc does not end with a pixel.
+        // A radius of 61.25 points, so that the disc does not end at a pixel's edge.
         const QImage image = wheelImage(61.25, 1.0);
         const WheelGeometry wheel(QRectF(0, 0, 122.5, 122.5));
         for (int y = 0; y < image.height(); ++y) {

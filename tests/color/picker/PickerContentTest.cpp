@@ -45,7 +45,7 @@ private slots:
     {
         QFETCH(PickerMode, mode);
         QFETCH(QStringList, names);
-        // Pages made in another order than they stand in.
+        // Pages that are made in another order than that of the tabs.
         m_picker->content.page(PickerMode::Palettes);
         m_picker->content.setMode(mode);
         QStringList passed;
@@ -65,7 +65,7 @@ private slots:
         m_picker->content.codeField()->selectAll();
         QTest::keyClicks(m_picker->content.codeField(), u"#8f0"_s);
         QCOMPARE(m_picker->code(), u"#88ff00"_s);
-        // Opacity is not part of the code; what is typed stays until typing ends.
+        // The opacity is not part of the code; the typed text stays until typing ends.
         QCOMPARE(m_picker->model.color().alpha, 0.4F);
         QCOMPARE(m_picker->content.codeField()->text(), u"#8f0"_s);
         QTest::keyClick(m_picker->content.codeField(), Qt::Key_Return);

@@ -40,7 +40,7 @@ private slots:
         QCOMPARE(m_wells->popoverHostsContent(), !tornOff);
         QVERIFY(!popover()->shouldHideAnchor());
         QVERIFY(!m_wells->popoverView()->isDragging());
-        // Either way the same picker goes on for the same well.
+        // In both ways the same picker continues for the same well.
         QVERIFY(m_wells->well.isActive());
         QCOMPARE(panel()->mode(), PickerMode::Sliders);
         QCOMPARE(panel()->color(), picked);
@@ -61,14 +61,14 @@ private slots:
     {
         m_wells->click(m_wells->well);
         m_wells->drag({0, 60}, false);
-        // The window has gone 60 points, but had gone 30 when the last step was judged.
+        // The window has moved 60 points, but it had moved 30 when the last step was checked.
         QVERIFY(!popover()->shouldHideAnchor());
         const BFColorPickerPopoverView *view = m_wells->popoverView();
         const QPoint pointer = view->mapToGlobal(QPoint(view->width() - 10, 17));
         m_wells->send(QEvent::MouseMove, pointer, Qt::LeftButton);
         QVERIFY(popover()->shouldHideAnchor());
         QVERIFY(!popover()->balloon()->drawsArrow());
-        // Dragged back, it points at the well again, one step later too.
+        // Dragged back, it points at the well again, also one step later.
         m_wells->send(QEvent::MouseMove, pointer - QPoint(0, 20), Qt::LeftButton);
         QVERIFY(popover()->shouldHideAnchor());
         m_wells->send(QEvent::MouseMove, pointer, Qt::LeftButton);

@@ -77,7 +77,7 @@ private slots:
             QVERIFY(list->viewport()->rect().contains(list->visualRect(kind->model()->index(row, 0))));
         const QRect row = list->visualRect(kind->model()->index(1, 0));
         const QImage picture = list->viewport()->grab(row).toImage();
-        // The background and the brightest of the text differ as text on its ground has to.
+        // The background and the brightest part of the text have enough contrast.
         const QColor ground = picture.pixelColor(picture.width() - 4, picture.height() / 2);
         int most = 0;
         for (int x = 0; x < picture.width(); ++x) {
@@ -92,7 +92,7 @@ private slots:
     void whatASliderShowsDoesNotChangeTheColor()
     {
         m_picker->content.page(PickerMode::Sliders);
-        // Between two numbers of every channel.
+        // A color between two numbers of every channel.
         const RgbaColor between{0.20312F, 0.49321F, 0.71234F, 0.33333F};
         m_picker->model.setColor(between);
         QCOMPARE(m_picker->model.color(), between);
@@ -142,7 +142,7 @@ private slots:
         QCOMPARE(m_picker->model.color(), tools->swatches().at(tools->model()->index(2, 0)).color);
         QCOMPARE(tools->swatches().rowCount(), 15);
         QCOMPARE(palettes->webColors()->swatches().rowCount(), 139);
-        // Fifteen swatches need two rows; none may be cut off.
+        // Fifteen swatches need two rows; neither may be cut off.
         QCOMPARE(tools->verticalScrollBar()->maximum(), 0);
         QVERIFY(tools->viewport()->rect().contains(tools->visualRect(tools->model()->index(14, 0))));
     }

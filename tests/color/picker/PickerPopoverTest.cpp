@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-/// Counts how often a widget comes to the screen.
+/// Counts how often a widget is shown.
 class ShowCounter final : public QObject
 {
 public:
@@ -58,7 +58,7 @@ private slots:
         QVERIFY(m_wells->popoverHostsContent());
         QVERIFY(!panel()->hostsContentView());
         QVERIFY(panel()->contentView()->isVisible());
-        // The floating panel is served by the same content and must not flash up meanwhile.
+        // The floating panel uses the same content and must not be shown for a moment.
         QCOMPARE(panelShown.count, 0);
         QVERIFY(!ColorPanel::isPanelDisabled());
     }

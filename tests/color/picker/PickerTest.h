@@ -9,7 +9,7 @@
 namespace lumora
 {
 
-/// What every test of the picker's inside starts from: a fresh picker, shown, with English texts.
+/// The base of the tests of the picker's content: each begins with a new, shown picker with English texts.
 class PickerTest : public QObject
 {
     Q_OBJECT

@@ -15,7 +15,7 @@
 namespace lumora
 {
 
-/// Ends each pick as the test says.
+/// Ends each pick as the test sets it.
 class FakePipette final : public Pipette
 {
 public:
@@ -23,7 +23,7 @@ public:
     int picks = 0;
 };
 
-/// The picker without a host, shown in its usual size, with a pipette that only counts.
+/// The picker without a host, shown at its usual size, with a pipette that only counts.
 class ShownPicker
 {
 public:

@@ -6,7 +6,7 @@
 namespace lumora
 {
 
-/// What every test of wells, popover and panel starts from: a fresh window with two wells.
+/// The base of the tests of wells, popover and panel: each begins with a new window with two wells.
 class WellsTest : public QObject
 {
     Q_OBJECT

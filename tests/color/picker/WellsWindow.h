@@ -18,8 +18,8 @@
 namespace lumora
 {
 
-/// A window with two color wells and a hand that clicks them and drags their popover. One for each test: going, it
-/// leaves popover and panel as a test finds them.
+/// A window with two color wells, and functions that click them and drag their popover. One for each test: its
+/// destructor resets popover and panel.
 class WellsWindow
 {
 public:
@@ -78,7 +78,7 @@ public:
         QCoreApplication::sendEvent(view, &event);
     }
 
-    /// Opens the popover for the first well and tears it off.
+    /// Opens the popover for the first well and detaches it.
     void openFloatingPanel()
     {
         click(well);

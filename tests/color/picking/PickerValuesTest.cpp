@@ -56,7 +56,7 @@ private slots:
         QFETCH(float, saturation);
         QFETCH(float, brightness);
         const HsbColor hsb = hsbFrom(rgbaFrom(QColor(color)));
-        // Figures with four decimals are compared, hence half of the last.
+        // The expected numbers have four decimals, so half of the last is allowed.
         QVERIFY2(std::abs(hsb.hue * 360.0F - degrees) < 0.0005F, qPrintable(QString::number(hsb.hue * 360.0F)));
         QVERIFY(std::abs(hsb.saturation - saturation) < 0.00001F);
         QVERIFY(std::abs(hsb.brightness - brightness) < 0.00001F);
@@ -190,7 +190,7 @@ private slots:
             byName[named.name] = stringFromColor(named.color);
             QVERIFY2(codes.insert(stringFromColor(named.color)).second, qPrintable(named.name));
         }
-        // 148 names, less the second spellings of seven grays and of aqua and fuchsia.
+        // 148 names without the second spellings of seven grays and of aqua and fuchsia.
         QCOMPARE(colors.size(), std::size_t{139});
         QCOMPARE(byName[u"rebeccapurple"_s], u"#663399"_s);
         QCOMPARE(byName[u"tomato"_s], u"#ff6347"_s);

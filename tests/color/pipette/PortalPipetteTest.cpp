@@ -37,7 +37,7 @@ static const QDBusArgument &operator>>(const QDBusArgument &argument, PortalColo
     return argument;
 }
 
-/// A portal that answers at once as the test wants.
+/// A portal that answers at once with what the test sets.
 class FakePortal final : public QObject, protected QDBusContext
 {
     Q_OBJECT
@@ -66,7 +66,7 @@ public slots:
         path += choosesOwnPath ? u"another"_s : options[u"handle_token"_s].toString();
         QDBusMessage answer = QDBusMessage::createSignal(path, u"org.freedesktop.portal.Request"_s, u"Response"_s);
         answer << response << results;
-        // The portal answers when the user has clicked, long after the call has returned.
+        // The portal answers after the user's click, long after the call has returned.
         if (answers)
             QMetaObject::invokeMethod(
                 this, [bus = connection(), answer] { bus.send(answer); }, Qt::QueuedConnection);
@@ -162,7 +162,7 @@ private slots:
     void knowsWhetherThereIsAPortal_data()
     {
         QTest::addColumn<bool>("bus");
-        QTest::addColumn<uint>("version"); // 0 is no portal
+        QTest::addColumn<uint>("version"); // 0 means no portal
 
         QTest::newRow("no bus") << false << 0U;
         QTest::newRow("no portal on the bus") << true << 0U;

@@ -11,7 +11,7 @@
 using namespace lumora;
 using namespace Qt::StringLiterals;
 
-/// The conversions against what CSS Color Module Level 4 publishes.
+/// The conversions against the published values of CSS Color Module Level 4.
 class ColorModelsTest : public QObject
 {
     Q_OBJECT

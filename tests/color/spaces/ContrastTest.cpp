@@ -19,7 +19,7 @@ WideColor color(const QString &text)
 
 } // namespace
 
-/// WCAG 2's ratio, its thresholds, and the color next to one that fails.
+/// WCAG 2's ratio, its thresholds, and the passing color nearest to one that fails.
 class ContrastTest : public QObject
 {
     Q_OBJECT
@@ -35,7 +35,7 @@ private slots:
             QTest::addRow("%s on %s", text, background) << QString::fromLatin1(text) << QString::fromLatin1(background)
                                                         << QString::fromLatin1(ratio) << QString::fromLatin1(passes);
         };
-        // WCAG 2.1, Understanding 1.4.3: #777777 on white has 4.47:1 by its own words, a hair below; #767676 passes.
+        // WCAG 2.1, Understanding 1.4.3: #777777 on white has 4.47:1, just below the threshold; #767676 passes.
         row("#000", "#fff", "21.00", "aa aaLarge aaa aaaLarge ui");
         row("#fff", "#000", "21.00", "aa aaLarge aaa aaaLarge ui");
         row("#fff", "#fff", "1.00", "");
@@ -98,7 +98,7 @@ private slots:
         QVERIFY(nearest.has_value());
         QVERIFY(contrastOf(*nearest, color(background)).ratio >= ratio);
         const double distance = oklabDistance(oklabOf(*nearest), oklabOf(color(text)));
-        // Nothing on a grid over all colors is nearer, but for what the grid's points themselves are apart.
+        // No color of a grid over all colors is nearer, within the distance of the grid's points.
         double best = 9.0;
         for (int red = 0; red <= 255; red += 9) {
             for (int green = 0; green <= 255; green += 9) {

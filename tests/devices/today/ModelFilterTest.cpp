@@ -42,7 +42,7 @@ using Filled = std::function<void(ModelFilter &)>;
 
 } // namespace
 
-/// Which models meet a filter, why the others do not, and how they are shown.
+/// Which models match a filter, why the others do not, and how they are shown.
 class ModelFilterTest : public QObject
 {
     Q_OBJECT

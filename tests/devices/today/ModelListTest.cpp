@@ -31,7 +31,7 @@ Result<ModelList> read(const QString &rows)
 
 } // namespace
 
-/// The device list that is built in, and what a list of somebody's own has to keep.
+/// The built-in device list, and the rules for a user's own list.
 class ModelListTest : public QObject
 {
     Q_OBJECT
@@ -60,15 +60,15 @@ private slots:
             QVERIFY2(comparedVersions(model.minOs, model.maxOs) <= 0, id);
             QVERIFY2(model.renderWidth == model.widthPoints * model.scale, id);
             QVERIFY2(model.renderHeight == model.heightPoints * model.scale, id);
-            // A chip that can do the more can do the less.
+            // A chip with the larger capability has the smaller one, too.
             QVERIFY2(!model.gamingTier || model.minimumPerformanceA12, id);
             QVERIFY2(!model.minimumPerformanceA12 || model.arkit, id);
             QVERIFY2(!model.arkit || (model.metal && model.arm64), id);
             QVERIFY2(model.arm64 == model.arch.starts_with("arm64"), id);
             if (!hasKnownScreen(model))
                 continue;
-            // What the diagonal and the density make of the pixels; both are rounded by those who sell them, the
-            // diagonals of rounded screens to those of the rectangle.
+            // The pixels that follow from diagonal and density. Sellers round both, and state the diagonal of the full
+            // rectangle for rounded screens.
             const double pixels = std::hypot(model.widthPixels, model.heightPixels);
             QVERIFY2(std::abs(pixels / model.pixelsPerInch / model.diagonalInches - 1.0) < 0.03, id);
         }
