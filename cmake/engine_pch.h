@@ -1,14 +1,24 @@
 // SPDX-License-Identifier: MIT
+// What most files include. Every template in here is instantiated again in each file, so a header that few files use costs more
+// than it saves.
 #pragma once
 
-#include <QtCore/QtCore>
-
 #include <QColor>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QFont>
+#include <QHash>
 #include <QImage>
-#include <QImageReader>
+#include <QJsonObject>
+#include <QList>
+#include <QObject>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPointer>
+#include <QSet>
+#include <QString>
+#include <QStringList>
 
 #include <algorithm>
 #include <array>

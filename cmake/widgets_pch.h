@@ -3,4 +3,12 @@
 
 #include "engine_pch.h"
 
-#include <QtWidgets/QtWidgets>
+#include <QAbstractButton>
+#include <QAccessibleWidget>
+#include <QApplication>
+#include <QBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QTimer>
+#include <QWidget>

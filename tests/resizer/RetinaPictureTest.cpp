@@ -7,6 +7,7 @@
 #include <QColorSpace>
 #include <QImageWriter>
 #include <QTest>
+#include <QtEndian>
 
 #include <cmath>
 

@@ -17,6 +17,7 @@
 #include <QMenu>
 #include <QShortcut>
 #include <QVariantAnimation>
+#include <QWindow>
 
 #include <algorithm>
 
