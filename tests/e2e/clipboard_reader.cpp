@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// Another program's view of the clipboard: waits until it holds the text given, prints what it holds, and answers 0 if
-// it is that text, 1 if another stays there for five seconds. Under Wayland only a window that has the keyboard hears
-// of the clipboard, so there it shows a small one for that time.
+// Another program's view of the clipboard: waits until it has the given text, prints its content, and returns 0 for
+// that text, 1 if another text stays there for five seconds. Under Wayland only a window with the keyboard can read the
+// clipboard, so there it shows a small window for that time.
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QRasterWindow>

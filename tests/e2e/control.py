@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""One control of the program, as the accessibility tree has it."""
+"""One control of the program in the accessibility tree."""
 
 from waiting import Missing
 
@@ -30,7 +30,7 @@ class Control:
 
     @property
     def box_as_told(self):
-        """The same in points, as the accessibility tree has it: under Wayland no window knows where it is on the screen."""
+        """The same in points, from the accessibility tree: under Wayland no window knows its place on the screen."""
         import pyatspi
 
         box = self.node.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
@@ -47,12 +47,12 @@ class Control:
         return self.node.getState().contains(getattr(pyatspi, "STATE_" + name.upper()))
 
     def has_focus(self):
-        """Whether keys go to it, or to the editor that a field shows while it has them."""
+        """Whether it has the keyboard, or the editor that a field shows meanwhile has it."""
         inside = [Control(self.node.getChildAtIndex(index), self.desktop) for index in range(self.node.childCount)]
         return any(control.has_state("focused") for control in [self, *inside])
 
     def press(self):
-        """By the accessibility interface, as a screen reader presses."""
+        """Presses by the accessibility interface, as a screen reader does."""
         action = self.node.queryAction()
         names = [action.getName(index).lower() for index in range(action.nActions)]
         for wanted in ("press", "toggle", "click"):
@@ -62,7 +62,7 @@ class Control:
         raise Missing(f"{self.name} offers {names}, nothing to press")
 
     def click(self):
-        """With the mouse."""
+        """Clicks with the mouse."""
         self.desktop.click(*self.middle)
 
     def focus(self):
@@ -73,5 +73,5 @@ class Control:
         return self.node.description
 
     def set_text(self, text):
-        """By the accessibility interface, as a screen reader's dictation does."""
+        """Sets the text by the accessibility interface, as dictation does."""
         self.node.queryEditableText().setTextContents(text)

@@ -28,9 +28,9 @@ from waiting import FACTOR, WAIT, Missing, wait_for
 class Desktop:
     """Owns every process of the desktop; leaving the `with` block ends them all."""
 
-    # Whether a drag may offer a link and nothing else, or a copy and no link.
+    # Whether a drag can offer only a link, or a copy without a link.
     has_links = True
-    # Whether a program or a script may say where a window goes, and can ask where it is.
+    # Whether a program or a script can set and read the place of a window.
     places_windows = True
 
     def __init__(self, program, drag_source=None, size="1600x1200", scale=1, language="en_GB.UTF-8"):
@@ -74,15 +74,15 @@ class Desktop:
             "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
             "NO_AT_BRIDGE": "1",
         }
-        # What an instrumented program is to report, and where.
+        # The settings of an instrumented program's reports.
         self.environment |= {name: value for name, value in os.environ.items() if name.endswith("SAN_OPTIONS")}
         self.environment["DISPLAY"] = self._start_x()
         self.environment["DBUS_SESSION_BUS_ADDRESS"] = self._start_bus()
         self._start_window_system()
         self.run("/usr/libexec/at-spi-bus-launcher", "--launch-immediately")
-        # What this process asks the accessibility bus comes from its own environment.
+        # This process finds the accessibility bus by its own environment.
         os.environ.update(self.environment)
-        # The library gives up on an answer after less than a second, which instrumented programs do not always keep.
+        # The library waits less than a second for an answer, too short for some instrumented programs.
         import gi
 
         gi.require_version("Atspi", "2.0")
@@ -92,14 +92,14 @@ class Desktop:
 
     def _start_window_system(self):
         self.environment["QT_SCALE_FACTOR"] = str(self.scale)
-        # A window that is mapped while the window manager takes over is lost: it stays unmapped. Its own start command is
-        # run when all that is over; what it sets on the root window before comes too early.
+        # A window that is mapped while the window manager starts is lost: it stays unmapped. The manager's start command runs
+        # when the start is over; the properties that it sets on the root window come too early.
         ready = self.folder / "managed"
         self.run("openbox", "--sm-disable", "--startup", f"touch {ready}")
         wait_for("the window manager", ready.exists)
 
     def _start_x(self):
-        # Several desktops may start at once; if a number is taken, the next one is tried.
+        # Several desktops may start at once; if a number is taken, tries the next one.
         for _ in range(20):
             number = random.randint(200, 30000)
             read, write = os.pipe()
@@ -128,7 +128,7 @@ class Desktop:
         return process
 
     def log(self):
-        """All that the processes of the desktop wrote."""
+        """The output of all processes of the desktop."""
         return (self.folder / "log").read_text("utf-8")
 
     def start(self, *arguments, cwd=None):
@@ -136,12 +136,12 @@ class Desktop:
         return Lumora(self, self.start_program(*arguments, cwd=cwd))
 
     def start_again(self, *arguments, cwd=None):
-        """Starts it a second time and answers its exit status once it has ended."""
+        """Starts it a second time and returns its exit status once it has ended."""
         return self.start_program(*arguments, cwd=cwd).wait(WAIT)
 
     def start_program(self, *arguments, cwd=None):
         """Starts Lumora and waits for nothing."""
-        # Its language alone: the locale itself may not be installed.
+        # Only its language: the locale itself may not be installed.
         return self.run(str(self.program), *arguments, cwd=cwd, LC_ALL=self.language)
 
     # The mouse and the keyboard
@@ -160,7 +160,7 @@ class Desktop:
         self.xdotool("mousemove", x, y, "click", 1)
 
     def drag_files(self, files, to, actions="copy,move,link", before_drop=None):
-        """Drags the files out of another process's window and drops them at the point. `before_drop` is called while
+        """Drags the files from another process's window and drops them at the point. Calls `before_drop` while
         the pointer rests there."""
         start = None
         while not start:
@@ -171,7 +171,7 @@ class Desktop:
             self.source = self.run(str(self.drag_source), actions, *map(str, files))
             start = self._grip(to)
         self.xdotool("mousemove", *start, "mousedown", 1)
-        # The drag begins only once the pointer has traveled, and every window on the way has to hear of it.
+        # The drag begins only once the pointer has moved, and every window on the way must get events.
         steps = 16
         for step in range(1, steps + 1):
             self.xdotool("mousemove", *(start[axis] + (to[axis] - start[axis]) * step // steps for axis in (0, 1)))
@@ -182,17 +182,17 @@ class Desktop:
         self.xdotool("mouseup", 1)
 
     def _is_source_gone(self):
-        """Whether what is seen of the next drag's source is its own."""
+        """Whether the visible window is the next drag's source."""
         return True
 
     def _grip(self, _):
-        """Where the drag's source is held, out of the way of where the drag goes; None where it is in the way."""
+        """A place for the drag's source beside the way of the drag; None if there is none."""
         window = wait_for("the drag's source", lambda: self._window_of(self.source))
         self.xdotool("windowmove", "--sync", window, 1400, 20)
         return 1450, 80
 
     def move_window(self, lumora, x, y):
-        """Puts Lumora's window there, if anything but a hand may move a window here."""
+        """Moves Lumora's window there, if programs may move windows here."""
         self.xdotool("windowmove", "--sync", lumora.window, x, y)
 
     def _window_of(self, process):
@@ -201,16 +201,16 @@ class Desktop:
         return found.stdout.split()[0] if found.stdout.split() else None
 
     def screenshot(self, path, geometry=None):
-        """Of the whole screen, or of the part WIDTHxHEIGHT+X+Y."""
+        """A picture of the whole screen, or of the part WIDTHxHEIGHT+X+Y."""
         crop = ["-crop", geometry, "+repage"] if geometry else []
         subprocess.run(["import", "-silent", "-window", "root", *crop, str(path)], env=self.environment, check=True)
 
     def has_window(self, process):
-        """Whether a window is seen that may be this process's."""
+        """Whether a visible window may be this process's."""
         return bool(self._window_of(process))
 
     def find_window(self, lumora):
-        """Waits for Lumora's window, and answers what xdotool calls it."""
+        """Waits for Lumora's window, and returns xdotool's id of it."""
         return wait_for("Lumora's window", lambda: self._window_of(lumora.process))
 
     def activate(self, lumora):
@@ -221,7 +221,7 @@ class Desktop:
         subprocess.run(["import", "-silent", "-window", self._window_of(process), str(path)], env=self.environment, check=True)
 
     def to_screen(self, x, y, width, height):
-        """A rectangle that Lumora says is on the screen, in points, where it is on the screen, in pixels."""
+        """From a rectangle on the screen in points, as Lumora reports it, to pixels."""
         return tuple(round(value * self.scale) for value in (x, y, width, height))
 
 
@@ -246,10 +246,10 @@ class Lumora:
     def _walk(self, node, showing=False):
         try:
             children = [node.getChildAtIndex(index) for index in range(node.childCount)]
-        except Exception:  # a node that went away while it was looked at
+        except Exception:  # the node was deleted meanwhile
             return
         for child in children:
-            # What is on something hidden is hidden: five of the six tools need not be asked.
+            # The children of a hidden node are hidden, so five of the six tools are skipped.
             if child is not None and (not showing or self._is_showing(child)):
                 yield child
                 yield from self._walk(child, showing)
@@ -261,11 +261,11 @@ class Lumora:
             return False
 
     def walk(self):
-        """Every control there is, the main window first."""
+        """All controls, the main window first."""
         return (Control(node, self.desktop) for node in self._walk(self.node))
 
     def controls(self, role=None, name=None, showing=True):
-        """Every control of the role and the name, or of any."""
+        """All controls with the role and the name, if given."""
         found = []
         for node in self._walk(self.node, showing):
             try:
@@ -277,14 +277,14 @@ class Lumora:
         return found
 
     def find(self, role, name, seconds=WAIT):
-        """Waits for a control to show."""
+        """Waits until a control is visible."""
         return wait_for(f'the {role} "{name}"', lambda: next(iter(self.controls(role, name)), None), seconds)
 
     def button(self, name, index=0):
         return wait_for(f'the button "{name}"', lambda: (self.controls("push button", name) + [None] * 9)[index])
 
     def shows(self, name):
-        """Whether anything of that name shows right now."""
+        """Whether a control of that name is visible now."""
         return bool(self.controls(None, name))
 
     def wait_shown(self, name):
@@ -306,7 +306,7 @@ class Lumora:
         self.desktop.key("Return")
 
     def choose_by_reader(self, text, confirm):
-        """Fills the file or folder dialog that is open in and presses its button, by the accessibility interface alone."""
+        """Fills in the open file or folder dialog and presses its button, by the accessibility interface alone."""
         wait_for("the dialog's button", lambda: self.controls("push button", confirm))
         wait_for("the dialog's field", lambda: self.controls("text")[-1:])[0].set_text(text)
         self.button(confirm).press()
@@ -317,11 +317,11 @@ class Lumora:
         return next((control for control in self.controls() if control.has_state("focused")), None)
 
     def activate(self):
-        """Gives the window the keyboard, which another window on the desktop may have taken."""
+        """Gives the window the keyboard, which another window may have taken."""
         self.desktop.activate(self)
 
     def tab_to(self, role, name, steps=60):
-        """Presses Tab until the control has the focus, and answers it."""
+        """Presses Tab until the control has the focus, and returns the control."""
         control = self.find(role, name)
 
         def place():
@@ -333,7 +333,7 @@ class Lumora:
                 return control
             before = place()
             self.desktop.key("Tab")
-            # A second key pressed before the first has done its work would take the focus past the control.
+            # A second key before the end of the first one's work would move the focus past the control.
             try:
                 wait_for("the focus to move", lambda before=before: place() not in (before, None), 3)
             except Missing:
@@ -341,7 +341,7 @@ class Lumora:
         raise Missing(f"Tab never comes to {name}")
 
     def close(self):
-        """Closes the window as its user would and answers the exit status."""
+        """Closes the window as its user would and returns the exit status."""
         end = time.monotonic() + WAIT
         while True:
             self.activate()
@@ -349,7 +349,7 @@ class Lumora:
             try:
                 return self.process.wait(WAIT / 6)
             except subprocess.TimeoutExpired:
-                # The key is lost where a dialog that has just gone still had the keyboard; a user presses it again.
+                # The key is lost if a dialog that was just closed still had the keyboard; a user presses it again.
                 if time.monotonic() > end:
                     raise
 

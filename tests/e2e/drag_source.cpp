@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// A window out of which files are dragged: drag_source copy,move,link FILE...  Prints when the drag has ended, and as
-// what; stays on to hand out its data, which the receiver fetches after that.
+// A window for dragging files: drag_source copy,move,link FILE...  Prints the operation when the drag has ended, and
+// keeps running to provide its data, which the receiver fetches after that.
 #include <QApplication>
 #include <QDrag>
 #include <QMimeData>
@@ -28,7 +28,7 @@ public:
     Source(Qt::DropActions actions, QList<QUrl> files) : m_actions(actions), m_files(std::move(files))
     {
         resize(120, 120);
-        // Found by its color where windows have no numbers.
+        // Found by its color if windows have no ids.
         setAutoFillBackground(true);
         setPalette(QPalette(Qt::magenta));
     }

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""usage: fake_file_portal.py FILE FOLDER   A desktop portal on the session bus whose file chooser answers at once with the file,
-or with the folder where one is asked for; says so in a line on stdout."""
+"""usage: fake_file_portal.py FILE FOLDER   A desktop portal on the session bus whose file chooser returns at once the file,
+or the folder if one is requested; prints a line about it on stdout."""
 import sys
 from pathlib import Path
 
@@ -30,7 +30,7 @@ def called(connection, sender, path, interface, method, parameters, invocation):
                                GLib.Variant("(ua{sv})", (0, {"uris": uris})))
         return GLib.SOURCE_REMOVE
 
-    # The toolkit listens only once it has the answer to its call.
+    # The toolkit listens only after the answer to its call.
     GLib.timeout_add(200, respond)
 
 

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
 """usage: fake_portal.py RED GREEN BLUE   A desktop portal on the session bus whose color picker answers at once with the
-color, components from 0 to 1; with "cancel" instead of a color, that the user changed their mind."""
+color, components from 0 to 1; with "cancel" instead of a color, it answers that the user canceled."""
 import sys
 
 from gi.repository import Gio, GLib

@@ -1,20 +1,20 @@
 # SPDX-License-Identifier: MIT
-"""What a walk does most of the time."""
+"""Functions that wait for conditions."""
 
 import os
 import time
 
-# Instrumented programs are given more.
+# Instrumented programs get more time.
 FACTOR = float(os.environ.get("LUMORA_TIME_FACTOR", "1"))
 WAIT = 60 * FACTOR
 
 
 class Missing(AssertionError):
-    """Something that should have come did not come in time."""
+    """Something expected did not come in time."""
 
 
 def wait_for(what, condition, seconds=WAIT):
-    """Answers the first true answer of the condition; raises Missing after the time."""
+    """Returns the condition's first true result; raises Missing after the time."""
     end = time.monotonic() + seconds
     while True:
         answer = condition()

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-"""What a screen reader and a keyboard find: every control of every tool and popup by name and role, the focus to be seen
-wherever it goes, popovers that announce themselves."""
+"""For screen readers and the keyboard: every control of every tool and popup has a name and a role, the focus is visible
+everywhere, and popovers announce themselves."""
 
 import subprocess
 import sys
@@ -13,15 +13,15 @@ from window_system import Desktop
 HELP_TITLES = ("Icon generator", "Placeholder generator", "Retina down-scaler", "Colour codes", "Device matrix",
                "App package check")
 TOOLS = len(HELP_TITLES)
-# Roles of things that are operated. The rest is what they stand on, and what is read.
+# The roles of operable controls. The others are containers and texts.
 OPERATED = {"push button", "toggle button", "check box", "radio button", "text", "entry", "combo box", "spin button",
             "slider", "dial", "list", "list item", "page tab", "page tab list", "color chooser", "menu item", "link",
             "password text", "progress bar", "image", "icon"}
 NO_ROLE = {"unknown", "invalid", "unused", ""}
-# A ring around the smallest control is more; a blinking cursor is less.
+# Fewer pixels than a ring around the smallest control, more than a blinking cursor.
 LEAST_CHANGE = 60
 
-# Prints one line for each popup that says that it has come: its role and its name.
+# Prints one line for each popup that announces itself: its role and its name.
 LISTENER = """
 import pyatspi
 def shown(event):
@@ -36,9 +36,9 @@ pyatspi.Registry.start()
 
 
 def nameless(lumora):
-    """The operated controls on show that have no name, and whatever has no role."""
+    """The visible operable controls without a name, and everything without a role."""
     controls = lumora.controls()
-    # A name on what counts as mere filling is not read. A popup's content has its popup's.
+    # Screen readers skip a name on filler. A popup's content has the popup's name.
     popups = {control.name for control in controls if control.role in ("dialog", "alert")}
     return [f"{control.role} {control.name} at {control.box}" for control in controls
             if control.role in NO_ROLE
@@ -77,7 +77,7 @@ def names_are_complete(desktop, lumora):
 
 
 def pixels(desktop, folder, box):
-    """What the screen shows in and around the box."""
+    """A picture of the screen in and around the box."""
     x, y, width, height = box
     picture = Path(folder) / "control.rgb"
     desktop.screenshot(picture, f"{width + 12}x{height + 12}+{max(x - 6, 0)}+{max(y - 6, 0)}")
@@ -94,13 +94,13 @@ def focused(lumora):
 
 
 def focus_is_seen(desktop, lumora):
-    """Tab goes round each tool; every stop looks otherwise with the focus than without."""
+    """Tab goes through each tool; every stop looks different with the focus than without."""
     with tempfile.TemporaryDirectory() as folder:
         for number in range(1, TOOLS + 1):
             desktop.key(f"ctrl+{number}")
             tool = lumora.controls("page tab")[number - 1]
             wait_for(f"{tool.name} to be selected", lambda tool=tool: tool.has_state("selected"))
-            # Away from whatever the pointer would light up.
+            # Away from controls that the pointer would highlight.
             desktop.xdotool("mousemove", 1590, 1190)
             desktop.key("Tab")
             stops = []
@@ -118,7 +118,7 @@ def focus_is_seen(desktop, lumora):
                 wait_for(f"the focus to be seen on {last}, in {tool.name}",
                          lambda before=before, box=box: changed(before, pixels(desktop, folder, box)) >= LEAST_CHANGE, 5)
                 assert len(stops) < 60, stops
-            # Header and sidebar are stops of every tool.
+            # Header and sidebar are stops in every tool.
             assert len(stops) >= 4, stops
 
 
@@ -128,14 +128,14 @@ def popovers_are_announced(desktop, lumora):
     assert listener.stdout.readline() == "ready\n"
 
     def announced(role, name):
-        # One that says it twice is as good as one that says it once.
+        # Announcing itself twice is accepted, too.
         heard = ""
         while heard != f"{role} | {name}\n":
             heard = listener.stdout.readline()
             assert heard, f"{role} {name} was not announced"
 
     def opens(name, button):
-        """The button's popover announces itself by the name, and goes by Escape."""
+        """The button's popover announces itself by the name, and Escape closes it."""
         button.press()
         announced("dialog", name)
         # A tool's tab has the same name as its help.
@@ -149,7 +149,7 @@ def popovers_are_announced(desktop, lumora):
         opens(title, lumora.button("Help on this tool"))
     opens("About Lumora", lumora.button("About Lumora"))
 
-    # What a tool has to say.
+    # A tool's message.
     desktop.key("ctrl+1")
     opens("No size given", lumora.button("Generate", 1))
     desktop.key("ctrl+2")
@@ -166,7 +166,7 @@ def main(program):
         lumora = desktop.start()
         desktop.move_window(lumora, 100, 100)
         lumora.activate()
-        # First, while no list was used: a list's current row counts as focused wherever the focus is.
+        # First, before a list is used: a list's current row counts as focused wherever the focus is.
         focus_is_seen(desktop, lumora)
         popovers_are_announced(desktop, lumora)
         names_are_complete(desktop, lumora)

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-"""What a screen reader hears while the program is used: changed names, values, states and selections, each by an event of
-its own. A reader that asks for nothing again would otherwise go on with what it read first."""
+"""The events for screen readers while the program is used: changed names, values, states and selections, each by its own
+event. Without these, a reader that does not read again would keep the first values."""
 
 import subprocess
 import sys
@@ -49,11 +49,11 @@ class Reader:
             self.lines.append(line.rstrip("\n").split(" | "))
 
     def hears(self, kinds, role, name, cause):
-        """Whether the cause makes an event of one of the kinds come from the control."""
+        """Whether the cause makes the control send an event of one of the kinds."""
         kinds = (kinds,) if isinstance(kinds, str) else kinds
         begin = len(self.lines)
         cause()
-        # Registered kinds are families: the name that comes with an event may have a detail behind it.
+        # Registered kinds are families: an event's name may end with a detail.
         wait_for(f"{kinds} of the {role} {name!r}; heard {self.lines[begin:]}", lambda: any(
             line[0].startswith(kinds) and line[1] == role and (name is None or line[2] == name)
             for line in list(self.lines[begin:])), 20)
@@ -91,7 +91,7 @@ def controls_speak(desktop, lumora, reader):
 
 
 def popovers_tell_their_new_names(desktop, lumora, reader):
-    """One popover carries the help on every tool."""
+    """One popover has the help for every tool."""
     for number in (2, 3):
         desktop.key(f"ctrl+{number}")
         tab = lumora.controls("page tab")[number - 1]
@@ -124,7 +124,7 @@ def main(program):
         popovers_tell_their_new_names(desktop, lumora, reader)
         progress_is_told(desktop, lumora, reader, Path(scratch))
         assert lumora.close() == 0
-        # The dialogs' own settings are not kept either.
+        # The dialogs' settings are not stored either.
         kept = [path.name for path in (desktop.folder / "home/.config").rglob("*") if path.is_file()]
         assert kept == [], kept
 

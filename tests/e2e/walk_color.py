@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-"""Type a color, copy its code and read it back in another process, pick, tear the picker off by a real drag: with the mouse,
-then the same with the keyboard alone, then as assistive technology does."""
+"""Types a color, copies its code and reads it in another process, picks, detaches the picker by a real drag: with the mouse,
+then the same with the keyboard alone, then by the accessibility interface."""
 
 import sys
 
@@ -11,7 +11,7 @@ WELL = "Colour well, opens the colour picker"
 
 
 def drag(desktop, start, travel):
-    """As a hand does: pressed, several steps, let go."""
+    """Like a hand: presses, moves in several steps, releases."""
     x, y = start
     desktop.xdotool("mousemove", str(x), str(y), "mousedown", "1")
     for step in range(1, 6):
@@ -20,7 +20,7 @@ def drag(desktop, start, travel):
 
 
 def by_mouse(desktop, lumora, field, on_clipboard):
-    # Typed: the seventh digit undoes itself, the code reaches another process.
+    # Typed: the seventh digit is removed again, and the code reaches another process.
     field.click()
     desktop.key("ctrl+a")
     desktop.type("#80FF001")
@@ -36,7 +36,7 @@ def by_mouse(desktop, lumora, field, on_clipboard):
         on_clipboard(code)
     lumora.wait_gone("Copied")
 
-    # What is no color is answered with a message.
+    # A text that is not a color gets a message.
     field.click()
     desktop.key("ctrl+a")
     desktop.type("zz")
@@ -59,7 +59,7 @@ def by_mouse(desktop, lumora, field, on_clipboard):
 
 
 def torn_off(desktop, lumora, field):
-    # Dragged less than 50 points it returns; further, it comes off and goes on at the same place.
+    # Dragged less than 50 points it returns; dragged further, it is detached and continues at the same place.
     lumora.find("color chooser", WELL).click()
     wheel = lumora.find("dial", "Colour wheel")
     x, y, width, _ = wheel.box
@@ -79,7 +79,7 @@ def torn_off(desktop, lumora, field):
     wx, wy, wwidth, wheight = wheel.box
     desktop.click(wx + wwidth * 3 // 4, wy + wheight // 2)
     wait_for("the field to follow the panel", lambda: field.text != before)
-    # Its own key closes the panel, not the program.
+    # Its shortcut closes the panel, not the program.
     desktop.key("ctrl+w")
     lumora.wait_gone("Colour wheel")
     assert lumora.process.poll() is None
@@ -100,7 +100,7 @@ def by_keyboard(desktop, lumora, field, on_clipboard):
     lumora.tab_to("dial", "Colour wheel")
     desktop.key("shift+Up", "Left")
     wait_for("the field to follow the wheel", lambda: field.text != "#102030")
-    # The modes, each by the arrow keys on the strip of tabs.
+    # All modes, by the arrow keys on the strip of tabs.
     lumora.tab_to("page tab list", "Colours")
     desktop.key("Right")
     lumora.tab_to("slider", "Red")
@@ -124,7 +124,7 @@ def by_assistive_technology(desktop, lumora, field, on_clipboard):
     on_clipboard("color: #AABBCC;")
     well = lumora.find("color chooser", WELL)
     well.press()
-    # It opens in the mode used last.
+    # It opens in the last used mode.
     lumora.find("list", "Colours of the tools")
     lumora.find("page tab", "Colour wheel").press()
     wheel = lumora.find("dial", "Colour wheel")
@@ -156,7 +156,7 @@ def main(program, clipboard_reader):
             assert reader.wait(WAIT) == 0, f"the clipboard does not hold {text}"
 
         by_mouse(desktop, lumora, field, on_clipboard)
-        # Where no window can place itself, walk_wayland_picker.py tears it off.
+        # If windows cannot place themselves, walk_wayland_picker.py tests the detaching.
         if desktop.places_windows:
             torn_off(desktop, lumora, field)
         by_keyboard(desktop, lumora, field, on_clipboard)

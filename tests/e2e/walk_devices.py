@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""Choose devices with the mouse, with the keyboard alone and as a screen reader does; look at what fades."""
+"""Chooses devices with the mouse, with the keyboard alone and by the accessibility interface; checks which pictures fade."""
 
 import subprocess
 import sys
@@ -27,7 +27,7 @@ def main(program):
             return {name for name, text in told.items() if text.endswith(FADED)}
 
         def darkness(name):
-            """How far the picture stands out from its ground, 0 to 1."""
+            """The contrast of the picture with its background, 0 to 1."""
             x, y, width, height = pictures[name].box
             path = desktop.folder / "device.png"
             desktop.screenshot(path, f"{width}x{height}+{x}+{y}")
@@ -73,7 +73,7 @@ def main(program):
         desktop.key("space")
         wait_all()
 
-        # As a screen reader does.
+        # By the accessibility interface.
         lumora.find("radio button", "iOS 7+").press()
         wait_faded(BELOW_7, "iPhone 5S", "iPod 4G")
         assert lumora.find("radio button", "iOS 7+").has_state("checked")

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""The icon tool: a source by drag and by a second start, refused ones, an export through the real dialog; a whole job with the
+"""The icon tool: a source by drag and by a second start, refused sources, an export through the real dialog; a whole job with the
 keyboard alone, one by the accessibility interface alone."""
 
 import subprocess
@@ -15,7 +15,7 @@ PLATFORMS = ("iPhone", "iPad", "Mac", "Android", "Web touch", "Favicon")
 
 
 def picture(path, size):
-    """A photo-like picture: a plasma cloud, the same on every run."""
+    """A photo-like picture: plasma noise, the same on every run."""
     subprocess.run(["convert", "-seed", "7", "-size", f"{size}x{size}", "plasma:tomato-steelblue", str(path)],
                    check=True)
     return path
@@ -40,7 +40,7 @@ class Walk:
         return path
 
     def commanded(self, *arguments):
-        """What the command line makes."""
+        """The files that the command line makes."""
         with tempfile.TemporaryDirectory(dir=self.scratch) as reference:
             subprocess.run([self.program, *map(str, arguments), "--to", reference], check=True, capture_output=True)
             return files_below(Path(reference))
@@ -58,7 +58,7 @@ class Walk:
         desktop, lumora = self.desktop, self.lumora
         drop_area = lumora.controls(None, "Drop area for the source icon")[0]
 
-        # A drag that may only be copied is turned away, one that may be linked is taken.
+        # A drag that only allows copying is refused, one that allows linking is accepted.
         if desktop.has_links:
             desktop.drag_files([self.mine], drop_area.middle, actions="copy")
             wait_for("the refusal in the log", lambda: "Error - Copied?!" in desktop.log())
@@ -66,7 +66,7 @@ class Walk:
         desktop.drag_files([self.mine, self.other], drop_area.middle)
         lumora.wait_shown("mine.png")
 
-        # A picture of another size is refused with a message that goes away by its button.
+        # A picture of another size is refused with a message; its button closes it.
         desktop.drag_files([self.small], drop_area.middle)
         lumora.wait_shown("This picture does not fit")
         lumora.button("Close").click()
@@ -89,7 +89,7 @@ class Walk:
 
     def by_keyboard(self):
         desktop, lumora = self.desktop, self.lumora
-        # Away from whatever the pointer would light up, and back to a choice of none.
+        # Away from controls that the pointer would highlight, and back to no choice.
         desktop.xdotool("mousemove", 1590, 1190)
         lumora.activate()
         desktop.key("ctrl+o")
@@ -105,7 +105,7 @@ class Walk:
         lumora.choose_in_dialog(out)
         self.expect(out, "icons", self.other, "--platform", "mac", "--platform", "favicon")
 
-        # One of any size; a refusal on the way.
+        # An icon of any size, after a refused size.
         lumora.tab_to("text", "Size")
         desktop.type("1025")
         lumora.tab_to("radio button", "iOS 7 corners")
@@ -147,7 +147,7 @@ class Walk:
                 lumora.find("check box", name).press()
 
     def closed_in_the_middle(self):
-        """Ends cleanly, with every file whole."""
+        """Ends cleanly, with every file complete."""
         out = self.folder("while closing")
         self.lumora.button("Generate", 0).click()
         self.lumora.choose_in_dialog(out)

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""Files opened with the program: by its first start, by a second one that hands them on, and by one whose first is busy,
+"""Files opened with the program: by its first start, by a second one that passes them on, and by one whose first is busy,
 hangs, dies, or cannot be found."""
 
 import signal
@@ -13,7 +13,7 @@ from pathlib import Path
 from desktop import Lumora, wait_for
 from window_system import Desktop
 
-# As long as the program waits for one that does not answer, and then some for starting up.
+# The time that the program waits for one that does not answer, plus time for starting.
 PATIENCE = 5
 MARGIN = 25
 
@@ -39,7 +39,7 @@ def running_and_second(desktop, scratch):
     lumora = desktop.start(str(picture(scratch / "first.png")))
     lumora.wait_shown("first.png")
 
-    # A picture while the validator is current, and a package while the icons are.
+    # A picture while the validator is in view, and a package while the icon tool is.
     lumora.activate()
     desktop.key("ctrl+6")
     wait_for("the validator", lambda: is_current(lumora, 6))
@@ -50,7 +50,7 @@ def running_and_second(desktop, scratch):
     wait_for("the validator", lambda: is_current(lumora, 6))
     wait_for("what was read of the package", lambda: any("Walked through" in c.name for c in lumora.controls("label")))
 
-    # Blanks, signs and other scripts; a path from another folder's view; only the first of several.
+    # Spaces, special characters and other scripts; a path relative to another folder; only the first of several.
     strange = picture(scratch / "my ü – 画像 #1 100%.png")
     assert desktop.start_again(strange.name, "app.ipa", cwd=scratch) == 0
     lumora.wait_shown(strange.name)
@@ -68,7 +68,7 @@ def running_and_second(desktop, scratch):
 
 
 def dying_first(desktop, scratch, lumora):
-    # The first one ends while a second start waits for its answer: the second is the program then.
+    # The first one ends while a second start waits for its answer: then the second becomes the program.
     lumora.process.send_signal(signal.SIGSTOP)
     process = desktop.start_program(str(scratch / "second.png"))
     time.sleep(1)
@@ -82,14 +82,14 @@ def dying_first(desktop, scratch, lumora):
 
 
 def hanging_first(desktop, scratch, lumora):
-    # One that never answers costs a bounded time; then there is a second window, which is found once the first is gone.
+    # One that never answers costs a limited time; then there is a second window, which is found once the first has ended.
     lumora.process.send_signal(signal.SIGSTOP)
     begin = time.monotonic()
     process = desktop.start_program(str(scratch / "second.png"))
     alone = Lumora(desktop, process)
     alone.wait_shown("second.png")
     assert time.monotonic() - begin < PATIENCE + MARGIN
-    # Awake again, it leaves alone what the other one has done by now; both go on with their own.
+    # Awake again, it does not repeat the other one's work; both continue on their own.
     lumora.process.send_signal(signal.SIGCONT)
     lumora.find("push button", "Help on this tool").press()
     lumora.wait_shown("Report a bug")
@@ -102,7 +102,7 @@ def hanging_first(desktop, scratch, lumora):
 
 
 def without_a_bus(desktop, scratch):
-    # Nobody to talk to: each start opens its own window.
+    # Without a bus, each start opens its own window.
     nowhere = {"DBUS_SESSION_BUS_ADDRESS": f"unix:path={scratch}/nowhere"}
     processes = [desktop.run(desktop.program, str(scratch / "first.png"), **nowhere) for _ in range(2)]
     for process in processes:

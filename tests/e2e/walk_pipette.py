@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""Pick colors from the screen: out of another program's window, by mouse and by key, and through a desktop's portal."""
+"""Picks colors from the screen: from another program's window, by mouse and by key, and through a desktop's portal."""
 
 import subprocess
 import sys
@@ -42,7 +42,7 @@ def main(program, color_window):
         wait_for("the colour of the window", lambda: field.text == "#336699")
         assert pipette.has_state("sensitive")
 
-        # Escape changes the mind; the picker stays open.
+        # Escape cancels; the picker stays open.
         pipette.click()
         wait_for("the pipette to be at work", lambda: not pipette.has_state("sensitive"))
         desktop.xdotool("mousemove", 20, 1180)
@@ -51,8 +51,8 @@ def main(program, color_window):
         assert field.text == "#336699", field.text
         assert lumora.shows("Colour wheel")
 
-        # By key: the arrows take the pointer there from outside the window, Return picks.
-        # It has the focus again after each pick.
+        # By key: the arrows move the pointer there from outside the window, Return picks. It has the focus again after each
+        # pick.
         wait_for("the pipette to have the focus", lambda: pipette.has_state("focused"))
         desktop.key("space")
         wait_for("the pipette to be at work", lambda: not pipette.has_state("sensitive"))
@@ -61,7 +61,7 @@ def main(program, color_window):
         wait_for("the colour of the other window", lambda: field.text == "#c0392b")
         wait_for("the focus to be back", lambda: pipette.has_state("focused"))
 
-        # A portal on the bus is asked instead.
+        # A portal on the bus is used instead.
         portal = desktop.run("/usr/bin/python3", str(Path(__file__).parent / "fake_portal.py"), "0.2", "0.4", "1.0")
 
         wait_for("the portal to be on the bus", lambda: portal_is_there(desktop))

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-"""The placeholder tool: a set by the mouse, a size by the keyboard alone, one by the accessibility interface alone,
-refusals, a canceled and a second run, and the window closed in the middle of the largest picture."""
+"""The placeholder tool: a set by mouse, a size by the keyboard alone, a size by the accessibility interface alone,
+refusals, a canceled and a second run, and closing the window in the middle of the largest picture."""
 
 import subprocess
 import sys
@@ -50,7 +50,7 @@ class Walk:
         self.expect_as_commanded(out / "placeholders", "--set", "ios")
         wait_for("the caption at rest", lambda: self.generate("ios").name == "Generate", 5)
 
-        # A second run finds the name taken, starts where the first one wrote, and says which folder it made.
+        # A second run finds the name taken, starts in the folder of the first, and reports the folder that it made.
         self.generate("mac").click()
         self.lumora.choose_in_dialog(out)
         self.lumora.wait_shown("Saved in a new folder")
@@ -80,7 +80,7 @@ class Walk:
         wait_for("the button to have the keyboard", self.generate("custom").has_focus)
         self.desktop.key("space")
 
-        # Canceled, nothing is written; confirmed, the picture.
+        # Canceling writes nothing; confirming writes the picture.
         wait_for("the dialog", lambda: self.lumora.controls("push button", "Choose"))
         self.desktop.key("Escape")
         wait_for("the dialog to close", lambda: not self.lumora.controls("push button", "Choose"))

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""In a sandbox, as the Flatpak starts it: files and folders are chosen in the desktop's own dialogs, which its portal shows."""
+"""In a sandbox, as started by Flatpak: files and folders are chosen in the desktop's own dialogs, which its portal shows."""
 
 import subprocess
 import sys
@@ -31,7 +31,7 @@ def main(program):
         lumora.button("Generate", 0).press()
         assert portal.stdout.readline() == "asked for a folder\n"
         wait_for("the icons", lambda: len(list(out.glob("icons/Favicon/*.png"))) == 5)
-        # No dialog of the toolkit's own was shown beside it.
+        # The toolkit showed no dialog of its own.
         assert not lumora.controls("push button", "Open") and not lumora.controls("push button", "Choose")
         assert lumora.close() == 0
 

@@ -41,7 +41,7 @@ class Walk:
         return path
 
     def commanded(self, *sources):
-        """What the command line makes of them."""
+        """The files that the command line makes of them."""
         with tempfile.TemporaryDirectory(dir=self.scratch) as reference:
             subprocess.run([self.program, "downscale", *map(str, sources), "--to", reference], check=True,
                            capture_output=True)
@@ -56,7 +56,7 @@ class Walk:
 
     def by_drag(self):
         drop_area = self.lumora.controls(None, DROP_AREA)[0]
-        # One without a mark alone is refused, a drag that may only be copied is turned away.
+        # A single file without a marker is refused, and so is a drag that only allows copying.
         self.desktop.drag_files([self.plain], drop_area.middle)
         self.lumora.wait_shown("Nothing to scale down")
         self.lumora.button("Close").click()
@@ -65,7 +65,7 @@ class Walk:
             self.desktop.drag_files([self.button], drop_area.middle, actions="copy")
             wait_for("the refusal in the log", lambda: "Error - Copied?!" in self.desktop.log())
 
-        # Among others it is left out. A canceled destination writes nothing.
+        # Together with others it is left out. Canceling the destination writes nothing.
         self.desktop.drag_files([self.button, self.plain, self.logo], drop_area.middle)
         wait_for("the dialog", lambda: self.lumora.controls("push button", "Choose"))
         self.desktop.key("Escape")
@@ -110,7 +110,7 @@ class Walk:
         wait_for("some of the halves", lambda: len(list(out.glob("*.png"))) > 2)
         assert any(label.name.endswith(" of 200") for label in self.lumora.controls("label"))
         assert self.lumora.close() == 0
-        # It stops after the file in work and says so; what there is, is whole.
+        # It stops after the file in work and reports that; the written files are complete.
         written = files_below(out)
         assert 2 < len(written) < 200, len(written)
         assert set(written.values()) == {half}

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""A popup points at the button it came from at every scale factor, and the controls are where they report to be."""
+"""At every scale factor a popup points at its button, and the controls are where they report to be."""
 
 import multiprocessing
 import subprocess
@@ -10,9 +10,9 @@ from window_system import Desktop
 
 SCALES = (1, 1.25, 1.5, 2)
 HEADER = 60
-# Of the popup; nothing else in the header has its color.
+# The popup's color; nothing else in the header has it.
 BORDER_COLOR, BORDER_WIDTH = (52, 73, 94), 5
-# From the window's upper edge.
+# Relative to the window's upper edge.
 ANCHOR = 50
 
 
@@ -44,7 +44,7 @@ def walk(program, scale):
         button.click()
         lumora.wait_shown("Report a bug")
         x, y = wait_for("the popup's arrow", tip)
-        # Half of the border's line lies outside of the balloon, at the tip up to half as much again.
+        # Half of the border's line is outside the balloon, at the tip up to three quarters.
         assert abs(y - (ANCHOR - BORDER_WIDTH / 2) * scale) <= 1.5 * scale, f"at {scale} the arrow ends at {x}, {y}"
         middle = button.box[0] - left + button.box[2] / 2
         assert abs(x - middle) <= 1.5 * scale, f"at {scale} the arrow is at {x}, its button at {middle}"
@@ -59,7 +59,7 @@ def walk(program, scale):
 
 def main(program):
     for scale in SCALES:
-        # A process looks at one accessibility bus all its life.
+        # A process can only use one accessibility bus.
         process = multiprocessing.get_context("fork").Process(target=walk, args=(program, scale))
         process.start()
         process.join()

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""Start, switch tools, open and close the popups, start a second time, end."""
+"""Starts, switches tools, opens and closes the popups, starts a second time, ends."""
 
 import subprocess
 import sys
@@ -13,7 +13,7 @@ def main(program):
         lumora = desktop.start()
         lumora.wait_shown("Lumora | Icons")
 
-        # Every tool that the sidebar offers, by mouse and by key.
+        # All tools of the sidebar, by mouse and by key.
         sidebar = lumora.controls("page tab")
         assert sidebar, "the sidebar offers no tool"
         titles = set()
@@ -28,7 +28,7 @@ def main(program):
         desktop.key("ctrl+1")
         lumora.wait_shown("Lumora | Icons")
 
-        # Help and about: a second click hides, one closes the other, a tool switch closes both.
+        # Help and about: a second click hides a popup, opening one closes the other, a tool switch closes both.
         help_button, about_button = lumora.button("Help on this tool"), lumora.button("About Lumora")
         help_button.click()
         lumora.wait_shown("Report a bug")
@@ -49,7 +49,7 @@ def main(program):
                 lumora.wait_gone(text)
                 wait_for("the tool", lambda number=number: sidebar[number - 1].has_state("selected"))
 
-        # A second start talks to the first and ends.
+        # A second start contacts the first and ends.
         assert desktop.start_again() == 0
         assert desktop.start_again("--tool=icons") == 0
         lumora.wait_shown("Lumora | Icons")

@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""usage: walk_surroundings.py LUMORA DRAG_SOURCE   The window in surroundings it was not drawn for: other scale factors, a dark and
-a high-contrast desktop, a system without fonts. The design is light by intent, so on every desktop it has to look as it does on a
-plain one, and not take over half of the desktop's colors."""
+"""usage: walk_surroundings.py LUMORA DRAG_SOURCE   The window in unusual surroundings: other scale factors, a dark and
+a high-contrast desktop, a system without fonts. The design is always light, so on every desktop it must look as it does on a
+plain one, and not use some of the desktop's colors."""
 import re
 import subprocess
 import sys
@@ -20,7 +20,7 @@ HEADERS = {"icons": (52, 152, 219), "devices": (230, 126, 34)}
 WIDTH, HEIGHT = 900, 660
 SCALES = (1, 1.25, 1.5, 2)
 
-# What a KDE desktop keeps its colors in; Qt reads it there.
+# The file with a KDE desktop's colors, which Qt reads.
 SCHEME = """[Colors:{group}]
 BackgroundNormal={background}
 BackgroundAlternate={background}
@@ -30,15 +30,15 @@ ForegroundLink={foreground}
 """
 DESKTOPS = {"dark": ("35,38,41", "252,252,252"), "high contrast": ("0,0,0", "255,255,0")}
 
-# The system's taste in hinting stays: it moves text by a pixel, and that is the user's own choice.
+# The system's hinting stays: it moves text by a pixel, and it is the user's choice.
 NO_FONTS = """<?xml version="1.0"?><!DOCTYPE fontconfig SYSTEM "fonts.dtd">
 <fontconfig><include ignore_missing="yes">/etc/fonts/conf.d</include></fontconfig>
 """
 
 
 def photograph(folder, tool, scale=1, scheme=None, fonts=True, like=None):
-    """Starts the program with the tool and answers the picture of its window, its processes gone. With a picture that
-    it has to be like, waits until it is: focus comes when the window manager gives it."""
+    """Starts the program with the tool, returns a picture of its window, and ends it. With a picture that
+    it must equal, waits until it does, since the window manager sets the focus at any time."""
     with Desktop(PROGRAM, DRAG_SOURCE, size="1920x1400", scale=scale) as desktop:
         variables = {"LC_ALL": "en_GB.UTF-8"}
         home = Path(desktop.environment["HOME"])
@@ -63,8 +63,8 @@ def photograph(folder, tool, scale=1, scheme=None, fonts=True, like=None):
         picture = Path(folder) / f"{tool}.png"
 
         def photographs():
-            """The picture once it is the same three times running and the program did nothing meanwhile: all is painted, and the
-            window has the focus or will not."""
+            """The picture once it is the same three times in a row and the program is idle: everything is painted, and the
+            window has the focus or will not get it."""
             alike = []
             while len(alike) < 3 or share(picture, HEADERS[tool]) < 0.02:
                 desktop.photograph(program, picture)
@@ -83,7 +83,7 @@ def photograph(folder, tool, scale=1, scheme=None, fonts=True, like=None):
 
 
 def processor_time(process):
-    """In ticks, of all its threads."""
+    """The processor time of all its threads, in ticks."""
     stat = Path(f"/proc/{process.pid}/stat").read_text()
     return sum(map(int, stat.rsplit(")", 1)[1].split()[11:13]))
 
@@ -102,7 +102,7 @@ def size(picture):
 
 
 def difference(one, other):
-    """The root mean square of the pixels' differences, 0 to 1, the second picture brought to the first one's size."""
+    """The root mean square of the pixels' differences, 0 to 1, with the second picture scaled to the first one's size."""
     fitted = Path(other).with_suffix(".fitted.png")
     width, height = size(one)
     subprocess.run(["convert", other, "-filter", "box", "-resize", f"{width}x{height}!", fitted], check=True)
@@ -127,7 +127,7 @@ class Surroundings(unittest.TestCase):
             with self.subTest(scale):
                 picture = photograph(self.folder, "devices", scale=scale)
                 self.assertEqual(size(picture), (round(WIDTH * scale), round(HEIGHT * scale)))
-                # Text is laid out again, its edges fall elsewhere: measured 0.03 to 0.05; a lost or shifted part costs twice that.
+                # Text is laid out again, so its edges differ: measured 0.03 to 0.05; a lost or shifted part gives twice that.
                 self.assertLess(difference(self.plain["devices"], picture), 0.08)
 
     def test_the_desktops_colors_change_nothing(self):

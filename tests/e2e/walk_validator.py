@@ -19,7 +19,7 @@ DROP_AREA = "Drop area for an app package"
 
 
 def shows_verdicts(lumora, **wrong):
-    """Waits for the boxes to say what they found; the named ones something else than that all is well."""
+    """Waits until the boxes show their results; the given ones must show something other than success."""
     said = {"App icons": "passed", "Launch images": "passed", "Bundle identifier": "passed", "Localisations": "passed",
             "URL schemes": "passed", "Facebook app ID": "passed"} | wrong
     for box, verdict in said.items():
@@ -27,12 +27,12 @@ def shows_verdicts(lumora, **wrong):
 
 
 def close_button(lumora):
-    """Of the popup if there is one, else of the report."""
+    """The texts of the popup if there is one, else of the report."""
     return wait_for("a button to close by", lambda: lumora.controls("push button", "Close"))[-1]
 
 
 def explanation(lumora, box):
-    """What the popup says that comes with the box, by the accessibility interface; closes it again."""
+    """The text of the box's popup, by the accessibility interface; closes it again."""
     before = {control.name for control in lumora.controls("label")}
     lumora.find("check box", box).press()
     new = wait_for(f"what {box} explains", lambda: [c.name for c in lumora.controls("label") if c.name not in before])
@@ -89,7 +89,7 @@ def by_mouse(desktop, scratch, work):
 
 
 def by_interface(desktop, scratch):
-    """The whole job as a screen reader does it: no key, no mouse."""
+    """The whole job by the accessibility interface: no key, no mouse."""
     lumora = desktop.start("--tool=validator")
     lumora.button("Browse…").press()
     field = wait_for("the file dialog", lambda: (lumora.controls("text") or [None])[-1])

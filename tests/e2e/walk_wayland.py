@@ -15,12 +15,12 @@ from windows_driver import Probe  # noqa: E402
 
 GREEN, CYAN = (0, 255, 0), (0, 255, 255)
 BAR = 60
-# Close, minimize and zoom stand 24 points apart; their middles from the window's left edge.
+# The middles of close, minimize and zoom, 24 points apart, from the window's left edge.
 CLOSE, MINIMIZE, ZOOM = 68, 92, 116
 
 
 class ProbeDesktop(WaylandDesktop):
-    """With the windows probe on it instead of Lumora: magenta content, a cyan anchor, a green popover."""
+    """A desktop with the windows probe instead of Lumora: magenta content, a cyan anchor, a green popover."""
 
     def __init__(self, *options):
         super().__init__(LUMORA, size="1200x900")
@@ -73,7 +73,7 @@ class Popover(unittest.TestCase):
             desktop.click(x + width // 2, y + height // 2)
             desktop.probe.wait("the popover", lambda state: state["popover"])
             wait_for("the popover at its anchor", desktop.popover_is_on_its_anchor)
-            # The pointer is over the band around the balloon, which lets the click through.
+            # The pointer is over the band around the balloon, through which the click passes.
             desktop.xdotool("click", 1)
             desktop.probe.wait("the popover to go", lambda state: not state["popover"])
             wait_for("the balloon to go", lambda: not desktop.bounds(GREEN))
@@ -140,7 +140,8 @@ class Popover(unittest.TestCase):
             wait_for("the popover at its anchor", desktop.popover_is_on_its_anchor)
             x, y, width, height = desktop.bounds(GREEN)
             desktop.drag((x + width // 2, y + height // 2), (60, 40))
-            # The compositor moves nothing that belongs to another window while the button is down: it is shown there again.
+            # The compositor does not move a window's children while the button is down; the popover is shown at the new place
+            # again.
             wait_for("the popover where it was dragged", lambda: desktop.bounds(GREEN) == (x + 60, y + 40, width, height))
             self.assertTrue(desktop.probe.report()["popover"])
 
@@ -159,7 +160,7 @@ class Window(unittest.TestCase):
         with ProbeDesktop() as desktop:
             for x, y in ((400, 8), (400, BAR - 5), (250, 30)):  # the last one is a label in the bar
                 before = desktop.resting_window()
-                # Towards the middle of the screen, wherever the compositor has put it.
+                # Towards the middle of the screen, wherever the compositor has put the window.
                 travel = [40 if before[axis] < (1200 - 600, 900 - 400)[axis] / 2 else -40 for axis in (0, 1)]
                 desktop.drag((before[0] + x, before[1] + y), travel)
                 moved = (before[0] + travel[0], before[1] + travel[1], *before[2:])
@@ -186,7 +187,7 @@ class Window(unittest.TestCase):
             }
             for name, (grip, travel, change) in grips.items():
                 before = desktop.resting_window()
-                # Grips are given for the window's first size.
+                # The grips are for the window's first size.
                 at = [before[axis] + (grip[axis] if grip[axis] <= middle[axis]
                                       else grip[axis] + before[2 + axis] - desktop.window[2 + axis]) for axis in (0, 1)]
                 desktop.drag(at, travel)
@@ -198,7 +199,7 @@ class Window(unittest.TestCase):
         with ProbeDesktop() as desktop:
             x, y, width, height = desktop.window
             desktop.drag((x + width - 2, y + height - 2), (-500, -350))
-            # 300 × 200 with a bar of standard height; what the taller bar adds is added.
+            # 300 × 200 with a bar of standard height; the extra height of the taller bar is added.
             smallest = desktop.resting_window()
             self.assertEqual(smallest[:3], (x, y, 300))
             self.assertTrue(200 <= smallest[3] <= 200 + BAR, smallest)
@@ -272,7 +273,7 @@ class Lumora(unittest.TestCase):
             wait_for("the fourth tool", lambda: tools[3].has_state("selected"))
             desktop.key("ctrl+1")
             lumora.wait_shown("Lumora | Icons")
-            # Dragged away by its header, its controls are still found where they are.
+            # After a drag by its header, its controls are still found.
             x, y, width, _ = desktop.window_box()
             desktop.xdotool("mousemove", x + width // 2, y + 20, "mousedown", 1, "mousemove_relative", 15, 15, "sleep", 0.1,
                             "mousemove_relative", 25, 15, "sleep", 0.2, "mouseup", 1)

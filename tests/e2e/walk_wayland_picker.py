@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-"""The color picker under a Wayland compositor, where no window can place or move itself: the popover lies at the well, a drag
-short of fifty points leaves it there, a longer one tears it off into a window of its own; a pipette that cannot work says so."""
+"""The color picker under a Wayland compositor, where no window can place or move itself: the popover is at the well, a drag
+of less than fifty points keeps it there, a longer one detaches it as a window of its own; a pipette that fails reports it."""
 
 import sys
 import time
@@ -18,7 +18,7 @@ def drag(desktop, start, travel, before_release=lambda: None):
     desktop.xdotool("mousemove", x, y, "sleep", 0.2, "mousedown", 1)
     for step in range(1, 6):
         desktop.xdotool("mousemove", x + travel[0] * step // 5, y + travel[1] * step // 5, "sleep", 0.1)
-    # One more step, by which the arrow follows.
+    # One more step, since the arrow is one step behind.
     desktop.xdotool("mousemove", x + travel[0], y + travel[1] + 1, "sleep", 0.1)
     before_release()
     desktop.xdotool("mouseup", 1)
@@ -33,11 +33,11 @@ def main(program):
         wheel = lumora.find("dial", "Colour wheel")
 
         def click_on_the_wheel(part):
-            """Presses where the wheel reports to be, this part of its width from its left, in its middle."""
+            """Presses at the reported place of the wheel: at this part of its width, in the middle of its height."""
             x, y, width, height = wheel.box
             desktop.click(x + round(width * part), y + height // 2)
 
-        # It is where its controls report to be, or the presses would not pick these colors.
+        # The controls are where they report to be, or the presses would not pick these colors.
         lumora.find("slider", "Brightness").node.queryValue().currentValue = 100
         click_on_the_wheel(0.9)
         wait_for("red from the wheel's right", lambda: wheel.node.description.startswith("Hue 0°"))
@@ -46,11 +46,11 @@ def main(program):
         x, y, width, height = well.box
         assert 0 < wheel.box[0] - (x + width) < 40, f"the wheel at {wheel.box} is not right of the well at {well.box}"
 
-        # Nothing here can read the screen.
+        # Nothing here can read the screen without a portal.
         lumora.button(PIPETTE).click()
         wait_for("the picker to say so", lambda: [label for label in lumora.controls("label")
                                                   if label.name.startswith("The system did not let Lumora")])
-        # A portal can.
+        # With a portal it works.
         portal = desktop.run("/usr/bin/python3", str(Path(__file__).parent / "fake_portal.py"), "0.2", "0.4", "1.0")
 
         def picked_by_portal():
@@ -61,14 +61,14 @@ def main(program):
         wait_for("the portal's colour", picked_by_portal)
         portal.terminate()
 
-        # Let go too early, it stays; the wheel is still there.
+        # Released too early, it stays; the wheel is still there.
         x, y, width, _ = wheel.box
         grip = (x + width - 6, y - 16)
         drag(desktop, grip, (0, 45))
         click_on_the_wheel(0.9)
         wait_for("red from the wheel's right", lambda: wheel.node.description.startswith("Hue 0°"))
 
-        # Further away the arrow goes, though the popover cannot follow, and letting go tears it off.
+        # Further away the arrow disappears, although the popover cannot follow; releasing detaches it.
         tip = (wheel.box[0] - 20, well.box[1] + well.box[3] // 2)
         seen = {"before": desktop.pixel(*tip)}
         drag(desktop, grip, (-40, 60), lambda: seen.update(away=desktop.pixel(*tip)))

@@ -19,9 +19,9 @@ class WaylandDesktop(Desktop):
     screen's, as the compositor reports it; this compositor knows no others, so that they are the toolkit's."""
 
     BACKGROUND = (32, 36, 40)
-    # Nothing but a window has so long a row of pixels that are not the background's: no pointer, no popover's edge.
+    # Only a window has such a long row of pixels that differ from the background; a pointer or a popover's edge has not.
     SMALLEST_WINDOW = 250
-    # What drag_source paints.
+    # The color of drag_source.
     SOURCE = (255, 0, 255)
     has_links = False
     places_windows = False
@@ -41,10 +41,11 @@ class WaylandDesktop(Desktop):
                              "QT_SCALE_FACTOR": str(self.scale / screen_scale)}
         wait_for("the compositor", (self.folder / "runtime/lumora").exists)
         window = wait_for("the compositor's window", self._compositor_window)
-        # Without a window manager nobody else gives it the keyboard.
+        # Without a window manager, nothing else gives it the keyboard.
         self.xdotool("windowfocus", window)
         wait_for("the desktop's background", lambda: self.pixel(width // 4, height // 4) == self.BACKGROUND)
-        # The compositor follows the pointer by its steps, and does not always know from where: against the corner it is stopped.
+        # The compositor follows the pointer's relative moves, and may not know where they began; at the corner the position is
+        # certain.
         self.xdotool("mousemove", 0, 0, "sleep", 0.1)
         self.offset = (0, 0)
 
@@ -54,7 +55,7 @@ class WaylandDesktop(Desktop):
         return found.stdout.split()[0] if found.stdout.split() else None
 
     def pixels(self, *changes):
-        """The screen's pixels as bytes, as ImageMagick answers them after the changes."""
+        """The screen's pixels as bytes, from ImageMagick after the changes."""
         picture = self.folder / "screen.png"
         self.screenshot(picture)
         return subprocess.run(["convert", str(picture), *changes], check=True, capture_output=True).stdout
@@ -68,7 +69,7 @@ class WaylandDesktop(Desktop):
         answer = self.pixels("-fill", "black", "+opaque", name, "-format", "%@", "info:").decode()
         size, x, y = answer.split("+")
         width, height = map(int, size.split("x"))
-        # Of a picture without the color nothing is trimmed.
+        # A picture without the color is not trimmed.
         whole = (width, height) == tuple(map(int, self.size.split("x")))
         return None if whole or width * height == 0 else (int(x), int(y), width, height)
 
@@ -83,12 +84,12 @@ class WaylandDesktop(Desktop):
         edges = [(y, row.find(run), row.rfind(run) + len(run)) for y, row in enumerate(rows) if run in row]
         if not edges:
             return None
-        # In some rows the pointer hangs over an edge.
+        # In some rows the pointer covers an edge.
         left, right = (statistics.median_low(edge[side] for edge in edges) for side in (1, 2))
         return left, edges[0][0], right - left, edges[-1][0] + 1 - edges[0][0]
 
     def has_window(self, process):
-        # Nothing says whose it is.
+        # There is no way to find its owner.
         return bool(self.window_box())
 
     def find_window(self, lumora):
@@ -98,8 +99,8 @@ class WaylandDesktop(Desktop):
         return None
 
     def activate(self, lumora):
-        # A window has the keyboard from the moment it is shown until another one is; the compositor offers no other way than a
-        # press. The other one here is a drag's source.
+        # A window has the keyboard from when it is shown until another is shown; the only other way in this compositor is a
+        # press. The other window here is a drag's source.
         if self.source:
             self.source.terminate()
             self.source.wait()
@@ -107,7 +108,7 @@ class WaylandDesktop(Desktop):
             wait_for("the drag's source to go", self._is_source_gone)
 
     def photograph(self, _, path):
-        # Of the only one.
+        # The box of the only window.
         x, y, width, height = self.window_box()
         self.screenshot(path, f"{width}x{height}+{x}+{y}")
 

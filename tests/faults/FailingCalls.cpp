@@ -49,7 +49,7 @@ void log(const char *name)
 
 Verdict verdict(const char *name, bool isWrite = false)
 {
-    // A sanitizer's runtime sets itself up before there is an environment to read. That is not the program's doing.
+    // A sanitizer's runtime starts before there is an environment to read. Its calls are not the program's.
     if (environ == nullptr)
         return Verdict::LetThrough;
     static const char *const at = std::getenv("LUMORA_FAULT_AT");
@@ -106,7 +106,7 @@ mode_t modeOf(int flags, va_list arguments)
 
 } // namespace
 
-// The C library declares these with attributes of its own; what counts is that their names and arguments are the same.
+// The C library declares these with its own attributes; only their names and arguments must be the same.
 extern "C" {
 
 #define WRAP_OPEN(name)                                                                                                \
@@ -198,7 +198,7 @@ ssize_t writev(int descriptor, const iovec *pieces, int count)
 size_t fwrite(const void *bytes, size_t size, size_t count, std::FILE *stream)
 {
     if (isRegular(::fileno(stream)) && verdict("fwrite", true) == Verdict::Fail) {
-        stream->_flags |= 0x20; // what ferror() reads
+        stream->_flags |= 0x20; // the flag that ferror() reads
         return 0;
     }
     return next<size_t (*)(const void *, size_t, size_t, std::FILE *)>("fwrite")(bytes, size, count, stream);

@@ -76,7 +76,7 @@ int main(int argc, char **argv)
 {
     const QApplication application(argc, argv);
     const QStringList arguments = QApplication::arguments();
-    // Exports log what they do, and the offscreen platform that it cannot raise a window.
+    // Exports log their steps, and the offscreen platform logs that it cannot raise a window.
     QLoggingCategory::setFilterRules(QStringLiteral("*.info=false\ndefault.warning=false"));
     loadResources();
     installTexts(*qApp, QLocale(QStringLiteral("en_GB")));

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""One job for each command that writes, and for each of the window: what the user has before it, and the call."""
+"""One job for each command that writes, and for each job of the window: the user's files before it, and the call."""
 import io
 import os
 import plistlib
@@ -10,7 +10,7 @@ from dataclasses import dataclass, field
 
 
 def png(width, height):
-    """A small picture that no encoder shrinks to nothing: every pixel another color."""
+    """A small picture that no encoder shrinks much: every pixel has another color."""
     rows = b"".join(
         b"\0" + b"".join(bytes((x * 7 % 256, y * 11 % 256, (x ^ y) % 256, 255)) for x in range(width)) for y in range(height)
     )
@@ -43,11 +43,11 @@ class Job:
     sources: dict = field(default_factory=dict)
     """Files in "{out}" before the call: the user's own."""
     present: dict = field(default_factory=dict)
-    """The kinds of fault it is put through; all of them take their time with large pictures."""
+    """The kinds of fault that it is tested with; with large pictures all of them would take long."""
     kinds: tuple = ("once", "onwards", "short", "interrupted", "kill")
-    """How it ends when nothing fails: a check that finds something missing ends with 1."""
+    """Its exit status when nothing fails: a check that finds something missing ends with 1."""
     status: int = 0
-    """Whether it writes into the user's own folder, over what is there; others make a fresh folder each time."""
+    """Whether it writes into the user's own folder and replaces files; others make a new folder each time."""
     replaces: bool = False
     program: str = os.environ["LUMORA_PROGRAM"]
 
@@ -75,13 +75,13 @@ COMMANDS = [
         present=MINE | {"button.png": png(3, 3)},
         replaces=True,
     ),
-    # A package is read where it is; only its icon is written. Locked in, the command could not write the log of calls.
+    # A package is read in place; only its icon is written. A locked process could not write the log of calls.
     Job("validate", ["validate", "--no-sandbox", "{in}/An app ü.ipa", "--icon", "{out}/icon.png"], sources={"An app ü.ipa": package()},
         present=MINE, status=1, replaces=True),
 ]
 
-# The window's own. Failures after the folder was chosen are only logged there, so that it is killed, and left without a
-# call now and then, but not asked for an exit status.
+# The window's jobs. There, failures after the choice of the folder are only logged. So the process is killed, and some calls
+# fail, but its exit status is not checked.
 WINDOW = {"program": os.environ["LUMORA_PANE_JOBS"], "kinds": ("once in the window", "kill")}
 WINDOW_JOBS = [
     Job("icons in the window", ["icons", "{out}"], present=MINE | {"icons/earlier.png": b"an earlier run"}, **WINDOW),

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""What the commands do when the file system lets them down: no crash, no hang, no torso, no lie about success."""
+"""The commands when the file system fails: no crash, no hang, no partial file, no false report of success."""
 import os
 import re
 import shutil
@@ -15,15 +15,15 @@ from jobs import COMMANDS, WINDOW_JOBS
 JOBS = COMMANDS + WINDOW_JOBS
 
 PRELOAD = os.environ["LUMORA_FAILING_CALLS"]
-# The hidden name that a file has while it takes an old one's place.
+# The hidden name of a file while it replaces an old one.
 PENDING = re.compile(r"(.*/)?\.([^/]+)\.lumora-pending")
-# A job takes a fraction of a second; a machine under load gets two orders of magnitude more.
+# A job takes a fraction of a second; the limit is a hundred times that, for a machine under load.
 HANG = 60 * float(os.environ.get("LUMORA_TIME_FACTOR", "1"))
 
 
 @dataclass
 class Run:
-    """How one run ended and what it left."""
+    """The end of one run, and the files that it left."""
 
     status: int
     out: bytes
@@ -37,8 +37,8 @@ def contents(folder):
 
 
 def run(job, stdout=subprocess.PIPE, prefix=(), again=False, **faults):
-    """Runs the job in a place of its own, with LUMORA_FAULT_* set from the keywords; `again`, once more after that in
-    the same place without them, and answers how that ended."""
+    """Runs the job in its own folder, with LUMORA_FAULT_* set from the keywords; with `again`, once more in
+    the same folder without them, and returns the result of that run."""
     with tempfile.TemporaryDirectory() as place:
         place = Path(place)
         for name, files in {"in": job.sources, "out": job.present, "tmp": {}, "run": {}, "here": {}}.items():
@@ -57,14 +57,13 @@ def run(job, stdout=subprocess.PIPE, prefix=(), again=False, **faults):
                            if key not in ("LUMORA_FAULT_AT", "LUMORA_FAULT_LOG")}
             process = subprocess.run(command, stdout=stdout, stderr=subprocess.PIPE, env=environment, cwd=place / "here",
                                  timeout=HANG, check=False)
-        # The place has another name each time; results that name it are compared without it.
+        # The folder has another name each time, so results are compared without the name.
         return Run(
             process.returncode,
             (process.stdout or b"").replace(bytes(place), b""),
             process.stderr.decode(),
             contents(place / "out"),
-            # Qt makes a folder of its own there where it is refused the one it was given. Where the user stands, nothing
-            # has any business.
+            # Qt makes its own folder there if it cannot use the given one. The user's working folder must stay unchanged.
             sorted(path.name for path in [*(place / "tmp").iterdir(), *(place / "here").iterdir()]
                    if not path.name.startswith("runtime-")),
         )
@@ -78,7 +77,7 @@ def counted_calls(job, **faults):
 
 class Faults(unittest.TestCase):
     def each(self, job, kind, **faults):
-        """The run without a fault, what was done, and the run with it, for each call that is let down in turn."""
+        """The run without a fault, its calls, and the run with a fault, for each call in turn."""
         if kind not in job.kinds:
             return
         sound = run(job)
@@ -142,8 +141,7 @@ class Faults(unittest.TestCase):
             for sound, what, ended in self.each(job, "kill"):
                 with self.subTest(what):
                     self.assertEqual(ended.status, -9)
-                    # A name that is taken can only be taken over by renaming. The instant before, the new file stands
-                    # whole beside it.
+                    # A file can only be replaced by renaming another. Just before that, the complete new file is beside it.
                     for name in list(ended.files):
                         waiting = PENDING.fullmatch(name)
                         if waiting and what.endswith(": rename"):
@@ -153,7 +151,7 @@ class Faults(unittest.TestCase):
 
     def test_what_a_killed_job_left_goes_with_the_next_one(self):
         for job in JOBS:
-            # The others write into a folder of their own, which stays as it was then.
+            # The others write into a folder of their own, which stays unchanged.
             if not job.replaces and "{out}" in job.arguments:
                 continue
             for named in ({}, {"named": 1}) if job.replaces else ({},):
@@ -177,7 +175,7 @@ class Faults(unittest.TestCase):
 
     @unittest.skipUnless(os.geteuid() == 0 and shutil.which("unshare"), "mounting needs root; the full disk above is the same")
     def test_a_small_file_system_is_filled_and_told(self):
-        # One page holds the folders, and not the results.
+        # One page has space for the folders, but not for the results.
         mount = ["unshare", "--mount", "--propagation", "private", "sh", "-c", 'mount -t tmpfs -o size=4k,mode=700 tmpfs "$0"; exec "$@"']
         for job in COMMANDS:
             with self.subTest(job.name), tempfile.TemporaryDirectory() as small:

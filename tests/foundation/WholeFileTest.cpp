@@ -43,7 +43,7 @@ QStringList entries(const QString &folder)
     return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
 }
 
-/// Lets no file of this process grow past a size, which is how a full disk looks from inside.
+/// Limits the size of this process's files, which has the effect of a full disk.
 class FileSizeLimit
 {
 public:
@@ -108,7 +108,7 @@ private slots:
         else
             QCOMPARE(whole.failure().code, FailureCode::TooLarge);
 
-        // What cannot say its size beforehand is read to the same limit.
+        // A source without a known size is read up to the same limit.
         int ends[2] = {-1, -1};
         QVERIFY(::pipe(ends) == 0);
         std::jthread writer([&content, end = ends[1]] {
@@ -118,7 +118,7 @@ private slots:
             ::close(end);
         });
         const auto piped = readWholeDescriptor(ends[0], u"pipe"_s, limit);
-        // Takes what is left, so that the writer ends.
+        // Reads the rest, so that the writer ends.
         std::array<char, 4096> rest{};
         while (::read(ends[0], rest.data(), rest.size()) > 0) {
         }
@@ -358,7 +358,7 @@ private slots:
             QCOMPARE(int(bytes.failure().code), failure);
     }
 
-    /// Root may write everywhere, so it steps down for this one.
+    /// Root may write everywhere, so the test changes to another user.
     void aFileThatMayBeWrittenInAFolderThatMayNotIsWritten()
     {
         QVERIFY(put(path(u"a.png"_s), oldBytes));

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-"""Builds the fuzz targets and lets each run over its seeds and some seconds on: a break-in costs more than that, but
-what broke once stays mended. fuzz/README.md says how to run them for long.
+"""Builds the fuzz targets and runs each over its seeds and for some seconds more: too short to find new faults, but
+old ones stay repaired. fuzz/README.md describes longer runs.
 """
 import os
 import subprocess
@@ -23,7 +23,7 @@ def checked(*command):
 
 
 def targets():
-    """The targets are named once, where they are built."""
+    """The targets are listed only in the build."""
     listing = (SOURCE / "fuzz" / "CMakeLists.txt").read_text()
     return [line.split("(")[1].split()[0] for line in listing.splitlines() if line.startswith("lumora_fuzzer(")]
 

@@ -206,7 +206,7 @@ void IconExportTest::sameBytesOnEveryRun()
 {
     const QTemporaryDir folder;
     (void)generatePlatformIcons(requestFor(everyPlatform, folder.path()));
-    // Not prepared ahead, hence in another order.
+    // Not prepared ahead, so in another order.
     PlatformIconsRequest request = requestFor(everyPlatform, folder.path());
     request.expected.clear();
     (void)generatePlatformIcons(request);
@@ -237,7 +237,7 @@ void IconExportTest::blockedFolder()
     const IconPlatform platform = blocked == u"Mac"_s ? IconPlatform::Mac : IconPlatform::Android;
     PlatformIconsRequest request = requestFor({platform, IconPlatform::Favicon}, folder.path());
     const PlatformChoice chosen = request.isChosen;
-    // The export folder is fresh, so the name can only be taken once the run has begun.
+    // The export folder is new, so the name can only be taken once the run has begun.
     request.isChosen = [&](const PlatformIcons &asked) {
         if (asked.platform == IconPlatform::IPhone)
             putFile(folder.filePath(u"icons/"_s + blocked), "x");

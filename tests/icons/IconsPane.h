@@ -18,7 +18,7 @@
 namespace lumora
 {
 
-/// The tool in a window, as the shell shows it, with services that remember.
+/// The tool in a window, as the shell shows it, with recording services.
 struct IconsPane
 {
     IconsPane() : tool(services.services()), ui(tool.outlets())
@@ -41,13 +41,13 @@ struct IconsPane
         ui.generateIconsButton->click();
         services.folderChooser.confirm(folder);
     }
-    /// The popup's arrow is where a message about the control belongs.
+    /// Whether the popup's arrow points at the control.
     bool popupPointsAt(const QWidget *control) const
     {
         const QPointF below = control->mapToGlobal(QPointF(control->width() / 2.0, control->height() + 5));
         return QLineF(tool.popupView()->popoverWindow()->attachmentPoint(), flippedOnScreen(below)).length() < 1;
     }
-    /// Lets the time run out after which the buttons' captions return to rest.
+    /// Ends the time after which the buttons' captions return to rest.
     void letTimePass() const
     {
         for (const TimedCaption *caption : tool.findChildren<TimedCaption *>())

@@ -13,7 +13,7 @@ using namespace lumora;
 namespace
 {
 
-/// Holds an export where it logs that it begins with the Android icons, until the test lets it go on.
+/// Stops an export at the log line of the Android icons until the test continues it.
 struct ExportHeldAtAndroid
 {
     ExportHeldAtAndroid() { before = qInstallMessageHandler(&ExportHeldAtAndroid::handle); }

@@ -121,7 +121,7 @@ void IconsetExportTest::packerFailureIsRecordedOnly()
 void IconsetExportTest::iconutilIsCalledAsItWants()
 {
     const QTemporaryDir folder;
-    // A stand-in for the system's tool: it writes down how it was called and makes the file, but fails.
+    // A replacement for the system's tool: it records its call and makes the file, but fails.
     const QString tool = folder.filePath(u"iconutil"_s);
     QVERIFY(putFile(tool,
                     "#!/bin/sh\nprintf '%s|' \"$@\" > \"$3/../called\"\necho made > \"${3%.iconset}.icns\"\nexit 3\n"));
