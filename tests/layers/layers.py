@@ -11,7 +11,7 @@ CMake checks the same for what is linked; an include can cross a border that the
 import re
 from pathlib import Path
 
-# From the ground up. A folder includes nothing of its own floor but itself.
+# From the ground up. A folder includes no other folder of its own floor.
 FLOORS = [
     ["foundation"],
     ["pictures", "resources"],
@@ -36,7 +36,7 @@ def source_files(root):
 
 
 def targets(root):
-    """Which CMake target, and of which kind, each source file belongs to."""
+    """The CMake target of each source file, and the target's kind."""
     owners = {}
     for folder in FOLDERS:
         for listing in sorted((root / folder).rglob("CMakeLists.txt")):
@@ -48,7 +48,7 @@ def targets(root):
 
 
 def includes(file, root):
-    """The project's files and the system's headers that a file names; generated headers are neither."""
+    """The project's files and the system's headers that a file includes; generated headers are neither."""
     own, system = [], []
     for quoted, bracketed in INCLUDE.findall(file.read_text(encoding="utf-8")):
         if bracketed:
@@ -68,7 +68,7 @@ def violations(root, widget_headers):
     graph = {file.resolve(): includes(file, root) for file in source_files(root)}
 
     def reached(start):
-        """Everything that including leads to, each with the chain that leads there."""
+        """Everything that is included directly or indirectly, each with its chain of includes."""
         open_files, seen = [(start, [start])], {start}
         while open_files:
             file, chain = open_files.pop()
@@ -91,7 +91,7 @@ def violations(root, widget_headers):
 
 
 def crossing(folder, name, kind, target, owner, widget_headers):
-    """Why a file of target `name` in `folder` may not reach `target`, or nothing."""
+    """Why a file of target `name` in `folder` may not reach `target`; empty if it may."""
     owner_name, owner_kind = owner or ("", "")
     target_folder = target.split("/")[0] if "/" in target else ""
     if kind == "lumora_engine" and (target.split("/")[-1] in widget_headers or owner_kind == "lumora_widget_library"):
@@ -108,7 +108,7 @@ def crossing(folder, name, kind, target, owner, widget_headers):
 
 
 def direct_includes(root):
-    """For each source file the project's files that it names itself, both as paths from the root."""
+    """For each source file the project's files that it includes directly, all as paths from the root."""
     root = Path(root).resolve()
     return {
         str(file.relative_to(root)): [str(own.relative_to(root)) for own in includes(file, root)[0]]
@@ -135,7 +135,7 @@ def circles(root):
 
 
 def circles_of(graph):
-    """Each set of nodes that reach one another, as one way round through them (Tarjan's strongly connected components)."""
+    """Each set of nodes that reach one another, as one cycle through them (Tarjan's strongly connected components)."""
     index, low, stack, on_stack, found = {}, {}, [], set(), []
 
     def visit(node):
@@ -166,7 +166,7 @@ def circles_of(graph):
 
 
 def orphans(root):
-    """Source files that no target lists: nobody compiles or includes them by way of the build."""
+    """Source files that no target lists, so that the build never compiles them."""
     root = Path(root).resolve()
     owners = targets(root)
     return [str(file.relative_to(root)) for file in source_files(root) if file.resolve() not in owners]

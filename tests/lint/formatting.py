@@ -8,7 +8,7 @@ from tree import code_files
 
 
 def unformatted(root: Path) -> list[str]:
-    """One line a file, with the first place that differs. The style is the tree's own .clang-format."""
+    """One line per file, with the first difference. The style is the tree's .clang-format."""
     files = [str(file.relative_to(root)) for file in code_files(root)]
     if not files:
         return []

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""Reads which functions an ELF object file or a static library of them defines, and which it refers to."""
+"""Reads the functions that an ELF object file or a static library defines, and those that it refers to."""
 
 import struct
 from collections.abc import Iterator
@@ -12,16 +12,16 @@ STB_GLOBAL, STT_FUNC, STT_SECTION, SHN_UNDEF = 1, 2, 3, 0
 
 @dataclass
 class ObjectFile:
-    """Mangled names. `aliases` gathers the names that one function has (a constructor has two)."""
+    """Mangled names. `aliases` collects the names of one function (a constructor has two)."""
 
     name: str
     aliases: list[set[str]] = field(default_factory=list)
-    # Names that code or data outside the function itself refers to.
+    # The names that code or data outside the function itself refers to.
     referred: set[str] = field(default_factory=set)
 
 
 def members(library: Path) -> Iterator[tuple[str, bytes]]:
-    """The object files of an ar archive, or the one object file that this is."""
+    """The object files of an ar archive, or the single object file."""
     data = library.read_bytes()
     if not data.startswith(b"!<arch>\n"):
         yield library.name, data
@@ -69,7 +69,8 @@ def read_object(name: str, data: bytes) -> ObjectFile:
                 places.setdefault((index, value), set()).add(text)
     found.aliases = list(places.values())
 
-    # What a section symbol and an offset mean: data that names a local function so is rare, but calls to it are not needed here.
+    # The function at a section symbol and an offset: data refers to local functions in this way; calls to them are not needed
+    # here.
     for section in sections:
         if section[1] != SHT_RELA:
             continue

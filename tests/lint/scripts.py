@@ -8,12 +8,12 @@ from pathlib import Path
 from tree import files_of
 
 SHEBANG = re.compile(rb"#!.*\b(?:ba|da)?sh\b")
-# Completions are read into a running shell and have no first line of their own.
+# A running shell reads completions, so they have no interpreter line.
 SOURCED = {".bash": "bash"}
 
 
 def shell_scripts(root: Path) -> dict[Path, str | None]:
-    """Each script with the dialect that shellcheck is to be given, None where the first line says it."""
+    """Each script with the dialect for shellcheck, None if the first line names it."""
     found: dict[Path, str | None] = {}
     for file in files_of(root):
         with file.open("rb") as stream:

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""Finds pictures that are compiled in but shown nowhere, and pictures that lie about without being compiled in.
+"""Finds pictures that are compiled in but shown nowhere, and pictures in the folder that are not compiled in.
 
 A picture is shown where the program's code or an interface file names it: by its whole name in a literal, or by pieces
 that literals of one subsystem (a top folder) hold. One of the pieces must say that it is one: "window_" or "_hover".
@@ -13,7 +13,7 @@ from pathlib import Path
 from tree import files_of
 
 LIST = Path("resources/images/images.qrc")
-# Tests, benchmarks and fuzz targets are no part of the program.
+# Tests, benchmarks and fuzz targets are not part of the program.
 NOT_THE_PROGRAM = {"tests", "bench", "fuzz", "docs"}
 TOKEN = re.compile(r"//[^\n]*|/\*.*?\*/|\"((?:[^\"\\\n]|\\.)*)\"|'((?:[^'\\\n]|\\.)+)'", re.DOTALL)
 NAME_SHAPE = re.compile(r"[a-z0-9_]+")
@@ -27,7 +27,7 @@ def program_files(root: Path) -> Iterator[Path]:
 
 
 def words_of(file: Path) -> set[str]:
-    """The literals of code, or the texts of an interface file, taken apart at what no picture's name holds."""
+    """The literals of code, or the texts of an interface file, split at characters that are not in pictures' names."""
     text = file.read_text("utf-8")
     pattern = TEXT if file.suffix == ".ui" else TOKEN
     literals = {group for match in pattern.finditer(text) for group in match.groups() if group}
@@ -35,12 +35,12 @@ def words_of(file: Path) -> set[str]:
 
 
 def names(words: set[str], picture: str) -> bool:
-    """Whether these words hold the name, or pieces that give it when joined with or without "_" between them."""
+    """Whether these words contain the name, or pieces that form it when joined with or without "_"."""
     return picture in words or joined(words, picture, False)
 
 
 def joined(words: set[str], rest: str, says_so: bool) -> bool:
-    """Whether `rest` can be put together; `says_so` where a piece before it began or ended with "_"."""
+    """Whether `rest` can be formed; `says_so` is true if a piece before it began or ended with "_"."""
     for word in words:
         piece = word.strip("_")
         if not piece or not rest.startswith(piece):

@@ -17,7 +17,7 @@ BRITISH = re.compile(
     r"|analys(?:e[drs]?|ing)$|(?:label|cancel|model|travel|signal|marshal|pencil|channel|level)l(?:ed|ing|er)"
     r"|artefact|licence|defence|offence|dialogue|programme$|skilful|fulfil(?!l)|whilst"
 )
-# Names that the design or a library fixes, each with who fixes it.
+# Names that the design or a library fixes, each with its origin.
 KEPT = {
     "initialise": "an operation of ITSidebar that its design names",
     "initialiseScrollView": "an operation of ITSidebar that its design names",
@@ -43,7 +43,7 @@ def is_british(name: str) -> bool:
 
 
 def british_names(root: Path) -> list[str]:
-    """One line for each such name of each file."""
+    """One line for each such name in each file."""
     found: set[str] = set()
     for file in files_of(root):
         language = language_of(file)

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""Every C++ file is as clang-format writes it."""
+"""Every C++ file is formatted by clang-format."""
 
 import os
 import shutil

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""shellcheck has nothing against any shell script."""
+"""shellcheck has no complaint about any shell script."""
 
 import os
 import tempfile

@@ -10,7 +10,7 @@ from shown_pictures import LIST, not_compiled_in, shown_nowhere
 
 SOURCE = Path(os.environ["LUMORA_SOURCE"])
 
-# How a picture can be named, each enough for "window_close_pressed".
+# The ways to name a picture; each is enough for "window_close_pressed".
 NAMINGS = {
     "a literal": ("app/Header.cpp", 'NamedImage(u"window_close_pressed"_s);'),
     "a path in a style sheet": ("app/Header.cpp", '"QFrame { image: url(:/images/window_close_pressed.svg); }"'),

@@ -10,7 +10,7 @@ from spelling import KEPT, british_names
 
 SOURCE = Path(os.environ["LUMORA_SOURCE"])
 
-# A file's text and the names in it that are to be found.
+# A file's text, and the names in it that must be found.
 FAULTS = {
     "a function": ("a.h", "void setColour(int value);", ["setColour"]),
     "a constant in capitals": ("a.cpp", "constexpr int GREY_LEVELS = 4;", ["GREY_LEVELS"]),

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""Every function of the program is called by it, or marked as part of its public face with a reason."""
+"""The program calls each of its functions, or the function is marked as part of the public face with a reason."""
 
 import os
 import subprocess

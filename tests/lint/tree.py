@@ -4,7 +4,7 @@
 from collections.abc import Iterator
 from pathlib import Path
 
-# What a build leaves in the tree; hidden folders but .ci belong to tools.
+# The folders that a build leaves in the tree. Hidden folders except .ci belong to tools.
 GENERATED = {"build", "node_modules", "__pycache__"}
 HIDDEN = {".ci"}
 CODE = (".cpp", ".h")

@@ -2,11 +2,11 @@
 """Mutants as data: one small fault in one file each, and the tests that should fail because of it.
 
 A table (FOLDER.toml) holds for each mutant
-    fault        what goes wrong, in words; no two mutants share it
-    file         which file, from the root of the tree
-    original     text that stands there exactly once
-    replacement  what stands in its place
-    tests        the names of the tests that should see it, as a regular expression for a whole name
+    fault        what goes wrong, in words; different for each mutant
+    file         the file's path from the root of the tree
+    original     text that is in the file exactly once
+    replacement  the text that replaces it
+    tests        the names of the tests that should see it, as a regular expression for the whole name
 """
 
 import re
@@ -41,7 +41,7 @@ def read_tables(place: Path = PLACE) -> list[Mutant]:
 
 
 def problems(mutants: list[Mutant], root: Path, test_names: list[str]) -> list[str]:
-    """What keeps the tables from being run: a text that is gone, a test that is gone, a fault told twice."""
+    """Reasons why the tables cannot run: a text that is gone, a test that is gone, a fault that is listed twice."""
     lines: list[str] = []
     for mutant in mutants:
         file = root / mutant.file

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""The tables of mutants fit the tree, and the check sees each way in which they might not. Running them is ./run's work."""
+"""The tables of mutants fit the tree, and the check sees each way in which they might not. ./run plants the mutants."""
 
 import json
 import os

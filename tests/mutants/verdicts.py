@@ -17,7 +17,7 @@ class Verdict(enum.Enum):
 
 
 def run_quietly(command: list[str], tree: Path, seconds: float) -> bool | None:
-    """Whether the command succeeded; None where it did not end in time and was ended with all that it started."""
+    """Whether the command succeeded; None if it did not end in time and was killed with all its children."""
     process = subprocess.Popen(command, cwd=tree, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, start_new_session=True)
     try:
         return process.wait(seconds) == 0
@@ -28,7 +28,7 @@ def run_quietly(command: list[str], tree: Path, seconds: float) -> bool | None:
 
 
 def judge(mutant: Mutant, tree: Path, build: list[str], test: list[str], seconds: float) -> Verdict:
-    """`seconds` is what the tests may take; a mutant that makes them hang is killed, as CTest's own limits would say."""
+    """`seconds` is the time limit of the tests; a mutant that makes them hang counts as killed, as with CTest's limits."""
     file = tree / mutant.file
     original = file.read_text("utf-8")
     try:

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""Where the build under test is, as CTest passes it, and the one way in which these tests run a command."""
+"""The path of the build under test, from CTest, and the function by which these tests run a command."""
 import glob
 import os
 import subprocess
@@ -13,14 +13,14 @@ METADATA = BUILD / "packaging"
 
 
 def run(*command, **options):
-    """The finished process, its output as text; stdout and stderr in one, so that a failed assertion shows both."""
+    """The finished process, with stdout and stderr as one text, so that a failed assertion shows both."""
     return subprocess.run(
         [str(part) for part in command], stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True, check=False, **options
     )
 
 
 def package(name="lumora"):
-    """The one .deb of that name and this version that `packaging/deb/make-packages` made."""
+    """The .deb of that name and this version that `packaging/deb/make-packages` made."""
     found = glob.glob(str(BUILD / "package" / f"{name}_{VERSION}_*.deb"))
     assert len(found) == 1, f"expected one package {name} of version {VERSION}, found {found}"
     return Path(found[0])

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""What a packager's configuration compiles with: guards of our own, but none that fight the packager's."""
+"""The flags of a packager's configuration: our own hardening, but nothing that conflicts with the packager's."""
 import tempfile
 import unittest
 from pathlib import Path
@@ -8,7 +8,7 @@ from place import SOURCE, run
 
 
 def build_rules(*options):
-    """The rules of a release build that is configured with these options."""
+    """The build rules of a release build with these options."""
     with tempfile.TemporaryDirectory() as folder:
         result = run(
             "cmake", "-G", "Ninja", "-S", SOURCE, "-B", folder, "-DCMAKE_BUILD_TYPE=Release", "-DLUMORA_TESTS=OFF", *options

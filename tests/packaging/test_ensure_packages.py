@@ -1,8 +1,8 @@
 # SPDX-License-Identifier: MIT
-"""./run on machines that this one is not: without root, without sudo, with an old package index, not Debian at all.
+"""./run on other kinds of machine: without root, without sudo, with an old package index, without Debian.
 
-Each machine is a folder of commands, the only one in PATH: this system's text tools, and scripts that write down how they
-were called in place of whatever would change the system."""
+Each machine is a folder of commands, the only one in PATH: this system's text tools, and scripts that record their calls
+instead of changing the system."""
 import os
 import shutil
 import subprocess
@@ -12,7 +12,7 @@ from pathlib import Path
 
 SOURCE = Path(os.environ["LUMORA_SOURCE"])
 TOOLS = ("bash", "cat", "chmod", "comm", "dirname", "env", "mkdir", "mktemp", "rm", "sed", "sort", "stat")
-# What the stand-in for the build makes: a program that tells its arguments.
+# The result of the simulated build: a program that prints its arguments.
 BUILD = 'mkdir -p "$FAKE_ROOT/build/release" && printf \'%s\\n\' \'#!/bin/sh\' \'echo "program: $*"\' >"$FAKE_ROOT/build/release/lumora" && chmod +x "$FAKE_ROOT/build/release/lumora"'
 
 
@@ -22,7 +22,7 @@ def packages():
 
 
 class EnsurePackages(unittest.TestCase):
-    # What a command is run by; nothing: by whoever runs the tests.
+    # The prefix of a command; empty to run it as the user of the tests.
     identity = ()
 
     def setUp(self):
@@ -42,7 +42,7 @@ class EnsurePackages(unittest.TestCase):
         self.command("ninja", BUILD)
 
     def command(self, name, script):
-        """Makes a command that writes its call down first."""
+        """Makes a command that first records its call."""
         path = self.commands / name
         path.write_text(f'#!/bin/sh\necho "{name} $*" >>"$FAKE_CALLS"\n{script}\n')
         path.chmod(0o755)
@@ -81,7 +81,7 @@ class EnsurePackages(unittest.TestCase):
         self.assertEqual(result.stdout, "")
         self.assertIn(f"need root to install: {' '.join(missing)}\n", result.stderr)
         self.assertIn(f"apt-get install {' '.join(missing)}  as root", result.stderr)
-        # Nothing is built on what is not there.
+        # Nothing is built without the packages.
         self.assertEqual(self.called("apt-get", "cmake", "ninja"), [])
 
     def test_without_root_sudo_installs_what_is_missing(self):

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""The Debian package, installed into a Debian that has nothing else: dependencies, commands, window, removal.
+"""The Debian package, installed into a bare Debian: dependencies, commands, window, removal.
 
 Needs root (for chroot) and the Debian mirror that this machine itself uses. The bare system and the dependencies'
 packages are kept below the build folder, so that the second run is a quick one. Without root the package is unpacked
@@ -48,14 +48,14 @@ def make_base():
 
 
 class Root:
-    """A throw-away system below the build folder; what is mounted for a command is gone when the command ends."""
+    """A temporary system below the build folder; mounts for a command disappear when the command ends."""
 
     def __init__(self):
         self.folder = Path(tempfile.mkdtemp(prefix="root-", dir=CACHE))
         self.folder.chmod(0o755)
         result = run("tar", "--extract", "--numeric-owner", "--file", BASE, "--directory", self.folder, "--exclude=./dev/*")
         assert result.returncode == 0, result.stdout
-        # The name server's address is all that the network needs.
+        # For the network, the name server's address is enough.
         shutil.copy("/etc/resolv.conf", self.folder / "etc/resolv.conf")
 
     def remove(self):
@@ -86,7 +86,7 @@ class Root:
 
 
 class Unpacked:
-    """What takes the root's place without root: the package's files, run on this system."""
+    """The replacement without root rights: the package's files, run on this system."""
 
     def __init__(self):
         self.folder = Path(tempfile.mkdtemp(prefix="unpacked-", dir=BUILD))
@@ -168,7 +168,7 @@ class FreshRoot(unittest.TestCase):
             shutil.copy(package(name), root.folder / f"{name}.deb")
         result = root.apt("install", "/lumora-cli.deb", "/lumora.deb")
         if result.returncode != 0 and not made_now:
-            # The kept package lists may name versions that the mirror no longer has.
+            # The stored package lists may name versions that the mirror no longer has.
             root.remove()
             BASE.unlink()
             return cls.installed()
@@ -187,7 +187,7 @@ class FreshRoot(unittest.TestCase):
         return result.stdout
 
     def work(self, name):
-        """The path that the program knows a file in the scratch folder by."""
+        """The program's path of a file in the scratch folder."""
         return f"/scratch/{name}" if AS_ROOT else str(self.root.folder / "scratch" / name)
 
     def test_1_the_version_is_the_packages(self):
@@ -234,8 +234,8 @@ class FreshRoot(unittest.TestCase):
 
     @unittest.skipUnless(AS_ROOT, "nothing was installed")
     def test_4_a_file_manager_opens_packages_and_pictures_with_it(self):
-        """As file managers do: glib looks up the file's kind and its program, and has the session bus start that."""
-        # What every desktop has.
+        """Like a file manager: glib finds the file's kind and its program, and the session bus starts that."""
+        # Files that every desktop has.
         result = self.root.apt("install", "dbus", "desktop-file-utils", "libglib2.0-bin", "shared-mime-info")
         self.assertEqual(result.returncode, 0, result.stdout)
         package = self.root.folder / "scratch" / "Eine App ü.ipa"
@@ -252,7 +252,7 @@ class FreshRoot(unittest.TestCase):
             )
             try:
                 wait_for("the session bus", (self.root.folder / "scratch/bus").exists)
-                # The tool that takes the file is the current one then; the second file goes to the program that runs.
+                # The tool for the file is then the current one; the second file goes to the running program.
                 for file, header in ((package, (241, 196, 15)), (picture, (52, 152, 219))):
                     opened = self.root.run("env", f"DBUS_SESSION_BUS_ADDRESS={address}", "gio", "open", self.work(file.name))
                     self.assertEqual(opened.returncode, 0, opened.stdout)

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""The guards that the release build asks for are in the program that came out; read from its ELF tables."""
+"""The hardening that the release build asks for is in the built program, as its ELF tables show."""
 import re
 import unittest
 
@@ -35,7 +35,7 @@ class Hardening(unittest.TestCase):
         self.check("__stack_chk_fail", "--dyn-syms")
 
     def test_fortified_calls_are_used(self):
-        # Which ones they are depends on what the code calls.
+        # The set depends on the functions that the code calls.
         self.check(r"\b__(?!stack_)\w+_chk@", "--dyn-syms")
 
     def test_no_search_path_is_built_in_after_installation(self):

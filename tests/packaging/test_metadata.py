@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""Menu entry, D-Bus service, file kinds, AppStream metadata and Flatpak manifest: valid, and of one mind."""
+"""Menu entry, D-Bus service, file kinds, AppStream metadata and Flatpak manifest: valid and consistent."""
 import configparser
 import io
 import json
@@ -70,8 +70,8 @@ class Metainfo(unittest.TestCase):
     def test_appstream_accepts_it(self):
         result = run("appstreamcli", "validate", "--no-net", "--no-color", METADATA / f"{APPLICATION_ID}.metainfo.xml")
         self.assertEqual(result.returncode, 0, result.stdout)
-        # The domain is reserved for examples, so that no other can own it: appstreamcli notes that it knows no such
-        # top-level domain. There is nothing else to note.
+        # The domain is reserved for examples and cannot be registered: appstreamcli notes that it knows no such top-level
+        # domain. There is nothing else to note.
         notes = [line for line in result.stdout.splitlines() if re.match(r"[EWI]:", line)]
         expected = ["cid-maybe-not-rdns"] if APPLICATION_ID.startswith("example.") else []
         self.assertEqual([line.split()[2] for line in notes], expected, result.stdout)
@@ -99,7 +99,7 @@ class Metainfo(unittest.TestCase):
 
 
 class FileKinds(unittest.TestCase):
-    """The definitions are put into an empty data folder beside the system's, and glib is asked what it sees."""
+    """Puts the definitions into an empty data folder beside the system's, and returns glib's view."""
 
     @classmethod
     def setUpClass(cls):
@@ -179,7 +179,7 @@ class Flatpak(unittest.TestCase):
         self.assertLessEqual(permissions, {"--socket=wayland", "--socket=fallback-x11", "--share=ipc", "--device=dri"})
 
     def test_its_file_dialogs_are_the_portals(self):
-        # tests/e2e/walk_portal.py shows that this is what it takes.
+        # tests/e2e/walk_portal.py shows that these are needed.
         self.assertIn("--env=QT_QPA_PLATFORMTHEME=xdgdesktopportal", self.manifest["finish-args"])
 
     def test_every_download_is_fixed_by_its_checksum(self):
@@ -190,7 +190,7 @@ class Flatpak(unittest.TestCase):
                     self.assertRegex(source["sha256"], "^[0-9a-f]{64}$", module["name"])
 
     def test_every_library_that_the_runtime_lacks_is_built(self):
-        # What org.kde.Platform and its SDK bring themselves.
+        # The contents of org.kde.Platform and its SDK.
         runtime = {"qt6", "openssl", "icu", "zlib", "png", "tiff", "xcb", "fontconfig", "pkgconfig", "threads", "python3"}
         text = (SOURCE / "cmake" / "LumoraDependencies.cmake").read_text()
         found = re.findall(r"find_package\((\w+)", text) + re.findall(r"pkg_check_modules\((\w+)", text)

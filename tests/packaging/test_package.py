@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""The two Debian packages: clean in lintian's eyes, complete, and depending on all that they load."""
+"""The two Debian packages: without complaints from lintian, complete, and depending on everything that they load."""
 import os
 import re
 import tempfile
@@ -82,7 +82,7 @@ class Packages(unittest.TestCase):
         for name, program in PROGRAMS.items():
             places = dict(re.findall(r"(\S+) => (\S+)", run("ldd", self.roots[name] / program).stdout))
             for library in needed(self.roots[name] / program):
-                # Package lists may still know the file by its place before /lib became a link into /usr.
+                # Package lists may still have the file's old path, from before /lib became a link into /usr.
                 place = Path(places[library]).resolve()
                 owners = run("dpkg", "--search", place, str(place).removeprefix("/usr")).stdout
                 owner = re.search(r"^([^\s:]+):\S+: /", owners, re.M).group(1)
@@ -105,7 +105,7 @@ class Packages(unittest.TestCase):
             for root in self.roots.values():
                 copied = run("cp", "-R", f"{root}/.", folder)
                 self.assertEqual(copied.returncode, 0, copied.stdout)
-            # The window's own answer, where there is no display.
+            # The window program's own complaint without a display.
             bare = {name: value for name, value in os.environ.items() if "DISPLAY" not in name} | {"XDG_RUNTIME_DIR": folder}
             result = run(Path(folder) / "usr/bin/lumora", env=bare)
             self.assertIn("no display to open the window on", result.stdout)
@@ -122,7 +122,7 @@ class Packages(unittest.TestCase):
 
 class SourcePackage(unittest.TestCase):
     def test_it_is_as_its_templates_make_it(self):
-        """debian/ is read before anything is configured, so it holds copies; packaging/deb/refresh renews them."""
+        """debian/ is read before anything is configured, so it contains copies; packaging/deb/refresh renews them."""
         for name in ("control", "copyright", "changelog"):
             made = (METADATA / "debian" / name).read_text(encoding="utf-8")
             self.assertEqual((SOURCE / "debian" / name).read_text(encoding="utf-8"), made, name)

@@ -66,7 +66,7 @@ void PictureOrientationTest::turnsAsTheFileAsks_data()
     const QRgb green = 0xFF00FF00;
     const QRgb blue = 0xFF0000FF;
     const QRgb white = 0x80808080;
-    // Top left, top right, bottom left, bottom right as they shall be seen, for the orientations of EXIF.
+    // The expected top left, top right, bottom left and bottom right, for the orientations of EXIF.
     const QList<QRgb> seen[] = {{red, green, blue, white}, {green, red, white, blue}, {white, blue, green, red},
                                 {blue, white, red, green}, {red, blue, green, white}, {blue, red, white, green},
                                 {white, green, blue, red}, {green, white, red, blue}};
@@ -111,7 +111,7 @@ void PictureOrientationTest::turnsAsTheFileAsks()
     const int right = picture.width() - 1;
     const int bottom = picture.height() - 1;
     const QPoint places[] = {{0, 0}, {right, 0}, {0, bottom}, {right, bottom}};
-    // JPEG files are never quite exact.
+    // JPEG is never exact.
     constexpr int tolerance = 3;
     for (int corner = 0; corner < 4; ++corner)
         QVERIFY2(near(picture.pixel(places[corner]), corners[corner], tolerance), qPrintable(QString::number(corner)));

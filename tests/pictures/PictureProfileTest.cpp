@@ -25,7 +25,7 @@ QImage plain(QColorSpace space = {})
     return picture;
 }
 
-/// The file with a chunk that names its colors by code points: primaries, transfer, and whether samples use their whole
+/// The file with a chunk that names its colors by code points: primaries, transfer, and whether samples use their full
 /// range.
 QByteArray withCodePoints(const QByteArray &png, char primaries, char transfer, char fullRange = 1)
 {
@@ -38,7 +38,7 @@ QByteArray pngProfile(const QByteArray &profile)
     return QByteArray("name\0\0", 6) + qCompress(profile).sliced(4);
 }
 
-/// A profile whose header is in order but whose colors nobody can know: every tag has another name.
+/// A profile with a valid header but unknown colors: every tag is renamed.
 QByteArray namelessProfile()
 {
     QByteArray profile = QColorSpace(QColorSpace::DisplayP3).iccProfile();
@@ -47,7 +47,7 @@ QByteArray namelessProfile()
     return profile;
 }
 
-/// The file with its profile's mark overwritten, so that no reader takes it for one. Empty where it has none.
+/// The file with its profile's signature overwritten, so that no reader recognizes it. Empty if it has none.
 QByteArray withDamagedProfile(QByteArray file)
 {
     const qsizetype at = file.indexOf("acsp");
@@ -89,7 +89,7 @@ void PictureProfileTest::convertsTheProfile_data()
     QTest::newRow("png, usual gamma") << withPngChunk(png, "gAMA", QByteArray("\0\0\xB1\x8F", 4)) << stored;
     QTest::newRow("png, linear") << withPngChunk(png, "gAMA", linear) << fromLinear;
 
-    // What cannot be understood is as good as missing: the picture is shown as most programs show it, not refused.
+    // A profile that cannot be understood is ignored: the picture is read as most programs read it, not refused.
     QTest::newRow("png, not packed as a profile is") << withPngChunk(png, "iCCP", "name\0\0nonsense") << stored;
     QTest::newRow("png, no profile") << withPngChunk(png, "iCCP", pngProfile("nonsense")) << stored;
     QTest::newRow("png, unknown profile") << withPngChunk(png, "iCCP", pngProfile(namelessProfile())) << stored;
@@ -146,7 +146,7 @@ void PictureProfileTest::convertsCodePoints_data()
         << withCodePoints(withPngChunk(png, "sRGB", QByteArray(1, '\0')), 12, 13) << fromDisplayP3;
     QTest::newRow("before a gamma") << withCodePoints(withPngChunk(png, "gAMA", linear), 1, 13) << stored;
 
-    // What cannot be understood is as good as missing.
+    // A chunk that cannot be understood is ignored.
     QTest::newRow("unknown primaries") << withCodePoints(png, 99, 13) << stored;
     QTest::newRow("unknown primaries, but a profile") << withCodePoints(inDisplayP3, 99, 13) << fromDisplayP3;
     QTest::newRow("unknown transfer, but a gamma")

@@ -127,7 +127,7 @@ void PictureReaderTest::readsEveryKindOfPng()
 {
     QFETCH(QStringList, how);
     QFETCH(int, tolerance);
-    // ImageMagick writes the file and, as raw bytes, what is in it.
+    // ImageMagick writes the file, and its pixels as raw bytes.
     const QTemporaryDir folder;
     QFile source(folder.filePath(u"source.png"_s));
     QVERIFY(source.open(QIODevice::WriteOnly));
@@ -176,7 +176,7 @@ void PictureReaderTest::resolutionIsIgnored()
 
 void PictureReaderTest::anotherSizeThanTheHeadersIsRefused()
 {
-    // Of a screen so much higher than its only frame the decoder tells the frame's size, but makes the screen's.
+    // For a screen so much higher than its only frame the decoder reports the frame's size but decodes the screen's.
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"high.gif"_s);
     QCOMPARE(QProcess::execute(u"convert"_s, {u"-size"_s, u"23x17"_s, u"plasma:red-blue"_s, path}), 0);
@@ -205,7 +205,7 @@ void PictureReaderTest::refuses_data()
     QTest::newRow("icns, member of length 0") << QByteArray("icns\0\0\0\x10ic10\0\0\0\0", 16);
     const QByteArray picture = pictureFile(quarters(16, 16));
     QTest::newRow("icns, member longer than the file") << [&picture] {
-        // All of the picture is there; only the member's length says that it goes on.
+        // The picture is complete; only the member's length is too large.
         QByteArray file = icnsFile({{IcnsMember{"ic10", picture}}});
         qToBigEndian<quint32>(static_cast<quint32>(8 + picture.size() + 1), file.data() + 12);
         return file;
@@ -226,7 +226,7 @@ void PictureReaderTest::hugeClaimCostsNothing_data()
 {
     QTest::addColumn<QByteArray>("file");
     QByteArray png = encodePng(quarters(64, 64));
-    // 60000 in both places of the header; its checksum is then wrong, so both forms are tried.
+    // 60000 for both lengths in the header. This makes the checksum wrong, so both forms are tested.
     png.replace(16, 8, QByteArray("\0\0\xEA\x60\0\0\xEA\x60", 8));
     QTest::newRow("png, checksum wrong") << png;
     const quint32 checksum = [&] {
@@ -260,7 +260,7 @@ void PictureReaderTest::hugeClaimCostsNothing()
 
 void PictureReaderTest::largestPictureFitsTheMemory()
 {
-    // 16 bits a sample and a profile to convert from: the costliest there is.
+    // 16 bits a sample and a profile to convert: the slowest kind of picture.
     const QByteArray profile = QColorSpace(QColorSpace::DisplayP3).iccProfile();
     const QByteArray packed = qCompress(profile).sliced(4);
     const QByteArray file = withPngChunk(pngOfZeroes(8000, 8000), "iCCP", QByteArray("P3\0\0", 4) + packed);
@@ -294,7 +294,7 @@ void PictureReaderTest::truncatedIsRefused()
 {
     QFETCH(QByteArray, file);
     QVERIFY(readPicture(file, u"x"_s).ok());
-    // Every cut of a small file, down to nothing; the last bytes may be padding that no decoder misses.
+    // Every cut of a small file, down to zero bytes; the last bytes may be padding that decoders do not need.
     QList<qsizetype> accepted;
     for (qsizetype length = 0; length < file.size() - 16; ++length) {
         if (readPicture(file.first(length), u"x"_s).ok())

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""usage: make_pictures.py FOLDER   Small pictures of every format and kind that the picture reader takes, each named
+"""usage: make_pictures.py FOLDER   Small pictures of every format and kind that the picture reader accepts, each named
 for what it is. ImageMagick writes them."""
 
 import struct

@@ -99,8 +99,8 @@ private slots:
             for (const int covered : rowOf(coverage, row))
                 area += covered / 255.0;
         }
-        // Rounding each of the some 320 edge pixels to a byte and four cubic arcs for a circle cost less than 1 in
-        // 1000.
+        // Rounding each of the about 320 edge pixels to a byte, and four cubic arcs for a circle, give an error below 1
+        // in 1000.
         const double exact = std::numbers::pi * radius * radius;
         QVERIFY(std::abs(area - exact) < exact / 1000);
     }

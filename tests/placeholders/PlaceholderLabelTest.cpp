@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-/// Lato-Bold's own figures, in units of 2000 to the em: every digit, the space, the small x, and the line.
+/// Lato-Bold's metrics, in units of 2000 to the em: every digit, the space, the letter x, and the line.
 constexpr double digit = 1160;
 constexpr double space = 486;
 constexpr double smallX = 1044;
@@ -53,7 +53,7 @@ private slots:
     {
         QFETCH(double, width);
         QFETCH(float, points);
-        // Single precision to the last bit: no tolerance.
+        // Exact single precision, without tolerance.
         QVERIFY(labelPointSize(width) == points);
     }
 

@@ -36,7 +36,7 @@ private:
         ui().customWidthTextField->setString(width);
         ui().customHeightTextField->setString(height);
     }
-    /// Confirms the destination and waits for the closing texts.
+    /// Confirms the destination and waits for the final texts.
     void runInto(HoverButton *button) const
     {
         chooser().confirm(m_folder->path());
@@ -129,7 +129,7 @@ private slots:
             QCOMPARE(message(), qtTrId("PLACEHOLDER_ALERT_TITLE"));
             QVERIFY(!chooser().isOpen());
             auto *field = m_controller->view()->findChild<QWidget *>(refusedAt);
-            // In front of one of its edges; which one depends on the room on the screen.
+            // In front of one of its edges; which one depends on the space on the screen.
             const QPointF tip = flippedOnScreen(m_controller->popupView()->popoverWindow()->attachmentPoint());
             const QRectF around(field->mapToGlobal(QPoint()), field->size());
             QVERIFY(around.adjusted(-6, -6, 6, 6).contains(tip));
@@ -194,7 +194,7 @@ private slots:
         QCOMPARE(m_controller->selectedButton(), ui().macButton);
         QTest::ignoreMessage(QtInfoMsg, "Folder exists!");
         chooser().confirm(m_folder->path());
-        // Whichever ends first closes at the button pressed last; the other has none left.
+        // The run that ends first reports at the last pressed button; then no button is left for the other.
         QTRY_COMPARE(ui().macButton->text(), qtTrId("ALL_DONE"));
         QCOMPARE(m_controller->selectedButton(), nullptr);
         QTRY_COMPARE(QDir(out(u"placeholders_1"_s)).entryList(QDir::Files).size(), 4);

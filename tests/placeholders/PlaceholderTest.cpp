@@ -80,8 +80,8 @@ private slots:
             }
         }
         QVERIFY(sawWhite);
-        // The ink's center is the line's but for side bearings, the place of the digits in the line and the snapping:
-        // together less than a tenth of the font size, that is a hundredth of the width, and a pixel.
+        // The ink's center is the line's except for side bearings, the place of the digits in the line and the
+        // rounding: together less than a tenth of the font size, which is a hundredth of the width, plus a pixel.
         const double allowed = size.width() / 100 + 1;
         QVERIFY(std::abs(label.x() + label.width() / 2.0 - size.width() / 2) <= allowed);
         QVERIFY(std::abs(label.y() + label.height() / 2.0 - size.height() / 2) <= allowed);
@@ -91,7 +91,7 @@ private slots:
     {
         const QImage strip = placeholderWithSize(QSizeF(9999, 1), LabelFont()).toImage();
         const QRect slice = labelPixels(strip);
-        // 999.9 points: 5 digits, two spaces and the x are some 3900 pixels wide.
+        // 999.9 points: 5 digits, two spaces and the x are about 3900 pixels wide.
         QVERIFY(slice.width() > 3500 && slice.width() < 4000);
         QCOMPARE(strip.pixel(0, 0), gray);
         QCOMPARE(strip.pixel(9998, 0), gray);
@@ -109,7 +109,7 @@ private slots:
         bool rightIsMet = false;
         for (int y = bounds.top(); y <= bounds.bottom(); ++y) {
             label.readRow(y, row);
-            // The least coverage that is seen on gray.
+            // The least coverage that is visible on gray.
             constexpr int least = 2;
             QCOMPARE(picture.pixel(bounds.left(), y) != gray, row.front() >= least);
             QCOMPARE(picture.pixel(bounds.right(), y) != gray, row.back() >= least);

@@ -57,7 +57,7 @@ private slots:
         QStringList paths;
         for (int i = 0; i < 40; ++i) {
             paths << at(u"p%1@2x.png"_s.arg(i));
-            // Every fifth is much larger than those behind it.
+            // Every fifth is much larger than the following ones.
             QVERIFY(putFlatPng(paths.constLast(), i % 5 == 0 ? QSize(900, 900) : QSize(8, 8), Qt::blue));
         }
         const std::vector<DownscaledFile> files = run(paths);
@@ -188,7 +188,7 @@ private slots:
         MemoryBudget budget(10);
         for (const qint64 bytes : {qint64{100}, qint64{10}, qint64{11}})
             const MemoryBudget::Share share(budget, bytes);
-        // What was lent is back.
+        // All memory is returned.
         const MemoryBudget::Share half(budget, 5);
         const MemoryBudget::Share other(budget, 5);
     }

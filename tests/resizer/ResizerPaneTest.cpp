@@ -171,7 +171,7 @@ private slots:
         folders().confirm(at(u"out"_s));
         QCOMPARE(m_controller->savePath(), at(u"out"_s));
         QVERIFY(isWorking());
-        // Nothing but the main thread's events moves the label; each is looked at as it comes.
+        // Only the main thread's events change the label; each is checked as it comes.
         while (!isDone()) {
             QCoreApplication::processEvents(QEventLoop::AllEvents, 1);
             if (texts.isEmpty() || texts.constLast() != ui().progressLabel->text())
@@ -240,7 +240,7 @@ private slots:
             paths << one;
         m_controller->dropViewReceivedFiles(paths);
         folders().confirm(at(u"out"_s));
-        // Processor time of this thread alone, which a busy machine does not lengthen.
+        // Processor time of this thread only, so that a busy machine does not matter.
         const auto used = [] {
             timespec time{};
             ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
@@ -252,7 +252,7 @@ private slots:
             QCoreApplication::processEvents(QEventLoop::AllEvents);
             longest = std::max(longest, used() - before);
         }
-        // A round of the event loop that takes longer than a frame of the screen would be seen.
+        // A round of the event loop that takes longer than a frame of the screen would be visible.
         QVERIFY2(longest < 16, qPrintable(QString::number(longest)));
         QCOMPARE(ui().progressLabel->text(), u"Picture 3000 of 3000"_s);
     }

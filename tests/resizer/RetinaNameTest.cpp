@@ -78,7 +78,7 @@ private slots:
         QTest::newRow("a single pixel stays one") << QSize(1, 1) << QSize(1, 1);
         QTest::newRow("an upright line") << QSize(1, 155) << QSize(1, 77);
         QTest::newRow("a lying line") << QSize(100, 1) << QSize(50, 1);
-        // 16777219 is no single-precision number; the nearest one is 16777220.
+        // 16777219 is not a single-precision number; the nearest is 16777220.
         QTest::newRow("beyond single precision") << QSize(16777219, 2) << QSize(8388610, 1);
     }
     void halvesRoundingDown()

@@ -37,19 +37,19 @@ QByteArray bigEndian(quint32 number)
     return bytes;
 }
 
-/// What a PNG file holds in its only chunk of pixels.
+/// The content of a PNG file's only chunk of pixels.
 QByteArray pixelsOf(const QByteArray &file)
 {
     const qsizetype type = file.indexOf("IDAT");
     return file.mid(type + 4, qFromBigEndian<quint32>(file.constData() + type - 4));
 }
 
-/// An animated PNG of two frames as large as the pictures.
+/// An animated PNG of two frames of the pictures' size.
 QByteArray animation(const QByteArray &first, const QByteArray &second)
 {
     const QByteArray size = first.mid(16, 8);
     const QByteArray timing("\0\0\0\0\0\0\0\0\0\1\0\2\0\0", 14);
-    // Each goes right behind the header, so the last one first.
+    // Each is inserted directly after the header, so the last one first.
     QByteArray file = withPngChunk(first, "fcTL", bigEndian(0) + size + timing);
     file = withPngChunk(file, "acTL", bigEndian(2) + bigEndian(0));
     QByteArray more = withPngChunk(first, "fdAT", bigEndian(2) + pixelsOf(second));
@@ -142,7 +142,7 @@ private slots:
     void keepsDetailAndAddsNone_data()
     {
         QTest::addColumn<int>("alpha");
-        // With transparency the colors take another way, of 16 bits.
+        // With transparency the colors are scaled in 16 bits.
         QTest::newRow("opaque") << 255;
         QTest::newRow("translucent") << 200;
     }
@@ -160,7 +160,7 @@ private slots:
         QVERIFY(half.ok());
         const QImage picture = QImage::fromData(half.value().png).convertToFormat(QImage::Format_RGBA8888);
         QCOMPARE(picture.size(), QSize(512, 512));
-        // A little above what Lanczos 3 can do at all; a filter with fewer lobes misses both by far.
+        // A little above the limits of Lanczos 3; a filter with fewer lobes fails both by far.
         const ZonePlateErrors errors = zonePlateErrors(picture);
         QVERIFY2(errors.aliasing <= 7.5, qPrintable(QString::number(errors.aliasing)));
         QVERIFY2(errors.passband <= 1.2, qPrintable(QString::number(errors.passband)));
@@ -172,7 +172,7 @@ private slots:
         for (int y = 0; y < picture.height(); ++y) {
             for (int x = 0; x < picture.width(); ++x) {
                 const double inside = std::clamp(60.5 - std::hypot(x - 100, y - 80), 0.0, 1.0);
-                // What is transparent is black, as most programs leave it.
+                // Transparent pixels are black, as most programs write them.
                 const int alpha = static_cast<int>(std::lround(255 * inside));
                 picture.setPixel(x, y, alpha == 0 ? qRgba(0, 0, 0, 0) : qRgba(255, 255, 255, alpha));
             }

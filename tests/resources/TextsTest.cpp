@@ -16,7 +16,7 @@ class TextsTest : public QObject
 private slots:
     void initTestCase() { loadResources(); }
 
-    /// Each row with translators of its own.
+    /// Each row has its own translators.
     void cleanup()
     {
         for (QTranslator *translator : qApp->findChildren<QTranslator *>())
@@ -32,7 +32,7 @@ private slots:
         QTest::newRow("English") << u"en_GB"_s << QLocale::English << u"Close"_s << u"Cancel"_s;
         QTest::newRow("German") << u"de_DE"_s << QLocale::German << u"Schließen"_s << u"Abbrechen"_s;
         QTest::newRow("German of another country") << u"de_AT"_s << QLocale::German << u"Schließen"_s << u"Abbrechen"_s;
-        // A dialog of the toolkit's in a language that the rest of the window does not speak would be no help.
+        // A toolkit dialog in another language than the rest of the window would not help.
         QTest::newRow("a language without a table") << u"ar_EG"_s << QLocale::English << u"Close"_s << u"Cancel"_s;
     }
     void languageOfTheLocaleIsTaken()

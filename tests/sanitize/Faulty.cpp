@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// usage: faulty KIND   Does one thing wrong, or the same thing right, for test_reports.py: a sanitizer whose silence is
-// to mean something has to be heard once.
+// usage: faulty KIND Does one thing wrong, or the same thing right, for test_reports.py: a sanitizer's silence means
+// something only if it is known to report.
 #include <QCoreApplication>
 #include <QRunnable>
 #include <QThread>
@@ -32,7 +32,7 @@ void touchInTurn()
     touch();
 }
 
-/// Lets two threads go on at the same moment without putting either of them in order with the other, as a lock would.
+/// Lets two threads continue at the same moment without ordering them, as a lock would.
 class Meeting
 {
 public:
@@ -49,8 +49,8 @@ private:
 
 // Two threads, the standard library's or the toolkit's, do the same.
 
-/// QThread::create() is no example: it runs its work within a call of Qt's into the C library, where the thread
-/// sanitizer has to ignore.
+/// Not by QThread::create(): it runs its work inside a call of Qt into the C library, which the thread sanitizer
+/// ignores.
 class ToolkitThread final : public QThread
 {
 public:
@@ -90,7 +90,7 @@ void onAThreadPool(const std::function<void()> &work)
     pool.waitForDone();
 }
 
-/// A thread sends the main thread to work by the event loop, and does the same itself.
+/// A thread posts work to the main thread's event loop, and does the same work itself.
 void byTheEventLoop(const std::function<void()> &work)
 {
     QObject receiver;
@@ -107,7 +107,7 @@ void byTheEventLoop(const std::function<void()> &work)
     thread.wait();
 }
 
-/// A thread writes, and only then sends word; the receiver reads.
+/// A thread writes and then posts an event; the receiver reads.
 void sendWord()
 {
     QObject receiver;

@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
-"""usage: summary.py PRESET FOLDER STATUS   How many tests ran, what failed, and every report in the folder in one line.
+"""usage: summary.py PRESET FOLDER STATUS   The number of tests, the failures, and one line for each report in the folder.
 
-Ends with STATUS, the suite's own, or with 1 where there is a report.
+Ends with STATUS, the suite's own, or with 1 if there is a report.
 """
 import re
 import sys
@@ -10,7 +10,7 @@ from xml.etree import ElementTree
 
 
 def heading(report):
-    """What it found, and where: the sanitizer's own summary, or the undefined behavior's only line."""
+    """The finding and its place: the sanitizer's own summary, or the single line about undefined behavior."""
     text = report.read_text(errors="replace")
     found = re.search(r"^SUMMARY: (.*)$", text, re.M) or re.search(r"^.*: runtime error: .*$", text, re.M)
     return found[0] if found else (text.splitlines() or ["(empty)"])[0]

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-"""Is a sanitizer heard where our code does wrong? Each fault of faulty.cpp has to be reported, by name and where the
-runs of the suite look for reports; the same done right is not.
+"""Does a sanitizer report faults in our code? Each fault of faulty.cpp must be reported, by name and in the place where the
+runs of the suite look for reports; the correct variants must not.
 
 usage: test_reports.py FAULTY SANITIZERS
 """
@@ -26,7 +26,7 @@ RIGHT = {
 
 
 def run(kind):
-    """How it ended, and what was reported."""
+    """The exit status, and the reports."""
     with tempfile.TemporaryDirectory() as folder:
         environment = os.environ | {
             name: f"{os.environ.get(name, '')}:log_path='{folder}/report'" for name in OPTIONS}

@@ -34,16 +34,16 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-/// What the process holds, in bytes.
+/// The memory of the process, in bytes.
 struct Memory
 {
-    qint64 heap = 0;     ///< handed out by the allocator and not given back: every lost byte shows, nothing else does
-    qint64 resident = 0; ///< what the system gave the process, free heap returned first: what the user sees
+    qint64 heap = 0;     ///< allocated and not freed: shows every lost byte and nothing else
+    qint64 resident = 0; ///< resident memory after returning free heap to the system: what the user sees
 };
 
 Memory memory()
 {
-    // What is deleted later goes with the event loop's next round.
+    // Objects with deleteLater() are deleted in the event loop's next round.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QCoreApplication::processEvents();
     ::malloc_trim(0);
@@ -69,12 +69,12 @@ class SoakTest : public QObject
 private slots:
     void initTestCase()
     {
-        // What threads leave in heaps of their own depends on how they met; in one heap free memory is found again.
+        // The free memory in the threads' own heaps depends on timing; a single heap reuses it.
         ::mallopt(M_ARENA_MAX, 1);
         loadResources();
         installTexts(*qApp, QLocale(u"en_GB"_s));
         applyAppColors();
-        // Exports log what they do, and the offscreen platform that it cannot raise a window: thousands of lines.
+        // Exports log their steps, and the offscreen platform logs that it cannot raise a window: thousands of lines.
         QLoggingCategory::setFilterRules(u"*.info=false\ndefault.warning=false"_s);
         qputenv("TMPDIR", QFile::encodeName(m_work.path()));
         QVERIFY(runScript(u"make_packages.py"_s, {m_packages.path()}));
@@ -84,13 +84,13 @@ private slots:
         m_services.workFolder = m_workFolder->path();
         m_delegate = std::make_unique<AppDelegate>(m_services.services());
         m_delegate->applicationDidFinishLaunching();
-        // A popover that still fades out would be taken for a visible one, whose button hides it.
+        // A popover that is still fading out would count as visible, and its button would hide it.
         for (SFBPopover *popover : {m_delegate->popupView(), m_delegate->aboutPopupView(), icons().popupView(),
                                     validator().popupView(), validator().validatePopup()})
             popover->setAnimates(false);
         m_delegate->activate();
         QVERIFY(QTest::qWaitForWindowExposed(m_delegate->window()));
-        // The level after the tenth of each: until then every pane is laid out and every cache is filled.
+        // The memory after ten rounds of each: by that time every pane is laid out and every cache is filled.
         for (int round = 0; round < 10; ++round) {
             switchTool(round);
             exportIcons(round);
@@ -139,13 +139,13 @@ private:
         qDebug("heap %lld KB after ten, %lld KB now; resident %lld KB after ten, %lld KB now", m_before.heap / 1024,
                now.heap / 1024, m_before.resident / 1024, now.resident / 1024);
 #if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
-        // The sanitizers keep freed memory on purpose; memory that is lost they report at the end by themselves.
+        // The sanitizers keep freed memory on purpose, and report leaks at the end themselves.
         QVERIFY(isWithinTenPercent(now.heap, m_before.heap));
         QVERIFY(isWithinTenPercent(now.resident, m_before.resident));
 #endif
     }
 
-    /// The next tool, drawn; then its help, or the about panel, which the switch after this one closes.
+    /// Draws the next tool; then opens its help, or the about panel, which the next switch closes.
     void switchTool(int round)
     {
         m_delegate->sideBar()->setSelectedIndex(round % 6);
@@ -158,7 +158,7 @@ private:
         QVERIFY(m_delegate->popupView()->isVisible() || m_delegate->aboutPopupView()->isVisible());
     }
 
-    /// One platform's icons, the platforms in turn, into a folder where a set is already: the message says so.
+    /// Exports one platform's icons, the platforms in turn, into a folder that already has a set: the message says so.
     void exportIcons(int round)
     {
         m_delegate->sideBar()->setSelectedIndex(0);
@@ -170,7 +170,7 @@ private:
         QVERIFY(QDir(folder.path()).mkdir(u"icons"_s));
         box->click();
         ui.generateIconsButton->click();
-        // The caption of the export before may still stand.
+        // The caption of the previous export may still be shown.
         ui.generateIconsButton->setText(u"…"_s);
         m_services.folderChooser.confirm(folder.path());
         QTRY_COMPARE_WITH_TIMEOUT(ui.generateIconsButton->text(), qtTrId("ICONS_DONE"), 60000);
@@ -180,7 +180,7 @@ private:
         icons().popupCloseButtonPressed();
     }
 
-    /// One package, read and checked, and one of its explanations.
+    /// Reads and checks one package, and shows one of its explanations.
     void validate(int round)
     {
         m_delegate->sideBar()->setSelectedIndex(5);

@@ -210,7 +210,7 @@ private slots:
         QCoreApplication::sendEvent(&view, &enter);
         QVERIFY(enter.isAccepted());
         QCOMPARE(enter.dropAction(), shown);
-        // What would not be delivered does not light the view.
+        // A drag that would not be delivered does not highlight the view.
         QFETCH(int, deliveries);
         QCOMPARE(view.isTargeted(), deliveries > 0);
 

@@ -11,7 +11,7 @@ using namespace lumora;
 namespace
 {
 
-/// A window with a pane of three controls, and one of the window's own behind them.
+/// A window with a pane of three controls, and a control of the window after them.
 struct Scene
 {
     Scene()

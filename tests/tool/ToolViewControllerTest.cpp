@@ -49,7 +49,7 @@ struct Window
     QWidget window;
 };
 
-/// The spot the popover's arrow points at, from the window's lower left corner, counting upwards.
+/// The point at which the popover's arrow points, from the window's lower left corner, y upwards.
 QPointF arrowTip(const SFBPopover &popover, const QWidget &window)
 {
     const SFBPopoverWindow *balloon = popover.popoverWindow();
@@ -85,7 +85,7 @@ private slots:
         QCOMPARE(popover.arrowHeight(), 5.0);
         QVERIFY(popover.closesWhenApplicationBecomesInactive());
         QVERIFY(popover.closesWhenPopoverResignsKey());
-        // The rest is left as popovers come.
+        // The other settings are the defaults.
         QCOMPARE(popover.arrowWidth(), 20.0);
         QCOMPARE(popover.position(), PopoverPosition::Below);
         QCOMPARE(popover.viewMargin(), 0.0);

@@ -21,7 +21,7 @@ QImage everyColor()
     return all;
 }
 
-/// What a channel of a straight pixel shows over a ground, in levels of 255.
+/// The visible value of a straight pixel's channel over a background, from 0 to 255.
 double shown(int value, int alpha, int ground)
 {
     return (value * alpha + ground * (255 - alpha)) / 255.0;
@@ -92,7 +92,7 @@ private slots:
                 shades += result.constScanLine(alpha)[4 * value] != result.constScanLine(alpha)[4 * value - 4] ? 1 : 0;
             QCOMPARE(shades, alpha + 1);
         }
-        // What is straightened once stays.
+        // Straight pixels do not change when they are converted again.
         QCOMPARE(straightened(result), result);
     }
 };

@@ -19,7 +19,7 @@ namespace
 constexpr qint64 plenty = 1 << 20;
 const QSize size(13, 11);
 
-/// The pixel that make_pictures.py draws, colors not multiplied.
+/// The pixel that make_pictures.py draws, with straight colors.
 QColor drawn(int x, int y)
 {
     return QColor(20 * x, 20 * y, 10 * (x + y), 255 - 12 * x);

@@ -26,7 +26,7 @@ Bytes noise(std::size_t count, quint32 values)
     return bytes;
 }
 
-/// Runs, repeats and noise in turns, so that blocks of several kinds follow each other.
+/// Runs, repeats and noise in turn, so that blocks of several kinds follow each other.
 Bytes mixture()
 {
     Bytes bytes = noise(70000, 256);
@@ -62,7 +62,7 @@ Bytes byZlib(Bytes bytes, int level, int strategy)
     return stream;
 }
 
-/// Where zlib stops between blocks when it unpacks them.
+/// The places where zlib stops between blocks when it unpacks them.
 LastDeflateBlock foundByZlib(Bytes stream)
 {
     z_stream inflater{};
@@ -157,7 +157,7 @@ void DeflateBlocksTest::brokenStreamsAreSurvived()
 
 void DeflateBlocksTest::unknownKindsAreRefused()
 {
-    // A last block of the kind that does not exist.
+    // A last block of the invalid kind.
     QVERIFY(!findLastDeflateBlock(Bytes{0b00000111, 0, 0, 0}));
 }
 

@@ -37,7 +37,7 @@ struct Kind
     int channels() const { return colorType == 2 ? 3 : colorType == 4 ? 2 : colorType == 6 ? 4 : 1; }
 };
 
-/// A PNG file of noise: each row led by the filters in turn, any bytes being valid behind each.
+/// A PNG file of noise. The rows use the filters in turn; any bytes are valid after each filter.
 QByteArray noisePng(QSize size, Kind kind, const QByteArray &before = {}, const QByteArray &after = {}, int filters = 5)
 {
     QRandomGenerator random(quint32(kind.colorType * 16 + kind.depth));
@@ -51,7 +51,7 @@ QByteArray noisePng(QSize size, Kind kind, const QByteArray &before = {}, const 
     const QByteArray stream = qCompress(rows).mid(4);
     QByteArray header = number32(quint32(size.width())) + number32(quint32(size.height()));
     header.append(char(kind.depth)).append(char(kind.colorType)).append(2, '\0').append(char(kind.interlaced));
-    // Two chunks of pixels, as writers that work piece by piece leave them.
+    // Two chunks of pixels, as some writers make them.
     return QByteArray("\x89PNG\r\n\x1A\n", 8) + chunk("IHDR", header) + before +
            chunk("IDAT", stream.first(stream.size() / 2)) + chunk("IDAT", stream.mid(stream.size() / 2)) + after +
            chunk("IEND", {});

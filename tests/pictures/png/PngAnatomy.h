@@ -14,10 +14,11 @@ struct PngChunk
     QByteArray content;
 };
 
-/// The chunks of a PNG file in order; empty where signature, lengths or checksums are wrong.
+/// The chunks of a PNG file in order; empty if signature, lengths or checksums are wrong.
 QList<PngChunk> pngChunks(const QByteArray &file);
 
-/// What zlib inflates from the IDAT chunks, its own checksum verified; empty where it is damaged or followed by more.
+/// The data that zlib inflates from the IDAT chunks, with its checksum verified; empty if it is damaged or more data
+/// follows.
 QByteArray inflatedPixels(const QByteArray &file);
 
 } // namespace lumora

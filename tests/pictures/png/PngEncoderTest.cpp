@@ -95,7 +95,7 @@ void PngEncoderTest::readsBackAsItWas()
     QCOMPARE(back.colorSpace(), QColorSpace(QColorSpace::SRgb));
     back.setColorSpace(picture.colorSpace());
     QCOMPARE(premultiplied(back), premultiplied(picture));
-    // zlib is stricter than the decoder: nothing may be missing and nothing left over.
+    // zlib is stricter than the decoder: no data may be missing or left over.
     QCOMPARE(inflatedPixels(file).size(), (picture.width() * 4 + 1) * qsizetype{picture.height()});
 }
 

@@ -27,12 +27,12 @@ QImage noisePicture()
         for (int x = 0; x < 4 * width; ++x)
             picture.scanLine(y)[x] = static_cast<uchar>(x % 4 == 3 ? 255 : 100 + 3 * y + random.bounded(20));
     }
-    // Rows that repeat take a path of their own.
+    // Repeated rows have a code path of their own.
     std::copy_n(picture.constScanLine(5), 4 * width, picture.scanLine(6));
     return picture;
 }
 
-/// What a PNG decoder makes of one row, written from the standard's formulas.
+/// One row as a PNG decoder restores it, written from the standard's formulas.
 QByteArray unfiltered(const std::uint8_t *row, const QByteArray &above)
 {
     QByteArray result(4 * width, 0);
@@ -85,7 +85,7 @@ void PngFilterTest::readsBack()
     QFETCH(PngFilterChoice, choice);
     QFETCH(int, filter);
     const QImage picture = noisePicture();
-    // Each range begins in the middle of the picture, where the row above is another's.
+    // Each range begins in the middle of the picture, where the row above is in another range.
     const std::array ranges = {RowRange{0, 4}, RowRange{4, 8}, RowRange{9, height}};
     const std::vector<std::uint8_t> rows = filteredRows(ImageRows(picture), ranges, choice);
     std::size_t at = 0;
@@ -102,7 +102,8 @@ void PngFilterTest::readsBack()
 
 void PngFilterTest::fewestBitsWin()
 {
-    // A slope of 40 from pixel to pixel leaves one large residue for all, which is fewer bits than small, uneven ones.
+    // A slope of 40 from pixel to pixel gives the same large residue everywhere, which takes fewer bits than small,
+    // varying ones.
     QRandomGenerator random(9);
     QImage picture(width, 2, QImage::Format_RGBA8888);
     for (int y = 0; y < 2; ++y) {
@@ -141,7 +142,7 @@ void PngFilterTest::orderlinessIsTheSumOfItsLogarithms()
     for (const int n : counts)
         expected += n == 0 ? 0 : n * std::log2(n);
     const double sum = static_cast<double>(orderliness(bytes)) / 65536;
-    // Each logarithm is cut off after sixteen binary places.
+    // Each logarithm is truncated after sixteen binary places.
     QVERIFY2(sum <= expected + 0.001 && sum >= expected - 0.001 - count / 65536.0,
              qPrintable(QStringLiteral("%1 %2").arg(sum).arg(expected)));
 }

@@ -6,13 +6,13 @@
 #include <QColor>
 #include <QImage>
 
-/// Pictures of shapes in one color each, as icons are drawn.
+/// Pictures of shapes in a single color, like drawn icons.
 namespace flat_drawings
 {
 
 inline constexpr int sourceEdge = 1024;
 
-/// How deep inside a shape a point lies, in source pixels; negative outside.
+/// The depth of a point inside a shape, in source pixels; negative outside.
 using Shape = double (*)(double x, double y);
 
 double leftOfAnEdge(double x, double y);
@@ -20,7 +20,7 @@ double aboveASlope(double x, double y);
 double insideADisc(double x, double y);
 double insideAHole(double x, double y);
 
-/// A shape of one color on a ground of another, its edge smoothed over one pixel.
+/// A shape of one color on a background of another, with its edge smoothed over one pixel.
 QImage drawn(Shape shape, QColor color, QColor ground, int edge = sourceEdge);
 
 /// The red channel of a picture as the only plane.

@@ -52,7 +52,7 @@ void ResamplerTest::keepsDetailAndAddsNone_data()
     QTest::addColumn<int>("edge");
     QTest::addColumn<double>("aliasing");
     QTest::addColumn<double>("passband");
-    // A little above what Lanczos 3 can do at all; a filter with fewer lobes, or none, misses each row by far.
+    // A little above the limits of Lanczos 3; a filter with fewer lobes, or none, fails each row by far.
     QTest::newRow("57") << 57 << 1.2 << 0.5;
     QTest::newRow("120") << 120 << 2.3 << 3.0;
     QTest::newRow("180") << 180 << 2.0 << 2.0;

@@ -19,7 +19,8 @@ using namespace flat_drawings;
 namespace
 {
 
-/// Planes of noise, each sample one of the few highest or lowest, so that a filter overshoots everywhere.
+/// Planes of noise, where each sample is one of the few highest or lowest values, so that a filter overshoots
+/// everywhere.
 template <typename Sample> ColorPlanes harshNoise(QSize size, SampleDepth depth)
 {
     QRandomGenerator random(7);
@@ -33,7 +34,7 @@ template <typename Sample> ColorPlanes harshNoise(QSize size, SampleDepth depth)
     return planes;
 }
 
-/// The source samples that a scaled pixel's middle lobe sees along one axis, first and last.
+/// The first and last source sample that a scaled pixel's middle lobe covers along one axis.
 std::pair<int, int> seen(int at, int scaled, int source)
 {
     const double center = (at + 0.5) * source / scaled;
@@ -74,7 +75,7 @@ template <typename Sample> void compareWithPlainLoops(QSize from, QSize to, Samp
     }
 }
 
-/// The darkness of a scaled picture of a black line one pixel wide on white: 1 where none of it is lost and none added.
+/// The darkness of a scaled picture of a black line one pixel wide on white: 1 if nothing is lost or added.
 double lineWeight(const ColorPlanes &scaled)
 {
     double darkness = 0;
@@ -169,8 +170,8 @@ void RingingClampTest::nothingRipplesBesideAnEdge()
     QFETCH(int, edge);
     const QImage result = resample(picture, {edge, edge});
     const double scale = double(sourceEdge) / edge;
-    // Two pixels of the result: the corner of the square that the middle lobe sees, and what steps in between add. The
-    // smoothed pixel of the source comes on top.
+    // Two pixels of the result: the corner of the square that the middle lobe covers, and the additional steps. The
+    // smoothed pixel of the source is added to that.
     const double reach = scale * 2 + 2;
     int flat = 0;
     for (int y = 0; y < edge; ++y) {
@@ -179,7 +180,7 @@ void RingingClampTest::nothingRipplesBesideAnEdge()
             if (std::abs(inside) < reach)
                 continue;
             ++flat;
-            // Compared here first, since a million comparisons by the macro take a minute under the sanitizers.
+            // Compared without the macro first, since a million of its comparisons take a minute under the sanitizers.
             const QColor wanted = inside > 0 ? color : ground;
             if (result.pixel(x, y) != wanted.rgba())
                 QCOMPARE(result.pixelColor(x, y), wanted);
@@ -204,7 +205,7 @@ void RingingClampTest::edgesStaySmooth()
         int between = 0;
         for (int y = 0; y < edge; ++y) {
             for (int x = 0; x < edge; ++x) {
-                // What a pixel shows is, within a little, how much of it the disc covers.
+                // A pixel's value is about the share of it that the disc covers.
                 const double inside = insideADisc((x + 0.5) * scale, (y + 0.5) * scale) / scale;
                 const int value = qRed(result.pixel(x, y));
                 between += value > 20 && value < 235;
@@ -264,8 +265,8 @@ void RingingClampTest::fineLinesKeepTheirWeight_data()
 {
     QTest::addColumn<int>("edge");
     QTest::addColumn<double>("most");
-    // White has nothing above it, so the filter's dark side alone counts: up to a quarter more than the line's weight,
-    // and where this line meets the pixels of the smallest size best, a third.
+    // Nothing is above white, so only the filter's dark side counts: up to a quarter more than the line's weight, and a
+    // third where the line fits the pixels of the smallest size best.
     QTest::newRow("57") << 57 << 1.35;
     QTest::newRow("256") << 256 << 1.3;
     QTest::newRow("512") << 512 << 1.3;
@@ -276,14 +277,14 @@ void RingingClampTest::fineLinesKeepTheirWeight()
 {
     QFETCH(int, edge);
     QFETCH(double, most);
-    // Thinner than any pixel of the result: its darkness must not get lost.
+    // Thinner than any pixel of the result, but its darkness must not be lost.
     QImage picture(sourceEdge, sourceEdge, QImage::Format_RGB32);
     picture.fill(Qt::white);
     for (int y = 0; y < sourceEdge; ++y)
         picture.setPixelColor(333, y, Qt::black);
     const double weight = lineWeight(redPlane(resample(picture, {edge, edge})));
     QVERIFY2(weight > 0.95 && weight < most, qPrintable(QString::number(weight)));
-    // The clamp itself makes no line heavier than the filter does by way of the same halves.
+    // The clamp makes no line heavier than the filter with the same halves does.
     auto filtered = std::make_unique<ColorPlanes>(redPlane(picture));
     while (filtered->size().width() >= 5 * edge || filtered->size().width() == 2 * edge)
         filtered = filtered->scaledTo(filtered->size() / 2);
@@ -294,7 +295,7 @@ void RingingClampTest::fineLinesKeepTheirWeight()
 
 void RingingClampTest::aLineBetweenTwoColorsStays()
 {
-    // A little darker than the darker side: as faint as the filter's own rim.
+    // A little darker than the darker side, but as faint as the filter's own rim.
     QImage picture(sourceEdge, sourceEdge, QImage::Format_Grayscale8);
     for (int y = 0; y < sourceEdge; ++y) {
         for (int x = 0; x < sourceEdge; ++x)
@@ -335,7 +336,7 @@ void RingingClampTest::picturesOfAFewPixelsAreScaled()
             for (const QSize size : {QSize(1, 1), QSize(2, 3), QSize(5, 4), QSize(9, 1), QSize(8, 17)}) {
                 const QImage result = resample(picture, size);
                 QCOMPARE(result.size(), size);
-                // The middle of the upper edge lies in the green half, if there are two.
+                // The middle of the upper edge is in the green half, if there are two.
                 if (height > 1 && size.height() > 3)
                     QVERIFY(qRed(result.pixel(size.width() / 2, 0)) < 110);
             }

@@ -31,8 +31,8 @@ QImage halfWhite()
     return picture;
 }
 
-/// The wide soft shadow of a dark bar, as drawing programs write it: near black, of a slightly different black in each
-/// pixel, and white where the alpha is 1.
+/// The wide soft shadow of a dark bar, as drawing programs write it: nearly black, slightly different in each pixel,
+/// and white where the alpha is 1.
 QImage softShadow()
 {
     QImage picture(96, 64, QImage::Format_RGBA8888);
@@ -47,7 +47,7 @@ QImage softShadow()
     return picture;
 }
 
-/// The picture in 16 bits a sample, premultiplied, scaled and clamped.
+/// The picture premultiplied in 16 bits a sample, scaled and clamped.
 ColorPlanes precisePlanes(const QImage &picture, QSize size)
 {
     ColorPlanes planes(picture.size(), 4, SampleDepth::Bits16);
@@ -76,7 +76,7 @@ private slots:
     {
         QTest::addColumn<QColor>("color");
         QTest::addColumn<QColor>("shown");
-        // What bytes of premultiplied color hold of it: each channel is a multiple of 255 / alpha.
+        // The color as bytes of premultiplied color can hold it: each channel is a multiple of 255 / alpha.
         QTest::newRow("alpha 1") << QColor(200, 101, 3, 1) << QColor(255, 0, 0, 1);
         QTest::newRow("alpha 2") << QColor(200, 101, 3, 2) << QColor(255, 128, 0, 2);
         QTest::newRow("alpha 7") << QColor(200, 101, 3, 7) << QColor(182, 109, 0, 7);
@@ -173,7 +173,7 @@ private slots:
         for (int y = 0; y < result.height(); ++y) {
             for (int x = 0; x < result.width(); ++x) {
                 const QRgb pixel = result.pixel(x, y);
-                // A color of 3 at most needs an alpha of 43 to show at all.
+                // A color of at most 3 needs an alpha of 43 to be visible.
                 if (qAlpha(pixel) < 4 || qAlpha(pixel) > 40)
                     continue;
                 ++faint;

@@ -31,16 +31,16 @@ inline QImage zonePlatePicture()
     return picture;
 }
 
-/// How far a scaled plate is from what it should be.
+/// The error of a scaled plate.
 struct ZonePlateErrors
 {
     double aliasing = 0;
     double passband = 0;
 };
 
-/// Of the plate scaled to a smaller square, in any format that begins with red: root mean squares in 8-bit levels of
-/// what should be gray where the target cannot hold the detail, and of the deviation from the plate itself where it
-/// easily can.
+/// The errors of the plate scaled to a smaller square, in any format that begins with red, as root mean squares in
+/// 8-bit levels: of the deviation from gray where the target cannot hold the detail, and of the deviation from the
+/// plate where it easily can.
 inline ZonePlateErrors zonePlateErrors(const QImage &scaled)
 {
     const int edge = scaled.width();

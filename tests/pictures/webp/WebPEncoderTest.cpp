@@ -39,7 +39,7 @@ double largestError(const QImage &one, const QImage &other)
 
 } // namespace
 
-/// WebP files as Qt's own reader has them.
+/// WebP files as Qt's reader reads them.
 class WebPEncoderTest : public QObject
 {
     Q_OBJECT

@@ -43,7 +43,7 @@ Pictures several(const QString &folder, int count, QSize size)
     return pictures;
 }
 
-/// A JPEG file of four inks, as its frame's header says.
+/// A JPEG file of four inks, according to its frame's header.
 QByteArray inkedJpeg()
 {
     QByteArray bytes = picture({1320, 2868}, "jpeg");
@@ -143,7 +143,7 @@ private slots:
         QTEST(findings, "findings");
     }
 
-    /// Runs after the rows above.
+    /// This runs after the rows above.
     void noRuleIsLeftOut()
     {
         for (const ScreenshotRule &rule : screenshotRules()) {

@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-/// Where the text's ink is: the rectangle around all pixels that are not quite the ground.
+/// The rectangle of the text's ink: around all pixels that differ from the background.
 QRect inkOf(const QImage &image)
 {
     QRect ink;
@@ -32,7 +32,7 @@ QRect inkOf(const QImage &image)
 
 } // namespace
 
-/// Placeholders with a text and colors of one's own, as pixels and as SVG.
+/// Placeholders with a custom text and colors, as pixels and as SVG.
 class LabeledPictureTest : public QObject
 {
     Q_OBJECT
@@ -63,7 +63,7 @@ private slots:
         const QRect ink = inkOf(image);
         QVERIFY(!ink.isEmpty());
         QVERIFY(ink.width() <= 0.8 * image.width() + 2 && ink.height() <= 0.8 * image.height() + 2);
-        // A line's bearings are not the same on both sides, nor is its ink in the middle of its height.
+        // A line's bearings differ on both sides, and its ink is not in the middle of its height.
         QVERIFY(std::abs(ink.center().x() - image.width() / 2) <= image.width() / 50 + 2);
         QVERIFY(std::abs(ink.center().y() - image.height() / 2) <= image.height() / 12 + 2);
     }

@@ -10,7 +10,7 @@
 using namespace lumora;
 using namespace Qt::StringLiterals;
 
-/// The sets of today and lists of one's own.
+/// The current sets and custom lists.
 class StoreSizesTest : public QObject
 {
     Q_OBJECT

@@ -6,7 +6,7 @@
 using namespace lumora;
 using namespace Qt::StringLiterals;
 
-/// Where each kind of project keeps a picture of each density, and how large it is.
+/// The path and size of a picture of each density, in each kind of project.
 class DensityLayoutTest : public QObject
 {
     Q_OBJECT

@@ -27,7 +27,7 @@ DensityRequest requestFor(const QString &layout)
 
 } // namespace
 
-/// What is planned for a folder is what is written, and nobody loses a file.
+/// The run writes exactly what is planned for a folder, and no file is lost.
 class DensityPlanTest : public QObject
 {
     Q_OBJECT
@@ -105,7 +105,7 @@ private slots:
             return true;
         });
         QCOMPARE(written, (QStringList{u"a@2x.png"_s, u"a.png"_s, u"sub/b@2x.png"_s, u"sub/b.png"_s}));
-        // Once more there is nothing left to do.
+        // A second plan has nothing left to do.
         const DensityPlan again = planDensities(m_folder->path(), request);
         QVERIFY(std::ranges::none_of(again.sources[0].pictures, &PlannedPicture::written));
         QVERIFY(!m_failed);
@@ -121,7 +121,7 @@ private slots:
         QCOMPARE(content(u"a.png"_s), before);
         request.existing = ExistingFiles::Replace;
         const DensityPlan plan = planDensities(m_folder->path(), request);
-        // The options have their own say, so that a plan of long ago does no harm.
+        // The options count as well, so that an old plan does no harm.
         Outcome outcome = Done{};
         scaleDensities(plan, {}, [&](auto, const std::vector<ScaledFile> &files) {
             outcome = files.back().outcome;
@@ -238,7 +238,7 @@ private:
             files.next();
         return count;
     }
-    /// Notes what failed inside of a function that has to answer something.
+    /// Records a failure inside a function that must return a value.
     void expect(bool holds) { m_failed = m_failed || !holds; }
 
     QStringList described(const DensityPlan &plan) const

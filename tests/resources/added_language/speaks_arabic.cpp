@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Answers 0 if the texts have a third language, which a system set to it gets, from the right to the left.
+// Returns 0 if the texts have a third language, and a system with that language uses it, from right to left.
 #include "resources/Resources.h"
 
 #include <QCoreApplication>

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Checks the text tables against each other, the icon catalogue and the code; exits 1 where anything is wrong."""
+"""Checks the text tables against each other, the icon catalogue and the code; exits with 1 if there is a fault."""
 
 import argparse
 import sys
@@ -25,7 +25,7 @@ def load_tables(folder: Path) -> tuple[list[Table], list[str]]:
 
 
 def problems_of(root: Path, strict: bool) -> list[str]:
-    """One line for each thing that is wrong."""
+    """One line for each fault."""
     tables, problems = load_tables(root / "resources" / "strings")
     english = next((table for table in tables if table.path.name == ENGLISH), None)
     if english is None:

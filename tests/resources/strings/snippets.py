@@ -12,21 +12,21 @@ ICON_NAME = re.compile(r"[\w@.-]+\.png|iTunesArtwork(?:@2x)?")
 FILE_NAME = re.compile(r"[\w@.-]+\.(?:png|icns|ico)\b|iTunesArtwork(?:@2x)?")
 COMMENT = re.compile(r"<!--.*?-->", re.DOTALL)
 
-# 51 entries, six names of which iPhone and iPad share.
+# 51 entries; iPhone and iPad share six names.
 DISTINCT_ICON_NAMES = 45
 
-# Names that a snippet may use though the export writes no picture of that name.
+# Names that a snippet may use although the export writes no picture of that name.
 OTHER_NAMES = {
     "icons.icns",  # packed from the Mac pictures
     "ic_launcher.png",  # what an Android project calls each of its launcher pictures
 }
 
-# The Mac pictures are declared through the icon file that they are packed into.
+# The Mac pictures are declared by the icon file that contains them.
 PACKED = re.compile(r"icon_\d+x\d+(?:@2x)?\.png")
 
 
 def catalogue_names(icons_folder: Path) -> set[str]:
-    """The names quoted in that file of the folder which quotes most of them; empty where there is none."""
+    """The names in the file of the folder that quotes most of them; empty if there is none."""
     best: set[str] = set()
     for path in sorted(icons_folder.glob("*.h")) + sorted(icons_folder.glob("*.cpp")):
         names = {text for text in string_literals(path.read_text("utf-8")) if ICON_NAME.fullmatch(text)}
@@ -57,7 +57,7 @@ def link_problems(where: str, root: ElementTree.Element) -> list[str]:
 
 
 def snippet_problems(table: Table, english: Table, names: set[str]) -> list[str]:
-    """File names are left alone where the catalogue's names are not known; catalogue_problems() reports that."""
+    """File names are not checked if the catalogue's names are not known; catalogue_problems() reports that."""
     problems = []
     declared = set()
     reference = snippets(english)

@@ -6,7 +6,7 @@ from collections.abc import Iterator
 from dataclasses import dataclass, field
 from pathlib import Path
 
-# Comments and raw strings are matched first, so that what they hold is not taken for a literal.
+# Comments and raw strings are matched first, so that their content does not count as a literal.
 TOKEN = re.compile(
     r"""//[^\n]*|/\*.*?\*/|R"(?P<tag>[^(\s]*)\((?P<raw>.*?)\)(?P=tag)"|"(?P<plain>(?:[^"\\\n]|\\.)*)"|'(?:[^'\\\n]|\\.)+'""",
     re.DOTALL,
@@ -21,13 +21,13 @@ KEY_SHAPE = re.compile(r"[A-Z][A-Z0-9]*(?:_[A-Z0-9]+)+")
 
 NOT_THE_PROGRAM = {"tests", "bench", "fuzz", "docs", "build", "node_modules"}
 
-# A literal that looks like a key and begins like this many keys of the table is meant to be one.
+# A literal that looks like a key and begins like this many keys of the table counts as one.
 FAMILY_SIZE = 3
 
 
 @dataclass
 class Usage:
-    """Literals seen anywhere, and the keys that are certainly asked for, with the file that asks."""
+    """All literals, and the keys that are certainly used, with the file that uses them."""
 
     literals: set[str] = field(default_factory=set)
     asked: dict[str, str] = field(default_factory=dict)

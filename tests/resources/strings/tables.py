@@ -10,7 +10,7 @@ from pathlib import Path
 BRACKETED = re.compile(r"\[[A-Z]+\]")
 FORMATTED = re.compile(r"%(?:\d+|[-+0#]*\d*(?:\.\d+)?[a-zA-Z@])")
 
-# What the code replaces in a text, whatever the tables say.
+# The parts of a text that the code replaces, whatever the tables say.
 REQUIRED_PLACEHOLDERS = {
     "INFORMATION_APP": ["[VERSION]"],
     "INFORMATION_INFO_2": ["[FACEBOOK]", "[MAIL]", "[TWITTER]"],
@@ -42,7 +42,7 @@ class Table:
 
 
 def load_table(path: Path) -> Table:
-    """Raises ElementTree.ParseError where the file is not well-formed."""
+    """Raises ElementTree.ParseError if the file is not well-formed."""
     root = ElementTree.parse(path).getroot()
     messages = []
     for element in root.iter("message"):
@@ -59,17 +59,17 @@ def load_table(path: Path) -> Table:
 
 
 def placeholders(text: str) -> list[str]:
-    """Bracketed names may change places in a sentence; formats are filled in order and must keep it."""
+    """Bracketed names may change their order in a sentence; formats are filled in order and must keep it."""
     return sorted(BRACKETED.findall(text)) + FORMATTED.findall(text)
 
 
 def edge_whitespace(text: str) -> tuple[str, str]:
-    """Texts are joined with values and lists, so blanks and line breaks at their ends matter."""
+    """Texts are joined with values and lists, so spaces and line breaks at their ends matter."""
     return text[: len(text) - len(text.lstrip())], text[len(text.rstrip()) :]
 
 
 def table_problems(table: Table) -> list[str]:
-    """What is wrong with one table taken alone."""
+    """The faults of one table alone."""
     name = table.path.name
     problems = []
     if name != f"lumora_{table.language}.ts":
@@ -90,7 +90,7 @@ def table_problems(table: Table) -> list[str]:
 
 
 def comparison_problems(english: Table, other: Table) -> list[str]:
-    """What sets another table (or the English one itself) apart from the English texts."""
+    """The differences of another table (or the English one itself) from the English texts."""
     name = other.path.name
     reference = english.texts()
     texts = other.texts()

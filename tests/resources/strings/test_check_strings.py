@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""Breaks a small copy of the tree in one place at a time and sees that the check names that very fault."""
+"""Breaks a small copy of the tree in one place at a time, and expects the check to name exactly that fault."""
 
 import shutil
 import tempfile
@@ -26,7 +26,7 @@ WEB_TOUCH = ["apple-touch-icon.png", "apple-touch-icon-precomposed.png"] + [
 FAVICON = [f"favicon-{n}.png" for n in (16, 32, 48, 64, 128)]
 NAMES = IPHONE + IPAD + MAC + ANDROID + WEB_TOUCH + FAVICON
 
-# Each row: what is broken, the file, the text replaced there (once), what replaces it, and words of the report.
+# Each row: the fault, the file, the text to replace (once), its replacement, and words of the report.
 FAULTS = [
     ("table that is not XML", GERMAN, "</TS>", "", "lumora_de.ts: is not well-formed XML"),
     ("English table that is not XML", ENGLISH, "</TS>", "", "lumora_en.ts: cannot be read"),
@@ -65,7 +65,7 @@ FAULTS = [
 
 
 def replace_last(content: str, old: str, new: str) -> str:
-    """Replaces the last occurrence, which is the translation where <source> holds the same words."""
+    """Replaces the last occurrence, which is the translation if <source> has the same words."""
     head, found, tail = content.rpartition(old)
     if not found:
         raise AssertionError(f"the fault cannot be made: {old!r} is not in the file")
