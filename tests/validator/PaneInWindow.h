@@ -46,14 +46,14 @@ public:
     }
     QString explanation() const { return tool.validatePopupContentView()->messageLabel()->text(); }
 
-    // As the program makes it: before the tools, and there until they have gone.
+    // Made as in the program: before the tools, and deleted after them.
     Result<std::unique_ptr<WorkFolder>> folder = WorkFolder::make();
     RecordingServices services;
     QWidget window;
     ValidaterViewController tool;
 };
 
-/// How long a small package may take, in milliseconds; generous: the machine may be busy with other tests.
+/// The time limit for a small package, in milliseconds; generous, since the machine may be busy with other tests.
 constexpr int readingTime = 20'000;
 
 } // namespace lumora

@@ -9,7 +9,7 @@
 using namespace lumora;
 using namespace Qt::StringLiterals;
 
-/// What the package check's own popup makes of texts of any length.
+/// The package check's own popup with texts of any length.
 class ValidatePopupTest : public QObject
 {
     Q_OBJECT
@@ -64,7 +64,7 @@ private slots:
         bar->setValue(bar->maximum());
         QVERIFY(!drawnAt(6));
         QVERIFY(drawnAt(bar->height() - 6));
-        // Text and bar lie side by side.
+        // Text and bar are side by side.
         QVERIFY(content.messageLabel()->width() <= content.scrollArea()->width() - bar->width());
     }
 

@@ -295,7 +295,7 @@ private slots:
 
     void cutsNoLongFactOff()
     {
-        // Every glyph of a long identifier is inside the pane: the label wants no more width than it gets.
+        // Every glyph of a long identifier is inside the pane: the label needs no more width than it gets.
         PaneInWindow pane;
         read(pane, u"long names"_s);
         for (const QLabel *field : {pane.ui().appNameField, pane.ui().appBundleIDField})
@@ -340,7 +340,7 @@ private slots:
             while (behindDots < picture.height() && !isBlank(behindDots))
                 ++behindDots;
             QVERIFY2(behindDots < picture.height() / 2, qPrintable(label->objectName() + u": no dots"));
-            // Dots are as high as wide, about an eighth of the size; cut off they are a line.
+            // Dots are as high as wide, about an eighth of the size; clipped, they are a line.
             QVERIFY2(behindDots - firstDots >= label->font().pixelSize() * scale / 9,
                      qPrintable(u"%1: %2"_s.arg(label->objectName()).arg(behindDots - firstDots)));
         }

@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-/// How long the event loop let a timer wait at most, in milliseconds.
+/// The longest delay of a timer in the event loop, in milliseconds.
 class Heartbeat
 {
 public:
@@ -42,7 +42,7 @@ private:
 
 } // namespace
 
-/// How a package gets from its path to the pane, and how the reading of one ends early.
+/// The way of a package from its path to the pane, and early ends of a reading.
 class ValidaterReadingTest : public QObject
 {
     Q_OBJECT
@@ -199,8 +199,8 @@ private slots:
         QTRY_COMPARE_WITH_TIMEOUT(pane.tool.facts().appName(), u"Large"_s, 6 * readingTime);
         m_largeReading = clock.elapsed();
         QVERIFY2(heartbeat.beats() > 20, qPrintable(QString::number(heartbeat.beats())));
-        // Without a thread of its own the reading is one gap. With one, what is left is what other tests take of the
-        // processors; bench_validator measures the gaps where there are none.
+        // Without a thread of its own the reading is one long gap. With a thread, gaps only come from other tests on
+        // the processors; bench_validator measures the gaps without these.
         QVERIFY2(heartbeat.longestGap() < m_largeReading / 2,
                  qPrintable(u"%1 of %2 ms"_s.arg(heartbeat.longestGap()).arg(m_largeReading)));
     }

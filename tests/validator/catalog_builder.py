@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""Writes compiled asset catalogues: names, sizes and flags as real ones hold them, no pixels worth looking at."""
+"""Writes compiled asset catalogues: names, sizes and flags as in real ones, but no meaningful pixels."""
 
 import struct
 
@@ -22,7 +22,7 @@ class Bom:
         return number
 
     def tree(self, name, pairs):
-        """Leaves of a few pairs each, and one node above them when there are several."""
+        """Leaves of a few pairs each, and one node above them if there are several."""
         groups = [pairs[at:at + LEAF_SIZE] for at in range(0, len(pairs), LEAF_SIZE)] or [[]]
         placed = [[(self.add(value), self.add(key)) for key, value in group] for group in groups]
         first = len(self.blocks)
@@ -72,7 +72,7 @@ def jpeg(width, height):
 
 def rendition(facet, name, width, height, scale=1, idiom="universal", appearance=0, part=220, opaque=True, layout=PICTURE,
               pixel_format="ARGB"):
-    """A pair for `catalog`: what the key is made of, and the entry."""
+    """A pair for `catalog`: the parts of the key, and the entry."""
     payload = elements(opaque)
     chain = b""
     if pixel_format == "JPEG":
@@ -113,7 +113,7 @@ def catalog(renditions, appearances=("UIAppearanceDark",), tool="Xcode 26.0 (17A
 
 
 def app_icon(opaque=True, size=1024, facet="AppIcon", idioms=("phone", "pad"), dark=True):
-    """The icon of an app as it is built today."""
+    """The icon of an app as current tools build it."""
     entries = []
     for idiom in idioms:
         entries.append(rendition(facet, facet, size, size, idiom=idiom, part=218, layout=SET, pixel_format="\0\0\0\0"))

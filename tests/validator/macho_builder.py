@@ -39,7 +39,7 @@ def texts(names):
 
 
 class MachO:
-    """One slice. Every attribute may be changed before `bytes()` is asked for."""
+    """One slice. Every attribute may be changed before calling `bytes()`."""
 
     def __init__(self, architecture="arm64", filetype=EXECUTE, platform="ios", minimum="15.0", sdk="26.0"):
         self.cpu = ARCHITECTURES[architecture]
@@ -48,7 +48,7 @@ class MachO:
         self.flags = PIE if filetype == EXECUTE else 0x85
         self.platform, self.minimum, self.sdk = platform, minimum, sdk
         self.tools = [(3, "1230.1")]
-        self.old_version_command = None  # number of an LC_VERSION_MIN_*, in place of LC_BUILD_VERSION
+        self.old_version_command = None  # number of an LC_VERSION_MIN_*, instead of LC_BUILD_VERSION
         self.uuid = uuids.UUID("00112233-4455-6677-8899-aabbccddeeff")
         self.libraries = [("/usr/lib/libSystem.B.dylib", "needed")]
         self.identity = None
@@ -62,7 +62,7 @@ class MachO:
         self.encryption = (PAGE, PAGE, 0) if filetype == EXECUTE else None
         self.main = filetype == EXECUTE
         self.more_commands = []
-        self.sign = None  # answers the signature, given the bytes in front of it and its offset
+        self.sign = None  # returns the signature, given the bytes before it and its offset
         self.signature_room = 0x8000
 
     def text_sections(self):
@@ -126,7 +126,7 @@ class MachO:
         header_size = 32 if self.wide else 28
         body = b""
         places = []
-        # Far enough behind any load commands.
+        # Far enough after any load commands.
         first = PAGE
         for name, content in self.text_sections().items():
             places.append((name, first + len(body), len(content)))

@@ -47,15 +47,15 @@ def by_makers(out, tree):
     with zipfile.ZipFile(out / "python.zip", "w", zipfile.ZIP_DEFLATED) as archive:
         for path in sorted(tree.rglob("*")):
             archive.write(path, path.relative_to(tree))
-    # By jar 17.0.15 (Debian's openjdk-17-jdk-headless), which the test suite does not ask for:
-    # cd tree && LC_ALL=C.UTF-8 jar cf ../java.zip .
+    # Made by jar 17.0.15 (Debian's openjdk-17-jdk-headless), which the test suite does not need: cd tree && LC_ALL=C.UTF-8 jar
+    # cf ../java.zip .
     shutil.copyfile(Path(__file__).parent / "data" / "java.zip", out / "java.zip")
     with (out / "info-zip streamed.zip").open("wb") as stream:
         subprocess.run(["zip", "-qr", "-", "."], cwd=tree, check=True, stdout=stream)
 
 
 def by_layout(out, tree):
-    """The tree as makers lay it out that run on other systems."""
+    """The tree as archivers on other systems store it."""
     paths = sorted(tree.rglob("*"))
 
     def date_and_time(path):
@@ -73,7 +73,7 @@ def by_layout(out, tree):
         (out / f"{maker}.zip").write_bytes(build(entries))
 
     def owner(path):
-        """Times in both headers, user and group in the local one; names are bytes of UTF-8 and no flag says so."""
+        """Times in both headers, user and group in the local one; names are in UTF-8 without the flag for it."""
         times = struct.pack("<II", int(path.stat().st_atime), int(path.stat().st_mtime))
         return {"extra": struct.pack("<2sH", b"UX", 8) + times,
                 "local_extra": struct.pack("<2sH", b"UX", 12) + times + struct.pack("<HH", 501, 20)}
@@ -155,7 +155,7 @@ def many(out):
 
 
 def huge(out):
-    """Over 4 GB unpacked in a few megabytes, with a second entry behind it."""
+    """Over 4 GB unpacked in a few megabytes, with a second entry after it."""
     with zipfile.ZipFile(out / "over 4 GB.zip", "w", zipfile.ZIP_DEFLATED, compresslevel=1) as archive:
         zeros = bytes(1 << 20)
         with archive.open("zeros", "w", force_zip64=True) as entry:
@@ -166,7 +166,7 @@ def huge(out):
 
 
 def sparse(out):
-    """An archive file of over 4 GB that is a hole but for its headers: a stored entry of zeros, then one beyond 4 GB."""
+    """An archive file of over 4 GB that is a hole except for its headers: a stored entry of zeros, then one beyond 4 GB."""
     size = (4 << 30) + 4096
     crc = 0
     zeros = bytes(1 << 24)

@@ -2,7 +2,7 @@
 # SPDX-License-Identifier: MIT
 """usage: make_binaries.py FOLDER [compiled]   Mach-O files, each named for its form or fault.
 
-With "compiled" those that LLVM's compiler and linker make, none that is written here.
+With "compiled" only the files that LLVM's compiler and linker make, not those written here.
 """
 
 import struct
@@ -115,7 +115,7 @@ def bindings(entries):
 
 
 def with_content(number, content, more=b""):
-    """An app with a load command that points at content of its own."""
+    """An app with a load command that points at its own content."""
     def build(offset):
         if number == 0x80000022:
             load = command(number, struct.pack("<10I", 0, 0, offset, len(content), 0, 0, 0, 0, 0, 0))

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""usage: make_large_package.py FILE.ipa MEGABYTES   A sound app package of that size, stored, whose files (1,000 of them) are holes
-in the disk's eyes: reading it takes as long as for any other, keeping it takes next to nothing."""
+"""usage: make_large_package.py FILE.ipa MEGABYTES   A valid app package of that size, stored, whose 1,000 files are holes
+on disk: reading it takes as long as for any other, but it uses almost no disk space."""
 
 import plistlib
 import struct
@@ -12,7 +12,7 @@ FILES = 1000
 
 
 def header(name, crc, size, offset=None):
-    """The local header, or the directory's where there is an offset."""
+    """The local header, or the directory's if there is an offset."""
     common = struct.pack("<HHHHIIIHH", 0, 0, 0, 0x21, crc, size, size, len(name), 0)
     if offset is None:
         return b"PK\3\4" + struct.pack("<H", 20) + common + name

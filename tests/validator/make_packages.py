@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""usage: make_packages.py FOLDER   App packages, each named for what it holds or lacks."""
+"""usage: make_packages.py FOLDER   App packages, each named for its special content or fault."""
 
 import plistlib
 import struct
@@ -15,7 +15,7 @@ from pictures import apple_of_size, header_only, plain_of_size
 
 PHONE_ICONS = (57, 114, 60, 120, 29, 58, 40, 80, 512, 1024)
 BLUE_GREEN_RED = b"\0\0\xff\xff", b"\0\xff\0\xff"
-# The smallest JPEG header that says 512 x 512, without any data behind it.
+# The smallest JPEG header with a size of 512 x 512, without any data.
 JPEG_HEADER = bytes.fromhex("ffd8ffe000104a46494600010100000100010000ffc0000b080200020001011100ffd9")
 
 
@@ -38,7 +38,7 @@ def bundle(files=None, *, plist=None, form=plistlib.FMT_BINARY, name="Demo.app")
 
 def claiming(entries):
     """An empty archive whose directory's end claims this number of entries."""
-    # At the very start of the file the end would not be looked for.
+    # At the very start of the file, readers would not search for the end.
     start = b"junk"
     return (start + struct.pack("<4sQHHIIQQQQ", b"PK\6\6", 44, 45, 45, 0, 0, entries, entries, 0, len(start))
             + struct.pack("<4sIQI", b"PK\6\7", 0, len(start), 1)

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""usage: make_profiles.py FOLDER [forms]   Provisioning profiles signed by a certificate made for the moment, named for form or
-fault; with `forms` the same small text in every form that a message can take, as seeds."""
+"""usage: make_profiles.py FOLDER [forms]   Provisioning profiles signed by a temporary certificate, named for their form or
+fault; with `forms` the same small text in every possible form of a message, as seeds."""
 
 import plistlib
 import shutil
@@ -19,7 +19,7 @@ def profile(identifier, devices=()):
 
 
 class Signer:
-    """A throw-away certificate authority of one certificate."""
+    """A temporary certificate authority with one certificate."""
 
     def __init__(self, folder, *key):
         self.folder = Path(folder)

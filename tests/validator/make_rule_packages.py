@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""usage: make_rule_packages.py FOLDER   Signed packages: one that keeps every rule, and one that breaks each.
+"""usage: make_rule_packages.py FOLDER   Signed packages: one that follows all rules, and for each rule one that breaks it.
 
-Each that breaks a rule is named for the rule's id, or the ids where one fault cannot be without the other; other words
-tell ways to break one rule apart.
+A package that breaks a rule is named for the rule's id, or for several ids if the faults only occur together; other words
+distinguish several ways to break a rule.
 """
 
 import plistlib
@@ -60,7 +60,7 @@ class Package:
         self.signer = {}
         self.executable = "Lamp"
         self.bulb_path = BULB
-        self.after = None  # changes what lies in the package once all is signed
+        self.after = None  # changes the package after signing
 
     def sealed(self, folder, files, info, code, name, entitlements, sign=True, **changes):
         """The files of a bundle, signed; paths are those of the package."""
@@ -108,7 +108,7 @@ def without(dictionary, *keys):
 
 
 def breaking(identity, other, developer, ended):
-    """Name to a function that changes a good package."""
+    """From a name to a function that changes a good package."""
     def info(**changes):
         return lambda package: package.info.update(changes)
 
@@ -138,7 +138,7 @@ def breaking(identity, other, developer, ended):
         return lambda package: package.entitlements.update({key.replace("__", "-"): value for key, value in claims.items()})
 
     def by(someone, in_profile=None):
-        """Signed by another, whose certificate is in the profile; or somebody else's."""
+        """Signed by another key, whose certificate is in the profile or is not."""
         def change(package):
             package.signer["identity"] = someone
             package.profile["DeveloperCertificates"] = [(in_profile or someone).leaf]
@@ -275,7 +275,7 @@ def breaking(identity, other, developer, ended):
 
 
 def keeping():
-    """Packages near the border that keep every rule."""
+    """Packages at the limits that follow all rules."""
     def web_view_selector(package):
         package.code.selectors = ["UIWebView"]
 

@@ -2,7 +2,7 @@
 # SPDX-License-Identifier: MIT
 """usage: make_signatures.py FOLDER [parts]   Signed Mach-O files, each named for its form or fault, and seals.
 
-With "parts" the parts of a signature alone: the signature, its message, its entitlements.
+With "parts" only the parts of a signature: the signature, its message, its entitlements.
 """
 
 import hashlib

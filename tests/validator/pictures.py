@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""Writes PNG files from nothing: plain ones, and those that Apple's tools optimise for iOS packages."""
+"""Writes PNG files from scratch: plain ones, and those that Apple's tools optimize for iOS packages."""
 
 import struct
 import zlib
@@ -12,7 +12,7 @@ def chunk(name, data):
 
 
 def filtered(rows, bpp):
-    """Each row with another of the five filters in turn."""
+    """The rows with the five filters in turn."""
     above, out = None, b""
     for number, row in enumerate(rows):
         above = above or bytes(len(row))
@@ -62,7 +62,7 @@ def png(width, height, pixel, *, color_type=6, interlaced=False, apple=None, pie
 
 
 def plain_of_size(width, height):
-    """A picture of one color, small whatever its size: only its header is looked at."""
+    """A picture of one color in a small file, since only its header is read."""
     rows = (b"\0" + b"\x20\x80\xc0\xff" * width) * height
     return (b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", struct.pack(">IIBBBBB", width, height, 8, 6, 0, 0, 0))
             + chunk(b"IDAT", zlib.compress(rows, 9)) + chunk(b"IEND", b""))

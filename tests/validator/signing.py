@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""Signs Mach-O files and app bundles the way packages are signed, with certificates made on the spot."""
+"""Signs Mach-O files and app bundles as packages are signed, with temporary certificates."""
 
 import base64
 import datetime
@@ -54,7 +54,7 @@ def der_entitlements(entitlements, newer=True):
 
 
 class Identity:
-    """A root, and a certificate that it has signed, both made by openssl in a folder of their own."""
+    """A root, and a certificate that it has signed, both made by openssl in a new folder."""
 
     def __init__(self, common_name="Apple Distribution: Lamp Works (TEAM123456)", team="TEAM123456",
                  start="20250101000000Z", end="20340101000000Z"):
@@ -87,7 +87,7 @@ class Identity:
         return base64.b64decode(lines[2])
 
     def sign_bytes(self, data):
-        """PKCS #1 with SHA-256. A process for each signature would take most of the time."""
+        """PKCS #1 with SHA-256. Done here, since a process for each signature would take most of the time."""
         prefix = bytes.fromhex("3031300d060960864801650304020105000420")
         length = (self.modulus.bit_length() + 7) // 8
         digest = prefix + hashlib.sha256(data).digest()
@@ -98,7 +98,7 @@ class Identity:
         return (two + (one - two) * coefficient % first * second).to_bytes(length, "big")
 
     def key_number(self, name):
-        """A number of the key, out of openssl's listing."""
+        """A number of the key, from openssl's listing."""
         listing = subprocess.run(["openssl", "rsa", "-in", "leaf.key", "-noout", "-text"], cwd=self.folder.name, check=True,
                                  stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True).stdout
         lines = listing[listing.index(name + ":") + len(name) + 1:].splitlines()[1:]
@@ -110,7 +110,7 @@ class Identity:
         return int(digits, 16)
 
     def issuer_and_number(self):
-        """Out of the certificate: version, number, algorithm, issuer."""
+        """The fields of the certificate: version, number, algorithm, issuer."""
         def parts(data):
             found = []
             while data:
@@ -141,7 +141,7 @@ class Identity:
         if short_hashes:
             listing = plistlib.dumps({"cdhashes": list(short_hashes)})
             signed.append(tlv(0x30, identifier("1.2.840.113635.100.9.1") + tlv(0x31, tlv(0x04, listing))))
-        # A set's values stand in order of their bytes.
+        # A set's values are sorted by their bytes.
         signed = b"".join(sorted(signed, reverse=unsorted))
         signature = (key_of or self).sign_bytes(tlv(0x31, signed) if attributes else content)
         signer = tlv(0x30, tlv(0x02, b"\1") + self.issuer_and_number() + sha256 + (tlv(0xA0, signed) if attributes else b"")
@@ -201,7 +201,7 @@ class Signer:
         self.seal = None  # bytes of the CodeResources
         self.message = {}
         self.flags = 0 if identity else 2
-        self.change = None  # answers other blobs, given those that were made
+        self.change = None  # returns other blobs, given the original ones
 
     def __call__(self, code):
         requirements = blob(REQUIREMENTS, struct.pack(">I", 0))
@@ -235,7 +235,7 @@ class Signer:
         return super_blob(sorted(blobs, key=lambda pair: pair[0]))
 
 
-# Older packages hold the second rule: it says the same, with the weight of the exceptions.
+# Older packages have the second rule: it is the same with the weight of the exceptions.
 RULES2 = {"^.*": True, "^": {"weight": 20.0}, r".*\.dSYM($|/)": {"weight": 11.0},
           r"^(.*/)?\.DS_Store$": {"omit": True, "weight": 2000.0}, r"^Info\.plist$": {"omit": True, "weight": 20.0},
           r"^PkgInfo$": {"omit": True, "weight": 20.0}, r"^.*\.lproj/": {"optional": True, "weight": 1000.0},

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""Writes zip archives field by field, so that any field can lie."""
+"""Writes zip archives field by field, so that any field can be false."""
 
 import struct
 import zlib
@@ -14,7 +14,7 @@ SYMBOLIC_LINK = 0o120777 << 16
 
 
 class Entry:
-    """One entry. Keywords override what the headers would truthfully say."""
+    """One entry. Keywords override the true values of the headers."""
 
     def __init__(self, name, data=b"", method=STORED, **lies):
         self.name = name if isinstance(name, bytes) else name.encode()
@@ -35,7 +35,7 @@ class Entry:
 
 
 def build(entries, *, before=b"", after=b"", comment=b"", count=None, end=True):
-    """The archive's bytes. `before` and `after` stand around it; offsets count from the archive's own start."""
+    """The archive's bytes, between `before` and `after`; offsets count from the archive's own start."""
     body, directory = b"", b""
     for entry in entries:
         packed = entry.packed()

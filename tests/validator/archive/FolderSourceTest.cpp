@@ -35,7 +35,7 @@ QStringList paths(const PackageSource &source)
     return list;
 }
 
-/// Keeps what it was shown under the entry's path.
+/// Stores the received content under the entry's path.
 class Keeper final : public EntryConsumer
 {
 public:

@@ -8,7 +8,7 @@
 namespace lumora
 {
 
-/// A delegate with both forms of the selectors, so that it is heard. Remembers what it receives and is asked.
+/// A delegate with both forms of the selectors, so that it is called. Records the messages and questions.
 class ListeningDelegate : public ZipArchiveDelegate
 {
 public:
@@ -25,7 +25,7 @@ public:
     bool replace = true;
 };
 
-/// One that implements the two operations and nothing else, as any delegate would.
+/// A delegate that implements the two operations and nothing else, like any other.
 class ColonOnlyDelegate final : public ListeningDelegate
 {
 public:

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Comes between the program and minizip: the linker finds these functions before the library's.
+// Intercepts the calls into minizip: the linker finds these functions before the library's.
 #include "MinizipCalls.h"
 
 #include <QStringList>
@@ -18,7 +18,7 @@ namespace
 {
 
 MinizipCalls *recorder = nullptr;
-/// How many calls deep we are: the library calls its own functions through here as well.
+/// The depth of nested calls, since the library's own calls also pass through here.
 int depth = 0;
 
 QString text(const char *string)
@@ -50,7 +50,7 @@ QString date(const zip_fileinfo *info)
         .arg(info->external_fa);
 }
 
-/// One call from its note to its return.
+/// One call, from its record to its return.
 class Call
 {
 public:

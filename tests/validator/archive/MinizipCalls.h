@@ -6,8 +6,8 @@
 namespace lumora
 {
 
-/// Records the calls into minizip while it lives, those that the library makes of itself left out, and lets chosen
-/// ones fail. A program that links MinizipCalls.cpp has its own calls pass through here. One at a time.
+/// Records the calls into minizip while it exists, except the library's calls of itself, and lets chosen calls fail.
+/// The calls of a program that links MinizipCalls.cpp pass through here. Only one may exist at a time.
 class MinizipCalls
 {
 public:
@@ -15,16 +15,16 @@ public:
     ~MinizipCalls();
     Q_DISABLE_COPY_MOVE(MinizipCalls)
 
-    /// The `number`th call of the function from now on (counted from 1) answers an error. A function that closes does
-    /// its work all the same.
+    /// Lets the `number`th call of the function from now on (counted from 1) return an error. A function that closes
+    /// still does its work.
     void letFail(const QString &function, int number);
 
-    /// Name and arguments of each call, without the handle and the place of a buffer.
+    /// The name and arguments of each call, without the handle and the address of a buffer.
     const QStringList &calls() const { return m_calls; }
     /// The names only.
     QStringList names() const;
 
-    /// Called by the stand-ins: notes the call and answers whether it has to fail.
+    /// Called by the replaced functions: records the call and returns whether it must fail.
     bool note(const QString &function, const QStringList &arguments);
 
 private:

@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-/// What is asked of the library for one entry with a name of the given bytes, read in the given number of blocks.
+/// The library calls for one entry with a name of the given length, read in the given number of blocks.
 QStringList entryCalls(const QString &opening, int nameLength, int reads)
 {
     QStringList calls{opening, u"unzGetCurrentFileInfo(null, 0, null, 0, null, 0)"_s,
@@ -27,7 +27,7 @@ QStringList entryCalls(const QString &opening, int nameLength, int reads)
 
 } // namespace
 
-/// What is asked of minizip, with which arguments and in which order, and what follows where it fails.
+/// The calls into minizip, with their arguments and order, and the results when they fail.
 class MinizipCallsTest : public QObject
 {
     Q_OBJECT
@@ -35,7 +35,7 @@ class MinizipCallsTest : public QObject
 private slots:
     void initTestCase()
     {
-        qputenv("TZ", "Europe/Berlin"); // the format keeps local times
+        qputenv("TZ", "Europe/Berlin"); // the format stores local times
         write(u"large"_s, QByteArray(5000, 'x'));
         write(u"small"_s, "abc");
     }
@@ -47,9 +47,9 @@ private slots:
         QTest::addColumn<QString>("opening");
         QTest::addColumn<int>("largeReads");
         QTest::addColumn<int>("smallReads");
-        // A read more than there are blocks, which finds the end.
+        // One read more than there are blocks, which finds the end.
         QTest::newRow("without password") << QString() << QString() << u"unzOpenCurrentFile()"_s << 3 << 2;
-        // The library leaves encrypted data to us.
+        // The program handles encrypted data itself.
         QTest::newRow("with password") << u"secret"_s << u"secret"_s << u"unzOpenCurrentFilePassword(secret)"_s << 0
                                        << 0;
     }

@@ -23,7 +23,7 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-/// What a whole reading showed of each entry, by path.
+/// The content of each entry, by path, from reading the whole package.
 class Digests
 {
 public:
@@ -73,7 +73,7 @@ QString codeAndDetail(const Outcome &outcome)
 
 } // namespace
 
-/// The view of an archive beside what unpacking the same archive leaves on disk.
+/// Compares the view of an archive with the files that unpacking the archive writes.
 class PackageViewTest : public QObject
 {
     Q_OBJECT

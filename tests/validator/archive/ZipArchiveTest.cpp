@@ -21,7 +21,7 @@ const QString textOfEntry = u"text of the entry"_s;
 
 } // namespace
 
-/// Sound archives of every maker, and what of them is asked, dated and replaced.
+/// Valid archives of every maker: questions to the delegate, dates, and replaced files.
 class ZipArchiveTest : public QObject
 {
     Q_OBJECT
@@ -29,7 +29,7 @@ class ZipArchiveTest : public QObject
 private slots:
     void initTestCase()
     {
-        qputenv("TZ", "Europe/Berlin"); // the format keeps local times
+        qputenv("TZ", "Europe/Berlin"); // the format stores local times
         QVERIFY(runScript(u"make_archives.py"_s, {m_archives.path()}));
     }
 
@@ -60,7 +60,7 @@ private slots:
         QCOMPARE(made, treeBelow(m_archives.filePath(u"tree"_s)));
         for (const QString &file : {u"dir/noise"_s, u"dir/sub/text"_s})
             QCOMPARE(contents(destination.filePath(file)), contents(m_archives.filePath(u"tree/"_s + file)));
-        // Java dates the entries it packs; 7-Zip takes today's distance from UTC for one of all year.
+        // Java sets its own dates; 7-Zip uses today's offset from UTC for the whole year.
         if (name == u"java" || name.startsWith(u"7-zip"))
             return;
         const auto modified = QFileInfo(destination.filePath(u"dir/noise"_s)).lastModified().toSecsSinceEpoch();

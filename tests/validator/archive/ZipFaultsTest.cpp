@@ -26,7 +26,7 @@ const QString textOfEntry = u"text of the entry"_s;
 Q_DECLARE_METATYPE(lumora::ExtractionLimits)
 Q_DECLARE_METATYPE(lumora::FailureCode)
 
-/// Hostile, damaged and odd archives: what comes out of them, and that nothing comes out anywhere else.
+/// Hostile, damaged and odd archives: the files that they give, and that nothing is written in other places.
 class ZipFaultsTest : public QObject
 {
     Q_OBJECT
@@ -103,7 +103,7 @@ private slots:
         ZipArchive zip;
         zip.setDelegate(listener);
         const QString tag = QString::fromUtf8(QTest::currentDataTag());
-        // minizip takes a directory's end at the very start of the file for none; the messages come all the same.
+        // minizip does not find a directory's end at the very start of the file; the messages are sent in any case.
         QCOMPARE(zip.UnzipOpenFile(archive(tag)), tag != u"no entries");
         QCOMPARE(zip.UnzipFileTo(destination, true), result);
         QCOMPARE(zip.extraction().ok(), result);

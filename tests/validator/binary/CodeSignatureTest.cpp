@@ -24,7 +24,7 @@ QMap<QString, BundleFile> filesOf(const QMap<QString, QByteArray> &contents)
     return files;
 }
 
-/// The files that the seals of the fixtures are about.
+/// The files that the fixtures' seals cover.
 QMap<QString, QByteArray> sealedContents()
 {
     return {{u"Lamp"_s, "binary"},
@@ -148,7 +148,7 @@ private slots:
     {
         const CodeSignature signature = signatureOf("one byte of code");
         QCOMPARE(signature.directories.first().brokenPages, QList<quint32>{4});
-        // Nothing else is wrong with it.
+        // It has no other fault.
         QCOMPARE(signature.faults, QList<SignatureFault>{SignatureFault::PagesChanged});
     }
 

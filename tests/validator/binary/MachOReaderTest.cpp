@@ -176,7 +176,7 @@ private slots:
         for (const BinarySlice &slice : facts->slices)
             faults += slice.faults;
         QVERIFY2(faults.contains(fault), qPrintable(u"%1 others"_s.arg(faults.size())));
-        // A refusal is due within two seconds on any machine; these take milliseconds.
+        // The limit for a refusal is two seconds on any machine; these take milliseconds.
         QVERIFY(timer.elapsed() < 2000);
     }
 

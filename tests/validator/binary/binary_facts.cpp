@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// usage: binary_facts FILE   The facts of a Mach-O file as JSON, for comparison with what other readers say.
+// usage: binary_facts FILE The facts of a Mach-O file as JSON, for comparison with other readers.
 #include "validator/binary/MachOReader.h"
 
 #include <QFile>

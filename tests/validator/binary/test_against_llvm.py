@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""Every fact of a Mach-O file equals what LLVM's tools say of it, over all that its compiler and linker make.
+"""Every fact of a Mach-O file equals that of LLVM's tools, for all files that LLVM's compiler and linker make.
 
 usage by hand: BINARY_FACTS=... test_against_llvm.py FILE...
 """
@@ -26,7 +26,7 @@ def output(*words):
 
 
 def version(text):
-    """As two numbers, and the third where it is not zero."""
+    """As two numbers, and a third if it is not zero."""
     if text == "n/a":
         return "0.0"
     parts = (text.split(".") + ["0", "0"])[:3]
@@ -138,9 +138,9 @@ class AgainstLlvm(unittest.TestCase):
                 with self.subTest(file=str(file), architecture=architecture):
                     self.assertEqual(found.pop("architecture"), architecture)
                     expected = llvm_facts(file, architecture if len(known) > 1 else None)
-                    # What is bound is an import, too; what the linker leaves unnamed in the symbol table is no name.
+                    # Bound symbols are imports, too; unnamed entries in the symbol table are skipped.
                     expected["imported"] = sorted(set(expected["imported"]) | set(expected.pop("bound", [])))
-                    # What the tables of names hold besides, LLVM has no plain list of.
+                    # LLVM has no plain list of the other names in the tables.
                     for key in ("classes", "selectors"):
                         found.pop(key)
                     self.assertEqual(found.pop("faults"), [])

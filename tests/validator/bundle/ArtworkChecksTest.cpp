@@ -57,7 +57,8 @@ private slots:
         QFETCH(PlatformType, platform);
         QFETCH(QList<QSize>, sizes);
         QFETCH(QList<int>, missing);
-        // As sizes: comparing empty lists of numbers, Qt passes null pointers to memcmp, which a sanitizer refuses.
+        // As sizes: when Qt compares empty lists of numbers, it passes null pointers to memcmp, which a sanitizer
+        // reports.
         QCOMPARE(squares(missingIcons(platform, sizes)), squares(missing));
     }
 

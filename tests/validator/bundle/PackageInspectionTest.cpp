@@ -21,7 +21,7 @@ namespace
 
 const QStringList englishFrench{u"English"_s, u"French"_s};
 
-/// Comparing empty lists of numbers, Qt passes null pointers to memcmp, which a sanitizer refuses.
+/// When Qt compares empty lists of numbers, it passes null pointers to memcmp, which a sanitizer reports.
 QString joined(const QList<int> &numbers)
 {
     QStringList texts;
@@ -189,8 +189,8 @@ private slots:
 
     void roundsTheIconByTheVersion()
     {
-        // Radius 128 / 6.4 = 20 before iOS 7, 128 / 4.444444 = 28.8 from it on. On the diagonal the arc lies
-        // (1 - 1/sqrt 2) of the radius from the corner: at 5.9 and at 8.4 pixels.
+        // Radius 128 / 6.4 = 20 before iOS 7, 128 / 4.444444 = 28.8 from it on. On the diagonal the arc is (1 - 1/sqrt
+        // 2) of the radius from the corner: at 5.9 and at 8.4 pixels.
         const QImage six = inspectedAt(package(u"iOS 6"_s)).artwork.appIcon;
         const QImage seven = inspectedAt(package(u"valid"_s)).artwork.appIcon;
         QCOMPARE(qAlpha(six.pixel(7, 7)), 255);

@@ -93,7 +93,7 @@ private slots:
         const QByteArray before = qgetenv("TMPDIR");
         qputenv("TMPDIR", QFile::encodeName(parent.path()));
         const auto folder = WorkFolder::make();
-        // Left as it was: the next test makes its folders there, too.
+        // Restored, since the next test makes its folders there, too.
         before.isNull() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", before);
         QVERIFY(folder);
         QVERIFY(folder.value()->path().startsWith(parent.path()));

@@ -141,7 +141,7 @@ private slots:
             ids += QString::fromLatin1(rule.id);
             for (const char *text : {rule.title, rule.rule, rule.fix, rule.source})
                 QVERIFY2(*text != '\0', rule.id);
-            // What is not sure is no error.
+            // An uncertain fault is not an error.
             const bool likely = QByteArrayView(rule.title).contains("ikely");
             QVERIFY2(!likely || rule.severity != Severity::Error, rule.id);
         }

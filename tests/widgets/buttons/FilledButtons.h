@@ -13,7 +13,7 @@ inline const QColor normal(10, 20, 30);
 inline const QColor hover(40, 50, 60);
 inline const QColor pressed(70, 80, 90);
 
-/// Buttons of 180 × 36 in those three colors.
+/// Buttons of 180 × 36 in these three colors.
 inline std::unique_ptr<IconButton> iconButton()
 {
     auto button = std::make_unique<IconButton>();

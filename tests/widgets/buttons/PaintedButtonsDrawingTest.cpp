@@ -37,7 +37,7 @@ private slots:
         const auto button = hoverButton();
         button->setEnabled(false);
         const int alpha = pictureOf(button.get()).pixelColor(90, 18).alpha();
-        // The painter keeps opacity in 256 steps.
+        // The painter has 256 steps of opacity.
         QVERIFY2(qAbs(alpha - 255 * palette::disabledOpacity) <= 1, qPrintable(QString::number(alpha)));
     }
 
@@ -78,7 +78,7 @@ private slots:
         button->setIconName(u"button_icon_close"_s);
         button->resize(100, 36);
         const QImage without = pictureOf(button.get());
-        // The cross of the icon lies in a square of 18 beginning 12 from the left.
+        // The cross of the icon is in a square of 18 points that begins 12 points from the left.
         int right = 0;
         int left = 100;
         for (int x = 0; x < 100; ++x) {

@@ -76,7 +76,7 @@ private slots:
         const QPointer<IconButton> alive(button);
         connect(button, &IconButton::clicked, button, [button] { delete button; });
         QTest::mousePress(button, Qt::LeftButton);
-        // The release would be sent to a widget that is gone by the time QTest looks at it again.
+        // The release would be sent to a widget that is deleted before QTest uses it again.
         QMouseEvent release(QEvent::MouseButtonRelease, QPointF(5, 5), QPointF(5, 5), Qt::LeftButton, Qt::NoButton,
                             Qt::NoModifier);
         QCoreApplication::sendEvent(button, &release);

@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-/// What can happen to a box, one letter each, in the order in which a row names them.
+/// The events of a box, one letter each, in the order of a row.
 void happen(CheckboxButton &box, const QString &events)
 {
     for (const QChar event : events) {

@@ -18,7 +18,7 @@ private slots:
     {
         Scene scene;
         SFBPopover popover(plainContent());
-        // The base point (200, 130) lies 170 below the window's upper edge, the middle of the button's lower edge.
+        // The base point (200, 130) is the middle of the button's lower edge, 170 below the window's upper edge.
         popover.displayPopoverInWindow(&scene.window, QPointF(200, 130));
         QVERIFY(popover.isVisible());
         QCOMPARE(tipOf(popover), QPointF(scene.window.mapToGlobal(QPoint(200, 170))));
@@ -112,7 +112,7 @@ private slots:
         popover.setPosition(position);
         QCOMPARE(tipOf(popover), tip);
         QCOMPARE(popover.popoverWindow()->contentView()->size(), QSize(200, 100));
-        // On screen the balloon lies on the side that the position names.
+        // On screen the balloon is on the side that the position names.
         const QRect content(popover.popoverWindow()->contentView()->mapToGlobal(QPoint()), QSize(200, 100));
         const int side = static_cast<int>(position);
         if (side == 0 || side == 4 || side == 5)
@@ -157,7 +157,7 @@ private slots:
         popover.displayPopoverInWindow(&scene.window, QPointF(200, 130));
         scene.window.move(260, 140);
         QCOMPARE(tipOf(popover), QPointF(scene.window.mapToGlobal(QPoint(200, 170))));
-        // Resized: the point keeps its place below the upper left corner.
+        // Resized: the point keeps its distance from the upper left corner.
         scene.window.resize(500, 400);
         QCoreApplication::processEvents();
         QCOMPARE(tipOf(popover), QPointF(scene.window.mapToGlobal(QPoint(200, 170))));

@@ -92,7 +92,7 @@ private slots:
         QTest::addColumn<QPoint>("travel");
         QTest::addColumn<QRect>("change"); // of the frame on screen: moved by, grown by
 
-        // The frame is 204 × 120: an arrow of 16 points above the balloon. The content lets presses through.
+        // The frame is 204 × 120: an arrow of 16 points above the balloon. Presses pass through the content.
         QTest::newRow("movable") << true << false << QPoint(100, 60) << QPoint(30, 20) << QRect(30, 20, 0, 0);
         QTest::newRow("fixed") << false << false << QPoint(100, 60) << QPoint(30, 20) << QRect(0, 0, 0, 0);
         QTest::newRow("beside the arrow") << true << true << QPoint(10, 5) << QPoint(30, 20) << QRect(0, 0, 0, 0);
@@ -141,7 +141,7 @@ private:
         send(QEvent::MouseButtonPress, global, Qt::LeftButton);
         send(QEvent::MouseMove, global + travel / 2, Qt::LeftButton);
         send(QEvent::MouseMove, global + travel, Qt::LeftButton);
-        // Where the window cannot be moved while it is shown, it stays until the button is let go.
+        // If the window cannot be moved while it is shown, it stays until the button is released.
         if (!platform.movesWhileShown)
             QCOMPARE(flippedOnScreen(popover.popoverWindow()->frame()).toRect(), before);
         send(QEvent::MouseButtonRelease, global + travel, Qt::NoButton);

@@ -179,7 +179,7 @@ private slots:
         const QRectF rightStrip(280, 200, 20, 400);
         QTest::newRow("below, out left, just room to shift")
             << QPointF(217, 400) << small << rightStrip << plain << BelowArrowNearLeft;
-        // The popover would also have to stick out right to be shifted the other way.
+        // Shifted the other way, the popover would leave the screen at the right.
         QTest::newRow("below, out left, no room to shift")
             << QPointF(218, 400) << small << rightStrip << plain << Below;
         const QRectF leftStrip(0, 200, 20, 400);
@@ -195,7 +195,7 @@ private slots:
             << QPointF(90, 400) << screen << leftStrip << square << BelowArrowNearRight;
         QTest::newRow("square corner, no room to shift") << QPointF(89, 400) << screen << leftStrip << square << Below;
 
-        PopoverMetrics distant; // no room for it at either side of the narrow screen
+        PopoverMetrics distant; // no space for it at either side of the narrow screen
         distant.distance = 100;
         QTest::newRow("above, sticks out left") << QPointF(49, 50) << narrow << none << distant << AboveArrowNearLeft;
         QTest::newRow("above, just not out left") << QPointF(50, 50) << narrow << none << distant << Above;
@@ -284,10 +284,10 @@ private slots:
         QVERIFY(hasVertex(path, tip + inward));
         const QRectF balloon = content.adjusted(-5, -5, 5, 5);
         QVERIFY(path.contains(balloon.adjusted(3, 3, -3, -3)));
-        // The corners are round: the very corner lies outside, a point on the arc's diagonal inside.
+        // The corners are round: the corner point is outside, a point on the arc's diagonal is inside.
         QVERIFY(!path.contains(balloon.topLeft() + QPointF(1, 1)));
         QVERIFY(!path.contains(balloon.bottomRight() - QPointF(1, 1)));
-        // The path reaches beyond the balloon by the arrow alone.
+        // Only the arrow reaches beyond the balloon.
         const QRectF tipOnly(tip + inward, QSizeF(0, 0));
         QCOMPARE(path.boundingRect(), balloon.united(tipOnly.adjusted(0, 0, 1e-12, 1e-12)));
     }
@@ -328,7 +328,8 @@ private slots:
 
     void keepsTheArrowsBaseOnTheStraightPart()
     {
-        // With the sharp corners and flat arrow of the program's own popovers the base is wider than the corner leaves.
+        // With the sharp corners and flat arrow of the program's own popovers, the base is wider than the free part of
+        // the side.
         PopoverMetrics metrics;
         metrics.position = PopoverPosition::BelowArrowNearLeft;
         metrics.borderWidth = 5;

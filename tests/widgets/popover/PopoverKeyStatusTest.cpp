@@ -14,7 +14,7 @@ class PopoverKeyStatusTest : public QObject
     Q_OBJECT
 
 private:
-    /// Types the way the platform does: to the window, which finds its receiver.
+    /// Types like the platform: into the window, which finds the receiver.
     static void type(const QWidget *window, const QString &text)
     {
         for (const QChar character : text)
@@ -147,7 +147,7 @@ private slots:
         QCOMPARE(scene.field->text(), u"back"_s);
         QCOMPARE(field->text(), u"lumora"_s);
 
-        // A press in the parent gives its keys back at once, even where the popover stays.
+        // A press in the parent returns its keys at once, even if the popover stays.
         popover.setClosesWhenPopoverResignsKey(false);
         popover.displayPopoverInWindow(&scene.window, QPointF(200, 130));
         QTest::mouseClick(scene.window.windowHandle(), Qt::LeftButton, {}, QPoint(200, 35));

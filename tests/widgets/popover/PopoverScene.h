@@ -12,7 +12,7 @@
 namespace lumora::testing
 {
 
-/// A window of 400 × 300 at (200, 100) with a button in its middle and a line to type into above it.
+/// A window of 400 × 300 at (200, 100) with a button in its middle and a text field above it.
 struct Scene
 {
     Scene()

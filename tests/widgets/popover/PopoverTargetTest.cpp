@@ -7,7 +7,7 @@ using namespace lumora;
 using namespace lumora::testing;
 using namespace Qt::StringLiterals;
 
-/// A popover that is handed a control.
+/// A popover that points at a control.
 class PopoverTargetTest : public QObject
 {
     Q_OBJECT
@@ -139,13 +139,13 @@ private slots:
         popover.displayPopover({scene.button, Qt::BottomEdge, 0, {}});
         popover.popoverWindow()->setFrameOrigin(QPointF(10, 10));
         emit popover.popoverWindow()->draggedAway();
-        // Away from its control it keeps its distance from the window.
+        // Dragged away from its control, it keeps its distance from the window.
         scene.window.move(scene.window.pos() + QPoint(30, 0));
         QCOMPARE(popover.popoverWindow()->frame().topLeft(), QPointF(40, 10));
         popover.closePopover();
         popover.displayPopover({scene.button, Qt::BottomEdge, 0, {}});
         QCOMPARE(tipOf(popover), scene.button->mapToGlobal(QPointF(50, 40)));
-        // And follows it again.
+        // It follows the control again.
         scene.window.resize(500, 400);
         scene.button->move(300, 230);
         QTRY_COMPARE(tipOf(popover), scene.button->mapToGlobal(QPointF(50, 40)));

@@ -18,10 +18,10 @@ class PopoverTest : public QObject
     Q_OBJECT
 
 private:
-    /// Lets time pass for the animations, those just started included.
+    /// Lets time pass for the animations, including those just started.
     static void pass(DrivenClock &clock, int milliseconds)
     {
-        // One round takes a started animation up, the next one starts its driver.
+        // One round registers a started animation, the next one starts its driver.
         QCoreApplication::processEvents();
         QCoreApplication::processEvents();
         clock.pass(milliseconds);
@@ -165,7 +165,7 @@ private slots:
         QVERIFY(qAbs(popover.popoverWindow()->alphaValue() - 0.5) < 1e-3);
         const QRectF frame = popover.popoverWindow()->frame();
         popover.displayPopoverInWindow(&scene.window, QPointF(50, 50));
-        popover.closePopover(); // ignored as well: the fade goes on where it was
+        popover.closePopover(); // also ignored: the fade continues
         QCOMPARE(popover.popoverWindow()->frame(), frame);
         QVERIFY(qAbs(popover.popoverWindow()->alphaValue() - 0.5) < 1e-3);
         pass(clock, 124);

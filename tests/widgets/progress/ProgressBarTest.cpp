@@ -157,7 +157,7 @@ private slots:
             row("behind the half", 50, {99.5, 10.5}, bezel);
             row("above the filled part", 50, {52.5, 1.5}, bezel);
             row("below the filled part", 50, {52.5, 18.5}, bezel);
-            // Two lines are drawn in colors that leave no mark.
+            // Two lines are drawn in transparent colors.
             row("along the lower edge", 0, {100.5, 19.5}, bezel);
             row("along the lower edge of the filled part", 50, {52.5, 17.5}, light);
             row("full", 100, {193.5, 10.5}, light);
@@ -175,7 +175,7 @@ private slots:
         const QImage picture = pictureOf(&bar, scale);
         const QColor found = picture.pixelColor(qFloor(point.x() * scale), qFloor(point.y() * scale));
         if (color.alpha() == 0) {
-            // The white at a fifth that lights the outline from above is all there is.
+            // Only the white light on the outline from above is drawn, with an opacity of a fifth.
             QVERIFY2(found.alpha() > 0 && found.alpha() <= 51, qPrintable(found.name(QColor::HexArgb)));
             return;
         }

@@ -96,7 +96,7 @@ private slots:
         const int bottom = picture.height() - 1;
         QCOMPARE(picture.pixelColor(middle, 0).rgb(), platformColor(darkenColorByValue(base, 0.12F)).rgb());
         QCOMPARE(picture.pixelColor(middle, bottom).rgb(), platformColor(darkenColorByValue(base, 0.12F)).rgb());
-        // The first and last row inside the outline lie half a row inside the gradient's ends.
+        // The first and last row inside the outline are half a row inside the gradient's ends.
         const int inside = qRound(scale);
         QVERIFY(near(picture.pixelColor(middle, inside), platformColor(lightenColorByValue(base, 0.12F)), 2));
         QVERIFY(near(picture.pixelColor(middle, bottom - inside), platformColor(base), 2));

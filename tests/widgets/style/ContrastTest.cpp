@@ -30,7 +30,7 @@ double contrast(const QColor &one, const QColor &other)
     return (lighter + 0.05) / (darker + 0.05);
 }
 
-/// What body text needs at least.
+/// The least contrast of body text.
 constexpr double enough = 4.5;
 
 QColor gray(float white)
@@ -40,7 +40,8 @@ QColor gray(float white)
 
 } // namespace
 
-/// The tools' colors are given, and with them white text on them and large headings in them. Every other text is ours.
+/// The tools' colors are given, and so are white text on them and large headings in them. All other text colors are
+/// ours.
 class ContrastTest : public QObject
 {
     Q_OBJECT
@@ -87,7 +88,7 @@ private slots:
         QVERIFY2(measured >= enough, qPrintable(QString::number(measured)));
     }
 
-    /// Lists, menus, dialogs and whatever else draws itself from the application's palette.
+    /// Lists, menus, dialogs and everything else that uses the application's palette.
     void standardControlsAreReadable_data()
     {
         QTest::addColumn<QPalette::ColorRole>("text");

@@ -106,7 +106,7 @@ private slots:
         QVERIFY(!made->isDragging());
         QTEST(made->selectedIndexes(), "after");
         QTEST(static_cast<int>(action.count()), "notices");
-        // The drag is over: moving on changes nothing.
+        // The drag has ended: further moves change nothing.
         const QPointF point = slotMiddle(0);
         QMouseEvent move(QEvent::MouseMove, point, made->mapToGlobal(point), Qt::NoButton, Qt::NoButton, {});
         QCoreApplication::sendEvent(made.get(), &move);

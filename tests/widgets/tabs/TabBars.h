@@ -29,7 +29,7 @@ inline std::unique_ptr<BFIconTabBar> bar(int count, bool multiple = false)
     return made;
 }
 
-/// Of a slot of the standard width.
+/// The middle of a slot of the standard width.
 inline QPoint slotMiddle(int index)
 {
     return {4 + 32 * index + 16, 17};

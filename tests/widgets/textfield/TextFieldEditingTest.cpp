@@ -19,7 +19,7 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-/// A window of three fields, of which the middle one is tested.
+/// A window of three fields; the middle one is tested.
 struct Form
 {
     QWidget window;

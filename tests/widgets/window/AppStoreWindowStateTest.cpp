@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-/// Writes down what it hears.
+/// Records its notifications.
 class RecordingDelegate final : public INAppStoreWindowDelegate
 {
 public:
@@ -148,7 +148,7 @@ private slots:
         const auto found =
             std::find_if(actions.cbegin(), actions.cend(), [&](const QAction *each) { return each->text() == text; });
         QVERIFY(found != actions.cend());
-        // From the first one down to it, as a user would.
+        // From the first entry down to it, as a user would.
         for (auto action = actions.cbegin(); action != found; ++action) {
             if (!(*action)->isSeparator())
                 QTest::keyClick(menu, Qt::Key_Down);

@@ -186,7 +186,7 @@ private slots:
     {
         QFETCH(QString, kind);
         const INAppStoreWindow window;
-        // No table is installed here, so a key is shown instead of its text.
+        // No table is installed here, so the key is shown instead of its text.
         QTEST(light(window, kind)->accessibleName(), "key");
         QTEST(light(window, kind)->toolTip(), "key");
         QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(light(window, kind));

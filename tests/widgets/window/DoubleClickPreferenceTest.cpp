@@ -12,7 +12,7 @@
 using namespace lumora;
 using namespace Qt::StringLiterals;
 
-/// A settings portal with one setting. It answers the way the real one does, with a variant in a variant.
+/// A settings portal with one setting. Like the real one, it returns a variant in a variant.
 class SettingsPortal : public QObject, protected QDBusContext
 {
     Q_OBJECT
@@ -70,7 +70,7 @@ private slots:
         portal.action = action;
         portal.knowsTheSetting = known;
         const DesktopDoubleClickPreference preference;
-        QVERIFY(!preference.miniaturizesOnDoubleClick()); // it has not been answered yet
+        QVERIFY(!preference.miniaturizesOnDoubleClick()); // there is no answer yet
         QTRY_COMPARE(portal.reads, 1);
         QTest::qWait(50); // for the answer, which in most rows changes nothing that could be waited for
         QTEST(preference.miniaturizesOnDoubleClick(), "miniaturizes");

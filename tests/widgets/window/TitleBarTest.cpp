@@ -92,7 +92,7 @@ private slots:
         auto *label = new QLabel(u"label"_s, window.titleBarView());
         label->setGeometry(400, 10, 100, 40);
         show(window);
-        // The platform of this test moves no windows for their owners.
+        // The platform of this test does not move windows.
         QTest::mousePress(window.windowHandle(), Qt::LeftButton, {}, press);
         QTest::mouseMove(window.windowHandle(), press + QPoint(2, 1));
         QCOMPARE(window.pos(), QPoint(100, 100)); // not far enough for a drag
@@ -109,7 +109,7 @@ private slots:
         const auto drag = [&window](const QPoint &from, const QPoint &to, const QPoint &released) {
             QTest::mousePress(window.windowHandle(), Qt::LeftButton, {}, from);
             QTest::mouseMove(window.windowHandle(), to);
-            // Where the pointer is in the window that was resized under it.
+            // The pointer's place in the window, which was resized under it.
             QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, {}, released);
         };
         drag(QPoint(598, 398), QPoint(558, 378), QPoint(558, 378));
@@ -273,7 +273,7 @@ private slots:
         QTRY_VERIFY(!window.isMainWindow());
         QCOMPARE(pictureOf(window.titleBarView()).pixelColor(300, 30), QColor(Qt::green));
         QCOMPARE(pictureOf(window.titleBarView()).pixelColor(300, 59), QColor(Qt::cyan));
-        // In full screen the bar is black, with what lies on the gradient lying on the black.
+        // In full screen the bar is black instead of the gradient, with everything else on top.
         window.showFullScreen();
         const QImage picture = pictureOf(window.titleBarView());
         QVERIFY(picture.pixelColor(300, 30).red() <= (window.isMainWindow() ? 26 : 0));

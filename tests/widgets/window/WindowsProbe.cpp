@@ -46,8 +46,8 @@ public:
     bool miniaturizesOnDoubleClick() const override { return true; }
 };
 
-/// Magenta content with a cyan anchor in its middle a line to type into, and two text fields to drag text between; the
-/// popover is plain green.
+/// Magenta content with a cyan anchor in its middle, a line to type into, and two text fields for dragging text between
+/// them; the popover is plain green.
 class Probe : public QObject
 {
 public:
@@ -154,7 +154,7 @@ private:
             report();
     }
 
-    /// Moves the anchor as a layout would after the window was resized.
+    /// Moves the anchor, as a layout would after a resize of the window.
     void shift()
     {
         m_window.resize(m_window.size() + QSize(100, 50));

@@ -18,12 +18,12 @@ def check(condition, message):
         raise Failure(message)
 
 
-# Instrumented programs are given more.
+# Instrumented programs get more time.
 FACTOR = float(os.environ.get("LUMORA_TIME_FACTOR", "1"))
 
 
 def wait_for(what, condition, seconds=10 * FACTOR):
-    """Asks the condition until it answers something true, and answers that."""
+    """Calls the condition until its result is true, and returns the result."""
     end = time.monotonic() + seconds
     while True:
         value = condition()
@@ -35,7 +35,7 @@ def wait_for(what, condition, seconds=10 * FACTOR):
 
 
 class Processes:
-    """Child processes that end with the block, the youngest first."""
+    """Child processes that end with the block, the last one first."""
 
     def __init__(self):
         self.started = []
@@ -91,7 +91,7 @@ class Probe:
 
 
 def run(checks, *arguments):
-    """Runs the checks, each with a fresh probe, and exits with the number that failed."""
+    """Runs the checks, each with a new probe, and exits with the number that failed."""
     failed = 0
     for one in checks:
         name = one.__name__.replace("_", " ")

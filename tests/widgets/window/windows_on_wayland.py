@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""usage: windows_on_wayland.py PROBE   The windows under weston without a screen: a popover lands on its anchor there too.
-Weston offers no pointer or keyboard that a script could move, so the probe shows the popover on command."""
+"""usage: windows_on_wayland.py PROBE   The windows under weston without a screen: a popover appears at its anchor there, too.
+Weston has no pointer or keyboard that a script can use, so the probe shows the popover on command."""
 import glob
 import os
 import subprocess

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""usage: windows_on_x11.py PROBE   The windows under a real X server with a window manager: where they land, and what the
-mouse and the keyboard do to them."""
+"""usage: windows_on_x11.py PROBE   The windows under a real X server with a window manager: their places, and the effects of
+mouse and keyboard."""
 import os
 import subprocess
 import sys
@@ -18,7 +18,7 @@ class Desktop:
     def __enter__(self):
         self.processes = Processes().__enter__()
         reading, writing = os.pipe()
-        # Without -noreset the server throws out whoever is connecting while its only client leaves.
+        # Without -noreset the server drops a client that connects while its only client leaves.
         self.processes.start(["Xvfb", "-noreset", "-displayfd", str(writing), "-screen", "0", "1600x1200x24", "-nolisten", "tcp"],
                              pass_fds=[writing], stderr=subprocess.DEVNULL)
         os.close(writing)
@@ -28,8 +28,8 @@ class Desktop:
                                 XDG_RUNTIME_DIR=self.processes.folder, HOME=self.processes.folder)
         self.environment.pop("WAYLAND_DISPLAY", None)
         self.environment.pop("DBUS_SESSION_BUS_ADDRESS", None)
-        # A window that is mapped while the window manager takes over is lost: it stays unmapped. Its own start command is
-        # run when all that is over; what it sets on the root window before comes too early.
+        # A window that is mapped while the window manager starts is lost: it stays unmapped. The manager's start command runs
+        # when the start is over; the properties that it sets on the root window come too early.
         ready = os.path.join(self.processes.folder, "managed")
         self.processes.start(["openbox", "--startup", f"touch {ready}"], self.environment, stdout=subprocess.DEVNULL,
                              stderr=subprocess.DEVNULL)
@@ -55,8 +55,8 @@ class Desktop:
                                  for word in words])
 
     def drag(self, start, end):
-        """Presses, and moves until the button is released. The program must have seen the press before the pointer is
-        elsewhere. A window manager takes the pointer over a moment after the first motion, so the end is approached once
+        """Presses, moves, and releases. The program must get the press before the pointer is
+        elsewhere. A window manager grabs the pointer a moment after the first motion, so the pointer moves to the end once
         more after that."""
         near = [(a + 2 * b) / 3 for a, b in zip(start, end)]
         self.mouse("mousemove", *start, "mousedown", "1", "sleep", "0.3")
@@ -103,7 +103,7 @@ def popover_follows_a_window_that_is_dragged_by_its_bar():
         probe.tell("popover")
         probe.wait("the popover", lambda state: state["popover"])
         x, y = before[0] + 400, before[1] + 30
-        # The window manager takes the drag over after the first 12 points, and moves the window from there on.
+        # The window manager continues the drag after the first 12 points, and moves the window from there on.
         desktop.mouse("mousemove", x, y, "mousedown", "1", "mousemove", x + 12, y, "sleep", "0.3", "mousemove", x + 40,
                       y - 20, "sleep", "0.2", "mousemove", x + 72, y - 40, "sleep", "0.2", "mouseup", "1")
         state = probe.wait("the window to move", lambda state: state["window"][:2] == [before[0] + 60, before[1] - 40])
@@ -203,7 +203,7 @@ def traffic_lights_work():
     with Desktop() as desktop:
         probe = desktop.probe()
         window = probe.report()["window"]
-        # Close, minimize and zoom stand 24 points apart from the left margin of 60.
+        # Close, minimize and zoom are 24 points apart, from the left margin of 60 on.
         close, minimize, zoom = [(window[0] + 68 + 24 * i, window[1] + 30) for i in range(3)]
         desktop.mouse("mousemove", *zoom, "click", "1")
         probe.wait("the window to fill the screen", lambda state: state["maximized"] and state["window"][2] == 1600)
@@ -269,7 +269,7 @@ def mouse_goes_through_the_band_around_the_balloon():
     with Desktop() as desktop:
         probe = desktop.probe("animates")
         x, y = middle_of(probe.report()["anchor"])
-        # The band around the tip covers the anchor's lower half, and still the anchor takes the second click.
+        # The band around the tip covers the anchor's lower half, but the anchor still gets the second click.
         desktop.mouse("mousemove", x + 10, y + 15, "click", "1")
         state = probe.wait("the popover", lambda state: state["popover"])
         wait_for("the balloon", lambda: desktop.pixel(x, y + 80) == GREEN)
