@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// A full repaint of every control into a picture of twice the size, which is more than a screen asks for; and what the
-// animated progress bar takes of a processor.
+// A full repaint of every control into a picture of twice the size, which is more than a screen needs; and the
+// processor time of the animated progress bar.
 #include "widgets/buttons/CheckboxButton.h"
 #include "widgets/buttons/HoverButton.h"
 #include "widgets/buttons/IconButton.h"
@@ -98,7 +98,7 @@ void progressBar(benchmark::State &state)
 }
 BENCHMARK(progressBar)->Unit(benchmark::kMicrosecond);
 
-/// What running stripes cost while they are seen: processor time of the whole process over time that passed.
+/// The cost of visible, moving stripes: processor time of the whole process divided by elapsed time.
 void animatedProgressBar(benchmark::State &state)
 {
     LBProgressBar bar;

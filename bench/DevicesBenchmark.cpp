@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How long the device matrix takes to filter and to start every fade. Runs without a screen: QT_QPA_PLATFORM=offscreen.
+// The time in which the device matrix filters and starts all fades. Runs without a screen: QT_QPA_PLATFORM=offscreen.
 #include "devices/DeviceViewController.h"
 #include "resources/Resources.h"
 #include "tests/doubles/RecordingServices.h"
@@ -14,7 +14,7 @@ using namespace lumora;
 namespace
 {
 
-/// OpenGL 3.0 leaves one device of seventeen, so that ticking and unticking it starts nearly all fades that there are.
+/// Only one of seventeen devices has OpenGL 3.0, so ticking and unticking it starts nearly all fades.
 void filtersAndStartsTheFades(benchmark::State &state)
 {
     RecordingServices services;

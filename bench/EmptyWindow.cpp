@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What a start is compared with: a window of the same size with nothing in it.
+// The reference for a start: an empty window of the same size.
 #include <QApplication>
 #include <QWidget>
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Linked into a program, ends it as soon as its first window has drawn its first frame; bench/compare-start measures
-// from the outside how long that took.
+// Linked into a program, this ends it as soon as its first window has drawn its first frame; bench/compare-start
+// measures that time from outside.
 #include <QCoreApplication>
 #include <QEvent>
 #include <QTimer>
@@ -22,7 +22,7 @@ protected:
         const auto *widget = event->type() == QEvent::Paint ? qobject_cast<QWidget *>(watched) : nullptr;
         if (widget != nullptr && widget->isWindow() && !m_seen) {
             m_seen = true;
-            // Behind the flush of the frame that is being drawn.
+            // Queued, to run after the flush of the current frame.
             QTimer::singleShot(0, this, [] { ::_exit(0); });
         }
         return QObject::eventFilter(watched, event);

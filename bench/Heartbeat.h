@@ -19,7 +19,7 @@ inline double milliseconds(qint64 nanoseconds)
     return static_cast<double>(nanoseconds) / 1e6;
 }
 
-/// A timer that should fire every millisecond; how much later it does is how long the loop could not take input.
+/// A timer that should fire every millisecond; its delay is the time in which the event loop could not handle input.
 class Heartbeat final : public QObject
 {
 public:
@@ -51,7 +51,7 @@ public:
     }
 
 private:
-    /// What the thread itself used so far, whatever else the machine did; nanoseconds.
+    /// The thread's own processor time so far, in nanoseconds.
     static qint64 work()
     {
         timespec used = {};

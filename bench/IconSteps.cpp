@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The steps between a source picture and its icon files, one by one, on the sources that bench/make_sources.py writes:
-// bench_icons PHOTO.png DRAWING.png [--benchmark_...]
+// The single steps from a source picture to its icon files, with the sources of bench/make_sources.py: bench_icons
+// PHOTO.png DRAWING.png [--benchmark_...]
 #include "icons/IconExport.h"
 #include "icons/IconSource.h"
 #include "icons/RenderedIcons.h"

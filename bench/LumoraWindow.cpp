@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The window's program as it is, for bench/compare-start.
+// The unchanged program of the window, for bench/compare-start.
 #include "app/WindowProgram.h"
 
 int main(int argc, char **argv)

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How long the color picker takes from the click on its well to its first frame, and to repaint for one step of a drag
+// The time of the color picker from the click on its well to its first frame, and of a repaint for one step of a drag
 // in the wheel. Runs without a screen: QT_QPA_PLATFORM=offscreen.
 #include "color/picker/BFColorPickerPopover.h"
 #include "color/picker/BFColorPickerViewController.h"
@@ -24,7 +24,7 @@ using namespace lumora;
 namespace
 {
 
-/// Says when the picker was painted.
+/// Records when the picker was painted.
 class FirstPaint final : public QObject
 {
 public:
@@ -38,7 +38,8 @@ protected:
     }
 };
 
-/// Time since it was made: on the wall for the benchmark, and of the processor, which a busy machine does not stretch.
+/// The time since its construction: elapsed time for the benchmark, and processor time, which does not depend on the
+/// machine's load.
 class Stopwatch
 {
 public:
@@ -60,14 +61,14 @@ private:
     std::chrono::steady_clock::time_point m_wall = std::chrono::steady_clock::now();
 };
 
-/// Sleeps where there is nothing to do, so that waiting is not work.
+/// Sleeps while there is nothing to do, so that waiting takes no processor time.
 void waitFor(const FirstPaint &first)
 {
     while (!first.painted)
         QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
 }
 
-/// A window as the program has it: what it shows has loaded the fonts.
+/// A window as in the program: its content has loaded the fonts.
 class WindowWithAWell
 {
 public:
@@ -131,7 +132,7 @@ void dragsInTheWheel(benchmark::State &state)
     QCoreApplication::processEvents();
     FirstPaint painted;
     panel->contentView()->installEventFilter(&painted);
-    // Never where the run before ended: a color that is not new is not drawn.
+    // Never at the end of the previous run, since an unchanged color is not drawn.
     float turn = panel->model()->picked().hsb.hue;
     for (auto _ : state) {
         turn += 0.013F;
@@ -150,7 +151,7 @@ BENCHMARK(dragsInTheWheel)->UseManualTime()->Unit(benchmark::kMillisecond);
 int main(int argc, char **argv)
 {
     QApplication application(argc, argv);
-    // Animations keep the program's own pace.
+    // Animations have the same frame clock as in the program.
     const FrameClock frames;
     loadResources();
     installTexts(application, QLocale(QStringLiteral("en")));

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Times tool switches up to the drawn frame, and how long the event loop stalls while all platforms are exported.
+// The time of tool switches up to the drawn frame, and the gaps of the event loop while all platforms are exported.
 #include "Heartbeat.h"
 #include "app/AppDelegate.h"
 #include "app/ToolTable.h"
@@ -53,7 +53,7 @@ void timeSwitches(AppDelegate &delegate, QTextStream &out)
         << " ms, longest " << milliseconds(times.back()) << " ms\n";
 }
 
-/// What is made behind the first frame, one thing a turn: how long the longest turn takes.
+/// The parts that are made after the first frame, one per turn: the time of the longest turn.
 void timeMaking(AppDelegate &delegate, QTextStream &out)
 {
     while (!delegate.window()->windowHandle()->isExposed())

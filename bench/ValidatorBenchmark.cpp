@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// usage: bench_validator FILE.ipa   How long the event loop stalls while the window reads the package.
+// usage: bench_validator FILE.ipa The gaps of the event loop while the window reads the package.
 #include "Heartbeat.h"
 #include "app/AppDelegate.h"
 #include "resources/Resources.h"
@@ -38,7 +38,7 @@ int main(int argc, char **argv)
     delegate.activate();
     while (!delegate.window()->windowHandle()->isExposed())
         QApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    // The first frames are the start's, not the reading's.
+    // The first frames belong to the start, not to the reading.
     QElapsedTimer clock;
     clock.start();
     while (clock.elapsed() < 500)

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// How long the windows of the widget kit take to draw: a popover from the call that shows it to its first pixel, and a
-// full repaint of what the windows draw themselves. Runs without a screen: QT_QPA_PLATFORM=offscreen.
+// The drawing times of the widget kit's windows: a popover from the call that shows it to its first pixel, and a full
+// repaint of what the windows draw themselves. Runs without a screen: QT_QPA_PLATFORM=offscreen.
 #include "widgets/popover/SFBPopover.h"
 #include "widgets/style/FrameClock.h"
 #include "widgets/window/INAppStoreWindow.h"
@@ -17,7 +17,7 @@ using namespace lumora;
 namespace
 {
 
-/// Says when a popover was painted so that it can be seen: a fade begins with what leaves no mark on a screen.
+/// Records when a popover was painted visibly: a fade begins with frames that show nothing.
 class FirstPaint : public QObject
 {
 public:
@@ -47,7 +47,7 @@ QWidget *message()
     return content;
 }
 
-/// What a window paints on a picture of its own at a scale factor, nothing cached by the platform.
+/// Paints a window into a picture at a scale factor, without caches of the platform.
 void repaint(benchmark::State &state, QWidget *widget)
 {
     const auto scale = static_cast<qreal>(state.range(0));
@@ -132,7 +132,7 @@ int main(int argc, char **argv)
 {
     const QApplication application(argc, argv);
     const FrameClock frames;
-    // The platform without a screen remarks on every window that it cannot raise it.
+    // The offscreen platform logs for every window that it cannot raise it.
     QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();

@@ -4,8 +4,8 @@
 
 usage: bench/downscale_batch.py LUMORA [--runs N] [--keep FOLDER] [--peer NAME ...]
 
-The pictures are made by ImageMagick from fixed seeds. sharp is installed by npm into a scratch folder. vipsthumbnail
-knows no percentage: it gets the box in which its pictures have as many pixels together as the halves.
+ImageMagick makes the pictures from fixed seeds. npm installs sharp into a temporary folder. vipsthumbnail
+has no percentage: it gets the box in which its pictures have the same total of pixels as the halves.
 Prints times and processor times (user and system; best of the runs, taken in turns), the bytes written, and Lumora's
 ratio to each peer. The processor time hardly depends on what else the machine is doing.
 """
@@ -34,7 +34,7 @@ PHOTO = ["-attenuate", "0.1", "+noise", "Gaussian"]
 
 
 def drawing(width, height, number):
-    """A rounded button with a gradient, a disc and a stroke on transparent ground."""
+    """A rounded button with a gradient, a disc and a stroke on a transparent background."""
     hue = number * 47 % 360
     inset = max(2, min(width, height) // 12)
     radius = min(width, height) // 6
@@ -50,7 +50,7 @@ def photo(width, height, number):
     return ["-seed", str(number), "-size", f"{width}x{height}", "plasma:fractal", *PHOTO]
 
 
-# (how many, kind, sizes in turn, what is appended, PNG flavor)
+# (number, kind, sizes in turn, appended arguments, PNG flavor)
 MIX = [
     (50, drawing, [(58, 58), (80, 80), (88, 88), (120, 120), (152, 152)], [], "PNG32"),
     (40, drawing, [(200, 88), (320, 100), (560, 120), (640, 180)], [], "PNG32"),
@@ -79,7 +79,7 @@ def make_pictures(folder):
 
 
 def box_of_as_many_pixels(sizes, wanted):
-    """The square box into which the pictures, shrunk only, fit with that many pixels together."""
+    """The square box for which the pictures, only shrunk, have that many pixels in total."""
     def pixels(box):
         total = 0
         for width, height in sizes:

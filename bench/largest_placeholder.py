@@ -14,7 +14,7 @@ JOBS = {"9999 x 9999": ["--size", "9999x9999"], "the iOS set": ["--set", "ios"],
 
 
 def run(command):
-    """Seconds, seconds of processor, and the most memory in bytes that the process held."""
+    """Seconds, seconds of processor time, and the process's peak memory in bytes."""
     start = time.perf_counter()
     child = os.posix_spawn(command[0], command, os.environ, file_actions=[(os.POSIX_SPAWN_OPEN, 1, "/dev/null", os.O_WRONLY, 0)])
     _, status, usage = os.wait4(child, 0)

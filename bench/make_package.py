@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""usage: make_package.py FILE.ipa [NAME]   An app package of 100 MB in 2,000 files, 200 of them pictures; with NAME of the
-pictures only, called NAME000.png and so on; with a number instead of NAME as the first, of that many MB."""
+"""usage: make_package.py FILE.ipa [NAME]   An app package of 100 MB in 2,000 files, 200 of them pictures; with NAME only
+the pictures, called NAME000.png and so on; with a number instead of NAME, the first form with that many MB."""
 
 import plistlib
 import random
@@ -30,7 +30,7 @@ def apple_icon(edge):
 
 
 def content(generator, size):
-    """Half noise, half text: what code, pictures and tables of a real app pack to together."""
+    """Half noise, half text, which compresses like the code, pictures and tables of a real app."""
     noise = generator.randbytes(size // 2)
     line = b"%08d the same words again and again, as in tables of texts\n"
     text = b"".join(line % generator.randrange(10**8) for _ in range(size // 2 // len(line % 0) + 1))

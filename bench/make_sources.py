@@ -1,10 +1,10 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Writes the sources that the icon comparison runs on, 1024 x 1024, opaque, the same on every machine:
+"""Writes the sources of the icon comparison, 1024 x 1024, opaque, the same on every machine:
 
-photo.png    light and shade of every scale under the noise of a camera's sensor
-drawing.png  an icon as they are drawn today: flat shapes with smooth edges and soft shadows over a gradient
-plain.png    the same shapes in one color each on a ground of one color, nothing soft
+photo.png    light and shade of every scale with the noise of a camera's sensor
+drawing.png  a modern icon: flat shapes with smooth edges and soft shadows over a gradient
+plain.png    the same shapes in one color each on a background of one color, without soft parts
 
 usage: make_sources.py FOLDER"""
 import math

@@ -3,9 +3,9 @@
 """usage: validate_packages.py PATH-TO-LUMORA [RUNS]   `lumora validate` as a whole process, against its promises:
 
 on a package of 100 MB in 2,000 files at most 1.3 times `unzip -q` of the same file, measured in turn in the same run;
-at most 20 ms more processor time for 200 pictures when they have names of icons (in a package of nothing else, where the
-difference does not drown in the unpacking); never more than 80 MB of memory, not for 3.9 GB and not for 100,000 files
-either. Times are the best of the runs. Exit status 1 when a promise is broken.
+at most 20 ms more processor time for 200 pictures when they have names of icons (in a package without other files, where the
+unpacking does not hide the difference); never more than 80 MB of memory, not for 3.9 GB and not for 100,000 files
+either. Times are the best of the runs. The exit status is 1 when a promise is broken.
 """
 
 import os
@@ -19,7 +19,7 @@ import zipfile
 from pathlib import Path
 
 MAKER = Path(__file__).with_name("make_package.py")
-# Of holes, so that it takes no room on the disk.
+# Made of holes, so that it takes no disk space.
 LARGE_MAKER = Path(__file__).parent.parent / "tests" / "validator" / "make_large_package.py"
 
 
@@ -35,8 +35,8 @@ def run(command, **how):
 
 
 def peak_memory(command, **how):
-    """In MB. The system's own account of it begins with what this script takes, before it becomes the program; so the
-    program is asked while it runs, for the most that it had until then."""
+    """The peak memory in MB. The system's own figure includes this script's memory before it becomes the program. So the
+    peak so far is read from the running program."""
     process = subprocess.Popen(command, stdout=subprocess.DEVNULL, **how)
     peak = 0
     while process.poll() is None:
@@ -44,7 +44,7 @@ def peak_memory(command, **how):
             if os.readlink(f"/proc/{process.pid}/exe") == str(command[0]):
                 status = Path(f"/proc/{process.pid}/status").read_text()
                 peak = max(peak, *(int(line.split()[1]) for line in status.splitlines() if line.startswith("VmHWM")))
-        except (OSError, TypeError):  # it has ended, or has given its memory back
+        except (OSError, TypeError):  # it has ended, or has returned its memory
             pass
         time.sleep(0.001)
     return peak / 1024

@@ -1,5 +1,6 @@
 # SPDX-License-Identifier: MIT
-# ccache makes rebuilds cheap. The settings let its entries serve another checkout of the same tree, precompiled headers included.
+# ccache makes rebuilds fast. With these settings another checkout of the same tree can use its entries, precompiled headers
+# included.
 find_program(LUMORA_CCACHE ccache)
 mark_as_advanced(LUMORA_CCACHE)
 if(LUMORA_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-# Every library the project uses, found once. docs/architecture.md says why each was chosen.
+# Finds all libraries of the project. docs/architecture.md explains each choice.
 find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets Svg DBus LinguistTools)
 if(LUMORA_TESTS)
   find_package(Qt6 6.4 REQUIRED COMPONENTS Test)

@@ -29,7 +29,7 @@ function(lumora_target_defaults name kind)
   target_precompile_headers(${name} REUSE_FROM lumora_pch_${kind})
 endfunction()
 
-# Values in, values out: Qt Core and Qt Gui only.
+# The engines: values in, values out; Qt Core and Qt Gui only.
 function(lumora_engine name)
   cmake_parse_arguments(ARG "" "" "SOURCES;LINKS;PRIVATE_LINKS" ${ARGN})
   add_library(${name} STATIC ${ARG_SOURCES})
@@ -38,7 +38,7 @@ function(lumora_engine name)
   set_property(GLOBAL APPEND PROPERTY LUMORA_ENGINES ${name})
 endfunction()
 
-# What the user sees and touches.
+# The user interface.
 function(lumora_widget_library name)
   cmake_parse_arguments(ARG "" "" "SOURCES;LINKS;PRIVATE_LINKS" ${ARGN})
   add_library(${name} STATIC ${ARG_SOURCES})
@@ -52,7 +52,7 @@ function(lumora_test name)
   add_executable(${name} ${ARG_SOURCES})
   target_link_libraries(${name} PRIVATE ${ARG_LINKS} Qt6::Test)
   target_compile_definitions(${name} PRIVATE LUMORA_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
-  # A test includes its own .moc, so this file is nearly empty; the precompiled header would cost a second in each.
+  # A test includes its own .moc, so this file is nearly empty; the precompiled header would take a second for each test.
   set_source_files_properties(${CMAKE_CURRENT_BINARY_DIR}/${name}_autogen/mocs_compilation.cpp
     PROPERTIES SKIP_PRECOMPILE_HEADERS ON)
   if(ARG_WIDGETS)
@@ -69,8 +69,8 @@ function(lumora_test name)
   lumora_time_limit(${ARG_TIMEOUT} ${name})
 endfunction()
 
-# Instrumented code takes its time. The one factor that all limits are stretched by; what a test waits for by itself
-# it stretches by LUMORA_TIME_FACTOR, too.
+# Instrumented code is slow. This one factor multiplies all limits; tests multiply their own waiting times by
+# LUMORA_TIME_FACTOR, too.
 set(lumora_time_factor 1)
 if(LUMORA_SANITIZERS)
   set(lumora_time_factor 10)
@@ -78,12 +78,12 @@ endif()
 function(lumora_time_limit seconds)
   math(EXPR limit "${seconds} * ${lumora_time_factor}")
   set_tests_properties(${ARGN} PROPERTIES TIMEOUT ${limit})
-  # The test library's own limit is one for each function, in milliseconds.
+  # The test library's own limit is for each function, in milliseconds.
   set_property(TEST ${ARGN} APPEND PROPERTY ENVIRONMENT
     LUMORA_TIME_FACTOR=${lumora_time_factor} QTEST_FUNCTION_TIMEOUT=${limit}000)
 endfunction()
 
-# Fails the configuration where a library reaches, over any number of links, what its kind must not know.
+# Fails the configuration if a library depends, directly or indirectly, on a library that its kind must not know.
 function(lumora_reaches result name wanted)
   set(seen "")
   set(open ${name})

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What most files include. Every template in here is instantiated again in each file, so a header that few files use costs more
-// than it saves.
+// The headers that most files include. Every template in here is instantiated again in each file, so a header that few
+// files use takes more time than it saves.
 #pragma once
 
 #include <QColor>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Any bytes as an app package: unpacked, read, judged and removed as the program does it. Whatever the archive holds,
+// Any bytes as an app package: unpacked, read, judged and removed as in the program. Whatever the archive contains,
 // nothing may appear beside the work folder.
 #include "foundation/Log.h"
 #include "validator/archive/FolderSource.h"
@@ -28,7 +28,7 @@ void inspect(const QString &path, const QString &folder)
     inspectPackage(path, {folder, decoder, fuzzLimits});
 }
 
-/// The view of the archive has to show what unpacking leaves: names, damage, failure.
+/// The view of the archive must show the results of unpacking: names, damage, failure.
 void compareWithView(const QString &path, const QString &folder)
 {
     const CmsProfileDecoder decoder;
@@ -38,7 +38,7 @@ void compareWithView(const QString &path, const QString &folder)
     if (!view || !unpacked)
         return;
     const WholeReading reading = view.value()->readAll([](const PackageEntry &) { return nullptr; });
-    // A limit ends both, though not at the same entry.
+    // A limit ends both, but not at the same entry.
     if (!extraction.outcome || reading.failure)
         return;
     if (reading.damaged != extraction.damagedEntries)
@@ -53,7 +53,7 @@ void compareWithView(const QString &path, const QString &folder)
         std::abort();
 }
 
-/// The way round minizip that encrypted entries take.
+/// The reader without minizip, as for encrypted entries.
 void extractWithPassword(const QString &path, const QString &folder)
 {
     ZipArchive archive;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Any bytes as a Mach-O file: every fact stays inside the file and what is sorted is sorted.
+// Any bytes as a Mach-O file: every fact stays inside the file, and sorted lists are sorted.
 #include "validator/binary/MachOReader.h"
 
 #include <algorithm>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Any text as a color and as a palette: what is understood is written in every form, and every form understood again as
+// Any text as a color and as a palette: a color that is read is written in every form, and every form is read back as
 // the same color.
 #include "color/forms/ColorForm.h"
 #include "color/forms/ColorReader.h"
@@ -19,7 +19,7 @@ void hold(bool expected)
         std::abort();
 }
 
-/// A color halfway between two bytes may fall either way once a form has rounded it.
+/// A color halfway between two bytes may round either way once a form has rounded it.
 template <typename Bytes> bool areNext(const Bytes &one, const Bytes &other)
 {
     return std::equal(one.begin(), one.end(), other.begin(),
@@ -30,7 +30,7 @@ void checkForms(const WideColor &color)
 {
     for (const ColorForm &form : colorForms()) {
         const Result<ColorReading> back = readColor(formText(form, color));
-        // A color far beyond every screen may not be one that the forms for any gamut can state.
+        // Even the forms for any gamut cannot write every color far outside all screens.
         if (form.showsAnyGamut && (!back || isClippedIn(color, RgbSpace::DisplayP3)))
             continue;
         hold(back.ok() && areNext(bytesOf(back.value().color), bytesOf(color)));

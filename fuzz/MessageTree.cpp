@@ -16,7 +16,7 @@ constexpr std::uint8_t longTag = 0x1F;
 constexpr std::uint8_t more = 0x80;
 constexpr int deepest = 60;
 
-/// A place in the bytes from which values are taken.
+/// A position in the bytes from which values are read.
 struct Reader
 {
     const Bytes &bytes;
@@ -115,7 +115,7 @@ void append(Bytes &out, const MessageValue &value)
         out.insert(out.end(), {0, 0});
 }
 
-/// The place of a value: its row of siblings and its number there.
+/// The place of a value: its siblings and its index among them.
 struct Place
 {
     std::vector<MessageValue> *row;
@@ -176,7 +176,7 @@ void mutateOneValue(std::vector<MessageValue> &values, std::minstd_rand &random,
         place.row->insert(position, MessageValue(value));
         break;
     case 2:
-        // A copy first: the other one may lie inside this one, or hold it.
+        // A copy first, since one value may contain the other.
         value = MessageValue(places[random() % places.size()].value());
         break;
     case 3:

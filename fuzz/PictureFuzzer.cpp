@@ -9,7 +9,7 @@
 
 extern "C" int LLVMFuzzerInitialize(int *count, char ***arguments)
 {
-    // Qt finds its decoders by it.
+    // Qt needs it to find its decoders.
     static const QCoreApplication application(*count, *arguments);
     return 0;
 }
@@ -21,7 +21,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     if (bytes.startsWith("\x89PNG"))
         mendChecksums(bytes);
     const auto stored = lumora::storedPixelSize(bytes, {});
-    // Large ones are read all the same, but too slowly to find anything.
+    // Large pictures would work, too, but too slowly to find anything.
     if (stored && qint64{stored.value().width()} * stored.value().height() > largestArea)
         return 0;
     const auto picture = lumora::readPicture(bytes, {});

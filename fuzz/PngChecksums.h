@@ -3,6 +3,6 @@
 
 #include <QByteArray>
 
-/// Puts the checksum of every chunk right, as far as chunks can be made out: chance would never do that, and a reader
-/// that checks them would look at nothing else.
+/// Corrects the checksum of every chunk that can be found: random changes would never do that, and a reader that checks
+/// them would not read any further.
 void mendChecksums(QByteArray &bytes);

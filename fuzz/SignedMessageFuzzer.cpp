@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// Any bytes as a provisioning profile: the message opened and its content turned into text. OpenSSL, which does most of
-// it, is not compiled for the fuzzer and so does not steer it. What steers instead are the places in it that complain
-// and the shape of the message; and the mutations know what a message is made of.
+// Any bytes as a provisioning profile: the message opened and its content turned into text. OpenSSL does most of the
+// work, but it is not compiled for the fuzzer and so does not guide it. Instead the places in OpenSSL that report
+// errors and the structure of the message guide it, and the mutations know the parts of a message.
 #include "MessageTree.h"
 #include "validator/bundle/ProfileDecoder.h"
 
@@ -17,7 +17,7 @@
 namespace
 {
 
-/// Counters that the fuzzer takes for code of its own: what sets one that was never set is worth keeping.
+/// Counters that the fuzzer treats like those of code: it keeps an input that sets a new one.
 __attribute__((section("__libfuzzer_extra_counters"))) std::array<std::uint8_t, 4096> counters;
 
 void count(std::size_t what)
@@ -27,7 +27,7 @@ void count(std::size_t what)
         ++counter;
 }
 
-/// Where in OpenSSL this message is found fault with.
+/// The places in OpenSSL that report errors about this message.
 void countComplaints(const uint8_t *data, size_t size)
 {
     CMS_ContentInfo *message = ::d2i_CMS_ContentInfo(nullptr, &data, static_cast<long>(size));

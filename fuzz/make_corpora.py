@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""usage: make_corpora.py FOLDER   Seeds for the fuzz targets, one folder each, out of the test suite's fixtures."""
+"""usage: make_corpora.py FOLDER   Seeds for the fuzz targets, one folder each, from the test suite's fixtures."""
 
 import re
 import subprocess
@@ -22,7 +22,7 @@ def seed(folder, script, pattern, *arguments):
 
 
 def seed_colors(folder):
-    """Every text that the reader's test has in a row of its own."""
+    """All texts in the rows of the reader's test."""
     folder.mkdir(parents=True, exist_ok=True)
     test = (TESTS / "color/forms/ColorReaderTest.cpp").read_text()
     for number, text in enumerate(re.findall(r'row\("((?:[^"\\]|\\.)+)"', test)):
@@ -30,7 +30,7 @@ def seed_colors(folder):
 
 
 def seed_models(folder):
-    """A few rows of the device list each, since a whole one is larger than what a fuzzer changes well."""
+    """A few rows of the device list each, since a whole list is too large for a fuzzer."""
     folder.mkdir(parents=True, exist_ok=True)
     lines = (TESTS.parent / "devices/today/models.csv").read_text().splitlines(keepends=True)
     rows = [line for line in lines if not line.startswith("#")]

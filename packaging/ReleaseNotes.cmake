@@ -1,10 +1,10 @@
 # SPDX-License-Identifier: MIT
-# Reads CHANGELOG.md, the one source of release notes, into the forms that AppStream and Debian want:
+# Converts CHANGELOG.md, the only source of release notes, to the forms for AppStream and Debian:
 #   LUMORA_METAINFO_RELEASES  <release> elements, indented
-#   LUMORA_DEBIAN_CHANGELOG   one Debian changelog stanza a release
+#   LUMORA_DEBIAN_CHANGELOG   one Debian changelog stanza per release
 # A release is "## VERSION (YYYY-MM-DD)", followed by one "- " line a change.
 
-# Sakamoto's rule for the Gregorian calendar; Debian's changelog names the day of the week.
+# Sakamoto's rule for the Gregorian calendar, since Debian's changelog contains the day of the week.
 function(lumora_day_of_week result year month day)
   set(shifts 0 3 2 5 0 3 5 1 4 6 2 4)
   math(EXPR index "${month} - 1")
@@ -33,7 +33,7 @@ function(lumora_debian_date result date)
   set(${result} "${weekday}, ${day} ${month_name} ${year} 12:00:00 +0000" PARENT_SCOPE)
 endfunction()
 
-# Breaks a change at blanks into the lines of a Debian changelog entry, at most 80 columns wide.
+# Breaks a change at spaces into the lines of a Debian changelog entry, at most 80 columns wide.
 function(lumora_debian_entry result change)
   string(REPLACE " " ";" words "${change}")
   set(text "")

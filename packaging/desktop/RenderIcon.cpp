@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// usage: lumora_render_icon PICTURE.svg SIZE OUT.png
-// Draws the application's icon for the sizes of the icon theme; desktops without an SVG reader take these.
+// usage: lumora_render_icon PICTURE.svg SIZE OUT.png Draws the application's icon in the sizes of the icon theme, for
+// desktops without an SVG reader.
 #include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
@@ -23,8 +23,8 @@ int main(int argc, char **argv)
         std::fputs("lumora_render_icon: no such picture or size\n", stderr);
         return 1;
     }
-    // Small sizes gain from being drawn large and averaged: the painter's own antialiasing knows 256 steps of coverage
-    // only where one edge crosses a pixel.
+    // Small sizes are drawn large and averaged: the painter's own antialiasing is exact only if a single edge crosses a
+    // pixel.
     const int drawn = size < 128 ? size * 8 : size;
     QImage image(drawn, drawn, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);

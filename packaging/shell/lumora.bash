@@ -5,7 +5,7 @@
 _lumora_general="--json --quiet --verbose --help --version"
 _lumora_tools="icons placeholders resizer color devices validator"
 
-# The command that a word is, in the name that the other functions know: a tool's name is its command's, too.
+# The name of the command that a word means; a tool's name also means its command.
 _lumora_command() {
   case $1 in
     icons | icon | placeholders | downscale | color | devices | validate | help | version) echo "$1" ;;
@@ -28,7 +28,7 @@ _lumora_options() {
   esac
 }
 
-# What an option takes: words, "list:" and words, "folder", "file" or "none"; nothing for a flag.
+# The values of an option: words, "list:" and words, "folder", "file" or "none"; empty for a flag.
 _lumora_values() {
   case $1:$2 in
     *:--to | *:--out) echo folder ;;
@@ -47,7 +47,7 @@ _lumora_values() {
   esac
 }
 
-# The endings of the files that a command works on, as an extended pattern.
+# The endings of a command's files, as an extended pattern.
 _lumora_operands() {
   case $1 in
     icons | icon) echo "@(png|jpg|jpeg|tif|tiff|webp|bmp|gif|icns)" ;;
@@ -57,7 +57,7 @@ _lumora_operands() {
   esac
 }
 
-# One line of each of its arguments becomes one offer, so that names may hold blanks.
+# Each line of its arguments becomes one completion, so that names may contain spaces.
 _lumora_offer() {
   local offer
   COMPREPLY=()
@@ -70,7 +70,7 @@ _lumora_words() {
   _lumora_offer < <(compgen -W "$1" -- "$2")
 }
 
-# A list separated by commas: what stands before the last comma is kept.
+# A list separated by commas: the part before the last comma is kept.
 _lumora_list() {
   local before=""
   [[ $2 == *,* ]] && before=${2%,*},
@@ -83,7 +83,7 @@ _lumora_folders() {
   _lumora_offer < <(compgen -d -- "$1")
 }
 
-# Folders, and files with one of the endings in small or capital letters.
+# Folders, and files with one of the endings in lower or upper case.
 _lumora_files() {
   local name endings=$1 restore
   restore=$(shopt -p extglob nocasematch)
@@ -108,7 +108,7 @@ _lumora_value() {
 
 _lumora() {
   local word previous command="" values
-  # bash takes "--tool=ic" apart at the equals sign; put together again, it is one word.
+  # bash splits "--tool=ic" at the equals sign; here it becomes one word again.
   word=${COMP_WORDS[COMP_CWORD]}
   previous=${COMP_WORDS[COMP_CWORD - 1]}
   ((COMP_CWORD > 1)) && command=$(_lumora_command "${COMP_WORDS[1]}")

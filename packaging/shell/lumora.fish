@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 # fish completion for lumora. A new command gets a line in the first block, its options a block of their own.
 
-# Folders and the files with one of the endings, in small or capital letters. fish itself offers every file otherwise.
+# Folders and the files with one of the endings, in lower or upper case. Otherwise fish would offer every file.
 function __lumora_files
     __fish_complete_path (commandline -ct) | string match -r -i -- ".*(?:/|\.(?:"(string join '|' $argv)"))(?=\t|\$).*"
 end
