@@ -28,7 +28,7 @@ def fenced(text, kind):
 def readme_lines():
     text = (SOURCE / "README.md").read_text()
     # The commands under Install build the program itself.
-    return fenced(text.split("## One example a tool")[1], "sh")
+    return fenced(text.split("## One example per tool")[1], "sh")
 
 
 def ci_lines():
