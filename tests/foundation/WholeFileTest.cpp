@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "foundation/WholeFile.h"
+#include "foundation/PendingFile.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -224,6 +225,21 @@ private slots:
         QVERIFY(writeWholeFile(path(u"a.png"_s), newBytes).ok());
         QCOMPARE(entries(m_folder->path()), QStringList{u"a.png"_s});
         QCOMPARE(get(path(u"a.png"_s)), newBytes);
+    }
+
+    void aFileThatCannotTakeItsNameLeavesNothing()
+    {
+        QVERIFY(QDir(m_folder->path()).mkdir(u"a.png"_s));
+        {
+            auto file = PendingFile::begin(QFile::encodeName(path(u"a.png"_s)));
+            QVERIFY(file.ok());
+            QVERIFY(file.value().write(newBytes).ok());
+            // Only a file can be replaced by renaming.
+            const Outcome published = file.value().publish();
+            QVERIFY(!published.ok());
+            QCOMPARE(published.failure().detail, qt_error_string(EISDIR));
+        }
+        QCOMPARE(entries(m_folder->path()), QStringList{u"a.png"_s});
     }
 
     void whatAnotherProcessWritesStays()
