@@ -14,8 +14,10 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QLocale>
+#include <QLoggingCategory>
 #include <QTemporaryDir>
 #include <QTextStream>
+#include <QWindow>
 
 #include <vector>
 

@@ -14,6 +14,7 @@
 #include <QFileInfo>
 #include <QLocale>
 #include <QLoggingCategory>
+#include <QWindow>
 
 int main(int argc, char **argv)
 {

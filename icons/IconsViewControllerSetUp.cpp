@@ -13,6 +13,8 @@
 #include "widgets/style/Fonts.h"
 #include "widgets/style/Palette.h"
 
+#include <QComboBox>
+
 namespace lumora
 {
 

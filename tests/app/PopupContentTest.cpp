@@ -11,6 +11,7 @@
 #include "widgets/style/Fonts.h"
 #include "widgets/style/Palette.h"
 
+#include <QRegularExpression>
 #include <QTest>
 #include <QTextDocument>
 #include <QTranslator>

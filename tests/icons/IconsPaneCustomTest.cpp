@@ -4,6 +4,7 @@
 #include "pictures/PictureOperations.h"
 #include "widgets/style/Fonts.h"
 
+#include <QRegularExpression>
 #include <QTest>
 
 using namespace Qt::StringLiterals;

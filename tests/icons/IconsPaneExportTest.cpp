@@ -3,6 +3,7 @@
 #include "icons/IconCatalogue.h"
 #include "pictures/PictureOperations.h"
 
+#include <QRegularExpression>
 #include <QTest>
 
 #include <semaphore>

@@ -10,6 +10,8 @@
 #include "widgets/textfield/ZKFieldEditor.h"
 
 #include <QDir>
+#include <QImageReader>
+#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>

@@ -5,6 +5,7 @@
 
 #include <QDragEnterEvent>
 #include <QMimeData>
+#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTest>
 

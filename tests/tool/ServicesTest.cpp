@@ -3,6 +3,7 @@
 #include "tool/services/LocalFiles.h"
 #include "tool/services/StartFolder.h"
 
+#include <QClipboard>
 #include <QDir>
 #include <QFileDialog>
 #include <QHeaderView>

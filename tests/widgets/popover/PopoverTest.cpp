@@ -6,6 +6,7 @@
 #include "widgets/style/FrameClock.h"
 
 #include <QSignalSpy>
+#include <QWindow>
 
 Q_DECLARE_METATYPE(QAccessible::Role)
 
