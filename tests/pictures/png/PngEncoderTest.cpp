@@ -45,6 +45,18 @@ QImage gradient(QSize size)
     return picture;
 }
 
+/// White, with soft shades in the upper part that has this share of the rows.
+QImage drawing(double shadedShare)
+{
+    QImage picture(128, 128, QImage::Format_RGB32);
+    picture.fill(Qt::white);
+    for (int y = 0; y < shadedShare * picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x)
+            picture.setPixel(x, y, qRgb(x * y / 64, (x * x + y * y) / 128, 255 - x * y / 64));
+    }
+    return picture;
+}
+
 } // namespace
 
 class PngEncoderTest : public QObject
@@ -57,6 +69,8 @@ private slots:
     void holdsTheseChunksOnly();
     void isMadeOfSeveralSectionsWhereLarge();
     void sameBytesAgain();
+    void quickFiltersWhatShrinksByIt_data();
+    void quickFiltersWhatShrinksByIt();
     void quickReadsBackAsItWas_data();
     void quickReadsBackAsItWas();
     void sameBytesFromRowsOnAnyNumberOfThreads_data();
@@ -139,6 +153,25 @@ void PngEncoderTest::sameBytesFromRowsOnAnyNumberOfThreads()
     QFETCH(QImage, picture);
     QFETCH(int, threads);
     QCOMPARE(encodePng(ImageRows(straightened(picture)), threads), encodePng(picture));
+}
+
+void PngEncoderTest::quickFiltersWhatShrinksByIt_data()
+{
+    QTest::addColumn<QImage>("picture");
+    QTest::addColumn<bool>("isFiltered");
+    QTest::newRow("a drawing with soft shades") << drawing(0.5) << true;
+    QTest::newRow("a drawing with hardly any shades") << drawing(0.02) << false;
+    QTest::newRow("a photograph") << drawing(1) << true;
+}
+
+void PngEncoderTest::quickFiltersWhatShrinksByIt()
+{
+    QFETCH(QImage, picture);
+    const QByteArray rows = inflatedPixels(encodePngQuickly(picture));
+    bool isFiltered = false;
+    for (int y = 0; y < picture.height(); ++y)
+        isFiltered = isFiltered || rows[y * (picture.width() * qsizetype{4} + 1)] != 0;
+    QTEST(isFiltered, "isFiltered");
 }
 
 void PngEncoderTest::quickReadsBackAsItWas_data()
