@@ -80,24 +80,39 @@ private slots:
     void boundsWhatABinaryListUnfoldsTo_data()
     {
         QTest::addColumn<QList<QByteArray>>("objects");
-        QTest::addColumn<qsizetype>("depth");
+        QTest::addColumn<PropertyListLimits>("limits");
         QTest::addColumn<bool>("bounded");
+        const PropertyListLimits limits;
         const QByteArray empty("\xA0", 1);
         const auto arrayOf = [](const QByteArray &members) -> QByteArray {
             return QByteArray(1, static_cast<char>(0xA0 | members.size())) + members;
         };
         const QList<QByteArray> shared{arrayOf("\1\3"), arrayOf("\2"), empty, arrayOf("\1")};
-        QTest::newRow("an empty array") << QList{empty} << qsizetype{1} << true;
-        QTest::newRow("an array that holds itself") << QList{arrayOf(QByteArray(1, '\0'))} << qsizetype{9} << false;
+        QTest::newRow("an empty array") << QList{empty} << PropertyListLimits{.depth = 1} << true;
+        QTest::newRow("an array that holds itself") << QList{arrayOf(QByteArray(1, '\0'))} << limits << false;
         QTest::newRow("two arrays that hold each other")
-            << QList{arrayOf("\1"), arrayOf(QByteArray(1, '\0'))} << qsizetype{9} << false;
-        QTest::newRow("a part that is met twice, as deep as may be") << shared << qsizetype{4} << true;
-        QTest::newRow("a part that is met twice, a step too deep") << shared << qsizetype{3} << false;
+            << QList{arrayOf("\1"), arrayOf(QByteArray(1, '\0'))} << limits << false;
+        QTest::newRow("a part that is met twice, as deep as may be")
+            << shared << PropertyListLimits{.depth = 4} << true;
+        QTest::newRow("a part that is met twice, a step too deep") << shared << PropertyListLimits{.depth = 3} << false;
+        QTest::newRow("a part that is met twice, as many values as may be")
+            << shared << PropertyListLimits{.values = 6} << true;
+        QTest::newRow("a part that is met twice, one value more") << shared << PropertyListLimits{.values = 5} << false;
+        // The letter in front is the marker: S a text of three bytes, b two 16-bit units, B two bytes of data.
+        const QList<QByteArray> twice{arrayOf("\1\1"), "Sabc"};
+        QTest::newRow("a text that is met twice, as long as may be")
+            << twice << PropertyListLimits{.expandedBytes = 6} << true;
+        QTest::newRow("a text that is met twice, one byte more")
+            << twice << PropertyListLimits{.expandedBytes = 5} << false;
+        QTest::newRow("a text with a zero") << QList{QByteArray("Sa\0c", 4)} << limits << false;
+        QTest::newRow("a text of 16-bit units") << QList{QByteArray("b\0a\1\0", 5)} << limits << true;
+        QTest::newRow("a text of 16-bit units with a zero") << QList{QByteArray("b\0a\0\0", 5)} << limits << false;
+        QTest::newRow("data with a zero") << QList{QByteArray("Ba\0", 3)} << limits << true;
     }
     void boundsWhatABinaryListUnfoldsTo()
     {
         QFETCH(QList<QByteArray>, objects);
-        QFETCH(qsizetype, depth);
+        QFETCH(PropertyListLimits, limits);
         QByteArray list("bplist00");
         QByteArray offsets;
         for (const QByteArray &object : std::as_const(objects)) {
@@ -110,7 +125,7 @@ private slots:
         const QByteArray trailer =
             QByteArray(6, '\0') + "\1\1" + number(objects.size()) + number(0) + number(list.size());
         const QByteArray file = list + offsets + trailer;
-        QTEST(binaryPlistIsBounded(file, {.depth = depth}), "bounded");
+        QTEST(binaryPlistIsBounded(file, limits), "bounded");
     }
 
     void readsXmlUpToItsLimits_data()
