@@ -2,20 +2,23 @@
 #include "ValidaterViewController.h"
 
 #include "LongWords.h"
+#include "ReportWords.h"
 #include "ShownFact.h"
 #include "ValidatePopupContentView.h"
 #include "tool/ButtonStyle.h"
 #include "tool/DropHighlight.h"
 #include "tool/LabelStyle.h"
 #include "tool/PopoverStyle.h"
+#include "tool/TimedCaption.h"
 #include "ui_ValidaterViewController.h"
-#include "validator/bundle/BundleImages.h"
+#include "validator/bundle/MetadataChecks.h"
 #include "widgets/popover/SFBPopover.h"
 #include "widgets/style/Fonts.h"
 #include "widgets/style/Palette.h"
 
+#include <QApplication>
 #include <QFileInfo>
-#include <QPainter>
+#include <QScrollBar>
 #include <QTimer>
 
 using namespace Qt::StringLiterals;
@@ -26,14 +29,17 @@ namespace lumora
 namespace
 {
 
-constexpr qreal missingIconRadius = 28;
 constexpr int titleSize = 25;
 /// The size of the invisible character that begins a fact.
 constexpr int accentRoomSize = 20;
 constexpr int readingSize = 18;
 constexpr int informationSize = 13;
+constexpr int sumSize = 18;
+/// Moves the checks in, to stand under the facts' texts: the app's icon and what is between.
+constexpr int checksIndent = 156;
 /// The total opacity of a box whose subject is absent, including the dimming of disabled boxes.
 constexpr double absentOpacity = 0.25;
+
 /// The key's text with its placeholder filled, once for each missing size.
 QStringList sentences(const char *key, QLatin1StringView placeholder, const QList<QSize> &sizes)
 {
@@ -55,30 +61,11 @@ void judge(CheckboxButton *box, bool valid)
     tell(box, valid ? qtTrId("ACCESSIBLE_CHECK_PASSED") : qtTrId("ACCESSIBLE_CHECK_FAILED"));
 }
 
-/// The outline of an icon, shown in place of a missing one.
-QPixmap missingIcon(qreal devicePixelRatio)
-{
-    QPixmap picture(QSize(appIconSize, appIconSize) * devicePixelRatio);
-    picture.setDevicePixelRatio(devicePixelRatio);
-    picture.fill(Qt::transparent);
-    QPainter painter(&picture);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(palette::panelOutline, 2, Qt::DashLine));
-    painter.drawRoundedRect(QRectF(1, 1, appIconSize - 2, appIconSize - 2), missingIconRadius, missingIconRadius);
-    return picture;
-}
-
 /// An invisible character that is higher than the line: the font counts the accents of capitals as leading, and a label
 /// with styled text clips everything above its line.
 QString roomForAccents()
 {
     return u"<span style=\"font-size:%1px\">\u200B</span>"_s.arg(accentRoomSize);
-}
-
-/// A package that cannot be read is shown as empty. One that exceeded a limit of this machine needs a message.
-bool isTooMuch(FailureCode code)
-{
-    return code == FailureCode::TooLarge || code == FailureCode::CannotWrite || code == FailureCode::CannotCreateFolder;
 }
 
 QList<QSize> squares(const QList<int> &edges)
@@ -133,6 +120,7 @@ void ValidaterViewController::awakeFromNib()
         field->setWordWrap(true);
     }
     m_ui->appIconField->setAccessibleName(qtTrId("ACCESSIBLE_VALIDATER_APP_ICON"));
+    setUpReport();
 
     m_ui->validAppIconsBox->setText(qtTrId("VALIDATER_VALIDAT_ICONS"));
     m_ui->validDefaultImagesBox->setText(qtTrId("VALIDATER_VALIDATE_DEFAULTS"));
@@ -143,11 +131,38 @@ void ValidaterViewController::awakeFromNib()
     m_ui->validFacebookAppIDBox->setText(qtTrId("VALIDATER_APP_FACEBOOK_ID"));
 }
 
+void ValidaterViewController::setUpReport()
+{
+    styleButton(m_ui->copyReportButton, qtTrId("VALIDATER_COPY_REPORT"), u"button_icon_copy"_s, palette::chromeText,
+                palette::chromeTextDark);
+    m_copyCaption = new TimedCaption([this](const QString &caption) { m_ui->copyReportButton->setText(caption); },
+                                     qtTrId("VALIDATER_COPY_REPORT"), this);
+    styleButton(m_ui->checkAgainButton, qtTrId("VALIDATER_CHECK_AGAIN"), u"button_icon_reset"_s, palette::chromeText,
+                palette::chromeTextDark);
+    styleButton(m_ui->cancelButton, qtTrId("VALIDATER_CANCEL"), palette::chromeText, palette::chromeTextDark);
+    styleLabel(m_ui->sumLabel, latoBold(sumSize), palette::chromeText);
+    styleLabel(m_ui->fileLabel, latoRegular(informationSize), palette::chromeText);
+    styleLabel(m_ui->noteLabel, latoRegular(fontSize), palette::chromeText);
+    m_ui->reportArea->viewport()->setAutoFillBackground(false);
+    m_ui->reportBody->setAutoFillBackground(false);
+    m_ui->reportBody->setParts(m_ui->factsPart, m_ui->checksPart, checksIndent);
+    m_ui->readingBar->setLightColor(palette::validator);
+    m_ui->readingBar->setDarkColor(palette::validatorBorder);
+    // How much is left of a package nobody knows before it is unpacked.
+    m_ui->readingBar->setDoubleValue(m_ui->readingBar->maxValue());
+    m_ui->readingBar->setAccessibleName(qtTrId("ACCESSIBLE_VALIDATER_PROGRESS"));
+    for (QWidget *part : {static_cast<QWidget *>(m_ui->readingBar), static_cast<QWidget *>(m_ui->cancelButton)})
+        setOpacity(part, 0);
+}
+
 void ValidaterViewController::connectActions()
 {
     using Self = ValidaterViewController;
     connect(m_ui->browseButton, &HoverButton::clicked, this, &Self::browseButtonPressed);
     connect(m_ui->resetButton, &IconButton::clicked, this, &Self::resetButtonPressed);
+    connect(m_ui->cancelButton, &HoverButton::clicked, this, &Self::cancelButtonPressed);
+    connect(m_ui->copyReportButton, &IconButton::clicked, this, &Self::copyReportButtonPressed);
+    connect(m_ui->checkAgainButton, &IconButton::clicked, this, &Self::checkAgainButtonPressed);
     connect(m_ui->validAppIconsBox, &CheckboxButton::clicked, this, &Self::checkboxAppIconsPressed);
     connect(m_ui->validDefaultImagesBox, &CheckboxButton::clicked, this, &Self::checkboxDefaultsPressed);
     connect(m_ui->validBundleIdentifier, &CheckboxButton::clicked, this, &Self::checkboxBundleIdentifierPressed);
@@ -220,6 +235,8 @@ void ValidaterViewController::paste()
 
 void ValidaterViewController::readyForIpa()
 {
+    // First what can take the keyboard, then away with what has it.
+    setReading(true);
     setOpacity(m_ui->dropView, 0);
     setOpacity(m_ui->validateInterface, 1);
     setOpacity(m_ui->readingLoaderField, 1);
@@ -235,6 +252,36 @@ void ValidaterViewController::resetButtonPressed()
     reset();
 }
 
+void ValidaterViewController::cancelButtonPressed()
+{
+    m_stop.request_stop();
+    reset();
+}
+
+void ValidaterViewController::setReading(bool reading)
+{
+    // The name fades out over the report, which can be pressed by then.
+    m_ui->readingView->setAttribute(Qt::WA_TransparentForMouseEvents, !reading);
+    setOpacity(m_ui->readingBar, reading ? 1 : 0);
+    setOpacity(m_ui->cancelButton, reading ? 1 : 0);
+    if (reading)
+        m_ui->readingBar->startAnimation();
+    else
+        m_ui->readingBar->stopAnimation();
+}
+
+bool ValidaterViewController::hasKeyboard() const
+{
+    const QWidget *focus = QApplication::focusWidget();
+    return focus != nullptr && (focus == view() || view()->isAncestorOf(focus));
+}
+
+QList<QWidget *> ValidaterViewController::headViews() const
+{
+    return {m_ui->validatingTitle, m_ui->copyReportButton, m_ui->checkAgainButton, m_ui->resetButton,
+            m_ui->sumLabel,        m_ui->fileLabel,        m_ui->reportArea};
+}
+
 void ValidaterViewController::reset()
 {
     ++m_reading;
@@ -243,9 +290,18 @@ void ValidaterViewController::reset()
         if (popover != nullptr && popover->isVisible())
             popover->closePopover();
     }
+    const bool hadKeyboard = hasKeyboard();
     m_facts = PackageFacts();
+    m_extraction = Extraction();
+    m_results.clear();
+    m_found.reset();
     m_ui->appIconField->clear();
-    for (QWidget *field : factViews())
+    m_ui->browseButton->setEnabled(true);
+    setOpacity(m_ui->dropView, 1);
+    if (hadKeyboard)
+        m_ui->browseButton->setFocus(Qt::OtherFocusReason);
+    setReading(false);
+    for (QWidget *field : factViews() + headViews())
         setOpacity(field, 0);
     for (CheckboxButton *box : boxes()) {
         setOpacity(box, 0);
@@ -253,15 +309,13 @@ void ValidaterViewController::reset()
         box->setActive(false);
         box->setIdle();
         box->setAccessibleName(QString());
+        box->setToolTip(QString());
     }
-    for (QWidget *hidden : {static_cast<QWidget *>(m_ui->appIconField), static_cast<QWidget *>(m_ui->validatingTitle),
-                            static_cast<QWidget *>(m_ui->resetButton), static_cast<QWidget *>(m_ui->readingLoaderField),
-                            m_ui->validateInterface})
+    for (QWidget *hidden : {static_cast<QWidget *>(m_ui->appIconField),
+                            static_cast<QWidget *>(m_ui->readingLoaderField), m_ui->validateInterface})
         setOpacity(hidden, 0);
     m_ui->readingLoaderField->clear();
     m_ui->readingLoaderField->setAccessibleName(QString());
-    m_ui->browseButton->setEnabled(true);
-    setOpacity(m_ui->dropView, 1);
 }
 
 StyledText ValidaterViewController::createAttributedTextFromString(const QString &string, const QFont &withFont,
@@ -275,16 +329,20 @@ StyledText ValidaterViewController::createAttributedTextFromString(const QString
 void ValidaterViewController::showFact(QLabel *field, const char *labelKey, const QString &value)
 {
     const QString label = qtTrId(labelKey);
-    const QString line = label + shownFact(value);
     field->setTextFormat(Qt::RichText);
-    const StyledText text = createAttributedTextFromString(breakingLongWords(line), latoBold(fontSize), label);
+    const QString shown = value.isEmpty() ? QString(noFact) : shownFact(value);
+    const StyledText text = createAttributedTextFromString(breakingLongWords(label + shown), latoBold(fontSize), label);
     field->setText(roomForAccents() + text.toHtml());
-    field->setAccessibleName(line);
+    // A dash is for the eye.
+    field->setAccessibleName(label + shownFact(value));
 }
 
-void ValidaterViewController::updateInterface(const PackageFacts &facts, const Outcome &extraction)
+void ValidaterViewController::updateInterface(const PackageFacts &facts, const Extraction &extraction,
+                                              const std::optional<FoundContent> &found)
 {
     m_facts = facts;
+    m_extraction = extraction;
+    m_found = found;
     showFact(m_ui->appNameField, "VALIDATER_APP_NAME", facts.appName());
     showFact(m_ui->appVersionField, "VALIDATER_APP_VERSION", facts.appVersion());
     showFact(m_ui->appPlatformField, "VALIDATER_APP_PLATFORM", facts.appPlatform());
@@ -292,21 +350,16 @@ void ValidaterViewController::updateInterface(const PackageFacts &facts, const O
     showFact(m_ui->appBundleIDField, "VALIDATER_APP_BUNDLE_ID", facts.appBundleIdentifier());
     showFact(m_ui->appBuildField, "VALIDATER_BUILD",
              buildKind(facts) == BuildKind::Debug ? qtTrId("VALID_BUILD_DEBUG") : qtTrId("VALID_BUILD_RELEASE"));
-    m_fade.fade(factViews() << m_ui->appIconField << m_ui->validatingTitle << m_ui->resetButton
-                            << m_ui->validLocalizationsBox,
-                1);
+    m_fade.fade(factViews() << headViews() << m_ui->appIconField << m_ui->validLocalizationsBox, 1);
     m_fade.fade({m_ui->readingLoaderField}, 0);
-    if (!extraction && isTooMuch(extraction.failure().code))
-        showValidatePopupWithTitle(qtTrId("VALIDATER_STOPPED_TITLE"), qtTrId("VALIDATER_STOPPED_MESSAGE"),
-                                   m_ui->validatingTitle, true);
 }
 
 void ValidaterViewController::validate(const ArtworkReport &artwork)
 {
     m_invalidAppIconsArray = sentences("VALIDATE_ICONS_TEXT", "[ICON]"_L1, squares(artwork.findings.missingIcons));
     m_invalidDefaultsArray = sentences("VALIDATE_DEFAULTS_TEXT", "[DEFAULT]"_L1, artwork.findings.missingLaunchImages);
-    m_ui->appIconField->setPixmap(artwork.appIcon.isNull() ? missingIcon(view()->devicePixelRatioF())
-                                                           : QPixmap::fromImage(artwork.appIcon));
+    m_results = checkResults(m_facts, artwork.findings);
+    showAppIcon(artwork.appIcon);
 
     const MetadataVerdicts verdicts = metadataVerdicts(m_facts);
     judge(m_ui->validAppIconsBox, m_invalidAppIconsArray.isEmpty());
@@ -318,6 +371,8 @@ void ValidaterViewController::validate(const ArtworkReport &artwork)
     m_fade.fade(
         {m_ui->validAppIconsBox, m_ui->validDefaultImagesBox, m_ui->validBundleIdentifier, m_ui->validLocalizationsBox},
         1);
+    showSum();
+    presentReport();
 }
 
 void ValidaterViewController::showPresence(CheckboxButton *box, bool present)

@@ -6,7 +6,8 @@
 #include "tool/DropView.h"
 #include "tool/StyledText.h"
 #include "tool/ToolViewController.h"
-#include "validator/bundle/MetadataChecks.h"
+#include "validator/bundle/CheckResults.h"
+#include "validator/bundle/FoundContent.h"
 #include "validator/bundle/PackageInspection.h"
 
 #include <memory>
@@ -22,10 +23,13 @@ namespace lumora
 {
 
 class CheckboxButton;
+class ReasonView;
+class TimedCaption;
 class ValidatePopupContentView;
 
 /// The app package validator's pane. It has two interfaces: one for dropping or choosing a package, and one that shows
-/// the results, with seven boxes that explain their verdict when pressed.
+/// the report: its sum, what was read, and seven boxes that explain their verdict when pressed, each with its reason
+/// below it. For a file that is no package the report says what was found.
 class ValidaterViewController final : public ToolViewController, public DropViewDelegate
 {
     Q_OBJECT
@@ -44,6 +48,12 @@ public:
     /// One sentence for each missing icon size; and for each required launch image, if the app has none.
     const QStringList &invalidAppIconsArray() const { return m_invalidAppIconsArray; }
     const QStringList &invalidDefaultsArray() const { return m_invalidDefaultsArray; }
+
+    const QList<CheckResult> &results() const { return m_results; }
+    /// What lies where a package was expected; nothing while there is none of these, or a package was found.
+    const std::optional<FoundContent> &found() const { return m_found; }
+    /// The whole report as text, to be sent to somebody.
+    QString reportText() const;
 
     /// The folder in which the browse panel opens, empty for the user's own.
     QString browsePath() const { return m_browsePath; }
@@ -76,6 +86,9 @@ public:
 
 public slots:
     void resetButtonPressed();
+    void cancelButtonPressed();
+    void copyReportButtonPressed();
+    void checkAgainButtonPressed();
     void checkboxAppIconsPressed();
     void checkboxDefaultsPressed();
     void checkboxBundleIdentifierPressed();
@@ -86,6 +99,7 @@ public slots:
 
 private:
     void awakeFromNib();
+    void setUpReport();
     void connectActions();
     void createValidatePopup();
     QList<QWidget *> factViews() const;
@@ -99,9 +113,19 @@ private:
     /// One package on its way through the background queue, where `PackageInspection` takes its steps.
     class Reading;
 
-    void updateInterface(const PackageFacts &facts, const Outcome &extraction);
+    void updateInterface(const PackageFacts &facts, const Extraction &extraction,
+                         const std::optional<FoundContent> &found);
     void validate(const ArtworkReport &artwork);
     void showFact(QLabel *field, const char *labelKey, const QString &value);
+    void showAppIcon(const QImage &icon);
+    /// The sum on top and the reasons in their rows; what was found where there is no package.
+    void showSum();
+    ReasonView *reasonView(Check check) const;
+    void setReading(bool reading);
+    /// Takes the keyboard to the report that has come, unless the user is elsewhere, and lets screen readers say it.
+    void presentReport();
+    QList<QWidget *> headViews() const;
+    bool hasKeyboard() const;
     void showPresence(CheckboxButton *box, bool present);
     void explain(CheckboxButton *box, const char *invalidTitleKey, const char *invalidTextKey,
                  const char *validTextKey);
@@ -116,6 +140,10 @@ private:
     PackageFacts m_facts;
     QStringList m_invalidAppIconsArray;
     QStringList m_invalidDefaultsArray;
+    Extraction m_extraction;
+    QList<CheckResult> m_results;
+    std::optional<FoundContent> m_found;
+    TimedCaption *m_copyCaption = nullptr; ///< owned by the controller
     /// Counts the packages, so that results of a replaced reading are dropped.
     quint64 m_reading = 0;
     std::stop_source m_stop;

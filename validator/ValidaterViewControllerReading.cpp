@@ -6,6 +6,7 @@
 #include "ui_ValidaterViewController.h"
 
 #include <QFileInfo>
+#include <QtMath>
 
 using namespace Qt::StringLiterals;
 
@@ -23,8 +24,11 @@ public:
 
     void gathered(const PackageFacts &facts, const Extraction &extraction) override
     {
-        post([facts, outcome = extraction.outcome](ValidaterViewController &controller) {
-            controller.updateInterface(facts, outcome);
+        std::optional<FoundContent> found;
+        if (!facts.hasApp)
+            found = foundContent(facts.ipaPath);
+        post([facts, extraction, found](ValidaterViewController &controller) {
+            controller.updateInterface(facts, extraction, found);
         });
     }
     void validated(const ArtworkReport &artwork) override
@@ -59,11 +63,12 @@ void ValidaterViewController::foundIpaFile(const QString &path)
     m_ui->readingLoaderField->setText(breakingLongWords(reading));
     m_ui->readingLoaderField->setAccessibleName(reading);
     if (services().workFolder.isEmpty()) {
-        updateInterface(m_facts, Failure{FailureCode::CannotCreateFolder, path, {}});
+        updateInterface(m_facts, {Failure{FailureCode::CannotCreateFolder, path, {}}, {}}, {});
         validate({});
         return;
     }
-    const InspectionSite site{services().workFolder, *m_profileDecoder, {}, m_stop.get_token()};
+    const int iconScale = qCeil(view()->devicePixelRatioF());
+    const InspectionSite site{services().workFolder, *m_profileDecoder, {}, m_stop.get_token(), iconScale};
     const quint64 number = ++m_reading;
     m_jobs.start([this, path, site, number](const BackgroundJob &job) {
         Reading observer(job, this, number);

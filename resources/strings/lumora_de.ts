@@ -833,6 +833,18 @@
     <source>Pick a colour from the screen</source>
     <translation>Farbe vom Bildschirm aufnehmen</translation>
   </message>
+  <message id="COLOR_PIPETTE_FAILED_TITLE">
+    <source>No colour picked</source>
+    <translation>Keine Farbe aufgenommen</translation>
+  </message>
+  <message id="COLOR_NO_OPACITY">
+    <source>The colour is [PERCENT] % opaque. These codes carry no opacity: they are for the opaque colour.</source>
+    <translation>Die Farbe ist zu [PERCENT] % deckend. Diese Codes tragen keine Deckkraft: Sie gelten für die deckende Farbe.</translation>
+  </message>
+  <message id="COLOR_CLICK_COPIES">
+    <source>Click to copy</source>
+    <translation>Klicken, um zu kopieren</translation>
+  </message>
   <message id="COLOR_PIPETTE_FAILED_MESSAGE">
     <source>The system did not let Lumora read the screen. Allow it in the system settings, or choose the colour here.</source>
     <translation>Das System hat den Zugriff auf den Bildschirm nicht erlaubt. In den Systemeinstellungen freigeben oder die Farbe hier wählen.</translation>
@@ -858,6 +870,18 @@
   <message id="DEVICES_IPADS">
     <source>iPad</source>
     <translation>iPad</translation>
+  </message>
+  <message id="DEVICES_FIT">
+    <source>[COUNT] of [ALL] models fit</source>
+    <translation>[COUNT] von [ALL] Modellen passen</translation>
+  </message>
+  <message id="DEVICES_TOO_OLD">
+    <source>Runs iOS [NEWEST] at most; iOS [WANTED] is asked for.</source>
+    <translation>Läuft höchstens mit iOS [NEWEST]; gefragt ist iOS [WANTED].</translation>
+  </message>
+  <message id="DEVICES_LACKS">
+    <source>Lacks: [FEATURES]</source>
+    <translation>Es fehlt: [FEATURES]</translation>
   </message>
   <message id="DEVICES_IPAD_MINI">
     <source>iPad mini</source>
@@ -1036,6 +1060,136 @@
     <translation>Die App meldet sich bei Facebook mit dieser ID an: </translation>
   </message>
 
+  <!-- App package check: the report -->
+  <message id="VALIDATER_CANCEL">
+    <source>Cancel</source>
+    <translation>Abbrechen</translation>
+  </message>
+  <message id="VALIDATER_COPY_REPORT">
+    <source>Copy report</source>
+    <translation>Bericht kopieren</translation>
+  </message>
+  <message id="VALIDATER_CHECK_AGAIN">
+    <source>Check again</source>
+    <translation>Neu prüfen</translation>
+  </message>
+  <message id="VALIDATER_SUM_PASSED">
+    <source>All [COUNT] checks passed</source>
+    <translation>Alle [COUNT] Prüfungen bestanden</translation>
+  </message>
+  <message id="VALIDATER_SUM_FAILED">
+    <source>[FAILED] of [COUNT] checks failed</source>
+    <translation>[FAILED] von [COUNT] Prüfungen nicht bestanden</translation>
+  </message>
+  <message id="VALIDATER_SUM_NO_PACKAGE">
+    <source>No readable app package</source>
+    <translation>Kein lesbares App-Paket</translation>
+  </message>
+  <message id="VALIDATER_NO_PACKAGE_ADVICE">
+    <source>An app package is a zip archive that holds the app as a folder NAME.app in its Payload folder. Please choose another file, or export the app again.</source>
+    <translation>Ein App-Paket ist ein Zip-Archiv, das die App als Ordner NAME.app in seinem Ordner Payload enthält. Bitte eine andere Datei wählen oder die App neu exportieren.</translation>
+  </message>
+  <message id="VALIDATER_FOUND_NOTHING">
+    <source>There is no file of this name any more.</source>
+    <translation>Eine Datei dieses Namens gibt es nicht mehr.</translation>
+  </message>
+  <message id="VALIDATER_FOUND_FOLDER">
+    <source>It is a folder, not a file.</source>
+    <translation>Es ist ein Ordner, keine Datei.</translation>
+  </message>
+  <message id="VALIDATER_FOUND_DEVICE">
+    <source>It is no ordinary file but a pipe, a socket or a device.</source>
+    <translation>Es ist keine gewöhnliche Datei, sondern eine Pipe, ein Socket oder ein Gerät.</translation>
+  </message>
+  <message id="VALIDATER_FOUND_UNREADABLE">
+    <source>The system does not let this file be read.</source>
+    <translation>Das System lässt diese Datei nicht lesen.</translation>
+  </message>
+  <message id="VALIDATER_FOUND_EMPTY_FILE">
+    <source>The file is empty: it holds not one byte.</source>
+    <translation>Die Datei ist leer: Sie enthält kein einziges Byte.</translation>
+  </message>
+  <message id="VALIDATER_FOUND_TEXT">
+    <source>The file is a text.</source>
+    <translation>Die Datei ist ein Text.</translation>
+  </message>
+  <message id="VALIDATER_FOUND_PICTURE">
+    <source>The file is a picture.</source>
+    <translation>Die Datei ist ein Bild.</translation>
+  </message>
+  <message id="VALIDATER_FOUND_DOCUMENT">
+    <source>The file is a PDF document.</source>
+    <translation>Die Datei ist ein PDF-Dokument.</translation>
+  </message>
+  <message id="VALIDATER_FOUND_OTHER_ARCHIVE">
+    <source>The file is an archive of another kind than zip.</source>
+    <translation>Die Datei ist ein Archiv anderer Art als Zip.</translation>
+  </message>
+  <message id="VALIDATER_FOUND_BROKEN_ARCHIVE">
+    <source>The file begins like a zip archive, but its list of contents is missing or damaged. The download or copy may have broken off.</source>
+    <translation>Die Datei beginnt wie ein Zip-Archiv, doch ihr Inhaltsverzeichnis fehlt oder ist beschädigt. Vielleicht ist der Download oder das Kopieren abgebrochen.</translation>
+  </message>
+  <message id="VALIDATER_FOUND_EMPTY_ARCHIVE">
+    <source>The file is a zip archive without any content.</source>
+    <translation>Die Datei ist ein Zip-Archiv ohne Inhalt.</translation>
+  </message>
+  <message id="VALIDATER_FOUND_NO_PAYLOAD">
+    <source>The file is a zip archive without a Payload folder. It holds: [NAMES]</source>
+    <translation>Die Datei ist ein Zip-Archiv ohne Ordner Payload. Sie enthält: [NAMES]</translation>
+  </message>
+  <message id="VALIDATER_FOUND_OTHER_PAYLOAD">
+    <source>The file is a zip archive whose Payload folder holds no app, but: [NAMES]</source>
+    <translation>Die Datei ist ein Zip-Archiv, dessen Ordner Payload keine App enthält, sondern: [NAMES]</translation>
+  </message>
+  <message id="VALIDATER_FOUND_EMPTY_PAYLOAD">
+    <source>The file is a zip archive whose Payload folder is empty.</source>
+    <translation>Die Datei ist ein Zip-Archiv, dessen Ordner Payload leer ist.</translation>
+  </message>
+  <message id="VALIDATER_FOUND_MORE">
+    <source> and [COUNT] more</source>
+    <translation> und [COUNT] weitere</translation>
+  </message>
+  <message id="VALIDATER_FOUND_DATA">
+    <source>The file holds data that is neither an archive nor a text nor a picture.</source>
+    <translation>Die Datei enthält Daten, die weder Archiv noch Text noch Bild sind.</translation>
+  </message>
+  <message id="VALIDATER_NOTE_CUT">
+    <source>The package could not be read to its end. What was read until then is shown.</source>
+    <translation>Das Paket ließ sich nicht zu Ende lesen. Gezeigt wird, was bis dahin gelesen wurde.</translation>
+  </message>
+  <message id="VALIDATER_NOTE_DAMAGED">
+    <source>Damaged or protected by a password: [COUNT] of its files, the first one [FILE].</source>
+    <translation>Beschädigt oder durch ein Passwort geschützt: [COUNT] seiner Dateien, die erste [FILE].</translation>
+  </message>
+  <message id="VALIDATER_NOTE_NO_LIST">
+    <source>The app’s Info.plist is missing or cannot be read, so nothing says which icons and launch images it needs.</source>
+    <translation>Die Info.plist der App fehlt oder ist nicht lesbar; nichts sagt also, welche Icons und Startbilder sie braucht.</translation>
+  </message>
+  <message id="VALIDATER_REASON_ICONS">
+    <source>Missing, in pixels:</source>
+    <translation>Es fehlen, in Pixeln:</translation>
+  </message>
+  <message id="VALIDATER_REASON_LAUNCH">
+    <source>There is none of these sizes, in pixels:</source>
+    <translation>Keine dieser Größen ist da, in Pixeln:</translation>
+  </message>
+  <message id="VALIDATER_REASON_BUNDLE_ID">
+    <source>The provisioning profile does not name [ID].</source>
+    <translation>Das Bereitstellungsprofil nennt [ID] nicht.</translation>
+  </message>
+  <message id="VALIDATER_REASON_NO_BUNDLE_ID">
+    <source>The app has no bundle identifier.</source>
+    <translation>Die App hat keine Bundle-ID.</translation>
+  </message>
+  <message id="VALIDATER_REASON_NO_PROFILE">
+    <source>The package has no readable provisioning profile.</source>
+    <translation>Das Paket hat kein lesbares Bereitstellungsprofil.</translation>
+  </message>
+  <message id="VALIDATER_REASON_LOCALIZATIONS">
+    <source>The app has no folder of a language (.lproj).</source>
+    <translation>Die App hat keinen Ordner einer Sprache (.lproj).</translation>
+  </message>
+
   <!-- Menus -->
   <message id="MENU_FILE">
     <source>&amp;File</source>
@@ -1192,6 +1346,14 @@
   <message id="ACCESSIBLE_VALIDATER_APP_ICON">
     <source>Icon of the app</source>
     <translation>Icon der App</translation>
+  </message>
+  <message id="ACCESSIBLE_VALIDATER_REPORT">
+    <source>Report on [FILE]: [SUM]</source>
+    <translation>Bericht über [FILE]: [SUM]</translation>
+  </message>
+  <message id="ACCESSIBLE_VALIDATER_PROGRESS">
+    <source>Reading the package</source>
+    <translation>Paket wird gelesen</translation>
   </message>
   <message id="ACCESSIBLE_CHECK_PASSED">
     <source>[CHECK]: passed</source>

@@ -831,6 +831,18 @@
     <source>Pick a colour from the screen</source>
     <translation>Pick a colour from the screen</translation>
   </message>
+  <message id="COLOR_PIPETTE_FAILED_TITLE">
+    <source>No colour picked</source>
+    <translation>No colour picked</translation>
+  </message>
+  <message id="COLOR_NO_OPACITY">
+    <source>The colour is [PERCENT] % opaque. These codes carry no opacity: they are for the opaque colour.</source>
+    <translation>The colour is [PERCENT] % opaque. These codes carry no opacity: they are for the opaque colour.</translation>
+  </message>
+  <message id="COLOR_CLICK_COPIES">
+    <source>Click to copy</source>
+    <translation>Click to copy</translation>
+  </message>
   <message id="COLOR_PIPETTE_FAILED_MESSAGE">
     <source>The system did not let Lumora read the screen. Allow it in the system settings, or choose the colour here.</source>
     <translation>The system did not let Lumora read the screen. Allow it in the system settings, or choose the colour here.</translation>
@@ -856,6 +868,18 @@
   <message id="DEVICES_IPADS">
     <source>iPad</source>
     <translation>iPad</translation>
+  </message>
+  <message id="DEVICES_FIT">
+    <source>[COUNT] of [ALL] models fit</source>
+    <translation>[COUNT] of [ALL] models fit</translation>
+  </message>
+  <message id="DEVICES_TOO_OLD">
+    <source>Runs iOS [NEWEST] at most; iOS [WANTED] is asked for.</source>
+    <translation>Runs iOS [NEWEST] at most; iOS [WANTED] is asked for.</translation>
+  </message>
+  <message id="DEVICES_LACKS">
+    <source>Lacks: [FEATURES]</source>
+    <translation>Lacks: [FEATURES]</translation>
   </message>
   <message id="DEVICES_IPAD_MINI">
     <source>iPad mini</source>
@@ -1034,6 +1058,136 @@
     <translation>The app signs in to Facebook with the ID </translation>
   </message>
 
+  <!-- App package check: the report -->
+  <message id="VALIDATER_CANCEL">
+    <source>Cancel</source>
+    <translation>Cancel</translation>
+  </message>
+  <message id="VALIDATER_COPY_REPORT">
+    <source>Copy report</source>
+    <translation>Copy report</translation>
+  </message>
+  <message id="VALIDATER_CHECK_AGAIN">
+    <source>Check again</source>
+    <translation>Check again</translation>
+  </message>
+  <message id="VALIDATER_SUM_PASSED">
+    <source>All [COUNT] checks passed</source>
+    <translation>All [COUNT] checks passed</translation>
+  </message>
+  <message id="VALIDATER_SUM_FAILED">
+    <source>[FAILED] of [COUNT] checks failed</source>
+    <translation>[FAILED] of [COUNT] checks failed</translation>
+  </message>
+  <message id="VALIDATER_SUM_NO_PACKAGE">
+    <source>No readable app package</source>
+    <translation>No readable app package</translation>
+  </message>
+  <message id="VALIDATER_NO_PACKAGE_ADVICE">
+    <source>An app package is a zip archive that holds the app as a folder NAME.app in its Payload folder. Please choose another file, or export the app again.</source>
+    <translation>An app package is a zip archive that holds the app as a folder NAME.app in its Payload folder. Please choose another file, or export the app again.</translation>
+  </message>
+  <message id="VALIDATER_FOUND_NOTHING">
+    <source>There is no file of this name any more.</source>
+    <translation>There is no file of this name any more.</translation>
+  </message>
+  <message id="VALIDATER_FOUND_FOLDER">
+    <source>It is a folder, not a file.</source>
+    <translation>It is a folder, not a file.</translation>
+  </message>
+  <message id="VALIDATER_FOUND_DEVICE">
+    <source>It is no ordinary file but a pipe, a socket or a device.</source>
+    <translation>It is no ordinary file but a pipe, a socket or a device.</translation>
+  </message>
+  <message id="VALIDATER_FOUND_UNREADABLE">
+    <source>The system does not let this file be read.</source>
+    <translation>The system does not let this file be read.</translation>
+  </message>
+  <message id="VALIDATER_FOUND_EMPTY_FILE">
+    <source>The file is empty: it holds not one byte.</source>
+    <translation>The file is empty: it holds not one byte.</translation>
+  </message>
+  <message id="VALIDATER_FOUND_TEXT">
+    <source>The file is a text.</source>
+    <translation>The file is a text.</translation>
+  </message>
+  <message id="VALIDATER_FOUND_PICTURE">
+    <source>The file is a picture.</source>
+    <translation>The file is a picture.</translation>
+  </message>
+  <message id="VALIDATER_FOUND_DOCUMENT">
+    <source>The file is a PDF document.</source>
+    <translation>The file is a PDF document.</translation>
+  </message>
+  <message id="VALIDATER_FOUND_OTHER_ARCHIVE">
+    <source>The file is an archive of another kind than zip.</source>
+    <translation>The file is an archive of another kind than zip.</translation>
+  </message>
+  <message id="VALIDATER_FOUND_BROKEN_ARCHIVE">
+    <source>The file begins like a zip archive, but its list of contents is missing or damaged. The download or copy may have broken off.</source>
+    <translation>The file begins like a zip archive, but its list of contents is missing or damaged. The download or copy may have broken off.</translation>
+  </message>
+  <message id="VALIDATER_FOUND_EMPTY_ARCHIVE">
+    <source>The file is a zip archive without any content.</source>
+    <translation>The file is a zip archive without any content.</translation>
+  </message>
+  <message id="VALIDATER_FOUND_NO_PAYLOAD">
+    <source>The file is a zip archive without a Payload folder. It holds: [NAMES]</source>
+    <translation>The file is a zip archive without a Payload folder. It holds: [NAMES]</translation>
+  </message>
+  <message id="VALIDATER_FOUND_OTHER_PAYLOAD">
+    <source>The file is a zip archive whose Payload folder holds no app, but: [NAMES]</source>
+    <translation>The file is a zip archive whose Payload folder holds no app, but: [NAMES]</translation>
+  </message>
+  <message id="VALIDATER_FOUND_EMPTY_PAYLOAD">
+    <source>The file is a zip archive whose Payload folder is empty.</source>
+    <translation>The file is a zip archive whose Payload folder is empty.</translation>
+  </message>
+  <message id="VALIDATER_FOUND_MORE">
+    <source> and [COUNT] more</source>
+    <translation> and [COUNT] more</translation>
+  </message>
+  <message id="VALIDATER_FOUND_DATA">
+    <source>The file holds data that is neither an archive nor a text nor a picture.</source>
+    <translation>The file holds data that is neither an archive nor a text nor a picture.</translation>
+  </message>
+  <message id="VALIDATER_NOTE_CUT">
+    <source>The package could not be read to its end. What was read until then is shown.</source>
+    <translation>The package could not be read to its end. What was read until then is shown.</translation>
+  </message>
+  <message id="VALIDATER_NOTE_DAMAGED">
+    <source>Damaged or protected by a password: [COUNT] of its files, the first one [FILE].</source>
+    <translation>Damaged or protected by a password: [COUNT] of its files, the first one [FILE].</translation>
+  </message>
+  <message id="VALIDATER_NOTE_NO_LIST">
+    <source>The app’s Info.plist is missing or cannot be read, so nothing says which icons and launch images it needs.</source>
+    <translation>The app’s Info.plist is missing or cannot be read, so nothing says which icons and launch images it needs.</translation>
+  </message>
+  <message id="VALIDATER_REASON_ICONS">
+    <source>Missing, in pixels:</source>
+    <translation>Missing, in pixels:</translation>
+  </message>
+  <message id="VALIDATER_REASON_LAUNCH">
+    <source>There is none of these sizes, in pixels:</source>
+    <translation>There is none of these sizes, in pixels:</translation>
+  </message>
+  <message id="VALIDATER_REASON_BUNDLE_ID">
+    <source>The provisioning profile does not name [ID].</source>
+    <translation>The provisioning profile does not name [ID].</translation>
+  </message>
+  <message id="VALIDATER_REASON_NO_BUNDLE_ID">
+    <source>The app has no bundle identifier.</source>
+    <translation>The app has no bundle identifier.</translation>
+  </message>
+  <message id="VALIDATER_REASON_NO_PROFILE">
+    <source>The package has no readable provisioning profile.</source>
+    <translation>The package has no readable provisioning profile.</translation>
+  </message>
+  <message id="VALIDATER_REASON_LOCALIZATIONS">
+    <source>The app has no folder of a language (.lproj).</source>
+    <translation>The app has no folder of a language (.lproj).</translation>
+  </message>
+
   <!-- Menus -->
   <message id="MENU_FILE">
     <source>&amp;File</source>
@@ -1190,6 +1344,14 @@
   <message id="ACCESSIBLE_VALIDATER_APP_ICON">
     <source>Icon of the app</source>
     <translation>Icon of the app</translation>
+  </message>
+  <message id="ACCESSIBLE_VALIDATER_REPORT">
+    <source>Report on [FILE]: [SUM]</source>
+    <translation>Report on [FILE]: [SUM]</translation>
+  </message>
+  <message id="ACCESSIBLE_VALIDATER_PROGRESS">
+    <source>Reading the package</source>
+    <translation>Reading the package</translation>
   </message>
   <message id="ACCESSIBLE_CHECK_PASSED">
     <source>[CHECK]: passed</source>

@@ -34,10 +34,10 @@ Result<QImage> decoded(const PackageSource &source, const QString &path)
     return readPicture(bytes.value(), path);
 }
 
-bool mayBeAppIcon(QSize size)
+bool mayBeAppIcon(QSize size, int smallestHeight)
 {
     return std::find(iconHeights.begin(), iconHeights.end(), size.height()) != iconHeights.end() &&
-           qint64{size.width()} * size.height() <= largestIconArea;
+           size.height() >= smallestHeight && qint64{size.width()} * size.height() <= largestIconArea;
 }
 
 } // namespace
@@ -64,15 +64,18 @@ QList<QSize> pictureSizes(const PackageSource &source, const QString &folder, co
 }
 
 QImage appIcon(const PackageSource &source, const QString &folder, const QStringList &candidates,
-               const QList<QSize> &sizes, double minimumOS)
+               const QList<QSize> &sizes, double minimumOS, int scale)
 {
-    for (qsizetype i = 0; i < candidates.size() && i < sizes.size(); ++i) {
-        if (!mayBeAppIcon(sizes[i]))
-            continue;
-        const auto picture = decoded(source, folder + u'/' + candidates[i]);
-        if (picture)
-            return resizeImage(picture.value(), appIconSize,
-                               minimumOS >= firstFlatVersion ? CornerMode::Ios7 : CornerMode::Ios6);
+    const CornerMode corners = minimumOS >= firstFlatVersion ? CornerMode::Ios7 : CornerMode::Ios6;
+    const int edge = appIconSize * scale;
+    for (const int smallestHeight : scale > 1 ? QList<int>{edge, 0} : QList<int>{0}) {
+        for (qsizetype i = 0; i < candidates.size() && i < sizes.size(); ++i) {
+            if (!mayBeAppIcon(sizes[i], smallestHeight))
+                continue;
+            const auto picture = decoded(source, folder + u'/' + candidates[i]);
+            if (picture)
+                return resizeImage(picture.value(), edge, corners);
+        }
     }
     return {};
 }

@@ -19,11 +19,12 @@ QSize pictureSize(const PackageSource &source, const QString &path);
 QList<QSize> pictureSizes(const PackageSource &source, const QString &folder, const QStringList &names);
 
 /// The picture that represents the app: of the candidates, in their order, the first that is 512, 144, 120, 152, 1024
-/// or 114 pixels high and can be decoded, stretched to `appIconSize` pixels square with the corners of the iOS version.
+/// or 114 pixels high and can be decoded, stretched to `appIconSize` points square with the corners of the iOS version.
 /// Null when there is none. `sizes` are the candidates' sizes. It takes the first, so that the window and the command
-/// show the same icon on every run.
+/// show the same icon on every run. At a scale above 1, a picture with enough pixels goes before one that would be
+/// enlarged.
 QImage appIcon(const PackageSource &source, const QString &folder, const QStringList &candidates,
-               const QList<QSize> &sizes, double minimumOS);
+               const QList<QSize> &sizes, double minimumOS, int scale = 1);
 
 inline constexpr int appIconSize = 128;
 

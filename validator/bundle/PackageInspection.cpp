@@ -82,6 +82,7 @@ PackageFacts readBundle(const QString &ipaPath, const PackageSource &source, con
         return facts;
     }
     const QString folder = shownBundle(facts);
+    facts.hasApp = source.isFolder(folder);
     const BundleContents contents = bundleContents(loggedListing(source, folder));
     if (contents.hasInfoPlist) {
         const auto bytes = source.read(folder + u"/Info.plist", PropertyListLimits().fileBytes);
@@ -94,7 +95,7 @@ PackageFacts readBundle(const QString &ipaPath, const PackageSource &source, con
     return facts;
 }
 
-IconFindings validateAppIcons(const PackageFacts &facts, const PackageSource &source)
+IconFindings validateAppIcons(const PackageFacts &facts, const PackageSource &source, int iconScale)
 {
     const PlatformType platform = facts.appPlatformType();
     if (platform == PlatformType::None)
@@ -102,7 +103,8 @@ IconFindings validateAppIcons(const PackageFacts &facts, const PackageSource &so
     const QString folder = shownBundle(facts);
     const QStringList candidates = iconCandidates(facts.appImages);
     const QList<QSize> sizes = pictureSizes(source, folder, candidates);
-    return {missingIcons(platform, sizes), appIcon(source, folder, candidates, sizes, facts.minimumOSNumber())};
+    return {missingIcons(platform, sizes),
+            appIcon(source, folder, candidates, sizes, facts.minimumOSNumber(), iconScale)};
 }
 
 QList<QSize> validateAppDefaults(const PackageFacts &facts, const PackageSource &source)
@@ -118,6 +120,7 @@ PackageInspection::PackageInspection(QString ipaPath, const ProfileDecoder &deco
 
 PackageReport PackageInspection::unzipApp(const InspectionSite &site)
 {
+    m_iconScale = site.iconScale;
     m_report.extraction = extractPackage(m_ipaPath, site);
     beginGatheringInfo(site);
     return std::move(m_report);
@@ -149,15 +152,14 @@ PackageReport PackageInspection::fetchAppContents(const PackageSource &source, c
 void PackageInspection::fetchAppContents(const PackageSource &source)
 {
     m_report.facts = readBundle(m_ipaPath, source, m_decoder);
-    const QString bundle = shownBundle(m_report.facts);
-    m_report.hasApp = !bundle.endsWith(u'/') && source.isFolder(bundle);
+    m_report.hasApp = m_report.facts.hasApp;
     m_observer.gathered(m_report.facts, m_report.extraction);
     startValidate(source);
 }
 
 void PackageInspection::startValidate(const PackageSource &source)
 {
-    const IconFindings icons = validateAppIcons(m_report.facts, source);
+    const IconFindings icons = validateAppIcons(m_report.facts, source, m_iconScale);
     m_report.artwork = {{icons.missing, validateAppDefaults(m_report.facts, source)}, icons.appIcon};
     m_observer.validated(m_report.artwork);
 }

@@ -24,6 +24,7 @@ struct InspectionSite
     const ProfileDecoder &profileDecoder;
     ExtractionLimits limits = {};
     std::stop_token stop = {}; ///< ends the extraction early; then nothing is read
+    int iconScale = 1;         ///< pixels of the app's icon for each point
 };
 
 /// The folder of the unpacked package, and the part of it with the app; relative to the work folder.
@@ -91,6 +92,7 @@ private:
     const ProfileDecoder &m_decoder;
     InspectionObserver &m_observer;
     PackageReport m_report;
+    int m_iconScale = 1;
 };
 
 /// True when the path's extension is exactly "ipa".
@@ -104,7 +106,7 @@ PackageReport inspectPackage(const PackageSource &source, const WholeReading &re
 /// The parts of the steps.
 Extraction extractPackage(const QString &ipaPath, const InspectionSite &site);
 PackageFacts readBundle(const QString &ipaPath, const PackageSource &source, const ProfileDecoder &decoder);
-IconFindings validateAppIcons(const PackageFacts &facts, const PackageSource &source);
+IconFindings validateAppIcons(const PackageFacts &facts, const PackageSource &source, int iconScale = 1);
 QList<QSize> validateAppDefaults(const PackageFacts &facts, const PackageSource &source);
 
 /// `Done` for a report about an app; otherwise the archive's failure, or the failure that it has no app.

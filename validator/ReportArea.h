@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "widgets/style/KeyboardFocus.h"
+
+#include <QScrollArea>
+
+namespace lumora
+{
+
+/// What a report scrolls in. Takes the keyboard, for its keys to scroll, and shows it by a ring.
+class ReportArea final : public QScrollArea
+{
+    Q_OBJECT
+
+public:
+    explicit ReportArea(QWidget *parent = nullptr);
+
+protected:
+    bool event(QEvent *event) override;
+
+private:
+    KeyboardFocus m_keyboardFocus;
+};
+
+} // namespace lumora
