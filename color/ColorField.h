@@ -17,11 +17,22 @@ public:
     explicit ColorField(QWidget *parent = nullptr);
 
     QColor textColor() const { return palette().color(QPalette::Text); }
-    /// Also chooses the background: white, or dark for a color that is too light for white.
+    /// Also chooses the background: white or dark, whichever has more contrast with the color.
     void setTextColor(const RgbaColor &color);
     QColor groundColor() const { return m_groundColor; }
+    /// Puts the text in the place of the whole one, as one step that can be undone.
+    void replaceText(const QString &text);
+
+signals:
+    /// The clipboard's content is to be pasted, by key or from the menu. What comes of it is the owner's to decide.
+    void pasteWanted();
+    /// The selection of another place is to be pasted at the cursor, by the middle mouse button.
+    void textOffered(const QString &text);
 
 protected:
+    void contextMenuEvent(QContextMenuEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:

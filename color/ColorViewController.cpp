@@ -2,8 +2,10 @@
 #include "ColorViewController.h"
 
 #include "ColorField.h"
+#include "PastedColor.h"
 #include "TypingRule.h"
 #include "color/picker/ColorWell.h"
+#include "color/pipette/Pipette.h"
 #include "tool/ButtonStyle.h"
 #include "tool/LabelStyle.h"
 #include "ui_ColorViewController.h"
@@ -16,6 +18,8 @@
 
 #include <algorithm>
 #include <utility>
+
+using namespace Qt::StringLiterals;
 
 namespace lumora
 {
@@ -33,7 +37,7 @@ constexpr auto tagName = "tag";
 /// Accepts a color, or a text that is a color code. A file is neither, although its name arrives as a text, too.
 bool carriesColor(const QMimeData &content)
 {
-    return content.hasColor() || (!content.hasUrls() && !content.hasImage() && codesForCopying(content.text()).ok());
+    return content.hasColor() || (!content.hasUrls() && !content.hasImage() && pastedColor(content.text()));
 }
 
 } // namespace
@@ -43,6 +47,7 @@ ColorViewController::ColorViewController(const Services &services, QObject *pare
 {
     m_ui->setupUi(view());
     setUpField();
+    setUpPipette();
     setUpRows();
     m_ui->dropView->setDelegate(this);
     m_ui->dropView->setTakesColors(true);
@@ -71,14 +76,21 @@ void ColorViewController::setUpField()
             controlTextDidChange(m_ui->colorTextField);
         showCodes();
     });
+    connect(m_ui->colorTextField, &ColorField::pasteWanted, this, &ColorViewController::pasteIntoField);
+    connect(m_ui->colorTextField, &ColorField::textOffered, this, &ColorViewController::takeText);
     m_ui->colorWell->setAccessibleName(qtTrId("ACCESSIBLE_COLOR_WELL"));
     connect(m_ui->colorWell, &ColorWell::colorPicked, this, &ColorViewController::colorWellReceivedColor);
 }
 
 void ColorViewController::setUpRows()
 {
-    for (const CodeRow &row : codeRows())
+    for (const CodeRow &row : codeRows()) {
         styleLabel(row.code, latoBold(labelFontSize), palette::chromeText);
+        row.code->installEventFilter(this);
+        row.code->setCursor(Qt::PointingHandCursor);
+        row.code->setToolTip(qtTrId("COLOR_CLICK_COPIES"));
+    }
+    styleLabel(m_ui->opacityNote, latoRegular(labelFontSize), palette::chromeText);
     connect(iosButton(), &HoverButton::clicked, this, [this] { iosButtonPressed(iosButton()); });
     connect(macButton(), &HoverButton::clicked, this, [this] { macButtonPressed(macButton()); });
     connect(javaButton(), &HoverButton::clicked, this, [this] { javaButtonPressed(javaButton()); });
@@ -133,6 +145,16 @@ QLabel *ColorViewController::javaLabel() const
 QLabel *ColorViewController::cssLabel() const
 {
     return m_ui->cssLabel;
+}
+
+ImageButton *ColorViewController::pipetteButton() const
+{
+    return m_ui->pipetteButton;
+}
+
+QLabel *ColorViewController::opacityNote() const
+{
+    return m_ui->opacityNote;
 }
 
 std::array<ColorViewController::CodeRow, colorNotationCount> ColorViewController::codeRows() const
@@ -231,23 +253,14 @@ void ColorViewController::dropViewReceivedColor(const QColor &color)
     takeColor(rgbaFrom(color));
 }
 
-void ColorViewController::paste()
-{
-    const QColor color = services().clipboard.color();
-    if (color.isValid()) {
-        takeColor(rgbaFrom(color));
-        return;
-    }
-    const Result<ColorCodes> codes = codesForCopying(services().clipboard.plainText().trimmed());
-    if (codes)
-        takeColor(codes.value().color);
-}
-
 bool ColorViewController::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == m_ui->dropView && filterDrag(event))
         return true;
-    if (watched == m_ui->colorTextField && filterKey(event))
+    if (watched == m_ui->colorTextField && event->type() == QEvent::KeyPress &&
+        filterTyping(*static_cast<QKeyEvent *>(event)))
+        return true;
+    if (filterCodeClick(watched, event))
         return true;
     return ToolViewController::eventFilter(watched, event);
 }
@@ -267,17 +280,7 @@ bool ColorViewController::filterDrag(QEvent *event)
     }
     drop->acceptProposedAction();
     if (event->type() == QEvent::Drop)
-        takeColor(codesForCopying(content.text()).value().color);
-    return true;
-}
-
-bool ColorViewController::filterKey(QEvent *event)
-{
-    // The field only pastes texts, not a copied color.
-    if (event->type() != QEvent::KeyPress || !static_cast<QKeyEvent *>(event)->matches(QKeySequence::Paste) ||
-        !services().clipboard.color().isValid())
-        return false;
-    paste();
+        takeColor(pastedColor(content.text())->color);
     return true;
 }
 
@@ -286,6 +289,9 @@ void ColorViewController::setTheColor(const RgbaColor &color)
     m_theColor = color;
     m_ui->colorTextField->setTextColor(color);
     m_ui->colorWell->setColor(color);
+    const int percent = qRound(static_cast<double>(color.alpha) * 100);
+    m_ui->opacityNote->setText(qtTrId("COLOR_NO_OPACITY").replace("[PERCENT]"_L1, QString::number(percent)));
+    m_ui->opacityNote->setVisible(color.alpha < 1.0F);
 }
 
 void ColorViewController::takeColor(const RgbaColor &color)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "ColorCode.h"
+#include "TypingRule.h"
 #include "tool/DropView.h"
 #include "tool/ToolViewController.h"
 
@@ -11,6 +12,7 @@
 #include <chrono>
 #include <memory>
 
+class QKeyEvent;
 class QLabel;
 
 namespace Ui
@@ -25,6 +27,8 @@ class BFPopoverColorWell;
 class ColorField;
 class ColorWell;
 class HoverButton;
+class ImageButton;
+class Pipette;
 
 /// The color tool: takes a typed, picked, dropped or pasted color and has a button for each notation that copies its
 /// code.
@@ -46,6 +50,9 @@ public:
     QLabel *macLabel() const;
     QLabel *javaLabel() const;
     QLabel *cssLabel() const;
+    ImageButton *pipetteButton() const;
+    /// Says that the codes carry no opacity, while the color has one.
+    QLabel *opacityNote() const;
 
     /// The current color: the last valid one, whatever the field contains.
     const RgbaColor &theColor() const { return m_theColor; }
@@ -71,8 +78,11 @@ public:
 
     void dropViewReceivedColor(const QColor &color) override;
     bool takesClipboard() const override { return true; }
-    /// Takes a copied color, or a copied text with a color's code.
+    /// Takes a copied color, or a copied text with a color in any form.
     void paste() override;
+    void pipetteButtonPressed();
+    /// What picks from the screen; the system's own at first.
+    void setPipette(std::unique_ptr<Pipette> pipette);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -90,12 +100,25 @@ private:
     std::array<CodeRow, colorNotationCount> codeRows() const;
 
     bool filterDrag(QEvent *event);
-    bool filterKey(QEvent *event);
+    bool filterTyping(const QKeyEvent &event);
+    bool filterCodeClick(QObject *watched, QEvent *event);
+    void setUpPipette();
+    void endPicking();
+    void pasteIntoField();
+    /// Takes the text if it is a color, else types it at the cursor.
+    void takeText(const QString &text);
+    /// What the user entered, as the typing rule leaves it.
+    void showCorrected(const TypingOutcome &outcome);
+    /// As `setFieldText`, but can be undone.
+    void replaceFieldText(const QString &text);
+    /// The field's text with the typed one in the place of its selection.
+    QString textAfterTyping(const QString &typed) const;
     void setUpField();
     void setUpRows();
     void saveTitleAndCopy(HoverButton *sender);
     void setTheColor(const RgbaColor &color);
     void takeColor(const RgbaColor &color);
+    void takePasted(const QString &digits, const RgbaColor &color);
     /// Sets the text from the program, which does not count as typing.
     void setFieldText(const QString &text);
     void showCodes();
@@ -104,6 +127,8 @@ private:
     RgbaColor m_theColor;
     QString m_savedButtonTitle;
     QTimer m_resetTimer;
+    std::unique_ptr<Pipette> m_pipette;
+    bool m_pipetteHadFocus = false;
     bool m_setsText = false;
 };
 

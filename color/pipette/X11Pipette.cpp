@@ -19,7 +19,31 @@ namespace
 /// The distance that Shift and an arrow key move the pointer, in points.
 constexpr int largeStep = 10;
 
+/// Between two looks at the screen; milliseconds.
+constexpr int loupeInterval = 50;
+
+/// The screen's pixels in the square around the position, in the screen's own pixels; null where it cannot be read.
+QImage pixelsAround(QScreen &screen, const QPoint &globalPosition, int across)
+{
+    const QPoint position = globalPosition - screen.geometry().topLeft();
+    const int half = across / 2;
+    QImage image = screen.grabWindow(0, position.x() - half, position.y() - half, across, across).toImage();
+    if (image.isNull())
+        return {};
+    // At a larger scale a point is several pixels; those around the middle one are shown.
+    const qreal scale = image.devicePixelRatio();
+    image.setDevicePixelRatio(1);
+    const auto first = static_cast<int>(half * scale) - half;
+    return image.copy(first, first, across, across);
+}
+
 } // namespace
+
+X11Pipette::X11Pipette(QObject *parent) : Pipette(parent)
+{
+    m_loupeTimer.setInterval(loupeInterval);
+    connect(&m_loupeTimer, &QTimer::timeout, this, &X11Pipette::showLoupe);
+}
 
 bool X11Pipette::isAvailable()
 {
@@ -34,6 +58,20 @@ void X11Pipette::pick(QWidget *window)
     m_window->installEventFilter(this);
     m_window->grabMouse(Qt::CrossCursor);
     m_window->grabKeyboard();
+    m_loupe = std::make_unique<Loupe>();
+    m_loupeTimer.start();
+    showLoupe();
+}
+
+void X11Pipette::showLoupe()
+{
+    const QPoint pointer = QCursor::pos();
+    QScreen *screen = QGuiApplication::screenAt(pointer);
+    const QImage pixels = screen == nullptr ? QImage() : pixelsAround(*screen, pointer, Loupe::pixelsAcross);
+    if (pixels.isNull())
+        m_loupe->hide();
+    else
+        m_loupe->showPixels(pixels, pointer, screen->geometry());
 }
 
 bool X11Pipette::eventFilter(QObject *watched, QEvent *event)
@@ -59,6 +97,8 @@ bool X11Pipette::eventFilter(QObject *watched, QEvent *event)
         event->accept();
         return true;
     case QEvent::MouseMove:
+        showLoupe();
+        return true;
     case QEvent::MouseButtonRelease:
     case QEvent::KeyRelease:
         return true;
@@ -105,6 +145,8 @@ void X11Pipette::keyPressed(const QKeyEvent &event)
 
 void X11Pipette::finish()
 {
+    m_loupeTimer.stop();
+    m_loupe.reset();
     m_window->releaseMouse();
     m_window->releaseKeyboard();
     m_window->removeEventFilter(this);

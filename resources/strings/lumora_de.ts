@@ -833,6 +833,10 @@
     <source>Pick a colour from the screen</source>
     <translation>Farbe vom Bildschirm aufnehmen</translation>
   </message>
+  <message id="COLOR_SCREEN_PIPETTE">
+    <source>Pick up a screen colour</source>
+    <translation>Bildschirmfarbe aufnehmen</translation>
+  </message>
   <message id="COLOR_PIPETTE_FAILED_TITLE">
     <source>No colour picked</source>
     <translation>Keine Farbe aufgenommen</translation>

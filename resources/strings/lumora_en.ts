@@ -831,6 +831,10 @@
     <source>Pick a colour from the screen</source>
     <translation>Pick a colour from the screen</translation>
   </message>
+  <message id="COLOR_SCREEN_PIPETTE">
+    <source>Pick up a screen colour</source>
+    <translation>Pick up a screen colour</translation>
+  </message>
   <message id="COLOR_PIPETTE_FAILED_TITLE">
     <source>No colour picked</source>
     <translation>No colour picked</translation>

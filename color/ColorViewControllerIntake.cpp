@@ -1,0 +1,160 @@
+// SPDX-License-Identifier: MIT
+// How a color gets into the color tool: pasted, typed, picked from the screen.
+#include "ColorField.h"
+#include "ColorViewController.h"
+#include "PastedColor.h"
+#include "TypingRule.h"
+#include "color/pipette/Pipette.h"
+#include "ui_ColorViewController.h"
+
+#include <QKeyEvent>
+#include <QShortcut>
+
+#include <algorithm>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace lumora
+{
+
+void ColorViewController::paste()
+{
+    const QColor color = services().clipboard.color();
+    if (color.isValid()) {
+        takeColor(rgbaFrom(color));
+        return;
+    }
+    if (const auto pasted = pastedColor(services().clipboard.plainText()))
+        takeColor(pasted->color);
+}
+
+void ColorViewController::pasteIntoField()
+{
+    // The field would make nothing of a copied color.
+    if (services().clipboard.color().isValid())
+        paste();
+    else
+        takeText(services().clipboard.plainText());
+}
+
+void ColorViewController::takeText(const QString &text)
+{
+    if (const auto pasted = pastedColor(text)) {
+        takePasted(pasted->digits, pasted->color);
+        return;
+    }
+    const QString typed = text.trimmed();
+    const TypingOutcome outcome = outcomeOfTyping(textAfterTyping(typed));
+    if (outcome.correctedText)
+        showCorrected(outcome);
+    else
+        m_ui->colorTextField->insert(typed);
+}
+
+void ColorViewController::takePasted(const QString &digits, const RgbaColor &color)
+{
+    replaceFieldText(digits);
+    setTheColor(color);
+}
+
+void ColorViewController::showCorrected(const TypingOutcome &outcome)
+{
+    if (*outcome.correctedText != m_ui->colorTextField->text())
+        replaceFieldText(*outcome.correctedText);
+    if (outcome.colorText)
+        static_cast<void>(colorWithHexString(*outcome.colorText));
+}
+
+void ColorViewController::replaceFieldText(const QString &text)
+{
+    const bool before = std::exchange(m_setsText, true);
+    m_ui->colorTextField->replaceText(text);
+    m_setsText = before;
+}
+
+QString ColorViewController::textAfterTyping(const QString &typed) const
+{
+    const QLineEdit *field = m_ui->colorTextField;
+    const bool selected = field->hasSelectedText();
+    return field->text().replace(selected ? field->selectionStart() : field->cursorPosition(),
+                                 selected ? field->selectionLength() : 0, typed);
+}
+
+bool ColorViewController::filterTyping(const QKeyEvent &event)
+{
+    const QString typed = event.text();
+    const bool isCharacter = typed.size() == 1 && typed.front().isPrint() &&
+                             (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) == 0;
+    if (!isCharacter)
+        return false;
+    // One character too many never gets into the field: taken back, it would take all that can be undone with it.
+    ColorField *field = m_ui->colorTextField;
+    const QString text = textAfterTyping(typed);
+    const TypingOutcome outcome = outcomeOfTyping(text);
+    if (!outcome.correctedText)
+        return false;
+    const int cursor = field->hasSelectedText() ? field->selectionStart() : field->cursorPosition();
+    showCorrected(outcome);
+    field->setCursorPosition(std::min(cursor + 1, static_cast<int>(outcome.correctedText->size())));
+    return true;
+}
+
+bool ColorViewController::filterCodeClick(QObject *watched, QEvent *event)
+{
+    if (event->type() != QEvent::MouseButtonRelease)
+        return false;
+    for (const CodeRow &row : codeRows()) {
+        // A drag selects a part of the code instead.
+        if (row.code == watched && !row.code->hasSelectedText() &&
+            static_cast<QMouseEvent *>(event)->button() == Qt::LeftButton)
+            saveTitleAndCopy(row.button);
+    }
+    return false;
+}
+
+void ColorViewController::setUpPipette()
+{
+    const QKeySequence keys(Qt::CTRL | Qt::SHIFT | Qt::Key_P);
+    m_ui->pipetteButton->setAccessibleName(qtTrId("COLOR_SCREEN_PIPETTE"));
+    m_ui->pipetteButton->setToolTip(qtTrId("COLOR_SCREEN_PIPETTE") + u" (" + keys.toString(QKeySequence::NativeText) +
+                                    u')');
+    connect(m_ui->pipetteButton, &ImageButton::clicked, this, &ColorViewController::pipetteButtonPressed);
+    auto *shortcut = new QShortcut(keys, view());
+    connect(shortcut, &QShortcut::activated, this, &ColorViewController::pipetteButtonPressed);
+    setPipette(makeScreenPipette());
+}
+
+void ColorViewController::setPipette(std::unique_ptr<Pipette> pipette)
+{
+    m_pipette = std::move(pipette);
+    connect(m_pipette.get(), &Pipette::picked, this, [this](const RgbaColor &color) {
+        endPicking();
+        takeColor(color);
+    });
+    connect(m_pipette.get(), &Pipette::canceled, this, &ColorViewController::endPicking);
+    connect(m_pipette.get(), &Pipette::failed, this, [this] {
+        endPicking();
+        showPopupWithTitle(qtTrId("COLOR_PIPETTE_FAILED_TITLE"), qtTrId("COLOR_PIPETTE_FAILED_MESSAGE"),
+                           m_ui->pipetteButton, true);
+    });
+}
+
+void ColorViewController::pipetteButtonPressed()
+{
+    if (!m_ui->pipetteButton->isEnabled())
+        return;
+    m_pipetteHadFocus = m_ui->pipetteButton->hasFocus();
+    m_ui->pipetteButton->setEnabled(false);
+    m_pipette->pick(view());
+}
+
+void ColorViewController::endPicking()
+{
+    m_ui->pipetteButton->setEnabled(true);
+    // A disabled button hands the focus on.
+    if (m_pipetteHadFocus)
+        m_ui->pipetteButton->setFocus();
+}
+
+} // namespace lumora
