@@ -27,6 +27,18 @@ bool matches(const DeviceRecord &device, const FilterDictionary &filter)
     return std::ranges::all_of(filter.features(), [&](std::string_view key) { return hasFeature(device, key); });
 }
 
+Shortfall shortfall(const DeviceRecord &device, const FilterDictionary &filter)
+{
+    Shortfall shortfall;
+    if (filter.maxIos() && *filter.maxIos() > device.maxIos)
+        shortfall.wantedIos = filter.maxIos();
+    for (const DeviceFeature &feature : deviceFeatures) {
+        if (filter.features().contains(feature.key) && !(device.*(feature.value)))
+            shortfall.missing.push_back(&feature);
+    }
+    return shortfall;
+}
+
 void filterDevices(DeviceLists &devices, const FilterDictionary &filter)
 {
     for (std::vector<DeviceRecord> *list : {&devices.iPhones, &devices.iPods, &devices.iPads}) {

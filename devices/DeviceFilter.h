@@ -6,6 +6,7 @@
 #include <optional>
 #include <set>
 #include <string_view>
+#include <vector>
 
 namespace lumora
 {
@@ -36,6 +37,16 @@ private:
 
 /// True when the device runs the oldest iOS version and has every required feature.
 bool matches(const DeviceRecord &device, const FilterDictionary &filter);
+
+/// What keeps a device from matching; nothing in one that matches.
+struct Shortfall
+{
+    std::optional<float> wantedIos;             ///< newer than any version that the device runs
+    std::vector<const DeviceFeature *> missing; ///< in the order of `deviceFeatures`
+
+    bool operator==(const Shortfall &) const = default;
+};
+Shortfall shortfall(const DeviceRecord &device, const FilterDictionary &filter);
 
 /// Stores in every record's `active` whether it matches.
 void filterDevices(DeviceLists &devices, const FilterDictionary &filter);

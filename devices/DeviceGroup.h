@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "DeviceFilter.h"
 #include "DevicePlacement.h"
 
 #include <QString>
@@ -30,6 +31,9 @@ struct DeviceGroup
                               QWidget *container);
     /// Sets the picture's accessible description to whether its device matches, for users who do not see it fade.
     static void describe(DevicePicture *picture, bool matches);
+    /// Says in the tool tips of picture and label what the device lacks, and to those who ask a screen reader for help.
+    static void explain(DevicePicture *picture, DeviceLabel *label, const DeviceRecord &device,
+                        const Shortfall &shortfall);
 };
 
 } // namespace lumora

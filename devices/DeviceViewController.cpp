@@ -8,6 +8,10 @@
 #include "widgets/style/Fonts.h"
 #include "widgets/style/Palette.h"
 
+#include <QLabel>
+
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace lumora
@@ -18,6 +22,7 @@ namespace
 
 constexpr int sectionFontSize = 18;
 constexpr int groupFontSize = 15;
+constexpr int countFontSize = 13;
 
 QString text(std::string_view view)
 {
@@ -42,6 +47,7 @@ DeviceViewController::DeviceViewController(const Services &services, QObject *pa
     createiPhoneList();
     createiPodList();
     createiPadList();
+    showCount();
     createPopup();
 }
 
@@ -58,6 +64,12 @@ void DeviceViewController::setUpSections()
     section(m_ui->iPhoneLabel, groupFontSize, qtTrId("DEVICES_IPHONES"));
     section(m_ui->iPodLabel, groupFontSize, qtTrId("DEVICES_IPODS"));
     section(m_ui->iPadLabel, groupFontSize, qtTrId("DEVICES_IPADS"));
+    // Beside the one mini, in the row that it has to itself.
+    m_miniLabel = new QLabel(m_ui->iPadContainer);
+    section(m_miniLabel, groupFontSize, qtTrId("DEVICES_IPAD_MINI"));
+    const int left = placeOfiPad(setupiPads().at(1), 2).picture.left();
+    m_miniLabel->setGeometry(left, 0, m_ui->iPadContainer->width() - left, m_miniLabel->sizeHint().height());
+    styleLabel(m_ui->countLabel, latoBold(countFontSize), palette::chromeText);
 }
 
 void DeviceViewController::setUpControls()
@@ -111,6 +123,11 @@ std::array<CheckboxButton *, deviceFeatures.size()> DeviceViewController::checkb
 IconButton *DeviceViewController::resetButton() const
 {
     return m_ui->resetButton;
+}
+
+QLabel *DeviceViewController::countLabel() const
+{
+    return m_ui->countLabel;
 }
 
 void DeviceViewController::setupData()
@@ -172,6 +189,20 @@ void DeviceViewController::filter()
     showMatches(m_devices.iPhones, m_iPhoneViews);
     showMatches(m_devices.iPods, m_iPodViews);
     showMatches(m_devices.iPads, m_iPadViews);
+    showCount();
+}
+
+void DeviceViewController::showCount()
+{
+    std::size_t all = 0;
+    std::ptrdiff_t fitting = 0;
+    for (const std::vector<DeviceRecord> *devices : {&m_devices.iPhones, &m_devices.iPods, &m_devices.iPads}) {
+        all += devices->size();
+        fitting += std::count_if(devices->begin(), devices->end(), [](const DeviceRecord &d) { return d.active; });
+    }
+    m_ui->countLabel->setText(qtTrId("DEVICES_FIT")
+                                  .replace("[COUNT]"_L1, QString::number(fitting))
+                                  .replace("[ALL]"_L1, QString::number(all)));
 }
 
 void DeviceViewController::showMatches(const std::vector<DeviceRecord> &devices, const DeviceGroup &views)
@@ -179,6 +210,8 @@ void DeviceViewController::showMatches(const std::vector<DeviceRecord> &devices,
     for (std::size_t index = 0; index < devices.size(); ++index) {
         const bool matches = devices[index].active;
         DeviceGroup::describe(views.images[index], matches);
+        DeviceGroup::explain(views.images[index], views.labels[index], devices[index],
+                             shortfall(devices[index], m_filterDictionary));
         animateView(views.images[index], matches ? 1.0F : fadedAlpha);
         animateView(views.labels[index], matches ? 1.0F : fadedAlpha);
     }

@@ -10,6 +10,8 @@
 #include <memory>
 #include <vector>
 
+class QLabel;
+
 namespace Ui
 {
 class DeviceViewController;
@@ -51,6 +53,9 @@ public:
     std::array<RadioButton *, iosChoices.size()> radioButtons() const;
     std::array<CheckboxButton *, deviceFeatures.size()> checkboxes() const;
     IconButton *resetButton() const;
+    /// "5 of 17 models fit".
+    QLabel *countLabel() const;
+    QLabel *miniLabel() const { return m_miniLabel; }
 
     void checkbox_ios4_checked(RadioButton *sender) { chooseVersion(4.0F, sender); }
     void checkbox_ios5_checked(RadioButton *sender) { chooseVersion(5.0F, sender); }
@@ -90,6 +95,7 @@ private:
     void createiPadList();
     void chooseVersion(float version, RadioButton *sender);
     void toggleFeature(std::string_view key, CheckboxButton *sender);
+    void showCount();
     void showMatches(const std::vector<DeviceRecord> &devices, const DeviceGroup &views);
 
     std::unique_ptr<Ui::DeviceViewController> m_ui;
@@ -98,6 +104,7 @@ private:
     DeviceGroup m_iPodViews;
     DeviceGroup m_iPadViews;
     FilterDictionary m_filterDictionary;
+    QLabel *m_miniLabel = nullptr; ///< owned by its container
 };
 
 } // namespace lumora
