@@ -152,6 +152,23 @@ private slots:
                  qPrintable(QString::number(alpha)));
     }
 
+    void announcesOnceThatItCloses()
+    {
+        DrivenClock clock;
+        Scene scene;
+        SFBPopover popover(plainContent());
+        const QSignalSpy closing(&popover, &SFBPopover::closing);
+        popover.displayPopoverInWindow(&scene.window, QPointF(200, 130));
+        pass(clock, 250);
+        QCOMPARE(closing.count(), 0);
+        popover.closePopover();
+        QVERIFY(popover.isVisible());
+        QCOMPARE(closing.count(), 1);
+        pass(clock, 250);
+        QVERIFY(!popover.isVisible());
+        QCOMPARE(closing.count(), 1);
+    }
+
     void ignoresADisplayWhileItFadesOut()
     {
         DrivenClock clock;
