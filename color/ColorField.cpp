@@ -28,7 +28,7 @@ WideColor wide(const QColor &color)
     return wideColorFromBytes(color.red(), color.green(), color.blue());
 }
 
-/// The menu's own action to paste, which nothing but its shortcut tells from the others; null without one.
+/// The menu's own paste action, found by its shortcut; null if there is none.
 QAction *pasteAction(const QMenu &menu)
 {
     const QString keys = QKeySequence(QKeySequence::Paste).toString(QKeySequence::NativeText);

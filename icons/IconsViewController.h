@@ -53,7 +53,7 @@ public:
     /// Takes the picture as the source if it is exactly 1024 pixels wide and high; otherwise shows a message at the
     /// browse button and keeps the present source.
     void createIconFromURL(const QString &path);
-    /// The same as dropping that one file.
+    /// The same as dropping this file.
     void setIconFromDelegate(const QString &path);
     void dropViewReceivedFiles(const QStringList &files) override;
     /// Does nothing: colors are of no use here.

@@ -40,7 +40,7 @@ void readPng(const QByteArray &bytes, ScreenshotFacts &facts)
     }
 }
 
-/// The number of components that a JPEG file's frame has; 0 where no frame is found.
+/// The number of components in a JPEG file's frame; 0 if no frame is found.
 int jpegComponents(const QByteArray &bytes)
 {
     const auto byteAt = [&bytes](qsizetype at) { return at < bytes.size() ? static_cast<uchar>(bytes[at]) : 0; };

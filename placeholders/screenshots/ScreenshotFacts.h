@@ -12,25 +12,25 @@
 namespace lumora
 {
 
-/// What a picture file says of itself.
+/// The facts of a picture file.
 struct ScreenshotFacts
 {
-    QString path;      ///< relative to the folder that was looked through
-    QByteArray format; ///< "png", "jpeg", ...; empty for no picture that is known
-    QSize size;        ///< in pixels; empty where it could not be read
+    QString path;      ///< relative to the searched folder
+    QByteArray format; ///< "png", "jpeg", ...; empty for an unknown format
+    QSize size;        ///< in pixels; empty if it could not be read
     bool hasAlpha = false;
-    /// False for four inks and for shades of gray alone.
+    /// False for four inks and for shades of gray only.
     bool isRgb = true;
 };
 
-/// The most files that are looked at.
+/// The most files that are read.
 inline constexpr std::size_t mostScreenshots = 5000;
 
 /// Reads one file's bytes.
 ScreenshotFacts screenshotFacts(const QByteArray &bytes, const QString &path);
 
-/// Reads every picture file in the folder and below, known by its extension, hidden entries and links to folders left
-/// out, in the order of their paths. What can't be read has no format.
+/// Reads all picture files in the folder and below, known by their extension and sorted by path. Skips hidden entries
+/// and links to folders. A file that cannot be read has no format.
 Result<std::vector<ScreenshotFacts>> readScreenshots(const QString &folder);
 
 } // namespace lumora

@@ -93,7 +93,7 @@ bool isTabletFolder(const QString &folder)
     return folder.endsWith("sevenInchScreenshots"_L1) || folder.endsWith("tenInchScreenshots"_L1);
 }
 
-/// Folders that are named for kinds of devices of Play.
+/// Folders that are named for Play's kinds of devices.
 bool isPlayFolder(const QString &folder)
 {
     return isTabletFolder(folder) || folder.endsWith("phoneScreenshots"_L1) || folder.endsWith("tvScreenshots"_L1) ||

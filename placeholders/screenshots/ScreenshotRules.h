@@ -14,10 +14,10 @@ namespace lumora
 
 enum class ScreenshotStore { AppStore, Play };
 
-/// An error is refused by the store, a warning is likely to be, a note costs something.
+/// The store refuses an error and probably a warning; a note is a disadvantage.
 enum class ScreenshotSeverity { Error, Warning, Note };
 
-/// One rule that screenshots are held against.
+/// One rule for screenshots.
 struct ScreenshotRule
 {
     QLatin1StringView id;
@@ -33,12 +33,12 @@ struct ScreenshotFinding
 {
     const ScreenshotRule *rule = nullptr;
     QString path;     ///< of the picture or of its folder
-    QString evidence; ///< what was found: "1081 x 1920 pixels"
+    QString evidence; ///< the finding: "1081 x 1920 pixels"
 };
 
-/// What is wrong with the pictures, in the order of their paths, then what is wrong with a folder of them. A picture in
-/// a folder of Play's (phoneScreenshots and the like, featureGraphic) is held against Play's rules; any other against
-/// those of the given stores, both where none is given: then it has to be good for one of them.
+/// The faults of the pictures, sorted by path, then those of folders. A picture in one of Play's folders
+/// (phoneScreenshots and the like, featureGraphic) must follow Play's rules; any other those of the given stores.
+/// Without given stores it must follow the rules of at least one.
 std::vector<ScreenshotFinding> screenshotFindings(const std::vector<ScreenshotFacts> &screenshots,
                                                   const std::set<ScreenshotStore> &stores = {});
 

@@ -41,7 +41,7 @@ Result<QByteArray> encoded(const LabeledPicture &picture, const LabeledOptions &
     case LabeledFormat::WebP:
         break;
     }
-    // The format's writer takes a picture as a whole.
+    // The format's writer needs the whole picture.
     if (qint64{pixels.width()} * pixels.height() > largestPictureArea)
         return Failure{FailureCode::TooLarge, path, u"%1 x %2 pixels"_s.arg(pixels.width()).arg(pixels.height())};
     return encodeWebP(picture.toImage(), {options.webpQuality}, path);

@@ -23,12 +23,12 @@ QString filledIn(const QString &text, QSize points)
     filled.replace(u"{size}"_s, u"%1 x %2"_s.arg(points.width()).arg(points.height()));
     filled.replace(u"{width}"_s, QString::number(points.width()));
     filled.replace(u"{height}"_s, QString::number(points.height()));
-    // What no font draws and no XML document may hold.
+    // Characters that no font draws and no XML document may contain.
     filled.removeIf([](QChar one) { return one != u'\n' && one.category() == QChar::Other_Control; });
     return filled;
 }
 
-/// The text in ems, its lines centered on one another below the first baseline at y = 0.
+/// The text in ems, with centered lines; the first baseline is at y = 0.
 QPainterPath linesOutline(const QStringList &lines, const LabelFont &font)
 {
     const double lineHeight = font.ascent() + font.descent();
@@ -40,8 +40,8 @@ QPainterPath linesOutline(const QStringList &lines, const LabelFont &font)
     return path;
 }
 
-/// How many pixels an em has: a tenth of the longer edge, and less where the text would take more than four fifths of
-/// the picture either way.
+/// The pixels of an em: a tenth of the longer edge, or less if the text would take more than four fifths of the
+/// picture's width or height.
 double emPixels(const QStringList &lines, QSize pixels, const LabelFont &font)
 {
     constexpr double room = 0.8;
@@ -64,7 +64,7 @@ QPainterPath placedOutline(const QString &text, QSize pixels, const LabelFont &f
     return QTransform::fromTranslate(pixels.width() / 2.0, firstBaseline).scale(em, em).map(linesOutline(lines, font));
 }
 
-/// The ink at a coverage over the ground, straight.
+/// The ink at a coverage over the background, as a straight color.
 std::array<unsigned char, 4> mixed(const QColor &ink, const QColor &ground, unsigned char coverage)
 {
     const double above = ink.alphaF() * coverage / 255.0;

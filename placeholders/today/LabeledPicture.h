@@ -17,17 +17,17 @@ namespace lumora
 
 class LabelFont;
 
-/// How a placeholder of somebody's own looks.
+/// The look of a custom placeholder.
 struct PictureLook
 {
-    /// What it says; "{size}", "{width}" and "{height}" give the size in points, a line break begins a line.
+    /// The text; "{size}", "{width}" and "{height}" are replaced by the size in points, and a line break begins a line.
     QString text = QStringLiteral("{size}");
     QColor foreground{255, 255, 255};
     QColor background{128, 128, 128};
 };
 
-/// One placeholder: a ground with a text in its middle, as large as fits well. Rows of pixels and SVG are two
-/// renderings of one outline. A cheap value; rows may be read from several threads.
+/// One placeholder: a background with a text in its middle, as large as fits well. Rows of pixels and SVG come from the
+/// same outline. A cheap value; several threads may read rows at once.
 class LabeledPicture
 {
 public:
@@ -38,9 +38,9 @@ public:
     void readRow(int row, std::span<unsigned char> rgba) const;
     /// All rows at once, as `QImage::Format_RGBA8888`.
     QImage toImage() const;
-    /// Whether no pixel lets anything through.
+    /// Whether every pixel is opaque.
     bool isOpaque() const { return m_ground.alpha() == 255 && m_ink.alpha() == 255; }
-    /// The picture as an SVG document, as wide and high in user units as it has points.
+    /// The picture as an SVG document; a user unit is a point.
     QByteArray toSvg() const;
 
 private:
@@ -52,7 +52,7 @@ private:
     std::shared_ptr<const OutlineCoverage> m_coverage;
 };
 
-/// The characters of the text that the labels' font has no shape for, each once.
+/// The characters of the text without a glyph in the labels' font, without duplicates.
 QString withoutShape(const QString &text, const LabelFont &font);
 
 } // namespace lumora

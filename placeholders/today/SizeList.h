@@ -11,11 +11,11 @@
 namespace lumora
 {
 
-/// A size of somebody's own.
+/// A custom size.
 struct ListedSize
 {
     QSize points;
-    int scale = 1; ///< 1 to 4; the picture has so many pixels a point
+    int scale = 1; ///< pixels per point, 1 to 4
 
     QSize pixels() const { return points * scale; }
     bool operator==(const ListedSize &) const = default;
@@ -24,8 +24,8 @@ struct ListedSize
 /// The most sizes in a list.
 inline constexpr std::size_t mostListedSizes = 500;
 
-/// Reads "1200x600 800x800@2x": sizes in points, apart by white space, commas or semicolons, each edge of the picture
-/// from 1 to 9999 pixels, each size once. Refused with InvalidValue and the part that is no size as subject.
+/// Reads "1200x600 800x800@2x": sizes in points, separated by white space, commas or semicolons, with edges from 1 to
+/// 9999 pixels, without duplicates. Fails with InvalidValue; the subject is the part that is not a size.
 Result<std::vector<ListedSize>> sizesFromList(const QString &text);
 
 /// "800x800@2x".

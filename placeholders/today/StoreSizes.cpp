@@ -12,8 +12,8 @@ namespace lumora
 namespace
 {
 
-// App Store: what fastlane's deliver takes (app_screenshot.rb at d5347690d) where guides of 2026 agree with it. Screens
-// of four inches and less are left to old apps.
+// App Store: the sizes that fastlane's deliver accepts (app_screenshot.rb at d5347690d) if guides of 2026 agree.
+// Screens of four inches and less are left out, since only old apps need them.
 constexpr std::array<StoreSize, 3> iphone69{
     {{{1260, 2736}, "iPhone 6.9\""_L1}, {{1290, 2796}, "iPhone 6.9\""_L1}, {{1320, 2868}, "iPhone 6.9\""_L1}}};
 constexpr std::array<StoreSize, 2> iphone65{{{{1242, 2688}, "iPhone 6.5\""_L1}, {{1284, 2778}, "iPhone 6.5\""_L1}}};
@@ -74,7 +74,7 @@ constexpr std::array<StoreSize, 4> play{{{{1080, 1920}, "phone"_L1},
                                          {{1600, 2560}, "tablet of 10\""_L1}}};
 constexpr std::array<StoreSize, 1> featureGraphic{{{{1024, 500}, "Play feature graphic"_L1}}};
 
-// What sites ask for in their own pages on sharing: Open Graph, X's large card, Instagram, YouTube, GitHub, Pinterest.
+// The sizes in the sites' own pages on sharing: Open Graph, X's large card, Instagram, YouTube, GitHub, Pinterest.
 constexpr std::array<StoreSize, 8> social{{{{1200, 630}, "Open Graph card"_L1},
                                            {{1200, 600}, "large card of 2:1"_L1},
                                            {{1280, 640}, "repository card"_L1},
@@ -84,8 +84,8 @@ constexpr std::array<StoreSize, 8> social{{{{1200, 630}, "Open Graph card"_L1},
                                            {{1080, 1920}, "story"_L1},
                                            {{1000, 1500}, "pin"_L1}}};
 
-// The screens of iPhones and iPads since iOS 9, which is what a web app's startup images fill; Android's splash
-// pictures by bucket, and the square that a storyboard crops, as capacitor-assets has both.
+// The screens of iPhones and iPads since iOS 9, which a web app's startup images fill; Android's splash pictures by
+// bucket, and the square that a storyboard crops, both as in capacitor-assets.
 constexpr std::array<StoreSize, 28> launch{
     {{{1320, 2868}, "iPhone"_L1},       {{1290, 2796}, "iPhone"_L1},        {{1284, 2778}, "iPhone"_L1},
      {{1260, 2736}, "iPhone"_L1},       {{1242, 2688}, "iPhone"_L1},        {{1206, 2622}, "iPhone"_L1},

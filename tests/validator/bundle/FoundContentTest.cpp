@@ -63,7 +63,7 @@ private slots:
         const QString path = m_files.filePath(u"locked.ipa"_s);
         QVERIFY(QFile::copy(m_files.filePath(u"a text.ipa"_s), path));
         QVERIFY(QFile::setPermissions(path, QFileDevice::Permissions()));
-        // Whoever may read everything sees the text all the same.
+        // A user who may read everything gets the text anyway.
         QFile file(path);
         QCOMPARE(foundContent(path).kind, file.open(QIODevice::ReadOnly) ? FoundKind::Text : FoundKind::Unreadable);
     }
