@@ -20,13 +20,13 @@ public:
     /// Also chooses the background: white or dark, whichever has more contrast with the color.
     void setTextColor(const RgbaColor &color);
     QColor groundColor() const { return m_groundColor; }
-    /// Puts the text in the place of the whole one, as one step that can be undone.
+    /// Replaces the whole text, as one step that can be undone.
     void replaceText(const QString &text);
 
 signals:
-    /// The clipboard's content is to be pasted, by key or from the menu. What comes of it is the owner's to decide.
+    /// The user pastes the clipboard's content, by key or from the menu. The owner decides what to do with it.
     void pasteWanted();
-    /// The selection of another place is to be pasted at the cursor, by the middle mouse button.
+    /// The user pastes the selection of another place at the cursor, by the middle mouse button.
     void textOffered(const QString &text);
 
 protected:

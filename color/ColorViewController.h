@@ -51,7 +51,7 @@ public:
     QLabel *javaLabel() const;
     QLabel *cssLabel() const;
     ImageButton *pipetteButton() const;
-    /// Says that the codes carry no opacity, while the color has one.
+    /// Shows that the codes have no opacity if the color is translucent.
     QLabel *opacityNote() const;
 
     /// The current color: the last valid one, whatever the field contains.
@@ -81,7 +81,7 @@ public:
     /// Takes a copied color, or a copied text with a color in any form.
     void paste() override;
     void pipetteButtonPressed();
-    /// What picks from the screen; the system's own at first.
+    /// The pipette that picks from the screen; the system's own by default.
     void setPipette(std::unique_ptr<Pipette> pipette);
 
 protected:
@@ -107,11 +107,11 @@ private:
     void pasteIntoField();
     /// Takes the text if it is a color, else types it at the cursor.
     void takeText(const QString &text);
-    /// What the user entered, as the typing rule leaves it.
+    /// The user's text after the typing rule.
     void showCorrected(const TypingOutcome &outcome);
-    /// As `setFieldText`, but can be undone.
+    /// The same as `setFieldText`, but can be undone.
     void replaceFieldText(const QString &text);
-    /// The field's text with the typed one in the place of its selection.
+    /// The field's text with its selection replaced by the typed text.
     QString textAfterTyping(const QString &typed) const;
     void setUpField();
     void setUpRows();

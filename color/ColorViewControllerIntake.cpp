@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How a color gets into the color tool: pasted, typed, picked from the screen.
+// The ways of a color into the color tool: pasted, typed, picked from the screen.
 #include "ColorField.h"
 #include "ColorViewController.h"
 #include "PastedColor.h"
@@ -31,7 +31,7 @@ void ColorViewController::paste()
 
 void ColorViewController::pasteIntoField()
 {
-    // The field would make nothing of a copied color.
+    // The field itself ignores a copied color.
     if (services().clipboard.color().isValid())
         paste();
     else
@@ -88,7 +88,7 @@ bool ColorViewController::filterTyping(const QKeyEvent &event)
                              (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) == 0;
     if (!isCharacter)
         return false;
-    // One character too many never gets into the field: taken back, it would take all that can be undone with it.
+    // An excess character never gets into the field: removing it afterwards would clear the undo history.
     ColorField *field = m_ui->colorTextField;
     const QString text = textAfterTyping(typed);
     const TypingOutcome outcome = outcomeOfTyping(text);
@@ -152,7 +152,7 @@ void ColorViewController::pipetteButtonPressed()
 void ColorViewController::endPicking()
 {
     m_ui->pipetteButton->setEnabled(true);
-    // A disabled button hands the focus on.
+    // A disabled button would pass the focus on.
     if (m_pipetteHadFocus)
         m_ui->pipetteButton->setFocus();
 }

@@ -10,14 +10,14 @@
 namespace lumora
 {
 
-/// A color that comes as a text from elsewhere.
+/// A color from a pasted text.
 struct PastedColor
 {
-    RgbaColor color; ///< its components are whole bytes, the nearest ones: codes print a cut-off fraction
-    QString digits;  ///< its three or six digits as they were written, with or without "#"; else "#rrggbb"
+    RgbaColor color; ///< its components are rounded to whole bytes, since codes truncate
+    QString digits;  ///< its three or six digits as written, with or without "#"; else "#rrggbb"
 };
 
-/// Understands every form that `readColor` does, with any blanks around it; nothing where the text is no color.
+/// Reads every form of `readColor`, with any spaces around it; empty if the text is not a color.
 std::optional<PastedColor> pastedColor(const QString &text);
 
 } // namespace lumora

@@ -38,7 +38,7 @@ private:
 /// True when the device runs the oldest iOS version and has every required feature.
 bool matches(const DeviceRecord &device, const FilterDictionary &filter);
 
-/// What keeps a device from matching; nothing in one that matches.
+/// Why a device does not match; empty for one that matches.
 struct Shortfall
 {
     std::optional<float> wantedIos;             ///< newer than any version that the device runs

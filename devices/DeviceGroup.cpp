@@ -17,7 +17,7 @@ QString text(std::string_view view)
     return QString::fromUtf8(view.data(), static_cast<qsizetype>(view.size()));
 }
 
-/// With one decimal, as the versions are named: "4.2", "7.0".
+/// The version with one decimal: "4.2", "7.0".
 QString versionText(float version)
 {
     return QString::number(static_cast<double>(version), 'f', 1);

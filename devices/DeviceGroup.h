@@ -31,7 +31,7 @@ struct DeviceGroup
                               QWidget *container);
     /// Sets the picture's accessible description to whether its device matches, for users who do not see it fade.
     static void describe(DevicePicture *picture, bool matches);
-    /// Says in the tool tips of picture and label what the device lacks, and to those who ask a screen reader for help.
+    /// Sets the tool tips of picture and label, and the help for screen readers, to what the device lacks.
     static void explain(DevicePicture *picture, DeviceLabel *label, const DeviceRecord &device,
                         const Shortfall &shortfall);
 };

@@ -64,7 +64,7 @@ void DeviceViewController::setUpSections()
     section(m_ui->iPhoneLabel, groupFontSize, qtTrId("DEVICES_IPHONES"));
     section(m_ui->iPodLabel, groupFontSize, qtTrId("DEVICES_IPODS"));
     section(m_ui->iPadLabel, groupFontSize, qtTrId("DEVICES_IPADS"));
-    // Beside the one mini, in the row that it has to itself.
+    // Beside the mini, which is alone in its row.
     m_miniLabel = new QLabel(m_ui->iPadContainer);
     section(m_miniLabel, groupFontSize, qtTrId("DEVICES_IPAD_MINI"));
     const int left = placeOfiPad(setupiPads().at(1), 2).picture.left();

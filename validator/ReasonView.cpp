@@ -19,7 +19,7 @@ namespace
 {
 
 constexpr int textSize = 13;
-/// Where the text of a box begins.
+/// The left edge of a box's text.
 constexpr int indent = 30;
 constexpr int gap = 6;
 
@@ -50,7 +50,7 @@ const QStringList &ReasonView::sizes() const
 void ReasonView::setReason(const QString &reason, const QStringList &sizes)
 {
     m_label->setText(breakingLongWords(reason));
-    // The chips are a picture of the list; who listens gets it in one go.
+    // The chips are a picture of the list; a screen reader gets the list as one text.
     m_label->setAccessibleName(sizes.isEmpty() ? reason : reason + u' ' + sizes.join(u", "_s));
     m_chips->setTexts(sizes);
     m_chips->setVisible(!sizes.isEmpty());

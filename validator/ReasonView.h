@@ -12,8 +12,8 @@ namespace lumora
 
 class SizeChips;
 
-/// Stands below a check's box and says why it failed: a sentence, and the sizes that are missing. Takes no room while
-/// there is nothing to say.
+/// Is below a check's box and shows why the check failed: a sentence, and the missing sizes. Takes no space while it is
+/// empty.
 class ReasonView final : public QWidget
 {
     Q_OBJECT

@@ -27,7 +27,7 @@ bool ReportArea::event(QEvent *event)
     if (m_keyboardFocus.follow(event))
         update();
     const bool handled = QScrollArea::event(event);
-    // What is painted on the area itself lies around its viewport.
+    // The area itself is painted around its viewport.
     if (event->type() == QEvent::Paint && hasFocus() && m_keyboardFocus.isShown()) {
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);

@@ -8,7 +8,7 @@
 namespace lumora
 {
 
-/// What a report scrolls in. Takes the keyboard, for its keys to scroll, and shows it by a ring.
+/// The scroll area of a report. Takes the keyboard for scrolling, and shows it by a ring.
 class ReportArea final : public QScrollArea
 {
     Q_OBJECT

@@ -40,7 +40,7 @@ void ReportBody::arrange()
     auto *grid = qobject_cast<QGridLayout *>(layout());
     grid->removeWidget(m_facts);
     grid->removeWidget(m_checks);
-    // Row 0 is the note's, the last one takes what is left.
+    // Row 0 has the note, the last row takes the remaining space.
     grid->addWidget(m_facts, 1, 0);
     grid->addWidget(m_checks, m_wide ? 1 : 2, m_wide ? 1 : 0);
     grid->setColumnStretch(0, factsShare);

@@ -8,20 +8,19 @@ class QGridLayout;
 namespace lumora
 {
 
-/// Holds the two parts of a report in a grid: the facts, and the checks below them or, where there is room, beside
-/// them.
+/// Has the two parts of a report in a grid: the facts, and the checks below them or, if there is space, beside them.
 class ReportBody final : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// From this width on the parts stand side by side; points.
+    /// From this width on the parts are side by side, in points.
     static constexpr int wideFrom = 1060;
 
     explicit ReportBody(QWidget *parent = nullptr);
 
     /// Both are in this view's grid layout already, the checks in a row of their own below the facts. `checksIndent` is
-    /// what the checks are moved in by there, to stand under the facts' texts.
+    /// the indentation of the checks there, so that they align with the facts' texts.
     void setParts(QWidget *facts, QWidget *checks, int checksIndent);
     bool isWide() const { return m_wide; }
 

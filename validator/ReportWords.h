@@ -11,28 +11,28 @@
 namespace lumora
 {
 
-/// Stands for a fact that the package does not give.
+/// The text for a fact that is missing in the package.
 inline constexpr QChar noFact(0x2013);
 
 /// "2 of 6 checks failed".
 QString sumText(const CheckSum &sum);
 
-/// Why the check failed, one sentence, in front of the missing sizes where there are any; empty for one that did not.
+/// Why the check failed, in one sentence before the missing sizes, if there are any; empty for a check that passed.
 QString reasonText(const CheckResult &result, const PackageFacts &facts);
 
-/// What a file holds that is no app package, and what one would be.
+/// The content of a file that is not an app package, and a description of a package.
 QString foundText(const FoundContent &found);
 
-/// What keeps a report from being the whole truth about an app; empty where nothing does.
+/// Why a report is not complete; empty if it is.
 QString noteText(const PackageFacts &facts, const Extraction &extraction);
 
 /// The name of the check as its box shows it.
 QString checkName(Check check);
 
-/// What came of it, by its name.
+/// The name of its result.
 QString verdictText(const CheckResult &result);
 
-/// Label and value, a dash where there is none.
+/// Label and value, with a dash for a missing value.
 QStringList factLines(const PackageFacts &facts);
 
 } // namespace lumora

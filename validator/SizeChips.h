@@ -10,22 +10,22 @@
 namespace lumora
 {
 
-/// Short texts, each in a rounded box of its own, as many side by side as the width allows.
+/// Short texts, each in a rounded box, as many side by side as fit.
 class SizeChips final : public QWidget
 {
     Q_OBJECT
 
 public:
     static constexpr int height = 22; ///< of one chip
-    static constexpr int gap = 6;     ///< between two, also between two rows
+    static constexpr int gap = 6;     ///< between two chips, and between two rows
 
     explicit SizeChips(QWidget *parent = nullptr);
 
     const QStringList &texts() const { return m_texts; }
     void setTexts(const QStringList &texts);
 
-    /// Where chips of these widths lie: row by row, each row begun at the side where reading begins. A chip that is
-    /// wider than a row is cut to it.
+    /// The places of chips of these widths: row by row, from the side where reading begins. A chip that is wider than a
+    /// row is cut to it.
     static QList<QRect> placed(const QList<int> &widths, int rowWidth, Qt::LayoutDirection direction);
 
     bool hasHeightForWidth() const override { return true; }

@@ -35,7 +35,7 @@ constexpr int accentRoomSize = 20;
 constexpr int readingSize = 18;
 constexpr int informationSize = 13;
 constexpr int sumSize = 18;
-/// Moves the checks in, to stand under the facts' texts: the app's icon and what is between.
+/// The indentation of the checks, which aligns them with the facts' texts: the app's icon and the gap.
 constexpr int checksIndent = 156;
 /// The total opacity of a box whose subject is absent, including the dimming of disabled boxes.
 constexpr double absentOpacity = 0.25;
@@ -148,7 +148,7 @@ void ValidaterViewController::setUpReport()
     m_ui->reportBody->setParts(m_ui->factsPart, m_ui->checksPart, checksIndent);
     m_ui->readingBar->setLightColor(palette::validator);
     m_ui->readingBar->setDarkColor(palette::validatorBorder);
-    // How much is left of a package nobody knows before it is unpacked.
+    // The amount of remaining work is not known before the package is unpacked.
     m_ui->readingBar->setDoubleValue(m_ui->readingBar->maxValue());
     m_ui->readingBar->setAccessibleName(qtTrId("ACCESSIBLE_VALIDATER_PROGRESS"));
     for (QWidget *part : {static_cast<QWidget *>(m_ui->readingBar), static_cast<QWidget *>(m_ui->cancelButton)})
@@ -235,7 +235,7 @@ void ValidaterViewController::paste()
 
 void ValidaterViewController::readyForIpa()
 {
-    // First what can take the keyboard, then away with what has it.
+    // First shows the views that can take the keyboard, then hides the one that has it.
     setReading(true);
     setOpacity(m_ui->dropView, 0);
     setOpacity(m_ui->validateInterface, 1);
@@ -260,7 +260,7 @@ void ValidaterViewController::cancelButtonPressed()
 
 void ValidaterViewController::setReading(bool reading)
 {
-    // The name fades out over the report, which can be pressed by then.
+    // The name fades out over the report, which can already be pressed.
     m_ui->readingView->setAttribute(Qt::WA_TransparentForMouseEvents, !reading);
     setOpacity(m_ui->readingBar, reading ? 1 : 0);
     setOpacity(m_ui->cancelButton, reading ? 1 : 0);
@@ -333,7 +333,7 @@ void ValidaterViewController::showFact(QLabel *field, const char *labelKey, cons
     const QString shown = value.isEmpty() ? QString(noFact) : shownFact(value);
     const StyledText text = createAttributedTextFromString(breakingLongWords(label + shown), latoBold(fontSize), label);
     field->setText(roomForAccents() + text.toHtml());
-    // A dash is for the eye.
+    // A dash is only for the eye.
     field->setAccessibleName(label + shownFact(value));
 }
 

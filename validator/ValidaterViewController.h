@@ -50,9 +50,9 @@ public:
     const QStringList &invalidDefaultsArray() const { return m_invalidDefaultsArray; }
 
     const QList<CheckResult> &results() const { return m_results; }
-    /// What lies where a package was expected; nothing while there is none of these, or a package was found.
+    /// What was found instead of a package; empty if nothing was, or if a package was found.
     const std::optional<FoundContent> &found() const { return m_found; }
-    /// The whole report as text, to be sent to somebody.
+    /// The whole report as text, for sending.
     QString reportText() const;
 
     /// The folder in which the browse panel opens, empty for the user's own.
@@ -118,11 +118,11 @@ private:
     void validate(const ArtworkReport &artwork);
     void showFact(QLabel *field, const char *labelKey, const QString &value);
     void showAppIcon(const QImage &icon);
-    /// The sum on top and the reasons in their rows; what was found where there is no package.
+    /// Shows the sum on top and the reasons in their rows; without a package, what was found.
     void showSum();
     ReasonView *reasonView(Check check) const;
     void setReading(bool reading);
-    /// Takes the keyboard to the report that has come, unless the user is elsewhere, and lets screen readers say it.
+    /// Gives the keyboard to the new report, unless the user is elsewhere, and makes screen readers announce it.
     void presentReport();
     QList<QWidget *> headViews() const;
     bool hasKeyboard() const;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the validator's pane says of a package as a whole, and what can be done with the report.
+// The texts of the validator's pane about a package as a whole, and the actions on the report.
 #include "LongWords.h"
 #include "ReportWords.h"
 #include "ShownFact.h"
@@ -25,7 +25,7 @@ namespace
 
 constexpr qreal missingIconRadius = 28;
 
-/// Stands where the app's icon would be: the outline of one.
+/// The outline of an icon, shown in place of a missing one.
 QPixmap missingIcon(qreal devicePixelRatio)
 {
     QPixmap picture(QSize(appIconSize, appIconSize) * devicePixelRatio);
@@ -45,7 +45,7 @@ void setColor(QLabel *label, const QColor &color)
     label->setPalette(colors);
 }
 
-/// A package that was too much for this machine, not one that is damaged.
+/// Whether a package exceeded a limit of this machine, and is not damaged.
 bool isTooMuch(const Outcome &extraction)
 {
     if (extraction)
@@ -80,7 +80,7 @@ void ValidaterViewController::showSum()
     m_ui->noteLabel->setText(breakingLongWords(note));
     m_ui->noteLabel->setAccessibleName(note);
     m_ui->noteLabel->setVisible(!note.isEmpty());
-    // What is no package has neither facts nor verdicts to show.
+    // A file that is not a package has neither facts nor verdicts to show.
     m_ui->factsPart->setVisible(!m_found);
     m_ui->checksPart->setVisible(!m_found);
     m_ui->reportArea->verticalScrollBar()->setValue(0);

@@ -9,16 +9,16 @@
 namespace lumora
 {
 
-/// Shows the pixels around the pointer, enlarged, and the code of the one below it. Stays beside the pointer, on its
-/// screen, and takes neither pointer nor keyboard.
+/// Shows the enlarged pixels around the pointer, and the code of the pixel below it. Stays beside the pointer, on the
+/// same screen, and takes neither pointer nor keyboard.
 class Loupe final : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// Pixels shown in each direction; odd, so that one is in the middle.
+    /// The number of pixels shown in each direction; odd, so that one is in the middle.
     static constexpr int pixelsAcross = 11;
-    /// Between the pointer and the loupe; points. Keeps the loupe out of what it shows.
+    /// The distance from the pointer to the loupe, in points. Keeps the loupe outside the part that it shows.
     static constexpr int distance = 24;
 
     explicit Loupe(QWidget *parent = nullptr);
@@ -28,7 +28,7 @@ public:
     /// `pixels` is square, `pixelsAcross` wide, with the pointer's pixel in the middle.
     void showPixels(const QImage &pixels, const QPoint &pointer, const QRect &screen);
 
-    /// Below and right of the pointer; on the other side where the screen ends.
+    /// The place below and right of the pointer, or on the other side at the screen's edge.
     static QPoint placeBeside(const QPoint &pointer, const QSize &size, const QRect &screen);
 
 protected:

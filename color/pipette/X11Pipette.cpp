@@ -19,10 +19,10 @@ namespace
 /// The distance that Shift and an arrow key move the pointer, in points.
 constexpr int largeStep = 10;
 
-/// Between two looks at the screen; milliseconds.
+/// The interval of reading the screen, in milliseconds.
 constexpr int loupeInterval = 50;
 
-/// The screen's pixels in the square around the position, in the screen's own pixels; null where it cannot be read.
+/// The screen's pixels in the square around the position, in the screen's own pixels; null if it cannot be read.
 QImage pixelsAround(QScreen &screen, const QPoint &globalPosition, int across)
 {
     const QPoint position = globalPosition - screen.geometry().topLeft();
@@ -30,7 +30,7 @@ QImage pixelsAround(QScreen &screen, const QPoint &globalPosition, int across)
     QImage image = screen.grabWindow(0, position.x() - half, position.y() - half, across, across).toImage();
     if (image.isNull())
         return {};
-    // At a larger scale a point is several pixels; those around the middle one are shown.
+    // At a larger scale a point has several pixels; shows those around the middle one.
     const qreal scale = image.devicePixelRatio();
     image.setDevicePixelRatio(1);
     const auto first = static_cast<int>(half * scale) - half;

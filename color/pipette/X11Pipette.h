@@ -37,7 +37,7 @@ private:
 
     QPointer<QWidget> m_window;
     std::unique_ptr<Loupe> m_loupe;
-    QTimer m_loupeTimer; ///< what lies under a resting pointer changes, too
+    QTimer m_loupeTimer; ///< the pixels under a resting pointer change, too
 };
 
 } // namespace lumora

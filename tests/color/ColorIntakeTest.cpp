@@ -27,7 +27,7 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-/// Picks when the test says so.
+/// Picks when the test calls it.
 class ScriptedPipette final : public Pipette
 {
 public:
@@ -38,7 +38,7 @@ public:
 
 } // namespace
 
-/// How colors get into the color pane: pasted, typed, picked from the screen.
+/// The ways of colors into the color pane: pasted, typed, picked from the screen.
 class ColorIntakeTest : public QObject
 {
     Q_OBJECT
@@ -111,7 +111,7 @@ private slots:
     {
         QFETCH(QString, text);
         QFETCH(QString, shown);
-        // In the middle of what is there, where a paste into a plain field would spoil both.
+        // In the middle of the present text, where a plain field would insert it.
         field()->setText(u"#ffffff"_s);
         field()->setCursorPosition(3);
         pasteByKey(text);

@@ -13,7 +13,7 @@
 using namespace lumora;
 using namespace Qt::StringLiterals;
 
-/// What the device matrix says besides fading: how many fit, and why the others do not.
+/// The texts of the device matrix: how many devices match, and why the others do not.
 class DeviceAnswersTest : public QObject
 {
     Q_OBJECT

@@ -15,7 +15,7 @@
 using namespace lumora;
 using namespace Qt::StringLiterals;
 
-/// What the pane says of a package as a whole, and of what is none.
+/// The pane's texts about a package as a whole, and about files that are not packages.
 class ValidaterReportTest : public QObject
 {
     Q_OBJECT
@@ -153,7 +153,7 @@ private slots:
         QVERIFY(pane.ui().browseButton->isEnabled());
         QVERIFY(!pane.ui().readingBar->isAnimating());
         QVERIFY(pane.ui().cancelButton->isHidden());
-        // Whatever the reading still has to say comes before the end of another.
+        // All results of the first reading arrive before the end of another.
         read(pane, u"one icon"_s);
         QCOMPARE(pane.ui().sumLabel->text(), u"1 of 6 checks failed"_s);
         QVERIFY(!pane.ui().readingBar->isAnimating());

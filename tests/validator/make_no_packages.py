@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""usage: make_no_packages.py FOLDER   Files with a package's name that are none, each named for what it is."""
+"""usage: make_no_packages.py FOLDER   Files with a package's name that are not packages, each named for its kind."""
 
 import gzip
 import io

@@ -21,7 +21,7 @@ QList<QSize> pictureSizes(const PackageSource &source, const QString &folder, co
 /// The picture that represents the app: of the candidates, in their order, the first that is 512, 144, 120, 152, 1024
 /// or 114 pixels high and can be decoded, stretched to `appIconSize` points square with the corners of the iOS version.
 /// Null when there is none. `sizes` are the candidates' sizes. It takes the first, so that the window and the command
-/// show the same icon on every run. At a scale above 1, a picture with enough pixels goes before one that would be
+/// show the same icon on every run. At a scale above 1, a picture with enough pixels is preferred to one that would be
 /// enlarged.
 QImage appIcon(const PackageSource &source, const QString &folder, const QStringList &candidates,
                const QList<QSize> &sizes, double minimumOS, int scale = 1);

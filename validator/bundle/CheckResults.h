@@ -10,14 +10,14 @@
 namespace lumora
 {
 
-/// What a package is checked for, in the order of a report.
+/// The checks of a package, in the order of a report.
 enum class Check {
     AppIcons,
     LaunchImages,
     BundleIdentifier,
     Localizations,
-    UrlSchemes,    ///< informs: absent where the app has none, never failed
-    FacebookAppId, ///< as the schemes
+    UrlSchemes,    ///< informs only: absent if the app has none, never failed
+    FacebookAppId, ///< like the schemes
 };
 
 enum class CheckVerdict { Passed, Failed, Absent };
@@ -26,12 +26,12 @@ struct CheckResult
 {
     Check check = Check::AppIcons;
     CheckVerdict verdict = CheckVerdict::Passed;
-    QStringList sizes; ///< of a failed check of pictures: the missing sizes, "57x57"
+    QStringList sizes; ///< for a failed check of pictures: the missing sizes, "57x57"
 };
 
 QList<CheckResult> checkResults(const PackageFacts &facts, const ArtworkFindings &artwork);
 
-/// How many checks had something to judge, and how many of these failed.
+/// The number of checks with a subject, and how many of these failed.
 struct CheckSum
 {
     int failed = 0;

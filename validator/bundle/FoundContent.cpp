@@ -20,7 +20,7 @@ namespace lumora
 namespace
 {
 
-/// Bytes that a kind of file has at one place.
+/// The bytes of a kind of file at a fixed place.
 struct Mark
 {
     qsizetype offset;
@@ -117,7 +117,7 @@ FoundContent foundContent(const QString &path)
     if (!file.valid() || !length)
         return {FoundKind::Unreadable, {}, 0, false};
     start.truncate(static_cast<qsizetype>(length.value()));
-    // An archive may begin with anything, so its list is asked first.
+    // An archive may begin with any bytes, so its list of files is checked first.
     const auto archive = PackageView::open(path);
     if (archive && !archive.value()->entries().isEmpty())
         return archiveWithoutApp(*archive.value());

@@ -7,18 +7,18 @@
 namespace lumora
 {
 
-/// What lies where an app package was expected.
+/// The content of a file or folder that should be an app package.
 enum class FoundKind {
     Nothing, ///< no file of the name
     Folder,
     NoOrdinaryFile, ///< a pipe, a socket or a device
-    Unreadable,     ///< the system does not let it be read
-    EmptyFile,      ///< not one byte
+    Unreadable,     ///< the system refuses to read it
+    EmptyFile,      ///< no bytes
     Text,
     Picture,
     Document,      ///< a PDF
-    OtherArchive,  ///< packed, but no zip
-    Data,          ///< nothing of the above
+    OtherArchive,  ///< packed, but not a zip archive
+    Data,          ///< none of these
     BrokenArchive, ///< begins like a zip archive, whose list of files cannot be read
     EmptyArchive,  ///< a zip archive without a single file
     ArchiveWithoutApp,
@@ -26,20 +26,20 @@ enum class FoundKind {
 
 struct FoundContent
 {
-    /// Names listed at most; the first ones.
+    /// The most names that are listed.
     static constexpr qsizetype mostNames = 5;
 
     FoundKind kind = FoundKind::Data;
-    /// Of an archive without an app: what lies at its root, or in its Payload folder where it has one.
+    /// For an archive without an app: the names at its root, or in its Payload folder if it has one.
     QStringList names;
-    qsizetype nameCount = 0; ///< how many there are
+    qsizetype nameCount = 0; ///< the number of all names
     bool hasPayload = false;
 };
 
-/// Looks at the file's first bytes, and at the list of an archive. Nothing is unpacked, and nothing is waited for.
+/// Reads the file's first bytes, or the list of files of an archive. Unpacks nothing and never blocks.
 FoundContent foundContent(const QString &path);
 
-/// The kind that a file's first bytes, at most `foundContentBytes` of it, speak for.
+/// The kind of file according to its first bytes, at most `foundContentBytes` of them.
 FoundKind kindOfBytes(const QByteArray &start);
 
 inline constexpr qsizetype foundContentBytes = 4096;

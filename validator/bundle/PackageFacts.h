@@ -31,7 +31,7 @@ struct PackageFacts
     QStringList appImages;                   ///< file names, sorted
     /// `std::nullopt` when it was never received, empty when there is no readable profile.
     std::optional<QString> provisioningProfile;
-    bool hasApp = false; ///< there is a bundle, whatever it holds
+    bool hasApp = false; ///< there is a bundle, whatever its contents
 
     QString appName() const;
     QString appVersion() const;
