@@ -35,7 +35,7 @@ public:
     void setBackgroundColor(const QColor &color);
     ScrollerKnobStyle scrollerKnobStyle() const { return m_scrollerKnobStyle; }
     void setScrollerKnobStyle(ScrollerKnobStyle style);
-    /// The visible part of the sidebar.
+    /// The size of the visible part.
     QSize clipViewSize() const { return viewport()->size(); }
 
     QSize sizeHint() const override;
