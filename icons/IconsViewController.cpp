@@ -2,125 +2,42 @@
 #include "IconsViewController.h"
 
 #include "IconExport.h"
-#include "IconSource.h"
-#include "IconView.h"
 #include "foundation/LeadingInteger.h"
 #include "pictures/PictureOperations.h"
 #include "ui_IconsViewController.h"
-
-#include <QFileInfo>
+#include "widgets/style/Palette.h"
 
 namespace lumora
 {
+
+namespace
+{
+
+JobResult resultOf(const IconExport &run)
+{
+    const qsizetype written = std::count_if(run.files.begin(), run.files.end(),
+                                            [](const IconFile &file) { return !file.failure.has_value(); });
+    // If the folder could not be created, all other failures follow from that.
+    const QList<Failure> failures = run.folderFailure ? QList<Failure>{*run.folderFailure} : run.failures();
+    return jobResult(countedIcons, written, run.files.size(), run.folder.path, {failures.begin(), failures.end()});
+}
+
+} // namespace
 
 IconsViewController::IconsViewController(const Services &services, QObject *parent)
     : ToolViewController(services, parent), m_ui(std::make_unique<Ui::IconsViewController>())
 {
     m_ui->setupUi(view());
     setUpAppearance();
+    setUpReading();
     setUpPreviews();
     setUpSnippets();
     connectControls();
+    setUpResult(m_ui->resultView, palette::icons, palette::iconsBorder);
     createPopup();
 }
 
 IconsViewController::~IconsViewController() = default;
-
-// The source
-
-void IconsViewController::createIconFromURL(const QString &path)
-{
-    const Result<QImage> picture = readIconSource(path);
-    if (picture)
-        acceptIcon(picture.value(), QFileInfo(path).fileName());
-    else
-        refuseIcon();
-}
-
-const QImage &IconsViewController::icon()
-{
-    if (std::exchange(m_builtInIconPending, false))
-        m_icon = builtInIcon();
-    return m_icon;
-}
-
-void IconsViewController::setIcon(const QImage &icon)
-{
-    m_builtInIconPending = false;
-    m_icon = icon;
-    showSource();
-    editPreviewIcon();
-}
-
-void IconsViewController::acceptIcon(const QImage &icon, const QString &title)
-{
-    setIcon(icon);
-    m_ui->sourceIconTitle->setText(title);
-    m_ui->sourceIconSubtitle->setText(qtTrId("ICONS_SOURCE_SUBTITLE_ACTIVE"));
-}
-
-void IconsViewController::refuseIcon()
-{
-    showPopupWithTitle(qtTrId("ICONS_ALERT_TITLE"), qtTrId("ICONS_ALERT_MESSAGE"), m_ui->browseButton, true);
-}
-
-void IconsViewController::setIconFromDelegate(const QString &path)
-{
-    dropViewReceivedFiles({path});
-}
-
-void IconsViewController::dropViewReceivedFiles(const QStringList &files)
-{
-    if (files.isEmpty())
-        return;
-    createIconFromURL(files.first());
-    m_browsePath = QFileInfo(files.first()).path();
-}
-
-void IconsViewController::browseButtonPressed()
-{
-    openDialog();
-}
-
-void IconsViewController::openDialog()
-{
-    const FileRequest request{
-        qtTrId("ICONS_BROWSE"), m_browsePath, {qtTrId("FILTER_PNG") + QStringLiteral(" (*.png)")}, false};
-    services().fileChooser.chooseFiles(window(), request,
-                                       [this](const QStringList &paths) { dropViewReceivedFiles(paths); });
-}
-
-void IconsViewController::paste()
-{
-    const QStringList files = services().clipboard.files();
-    if (!files.isEmpty()) {
-        dropViewReceivedFiles(files);
-        return;
-    }
-    const QImage image = services().clipboard.image();
-    if (image.isNull())
-        return;
-    if (image.size() == QSize(sourceIconSize, sourceIconSize))
-        acceptIcon(image.convertToFormat(QImage::Format_RGBA8888_Premultiplied), qtTrId("ICONS_SOURCE_TITLE"));
-    else
-        refuseIcon();
-}
-
-void IconsViewController::showSource()
-{
-    m_ui->sourceIconView->setPicture(resizeImage(icon(), m_ui->sourceIconView->pixelSide()));
-}
-
-void IconsViewController::editPreviewIcon()
-{
-    for (IconView *preview : m_previews)
-        drawPreview(preview);
-}
-
-void IconsViewController::drawPreview(IconView *preview)
-{
-    preview->setPicture(resizeImage(icon(), preview->pixelSide(), cornerMode()));
-}
 
 // The export
 
@@ -173,7 +90,9 @@ void IconsViewController::openChooseDestinationForPlatforms(bool forPlatforms)
         else
             generateCustomIcon();
     };
-    services().folderChooser.chooseFolder(window(), {qtTrId("ICONS_DESTINATION"), m_savePath}, chosen);
+    // The source's folder until the user has chosen another.
+    const QString start = m_savePath.isEmpty() ? m_browsePath : m_savePath;
+    services().folderChooser.chooseFolder(window(), {qtTrId("ICONS_DESTINATION"), start}, chosen);
 }
 
 void IconsViewController::generatePlatformIcons()
@@ -189,6 +108,7 @@ void IconsViewController::generatePlatformIcons()
         if (isChosen(icons.platform))
             request.expected << icons.platform;
     }
+    m_ui->resultView->clear();
     m_jobs.start([this, request](const BackgroundJob &job) {
         const bool hasIcon = !request.icon.isNull();
         job.post([this, hasIcon] {
@@ -197,12 +117,15 @@ void IconsViewController::generatePlatformIcons()
             else
                 hasSource();
         });
-        const ExportFolder folder = lumora::generatePlatformIcons(request).folder;
-        job.post([this, folder] {
+        const IconExport result = lumora::generatePlatformIcons(request);
+        job.post([this, result, hasIcon] {
             m_platformCaption->showForAWhile(qtTrId("ICONS_DONE"));
             jobEnded();
-            if (folder.nameTaken)
-                showNewFolder(folder.name(), m_ui->generateIconsButton);
+            if (result.folder.nameTaken)
+                showNewFolder(result.folder.name(), m_ui->generateIconsButton);
+            // Without a source the user has already seen a message.
+            if (hasIcon)
+                m_ui->resultView->setResult(resultOf(result));
         });
     });
 }
@@ -213,6 +136,7 @@ void IconsViewController::generateCustomIcon()
         return;
     m_ui->customIconSizeTextField->endEditing();
     const IconExport result = lumora::generateCustomIcon({icon(), m_savePath, m_customIconSize, cornerMode()});
+    m_ui->resultView->setResult(resultOf(result));
     const std::optional<Failure> failure = result.files.first().failure;
     if (failure && failure->code == FailureCode::CannotCreateFolder)
         return;
@@ -270,6 +194,17 @@ void IconsViewController::checkbox_rounded_ios7_checked()
 void IconsViewController::checkbox_rounded_ios6_checked()
 {
     chooseCorners(m_ui->customIconRoundedSixCheckbox);
+}
+
+void IconsViewController::allPressed()
+{
+    const bool isAll = std::all_of(iconPlatforms.begin(), iconPlatforms.end(),
+                                   [this](const PlatformIcons &icons) { return isChosen(icons.platform); });
+    for (const PlatformIcons &icons : iconPlatforms) {
+        // A click also updates the snippet.
+        if (isChosen(icons.platform) == isAll)
+            emit checkbox(icons.platform)->clicked();
+    }
 }
 
 int IconsViewController::cornerMode() const

@@ -2,8 +2,10 @@
 #pragma once
 
 #include "IconCatalogue.h"
+#include "ShownIcon.h"
 #include "tool/BackgroundJobs.h"
 #include "tool/DropView.h"
+#include "tool/FileReading.h"
 #include "tool/TimedCaption.h"
 #include "tool/ToolViewController.h"
 
@@ -77,6 +79,8 @@ public slots:
     void androidCheckboxChecked();
     void webtouchCheckboxChecked();
     void faviconCheckboxChecked();
+    /// Chooses every platform, or none where all are chosen.
+    void allPressed();
     void checkbox_rounded_ios7_checked();
     void checkbox_rounded_ios6_checked();
 
@@ -89,15 +93,25 @@ private:
     /// The platforms chosen now: written on the main thread, read by running exports just before each platform.
     using Choices = std::array<std::atomic<bool>, iconPlatforms.size()>;
 
+    /// The kinds of texts in the line below the source.
+    enum class StatusKind { Note, Reading, Refusal };
+
     void setUpAppearance();
     void setUpPreviews();
+    void setUpReading();
     void loadBuiltInIcon();
-    void showBuiltInIcon(const QImage &icon, const QList<QImage> &pictures, int cornerMode);
     void setUpSnippets();
     void connectControls();
     void openDialog();
-    void acceptIcon(const QImage &icon, const QString &title);
-    void refuseIcon();
+    /// The edge lengths at which the pane shows the source, the large one first.
+    QList<int> pictureSides() const;
+    void showIcon(const ShownIcon &shown);
+    void acceptIcon(const ShownIcon &shown, const QString &title);
+    /// Refuses the source `name`; `what` describes it.
+    void refuseIcon(const QString &name, const QString &what);
+    void showStatus(const QString &text, StatusKind kind = StatusKind::Note);
+    void readingIsSlow();
+    void readingEnded();
     void showSource();
     void drawPreview(IconView *preview);
     void togglePlatform(IconPlatform platform);
@@ -119,6 +133,8 @@ private:
     QString m_browsePath;
     int m_customIconSize = 0;
     std::array<IconView *, 5> m_previews{};
+    QString m_statusBefore; ///< what the status line said before a slow reading
+    FileReading *m_reading = nullptr;
     TimedCaption *m_platformCaption = nullptr;
     TimedCaption *m_customCaption = nullptr;
     std::shared_ptr<Choices> m_choices = std::make_shared<Choices>();

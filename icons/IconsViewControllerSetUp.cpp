@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: MIT
 // The icon tool's fixed data, looks and connections, and its code snippets.
-#include "IconSource.h"
 #include "IconView.h"
 #include "IconsViewController.h"
 #include "SnippetKeys.h"
-#include "pictures/PictureOperations.h"
 #include "tool/ButtonStyle.h"
 #include "tool/DropDownStyle.h"
 #include "tool/DropHighlight.h"
 #include "tool/LabelStyle.h"
+#include "tool/ToolTip.h"
 #include "ui_IconsViewController.h"
 #include "widgets/style/Fonts.h"
 #include "widgets/style/Palette.h"
@@ -41,6 +40,11 @@ void IconsViewController::setUpAppearance()
     styleButton(m_ui->generateCustomButton, qtTrId("GENERATE"), palette::icons, palette::iconsBorder);
     styleButton(m_ui->codeSnippetCopyButton, qtTrId("COPY"), QStringLiteral("button_icon_copy"), palette::icons,
                 palette::iconsBorder);
+
+    styleButton(m_ui->allButton, qtTrId("ICONS_ALL"), palette::icons, palette::iconsBorder);
+    m_ui->allButton->setAccessibleDescription(qtTrId("ICONS_PLATFORMS_TITLE"));
+    m_ui->browseButton->setToolTip(tipWithKeys(qtTrId("TIP_BROWSE"), QKeySequence::Open));
+    m_ui->dropView->setToolTip(tipWithKeys(qtTrId("TIP_DROP"), QKeySequence::Paste));
 
     // The accessible descriptions distinguish two buttons of the same name by their panels.
     m_ui->generateIconsButton->setAccessibleDescription(qtTrId("ICONS_PLATFORMS_TITLE"));
@@ -89,39 +93,6 @@ void IconsViewController::setUpPreviews()
     connect(m_ui->sourceIconView, &IconView::firstPainted, this, &IconsViewController::loadBuiltInIcon);
 }
 
-void IconsViewController::loadBuiltInIcon()
-{
-    // Reading and scaling it takes longer than all the rest of the window, so the window does not wait for it.
-    QList<int> sides{m_ui->sourceIconView->pixelSide()};
-    for (const IconView *preview : m_previews)
-        sides << preview->pixelSide();
-    const int mode = cornerMode();
-    m_jobs.start([this, sides, mode](const BackgroundJob &job) {
-        const QImage icon = builtInIcon();
-        QList<QImage> pictures;
-        for (const int side : sides)
-            pictures << resizeImage(icon, side, pictures.isEmpty() ? 0 : mode);
-        job.post([this, icon, pictures, mode] {
-            if (std::exchange(m_builtInIconPending, false))
-                showBuiltInIcon(icon, pictures, mode);
-            emit builtInIconRead();
-        });
-    });
-}
-
-void IconsViewController::showBuiltInIcon(const QImage &icon, const QList<QImage> &pictures, int cornerMode)
-{
-    m_icon = icon;
-    m_ui->sourceIconView->setPicture(pictures.first());
-    for (std::size_t number = 0; number < m_previews.size(); ++number)
-        m_previews[number]->setPicture(pictures.at(static_cast<qsizetype>(number) + 1));
-    // A view whose size changed meanwhile is drawn again.
-    if (m_ui->sourceIconView->pixelSide() != pictures.first().width())
-        showSource();
-    if (this->cornerMode() != cornerMode)
-        editPreviewIcon();
-}
-
 void IconsViewController::setUpSnippets()
 {
     const auto addEntry = [this](const QString &text, SnippetPlatform platform) {
@@ -132,6 +103,9 @@ void IconsViewController::setUpSnippets()
     addEntry(qtTrId("ICONS_ANDROID"), SnippetPlatform::Android);
     addEntry(qtTrId("ICONS_WEB_TOUCH"), SnippetPlatform::WebTouch);
     addEntry(qtTrId("ICONS_FAV_ICONS"), SnippetPlatform::Favicon);
+    m_ui->codeSnippetDropdown->setPlaceholderText(qtTrId("SNIPPETS_NO_PLATFORM"));
+    m_ui->codeSnippetDropdown->setCurrentIndex(-1);
+    m_ui->codeSnippetCopyButton->setEnabled(false);
     m_ui->codeSnippetDropdown->setAccessibleName(qtTrId("ACCESSIBLE_SNIPPET_PLATFORM"));
     // The toolkit reports the chosen entry as the name; the label says what the choice is for.
     m_ui->codeSnippetTitle->setBuddy(m_ui->codeSnippetDropdown);
@@ -151,6 +125,7 @@ void IconsViewController::connectControls()
     connect(m_ui->generateIconsButton, &HoverButton::clicked, this, &Self::generatePlatformPressed);
     connect(m_ui->generateCustomButton, &HoverButton::clicked, this, &Self::generateCustomPressed);
     connect(m_ui->customIconSizeTextField, &ZKTextField::action, this, &Self::generateCustomPressed);
+    connect(m_ui->allButton, &HoverButton::clicked, this, &Self::allPressed);
     connect(m_ui->iPhoneCheckbox, &CheckboxButton::clicked, this, &Self::iPhoneCheckboxChecked);
     connect(m_ui->iPadCheckbox, &CheckboxButton::clicked, this, &Self::iPadCheckboxChecked);
     connect(m_ui->macCheckbox, &CheckboxButton::clicked, this, &Self::macCheckboxChecked);
@@ -166,6 +141,10 @@ void IconsViewController::connectControls()
 
 void IconsViewController::snippetPlatformClicked()
 {
+    // The devices belong to the first platform.
+    if (m_ui->codeSnippetDropdown->currentIndex() < 0)
+        m_ui->codeSnippetDropdown->setCurrentIndex(0);
+    m_ui->codeSnippetCopyButton->setEnabled(true);
     const auto platform = static_cast<SnippetPlatform>(m_ui->codeSnippetDropdown->currentData().toInt());
     const char *key = snippetKey(platform, m_ui->iPhoneCheckbox->isActive(), m_ui->iPadCheckbox->isActive());
     m_ui->codeSnippedView->setReadOnly(false);

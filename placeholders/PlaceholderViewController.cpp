@@ -24,6 +24,21 @@ QList<QSize> sizesOf(PlaceholderSet set)
     return QList<QSize>(sizes.begin(), sizes.end());
 }
 
+JobResult resultOf(const PlaceholderRun &run)
+{
+    std::vector<Failure> failures;
+    for (const PlaceholderFile &file : run.files) {
+        if (!file.outcome)
+            failures.push_back(file.outcome.failure());
+    }
+    const auto wanted = std::ssize(run.files);
+    const auto written = wanted - std::ssize(failures);
+    // If the folder could not be created, all other failures follow from that.
+    if (run.folderFailure)
+        failures = {*run.folderFailure};
+    return jobResult(countedPictures, written, wanted, run.folder.path, failures);
+}
+
 } // namespace
 
 PlaceholderViewController::PlaceholderViewController(const Services &services, QObject *parent)
@@ -38,6 +53,7 @@ PlaceholderViewController::PlaceholderViewController(const Services &services, Q
         field->setContinuous(true);
         connect(field, &ZKTextField::action, this, &PlaceholderViewController::showCustomMiniature);
     }
+    setUpResult(m_ui->resultView, palette::placeholders, palette::placeholdersBorder);
     createPopup();
 }
 
@@ -163,9 +179,9 @@ void PlaceholderViewController::openChooseDestination()
     // The down-scaler uses the same prompt.
     services().folderChooser.chooseFolder(
         window(), {qtTrId("RESIZER_DESTINATION_PANEL"), m_savePath},
-        [this](const QString &path) {
+        [this, button = m_selectedButton](const QString &path) {
             m_savePath = path;
-            saveImagesToDisk();
+            saveImagesToDisk(button);
         },
         [this] { discardImages(); });
 }
@@ -175,25 +191,30 @@ void PlaceholderViewController::discardImages()
     m_saveImages.clear();
 }
 
-void PlaceholderViewController::saveImagesToDisk()
+void PlaceholderViewController::saveImagesToDisk(HoverButton *button)
 {
-    m_jobs.start([this, pictures = std::exchange(m_saveImages, {}), savePath = m_savePath](const BackgroundJob &job) {
-        const ExportFolder folder = savePlaceholders(pictures, savePath).folder;
-        job.post([this, newFolder = folder.nameTaken ? folder.name() : QString()] { finish(newFolder); });
-    });
+    m_ui->resultView->clear();
+    m_jobs.start(
+        [this, button, pictures = std::exchange(m_saveImages, {}), savePath = m_savePath](const BackgroundJob &job) {
+            const PlaceholderRun run = savePlaceholders(pictures, savePath);
+            job.post([this, button, run] { finish(button, run); });
+        });
 }
 
-void PlaceholderViewController::finish(const QString &newFolder)
+void PlaceholderViewController::finish(HoverButton *button, const PlaceholderRun &run)
 {
-    if (TimedCaption *caption = m_captions.value(m_selectedButton))
+    if (TimedCaption *caption = m_captions.value(button))
         caption->showForAWhile(qtTrId("ALL_DONE"));
     jobEnded();
-    if (!newFolder.isEmpty())
+    if (run.folder.nameTaken)
         showPopupWithTitle(
             qtTrId("PLACEHOLDER_NEW_FOLDER_ALERT_TITLE"),
-            qtTrId("PLACEHOLDER_NEW_FOLDER_ALERT_MESSAGE").replace(QStringLiteral("[FOLDER]"), newFolder),
-            m_selectedButton, false);
-    m_selectedButton = nullptr;
+            qtTrId("PLACEHOLDER_NEW_FOLDER_ALERT_MESSAGE").replace(QStringLiteral("[FOLDER]"), run.folder.name()),
+            button, false);
+    m_ui->resultView->setResult(resultOf(run));
+    // The user may have started another run meanwhile.
+    if (m_selectedButton == button && m_saveImages.empty())
+        m_selectedButton = nullptr;
 }
 
 } // namespace lumora

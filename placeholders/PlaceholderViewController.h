@@ -21,6 +21,7 @@ namespace lumora
 {
 
 class HoverButton;
+struct PlaceholderRun;
 class TimedCaption;
 class ZKTextField;
 
@@ -65,8 +66,8 @@ private:
     void createPlaceholders(const QList<QSize> &sizes);
     void openChooseDestination();
     void discardImages();
-    void saveImagesToDisk();
-    void finish(const QString &newFolder);
+    void saveImagesToDisk(HoverButton *button);
+    void finish(HoverButton *button, const PlaceholderRun &run);
 
     std::unique_ptr<Ui::PlaceholderViewController> m_ui;
     LabelFont m_font;

@@ -3,15 +3,21 @@
 
 #include "DownscaleBatch.h"
 #include "RetinaName.h"
+#include "RetinaPicture.h"
 #include "foundation/Log.h"
+#include "pictures/PictureReader.h"
 #include "tool/ButtonStyle.h"
 #include "tool/DropHighlight.h"
+#include "tool/FailureText.h"
 #include "tool/LabelStyle.h"
+#include "tool/ToolTip.h"
 #include "ui_ResizerViewController.h"
 #include "widgets/style/Fonts.h"
 #include "widgets/style/Palette.h"
 
 #include <QFileInfo>
+
+#include <algorithm>
 
 namespace lumora
 {
@@ -46,7 +52,11 @@ ResizerViewController::ResizerViewController(const Services &services, QObject *
     m_ready.setSingleShot(true);
     m_ready.setInterval(noticeDuration);
     connect(&m_ready, &QTimer::timeout, this, &ResizerViewController::readyForUse);
+    connect(m_ui->cancelButton, &HoverButton::clicked, this, &ResizerViewController::cancelPressed);
+    connect(m_ui->planView->goOnButton(), &HoverButton::clicked, this, &ResizerViewController::openChooseDestination);
+    m_reading = new FileReading(services.fileReader, this);
     readyForUse();
+    setUpResult(m_ui->resultView, palette::resizer, palette::resizerBorder);
     createPopup();
 }
 
@@ -61,11 +71,15 @@ void ResizerViewController::setUpAppearance()
     styleLabel(m_ui->browseLabel, latoBold(15), palette::chromeText);
     m_ui->browseLabel->setText(qtTrId("RESIZER_BROWSE_LABEL"));
     styleButton(m_ui->browseButton, qtTrId("BROWSE"), palette::resizer, palette::resizerBorder);
+    m_ui->browseButton->setToolTip(tipWithKeys(qtTrId("TIP_BROWSE"), QKeySequence::Open));
+    m_ui->dropView->setToolTip(tipWithKeys(qtTrId("TIP_DROP"), QKeySequence::Paste));
 
     m_ui->progressBar->setLightColor(palette::resizer);
     m_ui->progressBar->setDarkColor(palette::resizerBorder);
     m_ui->progressBar->setAccessibleName(qtTrId("ACCESSIBLE_RESIZER_PROGRESS"));
     styleLabel(m_ui->progressLabel, latoBold(15), palette::chromeText);
+    styleLabel(m_ui->currentLabel, latoRegular(13), palette::chromeText);
+    styleButton(m_ui->cancelButton, qtTrId("CANCEL"), palette::resizer, palette::resizerBorder);
     m_ui->alertImage->setImageName(QStringLiteral("resizer_done"));
     styleLabel(m_ui->alertLabel, latoBold(25), palette::chromeText);
     m_ui->alertLabel->setText(qtTrId("RESIZER_DONE"));
@@ -76,10 +90,15 @@ void ResizerViewController::setUpAppearance()
 void ResizerViewController::dropViewReceivedFiles(const QStringList &files)
 {
     m_sourceImages.clear();
+    std::vector<PlannedPicture> plan;
     for (const QString &path : files) {
-        if (isDoubleResolution(path))
+        const bool isTaken = isDoubleResolution(path);
+        if (isTaken)
             m_sourceImages << path;
+        plan.push_back({path, isTaken ? QString() : failureReason({FailureCode::NotMarked, path, {}})});
     }
+    m_ui->planView->setPlan(plan);
+    lookAt(0);
     if (m_sourceImages.isEmpty()) {
         showPopupWithTitle(qtTrId("RESIZER_ALERT_TITLE"), qtTrId("RESIZER_ALERT_MESSAGE"), m_ui->browseLabel, true);
         return;
@@ -87,6 +106,32 @@ void ResizerViewController::dropViewReceivedFiles(const QStringList &files)
     m_savePath = QFileInfo(m_sourceImages.constFirst()).path();
     m_browsePath = m_savePath;
     openChooseDestination();
+}
+
+void ResizerViewController::lookAt(qsizetype index)
+{
+    m_reading->stop();
+    if (index >= std::min<qsizetype>(m_sourceImages.size(), RetinaPlanView::rowLimit))
+        return;
+    const QString path = m_sourceImages.at(index);
+    m_reading->read(path, largestPictureFile, [=, this](const Result<QByteArray> &bytes) -> FileReading::Conclusion {
+        const Result<QSize> stored = bytes ? storedPixelSize(bytes.value(), path) : Result<QSize>(bytes.failure());
+        const Result<QSize> half = stored ? halvedSize(stored.value(), path) : stored;
+        return [=, this] {
+            if (half)
+                m_ui->planView->setSizes(path, stored.value(), half.value());
+            else
+                m_ui->planView->setProblem(path, failureReason(half.failure()));
+            // Queued, so that the window handles other events between two files.
+            QMetaObject::invokeMethod(
+                this,
+                [=, this] {
+                    if (!m_reading->isReading() && m_sourceImages.value(index) == path)
+                        lookAt(index + 1);
+                },
+                Qt::QueuedConnection);
+        };
+    });
 }
 
 void ResizerViewController::browseButtonPressed()
@@ -125,8 +170,12 @@ void ResizerViewController::openChooseDestination()
 void ResizerViewController::beginResizingAndSaving()
 {
     m_ready.stop();
-    setDropAreaVisible(false);
+    m_reading->stop();
+    m_ui->planView->clear();
+    m_ui->resultView->clear();
+    // In this order, so that the focus moves from Browse to Cancel.
     setProgressVisible(true);
+    setDropAreaVisible(false);
     createImagesFromDataPaths(m_sourceImages);
 }
 
@@ -157,6 +206,8 @@ void ResizerViewController::setProgressVisible(bool visible)
 {
     m_ui->progressBar->setVisible(visible);
     m_ui->progressLabel->setVisible(visible);
+    m_ui->currentLabel->setVisible(visible);
+    m_ui->cancelButton->setVisible(visible);
     if (visible)
         m_ui->progressBar->startAnimation();
     else
@@ -181,26 +232,68 @@ void ResizerViewController::createImagesFromDataPaths(const QStringList &paths)
     if (paths.isEmpty())
         return;
     m_ui->progressLabel->setText(progressText(qtTrId("RESIZER_PROGRESS"), 0, paths.size()));
-    m_jobs.start([this, paths, savePath = m_savePath](const BackgroundJob &job) {
+    showCurrent(paths.constFirst());
+    m_isCanceled = std::make_shared<std::atomic<bool>>(false);
+    m_jobs.start([this, paths, savePath = m_savePath, isCanceled = m_isCanceled](const BackgroundJob &job) {
         const float step = 100.0F / static_cast<float>(paths.size());
-        lumora::createImagesFromDataPaths(paths, savePath, [&](qsizetype index, const DownscaledFile &) {
-            job.post([this, done = index + 1, total = paths.size(), step] { showProgress(done, total, step); });
-            if (!job.isStopRequested() || index + 1 == paths.size())
-                return true;
-            logLine(QStringLiteral("Closed after %1 of %2 pictures").arg(index + 1).arg(paths.size()));
-            return false;
+        BatchEnd end{savePath, paths.size()};
+        lumora::createImagesFromDataPaths(paths, savePath, [&](qsizetype index, const DownscaledFile &file) {
+            end.done = index + 1;
+            if (!file.outcome)
+                end.failures.push_back(file.outcome.failure());
+            const bool isLast = end.done == end.total;
+            const bool isStopped = !isLast && (job.isStopRequested() || isCanceled->load());
+            if (isLast || isStopped)
+                job.post([this, end, step] {
+                    showProgress(end.done, end.total, step);
+                    showEnd(end);
+                });
+            else
+                job.post([this, done = end.done, total = end.total, step, next = paths.at(index + 1)] {
+                    showProgress(done, total, step);
+                    showCurrent(next);
+                });
+            if (isStopped && job.isStopRequested())
+                logLine(QStringLiteral("Closed after %1 of %2 pictures").arg(end.done).arg(end.total));
+            return !isStopped;
         });
     });
+}
+
+void ResizerViewController::cancelPressed()
+{
+    if (m_isCanceled)
+        m_isCanceled->store(true);
+    m_ui->cancelButton->setEnabled(false);
+}
+
+void ResizerViewController::showCurrent(const QString &path)
+{
+    m_ui->currentLabel->setText(QFileInfo(path).fileName());
 }
 
 void ResizerViewController::showProgress(qsizetype done, qsizetype total, float step)
 {
     m_ui->progressLabel->setText(progressText(qtTrId("RESIZER_PROGRESS"), done, total));
     m_ui->progressBar->setDoubleValue(m_ui->progressBar->doubleValue() + static_cast<double>(step));
-    if (done < total)
-        return;
+}
+
+void ResizerViewController::showEnd(const BatchEnd &end)
+{
     m_ui->progressBar->setDoubleValue(0);
-    doneResizingAndSaving();
+    m_ui->cancelButton->setEnabled(true);
+    const bool isWhole = end.done == end.total;
+    if (isWhole) {
+        doneResizingAndSaving();
+    } else {
+        jobEnded();
+        readyForUse();
+    }
+    const qsizetype written = end.done - std::ssize(end.failures);
+    JobResult result = jobResult(countedPictures, written, end.total, end.folder, end.failures);
+    if (!isWhole)
+        result.failures << qtTrId("RESULT_CANCELED");
+    m_ui->resultView->setResult(result);
 }
 
 } // namespace lumora

@@ -1,14 +1,18 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "foundation/Result.h"
 #include "tool/BackgroundJobs.h"
 #include "tool/DropView.h"
+#include "tool/FileReading.h"
 #include "tool/ToolViewController.h"
 
 #include <QTimer>
 
+#include <atomic>
 #include <chrono>
 #include <memory>
+#include <vector>
 
 namespace Ui
 {
@@ -56,7 +60,21 @@ private:
     void doneResizingAndSaving();
     void readyForUse();
     void createImagesFromDataPaths(const QStringList &paths);
+    /// The outcome of a batch.
+    struct BatchEnd
+    {
+        QString folder;
+        qsizetype total = 0;
+        qsizetype done = 0; ///< includes failed files
+        std::vector<Failure> failures = {};
+    };
+
+    /// Shows the sizes of the accepted files in the list, beginning with this one.
+    void lookAt(qsizetype index);
+    void cancelPressed();
+    void showCurrent(const QString &path);
     void showProgress(qsizetype done, qsizetype total, float step);
+    void showEnd(const BatchEnd &end);
     void setDropAreaVisible(bool visible);
     void setProgressVisible(bool visible);
     void setNoticeVisible(bool visible);
@@ -67,6 +85,8 @@ private:
     QString m_savePath;
     QString m_browsePath;
     QTimer m_ready;
+    FileReading *m_reading = nullptr;
+    std::shared_ptr<std::atomic<bool>> m_isCanceled; ///< of the running batch
     BackgroundJobs m_jobs; ///< last, so that it waits for running jobs before other members are destroyed
 };
 

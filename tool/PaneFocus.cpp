@@ -39,21 +39,30 @@ QWidget *PaneFocus::controlAfter(QWidget *start) const
 
 void PaneFocus::focusChanged(QWidget *old, QWidget *now)
 {
-    if (now != nullptr && now != m_standIn) {
-        // The user has moved the focus elsewhere.
-        if (m_left)
-            m_left->removeEventFilter(this);
-        m_left = nullptr;
-        m_standIn = nullptr;
-    }
     const bool isLost =
         old != nullptr && old != m_pane && m_pane->isVisible() && m_pane->isAncestorOf(old) && !canTakeFocus(old);
-    if (!isLost || (now != nullptr && (now->window() != m_pane->window() || m_pane->isAncestorOf(now))))
+    if (!isLost || (now != nullptr && now->window() != m_pane->window())) {
+        // The user has moved the focus elsewhere.
+        if (now != nullptr && now != m_standIn)
+            forget();
         return;
-    m_left = old;
-    m_standIn = controlAfter(old);
-    old->installEventFilter(this);
+    }
+    // When the substitute disappears as well, the first control still gets the focus back.
+    if (!m_left || old != m_standIn) {
+        forget();
+        m_left = old;
+        old->installEventFilter(this);
+    }
+    m_standIn = now != nullptr && m_pane->isAncestorOf(now) ? now : controlAfter(old);
     m_standIn->setFocus(Qt::OtherFocusReason);
+}
+
+void PaneFocus::forget()
+{
+    if (m_left)
+        m_left->removeEventFilter(this);
+    m_left = nullptr;
+    m_standIn = nullptr;
 }
 
 bool PaneFocus::eventFilter(QObject *watched, QEvent *event)

@@ -9,8 +9,8 @@ namespace lumora
 {
 
 /// Keeps the focus in a pane. When the focused control is hidden or disabled, the pane's next control gets the focus,
-/// or the pane itself if it has none. The first control gets the focus back as soon as it can take it, unless the user
-/// has moved the focus meanwhile.
+/// or the pane itself if it has none. The first control gets the focus back as soon as it can take it, however many
+/// others had it in between, unless the user has moved the focus meanwhile.
 class PaneFocus final : public QObject
 {
     Q_OBJECT
@@ -28,7 +28,10 @@ protected:
 private:
     void focusChanged(QWidget *old, QWidget *now);
     void giveBack();
-    /// The next control in the tab order that can take the focus; the pane if there is none.
+    void forget();
+    /// Keeps the focus in a pane. When the focused control is hidden or disabled, the pane's next control gets the
+    /// focus, or the pane itself if it has none. The first control gets the focus back as soon as it can take it,
+    /// however many others had it in between, unless the user has moved the focus meanwhile.
     QWidget *controlAfter(QWidget *start) const;
 
     QWidget *m_pane;

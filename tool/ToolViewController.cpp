@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ToolViewController.h"
 
+#include "JobResultView.h"
 #include "PaneFocus.h"
 #include "PopoverStyle.h"
 #include "ShellMetrics.h"
@@ -32,6 +33,15 @@ QWidget *ToolViewController::window() const
 void ToolViewController::takeFocus()
 {
     m_focus->take();
+}
+
+void ToolViewController::setUpResult(JobResultView *view, const QColor &normal, const QColor &hover)
+{
+    view->setColors(normal, hover);
+    connect(view, &JobResultView::folderWanted, this,
+            [this](const QString &folder) { services().fileManager.show(folder); });
+    connect(view, &JobResultView::pathWanted, this,
+            [this](const QString &folder) { services().clipboard.setText(folder); });
 }
 
 void ToolViewController::createPopup()

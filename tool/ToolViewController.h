@@ -14,6 +14,7 @@
 namespace lumora
 {
 
+class JobResultView;
 class PaneFocus;
 class SFBPopover;
 
@@ -67,6 +68,8 @@ protected:
     const Services &services() const { return m_services; }
     /// Call this when a job has ended.
     void jobEnded();
+    /// Sets the view's colors and connects its buttons to the services.
+    void setUpResult(JobResultView *view, const QColor &normal, const QColor &hover);
     /// Makes the message popup. Call it once.
     void createPopup();
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -245,6 +245,10 @@
     <source>Favicon</source>
     <translation>Favicon</translation>
   </message>
+  <message id="ICONS_ALL">
+    <source>All</source>
+    <translation>Alle</translation>
+  </message>
   <message id="ICONS_CUSTOM_SETTINGS">
     <source>Custom size</source>
     <translation>Eigene Größe</translation>
@@ -321,6 +325,26 @@
     <source>The name “icons” was already taken there, so this export is in the folder “[FOLDER]”.</source>
     <translation>Der Name „icons“ war dort schon vergeben, deshalb liegt dieser Export im Ordner „[FOLDER]“.</translation>
   </message>
+  <message id="ICONS_EXAMPLE">
+    <source>Example picture</source>
+    <translation>Beispielbild</translation>
+  </message>
+  <message id="ICONS_REFUSED">
+    <source>[FILE]: [WHAT]</source>
+    <translation>[FILE]: [WHAT]</translation>
+  </message>
+  <message id="ICONS_PIXELS">
+    <source>[WIDTH] × [HEIGHT] pixels</source>
+    <translation>[WIDTH] × [HEIGHT] Pixel</translation>
+  </message>
+  <message id="ICONS_NO_PICTURE">
+    <source>no picture</source>
+    <translation>kein Bild</translation>
+  </message>
+  <message id="ICONS_PASTED">
+    <source>Pasted picture</source>
+    <translation>Eingefügtes Bild</translation>
+  </message>
 
   <!-- Icon generator: code snippets; only the comments inside a snippet are translated -->
   <message id="Code Snippets">
@@ -342,6 +366,10 @@
   <message id="SNIPPETS_PLATFORM_PROMPT">
     <source>Choose a platform</source>
     <translation>Plattform wählen</translation>
+  </message>
+  <message id="SNIPPETS_NO_PLATFORM">
+    <source>Platform</source>
+    <translation>Plattform</translation>
   </message>
   <message id="SNIPPET_IOS_UNIVERSAL">
     <source><![CDATA[<!-- Info.plist: add the files from the folders iPhone and
@@ -680,6 +708,114 @@
   <message id="RESIZER_ALERT_MESSAGE">
     <source>None of these is a .png file marked @2x or -hd. Please choose double-resolution PNG pictures.</source>
     <translation>Keine der Dateien ist eine .png-Datei mit der Kennung @2x oder -hd. Bitte PNG-Bilder in doppelter Auflösung auswählen.</translation>
+  </message>
+  <message id="RESIZER_PLAN">
+    <source>What will be halved</source>
+    <translation>Was halbiert wird</translation>
+  </message>
+  <message id="RESIZER_PLAN_ALL">
+    <source>To be halved: [TAKEN]</source>
+    <translation>Zu halbieren: [TAKEN]</translation>
+  </message>
+  <message id="RESIZER_PLAN_SOME">
+    <source>To be halved: [TAKEN], left out: [LEFT]</source>
+    <translation>Zu halbieren: [TAKEN], ausgelassen: [LEFT]</translation>
+  </message>
+  <message id="RESIZER_PLAN_PICTURE">
+    <source>Picture</source>
+    <translation>Bild</translation>
+  </message>
+  <message id="RESIZER_PLAN_NOW">
+    <source>Now</source>
+    <translation>Jetzt</translation>
+  </message>
+  <message id="RESIZER_PLAN_THEN">
+    <source>Half</source>
+    <translation>Hälfte</translation>
+  </message>
+  <message id="RESIZER_LEFT_OUT">
+    <source>Left out: [REASON]</source>
+    <translation>Ausgelassen: [REASON]</translation>
+  </message>
+  <message id="RESIZER_CHOOSE_FOLDER">
+    <source>Choose folder…</source>
+    <translation>Ordner wählen…</translation>
+  </message>
+  <message id="RESULT_TITLE">
+    <source>Result</source>
+    <translation>Ergebnis</translation>
+  </message>
+  <message id="RESULT_ONE_ICON">
+    <source>1 icon in [FOLDER]</source>
+    <translation>1 Icon in [FOLDER]</translation>
+  </message>
+  <message id="RESULT_ICONS">
+    <source>[COUNT] icons in [FOLDER]</source>
+    <translation>[COUNT] Icons in [FOLDER]</translation>
+  </message>
+  <message id="RESULT_ICONS_PARTLY">
+    <source>[DONE] of [COUNT] icons in [FOLDER]</source>
+    <translation>[DONE] von [COUNT] Icons in [FOLDER]</translation>
+  </message>
+  <message id="RESULT_ONE_PICTURE">
+    <source>1 picture in [FOLDER]</source>
+    <translation>1 Bild in [FOLDER]</translation>
+  </message>
+  <message id="RESULT_PICTURES">
+    <source>[COUNT] pictures in [FOLDER]</source>
+    <translation>[COUNT] Bilder in [FOLDER]</translation>
+  </message>
+  <message id="RESULT_PICTURES_PARTLY">
+    <source>[DONE] of [COUNT] pictures in [FOLDER]</source>
+    <translation>[DONE] von [COUNT] Bildern in [FOLDER]</translation>
+  </message>
+  <message id="RESULT_NOTHING">
+    <source>Nothing was written to [FOLDER]</source>
+    <translation>Nichts wurde in [FOLDER] geschrieben</translation>
+  </message>
+  <message id="RESULT_CANCELED">
+    <source>Stopped before the end.</source>
+    <translation>Vorzeitig angehalten.</translation>
+  </message>
+  <message id="RESULT_AND_MORE">
+    <source>[FILE] and [COUNT] more</source>
+    <translation>[FILE] und [COUNT] weitere</translation>
+  </message>
+  <message id="RESULT_FAILURES">
+    <source>What went wrong</source>
+    <translation>Was misslang</translation>
+  </message>
+  <message id="RESULT_SHOW">
+    <source>Show in folder</source>
+    <translation>Im Ordner zeigen</translation>
+  </message>
+  <message id="RESULT_COPY_PATH">
+    <source>Copy path</source>
+    <translation>Pfad kopieren</translation>
+  </message>
+  <message id="RESULT_COPIED">
+    <source>Copied</source>
+    <translation>Kopiert</translation>
+  </message>
+  <message id="READING_FILE">
+    <source>Reading [FILE]…</source>
+    <translation>[FILE] wird gelesen…</translation>
+  </message>
+  <message id="TIP_BROWSE">
+    <source>Choose from a folder</source>
+    <translation>Aus einem Ordner wählen</translation>
+  </message>
+  <message id="TIP_DROP">
+    <source>Drop here, or paste</source>
+    <translation>Hierher ziehen oder einfügen</translation>
+  </message>
+  <message id="CANCEL">
+    <source>Cancel</source>
+    <translation>Abbrechen</translation>
+  </message>
+  <message id="STOP">
+    <source>Stop</source>
+    <translation>Anhalten</translation>
   </message>
 
   <!-- Colour codes -->

@@ -245,6 +245,10 @@
     <source>Favicon</source>
     <translation>Favicon</translation>
   </message>
+  <message id="ICONS_ALL">
+    <source>All</source>
+    <translation>All</translation>
+  </message>
   <message id="ICONS_CUSTOM_SETTINGS">
     <source>Custom size</source>
     <translation>Custom size</translation>
@@ -321,6 +325,26 @@
     <source>The name “icons” was already taken there, so this export is in the folder “[FOLDER]”.</source>
     <translation>The name “icons” was already taken there, so this export is in the folder “[FOLDER]”.</translation>
   </message>
+  <message id="ICONS_EXAMPLE">
+    <source>Example picture</source>
+    <translation>Example picture</translation>
+  </message>
+  <message id="ICONS_REFUSED">
+    <source>[FILE]: [WHAT]</source>
+    <translation>[FILE]: [WHAT]</translation>
+  </message>
+  <message id="ICONS_PIXELS">
+    <source>[WIDTH] × [HEIGHT] pixels</source>
+    <translation>[WIDTH] × [HEIGHT] pixels</translation>
+  </message>
+  <message id="ICONS_NO_PICTURE">
+    <source>no picture</source>
+    <translation>no picture</translation>
+  </message>
+  <message id="ICONS_PASTED">
+    <source>Pasted picture</source>
+    <translation>Pasted picture</translation>
+  </message>
 
   <!-- Icon generator: code snippets; only the comments inside a snippet are translated -->
   <message id="Code Snippets">
@@ -342,6 +366,10 @@
   <message id="SNIPPETS_PLATFORM_PROMPT">
     <source>Choose a platform</source>
     <translation>Choose a platform</translation>
+  </message>
+  <message id="SNIPPETS_NO_PLATFORM">
+    <source>Platform</source>
+    <translation>Platform</translation>
   </message>
   <message id="SNIPPET_IOS_UNIVERSAL">
     <source><![CDATA[<!-- Info.plist: add the files from the folders iPhone and
@@ -678,6 +706,114 @@
   <message id="RESIZER_ALERT_MESSAGE">
     <source>None of these is a .png file marked @2x or -hd. Please choose double-resolution PNG pictures.</source>
     <translation>None of these is a .png file marked @2x or -hd. Please choose double-resolution PNG pictures.</translation>
+  </message>
+  <message id="RESIZER_PLAN">
+    <source>What will be halved</source>
+    <translation>What will be halved</translation>
+  </message>
+  <message id="RESIZER_PLAN_ALL">
+    <source>To be halved: [TAKEN]</source>
+    <translation>To be halved: [TAKEN]</translation>
+  </message>
+  <message id="RESIZER_PLAN_SOME">
+    <source>To be halved: [TAKEN], left out: [LEFT]</source>
+    <translation>To be halved: [TAKEN], left out: [LEFT]</translation>
+  </message>
+  <message id="RESIZER_PLAN_PICTURE">
+    <source>Picture</source>
+    <translation>Picture</translation>
+  </message>
+  <message id="RESIZER_PLAN_NOW">
+    <source>Now</source>
+    <translation>Now</translation>
+  </message>
+  <message id="RESIZER_PLAN_THEN">
+    <source>Half</source>
+    <translation>Half</translation>
+  </message>
+  <message id="RESIZER_LEFT_OUT">
+    <source>Left out: [REASON]</source>
+    <translation>Left out: [REASON]</translation>
+  </message>
+  <message id="RESIZER_CHOOSE_FOLDER">
+    <source>Choose folder…</source>
+    <translation>Choose folder…</translation>
+  </message>
+  <message id="RESULT_TITLE">
+    <source>Result</source>
+    <translation>Result</translation>
+  </message>
+  <message id="RESULT_ONE_ICON">
+    <source>1 icon in [FOLDER]</source>
+    <translation>1 icon in [FOLDER]</translation>
+  </message>
+  <message id="RESULT_ICONS">
+    <source>[COUNT] icons in [FOLDER]</source>
+    <translation>[COUNT] icons in [FOLDER]</translation>
+  </message>
+  <message id="RESULT_ICONS_PARTLY">
+    <source>[DONE] of [COUNT] icons in [FOLDER]</source>
+    <translation>[DONE] of [COUNT] icons in [FOLDER]</translation>
+  </message>
+  <message id="RESULT_ONE_PICTURE">
+    <source>1 picture in [FOLDER]</source>
+    <translation>1 picture in [FOLDER]</translation>
+  </message>
+  <message id="RESULT_PICTURES">
+    <source>[COUNT] pictures in [FOLDER]</source>
+    <translation>[COUNT] pictures in [FOLDER]</translation>
+  </message>
+  <message id="RESULT_PICTURES_PARTLY">
+    <source>[DONE] of [COUNT] pictures in [FOLDER]</source>
+    <translation>[DONE] of [COUNT] pictures in [FOLDER]</translation>
+  </message>
+  <message id="RESULT_NOTHING">
+    <source>Nothing was written to [FOLDER]</source>
+    <translation>Nothing was written to [FOLDER]</translation>
+  </message>
+  <message id="RESULT_CANCELED">
+    <source>Stopped before the end.</source>
+    <translation>Stopped before the end.</translation>
+  </message>
+  <message id="RESULT_AND_MORE">
+    <source>[FILE] and [COUNT] more</source>
+    <translation>[FILE] and [COUNT] more</translation>
+  </message>
+  <message id="RESULT_FAILURES">
+    <source>What went wrong</source>
+    <translation>What went wrong</translation>
+  </message>
+  <message id="RESULT_SHOW">
+    <source>Show in folder</source>
+    <translation>Show in folder</translation>
+  </message>
+  <message id="RESULT_COPY_PATH">
+    <source>Copy path</source>
+    <translation>Copy path</translation>
+  </message>
+  <message id="RESULT_COPIED">
+    <source>Copied</source>
+    <translation>Copied</translation>
+  </message>
+  <message id="READING_FILE">
+    <source>Reading [FILE]…</source>
+    <translation>Reading [FILE]…</translation>
+  </message>
+  <message id="TIP_BROWSE">
+    <source>Choose from a folder</source>
+    <translation>Choose from a folder</translation>
+  </message>
+  <message id="TIP_DROP">
+    <source>Drop here, or paste</source>
+    <translation>Drop here, or paste</translation>
+  </message>
+  <message id="CANCEL">
+    <source>Cancel</source>
+    <translation>Cancel</translation>
+  </message>
+  <message id="STOP">
+    <source>Stop</source>
+    <translation>Stop</translation>
   </message>
 
   <!-- Colour codes -->

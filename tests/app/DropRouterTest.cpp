@@ -58,6 +58,7 @@ private slots:
         QTest::newRow("whatever its case") << u"/a.IPA"_s << Icons << true << 5;
         QTest::newRow("a picture on the icons") << u"/a.png"_s << Icons << true << 0;
         QTest::newRow("a picture on the down-scaler is for that") << u"/a.png"_s << Resizer << true << 2;
+        QTest::newRow("a picture without a name") << u"/.png"_s << Placeholders << false << 0;
         QTest::newRow("a picture on the placeholders") << u"/a.png"_s << Placeholders << false << 0;
         QTest::newRow("a picture on the package check") << u"/a.png"_s << Validator << true << 0;
         QTest::newRow("another file is for the tool in view to refuse") << u"/a.txt"_s << Icons << true << 0;

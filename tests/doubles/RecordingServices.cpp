@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "RecordingServices.h"
 
+#include "foundation/WholeFile.h"
+
 #include <utility>
 
 namespace lumora
@@ -37,6 +39,11 @@ void RecordingFolderChooser::cancel()
     m_chosen = nullptr;
     if (const FolderDeclined declined = std::exchange(m_declined, nullptr))
         declined();
+}
+
+Result<QByteArray> ReadyFiles::read(const QString &path, qint64 limit) const
+{
+    return readWholeFile(path, limit);
 }
 
 void RecordingClipboard::setText(const QString &newText)

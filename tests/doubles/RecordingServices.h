@@ -70,6 +70,23 @@ public:
     int changes = 0; ///< how often a text was set
 };
 
+/// Records the paths instead of showing them.
+class RecordingFileManager final : public FileManager
+{
+public:
+    void show(const QString &path) override { shown << path; }
+
+    QStringList shown;
+};
+
+/// Reads files without blocking.
+class ReadyFiles final : public FileReader
+{
+public:
+    bool mayStall() const override { return false; }
+    Result<QByteArray> read(const QString &path, qint64 limit) const override;
+};
+
 /// Services for tests: nothing leaves the test, everything is recorded.
 struct RecordingServices
 {
@@ -77,9 +94,14 @@ struct RecordingServices
     RecordingFolderChooser folderChooser;
     RecordingUrlOpener urlOpener;
     RecordingClipboard clipboard;
-    QString workFolder = {}; ///< set by tests that make one
+    RecordingFileManager fileManager;
+    std::shared_ptr<const FileReader> fileReader = std::make_shared<ReadyFiles>();
+    QString workFolder = {}; ///< a test that makes one says so
 
-    Services services() { return {fileChooser, folderChooser, urlOpener, clipboard, workFolder}; }
+    Services services()
+    {
+        return {fileChooser, folderChooser, urlOpener, clipboard, fileManager, fileReader, workFolder};
+    }
 };
 
 } // namespace lumora

@@ -12,6 +12,7 @@
 #include "widgets/style/Palette.h"
 
 #include <QDir>
+#include <QDirIterator>
 #include <QLineF>
 #include <QTemporaryDir>
 

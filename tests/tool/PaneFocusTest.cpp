@@ -73,6 +73,20 @@ private slots:
         QTRY_COMPARE(QApplication::focusWidget(), &scene.first);
     }
 
+    void itComesBackOverSeveralStandIns()
+    {
+        Scene scene;
+        scene.first.setFocus();
+        scene.first.hide();
+        QCOMPARE(QApplication::focusWidget(), &scene.second);
+        scene.second.hide();
+        QCOMPARE(QApplication::focusWidget(), &scene.third);
+        scene.third.hide();
+        QCOMPARE(QApplication::focusWidget(), &scene.pane);
+        scene.first.show();
+        QTRY_COMPARE(QApplication::focusWidget(), &scene.first);
+    }
+
     void aFocusThatWasMovedStaysThere()
     {
         Scene scene;

@@ -3,10 +3,14 @@
 
 #include "Clipboard.h"
 #include "FileChooser.h"
+#include "FileManager.h"
+#include "FileReader.h"
 #include "FolderChooser.h"
 #include "UrlOpener.h"
 
 #include <QString>
+
+#include <memory>
 
 namespace lumora
 {
@@ -19,6 +23,9 @@ struct Services
     FolderChooser &folderChooser;
     UrlOpener &urlOpener;
     Clipboard &clipboard;
+    FileManager &fileManager;
+    /// Shared, because a read of a share that does not answer may outlive every controller.
+    std::shared_ptr<const FileReader> fileReader;
     /// A private folder that is removed when the process ends; empty if none could be made.
     QString workFolder = {};
 };
@@ -27,13 +34,18 @@ struct Services
 class DesktopServices
 {
 public:
-    Services services() { return {m_fileChooser, m_folderChooser, m_urlOpener, m_clipboard}; }
+    Services services()
+    {
+        return {m_fileChooser, m_folderChooser, m_urlOpener, m_clipboard, m_fileManager, m_fileReader};
+    }
 
 private:
     DialogFileChooser m_fileChooser;
     DialogFolderChooser m_folderChooser;
     DesktopUrlOpener m_urlOpener;
     SystemClipboard m_clipboard;
+    DesktopFileManager m_fileManager;
+    std::shared_ptr<const FileReader> m_fileReader = std::make_shared<DiskReader>();
 };
 
 } // namespace lumora

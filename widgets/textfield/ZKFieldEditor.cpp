@@ -3,8 +3,10 @@
 
 #include "ZKSecureGlyphGenerator.h"
 
+#include <QDragEnterEvent>
 #include <QGuiApplication>
 #include <QKeyEvent>
+#include <QMimeData>
 #include <QStyleHints>
 
 #include <utility>
@@ -38,6 +40,15 @@ bool ZKFieldEditor::focusNextPrevChild(bool next)
 {
     emit insertTab(next);
     return true;
+}
+
+void ZKFieldEditor::dragEnterEvent(QDragEnterEvent *event)
+{
+    // A drag of files also offers their names as text. The widgets below handle files.
+    if (event->mimeData()->hasUrls())
+        event->ignore();
+    else
+        QLineEdit::dragEnterEvent(event);
 }
 
 void ZKFieldEditor::keyPressEvent(QKeyEvent *event)

@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: MIT
+#include "RetinaPlanView.h"
+
+#include "tool/ButtonStyle.h"
+#include "tool/LabelStyle.h"
+#include "widgets/buttons/HoverButton.h"
+#include "widgets/style/Fonts.h"
+#include "widgets/style/Palette.h"
+
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace lumora
+{
+
+namespace
+{
+
+enum Column { Name, Now, Then };
+
+constexpr int gap = 8;
+constexpr int nameWidth = 300;
+constexpr int sizeWidth = 130;
+constexpr int buttonWidth = 180;
+constexpr int buttonHeight = 36;
+
+QString sizeText(QSize size)
+{
+    return u"%1 × %2"_s.arg(size.width()).arg(size.height());
+}
+
+} // namespace
+
+RetinaPlanView::RetinaPlanView(QWidget *parent)
+    : QWidget(parent), m_summary(new QLabel(this)), m_goOnButton(new HoverButton(this)), m_list(new QTreeWidget(this))
+{
+    styleLabel(m_summary, latoBold(15), palette::chromeText);
+    styleButton(m_goOnButton, qtTrId("RESIZER_CHOOSE_FOLDER"), palette::resizer, palette::resizerBorder);
+    m_goOnButton->setFixedSize(buttonWidth, buttonHeight);
+    setUpList();
+    auto *line = new QHBoxLayout;
+    line->addWidget(m_summary, 1);
+    line->addWidget(m_goOnButton);
+    auto *lines = new QVBoxLayout(this);
+    lines->setContentsMargins(0, 0, 0, 0);
+    lines->setSpacing(gap);
+    lines->addLayout(line);
+    lines->addWidget(m_list, 1);
+    hide();
+}
+
+void RetinaPlanView::setUpList()
+{
+    m_list->setHeaderLabels({qtTrId("RESIZER_PLAN_PICTURE"), qtTrId("RESIZER_PLAN_NOW"), qtTrId("RESIZER_PLAN_THEN")});
+    m_list->setAccessibleName(qtTrId("RESIZER_PLAN"));
+    m_list->setRootIsDecorated(false);
+    m_list->setUniformRowHeights(true);
+    m_list->setStyleSheet(u"QTreeView::item { padding: 4px 2px; }"_s);
+    m_list->setFont(latoRegular(13));
+    m_list->header()->setFont(latoBold(13));
+    m_list->header()->setSectionsMovable(false);
+    m_list->setColumnWidth(Name, nameWidth);
+    m_list->setColumnWidth(Now, sizeWidth);
+    m_list->setTextElideMode(Qt::ElideMiddle);
+    QPalette colors = m_list->palette();
+    colors.setColor(QPalette::Text, palette::chromeText);
+    colors.setColor(QPalette::Highlight, palette::resizer);
+    m_list->setPalette(colors);
+}
+
+void RetinaPlanView::setPlan(const std::vector<PlannedPicture> &plan)
+{
+    m_list->clear();
+    const auto taken =
+        std::count_if(plan.begin(), plan.end(), [](const PlannedPicture &one) { return one.leftOut.isEmpty(); });
+    for (std::size_t row = 0; row < plan.size() && row < rowLimit; ++row)
+        addRow(plan[row]);
+    const char *key = taken == std::ssize(plan) ? "RESIZER_PLAN_ALL" : "RESIZER_PLAN_SOME";
+    m_summary->setText(qtTrId(key)
+                           .replace(u"[TAKEN]"_s, QString::number(taken))
+                           .replace(u"[LEFT]"_s, QString::number(std::ssize(plan) - taken)));
+    m_goOnButton->setVisible(taken > 0);
+    setVisible(!plan.empty());
+}
+
+void RetinaPlanView::addRow(const PlannedPicture &picture)
+{
+    auto *row = new QTreeWidgetItem(m_list);
+    row->setText(Name, QFileInfo(picture.path).fileName());
+    row->setData(Name, Qt::UserRole, picture.path);
+    row->setToolTip(Name, picture.path);
+    if (picture.leftOut.isEmpty())
+        return;
+    row->setText(Then, qtTrId("RESIZER_LEFT_OUT").replace(u"[REASON]"_s, picture.leftOut));
+    row->setToolTip(Then, picture.leftOut);
+    for (const Column column : {Name, Now, Then})
+        row->setForeground(column, palette::placeholderText);
+}
+
+QTreeWidgetItem *RetinaPlanView::rowOf(const QString &path) const
+{
+    for (int row = 0; row < m_list->topLevelItemCount(); ++row) {
+        QTreeWidgetItem *item = m_list->topLevelItem(row);
+        if (item->data(Name, Qt::UserRole).toString() == path && item->text(Then).isEmpty())
+            return item;
+    }
+    return nullptr;
+}
+
+void RetinaPlanView::setSizes(const QString &path, QSize now, QSize then)
+{
+    if (QTreeWidgetItem *row = rowOf(path)) {
+        row->setText(Now, sizeText(now));
+        row->setText(Then, sizeText(then));
+    }
+}
+
+void RetinaPlanView::setProblem(const QString &path, const QString &problem)
+{
+    if (QTreeWidgetItem *row = rowOf(path)) {
+        row->setText(Then, problem);
+        row->setToolTip(Then, problem);
+        row->setForeground(Then, palette::errorDark);
+    }
+}
+
+} // namespace lumora

@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "foundation/WholeFile.h"
+#include "tool/services/FileReader.h"
+
+#include <QSet>
+
+#include <condition_variable>
+#include <mutex>
+
+namespace lumora
+{
+
+/// Reads as from a share that answers for a file only once the test lets it.
+class HeldFiles final : public FileReader
+{
+public:
+    bool mayStall() const override { return true; }
+    Result<QByteArray> read(const QString &path, qint64 limit) const override
+    {
+        std::unique_lock lock(m_mutex);
+        ++m_begun;
+        m_changed.notify_all();
+        m_changed.wait(lock, [&] { return m_released.contains(path) || m_allReleased; });
+        lock.unlock();
+        return readWholeFile(path, limit);
+    }
+    void release(const QString &path)
+    {
+        const std::lock_guard lock(m_mutex);
+        m_released.insert(path);
+        m_changed.notify_all();
+    }
+    void releaseAll()
+    {
+        const std::lock_guard lock(m_mutex);
+        m_allReleased = true;
+        m_changed.notify_all();
+    }
+    /// Waits until so many reads have begun.
+    void waitForBegun(int count) const
+    {
+        std::unique_lock lock(m_mutex);
+        m_changed.wait(lock, [&] { return m_begun >= count; });
+    }
+
+private:
+    mutable std::mutex m_mutex; ///< guards everything below
+    mutable std::condition_variable m_changed;
+    mutable int m_begun = 0;
+    QSet<QString> m_released;
+    bool m_allReleased = false;
+};
+
+} // namespace lumora

@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: MIT
+#include "placeholders/PlaceholderViewController.h"
+#include "resources/Resources.h"
+#include "tests/doubles/RecordingServices.h"
+#include "ui_PlaceholderViewController.h"
+#include "widgets/popover/SFBPopover.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace lumora;
+using namespace Qt::StringLiterals;
+
+/// What the pane says of its runs, also of two at a time.
+class PlaceholderRunsTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<RecordingServices> m_services;
+    std::unique_ptr<QWidget> m_window;
+    std::unique_ptr<PlaceholderViewController> m_controller;
+
+    const Ui::PlaceholderViewController &ui() const { return m_controller->outlets(); }
+    RecordingFolderChooser &chooser() const { return m_services->folderChooser; }
+    QString name() const { return QFileInfo(m_folder->path()).fileName(); }
+    /// The buttons stand side by side.
+    bool popupPointsAt(const QWidget *control) const
+    {
+        const qreal arrow = m_controller->popupView()->popoverWindow()->attachmentPoint().x();
+        return qAbs(arrow - control->mapToGlobal(QPointF(control->width() / 2.0, 0)).x()) < 1;
+    }
+
+private slots:
+    void initTestCase() { installTexts(*qApp, QLocale(u"en_GB"_s)); }
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        m_services = std::make_unique<RecordingServices>();
+        m_window = std::make_unique<QWidget>();
+        m_window->resize(900, 660);
+        m_controller = std::make_unique<PlaceholderViewController>(m_services->services());
+        m_controller->view()->setParent(m_window.get());
+        m_controller->view()->setGeometry(65, 60, 835, 600);
+        m_controller->popupView()->setAnimates(false);
+        m_window->show();
+    }
+    void cleanup()
+    {
+        m_controller.reset();
+        m_window.reset();
+    }
+
+    void aRunSaysWhatItLeft()
+    {
+        ui().macButton->click();
+        chooser().confirm(m_folder->path());
+        QVERIFY(ui().resultView->isHidden());
+        QTRY_VERIFY(!ui().resultView->isHidden());
+        QCOMPARE(ui().resultView->text(), u"4 pictures in %1/placeholders"_s.arg(name()));
+        ui().resultView->showButton()->click();
+        QCOMPARE(m_services->fileManager.shown, QStringList{m_folder->filePath(u"placeholders"_s)});
+    }
+
+    void aRunThatWroteNothingSaysSo()
+    {
+        ui().macButton->click();
+        chooser().confirm(u"/proc/nowhere"_s);
+        QTRY_VERIFY(!ui().resultView->isHidden());
+        const JobResult result = ui().resultView->result();
+        QCOMPARE(result.summary, u"Nothing was written to nowhere/placeholders"_s);
+        QCOMPARE(result.failures.size(), 1);
+        QVERIFY(!m_controller->popupView()->isVisible());
+    }
+
+    void aRunClosesAtItsOwnButton()
+    {
+        QVERIFY(QDir(m_folder->path()).mkdir(u"placeholders"_s));
+        ui().iosButton->click();
+        chooser().confirm(m_folder->path());
+        // Another is begun before the first one has ended.
+        ui().macButton->click();
+        QTRY_COMPARE(ui().iosButton->text(), qtTrId("ALL_DONE"));
+        QVERIFY(m_controller->popupView()->isVisible());
+        QVERIFY(popupPointsAt(ui().iosButton));
+        QCOMPARE(ui().macButton->text(), qtTrId("GENERATE"));
+        QCOMPARE(m_controller->selectedButton(), ui().macButton);
+        m_controller->popupCloseButtonPressed();
+
+        chooser().confirm(m_folder->path());
+        QTRY_COMPARE(ui().macButton->text(), qtTrId("ALL_DONE"));
+        QTRY_VERIFY(m_controller->popupView()->isVisible());
+        QVERIFY(popupPointsAt(ui().macButton));
+        QCOMPARE(m_controller->selectedButton(), nullptr);
+    }
+};
+
+QTEST_MAIN(PlaceholderRunsTest)
+#include "PlaceholderRunsTest.moc"
