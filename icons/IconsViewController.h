@@ -79,7 +79,7 @@ public slots:
     void androidCheckboxChecked();
     void webtouchCheckboxChecked();
     void faviconCheckboxChecked();
-    /// Chooses every platform, or none where all are chosen.
+    /// Chooses every platform, or none if all are chosen.
     void allPressed();
     void checkbox_rounded_ios7_checked();
     void checkbox_rounded_ios6_checked();
@@ -133,7 +133,7 @@ private:
     QString m_browsePath;
     int m_customIconSize = 0;
     std::array<IconView *, 5> m_previews{};
-    QString m_statusBefore; ///< what the status line said before a slow reading
+    QString m_statusBefore; ///< the status line's text before a slow reading
     FileReading *m_reading = nullptr;
     TimedCaption *m_platformCaption = nullptr;
     TimedCaption *m_customCaption = nullptr;

@@ -37,7 +37,7 @@ QString whatInstead(const Failure &failure)
 
 void IconsViewController::loadBuiltInIcon()
 {
-    // Reading and scaling it takes longer than all the rest of the window, which need not wait for it.
+    // Reading and scaling it takes longer than all the rest of the window, so the window does not wait for it.
     m_jobs.start([this, sides = pictureSides(), mode = cornerMode()](const BackgroundJob &job) {
         const ShownIcon shown = shownIcon(builtInIcon(), sides, mode);
         job.post([this, shown] {
@@ -60,7 +60,7 @@ void IconsViewController::showIcon(const ShownIcon &shown)
 {
     m_icon = shown.icon;
     m_ui->sourceIconView->setPicture(shown.pictures.first());
-    // What changed its size meanwhile is drawn again.
+    // A view whose size changed meanwhile is drawn again.
     if (m_ui->sourceIconView->pixelSide() != shown.pictures.first().width())
         showSource();
     for (std::size_t number = 0; number < m_previews.size(); ++number) {

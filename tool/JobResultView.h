@@ -35,7 +35,7 @@ public:
 
     HoverButton *showButton() const { return m_showButton; }
     HoverButton *copyButton() const { return m_copyButton; }
-    /// The summary and the failures, one a line.
+    /// The summary and the failures, one per line.
     QString text() const;
 
 signals:

@@ -12,7 +12,7 @@
 namespace lumora
 {
 
-/// Reads as from a share that answers for a file only once the test lets it.
+/// Reads as from a network share that answers for a file only when the test allows it.
 class HeldFiles final : public FileReader
 {
 public:
@@ -38,7 +38,7 @@ public:
         m_allReleased = true;
         m_changed.notify_all();
     }
-    /// Waits until so many reads have begun.
+    /// Waits until this number of reads has begun.
     void waitForBegun(int count) const
     {
         std::unique_lock lock(m_mutex);

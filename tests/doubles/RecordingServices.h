@@ -96,7 +96,7 @@ struct RecordingServices
     RecordingClipboard clipboard;
     RecordingFileManager fileManager;
     std::shared_ptr<const FileReader> fileReader = std::make_shared<ReadyFiles>();
-    QString workFolder = {}; ///< a test that makes one says so
+    QString workFolder = {}; ///< set by tests that make one
 
     Services services()
     {

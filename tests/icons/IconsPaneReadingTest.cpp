@@ -11,7 +11,7 @@ using namespace lumora;
 namespace
 {
 
-/// The pane over a share that answers when the test lets it.
+/// The pane with a network share that answers when the test allows it.
 struct PaneOverAShare
 {
     PaneOverAShare() : share(std::make_shared<HeldFiles>()) { pane.emplace(share); }

@@ -12,7 +12,7 @@
 using namespace lumora;
 using namespace Qt::StringLiterals;
 
-/// What the pane says of its runs, also of two at a time.
+/// The pane's texts about its runs, also about two at a time.
 class PlaceholderRunsTest : public QObject
 {
     Q_OBJECT
@@ -26,7 +26,7 @@ private:
     const Ui::PlaceholderViewController &ui() const { return m_controller->outlets(); }
     RecordingFolderChooser &chooser() const { return m_services->folderChooser; }
     QString name() const { return QFileInfo(m_folder->path()).fileName(); }
-    /// The buttons stand side by side.
+    /// The buttons are side by side.
     bool popupPointsAt(const QWidget *control) const
     {
         const qreal arrow = m_controller->popupView()->popoverWindow()->attachmentPoint().x();
@@ -80,7 +80,7 @@ private slots:
         QVERIFY(QDir(m_folder->path()).mkdir(u"placeholders"_s));
         ui().iosButton->click();
         chooser().confirm(m_folder->path());
-        // Another is begun before the first one has ended.
+        // Another run begins before the first one has ended.
         ui().macButton->click();
         QTRY_COMPARE(ui().iosButton->text(), qtTrId("ALL_DONE"));
         QVERIFY(m_controller->popupView()->isVisible());

@@ -16,7 +16,7 @@
 using namespace lumora;
 using namespace Qt::StringLiterals;
 
-/// What the pane says before, during and after a batch.
+/// The pane's texts before, during and after a batch.
 class ResizerPlanTest : public QObject
 {
     Q_OBJECT
