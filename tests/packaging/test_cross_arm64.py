@@ -16,9 +16,8 @@ ROOT = PLACE / "root"
 # Programs that run while building are this machine's; libraries are the other's.
 TOOLS = [
     "ca-certificates", "cmake", "ninja-build", "pkg-config", "crossbuild-essential-arm64", "qt6-base-dev-tools", "qt6-tools-dev-tools",
-    "qt6-l10n-tools", "libcli11-dev", "python3", "qemu-user", "qt6-base-dev", "qt6-tools-dev",
+    "qt6-l10n-tools", "python3", "qemu-user", "qt6-base-dev", "qt6-tools-dev",
 ]
-NOT_FOR_TARGET = {"libcli11-dev"}
 # What cmake is to know of the other machine; CMAKE_LIBRARY_ARCHITECTURE is the name of Debian's folders for it.
 TOOLCHAIN = """set(CMAKE_SYSTEM_NAME Linux)
 set(CMAKE_SYSTEM_PROCESSOR aarch64)
@@ -34,7 +33,7 @@ set(QT_HOST_PATH_CMAKE_DIR /usr/lib/x86_64-linux-gnu/cmake)
 def target_libraries():
     lines = (SOURCE / "packaging/build-packages.txt").read_text().splitlines()
     names = {line.split("#")[0].strip() for line in lines}
-    return sorted(f"{name}:arm64" for name in names if name.endswith("-dev") and name not in NOT_FOR_TARGET)
+    return sorted(f"{name}:arm64" for name in names if name.endswith("-dev"))
 
 
 def sources():
