@@ -4,6 +4,7 @@
 #include "ExifOrientation.h"
 #include "IcnsReader.h"
 #include "PictureFormat.h"
+#include "foundation/SharedLibrary.h"
 #include "foundation/WholeFile.h"
 #include "pictures/pixels/PixelFormat.h"
 #include "pictures/pixels/SizeText.h"
@@ -27,17 +28,29 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
+/// libtiff, through which Qt reads, would write about damaged files to stderr.
+void silenceTiff()
+{
+    static std::once_flag silenced;
+    std::call_once(silenced, [] {
+        const SharedLibrary library(LUMORA_TIFF_SONAME);
+        const decltype(&::TIFFSetErrorHandler) setErrorHandler = library["TIFFSetErrorHandler"];
+        const decltype(&::TIFFSetWarningHandler) setWarningHandler = library["TIFFSetWarningHandler"];
+        setErrorHandler(nullptr);
+        setWarningHandler(nullptr);
+    });
+}
+
 /// Settings that the decoders need once per program.
-void prepareDecoders()
+void prepareDecoders(const QByteArray &format)
 {
     static std::once_flag prepared;
     std::call_once(prepared, [] {
         // Qt's own limit holds for the whole program and is too low for 16-bit pictures; readers here check their own.
         QImageReader::setAllocationLimit(largestDecodedBytes / (1024 * 1024));
-        // libtiff would write about damaged files to stderr.
-        TIFFSetErrorHandler(nullptr);
-        TIFFSetWarningHandler(nullptr);
     });
+    if (format == "tiff")
+        silenceTiff();
 }
 
 Failure damaged(const QString &name)
@@ -48,7 +61,7 @@ Failure damaged(const QString &name)
 /// A failed read returns a null picture.
 QImage decodeByQt(const QByteArray &bytes, const QByteArray &format)
 {
-    prepareDecoders();
+    prepareDecoders(format);
     QBuffer buffer;
     buffer.setData(bytes);
     QImageReader reader(&buffer, format);
@@ -119,7 +132,7 @@ Result<QSize> storedPixelSize(const QByteArray &bytes, const QString &name)
         if (const std::optional<PngHeader> header = pngHeader(bytes); header && !header->appleOptimized)
             size = header->size;
     } else {
-        prepareDecoders();
+        prepareDecoders(format);
         QBuffer buffer;
         buffer.setData(bytes);
         QImageReader reader(&buffer, format);

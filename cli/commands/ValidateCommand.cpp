@@ -11,6 +11,7 @@
 #include "pictures/png/PngEncoder.h"
 #include "validator/archive/OpenPackage.h"
 #include "validator/bundle/WorkFolder.h"
+#include "validator/crypto/Digest.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -186,6 +187,7 @@ private:
         if (!m_icon.isEmpty() && m_icon != u"-")
             places.written += m_icon;
         places.scratch = m_spooled.folders();
+        loadCryptoLibrary();
         const ProcessLock lock = lockProcess(places);
         if (lock.files)
             m_console.note(commandText(lock.calls ? "CLI_SANDBOX_BOTH" : "CLI_SANDBOX_FILES"));

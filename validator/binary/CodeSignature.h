@@ -2,8 +2,8 @@
 #pragma once
 
 #include "BinaryFacts.h"
-#include "Digest.h"
 #include "SignedMessage.h"
+#include "validator/crypto/Digest.h"
 
 #include <QByteArrayView>
 #include <QMap>

@@ -2,13 +2,9 @@
 #include "SignedMessage.h"
 
 #include "DerElement.h"
-#include "Digest.h"
 #include "validator/bundle/PropertyList.h"
-
-#include <openssl/err.h>
-#include <openssl/evp.h>
-#include <openssl/x509.h>
-#include <openssl/x509v3.h>
+#include "validator/crypto/Digest.h"
+#include "validator/crypto/OpenSsl.h"
 
 #include <memory>
 #include <vector>
@@ -23,7 +19,7 @@ namespace
 
 struct FreeCertificate
 {
-    void operator()(X509 *certificate) const { ::X509_free(certificate); }
+    void operator()(X509 *certificate) const { openSsl().X509_free(certificate); }
 };
 using CertificatePointer = std::unique_ptr<X509, FreeCertificate>;
 
@@ -62,44 +58,45 @@ const EVP_MD *algorithm(DigestKind kind)
 {
     switch (kind) {
     case DigestKind::Sha1:
-        return ::EVP_sha1();
+        return openSsl().EVP_sha1();
     case DigestKind::Sha384:
-        return ::EVP_sha384();
+        return openSsl().EVP_sha384();
     case DigestKind::Sha512:
-        return ::EVP_sha512();
+        return openSsl().EVP_sha512();
     default:
-        return ::EVP_sha256();
+        return openSsl().EVP_sha256();
     }
 }
 
 CertificatePointer certificateFrom(QByteArrayView der)
 {
     const auto *bytes = reinterpret_cast<const unsigned char *>(der.data());
-    CertificatePointer certificate(::d2i_X509(nullptr, &bytes, static_cast<long>(der.size())));
-    ::ERR_clear_error();
+    CertificatePointer certificate(openSsl().d2i_X509(nullptr, &bytes, static_cast<long>(der.size())));
+    openSsl().ERR_clear_error();
     return certificate;
 }
 
 QString nameEntry(const X509_NAME *name, int nid)
 {
-    const int at = ::X509_NAME_get_index_by_NID(name, nid, -1);
+    const int at = openSsl().X509_NAME_get_index_by_NID(name, nid, -1);
     if (at < 0)
         return {};
     unsigned char *text = nullptr;
-    const int length = ::ASN1_STRING_to_UTF8(&text, ::X509_NAME_ENTRY_get_data(::X509_NAME_get_entry(name, at)));
-    ::ERR_clear_error();
+    const int length = openSsl().ASN1_STRING_to_UTF8(
+        &text, openSsl().X509_NAME_ENTRY_get_data(openSsl().X509_NAME_get_entry(name, at)));
+    openSsl().ERR_clear_error();
     if (length < 0)
         return {};
     const QString value = QString::fromUtf8(reinterpret_cast<const char *>(text), length);
-    ::OPENSSL_free(text);
+    openSsl().CRYPTO_free(text, OPENSSL_FILE, OPENSSL_LINE);
     return value;
 }
 
 QDateTime timeOf(const ASN1_TIME *time)
 {
     std::tm parts = {};
-    if (time == nullptr || ::ASN1_TIME_to_tm(time, &parts) != 1) {
-        ::ERR_clear_error();
+    if (time == nullptr || openSsl().ASN1_TIME_to_tm(time, &parts) != 1) {
+        openSsl().ERR_clear_error();
         return {};
     }
     return QDateTime(QDate(parts.tm_year + 1900, parts.tm_mon + 1, parts.tm_mday),
@@ -110,10 +107,10 @@ QDateTime timeOf(const ASN1_TIME *time)
 std::optional<QDateTime> attributeTime(const DerElement &element)
 {
     const auto *bytes = reinterpret_cast<const unsigned char *>(element.whole.data());
-    ASN1_TIME *time = ::d2i_ASN1_TIME(nullptr, &bytes, static_cast<long>(element.whole.size()));
-    ::ERR_clear_error();
+    ASN1_TIME *time = openSsl().d2i_ASN1_TIME(nullptr, &bytes, static_cast<long>(element.whole.size()));
+    openSsl().ERR_clear_error();
     const QDateTime value = timeOf(time);
-    ::ASN1_TIME_free(time);
+    openSsl().ASN1_TIME_free(time);
     return value.isValid() ? std::optional(value) : std::nullopt;
 }
 
@@ -124,7 +121,7 @@ template <typename Value, typename Encode> QByteArray encoded(const Value *value
     if (length < 0)
         return {};
     QByteArray der(reinterpret_cast<const char *>(bytes), length);
-    ::OPENSSL_free(bytes);
+    openSsl().CRYPTO_free(bytes, OPENSSL_FILE, OPENSSL_LINE);
     return der;
 }
 
@@ -132,15 +129,15 @@ template <typename Value, typename Encode> QByteArray encoded(const Value *value
 bool isNamedBy(X509 *certificate, const DerElement &name)
 {
     if (name.tag == plainContext0) {
-        const ASN1_OCTET_STRING *key = ::X509_get0_subject_key_id(certificate);
-        return key != nullptr && QByteArrayView(reinterpret_cast<const char *>(::ASN1_STRING_get0_data(key)),
-                                                ::ASN1_STRING_length(key)) == name.content;
+        const ASN1_OCTET_STRING *key = openSsl().X509_get0_subject_key_id(certificate);
+        return key != nullptr && QByteArrayView(reinterpret_cast<const char *>(openSsl().ASN1_STRING_get0_data(key)),
+                                                openSsl().ASN1_STRING_length(key)) == name.content;
     }
     const auto parts = derElements(name.content, 2);
     if (!parts || parts->size() != 2)
         return false;
-    return encoded(::X509_get_issuer_name(certificate), &::i2d_X509_NAME) == parts->first().whole &&
-           encoded(::X509_get0_serialNumber(certificate), &::i2d_ASN1_INTEGER) == parts->last().whole;
+    return encoded(openSsl().X509_get_issuer_name(certificate), openSsl().i2d_X509_NAME) == parts->first().whole &&
+           encoded(openSsl().X509_get0_serialNumber(certificate), openSsl().i2d_ASN1_INTEGER) == parts->last().whole;
 }
 
 void readAttribute(const DerElement &attribute, const QByteArray &contentDigest, MessageSigner &signer)
@@ -172,15 +169,17 @@ void readAttribute(const DerElement &attribute, const QByteArray &contentDigest,
 
 bool signatureIsBy(X509 *certificate, DigestKind digest, const QByteArray &signedBytes, QByteArrayView signature)
 {
-    const std::unique_ptr<EVP_MD_CTX, decltype(&::EVP_MD_CTX_free)> context(::EVP_MD_CTX_new(), &::EVP_MD_CTX_free);
-    EVP_PKEY *key = ::X509_get0_pubkey(certificate);
-    const bool matches = key != nullptr && context != nullptr &&
-                         ::EVP_DigestVerifyInit(context.get(), nullptr, algorithm(digest), nullptr, key) == 1 &&
-                         ::EVP_DigestVerify(context.get(), reinterpret_cast<const unsigned char *>(signature.data()),
-                                            static_cast<std::size_t>(signature.size()),
-                                            reinterpret_cast<const unsigned char *>(signedBytes.constData()),
-                                            static_cast<std::size_t>(signedBytes.size())) == 1;
-    ::ERR_clear_error();
+    const std::unique_ptr<EVP_MD_CTX, decltype(openSsl().EVP_MD_CTX_free)> context(openSsl().EVP_MD_CTX_new(),
+                                                                                   openSsl().EVP_MD_CTX_free);
+    EVP_PKEY *key = openSsl().X509_get0_pubkey(certificate);
+    const bool matches =
+        key != nullptr && context != nullptr &&
+        openSsl().EVP_DigestVerifyInit(context.get(), nullptr, algorithm(digest), nullptr, key) == 1 &&
+        openSsl().EVP_DigestVerify(context.get(), reinterpret_cast<const unsigned char *>(signature.data()),
+                                   static_cast<std::size_t>(signature.size()),
+                                   reinterpret_cast<const unsigned char *>(signedBytes.constData()),
+                                   static_cast<std::size_t>(signedBytes.size())) == 1;
+    openSsl().ERR_clear_error();
     return matches;
 }
 
@@ -189,19 +188,19 @@ void followChain(X509 *certificate, const std::vector<CertificatePointer> &all, 
 {
     X509 *current = certificate;
     for (qsizetype step = 0; current != nullptr && step < mostCertificates; ++step) {
-        signer.chain += nameEntry(::X509_get_subject_name(current), NID_commonName);
+        signer.chain += nameEntry(openSsl().X509_get_subject_name(current), NID_commonName);
         X509 *issuer = nullptr;
         for (const CertificatePointer &candidate : all) {
-            if (::X509_check_issued(candidate.get(), current) == X509_V_OK &&
-                ::X509_verify(current, ::X509_get0_pubkey(candidate.get())) == 1) {
+            if (openSsl().X509_check_issued(candidate.get(), current) == X509_V_OK &&
+                openSsl().X509_verify(current, openSsl().X509_get0_pubkey(candidate.get())) == 1) {
                 issuer = candidate.get();
                 break;
             }
         }
-        ::ERR_clear_error();
+        openSsl().ERR_clear_error();
         if (issuer == current) {
             signer.chainReachesRoot = true;
-            signer.rootFingerprint = Digest::of(DigestKind::Sha256, encoded(current, &::i2d_X509));
+            signer.rootFingerprint = Digest::of(DigestKind::Sha256, encoded(current, openSsl().i2d_X509));
             return;
         }
         current = issuer;
@@ -210,10 +209,13 @@ void followChain(X509 *certificate, const std::vector<CertificatePointer> &all, 
 
 CertificateFacts factsOf(X509 *certificate)
 {
-    const X509_NAME *subject = ::X509_get_subject_name(certificate);
-    return {nameEntry(subject, NID_commonName),        nameEntry(subject, NID_organizationalUnitName),
-            nameEntry(subject, NID_organizationName),  timeOf(::X509_get0_notBefore(certificate)),
-            timeOf(::X509_get0_notAfter(certificate)), encoded(certificate, &::i2d_X509)};
+    const X509_NAME *subject = openSsl().X509_get_subject_name(certificate);
+    return {nameEntry(subject, NID_commonName),
+            nameEntry(subject, NID_organizationalUnitName),
+            nameEntry(subject, NID_organizationName),
+            timeOf(openSsl().X509_get0_notBefore(certificate)),
+            timeOf(openSsl().X509_get0_notAfter(certificate)),
+            encoded(certificate, openSsl().i2d_X509)};
 }
 
 std::vector<CertificatePointer> certificatesIn(QByteArrayView content)

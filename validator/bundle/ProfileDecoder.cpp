@@ -4,12 +4,10 @@
 #include "foundation/Log.h"
 #include "foundation/WholeFile.h"
 #include "validator/archive/PackageSource.h"
+#include "validator/crypto/OpenSsl.h"
 
 #include <QFileInfo>
 #include <QProcess>
-
-#include <openssl/cms.h>
-#include <openssl/err.h>
 
 using namespace Qt::StringLiterals;
 
@@ -24,7 +22,7 @@ constexpr qint64 largestProfile = 8 << 20;
 
 struct FreeMessage
 {
-    void operator()(CMS_ContentInfo *message) const { ::CMS_ContentInfo_free(message); }
+    void operator()(CMS_ContentInfo *message) const { openSsl().CMS_ContentInfo_free(message); }
 };
 
 } // namespace
@@ -35,16 +33,16 @@ QByteArray signedMessageContent(const QByteArray &message)
         return {};
     const auto *bytes = reinterpret_cast<const unsigned char *>(message.constData());
     const std::unique_ptr<CMS_ContentInfo, FreeMessage> parsed(
-        ::d2i_CMS_ContentInfo(nullptr, &bytes, static_cast<long>(message.size())));
-    ::ERR_clear_error();
-    if (!parsed || ::OBJ_obj2nid(::CMS_get0_type(parsed.get())) != NID_pkcs7_signed)
+        openSsl().d2i_CMS_ContentInfo(nullptr, &bytes, static_cast<long>(message.size())));
+    openSsl().ERR_clear_error();
+    if (!parsed || openSsl().OBJ_obj2nid(openSsl().CMS_get0_type(parsed.get())) != NID_pkcs7_signed)
         return {};
-    ASN1_OCTET_STRING **content = ::CMS_get0_content(parsed.get());
-    ::ERR_clear_error();
+    ASN1_OCTET_STRING **content = openSsl().CMS_get0_content(parsed.get());
+    openSsl().ERR_clear_error();
     if (content == nullptr || *content == nullptr)
         return {};
-    return QByteArray(reinterpret_cast<const char *>(::ASN1_STRING_get0_data(*content)),
-                      ::ASN1_STRING_length(*content));
+    return QByteArray(reinterpret_cast<const char *>(openSsl().ASN1_STRING_get0_data(*content)),
+                      openSsl().ASN1_STRING_length(*content));
 }
 
 QString asciiText(const QByteArray &bytes)

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Digest.h"
 
-#include <openssl/evp.h>
+#include "OpenSsl.h"
 
 namespace lumora
 {
@@ -13,14 +13,14 @@ const EVP_MD *algorithm(DigestKind kind)
 {
     switch (kind) {
     case DigestKind::Sha1:
-        return ::EVP_sha1();
+        return openSsl().EVP_sha1();
     case DigestKind::Sha256:
     case DigestKind::Sha256Truncated:
-        return ::EVP_sha256();
+        return openSsl().EVP_sha256();
     case DigestKind::Sha384:
-        return ::EVP_sha384();
+        return openSsl().EVP_sha384();
     case DigestKind::Sha512:
-        return ::EVP_sha512();
+        return openSsl().EVP_sha512();
     case DigestKind::None:
         break;
     }
@@ -29,18 +29,23 @@ const EVP_MD *algorithm(DigestKind kind)
 
 } // namespace
 
+void loadCryptoLibrary()
+{
+    openSsl();
+}
+
 qsizetype digestSize(DigestKind kind)
 {
     constexpr qsizetype truncated = 20;
     if (kind == DigestKind::Sha256Truncated)
         return truncated;
     const EVP_MD *known = algorithm(kind);
-    return known == nullptr ? 0 : ::EVP_MD_get_size(known);
+    return known == nullptr ? 0 : openSsl().EVP_MD_get_size(known);
 }
 
 void Digest::Free::operator()(evp_md_ctx_st *context) const
 {
-    ::EVP_MD_CTX_free(context);
+    openSsl().EVP_MD_CTX_free(context);
 }
 
 Digest::Digest(DigestKind kind) : m_kind(kind)
@@ -48,8 +53,8 @@ Digest::Digest(DigestKind kind) : m_kind(kind)
     const EVP_MD *known = algorithm(kind);
     if (known == nullptr)
         return;
-    m_context.reset(::EVP_MD_CTX_new());
-    if (m_context && ::EVP_DigestInit_ex(m_context.get(), known, nullptr) != 1)
+    m_context.reset(openSsl().EVP_MD_CTX_new());
+    if (m_context && openSsl().EVP_DigestInit_ex(m_context.get(), known, nullptr) != 1)
         m_context.reset();
 }
 
@@ -60,7 +65,7 @@ Digest &Digest::operator=(Digest &&) noexcept = default;
 void Digest::add(QByteArrayView bytes)
 {
     if (m_context)
-        ::EVP_DigestUpdate(m_context.get(), bytes.data(), static_cast<std::size_t>(bytes.size()));
+        openSsl().EVP_DigestUpdate(m_context.get(), bytes.data(), static_cast<std::size_t>(bytes.size()));
 }
 
 QByteArray Digest::result()
@@ -69,7 +74,7 @@ QByteArray Digest::result()
         return {};
     QByteArray value(EVP_MAX_MD_SIZE, '\0');
     unsigned length = 0;
-    ::EVP_DigestFinal_ex(m_context.get(), reinterpret_cast<unsigned char *>(value.data()), &length);
+    openSsl().EVP_DigestFinal_ex(m_context.get(), reinterpret_cast<unsigned char *>(value.data()), &length);
     m_context.reset();
     value.truncate(qMin<qsizetype>(length, digestSize(m_kind)));
     return value;

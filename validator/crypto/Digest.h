@@ -17,6 +17,10 @@ enum class DigestKind : quint8 { None = 0, Sha1 = 1, Sha256 = 2, Sha256Truncated
 /// The length of a digest in bytes; 0 for None.
 qsizetype digestSize(DigestKind kind);
 
+/// Loads the library that computes digests and checks signatures, which otherwise happens at the first use. A process
+/// that is about to close the file system to itself calls it before.
+void loadCryptoLibrary();
+
 /// Computes a digest of content that comes piece by piece.
 class Digest
 {
