@@ -14,25 +14,17 @@ namespace
 
 constexpr int missingLibrary = 127;
 
-[[noreturn]] void endWithoutLibrary()
-{
-    std::fprintf(stderr, "lumora: %s\n", ::dlerror());
-    ::_exit(missingLibrary);
-}
-
 } // namespace
 
-SharedLibrary::SharedLibrary(const char *name) : m_handle(::dlopen(name, RTLD_NOW | RTLD_LOCAL))
-{
-    if (m_handle == nullptr)
-        endWithoutLibrary();
-}
+SharedLibrary::SharedLibrary(const char *name) : m_name(name), m_handle(::dlopen(name, RTLD_NOW | RTLD_LOCAL)) {}
 
 SharedLibrary::Function SharedLibrary::operator[](const char *name) const
 {
-    void *address = ::dlsym(m_handle, name);
-    if (address == nullptr)
-        endWithoutLibrary();
+    void *address = m_handle == nullptr ? nullptr : ::dlsym(m_handle, name);
+    if (address == nullptr) {
+        std::fprintf(stderr, "lumora: %s is not installed, or it has no function %s\n", m_name, name);
+        ::_exit(missingLibrary);
+    }
     return Function(address);
 }
 

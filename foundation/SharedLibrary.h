@@ -9,9 +9,9 @@ namespace lumora
 class SharedLibrary
 {
 public:
-    /// The name is the library's SONAME. Where the library is missing, the program ends as the dynamic linker ends
-    /// one: a line on stderr and status 127. It stays open until the program ends.
+    /// The name is the library's SONAME. An opened library stays open until the program ends.
     explicit SharedLibrary(const char *name);
+    bool isOpen() const { return m_handle != nullptr; }
 
     /// A function whose type the receiver knows.
     class Function
@@ -28,10 +28,12 @@ public:
         explicit Function(void *address) : m_address(address) {}
         void *m_address;
     };
-    /// Ends the program in the same way when the library has no such function.
+    /// Where the library or its function is missing, the program ends as the dynamic linker ends one: with a line on
+    /// stderr and status 127.
     Function operator[](const char *name) const;
 
 private:
+    const char *m_name;
     void *m_handle;
 };
 

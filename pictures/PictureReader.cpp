@@ -34,6 +34,8 @@ void silenceTiff()
     static std::once_flag silenced;
     std::call_once(silenced, [] {
         const SharedLibrary library(LUMORA_TIFF_SONAME);
+        if (!library.isOpen())
+            return;
         const decltype(&::TIFFSetErrorHandler) setErrorHandler = library["TIFFSetErrorHandler"];
         const decltype(&::TIFFSetWarningHandler) setWarningHandler = library["TIFFSetWarningHandler"];
         setErrorHandler(nullptr);

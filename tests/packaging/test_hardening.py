@@ -38,6 +38,11 @@ class Hardening(unittest.TestCase):
         # The set depends on the functions that the code calls.
         self.check(r"\b__(?!stack_)\w+_chk@", "--dyn-syms")
 
+    def test_a_start_binds_no_library_that_few_runs_need(self):
+        needed = re.findall(r"\(NEEDED\).*\[(.+)\]", readelf("lumora", "--dynamic"))
+        self.assertIn("libQt6Core.so.6", needed)
+        self.assertEqual([name for name in needed if name.startswith(("libcrypto", "libtiff"))], [])
+
     def test_no_search_path_is_built_in_after_installation(self):
         for folder in ("app", "cli"):
             self.assertIn('RPATH ""', (BUILD / folder / "cmake_install.cmake").read_text())
