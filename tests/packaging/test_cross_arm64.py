@@ -5,14 +5,12 @@ Asked for with `./test -C Cross -L cross`: it makes a system of its own below th
 mirror that this machine itself uses, and compiles everything once more. Needs root.
 """
 import os
-import subprocess
 import unittest
-from pathlib import Path
 
+from build_root import BuildRoot
 from place import BUILD, SOURCE, VERSION, run
 
 PLACE = BUILD / "cross-arm64"
-ROOT = PLACE / "root"
 # Programs that run while building are this machine's; libraries are the other's.
 TOOLS = [
     "ca-certificates", "cmake", "ninja-build", "pkg-config", "crossbuild-essential-arm64", "qt6-base-dev-tools", "qt6-tools-dev-tools",
@@ -36,55 +34,20 @@ def target_libraries():
     return sorted(f"{name}:arm64" for name in names if name.endswith("-dev"))
 
 
-def sources():
-    listed = run(
-        "apt-get", "indextargets", "--format", "$(ORIGIN)|deb $(REPO_URI) $(RELEASE) $(COMPONENT)", "Created-By: Packages"
-    ).stdout.splitlines()
-    return sorted({line.split("|")[1] for line in listed if line.startswith("Debian|")})
-
-
-def make_root():
-    release = dict(line.split("=", 1) for line in Path("/etc/os-release").read_text().splitlines() if "=" in line)
-    PLACE.mkdir(exist_ok=True)
-    wanted = [*TOOLS, *target_libraries()]
-    result = run(
-        "mmdebstrap", "--quiet", "--variant=minbase", "--architectures=amd64,arm64", f"--include={','.join(wanted)}",
-        release["VERSION_CODENAME"], ROOT, *sources(),
-    )
-    assert result.returncode == 0, result.stdout
-    (PLACE / "made").touch()
-
-
-def inside(*command):
-    """Runs a command in the root, where the tree is /source and its build folder /build."""
-    mounts = (
-        'cd "$1" && mkdir -p source build && mount --bind "$2" source && mount --bind "$3" build && mount --rbind /dev dev && '
-        'mount -t proc proc proc && folder=$1 && shift 3 && exec chroot "$folder" "$@"'
-    )
-    (PLACE / "build").mkdir(exist_ok=True)
-    environment = ["env", "-i", "PATH=/usr/sbin:/usr/bin:/sbin:/bin", "HOME=/root", "LC_ALL=C.UTF-8"]
-    return run(
-        "unshare", "--mount", "--propagation", "private", "sh", "-c", mounts, "sh", ROOT, SOURCE, PLACE / "build", *environment,
-        *command,
-    )
-
-
 @unittest.skipIf(os.geteuid() != 0, "a system of its own needs root")
 class CrossCompile(unittest.TestCase):
     @classmethod
     def setUpClass(cls):
-        if not (PLACE / "made").exists():
-            subprocess.run(["rm", "-rf", str(ROOT)], check=True)
-            make_root()
-        (ROOT / "arm64.cmake").write_text(TOOLCHAIN)
+        cls.system = BuildRoot(PLACE, [*TOOLS, *target_libraries()], "amd64,arm64")
+        (cls.system.root / "arm64.cmake").write_text(TOOLCHAIN)
 
     def test_1_it_configures_and_compiles_without_a_warning(self):
-        made = inside(
+        made = self.system.run(
             "cmake", "-G", "Ninja", "-S", "/source", "-B", "/build", "-DCMAKE_TOOLCHAIN_FILE=/arm64.cmake", "-DCMAKE_BUILD_TYPE=Release",
             "-DLUMORA_TESTS=OFF", "-DLUMORA_WARNINGS_AS_ERRORS=ON",
         )
         self.assertEqual(made.returncode, 0, made.stdout[-4000:])
-        built = inside("ninja", "-C", "/build", "lumora", "lumora-window")
+        built = self.system.run("ninja", "-C", "/build", "lumora", "lumora-window")
         self.assertEqual(built.returncode, 0, built.stdout[-4000:])
 
     def test_2_the_programs_are_the_other_machines_and_guarded(self):
@@ -95,9 +58,9 @@ class CrossCompile(unittest.TestCase):
             self.assertIn("__stack_chk_fail", notes)
 
     def test_3_the_command_runs_in_an_emulator(self):
-        said = inside("qemu-aarch64", "/build/lumora", "--version")
+        said = self.system.run("qemu-aarch64", "/build/lumora", "--version")
         self.assertEqual(said.stdout, f"lumora {VERSION}\n")
-        code = inside("qemu-aarch64", "/build/lumora", "color", "#34485e", "--as", "hex")
+        code = self.system.run("qemu-aarch64", "/build/lumora", "color", "#34485e", "--as", "hex")
         self.assertEqual(code.stdout.strip(), "#34485e")
 
 
