@@ -75,25 +75,26 @@ private slots:
     {
         QTest::addColumn<QStringList>("named");
         QTest::addColumn<QString>("destination");
-        QTest::addColumn<QStringList>("taken");
-        QTest::newRow("itself") << QStringList{u"art-hd/a.png"_s} << u"art-hd"_s << QStringList{};
+        QTest::addColumn<FailureCode>("reason");
+        QTest::newRow("itself") << QStringList{u"art-hd/a.png"_s} << u"art-hd"_s << FailureCode::WouldReplaceSource;
         QTest::newRow("another one of the run")
-            << QStringList{u"art-hd/a@2x.png"_s, u"art-hd/a.png"_s} << u"art-hd"_s << QStringList{};
+            << QStringList{u"art-hd/a@2x.png"_s, u"art-hd/a.png"_s} << u"art-hd"_s << FailureCode::WouldReplaceSource;
         QTest::newRow("a refused one of the call")
-            << QStringList{u"art/a@2x.png"_s, u"art/a.png"_s} << u"art"_s << QStringList{};
-        QTest::newRow("a file that was not named") << QStringList{u"art/a@2x.png"_s} << u"art"_s << QStringList{};
+            << QStringList{u"art/a@2x.png"_s, u"art/a.png"_s} << u"art"_s << FailureCode::WouldReplaceSource;
+        QTest::newRow("a file that was not named") << QStringList{u"art/a@2x.png"_s} << u"art"_s << FailureCode::Exists;
         QTest::newRow("itself through a link to its folder")
-            << QStringList{u"art-hd/a.png"_s} << u"link"_s << QStringList{};
+            << QStringList{u"art-hd/a.png"_s} << u"link"_s << FailureCode::WouldReplaceSource;
     }
     void neverReplacesASource()
     {
         QFETCH(QStringList, named);
         QFETCH(QString, destination);
-        QFETCH(QStringList, taken);
+        QFETCH(FailureCode, reason);
         put({u"art/a@2x.png"_s, u"art/a.png"_s, u"art-hd/a@2x.png"_s, u"art-hd/a.png"_s});
         QVERIFY(QFile::link(at(u"art-hd"_s), at(u"link"_s)));
         const DownscalePlan refusing = planDownscaling({at(named), at(destination)});
-        QCOMPARE(sourcesOf(refusing), at(taken));
+        QVERIFY(sourcesOf(refusing).isEmpty());
+        QCOMPARE(refusing.failures.back().code, reason);
         const DownscalePlan allowing = planDownscaling({at(named), at(destination), FileReplacement::Allow});
         QStringList marked = at(named);
         marked.removeAll(at(u"art/a.png"_s));

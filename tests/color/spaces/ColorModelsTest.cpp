@@ -82,6 +82,15 @@ private slots:
         }
     }
 
+    void graysAreTheSameInBothSpaces()
+    {
+        for (int level = 0; level <= 255; ++level) {
+            const WideColor gray = wideColorFromBytes(level, level, level);
+            const WideColor wide = inSpace(gray, RgbSpace::DisplayP3);
+            QVERIFY(wide.red == gray.red && wide.green == gray.green && wide.blue == gray.blue);
+        }
+    }
+
     void everyHueIsOfOneTurn()
     {
         for (const auto &[red, green, blue] : {std::array{255, 0, 1}, std::array{255, 0, 0}, std::array{1, 0, 0}}) {

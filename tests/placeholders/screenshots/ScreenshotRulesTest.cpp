@@ -26,6 +26,17 @@ QByteArray picture(QSize size, const char *format = "png", QImage::Format pixels
     return buffer.data();
 }
 
+QByteArray pictureWithTranslucentPalette(QSize size)
+{
+    QImage image(size, QImage::Format_Indexed8);
+    image.setColorTable({qRgba(0, 128, 128, 128)});
+    image.fill(0);
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, "png");
+    return buffer.data();
+}
+
 struct NamedPicture
 {
     QString path;
@@ -92,6 +103,9 @@ private slots:
                               << QStringList{u"screenshot.format a.webp|webp"_s};
         QTest::newRow("webp by another name")
             << one("a.png", picture(phone, "webp")) << Stores{} << QStringList{u"screenshot.format a.png|webp"_s};
+        QTest::newRow("a translucent color of a palette")
+            << one("a.png", pictureWithTranslucentPalette(phone)) << Stores{}
+            << QStringList{u"screenshot.alpha a.png|it has an alpha channel"_s};
         QTest::newRow("alpha") << one("a.png", picture(phone, "png", QImage::Format_ARGB32)) << Stores{}
                                << QStringList{u"screenshot.alpha a.png|it has an alpha channel"_s};
         QTest::newRow("grey") << one("a.png", picture(phone, "png", QImage::Format_Grayscale8)) << Stores{}
