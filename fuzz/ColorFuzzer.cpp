@@ -6,6 +6,7 @@
 #include "color/palettes/Palette.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstdlib>
 
 using namespace lumora;
@@ -19,11 +20,30 @@ void hold(bool expected)
         std::abort();
 }
 
-/// A color halfway between two bytes may round either way once a form has rounded it.
-template <typename Bytes> bool areNext(const Bytes &one, const Bytes &other)
+/// Whether four bytes say all there is to the color.
+bool isOfWholeBytes(const WideColor &color)
 {
-    return std::equal(one.begin(), one.end(), other.begin(),
-                      [](int first, int second) { return std::abs(first - second) <= 1; });
+    const auto [red, green, blue, alpha] = bytesOf(color);
+    return color == wideColorFromBytes(red, green, blue, alpha);
+}
+
+/// The most that a form may move a color that lies between bytes, in bytes: half of one where the form has bytes, and
+/// what double precision loses on the way.
+constexpr double mostRounding = 0.5 + 1e-9;
+
+bool areNear(const WideColor &one, const WideColor &other)
+{
+    const WideColor first = clippedTo(one, RgbSpace::Srgb);
+    const WideColor second = clippedTo(other, RgbSpace::Srgb);
+    return std::max({std::abs(first.red - second.red), std::abs(first.green - second.green),
+                     std::abs(first.blue - second.blue), std::abs(first.alpha - second.alpha)}) *
+               255 <=
+           mostRounding;
+}
+
+bool isTheSame(const WideColor &back, const WideColor &color)
+{
+    return isOfWholeBytes(color) ? bytesOf(back) == bytesOf(color) : areNear(back, color);
 }
 
 void checkForms(const WideColor &color)
@@ -33,7 +53,7 @@ void checkForms(const WideColor &color)
         // Even the forms for any gamut cannot write every color far outside all screens.
         if (form.showsAnyGamut && (!back || isClippedIn(color, RgbSpace::DisplayP3)))
             continue;
-        hold(back.ok() && areNext(bytesOf(back.value().color), bytesOf(color)));
+        hold(back.ok() && isTheSame(back.value().color, color));
     }
 }
 
