@@ -2,6 +2,7 @@
 #include "AssetCatalog.h"
 
 #include "BomStore.h"
+#include "FaultList.h"
 
 #include <QHash>
 
@@ -86,10 +87,7 @@ private:
 
 void CatalogReading::fault(CatalogFault what)
 {
-    if (!m_catalog.faults.contains(what)) {
-        m_catalog.faults += what;
-        std::ranges::sort(m_catalog.faults);
-    }
+    addFault(m_catalog.faults, what);
 }
 
 BomStore::Pairs CatalogReading::pairs(const QByteArray &tree)

@@ -4,6 +4,7 @@
 #include "ByteReader.h"
 #include "CodeDirectoryReading.h"
 #include "DerEntitlements.h"
+#include "FaultList.h"
 #include "validator/bundle/PropertyList.h"
 
 #include <algorithm>
@@ -57,10 +58,7 @@ private:
 
 void SignatureReading::fault(SignatureFault what)
 {
-    if (!m_signature.faults.contains(what)) {
-        m_signature.faults += what;
-        std::ranges::sort(m_signature.faults);
-    }
+    addFault(m_signature.faults, what);
 }
 
 bool SignatureReading::readBlobs()

@@ -2,6 +2,7 @@
 #include "MachOReader.h"
 
 #include "ByteReader.h"
+#include "FaultList.h"
 #include "MachOSlice.h"
 
 #include <algorithm>
@@ -14,14 +15,6 @@ namespace
 
 constexpr quint32 fatMagic = 0xCAFEBABE;
 constexpr quint32 fatMagic64 = 0xCAFEBABF;
-
-void addFault(BinaryFacts &facts, BinaryFault fault)
-{
-    if (!facts.faults.contains(fault)) {
-        facts.faults += fault;
-        std::ranges::sort(facts.faults);
-    }
-}
 
 bool overlap(const FileRange &one, const FileRange &other)
 {
@@ -48,29 +41,29 @@ BinaryFacts readFat(const ByteReader &file, const BinaryLimits &limits)
     QList<FileRange> taken{{0, 8 + read * entrySize}};
     for (quint64 i = 0; i < count; ++i) {
         if (i >= static_cast<quint64>(limits.slices)) {
-            addFault(facts, BinaryFault::TooManySlices);
+            addFault(facts.faults, BinaryFault::TooManySlices);
             break;
         }
         const quint64 entry = 8 + i * entrySize;
         const quint64 offset = wide ? file.u64(entry + 8).value_or(0) : file.u32(entry + 8).value_or(0);
         const quint64 size = wide ? file.u64(entry + 16).value_or(0) : file.u32(entry + 12).value_or(0);
         if (!file.holds(entry, entrySize)) {
-            addFault(facts, BinaryFault::CutOff);
+            addFault(facts.faults, BinaryFault::CutOff);
             break;
         }
         if (!file.holds(offset, size)) {
-            addFault(facts, BinaryFault::SlicePastEnd);
+            addFault(facts.faults, BinaryFault::SlicePastEnd);
             continue;
         }
         const FileRange range{offset, size};
         if (std::ranges::any_of(taken, [&](const FileRange &other) { return overlap(range, other); })) {
-            addFault(facts, BinaryFault::OverlappingSlices);
+            addFault(facts.faults, BinaryFault::OverlappingSlices);
             continue;
         }
         taken += range;
         auto slice = readMachOSlice(*file.span(range.offset, range.size), limits);
         if (!slice) {
-            addFault(facts, BinaryFault::UnreadableSlice);
+            addFault(facts.faults, BinaryFault::UnreadableSlice);
             continue;
         }
         slice->range = range;
