@@ -16,13 +16,13 @@ namespace
 {
 
 constexpr Command commands[] = {
-    {"icons", "icons", "CLI_ICONS_ABOUT", false, &declareIconsCommand},
-    {"icon", "icons", "CLI_ICON_ABOUT", false, &declareIconCommand},
-    {"placeholders", "placeholders", "CLI_PLACEHOLDERS_ABOUT", true, &declarePlaceholdersCommand},
-    {"downscale", "resizer", "CLI_DOWNSCALE_ABOUT", false, &declareDownscaleCommand},
-    {"color", "color", "CLI_COLOR_ABOUT", false, &declareColorCommand},
-    {"devices", "devices", "CLI_DEVICES_ABOUT", false, &declareDevicesCommand},
-    {"validate", "validator", "CLI_VALIDATE_ABOUT", false, &declareValidateCommand},
+    {"icons", ToolIndex::Icons, "CLI_ICONS_ABOUT", false, &declareIconsCommand},
+    {"icon", ToolIndex::Icons, "CLI_ICON_ABOUT", false, &declareIconCommand},
+    {"placeholders", ToolIndex::Placeholders, "CLI_PLACEHOLDERS_ABOUT", true, &declarePlaceholdersCommand},
+    {"downscale", ToolIndex::Resizer, "CLI_DOWNSCALE_ABOUT", false, &declareDownscaleCommand},
+    {"color", ToolIndex::Color, "CLI_COLOR_ABOUT", false, &declareColorCommand},
+    {"devices", ToolIndex::Devices, "CLI_DEVICES_ABOUT", false, &declareDevicesCommand},
+    {"validate", ToolIndex::Validator, "CLI_VALIDATE_ABOUT", false, &declareValidateCommand},
 };
 
 } // namespace
@@ -39,7 +39,7 @@ const Command *commandNamed(QStringView name)
             return &command;
     }
     for (const Command &command : commands) {
-        if (name == QLatin1StringView(command.tool))
+        if (name == QLatin1StringView(factsOf(command.tool).name))
             return &command;
     }
     return nullptr;
@@ -56,17 +56,14 @@ QStringList commandNames()
 QString toolNamed(const QString &name)
 {
     const Command *command = commandNamed(name);
-    return command == nullptr ? QString() : QString::fromLatin1(command->tool);
+    return command == nullptr ? QString() : QString::fromLatin1(factsOf(command->tool).name);
 }
 
 QStringList toolNames()
 {
     QStringList names;
-    for (const Command &command : commands) {
-        const QString name = QString::fromLatin1(command.tool);
-        if (!names.contains(name))
-            names << name;
-    }
+    for (const ToolFacts &tool : toolFacts)
+        names << QString::fromLatin1(tool.name);
     return names;
 }
 

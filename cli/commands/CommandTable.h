@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "foundation/ToolFacts.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -23,7 +25,7 @@ struct Command
     /// The word on the command line.
     const char *name;
     /// The tool of the window for the same work (`lumora --tool TOOL`). Commands and tools accept each other's names.
-    const char *tool;
+    ToolIndex tool;
     /// Its purpose, in half a line.
     const char *textKey;
     /// Whether it draws text and so needs fonts: a QGuiApplication (without a screen) instead of a QCoreApplication.
