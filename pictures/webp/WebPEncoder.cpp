@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "WebPEncoder.h"
 
+#include "pictures/pixels/SizeText.h"
+
 #include <webp/encode.h>
 
 #include <memory>
@@ -56,7 +58,7 @@ Result<QByteArray> encodeWebP(const QImage &picture, const WebPOptions &options,
     if (picture.isNull() || (options.quality && (*options.quality < 0 || *options.quality > 100)))
         return Failure{FailureCode::InvalidValue, name, {}};
     if (picture.width() > longestWebPEdge || picture.height() > longestWebPEdge)
-        return Failure{FailureCode::TooLarge, name, u"%1 x %2 pixels"_s.arg(picture.width()).arg(picture.height())};
+        return Failure{FailureCode::TooLarge, name, pixelsText(picture.size())};
     const QImage straight = picture.convertToFormat(QImage::Format_RGBA8888);
     const WebPConfig config = configFor(options);
     Encoding encoding;

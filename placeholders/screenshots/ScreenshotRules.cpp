@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ScreenshotRules.h"
 
+#include "pictures/pixels/SizeText.h"
 #include "placeholders/today/StoreSizes.h"
 
 #include <algorithm>
@@ -100,11 +101,6 @@ bool isPlayFolder(const QString &folder)
            folder.endsWith("wearScreenshots"_L1);
 }
 
-QString sizeEvidence(QSize size)
-{
-    return u"%1 x %2 pixels"_s.arg(size.width()).arg(size.height());
-}
-
 bool hasPlaySides(QSize size)
 {
     return std::min(size.width(), size.height()) >= shortestSide &&
@@ -172,7 +168,7 @@ private:
         const QString folder = folderOf(facts.path);
         if (isFeatureGraphic(facts.path)) {
             if (facts.size != QSize(1024, 500))
-                add(PlayFeature, facts.path, sizeEvidence(facts.size));
+                add(PlayFeature, facts.path, pixelsText(facts.size));
             return;
         }
         if (isPlayFolder(folder)) {
@@ -182,11 +178,11 @@ private:
         const ScreenshotSlot *slot = screenshotSlotOf(facts.size);
         const bool fitsPlay = hasPlaySides(facts.size) && hasPlayRatio(facts.size);
         if (m_stores.empty() && slot == nullptr && !fitsPlay)
-            add(NoStore, facts.path, sizeEvidence(facts.size));
+            add(NoStore, facts.path, pixelsText(facts.size));
         else if (slot != nullptr && asks(ScreenshotStore::AppStore))
             takeForAppStore(*slot, folder, facts.path);
         else if (m_stores.contains(ScreenshotStore::AppStore))
-            add(AppStoreSize, facts.path, sizeEvidence(facts.size));
+            add(AppStoreSize, facts.path, pixelsText(facts.size));
         if (m_stores.contains(ScreenshotStore::Play) || (m_stores.empty() && slot == nullptr && fitsPlay))
             judgeForPlay(facts, folder);
     }
@@ -202,9 +198,9 @@ private:
     void judgeForPlay(const ScreenshotFacts &facts, const QString &folder)
     {
         if (!hasPlaySides(facts.size))
-            add(PlaySide, facts.path, sizeEvidence(facts.size));
+            add(PlaySide, facts.path, pixelsText(facts.size));
         if (!hasPlayRatio(facts.size))
-            add(PlayRatio, facts.path, sizeEvidence(facts.size));
+            add(PlayRatio, facts.path, pixelsText(facts.size));
         m_play[folder].push_back(facts.size);
     }
 
@@ -220,7 +216,7 @@ private:
             if (count < advisedForTablets)
                 add(PlayTablet, folder, evidence);
         } else if (std::ranges::none_of(sizes, isPromoted)) {
-            add(PlayPromotion, folder, sizeEvidence(sizes.front()));
+            add(PlayPromotion, folder, pixelsText(sizes.front()));
         }
     }
 

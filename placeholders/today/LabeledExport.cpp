@@ -3,6 +3,7 @@
 
 #include "foundation/WholeFile.h"
 #include "pictures/PictureReader.h"
+#include "pictures/pixels/SizeText.h"
 #include "pictures/png/PngEncoder.h"
 #include "pictures/png/PngRows.h"
 #include "pictures/webp/WebPEncoder.h"
@@ -43,7 +44,7 @@ Result<QByteArray> encoded(const LabeledPicture &picture, const LabeledOptions &
     }
     // The format's writer needs the whole picture.
     if (qint64{pixels.width()} * pixels.height() > largestPictureArea)
-        return Failure{FailureCode::TooLarge, path, u"%1 x %2 pixels"_s.arg(pixels.width()).arg(pixels.height())};
+        return Failure{FailureCode::TooLarge, path, pixelsText(pixels)};
     return encodeWebP(picture.toImage(), {options.webpQuality}, path);
 }
 
