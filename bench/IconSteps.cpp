@@ -47,12 +47,12 @@ void decode(benchmark::State &state, const Source &source)
 void takeApart(benchmark::State &state, const Source &source)
 {
     for (auto _ : state)
-        benchmark::DoNotOptimize(Resampler(source.picture));
+        benchmark::DoNotOptimize(Resampler(source.picture, {}));
 }
 
 void resampleTo(benchmark::State &state, const Source &source)
 {
-    const Resampler resampler(source.picture);
+    const Resampler resampler(source.picture, {});
     const int edge = static_cast<int>(state.range(0));
     for (auto _ : state)
         benchmark::DoNotOptimize(resampler.scaledTo({edge, edge}));
@@ -61,7 +61,7 @@ void resampleTo(benchmark::State &state, const Source &source)
 void filter(benchmark::State &state, const Source &source)
 {
     const int edge = static_cast<int>(state.range(0));
-    const ImageRows rows(resample(source.picture, {edge, edge}));
+    const ImageRows rows(resample(source.picture, {edge, edge}, {}).value());
     const RowRange all{0, edge};
     for (auto _ : state)
         benchmark::DoNotOptimize(filteredRows(rows, {&all, 1}, PngFilterChoice::ByEntropy));
@@ -70,7 +70,7 @@ void filter(benchmark::State &state, const Source &source)
 void encode(benchmark::State &state, const Source &source)
 {
     const int edge = static_cast<int>(state.range(0));
-    const ImageRows rows(resample(source.picture, {edge, edge}));
+    const ImageRows rows(resample(source.picture, {edge, edge}, {}).value());
     qsizetype bytes = 0;
     for (auto _ : state) {
         std::vector<PngSection> sections;

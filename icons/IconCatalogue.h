@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "pictures/RoundedCorners.h"
+
 #include <QString>
 
 #include <array>
@@ -126,6 +128,6 @@ inline constexpr char customFolderSuffix[] = "/Custom";
 
 /// The file name of the icon of a custom size, beginning with a slash: "/icon_100x100.png", with "_iOS6" or "_iOS7"
 /// before the ending if the corners are cut in that style.
-QString customIconName(int size, int cornerMode);
+QString customIconName(int size, CornerMode corners);
 
 } // namespace lumora

@@ -6,6 +6,7 @@
 #include "foundation/Log.h"
 #include "foundation/WholeFile.h"
 #include "pictures/PictureOperations.h"
+#include "pictures/png/PngEncoder.h"
 
 #include <QFileInfo>
 
@@ -44,6 +45,17 @@ std::optional<Failure> makeSubfolder(const QString &path)
 QString filePath(const QString &folder, const IconEntry &icon)
 {
     return folder + u'/' + QLatin1StringView(icon.name);
+}
+
+/// Writes the picture to the file's path and notes there what came of it.
+void writeIcon(const Result<QByteArray> &png, IconFile &file)
+{
+    const Outcome written = png ? writeWholeFile(file.path, png.value())
+                                : Failure{FailureCode::CannotWrite, file.path, png.failure().detail};
+    if (written)
+        file.bytes = png.value().size();
+    else
+        file.failure = written.failure();
 }
 
 /// One run over the platforms.
@@ -112,14 +124,7 @@ private:
                 return;
             IconFile file{filePath(folder, icon), icon.size, 0, std::nullopt};
             reportProgress(file.path, stillToWrite--);
-            const QByteArray png = m_pictures.png(icon.size);
-            const Outcome written = png.isEmpty() ? Outcome(Failure{FailureCode::CannotWrite, file.path,
-                                                                    QStringLiteral("there is no source picture")})
-                                                  : writeWholeFile(file.path, png);
-            if (written)
-                file.bytes = png.size();
-            else
-                file.failure = written.failure();
+            writeIcon(m_pictures.png(icon.size), file);
             m_result.files.append(file);
         }
     }
@@ -175,14 +180,16 @@ IconExport generatePlatformIcons(const PlatformIconsRequest &request)
     return PlatformRun(request).run();
 }
 
-IconFile writeCustomIcon(const QImage &icon, int customIconSize, int cornerMode, const QString &path)
+Result<QByteArray> customIconFile(const QImage &icon, int customIconSize, CornerMode cornerMode, const QString &name)
+{
+    const Result<QImage> picture = squarePicture(icon, customIconSize, cornerMode, name);
+    return picture ? encodePng(picture.value(), name) : picture.failure();
+}
+
+IconFile writeCustomIcon(const QImage &icon, int customIconSize, CornerMode cornerMode, const QString &path)
 {
     IconFile file{path, customIconSize, 0, std::nullopt};
-    const Outcome written = saveImage(resizeImage(icon, customIconSize, cornerMode), BitmapType::Png, path);
-    if (written)
-        file.bytes = QFileInfo(path).size();
-    else
-        file.failure = written.failure();
+    writeIcon(customIconFile(icon, customIconSize, cornerMode, path), file);
     return file;
 }
 

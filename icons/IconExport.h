@@ -4,7 +4,9 @@
 #include "IconCatalogue.h"
 #include "foundation/ExportFolder.h"
 #include "foundation/Result.h"
+#include "pictures/RoundedCorners.h"
 
+#include <QByteArray>
 #include <QImage>
 #include <QList>
 #include <QString>
@@ -76,11 +78,14 @@ struct CustomIconRequest
     QImage icon;
     QString savePath;
     int customIconSize = 0; ///< edge length in pixels, 1 to 1024
-    int cornerMode = 0;     ///< see `CornerMode`
+    CornerMode cornerMode = CornerMode::None;
 };
 
-/// Writes one icon to `path`; its size and corners as in `CustomIconRequest`.
-IconFile writeCustomIcon(const QImage &icon, int customIconSize, int cornerMode, const QString &path);
+/// One icon as a PNG file; its size and corners as in `CustomIconRequest`. `name` is the subject of a failure.
+Result<QByteArray> customIconFile(const QImage &icon, int customIconSize, CornerMode cornerMode, const QString &name);
+
+/// Writes that file to `path`.
+IconFile writeCustomIcon(const QImage &icon, int customIconSize, CornerMode cornerMode, const QString &path);
 
 /// Writes one icon of a custom size into the folder "Custom" of a new folder "icons". If that folder cannot be made,
 /// the file's failure is `CannotCreateFolder`.

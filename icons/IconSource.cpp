@@ -33,14 +33,13 @@ Result<QImage> readIconSource(const QByteArray &bytes, const QString &name)
     return readPicture(bytes, name);
 }
 
-QImage builtInIcon()
+Result<QImage> builtInIcon()
 {
     loadResources();
     QFile file(QStringLiteral(":/images/icon_for_test.png"));
     if (!file.open(QIODevice::ReadOnly))
-        return {};
-    const Result<QImage> picture = readIconSource(file.readAll(), file.fileName());
-    return picture ? picture.value() : QImage();
+        return Failure{FailureCode::NotFound, file.fileName(), {}};
+    return readIconSource(file.readAll(), file.fileName());
 }
 
 } // namespace lumora

@@ -17,7 +17,8 @@ Result<QImage> readIconSource(const QString &path);
 /// The same from bytes; `name` is the subject of a failure.
 Result<QImage> readIconSource(const QByteArray &bytes, const QString &name);
 
-/// The built-in picture "icon_for_test", the source until another is chosen; null if the program was built without it.
-QImage builtInIcon();
+/// The built-in picture "icon_for_test", the source until another is chosen. `NotFound` if the program was built
+/// without it.
+Result<QImage> builtInIcon();
 
 } // namespace lumora

@@ -207,11 +207,11 @@ void IconsViewController::allPressed()
     }
 }
 
-int IconsViewController::cornerMode() const
+CornerMode IconsViewController::cornerMode() const
 {
     if (m_ui->customIconRoundedCheckbox->isActive())
-        return static_cast<int>(CornerMode::Ios7);
-    return static_cast<int>(m_ui->customIconRoundedSixCheckbox->isActive() ? CornerMode::Ios6 : CornerMode::None);
+        return CornerMode::Ios7;
+    return m_ui->customIconRoundedSixCheckbox->isActive() ? CornerMode::Ios6 : CornerMode::None;
 }
 
 void IconsViewController::togglePlatform(IconPlatform platform)

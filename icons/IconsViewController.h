@@ -49,8 +49,8 @@ public:
     const QString &browsePath() const { return m_browsePath; }
     /// The edge length of the custom icon in pixels, 0 until one is accepted.
     int customIconSize() const { return m_customIconSize; }
-    /// The number of the `CornerMode` that the two corner options give.
-    int cornerMode() const;
+    /// The corners that the two corner options give.
+    CornerMode cornerMode() const;
 
     /// Takes the picture as the source if it is exactly 1024 pixels wide and high; otherwise shows a message at the
     /// browse button and keeps the present source.

@@ -39,7 +39,8 @@ void IconsViewController::loadBuiltInIcon()
 {
     // Reading and scaling it takes longer than all the rest of the window, so the window does not wait for it.
     m_jobs.start([this, sides = pictureSides(), mode = cornerMode()](const BackgroundJob &job) {
-        const ShownIcon shown = shownIcon(builtInIcon(), sides, mode);
+        const Result<QImage> builtIn = builtInIcon();
+        const ShownIcon shown = shownIcon(builtIn ? builtIn.value() : QImage(), sides, mode);
         job.post([this, shown] {
             if (std::exchange(m_builtInIconPending, false))
                 showIcon(shown);
@@ -101,8 +102,10 @@ void IconsViewController::createIconFromURL(const QString &path)
 
 const QImage &IconsViewController::icon()
 {
-    if (std::exchange(m_builtInIconPending, false))
-        m_icon = builtInIcon();
+    if (std::exchange(m_builtInIconPending, false)) {
+        const Result<QImage> builtIn = builtInIcon();
+        m_icon = builtIn ? builtIn.value() : QImage();
+    }
     return m_icon;
 }
 
@@ -213,7 +216,7 @@ void IconsViewController::editPreviewIcon()
 
 void IconsViewController::drawPreview(IconView *preview)
 {
-    preview->setPicture(resizeImage(icon(), preview->pixelSide(), cornerMode()));
+    preview->setPicture(resizeImage(icon(), preview->pixelSide(), static_cast<int>(cornerMode())));
 }
 
 } // namespace lumora

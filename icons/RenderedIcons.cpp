@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "RenderedIcons.h"
 
+#include "foundation/MemoryLimit.h"
 #include "pictures/png/PngRows.h"
 #include "pictures/png/PngSection.h"
 #include "pictures/scaling/Resampler.h"
@@ -13,6 +14,7 @@
 #include <functional>
 #include <map>
 #include <mutex>
+#include <optional>
 #include <vector>
 
 namespace lumora
@@ -27,8 +29,8 @@ struct Piece
     std::unique_ptr<const ImageRows> rows;
     std::vector<PngSection> sections;
     std::atomic<int> sectionsLeft = 0;
-    QByteArray file;
-    bool finished = false;
+    std::atomic<bool> isWhole = true;       ///< false once a section could not be made
+    std::optional<Result<QByteArray>> file; ///< nothing until it is finished
 };
 
 /// Sections have priority over new sizes: finishing a size that is begun keeps memory low.
@@ -64,13 +66,13 @@ public:
         }
     }
 
-    QByteArray png(int size)
+    Result<QByteArray> png(int size)
     {
         prepare({&size, 1});
         std::unique_lock lock(m_mutex);
         const Piece &piece = *m_pieces.at(size);
-        m_finished.wait(lock, [&piece] { return piece.finished; });
-        return piece.file;
+        m_finished.wait(lock, [&piece] { return piece.file.has_value(); });
+        return *piece.file;
     }
 
 private:
@@ -94,42 +96,65 @@ private:
 
     void render(Piece &piece, int size)
     {
-        const QSize wanted(size, size);
-        if (wanted.isEmpty() || m_icon.isNull()) {
-            finish(piece);
+        const int count = pngSectionCount({size, size});
+        if (const Outcome taken = takeRows(piece, {size, size}, count); !taken) {
+            finish(piece, taken.failure());
             return;
         }
-        piece.rows = std::make_unique<ImageRows>(wanted == m_icon.size() ? m_icon : resampler().scaledTo(wanted));
-        const int count = pngSectionCount(wanted);
-        piece.sections.resize(static_cast<std::size_t>(count));
-        piece.sectionsLeft = count;
         for (int index = 1; index < count; ++index)
             start([this, &piece, index] { makeSection(piece, index); }, sectionPriority);
         makeSection(piece, 0);
     }
 
-    void makeSection(Piece &piece, int index)
+    /// Gives the piece its pixels and room for its sections.
+    Outcome takeRows(Piece &piece, QSize size, int sections)
     {
-        piece.sections[static_cast<std::size_t>(index)] = makePngSection(*piece.rows, index);
-        if (piece.sectionsLeft.fetch_sub(1) > 1)
-            return;
-        piece.file = joinPngSections(piece.rows->size(), piece.sections);
-        piece.sections = {};
-        piece.rows.reset();
-        finish(piece);
+        const bool isOwnSize = size == m_icon.size() && !size.isEmpty();
+        const Result<QImage> picture = isOwnSize ? m_icon : resampler().scaledTo(size);
+        if (!picture)
+            return picture.failure();
+        return withinMemory({}, [&]() -> Outcome {
+            piece.rows = std::make_unique<ImageRows>(picture.value());
+            // A conversion without memory leaves nothing.
+            if (piece.rows->size() != size)
+                return outOfMemory({});
+            piece.sections.resize(static_cast<std::size_t>(sections));
+            piece.sectionsLeft = sections;
+            return Done{};
+        });
     }
 
-    void finish(Piece &piece)
+    void makeSection(Piece &piece, int index)
+    {
+        const Outcome made = withinMemory({}, [&]() -> Outcome {
+            piece.sections[static_cast<std::size_t>(index)] = makePngSection(*piece.rows, index);
+            return Done{};
+        });
+        if (!made)
+            piece.isWhole = false;
+        if (piece.sectionsLeft.fetch_sub(1) > 1)
+            return;
+        Result<QByteArray> file = withinMemory({}, [&]() -> Result<QByteArray> {
+            if (!piece.isWhole)
+                return outOfMemory({});
+            return joinPngSections(piece.rows->size(), piece.sections);
+        });
+        piece.sections = {};
+        piece.rows.reset();
+        finish(piece, std::move(file));
+    }
+
+    void finish(Piece &piece, Result<QByteArray> file)
     {
         const std::scoped_lock lock(m_mutex);
-        piece.finished = true;
+        piece.file = std::move(file);
         m_finished.notify_all();
     }
 
     /// Made by the first thread that needs it; another may already encode the picture at its original size.
     const Resampler &resampler()
     {
-        std::call_once(m_takenApart, [this] { m_resampler = std::make_unique<Resampler>(m_icon); });
+        std::call_once(m_takenApart, [this] { m_resampler = std::make_unique<Resampler>(m_icon, QString()); });
         return *m_resampler;
     }
 
@@ -153,7 +178,7 @@ void RenderedIcons::prepare(std::span<const int> sizes)
     m_workshop->prepare(sizes);
 }
 
-QByteArray RenderedIcons::png(int size)
+Result<QByteArray> RenderedIcons::png(int size)
 {
     return m_workshop->png(size);
 }

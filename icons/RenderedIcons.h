@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "foundation/Result.h"
+
 #include <QByteArray>
 #include <QImage>
 
@@ -25,9 +27,9 @@ public:
     /// Starts work on sizes that will be needed: the largest first, the quick ones in this order.
     void prepare(std::span<const int> sizes);
 
-    /// The icon of that edge length as a PNG file; waits until it is made. Empty for a size below 1 and for a null
-    /// icon.
-    QByteArray png(int size);
+    /// The icon of that edge length as a PNG file; waits until it is made. Fails with `InvalidValue` for a size below 1
+    /// and for a null icon, with `TooLarge` if memory runs out; the caller adds the subject.
+    Result<QByteArray> png(int size);
 
 private:
     class Workshop;

@@ -6,11 +6,12 @@
 namespace lumora
 {
 
-ShownIcon shownIcon(const QImage &icon, const QList<int> &sides, int cornerMode)
+ShownIcon shownIcon(const QImage &icon, const QList<int> &sides, CornerMode cornerMode)
 {
     ShownIcon shown{icon, {}, cornerMode};
     for (const int side : sides)
-        shown.pictures << resizeImage(icon, side, shown.pictures.isEmpty() ? 0 : cornerMode);
+        shown.pictures << resizeImage(icon, side,
+                                      static_cast<int>(shown.pictures.isEmpty() ? CornerMode::None : cornerMode));
     return shown;
 }
 

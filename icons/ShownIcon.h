@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "pictures/RoundedCorners.h"
+
 #include <QImage>
 #include <QList>
 
@@ -11,11 +13,11 @@ namespace lumora
 struct ShownIcon
 {
     QImage icon;
-    QList<QImage> pictures; ///< in the edge lengths asked for; the first without corners
-    int cornerMode = 0;     ///< of the other pictures
+    QList<QImage> pictures;                   ///< in the edge lengths asked for; the first without corners
+    CornerMode cornerMode = CornerMode::None; ///< of the other pictures
 };
 
 /// Draws the icon in edge lengths in pixels. Callable on any thread.
-ShownIcon shownIcon(const QImage &icon, const QList<int> &sides, int cornerMode);
+ShownIcon shownIcon(const QImage &icon, const QList<int> &sides, CornerMode cornerMode);
 
 } // namespace lumora

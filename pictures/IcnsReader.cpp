@@ -21,21 +21,22 @@ qsizetype lengthAt(const QByteArray &bytes, qsizetype offset)
 
 } // namespace
 
-QByteArray largestIcnsPicture(const QByteArray &bytes)
+Result<QByteArray> largestIcnsPicture(const QByteArray &bytes, const QString &name)
 {
+    const Failure notAPicture{FailureCode::NotAPicture, name, {}};
     if (bytes.size() < headerBytes || lengthAt(bytes, 0) > bytes.size())
-        return {};
+        return notAPicture;
     const qsizetype end = lengthAt(bytes, 0);
     QByteArray largest;
     qint64 largestArea = 0;
     for (qsizetype at = headerBytes; at + headerBytes <= end;) {
         const qsizetype length = lengthAt(bytes, at);
         if (length < headerBytes || length > end - at)
-            return {};
+            return notAPicture;
         // A view, so that only the largest member is copied.
         const QByteArray member = QByteArray::fromRawData(bytes.constData() + at + headerBytes, length - headerBytes);
         if (pictureFormat(member) == "png") {
-            const Result<QSize> size = storedPixelSize(member, {});
+            const Result<QSize> size = storedPixelSize(member, name);
             const qint64 area = size ? qint64{size.value().width()} * size.value().height() : 0;
             if (area > largestArea) {
                 largestArea = area;
@@ -44,6 +45,8 @@ QByteArray largestIcnsPicture(const QByteArray &bytes)
         }
         at += length;
     }
+    if (largest.isEmpty())
+        return notAPicture;
     return largest;
 }
 

@@ -8,35 +8,37 @@
 namespace lumora
 {
 
-QImage resizeImage(const QImage &image, int toSize)
+Result<QImage> squarePicture(const QImage &image, int size, CornerMode corners, const QString &name)
 {
-    return resample(image, QSize(toSize, toSize));
+    Result<QImage> result = resample(image, QSize(size, size), name);
+    if (result && corners != CornerMode::None)
+        roundCorners(result.value(), cornerRadius(size, corners));
+    return result;
 }
 
-QImage resizeImage(const QImage &image, int toSize, CornerMode withRoundedCorners)
+QImage resizeImage(const QImage &image, int toSize)
 {
-    QImage result = resizeImage(image, toSize);
-    if (withRoundedCorners != CornerMode::None)
-        roundCorners(result, cornerRadius(toSize, withRoundedCorners));
-    return result;
+    return resizeImage(image, toSize, static_cast<int>(CornerMode::None));
 }
 
 QImage resizeImage(const QImage &image, int toSize, int withRoundedCorners)
 {
-    return resizeImage(image, toSize, cornerModeOf(withRoundedCorners));
+    const Result<QImage> picture = squarePicture(image, toSize, cornerModeOf(withRoundedCorners), {});
+    return picture ? picture.value() : QImage();
 }
 
 Outcome saveImage(const QImage &image, BitmapType withType, const QString &toPath)
 {
-    QByteArray bytes;
-    switch (withType) {
-    case BitmapType::Png:
-        bytes = encodePng(image);
-        break;
-    }
-    if (bytes.isEmpty())
-        return Failure{FailureCode::CannotWrite, toPath, QStringLiteral("the picture is empty")};
-    return writeWholeFile(toPath, bytes);
+    const auto encoded = [&]() -> Result<QByteArray> {
+        switch (withType) {
+        case BitmapType::Png:
+            return encodePng(image, toPath);
+        }
+        return Failure{FailureCode::InvalidValue, toPath, QStringLiteral("no such file type")};
+    }();
+    if (!encoded)
+        return Failure{FailureCode::CannotWrite, toPath, encoded.failure().detail};
+    return writeWholeFile(toPath, encoded.value());
 }
 
 } // namespace lumora

@@ -13,19 +13,19 @@ namespace lumora
 /// The file types of bitmaps; the tools pass their numbers on.
 enum class BitmapType : int { Png = 4 };
 
-/// The whole picture stretched to `toSize` x `toSize` pixels, as `QImage::Format_RGBA8888_Premultiplied`. A size below
-/// 1 gives a null picture. Keeps no state; callable on any thread.
+/// The whole picture stretched to `size` x `size` pixels with its corners cut, as
+/// `QImage::Format_RGBA8888_Premultiplied`. Fails as `resample` does; `name` is the subject of a failure. Keeps no
+/// state; callable on any thread.
+Result<QImage> squarePicture(const QImage &image, int size, CornerMode corners, const QString &name);
+
+/// The same with square corners, for callers that have nobody to report a failure to: a null picture.
 QImage resizeImage(const QImage &image, int toSize);
 
-/// The same with its corners cut; square corners give the same pixels as the plain operation.
-QImage resizeImage(const QImage &image, int toSize, CornerMode withRoundedCorners);
-
-/// The same by the number of a style (see `cornerModeOf`).
+/// The same by the number of a corner style (see `cornerModeOf`).
 QImage resizeImage(const QImage &image, int toSize, int withRoundedCorners);
 
 /// Writes the picture to a file as 8-bit RGBA, one pixel per point whatever its scale factor. An existing file is
-/// replaced only once the new one is complete (see `writeWholeFile`). Panes ignore the outcome, the command line must
-/// not.
+/// replaced only once the new one is complete (see `writeWholeFile`). Every failure is `CannotWrite`, with its reason.
 Outcome saveImage(const QImage &image, BitmapType withType, const QString &toPath);
 
 } // namespace lumora

@@ -127,8 +127,10 @@ Result<QSize> storedPixelSize(const QByteArray &bytes, const QString &name)
     const Failure notAPicture{FailureCode::NotAPicture, name, {}};
     if (format.isEmpty())
         return notAPicture;
-    if (format == "icns")
-        return storedPixelSize(largestIcnsPicture(bytes), name);
+    if (format == "icns") {
+        const Result<QByteArray> largest = largestIcnsPicture(bytes, name);
+        return largest ? storedPixelSize(largest.value(), name) : largest.failure();
+    }
     QSize size;
     if (format == "png") {
         if (const std::optional<PngHeader> header = pngHeader(bytes); header && !header->appleOptimized)
@@ -155,8 +157,10 @@ Result<QImage> readStraightPicture(const QByteArray &bytes, const QString &name)
     if (qint64{size.width()} * size.height() > largestPictureArea)
         return Failure{FailureCode::TooLarge, name, pixelsText(size)};
     const QByteArray format = pictureFormat(bytes);
-    if (format == "icns")
-        return readStraightPicture(largestIcnsPicture(bytes), name);
+    if (format == "icns") {
+        const Result<QByteArray> largest = largestIcnsPicture(bytes, name);
+        return largest ? readStraightPicture(largest.value(), name) : largest.failure();
+    }
     if (!isWhole(bytes))
         return damaged(name);
     Result<QImage> decoded = decode(bytes, format, name);

@@ -33,9 +33,9 @@ PlaceholderFile savePlaceholder(const Placeholder &picture, const QString &folde
     PlaceholderFile file;
     file.size = picture.size();
     file.path = folder + u'/' + placeholderFileName(file.size);
-    const QByteArray png = encodePng(PlaceholderRows(picture), QThread::idealThreadCount());
-    file.bytes = png.size();
-    file.outcome = writeWholeFile(file.path, png);
+    const Result<QByteArray> png = encodePng(PlaceholderRows(picture), QThread::idealThreadCount(), file.path);
+    file.outcome = png ? writeWholeFile(file.path, png.value()) : png.failure();
+    file.bytes = file.outcome ? png.value().size() : 0;
     return file;
 }
 

@@ -18,8 +18,8 @@ namespace lumora
 struct PlaceholderFile
 {
     QString path;
-    QSize size; ///< in pixels
-    qint64 bytes = 0;
+    QSize size;       ///< in pixels
+    qint64 bytes = 0; ///< length of the file, 0 where it was not written
     Outcome outcome = Done{};
 };
 

@@ -6,6 +6,7 @@
 #include "RetinaName.h"
 #include "RetinaPicture.h"
 #include "foundation/ExportFolder.h"
+#include "foundation/MemoryLimit.h"
 #include "foundation/WholeFile.h"
 #include "pictures/PictureReader.h"
 
@@ -16,7 +17,6 @@
 #include <condition_variable>
 #include <map>
 #include <mutex>
-#include <new>
 #include <thread>
 #include <vector>
 
@@ -55,11 +55,7 @@ Result<HalvedPicture> readAndHalve(const QString &path, MemoryBudget &budget)
     if (!half)
         return half.failure();
     const MemoryBudget::Share share(budget, halvingMemory(stored.value()));
-    try {
-        return halvedPicture(bytes.value(), path);
-    } catch (const std::bad_alloc &) {
-        return Failure{FailureCode::TooLarge, path, QStringLiteral("not enough memory")};
-    }
+    return withinMemory(path, [&] { return halvedPicture(bytes.value(), path); });
 }
 
 enum class MissingFolders { Refuse, Make };

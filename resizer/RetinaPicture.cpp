@@ -12,7 +12,8 @@ namespace lumora
 
 QImage unRetinaImage(const QImage &picture)
 {
-    return resample(picture, halfSize(picture.size()));
+    const Result<QImage> half = resample(picture, halfSize(picture.size()), {});
+    return half ? half.value() : QImage();
 }
 
 Result<HalvedPicture> halvedPicture(const QByteArray &bytes, const QString &name)
@@ -23,7 +24,13 @@ Result<HalvedPicture> halvedPicture(const QByteArray &bytes, const QString &name
     const Result<QSize> size = halvedSize(picture.value().size(), name);
     if (!size)
         return size.failure();
-    return HalvedPicture{encodePngQuickly(unRetinaImage(picture.value())), size.value()};
+    const Result<QImage> half = resample(picture.value(), size.value(), name);
+    if (!half)
+        return half.failure();
+    const Result<QByteArray> png = encodePngQuickly(half.value(), name);
+    if (!png)
+        return png.failure();
+    return HalvedPicture{png.value(), size.value()};
 }
 
 qint64 halvingMemory(QSize pixels)

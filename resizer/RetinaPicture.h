@@ -10,8 +10,8 @@
 namespace lumora
 {
 
-/// The picture at half its pixels in each direction (see `halfSize`), as
-/// `QImage::Format_RGBA8888_Premultiplied`. Null for a null picture.
+/// The picture at half its pixels in each direction (see `halfSize`), as `QImage::Format_RGBA8888_Premultiplied`. For
+/// callers that have nobody to report a failure to: a null picture.
 QImage unRetinaImage(const QImage &picture);
 
 /// A half-size picture ready to be written.

@@ -7,8 +7,6 @@
 #include "cli/console/CommandText.h"
 #include "cli/console/Interruption.h"
 #include "icons/IconExport.h"
-#include "pictures/PictureOperations.h"
-#include "pictures/png/PngEncoder.h"
 
 #include <QFileInfo>
 #include <QJsonArray>
@@ -31,12 +29,9 @@ struct IconCommandArguments : IconArguments
     QString corners = u"none"_s;
     QString file;
 
-    int cornerMode() const
+    CornerMode cornerMode() const
     {
-        const CornerMode mode = corners == u"ios6"   ? CornerMode::Ios6
-                                : corners == u"ios7" ? CornerMode::Ios7
-                                                     : CornerMode::None;
-        return static_cast<int>(mode);
+        return corners == u"ios6" ? CornerMode::Ios6 : corners == u"ios7" ? CornerMode::Ios7 : CornerMode::None;
     }
     bool isForStdout() const { return file == u"-"; }
 };
@@ -62,7 +57,12 @@ ExitStatus writeToFile(Console &console, const IconCommandArguments &arguments, 
 {
     const int size = arguments.sizes.constFirst();
     if (arguments.isForStdout()) {
-        console.print(encodePng(resizeImage(source, size, arguments.cornerMode())));
+        const Result<QByteArray> png = customIconFile(source, size, arguments.cornerMode(), arguments.source);
+        if (!png) {
+            console.complain(png.failure());
+            return ExitStatus::Refused;
+        }
+        console.print(png.value());
         return ExitStatus::Done;
     }
     const Result<QString> path = absolutePath(arguments.file);

@@ -25,9 +25,9 @@ void IconArguments::declareOn(Declaration &declaration, const QStringList &other
 Result<QImage> iconSource(const IconArguments &arguments)
 {
     if (arguments.example) {
-        const QImage picture = builtInIcon();
-        if (picture.isNull())
-            return Failure{FailureCode::NotFound, u"--example"_s, {}};
+        const Result<QImage> picture = builtInIcon();
+        if (!picture)
+            return Failure{picture.failure().code, u"--example"_s, picture.failure().detail};
         return picture;
     }
     if (arguments.source != u"-")

@@ -124,8 +124,12 @@ bool writeIcon(Console &console, const QString &file, const PackageReport &repor
         return false;
     }
     if (path == u"-") {
-        console.print(encodePng(report.artwork.appIcon));
-        return true;
+        const Result<QByteArray> png = encodePng(report.artwork.appIcon, file);
+        if (png)
+            console.print(png.value());
+        else
+            console.complain(png.failure());
+        return png.ok();
     }
     const Outcome saved = saveImage(report.artwork.appIcon, BitmapType::Png, path);
     if (!saved)

@@ -3,6 +3,7 @@
 
 #include "PngRows.h"
 #include "PngSection.h"
+#include "foundation/MemoryLimit.h"
 
 #include <algorithm>
 #include <array>
@@ -10,31 +11,46 @@
 #include <thread>
 #include <vector>
 
+using namespace Qt::StringLiterals;
+
 namespace lumora
 {
 
-QByteArray encodePng(const QImage &picture)
+namespace
 {
-    if (picture.isNull())
-        return {};
-    return encodePng(ImageRows(picture), 1);
+
+Failure emptyPicture(const QString &name)
+{
+    return {FailureCode::InvalidValue, name, u"the picture is empty"_s};
 }
 
-QByteArray encodePngQuickly(const QImage &picture)
+/// Gives the work the picture's rows.
+template <typename Work> Result<QByteArray> encoded(const QImage &picture, const QString &name, const Work &work)
 {
     if (picture.isNull())
-        return {};
-    const ImageRows rows(picture);
-    return joinPngSections(rows.size(), std::array{makeOnlyPngSection(rows)});
+        return emptyPicture(name);
+    return withinMemory(name, [&]() -> Result<QByteArray> {
+        const ImageRows rows(picture);
+        // A conversion without memory leaves nothing.
+        if (rows.size().isEmpty())
+            return outOfMemory(name);
+        return work(rows);
+    });
 }
 
-QByteArray encodePng(const PngRows &picture, int threads)
+Result<QByteArray> encodedInSections(const PngRows &picture, int threads, const QString &name)
 {
     std::vector<PngSection> sections(static_cast<std::size_t>(pngSectionCount(picture.size())));
     std::atomic<std::size_t> next = 0;
+    std::atomic<bool> isWhole = true;
     const auto makeSections = [&] {
-        for (std::size_t index = next++; index < sections.size(); index = next++)
-            sections[index] = makePngSection(picture, static_cast<int>(index));
+        const Outcome made = withinMemory(name, [&]() -> Outcome {
+            for (std::size_t index = next++; index < sections.size(); index = next++)
+                sections[index] = makePngSection(picture, static_cast<int>(index));
+            return Done{};
+        });
+        if (!made)
+            isWhole = false;
     };
     {
         std::vector<std::jthread> helpers;
@@ -42,7 +58,30 @@ QByteArray encodePng(const PngRows &picture, int threads)
             helpers.emplace_back(makeSections);
         makeSections();
     }
+    if (!isWhole)
+        return outOfMemory(name);
     return joinPngSections(picture.size(), sections);
+}
+
+} // namespace
+
+Result<QByteArray> encodePng(const QImage &picture, const QString &name)
+{
+    return encoded(picture, name, [&](const PngRows &rows) { return encodedInSections(rows, 1, name); });
+}
+
+Result<QByteArray> encodePngQuickly(const QImage &picture, const QString &name)
+{
+    return encoded(picture, name, [](const PngRows &rows) {
+        return joinPngSections(rows.size(), std::array{makeOnlyPngSection(rows)});
+    });
+}
+
+Result<QByteArray> encodePng(const PngRows &picture, int threads, const QString &name)
+{
+    if (picture.size().isEmpty())
+        return emptyPicture(name);
+    return withinMemory(name, [&] { return encodedInSections(picture, threads, name); });
 }
 
 } // namespace lumora

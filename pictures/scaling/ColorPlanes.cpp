@@ -17,13 +17,13 @@ ColorPlanes::ColorPlanes(const ColorPlanes &other) : ColorPlanes(other.m_size, o
     std::memcpy(m_samples.get(), other.m_samples.get(), byteCount());
 }
 
-std::unique_ptr<ColorPlanes> ColorPlanes::scaledTo(QSize size) const
+Result<std::unique_ptr<ColorPlanes>> ColorPlanes::scaledTo(QSize size) const
 {
     const auto scaler = PlaneScaler::kept(m_size, size, m_depth);
     auto scaled = std::make_unique<ColorPlanes>(size, m_channels, m_depth);
     for (int channel = 0; channel < m_channels; ++channel) {
-        if (!scaler->scale(bytes(channel, 0), scaled->bytes(channel, 0)))
-            return nullptr;
+        if (const Outcome done = scaler->scale(bytes(channel, 0), scaled->bytes(channel, 0)); !done)
+            return done.failure();
     }
     return scaled;
 }

@@ -15,7 +15,7 @@ namespace lumora
 class ColorPlanes
 {
 public:
-    /// `size` is not empty; the samples are not initialized.
+    /// `size` is not empty; the samples are not initialized. Throws `std::bad_alloc` if memory runs out.
     ColorPlanes(QSize size, int channels, SampleDepth depth);
     ColorPlanes(const ColorPlanes &other);
     ColorPlanes &operator=(const ColorPlanes &) = delete;
@@ -33,8 +33,8 @@ public:
         return reinterpret_cast<const Sample *>(bytes(channel, y));
     }
 
-    /// The picture stretched to `size` by `PlaneScaler`; null where that refuses.
-    std::unique_ptr<ColorPlanes> scaledTo(QSize size) const;
+    /// The picture stretched to `size` by `PlaneScaler`, with its failures; never null.
+    Result<std::unique_ptr<ColorPlanes>> scaledTo(QSize size) const;
 
 private:
     std::size_t byteCount() const { return static_cast<std::size_t>(m_stride * m_size.height() * m_channels); }

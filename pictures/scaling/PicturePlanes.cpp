@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <new>
 
 namespace lumora
 {
@@ -110,8 +111,6 @@ bool isOpaque(const QImage &picture)
 
 std::unique_ptr<ColorPlanes> takenApart(const QImage &picture)
 {
-    if (picture.isNull())
-        return nullptr;
     const SampleDepth depth = picture.format() == QImage::Format_RGBA8888 ? SampleDepth::Bits16 : SampleDepth::Bits8;
     auto planes = std::make_unique<ColorPlanes>(picture.size(), isOpaque(picture) ? colors : colors + 1, depth);
     if (depth == SampleDepth::Bits8)
@@ -125,7 +124,7 @@ QImage putTogether(const ColorPlanes &planes)
 {
     QImage picture(planes.size(), QImage::Format_RGBA8888_Premultiplied);
     if (picture.isNull())
-        return {};
+        throw std::bad_alloc();
     if (planes.depth() == SampleDepth::Bits8)
         putRowsTogether<std::uint8_t>(planes, picture);
     else

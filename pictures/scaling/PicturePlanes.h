@@ -15,11 +15,11 @@ bool isOpaque(const QImage &picture);
 
 /// Takes a picture apart into planes of premultiplied red, green and blue, and of alpha unless it is opaque. The planes
 /// of a `QImage::Format_RGBA8888_Premultiplied` have its 8 bits; those of a straight `QImage::Format_RGBA8888` have 16,
-/// which lose nothing. Null for a null picture.
+/// which lose nothing. The picture is not null. Throws `std::bad_alloc` if memory runs out.
 std::unique_ptr<ColorPlanes> takenApart(const QImage &picture);
 
 /// Joins planes of either depth into a `QImage::Format_RGBA8888_Premultiplied`. A color above its alpha, which a filter
-/// may leave, is lowered to it. Null when memory runs out.
+/// may leave, is lowered to it. Throws `std::bad_alloc` if memory runs out.
 QImage putTogether(const ColorPlanes &planes);
 
 } // namespace lumora

@@ -4,6 +4,7 @@
 #include <zimg.h>
 
 #include <algorithm>
+#include <array>
 #include <deque>
 #include <new>
 
@@ -36,6 +37,14 @@ zimg_filter_graph *lanczosGraph(QSize from, QSize to, SampleDepth depth)
     parameters.filter_param_a = 3;
     parameters.dither_type = ZIMG_DITHER_NONE;
     return zimg_filter_graph_build(&source, &destination, &parameters);
+}
+
+/// What libzimg refused last on this thread.
+Failure refusal()
+{
+    std::array<char, 256> reason{};
+    zimg_get_last_error(reason.data(), reason.size());
+    return {FailureCode::TooLarge, {}, QString::fromLatin1(reason.data())};
 }
 
 /// A scaler and the sizes it was made for.
@@ -79,6 +88,8 @@ PlaneScaler::PlaneScaler(QSize from, QSize to, SampleDepth depth)
     std::size_t scratchBytes = 0;
     if (m_graph != nullptr && zimg_filter_graph_get_tmp_size(m_graph.get(), &scratchBytes) == ZIMG_ERROR_SUCCESS)
         m_scratch = alignedBytes(scratchBytes);
+    else
+        m_made = refusal();
 }
 
 PlaneScaler::~PlaneScaler() = default;
@@ -98,18 +109,19 @@ std::shared_ptr<const PlaneScaler> PlaneScaler::kept(QSize from, QSize to, Sampl
     return scaler;
 }
 
-bool PlaneScaler::scale(const std::uint8_t *from, std::uint8_t *to) const
+Outcome PlaneScaler::scale(const std::uint8_t *from, std::uint8_t *to) const
 {
-    if (m_scratch == nullptr)
-        return false;
+    if (!m_made)
+        return m_made;
     zimg_image_buffer_const source{};
     source.version = ZIMG_API_VERSION;
     source.plane[0] = {from, static_cast<ptrdiff_t>(m_fromStride), ZIMG_BUFFER_MAX};
     zimg_image_buffer target{};
     target.version = ZIMG_API_VERSION;
     target.plane[0] = {to, static_cast<ptrdiff_t>(m_toStride), ZIMG_BUFFER_MAX};
-    return zimg_filter_graph_process(m_graph.get(), &source, &target, m_scratch.get(), nullptr, nullptr, nullptr,
-                                     nullptr) == ZIMG_ERROR_SUCCESS;
+    const zimg_error_code_e error =
+        zimg_filter_graph_process(m_graph.get(), &source, &target, m_scratch.get(), nullptr, nullptr, nullptr, nullptr);
+    return error == ZIMG_ERROR_SUCCESS ? Outcome(Done{}) : refusal();
 }
 
 } // namespace lumora

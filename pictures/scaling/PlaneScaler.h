@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "foundation/Result.h"
+
 #include <QSize>
 
 #include <cstdint>
@@ -25,6 +27,7 @@ using AlignedBytes = std::unique_ptr<std::uint8_t, FreeAlignedMemory>;
 /// The alignment of planes and their rows, in bytes.
 inline constexpr qsizetype planeAlignment = 64;
 
+/// Throws `std::bad_alloc` if memory runs out.
 AlignedBytes alignedBytes(std::size_t count);
 
 /// The distance from one row of a plane to the next, in bytes.
@@ -45,8 +48,9 @@ public:
     /// and a new scaler computes a sine for every weight.
     static std::shared_ptr<const PlaneScaler> kept(QSize from, QSize to, SampleDepth depth);
 
-    /// Both planes are aligned and have the stride of `planeStride`. False when the library refuses.
-    bool scale(const std::uint8_t *from, std::uint8_t *to) const;
+    /// Both planes are aligned and have the stride of `planeStride`. Fails with `TooLarge` and libzimg's reason if that
+    /// refuses the sizes; the caller adds the subject.
+    Outcome scale(const std::uint8_t *from, std::uint8_t *to) const;
 
 private:
     struct FreeGraph
@@ -55,6 +59,7 @@ private:
     };
     std::unique_ptr<zimg_filter_graph, FreeGraph> m_graph;
     AlignedBytes m_scratch;
+    Outcome m_made = Done{};
     qsizetype m_fromStride;
     qsizetype m_toStride;
 };

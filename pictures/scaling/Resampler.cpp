@@ -4,10 +4,14 @@
 #include "ColorPlanes.h"
 #include "PicturePlanes.h"
 #include "RingingClamp.h"
+#include "foundation/MemoryLimit.h"
 #include "pictures/pixels/PixelFormat.h"
+#include "pictures/pixels/SizeText.h"
 
 #include <memory>
 #include <utility>
+
+using namespace Qt::StringLiterals;
 
 namespace lumora
 {
@@ -32,7 +36,7 @@ bool isMadeFromHalf(QSize source, QSize size)
 QImage ready(QImage picture)
 {
     const bool multiplied = picture.pixelFormat().premultiplied() == QPixelFormat::Premultiplied;
-    if (picture.isNull() || multiplied || !picture.hasAlphaChannel())
+    if (multiplied || !picture.hasAlphaChannel())
         return premultiplied(std::move(picture));
     picture.convertTo(QImage::Format_RGBA8888);
     // Without transparency both formats have the same bytes.
@@ -41,44 +45,69 @@ QImage ready(QImage picture)
     return picture;
 }
 
+Result<std::unique_ptr<ColorPlanes>> planesOfSource(const QImage &source, const QString &name)
+{
+    if (source.isNull())
+        return Failure{FailureCode::InvalidValue, name, u"the picture is empty"_s};
+    return withinMemory(name, [&]() -> Result<std::unique_ptr<ColorPlanes>> {
+        const QImage picture = ready(source);
+        // A conversion without memory leaves nothing.
+        if (picture.isNull())
+            return outOfMemory(name);
+        return takenApart(picture);
+    });
+}
+
 } // namespace
 
-Resampler::Resampler(const QImage &source) : Resampler(takenApart(ready(source))) {}
+Resampler::Resampler(const QImage &source, const QString &name) : Resampler(planesOfSource(source, name), name) {}
 
-Resampler::Resampler(std::unique_ptr<ColorPlanes> planes) : m_planes(std::move(planes)) {}
+Resampler::Resampler(Planes planes, const QString &name) : m_name(name), m_planes(std::move(planes)) {}
 
 Resampler::~Resampler() = default;
 
-std::unique_ptr<ColorPlanes> Resampler::planesOf(QSize size) const
+Resampler::Planes Resampler::planesOf(QSize size) const
 {
-    std::unique_ptr<ColorPlanes> scaled = m_planes->scaledTo(size);
-    if (scaled != nullptr)
-        clampRinging(*m_planes, *scaled);
+    Planes scaled = m_planes.value()->scaledTo(size);
+    if (!scaled)
+        return Failure{scaled.failure().code, m_name, scaled.failure().detail};
+    clampRinging(*m_planes.value(), *scaled.value());
     return scaled;
 }
 
 const Resampler &Resampler::half() const
 {
-    std::call_once(m_halved,
-                   [this] { m_half = std::unique_ptr<Resampler>(new Resampler(planesOf(m_planes->size() / 2))); });
+    std::call_once(m_halved, [this] {
+        m_half = std::unique_ptr<Resampler>(new Resampler(planesOf(m_planes.value()->size() / 2), m_name));
+    });
     return *m_half;
 }
 
-QImage Resampler::scaledTo(QSize size) const
+Result<QImage> Resampler::pictureOf(QSize size) const
 {
-    if (m_planes == nullptr || size.isEmpty())
-        return {};
-    if (size == m_planes->size())
-        return putTogether(*m_planes);
-    if (isMadeFromHalf(m_planes->size(), size))
+    const ColorPlanes &planes = *m_planes.value();
+    if (size == planes.size())
+        return putTogether(planes);
+    if (isMadeFromHalf(planes.size(), size))
         return half().scaledTo(size);
-    const std::unique_ptr<ColorPlanes> scaled = planesOf(size);
-    return scaled == nullptr ? QImage() : putTogether(*scaled);
+    const Planes scaled = planesOf(size);
+    if (!scaled)
+        return scaled.failure();
+    return putTogether(*scaled.value());
 }
 
-QImage resample(const QImage &source, QSize size)
+Result<QImage> Resampler::scaledTo(QSize size) const
 {
-    return Resampler(source).scaledTo(size);
+    if (!m_planes)
+        return m_planes.failure();
+    if (size.isEmpty())
+        return Failure{FailureCode::InvalidValue, m_name, pixelsText(size)};
+    return withinMemory(m_name, [&] { return pictureOf(size); });
+}
+
+Result<QImage> resample(const QImage &source, QSize size, const QString &name)
+{
+    return Resampler(source, name).scaledTo(size);
 }
 
 } // namespace lumora

@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "foundation/Result.h"
+
 #include <QImage>
 #include <QSize>
+#include <QString>
 
 #include <memory>
 #include <mutex>
@@ -20,26 +23,30 @@ class Resampler
 public:
     /// Keeps a planar copy of the picture: 5 bytes a pixel (4 for an opaque picture), and a third more once a small
     /// size was made. For a straight picture with transparency it keeps twice as much, since 8 bits of premultiplied
-    /// color cannot hold the colors of nearly transparent pixels.
-    explicit Resampler(const QImage &source);
+    /// color cannot hold the colors of nearly transparent pixels. `name` is the subject of a failure.
+    Resampler(const QImage &source, const QString &name);
     ~Resampler();
 
     /// The picture stretched to `size` pixels, as `QImage::Format_RGBA8888_Premultiplied`. The source's own size gives
-    /// its pixels unchanged; an empty size or an empty source gives a null picture.
-    QImage scaledTo(QSize size) const;
+    /// its pixels unchanged. Fails with `InvalidValue` for an empty size and for a null source, with `TooLarge` if
+    /// memory runs out or libzimg refuses the size.
+    Result<QImage> scaledTo(QSize size) const;
 
 private:
-    explicit Resampler(std::unique_ptr<ColorPlanes> planes);
-    std::unique_ptr<ColorPlanes> planesOf(QSize size) const;
+    using Planes = Result<std::unique_ptr<ColorPlanes>>;
 
-    std::unique_ptr<ColorPlanes> m_planes;
+    Resampler(Planes planes, const QString &name);
+    Planes planesOf(QSize size) const;
+    Result<QImage> pictureOf(QSize size) const;
+    const Resampler &half() const;
+
+    QString m_name;
+    Planes m_planes; ///< those of the source, or why there are none
     mutable std::once_flag m_halved;
     mutable std::unique_ptr<Resampler> m_half;
-
-    const Resampler &half() const;
 };
 
-/// One size of one picture: `Resampler(source).scaledTo(size)`.
-QImage resample(const QImage &source, QSize size);
+/// One size of one picture: `Resampler(source, name).scaledTo(size)`.
+Result<QImage> resample(const QImage &source, QSize size, const QString &name);
 
 } // namespace lumora

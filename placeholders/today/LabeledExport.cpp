@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "LabeledExport.h"
 
+#include "foundation/MemoryLimit.h"
 #include "foundation/WholeFile.h"
 #include "pictures/PictureReader.h"
 #include "pictures/pixels/SizeText.h"
@@ -36,7 +37,7 @@ Result<QByteArray> encoded(const LabeledPicture &picture, const LabeledOptions &
     const QSize pixels = picture.size().pixels();
     switch (options.format) {
     case LabeledFormat::Png:
-        return encodePng(LabeledRows(picture), QThread::idealThreadCount());
+        return encodePng(LabeledRows(picture), QThread::idealThreadCount(), path);
     case LabeledFormat::Svg:
         return picture.toSvg();
     case LabeledFormat::WebP:
@@ -45,7 +46,8 @@ Result<QByteArray> encoded(const LabeledPicture &picture, const LabeledOptions &
     // The format's writer needs the whole picture.
     if (qint64{pixels.width()} * pixels.height() > largestPictureArea)
         return Failure{FailureCode::TooLarge, path, pixelsText(pixels)};
-    return encodeWebP(picture.toImage(), {options.webpQuality}, path);
+    const QImage whole = picture.toImage();
+    return whole.isNull() ? outOfMemory(path) : encodeWebP(whole, {options.webpQuality}, path);
 }
 
 } // namespace

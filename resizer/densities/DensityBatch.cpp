@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "DensityBatch.h"
 
+#include "foundation/MemoryLimit.h"
 #include "foundation/WholeFile.h"
 #include "pictures/PictureReader.h"
 #include "pictures/png/PngEncoder.h"
@@ -15,7 +16,6 @@
 #include <condition_variable>
 #include <map>
 #include <mutex>
-#include <new>
 #include <thread>
 
 using namespace Qt::StringLiterals;
@@ -41,7 +41,7 @@ Result<QByteArray> encoded(const QImage &picture, const PlannedPicture &planned,
 {
     if (planned.format == ScaledFormat::WebP)
         return encodeWebP(picture, {options.webpQuality}, planned.target);
-    return encodePngQuickly(picture);
+    return encodePngQuickly(picture, planned.target);
 }
 
 Outcome write(const QString &path, const QByteArray &bytes, ExistingFiles existing)
@@ -74,43 +74,40 @@ public:
         if (files.empty())
             return files;
         const MemoryBudget::Share share(budget, scalingMemory(m_source.size));
-        try {
-            scaleInto(files);
-        } catch (const std::bad_alloc &) {
-            failAll(files, {FailureCode::TooLarge, m_source.source, u"not enough memory"_s});
-        }
+        const Outcome scaled = withinMemory(m_source.source, [&] { return scaleInto(files); });
+        if (!scaled)
+            failAll(files, scaled.failure());
         return files;
     }
 
 private:
-    void scaleInto(std::vector<ScaledFile> &files) const
+    Outcome scaleInto(std::vector<ScaledFile> &files) const
     {
         const Result<QByteArray> content = readWholeFile(m_source.source, largestPictureFile);
         const Result<QImage> picture =
             content ? readStraightPicture(content.value(), m_source.source) : content.failure();
-        if (!picture) {
-            failAll(files, picture.failure());
-            return;
-        }
+        if (!picture)
+            return picture.failure();
         const QSize size = picture.value().size();
         // The orientation may swap the sides that the header gives; any other size means that the file has changed
         // since.
-        if (size != m_source.size && size != m_source.size.transposed()) {
-            failAll(files, {FailureCode::WrongSize, m_source.source, u"it has changed since it was looked at"_s});
-            return;
-        }
-        const Resampler resampler(picture.value());
+        if (size != m_source.size && size != m_source.size.transposed())
+            return Failure{FailureCode::WrongSize, m_source.source, u"it has changed since it was looked at"_s};
+        const Resampler resampler(picture.value(), m_source.source);
         auto file = files.begin();
         for (const PlannedPicture &planned : m_source.pictures) {
             if (!planned.written)
                 continue;
             const ScaledSize scaled = scaledSize(size, m_source.density, planned.density);
             file->size = scaled.size;
-            const Result<QByteArray> bytes = encoded(resampler.scaledTo(scaled.size), planned, m_options);
+            const Result<QImage> result = resampler.scaledTo(scaled.size);
+            const Result<QByteArray> bytes =
+                result ? encoded(result.value(), planned, m_options) : Result<QByteArray>(result.failure());
             file->outcome = bytes ? write(planned.target, bytes.value(), m_options.existing) : bytes.failure();
             file->bytes = bytes && file->outcome ? bytes.value().size() : 0;
             ++file;
         }
+        return Done{};
     }
 
     static void failAll(std::vector<ScaledFile> &files, const Failure &failure)

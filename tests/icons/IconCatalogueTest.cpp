@@ -117,16 +117,16 @@ void IconCatalogueTest::touchIconsShareTheirSize()
 
 void IconCatalogueTest::customName_data()
 {
-    QTest::addColumn<int>("mode");
+    QTest::addColumn<CornerMode>("mode");
     QTest::addColumn<QString>("name");
-    QTest::newRow("no corners") << 0 << u"/icon_100x100.png"_s;
-    QTest::newRow("iOS 6") << 1 << u"/icon_100x100_iOS6.png"_s;
-    QTest::newRow("iOS 7") << 2 << u"/icon_100x100_iOS7.png"_s;
+    QTest::newRow("no corners") << CornerMode::None << u"/icon_100x100.png"_s;
+    QTest::newRow("iOS 6") << CornerMode::Ios6 << u"/icon_100x100_iOS6.png"_s;
+    QTest::newRow("iOS 7") << CornerMode::Ios7 << u"/icon_100x100_iOS7.png"_s;
 }
 
 void IconCatalogueTest::customName()
 {
-    QFETCH(int, mode);
+    QFETCH(CornerMode, mode);
     QTEST(customIconName(100, mode), "name");
 }
 

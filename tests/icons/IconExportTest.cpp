@@ -277,25 +277,27 @@ void IconExportTest::missingSource()
     request.icon = QImage();
     const IconExport result = generatePlatformIcons(request);
     QCOMPARE(result.failures().size(), 5);
+    for (const IconFile &file : result.files)
+        QCOMPARE(file.failure, (Failure{FailureCode::CannotWrite, file.path, u"the picture is empty"_s}));
     QVERIFY(filesBelowFolder(folder.path()).isEmpty());
 }
 
 void IconExportTest::customIcon_data()
 {
     QTest::addColumn<int>("size");
-    QTest::addColumn<int>("mode");
+    QTest::addColumn<CornerMode>("mode");
     QTest::addColumn<QString>("name");
-    QTest::newRow("plain") << 100 << 0 << u"icon_100x100.png"_s;
-    QTest::newRow("iOS 6") << 100 << 1 << u"icon_100x100_iOS6.png"_s;
-    QTest::newRow("iOS 7") << 57 << 2 << u"icon_57x57_iOS7.png"_s;
-    QTest::newRow("smallest") << 1 << 0 << u"icon_1x1.png"_s;
-    QTest::newRow("largest") << 1024 << 2 << u"icon_1024x1024_iOS7.png"_s;
+    QTest::newRow("plain") << 100 << CornerMode::None << u"icon_100x100.png"_s;
+    QTest::newRow("iOS 6") << 100 << CornerMode::Ios6 << u"icon_100x100_iOS6.png"_s;
+    QTest::newRow("iOS 7") << 57 << CornerMode::Ios7 << u"icon_57x57_iOS7.png"_s;
+    QTest::newRow("smallest") << 1 << CornerMode::None << u"icon_1x1.png"_s;
+    QTest::newRow("largest") << 1024 << CornerMode::Ios7 << u"icon_1024x1024_iOS7.png"_s;
 }
 
 void IconExportTest::customIcon()
 {
     QFETCH(int, size);
-    QFETCH(int, mode);
+    QFETCH(CornerMode, mode);
     QFETCH(QString, name);
     const QTemporaryDir folder;
     const QImage picture = testPicture(1024, 1024);
@@ -304,14 +306,15 @@ void IconExportTest::customIcon()
     QCOMPARE(filesBelowFolder(folder.path()), QStringList{u"icons/Custom/"_s + name});
     QCOMPARE(result.files.size(), 1);
     QCOMPARE(result.files[0].bytes, QFileInfo(result.files[0].path).size());
-    QCOMPARE(readPicture(result.files[0].path).value(), resizeImage(picture, size, mode));
+    QCOMPARE(readPicture(result.files[0].path).value(), resizeImage(picture, size, static_cast<int>(mode)));
     QVERIFY(logged.isEmpty());
 }
 
 void IconExportTest::customIconStopsWithoutItsFolder()
 {
     const QTemporaryDir folder;
-    const IconExport result = generateCustomIcon({testPicture(1024, 1024), folder.filePath(u"missing"_s), 64, 0});
+    const IconExport result =
+        generateCustomIcon({testPicture(1024, 1024), folder.filePath(u"missing"_s), 64, CornerMode::None});
     QVERIFY(result.folderFailure.has_value());
     QCOMPARE(result.files.size(), 1);
     QVERIFY(result.files[0].failure.has_value());

@@ -117,7 +117,9 @@ void IconSourceTest::refusedPaths()
 
 void IconSourceTest::builtInPictureIsGoodAsSource()
 {
-    const QImage picture = builtInIcon();
+    const Result<QImage> builtIn = builtInIcon();
+    QVERIFY(builtIn.ok());
+    const QImage picture = builtIn.value();
     QCOMPARE(picture.size(), QSize(1024, 1024));
     QVERIFY(picture.constScanLine(0)[3] < 255);
     QCOMPARE(int(picture.constScanLine(512)[4 * 512 + 3]), 255);

@@ -142,25 +142,25 @@ private slots:
     void cornerOptions_data()
     {
         QTest::addColumn<QList<int>>("clicks");
-        QTest::addColumn<int>("mode");
-        QTest::newRow("none") << QList<int>() << 0;
-        QTest::newRow("iOS 6") << QList<int>{6} << 1;
-        QTest::newRow("iOS 7") << QList<int>{7} << 2;
-        QTest::newRow("from 6 to 7") << QList<int>{6, 7} << 2;
-        QTest::newRow("from 7 to 6") << QList<int>{7, 6} << 1;
-        QTest::newRow("the one that is on, again") << QList<int>{7, 7} << 0;
+        QTest::addColumn<CornerMode>("mode");
+        QTest::newRow("none") << QList<int>() << CornerMode::None;
+        QTest::newRow("iOS 6") << QList<int>{6} << CornerMode::Ios6;
+        QTest::newRow("iOS 7") << QList<int>{7} << CornerMode::Ios7;
+        QTest::newRow("from 6 to 7") << QList<int>{6, 7} << CornerMode::Ios7;
+        QTest::newRow("from 7 to 6") << QList<int>{7, 6} << CornerMode::Ios6;
+        QTest::newRow("the one that is on, again") << QList<int>{7, 7} << CornerMode::None;
     }
     void cornerOptions()
     {
         QFETCH(QList<int>, clicks);
-        QFETCH(int, mode);
+        QFETCH(CornerMode, mode);
         IconsPane pane;
         pane.tool.editPreviewIcon();
         for (const int click : clicks)
             (click == 6 ? pane.ui.customIconRoundedSixCheckbox : pane.ui.customIconRoundedCheckbox)->click();
         QCOMPARE(pane.tool.cornerMode(), mode);
-        QCOMPARE(pane.ui.customIconRoundedSixCheckbox->isActive(), mode == 1);
-        QCOMPARE(pane.ui.customIconRoundedCheckbox->isActive(), mode == 2);
+        QCOMPARE(pane.ui.customIconRoundedSixCheckbox->isActive(), mode == CornerMode::Ios6);
+        QCOMPARE(pane.ui.customIconRoundedCheckbox->isActive(), mode == CornerMode::Ios7);
         const std::array previews = {pane.ui.iconPreviewOne, pane.ui.iconPreviewTwo, pane.ui.iconPreviewThree,
                                      pane.ui.iconPreviewFour, pane.ui.iconPreviewFive};
         const std::array labels = {pane.ui.iconPreviewLabelOne, pane.ui.iconPreviewLabelTwo,
@@ -171,7 +171,7 @@ private slots:
             QCOMPARE(labels[number]->text(), QString::number(side));
             QCOMPARE(labels[number]->font(), latoBold(13));
             const int pixels = static_cast<int>(side * pane.window.devicePixelRatioF());
-            QCOMPARE(previews[number]->picture(), resizeImage(pane.tool.icon(), pixels, mode));
+            QCOMPARE(previews[number]->picture(), resizeImage(pane.tool.icon(), pixels, static_cast<int>(mode)));
         }
     }
 };

@@ -225,7 +225,7 @@ void PictureReaderTest::refuses()
 void PictureReaderTest::hugeClaimCostsNothing_data()
 {
     QTest::addColumn<QByteArray>("file");
-    QByteArray png = encodePng(quarters(64, 64));
+    QByteArray png = encodedPng(quarters(64, 64));
     // 60000 for both lengths in the header. This makes the checksum wrong, so both forms are tested.
     png.replace(16, 8, QByteArray("\0\0\xEA\x60\0\0\xEA\x60", 8));
     QTest::newRow("png, checksum wrong") << png;

@@ -2,6 +2,8 @@
 #include "TestPictures.h"
 
 #include "pictures/pixels/PixelFormat.h"
+#include "pictures/png/PngEncoder.h"
+#include "pictures/scaling/Resampler.h"
 
 #include <QBuffer>
 #include <QImageWriter>
@@ -11,6 +13,16 @@
 
 namespace lumora
 {
+
+QImage resampled(const QImage &picture, QSize size)
+{
+    return resample(picture, size, {}).value();
+}
+
+QByteArray encodedPng(const QImage &picture)
+{
+    return encodePng(picture, {}).value();
+}
 
 QImage testPicture(int width, int height)
 {

@@ -14,6 +14,12 @@ QImage testPicture(int width, int height);
 /// Colored quarters: red, green / blue, half-transparent white.
 QImage quarters(int width, int height);
 
+/// The picture in that size. Ends the test if it cannot be made.
+QImage resampled(const QImage &picture, QSize size);
+
+/// The engine's PNG file of the picture. Ends the test if it cannot be made.
+QByteArray encodedPng(const QImage &picture);
+
 /// The premultiplied picture in straight colors, as in a written file.
 QImage straightened(const QImage &picture);
 

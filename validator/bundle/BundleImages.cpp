@@ -72,9 +72,11 @@ QImage appIcon(const PackageSource &source, const QString &folder, const QString
         for (qsizetype i = 0; i < candidates.size() && i < sizes.size(); ++i) {
             if (!mayBeAppIcon(sizes[i], smallestHeight))
                 continue;
-            const auto picture = decoded(source, folder + u'/' + candidates[i]);
-            if (picture)
-                return resizeImage(picture.value(), edge, corners);
+            const QString path = folder + u'/' + candidates[i];
+            const auto picture = decoded(source, path);
+            const auto icon = picture ? squarePicture(picture.value(), edge, corners, path) : picture.failure();
+            if (icon)
+                return icon.value();
         }
     }
     return {};

@@ -11,6 +11,10 @@
 #include <QRandomGenerator>
 #include <QTest>
 
+#include <algorithm>
+#include <functional>
+#include <new>
+
 using namespace lumora;
 using namespace Qt::StringLiterals;
 
@@ -57,7 +61,27 @@ QImage drawing(double shadedShare)
     return picture;
 }
 
+/// Rows whose lower half cannot be read for want of memory.
+class RowsWithoutMemory final : public PngRows
+{
+public:
+    explicit RowsWithoutMemory(QSize size) : m_size(size) {}
+
+    QSize size() const override { return m_size; }
+    void readRow(int row, std::span<std::uint8_t> rgba) const override
+    {
+        if (row >= m_size.height() / 2)
+            throw std::bad_alloc();
+        std::fill(rgba.begin(), rgba.end(), std::uint8_t{255});
+    }
+
+private:
+    QSize m_size;
+};
+
 } // namespace
+
+Q_DECLARE_METATYPE(std::function<Result<QByteArray>(const QString &name)>)
 
 class PngEncoderTest : public QObject
 {
@@ -75,7 +99,8 @@ private slots:
     void quickReadsBackAsItWas();
     void sameBytesFromRowsOnAnyNumberOfThreads_data();
     void sameBytesFromRowsOnAnyNumberOfThreads();
-    void nullPictureGivesNothing();
+    void failsWithItsReason_data();
+    void failsWithItsReason();
 };
 
 void PngEncoderTest::readsBackAsItWas_data()
@@ -101,7 +126,7 @@ void PngEncoderTest::readsBackAsItWas()
     QFETCH(QImage, picture);
     if (picture.format() == QImage::Format_RGB32 && picture.pixel(0, 0) == 0)
         picture.fill(Qt::red);
-    const QByteArray file = encodePng(picture);
+    const QByteArray file = encodedPng(picture);
     QImage back;
     QVERIFY(back.loadFromData(file, "png"));
     QCOMPARE(back.size(), picture.size());
@@ -115,7 +140,7 @@ void PngEncoderTest::readsBackAsItWas()
 
 void PngEncoderTest::holdsTheseChunksOnly()
 {
-    const QList<PngChunk> chunks = pngChunks(encodePng(gradient({57, 57})));
+    const QList<PngChunk> chunks = pngChunks(encodedPng(gradient({57, 57})));
     QByteArrayList types;
     for (const PngChunk &chunk : chunks)
         types << chunk.type;
@@ -134,8 +159,8 @@ void PngEncoderTest::isMadeOfSeveralSectionsWhereLarge()
 void PngEncoderTest::sameBytesAgain()
 {
     const QImage picture = noise({600, 600}, QImage::Format_ARGB32);
-    QCOMPARE(encodePng(picture), encodePng(picture));
-    QCOMPARE(encodePng(premultiplied(picture)), encodePng(picture));
+    QCOMPARE(encodedPng(picture), encodedPng(picture));
+    QCOMPARE(encodedPng(premultiplied(picture)), encodedPng(picture));
 }
 
 void PngEncoderTest::sameBytesFromRowsOnAnyNumberOfThreads_data()
@@ -152,7 +177,7 @@ void PngEncoderTest::sameBytesFromRowsOnAnyNumberOfThreads()
 {
     QFETCH(QImage, picture);
     QFETCH(int, threads);
-    QCOMPARE(encodePng(ImageRows(straightened(picture)), threads), encodePng(picture));
+    QCOMPARE(encodePng(ImageRows(straightened(picture)), threads, {}).value(), encodedPng(picture));
 }
 
 void PngEncoderTest::quickFiltersWhatShrinksByIt_data()
@@ -167,7 +192,7 @@ void PngEncoderTest::quickFiltersWhatShrinksByIt_data()
 void PngEncoderTest::quickFiltersWhatShrinksByIt()
 {
     QFETCH(QImage, picture);
-    const QByteArray rows = inflatedPixels(encodePngQuickly(picture));
+    const QByteArray rows = inflatedPixels(encodePngQuickly(picture, {}).value());
     bool isFiltered = false;
     for (int y = 0; y < picture.height(); ++y)
         isFiltered = isFiltered || rows[y * (picture.width() * qsizetype{4} + 1)] != 0;
@@ -182,8 +207,8 @@ void PngEncoderTest::quickReadsBackAsItWas_data()
 void PngEncoderTest::quickReadsBackAsItWas()
 {
     QFETCH(QImage, picture);
-    const QByteArray file = encodePngQuickly(picture);
-    QCOMPARE(encodePngQuickly(picture), file);
+    const QByteArray file = encodePngQuickly(picture, {}).value();
+    QCOMPARE(encodePngQuickly(picture, {}).value(), file);
     QImage back;
     QVERIFY(back.loadFromData(file, "png"));
     back.setColorSpace(picture.colorSpace());
@@ -191,9 +216,47 @@ void PngEncoderTest::quickReadsBackAsItWas()
     QCOMPARE(inflatedPixels(file).size(), (picture.width() * 4 + 1) * qsizetype{picture.height()});
 }
 
-void PngEncoderTest::nullPictureGivesNothing()
+void PngEncoderTest::failsWithItsReason_data()
 {
-    QVERIFY(encodePng(QImage()).isEmpty());
+    using Encoding = std::function<Result<QByteArray>(const QString &name)>;
+    QTest::addColumn<Encoding>("encoding");
+    QTest::addColumn<FailureCode>("code");
+    const auto addRow = [](const char *name, const Encoding &encoding, FailureCode code) {
+        QTest::newRow(name) << encoding << code;
+    };
+    addRow(
+        "null picture", [](const QString &name) { return encodePng(QImage(), name); }, FailureCode::InvalidValue);
+    addRow(
+        "null picture, quickly", [](const QString &name) { return encodePngQuickly(QImage(), name); },
+        FailureCode::InvalidValue);
+    addRow(
+        "no rows",
+        [](const QString &name) {
+            return encodePng(RowsWithoutMemory({7, 0}), 1, name);
+        },
+        FailureCode::InvalidValue);
+    addRow(
+        "no memory",
+        [](const QString &name) {
+            return encodePng(RowsWithoutMemory({40, 40}), 1, name);
+        },
+        FailureCode::TooLarge);
+    addRow(
+        "no memory on three threads",
+        [](const QString &name) {
+            return encodePng(RowsWithoutMemory({1024, 1024}), 3, name);
+        },
+        FailureCode::TooLarge);
+}
+
+void PngEncoderTest::failsWithItsReason()
+{
+    QFETCH(std::function<Result<QByteArray>(const QString &name)>, encoding);
+    const Result<QByteArray> file = encoding(u"mine.png"_s);
+    QVERIFY(!file.ok());
+    QTEST(file.failure().code, "code");
+    QCOMPARE(file.failure().subject, u"mine.png"_s);
+    QVERIFY(!file.failure().detail.isEmpty());
 }
 
 QTEST_GUILESS_MAIN(PngEncoderTest)

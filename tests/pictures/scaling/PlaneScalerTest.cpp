@@ -4,6 +4,7 @@
 #include <QTest>
 
 #include <future>
+#include <limits>
 
 using namespace lumora;
 
@@ -17,6 +18,7 @@ private slots:
     void otherSizesGetAnother();
     void theOldestGoes();
     void eachThreadHasItsOwn();
+    void refusalsSayWhy();
 };
 
 namespace
@@ -68,6 +70,17 @@ void PlaneScalerTest::eachThreadHasItsOwn()
     const auto others =
         std::async(std::launch::async, [] { return PlaneScaler::kept(whole, half, SampleDepth::Bits8); }).get();
     QVERIFY(own != others);
+}
+
+void PlaneScalerTest::refusalsSayWhy()
+{
+    // Wider than the library takes a picture.
+    const PlaneScaler scaler(whole, {std::numeric_limits<int>::max(), 1}, SampleDepth::Bits8);
+    const AlignedBytes row = alignedBytes(1);
+    const Outcome scaled = scaler.scale(row.get(), row.get());
+    QVERIFY(!scaled.ok());
+    QCOMPARE(scaled.failure().code, FailureCode::TooLarge);
+    QVERIFY(!scaled.failure().detail.isEmpty());
 }
 
 QTEST_APPLESS_MAIN(PlaneScalerTest)

@@ -10,6 +10,7 @@
 #include <cmath>
 
 using namespace lumora;
+using namespace Qt::StringLiterals;
 
 namespace
 {
@@ -44,6 +45,8 @@ private slots:
     void noColorExceedsItsAlpha();
     void anySize_data();
     void anySize();
+    void failsWithItsReason_data();
+    void failsWithItsReason();
     void opaqueStaysOpaque();
 };
 
@@ -64,7 +67,7 @@ void ResamplerTest::keepsDetailAndAddsNone()
     QFETCH(int, edge);
     QFETCH(double, aliasing);
     QFETCH(double, passband);
-    const ZonePlateErrors errors = zonePlateErrors(resample(zonePlatePicture(), {edge, edge}));
+    const ZonePlateErrors errors = zonePlateErrors(resampled(zonePlatePicture(), {edge, edge}));
     qInfo("%d: aliasing %.2f passband %.2f", edge, errors.aliasing, errors.passband);
     QVERIFY2(errors.aliasing <= aliasing, qPrintable(QString::number(errors.aliasing)));
     QVERIFY2(errors.passband <= passband, qPrintable(QString::number(errors.passband)));
@@ -83,7 +86,7 @@ void ResamplerTest::transparentSurroundingsLeaveNoHalo()
 {
     QFETCH(QColor, color);
     QFETCH(int, edge);
-    const QImage result = straightened(resample(disc(color), {edge, edge}));
+    const QImage result = straightened(resampled(disc(color), {edge, edge}));
     int partly = 0;
     for (int y = 0; y < edge; ++y) {
         for (int x = 0; x < edge; ++x) {
@@ -100,7 +103,7 @@ void ResamplerTest::transparentSurroundingsLeaveNoHalo()
 void ResamplerTest::ownSizeGivesTheSamePixels()
 {
     const QImage source = premultiplied(disc(Qt::darkCyan));
-    QCOMPARE(resample(source, source.size()), source);
+    QCOMPARE(resampled(source, source.size()), source);
 }
 
 void ResamplerTest::sizesDoNotDependOnEachOther()
@@ -108,9 +111,9 @@ void ResamplerTest::sizesDoNotDependOnEachOther()
     // Halves are kept between sizes.
     const QImage source = disc(Qt::darkCyan);
     const QList<int> edges = {57, 512, 120, 256, 16, 1024, 512, 300};
-    const Resampler all(source);
+    const Resampler all(source, {});
     for (const int edge : edges)
-        QCOMPARE(all.scaledTo({edge, edge}), resample(source, {edge, edge}));
+        QCOMPARE(all.scaledTo({edge, edge}).value(), resampled(source, {edge, edge}));
 }
 
 void ResamplerTest::noColorExceedsItsAlpha()
@@ -121,7 +124,7 @@ void ResamplerTest::noColorExceedsItsAlpha()
         for (int x = 0; x < 64; ++x)
             picture.setPixel(x, y, (x / 5 + y / 7) % 2 == 0 ? qRgba(255, 0, 128, 255) : qRgba(0, 255, 128, 40));
     }
-    const QImage result = resample(picture, {41, 23});
+    const QImage result = resampled(picture, {41, 23});
     for (int y = 0; y < result.height(); ++y) {
         const uchar *pixel = result.constScanLine(y);
         for (int x = 0; x < result.width(); ++x, pixel += 4)
@@ -133,33 +136,49 @@ void ResamplerTest::anySize_data()
 {
     QTest::addColumn<QSize>("from");
     QTest::addColumn<QSize>("to");
-    QTest::addColumn<QSize>("result");
-    QTest::newRow("to one pixel") << QSize(1024, 1024) << QSize(1, 1) << QSize(1, 1);
-    QTest::newRow("from one pixel") << QSize(1, 1) << QSize(5, 9) << QSize(5, 9);
-    QTest::newRow("one row to another width") << QSize(300, 1) << QSize(17, 1) << QSize(17, 1);
-    QTest::newRow("one axis only") << QSize(30, 40) << QSize(30, 20) << QSize(30, 20);
-    QTest::newRow("larger") << QSize(3, 2) << QSize(64, 63) << QSize(64, 63);
-    QTest::newRow("no width") << QSize(8, 8) << QSize(0, 4) << QSize(0, 0);
-    QTest::newRow("negative") << QSize(8, 8) << QSize(-4, -4) << QSize(0, 0);
-    QTest::newRow("from nothing") << QSize(0, 0) << QSize(4, 4) << QSize(0, 0);
+    QTest::newRow("to one pixel") << QSize(1024, 1024) << QSize(1, 1);
+    QTest::newRow("from one pixel") << QSize(1, 1) << QSize(5, 9);
+    QTest::newRow("one row to another width") << QSize(300, 1) << QSize(17, 1);
+    QTest::newRow("one axis only") << QSize(30, 40) << QSize(30, 20);
+    QTest::newRow("larger") << QSize(3, 2) << QSize(64, 63);
 }
 
 void ResamplerTest::anySize()
 {
     QFETCH(QSize, from);
     QFETCH(QSize, to);
-    QFETCH(QSize, result);
     QImage source(from, QImage::Format_ARGB32);
     source.fill(qRgba(200, 100, 50, 255));
-    const QImage scaled = resample(source, to);
-    QCOMPARE(scaled.size(), result);
-    if (!scaled.isNull())
-        QCOMPARE(scaled.pixel(result.width() / 2, result.height() / 2), qRgba(200, 100, 50, 255));
+    const QImage scaled = resampled(source, to);
+    QCOMPARE(scaled.size(), to);
+    QCOMPARE(scaled.pixel(to.width() / 2, to.height() / 2), qRgba(200, 100, 50, 255));
+}
+
+void ResamplerTest::failsWithItsReason_data()
+{
+    QTest::addColumn<QSize>("from");
+    QTest::addColumn<QSize>("to");
+    QTest::addColumn<QString>("detail");
+    QTest::newRow("no width") << QSize(8, 8) << QSize(0, 4) << u"0 x 4 pixels"_s;
+    QTest::newRow("negative") << QSize(8, 8) << QSize(-4, -4) << u"-4 x -4 pixels"_s;
+    QTest::newRow("from nothing") << QSize(0, 0) << QSize(4, 4) << u"the picture is empty"_s;
+}
+
+void ResamplerTest::failsWithItsReason()
+{
+    QFETCH(QSize, from);
+    QFETCH(QSize, to);
+    QFETCH(QString, detail);
+    QImage source(from, QImage::Format_ARGB32);
+    source.fill(Qt::red);
+    const Result<QImage> scaled = resample(source, to, u"mine.png"_s);
+    QVERIFY(!scaled.ok());
+    QCOMPARE(scaled.failure(), (Failure{FailureCode::InvalidValue, u"mine.png"_s, detail}));
 }
 
 void ResamplerTest::opaqueStaysOpaque()
 {
-    const QImage result = resample(zonePlatePicture(), {333, 333});
+    const QImage result = resampled(zonePlatePicture(), {333, 333});
     for (int y = 0; y < 333; ++y) {
         for (int x = 0; x < 333; ++x)
             QCOMPARE(int(result.constScanLine(y)[4 * x + 3]), 255);

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#include "icons/RenderedIcons.h"
+
+#include "tests/pictures/TestPictures.h"
+
+#include <QTest>
+
+#include <array>
+
+using namespace lumora;
+using namespace Qt::StringLiterals;
+
+class RenderedIconsTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void eachSizeIsWhatItWouldBeAlone();
+    void failsWithItsReason_data();
+    void failsWithItsReason();
+};
+
+void RenderedIconsTest::eachSizeIsWhatItWouldBeAlone()
+{
+    const QImage picture = testPicture(1024, 1024);
+    RenderedIcons icons(picture);
+    const std::array sizes = {57, 1024, 512, 57};
+    icons.prepare(sizes);
+    for (const int size : sizes)
+        QCOMPARE(icons.png(size).value(), encodedPng(resampled(picture, {size, size})));
+    QCOMPARE(icons.png(29).value(), encodedPng(resampled(picture, {29, 29})));
+}
+
+void RenderedIconsTest::failsWithItsReason_data()
+{
+    QTest::addColumn<QImage>("icon");
+    QTest::addColumn<int>("size");
+    QTest::addColumn<QString>("detail");
+    QTest::newRow("no size") << quarters(8, 8) << 0 << u"0 x 0 pixels"_s;
+    QTest::newRow("negative size") << quarters(8, 8) << -5 << u"-5 x -5 pixels"_s;
+    QTest::newRow("null icon") << QImage() << 57 << u"the picture is empty"_s;
+    QTest::newRow("null icon and no size") << QImage() << 0 << u"the picture is empty"_s;
+}
+
+void RenderedIconsTest::failsWithItsReason()
+{
+    QFETCH(QImage, icon);
+    QFETCH(int, size);
+    QFETCH(QString, detail);
+    RenderedIcons icons(icon);
+    const Result<QByteArray> png = icons.png(size);
+    QVERIFY(!png.ok());
+    QCOMPARE(png.failure(), (Failure{FailureCode::InvalidValue, {}, detail}));
+}
+
+QTEST_GUILESS_MAIN(RenderedIconsTest)
+#include "RenderedIconsTest.moc"
