@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "Display.h"
 
+#include "foundation/FileDescriptor.h"
+
 #include <QByteArray>
 
 #include <cstring>
 
 #include <sys/socket.h>
 #include <sys/un.h>
-#include <unistd.h>
 
 #include <xcb/xcb.h>
 
@@ -31,12 +32,9 @@ bool waylandAnswers()
     if (static_cast<std::size_t>(path.size()) >= sizeof address.sun_path)
         return false;
     std::memcpy(address.sun_path, path.constData(), static_cast<std::size_t>(path.size()));
-    const int descriptor = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    if (descriptor < 0)
-        return false;
-    const bool answers = ::connect(descriptor, reinterpret_cast<const sockaddr *>(&address), sizeof address) == 0;
-    ::close(descriptor);
-    return answers;
+    const FileDescriptor socket(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0));
+    return socket.valid() &&
+           ::connect(socket.number(), reinterpret_cast<const sockaddr *>(&address), sizeof address) == 0;
 }
 
 } // namespace
