@@ -2,6 +2,7 @@
 #include "MiniatureLayout.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace lumora
 {
@@ -16,11 +17,23 @@ struct Row
     double height = 0;
 };
 
-QList<Row> rowsAtScale(const QList<QSize> &pictures, double scale, double width, double gap)
+bool hasCaption(double width, const CaptionRule &rule)
+{
+    return width < rule.readableWidth;
+}
+
+QSizeF cellSize(const QSizeF &miniature, const CaptionRule &rule)
+{
+    if (!hasCaption(miniature.width(), rule))
+        return miniature;
+    return {std::max(miniature.width(), rule.size.width()), miniature.height() + rule.size.height()};
+}
+
+QList<Row> rowsAtScale(const QList<QSize> &pictures, double scale, double width, double gap, const CaptionRule &rule)
 {
     QList<Row> rows;
     for (const QSize &picture : pictures) {
-        const QSizeF size = QSizeF(picture) * scale;
+        const QSizeF size = cellSize(QSizeF(picture) * scale, rule);
         if (rows.isEmpty() || rows.constLast().width + gap + size.width() > width)
             rows.append(Row());
         Row &row = rows.last();
@@ -47,7 +60,8 @@ bool fits(const QList<Row> &rows, const QSizeF &area, double gap)
 
 } // namespace
 
-QList<QRectF> miniatureRectangles(const QList<QSize> &pictures, const QRectF &area, double gap)
+QList<Miniature> captionedMiniatures(const QList<QSize> &pictures, const QRectF &area, double gap,
+                                     const CaptionRule &rule)
 {
     if (pictures.isEmpty() || area.isEmpty())
         return {};
@@ -55,23 +69,47 @@ QList<QRectF> miniatureRectangles(const QList<QSize> &pictures, const QRectF &ar
     constexpr int halvings = 24;
     double fitting = 0;
     double limit = 1;
-    if (fits(rowsAtScale(pictures, 1, area.width(), gap), area.size(), gap))
+    if (fits(rowsAtScale(pictures, 1, area.width(), gap, rule), area.size(), gap))
         fitting = 1;
     for (int i = 0; i < halvings && fitting < 1; ++i) {
         const double scale = (fitting + limit) / 2;
-        (fits(rowsAtScale(pictures, scale, area.width(), gap), area.size(), gap) ? fitting : limit) = scale;
+        (fits(rowsAtScale(pictures, scale, area.width(), gap, rule), area.size(), gap) ? fitting : limit) = scale;
     }
-    const QList<Row> rows = rowsAtScale(pictures, fitting, area.width(), gap);
-    QList<QRectF> rectangles;
+    const QList<Row> rows = rowsAtScale(pictures, fitting, area.width(), gap, rule);
+    QList<Miniature> miniatures;
     double y = area.center().y() - totalHeight(rows, gap) / 2;
     for (const Row &row : rows) {
         double x = area.center().x() - row.width / 2;
         for (const QSizeF &size : row.sizes) {
-            rectangles << QRectF(QPointF(x, y + (row.height - size.height()) / 2), size);
+            const QSizeF picture = QSizeF(pictures.at(miniatures.size())) * fitting;
+            const QPointF corner(x + (size.width() - picture.width()) / 2, y + (row.height - size.height()) / 2);
+            Miniature miniature{QRectF(corner, picture), {}};
+            if (hasCaption(picture.width(), rule)) {
+                const QPointF below(x + (size.width() - rule.size.width()) / 2, corner.y() + picture.height());
+                miniature.caption = QRectF(below, rule.size);
+            }
+            miniatures << miniature;
             x += size.width() + gap;
         }
         y += row.height + gap;
     }
+    return miniatures;
+}
+
+QRectF onPixels(const QRectF &rectangle, double scale)
+{
+    const auto snapped = [scale](double position) { return std::round(position * scale) / scale; };
+    const QPointF corner(snapped(rectangle.left()), snapped(rectangle.top()));
+    const double pixel = 1 / scale;
+    return {corner, QSizeF(std::max(snapped(rectangle.right()) - corner.x(), pixel),
+                           std::max(snapped(rectangle.bottom()) - corner.y(), pixel))};
+}
+
+QList<QRectF> miniatureRectangles(const QList<QSize> &pictures, const QRectF &area, double gap)
+{
+    QList<QRectF> rectangles;
+    for (const Miniature &miniature : captionedMiniatures(pictures, area, gap, {}))
+        rectangles << miniature.picture;
     return rectangles;
 }
 

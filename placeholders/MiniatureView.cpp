@@ -2,15 +2,17 @@
 #include "MiniatureView.h"
 
 #include "LabelFont.h"
-#include "MiniatureLayout.h"
 #include "Placeholder.h"
 #include "PlaceholderLabel.h"
 #include "widgets/style/AccessibleRole.h"
+#include "widgets/style/Fonts.h"
 #include "widgets/style/Palette.h"
 
 #include <QPainter>
 
 #include <algorithm>
+#include <cmath>
+#include <utility>
 
 namespace lumora
 {
@@ -21,6 +23,17 @@ namespace
 constexpr double gap = 6;
 constexpr double frameWidth = 1.5;
 constexpr double frameRadius = 6;
+constexpr double readableWidth = 90; ///< The label is a tenth of this high.
+
+QFont captionFont()
+{
+    return latoRegular(10);
+}
+
+QString sizeText(const QSize &size)
+{
+    return QStringLiteral("%1 x %2").arg(size.width()).arg(size.height());
+}
 
 } // namespace
 
@@ -49,30 +62,39 @@ void MiniatureView::resizeEvent(QResizeEvent *)
 
 void MiniatureView::layOut()
 {
-    m_rectangles = miniatureRectangles(m_pictures, QRectF(rect()), gap);
+    double widest = 0;
+    const QFontMetricsF metrics(captionFont());
+    for (const QSize &picture : std::as_const(m_pictures))
+        widest = std::max(widest, metrics.horizontalAdvance(sizeText(picture)));
+    const CaptionRule rule{readableWidth, QSizeF(std::ceil(widest), std::ceil(metrics.height()))};
+    m_miniatures = captionedMiniatures(m_pictures, QRectF(rect()), gap, rule);
 }
 
 void MiniatureView::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    if (m_rectangles.isEmpty()) {
+    if (m_miniatures.isEmpty()) {
         painter.setPen(QPen(palette::separator, frameWidth, Qt::DashLine));
         painter.drawRoundedRect(QRectF(rect()).adjusted(frameWidth, frameWidth, -frameWidth, -frameWidth), frameRadius,
                                 frameRadius);
         return;
     }
     const QColor gray(Placeholder::gray, Placeholder::gray, Placeholder::gray);
-    for (qsizetype i = 0; i < m_rectangles.size(); ++i) {
-        const QRectF &rectangle = m_rectangles.at(i);
-        // A very thin picture stays visible as a strip.
-        const QRectF visible(rectangle.topLeft(),
-                             QSizeF(std::max(rectangle.width(), 1.0), std::max(rectangle.height(), 1.0)));
+    painter.setFont(captionFont());
+    for (qsizetype i = 0; i < m_miniatures.size(); ++i) {
+        const Miniature &miniature = m_miniatures.at(i);
+        const QRectF rectangle = onPixels(miniature.picture, devicePixelRatioF());
+        painter.fillRect(rectangle, gray);
+        if (!miniature.caption.isNull()) {
+            painter.setPen(palette::chromeText);
+            painter.drawText(miniature.caption, Qt::AlignCenter, sizeText(m_pictures.at(i)));
+            continue;
+        }
         painter.save();
-        painter.fillRect(visible, gray);
-        painter.setClipRect(visible);
+        painter.setClipRect(rectangle);
         painter.translate(rectangle.topLeft());
-        const double scale = rectangle.width() / m_pictures.at(i).width();
+        const double scale = miniature.picture.width() / m_pictures.at(i).width();
         painter.scale(scale, scale);
         painter.fillPath(m_labels.at(i), Qt::white);
         painter.restore();

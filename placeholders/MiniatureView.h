@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "MiniatureLayout.h"
+
 #include <QList>
 #include <QPainterPath>
 #include <QWidget>
@@ -30,7 +32,7 @@ private:
 
     QList<QSize> m_pictures;
     QList<QPainterPath> m_labels; ///< in each picture's pixels
-    QList<QRectF> m_rectangles;
+    QList<Miniature> m_miniatures;
 };
 
 } // namespace lumora

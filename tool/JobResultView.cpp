@@ -112,7 +112,6 @@ void JobResultView::fitFailures()
 {
     const auto lines = std::min<int>(static_cast<int>(m_result.failures.size()), visibleFailures);
     m_failureArea->setFixedHeight(m_failures->fontMetrics().lineSpacing() * std::max(lines, 1) + 2);
-    setMinimumHeight(buttonHeight + 2 * edgeMargin);
 }
 
 QString JobResultView::text() const

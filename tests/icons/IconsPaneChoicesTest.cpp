@@ -4,6 +4,7 @@
 #include "widgets/textfield/ZKFieldEditor.h"
 
 #include <QDragEnterEvent>
+#include <QLabel>
 #include <QMimeData>
 #include <QTest>
 
@@ -12,6 +13,15 @@ using namespace lumora;
 
 namespace
 {
+
+/// The y of the baseline of the label's first line, in its window.
+int baseline(const QLabel *label)
+{
+    const QFontMetrics metrics(label->font());
+    const bool atTop = label->alignment().testFlag(Qt::AlignTop);
+    const int above = atTop ? 0 : (label->height() - metrics.height()) / 2;
+    return label->mapTo(label->window(), QPoint(0, above)).y() + metrics.ascent();
+}
 
 bool takesDrag(QWidget *widget, const QMimeData &content)
 {
@@ -116,6 +126,12 @@ private slots:
         QMimeData text;
         text.setText(u"64"_s);
         QVERIFY(takesDrag(target, text));
+    }
+
+    void theSubtitleFollowsTheTitle()
+    {
+        const IconsPane pane;
+        QCOMPARE(baseline(pane.ui.sourceIconSubtitle) - baseline(pane.ui.sourceIconTitle), 20);
     }
 
     void aColorAloneIsRefused()

@@ -3,6 +3,7 @@
 #include "tool/JobResultView.h"
 #include "widgets/buttons/HoverButton.h"
 
+#include <QScrollArea>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -81,6 +82,20 @@ private slots:
                  qPrintable(result.failures.first()));
         QVERIFY(pane.ui.resultView->showButton()->isHidden());
         QCOMPARE(pane.popupTitle(), QString());
+    }
+
+    void failuresHaveRoomInTheSmallestWindow()
+    {
+        IconsPane pane;
+        QVERIFY(QTest::qWaitForWindowExposed(&pane.window));
+        pane.ui.resultView->setResult({u"4 of 51 icons"_s, u"/out"_s, {u"a"_s, u"b"_s, u"c"_s, u"d"_s}});
+        QTRY_VERIFY(pane.ui.resultView->height() >= pane.ui.resultView->sizeHint().height());
+        const QRect area = pane.ui.resultView->geometry();
+        QVERIFY(pane.tool.view()->rect().contains(area));
+        QVERIFY(pane.ui.snippetPanel->geometry().bottom() < area.top());
+        QVERIFY(pane.ui.dropView->geometry().bottom() < area.top());
+        const QRect button = pane.ui.resultView->showButton()->geometry();
+        QVERIFY(!button.intersects(pane.ui.resultView->findChild<QScrollArea *>()->geometry()));
     }
 
     void withoutASourceThereIsAMessageAlready()

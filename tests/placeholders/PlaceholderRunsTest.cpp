@@ -6,11 +6,26 @@
 #include "widgets/popover/SFBPopover.h"
 
 #include <QDir>
+#include <QLabel>
 #include <QTemporaryDir>
 #include <QTest>
 
 using namespace lumora;
 using namespace Qt::StringLiterals;
+
+namespace
+{
+
+/// The y of the baseline of the label's first line, in its window.
+int baseline(const QLabel *label)
+{
+    const QFontMetrics metrics(label->font());
+    const bool atTop = label->alignment().testFlag(Qt::AlignTop);
+    const int above = atTop ? 0 : (label->height() - metrics.height()) / 2;
+    return label->mapTo(label->window(), QPoint(0, above)).y() + metrics.ascent();
+}
+
+} // namespace
 
 /// The pane's texts about its runs, also about two at a time.
 class PlaceholderRunsTest : public QObject
@@ -51,6 +66,13 @@ private slots:
     {
         m_controller.reset();
         m_window.reset();
+    }
+
+    void theSubtitlesFollowTheTitles()
+    {
+        QCOMPARE(baseline(ui().iosSubtitle) - baseline(ui().iosTitle), 20);
+        QCOMPARE(baseline(ui().macSubtitle) - baseline(ui().macTitle), 20);
+        QCOMPARE(baseline(ui().customSubtitle) - baseline(ui().customTitle), 20);
     }
 
     void aRunSaysWhatItLeft()
