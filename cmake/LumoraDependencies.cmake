@@ -21,7 +21,7 @@ pkg_check_modules(XCB REQUIRED IMPORTED_TARGET xcb xcb-shape)
 pkg_check_modules(FONTCONFIG REQUIRED IMPORTED_TARGET fontconfig)
 find_package(Threads REQUIRED)
 
-# Libraries that few runs need are opened by name, as foundation/SharedLibrary.h says: the name that the linker would have noted.
+# Libraries that few runs need are opened by name (foundation/SharedLibrary.h): the name that the linker would have recorded.
 function(lumora_soname variable library)
   if(NOT IS_ABSOLUTE "${library}")
     get_target_property(library ${library} IMPORTED_LOCATION)

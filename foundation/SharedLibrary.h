@@ -4,7 +4,7 @@
 namespace lumora
 {
 
-/// A library that few runs need, opened by name when it is first asked for: a linked one costs every start of the
+/// A library that few runs need, opened by name at its first use: a linked library would cost every start of the
 /// command the time to bind its functions.
 class SharedLibrary
 {
@@ -13,7 +13,7 @@ public:
     explicit SharedLibrary(const char *name);
     bool isOpen() const { return m_handle != nullptr; }
 
-    /// A function whose type the receiver knows.
+    /// A function; the receiver sets its type.
     class Function
     {
     public:
@@ -28,8 +28,8 @@ public:
         explicit Function(void *address) : m_address(address) {}
         void *m_address;
     };
-    /// Where the library or its function is missing, the program ends as the dynamic linker ends one: with a line on
-    /// stderr and status 127.
+    /// If the library or its function is missing, the program ends as with the dynamic linker: with a line on stderr
+    /// and status 127.
     Function operator[](const char *name) const;
 
 private:

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""A Debian system below the build folder in which the tree is compiled once more, kept for the next run. Needs root and the mirror
+"""A Debian system below the build folder for compiling the tree again, kept for the next run. Needs root and the mirror
 that this machine itself uses."""
 import subprocess
 from pathlib import Path
@@ -20,7 +20,7 @@ class BuildRoot:
     def __init__(self, place, packages, architectures="amd64"):
         self.place = place
         self.root = place / "root"
-        # What was asked for is written down, so that another list of packages makes another system.
+        # The list of packages is stored, so that another list makes another system.
         made = place / "made"
         wanted = f"{architectures}: {' '.join(packages)}\n"
         if made.exists() and made.read_text() == wanted:

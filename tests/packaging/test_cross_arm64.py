@@ -1,8 +1,8 @@
 # SPDX-License-Identifier: MIT
 """Both programs compile for 64-bit ARM with Debian's cross compiler, and the command runs in an emulator.
 
-Asked for with `./test -C Cross -L cross`: it makes a system of its own below the build folder, with a gigabyte of packages from the
-mirror that this machine itself uses, and compiles everything once more. Needs root.
+Runs only with `./test -C Cross -L cross`: it makes a system of its own below the build folder, with a gigabyte of packages from the
+mirror that this machine itself uses, and compiles everything again. Needs root.
 """
 import os
 import unittest
@@ -11,12 +11,12 @@ from build_root import BuildRoot
 from place import BUILD, SOURCE, VERSION, run
 
 PLACE = BUILD / "cross-arm64"
-# Programs that run while building are this machine's; libraries are the other's.
+# Programs that run during the build are this machine's; libraries are the other's.
 TOOLS = [
     "ca-certificates", "cmake", "ninja-build", "pkg-config", "crossbuild-essential-arm64", "qt6-base-dev-tools", "qt6-tools-dev-tools",
     "qt6-l10n-tools", "python3", "qemu-user", "qt6-base-dev", "qt6-tools-dev",
 ]
-# What cmake is to know of the other machine; CMAKE_LIBRARY_ARCHITECTURE is the name of Debian's folders for it.
+# The settings of cmake for the other machine; CMAKE_LIBRARY_ARCHITECTURE is the name of Debian's folders for it.
 TOOLCHAIN = """set(CMAKE_SYSTEM_NAME Linux)
 set(CMAKE_SYSTEM_PROCESSOR aarch64)
 set(CMAKE_C_COMPILER aarch64-linux-gnu-gcc)

@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
-"""dpkg-buildpackage makes both packages from the tracked files in a system that holds nothing but what debian/control asks for.
+"""dpkg-buildpackage makes both packages from the tracked files in a system with only the packages that debian/control requires.
 
-Asked for with `./test -C Cross -L cross`, because it compiles everything once more. Needs root.
+Runs only with `./test -C Cross -L cross`, because it compiles everything again. Needs root.
 """
 import os
 import re

@@ -17,8 +17,8 @@ enum class DigestKind : quint8 { None = 0, Sha1 = 1, Sha256 = 2, Sha256Truncated
 /// The length of a digest in bytes; 0 for None.
 qsizetype digestSize(DigestKind kind);
 
-/// Loads the library that computes digests and checks signatures, which otherwise happens at the first use. A process
-/// that is about to close the file system to itself calls it before.
+/// Loads the library for digests and signatures now instead of at its first use. Call it before the process locks
+/// itself out of the file system.
 void loadCryptoLibrary();
 
 /// Computes a digest of content that comes piece by piece.

@@ -12,8 +12,8 @@
 namespace lumora
 {
 
-/// The functions of libcrypto that signatures, profiles and hashes need, each under its own name. The library has four
-/// thousand functions to bind, a third of what a start of the command would bind with it.
+/// The functions of libcrypto for signatures, profiles and hashes, under their own names. Opened by name, since its
+/// four thousand functions would be a third of those that a start of the command binds.
 struct OpenSsl
 {
     SharedLibrary library{LUMORA_CRYPTO_SONAME};
@@ -61,7 +61,7 @@ struct OpenSsl
     decltype(&::i2d_X509_NAME) i2d_X509_NAME = library["i2d_X509_NAME"];
 };
 
-/// Opened with the first call, from any thread.
+/// Opens the library at the first call, on any thread.
 const OpenSsl &openSsl();
 
 } // namespace lumora
