@@ -7,6 +7,7 @@
 #include "ui_ValidatePopupContentView.h"
 #include "widgets/style/Fonts.h"
 #include "widgets/style/Palette.h"
+#include "widgets/style/SlimScrollBars.h"
 
 #include <QScrollBar>
 
@@ -24,22 +25,6 @@ namespace
 /// its text.
 constexpr int accentRoom = 3;
 
-/// The opacity of the scroll bar's thumb at rest.
-constexpr float restingThumbOpacity = 0.6F;
-
-/// Only a thumb, without groove and arrows, at some distance from the text.
-QString thinScrollBar()
-{
-    QColor resting = palette::chromeText;
-    resting.setAlphaF(restingThumbOpacity);
-    return u"QScrollBar:vertical { background: transparent; width: 12px; }"
-           "QScrollBar::handle:vertical { background: %1; border-radius: 3px; margin-left: 6px; min-height: 24px; }"
-           "QScrollBar::handle:vertical:hover, QScrollBar::handle:vertical:pressed { background: %2; }"
-           "QScrollBar::add-line:vertical, QScrollBar::sub-line:vertical { height: 0; }"
-           "QScrollBar::add-page:vertical, QScrollBar::sub-page:vertical { background: transparent; }"_s.arg(
-               resting.name(QColor::HexArgb), palette::chromeText.name());
-}
-
 } // namespace
 
 ValidatePopupContentView::ValidatePopupContentView(QWidget *parent)
@@ -51,7 +36,9 @@ ValidatePopupContentView::ValidatePopupContentView(QWidget *parent)
     for (QLabel *label : {m_ui->titleLabel, m_ui->messageLabel})
         label->setContentsMargins(0, accentRoom, 0, 0);
     m_ui->scrollArea->viewport()->setAutoFillBackground(false);
-    m_ui->scrollArea->verticalScrollBar()->setStyleSheet(thinScrollBar());
+    auto *style = new SlimScrollBars(QString());
+    style->setParent(this);
+    m_ui->scrollArea->verticalScrollBar()->setStyle(style);
     m_ui->scrollContents->setAutoFillBackground(false);
     styleButton(m_ui->closeButton, qtTrId("CLOSE"), u"button_icon_close"_s, palette::errorLight, palette::errorDark);
     connect(m_ui->closeButton, &IconButton::clicked, this, &ValidatePopupContentView::closeButtonPressed);
@@ -84,6 +71,7 @@ void ValidatePopupContentView::setTitle(const QString &title, const QString &and
     m_ui->titleLabel->setText(title);
     m_ui->messageLabel->setText(breakingLongWords(andMessage));
     m_ui->messageLabel->setAccessibleName(andMessage);
+    m_ui->scrollArea->setAccessibleName(title);
     setAccessibleName(title);
     setAccessibleDescription(andMessage);
 }
@@ -106,7 +94,8 @@ void ValidatePopupContentView::fitToText()
     m_ui->messageLabel->setFixedWidth(messageWidth);
     const int message = m_ui->messageLabel->heightForWidth(messageWidth);
     const int around = margins.top() + m_ui->titleLabel->heightForWidth(titleWidth) + 2 * m_ui->layout->spacing() +
-                       m_ui->closeButton->minimumHeight() + margins.bottom();
+                       m_ui->buttonLayout->contentsMargins().top() + m_ui->closeButton->minimumHeight() +
+                       margins.bottom();
     resize(width(), std::min(around + message, largestHeight));
     m_ui->scrollArea->verticalScrollBar()->setValue(0);
 }

@@ -111,6 +111,10 @@ void FilledButton::drawRect(QPainter &painter)
     painter.setPen(Qt::NoPen);
     painter.setBrush(m_color);
     painter.drawRoundedRect(rect(), buttongeometry::cornerRadius, buttongeometry::cornerRadius);
+    if (isDown()) {
+        painter.setBrush(palette::pressedShade);
+        painter.drawRoundedRect(rect(), buttongeometry::cornerRadius, buttongeometry::cornerRadius);
+    }
     drawIcon(painter);
     drawText(painter);
 }
@@ -134,13 +138,8 @@ void FilledButton::drawText(QPainter &painter)
     area.setTop(buttongeometry::filledTextTop(size().height(), height) + metrics.leading());
     area.setHeight(height);
     painter.setFont(m_font);
-    if (relativeLuminance(m_color) > tooLightForWhite) {
-        // A button takes any color that its owner gives it; a dark edge keeps the text readable on a light one.
-        painter.setPen(palette::chromeText);
-        for (const QPointF &edge : {QPointF(-1, 0), QPointF(1, 0), QPointF(0, -1), QPointF(0, 1)})
-            painter.drawText(area.translated(edge), flags, shown);
-    }
-    painter.setPen(palette::buttonText);
+    // A button takes any color that its owner gives it; on a light one white could not be read.
+    painter.setPen(relativeLuminance(m_color) > tooLightForWhite ? palette::chromeText : palette::buttonText);
     painter.drawText(area, flags, shown);
 }
 

@@ -95,7 +95,10 @@ void SelectionButton::drawRect(QPainter &painter)
     // Lato's metrics count the space above its capitals as leading, so the leading goes on top of the line.
     area.setTop(buttongeometry::selectionTextTop(bounds.height(), metrics.lineSpacing()) + metrics.leading());
     area.setHeight(metrics.height());
-    painter.setFont(m_font);
+    QFont font = m_font;
+    // Its image tells a verdict and does not follow the pointer; the text says that a click does something.
+    font.setUnderline(isFrozen() && isHovered() && isEnabled());
+    painter.setFont(font);
     painter.setPen(palette::chromeText);
     const auto side = layoutDirection() == Qt::RightToLeft ? Qt::AlignRight : Qt::AlignLeft;
     painter.drawText(area, side | Qt::AlignAbsolute | Qt::AlignTop | Qt::TextSingleLine,

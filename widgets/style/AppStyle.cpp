@@ -3,6 +3,7 @@
 
 #include "Fonts.h"
 #include "Palette.h"
+#include "SlimScrollBars.h"
 
 #include <QApplication>
 #include <QPalette>
@@ -15,7 +16,7 @@ namespace lumora
 
 void applyAppStyle()
 {
-    QApplication::setStyle(u"fusion"_s);
+    QApplication::setStyle(new SlimScrollBars(u"fusion"_s));
 }
 
 void applyAppColors()

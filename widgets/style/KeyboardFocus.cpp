@@ -6,6 +6,11 @@
 namespace lumora
 {
 
+Qt::FocusReason KeyboardFocus::reasonOfProgram()
+{
+    return s_lastInputWasKey ? Qt::TabFocusReason : Qt::OtherFocusReason;
+}
+
 bool KeyboardFocus::follow(const QEvent *event)
 {
     const bool before = m_shown;
@@ -20,16 +25,19 @@ bool KeyboardFocus::follow(const QEvent *event)
         case Qt::ActiveWindowFocusReason:
         case Qt::PopupFocusReason:
         case Qt::MenuBarFocusReason:
-            // The focus returns to the widget that had it before.
+            // The focus returns to the widget that had it before, or comes into a window that a key has opened.
+            m_shown = m_shown || s_lastInputWasKey;
             break;
         default:
             m_shown = false;
         }
         break;
     case QEvent::KeyPress:
+        s_lastInputWasKey = true;
         m_shown = true;
         break;
     case QEvent::MouseButtonPress:
+        s_lastInputWasKey = false;
         m_shown = false;
         break;
     default:

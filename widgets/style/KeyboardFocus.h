@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <Qt>
+
 class QEvent;
 
 namespace lumora
@@ -16,7 +18,13 @@ public:
     /// Whether to draw the ring while the widget has the focus.
     bool isShown() const { return m_shown; }
 
+    /// The reason to give where the program moves the focus: as by Tab after a key, so that the ring shows.
+    static Qt::FocusReason reasonOfProgram();
+
 private:
+    /// The last input that any of the widgets saw.
+    inline static bool s_lastInputWasKey = false;
+
     bool m_shown = false;
 };
 
