@@ -89,7 +89,7 @@ bool DropRouter::eventFilter(QObject *watched, QEvent *event)
     if (own != m_views.cend() && (!tool || *tool == *own))
         return false;
     DropView *view = tool ? dropViewOf(*tool) : nullptr;
-    if (view == nullptr || !view->isEnabled() || view->isHidden()) {
+    if (view == nullptr || !view->isEnabled() || (view->isHidden() && !view->takesWhileHidden())) {
         drop->ignore();
         return true;
     }

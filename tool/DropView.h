@@ -66,6 +66,10 @@ public:
     void setTakesColors(bool takes) { m_takesColors = takes; }
 
     /// Whether a drag that would be delivered is over the view.
+    /// Whether a drop elsewhere in the window comes to the view also while something else hides it; false at first.
+    bool takesWhileHidden() const { return m_takesWhileHidden; }
+    void setTakesWhileHidden(bool takes) { m_takesWhileHidden = takes; }
+
     bool isTargeted() const { return m_targeted; }
 
     /// The operation to show for a drag that enters: generic for a color if the source allows it, else link or copy for
@@ -98,6 +102,7 @@ private:
     DropViewDelegate *m_delegate = nullptr;
     bool m_targeted = false;
     bool m_takesColors = false;
+    bool m_takesWhileHidden = false;
 };
 
 } // namespace lumora

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ReportArea.h"
 
+#include "widgets/style/AccessibleRole.h"
 #include "widgets/style/Palette.h"
 
 #include <QPainter>
@@ -18,6 +19,7 @@ constexpr qreal ringRadius = 4;
 
 ReportArea::ReportArea(QWidget *parent) : QScrollArea(parent)
 {
+    setAccessibleRole(this, QAccessible::Grouping);
     setFocusPolicy(Qt::StrongFocus);
     setViewportMargins(ringWidth, ringWidth, ringWidth, ringWidth);
 }

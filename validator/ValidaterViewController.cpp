@@ -278,8 +278,8 @@ bool ValidaterViewController::hasKeyboard() const
 
 QList<QWidget *> ValidaterViewController::headViews() const
 {
-    return {m_ui->validatingTitle, m_ui->copyReportButton, m_ui->checkAgainButton, m_ui->resetButton,
-            m_ui->sumLabel,        m_ui->fileLabel,        m_ui->reportArea};
+    return {m_ui->validatingTitle, m_ui->copyReportButton, m_ui->checkAgainButton,
+            m_ui->resetButton,     m_ui->sumLabel,         m_ui->fileLabel};
 }
 
 void ValidaterViewController::reset()
@@ -295,8 +295,10 @@ void ValidaterViewController::reset()
     m_extraction = Extraction();
     m_results.clear();
     m_found.reset();
+    clearReport();
     m_ui->appIconField->clear();
     m_ui->browseButton->setEnabled(true);
+    m_ui->dropView->setTakesWhileHidden(false);
     setOpacity(m_ui->dropView, 1);
     if (hadKeyboard)
         m_ui->browseButton->setFocus(Qt::OtherFocusReason);
@@ -311,8 +313,9 @@ void ValidaterViewController::reset()
         box->setAccessibleName(QString());
         box->setToolTip(QString());
     }
-    for (QWidget *hidden : {static_cast<QWidget *>(m_ui->appIconField),
-                            static_cast<QWidget *>(m_ui->readingLoaderField), m_ui->validateInterface})
+    for (QWidget *hidden :
+         {static_cast<QWidget *>(m_ui->appIconField), static_cast<QWidget *>(m_ui->readingLoaderField),
+          static_cast<QWidget *>(m_ui->reportArea), m_ui->validateInterface})
         setOpacity(hidden, 0);
     m_ui->readingLoaderField->clear();
     m_ui->readingLoaderField->setAccessibleName(QString());
@@ -352,6 +355,8 @@ void ValidaterViewController::updateInterface(const PackageFacts &facts, const E
              buildKind(facts) == BuildKind::Debug ? qtTrId("VALID_BUILD_DEBUG") : qtTrId("VALID_BUILD_RELEASE"));
     m_fade.fade(factViews() << headViews() << m_ui->appIconField << m_ui->validLocalizationsBox, 1);
     m_fade.fade({m_ui->readingLoaderField}, 0);
+    // What it holds fades in; the area itself takes the keyboard meanwhile.
+    setOpacity(m_ui->reportArea, 1);
 }
 
 void ValidaterViewController::validate(const ArtworkReport &artwork)
@@ -371,6 +376,8 @@ void ValidaterViewController::validate(const ArtworkReport &artwork)
     m_fade.fade(
         {m_ui->validAppIconsBox, m_ui->validDefaultImagesBox, m_ui->validBundleIdentifier, m_ui->validLocalizationsBox},
         1);
+    for (CheckboxButton *box : boxes())
+        box->setToolTip(box->isEnabled() ? qtTrId("VALIDATER_BOX_TIP") : QString());
     showSum();
     presentReport();
 }

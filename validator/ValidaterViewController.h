@@ -120,6 +120,7 @@ private:
     void showAppIcon(const QImage &icon);
     /// Shows the sum on top and the reasons in their rows; without a package, what was found.
     void showSum();
+    void clearReport();
     ReasonView *reasonView(Check check) const;
     void setReading(bool reading);
     /// Gives the keyboard to the new report, unless the user is elsewhere, and makes screen readers announce it.

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 // The texts of the validator's pane about a package as a whole, and the actions on the report.
 #include "LongWords.h"
+#include "ReasonView.h"
 #include "ReportWords.h"
 #include "ShownFact.h"
 #include "ValidaterViewController.h"
 #include "tool/TimedCaption.h"
 #include "ui_ValidaterViewController.h"
 #include "validator/bundle/BundleImages.h"
+#include "widgets/style/KeyboardFocus.h"
 #include "widgets/style/Palette.h"
 
 #include <QAccessible>
@@ -95,6 +97,17 @@ void ValidaterViewController::showSum()
                                    m_ui->validatingTitle, true);
 }
 
+void ValidaterViewController::clearReport()
+{
+    m_ui->noteLabel->hide();
+    m_ui->noteLabel->setAccessibleName(QString());
+    m_ui->factsPart->show();
+    m_ui->checksPart->show();
+    for (ReasonView *view :
+         {m_ui->appIconsReason, m_ui->defaultImagesReason, m_ui->bundleIdentifierReason, m_ui->localizationsReason})
+        view->setReason({}, {});
+}
+
 ReasonView *ValidaterViewController::reasonView(Check check) const
 {
     switch (check) {
@@ -122,8 +135,9 @@ void ValidaterViewController::presentReport()
     m_ui->reportArea->setAccessibleDescription(m_ui->noteLabel->accessibleName());
     const bool isFree = QApplication::focusWidget() == nullptr || hasKeyboard();
     if (isFree && view()->isVisible() && QApplication::activePopupWidget() == nullptr)
-        m_ui->reportArea->setFocus(Qt::OtherFocusReason);
+        m_ui->reportArea->setFocus(KeyboardFocus::reasonOfProgram());
     setReading(false);
+    m_ui->dropView->setTakesWhileHidden(true);
     QAccessibleEvent alert(m_ui->reportArea, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);
 }

@@ -1305,6 +1305,10 @@
     <source>The app’s Info.plist is missing or cannot be read, so nothing says which icons and launch images it needs.</source>
     <translation>Die Info.plist der App fehlt oder ist nicht lesbar; nichts sagt also, welche Icons und Startbilder sie braucht.</translation>
   </message>
+  <message id="VALIDATER_BOX_TIP">
+    <source>Click to see what was found</source>
+    <translation>Klicken, um zu sehen, was gefunden wurde</translation>
+  </message>
   <message id="VALIDATER_REASON_ICONS">
     <source>Missing, in pixels:</source>
     <translation>Es fehlen, in Pixeln:</translation>

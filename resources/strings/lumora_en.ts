@@ -1303,6 +1303,10 @@
     <source>The app’s Info.plist is missing or cannot be read, so nothing says which icons and launch images it needs.</source>
     <translation>The app’s Info.plist is missing or cannot be read, so nothing says which icons and launch images it needs.</translation>
   </message>
+  <message id="VALIDATER_BOX_TIP">
+    <source>Click to see what was found</source>
+    <translation>Click to see what was found</translation>
+  </message>
   <message id="VALIDATER_REASON_ICONS">
     <source>Missing, in pixels:</source>
     <translation>Missing, in pixels:</translation>

@@ -98,8 +98,10 @@ private slots:
         QVERIFY2(!pane.ui().appBuildField->isVisible(), "no facts of what is no app");
         QVERIFY(pane.tool.reportText().contains(words));
         QVERIFY(!pane.tool.reportText().contains(u"passed"_s));
-        // The next one is an app again.
-        read(pane, u"valid"_s);
+        // The next one is an app again; nothing of the last one shows meanwhile.
+        pane.tool.dropIpaFileFromDelegate(package(u"valid"_s));
+        QVERIFY(pane.ui().noteLabel->isHidden());
+        QTRY_VERIFY_WITH_TIMEOUT(pane.hasFacts(), readingTime);
         QVERIFY(pane.ui().validAppIconsBox->isVisible());
         QVERIFY(pane.ui().appBuildField->isVisible());
         QVERIFY(pane.ui().noteLabel->isHidden());
@@ -167,7 +169,8 @@ private slots:
         QVERIFY(QTest::qWaitForWindowActive(&pane.window));
         pane.ui().browseButton->setFocus(Qt::TabFocusReason);
         pane.tool.dropIpaFileFromDelegate(package(u"one icon"_s));
-        QTRY_COMPARE_WITH_TIMEOUT(QApplication::focusWidget(), pane.ui().reportArea, readingTime);
+        QTRY_VERIFY_WITH_TIMEOUT(pane.ui().cancelButton->isHidden(), readingTime);
+        QVERIFY2(pane.ui().reportArea->hasFocus(), "while it still fades in");
         QCOMPARE(pane.ui().reportArea->accessibleName(), u"Report on one icon.ipa: 1 of 6 checks failed"_s);
         QTRY_VERIFY(pane.hasFacts());
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
