@@ -9,6 +9,7 @@
 #include "widgets/style/Fonts.h"
 #include "widgets/style/Palette.h"
 
+#include <QGraphicsDropShadowEffect>
 #include <QLabel>
 
 using namespace Qt::StringLiterals;
@@ -58,6 +59,11 @@ HeaderView::HeaderView(QWidget *parent)
     styleLabel(m_title, latoRegular(20), palette::headerText);
     m_title->setTextFormat(Qt::RichText);
     m_title->setAlignment(Qt::AlignCenter);
+    auto *shadow = new QGraphicsDropShadowEffect(m_title);
+    shadow->setColor(palette::headerShadow);
+    shadow->setOffset(0, 1);
+    shadow->setBlurRadius(0);
+    m_title->setGraphicsEffect(shadow);
     // The title bar below drags the window, except at the buttons.
     for (QWidget *passive : std::initializer_list<QWidget *>{m_band, m_title, m_topBorder})
         passive->setAttribute(Qt::WA_TransparentForMouseEvents);

@@ -44,7 +44,7 @@ PopoverAlertView::PopoverAlertView(const PopoverAlert &alert)
     icon->setFixedSize(iconSide, iconSide);
 
     auto *texts = new QVBoxLayout;
-    texts->setSpacing(gap / 2);
+    texts->setSpacing(gap);
     texts->addWidget(wrappedLabel(alert.messageText, latoBold(15), this));
     texts->addWidget(wrappedLabel(alert.informativeText, latoRegular(13), this));
     texts->addStretch();
@@ -56,6 +56,7 @@ PopoverAlertView::PopoverAlertView(const PopoverAlert &alert)
     auto *row = new QHBoxLayout;
     row->setSpacing(gap);
     row->setDirection(QBoxLayout::RightToLeft);
+    row->addStretch();
     for (const QString &title : alert.buttonTitles) {
         auto *button = new IconButton(this);
         const bool isDefault = m_buttons.isEmpty();
