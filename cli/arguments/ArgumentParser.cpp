@@ -213,7 +213,7 @@ private:
                 if (argument->isGiven)
                     given << name;
             }
-            if (given.size() > 1)
+            if (given.size() > 1 && choice.isExclusive)
                 return misuse("conflicting-options",
                               commandText("CLI_CONFLICT", {{"[FIRST]", given[0]}, {"[SECOND]", given[1]}}));
             if (given.isEmpty() && choice.isRequired)

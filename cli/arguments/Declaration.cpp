@@ -52,6 +52,11 @@ void Declaration::exactlyOne(const QStringList &names)
     m_choices.push_back({names, true});
 }
 
+void Declaration::atLeastOne(const QStringList &names)
+{
+    m_choices.push_back({names, true, false});
+}
+
 void Declaration::atMostOne(const QStringList &names)
 {
     m_choices.push_back({names, false});

@@ -33,6 +33,8 @@ public:
     Argument &operand(const char *name, Argument::Target target, const char *textKey);
     /// Exactly one of these (options or operands, by their names) must be given.
     void exactlyOne(const QStringList &names);
+    /// At least one of these must be given.
+    void atLeastOne(const QStringList &names);
     /// At most one of these may be given.
     void atMostOne(const QStringList &names);
     /// A whole command line for the end of the help; each command has two. A test runs each.
@@ -44,6 +46,7 @@ public:
     {
         QStringList names;
         bool isRequired = true;
+        bool isExclusive = true;
     };
 
     const QString &commandName() const { return m_commandName; }

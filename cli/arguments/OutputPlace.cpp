@@ -38,10 +38,22 @@ Result<QString> absolutePath(const QString &given)
     return QDir::cleanPath(info.absoluteFilePath());
 }
 
-void OutputPlace::declareOn(Declaration &declaration, const char *toKey, const QStringList &others)
+void OutputPlace::declareOptions(Declaration &declaration, const char *toKey)
 {
     declaration.option("--to", &to, "DIR", toKey).in(ArgumentGroup::Output);
     declaration.option("--out", &out, "DIR", "CLI_OUT").in(ArgumentGroup::Output);
+}
+
+void OutputPlace::declareBeside(Declaration &declaration, const char *toKey, const QStringList &others)
+{
+    declareOptions(declaration, toKey);
+    declaration.atMostOne({u"--to"_s, u"--out"_s});
+    declaration.atLeastOne(QStringList{u"--to"_s, u"--out"_s} + others);
+}
+
+void OutputPlace::declareOn(Declaration &declaration, const char *toKey, const QStringList &others)
+{
+    declareOptions(declaration, toKey);
     declaration.exactlyOne(QStringList{u"--to"_s, u"--out"_s} + others);
 }
 

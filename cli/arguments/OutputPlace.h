@@ -30,6 +30,8 @@ struct OutputPlace
 
     /// `toKey` explains --to; exactly one of --to, --out and the options in `others` ("-o") must be given.
     void declareOn(Declaration &declaration, const char *toKey, const QStringList &others = {});
+    /// The same where one of `others` does without a place: each may be given with --to or --out or alone.
+    void declareBeside(Declaration &declaration, const char *toKey, const QStringList &others);
 
     bool isExact() const { return !out.isEmpty(); }
     /// DIR itself, made if it is missing.
@@ -37,6 +39,9 @@ struct OutputPlace
     /// The folder of this run: a new one of that name in --to DIR, or --out DIR. Call it after checking the input, so
     /// that a refused call leaves nothing behind.
     Result<ExportFolder> open(const QString &baseName) const;
+
+private:
+    void declareOptions(Declaration &declaration, const char *toKey);
 };
 
 } // namespace lumora

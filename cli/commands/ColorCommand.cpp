@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ColorCommand.h"
 
+#include "ColorForms.h"
 #include "cli/arguments/Declaration.h"
 #include "cli/console/CommandText.h"
 #include "color/ColorCode.h"
@@ -22,6 +23,12 @@ struct ColorArguments
 {
     QString text;
     QString notation = u"all"_s;
+    QStringList forms;
+    bool allForms = false;
+    bool displayP3 = false;
+    QString contrast;
+
+    bool isOfToday() const { return allForms || displayP3 || !forms.isEmpty() || !contrast.isEmpty(); }
 };
 
 /// Every notation by the name that --as, the lines and the JSON keys share.
@@ -66,6 +73,10 @@ void printLines(Console &console, const ColorCodes &codes, const QString &wanted
 
 ExitStatus runColor(Console &console, const ColorArguments &arguments)
 {
+    if (arguments.isOfToday())
+        return printColorForms(console, {arguments.text, arguments.allForms ? QStringList() : arguments.forms,
+                                         arguments.displayP3, arguments.contrast,
+                                         arguments.allForms || arguments.displayP3 || !arguments.forms.isEmpty()});
     const Result<ColorCodes> codes = codesForCopying(arguments.text);
     if (!codes || !isColorCode(arguments.text)) {
         console.complain(Complaint{Complaint::Kind::Failure, u"invalid-value"_s, quoted(arguments.text),
@@ -84,8 +95,14 @@ CommandBody declareColorCommand(Declaration &declaration)
     declaration.operand("TEXT", &arguments->text, "CLI_COLOR_TEXT").required();
     declaration.option("--as", &arguments->notation, "NOTATION", "CLI_COLOR_AS")
         .words({u"hex"_s, u"ios"_s, u"mac"_s, u"rgb"_s, u"css"_s, u"all"_s});
+    declaration.option("--form", &arguments->forms, "FORM", "CLI_COLOR_FORM").words(colorFormNames()).list();
+    declaration.flag("--all", &arguments->allForms, "CLI_COLOR_ALL");
+    declaration.flag("--p3", &arguments->displayP3, "CLI_COLOR_P3");
+    declaration.option("--contrast", &arguments->contrast, "COLOR", "CLI_COLOR_CONTRAST");
+    declaration.atMostOne({u"--as"_s, u"--form"_s, u"--all"_s});
     declaration.example("lumora color '#34485e'");
     declaration.example("lumora color 34485e --as css");
+    declaration.example("lumora color 'rgb(51 102 153)' --form swiftui,css-oklch --contrast white");
     return [arguments](Console &console) { return runColor(console, *arguments); };
 }
 

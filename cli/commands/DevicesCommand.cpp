@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "DevicesCommand.h"
 
+#include "DeviceModels.h"
+#include "cli/arguments/ArgumentParser.h"
 #include "cli/arguments/Declaration.h"
+#include "cli/arguments/Suggestion.h"
 #include "cli/console/CommandText.h"
 #include "devices/DeviceFilter.h"
 
@@ -20,9 +23,16 @@ namespace
 
 struct DevicesArguments
 {
-    QString ios;
+    DeviceModelsRequest models;
     QStringList features;
 };
+
+/// The versions that the classic list is asked for.
+const QStringList &iosVersions()
+{
+    static const QStringList versions{u"4"_s, u"5"_s, u"6"_s, u"7"_s};
+    return versions;
+}
 
 QString text(std::string_view view)
 {
@@ -40,8 +50,8 @@ QStringList featureKeys()
 FilterDictionary filterFrom(const DevicesArguments &arguments)
 {
     FilterDictionary filter;
-    if (!arguments.ios.isEmpty())
-        filter.setMaxIos(arguments.ios.toFloat());
+    if (!arguments.models.ios.isEmpty())
+        filter.setMaxIos(arguments.models.ios.toFloat());
     for (const QString &key : arguments.features) {
         if (const DeviceFeature *feature = deviceFeature(key.toStdString()))
             filter.setFeature(feature->key, true);
@@ -84,8 +94,24 @@ QString groupLine(const QString &group, const std::vector<DeviceRecord> &devices
     return group + u": "_s + (models.isEmpty() ? commandText("CLI_NONE") : models.join(u", "_s));
 }
 
+/// What is wrong with a version that only today's list knows, as the parser words it for a fixed list of words.
+Complaint wrongVersion(const QString &version)
+{
+    return misuse(
+        "bad-value",
+        commandText("CLI_WRONG_CHOICE",
+                    {{"[OPTION]", u"--ios"_s}, {"[WORDS]", alternatives(iosVersions())}, {"[VALUE]", quoted(version)}}),
+        didYouMean(nearestWords(version, iosVersions())));
+}
+
 ExitStatus runDevices(Console &console, const DevicesArguments &arguments)
 {
+    if (arguments.models.isMeant())
+        return printDeviceModels(console, arguments.models);
+    if (const QString &ios = arguments.models.ios; !ios.isEmpty() && !iosVersions().contains(ios)) {
+        console.complain(wrongVersion(ios));
+        return console.finish(ExitStatus::Usage);
+    }
     DeviceLists devices = setupData();
     filterDevices(devices, filterFrom(arguments));
     console.print(groupLine(u"iPhone"_s, devices.iPhones));
@@ -101,10 +127,15 @@ ExitStatus runDevices(Console &console, const DevicesArguments &arguments)
 CommandBody declareDevicesCommand(Declaration &declaration)
 {
     const auto arguments = std::make_shared<DevicesArguments>();
-    declaration.option("--ios", &arguments->ios, "VERSION", "CLI_DEVICES_IOS").words({u"4"_s, u"5"_s, u"6"_s, u"7"_s});
+    declaration.option("--ios", &arguments->models.ios, "VERSION", "CLI_DEVICES_IOS");
     declaration.option("--feature", &arguments->features, "KEY", "CLI_DEVICES_FEATURE").words(featureKeys()).list();
+    arguments->models.declareOn(declaration);
+    for (const char *option : {"--today", "--family", "--chip", "--capability", "--screen", "--biometry", "--with",
+                               "--search", "--model", "--data", "--csv"})
+        declaration.atMostOne({u"--feature"_s, QString::fromLatin1(option)});
     declaration.example("lumora devices --ios 7 --feature bluetooth_le");
     declaration.example("lumora devices --feature gps,compass --json");
+    declaration.example("lumora devices --today --ios 15.. --family ipad --capability arkit,metal");
     return [arguments](Console &console) { return runDevices(console, *arguments); };
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "DownscaleCommand.h"
 
+#include "DensityScaling.h"
 #include "cli/arguments/Declaration.h"
 #include "cli/arguments/OutputPlace.h"
 #include "cli/console/CommandText.h"
@@ -31,6 +32,7 @@ struct DownscaleArguments
 {
     QStringList sources;
     OutputPlace place;
+    DensityScalingRequest densities;
     bool overwrite = false;
     bool dryRun = false;
 };
@@ -122,6 +124,9 @@ Result<QString> destination(const DownscaleArguments &arguments)
 
 ExitStatus runDownscale(Console &console, const DownscaleArguments &arguments)
 {
+    if (arguments.densities.isMeant())
+        return scaleToDensities(console, arguments.sources, arguments.densities, arguments.place, arguments.overwrite,
+                                arguments.dryRun);
     const Result<QString> folder = destination(arguments);
     if (!folder) {
         console.complain(folder.failure());
@@ -156,9 +161,12 @@ CommandBody declareDownscaleCommand(Declaration &declaration)
     declaration.operand("SOURCE", &arguments->sources, "CLI_DOWNSCALE_SOURCE").required();
     declaration.flag("--overwrite", &arguments->overwrite, "CLI_DOWNSCALE_OVERWRITE");
     declaration.flag("--dry-run", &arguments->dryRun, "CLI_DOWNSCALE_DRY_RUN");
-    arguments->place.declareOn(declaration, "CLI_DOWNSCALE_TO");
+    arguments->densities.declareOn(declaration);
+    arguments->place.declareBeside(declaration, "CLI_DOWNSCALE_TO",
+                                   {u"--layout"_s, u"--from"_s, u"--to-scales"_s, u"--format"_s, u"--quality"_s});
     declaration.example("lumora downscale art --out res --dry-run");
     declaration.example("lumora downscale logo@2x.png --to res --overwrite");
+    declaration.example("lumora downscale art --from 3x --to-scales 2x,1x --layout ios --dry-run");
     return [arguments](Console &console) { return runDownscale(console, *arguments); };
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "PlaceholdersCommand.h"
 
+#include "LabeledPlaceholders.h"
 #include "cli/arguments/Declaration.h"
 #include "cli/arguments/OutputPlace.h"
 #include "cli/arguments/TypedNumber.h"
@@ -28,8 +29,7 @@ namespace
 
 struct PlaceholdersArguments
 {
-    QString set;
-    QStringList sizes;
+    LabeledPlaceholdersRequest labeled; ///< its sets and sizes serve the grey pictures, too
     OutputPlace place;
 };
 
@@ -53,12 +53,13 @@ std::optional<Complaint> problemWith(const QString &text, const TypedSize &size)
 std::optional<std::vector<QSize>> wantedSizes(Console &console, const PlaceholdersArguments &arguments,
                                               ExitStatus &status)
 {
-    if (!arguments.set.isEmpty()) {
-        const auto set = placeholderSizes(arguments.set == u"ios" ? PlaceholderSet::Ios : PlaceholderSet::Mac);
+    if (!arguments.labeled.sets.isEmpty()) {
+        const auto set =
+            placeholderSizes(arguments.labeled.sets[0] == u"ios" ? PlaceholderSet::Ios : PlaceholderSet::Mac);
         return std::vector<QSize>(set.begin(), set.end());
     }
     std::vector<QSize> sizes;
-    for (const QString &text : arguments.sizes) {
+    for (const QString &text : arguments.labeled.sizes) {
         const TypedSize size = typedSize(text);
         if (const std::optional<Complaint> problem = problemWith(text, size)) {
             console.complain(*problem);
@@ -102,6 +103,10 @@ ExitStatus report(Console &console, const PlaceholderRun &run, qsizetype expecte
 
 ExitStatus runPlaceholders(Console &console, const PlaceholdersArguments &arguments)
 {
+    if (!arguments.labeled.checkedFolder.isEmpty())
+        return checkScreenshots(console, arguments.labeled);
+    if (arguments.labeled.isMeant())
+        return writeLabeledPlaceholders(console, arguments.labeled, arguments.place);
     ExitStatus status = ExitStatus::Refused;
     const std::optional<std::vector<QSize>> sizes = wantedSizes(console, arguments, status);
     if (!sizes)
@@ -130,12 +135,24 @@ ExitStatus runPlaceholders(Console &console, const PlaceholdersArguments &argume
 CommandBody declarePlaceholdersCommand(Declaration &declaration)
 {
     const auto arguments = std::make_shared<PlaceholdersArguments>();
-    declaration.option("--set", &arguments->set, "NAME", "CLI_PLACEHOLDERS_SET").words({u"ios"_s, u"mac"_s});
-    declaration.option("--size", &arguments->sizes, "WxH", "CLI_PLACEHOLDERS_SIZE").list();
-    declaration.exactlyOne({u"--set"_s, u"--size"_s});
-    arguments->place.declareOn(declaration, "CLI_PLACEHOLDERS_TO");
+    LabeledPlaceholdersRequest &labeled = arguments->labeled;
+    declaration.option("--set", &labeled.sets, "NAME", "CLI_PLACEHOLDERS_SET")
+        .words(QStringList{u"ios"_s, u"mac"_s} + storeSetNames())
+        .list();
+    declaration.option("--size", &labeled.sizes, "WxH", "CLI_PLACEHOLDERS_SIZE").list();
+    labeled.declareOn(declaration);
+    declaration.atLeastOne({u"--set"_s, u"--size"_s, u"--check"_s});
+    for (const char *option : {"--set", "--check", "--text", "--foreground", "--background", "--format", "--quality"}) {
+        const QString name = QString::fromLatin1(option);
+        if (name == u"--set" || name == u"--check")
+            declaration.atMostOne({u"--size"_s, name});
+        if (name != u"--set" && name != u"--check")
+            declaration.atMostOne({u"--check"_s, name});
+    }
+    arguments->place.declareOn(declaration, "CLI_PLACEHOLDERS_TO", {u"--check"_s});
     declaration.example("lumora placeholders --set ios --to build");
     declaration.example("lumora placeholders --size 1136x640,64x64 --out build/placeholders");
+    declaration.example("lumora placeholders --set play,social --text 'Soon: {size}' --format svg --to build");
     return [arguments](Console &console) { return runPlaceholders(console, *arguments); };
 }
 

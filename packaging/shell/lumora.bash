@@ -18,10 +18,13 @@ _lumora_options() {
   case $1 in
     icons) echo "--example --platform --to --out $_lumora_general" ;;
     icon) echo "--example --size --corners --to --out --output $_lumora_general" ;;
-    placeholders) echo "--set --size --to --out $_lumora_general" ;;
-    downscale) echo "--overwrite --dry-run --to --out $_lumora_general" ;;
-    color) echo "--as $_lumora_general" ;;
-    devices) echo "--ios --feature $_lumora_general" ;;
+    placeholders) echo "--set --size --text --foreground --background --format --quality --check --to --out $_lumora_general" ;;
+    downscale) echo "--overwrite --dry-run --layout --from --to-scales --format --quality --to --out $_lumora_general" ;;
+    color) echo "--as --form --all --p3 --contrast $_lumora_general" ;;
+    devices)
+      echo "--ios --feature --today --family --chip --capability --screen --biometry --with --search --model --data --csv" \
+        "$_lumora_general"
+      ;;
     validate) echo "--icon --no-sandbox $_lumora_general" ;;
     help | version) ;;
     *) echo "--tool $_lumora_general" ;;
@@ -35,14 +38,31 @@ _lumora_values() {
     icon:--output | icon:-o | validate:--icon) echo file ;;
     icons:--platform) echo "list:iphone ipad mac android web-touch favicon all" ;;
     icon:--corners) echo "none ios6 ios7" ;;
-    placeholders:--set) echo "ios mac" ;;
+    placeholders:--set) echo "list:ios mac app-store play feature-graphic tv watch social launch" ;;
+    placeholders:--check) echo folder ;;
+    placeholders:--format) echo "png webp svg" ;;
+    downscale:--format) echo "png webp" ;;
+    downscale:--layout) echo "ios android flutter react-native web" ;;
+    downscale:--from) echo "1.5x 2x 3x 4x hdpi xhdpi xxhdpi xxxhdpi" ;;
+    downscale:--to-scales) echo "list:1x 1.5x 2x 3x ldpi mdpi tvdpi hdpi xhdpi xxhdpi" ;;
+    color:--form)
+      echo "list:swiftui uikit-swift uikit-objc appkit-swift appkit-objc colorset compose flutter android-xml kotlin" \
+        "css-hex css-rgb css-hsl css-hwb css-oklch css-p3 maui tailwind qml"
+      ;;
+    devices:--family) echo "list:iphone ipad ipod" ;;
+    devices:--capability) echo "list:armv7 arm64 metal arkit iphone-ipad-minimum-performance-a12 iphone-performance-gaming-tier" ;;
+    devices:--screen) echo "list:6.9 6.5 6.3 6.1 5.5 4.7 4 3.5 13 11 10.5 9.7" ;;
+    devices:--biometry) echo "list:none touchid faceid" ;;
+    devices:--with) echo "list:dynamic-island lidar usb-c 5g" ;;
+    devices:--data) echo file ;;
     color:--as) echo "hex ios mac rgb css all" ;;
     devices:--ios) echo "4 5 6 7" ;;
     devices:--feature)
       echo "list:retina multitask siri video_rec compass gyroscope gps back_cam front_cam flash_cam bluetooth_le" \
         "opengl_2 opengl_3"
       ;;
-    icon:--size | placeholders:--size) echo anything ;;
+    icon:--size | placeholders:--size | *:--quality | *:--text | *:--foreground | *:--background) echo anything ;;
+    color:--contrast | devices:--chip | devices:--search | devices:--model) echo anything ;;
     :--tool) echo "$_lumora_tools" ;;
   esac
 }

@@ -1647,20 +1647,20 @@
     <translation>Ein Icon in die Datei FILE schreiben, bei - auf die Standardausgabe</translation>
   </message>
   <message id="CLI_PLACEHOLDERS_SET">
-    <source>Screen sizes of iOS devices or of the Mac: [WORDS]</source>
-    <translation>Bildschirmgrößen der iOS-Geräte oder des Mac: [WORDS]</translation>
+    <source>Sizes of classic screens, stores, sites and launch pictures, several separated by commas: [WORDS]</source>
+    <translation>Größen klassischer Bildschirme, von Stores, Seiten und Startbildern, mehrere durch Kommas getrennt: [WORDS]</translation>
   </message>
   <message id="CLI_PLACEHOLDERS_SIZE">
-    <source>Width and height, each from 1 to 9999 pixels; several separated by commas</source>
-    <translation>Breite und Höhe, je 1 bis 9999 Pixel; mehrere durch Kommas getrennt</translation>
+    <source>Width and height, each from 1 to 9999 pixels, or in points with a density such as 800x800@2x; several separated by commas</source>
+    <translation>Breite und Höhe, je 1 bis 9999 Pixel, oder in Punkten mit Auflösung wie 800x800@2x; mehrere durch Kommas getrennt</translation>
   </message>
   <message id="CLI_PLACEHOLDERS_TO">
     <source>Make a fresh folder "placeholders" in DIR (placeholders_1 where that is taken)</source>
     <translation>Einen neuen Ordner "placeholders" in DIR anlegen (placeholders_1, wenn es ihn schon gibt)</translation>
   </message>
   <message id="CLI_DOWNSCALE_SOURCE">
-    <source>PNG files marked @2x or -hd, or folders that are searched for such files</source>
-    <translation>PNG-Dateien mit @2x oder -hd im Namen oder Ordner, die nach solchen durchsucht werden</translation>
+    <source>PNG files marked @2x or -hd, or folders that are searched for such files; with --layout, folders of pictures of the largest density</source>
+    <translation>PNG-Dateien mit @2x oder -hd im Namen oder Ordner, die nach solchen durchsucht werden; mit --layout Ordner mit Bildern der größten Auflösung</translation>
   </message>
   <message id="CLI_DOWNSCALE_OVERWRITE">
     <source>Replace files that are there already, the sources among them</source>
@@ -1671,8 +1671,8 @@
     <translation>Ausgeben, was geschrieben würde, Vorhandenes markieren; nichts schreiben</translation>
   </message>
   <message id="CLI_DOWNSCALE_TO">
-    <source>Write all halves into DIR, without sub-folders</source>
-    <translation>Alle Hälften in DIR schreiben, ohne Unterordner</translation>
+    <source>Write all halves into DIR, without sub-folders; with --layout in the folders of their sources</source>
+    <translation>Alle Hälften in DIR schreiben, ohne Unterordner; mit --layout in den Ordnern ihrer Quellen</translation>
   </message>
   <message id="CLI_COLOR_TEXT">
     <source>Three or six hexadecimal digits, with or without #</source>
@@ -1683,8 +1683,8 @@
     <translation>Schreibweise: [WORDS]; all gibt jede mit ihrem Namen aus</translation>
   </message>
   <message id="CLI_DEVICES_IOS">
-    <source>Oldest iOS version the app runs on: [WORDS]</source>
-    <translation>Älteste iOS-Version, auf der die App läuft: [WORDS]</translation>
+    <source>Oldest iOS version the app runs on: 4, 5, 6 or 7; with --today a range such as 15.., ..12 or 9..12.4</source>
+    <translation>Älteste iOS-Version, auf der die App läuft: 4, 5, 6 oder 7; mit --today ein Bereich wie 15.., ..12 oder 9..12.4</translation>
   </message>
   <message id="CLI_DEVICES_FEATURE">
     <source>What the app needs; several separated by commas: [WORDS]</source>
@@ -2145,6 +2145,166 @@
   <message id="CLI_NO_DISPLAY">
     <source>no display to open the window on; these commands work without one: [WORDS]</source>
     <translation>kein Bildschirm für das Fenster; ohne einen gehen diese Befehle: [WORDS]</translation>
+  </message>
+  <message id="CLI_COLOR_FORM">
+    <source>Today's forms to print, several separated by commas: [WORDS]; TEXT is understood in any of them, or as a CSS name</source>
+    <translation>Heutige Formen, mehrere durch Kommas getrennt: [WORDS]; TEXT wird in jeder davon verstanden, auch als CSS-Name</translation>
+  </message>
+  <message id="CLI_COLOR_ALL">
+    <source>Print every form of today, each with its name</source>
+    <translation>Alle heutigen Formen ausgeben, jede mit ihrem Namen</translation>
+  </message>
+  <message id="CLI_COLOR_P3">
+    <source>Print forms that have one in their Display P3 variant</source>
+    <translation>Formen, die eine haben, in ihrer Display-P3-Variante ausgeben</translation>
+  </message>
+  <message id="CLI_COLOR_CONTRAST">
+    <source>Judge the contrast with another color by WCAG 2</source>
+    <translation>Den Kontrast zu einer anderen Farbe nach WCAG 2 beurteilen</translation>
+  </message>
+  <message id="CLI_COLOR_NO_FORM">
+    <source>is no color in a form that is known</source>
+    <translation>ist keine Farbe in einer bekannten Form</translation>
+  </message>
+  <message id="CLI_COLOR_NO_FORM_ADVICE">
+    <source>write it as code would, such as #336699, rgb(51 102 153) or Color(0xFF336699), or as a CSS name</source>
+    <translation>schreiben Sie sie wie im Code, etwa #336699, rgb(51 102 153) oder Color(0xFF336699), oder als CSS-Name</translation>
+  </message>
+  <message id="CLI_COLOR_CLIPPED">
+    <source>[COLOR] is beyond sRGB; its sRGB forms are the nearest by component</source>
+    <translation>[COLOR] liegt außerhalb von sRGB; die sRGB-Formen sind je Komponente die nächsten</translation>
+  </message>
+  <message id="CLI_DEVICES_TODAY">
+    <source>Use the list of all models to this day; with --json each with its facts</source>
+    <translation>Die Liste aller Modelle bis heute nehmen; mit --json jedes mit seinen Daten</translation>
+  </message>
+  <message id="CLI_DEVICES_FAMILY">
+    <source>Of today's models, the families wanted: [WORDS]</source>
+    <translation>Von den heutigen Modellen die gewünschten Familien: [WORDS]</translation>
+  </message>
+  <message id="CLI_DEVICES_CHIP">
+    <source>Of today's models, those with a chip such as A12 or M4</source>
+    <translation>Von den heutigen Modellen die mit einem Chip wie A12 oder M4</translation>
+  </message>
+  <message id="CLI_DEVICES_CAPABILITY">
+    <source>Of today's models, those with what the app requires: [WORDS]</source>
+    <translation>Von den heutigen Modellen die mit dem, was die App verlangt: [WORDS]</translation>
+  </message>
+  <message id="CLI_DEVICES_SCREEN">
+    <source>Of today's models, those of a screen class of the App Store: [WORDS]</source>
+    <translation>Von den heutigen Modellen die einer Bildschirmklasse des App Store: [WORDS]</translation>
+  </message>
+  <message id="CLI_DEVICES_BIOMETRY">
+    <source>Of today's models, those with the biometry: [WORDS]</source>
+    <translation>Von den heutigen Modellen die mit der Biometrie: [WORDS]</translation>
+  </message>
+  <message id="CLI_DEVICES_WITH">
+    <source>Of today's models, those that have: [WORDS]</source>
+    <translation>Von den heutigen Modellen die mit: [WORDS]</translation>
+  </message>
+  <message id="CLI_DEVICES_SEARCH">
+    <source>Of today's models, those with these words in name or identifier</source>
+    <translation>Von den heutigen Modellen die mit diesen Wörtern in Name oder Kennung</translation>
+  </message>
+  <message id="CLI_DEVICES_MODEL">
+    <source>Print one of today's models by name or identifier; may be given several times to compare</source>
+    <translation>Ein heutiges Modell nach Name oder Kennung ausgeben; mehrmals gegeben zum Vergleich</translation>
+  </message>
+  <message id="CLI_DEVICES_DATA">
+    <source>Read today's models from a list of one's own, in the form of the built-in one</source>
+    <translation>Die heutigen Modelle aus einer eigenen Liste in der Form der eingebauten lesen</translation>
+  </message>
+  <message id="CLI_DEVICES_CSV">
+    <source>Print today's models as comma-separated values</source>
+    <translation>Die heutigen Modelle als kommagetrennte Werte ausgeben</translation>
+  </message>
+  <message id="CLI_DEVICES_NO_RANGE">
+    <source>is no range of versions such as 15.., ..12 or 9..12.4</source>
+    <translation>ist kein Bereich von Versionen wie 15.., ..12 oder 9..12.4</translation>
+  </message>
+  <message id="CLI_DEVICES_NO_MODEL">
+    <source>is no model in the list</source>
+    <translation>ist kein Modell in der Liste</translation>
+  </message>
+  <message id="CLI_DEVICES_NO_MODEL_ADVICE">
+    <source>name it as in lumora devices --today, or by identifier such as iPhone15,2</source>
+    <translation>nennen Sie es wie in lumora devices --today oder mit der Kennung wie iPhone15,2</translation>
+  </message>
+  <message id="CLI_DEVICES_DATA_ADVICE">
+    <source>mend the list</source>
+    <translation>bringen Sie die Liste in Ordnung</translation>
+  </message>
+  <message id="CLI_PLACEHOLDERS_TEXT">
+    <source>What the pictures say; {size}, {width} and {height} are filled in, \n begins a line</source>
+    <translation>Was auf den Bildern steht; {size}, {width} und {height} werden ersetzt, \n beginnt eine Zeile</translation>
+  </message>
+  <message id="CLI_PLACEHOLDERS_FOREGROUND">
+    <source>Color of the text, in any form of lumora color</source>
+    <translation>Farbe des Textes, in jeder Form von lumora color</translation>
+  </message>
+  <message id="CLI_PLACEHOLDERS_BACKGROUND">
+    <source>Color of the ground, in any form of lumora color</source>
+    <translation>Farbe des Grundes, in jeder Form von lumora color</translation>
+  </message>
+  <message id="CLI_PLACEHOLDERS_FORMAT">
+    <source>File type: [WORDS]</source>
+    <translation>Dateityp: [WORDS]</translation>
+  </message>
+  <message id="CLI_QUALITY">
+    <source>Pack WebP with loss, at a quality from 0 to 100</source>
+    <translation>WebP mit Verlust packen, in einer Qualität von 0 bis 100</translation>
+  </message>
+  <message id="CLI_PLACEHOLDERS_CHECK">
+    <source>Write nothing; hold the screenshots in DIR against the stores' rules, with --set app-store or play against those</source>
+    <translation>Nichts schreiben; die Bildschirmfotos in DIR an den Regeln der Stores messen, mit --set app-store oder play an deren</translation>
+  </message>
+  <message id="CLI_PLACEHOLDERS_NO_SHAPE">
+    <source>cannot be written in the labels' font</source>
+    <translation>lässt sich in der Schrift der Aufschriften nicht schreiben</translation>
+  </message>
+  <message id="CLI_PLACEHOLDERS_CHECKED">
+    <source>[COUNT] pictures looked at</source>
+    <translation>[COUNT] Bilder angesehen</translation>
+  </message>
+  <message id="CLI_NEEDS">
+    <source>[FIRST] goes with [SECOND] only</source>
+    <translation>[FIRST] gehört zu [SECOND]</translation>
+  </message>
+  <message id="CLI_DOWNSCALE_LAYOUT">
+    <source>Make all missing densities of the pictures in the folders, filed as in projects for: [WORDS]</source>
+    <translation>Alle fehlenden Auflösungen der Bilder in den Ordnern anlegen, abgelegt wie in Projekten für: [WORDS]</translation>
+  </message>
+  <message id="CLI_DOWNSCALE_FROM">
+    <source>Density to scale from, such as 3x or xxxhdpi; the largest of each picture where none is given</source>
+    <translation>Auflösung, von der skaliert wird, etwa 3x oder xxxhdpi; ohne Angabe die größte jedes Bildes</translation>
+  </message>
+  <message id="CLI_DOWNSCALE_TO_SCALES">
+    <source>Densities to make, several separated by commas, such as 2x,1x</source>
+    <translation>Auflösungen, die entstehen sollen, mehrere durch Kommas getrennt, etwa 2x,1x</translation>
+  </message>
+  <message id="CLI_DOWNSCALE_FORMAT">
+    <source>File type of the densities: [WORDS]; that of the source where none is given</source>
+    <translation>Dateityp der Auflösungen: [WORDS]; ohne Angabe der der Quelle</translation>
+  </message>
+  <message id="CLI_DOWNSCALE_ROUNDED">
+    <source>rounded to whole pixels</source>
+    <translation>auf ganze Pixel gerundet</translation>
+  </message>
+  <message id="CLI_DOWNSCALE_NO_SCALE">
+    <source>is no density; give 1x, 1.5x, 2x, 3x, 4x or a name such as xxhdpi</source>
+    <translation>ist keine Auflösung; geben Sie 1x, 1.5x, 2x, 3x, 4x oder einen Namen wie xxhdpi an</translation>
+  </message>
+  <message id="CLI_DOWNSCALE_NOT_BELOW">
+    <source>[SCALE] is not below [FROM]</source>
+    <translation>[SCALE] ist nicht kleiner als [FROM]</translation>
+  </message>
+  <message id="CLI_DOWNSCALE_NOT_OF_LAYOUT">
+    <source>[SCALE] has no place in the layout [LAYOUT]</source>
+    <translation>[SCALE] hat in der Ablage [LAYOUT] keinen Platz</translation>
+  </message>
+  <message id="CLI_DOWNSCALE_SOURCES_ADVICE">
+    <source>use folders of PNG or WebP files that state their density, such as logo@3x.png</source>
+    <translation>nehmen Sie Ordner mit PNG- oder WebP-Dateien, die ihre Auflösung nennen, etwa logo@3x.png</translation>
   </message>
 </context>
 </TS>

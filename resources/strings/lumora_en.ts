@@ -1645,20 +1645,20 @@
     <translation>Write one icon to FILE, or to standard output for -</translation>
   </message>
   <message id="CLI_PLACEHOLDERS_SET">
-    <source>Screen sizes of iOS devices or of the Mac: [WORDS]</source>
-    <translation>Screen sizes of iOS devices or of the Mac: [WORDS]</translation>
+    <source>Sizes of classic screens, stores, sites and launch pictures, several separated by commas: [WORDS]</source>
+    <translation>Sizes of classic screens, stores, sites and launch pictures, several separated by commas: [WORDS]</translation>
   </message>
   <message id="CLI_PLACEHOLDERS_SIZE">
-    <source>Width and height, each from 1 to 9999 pixels; several separated by commas</source>
-    <translation>Width and height, each from 1 to 9999 pixels; several separated by commas</translation>
+    <source>Width and height, each from 1 to 9999 pixels, or in points with a density such as 800x800@2x; several separated by commas</source>
+    <translation>Width and height, each from 1 to 9999 pixels, or in points with a density such as 800x800@2x; several separated by commas</translation>
   </message>
   <message id="CLI_PLACEHOLDERS_TO">
     <source>Make a fresh folder "placeholders" in DIR (placeholders_1 where that is taken)</source>
     <translation>Make a fresh folder "placeholders" in DIR (placeholders_1 where that is taken)</translation>
   </message>
   <message id="CLI_DOWNSCALE_SOURCE">
-    <source>PNG files marked @2x or -hd, or folders that are searched for such files</source>
-    <translation>PNG files marked @2x or -hd, or folders that are searched for such files</translation>
+    <source>PNG files marked @2x or -hd, or folders that are searched for such files; with --layout, folders of pictures of the largest density</source>
+    <translation>PNG files marked @2x or -hd, or folders that are searched for such files; with --layout, folders of pictures of the largest density</translation>
   </message>
   <message id="CLI_DOWNSCALE_OVERWRITE">
     <source>Replace files that are there already, the sources among them</source>
@@ -1669,8 +1669,8 @@
     <translation>Print what would be written and mark what exists; write nothing</translation>
   </message>
   <message id="CLI_DOWNSCALE_TO">
-    <source>Write all halves into DIR, without sub-folders</source>
-    <translation>Write all halves into DIR, without sub-folders</translation>
+    <source>Write all halves into DIR, without sub-folders; with --layout in the folders of their sources</source>
+    <translation>Write all halves into DIR, without sub-folders; with --layout in the folders of their sources</translation>
   </message>
   <message id="CLI_COLOR_TEXT">
     <source>Three or six hexadecimal digits, with or without #</source>
@@ -1681,8 +1681,8 @@
     <translation>Notation to print: [WORDS]; all prints each with its name</translation>
   </message>
   <message id="CLI_DEVICES_IOS">
-    <source>Oldest iOS version the app runs on: [WORDS]</source>
-    <translation>Oldest iOS version the app runs on: [WORDS]</translation>
+    <source>Oldest iOS version the app runs on: 4, 5, 6 or 7; with --today a range such as 15.., ..12 or 9..12.4</source>
+    <translation>Oldest iOS version the app runs on: 4, 5, 6 or 7; with --today a range such as 15.., ..12 or 9..12.4</translation>
   </message>
   <message id="CLI_DEVICES_FEATURE">
     <source>What the app needs; several separated by commas: [WORDS]</source>
@@ -2143,6 +2143,166 @@
   <message id="CLI_NO_DISPLAY">
     <source>no display to open the window on; these commands work without one: [WORDS]</source>
     <translation>no display to open the window on; these commands work without one: [WORDS]</translation>
+  </message>
+  <message id="CLI_COLOR_FORM">
+    <source>Today's forms to print, several separated by commas: [WORDS]; TEXT is understood in any of them, or as a CSS name</source>
+    <translation>Today's forms to print, several separated by commas: [WORDS]; TEXT is understood in any of them, or as a CSS name</translation>
+  </message>
+  <message id="CLI_COLOR_ALL">
+    <source>Print every form of today, each with its name</source>
+    <translation>Print every form of today, each with its name</translation>
+  </message>
+  <message id="CLI_COLOR_P3">
+    <source>Print forms that have one in their Display P3 variant</source>
+    <translation>Print forms that have one in their Display P3 variant</translation>
+  </message>
+  <message id="CLI_COLOR_CONTRAST">
+    <source>Judge the contrast with another color by WCAG 2</source>
+    <translation>Judge the contrast with another color by WCAG 2</translation>
+  </message>
+  <message id="CLI_COLOR_NO_FORM">
+    <source>is no color in a form that is known</source>
+    <translation>is no color in a form that is known</translation>
+  </message>
+  <message id="CLI_COLOR_NO_FORM_ADVICE">
+    <source>write it as code would, such as #336699, rgb(51 102 153) or Color(0xFF336699), or as a CSS name</source>
+    <translation>write it as code would, such as #336699, rgb(51 102 153) or Color(0xFF336699), or as a CSS name</translation>
+  </message>
+  <message id="CLI_COLOR_CLIPPED">
+    <source>[COLOR] is beyond sRGB; its sRGB forms are the nearest by component</source>
+    <translation>[COLOR] is beyond sRGB; its sRGB forms are the nearest by component</translation>
+  </message>
+  <message id="CLI_DEVICES_TODAY">
+    <source>Use the list of all models to this day; with --json each with its facts</source>
+    <translation>Use the list of all models to this day; with --json each with its facts</translation>
+  </message>
+  <message id="CLI_DEVICES_FAMILY">
+    <source>Of today's models, the families wanted: [WORDS]</source>
+    <translation>Of today's models, the families wanted: [WORDS]</translation>
+  </message>
+  <message id="CLI_DEVICES_CHIP">
+    <source>Of today's models, those with a chip such as A12 or M4</source>
+    <translation>Of today's models, those with a chip such as A12 or M4</translation>
+  </message>
+  <message id="CLI_DEVICES_CAPABILITY">
+    <source>Of today's models, those with what the app requires: [WORDS]</source>
+    <translation>Of today's models, those with what the app requires: [WORDS]</translation>
+  </message>
+  <message id="CLI_DEVICES_SCREEN">
+    <source>Of today's models, those of a screen class of the App Store: [WORDS]</source>
+    <translation>Of today's models, those of a screen class of the App Store: [WORDS]</translation>
+  </message>
+  <message id="CLI_DEVICES_BIOMETRY">
+    <source>Of today's models, those with the biometry: [WORDS]</source>
+    <translation>Of today's models, those with the biometry: [WORDS]</translation>
+  </message>
+  <message id="CLI_DEVICES_WITH">
+    <source>Of today's models, those that have: [WORDS]</source>
+    <translation>Of today's models, those that have: [WORDS]</translation>
+  </message>
+  <message id="CLI_DEVICES_SEARCH">
+    <source>Of today's models, those with these words in name or identifier</source>
+    <translation>Of today's models, those with these words in name or identifier</translation>
+  </message>
+  <message id="CLI_DEVICES_MODEL">
+    <source>Print one of today's models by name or identifier; may be given several times to compare</source>
+    <translation>Print one of today's models by name or identifier; may be given several times to compare</translation>
+  </message>
+  <message id="CLI_DEVICES_DATA">
+    <source>Read today's models from a list of one's own, in the form of the built-in one</source>
+    <translation>Read today's models from a list of one's own, in the form of the built-in one</translation>
+  </message>
+  <message id="CLI_DEVICES_CSV">
+    <source>Print today's models as comma-separated values</source>
+    <translation>Print today's models as comma-separated values</translation>
+  </message>
+  <message id="CLI_DEVICES_NO_RANGE">
+    <source>is no range of versions such as 15.., ..12 or 9..12.4</source>
+    <translation>is no range of versions such as 15.., ..12 or 9..12.4</translation>
+  </message>
+  <message id="CLI_DEVICES_NO_MODEL">
+    <source>is no model in the list</source>
+    <translation>is no model in the list</translation>
+  </message>
+  <message id="CLI_DEVICES_NO_MODEL_ADVICE">
+    <source>name it as in lumora devices --today, or by identifier such as iPhone15,2</source>
+    <translation>name it as in lumora devices --today, or by identifier such as iPhone15,2</translation>
+  </message>
+  <message id="CLI_DEVICES_DATA_ADVICE">
+    <source>mend the list</source>
+    <translation>mend the list</translation>
+  </message>
+  <message id="CLI_PLACEHOLDERS_TEXT">
+    <source>What the pictures say; {size}, {width} and {height} are filled in, \n begins a line</source>
+    <translation>What the pictures say; {size}, {width} and {height} are filled in, \n begins a line</translation>
+  </message>
+  <message id="CLI_PLACEHOLDERS_FOREGROUND">
+    <source>Color of the text, in any form of lumora color</source>
+    <translation>Color of the text, in any form of lumora color</translation>
+  </message>
+  <message id="CLI_PLACEHOLDERS_BACKGROUND">
+    <source>Color of the ground, in any form of lumora color</source>
+    <translation>Color of the ground, in any form of lumora color</translation>
+  </message>
+  <message id="CLI_PLACEHOLDERS_FORMAT">
+    <source>File type: [WORDS]</source>
+    <translation>File type: [WORDS]</translation>
+  </message>
+  <message id="CLI_QUALITY">
+    <source>Pack WebP with loss, at a quality from 0 to 100</source>
+    <translation>Pack WebP with loss, at a quality from 0 to 100</translation>
+  </message>
+  <message id="CLI_PLACEHOLDERS_CHECK">
+    <source>Write nothing; hold the screenshots in DIR against the stores' rules, with --set app-store or play against those</source>
+    <translation>Write nothing; hold the screenshots in DIR against the stores' rules, with --set app-store or play against those</translation>
+  </message>
+  <message id="CLI_PLACEHOLDERS_NO_SHAPE">
+    <source>cannot be written in the labels' font</source>
+    <translation>cannot be written in the labels' font</translation>
+  </message>
+  <message id="CLI_PLACEHOLDERS_CHECKED">
+    <source>[COUNT] pictures looked at</source>
+    <translation>[COUNT] pictures looked at</translation>
+  </message>
+  <message id="CLI_NEEDS">
+    <source>[FIRST] goes with [SECOND] only</source>
+    <translation>[FIRST] goes with [SECOND] only</translation>
+  </message>
+  <message id="CLI_DOWNSCALE_LAYOUT">
+    <source>Make all missing densities of the pictures in the folders, filed as in projects for: [WORDS]</source>
+    <translation>Make all missing densities of the pictures in the folders, filed as in projects for: [WORDS]</translation>
+  </message>
+  <message id="CLI_DOWNSCALE_FROM">
+    <source>Density to scale from, such as 3x or xxxhdpi; the largest of each picture where none is given</source>
+    <translation>Density to scale from, such as 3x or xxxhdpi; the largest of each picture where none is given</translation>
+  </message>
+  <message id="CLI_DOWNSCALE_TO_SCALES">
+    <source>Densities to make, several separated by commas, such as 2x,1x</source>
+    <translation>Densities to make, several separated by commas, such as 2x,1x</translation>
+  </message>
+  <message id="CLI_DOWNSCALE_FORMAT">
+    <source>File type of the densities: [WORDS]; that of the source where none is given</source>
+    <translation>File type of the densities: [WORDS]; that of the source where none is given</translation>
+  </message>
+  <message id="CLI_DOWNSCALE_ROUNDED">
+    <source>rounded to whole pixels</source>
+    <translation>rounded to whole pixels</translation>
+  </message>
+  <message id="CLI_DOWNSCALE_NO_SCALE">
+    <source>is no density; give 1x, 1.5x, 2x, 3x, 4x or a name such as xxhdpi</source>
+    <translation>is no density; give 1x, 1.5x, 2x, 3x, 4x or a name such as xxhdpi</translation>
+  </message>
+  <message id="CLI_DOWNSCALE_NOT_BELOW">
+    <source>[SCALE] is not below [FROM]</source>
+    <translation>[SCALE] is not below [FROM]</translation>
+  </message>
+  <message id="CLI_DOWNSCALE_NOT_OF_LAYOUT">
+    <source>[SCALE] has no place in the layout [LAYOUT]</source>
+    <translation>[SCALE] has no place in the layout [LAYOUT]</translation>
+  </message>
+  <message id="CLI_DOWNSCALE_SOURCES_ADVICE">
+    <source>use folders of PNG or WebP files that state their density, such as logo@3x.png</source>
+    <translation>use folders of PNG or WebP files that state their density, such as logo@3x.png</translation>
   </message>
 </context>
 </TS>

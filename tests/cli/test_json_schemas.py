@@ -32,11 +32,27 @@ CALLS = {
     "placeholders of sizes": ("placeholders", ["placeholders", "--size", "3x4,5x6", "--out", "d"], 0),
     "placeholders out of range": ("placeholders", ["placeholders", "--size", "10000x1", "--out", "d"], 1),
     "placeholders of no size": ("placeholders", ["placeholders", "--size", "0x7", "--out", "d"], 2),
+    "placeholders of stores": ("placeholders", ["placeholders", "--set", "play,feature-graphic", "--format", "svg", "--to", "d"], 0),
+    "placeholders with a look": ("placeholders", ["placeholders", "--size", "8x8@2x", "--background", "red", "--out", "d"], 0),
+    "placeholders in no color": ("placeholders", ["placeholders", "--size", "8x8", "--background", "redd", "--out", "d"], 1),
+    "placeholders of a quality of PNG": ("placeholders", ["placeholders", "--size", "8x8", "--quality", "9", "--out", "d"], 2),
+    "screenshots checked": ("placeholders", ["placeholders", "--check", "marked"], 1),
+    "screenshots nowhere": ("placeholders", ["placeholders", "--check", "nowhere"], 1),
     "downscale": ("downscale", ["downscale", "marked", "--out", "e"], 0),
     "downscale once more": ("downscale", ["downscale", "marked", "--out", "e"], 1),
     "downscale foreseen": ("downscale", ["downscale", "marked", "--out", "e", "--overwrite", "--dry-run"], 0),
     "downscale of nothing": ("downscale", ["downscale", "empty", "icon.png", "--out", "e"], 1),
     "downscale without a place": ("downscale", ["downscale", "marked"], 2),
+    "downscale to densities": ("downscale", ["downscale", "dense", "--layout", "web", "--out", "f"], 0),
+    "downscale to densities foreseen": ("downscale", ["downscale", "dense", "--layout", "web", "--dry-run"], 0),
+    "downscale to no density": ("downscale", ["downscale", "dense", "--to-scales", "5x"], 2),
+    "downscale to densities of nothing": ("downscale", ["downscale", "empty", "--layout", "android"], 1),
+    "color in forms": ("color", ["color", "color(display-p3 1 0 0)", "--all", "--contrast", "white"], 0),
+    "no color in any form": ("color", ["color", "reddish", "--form", "qml"], 1),
+    "devices of today": ("devices", ["devices", "--today", "--ios", "15..", "--capability", "arkit"], 0),
+    "devices of no range": ("devices", ["devices", "--today", "--ios", "17..15"], 2),
+    "devices of no model": ("devices", ["devices", "--model", "iPhone99,9"], 1),
+    "devices of a list that is none": ("devices", ["devices", "--data", "notes.txt"], 1),
     "color": ("color", ["color", "#abc"], 0),
     "color in one notation": ("color", ["color", "34485e", "--as", "css"], 0),
     "no color": ("color", ["color", "1z2z3z"], 1),
@@ -84,11 +100,11 @@ class JsonContract(unittest.TestCase):
         cls.addClassCleanup(cls.scratch.cleanup)
         folder = Path(cls.scratch.name)
         (folder / "notes.txt").write_text("notes")
-        for name in ("marked/sub", "empty", "blocked"):
+        for name in ("marked/sub", "dense", "empty", "blocked"):
             (folder / name).mkdir(parents=True)
         # A file at the path of the folder to make.
         (folder / "blocked/iPad").write_text("mine")
-        for name, size in (("icon.png", "1024x1024"), ("marked/a@2x.png", "8x6"), ("marked/sub/b-hd.png", "8x6")):
+        for name, size in (("icon.png", "1024x1024"), ("marked/a@2x.png", "8x6"), ("marked/sub/b-hd.png", "8x6"), ("dense/a@3x.png", "10x9")):
             subprocess.run(["convert", "-size", size, "xc:tomato", folder / name], check=True)
         (folder / "packages").mkdir()
         subprocess.run([sys.executable, MAKE_PACKAGES, folder / "packages"], check=True, capture_output=True)

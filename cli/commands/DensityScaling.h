@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "cli/arguments/OutputPlace.h"
+#include "cli/console/Console.h"
+
+#include <QStringList>
+
+#include <optional>
+
+namespace lumora
+{
+
+class Declaration;
+
+/// What is asked of pictures that are to be there in every density.
+struct DensityScalingRequest
+{
+    QString layout;
+    QString from;
+    QStringList toScales;
+    QString format;
+    std::optional<int> quality;
+
+    void declareOn(Declaration &declaration);
+    bool isMeant() const;
+};
+
+/// Plans, and unless it is a dry run writes, the missing densities of the pictures in the folders: beside their
+/// sources, or in the same places below the given folder.
+ExitStatus scaleToDensities(Console &console, const QStringList &folders, const DensityScalingRequest &request,
+                            const OutputPlace &place, bool overwrite, bool dryRun);
+
+} // namespace lumora
