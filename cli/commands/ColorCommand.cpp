@@ -100,7 +100,6 @@ CommandBody declareColorCommand(Declaration &declaration)
     declaration.flag("--p3", &arguments->displayP3, "CLI_COLOR_P3");
     declaration.option("--contrast", &arguments->contrast, "COLOR", "CLI_COLOR_CONTRAST");
     declaration.atMostOne({u"--as"_s, u"--form"_s, u"--all"_s});
-    declaration.example("lumora color '#34485e'");
     declaration.example("lumora color 34485e --as css");
     declaration.example("lumora color 'rgb(51 102 153)' --form swiftui,css-oklch --contrast white");
     return [arguments](Console &console) { return runColor(console, *arguments); };

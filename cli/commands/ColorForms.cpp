@@ -103,7 +103,8 @@ ExitStatus printColorForms(Console &console, const ColorFormsRequest &request)
         result.insert(u"contrast"_s, contrastJson(contrast, nearest));
         printContrast(console, contrast, nearest);
     }
-    if (clipped)
+    // As JSON the object says it.
+    if (clipped && !console.form().json)
         console.warn(commandText("CLI_COLOR_CLIPPED", {{"[COLOR]", request.text}}));
     return console.finish(ExitStatus::Done, result);
 }

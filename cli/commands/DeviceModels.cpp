@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "DeviceModels.h"
 
+#include "cli/arguments/ArgumentParser.h"
 #include "cli/arguments/Declaration.h"
+#include "cli/arguments/Suggestion.h"
 #include "cli/console/CommandText.h"
 #include "devices/today/ModelCard.h"
 #include "devices/today/ModelList.h"
@@ -234,6 +236,38 @@ void printList(Console &console, const std::vector<ModelGroup> &groups, const Mo
     }
 }
 
+/// What is wrong with the chips asked for, if no model has one of them.
+std::optional<Complaint> unknownChip(const QStringList &chips, std::span<const DeviceModel> models)
+{
+    for (const QString &chip : chips) {
+        ModelFilter filter;
+        filter.chips = {chip};
+        if (std::ranges::any_of(models,
+                                [&](const DeviceModel &model) { return reasonsAgainst(model, filter).empty(); }))
+            continue;
+        QStringList known;
+        for (const DeviceModel &model : models)
+            known << text(model.chip).section(u' ', 0, 0);
+        known.removeDuplicates();
+        Complaint complaint =
+            misuse("bad-value", commandText("CLI_DEVICES_NO_CHIP"), didYouMean(nearestWords(chip, known)));
+        complaint.path = u"--chip "_s + chip;
+        return complaint;
+    }
+    return std::nullopt;
+}
+
+/// The advice for a model that is not there: the nearest names, or where names are to be found.
+QString adviceForModel(const QString &wanted, std::span<const DeviceModel> models)
+{
+    QStringList known;
+    for (const DeviceModel &model : models)
+        known << text(model.name) << text(model.identifier);
+    known.removeDuplicates();
+    const QString nearest = didYouMean(nearestWords(wanted, known));
+    return nearest.isEmpty() ? commandText("CLI_DEVICES_NO_MODEL_ADVICE") : nearest;
+}
+
 ExitStatus printModels(Console &console, const DeviceModelsRequest &request, std::span<const DeviceModel> models)
 {
     const std::optional<ModelFilter> filter = filterFrom(request);
@@ -243,12 +277,15 @@ ExitStatus printModels(Console &console, const DeviceModelsRequest &request, std
         console.complain(complaint);
         return console.finish(ExitStatus::Usage);
     }
+    if (const std::optional<Complaint> complaint = unknownChip(request.chips, models)) {
+        console.complain(*complaint);
+        return console.finish(ExitStatus::Usage);
+    }
     std::vector<ModelGroup> groups = groupedModels(models);
     for (const QString &wanted : request.models) {
         if (std::ranges::none_of(groups, [&wanted](const ModelGroup &group) { return isNamed(group, wanted); })) {
             console.complain(Complaint{Complaint::Kind::Failure, u"not-found"_s, quoted(wanted),
-                                       commandText("CLI_DEVICES_NO_MODEL"),
-                                       commandText("CLI_DEVICES_NO_MODEL_ADVICE")});
+                                       commandText("CLI_DEVICES_NO_MODEL"), adviceForModel(wanted, models)});
             return console.finish(ExitStatus::Refused);
         }
     }

@@ -7,6 +7,7 @@
 #include "cli/arguments/Suggestion.h"
 #include "cli/console/CommandText.h"
 #include "devices/DeviceFilter.h"
+#include "devices/today/ModelFilter.h"
 
 #include <QJsonArray>
 
@@ -97,11 +98,17 @@ QString groupLine(const QString &group, const std::vector<DeviceRecord> &devices
 /// What is wrong with a version that only today's list knows, as the parser words it for a fixed list of words.
 Complaint wrongVersion(const QString &version)
 {
+    constexpr double newerThanAll = 8.0;
+    ModelFilter ignored;
+    const bool isOfToday =
+        (version.contains(u"..") || version.toDouble() >= newerThanAll) && takeIosRange(version, ignored);
+    const QString advice =
+        isOfToday ? commandText("CLI_DEVICES_IOS_TODAY") : didYouMean(nearestWords(version, iosVersions()));
     return misuse(
         "bad-value",
         commandText("CLI_WRONG_CHOICE",
                     {{"[OPTION]", u"--ios"_s}, {"[WORDS]", alternatives(iosVersions())}, {"[VALUE]", quoted(version)}}),
-        didYouMean(nearestWords(version, iosVersions())));
+        advice);
 }
 
 ExitStatus runDevices(Console &console, const DevicesArguments &arguments)
@@ -134,7 +141,6 @@ CommandBody declareDevicesCommand(Declaration &declaration)
                                "--search", "--model", "--data", "--csv"})
         declaration.atMostOne({u"--feature"_s, QString::fromLatin1(option)});
     declaration.example("lumora devices --ios 7 --feature bluetooth_le");
-    declaration.example("lumora devices --feature gps,compass --json");
     declaration.example("lumora devices --today --ios 15.. --family ipad --capability arkit,metal");
     return [arguments](Console &console) { return runDevices(console, *arguments); };
 }

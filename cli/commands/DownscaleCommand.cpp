@@ -165,7 +165,6 @@ CommandBody declareDownscaleCommand(Declaration &declaration)
     arguments->place.declareBeside(declaration, "CLI_DOWNSCALE_TO",
                                    {u"--layout"_s, u"--from"_s, u"--to-scales"_s, u"--format"_s, u"--quality"_s});
     declaration.example("lumora downscale art --out res --dry-run");
-    declaration.example("lumora downscale logo@2x.png --to res --overwrite");
     declaration.example("lumora downscale art --from 3x --to-scales 2x,1x --layout ios --dry-run");
     return [arguments](Console &console) { return runDownscale(console, *arguments); };
 }

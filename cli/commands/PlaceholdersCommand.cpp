@@ -150,9 +150,8 @@ CommandBody declarePlaceholdersCommand(Declaration &declaration)
             declaration.atMostOne({u"--check"_s, name});
     }
     arguments->place.declareOn(declaration, "CLI_PLACEHOLDERS_TO", {u"--check"_s});
-    declaration.example("lumora placeholders --set ios --to build");
     declaration.example("lumora placeholders --size 1136x640,64x64 --out build/placeholders");
-    declaration.example("lumora placeholders --set play,social --text 'Soon: {size}' --format svg --to build");
+    declaration.example("lumora placeholders --set play,social --text Soon --format webp --to build");
     return [arguments](Console &console) { return runPlaceholders(console, *arguments); };
 }
 

@@ -84,6 +84,21 @@ private:
     bool m_lighter;
 };
 
+/// The gray that looks most like the wanted one. A tinge of color may be nearer by a hair, and is not what a gray is
+/// exchanged for.
+std::optional<WideColor> nearestGrayWithContrast(const WideColor &wanted, const WideColor &behind, double ratio)
+{
+    const OklabColor look = oklabOf(wanted);
+    std::optional<WideColor> nearest;
+    for (int level = 0; level < 256; ++level) {
+        const WideColor gray = wideColorFromBytes(level, level, level);
+        if (contrastOf(gray, behind).ratio >= ratio &&
+            (!nearest || oklabDistance(oklabOf(gray), look) < oklabDistance(oklabOf(*nearest), look)))
+            nearest = gray;
+    }
+    return nearest;
+}
+
 } // namespace
 
 double relativeLuminance(const WideColor &color)
@@ -121,6 +136,8 @@ std::optional<WideColor> nearestWithContrast(const WideColor &color, const WideC
     const WideColor whole = wideColorFromBytes(red, green, blue);
     if (contrastOf(whole, behind).ratio >= ratio)
         return whole;
+    if (red == green && green == blue)
+        return nearestGrayWithContrast(whole, behind, ratio);
     const OklabColor look = oklabOf(whole);
     std::optional<WideColor> nearest;
     double smallest = std::numeric_limits<double>::infinity();

@@ -39,8 +39,8 @@ Contrast contrastOf(const WideColor &color, const WideColor &background);
 QString ratioText(double ratio);
 
 /// The sRGB color of whole bytes that is most similar to the given one and reaches the ratio on the background; the
-/// color itself if it reaches the ratio. The result is opaque, as the ratio takes transparency into account. Empty if
-/// not even black or white reaches the ratio.
+/// color itself if it reaches the ratio. The result for a gray is a gray. The result is opaque, as the ratio takes
+/// transparency into account. Empty if not even black or white reaches the ratio.
 std::optional<WideColor> nearestWithContrast(const WideColor &color, const WideColor &background, double ratio);
 
 } // namespace lumora

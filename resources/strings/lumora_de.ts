@@ -2222,6 +2222,14 @@
     <source>is no range of versions such as 15.., ..12 or 9..12.4</source>
     <translation>ist kein Bereich von Versionen wie 15.., ..12 oder 9..12.4</translation>
   </message>
+  <message id="CLI_DEVICES_NO_CHIP">
+    <source>is no chip in the list</source>
+    <translation>ist kein Chip in der Liste</translation>
+  </message>
+  <message id="CLI_DEVICES_IOS_TODAY">
+    <source>add --today, which knows all versions</source>
+    <translation>fügen Sie --today hinzu, das alle Versionen kennt</translation>
+  </message>
   <message id="CLI_DEVICES_NO_MODEL">
     <source>is no model in the list</source>
     <translation>ist kein Modell in der Liste</translation>

@@ -2220,6 +2220,14 @@
     <source>is no range of versions such as 15.., ..12 or 9..12.4</source>
     <translation>is no range of versions such as 15.., ..12 or 9..12.4</translation>
   </message>
+  <message id="CLI_DEVICES_NO_CHIP">
+    <source>is no chip in the list</source>
+    <translation>is no chip in the list</translation>
+  </message>
+  <message id="CLI_DEVICES_IOS_TODAY">
+    <source>add --today, which knows all versions</source>
+    <translation>add --today, which knows all versions</translation>
+  </message>
   <message id="CLI_DEVICES_NO_MODEL">
     <source>is no model in the list</source>
     <translation>is no model in the list</translation>

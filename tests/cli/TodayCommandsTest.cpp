@@ -91,7 +91,7 @@ private slots:
                                               "iPod touch (6th generation)\n");
         QTest::newRow("models of a chip")
             << QStringList{u"devices"_s, u"--chip"_s, u"a12x"_s, u"--capability"_s, u"arkit,metal"_s} << 0
-            << QByteArray("iPhone: none\niPad: iPad Pro (12.9-inch) (3rd generation), iPad Pro (11-inch)\n"
+            << QByteArray("iPhone: none\niPad: iPad Pro (11-inch), iPad Pro (12.9-inch) (3rd generation)\n"
                           "iPod touch: none\n");
         QTest::newRow("a backward range")
             << QStringList{u"devices"_s, u"--today"_s, u"--ios"_s, u"17..15"_s} << 2 << QByteArray();

@@ -114,6 +114,27 @@ private slots:
                  qPrintable(u"%1: %2 is nearer than %3"_s.arg(hex8Of(*nearest)).arg(best).arg(distance)));
     }
 
+    void theNearestOfAGrayIsAGray_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("background");
+        QTest::addColumn<double>("ratio");
+        QTest::addColumn<QString>("nearest");
+        QTest::newRow("darker") << u"#777777"_s << u"#ffffff"_s << 4.5 << u"#767676ff"_s;
+        QTest::newRow("lighter") << u"#777777"_s << u"#000000"_s << 7.0 << u"#959595ff"_s;
+        QTest::newRow("translucent on white") << u"#00000080"_s << u"#ffffff"_s << 4.5 << u"#767676ff"_s;
+        QTest::newRow("on a color") << u"#777777"_s << u"#3498db"_s << 4.5 << u"#2a2a2aff"_s;
+    }
+    void theNearestOfAGrayIsAGray()
+    {
+        QFETCH(QString, text);
+        QFETCH(QString, background);
+        QFETCH(double, ratio);
+        const std::optional<WideColor> nearest = nearestWithContrast(color(text), color(background), ratio);
+        QVERIFY(nearest.has_value());
+        QTEST(hex8Of(*nearest), "nearest");
+    }
+
     void whatPassesStaysAndWhatCannotIsNone()
     {
         QCOMPARE(hex8Of(*nearestWithContrast(color(u"#123456"_s), color(u"#fff"_s), 4.5)), u"#123456ff"_s);
