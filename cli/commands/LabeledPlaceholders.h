@@ -13,7 +13,7 @@ namespace lumora
 
 class Declaration;
 
-/// What is asked of placeholders with a look of somebody's own, or of real screenshots.
+/// The options for placeholders with a look of the user's choice, and for the check of real screenshots.
 struct LabeledPlaceholdersRequest
 {
     QStringList sets;  ///< of stores and of classic screens

@@ -78,6 +78,11 @@ class Documents(unittest.TestCase):
         place.parent.mkdir(parents=True, exist_ok=True)
         subprocess.run(["convert", "-size", f"{size}x{size}", "xc:tomato", f"png:{place}"], check=True)
 
+    def put_screenshot(self, name):
+        place = self.folder / name
+        place.parent.mkdir(parents=True, exist_ok=True)
+        subprocess.run(["convert", "-size", "1320x2868", "xc:tomato", f"png24:{place}"], check=True)
+
     def type(self, lines):
         self.assertTrue(lines)
         for line in lines:
@@ -100,6 +105,8 @@ class Documents(unittest.TestCase):
         self.put_package("App.ipa")
         self.put_picture("artwork.png", 1024)
         self.put_picture("art/button@2x.png", 64)
+        self.put_picture("art/logo@3x.png", 96)
+        self.put_screenshot("screenshots/first.png")
         (self.folder / "artwork.svg").write_text(
             '<svg xmlns="http://www.w3.org/2000/svg" width="64" height="64"><rect width="64" height="64" fill="tomato"/></svg>')
         self.type(manual_lines())
@@ -129,6 +136,7 @@ class Documents(unittest.TestCase):
                 self.put_picture("logo.png", 1024)
                 self.put_picture("logo@2x.png", 64)
                 self.put_picture("art/button@2x.png", 64)
+                self.put_picture("art/logo@3x.png", 96)
                 lines = help_lines(command)
                 self.assertEqual(len(lines), 2)
                 self.type(lines)
