@@ -17,6 +17,11 @@ WideColor color(const QString &text)
     return readColor(text).value().color;
 }
 
+bool isGray(const WideColor &color)
+{
+    return color.red == color.green && color.green == color.blue;
+}
+
 } // namespace
 
 /// WCAG 2's ratio, its thresholds, and the passing color nearest to one that fails.
@@ -103,6 +108,9 @@ private slots:
         for (int red = 0; red <= 255; red += 9) {
             for (int green = 0; green <= 255; green += 9) {
                 for (int blue = 0; blue <= 255; blue += 9) {
+                    // A gray is exchanged for a gray only.
+                    if (isGray(color(text)) && !(red == green && green == blue))
+                        continue;
                     const WideColor other = wideColorFromBytes(red, green, blue);
                     const double apart = oklabDistance(oklabOf(other), oklabOf(color(text)));
                     if (apart < best && contrastOf(other, color(background)).ratio >= ratio)
