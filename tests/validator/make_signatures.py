@@ -81,6 +81,7 @@ def main():
         return
     other = Identity(common_name="Somebody else", team="OTHER")
     late = Identity(start="20260601000000Z", end="20260701000000Z")
+    early = Identity(start="20250101000000Z", end="20250201000000Z")
     good = variant(identity)
     at = signature_at(good)
 
@@ -113,6 +114,7 @@ def main():
         "signed by the wrong key": variant(identity, message={"key_of": other}),
         "another directory listed": variant(identity, message={"short_hashes": [bytes(20)]}),
         "signed before its time": variant(late),
+        "signed after its time": variant(early),
         "code past the limit": variant(identity, change=lambda blobs: within(blobs, 0, lambda content: struct.pack(
             ">I", 0xFADE0C02) + content[4:32] + struct.pack(">I", 0x4000) + content[36:])),
         "unknown digest": variant(identity, change=lambda blobs: within(

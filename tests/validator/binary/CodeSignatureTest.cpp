@@ -124,6 +124,7 @@ private slots:
         QTest::newRow("signed by the wrong key") << SignatureFault::MessageSignatureBroken;
         QTest::newRow("another directory listed") << SignatureFault::DirectoriesDiffer;
         QTest::newRow("signed before its time") << SignatureFault::SignedOutsideValidity;
+        QTest::newRow("signed after its time") << SignatureFault::SignedOutsideValidity;
         QTest::newRow("code past the limit") << SignatureFault::CodeNotCovered;
         QTest::newRow("unknown digest") << SignatureFault::UnknownDigest;
         QTest::newRow("hashes past the end") << SignatureFault::Damaged;

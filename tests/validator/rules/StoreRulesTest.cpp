@@ -100,6 +100,11 @@ private slots:
         QTest::newRow("when the next SDK is asked for") << good << QDate(2027, 5, 15) << QStringList{u"sdk-age-next"_s};
         QTest::newRow("when the profile has ended")
             << good << QDate(2027, 6, 2) << QStringList{u"profile-expiry"_s, u"sdk-age-next"_s};
+        QTest::newRow("on the certificate's last day")
+            << good << QDate(2034, 1, 1) << QStringList{u"profile-expiry"_s, u"sdk-age-next"_s};
+        QTest::newRow("when the certificate has ended")
+            << good << QDate(2034, 1, 2)
+            << QStringList{u"certificate-validity"_s, u"profile-expiry"_s, u"sdk-age-next"_s};
         QTest::newRow("an SDK of its time") << u"sdk-age.ipa"_s << QDate(2026, 4, 1) << QStringList();
         QTest::newRow("before manifests were asked for")
             << u"required-reason.ipa"_s << QDate(2024, 4, 1) << QStringList();
