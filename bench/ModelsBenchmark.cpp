@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// How long it takes to filter all models of today and to lay them out.
+// The time of filtering and arranging all of today's models.
 #include "devices/today/ModelLayout.h"
 #include "devices/today/ModelList.h"
 

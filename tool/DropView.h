@@ -65,8 +65,8 @@ public:
     /// Whether a color without files is accepted; false at first.
     void setTakesColors(bool takes) { m_takesColors = takes; }
 
-    /// Whether a drag that would be delivered is over the view.
-    /// Whether a drop elsewhere in the window comes to the view also while something else hides it; false at first.
+    /// Whether a drag that would be delivered is over the view. Whether a drop elsewhere in the window also goes to the
+    /// view while it is hidden; false at first.
     bool takesWhileHidden() const { return m_takesWhileHidden; }
     void setTakesWhileHidden(bool takes) { m_takesWhileHidden = takes; }
 

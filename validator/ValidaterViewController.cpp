@@ -355,7 +355,7 @@ void ValidaterViewController::updateInterface(const PackageFacts &facts, const E
              buildKind(facts) == BuildKind::Debug ? qtTrId("VALID_BUILD_DEBUG") : qtTrId("VALID_BUILD_RELEASE"));
     m_fade.fade(factViews() << headViews() << m_ui->appIconField << m_ui->validLocalizationsBox, 1);
     m_fade.fade({m_ui->readingLoaderField}, 0);
-    // What it holds fades in; the area itself takes the keyboard meanwhile.
+    // Its content fades in; the area itself takes the keyboard meanwhile.
     setOpacity(m_ui->reportArea, 1);
 }
 

@@ -30,7 +30,7 @@ struct OutputPlace
 
     /// `toKey` explains --to; exactly one of --to, --out and the options in `others` ("-o") must be given.
     void declareOn(Declaration &declaration, const char *toKey, const QStringList &others = {});
-    /// The same where one of `others` does without a place: each may be given with --to or --out or alone.
+    /// The same if one of `others` needs no place: each may be given with --to or --out or alone.
     void declareBeside(Declaration &declaration, const char *toKey, const QStringList &others);
 
     bool isExact() const { return !out.isEmpty(); }

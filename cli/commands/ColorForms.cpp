@@ -38,7 +38,7 @@ void printForms(Console &console, const ColorFormsRequest &request, const WideCo
             continue;
         const QString wide = request.displayP3 ? displayP3FormText(form, color) : QString();
         const QString text = wide.isEmpty() ? formText(form, color) : wide;
-        // A single one is there to be piped on.
+        // A single form is meant for a pipe.
         console.print(request.forms.size() == 1 ? text : QString(QString(form.name) + u": "_s + text));
     }
 }
@@ -57,7 +57,7 @@ QJsonObject formsJson(const ColorFormsRequest &request, const WideColor &color)
     return {{u"forms"_s, forms}, {u"displayP3"_s, displayP3}};
 }
 
-/// The ratio, what it is enough for, and the nearest color that is enough for text where this one is not.
+/// The ratio, the thresholds that it reaches, and the nearest color that is enough for text if this one is not.
 QJsonObject contrastJson(const Contrast &contrast, const std::optional<WideColor> &nearest)
 {
     QJsonObject object{{u"ratio"_s, contrast.ratio},         {u"aa"_s, contrast.aa()},
@@ -103,7 +103,7 @@ ExitStatus printColorForms(Console &console, const ColorFormsRequest &request)
         result.insert(u"contrast"_s, contrastJson(contrast, nearest));
         printContrast(console, contrast, nearest);
     }
-    // As JSON the object says it.
+    // With --json the object contains it.
     if (clipped && !console.form().json)
         console.warn(commandText("CLI_COLOR_CLIPPED", {{"[COLOR]", request.text}}));
     return console.finish(ExitStatus::Done, result);

@@ -27,7 +27,7 @@ QStringList layoutNames()
     return names;
 }
 
-/// Prints what is written or would be, and gathers it for the JSON object.
+/// Prints the files that are or would be written, and collects them for the JSON object.
 class Report
 {
 public:
@@ -129,7 +129,7 @@ std::optional<Complaint> takeScales(const DensityScalingRequest &request, Densit
     return std::nullopt;
 }
 
-/// The folder to write below; empty for beside the sources.
+/// The destination folder; empty to write beside the sources.
 Result<QString> destination(const OutputPlace &place, bool dryRun)
 {
     const QString given = place.isExact() ? place.out : place.to;
@@ -175,7 +175,7 @@ ExitStatus scaleToDensities(Console &console, const QStringList &folders, const 
 {
     DensityRequest density;
     DensityScalingRequest named = request;
-    // Most projects mark their pictures as iOS does.
+    // Most projects mark their pictures as in iOS.
     if (named.layout.isEmpty())
         named.layout = u"ios"_s;
     density.layout = densityLayoutNamed(named.layout);

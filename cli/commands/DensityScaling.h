@@ -13,7 +13,7 @@ namespace lumora
 
 class Declaration;
 
-/// What is asked of pictures that are to be there in every density.
+/// The request for pictures in every density.
 struct DensityScalingRequest
 {
     QString layout;
@@ -26,8 +26,8 @@ struct DensityScalingRequest
     bool isMeant() const;
 };
 
-/// Plans, and unless it is a dry run writes, the missing densities of the pictures in the folders: beside their
-/// sources, or in the same places below the given folder.
+/// Plans the missing densities of the pictures in the folders, and writes them unless it is a dry run: beside their
+/// sources, or in the same sub-folders of the given folder.
 ExitStatus scaleToDensities(Console &console, const QStringList &folders, const DensityScalingRequest &request,
                             const OutputPlace &place, bool overwrite, bool dryRun);
 

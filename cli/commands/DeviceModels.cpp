@@ -77,7 +77,7 @@ QStringList screenKeys()
     return keys;
 }
 
-/// The filter; none where the range of versions is none.
+/// The filter; empty if the range of versions is invalid.
 std::optional<ModelFilter> filterFrom(const DeviceModelsRequest &request)
 {
     ModelFilter filter;
@@ -136,7 +136,7 @@ QJsonArray variantsJson(const ModelGroup &group, const ModelFilter &filter)
     return variants;
 }
 
-/// What the whole group has in common is said once; what its variants differ in, of the first and of each.
+/// Facts that the whole group shares are printed once; others for the first variant and for each.
 QJsonObject modelJson(const ModelGroup &group, const ModelFilter &filter)
 {
     const GroupVerdict verdict = verdictOn(group, filter);
@@ -184,7 +184,7 @@ QString csvField(const QString &value)
     return quotes ? QString(u'"' + QString(value).replace(u'"', u"\"\""_s) + u'"') : value;
 }
 
-/// One line a model, the card's facts as columns.
+/// One line per model, with the card's facts as columns.
 void printCsv(Console &console, const std::vector<ModelGroup> &groups, const ModelFilter &filter)
 {
     QStringList header{u"name"_s, u"family"_s, u"fits"_s, u"reasons"_s};
@@ -206,7 +206,7 @@ void printCsv(Console &console, const std::vector<ModelGroup> &groups, const Mod
     }
 }
 
-/// The cards side by side, a line for each fact that any of them knows.
+/// The cards side by side, with a line for each fact that any of them has.
 void printCards(Console &console, const std::vector<ModelGroup> &groups, const ModelFilter &filter)
 {
     QStringList names;
@@ -236,7 +236,7 @@ void printList(Console &console, const std::vector<ModelGroup> &groups, const Mo
     }
 }
 
-/// What is wrong with the chips asked for, if no model has one of them.
+/// The complaint about the requested chips, if no model has one of them.
 std::optional<Complaint> unknownChip(const QStringList &chips, std::span<const DeviceModel> models)
 {
     for (const QString &chip : chips) {
@@ -257,7 +257,7 @@ std::optional<Complaint> unknownChip(const QStringList &chips, std::span<const D
     return std::nullopt;
 }
 
-/// The advice for a model that is not there: the nearest names, or where names are to be found.
+/// The advice for an unknown model: the nearest names, or where to find names.
 QString adviceForModel(const QString &wanted, std::span<const DeviceModel> models)
 {
     QStringList known;
@@ -319,7 +319,7 @@ void DeviceModelsRequest::declareOn(Declaration &declaration)
     declaration.option("--biometry", &biometries, "KIND", "CLI_DEVICES_BIOMETRY").words(wordsOf(biometryWords)).list();
     declaration.option("--with", &features, "PART", "CLI_DEVICES_WITH").words(wordsOf(featureWords)).list();
     declaration.option("--search", &search, "TEXT", "CLI_DEVICES_SEARCH");
-    // Identifiers have a comma in them, so that this one is given several times instead.
+    // Identifiers contain a comma, so this option is given several times instead.
     declaration.option("--model", &models, "MODEL", "CLI_DEVICES_MODEL");
     declaration.option("--data", &dataFile, "FILE", "CLI_DEVICES_DATA");
     declaration.flag("--csv", &csv, "CLI_DEVICES_CSV");

@@ -11,7 +11,7 @@ namespace lumora
 
 class Declaration;
 
-/// What is asked of today's device list.
+/// The request for today's device list.
 struct DeviceModelsRequest
 {
     bool today = false;
@@ -27,13 +27,13 @@ struct DeviceModelsRequest
     bool csv = false;
     QString dataFile;
 
-    /// Declares all of them but --ios.
+    /// Declares all options except --ios.
     void declareOn(Declaration &declaration);
-    /// Whether any of them is given that only today's list knows.
+    /// Whether an option is given that only today's list has.
     bool isMeant() const;
 };
 
-/// Prints the models that fit, or the cards of those that are named.
+/// Prints the models that match, or the cards of the named ones.
 ExitStatus printDeviceModels(Console &console, const DeviceModelsRequest &request);
 
 } // namespace lumora

@@ -28,7 +28,7 @@ struct DevicesArguments
     QStringList features;
 };
 
-/// The versions that the classic list is asked for.
+/// The versions for the classic list.
 const QStringList &iosVersions()
 {
     static const QStringList versions{u"4"_s, u"5"_s, u"6"_s, u"7"_s};
@@ -95,7 +95,7 @@ QString groupLine(const QString &group, const std::vector<DeviceRecord> &devices
     return group + u": "_s + (models.isEmpty() ? commandText("CLI_NONE") : models.join(u", "_s));
 }
 
-/// What is wrong with a version that only today's list knows, as the parser words it for a fixed list of words.
+/// The complaint about a version that only today's list has, in the parser's words for a fixed list.
 Complaint wrongVersion(const QString &version)
 {
     constexpr double newerThanAll = 8.0;

@@ -52,7 +52,7 @@ Complaint wrongSize(const QString &part)
     return complaint;
 }
 
-/// Every size asked for, once; none after a complaint.
+/// All requested sizes without duplicates; empty after a complaint.
 std::optional<Sizes> wantedSizes(Console &console, const LabeledPlaceholdersRequest &request)
 {
     Sizes sizes;
@@ -70,7 +70,7 @@ std::optional<Sizes> wantedSizes(Console &console, const LabeledPlaceholdersRequ
     return sizes;
 }
 
-/// Takes the color, where one is given; false after a complaint.
+/// Reads the color, if one is given; false after a complaint.
 bool takeColor(Console &console, const QString &given, QColor &color)
 {
     if (given.isEmpty())
@@ -166,7 +166,7 @@ QJsonObject findingJson(const ScreenshotFinding &finding)
             {u"evidence"_s, finding.evidence}, {u"fix"_s, QString(rule.fix)}};
 }
 
-/// What keeps the options from belonging together, if anything does.
+/// Why the options cannot be combined; empty if they can.
 std::optional<Complaint> contradiction(const LabeledPlaceholdersRequest &request)
 {
     if (request.quality && request.format != u"webp")

@@ -17,27 +17,27 @@ class Declaration;
 struct LabeledPlaceholdersRequest
 {
     QStringList sets;  ///< of stores and of classic screens
-    QStringList sizes; ///< each a list such as "1200x600 800x800@2x"
+    QStringList sizes; ///< lists such as "1200x600 800x800@2x"
     QString text;
     QString foreground;
     QString background;
     QString format;
     std::optional<int> quality;
-    QString checkedFolder; ///< of screenshots; empty where none are to be checked
+    QString checkedFolder; ///< the folder of screenshots to check; empty for none
 
     void declareOn(Declaration &declaration);
-    /// Whether anything is asked for that the grey pictures know nothing of.
+    /// Whether the request needs more than the gray pictures.
     bool isMeant() const;
 };
 
-/// The names of the sets of today.
+/// The names of today's sets.
 QStringList storeSetNames();
 
 /// Writes the pictures.
 ExitStatus writeLabeledPlaceholders(Console &console, const LabeledPlaceholdersRequest &request,
                                     const OutputPlace &place);
 
-/// Holds the pictures in a folder against what stores take. Refused where any is in error.
+/// Checks the pictures in a folder by the stores' rules. Returns Refused if any has an error.
 ExitStatus checkScreenshots(Console &console, const LabeledPlaceholdersRequest &request);
 
 } // namespace lumora

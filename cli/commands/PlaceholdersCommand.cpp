@@ -29,7 +29,7 @@ namespace
 
 struct PlaceholdersArguments
 {
-    LabeledPlaceholdersRequest labeled; ///< its sets and sizes serve the grey pictures, too
+    LabeledPlaceholdersRequest labeled; ///< its sets and sizes are also used for the gray pictures
     OutputPlace place;
 };
 

@@ -84,8 +84,7 @@ private:
     bool m_lighter;
 };
 
-/// The gray that looks most like the wanted one. A tinge of color may be nearer by a hair, and is not what a gray is
-/// exchanged for.
+/// The gray that is most similar to the wanted one. A tinted color may be slightly nearer, but does not replace a gray.
 std::optional<WideColor> nearestGrayWithContrast(const WideColor &wanted, const WideColor &behind, double ratio)
 {
     const OklabColor look = oklabOf(wanted);

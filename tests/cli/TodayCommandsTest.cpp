@@ -42,7 +42,7 @@ constexpr auto textOfEveryForm =
 
 } // namespace
 
-/// What the commands do beyond their classic side.
+/// The commands' newer options.
 class TodayCommandsTest : public QObject
 {
     Q_OBJECT
@@ -174,7 +174,7 @@ private slots:
         QCOMPARE(QDir(path(u"art"_s)).count(), 3U);
         QCOMPARE(runLumora(call).out, QString(path(u"art/a@2x.png"_s) + u'\n' + path(u"art/a.png"_s) + u'\n').toUtf8());
         QCOMPARE(QImage(path(u"art/a.png"_s)).size(), QSize(10, 10));
-        // A second time there is nothing to do, and nothing is lost.
+        // A second run has nothing to do, and nothing is lost.
         const LumoraRun again = runLumora(call);
         QCOMPARE(again.status, 0);
         QCOMPARE(again.out, QByteArray());

@@ -16,7 +16,7 @@ DROP_AREA = "Drop area for an app package"
 
 
 def wait_report(lumora, name, result):
-    """The report has the keyboard and is what a screen reader says first."""
+    """The report has the keyboard, and screen readers announce it first."""
     report = wait_for(f"the report on {name}",
                       lambda: next((c for c in lumora.controls() if c.name == f"Report on {name}: {result}"), None))
     lumora.wait_shown(result)
@@ -39,14 +39,14 @@ def main(program, drag_source):
         wait_for("the report to have the keyboard", report.has_focus)
         assert any("114x114" in control.name and control.name.startswith("Missing") for control in lumora.controls("label"))
 
-        # The next file goes over the report.
+        # The next file is dropped on the report.
         desktop.move_window(lumora, 100, 100)
         desktop.drag_files([scratch / "a text.ipa"], report.middle)
         wait_report(lumora, "a text.ipa", "No readable app package")
         assert any("The file is a text." in control.name for control in lumora.controls("label"))
         assert not lumora.controls("check box"), "no verdict on what is no app"
 
-        # By keys: run again what was put right meanwhile.
+        # By keys: checks a repaired package again.
         shutil.copyfile(scratch / "valid.ipa", scratch / "a text.ipa")
         lumora.activate()
         lumora.tab_to("push button", "Check again")

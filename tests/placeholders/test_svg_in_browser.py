@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""usage: test_svg_in_browser.py LUMORA   A placeholder written as SVG is sound XML, and a browser draws it as the PNG is."""
+"""usage: test_svg_in_browser.py LUMORA   A placeholder written as SVG is valid XML, and a browser draws it like the PNG."""
 import subprocess
 import sys
 import tempfile
@@ -9,7 +9,7 @@ from pathlib import Path
 
 LUMORA = Path(sys.argv[1]).resolve()
 
-# Size, and what the pictures look like.
+# The size and the look of the pictures.
 LOOKS = {
     "plain": ("400x300", []),
     "colored": ("320x200", ["--foreground", "#ffcc00", "--background", "rgb(20 40 90)", "--text", "Grüße <&>\\n{size}"]),
@@ -39,7 +39,7 @@ class InTheBrowser(unittest.TestCase):
         svg = folder / f"placeholder_{text}.svg"
         root = ElementTree.parse(svg).getroot()
         self.assertEqual((root.get("width"), root.get("height")), (str(width), str(height)))
-        # A window is never as narrow as some pictures; the page shows them in its corner.
+        # A window cannot be as narrow as some pictures; the page shows them in its corner.
         page = folder / "page.html"
         page.write_text(f'<body style="margin:0"><img src="{svg.name}" style="display:block"></body>')
         window = max(width, 500), max(height, 500)
@@ -55,7 +55,7 @@ class InTheBrowser(unittest.TestCase):
 
     @staticmethod
     def strangers(one, other, size):
-        """Pixels of the one that are beyond what the other has there or next to it, but for how edges are shaded."""
+        """The pixels of one that differ from the other's pixels there or next to it, except for the shading of edges."""
         shading = 24
         width, height = size
         found = []

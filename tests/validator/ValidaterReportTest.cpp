@@ -98,7 +98,7 @@ private slots:
         QVERIFY2(!pane.ui().appBuildField->isVisible(), "no facts of what is no app");
         QVERIFY(pane.tool.reportText().contains(words));
         QVERIFY(!pane.tool.reportText().contains(u"passed"_s));
-        // The next one is an app again; nothing of the last one shows meanwhile.
+        // The next one is an app again; nothing of the last one is shown meanwhile.
         pane.tool.dropIpaFileFromDelegate(package(u"valid"_s));
         QVERIFY(pane.ui().noteLabel->isHidden());
         QTRY_VERIFY_WITH_TIMEOUT(pane.hasFacts(), readingTime);

@@ -138,7 +138,7 @@ void FilledButton::drawText(QPainter &painter)
     area.setTop(buttongeometry::filledTextTop(size().height(), height) + metrics.leading());
     area.setHeight(height);
     painter.setFont(m_font);
-    // A button takes any color that its owner gives it; on a light one white could not be read.
+    // The owner may set any color; white text is not readable on a light one.
     painter.setPen(relativeLuminance(m_color) > tooLightForWhite ? palette::chromeText : palette::buttonText);
     painter.drawText(area, flags, shown);
 }

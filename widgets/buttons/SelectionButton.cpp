@@ -96,7 +96,7 @@ void SelectionButton::drawRect(QPainter &painter)
     area.setTop(buttongeometry::selectionTextTop(bounds.height(), metrics.lineSpacing()) + metrics.leading());
     area.setHeight(metrics.height());
     QFont font = m_font;
-    // Its image tells a verdict and does not follow the pointer; the text says that a click does something.
+    // Its image shows a verdict and does not follow the pointer; the text shows that it can be clicked.
     font.setUnderline(isFrozen() && isHovered() && isEnabled());
     painter.setFont(font);
     painter.setPen(palette::chromeText);

@@ -25,7 +25,7 @@ bool KeyboardFocus::follow(const QEvent *event)
         case Qt::ActiveWindowFocusReason:
         case Qt::PopupFocusReason:
         case Qt::MenuBarFocusReason:
-            // The focus returns to the widget that had it before, or comes into a window that a key has opened.
+            // The focus returns to the widget that had it before, or enters a window that a key has opened.
             m_shown = m_shown || s_lastInputWasKey;
             break;
         default:

@@ -18,11 +18,11 @@ public:
     /// Whether to draw the ring while the widget has the focus.
     bool isShown() const { return m_shown; }
 
-    /// The reason to give where the program moves the focus: as by Tab after a key, so that the ring shows.
+    /// The reason for moving the focus by the program: after a key, as by Tab, so that the ring shows.
     static Qt::FocusReason reasonOfProgram();
 
 private:
-    /// The last input that any of the widgets saw.
+    /// The last input of any of the widgets.
     inline static bool s_lastInputWasKey = false;
 
     bool m_shown = false;

@@ -22,7 +22,7 @@ inline const QColor chromeTextDark = rgb(0.153F, 0.216F, 0.278F);
 inline const QColor window = rgb(1, 1, 1);
 /// The title in the header band.
 inline const QColor headerText = rgb(1, 1, 1);
-/// Falls from the title as from the header's symbols.
+/// The shadow of the title and of the header's symbols.
 inline const QColor headerShadow = QColor::fromRgbF(0.0F, 0.0F, 0.0F, 0.16F);
 /// Rounded panels inside a pane.
 inline const QColor panel = rgb(0.925F, 0.941F, 0.945F);
@@ -70,7 +70,7 @@ inline const QColor popoverShadow = QColor::fromRgbF(0.0F, 0.0F, 0.0F, 0.35F);
 
 /// Filled buttons: their text, and their colors before their owner sets others.
 inline const QColor buttonText = rgb(1, 1, 1);
-/// Darkens a filled button while it is held down.
+/// Darkens a filled button while it is pressed.
 inline const QColor pressedShade = QColor::fromRgbF(0.0F, 0.0F, 0.0F, 0.14F);
 inline const QColor button = icons;
 inline const QColor buttonHover = iconsBorder;

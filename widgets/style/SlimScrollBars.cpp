@@ -53,7 +53,7 @@ SlimScrollBars::SlimScrollBars(const QString &baseStyle) : QProxyStyle(baseStyle
 void SlimScrollBars::polish(QWidget *widget)
 {
     QProxyStyle::polish(widget);
-    // What lies below the bar shows beside its thumb.
+    // The background shows beside the thumb.
     if (qobject_cast<QScrollBar *>(widget) != nullptr)
         widget->setAttribute(Qt::WA_OpaquePaintEvent, false);
 }

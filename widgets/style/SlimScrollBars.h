@@ -6,13 +6,13 @@
 namespace lumora
 {
 
-/// Draws scroll bars as a thumb alone, without groove and arrows; everything else as its base style does.
+/// Draws scroll bars as a thumb only, without groove and arrows, and everything else like its base style.
 class SlimScrollBars final : public QProxyStyle
 {
     Q_OBJECT
 
 public:
-    static constexpr int extent = 12;        ///< across the bar, the distance to the content included
+    static constexpr int extent = 12;        ///< the bar's width, including the distance to the content
     static constexpr int thumbThickness = 6; ///< at the bar's outer edge
     static constexpr int shortestThumb = 24;
 

@@ -108,7 +108,7 @@ private slots:
         for (int red = 0; red <= 255; red += 9) {
             for (int green = 0; green <= 255; green += 9) {
                 for (int blue = 0; blue <= 255; blue += 9) {
-                    // A gray is exchanged for a gray only.
+                    // A gray is only replaced by a gray.
                     if (isGray(color(text)) && !(red == green && green == blue))
                         continue;
                     const WideColor other = wideColorFromBytes(red, green, blue);

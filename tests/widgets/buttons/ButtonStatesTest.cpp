@@ -13,7 +13,7 @@
 using namespace lumora;
 using namespace Qt::StringLiterals;
 
-/// What buttons show of the pointer and the keys besides their colors and images.
+/// The buttons' reactions to pointer and keys besides their colors and images.
 class ButtonStatesTest : public QObject
 {
     Q_OBJECT
