@@ -22,7 +22,13 @@ public:
     enum class Room { There, None };
 
     explicit PaneInWindow(Room room = Room::There)
-        : services{{}, {}, {}, {}, room == Room::There && folder ? folder.value()->path() : QString()},
+        : services{{},
+                   {},
+                   {},
+                   {},
+                   {},
+                   std::make_shared<ReadyFiles>(),
+                   room == Room::There && folder ? folder.value()->path() : QString()},
           tool(services.services())
     {
         window.resize(900, 660);
