@@ -2,7 +2,7 @@
 # Converts CHANGELOG.md, the only source of release notes, to the forms for AppStream and Debian:
 #   LUMORA_METAINFO_RELEASES  <release> elements, indented
 #   LUMORA_DEBIAN_CHANGELOG   one Debian changelog stanza per release
-# A release is "## VERSION (YYYY-MM-DD)", followed by one "- " line a change.
+# A release is "## VERSION (YYYY-MM-DD)", followed by its changes. A change begins with "- "; its further lines are indented.
 
 # Sakamoto's rule for the Gregorian calendar, since Debian's changelog contains the day of the week.
 function(lumora_day_of_week result year month day)
@@ -35,6 +35,7 @@ endfunction()
 
 # Breaks a change at spaces into the lines of a Debian changelog entry, at most 80 columns wide.
 function(lumora_debian_entry result change)
+  string(REPLACE ";" "\\;" change "${change}")
   string(REPLACE " " ";" words "${change}")
   set(text "")
   set(line "  *")
@@ -57,7 +58,22 @@ function(lumora_read_release_notes file maintainer)
   set(close_release "")
   set(close_stanza "")
   set(newest "")
+  set(change "")
+  # The last line ends the last change.
+  list(APPEND lines "#")
   foreach(line IN LISTS lines)
+    if(line MATCHES "^  (.+)$" AND change)
+      string(APPEND change " ${CMAKE_MATCH_1}")
+      continue()
+    endif()
+    if(change)
+      lumora_debian_entry(entry "${change}")
+      string(APPEND changelog "${entry}")
+      string(REPLACE "&" "&amp;" change "${change}")
+      string(REPLACE "<" "&lt;" change "${change}")
+      string(APPEND releases "          <li>${change}</li>\n")
+      set(change "")
+    endif()
     if(line MATCHES "^## ([0-9.]+) \\(([0-9]+-[0-9]+-[0-9]+)\\)$")
       set(version ${CMAKE_MATCH_1})
       set(date ${CMAKE_MATCH_2})
@@ -72,11 +88,6 @@ function(lumora_read_release_notes file maintainer)
       set(close_stanza "\n -- ${maintainer}  ${debian_date}\n\n")
     elseif(line MATCHES "^- (.+)$")
       set(change "${CMAKE_MATCH_1}")
-      lumora_debian_entry(entry "${change}")
-      string(APPEND changelog "${entry}")
-      string(REPLACE "&" "&amp;" change "${change}")
-      string(REPLACE "<" "&lt;" change "${change}")
-      string(APPEND releases "          <li>${change}</li>\n")
     endif()
   endforeach()
   if(NOT newest STREQUAL PROJECT_VERSION)

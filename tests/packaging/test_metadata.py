@@ -87,9 +87,11 @@ class Metainfo(unittest.TestCase):
         release = metainfo().find("releases/release")
         self.assertEqual(release.get("version"), VERSION)
         changes = [item.text for item in release.iter("li")]
-        stands = (SOURCE / "CHANGELOG.md").read_text(encoding="utf-8")
-        section = stands.split(f"## {VERSION} ")[1].split("\n## ")[0]
+        notes = (SOURCE / "CHANGELOG.md").read_text(encoding="utf-8").replace("\n  ", " ")
+        section = notes.split(f"## {VERSION} ")[1].split("\n## ")[0]
         self.assertEqual(changes, re.findall(r"^- (.+)$", section, re.M))
+        entries = (METADATA / "debian/changelog").read_text(encoding="utf-8").replace("\n    ", " ").split("\n -- ")[0]
+        self.assertEqual(re.findall(r"^  \* (.+)$", entries, re.M), changes)
 
     def test_it_launches_the_menu_entry_and_claims_the_same_files(self):
         root = metainfo()
