@@ -130,6 +130,36 @@ private slots:
                  "Facebook app ID: passed\n"_s);
     }
 
+    void drawsTheAppsIconWithTheScreensPixels_data()
+    {
+        QTest::addColumn<int>("scale");
+        QTest::addColumn<QSize>("size");
+        QTest::newRow("a pixel for each point") << 1 << QSize(128, 128);
+        QTest::newRow("two") << 2 << QSize(256, 256);
+        QTest::newRow("three") << 3 << QSize(384, 384);
+    }
+    void drawsTheAppsIconWithTheScreensPixels()
+    {
+        QFETCH(int, scale);
+        const auto folder = WorkFolder::make();
+        const auto decoder = systemProfileDecoder();
+        const InspectionSite site{folder.value()->path(), *decoder, {}, {}, scale};
+        QTEST(inspectPackage(package(u"valid"_s), site).artwork.appIcon.size(), "size");
+        // Here no picture is as large; the first one stands in.
+        const QImage small = inspectPackage(package(u"icons by order"_s), site).artwork.appIcon;
+        QTEST(small.size(), "size");
+        QCOMPARE(QColor(small.pixel(small.rect().center())).name(), u"#ff0000"_s);
+    }
+
+    void namesTheExplanationsScrollArea()
+    {
+        PaneInWindow pane;
+        read(pane, u"one icon"_s);
+        QTest::mouseClick(pane.ui().validAppIconsBox, Qt::LeftButton);
+        QCOMPARE(pane.tool.validatePopupContentView()->scrollArea()->accessibleName(), qtTrId("VALIDATE_ICONS_TITLE"));
+        QVERIFY(!pane.ui().validURLSchemesBox->toolTip().isEmpty());
+    }
+
     void checksAgainWhatLiesThereNow()
     {
         PaneInWindow pane;
