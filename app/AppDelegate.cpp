@@ -343,6 +343,9 @@ void AppDelegate::activate()
     if (m_window->isMinimized())
         m_window->setWindowState(m_window->windowState() & ~Qt::WindowMinimized);
     m_window->show();
+    // Otherwise the toolkit gives the focus to the first control of the window, the help button.
+    if (m_window->focusWidget() == nullptr && m_currentController != nullptr)
+        m_currentController->takeFocus();
     m_window->raise();
     m_window->activateWindow();
 }

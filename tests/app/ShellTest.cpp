@@ -248,6 +248,20 @@ private slots:
         }
     }
 
+    void theToolHasTheFocusAtTheStart()
+    {
+        Application application;
+        application.delegate.activate();
+        QVERIFY(QTest::qWaitForWindowActive(application.delegate.window()));
+        const QWidget *focused = QApplication::focusWidget();
+        QVERIFY(focused != nullptr);
+        QVERIFY(application.delegate.currentController()->view()->isAncestorOf(focused));
+        // A second start moves nothing.
+        application.delegate.header()->infoButton()->setFocus();
+        application.delegate.activate();
+        QCOMPARE(QApplication::focusWidget(), application.delegate.header()->infoButton());
+    }
+
     void tabReachesHeaderSidebarAndTool()
     {
         Application application;
