@@ -2,6 +2,8 @@
 #include "ValidateCommand.h"
 
 #include "PackageReportText.h"
+#include "StoreDemands.h"
+#include "StoreReport.h"
 #include "cli/arguments/Declaration.h"
 #include "cli/console/CommandText.h"
 #include "cli/console/Interruption.h"
@@ -37,6 +39,16 @@ struct ValidateArguments
     QStringList files;
     QString icon;
     bool noSandbox = false;
+    StoreArguments store;
+};
+
+/// A package with all that is known of it.
+struct Inspection
+{
+    PackageReport report;
+    std::optional<PackageContents> contents; ///< nothing where only the classic rules are asked for
+    QList<Finding> findings;
+    bool classicCounts = true;
 };
 
 /// A package, named as in messages and results. "-" is standard input.
@@ -92,18 +104,31 @@ Complaint wordedFailure(const GivenPackage &file, const Failure &failure)
     return complaintOf(Failure{failure.code, file.name, failure.detail});
 }
 
-std::variant<PackageReport, Complaint> inspected(const GivenPackage &file, const SpooledPackage &spooled,
-                                                 const ProfileDecoder &decoder)
+std::variant<Inspection, Complaint> inspected(const GivenPackage &file, const SpooledPackage &spooled,
+                                              const ProfileDecoder &decoder, const StoreDemands &demands)
 {
     const auto source = file.isStdin ? spooled.open() : openPackage(file.name);
     if (!source)
         return wordedFailure(file, source.failure());
-    const WholeReading reading = source.value()->readAll([](const PackageEntry &) { return nullptr; });
-    PackageReport report = inspectPackage(*source.value(), reading, decoder);
-    const Outcome outcome = reportOutcome(report);
+    Inspection inspection;
+    WholeReading reading;
+    if (demands.rules == u"classic") {
+        reading = source.value()->readAll([](const PackageEntry &) { return nullptr; });
+    } else {
+        inspection.contents = readPackageContents(*source.value());
+        reading = inspection.contents->reading;
+    }
+    inspection.report = inspectPackage(*source.value(), reading, decoder);
+    const Outcome outcome = reportOutcome(inspection.report);
     if (!outcome)
         return wordedFailure(file, outcome.failure());
-    return report;
+    if (inspection.contents) {
+        const bool isOld = isOfOldTime(*inspection.contents);
+        inspection.classicCounts = demands.rules == u"all" || (demands.rules == u"auto" && isOld);
+        if (demands.rules != u"auto" || !isOld)
+            inspection.findings = findingsIn(*inspection.contents, demands.settings, demands.ignored);
+    }
+    return inspection;
 }
 
 void complainOfDamage(Console &console, const QString &file, const PackageReport &report)
@@ -141,8 +166,8 @@ bool writeIcon(Console &console, const QString &file, const PackageReport &repor
 class Validation
 {
 public:
-    Validation(Console &console, const ValidateArguments &arguments)
-        : m_console(console), m_icon(arguments.icon), m_isSandboxed(!arguments.noSandbox)
+    Validation(Console &console, const ValidateArguments &arguments, StoreDemands demands)
+        : m_console(console), m_icon(arguments.icon), m_isSandboxed(!arguments.noSandbox), m_demands(std::move(demands))
     {
         for (const QString &file : arguments.files)
             m_files.push_back(givenPackage(file));
@@ -203,20 +228,53 @@ private:
     {
         if (m_done++ > 0)
             m_console.print(QString());
-        const auto result = inspected(file, m_spooled, m_decoder);
+        const auto result = inspected(file, m_spooled, m_decoder, m_demands);
         if (const auto *complaint = std::get_if<Complaint>(&result)) {
             m_console.complain(*complaint);
-            m_objects.append(m_console.object(ExitStatus::Unreadable, failureJson(file.name, *complaint)));
+            m_objects.append(m_console.object(ExitStatus::Unreadable, failureJson(file.name, *complaint), schema));
             return ExitStatus::Unreadable;
         }
-        const PackageReport &report = std::get<PackageReport>(result);
+        const Inspection &inspection = std::get<Inspection>(result);
+        const PackageReport &report = inspection.report;
         complainOfDamage(m_console, file.name, report);
-        for (const QString &line : reportLines(file.name, report))
-            m_console.print(line);
+        printLines(file.name, inspection);
         const bool isIconWritten = m_icon.isEmpty() || writeIcon(m_console, file.name, report, m_icon);
-        const ExitStatus status = allJudgedValid(report) && isIconWritten ? ExitStatus::Done : ExitStatus::Refused;
-        m_objects.append(m_console.object(status, reportJson(file.name, report)));
+        const bool isRefused =
+            !isIconWritten || failsByFindings(inspection) || (inspection.classicCounts && !allJudgedValid(report));
+        const ExitStatus status = isRefused ? ExitStatus::Refused : ExitStatus::Done;
+        QJsonObject object = reportJson(file.name, report);
+        static const PackageContents nothing;
+        const QJsonObject store = storeJson(inspection.contents ? *inspection.contents : nothing, inspection.findings);
+        for (auto member = store.begin(); member != store.end(); ++member)
+            object.insert(member.key(), member.value());
+        m_objects.append(m_console.object(status, object, schema));
         return status;
+    }
+
+    /// Facts, then what the store finds, then the classic checks.
+    void printLines(const QString &name, const Inspection &inspection)
+    {
+        const QStringList lines = reportLines(name, inspection.report);
+        const QStringList found = findingLines(inspection.findings);
+        const bool hasHeadings = !inspection.classicCounts || !found.isEmpty();
+        const qsizetype facts = std::max<qsizetype>(0, lines.size() - classicLines);
+        for (const QString &line : lines.first(facts) + found)
+            m_console.print(line);
+        if (hasHeadings && found.isEmpty())
+            m_console.print(noFindingsLine());
+        if (m_demands.rules == u"store")
+            return;
+        if (hasHeadings)
+            m_console.print(QString(u"  "_s + commandText("CLI_CLASSIC_RULES")));
+        for (const QString &line : lines.sliced(facts))
+            m_console.print(line);
+    }
+
+    bool failsByFindings(const Inspection &inspection) const
+    {
+        return m_demands.failOn && std::ranges::any_of(inspection.findings, [&](const Finding &finding) {
+                   return finding.rule->severity >= *m_demands.failOn;
+               });
     }
 
     /// One object for one file, an array for several.
@@ -229,9 +287,14 @@ private:
         return m_console.finish(m_status);
     }
 
+    static constexpr int schema = 2;
+    /// The checks at the end of a report's lines.
+    static constexpr qsizetype classicLines = 6;
+
     Console &m_console;
     const QString m_icon;
     const bool m_isSandboxed;
+    const StoreDemands m_demands;
     std::vector<GivenPackage> m_files;
     SpooledPackage m_spooled;
     const CmsProfileDecoder m_decoder;
@@ -260,9 +323,14 @@ ExitStatus runValidate(Console &console, const ValidateArguments &arguments)
         console.complain(*problem);
         return ExitStatus::Usage;
     }
+    auto demands = arguments.store.demands();
+    if (const auto *problem = std::get_if<Complaint>(&demands)) {
+        console.complain(*problem);
+        return problem->kind == Complaint::Kind::Misuse ? ExitStatus::Usage : ExitStatus::Refused;
+    }
     if (arguments.icon == u"-")
         console.keepStdoutForAFile();
-    return Validation(console, arguments).run();
+    return Validation(console, arguments, std::get<StoreDemands>(std::move(demands))).run();
 }
 
 } // namespace
@@ -272,6 +340,7 @@ CommandBody declareValidateCommand(Declaration &declaration)
     const auto arguments = std::make_shared<ValidateArguments>();
     declaration.operand("FILE", &arguments->files, "CLI_VALIDATE_FILE").required();
     declaration.option("--icon", &arguments->icon, "OUT.png", "CLI_VALIDATE_ICON").in(ArgumentGroup::Output);
+    arguments->store.declareOn(declaration);
     declaration.flag("--no-sandbox", &arguments->noSandbox, "CLI_NO_SANDBOX");
     declaration.explain("CLI_VALIDATE_STATUS");
     declaration.example("lumora validate App.ipa");

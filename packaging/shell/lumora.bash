@@ -25,7 +25,7 @@ _lumora_options() {
       echo "--ios --feature --today --family --chip --capability --screen --biometry --with --search --model --data --csv" \
         "$_lumora_general"
       ;;
-    validate) echo "--icon --no-sandbox $_lumora_general" ;;
+    validate) echo "--icon --rules --fail-on --ignore --ignore-file --on --no-sandbox $_lumora_general" ;;
     help | version) ;;
     *) echo "--tool $_lumora_general" ;;
   esac
@@ -35,7 +35,7 @@ _lumora_options() {
 _lumora_values() {
   case $1:$2 in
     *:--to | *:--out) echo folder ;;
-    icon:--output | icon:-o | validate:--icon) echo file ;;
+    icon:--output | icon:-o | validate:--icon | validate:--ignore-file) echo file ;;
     icons:--platform) echo "list:iphone ipad mac android web-touch favicon all" ;;
     icon:--corners) echo "none ios6 ios7" ;;
     placeholders:--set) echo "list:ios mac app-store play feature-graphic tv watch social launch" ;;
@@ -61,8 +61,10 @@ _lumora_values() {
       echo "list:retina multitask siri video_rec compass gyroscope gps back_cam front_cam flash_cam bluetooth_le" \
         "opengl_2 opengl_3"
       ;;
+    validate:--rules) echo "auto store classic all" ;;
+    validate:--fail-on) echo "error warning never" ;;
     icon:--size | placeholders:--size | *:--quality | *:--text | *:--foreground | *:--background) echo anything ;;
-    color:--contrast | devices:--chip | devices:--search | devices:--model) echo anything ;;
+    color:--contrast | validate:--ignore | validate:--on | devices:--chip | devices:--search | devices:--model) echo anything ;;
     :--tool) echo "$_lumora_tools" ;;
   esac
 }

@@ -74,3 +74,8 @@ complete -c lumora -n '__fish_seen_subcommand_from devices' -l csv -d 'Print com
 complete -c lumora -n '__fish_seen_subcommand_from validate validator' -a '(__lumora_files ipa)'
 complete -c lumora -n '__fish_seen_subcommand_from validate validator' -l icon -r -F -d 'Write the icon here'
 complete -c lumora -n '__fish_seen_subcommand_from validate validator' -l no-sandbox -d 'Do not lock the process in'
+complete -c lumora -n '__fish_seen_subcommand_from validate validator' -l rules -x -a 'auto store classic all' -d 'Which rules'
+complete -c lumora -n '__fish_seen_subcommand_from validate validator' -l fail-on -x -a 'error warning never' -d 'Least severe finding that counts'
+complete -c lumora -n '__fish_seen_subcommand_from validate validator' -l ignore -x -d 'Rules to leave out'
+complete -c lumora -n '__fish_seen_subcommand_from validate validator' -l ignore-file -r -F -d 'File of rules to leave out'
+complete -c lumora -n '__fish_seen_subcommand_from validate validator' -l on -x -d 'Day to judge for'

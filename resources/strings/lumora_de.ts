@@ -1722,9 +1722,45 @@
     <source>Not locked in: --no-sandbox</source>
     <translation>Nicht eingesperrt: --no-sandbox</translation>
   </message>
+  <message id="CLI_VALIDATE_RULES">
+    <source>Judge by the rules of today's store, by those of iOS 7 (classic), or by all; auto, the default, asks the store's, and the classic ones of packages built with an SDK before iOS 8 or with none</source>
+    <translation>Nach den Regeln des heutigen Stores, denen von iOS 7 (classic) oder allen urteilen; auto, die Vorgabe, nimmt die des Stores und bei Paketen mit einem SDK vor iOS 8 oder ohne eines die klassischen</translation>
+  </message>
+  <message id="CLI_VALIDATE_FAIL_ON">
+    <source>The least severe finding that makes the status 1; error is the default</source>
+    <translation>Der leichteste Befund, der zum Status 1 führt; die Vorgabe ist error</translation>
+  </message>
+  <message id="CLI_VALIDATE_IGNORE">
+    <source>Leave out a rule, by its id or the store's code</source>
+    <translation>Eine Regel auslassen, nach ihrer Kennung oder dem Code des Stores</translation>
+  </message>
+  <message id="CLI_VALIDATE_IGNORE_FILE">
+    <source>Leave out the rules that a file lists, one a line</source>
+    <translation>Die Regeln auslassen, die eine Datei aufzählt, eine je Zeile</translation>
+  </message>
+  <message id="CLI_VALIDATE_ON">
+    <source>Judge for another day than today, as in 2027-04-30</source>
+    <translation>Für einen anderen Tag als heute urteilen, etwa 2027-04-30</translation>
+  </message>
+  <message id="CLI_UNKNOWN_RULE">
+    <source>[RULE] is no rule</source>
+    <translation>[RULE] ist keine Regel</translation>
+  </message>
+  <message id="CLI_CLASSIC_RULES">
+    <source>iOS 7 rules</source>
+    <translation>Regeln von iOS 7</translation>
+  </message>
+  <message id="CLI_STORE_RULES">
+    <source>the store's rules</source>
+    <translation>die Regeln des Stores</translation>
+  </message>
+  <message id="CLI_NOT_A_DATE">
+    <source>[DATE] is no date; write it as in 2027-04-30</source>
+    <translation>[DATE] ist kein Datum; schreiben Sie es wie 2027-04-30</translation>
+  </message>
   <message id="CLI_VALIDATE_STATUS">
-    <source>Ends with 0 when all checks are valid, 1 when one is not, 3 when a file is no archive with an app.</source>
-    <translation>Endet mit 0, wenn alle Prüfungen bestanden sind, mit 1, wenn eine nicht, mit 3, wenn eine Datei kein Archiv mit einer App ist.</translation>
+    <source>Ends with 0 when nothing is found that counts, 1 when something is, 3 when a file is no archive with an app.</source>
+    <translation>Endet mit 0, wenn nichts gefunden wird, was zählt, mit 1, wenn doch, mit 3, wenn eine Datei kein Archiv mit einer App ist.</translation>
   </message>
   <message id="CLI_DID_YOU_MEAN">
     <source>did you mean [WORD]?</source>

@@ -1720,9 +1720,45 @@
     <source>Not locked in: --no-sandbox</source>
     <translation>Not locked in: --no-sandbox</translation>
   </message>
+  <message id="CLI_VALIDATE_RULES">
+    <source>Judge by the rules of today's store, by those of iOS 7 (classic), or by all; auto, the default, asks the store's, and the classic ones of packages built with an SDK before iOS 8 or with none</source>
+    <translation>Judge by the rules of today's store, by those of iOS 7 (classic), or by all; auto, the default, asks the store's, and the classic ones of packages built with an SDK before iOS 8 or with none</translation>
+  </message>
+  <message id="CLI_VALIDATE_FAIL_ON">
+    <source>The least severe finding that makes the status 1; error is the default</source>
+    <translation>The least severe finding that makes the status 1; error is the default</translation>
+  </message>
+  <message id="CLI_VALIDATE_IGNORE">
+    <source>Leave out a rule, by its id or the store's code</source>
+    <translation>Leave out a rule, by its id or the store's code</translation>
+  </message>
+  <message id="CLI_VALIDATE_IGNORE_FILE">
+    <source>Leave out the rules that a file lists, one a line</source>
+    <translation>Leave out the rules that a file lists, one a line</translation>
+  </message>
+  <message id="CLI_VALIDATE_ON">
+    <source>Judge for another day than today, as in 2027-04-30</source>
+    <translation>Judge for another day than today, as in 2027-04-30</translation>
+  </message>
+  <message id="CLI_UNKNOWN_RULE">
+    <source>[RULE] is no rule</source>
+    <translation>[RULE] is no rule</translation>
+  </message>
+  <message id="CLI_CLASSIC_RULES">
+    <source>iOS 7 rules</source>
+    <translation>iOS 7 rules</translation>
+  </message>
+  <message id="CLI_STORE_RULES">
+    <source>the store's rules</source>
+    <translation>the store's rules</translation>
+  </message>
+  <message id="CLI_NOT_A_DATE">
+    <source>[DATE] is no date; write it as in 2027-04-30</source>
+    <translation>[DATE] is no date; write it as in 2027-04-30</translation>
+  </message>
   <message id="CLI_VALIDATE_STATUS">
-    <source>Ends with 0 when all checks are valid, 1 when one is not, 3 when a file is no archive with an app.</source>
-    <translation>Ends with 0 when all checks are valid, 1 when one is not, 3 when a file is no archive with an app.</translation>
+    <source>Ends with 0 when nothing is found that counts, 1 when something is, 3 when a file is no archive with an app.</source>
+    <translation>Ends with 0 when nothing is found that counts, 1 when something is, 3 when a file is no archive with an app.</translation>
   </message>
   <message id="CLI_DID_YOU_MEAN">
     <source>did you mean [WORD]?</source>

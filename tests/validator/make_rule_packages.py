@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""usage: make_rule_packages.py FOLDER   Signed packages: one that follows all rules, and for each rule one that breaks it.
+"""usage: make_rule_packages.py FOLDER [NAME...]   Signed packages: one that follows all rules, and for each rule one that breaks it.
 
 A package that breaks a rule is named for the rule's id, or for several ids if the faults only occur together; other words
 distinguish several ways to break a rule.
@@ -327,14 +327,12 @@ def main():
     other = Identity()
     developer = Identity(common_name="Apple Development: Ann Example (ABCDE12345)")
     ended = Identity(start="20250101000000Z", end="20260901000000Z")
-    for name, change in breaking(identity, other, developer, ended).items():
+    changes = breaking(identity, other, developer, ended)
+    changes |= {f"keeps, {name}": change for name, change in keeping().items()}
+    for name in sys.argv[2:] or changes:
         package = Package(identity)
-        change(package)
+        changes[name](package)
         package.write(out / f"{name}.ipa")
-    for name, change in keeping().items():
-        package = Package(identity)
-        change(package)
-        package.write(out / f"keeps, {name}.ipa")
 
 
 if __name__ == "__main__":

@@ -17,6 +17,18 @@ const Rule *ruleNamed(const QString &name)
     return nullptr;
 }
 
+QStringList ruleNames()
+{
+    QStringList ids;
+    QStringList codes;
+    for (const Rule &rule : allRules()) {
+        ids += QString::fromLatin1(rule.id);
+        if (*rule.code != '\0')
+            codes += QString::fromLatin1(rule.code);
+    }
+    return ids + codes;
+}
+
 QString severityName(Severity severity)
 {
     switch (severity) {

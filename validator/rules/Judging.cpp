@@ -65,6 +65,12 @@ QVersionNumber sdkOf(const PackageContents &contents)
     return QVersionNumber::fromString(version);
 }
 
+bool isOfOldTime(const PackageContents &contents)
+{
+    const QVersionNumber sdk = sdkOf(contents);
+    return sdk.isNull() || sdk < QVersionNumber(8);
+}
+
 QVariantMap entitlementsOf(const PackageContents &contents, const PackageBundle &bundle)
 {
     const CodeSignature *signature = contents.signatureOf(bundle);

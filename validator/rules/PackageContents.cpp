@@ -295,10 +295,10 @@ bool PackageContents::holdsFolder(const QString &path) const
 PackageContents readPackageContents(const PackageSource &source, const std::stop_token &stop)
 {
     Gathering gathering;
-    const WholeReading reading = source.readAll(
+    WholeReading reading = source.readAll(
         [&](const PackageEntry &entry) { return std::make_unique<FileConsumer>(entry, gathering); }, stop);
     PackageContents contents;
-    contents.damaged = reading.damaged;
+    contents.reading = std::move(reading);
     contents.isArchive = source.path().endsWith(".ipa"_L1);
     ContentsReading work(source, gathering, contents);
     work.readFiles();

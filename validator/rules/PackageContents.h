@@ -71,7 +71,7 @@ struct PackageContents
     QMap<QString, quint64> sizes; ///< of files, unpacked; bytes
     quint64 packedSize = 0;
     bool isArchive = false; ///< an .ipa; other forms have no files beside "Payload" yet
-    QStringList damaged;
+    WholeReading reading;   ///< how the reading itself went
 
     const PackageBundle *app() const { return bundles.isEmpty() ? nullptr : &bundles.first(); }
     const PackageBinary *binaryOf(const PackageBundle &bundle) const;

@@ -6,6 +6,7 @@
 #include <QDate>
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 #include <span>
 
@@ -57,8 +58,14 @@ std::span<const Rule> allRules();
 /// Null when no rule has the id or the store code.
 const Rule *ruleNamed(const QString &name);
 
+/// All ids, then all store codes.
+QStringList ruleNames();
+
 /// "error", "warning", "note".
 QString severityName(Severity severity);
+
+/// True for an app of the time before these rules: built with an SDK before iOS 8, or with none that is named.
+bool isOfOldTime(const PackageContents &contents);
 
 struct Finding
 {
