@@ -42,24 +42,42 @@ QString severityName(Severity severity)
     return {};
 }
 
-QList<Finding> findingsIn(const PackageContents &contents, const RuleSettings &settings, const QStringList &ignored)
+QList<RuleVerdict> verdictsOn(const PackageContents &contents, const RuleSettings &settings, const QStringList &ignored)
 {
-    QList<Finding> findings;
+    QList<RuleVerdict> verdicts;
     if (contents.app() == nullptr)
-        return findings;
+        return verdicts;
     for (const Rule &rule : allRules()) {
         if (ignored.contains(QLatin1StringView(rule.id)) ||
             (*rule.code != '\0' && ignored.contains(QLatin1StringView(rule.code))))
             continue;
-        const Judgement judgement = rule.judge(contents, settings);
-        if (judgement.state != Judgement::Broken)
+        verdicts += RuleVerdict{&rule, rule.judge(contents, settings)};
+    }
+    return verdicts;
+}
+
+bool countsAsFailure(const RuleVerdict &verdict, std::optional<Severity> failOn)
+{
+    return failOn && verdict.judgement.state == Judgement::Broken && verdict.rule->severity >= *failOn;
+}
+
+QList<Finding> findingsAmong(const QList<RuleVerdict> &verdicts)
+{
+    QList<Finding> findings;
+    for (const RuleVerdict &verdict : verdicts) {
+        if (verdict.judgement.state != Judgement::Broken)
             continue;
-        for (const Evidence &evidence : judgement.evidence)
-            findings += Finding{&rule, evidence};
+        for (const Evidence &evidence : verdict.judgement.evidence)
+            findings += Finding{verdict.rule, evidence};
     }
     std::ranges::stable_sort(
         findings, [](const Finding &one, const Finding &other) { return one.rule->severity > other.rule->severity; });
     return findings;
+}
+
+QList<Finding> findingsIn(const PackageContents &contents, const RuleSettings &settings, const QStringList &ignored)
+{
+    return findingsAmong(verdictsOn(contents, settings, ignored));
 }
 
 } // namespace lumora

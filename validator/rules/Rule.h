@@ -8,6 +8,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <optional>
 #include <span>
 
 namespace lumora
@@ -67,14 +68,31 @@ QString severityName(Severity severity);
 /// True for an app of the time before these rules: built with an SDK before iOS 8, or with none that is named.
 bool isOfOldTime(const PackageContents &contents);
 
+/// A rule that was asked, and what it came to.
+struct RuleVerdict
+{
+    const Rule *rule = nullptr;
+    Judgement judgement;
+};
+
+/// Every rule asked of the package, in their order, but those that are named in `ignored` by id or store code. None
+/// where the package holds no app.
+QList<RuleVerdict> verdictsOn(const PackageContents &contents, const RuleSettings &settings,
+                              const QStringList &ignored = {});
+
+/// Whether the rule is broken and as severe as the least severe that counts; nothing counts where none is given.
+bool countsAsFailure(const RuleVerdict &verdict, std::optional<Severity> failOn);
+
 struct Finding
 {
     const Rule *rule = nullptr;
     Evidence evidence;
 };
 
-/// The rules' findings in the package, errors first, one for each piece of evidence. Rules in `ignored`, given by id or
-/// store code, are skipped.
+/// What is broken, errors first, one finding for each piece of evidence.
+QList<Finding> findingsAmong(const QList<RuleVerdict> &verdicts);
+
+/// The rules' findings in the package. Rules in `ignored`, given by id or store code, are skipped.
 QList<Finding> findingsIn(const PackageContents &contents, const RuleSettings &settings,
                           const QStringList &ignored = {});
 
