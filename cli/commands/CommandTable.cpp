@@ -7,7 +7,9 @@
 #include "IconCommand.h"
 #include "IconsCommand.h"
 #include "PlaceholdersCommand.h"
-#include "ValidateCommand.h"
+#include "cli/packages/DiffCommand.h"
+#include "cli/packages/RulesCommand.h"
+#include "cli/packages/ValidateCommand.h"
 
 namespace lumora
 {
@@ -23,6 +25,8 @@ constexpr Command commands[] = {
     {"color", ToolIndex::Color, "CLI_COLOR_ABOUT", false, &declareColorCommand},
     {"devices", ToolIndex::Devices, "CLI_DEVICES_ABOUT", false, &declareDevicesCommand},
     {"validate", ToolIndex::Validator, "CLI_VALIDATE_ABOUT", false, &declareValidateCommand},
+    {"diff", ToolIndex::Validator, "CLI_DIFF_ABOUT", false, &declareDiffCommand},
+    {"rules", ToolIndex::Validator, "CLI_RULES_ABOUT", false, &declareRulesCommand},
 };
 
 } // namespace

@@ -1,23 +1,18 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "cli/console/CommandBody.h"
 #include "foundation/ToolFacts.h"
 
 #include <QString>
 #include <QStringList>
 
-#include <functional>
 #include <span>
 
 namespace lumora
 {
 
-class Console;
 class Declaration;
-enum class ExitStatus : int;
-
-/// The work of a command, once its arguments are read.
-using CommandBody = std::function<ExitStatus(Console &)>;
 
 /// One command of `lumora`. Each is in a file of its own.
 struct Command

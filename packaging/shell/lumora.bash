@@ -8,7 +8,7 @@ _lumora_tools="icons placeholders resizer color devices validator"
 # The name of the command that a word means; a tool's name also means its command.
 _lumora_command() {
   case $1 in
-    icons | icon | placeholders | downscale | color | devices | validate | help | version) echo "$1" ;;
+    icons | icon | placeholders | downscale | color | devices | validate | diff | rules | help | version) echo "$1" ;;
     resizer) echo downscale ;;
     validator) echo validate ;;
   esac
@@ -25,7 +25,9 @@ _lumora_options() {
       echo "--ios --feature --today --family --chip --capability --screen --biometry --with --search --model --data --csv" \
         "$_lumora_general"
       ;;
-    validate) echo "--icon --rules --fail-on --ignore --ignore-file --on --no-sandbox $_lumora_general" ;;
+    validate) echo "--icon --rules --fail-on --ignore --ignore-file --on --sarif --junit --html --devices --no-sandbox $_lumora_general" ;;
+    diff) echo "--on --no-sandbox $_lumora_general" ;;
+    rules) echo "--markdown $_lumora_general" ;;
     help | version) ;;
     *) echo "--tool $_lumora_general" ;;
   esac
@@ -35,7 +37,7 @@ _lumora_options() {
 _lumora_values() {
   case $1:$2 in
     *:--to | *:--out) echo folder ;;
-    icon:--output | icon:-o | validate:--icon | validate:--ignore-file) echo file ;;
+    icon:--output | icon:-o | validate:--icon | validate:--ignore-file | validate:--sarif | validate:--junit | validate:--html) echo file ;;
     icons:--platform) echo "list:iphone ipad mac android web-touch favicon all" ;;
     icon:--corners) echo "none ios6 ios7" ;;
     placeholders:--set) echo "list:ios mac app-store play feature-graphic tv watch social launch" ;;
@@ -64,7 +66,7 @@ _lumora_values() {
     validate:--rules) echo "auto store classic all" ;;
     validate:--fail-on) echo "error warning never" ;;
     icon:--size | placeholders:--size | *:--quality | *:--text | *:--foreground | *:--background) echo anything ;;
-    color:--contrast | validate:--ignore | validate:--on | devices:--chip | devices:--search | devices:--model) echo anything ;;
+    color:--contrast | validate:--ignore | validate:--on | diff:--on | devices:--chip | devices:--search | devices:--model) echo anything ;;
     :--tool) echo "$_lumora_tools" ;;
   esac
 }
@@ -74,7 +76,7 @@ _lumora_operands() {
   case $1 in
     icons | icon) echo "@(png|jpg|jpeg|tif|tiff|webp|bmp|gif|icns)" ;;
     downscale) echo "png" ;;
-    validate) echo "ipa" ;;
+    validate | diff) echo "ipa" ;;
     "") echo "@(png|jpg|jpeg|tif|tiff|webp|bmp|gif|icns|ipa)" ;;
   esac
 }
@@ -146,10 +148,10 @@ _lumora() {
   elif [[ $word == -* ]]; then
     _lumora_words "$(_lumora_options "$command")" "$word"
   elif ((COMP_CWORD == 1)); then
-    _lumora_words "icons icon placeholders downscale color devices validate help version" "$word"
+    _lumora_words "icons icon placeholders downscale color devices validate diff rules help version" "$word"
     ((${#COMPREPLY[@]} > 0)) || _lumora_files "$(_lumora_operands "")" "$word"
   elif [[ $command == help ]]; then
-    _lumora_words "icons icon placeholders downscale color devices validate" "$word"
+    _lumora_words "icons icon placeholders downscale color devices validate diff rules" "$word"
   elif [[ -n $(_lumora_operands "$command") ]]; then
     _lumora_files "$(_lumora_operands "$command")" "$word"
   fi

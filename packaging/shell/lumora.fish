@@ -7,7 +7,7 @@ function __lumora_files
 end
 
 set -l writing icons icon placeholders downscale resizer
-set -l every $writing color devices validate validator
+set -l every $writing color devices validate validator diff rules
 
 complete -c lumora -f
 complete -c lumora -n __fish_use_subcommand -a icons -d 'Write every icon of whole platforms'
@@ -17,11 +17,13 @@ complete -c lumora -n __fish_use_subcommand -a downscale -d 'Halve double-resolu
 complete -c lumora -n __fish_use_subcommand -a color -d 'Print a colour as code'
 complete -c lumora -n __fish_use_subcommand -a devices -d 'List the devices that can run an app'
 complete -c lumora -n __fish_use_subcommand -a validate -d 'Check iOS app packages'
+complete -c lumora -n __fish_use_subcommand -a diff -d 'Compare two builds of a package'
+complete -c lumora -n __fish_use_subcommand -a rules -d 'List the rules for packages'
 complete -c lumora -n __fish_use_subcommand -a help -d 'Explain the program or a command'
 complete -c lumora -n __fish_use_subcommand -a version -d 'Print the version'
 complete -c lumora -n __fish_use_subcommand -a '(__lumora_files png jpg jpeg tif tiff webp bmp gif icns ipa)'
 complete -c lumora -n __fish_use_subcommand -l tool -x -a 'icons placeholders resizer color devices validator' -d 'Open the window at a tool'
-complete -c lumora -n '__fish_seen_subcommand_from help' -a 'icons icon placeholders downscale color devices validate'
+complete -c lumora -n '__fish_seen_subcommand_from help' -a 'icons icon placeholders downscale color devices validate diff rules'
 
 complete -c lumora -s h -l help -d 'Explain'
 complete -c lumora -s V -l version -d 'Print the version'
@@ -73,9 +75,15 @@ complete -c lumora -n '__fish_seen_subcommand_from devices' -l data -r -F -d 'Li
 complete -c lumora -n '__fish_seen_subcommand_from devices' -l csv -d 'Print comma-separated values'
 complete -c lumora -n '__fish_seen_subcommand_from validate validator' -a '(__lumora_files ipa)'
 complete -c lumora -n '__fish_seen_subcommand_from validate validator' -l icon -r -F -d 'Write the icon here'
-complete -c lumora -n '__fish_seen_subcommand_from validate validator' -l no-sandbox -d 'Do not lock the process in'
+complete -c lumora -n '__fish_seen_subcommand_from validate validator diff' -l no-sandbox -d 'Do not lock the process in'
 complete -c lumora -n '__fish_seen_subcommand_from validate validator' -l rules -x -a 'auto store classic all' -d 'Which rules'
 complete -c lumora -n '__fish_seen_subcommand_from validate validator' -l fail-on -x -a 'error warning never' -d 'Least severe finding that counts'
 complete -c lumora -n '__fish_seen_subcommand_from validate validator' -l ignore -x -d 'Rules to leave out'
 complete -c lumora -n '__fish_seen_subcommand_from validate validator' -l ignore-file -r -F -d 'File of rules to leave out'
-complete -c lumora -n '__fish_seen_subcommand_from validate validator' -l on -x -d 'Day to judge for'
+complete -c lumora -n '__fish_seen_subcommand_from validate validator' -l sarif -r -F -d 'Write the findings as SARIF'
+complete -c lumora -n '__fish_seen_subcommand_from validate validator' -l junit -r -F -d 'Write test cases as JUnit XML'
+complete -c lumora -n '__fish_seen_subcommand_from validate validator' -l html -r -F -d 'Write a page'
+complete -c lumora -n '__fish_seen_subcommand_from validate validator' -l devices -d 'List the models that run the app'
+complete -c lumora -n '__fish_seen_subcommand_from diff' -a '(__lumora_files ipa)'
+complete -c lumora -n '__fish_seen_subcommand_from rules' -l markdown -d 'Print the page of the documents'
+complete -c lumora -n '__fish_seen_subcommand_from validate validator diff' -l on -x -d 'Day to judge for'

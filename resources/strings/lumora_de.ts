@@ -1754,6 +1754,90 @@
     <source>the store's rules</source>
     <translation>die Regeln des Stores</translation>
   </message>
+  <message id="CLI_RULES_ABOUT">
+    <source>List the rules that packages are judged by</source>
+    <translation>Die Regeln auflisten, nach denen Pakete beurteilt werden</translation>
+  </message>
+  <message id="CLI_RULES_ID">
+    <source>Rules to print in full, by their ids or the store's codes</source>
+    <translation>Regeln, die ganz gezeigt werden, nach Kennung oder Code des Stores</translation>
+  </message>
+  <message id="CLI_RULES_MARKDOWN">
+    <source>Print the page of the documents</source>
+    <translation>Die Seite der Dokumente ausgeben</translation>
+  </message>
+  <message id="CLI_VALIDATE_SARIF">
+    <source>Write the findings as SARIF 2.1.0; - is standard output</source>
+    <translation>Die Befunde als SARIF 2.1.0 schreiben; - ist die Standardausgabe</translation>
+  </message>
+  <message id="CLI_VALIDATE_JUNIT">
+    <source>Write a test case for each rule as JUnit XML; - is standard output</source>
+    <translation>Zu jeder Regel einen Testfall als JUnit-XML schreiben; - ist die Standardausgabe</translation>
+  </message>
+  <message id="CLI_VALIDATE_ONE_STDOUT">
+    <source>standard output takes one of the report, --json and --icon</source>
+    <translation>die Standardausgabe nimmt nur eines von Bericht, --json und --icon</translation>
+  </message>
+  <message id="CLI_DIFF_ABOUT">
+    <source>Compare two builds of an app package</source>
+    <translation>Zwei Stände eines App-Pakets vergleichen</translation>
+  </message>
+  <message id="CLI_DIFF_OLD">
+    <source>The package as it was</source>
+    <translation>Das Paket, wie es war</translation>
+  </message>
+  <message id="CLI_DIFF_NEW">
+    <source>The package as it is</source>
+    <translation>Das Paket, wie es ist</translation>
+  </message>
+  <message id="CLI_DIFF_FACTS">
+    <source>Facts</source>
+    <translation>Angaben</translation>
+  </message>
+  <message id="CLI_DIFF_ENTITLEMENTS">
+    <source>Entitlements</source>
+    <translation>Berechtigungen der Signatur</translation>
+  </message>
+  <message id="CLI_DIFF_PERMISSIONS">
+    <source>Reasons given for permissions</source>
+    <translation>Gründe für Berechtigungen</translation>
+  </message>
+  <message id="CLI_DIFF_GAINED">
+    <source>Findings gained</source>
+    <translation>Neue Befunde</translation>
+  </message>
+  <message id="CLI_DIFF_LOST">
+    <source>Findings lost</source>
+    <translation>Behobene Befunde</translation>
+  </message>
+  <message id="CLI_DIFF_SIZES">
+    <source>Files and bytes, unpacked</source>
+    <translation>Dateien und Bytes, entpackt</translation>
+  </message>
+  <message id="CLI_DIFF_TOTAL">
+    <source>[FILES] files, [SIZE]</source>
+    <translation>[FILES] Dateien, [SIZE]</translation>
+  </message>
+  <message id="CLI_DIFF_GROWTH">
+    <source>Largest growth</source>
+    <translation>Größter Zuwachs</translation>
+  </message>
+  <message id="CLI_VALIDATE_HTML">
+    <source>Write a page to look at and to pass on; - is standard output</source>
+    <translation>Eine Seite zum Ansehen und Weitergeben schreiben; - ist die Standardausgabe</translation>
+  </message>
+  <message id="CLI_VALIDATE_DEVICES">
+    <source>List the models that run the app, and why the others do not</source>
+    <translation>Die Modelle auflisten, auf denen die App läuft, und warum auf den anderen nicht</translation>
+  </message>
+  <message id="CLI_VALIDATE_RUNS_ON">
+    <source>runs on</source>
+    <translation>läuft auf</translation>
+  </message>
+  <message id="CLI_VALIDATE_RUNS_NOT_ON">
+    <source>does not run on</source>
+    <translation>läuft nicht auf</translation>
+  </message>
   <message id="CLI_NOT_A_DATE">
     <source>[DATE] is no date; write it as in 2027-04-30</source>
     <translation>[DATE] ist kein Datum; schreiben Sie es wie 2027-04-30</translation>

@@ -1752,6 +1752,90 @@
     <source>the store's rules</source>
     <translation>the store's rules</translation>
   </message>
+  <message id="CLI_RULES_ABOUT">
+    <source>List the rules that packages are judged by</source>
+    <translation>List the rules that packages are judged by</translation>
+  </message>
+  <message id="CLI_RULES_ID">
+    <source>Rules to print in full, by their ids or the store's codes</source>
+    <translation>Rules to print in full, by their ids or the store's codes</translation>
+  </message>
+  <message id="CLI_RULES_MARKDOWN">
+    <source>Print the page of the documents</source>
+    <translation>Print the page of the documents</translation>
+  </message>
+  <message id="CLI_VALIDATE_SARIF">
+    <source>Write the findings as SARIF 2.1.0; - is standard output</source>
+    <translation>Write the findings as SARIF 2.1.0; - is standard output</translation>
+  </message>
+  <message id="CLI_VALIDATE_JUNIT">
+    <source>Write a test case for each rule as JUnit XML; - is standard output</source>
+    <translation>Write a test case for each rule as JUnit XML; - is standard output</translation>
+  </message>
+  <message id="CLI_VALIDATE_ONE_STDOUT">
+    <source>standard output takes one of the report, --json and --icon</source>
+    <translation>standard output takes one of the report, --json and --icon</translation>
+  </message>
+  <message id="CLI_DIFF_ABOUT">
+    <source>Compare two builds of an app package</source>
+    <translation>Compare two builds of an app package</translation>
+  </message>
+  <message id="CLI_DIFF_OLD">
+    <source>The package as it was</source>
+    <translation>The package as it was</translation>
+  </message>
+  <message id="CLI_DIFF_NEW">
+    <source>The package as it is</source>
+    <translation>The package as it is</translation>
+  </message>
+  <message id="CLI_DIFF_FACTS">
+    <source>Facts</source>
+    <translation>Facts</translation>
+  </message>
+  <message id="CLI_DIFF_ENTITLEMENTS">
+    <source>Entitlements</source>
+    <translation>Entitlements</translation>
+  </message>
+  <message id="CLI_DIFF_PERMISSIONS">
+    <source>Reasons given for permissions</source>
+    <translation>Reasons given for permissions</translation>
+  </message>
+  <message id="CLI_DIFF_GAINED">
+    <source>Findings gained</source>
+    <translation>Findings gained</translation>
+  </message>
+  <message id="CLI_DIFF_LOST">
+    <source>Findings lost</source>
+    <translation>Findings lost</translation>
+  </message>
+  <message id="CLI_DIFF_SIZES">
+    <source>Files and bytes, unpacked</source>
+    <translation>Files and bytes, unpacked</translation>
+  </message>
+  <message id="CLI_DIFF_TOTAL">
+    <source>[FILES] files, [SIZE]</source>
+    <translation>[FILES] files, [SIZE]</translation>
+  </message>
+  <message id="CLI_DIFF_GROWTH">
+    <source>Largest growth</source>
+    <translation>Largest growth</translation>
+  </message>
+  <message id="CLI_VALIDATE_HTML">
+    <source>Write a page to look at and to pass on; - is standard output</source>
+    <translation>Write a page to look at and to pass on; - is standard output</translation>
+  </message>
+  <message id="CLI_VALIDATE_DEVICES">
+    <source>List the models that run the app, and why the others do not</source>
+    <translation>List the models that run the app, and why the others do not</translation>
+  </message>
+  <message id="CLI_VALIDATE_RUNS_ON">
+    <source>runs on</source>
+    <translation>runs on</translation>
+  </message>
+  <message id="CLI_VALIDATE_RUNS_NOT_ON">
+    <source>does not run on</source>
+    <translation>does not run on</translation>
+  </message>
   <message id="CLI_NOT_A_DATE">
     <source>[DATE] is no date; write it as in 2027-04-30</source>
     <translation>[DATE] is no date; write it as in 2027-04-30</translation>

@@ -73,6 +73,17 @@ MISTAKES = [
     ("devices --ios 7.0", 2, 'lumora devices: --ios takes 4, 5, 6 or 7, not "7.0"; did you mean 7?'),
     ("devices --feature bluetooth", 2, "lumora devices: --feature takes retina,"),
     ("validate", 2, "lumora validate: FILE is missing"),
+    ("validate a.ipa --ignore sael", 2, 'lumora validate: "sael" is no rule; did you mean seal?'),
+    ("validate a.ipa --ignore-file missing", 1, "lumora: missing: does not exist"),
+    ("validate a.ipa --on 2026-02-30", 2, 'lumora validate: "2026-02-30" is no date; write it as in 2027-04-30'),
+    ("validate a.ipa --rules all,store", 2, 'lumora validate: --rules takes auto, store, classic or all, not "all,store"'),
+    ("validate a.ipa --sarif - --junit -", 2, "lumora validate: standard output takes one of the report, --json and --icon"),
+    ("validate a.ipa --sarif - --json", 2, "lumora validate: standard output takes one of the report, --json and --icon"),
+    ("diff a.ipa", 2, "lumora diff: NEW is missing"),
+    ("diff a.ipa b.ipa icon.png", 2, 'lumora diff: "icon.png" is one argument too many'),
+    ("diff a.ipa b.ipa --on never", 2, 'lumora diff: "never" is no date'),
+    ("rules sael", 2, 'lumora rules: "sael" is no rule; did you mean seal?'),
+    ("rules seal --markdown", 2, "lumora rules: ID and --markdown exclude each other"),
     ("validate App.IPA", 3, "lumora: App.IPA: the name does not end in .ipa, .app or .xcarchive; rename it"),
     ("validate a.ipa b.ipa --icon i.png", 2, "lumora validate: --icon writes the icon of one file"),
     ("validate - -", 2, "lumora validate: - is given twice"),
@@ -87,7 +98,7 @@ GERMAN = [
 ]
 
 HELP_OF_ALL = ["help", "--help", "-h"] + [f"help {command}" for command in (
-    "icons", "icon", "placeholders", "downscale", "color", "devices", "validate", "resizer", "validator")] + ["icons --help", "color -h"]
+    "icons", "icon", "placeholders", "downscale", "color", "devices", "validate", "diff", "rules", "resizer", "validator")] + ["icons --help", "color -h"]
 
 
 class Calls(unittest.TestCase):

@@ -10,7 +10,7 @@ import unittest
 from pathlib import Path
 
 LUMORA, SOURCE = (Path(argument).resolve() for argument in sys.argv[1:3])
-COMMANDS = ["icons", "icon", "placeholders", "downscale", "color", "devices", "validate"]
+COMMANDS = ["icons", "icon", "placeholders", "downscale", "color", "devices", "validate", "diff", "rules"]
 # Not the real apt-get: packaging's tests install the packages with that.
 APT_GET = """#!/bin/sh
 case $1 in
@@ -103,6 +103,7 @@ class Documents(unittest.TestCase):
 
     def test_manual(self):
         self.put_package("App.ipa")
+        self.put_package("build/App.ipa")
         self.put_picture("artwork.png", 1024)
         self.put_picture("art/button@2x.png", 64)
         self.put_picture("art/logo@3x.png", 96)
@@ -111,6 +112,10 @@ class Documents(unittest.TestCase):
             '<svg xmlns="http://www.w3.org/2000/svg" width="64" height="64"><rect width="64" height="64" fill="tomato"/></svg>')
         self.type(manual_lines())
         self.assertEqual(self.commands_of(manual_lines()), set(COMMANDS))
+
+    def test_the_page_of_rules(self):
+        page = subprocess.run([LUMORA, "rules", "--markdown"], capture_output=True, text=True, check=True, env=self.environment)
+        self.assertEqual((SOURCE / "docs/rules.md").read_text(), page.stdout)
 
     def test_build_servers(self):
         for number, lines in enumerate(ci_lines()):
@@ -133,6 +138,7 @@ class Documents(unittest.TestCase):
                 subprocess.run(["rm", "-rf", self.folder], check=True)
                 self.folder.mkdir()
                 self.put_package("App.ipa")
+                self.put_package("build/App.ipa")
                 self.put_picture("logo.png", 1024)
                 self.put_picture("logo@2x.png", 64)
                 self.put_picture("art/button@2x.png", 64)

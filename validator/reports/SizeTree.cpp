@@ -25,7 +25,7 @@ SizeNode nodeOf(const QString &name, Sizes::const_iterator first, Sizes::const_i
     }
     while (first != end) {
         const qsizetype slash = first.key().indexOf(u'/', start);
-        const QString part = first.key().sliced(start, slash < 0 ? -1 : slash - start);
+        const QString part = first.key().mid(start, slash < 0 ? -1 : slash - start);
         auto next = first;
         SizeNode child{part, 0, 0, {}, 0};
         if (slash < 0) {

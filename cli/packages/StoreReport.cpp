@@ -22,15 +22,6 @@ QJsonValue textOrNull(const QString &text)
     return text.isEmpty() ? QJsonValue(QJsonValue::Null) : QJsonValue(text);
 }
 
-QJsonObject findingJson(const Finding &finding)
-{
-    const Rule &rule = *finding.rule;
-    return {{u"id"_s, QString::fromLatin1(rule.id)},        {u"code"_s, textOrNull(QString::fromLatin1(rule.code))},
-            {u"severity"_s, severityName(rule.severity)},   {u"title"_s, QString::fromUtf8(rule.title)},
-            {u"path"_s, textOrNull(finding.evidence.path)}, {u"evidence"_s, finding.evidence.text},
-            {u"fix"_s, QString::fromUtf8(rule.fix)}};
-}
-
 QJsonObject binaryJson(const PackageBinary &binary)
 {
     QStringList architectures;
@@ -65,10 +56,12 @@ QJsonObject binaryJson(const PackageBinary &binary)
 QStringList brokenPlaces(const PackageContents &contents)
 {
     QStringList places;
-    for (const Finding &finding : findingsIn(contents, {})) {
-        const QByteArrayView id(finding.rule->id);
-        if ((id == "signature" || id == "seal" || id == "signed") && !places.contains(finding.evidence.path))
-            places += finding.evidence.path;
+    for (const char *id : {"signed", "signature", "seal"}) {
+        const Judgement judgement = ruleNamed(QString::fromLatin1(id))->judge(contents, {});
+        for (const Evidence &evidence : judgement.evidence) {
+            if (!places.contains(evidence.path))
+                places += evidence.path;
+        }
     }
     return places;
 }
@@ -130,6 +123,15 @@ QJsonValue catalogIconsJson(const PackageContents &contents)
 }
 
 } // namespace
+
+QJsonObject findingJson(const Finding &finding)
+{
+    const Rule &rule = *finding.rule;
+    return {{u"id"_s, QString::fromLatin1(rule.id)},        {u"code"_s, textOrNull(QString::fromLatin1(rule.code))},
+            {u"severity"_s, severityName(rule.severity)},   {u"title"_s, QString::fromUtf8(rule.title)},
+            {u"path"_s, textOrNull(finding.evidence.path)}, {u"evidence"_s, finding.evidence.text},
+            {u"fix"_s, QString::fromUtf8(rule.fix)}};
+}
 
 QJsonObject storeJson(const PackageContents &contents, const QList<Finding> &findings)
 {

@@ -63,12 +63,6 @@ QString presenceLine(bool present, const QString &what)
 
 } // namespace
 
-bool allJudgedValid(const PackageReport &report)
-{
-    const MetadataVerdicts verdicts = metadataVerdicts(report.facts);
-    return report.artwork.findings.isEmpty() && verdicts.bundleIdentifierValid && verdicts.localizationsValid;
-}
-
 QJsonObject reportJson(const QString &file, const PackageReport &report)
 {
     const PackageFacts &facts = report.facts;

@@ -12,9 +12,6 @@ namespace lumora
 
 struct Complaint;
 
-/// True when the checks of icons, launch images, bundle identifier and localizations all found their subject valid.
-bool allJudgedValid(const PackageReport &report);
-
 /// The report for scripts, without the members that every object has; `file` is the package as the user named it.
 QJsonObject reportJson(const QString &file, const PackageReport &report);
 

@@ -31,20 +31,6 @@ Result<QStringList> idsInFile(const QString &path)
     return ids;
 }
 
-/// What is wrong with the ids, if one of them is none. A file that named it is said.
-std::optional<Complaint> unknownRule(const QStringList &ids, const QString &file)
-{
-    for (const QString &id : ids) {
-        if (ruleNamed(id) != nullptr)
-            continue;
-        Complaint complaint = misuse("unknown-rule", commandText("CLI_UNKNOWN_RULE", {{"[RULE]", quoted(id)}}),
-                                     didYouMean(nearestWords(id, ruleNames())));
-        complaint.path = file;
-        return complaint;
-    }
-    return std::nullopt;
-}
-
 } // namespace
 
 void StoreArguments::declareOn(Declaration &declaration)
@@ -75,10 +61,32 @@ std::variant<StoreDemands, Complaint> StoreArguments::demands() const
             return *problem;
         demands.ignored += ids.value();
     }
-    demands.settings.on = on.isEmpty() ? QDate::currentDate() : QDate::fromString(on, Qt::ISODate);
-    if (!demands.settings.on.isValid())
-        return misuse("not-a-date", commandText("CLI_NOT_A_DATE", {{"[DATE]", quoted(on)}}));
+    const std::variant<RuleSettings, Complaint> settings = settingsFor(on);
+    if (const auto *problem = std::get_if<Complaint>(&settings))
+        return *problem;
+    demands.settings = std::get<RuleSettings>(settings);
     return demands;
+}
+
+std::variant<RuleSettings, Complaint> settingsFor(const QString &day)
+{
+    const RuleSettings settings{day.isEmpty() ? QDate::currentDate() : QDate::fromString(day, Qt::ISODate)};
+    if (!settings.on.isValid())
+        return misuse("not-a-date", commandText("CLI_NOT_A_DATE", {{"[DATE]", quoted(day)}}));
+    return settings;
+}
+
+std::optional<Complaint> unknownRule(const QStringList &ids, const QString &file)
+{
+    for (const QString &id : ids) {
+        if (ruleNamed(id) != nullptr)
+            continue;
+        Complaint complaint = misuse("unknown-rule", commandText("CLI_UNKNOWN_RULE", {{"[RULE]", quoted(id)}}),
+                                     didYouMean(nearestWords(id, ruleNames())));
+        complaint.path = file;
+        return complaint;
+    }
+    return std::nullopt;
 }
 
 } // namespace lumora

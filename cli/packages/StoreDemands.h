@@ -37,4 +37,10 @@ struct StoreArguments
     std::variant<StoreDemands, Complaint> demands() const;
 };
 
+/// What to judge for on the day that is typed, or today where none is.
+std::variant<RuleSettings, Complaint> settingsFor(const QString &day);
+
+/// What is wrong with the ids or store codes, if one of them names no rule; `file` is where they were read, if any.
+std::optional<Complaint> unknownRule(const QStringList &ids, const QString &file = {});
+
 } // namespace lumora

@@ -13,10 +13,13 @@ namespace lumora
 /// catalog; null where there is none.
 QJsonObject storeJson(const PackageContents &contents, const QList<Finding> &findings);
 
+/// One finding as a script reads it.
+QJsonObject findingJson(const Finding &finding);
+
 /// The findings as a person reads them: what, where and how to mend it. Nothing in them can steer a terminal.
 QStringList findingLines(const QList<Finding> &findings);
 
-/// What stands in place of findings where there are none.
+/// The line in place of findings when there are none.
 QString noFindingsLine();
 
 } // namespace lumora

@@ -1,19 +1,22 @@
 // SPDX-License-Identifier: MIT
 #include "ValidateCommand.h"
 
+#include "ClassicVerdicts.h"
+#include "PackageLock.h"
+#include "PackagePage.h"
 #include "PackageReportText.h"
+#include "ReportFiles.h"
+#include "RunnableModels.h"
+#include "SpooledPackage.h"
 #include "StoreDemands.h"
 #include "StoreReport.h"
 #include "cli/arguments/Declaration.h"
 #include "cli/console/CommandText.h"
 #include "cli/console/Interruption.h"
-#include "cli/console/SpooledInput.h"
 #include "foundation/ProcessLock.h"
 #include "pictures/PictureOperations.h"
 #include "pictures/png/PngEncoder.h"
 #include "validator/archive/OpenPackage.h"
-#include "validator/bundle/WorkFolder.h"
-#include "validator/crypto/Digest.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -39,7 +42,9 @@ struct ValidateArguments
     QStringList files;
     QString icon;
     bool noSandbox = false;
+    bool devices = false;
     StoreArguments store;
+    ReportFiles reports;
 };
 
 /// A package with all that is known of it.
@@ -47,8 +52,13 @@ struct Inspection
 {
     PackageReport report;
     std::optional<PackageContents> contents; ///< nothing where only the classic rules are asked for
+    QList<RuleVerdict> store;
     QList<Finding> findings;
     bool classicCounts = true;
+    std::optional<ModelFilter> models; ///< where the models that run the app are asked for
+
+    /// Of all rules that count.
+    QList<RuleVerdict> verdicts() const { return classicCounts ? store + classicVerdicts(report) : store; }
 };
 
 /// A package, named as in messages and results. "-" is standard input.
@@ -65,37 +75,6 @@ GivenPackage givenPackage(const QString &argument)
     return {argument, false};
 }
 
-/// Standard input as a seekable file.
-class SpooledPackage
-{
-public:
-    /// Copies all of it. Call this before the process is locked in.
-    void spool(const QString &name)
-    {
-        auto folder = WorkFolder::make();
-        if (!folder) {
-            m_spooled = folder.failure();
-            return;
-        }
-        m_folder = std::move(folder.value());
-        m_spooled = spoolDescriptor(STDIN_FILENO, name, path(), largestSpooledPackage);
-    }
-    Result<std::unique_ptr<PackageSource>> open() const
-    {
-        if (!m_spooled)
-            return m_spooled.failure();
-        return openPackage(path());
-    }
-    /// The path of the copy; empty if it was not needed or there was no space.
-    QStringList folders() const { return m_folder ? QStringList(m_folder->path()) : QStringList(); }
-
-private:
-    QString path() const { return m_folder->path() + u"/input.ipa"_s; }
-
-    std::unique_ptr<WorkFolder> m_folder;
-    Outcome m_spooled = Done{};
-};
-
 Complaint wordedFailure(const GivenPackage &file, const Failure &failure)
 {
     if (!file.isStdin && failure.code == FailureCode::NotAnArchive && !hasPackageName(file.name))
@@ -105,14 +84,15 @@ Complaint wordedFailure(const GivenPackage &file, const Failure &failure)
 }
 
 std::variant<Inspection, Complaint> inspected(const GivenPackage &file, const SpooledPackage &spooled,
-                                              const ProfileDecoder &decoder, const StoreDemands &demands)
+                                              const ProfileDecoder &decoder, const StoreDemands &demands,
+                                              bool wantsModels)
 {
     const auto source = file.isStdin ? spooled.open() : openPackage(file.name);
     if (!source)
         return wordedFailure(file, source.failure());
     Inspection inspection;
     WholeReading reading;
-    if (demands.rules == u"classic") {
+    if (demands.rules == u"classic" && !wantsModels) {
         reading = source.value()->readAll([](const PackageEntry &) { return nullptr; });
     } else {
         inspection.contents = readPackageContents(*source.value());
@@ -122,11 +102,14 @@ std::variant<Inspection, Complaint> inspected(const GivenPackage &file, const Sp
     const Outcome outcome = reportOutcome(inspection.report);
     if (!outcome)
         return wordedFailure(file, outcome.failure());
-    if (inspection.contents) {
+    if (inspection.contents && wantsModels)
+        inspection.models = demandsOnModels(*inspection.contents);
+    if (inspection.contents && demands.rules != u"classic") {
         const bool isOld = isOfOldTime(*inspection.contents);
         inspection.classicCounts = demands.rules == u"all" || (demands.rules == u"auto" && isOld);
         if (demands.rules != u"auto" || !isOld)
-            inspection.findings = findingsIn(*inspection.contents, demands.settings, demands.ignored);
+            inspection.store = verdictsOn(*inspection.contents, demands.settings, demands.ignored);
+        inspection.findings = findingsAmong(inspection.store);
     }
     return inspection;
 }
@@ -162,12 +145,26 @@ bool writeIcon(Console &console, const QString &file, const PackageReport &repor
     return saved.ok();
 }
 
+/// Everything about a package, for scripts.
+QJsonObject wholeJson(const QString &file, const Inspection &inspection)
+{
+    static const PackageContents nothing;
+    QJsonObject object = reportJson(file, inspection.report);
+    if (inspection.models)
+        object.insert(u"models"_s, runnableModelsJson(*inspection.models));
+    const QJsonObject store = storeJson(inspection.contents ? *inspection.contents : nothing, inspection.findings);
+    for (auto member = store.begin(); member != store.end(); ++member)
+        object.insert(member.key(), member.value());
+    return object;
+}
+
 /// Reads the files one after another, with their shared settings.
 class Validation
 {
 public:
     Validation(Console &console, const ValidateArguments &arguments, StoreDemands demands)
-        : m_console(console), m_icon(arguments.icon), m_isSandboxed(!arguments.noSandbox), m_demands(std::move(demands))
+        : m_console(console), m_icon(arguments.icon), m_reports(arguments.reports), m_isSandboxed(!arguments.noSandbox),
+          m_wantsModels(arguments.devices), m_demands(std::move(demands))
     {
         for (const QString &file : arguments.files)
             m_files.push_back(givenPackage(file));
@@ -215,23 +212,20 @@ private:
         }
         if (!m_icon.isEmpty() && m_icon != u"-")
             places.written += m_icon;
+        places.written += m_reports.paths();
         places.scratch = m_spooled.folders();
-        loadCryptoLibrary();
-        const ProcessLock lock = lockProcess(places);
-        if (lock.files)
-            m_console.note(commandText(lock.calls ? "CLI_SANDBOX_BOTH" : "CLI_SANDBOX_FILES"));
-        else
-            m_console.note(commandText(lock.calls ? "CLI_SANDBOX_CALLS" : "CLI_SANDBOX_NONE"));
+        lumora::lockIn(m_console, places);
     }
 
     ExitStatus validate(const GivenPackage &file)
     {
         if (m_done++ > 0)
             m_console.print(QString());
-        const auto result = inspected(file, m_spooled, m_decoder, m_demands);
+        const auto result = inspected(file, m_spooled, m_decoder, m_demands, m_wantsModels);
         if (const auto *complaint = std::get_if<Complaint>(&result)) {
             m_console.complain(*complaint);
             m_objects.append(m_console.object(ExitStatus::Unreadable, failureJson(file.name, *complaint), schema));
+            m_shown.append(ShownPackage{JudgedPackage{file.name, {}, complaint->line()}, {}, {}, {}, {}});
             return ExitStatus::Unreadable;
         }
         const Inspection &inspection = std::get<Inspection>(result);
@@ -239,15 +233,16 @@ private:
         complainOfDamage(m_console, file.name, report);
         printLines(file.name, inspection);
         const bool isIconWritten = m_icon.isEmpty() || writeIcon(m_console, file.name, report, m_icon);
-        const bool isRefused =
-            !isIconWritten || failsByFindings(inspection) || (inspection.classicCounts && !allJudgedValid(report));
+        const JudgedPackage judged{file.name, inspection.verdicts(), {}};
+        const bool isRefused = !isIconWritten || fails(judged);
         const ExitStatus status = isRefused ? ExitStatus::Refused : ExitStatus::Done;
-        QJsonObject object = reportJson(file.name, report);
-        static const PackageContents nothing;
-        const QJsonObject store = storeJson(inspection.contents ? *inspection.contents : nothing, inspection.findings);
-        for (auto member = store.begin(); member != store.end(); ++member)
-            object.insert(member.key(), member.value());
-        m_objects.append(m_console.object(status, object, schema));
+        if (m_console.form().json || m_reports.isMeant()) {
+            const QJsonObject object = wholeJson(file.name, inspection);
+            m_shown.append(shownPackage(judged, report, object));
+            if (inspection.contents)
+                m_shown.last().sizes = sizeTree(inspection.contents->sizes);
+            m_objects.append(m_console.object(status, object, schema));
+        }
         return status;
     }
 
@@ -262,24 +257,46 @@ private:
             m_console.print(line);
         if (hasHeadings && found.isEmpty())
             m_console.print(noFindingsLine());
-        if (m_demands.rules == u"store")
-            return;
-        if (hasHeadings)
+        if (hasHeadings && m_demands.rules != u"store")
             m_console.print(QString(u"  "_s + commandText("CLI_CLASSIC_RULES")));
-        for (const QString &line : lines.sliced(facts))
-            m_console.print(line);
+        if (m_demands.rules != u"store") {
+            for (const QString &line : lines.sliced(facts))
+                m_console.print(line);
+        }
+        if (inspection.models) {
+            for (const QString &line : runnableModelLines(*inspection.models))
+                m_console.print(line);
+        }
     }
 
-    bool failsByFindings(const Inspection &inspection) const
+    bool fails(const JudgedPackage &package) const
     {
-        return m_demands.failOn && std::ranges::any_of(inspection.findings, [&](const Finding &finding) {
-                   return finding.rule->severity >= *m_demands.failOn;
-               });
+        return std::ranges::any_of(package.verdicts, [this](const RuleVerdict &verdict) {
+            return countsAsFailure(verdict, m_demands.failOn);
+        });
+    }
+
+    /// A report that could not be written belongs to no package; it is an error of the last one.
+    void refuseLast()
+    {
+        m_status = std::max(m_status, ExitStatus::Refused);
+        if (m_objects.isEmpty())
+            return;
+        QJsonObject last = m_objects.last().toObject();
+        QJsonArray errors = last[u"errors"_s].toArray();
+        const QJsonArray more = m_console.object(ExitStatus::Refused, {}, schema)[u"errors"_s].toArray();
+        for (const QJsonValue error : more)
+            errors.append(error);
+        last[u"errors"_s] = errors;
+        last[u"ok"_s] = false;
+        m_objects.replace(m_objects.size() - 1, last);
     }
 
     /// One object for one file, an array for several.
     ExitStatus finish()
     {
+        if (m_reports.isMeant() && !m_reports.write(m_console, m_shown, m_demands.failOn))
+            refuseLast();
         if (m_console.form().json && m_files.size() == 1 && !m_objects.isEmpty())
             m_console.print(QJsonDocument(m_objects.first().toObject()));
         else if (m_console.form().json && m_files.size() > 1)
@@ -293,12 +310,15 @@ private:
 
     Console &m_console;
     const QString m_icon;
+    const ReportFiles m_reports;
     const bool m_isSandboxed;
+    const bool m_wantsModels;
     const StoreDemands m_demands;
     std::vector<GivenPackage> m_files;
     SpooledPackage m_spooled;
     const CmsProfileDecoder m_decoder;
     QJsonArray m_objects;
+    QList<ShownPackage> m_shown;
     qsizetype m_done = 0;
     ExitStatus m_status = ExitStatus::Done;
 };
@@ -310,6 +330,12 @@ std::optional<Complaint> misuseOf(const Console &console, const ValidateArgument
     if (arguments.icon == u"-" && console.form().json)
         return misuse("conflicting-options",
                       commandText("CLI_CONFLICT", {{"[FIRST]", u"--icon -"_s}, {"[SECOND]", u"--json"_s}}));
+    if (arguments.reports.takesStdout()) {
+        const QStringList places{arguments.icon, arguments.reports.sarif, arguments.reports.junit,
+                                 arguments.reports.html};
+        if (places.count(u"-"_s) > 1 || console.form().json)
+            return misuse("conflicting-options", commandText("CLI_VALIDATE_ONE_STDOUT"));
+    }
     if (arguments.icon == u"-" && ::isatty(STDOUT_FILENO) == 1)
         return misuse("terminal", commandText("CLI_TERMINAL_OUTPUT"), commandText("CLI_TERMINAL_OUTPUT_ADVICE"));
     if (arguments.files.count(u"-"_s) > 1)
@@ -328,7 +354,7 @@ ExitStatus runValidate(Console &console, const ValidateArguments &arguments)
         console.complain(*problem);
         return problem->kind == Complaint::Kind::Misuse ? ExitStatus::Usage : ExitStatus::Refused;
     }
-    if (arguments.icon == u"-")
+    if (arguments.icon == u"-" || arguments.reports.takesStdout())
         console.keepStdoutForAFile();
     return Validation(console, arguments, std::get<StoreDemands>(std::move(demands))).run();
 }
@@ -340,7 +366,9 @@ CommandBody declareValidateCommand(Declaration &declaration)
     const auto arguments = std::make_shared<ValidateArguments>();
     declaration.operand("FILE", &arguments->files, "CLI_VALIDATE_FILE").required();
     declaration.option("--icon", &arguments->icon, "OUT.png", "CLI_VALIDATE_ICON").in(ArgumentGroup::Output);
+    arguments->reports.declareOn(declaration);
     arguments->store.declareOn(declaration);
+    declaration.flag("--devices", &arguments->devices, "CLI_VALIDATE_DEVICES");
     declaration.flag("--no-sandbox", &arguments->noSandbox, "CLI_NO_SANDBOX");
     declaration.explain("CLI_VALIDATE_STATUS");
     declaration.example("lumora validate App.ipa");

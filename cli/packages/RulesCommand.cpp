@@ -1,0 +1,140 @@
+// SPDX-License-Identifier: MIT
+#include "RulesCommand.h"
+
+#include "StoreDemands.h"
+#include "cli/arguments/Declaration.h"
+#include "cli/console/CommandText.h"
+#include "cli/console/Console.h"
+#include "validator/rules/Rule.h"
+
+#include <QJsonArray>
+
+#include <array>
+#include <memory>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace lumora
+{
+
+namespace
+{
+
+struct RulesArguments
+{
+    QStringList ids;
+    bool markdown = false;
+};
+
+QString text(const char *part)
+{
+    return QString::fromUtf8(part);
+}
+
+/// Each part of a rule by its name, the empty ones left out.
+QList<std::pair<QString, QString>> partsOf(const Rule &rule)
+{
+    QList<std::pair<QString, QString>> parts{
+        {u"id"_s, text(rule.id)},         {u"code"_s, text(rule.code)},  {u"severity"_s, severityName(rule.severity)},
+        {u"title"_s, text(rule.title)},   {u"rule"_s, text(rule.rule)},  {u"fix"_s, text(rule.fix)},
+        {u"source"_s, text(rule.source)}, {u"since"_s, text(rule.since)}};
+    parts.removeIf([](const auto &part) { return part.second.isEmpty(); });
+    return parts;
+}
+
+QJsonObject ruleJson(const Rule &rule)
+{
+    QJsonObject object{{u"code"_s, QJsonValue()}, {u"since"_s, QJsonValue()}};
+    for (const auto &[name, value] : partsOf(rule))
+        object.insert(name, value);
+    return object;
+}
+
+/// "error    icon-phone (ITMS-90022): No icon for the iPhone"
+QString listLine(const Rule &rule)
+{
+    constexpr int severityWidth = 9;
+    const QString code = text(rule.code);
+    return severityName(rule.severity).leftJustified(severityWidth) + text(rule.id) +
+           (code.isEmpty() ? QString() : QString(u" ("_s + code + u')')) + u": "_s + text(rule.title);
+}
+
+void printInFull(Console &console, const Rule &rule)
+{
+    constexpr int nameWidth = 10;
+    for (const auto &[name, value] : partsOf(rule))
+        console.print(QString(name.leftJustified(nameWidth) + value));
+}
+
+/// The page of the documents, the same on every system.
+void printPage(Console &console)
+{
+    console.print(u"# What `lumora validate` asks of a package"_s);
+    console.print(QString());
+    console.print(u"Written by `lumora rules --markdown`. Leave a rule out with `--ignore ID`."_s);
+    constexpr std::array<std::pair<Severity, const char *>, 3> headings{
+        {{Severity::Error, "Errors"}, {Severity::Warning, "Warnings"}, {Severity::Note, "Notes"}}};
+    for (const auto &[severity, heading] : headings) {
+        console.print(QString(u"\n## "_s + text(heading)));
+        for (const Rule &rule : allRules()) {
+            if (rule.severity != severity)
+                continue;
+            const QString code = text(rule.code);
+            const QString since = text(rule.since);
+            console.print(QString(u"\n### "_s + text(rule.title)));
+            console.print(QString(u"\n`"_s + text(rule.id) + u'`' +
+                                  (code.isEmpty() ? QString() : QString(u" · "_s + code)) +
+                                  (since.isEmpty() ? QString() : QString(u" · since "_s + since))));
+            console.print(QString(u'\n' + text(rule.rule) + u' ' + text(rule.fix)));
+            console.print(QString(u"\nSource: "_s + text(rule.source)));
+        }
+    }
+}
+
+ExitStatus runRules(Console &console, const RulesArguments &arguments)
+{
+    if (const std::optional<Complaint> problem = unknownRule(arguments.ids)) {
+        console.complain(*problem);
+        return console.finish(ExitStatus::Usage);
+    }
+    if (arguments.markdown) {
+        printPage(console);
+        return console.finish(ExitStatus::Done);
+    }
+    QList<const Rule *> rules;
+    for (const QString &id : arguments.ids)
+        rules += ruleNamed(id);
+    if (rules.isEmpty()) {
+        for (const Rule &rule : allRules())
+            rules += &rule;
+    }
+    QJsonArray array;
+    for (const Rule *rule : rules) {
+        if (arguments.ids.isEmpty()) {
+            console.print(listLine(*rule));
+        } else {
+            if (!array.isEmpty())
+                console.print(QString());
+            printInFull(console, *rule);
+        }
+        array += ruleJson(*rule);
+    }
+    return console.finish(ExitStatus::Done, {{u"rules"_s, array}});
+}
+
+} // namespace
+
+CommandBody declareRulesCommand(Declaration &declaration)
+{
+    const auto arguments = std::make_shared<RulesArguments>();
+    declaration.operand("ID", &arguments->ids, "CLI_RULES_ID");
+    declaration.flag("--markdown", &arguments->markdown, "CLI_RULES_MARKDOWN");
+    declaration.atMostOne({u"ID"_s, u"--markdown"_s});
+    declaration.atMostOne({u"--markdown"_s, u"--json"_s});
+    declaration.example("lumora rules");
+    declaration.example("lumora rules seal ITMS-90022");
+    return [arguments](Console &console) { return runRules(console, *arguments); };
+}
+
+} // namespace lumora
