@@ -44,8 +44,9 @@ ShownPackage shownPackage(const JudgedPackage &judged, const PackageReport &repo
 {
     ShownPackage shown;
     shown.judged = judged;
-    if (!report.artwork.appIcon.isNull())
-        shown.iconPng = encodePng(report.artwork.appIcon);
+    // Without an icon, or with one that memory does not suffice for, the page shows none.
+    if (const Result<QByteArray> icon = encodePng(report.artwork.appIcon, judged.file))
+        shown.iconPng = icon.value();
     shown.facts = named(json, {{u"name"_s, u"Name"_s},
                                {u"version"_s, u"Version"_s},
                                {u"platform"_s, u"Platform"_s},

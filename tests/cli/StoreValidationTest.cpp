@@ -54,7 +54,7 @@ private slots:
         if (!options.contains(u"--on"_s))
             options += {u"--on"_s, u"2026-11-22"_s};
         const LumoraRun run = runLumora(QStringList{u"validate"_s, package(name)} + options);
-        QVERIFY2(run.status == status, run.out + run.err);
+        QVERIFY2(run.status == status, QByteArray(run.out + run.err));
     }
 
     void ignoresWhatAFileLists()

@@ -78,7 +78,6 @@ MISTAKES = [
     ("validate a.ipa --on 2026-02-30", 2, 'lumora validate: "2026-02-30" is no date; write it as in 2027-04-30'),
     ("validate a.ipa --rules all,store", 2, 'lumora validate: --rules takes auto, store, classic or all, not "all,store"'),
     ("validate a.ipa --sarif - --junit -", 2, "lumora validate: standard output takes one of the report, --json and --icon"),
-    ("validate a.ipa --sarif - --json", 2, "lumora validate: standard output takes one of the report, --json and --icon"),
     ("diff a.ipa", 2, "lumora diff: NEW is missing"),
     ("diff a.ipa b.ipa icon.png", 2, 'lumora diff: "icon.png" is one argument too many'),
     ("diff a.ipa b.ipa --on never", 2, 'lumora diff: "never" is no date'),
