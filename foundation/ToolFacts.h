@@ -12,12 +12,12 @@ namespace lumora
 /// the palette and the color picker all read the one table below; a tool's index is its place in that table.
 struct ToolFacts
 {
-    const char *name;         ///< on the command line and in the desktop's menu: `lumora --tool=NAME`
-    const char *sidebarImage; ///< selected or not
-    const char *headerKey;
-    const char *helpTitleKey;
-    const char *helpTextKey;
-    const char *helpIcon;
+    const char *name = nullptr;         ///< on the command line and in the desktop's menu: `lumora --tool=NAME`
+    const char *sidebarImage = nullptr; ///< selected or not
+    const char *headerKey = nullptr;
+    const char *helpTitleKey = nullptr;
+    const char *helpTextKey = nullptr;
+    const char *helpIcon = nullptr;
     RgbaColor color;       ///< fills header and sidebar
     RgbaColor borderColor; ///< its shade, for their borders
     /// The ending (without the dot, case-sensitive) of the files that this tool opens when the desktop asks the

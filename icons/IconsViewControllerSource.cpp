@@ -91,7 +91,7 @@ void IconsViewController::createIconFromURL(const QString &path)
             const ShownIcon shown = shownIcon(picture.value(), sides, mode);
             return FileReading::Conclusion([this, name, shown] { acceptIcon(shown, name); });
         }
-        const Failure failure = picture.failure();
+        const Failure &failure = picture.failure();
         const QSize size =
             failure.code == FailureCode::WrongSize ? storedPixelSize(bytes.value(), path).value() : QSize();
         return FileReading::Conclusion(

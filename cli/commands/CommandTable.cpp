@@ -18,15 +18,15 @@ namespace
 {
 
 constexpr Command commands[] = {
-    {"icons", ToolIndex::Icons, "CLI_ICONS_ABOUT", false, &declareIconsCommand},
-    {"icon", ToolIndex::Icons, "CLI_ICON_ABOUT", false, &declareIconCommand},
-    {"placeholders", ToolIndex::Placeholders, "CLI_PLACEHOLDERS_ABOUT", true, &declarePlaceholdersCommand},
-    {"downscale", ToolIndex::Resizer, "CLI_DOWNSCALE_ABOUT", false, &declareDownscaleCommand},
-    {"color", ToolIndex::Color, "CLI_COLOR_ABOUT", false, &declareColorCommand},
-    {"devices", ToolIndex::Devices, "CLI_DEVICES_ABOUT", false, &declareDevicesCommand},
-    {"validate", ToolIndex::Validator, "CLI_VALIDATE_ABOUT", false, &declareValidateCommand},
-    {"diff", ToolIndex::Validator, "CLI_DIFF_ABOUT", false, &declareDiffCommand},
-    {"rules", ToolIndex::Validator, "CLI_RULES_ABOUT", false, &declareRulesCommand},
+    {"icons", "CLI_ICONS_ABOUT", &declareIconsCommand, ToolIndex::Icons, false},
+    {"icon", "CLI_ICON_ABOUT", &declareIconCommand, ToolIndex::Icons, false},
+    {"placeholders", "CLI_PLACEHOLDERS_ABOUT", &declarePlaceholdersCommand, ToolIndex::Placeholders, true},
+    {"downscale", "CLI_DOWNSCALE_ABOUT", &declareDownscaleCommand, ToolIndex::Resizer, false},
+    {"color", "CLI_COLOR_ABOUT", &declareColorCommand, ToolIndex::Color, false},
+    {"devices", "CLI_DEVICES_ABOUT", &declareDevicesCommand, ToolIndex::Devices, false},
+    {"validate", "CLI_VALIDATE_ABOUT", &declareValidateCommand, ToolIndex::Validator, false},
+    {"diff", "CLI_DIFF_ABOUT", &declareDiffCommand, ToolIndex::Validator, false},
+    {"rules", "CLI_RULES_ABOUT", &declareRulesCommand, ToolIndex::Validator, false},
 };
 
 } // namespace

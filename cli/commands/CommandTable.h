@@ -19,14 +19,14 @@ struct Command
 {
     /// The word on the command line.
     const char *name;
-    /// The tool of the window for the same work (`lumora --tool TOOL`). Commands and tools accept each other's names.
-    ToolIndex tool;
     /// Its purpose, in half a line.
     const char *textKey;
-    /// Whether it draws text and so needs fonts: a QGuiApplication (without a screen) instead of a QCoreApplication.
-    bool drawsText;
     /// Declares the arguments; returns the function to run once they are read.
     CommandBody (*declare)(Declaration &declaration);
+    /// The tool of the window for the same work (`lumora --tool TOOL`). Commands and tools accept each other's names.
+    ToolIndex tool;
+    /// Whether it draws text and so needs fonts: a QGuiApplication (without a screen) instead of a QCoreApplication.
+    bool drawsText;
 };
 
 /// All commands, in the order of the help.
