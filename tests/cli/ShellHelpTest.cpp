@@ -36,7 +36,8 @@ QStringList optionsOf(const QString &command)
 {
     const QString help = QString::fromUtf8(runLumora({command, u"--help"_s}).out);
     QStringList names;
-    static const QRegularExpression option(u"^ +(?:-[a-zA-Z], )?(--[a-z][a-z0-9-]*)"_s, QRegularExpression::MultilineOption);
+    static const QRegularExpression option(u"^ +(?:-[a-zA-Z], )?(--[a-z][a-z0-9-]*)"_s,
+                                           QRegularExpression::MultilineOption);
     for (const QRegularExpressionMatch &match : option.globalMatch(help))
         names << match.captured(1);
     return names;
