@@ -113,10 +113,9 @@ private slots:
 
     void tellsUnsignedFromBroken()
     {
-        const auto verdict = [this](const QString &name) {
-            return runLumora({u"validate"_s, u"--json"_s, package(name)})
-                .json()[u"signature"_s]
-                .toObject()[u"verdict"_s];
+        const auto verdict = [this](const QString &name) -> QJsonValue {
+            const QJsonObject report = runLumora({u"validate"_s, u"--json"_s, package(name)}).json();
+            return report[u"signature"_s].toObject().value(u"verdict"_s);
         };
         QCOMPARE(verdict(u"keeps, all"_s), QJsonValue(u"valid"_s));
         QCOMPARE(verdict(u"signed not at all"_s), QJsonValue(u"unsigned"_s));
