@@ -3,6 +3,10 @@
 find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets Svg DBus LinguistTools)
 if(LUMORA_TESTS)
   find_package(Qt6 6.4 REQUIRED COMPONENTS Test)
+  # The modules that the tests import are packages for the system's Python, and any user can start it.
+  if(NOT DEFINED Python3_EXECUTABLE AND EXISTS /usr/bin/python3)
+    set(Python3_EXECUTABLE /usr/bin/python3)
+  endif()
   find_package(Python3 REQUIRED COMPONENTS Interpreter)
 endif()
 find_package(OpenSSL REQUIRED COMPONENTS Crypto)

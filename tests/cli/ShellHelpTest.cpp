@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QProcess>
 #include <QRegularExpression>
+#include <QTemporaryDir>
 #include <QTest>
 
 using namespace lumora;
@@ -145,7 +146,12 @@ void ShellHelpTest::fishOffers_data()
 void ShellHelpTest::fishOffers()
 {
     QFETCH(QString, line);
+    QTemporaryDir home; // the shell makes folders there
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const auto *name : {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME"})
+        environment.insert(QString::fromLatin1(name), home.path());
     QProcess fish;
+    fish.setProcessEnvironment(environment);
     fish.start(u"fish"_s, {u"--no-config"_s, u"-c"_s, u"source $argv[1]; complete -C $argv[2]"_s,
                            QStringLiteral(LUMORA_SOURCE_DIR "/packaging/shell/lumora.fish"), line});
     QVERIFY(fish.waitForFinished());

@@ -141,7 +141,7 @@ class JsonContract(unittest.TestCase):
     def check(self, schema_name, arguments, status, language):
         schema = json.loads((SCHEMAS / f"{schema_name}.schema.json").read_text())
         ended = subprocess.run([LUMORA, *arguments, "--json"], cwd=self.scratch.name, capture_output=True, timeout=120,
-                               env={"PATH": "/usr/bin:/bin", "LC_ALL": language})
+                               env={"PATH": "/usr/bin:/bin", "LC_ALL": language, "XDG_RUNTIME_DIR": self.scratch.name})
         self.assertEqual(ended.returncode, status, ended)
         result = json.loads(ended.stdout)
         jsonschema.validate(result, schema, cls=jsonschema.Draft202012Validator)

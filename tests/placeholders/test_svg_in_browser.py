@@ -1,5 +1,6 @@
 # SPDX-License-Identifier: MIT
 """usage: test_svg_in_browser.py LUMORA   A placeholder written as SVG is valid XML, and a browser draws it like the PNG."""
+import os
 import subprocess
 import sys
 import tempfile
@@ -47,7 +48,7 @@ class InTheBrowser(unittest.TestCase):
         subprocess.run(["chromium", "--headless", "--no-sandbox", "--disable-gpu", "--hide-scrollbars",
                         "--force-device-scale-factor=1", f"--user-data-dir={folder / 'profile'}",
                         f"--window-size={window[0]},{window[1]}", f"--screenshot={shot}", page.as_uri()],
-                       check=True, capture_output=True, timeout=110)
+                       check=True, capture_output=True, timeout=110, env=os.environ | {"HOME": str(folder)})
         subprocess.run(["convert", shot, "-crop", f"{width}x{height}+0+0", "+repage", shot], check=True)
         drawn, meant = pixels(shot, size), pixels(folder / f"placeholder_{text}.png", size)
         self.assertEqual(self.strangers(drawn, meant, size), [])

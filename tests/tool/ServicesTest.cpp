@@ -8,6 +8,7 @@
 #include <QFileDialog>
 #include <QHeaderView>
 #include <QScopeGuard>
+#include <QSettings>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
@@ -21,6 +22,12 @@ class ServicesTest : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase()
+    {
+        // The toolkit's file dialog would write its settings into the tester's home.
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, u"/dev/null"_s);
+    }
+
     void defaultApplicationOfLists_data()
     {
         QTest::addColumn<QStringList>("lists");
