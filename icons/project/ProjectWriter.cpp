@@ -1,0 +1,168 @@
+// SPDX-License-Identifier: MIT
+#include "ProjectWriter.h"
+
+#include "foundation/WholeFile.h"
+#include "icons/today/Motifs.h"
+#include "icons/today/PictureWorkshop.h"
+#include "pictures/PictureReader.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <optional>
+
+using namespace Qt::StringLiterals;
+
+namespace lumora
+{
+
+namespace
+{
+
+/// Whether a path below the folder really lies in it: every link on the way leads to a place inside, and no file stands
+/// in a folder's place.
+Outcome staysInside(const QString &root, const QString &path)
+{
+    const QString canonicalRoot = QFileInfo(root).canonicalFilePath();
+    QString at = root;
+    const QStringList steps = path.split(u'/');
+    for (qsizetype step = 0; step < steps.size(); ++step) {
+        at += u'/' + steps[step];
+        const QFileInfo info(at);
+        const bool last = step + 1 == steps.size();
+        if (steps[step] == u".." || (info.isSymLink() && !info.exists()))
+            return Failure{FailureCode::LeadsOutside, at, {}};
+        if (!info.exists())
+            return Done{};
+        const QString canonical = info.canonicalFilePath();
+        if (!canonical.startsWith(canonicalRoot + u'/'))
+            return Failure{FailureCode::LeadsOutside, at, canonical};
+        if (last && info.isDir())
+            return Failure{FailureCode::IsFolder, at, {}};
+        if (!last && !info.isDir())
+            return Failure{FailureCode::NotAFolder, at, {}};
+    }
+    return Done{};
+}
+
+Result<ProjectFile> compared(const QString &root, const QString &path, const QByteArray &after)
+{
+    if (const Outcome inside = staysInside(root, path); !inside)
+        return inside.failure();
+    ProjectFile file{path, FileChange::New, after.size(), {}, after};
+    const QString whole = root + u'/' + path;
+    if (!QFileInfo::exists(whole))
+        return file;
+    const Result<QByteArray> before = readWholeFile(whole, largestPictureFile);
+    if (!before)
+        return before.failure();
+    file.change = before.value() == after ? FileChange::Unchanged : FileChange::Replaced;
+    if (file.change == FileChange::Replaced)
+        file.before = before.value();
+    return file;
+}
+
+/// Makes the folder and those it stands in; the paths of the new ones, the outermost first, are added.
+bool makeFolders(const QString &path, QStringList &made)
+{
+    if (QFileInfo(path).isDir())
+        return true;
+    if (!makeFolders(QFileInfo(path).path(), made) || !QDir().mkdir(path))
+        return false;
+    made << path;
+    return true;
+}
+
+/// One run over the files, which can be taken back.
+class Writing
+{
+public:
+    explicit Writing(const QString &root) : m_root(root) {}
+
+    Outcome write(const ProjectFile &file)
+    {
+        const QString whole = m_root + u'/' + file.path;
+        if (file.change == FileChange::Removed) {
+            if (!QFile::remove(whole))
+                return Failure{FailureCode::CannotWrite, whole, {}};
+        } else {
+            if (!makeFolders(QFileInfo(whole).path(), m_folders))
+                return Failure{FailureCode::CannotCreateFolder, QFileInfo(whole).path(), {}};
+            const Outcome written = writeWholeFile(whole, file.after);
+            if (!written)
+                return written;
+        }
+        m_done << &file;
+        return Done{};
+    }
+
+    /// The failure to tell: the first one, and what could not be put back, which nobody expects.
+    Failure takeBack(Failure failure) const
+    {
+        QStringList lost;
+        for (auto file = m_done.rbegin(); file != m_done.rend(); ++file) {
+            const QString whole = m_root + u'/' + (*file)->path;
+            const bool back =
+                (*file)->change == FileChange::New ? QFile::remove(whole) : writeWholeFile(whole, (*file)->before).ok();
+            if (!back)
+                lost << (*file)->path;
+        }
+        for (auto folder = m_folders.rbegin(); folder != m_folders.rend(); ++folder)
+            QDir().rmdir(*folder);
+        if (!lost.isEmpty())
+            failure.detail += u"; could not be put back: "_s + lost.join(u", "_s);
+        return failure;
+    }
+
+private:
+    QString m_root;
+    QList<const ProjectFile *> m_done;
+    QStringList m_folders;
+};
+
+} // namespace
+
+Result<QList<ProjectFile>> compareWithProject(const QString &root, const FilePlan &plan, const Motifs &motifs)
+{
+    for (const PlannedFile &file : plan.files) {
+        if (const Outcome inside = staysInside(root, file.path); !inside)
+            return inside.failure();
+    }
+    PictureWorkshop workshop(motifs);
+    workshop.prepare(recipesOf(plan));
+    QList<ProjectFile> files;
+    for (const PlannedFile &planned : plan.files) {
+        const Result<ProjectFile> file = compared(root, planned.path, plannedBytes(planned, workshop));
+        if (!file)
+            return file.failure();
+        files << file.value();
+    }
+    for (const QString &path : plan.filesToRemove) {
+        Result<ProjectFile> file = compared(root, path, {});
+        if (!file)
+            return file.failure();
+        file.value().change = FileChange::Removed;
+        files << file.value();
+    }
+    return files;
+}
+
+Outcome writeIntoProject(const QString &root, const QList<ProjectFile> &files, const FileProgress &progress)
+{
+    Writing writing(root);
+    qsizetype number = 0;
+    for (const ProjectFile &file : files) {
+        ++number;
+        if (file.change == FileChange::Unchanged)
+            continue;
+        if (progress && !progress(number, files.size(), file.path))
+            return writing.takeBack({FailureCode::Stopped, root, {}});
+        const Outcome written = writing.write(file);
+        if (!written)
+            return writing.takeBack(written.failure());
+    }
+    return Done{};
+}
+
+} // namespace lumora
