@@ -20,8 +20,8 @@ namespace lumora
 namespace
 {
 
-/// Levels by which the channels of a grey pixel may differ.
-constexpr int greyTolerance = 4;
+/// Levels by which the channels of a gray pixel may differ.
+constexpr int grayTolerance = 4;
 
 /// One entry of a catalogue's list.
 struct CatalogueEntry
@@ -75,12 +75,12 @@ CatalogueEntry entryOf(const QJsonObject &image)
     return entry;
 }
 
-bool isGrey(const QImage &picture)
+bool isGray(const QImage &picture)
 {
     for (int y = 0; y < picture.height(); ++y) {
         const uchar *pixel = picture.constScanLine(y);
         for (int x = 0; x < picture.width(); ++x, pixel += 4) {
-            if (std::abs(pixel[0] - pixel[1]) > greyTolerance || std::abs(pixel[1] - pixel[2]) > greyTolerance)
+            if (std::abs(pixel[0] - pixel[1]) > grayTolerance || std::abs(pixel[1] - pixel[2]) > grayTolerance)
                 return false;
         }
     }
@@ -145,7 +145,7 @@ private:
             demands.transparency = Transparency::Lost;
         const QString path = m_folder + u'/' + entry.file;
         const std::optional<PictureFacts> facts = checkSlot(path, demands, m_check);
-        if (facts && entry.appearance == u"tinted" && !isGrey(facts->pixels()))
+        if (facts && entry.appearance == u"tinted" && !isGray(facts->pixels()))
             m_check.add(IconRule::TintedColors, path);
     }
 

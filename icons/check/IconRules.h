@@ -93,7 +93,7 @@ inline constexpr std::array<IconRuleInfo, 28> iconRules = {{
      "The store's icon has a palette or a wide-gamut profile, which uploads were refused for",
      "save it as sRGB with 8 bits a channel"},
     {IconRule::TintedColors, "tinted-colors", FindingSeverity::Warning, "The tinted icon has colors",
-     "use shades of grey; the system adds the tint"},
+     "use shades of gray; the system adds the tint"},
     {IconRule::OutsideSafeZone, "outside-safe-zone", FindingSeverity::Warning,
      "The picture reaches beyond the circle that every mask shows", "make the picture's content smaller"},
     {IconRule::MonochromeMissing, "monochrome-missing", FindingSeverity::Warning,

@@ -18,7 +18,7 @@ namespace lumora
 namespace
 {
 
-constexpr int greyForm = 0;
+constexpr int grayForm = 0;
 constexpr int colorForm = 2;
 constexpr int paletteForm = 3;
 constexpr int deepBits = 16;
@@ -36,7 +36,7 @@ void readPng(PictureFacts &facts)
     facts.palette = header->colorType == paletteForm;
     facts.deep = header->bitDepth == deepBits;
     facts.interlaced = header->interlaced;
-    facts.alphaChannel = header->colorType != greyForm && header->colorType != colorForm && !facts.palette;
+    facts.alphaChannel = header->colorType != grayForm && header->colorType != colorForm && !facts.palette;
     for (const PngChunkView &chunk : *chunks) {
         if (chunk.type == QByteArrayView("tRNS"))
             facts.alphaChannel = true;

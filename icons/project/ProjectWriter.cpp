@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ProjectWriter.h"
 
+#include "foundation/PendingFile.h"
 #include "foundation/WholeFile.h"
 #include "icons/today/Motifs.h"
 #include "icons/today/PictureWorkshop.h"
@@ -10,7 +11,8 @@
 #include <QFile>
 #include <QFileInfo>
 
-#include <optional>
+#include <memory>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -74,40 +76,63 @@ bool makeFolders(const QString &path, QStringList &made)
     return true;
 }
 
-/// One run over the files, which can be taken back.
+/// One run over the files. All of them are written first and get their names only then, so that a disk that fills up
+/// touches none of the old ones; what has its name can be taken back.
 class Writing
 {
 public:
     explicit Writing(const QString &root) : m_root(root) {}
 
-    Outcome write(const ProjectFile &file)
+    /// Writes the file's content without its name.
+    Outcome prepare(const ProjectFile &file)
     {
         const QString whole = m_root + u'/' + file.path;
-        if (file.change == FileChange::Removed) {
-            if (!QFile::remove(whole))
-                return Failure{FailureCode::CannotWrite, whole, {}};
-        } else {
+        Prepared prepared{&file, nullptr};
+        if (file.change != FileChange::Removed) {
             if (!makeFolders(QFileInfo(whole).path(), m_folders))
                 return Failure{FailureCode::CannotCreateFolder, QFileInfo(whole).path(), {}};
-            const Outcome written = writeWholeFile(whole, file.after);
-            if (!written)
-                return written;
+            const QFileInfo info(whole);
+            Result<PendingFile> pending =
+                PendingFile::begin(QFile::encodeName(info.exists() ? info.canonicalFilePath() : whole));
+            if (!pending)
+                return about(whole, pending.failure());
+            prepared.pending = std::make_unique<PendingFile>(std::move(pending).value());
+            if (const Outcome written = prepared.pending->write(file.after); !written)
+                return about(whole, written.failure());
         }
-        m_done << &file;
+        m_prepared.push_back(std::move(prepared));
+        return Done{};
+    }
+
+    /// Gives every prepared file its name.
+    Outcome publish()
+    {
+        for (const Prepared &prepared : m_prepared) {
+            const QString whole = m_root + u'/' + prepared.file->path;
+            if (prepared.pending == nullptr && !QFile::remove(whole))
+                return Failure{FailureCode::CannotWrite, whole, {}};
+            if (prepared.pending != nullptr) {
+                if (const Outcome published = prepared.pending->publish(); !published)
+                    return about(whole, published.failure());
+            }
+            ++m_published;
+        }
         return Done{};
     }
 
     /// The failure to tell: the first one, and what could not be put back, which nobody expects.
-    Failure takeBack(Failure failure) const
+    Failure takeBack(Failure failure)
     {
         QStringList lost;
-        for (auto file = m_done.rbegin(); file != m_done.rend(); ++file) {
-            const QString whole = m_root + u'/' + (*file)->path;
+        for (std::size_t index = m_published; index-- > 0;) {
+            const ProjectFile &file = *m_prepared[index].file;
+            const QString whole = m_root + u'/' + file.path;
             const bool back =
-                (*file)->change == FileChange::New ? QFile::remove(whole) : writeWholeFile(whole, (*file)->before).ok();
+                file.change == FileChange::New ? QFile::remove(whole) : writeWholeFile(whole, file.before).ok();
             if (!back)
-                lost << (*file)->path;
+                lost << file.path;
         }
+        m_prepared.clear();
         for (auto folder = m_folders.rbegin(); folder != m_folders.rend(); ++folder)
             QDir().rmdir(*folder);
         if (!lost.isEmpty())
@@ -116,8 +141,21 @@ public:
     }
 
 private:
+    static Failure about(const QString &path, Failure failure)
+    {
+        failure.subject = path;
+        return failure;
+    }
+
+    struct Prepared
+    {
+        const ProjectFile *file;
+        std::unique_ptr<PendingFile> pending; ///< none for one that is removed
+    };
+
     QString m_root;
-    QList<const ProjectFile *> m_done;
+    std::vector<Prepared> m_prepared;
+    std::size_t m_published = 0;
     QStringList m_folders;
 };
 
@@ -158,11 +196,11 @@ Outcome writeIntoProject(const QString &root, const QList<ProjectFile> &files, c
             continue;
         if (progress && !progress(number, files.size(), file.path))
             return writing.takeBack({FailureCode::Stopped, root, {}});
-        const Outcome written = writing.write(file);
-        if (!written)
-            return writing.takeBack(written.failure());
+        if (const Outcome prepared = writing.prepare(file); !prepared)
+            return writing.takeBack(prepared.failure());
     }
-    return Done{};
+    const Outcome published = writing.publish();
+    return published ? published : Outcome(writing.takeBack(published.failure()));
 }
 
 } // namespace lumora

@@ -6,7 +6,6 @@
 #include "pictures/scaling/Resampler.h"
 #include "pictures/svg/SvgDrawing.h"
 
-#include <algorithm>
 #include <mutex>
 
 namespace lumora
@@ -74,11 +73,7 @@ QImage Artwork::at(int edge) const
 bool isOpaque(const QImage &picture)
 {
     for (int y = 0; y < picture.height(); ++y) {
-        const uchar *pixel = picture.constScanLine(y);
-        uchar least = 255;
-        for (int x = 0; x < picture.width(); ++x)
-            least = std::min(least, pixel[4 * x + 3]);
-        if (least < 255)
+        if (!areOpaque(picture.constScanLine(y), picture.width()))
             return false;
     }
     return true;

@@ -21,14 +21,14 @@ constexpr int redShare = 2126;
 constexpr int greenShare = 7152;
 constexpr int blueShare = 722;
 
-/// Opaque grey, on black.
+/// Opaque gray, on black.
 QImage luminance(QImage picture)
 {
     for (int y = 0; y < picture.height(); ++y) {
         uchar *pixel = picture.scanLine(y);
         for (int x = 0; x < picture.width(); ++x, pixel += 4) {
-            const int grey = (redShare * pixel[0] + greenShare * pixel[1] + blueShare * pixel[2] + 5000) / 10000;
-            pixel[0] = pixel[1] = pixel[2] = static_cast<uchar>(grey);
+            const int gray = (redShare * pixel[0] + greenShare * pixel[1] + blueShare * pixel[2] + 5000) / 10000;
+            pixel[0] = pixel[1] = pixel[2] = static_cast<uchar>(gray);
             pixel[3] = 255;
         }
     }

@@ -12,7 +12,7 @@ namespace lumora
 enum class Motif {
     Icon, ///< the source as it is
     Dark,
-    Tinted,     ///< opaque shades of grey
+    Tinted,     ///< opaque shades of gray
     MacBody,    ///< on the Mac's grid
     Foreground, ///< of an adaptive icon
     Background, ///< the same

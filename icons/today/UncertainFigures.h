@@ -21,7 +21,7 @@ struct UncertainFigure
 };
 
 /// All of them; whoever learns more changes the table that uses it and takes its row away here.
-inline constexpr std::array<UncertainFigure, 13> uncertainFigures = {{
+inline constexpr std::array<UncertainFigure, 14> uncertainFigures = {{
     {"icns-icp4-icp5", "the types of the 16 and 32 pixel pictures in a Mac icon file", Certainty::NoSource},
     {"ios-sizes-appearances", "dark and tinted pictures repeated for each slot of the multi-size form",
      Certainty::NoSource},
@@ -35,6 +35,7 @@ inline constexpr std::array<UncertainFigure, 13> uncertainFigures = {{
     {"shelf-share", "how much of a top shelf picture the icon takes", Certainty::NoSource},
     {"layer-names", "the names of television and visionOS layers besides Front, Middle and Back", Certainty::NoSource},
     {"vision-layers", "visionOS takes as many layers as the television", Certainty::NoSource},
+    {"mask-shapes", "the corner radii of the launchers' rounded square, squircle and teardrop", Certainty::NoSource},
     {"maui-places", "where a .NET MAUI project keeps its icon", Certainty::NoSource},
     {"cordova-places", "where a Cordova project keeps its icons", Certainty::NoSource},
 }};

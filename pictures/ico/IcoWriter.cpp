@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "IcoWriter.h"
 
-#include "pictures/pixels/PixelFormat.h"
+#include "pictures/png/PngRows.h"
 
 #include <QtEndian>
 
+#include <cstdint>
 #include <vector>
 
 namespace lumora
@@ -32,35 +33,38 @@ int maskRowBytes(int width)
 
 QByteArray bitmap(const QImage &picture)
 {
-    const QImage pixels = straight(picture);
-    const int edge = pixels.width();
+    const ImageRows rows(picture);
+    const int edge = picture.width();
+    const int height = picture.height();
+    std::vector<std::uint8_t> row(static_cast<std::size_t>(edge) * 4);
     QByteArray bytes;
     append<quint32>(bytes, bitmapHeaderBytes);
     append<qint32>(bytes, edge);
     // Colors and mask count as one picture of twice the height.
-    append<qint32>(bytes, 2 * pixels.height());
+    append<qint32>(bytes, 2 * height);
     append<quint16>(bytes, 1);
     append<quint16>(bytes, bitsPerPixel);
     append<quint32>(bytes, 0);
-    append<quint32>(bytes, static_cast<quint32>(pixels.height() * (4 * edge + maskRowBytes(edge))));
+    append<quint32>(bytes, static_cast<quint32>(height * (4 * edge + maskRowBytes(edge))));
     for (int field = 0; field < 4; ++field)
         append<quint32>(bytes, 0);
     // Rows stand from the lowest to the highest, as BGRA.
-    for (int y = pixels.height() - 1; y >= 0; --y) {
-        const uchar *pixel = pixels.constScanLine(y);
+    for (int y = height - 1; y >= 0; --y) {
+        rows.readRow(y, row);
+        const std::uint8_t *pixel = row.data();
         for (int x = 0; x < edge; ++x, pixel += 4) {
             for (const int channel : {2, 1, 0, 3})
                 bytes.append(static_cast<char>(pixel[channel]));
         }
     }
-    for (int y = pixels.height() - 1; y >= 0; --y) {
-        QByteArray row(maskRowBytes(edge), '\0');
-        const uchar *pixel = pixels.constScanLine(y);
+    for (int y = height - 1; y >= 0; --y) {
+        rows.readRow(y, row);
+        QByteArray mask(maskRowBytes(edge), '\0');
         for (int x = 0; x < edge; ++x) {
-            if (pixel[4 * x + 3] == 0)
-                row[x / 8] = static_cast<char>(static_cast<uchar>(row[x / 8]) | (0x80U >> (x % 8)));
+            if (row[static_cast<std::size_t>(4 * x + 3)] == 0)
+                mask[x / 8] = static_cast<char>(static_cast<uchar>(mask[x / 8]) | (0x80U >> (x % 8)));
         }
-        bytes.append(row);
+        bytes.append(mask);
     }
     return bytes;
 }

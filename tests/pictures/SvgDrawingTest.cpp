@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "pictures/svg/SvgDrawing.h"
 
-#include <QElapsedTimer>
 #include <QTest>
+
+#include <ctime>
 
 using namespace lumora;
 using namespace Qt::StringLiterals;
@@ -122,12 +123,12 @@ void SvgDrawingTest::refused_data()
 void SvgDrawingTest::refused()
 {
     QFETCH(QByteArray, file);
-    QElapsedTimer time;
-    time.start();
+    const std::clock_t begin = std::clock();
     const auto drawing = SvgDrawing::read(file, u"a.svg"_s);
-    // The promise is a second; an instrumented build takes several times as long.
-    QVERIFY2(time.elapsed() < 1000 * qEnvironmentVariableIntValue("LUMORA_TIME_FACTOR"),
-             qPrintable(QString::number(time.elapsed())));
+    const double seconds = static_cast<double>(std::clock() - begin) / CLOCKS_PER_SEC;
+    // The promise is a second, of the processor's time on a machine that has more to do; an instrumented build takes
+    // several times as long.
+    QVERIFY2(seconds < qEnvironmentVariableIntValue("LUMORA_TIME_FACTOR"), qPrintable(QString::number(seconds)));
     QVERIFY(!drawing.ok());
     QTEST(drawing.failure().code, "code");
     QCOMPARE(drawing.failure().subject, u"a.svg"_s);
