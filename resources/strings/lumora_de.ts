@@ -1615,8 +1615,8 @@
     <translation>iOS-App-Pakete lesen und ihren Inhalt prüfen</translation>
   </message>
   <message id="CLI_ICONS_SOURCE">
-    <source>Picture of 1024 x 1024 pixels (PNG, JPEG, TIFF, WebP, BMP, GIF or ICNS), or - for standard input</source>
-    <translation>Bild mit 1024 x 1024 Pixeln (PNG, JPEG, TIFF, WebP, BMP, GIF oder ICNS) oder - für die Standardeingabe</translation>
+    <source>Picture of 1024 x 1024 pixels (PNG, JPEG, TIFF, WebP, BMP, GIF or ICNS), for today's platforms a square SVG drawing, too, or - for standard input</source>
+    <translation>Bild von 1024 x 1024 Pixeln (PNG, JPEG, TIFF, WebP, BMP, GIF oder ICNS), für die Plattformen von heute auch eine quadratische SVG-Zeichnung, oder - für die Standardeingabe</translation>
   </message>
   <message id="CLI_EXAMPLE">
     <source>Use the built-in picture in place of SOURCE</source>
@@ -1629,6 +1629,138 @@
   <message id="CLI_ICONS_TO">
     <source>Make a fresh folder "icons" in DIR (icons_1 where that is taken)</source>
     <translation>Einen neuen Ordner "icons" in DIR anlegen (icons_1, wenn es ihn schon gibt)</translation>
+  </message>
+  <message id="CLI_ICONS_NAME">
+    <source>The app's name: of the Linux files, the web manifest and the Icon Composer bundle (App without it)</source>
+    <translation>Name der App: für die Linux-Dateien, das Web-Manifest und das Icon-Composer-Paket (sonst App)</translation>
+  </message>
+  <message id="CLI_ICONS_DARK">
+    <source>Dark icon for iOS and Icon Composer</source>
+    <translation>Dunkles Icon für iOS und Icon Composer</translation>
+  </message>
+  <message id="CLI_ICONS_TINTED">
+    <source>Tinted icon for iOS and Icon Composer: shades of grey, opaque</source>
+    <translation>Getöntes Icon für iOS und Icon Composer: Grautöne, deckend</translation>
+  </message>
+  <message id="CLI_ICONS_FOREGROUND">
+    <source>Foreground of an adaptive icon, as large as its layer</source>
+    <translation>Vordergrund eines adaptiven Icons, so groß wie dessen Ebene</translation>
+  </message>
+  <message id="CLI_ICONS_BACKGROUND">
+    <source>Background of adaptive, maskable and layered icons</source>
+    <translation>Hintergrund adaptiver, maskierbarer und geschichteter Icons</translation>
+  </message>
+  <message id="CLI_ICONS_MONOCHROME">
+    <source>Monochrome icon: only its transparency counts</source>
+    <translation>Einfarbiges Icon: nur seine Transparenz zählt</translation>
+  </message>
+  <message id="CLI_ICONS_LAYER">
+    <source>Layer of a tvOS, visionOS or Icon Composer icon, two to five, the back one first</source>
+    <translation>Ebene eines Icons für tvOS, visionOS oder Icon Composer, zwei bis fünf, die hinterste zuerst</translation>
+  </message>
+  <message id="CLI_ICONS_FLATTEN">
+    <source>What lies below transparency where a store forbids it: #RRGGBB or a name</source>
+    <translation>Was unter Transparenz liegt, wo ein Store sie verbietet: #RRGGBB oder ein Name</translation>
+  </message>
+  <message id="CLI_ICONS_FIT">
+    <source>Take any square picture of at least 512 pixels; it is scaled to 1024 once</source>
+    <translation>Jedes quadratische Bild ab 512 Pixeln nehmen; es wird einmal auf 1024 skaliert</translation>
+  </message>
+  <message id="CLI_ICONS_IOS_FORM">
+    <source>Form of the iOS catalogue: [WORDS]</source>
+    <translation>Form des iOS-Katalogs: [WORDS]</translation>
+  </message>
+  <message id="CLI_ICONS_MAC_FULL_BLEED">
+    <source>Mac icons that fill their square, without the rounded body and its shadow</source>
+    <translation>Mac-Icons, die ihr Quadrat füllen, ohne gerundeten Körper und Schatten</translation>
+  </message>
+  <message id="CLI_ICONS_INTO">
+    <source>Write the icons of the projects in DIR in their places</source>
+    <translation>Die Icons der Projekte in DIR an ihre Plätze schreiben</translation>
+  </message>
+  <message id="CLI_ICONS_DRY_RUN">
+    <source>With --into: only list what would be written</source>
+    <translation>Mit --into: nur auflisten, was geschrieben würde</translation>
+  </message>
+  <message id="CLI_ICONS_FLAVOR">
+    <source>With --into: flavor of an Android or Flutter app</source>
+    <translation>Mit --into: Variante (Flavor) einer Android- oder Flutter-App</translation>
+  </message>
+  <message id="CLI_ICONS_TARGET">
+    <source>With --into: target of an Xcode project</source>
+    <translation>Mit --into: Target eines Xcode-Projekts</translation>
+  </message>
+  <message id="CLI_ICONS_CHECK">
+    <source>Judge the icon catalogues in DIR; needs no SOURCE</source>
+    <translation>Die Icon-Kataloge in DIR prüfen; braucht keine SOURCE</translation>
+  </message>
+  <message id="CLI_ICONS_WRONG_SIZE_ADVICE">
+    <source>use a picture of exactly 1024 x 1024 pixels, or with --fit any square one of at least 512</source>
+    <translation>ein Bild von genau 1024 x 1024 Pixeln nehmen oder mit --fit ein beliebiges quadratisches ab 512</translation>
+  </message>
+  <message id="CLI_ICONS_LINE_TO_ADD">
+    <source>to add by hand: [LINE]</source>
+    <translation>von Hand zu ergänzen: [LINE]</translation>
+  </message>
+  <message id="CLI_ICONS_NONE_FOUND">
+    <source>holds no icon catalogue</source>
+    <translation>enthält keinen Icon-Katalog</translation>
+  </message>
+  <message id="CLI_ICONS_CHECKED">
+    <source>checked [N], found nothing</source>
+    <translation>[N] geprüft, nichts gefunden</translation>
+  </message>
+  <message id="CLI_CHECK_FAILED">
+    <source>does not keep the platforms' rules</source>
+    <translation>hält die Regeln der Plattformen nicht ein</translation>
+  </message>
+  <message id="CLI_HAS_TRANSPARENCY">
+    <source>lets something through where the store forbids it</source>
+    <translation>ist durchsichtig, wo der Store es verbietet</translation>
+  </message>
+  <message id="CLI_HAS_TRANSPARENCY_ADVICE">
+    <source>put it on a color with --flatten COLOR</source>
+    <translation>mit --flatten COLOR auf eine Farbe legen</translation>
+  </message>
+  <message id="CLI_NEEDS_LAYERS">
+    <source>has to be given two to five times</source>
+    <translation>muss zwei- bis fünfmal angegeben werden</translation>
+  </message>
+  <message id="CLI_NEEDS_LAYERS_ADVICE">
+    <source>name a picture for each layer, the back one first</source>
+    <translation>für jede Ebene ein Bild nennen, das hinterste zuerst</translation>
+  </message>
+  <message id="CLI_NOT_A_PROJECT">
+    <source>is no project whose icons are known</source>
+    <translation>ist kein Projekt, dessen Icons bekannt sind</translation>
+  </message>
+  <message id="CLI_NOT_A_PROJECT_ADVICE">
+    <source>name the folder with the project's file</source>
+    <translation>den Ordner mit der Projektdatei nennen</translation>
+  </message>
+  <message id="CLI_AMBIGUOUS_PROJECT">
+    <source>does not say which icons are meant</source>
+    <translation>lässt offen, welche Icons gemeint sind</translation>
+  </message>
+  <message id="CLI_AMBIGUOUS_PROJECT_ADVICE">
+    <source>choose with --target or --flavor, or name one project's own folder</source>
+    <translation>mit --target oder --flavor wählen oder den Ordner eines einzelnen Projekts nennen</translation>
+  </message>
+  <message id="CLI_LEADS_OUTSIDE">
+    <source>leads out of its folder</source>
+    <translation>führt aus seinem Ordner hinaus</translation>
+  </message>
+  <message id="CLI_LEADS_OUTSIDE_ADVICE">
+    <source>replace the link or the name by one inside</source>
+    <translation>den Verweis oder Namen durch einen im Ordner ersetzen</translation>
+  </message>
+  <message id="CLI_STOPPED">
+    <source>was stopped, and everything is as it was</source>
+    <translation>wurde abgebrochen, und alles ist wie zuvor</translation>
+  </message>
+  <message id="CLI_STOPPED_ADVICE">
+    <source>run it again</source>
+    <translation>noch einmal ausführen</translation>
   </message>
   <message id="CLI_OUT">
     <source>Write exactly into DIR: the same files on every run, other files are left alone</source>

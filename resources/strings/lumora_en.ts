@@ -1613,8 +1613,8 @@
     <translation>Read iOS app packages and check what is in them</translation>
   </message>
   <message id="CLI_ICONS_SOURCE">
-    <source>Picture of 1024 x 1024 pixels (PNG, JPEG, TIFF, WebP, BMP, GIF or ICNS), or - for standard input</source>
-    <translation>Picture of 1024 x 1024 pixels (PNG, JPEG, TIFF, WebP, BMP, GIF or ICNS), or - for standard input</translation>
+    <source>Picture of 1024 x 1024 pixels (PNG, JPEG, TIFF, WebP, BMP, GIF or ICNS), for today's platforms a square SVG drawing, too, or - for standard input</source>
+    <translation>Picture of 1024 x 1024 pixels (PNG, JPEG, TIFF, WebP, BMP, GIF or ICNS), for today's platforms a square SVG drawing, too, or - for standard input</translation>
   </message>
   <message id="CLI_EXAMPLE">
     <source>Use the built-in picture in place of SOURCE</source>
@@ -1627,6 +1627,138 @@
   <message id="CLI_ICONS_TO">
     <source>Make a fresh folder "icons" in DIR (icons_1 where that is taken)</source>
     <translation>Make a fresh folder "icons" in DIR (icons_1 where that is taken)</translation>
+  </message>
+  <message id="CLI_ICONS_NAME">
+    <source>The app's name: of the Linux files, the web manifest and the Icon Composer bundle (App without it)</source>
+    <translation>The app's name: of the Linux files, the web manifest and the Icon Composer bundle (App without it)</translation>
+  </message>
+  <message id="CLI_ICONS_DARK">
+    <source>Dark icon for iOS and Icon Composer</source>
+    <translation>Dark icon for iOS and Icon Composer</translation>
+  </message>
+  <message id="CLI_ICONS_TINTED">
+    <source>Tinted icon for iOS and Icon Composer: shades of grey, opaque</source>
+    <translation>Tinted icon for iOS and Icon Composer: shades of grey, opaque</translation>
+  </message>
+  <message id="CLI_ICONS_FOREGROUND">
+    <source>Foreground of an adaptive icon, as large as its layer</source>
+    <translation>Foreground of an adaptive icon, as large as its layer</translation>
+  </message>
+  <message id="CLI_ICONS_BACKGROUND">
+    <source>Background of adaptive, maskable and layered icons</source>
+    <translation>Background of adaptive, maskable and layered icons</translation>
+  </message>
+  <message id="CLI_ICONS_MONOCHROME">
+    <source>Monochrome icon: only its transparency counts</source>
+    <translation>Monochrome icon: only its transparency counts</translation>
+  </message>
+  <message id="CLI_ICONS_LAYER">
+    <source>Layer of a tvOS, visionOS or Icon Composer icon, two to five, the back one first</source>
+    <translation>Layer of a tvOS, visionOS or Icon Composer icon, two to five, the back one first</translation>
+  </message>
+  <message id="CLI_ICONS_FLATTEN">
+    <source>What lies below transparency where a store forbids it: #RRGGBB or a name</source>
+    <translation>What lies below transparency where a store forbids it: #RRGGBB or a name</translation>
+  </message>
+  <message id="CLI_ICONS_FIT">
+    <source>Take any square picture of at least 512 pixels; it is scaled to 1024 once</source>
+    <translation>Take any square picture of at least 512 pixels; it is scaled to 1024 once</translation>
+  </message>
+  <message id="CLI_ICONS_IOS_FORM">
+    <source>Form of the iOS catalogue: [WORDS]</source>
+    <translation>Form of the iOS catalogue: [WORDS]</translation>
+  </message>
+  <message id="CLI_ICONS_MAC_FULL_BLEED">
+    <source>Mac icons that fill their square, without the rounded body and its shadow</source>
+    <translation>Mac icons that fill their square, without the rounded body and its shadow</translation>
+  </message>
+  <message id="CLI_ICONS_INTO">
+    <source>Write the icons of the projects in DIR in their places</source>
+    <translation>Write the icons of the projects in DIR in their places</translation>
+  </message>
+  <message id="CLI_ICONS_DRY_RUN">
+    <source>With --into: only list what would be written</source>
+    <translation>With --into: only list what would be written</translation>
+  </message>
+  <message id="CLI_ICONS_FLAVOR">
+    <source>With --into: flavor of an Android or Flutter app</source>
+    <translation>With --into: flavor of an Android or Flutter app</translation>
+  </message>
+  <message id="CLI_ICONS_TARGET">
+    <source>With --into: target of an Xcode project</source>
+    <translation>With --into: target of an Xcode project</translation>
+  </message>
+  <message id="CLI_ICONS_CHECK">
+    <source>Judge the icon catalogues in DIR; needs no SOURCE</source>
+    <translation>Judge the icon catalogues in DIR; needs no SOURCE</translation>
+  </message>
+  <message id="CLI_ICONS_WRONG_SIZE_ADVICE">
+    <source>use a picture of exactly 1024 x 1024 pixels, or with --fit any square one of at least 512</source>
+    <translation>use a picture of exactly 1024 x 1024 pixels, or with --fit any square one of at least 512</translation>
+  </message>
+  <message id="CLI_ICONS_LINE_TO_ADD">
+    <source>to add by hand: [LINE]</source>
+    <translation>to add by hand: [LINE]</translation>
+  </message>
+  <message id="CLI_ICONS_NONE_FOUND">
+    <source>holds no icon catalogue</source>
+    <translation>holds no icon catalogue</translation>
+  </message>
+  <message id="CLI_ICONS_CHECKED">
+    <source>checked [N], found nothing</source>
+    <translation>checked [N], found nothing</translation>
+  </message>
+  <message id="CLI_CHECK_FAILED">
+    <source>does not keep the platforms' rules</source>
+    <translation>does not keep the platforms' rules</translation>
+  </message>
+  <message id="CLI_HAS_TRANSPARENCY">
+    <source>lets something through where the store forbids it</source>
+    <translation>lets something through where the store forbids it</translation>
+  </message>
+  <message id="CLI_HAS_TRANSPARENCY_ADVICE">
+    <source>put it on a color with --flatten COLOR</source>
+    <translation>put it on a color with --flatten COLOR</translation>
+  </message>
+  <message id="CLI_NEEDS_LAYERS">
+    <source>has to be given two to five times</source>
+    <translation>has to be given two to five times</translation>
+  </message>
+  <message id="CLI_NEEDS_LAYERS_ADVICE">
+    <source>name a picture for each layer, the back one first</source>
+    <translation>name a picture for each layer, the back one first</translation>
+  </message>
+  <message id="CLI_NOT_A_PROJECT">
+    <source>is no project whose icons are known</source>
+    <translation>is no project whose icons are known</translation>
+  </message>
+  <message id="CLI_NOT_A_PROJECT_ADVICE">
+    <source>name the folder with the project's file</source>
+    <translation>name the folder with the project's file</translation>
+  </message>
+  <message id="CLI_AMBIGUOUS_PROJECT">
+    <source>does not say which icons are meant</source>
+    <translation>does not say which icons are meant</translation>
+  </message>
+  <message id="CLI_AMBIGUOUS_PROJECT_ADVICE">
+    <source>choose with --target or --flavor, or name one project's own folder</source>
+    <translation>choose with --target or --flavor, or name one project's own folder</translation>
+  </message>
+  <message id="CLI_LEADS_OUTSIDE">
+    <source>leads out of its folder</source>
+    <translation>leads out of its folder</translation>
+  </message>
+  <message id="CLI_LEADS_OUTSIDE_ADVICE">
+    <source>replace the link or the name by one inside</source>
+    <translation>replace the link or the name by one inside</translation>
+  </message>
+  <message id="CLI_STOPPED">
+    <source>was stopped, and everything is as it was</source>
+    <translation>was stopped, and everything is as it was</translation>
+  </message>
+  <message id="CLI_STOPPED_ADVICE">
+    <source>run it again</source>
+    <translation>run it again</translation>
   </message>
   <message id="CLI_OUT">
     <source>Write exactly into DIR: the same files on every run, other files are left alone</source>
