@@ -2,8 +2,8 @@
 #include "CheckParts.h"
 #include "foundation/WholeFile.h"
 #include "icons/today/AndroidFigures.h"
-#include "icons/today/Artwork.h"
 #include "icons/today/ContentExtent.h"
+#include "pictures/scaling/PicturePlanes.h"
 
 #include <QDir>
 #include <QHash>

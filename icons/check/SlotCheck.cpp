@@ -2,7 +2,7 @@
 #include "CheckParts.h"
 
 #include "foundation/WholeFile.h"
-#include "icons/today/Artwork.h"
+#include "pictures/scaling/PicturePlanes.h"
 
 #include <QJsonDocument>
 

@@ -3,6 +3,7 @@
 
 #include "icons/IconCatalogue.h"
 #include "pictures/pixels/PixelFormat.h"
+#include "pictures/scaling/PicturePlanes.h"
 #include "pictures/scaling/Resampler.h"
 #include "pictures/svg/SvgDrawing.h"
 
@@ -68,15 +69,6 @@ QImage Artwork::at(int edge) const
         return m_state->picture;
     std::call_once(m_state->takenApart, [this] { m_state->resampler = std::make_unique<Resampler>(m_state->picture); });
     return m_state->resampler->scaledTo(size);
-}
-
-bool isOpaque(const QImage &picture)
-{
-    for (int y = 0; y < picture.height(); ++y) {
-        if (!areOpaque(picture.constScanLine(y), picture.width()))
-            return false;
-    }
-    return true;
 }
 
 } // namespace lumora

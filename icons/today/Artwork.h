@@ -38,7 +38,4 @@ private:
     std::shared_ptr<State> m_state;
 };
 
-/// Whether no pixel of an RGBA picture lets anything through.
-bool isOpaque(const QImage &picture);
-
 } // namespace lumora

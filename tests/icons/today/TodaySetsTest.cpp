@@ -10,6 +10,7 @@
 #include "pictures/PictureReader.h"
 #include "pictures/ico/IcoReader.h"
 #include "pictures/png/PngHeader.h"
+#include "pictures/scaling/PicturePlanes.h"
 #include "tests/doubles/FilesOnDisk.h"
 
 #include <QJsonArray>
