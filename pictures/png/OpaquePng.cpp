@@ -129,9 +129,14 @@ QByteArray encodeOpaquePng(const QImage &picture, int threads)
     // The premultiplied colors are those of the picture on black.
     QImage opaque = premultiplied(picture);
     opaque.reinterpretAsFormat(QImage::Format_RGBA8888);
-    const ImageRows rows(opaque);
-    const int height = opaque.height();
-    const qsizetype bytes = (qsizetype{opaque.width()} * 3 + 1) * height;
+    return encodeOpaquePng(ImageRows(opaque), threads);
+}
+
+QByteArray encodeOpaquePng(const PngRows &rows, int threads)
+{
+    const QSize size = rows.size();
+    const int height = size.height();
+    const qsizetype bytes = (qsizetype{size.width()} * 3 + 1) * height;
     const auto count = static_cast<std::size_t>(std::clamp<qsizetype>(bytes / bytesPerSection, 1, height));
     std::vector<Section> sections(count);
     std::atomic<std::size_t> next = 0;
@@ -151,7 +156,7 @@ QByteArray encodeOpaquePng(const QImage &picture, int threads)
             others.emplace_back(makeSections);
         makeSections();
     }
-    return pngFile(opaque.size(), sections);
+    return pngFile(size, sections);
 }
 
 } // namespace lumora

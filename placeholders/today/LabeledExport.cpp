@@ -5,6 +5,7 @@
 #include "foundation/WholeFile.h"
 #include "pictures/PictureReader.h"
 #include "pictures/pixels/SizeText.h"
+#include "pictures/png/OpaquePng.h"
 #include "pictures/png/PngEncoder.h"
 #include "pictures/png/PngRows.h"
 #include "pictures/webp/WebPEncoder.h"
@@ -37,6 +38,9 @@ Result<QByteArray> encoded(const LabeledPicture &picture, const LabeledOptions &
     const QSize pixels = picture.size().pixels();
     switch (options.format) {
     case LabeledFormat::Png:
+        // Stores refuse screenshots with an alpha channel even where it is opaque.
+        if (picture.isOpaque())
+            return encodeOpaquePng(LabeledRows(picture), QThread::idealThreadCount());
         return encodePng(LabeledRows(picture), QThread::idealThreadCount(), path);
     case LabeledFormat::Svg:
         return picture.toSvg();
