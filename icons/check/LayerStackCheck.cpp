@@ -75,7 +75,7 @@ void checkStack(const QString &folder, QSize base, IconCheck &check)
     }
 }
 
-/// Adds the values under a key wherever it stands in a document, and those of its forms for appearances.
+/// Adds the values of a key anywhere in a document, and those of its forms for appearances.
 void collectImageNames(const QJsonValue &value, QStringList &names)
 {
     if (value.isArray()) {

@@ -80,7 +80,7 @@ PictureFacts pictureFacts(const QString &path)
     return facts;
 }
 
-QString sizeText(QSize size)
+QString dimensionsText(QSize size)
 {
     return u"%1 x %2 pixels"_s.arg(size.width()).arg(size.height());
 }

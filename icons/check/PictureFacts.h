@@ -34,6 +34,6 @@ struct PictureFacts
 PictureFacts pictureFacts(const QString &path);
 
 /// "120 x 120 pixels"
-QString sizeText(QSize size);
+QString dimensionsText(QSize size);
 
 } // namespace lumora

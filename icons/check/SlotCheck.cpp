@@ -52,7 +52,7 @@ std::optional<PictureFacts> checkSlot(const QString &path, const SlotDemands &de
         return std::nullopt;
     }
     if (!demands.size.isEmpty() && facts.size != demands.size)
-        check.add(IconRule::WrongSize, path, sizeText(facts.size) + u", not "_s + sizeText(demands.size));
+        check.add(IconRule::WrongSize, path, dimensionsText(facts.size) + u", not "_s + dimensionsText(demands.size));
     checkTransparency(facts, path, demands, check);
     checkForm(facts, path, demands, check);
     return facts;

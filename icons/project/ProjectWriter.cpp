@@ -22,8 +22,8 @@ namespace lumora
 namespace
 {
 
-/// Whether a path below the folder really lies in it: every link on the way leads to a place inside, and no file stands
-/// in a folder's place.
+/// Whether a path below the folder is really in it: every link on the way leads to a place inside, and no folder on the
+/// way is a file.
 Outcome staysInside(const QString &root, const QString &path)
 {
     const QString canonicalRoot = QFileInfo(root).canonicalFilePath();
@@ -65,7 +65,7 @@ Result<ProjectFile> compared(const QString &root, const QString &path, const QBy
     return file;
 }
 
-/// Makes the folder and those it stands in; the paths of the new ones, the outermost first, are added.
+/// Makes the folder and its parents; the paths of the new ones, the outermost first, are added.
 bool makeFolders(const QString &path, QStringList &made)
 {
     if (QFileInfo(path).isDir())

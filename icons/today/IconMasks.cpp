@@ -14,7 +14,7 @@ namespace
 /// Corner radii in parts of the edge.
 constexpr double roundedSquareRadius = 0.2;
 constexpr double teardropRadius = 0.12;
-/// How far a squircle's control points stand from the corners, in parts of the edge.
+/// The distance of a squircle's control points from the corners, in parts of the edge.
 constexpr double squircleReach = 0.1;
 
 QRectF inMiddle(const QRectF &rectangle, double share)

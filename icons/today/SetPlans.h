@@ -47,7 +47,7 @@ struct AndroidNames
     QString icon = QStringLiteral("ic_launcher");
     QString type = QStringLiteral("mipmap");             ///< of resource: "mipmap" or "drawable"
     QString round = QStringLiteral("ic_launcher_round"); ///< empty for no round pictures
-    /// Of the color resource behind the foreground, and of the file that it stands in.
+    /// Of the color resource behind the foreground, and of the file that defines it.
     QString backgroundColor = QStringLiteral("ic_launcher_background");
     bool notification = true;
     bool playStore = true;

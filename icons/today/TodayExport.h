@@ -34,7 +34,7 @@ struct TodayExport
     QString folder;
     QList<TodayFile> files;
     QList<Derived> derived;
-    bool isStopped = false; ///< by whoever was told of the progress; the files up to there are whole
+    bool isStopped = false; ///< by the observer of the progress; the files up to there are whole
 
     /// Every failure, in the order of events.
     QList<Failure> failures() const;

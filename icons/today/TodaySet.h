@@ -6,7 +6,7 @@
 namespace lumora
 {
 
-/// The sets that stores and platforms want now. The classic ones stand in `IconCatalogue.h` and do not change.
+/// The sets that stores and platforms want now. The classic ones are in `IconCatalogue.h` and do not change.
 enum class TodaySet { Ios, MacOs, WatchOs, Adaptive, Web, Windows, Linux, TvOs, VisionOs, IconComposer };
 
 /// What is fixed about one of them.

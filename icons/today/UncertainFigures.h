@@ -20,7 +20,7 @@ struct UncertainFigure
     Certainty certainty;
 };
 
-/// All of them; whoever learns more changes the table that uses it and takes its row away here.
+/// All of them. With better knowledge, change the table that uses the figure and remove its row here.
 inline constexpr std::array<UncertainFigure, 14> uncertainFigures = {{
     {"icns-icp4-icp5", "the types of the 16 and 32 pixel pictures in a Mac icon file", Certainty::NoSource},
     {"ios-sizes-appearances", "dark and tinted pictures repeated for each slot of the multi-size form",

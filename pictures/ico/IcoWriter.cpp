@@ -48,7 +48,7 @@ QByteArray bitmap(const QImage &picture)
     append<quint32>(bytes, static_cast<quint32>(height * (4 * edge + maskRowBytes(edge))));
     for (int field = 0; field < 4; ++field)
         append<quint32>(bytes, 0);
-    // Rows stand from the lowest to the highest, as BGRA.
+    // Rows are stored from the lowest to the highest, as BGRA.
     for (int y = height - 1; y >= 0; --y) {
         rows.readRow(y, row);
         const std::uint8_t *pixel = row.data();

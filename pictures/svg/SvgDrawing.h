@@ -26,7 +26,7 @@ public:
     /// The drawing `edge` pixels wide and high, as `QImage::Format_RGBA8888_Premultiplied`; callable on any thread.
     QImage at(int edge) const;
 
-    /// Whether drawing it often would be slow, so that one drawing had better be scaled.
+    /// Whether drawing it often would be slow, so that scaling one drawing is better.
     bool isHeavy() const;
 
     /// The file itself.

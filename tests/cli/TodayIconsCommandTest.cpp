@@ -184,6 +184,13 @@ void TodayIconsCommandTest::wrongUsage_data()
     QTest::newRow("a platform and a project")
         << QStringList{u"photo.png"_s, u"--platform"_s, u"ios"_s, u"--into"_s, u"."_s};
     QTest::newRow("a source to check") << QStringList{u"photo.png"_s, u"--check"_s, u"."_s};
+    QTest::newRow("a dry run of no project")
+        << QStringList{u"photo.png"_s, u"--platform"_s, u"ios"_s, u"--out"_s, u"o"_s, u"--dry-run"_s};
+    QTest::newRow("a flavor of no project")
+        << QStringList{u"photo.png"_s, u"--platform"_s, u"ios"_s, u"--out"_s, u"o"_s, u"--flavor"_s, u"beta"_s};
+    QTest::newRow("a dark picture of a classic platform")
+        << QStringList{u"photo.png"_s, u"--platform"_s, u"ipad"_s, u"--out"_s, u"o"_s, u"--dark"_s, u"photo.png"_s};
+    QTest::newRow("a color to check") << QStringList{u"--check"_s, u"."_s, u"--flatten"_s, u"red"_s};
     QTest::newRow("an unknown form") << QStringList{u"photo.png"_s, u"--platform"_s, u"ios"_s, u"--out"_s,
                                                     u"o"_s,         u"--ios-form"_s, u"old"_s};
 }

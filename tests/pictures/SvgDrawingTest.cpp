@@ -66,7 +66,7 @@ void SvgDrawingTest::drawsInTheSizeNeeded()
             QCOMPARE(picture.pixelColor(edge - 1, edge / 2), QColor(255, 0, 0));
         }
     }
-    // The border stands sharp between two pixels in every even size, as it would not in a picture that was scaled.
+    // The border is sharp between two pixels in every even size, as it would not in a picture that was scaled.
     QCOMPARE(drawing.value()->at(16).pixelColor(7, 7).alpha(), 0);
     QCOMPARE(drawing.value()->at(16).pixelColor(8, 7).alpha(), 255);
     QVERIFY(drawing.value()->at(0).isNull());
