@@ -6,6 +6,7 @@
 #include "PlatformNames.h"
 #include "TodayIcons.h"
 #include "cli/arguments/Declaration.h"
+#include "cli/console/CommandText.h"
 #include "cli/console/Interruption.h"
 #include "cli/console/KeptMemory.h"
 #include "icons/IconExport.h"
@@ -13,6 +14,8 @@
 #include <QFileInfo>
 
 #include <memory>
+#include <optional>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -70,8 +73,35 @@ ExitStatus runIcons(Console &console, const IconsArguments &arguments)
     return reportIcons(console, generatePlatformIcons(request), fileCount(request.expected));
 }
 
+/// What keeps the options from belonging together, if anything does.
+std::optional<Complaint> contradiction(const IconsArguments &arguments)
+{
+    if (arguments.into.isEmpty()) {
+        for (const auto &[option, isGiven] : {std::pair{u"--dry-run"_s, arguments.dryRun},
+                                              std::pair{u"--flavor"_s, !arguments.project.flavor.isEmpty()},
+                                              std::pair{u"--target"_s, !arguments.project.target.isEmpty()}}) {
+            if (isGiven)
+                return misuse("conflicting-options",
+                              commandText("CLI_NEEDS", {{"[FIRST]", option}, {"[SECOND]", u"--into"_s}}));
+        }
+    }
+    const QString ofToday = arguments.today.firstGiven();
+    if (ofToday.isEmpty() || !arguments.into.isEmpty() || !todaySetsNamed(arguments.platforms).isEmpty())
+        return std::nullopt;
+    if (!arguments.checked.isEmpty())
+        return misuse("conflicting-options",
+                      commandText("CLI_CONFLICT", {{"[FIRST]", ofToday}, {"[SECOND]", u"--check"_s}}));
+    return misuse(
+        "conflicting-options",
+        commandText("CLI_ICONS_NOT_CLASSIC", {{"[OPTION]", ofToday}, {"[WORDS]", alternatives(todaySetNames())}}));
+}
+
 ExitStatus runChosen(Console &console, const IconsArguments &arguments)
 {
+    if (const std::optional<Complaint> problem = contradiction(arguments)) {
+        console.complain(*problem);
+        return console.finish(ExitStatus::Usage);
+    }
     if (!arguments.checked.isEmpty())
         return checkIconFolder(console, arguments.checked);
     if (!arguments.into.isEmpty())
@@ -100,7 +130,7 @@ CommandBody declareIconsCommand(Declaration &declaration)
     declaration.option("--target", &arguments->project.target, "NAME", "CLI_ICONS_TARGET").in(ArgumentGroup::Output);
     declaration.option("--check", &arguments->checked, "DIR", "CLI_ICONS_CHECK");
     declaration.example("lumora icons logo.png --platform iphone,ipad --to build");
-    declaration.example("lumora icons logo.png --platform all --out build/icons --json");
+    declaration.example("lumora icons logo.png --platform today --out build/icons --json");
     return [arguments](Console &console) { return runChosen(console, *arguments); };
 }
 

@@ -8,6 +8,7 @@
 #include "pictures/PictureReader.h"
 
 #include <optional>
+#include <utility>
 
 #include <unistd.h>
 
@@ -82,6 +83,26 @@ void TodayArguments::declareOn(Declaration &declaration)
     declaration.flag("--fit", &fit, "CLI_ICONS_FIT");
     declaration.option("--ios-form", &iosForm, "FORM", "CLI_ICONS_IOS_FORM").words({oneSize, sizes});
     declaration.flag("--mac-full-bleed", &macFullBleed, "CLI_ICONS_MAC_FULL_BLEED");
+}
+
+QString TodayArguments::firstGiven() const
+{
+    const std::pair<QString, bool> given[] = {{u"--name"_s, !name.isEmpty()},
+                                              {u"--dark"_s, !dark.isEmpty()},
+                                              {u"--tinted"_s, !tinted.isEmpty()},
+                                              {u"--foreground"_s, !foreground.isEmpty()},
+                                              {u"--background"_s, !background.isEmpty()},
+                                              {u"--monochrome"_s, !monochrome.isEmpty()},
+                                              {u"--layer"_s, !layers.isEmpty()},
+                                              {u"--flatten"_s, !flatten.isEmpty()},
+                                              {u"--fit"_s, fit},
+                                              {u"--ios-form"_s, !iosForm.isEmpty()},
+                                              {u"--mac-full-bleed"_s, macFullBleed}};
+    for (const auto &[option, isGiven] : given) {
+        if (isGiven)
+            return option;
+    }
+    return {};
 }
 
 SetOptions TodayArguments::setOptions() const

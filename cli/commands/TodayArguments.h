@@ -32,6 +32,8 @@ struct TodayArguments
     bool macFullBleed = false;
 
     void declareOn(Declaration &declaration);
+    /// The name of one of them that was given; empty where none was.
+    QString firstGiven() const;
 
     SetOptions setOptions() const;
     MacForm macForm() const { return macFullBleed ? MacForm::FullBleed : MacForm::Body; }

@@ -1970,6 +1970,10 @@
     <source>does not run on</source>
     <translation>läuft nicht auf</translation>
   </message>
+  <message id="CLI_ICONS_NOT_CLASSIC">
+    <source>[OPTION] goes only with --into or a platform of today: [WORDS]</source>
+    <translation>[OPTION] geht nur mit --into oder einer Plattform von heute: [WORDS]</translation>
+  </message>
   <message id="CLI_NOT_A_DATE">
     <source>[DATE] is no date; write it as in 2027-04-30</source>
     <translation>[DATE] ist kein Datum; schreiben Sie es wie 2027-04-30</translation>

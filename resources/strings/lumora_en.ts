@@ -1968,6 +1968,10 @@
     <source>does not run on</source>
     <translation>does not run on</translation>
   </message>
+  <message id="CLI_ICONS_NOT_CLASSIC">
+    <source>[OPTION] goes only with --into or a platform of today: [WORDS]</source>
+    <translation>[OPTION] goes only with --into or a platform of today: [WORDS]</translation>
+  </message>
   <message id="CLI_NOT_A_DATE">
     <source>[DATE] is no date; write it as in 2027-04-30</source>
     <translation>[DATE] is no date; write it as in 2027-04-30</translation>
