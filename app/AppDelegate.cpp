@@ -168,6 +168,8 @@ ToolViewController *AppDelegate::controller(std::size_t index)
     if (controller == nullptr) {
         controller = toolTable()[index].makeController(m_services);
         controller->setWindow(m_window.get());
+        if (PaneSides *sides = controller->sides())
+            sides->show(m_firstSide);
         m_dropRouter->watchTool(index);
         connect(controller.get(), &ToolViewController::attentionWanted, this,
                 [this, index] { m_sideBar->matrix()->cells().at(static_cast<qsizetype>(index))->setBadge(true); });
@@ -292,6 +294,15 @@ void AppDelegate::showTool(const QString &name)
     for (std::size_t index = 0; index < toolTable().size(); ++index) {
         if (name == QLatin1StringView(toolTable()[index].name))
             m_sideBar->setSelectedIndex(static_cast<qint32>(index));
+    }
+}
+
+void AppDelegate::showSide(ToolSide side)
+{
+    m_firstSide = side;
+    for (const std::unique_ptr<ToolViewController> &controller : m_controllers) {
+        if (controller != nullptr && controller->sides() != nullptr)
+            controller->sides()->show(side);
     }
 }
 

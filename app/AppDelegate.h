@@ -30,6 +30,7 @@ class NamedImage;
 class PopupContentView;
 class SFBPopover;
 class ToolViewController;
+enum class ToolSide;
 
 /// The point at which a header button's popup points, from the window's lower left corner, y upwards. The button's
 /// frame is in the title bar's coordinates, also y upwards.
@@ -87,6 +88,8 @@ public slots:
     void updateViewForIndex();
     /// Selects the tool by its name in the tool table; other names are ignored.
     void showTool(const QString &name);
+    /// Shows this side of every tool that has it.
+    void showSide(lumora::ToolSide side);
     void infoButtonClicked(QWidget *sender);
     void iconButtonClicked(QWidget *sender);
     void aboutButtonClicked();
@@ -124,6 +127,7 @@ private:
     std::size_t m_toolInView = 0;
     ToolViewController *m_currentController = nullptr;
     std::vector<std::unique_ptr<ToolViewController>> m_controllers; ///< null where not needed yet
+    ToolSide m_firstSide{};                                         ///< the side of controllers that are made later
 };
 
 } // namespace lumora

@@ -73,8 +73,9 @@ public:
 
     bool forward(const OpenRequest &request) const
     {
-        if (!request.tool.isEmpty() &&
-            !call(u"ActivateAction"_s, {request.tool, QVariantList(), platformData(m_patience)}))
+        if (request.today && !callAction(BusApplication::todayAction))
+            return false;
+        if (!request.tool.isEmpty() && !callAction(request.tool))
             return false;
         if (!request.files.isEmpty()) {
             QStringList uris;
@@ -82,10 +83,15 @@ public:
                 uris << QUrl::fromLocalFile(file).toString(QUrl::FullyEncoded);
             return call(u"Open"_s, {uris, platformData(m_patience)});
         }
-        return !request.tool.isEmpty() || call(u"Activate"_s, {platformData(m_patience)});
+        return request.today || !request.tool.isEmpty() || call(u"Activate"_s, {platformData(m_patience)});
     }
 
 private:
+    bool callAction(const QString &name) const
+    {
+        return call(u"ActivateAction"_s, {name, QVariantList(), platformData(m_patience)});
+    }
+
     bool call(const QString &member, const QVariantList &arguments) const
     {
         const QString id = QString::fromLatin1(applicationId);
@@ -157,7 +163,10 @@ void BusApplication::ActivateAction(const QString &name, const QVariantList &, c
     if (comesTooLate(platformData))
         return;
     takePlatformData(platformData);
-    emit toolRequested(name);
+    if (name == todayAction)
+        emit todayRequested();
+    else
+        emit toolRequested(name);
 }
 
 } // namespace lumora

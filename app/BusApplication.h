@@ -13,8 +13,9 @@ namespace lumora
 /// The request of a start of the program.
 struct OpenRequest
 {
-    QString tool;      ///< the name of the tool to show; empty for none
-    QStringList files; ///< absolute paths
+    QString tool;       ///< the name of the tool to show; empty for none
+    QStringList files;  ///< absolute paths
+    bool today = false; ///< whether the tools show what has come since
 };
 
 /// The running program on the session bus, as org.freedesktop.Application describes it: there is one window per
@@ -40,6 +41,9 @@ public:
     /// replaces it as soon as it has ended.
     Start start(const OpenRequest &request, std::chrono::milliseconds patience = defaultPatience);
 
+    /// The action that shows the tools' sides of today; every other action is a tool's name.
+    static constexpr QLatin1StringView todayAction{"today"};
+
     /// The bus object's path for an application id: the same with slashes.
     static QString objectPath(const QString &id);
 
@@ -53,6 +57,7 @@ signals:
     void activated();
     void filesOpened(const QStringList &files);
     void toolRequested(const QString &name);
+    void todayRequested();
 };
 
 } // namespace lumora

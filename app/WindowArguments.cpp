@@ -19,6 +19,7 @@ namespace
 {
 
 const QString toolOption = u"--tool"_s;
+const QString todayOption = u"--today"_s;
 
 /// Reads the arguments one after another.
 class Reader
@@ -42,6 +43,8 @@ private:
             takeFile(argument);
         else if (argument == u"--")
             m_optionsEnded = true;
+        else if (argument == todayOption)
+            m_request.today = true;
         else if (argument.startsWith(QString(toolOption + u'=')))
             takeTool(argument.sliced(toolOption.size() + 1));
         else if (argument == toolOption && m_next < m_arguments.size())
@@ -51,7 +54,7 @@ private:
                                commandText("CLI_MISSING_VALUE", {{"[OPTION]", toolOption}, {"[NAME]", u"NAME"_s}}),
                                commandText("CLI_CHOICES", {{"[WORDS]", alternatives(toolNames())}}));
         else
-            m_problem = unknownOption(argument, {toolOption, u"--help"_s, u"--version"_s});
+            m_problem = unknownOption(argument, {toolOption, todayOption, u"--help"_s, u"--version"_s});
     }
 
     void takeTool(const QString &name)

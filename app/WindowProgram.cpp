@@ -16,6 +16,7 @@
 #include "foundation/Log.h"
 #include "foundation/Version.h"
 #include "resources/Resources.h"
+#include "tool/PaneSides.h"
 #include "validator/bundle/WorkFolder.h"
 #include "widgets/style/AppStyle.h"
 #include "widgets/style/FrameClock.h"
@@ -79,6 +80,10 @@ void connectBus(BusApplication &bus, AppDelegate &delegate)
         delegate.activate();
         delegate.showTool(name);
     });
+    QObject::connect(&bus, &BusApplication::todayRequested, &delegate, [&delegate] {
+        delegate.activate();
+        delegate.showSide(ToolSide::Today);
+    });
 }
 
 } // namespace
@@ -124,6 +129,8 @@ int runWindow(int argc, char **argv)
     const TerminationSignals termination;
     QObject::connect(&termination, &TerminationSignals::terminated, delegate.window(), &INAppStoreWindow::performClose);
 
+    if (request.today)
+        delegate.showSide(ToolSide::Today);
     delegate.showTool(request.tool);
     delegate.activate();
     if (!request.files.isEmpty())

@@ -57,8 +57,8 @@ QStringList withCommandFirst(QStringList words)
 
 bool isForTheWindow(const QString &word)
 {
-    return word == u"--" || word == u"--tool" || word.startsWith(u"--tool=") || QFileInfo::exists(word) ||
-           QFileInfo(word).isSymLink() || QUrl(word).isLocalFile();
+    return word == u"--" || word == u"--tool" || word.startsWith(u"--tool=") || word == u"--today" ||
+           QFileInfo::exists(word) || QFileInfo(word).isSymLink() || QUrl(word).isLocalFile();
 }
 
 /// Whether an option is given, except as an operand after "--".
@@ -166,7 +166,7 @@ ExitStatus run(const QStringList &words)
         console.complain(misuse("empty-value", commandText("CLI_EMPTY_WORD")));
     else if (first.startsWith(u'-') && first.size() > 1)
         console.complain(unknownOption(first, helpOptions.first(1) + versionOptions.first(1) + leadingOptions +
-                                                  QStringList{u"--tool"_s}));
+                                                  QStringList{u"--tool"_s, u"--today"_s}));
     else
         console.complain(unknownCommand(first));
     return console.finish(ExitStatus::Usage);

@@ -10,7 +10,7 @@ namespace lumora
 {
 
 /// True when the arguments are for the command line, false when they are for the window: there are none, or they begin
-/// with an existing file, with --tool or with --. All others are for the command line, which suggests what may have
+/// with an existing file, with --tool, --today or --. All others are for the command line, which suggests what may have
 /// been meant.
 bool isCommandLine(int argc, const char *const *argv);
 

@@ -130,8 +130,9 @@ QString programHelp()
 {
     const QString word = commandText("CLI_USAGE") + u": "_s;
     const QString indent(word.size(), u' ');
-    QString text = word + commandText("CLI_PROGRAM_USAGE") + u'\n' + indent + u"lumora [--tool NAME] [FILE]...\n"_s +
-                   indent + u"lumora help [COMMAND]\n\n"_s + wrapped(commandText("CLI_PROGRAM_ABOUT"), 0, 0);
+    QString text = word + commandText("CLI_PROGRAM_USAGE") + u'\n' + indent +
+                   u"lumora [--tool NAME] [--today] [FILE]...\n"_s + indent + u"lumora help [COMMAND]\n\n"_s +
+                   wrapped(commandText("CLI_PROGRAM_ABOUT"), 0, 0);
     text += heading("CLI_COMMANDS");
     for (const Command &command : commandTable())
         text += entry(QString::fromLatin1(command.name), commandText(command.textKey));
@@ -139,6 +140,7 @@ QString programHelp()
     text += entry(u"version"_s, commandText("CLI_VERSION"));
     text += heading("CLI_WINDOW");
     text += entry(u"--tool NAME"_s, commandText("CLI_TOOL", {{"[WORDS]", alternatives(toolNames())}}));
+    text += entry(u"--today"_s, commandText("CLI_TODAY"));
     text += heading("CLI_GENERAL");
     const Declaration general{QString()};
     for (const Argument &argument : general.arguments())

@@ -11,6 +11,8 @@
 #include <QApplication>
 #include <QEvent>
 
+#include <utility>
+
 namespace lumora
 {
 
@@ -33,6 +35,11 @@ QWidget *ToolViewController::window() const
 void ToolViewController::takeFocus()
 {
     m_focus->take();
+}
+
+void ToolViewController::addToday(PaneSides::MakeToday makeToday)
+{
+    m_sides = new PaneSides(m_view, std::move(makeToday));
 }
 
 void ToolViewController::setUpResult(JobResultView *view, const QColor &normal, const QColor &hover)

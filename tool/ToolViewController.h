@@ -2,6 +2,7 @@
 #pragma once
 
 #include "AlertContentView.h"
+#include "PaneSides.h"
 #include "tool/services/Services.h"
 
 #include <QObject>
@@ -47,6 +48,9 @@ public:
     /// Gives the keyboard to the tool's first control.
     void takeFocus();
 
+    /// The tool's two sides; null for a tool that has only the classic one.
+    PaneSides *sides() const { return m_sides; }
+
     /// Whether the tool opens files, and so uses the two operations below.
     virtual bool takesFiles() const { return false; }
     /// Lets the user choose the tool's input, as the tool's own browse button does.
@@ -66,6 +70,9 @@ protected:
     explicit ToolViewController(const Services &services, QObject *parent = nullptr);
 
     const Services &services() const { return m_services; }
+    /// Gives the tool a side of today beside the classic one, and its view the switch between them. Call it once, when
+    /// the classic side is complete.
+    void addToday(PaneSides::MakeToday makeToday);
     /// Call this when a job has ended.
     void jobEnded();
     /// Sets the view's colors and connects its buttons to the services.
@@ -94,6 +101,7 @@ private:
     QPointer<QWidget> m_view;
     QPointer<QWidget> m_window;
     PaneFocus *m_focus;                             ///< owned by the view
+    PaneSides *m_sides = nullptr;                   ///< owned by the view
     AlertContentView *m_popupContentView = nullptr; ///< owned by the popover
     std::unique_ptr<SFBPopover> m_popupView;
     Message m_shownMessage;

@@ -29,7 +29,7 @@ _lumora_options() {
     diff) echo "--on --no-sandbox $_lumora_general" ;;
     rules) echo "--markdown $_lumora_general" ;;
     help | version) ;;
-    *) echo "--tool $_lumora_general" ;;
+    *) echo "--tool --today $_lumora_general" ;;
   esac
 }
 

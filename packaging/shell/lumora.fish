@@ -23,6 +23,7 @@ complete -c lumora -n __fish_use_subcommand -a help -d 'Explain the program or a
 complete -c lumora -n __fish_use_subcommand -a version -d 'Print the version'
 complete -c lumora -n __fish_use_subcommand -a '(__lumora_files png jpg jpeg tif tiff webp bmp gif icns ipa)'
 complete -c lumora -n __fish_use_subcommand -l tool -x -a 'icons placeholders resizer color devices validator' -d 'Open the window at a tool'
+complete -c lumora -n __fish_use_subcommand -l today -d 'Open the window with what platforms want today'
 complete -c lumora -n '__fish_seen_subcommand_from help' -a 'icons icon placeholders downscale color devices validate diff rules'
 
 complete -c lumora -s h -l help -d 'Explain'

@@ -45,6 +45,18 @@
     <source>Contact us</source>
     <translation>Kontakt</translation>
   </message>
+  <message id="SIDE_CLASSIC">
+    <source>Classic</source>
+    <translation>Klassisch</translation>
+  </message>
+  <message id="SIDE_TODAY">
+    <source>Today</source>
+    <translation>Heute</translation>
+  </message>
+  <message id="SIDE_TIP">
+    <source>Switch between the classic side and what platforms want today</source>
+    <translation>Zwischen der klassischen Seite und dem wechseln, was Plattformen heute verlangen</translation>
+  </message>
 
   <!-- Header: APP_DEFAULT and a tool's text are joined with nothing between, so each tool's text brings its own bar and blanks -->
   <message id="APP_DEFAULT">
@@ -1407,6 +1419,10 @@
     <source>Close window</source>
     <translation>Fenster schließen</translation>
   </message>
+  <message id="ACCESSIBLE_SIDES">
+    <source>Side of this tool</source>
+    <translation>Seite dieses Werkzeugs</translation>
+  </message>
   <message id="ACCESSIBLE_MINIMIZE">
     <source>Minimise window</source>
     <translation>Fenster minimieren</translation>
@@ -1565,6 +1581,10 @@
   <message id="CLI_TOOL">
     <source>Open the window at one tool: [WORDS]</source>
     <translation>Das Fenster bei einem Werkzeug öffnen: [WORDS]</translation>
+  </message>
+  <message id="CLI_TODAY">
+    <source>Open the window with what platforms want today, in the tools that have both</source>
+    <translation>Das Fenster mit dem öffnen, was Plattformen heute verlangen, in den Werkzeugen mit beiden Seiten</translation>
   </message>
   <message id="CLI_JSON">
     <source>Print the result as JSON, failures included</source>

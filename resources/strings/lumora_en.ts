@@ -45,6 +45,18 @@
     <source>Contact us</source>
     <translation>Contact us</translation>
   </message>
+  <message id="SIDE_CLASSIC">
+    <source>Classic</source>
+    <translation>Classic</translation>
+  </message>
+  <message id="SIDE_TODAY">
+    <source>Today</source>
+    <translation>Today</translation>
+  </message>
+  <message id="SIDE_TIP">
+    <source>Switch between the classic side and what platforms want today</source>
+    <translation>Switch between the classic side and what platforms want today</translation>
+  </message>
 
   <!-- Header: APP_DEFAULT and a tool's text are joined with nothing between, so each tool's text brings its own bar and blanks -->
   <message id="APP_DEFAULT">
@@ -1405,6 +1417,10 @@
     <source>Close window</source>
     <translation>Close window</translation>
   </message>
+  <message id="ACCESSIBLE_SIDES">
+    <source>Side of this tool</source>
+    <translation>Side of this tool</translation>
+  </message>
   <message id="ACCESSIBLE_MINIMIZE">
     <source>Minimise window</source>
     <translation>Minimise window</translation>
@@ -1563,6 +1579,10 @@
   <message id="CLI_TOOL">
     <source>Open the window at one tool: [WORDS]</source>
     <translation>Open the window at one tool: [WORDS]</translation>
+  </message>
+  <message id="CLI_TODAY">
+    <source>Open the window with what platforms want today, in the tools that have both</source>
+    <translation>Open the window with what platforms want today, in the tools that have both</translation>
   </message>
   <message id="CLI_JSON">
     <source>Print the result as JSON, failures included</source>

@@ -126,6 +126,31 @@ private slots:
         QTEST(std::get<OpenRequest>(parsed).files, "files");
     }
 
+    void todayIsAnArgumentAndAnAction_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<bool>("today");
+        QTest::addColumn<QString>("tool");
+        QTest::newRow("without it") << QStringList{u"--tool=color"_s} << false << u"color"_s;
+        QTest::newRow("alone") << QStringList{u"--today"_s} << true << QString();
+        QTest::newRow("with a tool") << QStringList{u"--today"_s, u"--tool"_s, u"color"_s} << true << u"color"_s;
+        QTest::newRow("behind a tool") << QStringList{u"--tool=color"_s, u"--today"_s} << true << u"color"_s;
+    }
+    void todayIsAnArgumentAndAnAction()
+    {
+        QFETCH(QStringList, arguments);
+        const std::variant<OpenRequest, Complaint> parsed = parseWindowArguments(arguments);
+        QVERIFY(std::holds_alternative<OpenRequest>(parsed));
+        QTEST(std::get<OpenRequest>(parsed).today, "today");
+        QTEST(std::get<OpenRequest>(parsed).tool, "tool");
+        BusApplication application;
+        QSignalSpy today(&application, &BusApplication::todayRequested);
+        QSignalSpy tool(&application, &BusApplication::toolRequested);
+        application.ActivateAction(u"today"_s, {}, {});
+        QCOMPARE(today.size(), 1);
+        QCOMPARE(tool.size(), 0);
+    }
+
 private:
     /// The working folder of the arguments; it contains b.ipa and --fast.
     QString here() const { return QFileInfo(m_folder.path()).canonicalFilePath(); }

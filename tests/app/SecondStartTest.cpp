@@ -137,6 +137,23 @@ private slots:
         QTEST(running.calls, "calls");
     }
 
+    void todayGoesToTheRunningProgramToo_data()
+    {
+        QTest::addColumn<QString>("tool");
+        QTest::addColumn<QStringList>("calls");
+        QTest::newRow("alone") << QString() << QStringList{u"ActivateAction today"_s};
+        QTest::newRow("with a tool") << u"color"_s << QStringList{u"ActivateAction today"_s, u"ActivateAction color"_s};
+    }
+    void todayGoesToTheRunningProgramToo()
+    {
+        QFETCH(QString, tool);
+        const OtherProgram running(Manner::Answers);
+        QVERIFY(running.isOwner());
+        BusApplication application;
+        QCOMPARE(application.start({tool, {}, true}), BusApplication::Start::Forwarded);
+        QTEST(running.calls, "calls");
+    }
+
     void addressesArriveAsTheFilesTheyWere()
     {
         const QString name = u"/my ü/画 #1 100%?.png"_s;

@@ -93,12 +93,18 @@ void ShellHelpTest::namesEveryOption()
 void ShellHelpTest::namesEveryToolOfTheWindow()
 {
     const QString menuEntry = contentOf(u"desktop/lumora.desktop.in"_s);
-    const QStringList tools = menuEntry.section(u"Actions="_s, 1).section(u'\n', 0, 0).split(u';', Qt::SkipEmptyParts);
+    QStringList tools = menuEntry.section(u"Actions="_s, 1).section(u'\n', 0, 0).split(u';', Qt::SkipEmptyParts);
+    QCOMPARE(tools.takeLast(), u"today"_s);
     QCOMPARE(tools.size(), 6);
     const QString help =
         QString::fromUtf8(runLumora({u"--help"_s}).out).section(u"Window:"_s, 1).section(u"General:"_s, 0, 0);
     const QString manual = contentOf(u"man/lumora.1.in"_s).section(u"DESCRIPTION"_s, 1).section(u".SH"_s, 0, 0);
     QVERIFY(help.contains(u"--tool NAME"_s));
+    for (const QString &file : {u"shell/lumora.bash"_s, u"shell/_lumora"_s})
+        QVERIFY2(contentOf(file).contains(u"--today"_s), qPrintable(file));
+    QVERIFY(contentOf(u"shell/lumora.fish"_s).contains(u"-l today "_s));
+    for (const QString &text : {help, contentOf(u"man/lumora.1.in"_s).replace(u"\\-"_s, u"-"_s)})
+        QVERIFY(text.contains(u"--today"_s));
     for (const QString &tool : tools) {
         QVERIFY2(help.contains(tool), qPrintable(tool));
         QVERIFY2(manual.contains(tool), qPrintable(tool));

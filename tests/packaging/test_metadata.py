@@ -35,9 +35,10 @@ class DesktopEntry(unittest.TestCase):
         result = run("desktop-file-validate", "--warn-kde", METADATA / f"{APPLICATION_ID}.desktop")
         self.assertEqual((result.returncode, result.stdout), (0, ""))
 
-    def test_there_is_one_action_for_each_tool_in_the_order_of_the_sidebar(self):
+    def test_there_is_one_action_for_each_tool_in_the_order_of_the_sidebar_and_one_for_today(self):
         entry = desktop_entry()
-        self.assertEqual(entry["Desktop Entry"]["Actions"], "".join(f"{tool};" for tool in TOOLS))
+        self.assertEqual(entry["Desktop Entry"]["Actions"], "".join(f"{tool};" for tool in TOOLS) + "today;")
+        self.assertEqual(entry["Desktop Action today"]["Exec"], "lumora --today")
         for tool in TOOLS:
             self.assertEqual(entry[f"Desktop Action {tool}"]["Exec"], f"lumora --tool={tool}")
 

@@ -62,7 +62,7 @@ PaintedButton *PaintedButtonAccessible::button() const
 
 bool PaintedButtonAccessible::isSelection() const
 {
-    return role() == QAccessible::CheckBox || role() == QAccessible::RadioButton;
+    return role() == QAccessible::CheckBox || role() == QAccessible::RadioButton || button()->isCheckable();
 }
 
 } // namespace lumora
