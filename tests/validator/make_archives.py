@@ -124,6 +124,7 @@ def by_hand(out):
     write("no date", [text("undated.txt", date=0, time=0)])
     write("damaged data", [Entry("bad", TEXT, DEFLATED, packed=b"\xff" * 60), good])
     write("cut data", [Entry("bad", TEXT, DEFLATED, packed=build_cut()), good])
+    write("data ends early", [Entry("bad", TEXT, DEFLATED, packed=Entry("", b"four", DEFLATED).packed()), good])
     write("wrong checksum", [text("bad", crc=12345), good])
     write("size too small", [text("short", size=4), good])
     write("size too large", [Entry("long", b"1234", size=4000), good])

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "CurrentEntry.h"
 
+#include <algorithm>
 #include <optional>
 
 #include <minizip/unzip.h>
@@ -49,6 +50,7 @@ bool CurrentEntry::open()
 {
     m_reader.reset();
     m_unreadable = false;
+    m_left = 0;
     const int status = m_password.isEmpty() ? ::unzOpenCurrentFile(m_archive)
                                             : ::unzOpenCurrentFilePassword(m_archive, m_password.constData());
     return status == UNZ_OK || openAround();
@@ -58,6 +60,7 @@ void CurrentEntry::noteSizes(const unz_file_info &info)
 {
     if (m_reader)
         return;
+    m_left = info.uncompressed_size;
     if (info.uncompressed_size == overflowed || info.compressed_size == overflowed)
         m_unreadable = !openAround();
     else
@@ -109,14 +112,19 @@ int CurrentEntry::read(char *buffer, unsigned size)
 {
     if (m_unreadable)
         return UNZ_BADZIPFILE;
-    return m_reader ? m_reader->read(buffer, size) : ::unzReadCurrentFile(m_archive, buffer, size);
+    if (m_reader)
+        return m_reader->read(buffer, size);
+    const int count = ::unzReadCurrentFile(m_archive, buffer, size);
+    m_left -= std::min<std::uint64_t>(m_left, static_cast<std::uint64_t>(std::max(count, 0)));
+    return count;
 }
 
 bool CurrentEntry::close()
 {
     const int status = ::unzCloseCurrentFile(m_archive);
+    // minizip compares checksums only if it has delivered all bytes.
     if (!m_reader)
-        return status == UNZ_OK && !m_unreadable;
+        return status == UNZ_OK && !m_unreadable && m_left == 0;
     const bool matches = m_reader->checksumMatches();
     m_reader.reset();
     return matches;

@@ -32,7 +32,7 @@ public:
     std::uint64_t size(const unz_file_info_s &info) const;
     /// Reads up to `size` bytes. Returns their number, 0 at the end, a negative number on an error.
     int read(char *buffer, unsigned size);
-    /// False when the read bytes do not have the stored checksum.
+    /// False when the read bytes have another checksum than the archive states, or are fewer than it states.
     bool close();
 
 private:
@@ -44,6 +44,7 @@ private:
     QByteArray m_password;
     std::unique_ptr<ZipEntryReader> m_reader;
     bool m_unreadable = false;
+    std::uint64_t m_left = 0; ///< bytes that minizip has not delivered
 };
 
 } // namespace lumora

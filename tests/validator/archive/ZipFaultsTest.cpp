@@ -72,11 +72,12 @@ private slots:
                                       << QStringList{u"Failed to reading zip file"_s} << QStringList{u"bad"_s};
         QTest::newRow("cut data") << true << with({{u"bad"_s, QString()}})
                                   << QStringList{u"Failed to reading zip file"_s} << QStringList{u"bad"_s};
+        QTest::newRow("data ends early") << true << with({{u"bad"_s, u"four"_s}}) << none << QStringList{u"bad"_s};
         QTest::newRow("encrypted mark only")
             << true << with({{u"sealed"_s, u"13500 bytes"_s}}) << none << QStringList();
         QTest::newRow("wrong checksum") << true << with({{u"bad"_s, textOfEntry}}) << none << QStringList{u"bad"_s};
         QTest::newRow("size too small") << true << with({{u"short"_s, u"text"_s}}) << none << QStringList{u"short"_s};
-        QTest::newRow("size too large") << true << with({{u"long"_s, u"1234"_s}}) << none << none;
+        QTest::newRow("size too large") << true << with({{u"long"_s, u"1234"_s}}) << none << QStringList{u"long"_s};
         QTest::newRow("unknown method") << false << Tree{} << QStringList{u"Error occurs"_s} << none;
         QTest::newRow("local header elsewhere") << false << Tree{} << QStringList{u"Error occurs"_s} << none;
         QTest::newRow("7-zip bzip2") << true << Tree{{u"dir"_s, u"/"_s},
