@@ -2,6 +2,7 @@
 #include "CommandLine.h"
 
 #include "HelpText.h"
+#include "ScreenlessApplication.h"
 #include "cli/arguments/ArgumentParser.h"
 #include "cli/arguments/Declaration.h"
 #include "cli/arguments/Suggestion.h"
@@ -13,7 +14,6 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QGuiApplication>
 #include <QLoggingCategory>
 #include <QUrl>
 
@@ -77,9 +77,7 @@ std::unique_ptr<QCoreApplication> makeApplication(int &argc, char **argv, bool d
 {
     if (!drawsText)
         return std::make_unique<QCoreApplication>(argc, argv);
-    // Text is only drawn into pictures, so no screen is needed.
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    return std::make_unique<QGuiApplication>(argc, argv);
+    return makeScreenlessApplication(argc, argv);
 }
 
 void installCommandTexts()

@@ -64,6 +64,26 @@ private slots:
 #endif
     }
 
+    void leavesNothingInTheFolderForTemporaryFiles_data()
+    {
+        QTest::addColumn<QString>("runtimeFolder");
+        QTest::newRow("no runtime folder") << QString();
+        QTest::newRow("a missing one") << u"/missing/runtime"_s;
+        QTest::newRow("no folder") << u"/dev/null"_s;
+    }
+    void leavesNothingInTheFolderForTemporaryFiles()
+    {
+        QFETCH(QString, runtimeFolder);
+        const QTemporaryDir temporary;
+        LumoraProcess program;
+        program.withVariable(u"TMPDIR"_s, temporary.path()).withVariable(u"XDG_RUNTIME_DIR"_s, runtimeFolder);
+        const LumoraRun run = program.run({u"placeholders"_s, u"--size"_s, u"8x8"_s, u"--out"_s, out()});
+        QCOMPARE(run.status, 0);
+        QCOMPARE(run.err, QByteArray());
+        QCOMPARE(QDir(temporary.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+                 QStringList());
+    }
+
     void aSetInItsOrder_data()
     {
         QTest::addColumn<QString>("set");
