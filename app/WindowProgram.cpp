@@ -68,7 +68,7 @@ std::unique_ptr<WorkFolder> makeWorkFolder()
     auto folder = WorkFolder::make();
     if (folder)
         return std::move(folder.value());
-    logLine(QStringLiteral("CreateError: ") + folder.failure().detail);
+    logLine(QStringLiteral("CreateError: ") + folder.failure().detail.words());
     return nullptr;
 }
 

@@ -55,7 +55,7 @@ Result<ExportFolder> makeExportFolder(const QString &destination, const QString 
     if (error == 0)
         return folder;
     const Failure failure{FailureCode::CannotCreateFolder, folder.path, qt_error_string(error)};
-    logLine(u"Folder error: "_s + failure.detail);
+    logLine(u"Folder error: "_s + failure.detail.words());
     return failure;
 }
 

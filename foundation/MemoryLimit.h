@@ -13,7 +13,7 @@ namespace lumora
 /// The failure of work that memory does not suffice for.
 inline Failure outOfMemory(const QString &subject)
 {
-    return {FailureCode::TooLarge, subject, QStringLiteral("not enough memory")};
+    return {FailureCode::TooLarge, subject, "DETAIL_NO_MEMORY"};
 }
 
 /// Does the work, which returns a `Result`; `outOfMemory` if an allocation in it fails. For work whose memory grows

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "FailureDetail.h"
+
 #include <QString>
 
 #include <utility>
@@ -36,8 +38,8 @@ enum class FailureCode {
 struct Failure
 {
     FailureCode code = FailureCode::NotReadable;
-    QString subject; ///< the path or the typed text concerned
-    QString detail;  ///< free text from the system or a decoder (error, picture size), may be empty
+    QString subject;      ///< the path or the typed text concerned
+    FailureDetail detail; ///< the reason or size (error, picture size), may be empty
 
     bool operator==(const Failure &) const = default;
 };

@@ -91,7 +91,7 @@ Result<QByteArray> readWholeFile(const QString &path, qint64 limit)
         return Failure{openingFailure(errno), path, {}};
     struct stat status = {};
     if (::fstat(file.number(), &status) == 0 && !S_ISREG(status.st_mode) && !S_ISDIR(status.st_mode))
-        return Failure{FailureCode::NotReadable, path, u"not a regular file"_s};
+        return Failure{FailureCode::NotReadable, path, "DETAIL_NO_REGULAR_FILE"};
     return readWholeDescriptor(file.number(), path, limit);
 }
 

@@ -38,7 +38,7 @@ std::optional<Failure> makeSubfolder(const QString &path)
     const Outcome made = createFolder(path);
     if (made || QFileInfo(path).isDir())
         return std::nullopt;
-    logLine(QStringLiteral("CreateError: ") + made.failure().detail);
+    logLine(QStringLiteral("CreateError: ") + made.failure().detail.words());
     return made.failure();
 }
 

@@ -28,7 +28,7 @@ Result<QImage> readIconSource(const QByteArray &bytes, const QString &name)
     const QSize size = stored.value();
     const auto wanted = static_cast<float>(sourceIconSize);
     if (static_cast<float>(size.width()) != wanted || static_cast<float>(size.height()) != wanted) {
-        return Failure{FailureCode::WrongSize, name, pixelsText(size)};
+        return Failure{FailureCode::WrongSize, name, pixelsDetail(size)};
     }
     return readPicture(bytes, name);
 }

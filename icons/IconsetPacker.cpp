@@ -41,7 +41,7 @@ Result<QString> IconutilPacker::pack(const QString &iconsetPath) const
     tool.waitForFinished(-1);
     const QString made = icnsPath(iconsetPath);
     if (!QFile::exists(made))
-        return Failure{FailureCode::CannotWrite, made, m_program + QStringLiteral(" made none")};
+        return Failure{FailureCode::CannotWrite, made, {"DETAIL_MADE_NONE", {{"[PROGRAM]", m_program}}}};
     return made;
 }
 
@@ -52,7 +52,7 @@ Result<QString> OwnIconsetPacker::pack(const QString &iconsetPath) const
         const QString path = iconsetPath + u'/' + QLatin1StringView(MacIcons[index].name);
         const Result<QByteArray> picture = readWholeFile(path, largestPictureFile);
         if (!picture)
-            return Failure{FailureCode::CannotWrite, icnsPath(iconsetPath), path + QStringLiteral(" is missing")};
+            return Failure{FailureCode::CannotWrite, icnsPath(iconsetPath), {"DETAIL_IS_MISSING", {{"[FILE]", path}}}};
         members.push_back({memberTypes[index], picture.value()});
     }
     const Outcome written = writeWholeFile(icnsPath(iconsetPath), icnsFile(members));

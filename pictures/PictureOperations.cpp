@@ -34,7 +34,7 @@ Outcome saveImage(const QImage &image, BitmapType withType, const QString &toPat
         case BitmapType::Png:
             return encodePng(image, toPath);
         }
-        return Failure{FailureCode::InvalidValue, toPath, QStringLiteral("no such file type")};
+        return Failure{FailureCode::InvalidValue, toPath, "DETAIL_NO_FILE_TYPE"};
     }();
     if (!encoded)
         return Failure{FailureCode::CannotWrite, toPath, encoded.failure().detail};

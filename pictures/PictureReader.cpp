@@ -57,7 +57,7 @@ void prepareDecoders(const QByteArray &format)
 
 Failure damaged(const QString &name)
 {
-    return {FailureCode::NotAPicture, name, u"damaged"_s};
+    return {FailureCode::NotAPicture, name, "DETAIL_DAMAGED"};
 }
 
 /// A failed read returns a null picture.
@@ -155,7 +155,7 @@ Result<QImage> readStraightPicture(const QByteArray &bytes, const QString &name)
         return stored.failure();
     const QSize size = stored.value();
     if (qint64{size.width()} * size.height() > largestPictureArea)
-        return Failure{FailureCode::TooLarge, name, pixelsText(size)};
+        return Failure{FailureCode::TooLarge, name, pixelsDetail(size)};
     const QByteArray format = pictureFormat(bytes);
     if (format == "icns") {
         const Result<QByteArray> largest = largestIcnsPicture(bytes, name);

@@ -39,7 +39,7 @@ Result<QByteArray> readSource(const QString &path)
     const QFileInfo file(path);
     // A pipe without a writer would block the whole batch.
     if (file.exists() && !file.isFile() && !file.isDir())
-        return Failure{FailureCode::NotReadable, path, QStringLiteral("not a regular file")};
+        return Failure{FailureCode::NotReadable, path, "DETAIL_NO_REGULAR_FILE"};
     return readWholeFile(path, largestPictureFile);
 }
 

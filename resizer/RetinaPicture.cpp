@@ -45,7 +45,7 @@ Result<QSize> halvedSize(QSize pixels, const QString &name)
 {
     const QSize half = halfSize(pixels);
     if (qint64{pixels.width()} * pixels.height() > largestPictureArea)
-        return Failure{FailureCode::TooLarge, name, pixelsText(pixels)};
+        return Failure{FailureCode::TooLarge, name, pixelsDetail(pixels)};
     return half;
 }
 

@@ -71,7 +71,7 @@ struct Group
 QString failureReason(const Failure &failure)
 {
     const QString reason = qtTrId(reasonKey(failure.code));
-    return failure.detail.isEmpty() ? reason : reason + u" ("_s + failure.detail + u')';
+    return failure.detail.isEmpty() ? reason : reason + u" ("_s + failure.detail.words() + u')';
 }
 
 QStringList failureLines(const std::vector<Failure> &failures, const QString &folder)

@@ -72,7 +72,7 @@ public:
     {
         Complaint complaint = complaintOf(failure);
         if (failure.code == FailureCode::InvalidValue || failure.code == FailureCode::MissingContent) {
-            complaint.message = failure.detail;
+            complaint.message = failure.detail.words();
             complaint.advice = commandText("CLI_DOWNSCALE_SOURCES_ADVICE");
         }
         m_console.complain(complaint);

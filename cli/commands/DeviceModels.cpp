@@ -345,7 +345,7 @@ ExitStatus printDeviceModels(Console &console, const DeviceModelsRequest &reques
     const Result<ModelList> list = readModelList(bytes.value(), request.dataFile);
     if (!list) {
         Complaint complaint = complaintOf(list.failure(), commandText("CLI_DEVICES_DATA_ADVICE"));
-        complaint.message = list.failure().detail;
+        complaint.message = list.failure().detail.words();
         console.complain(complaint);
         return console.finish(ExitStatus::Refused);
     }

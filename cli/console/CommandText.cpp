@@ -10,26 +10,7 @@ namespace lumora
 
 QString commandText(const char *key, std::initializer_list<TextValue> values)
 {
-    const QString text = qtTrId(key);
-    QString filled;
-    qsizetype from = 0;
-    while (from < text.size()) {
-        qsizetype next = text.size();
-        const TextValue *found = nullptr;
-        for (const TextValue &value : values) {
-            const qsizetype at = text.indexOf(QLatin1StringView(value.first), from);
-            if (at >= 0 && at < next) {
-                next = at;
-                found = &value;
-            }
-        }
-        filled += QStringView(text).sliced(from, next - from);
-        if (found == nullptr)
-            break;
-        filled += found->second;
-        from = next + QLatin1StringView(found->first).size();
-    }
-    return filled;
+    return filledText(qtTrId(key), std::span(values.begin(), values.size()));
 }
 
 QString alternatives(const QStringList &words)

@@ -1,17 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "foundation/FilledText.h"
+
 #include <QString>
 #include <QStringList>
 
 #include <initializer_list>
-#include <utility>
 
 namespace lumora
 {
-
-/// A bracketed name in a text, such as "[FILE]", and its replacement.
-using TextValue = std::pair<const char *, QString>;
 
 /// The text of a key in the user's language, with its bracketed names replaced. Names inside a replacement stay.
 QString commandText(const char *key, std::initializer_list<TextValue> values = {});

@@ -82,7 +82,7 @@ Complaint complaintOf(const Failure &failure, const QString &advice)
     const Wording &wording = wordingOf(failure);
     QString message = commandText(wording.reason);
     if (!failure.detail.isEmpty())
-        message += u" ("_s + failure.detail + u')';
+        message += u" ("_s + failure.detail.words() + u')';
     return {Complaint::Kind::Failure, QString::fromLatin1(wording.word), failure.subject, message, advice};
 }
 

@@ -39,7 +39,7 @@ Result<ComparedPackage> compared(const QString &file, const RuleSettings &settin
     if (const std::optional<Failure> &failure = package.contents.reading.failure)
         return Failure{failure->code, file, failure->detail};
     if (package.contents.app() == nullptr)
-        return Failure{FailureCode::MissingContent, file, u"no app in its Payload folder"_s};
+        return Failure{FailureCode::MissingContent, file, "DETAIL_NO_APP"};
     package.findings = findingsIn(package.contents, settings);
     return package;
 }

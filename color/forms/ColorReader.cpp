@@ -50,7 +50,7 @@ Result<ColorReading> readColor(const QString &text)
         if (reading)
             return *reading;
     }
-    return Failure{FailureCode::InvalidValue, text, u"no color in any form that is known"_s};
+    return Failure{FailureCode::InvalidValue, text, "DETAIL_UNKNOWN_COLOR_FORM"};
 }
 
 } // namespace lumora

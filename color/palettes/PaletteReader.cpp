@@ -17,7 +17,7 @@ namespace lumora
 namespace
 {
 
-Failure refused(const QString &name, const QString &detail)
+Failure refused(const QString &name, const FailureDetail &detail)
 {
     return {FailureCode::NotReadable, name, detail};
 }
@@ -26,10 +26,11 @@ Failure refused(const QString &name, const QString &detail)
 Outcome add(Palette &palette, const QString &color, const QString &value, const QString &file)
 {
     if (palette.size() == mostPaletteColors)
-        return Failure{FailureCode::TooLarge, file, u"more than %1 colors"_s.arg(mostPaletteColors)};
+        return Failure{
+            FailureCode::TooLarge, file, {"DETAIL_MORE_COLORS", {{"[COUNT]", QString::number(mostPaletteColors)}}}};
     const Result<ColorReading> reading = readColor(value);
     if (!reading)
-        return refused(file, u"%1: %2 is no color that is known"_s.arg(color, value.left(60)));
+        return refused(file, {"DETAIL_UNKNOWN_COLOR", {{"[NAME]", color}, {"[COLOR]", value.left(60)}}});
     palette.push_back({color, reading.value().color});
     return Done{};
 }
@@ -47,7 +48,7 @@ Result<Palette> readGpl(const QString &text, const QString &name)
         const auto match = row.match(line);
         const QString place = u"line %1"_s.arg(index + 1);
         if (!match.hasMatch())
-            return refused(name, place);
+            return refused(name, {"DETAIL_LINE", {{"[LINE]", QString::number(index + 1)}}});
         const QString value = u"rgb(%1 %2 %3)"_s.arg(match.captured(1), match.captured(2), match.captured(3));
         const QString color = match.captured(4).trimmed();
         if (const Outcome added = add(palette, color.isEmpty() ? place : color, value, name); !added)
@@ -74,7 +75,7 @@ Result<Palette> readColorSetPalette(const QByteArray &content, const QString &na
 {
     const auto entries = readColorSet(content);
     if (!entries)
-        return refused(name, u"a color set with a color that is not known"_s);
+        return refused(name, "DETAIL_UNKNOWN_COLOR_SET");
     Palette palette;
     for (const ColorSetEntry &entry : *entries) {
         if (palette.size() == mostPaletteColors)
@@ -124,7 +125,7 @@ Result<Palette> readPalette(const QByteArray &content, const QString &name)
         return Failure{FailureCode::TooLarge, name, {}};
     Result<Palette> palette = readAny(content, name);
     if (palette && palette.value().empty())
-        return Failure{FailureCode::MissingContent, name, u"no color in it"_s};
+        return Failure{FailureCode::MissingContent, name, "DETAIL_NO_COLOR"};
     return palette;
 }
 

@@ -74,7 +74,7 @@ int main(int argc, char **argv)
         return refuse(source + u": cannot be read"_s);
     const Result<ModelList> list = readModelList(bytes.value(), source);
     if (!list)
-        return refuse(source + u": "_s + list.failure().detail);
+        return refuse(source + u": "_s + list.failure().detail.words());
     if (!areNewestFirst(list.value().models()))
         return refuse(source + u": a family's models are not together, or an older one stands before a newer"_s);
     QString rows;

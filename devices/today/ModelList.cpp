@@ -31,8 +31,15 @@ QString text(std::string_view view)
     return QString::fromUtf8(view.data(), static_cast<qsizetype>(view.size()));
 }
 
+/// The key of a text on a wrong line, and the values in it besides the line's number.
+struct Fault
+{
+    const char *key;
+    FailureDetail::Values values;
+};
+
 /// The fault of a line, if it has one.
-using Complaint = std::optional<QString>;
+using Complaint = std::optional<Fault>;
 
 /// Removes the next field from the line. Quotation marks are only allowed around a whole field.
 std::optional<std::string_view> nextField(std::string_view &rest)
@@ -58,13 +65,13 @@ Complaint split(std::string_view line, Fields &fields)
     for (std::size_t index = 0; index < columnCount; ++index) {
         const std::optional<std::string_view> field = nextField(line);
         if (!field)
-            return u"quotation marks do not match"_s;
+            return Fault{"DETAIL_QUOTATION_MARKS", {}};
         if (field->size() > longestField)
-            return u"a field of more than %1 characters"_s.arg(longestField);
+            return Fault{"DETAIL_LONG_FIELD", {{"[COUNT]", QString::number(longestField)}}};
         fields[index] = *field;
         const bool last = index + 1 == columnCount;
         if (last != line.empty())
-            return u"%1 columns are wanted"_s.arg(columnCount);
+            return Fault{"DETAIL_COLUMNS", {{"[COUNT]", QString::number(columnCount)}}};
         if (!last)
             line.remove_prefix(1);
     }
@@ -83,7 +90,7 @@ public:
     {
         const std::string_view field = next();
         if (field.empty())
-            complain(u"is empty"_s);
+            complain("DETAIL_FIELD_EMPTY");
         return field;
     }
 
@@ -94,7 +101,7 @@ public:
         int value = 0;
         const auto [end, error] = std::from_chars(field.data(), field.data() + field.size(), value);
         if (!field.empty() && (error != std::errc() || end != field.data() + field.size() || value < 1 || value > most))
-            complain(u"is no number from 1 to %1"_s.arg(most));
+            complain("DETAIL_FIELD_NUMBER", {{"[MOST]", QString::number(most)}});
         return value;
     }
 
@@ -104,7 +111,7 @@ public:
         bool ok = true;
         const double value = field.empty() ? 0.0 : text(field).toDouble(&ok);
         if (!ok || (!field.empty() && !(value >= 1.0 && value <= 100.0)))
-            complain(u"is no number of inches from 1 to 100"_s);
+            complain("DETAIL_FIELD_INCHES");
         return value;
     }
 
@@ -112,7 +119,7 @@ public:
     {
         const std::optional<OsVersion> version = osVersion(text(next()));
         if (!version)
-            complain(u"is no version such as 12.5.8"_s);
+            complain("DETAIL_FIELD_VERSION");
         return version.value_or(OsVersion{});
     }
 
@@ -122,7 +129,7 @@ public:
         const QString date = text(field);
         const QDate day = QDate::fromString(date.size() == 7 ? QString(date + u"-01"_s) : date, Qt::ISODate);
         if (!day.isValid() || (date.size() != 7 && date.size() != 10))
-            complain(u"is no date such as 2022-09-16 or 2010-09"_s);
+            complain("DETAIL_FIELD_DATE");
         return field;
     }
 
@@ -134,7 +141,7 @@ public:
                 return one;
         }
         if (!field.empty())
-            complain(u"is none of none, touchid, faceid"_s);
+            complain("DETAIL_FIELD_BIOMETRY");
         return Biometry::Unknown;
     }
 
@@ -142,7 +149,7 @@ public:
     {
         const std::string_view field = next();
         if (!field.empty() && field != "0" && field != "1")
-            complain(u"is neither 0 nor 1 nor empty"_s);
+            complain("DETAIL_FIELD_HAVING");
         return field.empty() ? Having::Unknown : field == "1" ? Having::Yes : Having::No;
     }
 
@@ -150,18 +157,19 @@ public:
     {
         const Having value = having();
         if (value == Having::Unknown)
-            complain(u"is neither 0 nor 1"_s);
+            complain("DETAIL_FIELD_FLAG");
         return value == Having::Yes;
     }
 
 private:
     std::string_view next() { return m_fields[m_column++]; }
 
-    void complain(const QString &what)
+    void complain(const char *key, FailureDetail::Values values = {})
     {
-        const QString column = text(header).split(u',')[static_cast<qsizetype>(m_column) - 1];
-        if (!m_complaint)
-            m_complaint = QString(column + u' ' + what);
+        if (m_complaint)
+            return;
+        values.emplace_back("[COLUMN]", text(header).split(u',')[static_cast<qsizetype>(m_column) - 1]);
+        m_complaint = Fault{key, std::move(values)};
     }
 
     const Fields &m_fields;
@@ -173,18 +181,18 @@ Complaint contradiction(const DeviceModel &model)
 {
     const std::string_view id = model.identifier;
     if (!id.starts_with("iPhone") && !id.starts_with("iPad") && !id.starts_with("iPod"))
-        return u"identifier is of no iPhone, iPad or iPod"_s;
+        return Fault{"DETAIL_FOREIGN_MODEL", {}};
     if (comparedVersions(model.minOs, model.maxOs) > 0)
-        return u"maxOS comes before minOS"_s;
+        return Fault{"DETAIL_VERSION_ORDER", {}};
     const std::array sizes = {model.widthPixels,  model.heightPixels, model.scale,        model.renderWidth,
                               model.renderHeight, model.widthPoints,  model.heightPoints, model.pixelsPerInch};
     const auto given = std::ranges::count_if(sizes, [](int size) { return size > 0; });
     if (given != 0 && given != static_cast<std::ptrdiff_t>(sizes.size()))
-        return u"the screen's sizes are given in part"_s;
+        return Fault{"DETAIL_PART_OF_SCREEN", {}};
     if (model.renderWidth != model.widthPoints * model.scale || model.renderHeight != model.heightPoints * model.scale)
-        return u"render_width_px x render_height_px is not width_pt x height_pt times scale"_s;
+        return Fault{"DETAIL_RENDER_SIZE", {}};
     if (model.widthPixels > model.heightPixels)
-        return u"width_px x height_px is not in portrait"_s;
+        return Fault{"DETAIL_NOT_PORTRAIT", {}};
     return std::nullopt;
 }
 
@@ -242,11 +250,12 @@ std::string_view withoutReturn(std::string_view line)
 Result<ModelList> readModelList(const QByteArray &bytes, const QString &name)
 {
     if (bytes.size() > largestModelFile)
-        return Failure{FailureCode::TooLarge, name, u"more than 1 MiB"_s};
+        return Failure{FailureCode::TooLarge, name, "DETAIL_MORE_THAN_MEBIBYTE"};
     if (!isPlainText(bytes))
-        return Failure{FailureCode::NotReadable, name, u"not UTF-8 text"_s};
-    const auto refused = [&name](int line, const QString &what) {
-        return Failure{FailureCode::NotReadable, name, u"line %1: %2"_s.arg(line).arg(what)};
+        return Failure{FailureCode::NotReadable, name, "DETAIL_NOT_UTF8"};
+    const auto refused = [&name](int line, Fault fault) {
+        fault.values.emplace_back("[LINE]", QString::number(line));
+        return Failure{FailureCode::NotReadable, name, {fault.key, std::move(fault.values)}};
     };
     std::vector<DeviceModel> models;
     QHash<QByteArrayView, int> lineOf;
@@ -262,7 +271,7 @@ Result<ModelList> readModelList(const QByteArray &bytes, const QString &name)
             continue;
         if (!headed) {
             if (line != header)
-                return refused(number, u"the header is wanted: %1"_s.arg(text(header)));
+                return refused(number, Fault{"DETAIL_HEADER", {{"[HEADER]", text(header)}}});
             headed = true;
             continue;
         }
@@ -271,14 +280,16 @@ Result<ModelList> readModelList(const QByteArray &bytes, const QString &name)
             return refused(number, *complaint);
         const QByteArrayView identifier(model.identifier.data(), static_cast<qsizetype>(model.identifier.size()));
         if (const int first = lineOf.value(identifier); first > 0)
-            return refused(number, u"%1 stands in line %2 already"_s.arg(text(model.identifier)).arg(first));
+            return refused(number, Fault{"DETAIL_MODEL_TWICE",
+                                         {{"[MODEL]", text(model.identifier)}, {"[FIRST]", QString::number(first)}}});
         if (models.size() == mostModels)
-            return Failure{FailureCode::TooLarge, name, u"more than %1 models"_s.arg(mostModels)};
+            return Failure{
+                FailureCode::TooLarge, name, {"DETAIL_MORE_MODELS", {{"[COUNT]", QString::number(mostModels)}}}};
         lineOf.insert(identifier, number);
         models.push_back(model);
     }
     if (models.empty())
-        return Failure{FailureCode::MissingContent, name, u"no model in it"_s};
+        return Failure{FailureCode::MissingContent, name, "DETAIL_NO_MODEL"};
     return ModelList(bytes, std::move(models));
 }
 

@@ -64,7 +64,7 @@ Result<QImage> decodeApplePng(QByteArrayView bytes, const QString &name, qint64 
         return damaged;
     const QSize size = header->size;
     if (qint64{size.width()} * size.height() > largestArea)
-        return Failure{FailureCode::TooLarge, name, pixelsText(size)};
+        return Failure{FailureCode::TooLarge, name, pixelsDetail(size)};
     QImage picture(size, QImage::Format_RGBA8888_Premultiplied);
     if (picture.isNull())
         return damaged;

@@ -155,8 +155,8 @@ Result<DecodedPng> decodePng(const QByteArray &file, const QString &name)
     const auto chunk = earlyPngChunk(file, "cICP");
     const auto points = chunk ? codePoints(*chunk) : std::nullopt;
     if (points && isHighDynamicRange(*points))
-        return Failure{FailureCode::HighDynamicRange, name, u"PQ or HLG"_s};
-    const Failure damaged{FailureCode::NotAPicture, name, u"damaged"_s};
+        return Failure{FailureCode::HighDynamicRange, name, "DETAIL_PQ_OR_HLG"};
+    const Failure damaged{FailureCode::NotAPicture, name, "DETAIL_DAMAGED"};
     Decoding decoding(file);
     if (!decoding.readHeader())
         return damaged;

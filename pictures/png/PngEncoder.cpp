@@ -21,7 +21,7 @@ namespace
 
 Failure emptyPicture(const QString &name)
 {
-    return {FailureCode::InvalidValue, name, u"the picture is empty"_s};
+    return {FailureCode::InvalidValue, name, "DETAIL_EMPTY_PICTURE"};
 }
 
 /// Gives the work the picture's rows.

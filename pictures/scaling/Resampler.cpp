@@ -48,7 +48,7 @@ QImage ready(QImage picture)
 Result<std::unique_ptr<ColorPlanes>> planesOfSource(const QImage &source, const QString &name)
 {
     if (source.isNull())
-        return Failure{FailureCode::InvalidValue, name, u"the picture is empty"_s};
+        return Failure{FailureCode::InvalidValue, name, "DETAIL_EMPTY_PICTURE"};
     return withinMemory(name, [&]() -> Result<std::unique_ptr<ColorPlanes>> {
         const QImage picture = ready(source);
         // A conversion without memory leaves nothing.
@@ -101,7 +101,7 @@ Result<QImage> Resampler::scaledTo(QSize size) const
     if (!m_planes)
         return m_planes.failure();
     if (size.isEmpty())
-        return Failure{FailureCode::InvalidValue, m_name, pixelsText(size)};
+        return Failure{FailureCode::InvalidValue, m_name, pixelsDetail(size)};
     return withinMemory(m_name, [&] { return pictureOf(size); });
 }
 

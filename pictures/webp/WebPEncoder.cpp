@@ -58,7 +58,7 @@ Result<QByteArray> encodeWebP(const QImage &picture, const WebPOptions &options,
     if (picture.isNull() || (options.quality && (*options.quality < 0 || *options.quality > 100)))
         return Failure{FailureCode::InvalidValue, name, {}};
     if (picture.width() > longestWebPEdge || picture.height() > longestWebPEdge)
-        return Failure{FailureCode::TooLarge, name, pixelsText(picture.size())};
+        return Failure{FailureCode::TooLarge, name, pixelsDetail(picture.size())};
     const QImage straight = picture.convertToFormat(QImage::Format_RGBA8888);
     const WebPConfig config = configFor(options);
     Encoding encoding;
@@ -69,7 +69,9 @@ Result<QByteArray> encodeWebP(const QImage &picture, const WebPOptions &options,
                                                static_cast<int>(straight.bytesPerLine())) != 0 &&
                          WebPEncode(&config, &encoding.picture) != 0;
     if (!encoded)
-        return Failure{FailureCode::TooLarge, name, u"WebP error %1"_s.arg(encoding.picture.error_code)};
+        return Failure{FailureCode::TooLarge,
+                       name,
+                       {"DETAIL_WEBP_ERROR", {{"[NUMBER]", QString::number(encoding.picture.error_code)}}}};
     return QByteArray(reinterpret_cast<const char *>(encoding.writer.mem),
                       static_cast<qsizetype>(encoding.writer.size));
 }

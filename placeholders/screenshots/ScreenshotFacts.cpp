@@ -96,7 +96,9 @@ Result<std::vector<ScreenshotFacts>> readScreenshots(const QString &folder)
         if (hidden || parts.size() > deepestFolder || !isPictureName(relative))
             continue;
         if (static_cast<std::size_t>(paths.size()) == mostScreenshots)
-            return Failure{FailureCode::TooLarge, folder, u"more than %1 pictures"_s.arg(mostScreenshots)};
+            return Failure{FailureCode::TooLarge,
+                           folder,
+                           {"DETAIL_MORE_PICTURES", {{"[COUNT]", QString::number(mostScreenshots)}}}};
         paths << relative;
     }
     paths.sort();

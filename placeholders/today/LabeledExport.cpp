@@ -45,7 +45,7 @@ Result<QByteArray> encoded(const LabeledPicture &picture, const LabeledOptions &
     }
     // The format's writer needs the whole picture.
     if (qint64{pixels.width()} * pixels.height() > largestPictureArea)
-        return Failure{FailureCode::TooLarge, path, pixelsText(pixels)};
+        return Failure{FailureCode::TooLarge, path, pixelsDetail(pixels)};
     const QImage whole = picture.toImage();
     return whole.isNull() ? outOfMemory(path) : encodeWebP(whole, {options.webpQuality}, path);
 }

@@ -28,7 +28,8 @@ Result<std::vector<ListedSize>> sizesFromList(const QString &text)
         if (std::ranges::find(sizes, listed) != sizes.end())
             continue;
         if (sizes.size() == mostListedSizes)
-            return Failure{FailureCode::TooLarge, part, u"more than %1 sizes"_s.arg(mostListedSizes)};
+            return Failure{
+                FailureCode::TooLarge, part, {"DETAIL_MORE_SIZES", {{"[COUNT]", QString::number(mostListedSizes)}}}};
         sizes.push_back(listed);
     }
     if (sizes.empty())

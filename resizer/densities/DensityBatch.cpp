@@ -49,7 +49,7 @@ Outcome write(const QString &path, const QByteArray &bytes, ExistingFiles existi
     const QFileInfo file(path);
     const bool taken = file.exists() || file.isSymLink();
     if (taken && existing == ExistingFiles::Keep)
-        return Failure{FailureCode::CannotWrite, path, u"a file of that name has come meanwhile"_s};
+        return Failure{FailureCode::CannotWrite, path, "DETAIL_CAME_MEANWHILE"};
     if (!QDir().mkpath(file.path()))
         return Failure{FailureCode::CannotCreateFolder, file.path(), {}};
     return writeWholeFile(path, bytes);
@@ -92,7 +92,7 @@ private:
         // The orientation may swap the sides that the header gives; any other size means that the file has changed
         // since.
         if (size != m_source.size && size != m_source.size.transposed())
-            return Failure{FailureCode::WrongSize, m_source.source, u"it has changed since it was looked at"_s};
+            return Failure{FailureCode::WrongSize, m_source.source, "DETAIL_CHANGED_SINCE"};
         const Resampler resampler(picture.value(), m_source.source);
         auto file = files.begin();
         for (const PlannedPicture &planned : m_source.pictures) {

@@ -133,7 +133,7 @@ public:
     void add(const FoundPicture &picture)
     {
         if (picture.path.endsWith(".9.png"_L1)) {
-            m_plan.failures.push_back({FailureCode::InvalidValue, picture.path, u"a nine-patch picture"_s});
+            m_plan.failures.push_back({FailureCode::InvalidValue, picture.path, "DETAIL_NINE_PATCH"});
             return;
         }
         const Result<QSize> size = storedPixelSize(picture.path);
@@ -173,7 +173,7 @@ private:
         }
         if (const QString other = m_targets.value(identity); !other.isEmpty()) {
             m_plan.failures.push_back(
-                {FailureCode::InvalidValue, source.source, u"%1 gives the same file"_s.arg(other)});
+                {FailureCode::InvalidValue, source.source, {"DETAIL_SAME_FILE", {{"[FILE]", other}}}});
             return;
         }
         m_targets.insert(identity, source.source);
@@ -206,7 +206,7 @@ DensityPlan planDensities(const QString &folder, const DensityRequest &request)
     for (const FoundPicture &picture : sources)
         planner.add(picture);
     if (sources.empty() && plan.failures.empty())
-        plan.failures.push_back({FailureCode::MissingContent, folder, u"no picture to scale down from"_s});
+        plan.failures.push_back({FailureCode::MissingContent, folder, "DETAIL_NO_SCALABLE"});
     return plan;
 }
 

@@ -1860,7 +1860,7 @@
   </message>
   <message id="CLI_NOT_A_DATE">
     <source>[DATE] is no date; write it as in 2027-04-30</source>
-    <translation>[DATE] ist kein Datum; schreiben Sie es wie 2027-04-30</translation>
+    <translation>[DATE] ist kein Datum; so schreiben wie 2027-04-30</translation>
   </message>
   <message id="CLI_VALIDATE_STATUS">
     <source>Ends with 0 when nothing is found that counts, 1 when something is, 3 when a file is no archive with an app.</source>
@@ -2308,7 +2308,7 @@
   </message>
   <message id="CLI_COLOR_NO_FORM_ADVICE">
     <source>write it as code would, such as #336699, rgb(51 102 153) or Color(0xFF336699), or as a CSS name</source>
-    <translation>schreiben Sie sie wie im Code, etwa #336699, rgb(51 102 153) oder Color(0xFF336699), oder als CSS-Name</translation>
+    <translation>wie im Code schreiben, etwa #336699, rgb(51 102 153) oder Color(0xFF336699), oder als CSS-Name</translation>
   </message>
   <message id="CLI_COLOR_CLIPPED">
     <source>[COLOR] is beyond sRGB; its sRGB forms are the nearest by component</source>
@@ -2368,7 +2368,7 @@
   </message>
   <message id="CLI_DEVICES_IOS_TODAY">
     <source>add --today, which knows all versions</source>
-    <translation>fügen Sie --today hinzu, das alle Versionen kennt</translation>
+    <translation>--today dazusetzen, das alle Versionen kennt</translation>
   </message>
   <message id="CLI_DEVICES_NO_MODEL">
     <source>is no model in the list</source>
@@ -2376,11 +2376,11 @@
   </message>
   <message id="CLI_DEVICES_NO_MODEL_ADVICE">
     <source>name it as in lumora devices --today, or by identifier such as iPhone15,2</source>
-    <translation>nennen Sie es wie in lumora devices --today oder mit der Kennung wie iPhone15,2</translation>
+    <translation>so nennen wie in lumora devices --today oder mit der Kennung wie iPhone15,2</translation>
   </message>
   <message id="CLI_DEVICES_DATA_ADVICE">
     <source>mend the list</source>
-    <translation>bringen Sie die Liste in Ordnung</translation>
+    <translation>die Liste in Ordnung bringen</translation>
   </message>
   <message id="CLI_PLACEHOLDERS_TEXT">
     <source>What the pictures say; {size}, {width} and {height} are filled in, \n begins a line</source>
@@ -2440,7 +2440,7 @@
   </message>
   <message id="CLI_DOWNSCALE_NO_SCALE">
     <source>is no density; give 1x, 1.5x, 2x, 3x, 4x or a name such as xxhdpi</source>
-    <translation>ist keine Auflösung; geben Sie 1x, 1.5x, 2x, 3x, 4x oder einen Namen wie xxhdpi an</translation>
+    <translation>ist keine Auflösung; 1x, 1.5x, 2x, 3x, 4x oder einen Namen wie xxhdpi angeben</translation>
   </message>
   <message id="CLI_DOWNSCALE_NOT_BELOW">
     <source>[SCALE] is not below [FROM]</source>
@@ -2452,7 +2452,223 @@
   </message>
   <message id="CLI_DOWNSCALE_SOURCES_ADVICE">
     <source>use folders of PNG or WebP files that state their density, such as logo@3x.png</source>
-    <translation>nehmen Sie Ordner mit PNG- oder WebP-Dateien, die ihre Auflösung nennen, etwa logo@3x.png</translation>
+    <translation>Ordner mit PNG- oder WebP-Dateien nehmen, die ihre Auflösung nennen, etwa logo@3x.png</translation>
+  </message>
+  <message id="DETAIL_DAMAGED">
+    <source>damaged</source>
+    <translation>beschädigt</translation>
+  </message>
+  <message id="DETAIL_PQ_OR_HLG">
+    <source>PQ or HLG</source>
+    <translation>PQ oder HLG</translation>
+  </message>
+  <message id="DETAIL_ENTRIES">
+    <source>[COUNT] entries</source>
+    <translation>[COUNT] Einträge</translation>
+  </message>
+  <message id="DETAIL_MORE_FILES">
+    <source>more than [COUNT] files and folders</source>
+    <translation>mehr als [COUNT] Dateien und Ordner</translation>
+  </message>
+  <message id="DETAIL_ENTRY_UNOPENED">
+    <source>entry [NUMBER] cannot be opened</source>
+    <translation>Eintrag [NUMBER] lässt sich nicht öffnen</translation>
+  </message>
+  <message id="DETAIL_ENTRY_UNDESCRIBED">
+    <source>entry [NUMBER] has no readable description</source>
+    <translation>Eintrag [NUMBER] hat keine lesbare Beschreibung</translation>
+  </message>
+  <message id="DETAIL_NO_ORDINARY_FILE">
+    <source>no ordinary file</source>
+    <translation>keine gewöhnliche Datei</translation>
+  </message>
+  <message id="DETAIL_MORE_UNPACKED">
+    <source>more than [SIZE] MB unpacked</source>
+    <translation>entpackt mehr als [SIZE] MB</translation>
+  </message>
+  <message id="DETAIL_DISK_NEARLY_FULL">
+    <source>the disk is nearly full</source>
+    <translation>die Platte ist fast voll</translation>
+  </message>
+  <message id="DETAIL_PACKAGE_NAME">
+    <source>the name does not end in .ipa, .app or .xcarchive</source>
+    <translation>der Name endet nicht auf .ipa, .app oder .xcarchive</translation>
+  </message>
+  <message id="DETAIL_NO_APP">
+    <source>no app in its Payload folder</source>
+    <translation>keine App im Ordner Payload</translation>
+  </message>
+  <message id="DETAIL_NO_REGULAR_FILE">
+    <source>not a regular file</source>
+    <translation>keine gewöhnliche Datei</translation>
+  </message>
+  <message id="DETAIL_NO_MEMORY">
+    <source>not enough memory</source>
+    <translation>der Speicher reicht nicht</translation>
+  </message>
+  <message id="DETAIL_UNKNOWN_COLOR_FORM">
+    <source>no color in any form that is known</source>
+    <translation>keine Farbe in einer bekannten Form</translation>
+  </message>
+  <message id="DETAIL_EMPTY_PICTURE">
+    <source>the picture is empty</source>
+    <translation>das Bild ist leer</translation>
+  </message>
+  <message id="DETAIL_WEBP_ERROR">
+    <source>WebP error [NUMBER]</source>
+    <translation>WebP-Fehler [NUMBER]</translation>
+  </message>
+  <message id="DETAIL_MORE_PICTURES">
+    <source>more than [COUNT] pictures</source>
+    <translation>mehr als [COUNT] Bilder</translation>
+  </message>
+  <message id="DETAIL_MORE_SIZES">
+    <source>more than [COUNT] sizes</source>
+    <translation>mehr als [COUNT] Größen</translation>
+  </message>
+  <message id="DETAIL_CAME_MEANWHILE">
+    <source>a file of that name has come meanwhile</source>
+    <translation>inzwischen gibt es eine Datei dieses Namens</translation>
+  </message>
+  <message id="DETAIL_CHANGED_SINCE">
+    <source>it has changed since it was looked at</source>
+    <translation>seit dem ersten Lesen geändert</translation>
+  </message>
+  <message id="DETAIL_NINE_PATCH">
+    <source>a nine-patch picture</source>
+    <translation>ein Nine-Patch-Bild</translation>
+  </message>
+  <message id="DETAIL_SAME_FILE">
+    <source>[FILE] gives the same file</source>
+    <translation>[FILE] ergibt dieselbe Datei</translation>
+  </message>
+  <message id="DETAIL_NO_SCALABLE">
+    <source>no picture to scale down from</source>
+    <translation>kein Bild, das sich verkleinern lässt</translation>
+  </message>
+  <message id="DETAIL_MADE_NONE">
+    <source>[PROGRAM] made none</source>
+    <translation>[PROGRAM] hat keine geschrieben</translation>
+  </message>
+  <message id="DETAIL_IS_MISSING">
+    <source>[FILE] is missing</source>
+    <translation>[FILE] fehlt</translation>
+  </message>
+  <message id="DETAIL_NO_FILE_TYPE">
+    <source>no such file type</source>
+    <translation>kein solches Dateiformat</translation>
+  </message>
+  <message id="DETAIL_PIXELS">
+    <source>[WIDTH] x [HEIGHT] pixels</source>
+    <translation>[WIDTH] x [HEIGHT] Pixel</translation>
+  </message>
+  <message id="DETAIL_MORE_COLORS">
+    <source>more than [COUNT] colors</source>
+    <translation>mehr als [COUNT] Farben</translation>
+  </message>
+  <message id="DETAIL_UNKNOWN_COLOR">
+    <source>[NAME]: [COLOR] is no color that is known</source>
+    <translation>[NAME]: [COLOR] ist keine bekannte Farbe</translation>
+  </message>
+  <message id="DETAIL_LINE">
+    <source>line [LINE]</source>
+    <translation>Zeile [LINE]</translation>
+  </message>
+  <message id="DETAIL_UNKNOWN_COLOR_SET">
+    <source>a color set with a color that is not known</source>
+    <translation>ein Farbsatz mit einer unbekannten Farbe</translation>
+  </message>
+  <message id="DETAIL_NO_COLOR">
+    <source>no color in it</source>
+    <translation>keine Farbe darin</translation>
+  </message>
+  <message id="DETAIL_QUOTATION_MARKS">
+    <source>line [LINE]: quotation marks do not match</source>
+    <translation>Zeile [LINE]: die Anführungszeichen passen nicht zusammen</translation>
+  </message>
+  <message id="DETAIL_LONG_FIELD">
+    <source>line [LINE]: a field of more than [COUNT] characters</source>
+    <translation>Zeile [LINE]: ein Feld mit mehr als [COUNT] Zeichen</translation>
+  </message>
+  <message id="DETAIL_COLUMNS">
+    <source>line [LINE]: [COUNT] columns are wanted</source>
+    <translation>Zeile [LINE]: verlangt sind [COUNT] Spalten</translation>
+  </message>
+  <message id="DETAIL_FIELD_EMPTY">
+    <source>line [LINE]: [COLUMN] is empty</source>
+    <translation>Zeile [LINE]: [COLUMN] ist leer</translation>
+  </message>
+  <message id="DETAIL_FIELD_NUMBER">
+    <source>line [LINE]: [COLUMN] is no number from 1 to [MOST]</source>
+    <translation>Zeile [LINE]: [COLUMN] ist keine Zahl von 1 bis [MOST]</translation>
+  </message>
+  <message id="DETAIL_FIELD_INCHES">
+    <source>line [LINE]: [COLUMN] is no number of inches from 1 to 100</source>
+    <translation>Zeile [LINE]: [COLUMN] ist keine Zahl von 1 bis 100 Zoll</translation>
+  </message>
+  <message id="DETAIL_FIELD_VERSION">
+    <source>line [LINE]: [COLUMN] is no version such as 12.5.8</source>
+    <translation>Zeile [LINE]: [COLUMN] ist keine Version wie 12.5.8</translation>
+  </message>
+  <message id="DETAIL_FIELD_DATE">
+    <source>line [LINE]: [COLUMN] is no date such as 2022-09-16 or 2010-09</source>
+    <translation>Zeile [LINE]: [COLUMN] ist kein Datum wie 2022-09-16 oder 2010-09</translation>
+  </message>
+  <message id="DETAIL_FIELD_BIOMETRY">
+    <source>line [LINE]: [COLUMN] is none of none, touchid, faceid</source>
+    <translation>Zeile [LINE]: [COLUMN] ist weder none noch touchid noch faceid</translation>
+  </message>
+  <message id="DETAIL_FIELD_HAVING">
+    <source>line [LINE]: [COLUMN] is neither 0 nor 1 nor empty</source>
+    <translation>Zeile [LINE]: [COLUMN] ist weder 0 noch 1 noch leer</translation>
+  </message>
+  <message id="DETAIL_FIELD_FLAG">
+    <source>line [LINE]: [COLUMN] is neither 0 nor 1</source>
+    <translation>Zeile [LINE]: [COLUMN] ist weder 0 noch 1</translation>
+  </message>
+  <message id="DETAIL_FOREIGN_MODEL">
+    <source>line [LINE]: identifier is of no iPhone, iPad or iPod</source>
+    <translation>Zeile [LINE]: identifier gehört zu keinem iPhone, iPad oder iPod</translation>
+  </message>
+  <message id="DETAIL_VERSION_ORDER">
+    <source>line [LINE]: maxOS comes before minOS</source>
+    <translation>Zeile [LINE]: maxOS liegt vor minOS</translation>
+  </message>
+  <message id="DETAIL_PART_OF_SCREEN">
+    <source>line [LINE]: the screen's sizes are given in part</source>
+    <translation>Zeile [LINE]: die Maße des Bildschirms sind unvollständig</translation>
+  </message>
+  <message id="DETAIL_RENDER_SIZE">
+    <source>line [LINE]: render_width_px x render_height_px is not width_pt x height_pt times scale</source>
+    <translation>Zeile [LINE]: render_width_px x render_height_px ist nicht width_pt x height_pt mal scale</translation>
+  </message>
+  <message id="DETAIL_NOT_PORTRAIT">
+    <source>line [LINE]: width_px x height_px is not in portrait</source>
+    <translation>Zeile [LINE]: width_px x height_px ist nicht hochkant</translation>
+  </message>
+  <message id="DETAIL_MORE_THAN_MEBIBYTE">
+    <source>more than 1 MiB</source>
+    <translation>mehr als 1 MiB</translation>
+  </message>
+  <message id="DETAIL_NOT_UTF8">
+    <source>not UTF-8 text</source>
+    <translation>kein UTF-8-Text</translation>
+  </message>
+  <message id="DETAIL_HEADER">
+    <source>line [LINE]: the header is wanted: [HEADER]</source>
+    <translation>Zeile [LINE]: verlangt ist die Kopfzeile: [HEADER]</translation>
+  </message>
+  <message id="DETAIL_MODEL_TWICE">
+    <source>line [LINE]: [MODEL] stands in line [FIRST] already</source>
+    <translation>Zeile [LINE]: [MODEL] steht schon in Zeile [FIRST]</translation>
+  </message>
+  <message id="DETAIL_MORE_MODELS">
+    <source>more than [COUNT] models</source>
+    <translation>mehr als [COUNT] Modelle</translation>
+  </message>
+  <message id="DETAIL_NO_MODEL">
+    <source>no model in it</source>
+    <translation>kein Modell darin</translation>
   </message>
 </context>
 </TS>

@@ -2452,5 +2452,221 @@
     <source>use folders of PNG or WebP files that state their density, such as logo@3x.png</source>
     <translation>use folders of PNG or WebP files that state their density, such as logo@3x.png</translation>
   </message>
+  <message id="DETAIL_DAMAGED">
+    <source>damaged</source>
+    <translation>damaged</translation>
+  </message>
+  <message id="DETAIL_PQ_OR_HLG">
+    <source>PQ or HLG</source>
+    <translation>PQ or HLG</translation>
+  </message>
+  <message id="DETAIL_ENTRIES">
+    <source>[COUNT] entries</source>
+    <translation>[COUNT] entries</translation>
+  </message>
+  <message id="DETAIL_MORE_FILES">
+    <source>more than [COUNT] files and folders</source>
+    <translation>more than [COUNT] files and folders</translation>
+  </message>
+  <message id="DETAIL_ENTRY_UNOPENED">
+    <source>entry [NUMBER] cannot be opened</source>
+    <translation>entry [NUMBER] cannot be opened</translation>
+  </message>
+  <message id="DETAIL_ENTRY_UNDESCRIBED">
+    <source>entry [NUMBER] has no readable description</source>
+    <translation>entry [NUMBER] has no readable description</translation>
+  </message>
+  <message id="DETAIL_NO_ORDINARY_FILE">
+    <source>no ordinary file</source>
+    <translation>no ordinary file</translation>
+  </message>
+  <message id="DETAIL_MORE_UNPACKED">
+    <source>more than [SIZE] MB unpacked</source>
+    <translation>more than [SIZE] MB unpacked</translation>
+  </message>
+  <message id="DETAIL_DISK_NEARLY_FULL">
+    <source>the disk is nearly full</source>
+    <translation>the disk is nearly full</translation>
+  </message>
+  <message id="DETAIL_PACKAGE_NAME">
+    <source>the name does not end in .ipa, .app or .xcarchive</source>
+    <translation>the name does not end in .ipa, .app or .xcarchive</translation>
+  </message>
+  <message id="DETAIL_NO_APP">
+    <source>no app in its Payload folder</source>
+    <translation>no app in its Payload folder</translation>
+  </message>
+  <message id="DETAIL_NO_REGULAR_FILE">
+    <source>not a regular file</source>
+    <translation>not a regular file</translation>
+  </message>
+  <message id="DETAIL_NO_MEMORY">
+    <source>not enough memory</source>
+    <translation>not enough memory</translation>
+  </message>
+  <message id="DETAIL_UNKNOWN_COLOR_FORM">
+    <source>no color in any form that is known</source>
+    <translation>no color in any form that is known</translation>
+  </message>
+  <message id="DETAIL_EMPTY_PICTURE">
+    <source>the picture is empty</source>
+    <translation>the picture is empty</translation>
+  </message>
+  <message id="DETAIL_WEBP_ERROR">
+    <source>WebP error [NUMBER]</source>
+    <translation>WebP error [NUMBER]</translation>
+  </message>
+  <message id="DETAIL_MORE_PICTURES">
+    <source>more than [COUNT] pictures</source>
+    <translation>more than [COUNT] pictures</translation>
+  </message>
+  <message id="DETAIL_MORE_SIZES">
+    <source>more than [COUNT] sizes</source>
+    <translation>more than [COUNT] sizes</translation>
+  </message>
+  <message id="DETAIL_CAME_MEANWHILE">
+    <source>a file of that name has come meanwhile</source>
+    <translation>a file of that name has come meanwhile</translation>
+  </message>
+  <message id="DETAIL_CHANGED_SINCE">
+    <source>it has changed since it was looked at</source>
+    <translation>it has changed since it was looked at</translation>
+  </message>
+  <message id="DETAIL_NINE_PATCH">
+    <source>a nine-patch picture</source>
+    <translation>a nine-patch picture</translation>
+  </message>
+  <message id="DETAIL_SAME_FILE">
+    <source>[FILE] gives the same file</source>
+    <translation>[FILE] gives the same file</translation>
+  </message>
+  <message id="DETAIL_NO_SCALABLE">
+    <source>no picture to scale down from</source>
+    <translation>no picture to scale down from</translation>
+  </message>
+  <message id="DETAIL_MADE_NONE">
+    <source>[PROGRAM] made none</source>
+    <translation>[PROGRAM] made none</translation>
+  </message>
+  <message id="DETAIL_IS_MISSING">
+    <source>[FILE] is missing</source>
+    <translation>[FILE] is missing</translation>
+  </message>
+  <message id="DETAIL_NO_FILE_TYPE">
+    <source>no such file type</source>
+    <translation>no such file type</translation>
+  </message>
+  <message id="DETAIL_PIXELS">
+    <source>[WIDTH] x [HEIGHT] pixels</source>
+    <translation>[WIDTH] x [HEIGHT] pixels</translation>
+  </message>
+  <message id="DETAIL_MORE_COLORS">
+    <source>more than [COUNT] colors</source>
+    <translation>more than [COUNT] colors</translation>
+  </message>
+  <message id="DETAIL_UNKNOWN_COLOR">
+    <source>[NAME]: [COLOR] is no color that is known</source>
+    <translation>[NAME]: [COLOR] is no color that is known</translation>
+  </message>
+  <message id="DETAIL_LINE">
+    <source>line [LINE]</source>
+    <translation>line [LINE]</translation>
+  </message>
+  <message id="DETAIL_UNKNOWN_COLOR_SET">
+    <source>a color set with a color that is not known</source>
+    <translation>a color set with a color that is not known</translation>
+  </message>
+  <message id="DETAIL_NO_COLOR">
+    <source>no color in it</source>
+    <translation>no color in it</translation>
+  </message>
+  <message id="DETAIL_QUOTATION_MARKS">
+    <source>line [LINE]: quotation marks do not match</source>
+    <translation>line [LINE]: quotation marks do not match</translation>
+  </message>
+  <message id="DETAIL_LONG_FIELD">
+    <source>line [LINE]: a field of more than [COUNT] characters</source>
+    <translation>line [LINE]: a field of more than [COUNT] characters</translation>
+  </message>
+  <message id="DETAIL_COLUMNS">
+    <source>line [LINE]: [COUNT] columns are wanted</source>
+    <translation>line [LINE]: [COUNT] columns are wanted</translation>
+  </message>
+  <message id="DETAIL_FIELD_EMPTY">
+    <source>line [LINE]: [COLUMN] is empty</source>
+    <translation>line [LINE]: [COLUMN] is empty</translation>
+  </message>
+  <message id="DETAIL_FIELD_NUMBER">
+    <source>line [LINE]: [COLUMN] is no number from 1 to [MOST]</source>
+    <translation>line [LINE]: [COLUMN] is no number from 1 to [MOST]</translation>
+  </message>
+  <message id="DETAIL_FIELD_INCHES">
+    <source>line [LINE]: [COLUMN] is no number of inches from 1 to 100</source>
+    <translation>line [LINE]: [COLUMN] is no number of inches from 1 to 100</translation>
+  </message>
+  <message id="DETAIL_FIELD_VERSION">
+    <source>line [LINE]: [COLUMN] is no version such as 12.5.8</source>
+    <translation>line [LINE]: [COLUMN] is no version such as 12.5.8</translation>
+  </message>
+  <message id="DETAIL_FIELD_DATE">
+    <source>line [LINE]: [COLUMN] is no date such as 2022-09-16 or 2010-09</source>
+    <translation>line [LINE]: [COLUMN] is no date such as 2022-09-16 or 2010-09</translation>
+  </message>
+  <message id="DETAIL_FIELD_BIOMETRY">
+    <source>line [LINE]: [COLUMN] is none of none, touchid, faceid</source>
+    <translation>line [LINE]: [COLUMN] is none of none, touchid, faceid</translation>
+  </message>
+  <message id="DETAIL_FIELD_HAVING">
+    <source>line [LINE]: [COLUMN] is neither 0 nor 1 nor empty</source>
+    <translation>line [LINE]: [COLUMN] is neither 0 nor 1 nor empty</translation>
+  </message>
+  <message id="DETAIL_FIELD_FLAG">
+    <source>line [LINE]: [COLUMN] is neither 0 nor 1</source>
+    <translation>line [LINE]: [COLUMN] is neither 0 nor 1</translation>
+  </message>
+  <message id="DETAIL_FOREIGN_MODEL">
+    <source>line [LINE]: identifier is of no iPhone, iPad or iPod</source>
+    <translation>line [LINE]: identifier is of no iPhone, iPad or iPod</translation>
+  </message>
+  <message id="DETAIL_VERSION_ORDER">
+    <source>line [LINE]: maxOS comes before minOS</source>
+    <translation>line [LINE]: maxOS comes before minOS</translation>
+  </message>
+  <message id="DETAIL_PART_OF_SCREEN">
+    <source>line [LINE]: the screen's sizes are given in part</source>
+    <translation>line [LINE]: the screen's sizes are given in part</translation>
+  </message>
+  <message id="DETAIL_RENDER_SIZE">
+    <source>line [LINE]: render_width_px x render_height_px is not width_pt x height_pt times scale</source>
+    <translation>line [LINE]: render_width_px x render_height_px is not width_pt x height_pt times scale</translation>
+  </message>
+  <message id="DETAIL_NOT_PORTRAIT">
+    <source>line [LINE]: width_px x height_px is not in portrait</source>
+    <translation>line [LINE]: width_px x height_px is not in portrait</translation>
+  </message>
+  <message id="DETAIL_MORE_THAN_MEBIBYTE">
+    <source>more than 1 MiB</source>
+    <translation>more than 1 MiB</translation>
+  </message>
+  <message id="DETAIL_NOT_UTF8">
+    <source>not UTF-8 text</source>
+    <translation>not UTF-8 text</translation>
+  </message>
+  <message id="DETAIL_HEADER">
+    <source>line [LINE]: the header is wanted: [HEADER]</source>
+    <translation>line [LINE]: the header is wanted: [HEADER]</translation>
+  </message>
+  <message id="DETAIL_MODEL_TWICE">
+    <source>line [LINE]: [MODEL] stands in line [FIRST] already</source>
+    <translation>line [LINE]: [MODEL] stands in line [FIRST] already</translation>
+  </message>
+  <message id="DETAIL_MORE_MODELS">
+    <source>more than [COUNT] models</source>
+    <translation>more than [COUNT] models</translation>
+  </message>
+  <message id="DETAIL_NO_MODEL">
+    <source>no model in it</source>
+    <translation>no model in it</translation>
+  </message>
 </context>
 </TS>

@@ -1,11 +1,15 @@
 # SPDX-License-Identifier: MIT
 """usage: test_call_mistakes.py LUMORA   The mistakes that people make at a prompt: the exit status, one line with the problem
 and what may have been meant, and nothing written."""
+import io
 import os
+import struct
 import subprocess
 import sys
 import tempfile
 import unittest
+import zipfile
+import zlib
 from pathlib import Path
 
 LUMORA = str(Path(sys.argv[1]).resolve())
@@ -96,6 +100,37 @@ GERMAN = [
     ("--tool=ikons", 2, "lumora: --tool nimmt icons,"),
 ]
 
+def chunk(kind, data):
+    return struct.pack(">I", len(data)) + kind + data + struct.pack(">I", zlib.crc32(kind + data))
+
+
+def png(width, height, more=b""):
+    head = chunk(b"IHDR", struct.pack(">IIBBBBB", width, height, 8, 6, 0, 0, 0))
+    rows = zlib.compress((b"\0" + bytes(4 * width)) * height)
+    return b"\x89PNG\r\n\x1a\n" + head + more + chunk(b"IDAT", rows) + chunk(b"IEND", b"")
+
+
+def archive(name):
+    content = io.BytesIO()
+    with zipfile.ZipFile(content, "w") as entries:
+        entries.writestr(name, b"")
+    return content.getvalue()
+
+
+# Files that cannot be used, the line that names one, and the detail that the German message gives in brackets or alone.
+GERMAN_DETAILS = [
+    ("small.png", png(2, 3), "icons small.png --platform all --to out", "hat die falsche Größe (2 x 3 Pixel)"),
+    ("cut.png", png(1024, 1024)[:60], "icons cut.png --platform all --to out", "ist kein lesbares Bild (beschädigt)"),
+    ("bright.png", png(1024, 1024, chunk(b"cICP", bytes([9, 16, 0, 1]))), "icons bright.png --platform all --to out", "(PQ oder HLG)"),
+    ("none", b"", "icons /dev/zero --platform all --to out", "ließ sich nicht lesen (keine gewöhnliche Datei)"),
+    ("art/a.9.png", png(2, 2), "downscale art/a.9.png art --layout ios --out out", "kein Bild, das sich verkleinern lässt"),
+    ("empty.ipa", archive("a"), "validate empty.ipa", "(keine App im Ordner Payload)"),
+    ("empty.ipa", archive("a"), "diff empty.ipa empty.ipa", "(keine App im Ordner Payload)"),
+    ("list.csv", b"\x89PNG\0", "devices --data list.csv", "list.csv: kein UTF-8-Text"),
+    ("list.csv", b"a,b\n", "devices --data list.csv", "list.csv: Zeile 1: verlangt ist die Kopfzeile: identifier,"),
+    ("list.csv", b"", "devices --data list.csv", "list.csv: kein Modell darin"),
+]
+
 HELP_OF_ALL = ["help", "--help", "-h"] + [f"help {command}" for command in (
     "icons", "icon", "placeholders", "downscale", "color", "devices", "validate", "diff", "rules", "resizer", "validator")] + ["icons --help", "color -h"]
 
@@ -132,6 +167,16 @@ class Calls(unittest.TestCase):
             for line, status, said in GERMAN:
                 with self.subTest(line, variable=variable):
                     self.expect(line, status, said, **{"LC_ALL": "", variable: "de_DE.UTF-8"})
+
+    def test_details_are_german(self):
+        for name, content, line, said in GERMAN_DETAILS:
+            with self.subTest(line, name=name):
+                file = self.folder / name
+                file.parent.mkdir(exist_ok=True)
+                file.write_bytes(content)
+                ended = self.run_line(line, LC_ALL="de_DE.UTF-8")
+                self.assertIn(ended.returncode, (1, 2, 3), ended)
+                self.assertIn(said, ended.stderr)
 
     def test_results_for_people_are_german_those_for_scripts_are_not(self):
         line = "devices --feature flash_cam"

@@ -136,7 +136,7 @@ private slots:
         const auto whole = readWholeFile(m_folder->path(), 100);
         QVERIFY(!whole);
         QCOMPARE(whole.failure().code, FailureCode::IsFolder);
-        QCOMPARE(whole.failure().detail, QString());
+        QCOMPARE(whole.failure().detail.words(), QString());
     }
 
     void writesWhereTheNameLeads_data()
@@ -212,7 +212,7 @@ private slots:
             outcome = writeWholeFile(path(u"a.png"_s), newBytes);
         }
         QVERIFY(!outcome.ok());
-        QCOMPARE(outcome.failure().detail, qt_error_string(EFBIG));
+        QCOMPARE(outcome.failure().detail.words(), qt_error_string(EFBIG));
         QCOMPARE(entries(m_folder->path()), wasThere ? QStringList{u"a.png"_s} : QStringList{});
         if (wasThere)
             QCOMPARE(get(path(u"a.png"_s)), oldBytes);
@@ -237,7 +237,7 @@ private slots:
             // Only a file can be replaced by renaming.
             const Outcome published = file.value().publish();
             QVERIFY(!published.ok());
-            QCOMPARE(published.failure().detail, qt_error_string(EISDIR));
+            QCOMPARE(published.failure().detail.words(), qt_error_string(EISDIR));
         }
         QCOMPARE(entries(m_folder->path()), QStringList{u"a.png"_s});
     }
@@ -392,7 +392,7 @@ private slots:
         QVERIFY(existing.ok());
         QCOMPARE(get(path(u"a.png"_s)), newBytes);
         QVERIFY(!fresh.ok());
-        QCOMPARE(fresh.failure().detail, qt_error_string(EACCES));
+        QCOMPARE(fresh.failure().detail.words(), qt_error_string(EACCES));
     }
 
 private:

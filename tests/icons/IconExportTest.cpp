@@ -278,7 +278,7 @@ void IconExportTest::missingSource()
     const IconExport result = generatePlatformIcons(request);
     QCOMPARE(result.failures().size(), 5);
     for (const IconFile &file : result.files)
-        QCOMPARE(file.failure, (Failure{FailureCode::CannotWrite, file.path, u"the picture is empty"_s}));
+        QCOMPARE(file.failure, (Failure{FailureCode::CannotWrite, file.path, "DETAIL_EMPTY_PICTURE"}));
     QVERIFY(filesBelowFolder(folder.path()).isEmpty());
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "icons/IconSource.h"
 
+#include "pictures/pixels/SizeText.h"
 #include "tests/pictures/TestPictures.h"
 
 #include <QTemporaryDir>
@@ -56,8 +57,7 @@ void IconSourceTest::size()
         QCOMPARE(source.value().size(), size);
         QCOMPARE(source.value().devicePixelRatio(), 1.0);
     } else {
-        QCOMPARE(source.failure(), (Failure{FailureCode::WrongSize, u"the picture"_s,
-                                            u"%1 x %2 pixels"_s.arg(size.width()).arg(size.height())}));
+        QCOMPARE(source.failure(), (Failure{FailureCode::WrongSize, u"the picture"_s, pixelsDetail(size)}));
     }
 }
 

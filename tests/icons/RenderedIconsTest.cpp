@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "icons/RenderedIcons.h"
 
+#include "pictures/pixels/SizeText.h"
 #include "tests/pictures/TestPictures.h"
 
 #include <QTest>
@@ -35,18 +36,18 @@ void RenderedIconsTest::failsWithItsReason_data()
 {
     QTest::addColumn<QImage>("icon");
     QTest::addColumn<int>("size");
-    QTest::addColumn<QString>("detail");
-    QTest::newRow("no size") << quarters(8, 8) << 0 << u"0 x 0 pixels"_s;
-    QTest::newRow("negative size") << quarters(8, 8) << -5 << u"-5 x -5 pixels"_s;
-    QTest::newRow("null icon") << QImage() << 57 << u"the picture is empty"_s;
-    QTest::newRow("null icon and no size") << QImage() << 0 << u"the picture is empty"_s;
+    QTest::addColumn<FailureDetail>("detail");
+    QTest::newRow("no size") << quarters(8, 8) << 0 << pixelsDetail({0, 0});
+    QTest::newRow("negative size") << quarters(8, 8) << -5 << pixelsDetail({-5, -5});
+    QTest::newRow("null icon") << QImage() << 57 << FailureDetail("DETAIL_EMPTY_PICTURE");
+    QTest::newRow("null icon and no size") << QImage() << 0 << FailureDetail("DETAIL_EMPTY_PICTURE");
 }
 
 void RenderedIconsTest::failsWithItsReason()
 {
     QFETCH(QImage, icon);
     QFETCH(int, size);
-    QFETCH(QString, detail);
+    QFETCH(FailureDetail, detail);
     RenderedIcons icons(icon);
     const Result<QByteArray> png = icons.png(size);
     QVERIFY(!png.ok());

@@ -175,7 +175,7 @@ void PictureProfileTest::refusesHighDynamicRange()
     QFETCH(QByteArray, file);
     const Result<QImage> read = readPicture(file, u"x"_s);
     QVERIFY(!read.ok());
-    QCOMPARE(read.failure(), (Failure{FailureCode::HighDynamicRange, u"x"_s, u"PQ or HLG"_s}));
+    QCOMPARE(read.failure(), (Failure{FailureCode::HighDynamicRange, u"x"_s, "DETAIL_PQ_OR_HLG"}));
 }
 
 QTEST_GUILESS_MAIN(PictureProfileTest)

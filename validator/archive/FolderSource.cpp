@@ -121,7 +121,8 @@ void FolderSource::listAll()
     QList<PackageEntry> entries;
     FileDescriptor root(::openat(m_root.number(), ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (!list(std::move(root), {}, 0, entries))
-        setFailure({FailureCode::TooLarge, path(), u"more than %1 files and folders"_s.arg(limits().entries)});
+        setFailure(
+            {FailureCode::TooLarge, path(), {"DETAIL_MORE_FILES", {{"[COUNT]", QString::number(limits().entries)}}}});
     setEntries(std::move(entries));
 }
 

@@ -21,7 +21,7 @@ Result<std::unique_ptr<PackageSource>> openPackage(const QString &path, const Ex
         return FolderSource::open(path, FolderLayout::App, limits);
     if (name.endsWith(u".xcarchive"))
         return FolderSource::open(path, FolderLayout::XcodeArchive, limits);
-    return Failure{FailureCode::NotAnArchive, path, u"the name does not end in .ipa, .app or .xcarchive"_s};
+    return Failure{FailureCode::NotAnArchive, path, "DETAIL_PACKAGE_NAME"};
 }
 
 bool hasPackageName(const QString &path)

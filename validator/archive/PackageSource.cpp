@@ -146,8 +146,9 @@ PackageSource::readAll(const std::function<std::unique_ptr<EntryConsumer>(const 
 
     WholeReading reading;
     if (budget.isPassed())
-        reading.failure =
-            Failure{FailureCode::TooLarge, m_path, u"more than %1 MB unpacked"_s.arg(m_limits.bytes >> 20)};
+        reading.failure = Failure{FailureCode::TooLarge,
+                                  m_path,
+                                  {"DETAIL_MORE_UNPACKED", {{"[SIZE]", QString::number(m_limits.bytes >> 20)}}}};
     std::sort(progress.damaged.begin(), progress.damaged.end(),
               [](const PackageEntry *a, const PackageEntry *b) { return a->number < b->number; });
     for (const PackageEntry *entry : progress.damaged) {

@@ -101,7 +101,7 @@ public:
             filled += count;
         }
         if (filled == 0 && m_damaged)
-            return Failure{FailureCode::NotReadable, {}, u"damaged"_s};
+            return Failure{FailureCode::NotReadable, {}, "DETAIL_DAMAGED"};
         return filled;
     }
 
@@ -140,7 +140,7 @@ public:
     {
         const qsizetype count = std::min(size, m_bytes.size() - m_used);
         if (count == 0 && m_damaged)
-            return Failure{FailureCode::NotReadable, {}, u"damaged"_s};
+            return Failure{FailureCode::NotReadable, {}, "DETAIL_DAMAGED"};
         std::copy_n(m_bytes.constData() + m_used, count, buffer);
         m_used += count;
         return count;
@@ -175,7 +175,7 @@ public:
         unz_global_info info = {};
         ::unzGetGlobalInfo(m_archive, &info);
         if (info.number_entry > m_view.limits().entries) {
-            fail(FailureCode::TooLarge, u"%1 entries"_s.arg(info.number_entry));
+            fail(FailureCode::TooLarge, {"DETAIL_ENTRIES", {{"[COUNT]", QString::number(info.number_entry)}}});
             return;
         }
         std::ignore = ::unzGoToFirstFile(m_archive);
@@ -190,14 +190,16 @@ private:
     bool add()
     {
         if (++m_count + m_listing.foldersMade() > m_view.limits().entries)
-            return fail(FailureCode::TooLarge, u"more than %1 files and folders"_s.arg(m_view.limits().entries));
+            return fail(FailureCode::TooLarge,
+                        {"DETAIL_MORE_FILES", {{"[COUNT]", QString::number(m_view.limits().entries)}}});
         if (!m_entry.open())
-            return fail(FailureCode::NotAnArchive, u"entry %1 cannot be opened"_s.arg(m_count));
+            return fail(FailureCode::NotAnArchive, {"DETAIL_ENTRY_UNOPENED", {{"[NUMBER]", QString::number(m_count)}}});
         unz_file_info info = {};
         const auto stored = storedName(m_archive, info);
         if (!stored) {
             m_entry.close();
-            return fail(FailureCode::NotAnArchive, u"entry %1 has no readable description"_s.arg(m_count));
+            return fail(FailureCode::NotAnArchive,
+                        {"DETAIL_ENTRY_UNDESCRIBED", {{"[NUMBER]", QString::number(m_count)}}});
         }
         m_entry.noteSizes(info);
         const auto steps = safeSteps(withForwardSlashes(entryNameText(*stored)));
@@ -248,7 +250,7 @@ private:
         return QString::fromUtf8(QByteArrayView(block).first(std::max(count, 0)));
     }
 
-    bool fail(FailureCode code, const QString &detail)
+    bool fail(FailureCode code, const FailureDetail &detail)
     {
         m_view.setFailure({code, m_view.path(), detail});
         return false;
@@ -343,7 +345,7 @@ Outcome isArchiveFile(const QString &path)
     if (info.isDir())
         return Failure{FailureCode::IsFolder, path, {}};
     if (!info.isFile())
-        return Failure{FailureCode::NotAnArchive, path, u"no ordinary file"_s};
+        return Failure{FailureCode::NotAnArchive, path, "DETAIL_NO_ORDINARY_FILE"};
     if (!info.isReadable())
         return Failure{FailureCode::NoPermission, path, {}};
     return Done{};

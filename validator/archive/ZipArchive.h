@@ -92,7 +92,7 @@ private:
                     const unz_file_info_s &info, const QString &name);
     /// Counts the bytes before they are written and stops when they exceed a limit.
     Step mayWrite(const ExtractionFolder &folder, std::uint64_t bytes);
-    Step stop(FailureCode code, const QString &detail);
+    Step stop(FailureCode code, const FailureDetail &detail);
 
     bool addPlain(const QByteArray &name, const QDateTime &modified, const QByteArray &contents);
     bool addEncrypted(const QByteArray &name, const QDateTime &modified, const QByteArray &contents);

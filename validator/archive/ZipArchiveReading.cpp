@@ -48,7 +48,7 @@ bool ZipArchive::UnzipFileTo(const QString &path, bool overWrite)
     m_bytesUntilDiskCheck = 0;
 
     if (m_unzFile != nullptr && m_entriesClaimed > m_limits.entries) {
-        stop(FailureCode::TooLarge, u"%1 entries"_s.arg(m_entriesClaimed));
+        stop(FailureCode::TooLarge, {"DETAIL_ENTRIES", {{"[COUNT]", QString::number(m_entriesClaimed)}}});
         return false;
     }
     auto folder = ExtractionFolder::open(path);
@@ -71,17 +71,18 @@ ZipArchive::Step ZipArchive::extractEntry(CurrentEntry &entry, ExtractionFolder 
     if (m_stop.stop_requested())
         return Step::Stop;
     if (++m_entries + folder.foldersMade() > m_limits.entries)
-        return stop(FailureCode::TooLarge, u"more than %1 files and folders"_s.arg(m_limits.entries));
+        return stop(FailureCode::TooLarge, {"DETAIL_MORE_FILES", {{"[COUNT]", QString::number(m_limits.entries)}}});
     if (!entry.open()) {
         OutputErrorMessage(u"Error occurs"_s);
-        return stop(FailureCode::NotAnArchive, u"entry %1 cannot be opened"_s.arg(m_entries));
+        return stop(FailureCode::NotAnArchive, {"DETAIL_ENTRY_UNOPENED", {{"[NUMBER]", QString::number(m_entries)}}});
     }
     unz_file_info info = {};
     const auto stored = currentEntry(info);
     if (!stored) {
         OutputErrorMessage(u"Error occurs while getting file info"_s);
         entry.close();
-        return stop(FailureCode::NotAnArchive, u"entry %1 has no readable description"_s.arg(m_entries));
+        return stop(FailureCode::NotAnArchive,
+                    {"DETAIL_ENTRY_UNDESCRIBED", {{"[NUMBER]", QString::number(m_entries)}}});
     }
     entry.noteSizes(info);
 
@@ -159,17 +160,18 @@ ZipArchive::Step ZipArchive::mayWrite(const ExtractionFolder &folder, std::uint6
 {
     m_bytes += bytes;
     if (m_bytes > m_limits.bytes)
-        return stop(FailureCode::TooLarge, u"more than %1 MB unpacked"_s.arg(m_limits.bytes >> 20));
+        return stop(FailureCode::TooLarge,
+                    {"DETAIL_MORE_UNPACKED", {{"[SIZE]", QString::number(m_limits.bytes >> 20)}}});
     if (m_bytesUntilDiskCheck < bytes) {
         if (folder.freeBytes() < m_limits.freeBytesKept + diskCheckInterval)
-            return stop(FailureCode::CannotWrite, u"the disk is nearly full"_s);
+            return stop(FailureCode::CannotWrite, "DETAIL_DISK_NEARLY_FULL");
         m_bytesUntilDiskCheck = diskCheckInterval;
     }
     m_bytesUntilDiskCheck -= bytes;
     return Step::Next;
 }
 
-ZipArchive::Step ZipArchive::stop(FailureCode code, const QString &detail)
+ZipArchive::Step ZipArchive::stop(FailureCode code, const FailureDetail &detail)
 {
     m_extraction = Failure{code, m_path, detail};
     return Step::Stop;

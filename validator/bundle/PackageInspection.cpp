@@ -189,7 +189,7 @@ Outcome reportOutcome(const PackageReport &report)
     if (!report.extraction.outcome)
         return report.extraction.outcome;
     if (!report.hasApp)
-        return Failure{FailureCode::MissingContent, report.facts.ipaPath, u"no app in its Payload folder"_s};
+        return Failure{FailureCode::MissingContent, report.facts.ipaPath, "DETAIL_NO_APP"};
     return Done{};
 }
 

@@ -2,6 +2,7 @@
 #include "devices/today/ModelList.h"
 
 #include "foundation/WholeFile.h"
+#include "resources/Resources.h"
 
 #include <QSet>
 #include <QTest>
@@ -37,13 +38,15 @@ class ModelListTest : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase() { installTexts(*qApp, QLocale(u"en_GB"_s)); }
+
     void theBuiltInTableIsTheFileInTheTree()
     {
         const QString path = QStringLiteral(LUMORA_SOURCE_DIR "/devices/today/models.csv");
         const Result<QByteArray> bytes = readWholeFile(path, largestModelFile);
         QVERIFY(bytes.ok());
         const Result<ModelList> list = readModelList(bytes.value(), path);
-        QVERIFY2(list.ok(), list.ok() ? "" : qPrintable(list.failure().detail));
+        QVERIFY2(list.ok(), list.ok() ? "" : qPrintable(list.failure().detail.words()));
         QVERIFY(std::ranges::equal(list.value().models(), builtInModels()));
     }
 
@@ -85,7 +88,7 @@ private slots:
     void aSoundRowIsRead()
     {
         const Result<ModelList> list = read(soundRow);
-        QVERIFY2(list.ok(), list.ok() ? "" : qPrintable(list.failure().detail));
+        QVERIFY2(list.ok(), list.ok() ? "" : qPrintable(list.failure().detail.words()));
         const DeviceModel &model = list.value().models()[0];
         QCOMPARE(textOf(model.name), u"iPhone 14 Pro"_s);
         QCOMPARE(versionText(model.maxOs), u"27"_s);
@@ -103,7 +106,7 @@ private slots:
     {
         const Result<ModelList> list =
             read(u"\"iPhone19,2\",iPhone 18 Pro,2026-09-18,A20 Pro,arm64e,27,27,,,,,,,,,,,,,,,1,1,1,1,1"_s);
-        QVERIFY2(list.ok(), list.ok() ? "" : qPrintable(list.failure().detail));
+        QVERIFY2(list.ok(), list.ok() ? "" : qPrintable(list.failure().detail.words()));
         QVERIFY(!hasKnownScreen(list.value().models()[0]));
         QCOMPARE(list.value().models()[0].usbC, Having::Unknown);
     }
@@ -149,7 +152,7 @@ private slots:
         QFETCH(QString, detail);
         const Result<ModelList> list = readModelList(bytes, u"list.csv"_s);
         QVERIFY(!list.ok());
-        QVERIFY2(list.failure().detail.contains(detail), qPrintable(list.failure().detail));
+        QVERIFY2(list.failure().detail.words().contains(detail), qPrintable(list.failure().detail.words()));
         QCOMPARE(list.failure().subject, u"list.csv"_s);
     }
 

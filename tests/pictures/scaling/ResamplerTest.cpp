@@ -3,6 +3,7 @@
 
 #include "ZonePlate.h"
 #include "pictures/pixels/PixelFormat.h"
+#include "pictures/pixels/SizeText.h"
 #include "tests/pictures/TestPictures.h"
 
 #include <QTest>
@@ -158,17 +159,17 @@ void ResamplerTest::failsWithItsReason_data()
 {
     QTest::addColumn<QSize>("from");
     QTest::addColumn<QSize>("to");
-    QTest::addColumn<QString>("detail");
-    QTest::newRow("no width") << QSize(8, 8) << QSize(0, 4) << u"0 x 4 pixels"_s;
-    QTest::newRow("negative") << QSize(8, 8) << QSize(-4, -4) << u"-4 x -4 pixels"_s;
-    QTest::newRow("from nothing") << QSize(0, 0) << QSize(4, 4) << u"the picture is empty"_s;
+    QTest::addColumn<FailureDetail>("detail");
+    QTest::newRow("no width") << QSize(8, 8) << QSize(0, 4) << pixelsDetail({0, 4});
+    QTest::newRow("negative") << QSize(8, 8) << QSize(-4, -4) << pixelsDetail({-4, -4});
+    QTest::newRow("from nothing") << QSize(0, 0) << QSize(4, 4) << FailureDetail("DETAIL_EMPTY_PICTURE");
 }
 
 void ResamplerTest::failsWithItsReason()
 {
     QFETCH(QSize, from);
     QFETCH(QSize, to);
-    QFETCH(QString, detail);
+    QFETCH(FailureDetail, detail);
     QImage source(from, QImage::Format_ARGB32);
     source.fill(Qt::red);
     const Result<QImage> scaled = resample(source, to, u"mine.png"_s);

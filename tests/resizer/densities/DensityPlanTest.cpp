@@ -4,6 +4,7 @@
 
 #include "foundation/WholeFile.h"
 #include "pictures/PictureReader.h"
+#include "resources/Resources.h"
 #include "tests/pictures/TestPictures.h"
 #include "tests/resizer/RetinaFixtures.h"
 
@@ -33,6 +34,8 @@ class DensityPlanTest : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase() { installTexts(*qApp, QLocale(u"en_GB"_s)); }
+
     void init()
     {
         m_folder = std::make_unique<QTemporaryDir>();
@@ -156,7 +159,7 @@ private slots:
         request.format = ScaledFormat::Png;
         const DensityPlan plan = planDensities(m_folder->path(), request);
         QCOMPARE(plan.failures.size(), std::size_t{2});
-        QVERIFY(plan.failures[0].detail.endsWith(u"a@3x.png gives the same file"_s));
+        QVERIFY(plan.failures[0].detail.words().endsWith(u"a@3x.png gives the same file"_s));
         request.format = ScaledFormat::AsSource;
         QCOMPARE(described(planDensities(m_folder->path(), request)),
                  (QStringList{u"a@2x.png 40x20"_s, u"a.png 20x10"_s, u"a@2x.webp 40x20"_s, u"a.webp 20x10"_s}));
@@ -257,7 +260,7 @@ private:
             }
         }
         for (const Failure &failure : plan.failures)
-            lines << failure.detail;
+            lines << failure.detail.words();
         return lines;
     }
 

@@ -67,8 +67,9 @@ QStringList paths(const PackageSource &source)
 
 QString codeAndDetail(const Outcome &outcome)
 {
-    return outcome ? u"none"_s
-                   : QString(QString::number(static_cast<int>(outcome.failure().code)) + outcome.failure().detail);
+    return outcome
+               ? u"none"_s
+               : QString(QString::number(static_cast<int>(outcome.failure().code)) + outcome.failure().detail.words());
 }
 
 } // namespace
