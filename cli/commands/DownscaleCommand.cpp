@@ -162,8 +162,7 @@ CommandBody declareDownscaleCommand(Declaration &declaration)
     declaration.flag("--overwrite", &arguments->overwrite, "CLI_DOWNSCALE_OVERWRITE");
     declaration.flag("--dry-run", &arguments->dryRun, "CLI_DOWNSCALE_DRY_RUN");
     arguments->densities.declareOn(declaration);
-    arguments->place.declareBeside(declaration, "CLI_DOWNSCALE_TO",
-                                   {u"--layout"_s, u"--from"_s, u"--to-scales"_s, u"--format"_s, u"--quality"_s});
+    arguments->place.declareBeside(declaration, "CLI_DOWNSCALE_TO", {u"--layout"_s});
     declaration.example("lumora downscale art --out res --dry-run");
     declaration.example("lumora downscale art --from 3x --to-scales 2x,1x --layout ios --dry-run");
     return [arguments](Console &console) { return runDownscale(console, *arguments); };

@@ -60,7 +60,7 @@ complete -c lumora -n '__fish_seen_subcommand_from color' -l as -x -a 'hex ios m
 complete -c lumora -n '__fish_seen_subcommand_from color' -l form -x -a '(__fish_append , swiftui uikit-swift uikit-objc appkit-swift appkit-objc colorset compose flutter android-xml kotlin css-hex css-rgb css-hsl css-hwb css-oklch css-p3 maui tailwind qml)' -d 'Forms of today'
 complete -c lumora -n '__fish_seen_subcommand_from color' -l all -d 'Print every form of today'
 complete -c lumora -n '__fish_seen_subcommand_from color' -l p3 -d 'Print Display P3 variants'
-complete -c lumora -n '__fish_seen_subcommand_from color' -l contrast -x -d 'Judge the contrast with another color'
+complete -c lumora -n '__fish_seen_subcommand_from color' -l contrast -x -d 'Judge the contrast with another colour'
 complete -c lumora -n '__fish_seen_subcommand_from devices' -l ios -x -a '4 5 6 7' -d 'Oldest iOS version'
 complete -c lumora -n '__fish_seen_subcommand_from devices' -l feature -x -a '(__fish_append , retina multitask siri video_rec compass gyroscope gps back_cam front_cam flash_cam bluetooth_le opengl_2 opengl_3)' -d 'Needed features'
 complete -c lumora -n '__fish_seen_subcommand_from devices' -l today -d 'Use the list of all models'

@@ -1695,8 +1695,8 @@
     <translation>Alle Hälften in DIR schreiben, ohne Unterordner; mit --layout in den Ordnern ihrer Quellen</translation>
   </message>
   <message id="CLI_COLOR_TEXT">
-    <source>Three or six hexadecimal digits, with or without #</source>
-    <translation>Drei oder sechs hexadezimale Ziffern, mit oder ohne #</translation>
+    <source>Three or six hexadecimal digits, with or without #; with --form, --all or --contrast a colour in any form</source>
+    <translation>Drei oder sechs hexadezimale Ziffern, mit oder ohne #; mit --form, --all oder --contrast eine Farbe in jeder Form</translation>
   </message>
   <message id="CLI_COLOR_AS">
     <source>Notation to print: [WORDS]; all prints each with its name</source>
@@ -2087,7 +2087,7 @@
     <translation>siehe --help</translation>
   </message>
   <message id="CLI_HIGH_DYNAMIC_RANGE">
-    <source>has colors of high dynamic range</source>
+    <source>has colours of high dynamic range</source>
     <translation>hat Farben mit hohem Dynamikumfang</translation>
   </message>
   <message id="CLI_HIGH_DYNAMIC_RANGE_ADVICE">
@@ -2171,8 +2171,8 @@
     <translation>ist kein Farbcode</translation>
   </message>
   <message id="CLI_NO_COLOR_ADVICE">
-    <source>give three or six hexadecimal digits, with or without #, such as #abc or #34485e</source>
-    <translation>drei oder sechs hexadezimale Ziffern angeben, mit oder ohne #, etwa #abc oder #34485e</translation>
+    <source>give three or six hexadecimal digits, with or without #, such as #abc or #34485e, or add --form for a colour in any form</source>
+    <translation>drei oder sechs hexadezimale Ziffern angeben, mit oder ohne #, etwa #abc oder #34485e, oder --form dazusetzen für eine Farbe in jeder Form</translation>
   </message>
   <message id="CLI_NOT_NAMED_IPA">
     <source>the name does not end in .ipa, .app or .xcarchive</source>
@@ -2299,11 +2299,11 @@
     <translation>Formen, die eine haben, in ihrer Display-P3-Variante ausgeben</translation>
   </message>
   <message id="CLI_COLOR_CONTRAST">
-    <source>Judge the contrast with another color by WCAG 2</source>
+    <source>Judge the contrast with another colour by WCAG 2</source>
     <translation>Den Kontrast zu einer anderen Farbe nach WCAG 2 beurteilen</translation>
   </message>
   <message id="CLI_COLOR_NO_FORM">
-    <source>is no color in a form that is known</source>
+    <source>is no colour in a form that is known</source>
     <translation>ist keine Farbe in einer bekannten Form</translation>
   </message>
   <message id="CLI_COLOR_NO_FORM_ADVICE">
@@ -2387,11 +2387,11 @@
     <translation>Was auf den Bildern steht; {size}, {width} und {height} werden ersetzt, \n beginnt eine Zeile</translation>
   </message>
   <message id="CLI_PLACEHOLDERS_FOREGROUND">
-    <source>Color of the text, in any form of lumora color</source>
+    <source>Colour of the text, in any form of lumora color</source>
     <translation>Farbe des Textes, in jeder Form von lumora color</translation>
   </message>
   <message id="CLI_PLACEHOLDERS_BACKGROUND">
-    <source>Color of the ground, in any form of lumora color</source>
+    <source>Colour of the ground, in any form of lumora color</source>
     <translation>Farbe des Grundes, in jeder Form von lumora color</translation>
   </message>
   <message id="CLI_PLACEHOLDERS_FORMAT">
@@ -2419,8 +2419,8 @@
     <translation>[FIRST] gehört zu [SECOND]</translation>
   </message>
   <message id="CLI_DOWNSCALE_LAYOUT">
-    <source>Make all missing densities of the pictures in the folders, filed as in projects for: [WORDS]</source>
-    <translation>Alle fehlenden Auflösungen der Bilder in den Ordnern anlegen, abgelegt wie in Projekten für: [WORDS]</translation>
+    <source>Make all missing densities of the pictures in the folders, filed as in projects for: [WORDS]; ios where none is given</source>
+    <translation>Alle fehlenden Auflösungen der Bilder in den Ordnern anlegen, abgelegt wie in Projekten für: [WORDS]; ohne Angabe ios</translation>
   </message>
   <message id="CLI_DOWNSCALE_FROM">
     <source>Density to scale from, such as 3x or xxxhdpi; the largest of each picture where none is given</source>
@@ -2507,7 +2507,7 @@
     <translation>der Speicher reicht nicht</translation>
   </message>
   <message id="DETAIL_UNKNOWN_COLOR_FORM">
-    <source>no color in any form that is known</source>
+    <source>no colour in any form that is known</source>
     <translation>keine Farbe in einer bekannten Form</translation>
   </message>
   <message id="DETAIL_EMPTY_PICTURE">
@@ -2563,11 +2563,11 @@
     <translation>[WIDTH] x [HEIGHT] Pixel</translation>
   </message>
   <message id="DETAIL_MORE_COLORS">
-    <source>more than [COUNT] colors</source>
+    <source>more than [COUNT] colours</source>
     <translation>mehr als [COUNT] Farben</translation>
   </message>
   <message id="DETAIL_UNKNOWN_COLOR">
-    <source>[NAME]: [COLOR] is no color that is known</source>
+    <source>[NAME]: [COLOR] is no colour that is known</source>
     <translation>[NAME]: [COLOR] ist keine bekannte Farbe</translation>
   </message>
   <message id="DETAIL_LINE">
@@ -2575,11 +2575,11 @@
     <translation>Zeile [LINE]</translation>
   </message>
   <message id="DETAIL_UNKNOWN_COLOR_SET">
-    <source>a color set with a color that is not known</source>
+    <source>a colour set with a colour that is not known</source>
     <translation>ein Farbsatz mit einer unbekannten Farbe</translation>
   </message>
   <message id="DETAIL_NO_COLOR">
-    <source>no color in it</source>
+    <source>no colour in it</source>
     <translation>keine Farbe darin</translation>
   </message>
   <message id="DETAIL_QUOTATION_MARKS">

@@ -1693,8 +1693,8 @@
     <translation>Write all halves into DIR, without sub-folders; with --layout in the folders of their sources</translation>
   </message>
   <message id="CLI_COLOR_TEXT">
-    <source>Three or six hexadecimal digits, with or without #</source>
-    <translation>Three or six hexadecimal digits, with or without #</translation>
+    <source>Three or six hexadecimal digits, with or without #; with --form, --all or --contrast a colour in any form</source>
+    <translation>Three or six hexadecimal digits, with or without #; with --form, --all or --contrast a colour in any form</translation>
   </message>
   <message id="CLI_COLOR_AS">
     <source>Notation to print: [WORDS]; all prints each with its name</source>
@@ -2085,8 +2085,8 @@
     <translation>see --help</translation>
   </message>
   <message id="CLI_HIGH_DYNAMIC_RANGE">
-    <source>has colors of high dynamic range</source>
-    <translation>has colors of high dynamic range</translation>
+    <source>has colours of high dynamic range</source>
+    <translation>has colours of high dynamic range</translation>
   </message>
   <message id="CLI_HIGH_DYNAMIC_RANGE_ADVICE">
     <source>convert it to sRGB or Display P3 first</source>
@@ -2169,8 +2169,8 @@
     <translation>is no colour code</translation>
   </message>
   <message id="CLI_NO_COLOR_ADVICE">
-    <source>give three or six hexadecimal digits, with or without #, such as #abc or #34485e</source>
-    <translation>give three or six hexadecimal digits, with or without #, such as #abc or #34485e</translation>
+    <source>give three or six hexadecimal digits, with or without #, such as #abc or #34485e, or add --form for a colour in any form</source>
+    <translation>give three or six hexadecimal digits, with or without #, such as #abc or #34485e, or add --form for a colour in any form</translation>
   </message>
   <message id="CLI_NOT_NAMED_IPA">
     <source>the name does not end in .ipa, .app or .xcarchive</source>
@@ -2297,12 +2297,12 @@
     <translation>Print forms that have one in their Display P3 variant</translation>
   </message>
   <message id="CLI_COLOR_CONTRAST">
-    <source>Judge the contrast with another color by WCAG 2</source>
-    <translation>Judge the contrast with another color by WCAG 2</translation>
+    <source>Judge the contrast with another colour by WCAG 2</source>
+    <translation>Judge the contrast with another colour by WCAG 2</translation>
   </message>
   <message id="CLI_COLOR_NO_FORM">
-    <source>is no color in a form that is known</source>
-    <translation>is no color in a form that is known</translation>
+    <source>is no colour in a form that is known</source>
+    <translation>is no colour in a form that is known</translation>
   </message>
   <message id="CLI_COLOR_NO_FORM_ADVICE">
     <source>write it as code would, such as #336699, rgb(51 102 153) or Color(0xFF336699), or as a CSS name</source>
@@ -2385,12 +2385,12 @@
     <translation>What the pictures say; {size}, {width} and {height} are filled in, \n begins a line</translation>
   </message>
   <message id="CLI_PLACEHOLDERS_FOREGROUND">
-    <source>Color of the text, in any form of lumora color</source>
-    <translation>Color of the text, in any form of lumora color</translation>
+    <source>Colour of the text, in any form of lumora color</source>
+    <translation>Colour of the text, in any form of lumora color</translation>
   </message>
   <message id="CLI_PLACEHOLDERS_BACKGROUND">
-    <source>Color of the ground, in any form of lumora color</source>
-    <translation>Color of the ground, in any form of lumora color</translation>
+    <source>Colour of the ground, in any form of lumora color</source>
+    <translation>Colour of the ground, in any form of lumora color</translation>
   </message>
   <message id="CLI_PLACEHOLDERS_FORMAT">
     <source>File type: [WORDS]</source>
@@ -2417,8 +2417,8 @@
     <translation>[FIRST] goes with [SECOND] only</translation>
   </message>
   <message id="CLI_DOWNSCALE_LAYOUT">
-    <source>Make all missing densities of the pictures in the folders, filed as in projects for: [WORDS]</source>
-    <translation>Make all missing densities of the pictures in the folders, filed as in projects for: [WORDS]</translation>
+    <source>Make all missing densities of the pictures in the folders, filed as in projects for: [WORDS]; ios where none is given</source>
+    <translation>Make all missing densities of the pictures in the folders, filed as in projects for: [WORDS]; ios where none is given</translation>
   </message>
   <message id="CLI_DOWNSCALE_FROM">
     <source>Density to scale from, such as 3x or xxxhdpi; the largest of each picture where none is given</source>
@@ -2505,8 +2505,8 @@
     <translation>not enough memory</translation>
   </message>
   <message id="DETAIL_UNKNOWN_COLOR_FORM">
-    <source>no color in any form that is known</source>
-    <translation>no color in any form that is known</translation>
+    <source>no colour in any form that is known</source>
+    <translation>no colour in any form that is known</translation>
   </message>
   <message id="DETAIL_EMPTY_PICTURE">
     <source>the picture is empty</source>
@@ -2561,24 +2561,24 @@
     <translation>[WIDTH] x [HEIGHT] pixels</translation>
   </message>
   <message id="DETAIL_MORE_COLORS">
-    <source>more than [COUNT] colors</source>
-    <translation>more than [COUNT] colors</translation>
+    <source>more than [COUNT] colours</source>
+    <translation>more than [COUNT] colours</translation>
   </message>
   <message id="DETAIL_UNKNOWN_COLOR">
-    <source>[NAME]: [COLOR] is no color that is known</source>
-    <translation>[NAME]: [COLOR] is no color that is known</translation>
+    <source>[NAME]: [COLOR] is no colour that is known</source>
+    <translation>[NAME]: [COLOR] is no colour that is known</translation>
   </message>
   <message id="DETAIL_LINE">
     <source>line [LINE]</source>
     <translation>line [LINE]</translation>
   </message>
   <message id="DETAIL_UNKNOWN_COLOR_SET">
-    <source>a color set with a color that is not known</source>
-    <translation>a color set with a color that is not known</translation>
+    <source>a colour set with a colour that is not known</source>
+    <translation>a colour set with a colour that is not known</translation>
   </message>
   <message id="DETAIL_NO_COLOR">
-    <source>no color in it</source>
-    <translation>no color in it</translation>
+    <source>no colour in it</source>
+    <translation>no colour in it</translation>
   </message>
   <message id="DETAIL_QUOTATION_MARKS">
     <source>line [LINE]: quotation marks do not match</source>

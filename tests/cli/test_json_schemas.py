@@ -45,7 +45,7 @@ CALLS = {
     "downscale without a place": ("downscale", ["downscale", "marked"], 2),
     "downscale to densities": ("downscale", ["downscale", "dense", "--layout", "web", "--out", "f"], 0),
     "downscale to densities foreseen": ("downscale", ["downscale", "dense", "--layout", "web", "--dry-run"], 0),
-    "downscale to no density": ("downscale", ["downscale", "dense", "--to-scales", "5x"], 2),
+    "downscale to no density": ("downscale", ["downscale", "dense", "--layout", "ios", "--to-scales", "5x"], 2),
     "downscale to densities of nothing": ("downscale", ["downscale", "empty", "--layout", "android"], 1),
     "color in forms": ("color", ["color", "color(display-p3 1 0 0)", "--all", "--contrast", "white"], 0),
     "no color in any form": ("color", ["color", "reddish", "--form", "qml"], 1),
