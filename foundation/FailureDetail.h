@@ -4,9 +4,8 @@
 #include "FilledText.h"
 
 #include <QLatin1StringView>
+#include <QList>
 #include <QString>
-
-#include <vector>
 
 namespace lumora
 {
@@ -16,7 +15,7 @@ namespace lumora
 class FailureDetail
 {
 public:
-    using Values = std::vector<TextValue>;
+    using Values = QList<TextValue>;
 
     FailureDetail() = default;
     FailureDetail(QString text) : m_text(std::move(text)) {}
