@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "AboutPopupContentView.h"
 
-#include "tool/ButtonStyle.h"
-#include "tool/LabelStyle.h"
+#include "tool/style/ButtonStyle.h"
+#include "tool/style/LabelStyle.h"
 #include "ui_AboutPopupContentView.h"
 #include "widgets/style/Fonts.h"
 #include "widgets/style/Palette.h"

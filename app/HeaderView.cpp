@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "HeaderView.h"
 
-#include "tool/ColorBand.h"
-#include "tool/LabelStyle.h"
-#include "tool/ShellMetrics.h"
-#include "tool/StyledText.h"
+#include "tool/style/ColorBand.h"
+#include "tool/style/LabelStyle.h"
+#include "tool/style/ShellMetrics.h"
+#include "tool/style/StyledText.h"
 #include "widgets/buttons/ImageButton.h"
 #include "widgets/style/Fonts.h"
 #include "widgets/style/Palette.h"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "tool/StyledText.h"
 #include "tool/services/Services.h"
+#include "tool/style/StyledText.h"
 
 #include <QObject>
 #include <QPointer>

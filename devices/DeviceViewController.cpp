@@ -2,8 +2,8 @@
 #include "DeviceViewController.h"
 
 #include "DeviceViews.h"
-#include "tool/ButtonStyle.h"
-#include "tool/LabelStyle.h"
+#include "tool/style/ButtonStyle.h"
+#include "tool/style/LabelStyle.h"
 #include "ui_DeviceViewController.h"
 #include "widgets/style/Fonts.h"
 #include "widgets/style/Palette.h"

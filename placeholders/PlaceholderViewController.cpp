@@ -3,9 +3,9 @@
 
 #include "PlaceholderExport.h"
 #include "foundation/LeadingInteger.h"
-#include "tool/ButtonStyle.h"
-#include "tool/LabelStyle.h"
 #include "tool/TimedCaption.h"
+#include "tool/style/ButtonStyle.h"
+#include "tool/style/LabelStyle.h"
 #include "ui_PlaceholderViewController.h"
 #include "widgets/style/Fonts.h"
 #include "widgets/style/Palette.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "AlertContentView.h"
 
-#include "LabelStyle.h"
+#include "tool/style/LabelStyle.h"
 #include "ui_AlertContentView.h"
 #include "widgets/style/Fonts.h"
 #include "widgets/style/NamedImage.h"

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "JobResultView.h"
 
-#include "ButtonStyle.h"
-#include "ElidedLabel.h"
-#include "LabelStyle.h"
-#include "Panel.h"
 #include "TimedCaption.h"
+#include "tool/style/ButtonStyle.h"
+#include "tool/style/ElidedLabel.h"
+#include "tool/style/LabelStyle.h"
+#include "tool/style/Panel.h"
 #include "widgets/buttons/HoverButton.h"
 #include "widgets/style/AccessibleRole.h"
 #include "widgets/style/Fonts.h"

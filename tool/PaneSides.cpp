@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "PaneSides.h"
 
-#include "ToolTip.h"
+#include "style/ToolTip.h"
 #include "widgets/buttons/Segment.h"
 #include "widgets/buttons/SegmentedControl.h"
 

@@ -2,7 +2,7 @@
 #include "PopoverAlert.h"
 
 #include "PopoverAlertView.h"
-#include "PopoverStyle.h"
+#include "tool/style/PopoverStyle.h"
 #include "widgets/buttons/IconButton.h"
 #include "widgets/popover/SFBPopover.h"
 #include "widgets/style/Palette.h"

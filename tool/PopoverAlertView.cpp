@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "PopoverAlertView.h"
 
-#include "ButtonStyle.h"
-#include "LabelStyle.h"
 #include "PopoverAlert.h"
+#include "tool/style/ButtonStyle.h"
+#include "tool/style/LabelStyle.h"
 #include "widgets/buttons/IconButton.h"
 #include "widgets/style/Fonts.h"
 #include "widgets/style/ImageView.h"

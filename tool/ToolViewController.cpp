@@ -3,8 +3,8 @@
 
 #include "JobResultView.h"
 #include "PaneFocus.h"
-#include "PopoverStyle.h"
-#include "ShellMetrics.h"
+#include "tool/style/PopoverStyle.h"
+#include "tool/style/ShellMetrics.h"
 #include "widgets/popover/SFBPopover.h"
 #include "widgets/style/Palette.h"
 

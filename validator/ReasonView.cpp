@@ -3,7 +3,7 @@
 
 #include "LongWords.h"
 #include "SizeChips.h"
-#include "tool/LabelStyle.h"
+#include "tool/style/LabelStyle.h"
 #include "widgets/style/Fonts.h"
 #include "widgets/style/Palette.h"
 

@@ -2,8 +2,8 @@
 #include "ValidatePopupContentView.h"
 
 #include "LongWords.h"
-#include "tool/ButtonStyle.h"
-#include "tool/LabelStyle.h"
+#include "tool/style/ButtonStyle.h"
+#include "tool/style/LabelStyle.h"
 #include "ui_ValidatePopupContentView.h"
 #include "widgets/style/Fonts.h"
 #include "widgets/style/Palette.h"

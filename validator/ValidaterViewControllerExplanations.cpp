@@ -4,7 +4,7 @@
 #include "ValidaterViewController.h"
 #include "foundation/PrintableText.h"
 #include "tool/PopoverAlert.h"
-#include "tool/ShellMetrics.h"
+#include "tool/style/ShellMetrics.h"
 #include "ui_ValidaterViewController.h"
 #include "widgets/popover/SFBPopover.h"
 #include "widgets/style/Palette.h"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "LabeledPlaceholders.h"
 
+#include "PlaceholderReport.h"
 #include "cli/arguments/Declaration.h"
 #include "cli/console/CommandText.h"
 #include "cli/console/Interruption.h"
@@ -115,30 +116,6 @@ LabeledOptions optionsFrom(const LabeledPlaceholdersRequest &request)
     return {format, request.quality};
 }
 
-ExitStatus report(Console &console, const PlaceholderRun &run, qsizetype expected)
-{
-    ExitStatus status = ExitStatus::Done;
-    QJsonArray files;
-    for (const PlaceholderFile &file : run.files) {
-        if (file.outcome) {
-            files.append(QJsonObject{{u"path"_s, file.path},
-                                     {u"width"_s, file.size.width()},
-                                     {u"height"_s, file.size.height()},
-                                     {u"bytes"_s, file.bytes}});
-            console.note(file.path);
-        } else {
-            console.complain(file.outcome.failure());
-            status = ExitStatus::Refused;
-        }
-    }
-    if (Interruption::isRequested() && std::ssize(run.files) < expected) {
-        console.complain(Interruption::complaint(files.size(), expected));
-        status = Interruption::status();
-    }
-    console.print(run.folder.path);
-    return console.finish(status, {{u"folder"_s, run.folder.path}, {u"files"_s, files}});
-}
-
 QString severityWord(ScreenshotSeverity severity)
 {
     return severity == ScreenshotSeverity::Error     ? u"error"_s
@@ -228,7 +205,7 @@ ExitStatus writeLabeledPlaceholders(Console &console, const LabeledPlaceholdersR
     };
     const PlaceholderRun run = saveLabeledPictures(*sizes, *look, optionsFrom(request), folder.value(), written);
     console.endProgress();
-    return report(console, run, std::ssize(*sizes));
+    return reportPlaceholders(console, run, std::ssize(*sizes));
 }
 
 ExitStatus checkScreenshots(Console &console, const LabeledPlaceholdersRequest &request)

@@ -2,6 +2,7 @@
 #include "PlaceholdersCommand.h"
 
 #include "LabeledPlaceholders.h"
+#include "PlaceholderReport.h"
 #include "cli/arguments/Declaration.h"
 #include "cli/arguments/OutputPlace.h"
 #include "cli/arguments/TypedNumber.h"
@@ -12,7 +13,6 @@
 #include "placeholders/PlaceholderSizes.h"
 
 #include <QFileInfo>
-#include <QJsonArray>
 
 #include <algorithm>
 #include <memory>
@@ -72,35 +72,6 @@ std::optional<std::vector<QSize>> wantedSizes(Console &console, const Placeholde
     return sizes;
 }
 
-QJsonObject fileJson(const PlaceholderFile &file)
-{
-    return {{u"path"_s, file.path},
-            {u"width"_s, file.size.width()},
-            {u"height"_s, file.size.height()},
-            {u"bytes"_s, file.bytes}};
-}
-
-ExitStatus report(Console &console, const PlaceholderRun &run, qsizetype expected)
-{
-    ExitStatus status = ExitStatus::Done;
-    QJsonArray files;
-    for (const PlaceholderFile &file : run.files) {
-        if (file.outcome) {
-            files.append(fileJson(file));
-            console.note(file.path);
-        } else {
-            console.complain(file.outcome.failure());
-            status = ExitStatus::Refused;
-        }
-    }
-    if (Interruption::isRequested() && std::ssize(run.files) < expected) {
-        console.complain(Interruption::complaint(files.size(), expected));
-        status = Interruption::status();
-    }
-    console.print(run.folder.path);
-    return console.finish(status, {{u"folder"_s, run.folder.path}, {u"files"_s, files}});
-}
-
 ExitStatus runPlaceholders(Console &console, const PlaceholdersArguments &arguments)
 {
     if (!arguments.labeled.checkedFolder.isEmpty())
@@ -127,7 +98,7 @@ ExitStatus runPlaceholders(Console &console, const PlaceholdersArguments &argume
     };
     const PlaceholderRun run = savePlaceholders(pictures, folder.value(), written);
     console.endProgress();
-    return report(console, run, std::ssize(pictures));
+    return reportPlaceholders(console, run, std::ssize(pictures));
 }
 
 } // namespace

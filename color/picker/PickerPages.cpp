@@ -8,7 +8,7 @@
 #include "SwatchList.h"
 #include "ToolPalette.h"
 #include "color/picking/RecentColors.h"
-#include "tool/DropDownStyle.h"
+#include "tool/style/DropDownStyle.h"
 #include "widgets/style/Fonts.h"
 
 #include <QComboBox>

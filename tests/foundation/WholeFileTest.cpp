@@ -5,7 +5,6 @@
 #include <QDir>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QThread>
 
 #include <array>
 #include <csignal>
@@ -289,54 +288,6 @@ private slots:
         struct stat status;
         QCOMPARE(::stat(QFile::encodeName(path(u"a.png"_s)).constData(), &status), 0);
         QCOMPARE(status.st_mode & 07777, 0640u);
-    }
-
-    void aPipeTakesTheBytes()
-    {
-        const QByteArray name = QFile::encodeName(path(u"pipe"_s));
-        QCOMPARE(::mkfifo(name.constData(), 0600), 0);
-        const int reader = ::open(name.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
-        QVERIFY(reader >= 0);
-        QVERIFY(writeWholeFile(path(u"pipe"_s), newBytes).ok());
-        QByteArray received(100, '\0');
-        received.truncate(::read(reader, received.data(), 100));
-        ::close(reader);
-        QCOMPARE(received, newBytes);
-    }
-
-    void aSlowReaderGetsMoreThanThePipeHolds()
-    {
-        const QByteArray name = QFile::encodeName(path(u"pipe"_s));
-        QCOMPARE(::mkfifo(name.constData(), 0600), 0);
-        const int reader = ::open(name.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
-        QVERIFY(reader >= 0);
-        const QByteArray much(1 << 20, 'x');
-        Outcome outcome = Done{};
-        const std::unique_ptr<QThread> writing(
-            QThread::create([&] { outcome = writeWholeFile(path(u"pipe"_s), much); }));
-        writing->start();
-        QByteArray received;
-        while (received.size() < much.size()) {
-            QByteArray some(10'000, '\0');
-            const ssize_t count = ::read(reader, some.data(), static_cast<std::size_t>(some.size()));
-            if (count > 0)
-                received += some.first(count);
-            else if (writing->isFinished())
-                break;
-            QThread::yieldCurrentThread();
-        }
-        writing->wait();
-        ::close(reader);
-        QVERIFY(outcome.ok());
-        QCOMPARE(received, much);
-    }
-
-    void aPipeThatNobodyReadsIsRefusedAtOnce()
-    {
-        QCOMPARE(::mkfifo(QFile::encodeName(path(u"pipe"_s)).constData(), 0600), 0);
-        const Outcome outcome = writeWholeFile(path(u"pipe"_s), newBytes);
-        QVERIFY(!outcome.ok());
-        QCOMPARE(outcome.failure().code, FailureCode::CannotWrite);
     }
 
     void onlyRegularFilesAreRead_data()

@@ -42,27 +42,23 @@ bool readMachOSegment(const ByteReader &command, const ByteReader &slice, Binary
 {
     BinarySegment segment;
     segment.name = command.text(8, 16).toByteArray();
-    if (facts.is64Bit) {
-        if (!command.holds(0, 72))
-            return false;
-        segment.address = *command.u64(24);
-        segment.size = *command.u64(32);
-        segment.fileOffset = *command.u64(40);
-        segment.fileSize = *command.u64(48);
-        segment.maximumProtection = *command.u32(56);
-        segment.initialProtection = *command.u32(60);
-        segment.flags = *command.u32(68);
-    } else {
-        if (!command.holds(0, 56))
-            return false;
-        segment.address = *command.u32(24);
-        segment.size = *command.u32(28);
-        segment.fileOffset = *command.u32(32);
-        segment.fileSize = *command.u32(36);
-        segment.maximumProtection = *command.u32(40);
-        segment.initialProtection = *command.u32(44);
-        segment.flags = *command.u32(52);
-    }
+    // Four numbers as wide as the machine's words, then four of 32 bits.
+    constexpr qsizetype numbers = 24;
+    const qsizetype width = facts.is64Bit ? 8 : 4;
+    const qsizetype rest = numbers + 4 * width;
+    if (!command.holds(0, rest + 16))
+        return false;
+    const auto number = [&](qsizetype index) -> quint64 {
+        const qsizetype at = numbers + index * width;
+        return facts.is64Bit ? *command.u64(at) : *command.u32(at);
+    };
+    segment.address = number(0);
+    segment.size = number(1);
+    segment.fileOffset = number(2);
+    segment.fileSize = number(3);
+    segment.maximumProtection = *command.u32(rest);
+    segment.initialProtection = *command.u32(rest + 4);
+    segment.flags = *command.u32(rest + 12);
     if (!slice.holds(segment.fileOffset, segment.fileSize) && facts.fileType != BinaryFileType::DebugSymbols)
         addFault(facts.faults, BinaryFault::SegmentPastEnd);
     const bool whole = readSections(command, facts.is64Bit, segment);
