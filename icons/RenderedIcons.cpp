@@ -1,19 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "RenderedIcons.h"
 
+#include "PriorityWorkers.h"
 #include "foundation/MemoryLimit.h"
 #include "pictures/png/PngRows.h"
 #include "pictures/png/PngSection.h"
 #include "pictures/scaling/Resampler.h"
 
-#include <QThreadPool>
-
 #include <algorithm>
 #include <atomic>
 #include <condition_variable>
-#include <functional>
 #include <map>
 #include <mutex>
+#include <new>
 #include <optional>
 #include <vector>
 
@@ -47,12 +46,6 @@ class RenderedIcons::Workshop
 public:
     explicit Workshop(const QImage &icon) : m_icon(icon) {}
 
-    ~Workshop()
-    {
-        m_pool.clear();
-        m_pool.waitForDone();
-    }
-
     void prepare(std::span<const int> sizes)
     {
         const std::scoped_lock lock(m_mutex);
@@ -62,7 +55,8 @@ public:
             Piece *piece = m_pieces.emplace(size, std::make_unique<Piece>()).first->second.get();
             // The files are written in the requested order while others are rendered.
             const int priority = size >= smallestEarlySize ? size : -static_cast<int>(m_pieces.size());
-            start([this, piece, size] { render(*piece, size); }, priority);
+            if (!m_workers.start([this, piece, size] { render(*piece, size); }, priority))
+                piece->file = outOfMemory({});
         }
     }
 
@@ -71,29 +65,17 @@ public:
         prepare({&size, 1});
         std::unique_lock lock(m_mutex);
         const Piece &piece = *m_pieces.at(size);
-        m_finished.wait(lock, [&piece] { return piece.file.has_value(); });
+        while (!piece.file) {
+            lock.unlock();
+            const bool isDone = m_workers.doOneAlone();
+            lock.lock();
+            if (!isDone && !piece.file)
+                m_finished.wait(lock);
+        }
         return *piece.file;
     }
 
 private:
-    /// Queues the work by priority, the highest first. The pool only gets the number of waiting tasks. The tasks
-    /// themselves pass between threads under a lock of the standard library, which the thread sanitizer sees without an
-    /// instrumented Qt.
-    void start(std::function<void()> work, int priority)
-    {
-        {
-            const std::scoped_lock lock(m_waitingMutex);
-            m_waiting.emplace(priority, std::move(work));
-        }
-        m_pool.start([this] { takeWaiting()(); });
-    }
-
-    std::function<void()> takeWaiting()
-    {
-        const std::scoped_lock lock(m_waitingMutex);
-        return std::move(m_waiting.extract(m_waiting.begin()).mapped());
-    }
-
     void render(Piece &piece, int size)
     {
         const int count = pngSectionCount({size, size});
@@ -101,19 +83,21 @@ private:
             finish(piece, taken.failure());
             return;
         }
-        for (int index = 1; index < count; ++index)
-            start([this, &piece, index] { makeSection(piece, index); }, sectionPriority);
+        for (int index = 1; index < count; ++index) {
+            if (!m_workers.start([this, &piece, index] { makeSection(piece, index); }, sectionPriority))
+                makeSection(piece, index);
+        }
         makeSection(piece, 0);
     }
 
     /// Gives the piece its pixels and room for its sections.
     Outcome takeRows(Piece &piece, QSize size, int sections)
     {
-        const bool isOwnSize = size == m_icon.size() && !size.isEmpty();
-        const Result<QImage> picture = isOwnSize ? m_icon : resampler().scaledTo(size);
-        if (!picture)
-            return picture.failure();
         return withinMemory({}, [&]() -> Outcome {
+            const bool isOwnSize = size == m_icon.size() && !size.isEmpty();
+            const Result<QImage> picture = isOwnSize ? m_icon : resampler().scaledTo(size);
+            if (!picture)
+                return picture.failure();
             piece.rows = std::make_unique<ImageRows>(picture.value());
             // A conversion without memory leaves nothing.
             if (piece.rows->size() != size)
@@ -164,9 +148,7 @@ private:
     std::mutex m_mutex;
     std::condition_variable m_finished;
     std::map<int, std::unique_ptr<Piece>> m_pieces;
-    std::mutex m_waitingMutex; ///< guards the waiting tasks
-    std::multimap<int, std::function<void()>, std::greater<>> m_waiting;
-    QThreadPool m_pool; ///< last, so that its threads end before the members that they use
+    PriorityWorkers m_workers; ///< last, so that its threads end before the members that they use
 };
 
 RenderedIcons::RenderedIcons(const QImage &icon) : m_workshop(std::make_unique<Workshop>(icon)) {}
@@ -175,12 +157,16 @@ RenderedIcons::~RenderedIcons() = default;
 
 void RenderedIcons::prepare(std::span<const int> sizes)
 {
-    m_workshop->prepare(sizes);
+    // A size that finds no memory now is tried again by `png`, which says so.
+    try {
+        m_workshop->prepare(sizes);
+    } catch (const std::bad_alloc &) {
+    }
 }
 
 Result<QByteArray> RenderedIcons::png(int size)
 {
-    return m_workshop->png(size);
+    return withinMemory({}, [&] { return m_workshop->png(size); });
 }
 
 } // namespace lumora

@@ -4,6 +4,7 @@
 #if defined(__GLIBC__)
 #include <malloc.h>
 #include <sys/mman.h>
+#include <sys/resource.h>
 #include <unistd.h>
 
 #include <cstdint>
@@ -15,6 +16,10 @@ namespace lumora
 void keepFreedMemory()
 {
 #if defined(__GLIBC__)
+    // Where the address space is limited, room that is taken ahead is missing elsewhere.
+    rlimit limit{};
+    if (getrlimit(RLIMIT_AS, &limit) != 0 || limit.rlim_cur != RLIM_INFINITY)
+        return;
     constexpr int room = 64 << 20;
     mallopt(M_ARENA_MAX, 1);
     mallopt(M_MMAP_MAX, 0);

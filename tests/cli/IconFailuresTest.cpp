@@ -42,6 +42,8 @@ private slots:
     void outputCannotBeWritten();
     void memoryStaysBounded_data();
     void memoryStaysBounded();
+    void littleMemoryIsReported_data();
+    void littleMemoryIsReported();
     void customSize_data();
     void customSize();
 
@@ -253,6 +255,25 @@ void IconFailuresTest::memoryStaysBounded()
                               .run({u"icon"_s, u"-"_s, u"--size"_s, u"64"_s, u"--to"_s, at(u"out"_s)});
     QCOMPARE(run.complaints().size(), run.status == 0 ? 0 : 1);
     QVERIFY(run.status == 0 || run.status == 1);
+}
+
+void IconFailuresTest::littleMemoryIsReported_data()
+{
+    // From too little for the larger icons to enough for all of them.
+    QTest::addColumn<quint64>("megabytes");
+    for (const quint64 megabytes : {90, 100, 110, 130, 150, 200})
+        QTest::addRow("%llu MB", megabytes) << megabytes;
+}
+
+void IconFailuresTest::littleMemoryIsReported()
+{
+    QFETCH(quint64, megabytes);
+    const LumoraRun run =
+        LumoraProcess()
+            .withMemory(megabytes * 1'000'000)
+            .run({u"icons"_s, u"--example"_s, u"--platform"_s, u"iphone"_s, u"--to"_s, at(u"out"_s)});
+    QVERIFY2(run.status == 0 || run.status == 1, run.err.constData());
+    QCOMPARE(run.complaints().isEmpty(), run.status == 0);
 }
 
 void IconFailuresTest::customSize_data()
