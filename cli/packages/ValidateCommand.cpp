@@ -240,7 +240,7 @@ private:
             const QJsonObject object = wholeJson(file.name, inspection);
             m_shown.append(shownPackage(judged, report, object));
             if (inspection.contents)
-                m_shown.last().sizes = sizeTree(inspection.contents->sizes);
+                m_shown.last().sizes = sizeTree(inspection.contents->files);
             m_objects.append(m_console.object(status, object, schema));
         }
         return status;

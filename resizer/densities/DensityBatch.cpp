@@ -29,6 +29,9 @@ namespace
 /// The memory that all pictures in work may take together.
 constexpr qint64 memoryForPictures = 768LL * 1024 * 1024;
 
+/// The sources a worker that may be taken before the oldest of them is reported.
+constexpr std::size_t sourcesAhead = 4;
+
 /// The decoded picture, its color planes and their halves (twice as deep for a translucent picture), and the largest
 /// result with its file.
 qint64 scalingMemory(QSize pixels)
@@ -123,7 +126,8 @@ private:
     const DensityBatchOptions &m_options;
 };
 
-/// Workers scale the sources; the calling thread reports them in order.
+/// Workers scale the sources; the calling thread reports them in order. The workers keep close to the reports, so that a
+/// stop leaves the rest undone however fast they are.
 class Batch
 {
 public:
@@ -132,6 +136,7 @@ public:
     void run(const SourceScaled &scaled)
     {
         const auto workers = std::min(static_cast<std::size_t>(std::max(QThread::idealThreadCount(), 1)), count());
+        m_lead = sourcesAhead * workers;
         std::vector<std::jthread> threads;
         for (std::size_t i = 0; i < workers; ++i)
             threads.emplace_back([this] { work(); });
@@ -141,6 +146,7 @@ public:
         }
         const std::lock_guard lock(m_mutex);
         m_next = count();
+        m_room.notify_all();
     }
 
 private:
@@ -149,7 +155,10 @@ private:
     void work()
     {
         std::unique_lock lock(m_mutex);
-        while (m_next < count()) {
+        while (true) {
+            m_room.wait(lock, [this] { return m_next >= count() || m_next < m_reported + m_lead; });
+            if (m_next >= count())
+                return;
             const std::size_t index = m_next++;
             lock.unlock();
             std::vector<ScaledFile> files = SourceScaling(m_plan.sources[index], m_options).run(m_budget);
@@ -163,15 +172,20 @@ private:
     {
         std::unique_lock lock(m_mutex);
         m_finished.wait(lock, [this, index] { return m_done.contains(index); });
+        m_reported = index + 1;
+        m_room.notify_all();
         return std::move(m_done.extract(index).mapped());
     }
 
     const DensityPlan &m_plan;
     const DensityBatchOptions &m_options;
     MemoryBudget m_budget{memoryForPictures};
+    std::size_t m_lead = 0; ///< the most sources that the workers are ahead of the reports
 
     std::mutex m_mutex; ///< guards everything below
     std::condition_variable m_finished;
+    std::condition_variable m_room;
+    std::size_t m_reported = 0;
     std::map<std::size_t, std::vector<ScaledFile>> m_done;
     std::size_t m_next = 0;
 };

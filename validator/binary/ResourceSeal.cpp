@@ -102,9 +102,11 @@ bool matches(const SealedFile &sealed, const BundleFile &file)
 {
     if (file.isLink || !sealed.linkTarget.isEmpty())
         return file.isLink && file.linkTarget == sealed.linkTarget;
+    if (!file.digests)
+        return false;
     if (!sealed.sha256.isEmpty())
-        return sealed.sha256 == file.sha256;
-    return !sealed.sha1.isEmpty() && sealed.sha1 == file.sha1;
+        return sealed.sha256 == QByteArrayView(file.digests->sha256);
+    return sealed.sha1 == QByteArrayView(file.digests->sha1);
 }
 
 } // namespace
@@ -125,7 +127,7 @@ std::optional<ResourceSeal> readResourceSeal(const QByteArray &bytes)
     return seal;
 }
 
-SealFindings compareWithSeal(const ResourceSeal &seal, const QMap<QString, BundleFile> &files,
+SealFindings compareWithSeal(const ResourceSeal &seal, const QMap<QStringView, BundleFile> &files,
                              const SealSubject &subject)
 {
     SealFindings findings;
@@ -150,7 +152,7 @@ SealFindings compareWithSeal(const ResourceSeal &seal, const QMap<QString, Bundl
     }
     const QList<ReadyRule> rules = readyRules(seal.rules);
     for (auto file = files.cbegin(); file != files.cend(); ++file) {
-        const QString &path = file.key();
+        const QString path = file.key().toString();
         if (seal.files.contains(path) || isNeverSealed(path, subject))
             continue;
         // Nested code seals its own files.

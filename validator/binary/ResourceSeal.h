@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "validator/crypto/Digest.h"
+
 #include <QByteArray>
 #include <QList>
 #include <QMap>
@@ -45,8 +47,7 @@ std::optional<ResourceSeal> readResourceSeal(const QByteArray &bytes);
 /// A file as it is in the bundle.
 struct BundleFile
 {
-    QByteArray sha1; ///< empty if it was not computed
-    QByteArray sha256;
+    std::optional<FileDigests> digests; ///< empty if the content was not read
     QString linkTarget;
     bool isLink = false;
 };
@@ -68,7 +69,8 @@ struct SealSubject
     QMap<QString, QList<QByteArray>> nestedHashes; ///< from the path of nested code to its directories' short hashes
 };
 
-SealFindings compareWithSeal(const ResourceSeal &seal, const QMap<QString, BundleFile> &files,
+/// Compares the files of a bundle, by path in the bundle, with its seal.
+SealFindings compareWithSeal(const ResourceSeal &seal, const QMap<QStringView, BundleFile> &files,
                              const SealSubject &subject);
 
 } // namespace lumora

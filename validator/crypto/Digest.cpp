@@ -3,6 +3,8 @@
 
 #include "OpenSsl.h"
 
+#include <algorithm>
+
 namespace lumora
 {
 
@@ -85,6 +87,29 @@ QByteArray Digest::of(DigestKind kind, QByteArrayView bytes)
     Digest digest(kind);
     digest.add(bytes);
     return digest.result();
+}
+
+FileDigests FileDigests::of(QByteArrayView bytes)
+{
+    FileDigesting digesting;
+    digesting.add(bytes);
+    return digesting.result();
+}
+
+void FileDigesting::add(QByteArrayView bytes)
+{
+    m_sha1.add(bytes);
+    m_sha256.add(bytes);
+}
+
+FileDigests FileDigesting::result()
+{
+    const QByteArray sha1 = m_sha1.result();
+    const QByteArray sha256 = m_sha256.result();
+    FileDigests digests;
+    std::copy_n(sha1.cbegin(), std::min<qsizetype>(sha1.size(), std::ssize(digests.sha1)), digests.sha1.begin());
+    std::copy_n(sha256.cbegin(), std::min<qsizetype>(sha256.size(), std::ssize(digests.sha256)), digests.sha256.begin());
+    return digests;
 }
 
 } // namespace lumora

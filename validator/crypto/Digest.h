@@ -4,6 +4,7 @@
 #include <QByteArray>
 #include <QByteArrayView>
 
+#include <array>
 #include <memory>
 
 struct evp_md_ctx_st;
@@ -43,6 +44,28 @@ private:
     };
     DigestKind m_kind;
     std::unique_ptr<evp_md_ctx_st, Free> m_context;
+};
+
+/// The two digests that seals give of a file, without memory of their own: a package may have 100,000 files.
+struct FileDigests
+{
+    std::array<char, 20> sha1{};
+    std::array<char, 32> sha256{};
+
+    static FileDigests of(QByteArrayView bytes);
+};
+
+/// Computes both digests of content that comes piece by piece.
+class FileDigesting
+{
+public:
+    void add(QByteArrayView bytes);
+    /// The digests. Call it once.
+    FileDigests result();
+
+private:
+    Digest m_sha1{DigestKind::Sha1};
+    Digest m_sha256{DigestKind::Sha256};
 };
 
 } // namespace lumora

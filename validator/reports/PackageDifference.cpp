@@ -164,11 +164,11 @@ Totals totalsOf(const PackageContents &contents)
     for (const PackageBinary &binary : contents.binaries)
         binaries += binary.path;
     Totals totals;
-    for (auto each = contents.sizes.begin(); each != contents.sizes.end(); ++each) {
-        for (const QString &kind : {kindOf(each.key(), binaries), QString()}) {
+    for (const auto &[path, size] : contents.files) {
+        for (const QString &kind : {kindOf(path, binaries), QString()}) {
             FileTotal &total = totals[kind];
             ++total.files;
-            total.bytes += each.value();
+            total.bytes += size;
         }
     }
     return totals;
@@ -190,8 +190,8 @@ QList<KindTotals> kindsBetween(const Totals &before, const Totals &after)
 QMap<QString, quint64> sizesInApp(const PackageContents &contents)
 {
     QMap<QString, quint64> sizes;
-    for (auto each = contents.sizes.begin(); each != contents.sizes.end(); ++each)
-        sizes.insert(pathInApp(contents, each.key()), each.value());
+    for (const auto &[path, size] : contents.files)
+        sizes.insert(pathInApp(contents, path), size);
     return sizes;
 }
 

@@ -9,32 +9,32 @@ namespace lumora
 namespace
 {
 
-using Sizes = QMap<QString, quint64>;
+using Place = QList<PackageFile>::const_iterator;
 
 /// The files from `first` to `end`, all of which begin with the same `start` characters: a folder and its slash.
-SizeNode nodeOf(const QString &name, Sizes::const_iterator first, Sizes::const_iterator end, qsizetype start, int depth)
+SizeNode nodeOf(const QString &name, Place first, Place end, qsizetype start, int depth)
 {
     SizeNode node{name, 0, 0, {}, 0};
     // No deeper, however deep a name out of an archive goes.
     if (depth == SizeNode::depthKept) {
         for (; first != end; ++first) {
-            node.bytes += first.value();
+            node.bytes += first->size;
             ++node.files;
         }
         return node;
     }
     while (first != end) {
-        const qsizetype slash = first.key().indexOf(u'/', start);
-        const QString part = first.key().mid(start, slash < 0 ? -1 : slash - start);
+        const qsizetype slash = first->path.indexOf(u'/', start);
+        const QString part = first->path.mid(start, slash < 0 ? -1 : slash - start);
         auto next = first;
         SizeNode child{part, 0, 0, {}, 0};
         if (slash < 0) {
-            child.bytes = next.value();
+            child.bytes = next->size;
             child.files = 1;
             ++next;
         } else {
-            const QString folder = first.key().first(slash + 1);
-            while (next != end && next.key().startsWith(folder))
+            const QString folder = first->path.first(slash + 1);
+            while (next != end && next->path.startsWith(folder))
                 ++next;
             child = nodeOf(part, first, next, slash + 1, depth + 1);
         }
@@ -51,9 +51,9 @@ SizeNode nodeOf(const QString &name, Sizes::const_iterator first, Sizes::const_i
 
 } // namespace
 
-SizeNode sizeTree(const QMap<QString, quint64> &sizes)
+SizeNode sizeTree(const QList<PackageFile> &files)
 {
-    return nodeOf({}, sizes.constBegin(), sizes.constEnd(), 0, 0);
+    return nodeOf({}, files.constBegin(), files.constEnd(), 0, 0);
 }
 
 } // namespace lumora

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "validator/rules/PackageContents.h"
+
 #include <QList>
-#include <QMap>
 #include <QString>
 
 namespace lumora
@@ -22,7 +23,7 @@ struct SizeNode
     static constexpr int depthKept = 12;
 };
 
-/// The tree of files with these paths and sizes.
-SizeNode sizeTree(const QMap<QString, quint64> &sizes);
+/// The tree of these files, which are ordered by path.
+SizeNode sizeTree(const QList<PackageFile> &files);
 
 } // namespace lumora

@@ -51,7 +51,7 @@ QStringList foldersIn(const PackageContents &contents, const QString &extension,
 {
     const QString mark = extension + u'/' + folder + u'/';
     QStringList found;
-    for (const QString &path : contents.paths) {
+    for (const auto &[path, size] : contents.files) {
         const qsizetype at = path.indexOf(mark);
         if (at < 0)
             continue;

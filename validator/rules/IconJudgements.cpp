@@ -71,7 +71,7 @@ bool looseIconHas(const PackageContents &contents, int edge)
 {
     static const QRegularExpression form(u"(\\d+(?:\\.\\d+)?)x\\1(?:@(\\d)x)?(?:~\\w+)?\\.png$"_s);
     const QString start = contents.app()->path + u'/';
-    for (const QString &path : contents.paths) {
+    for (const auto &[path, size] : contents.files) {
         if (!path.startsWith(start) || path.indexOf(u'/', start.size()) >= 0)
             continue;
         const auto match = form.match(path);

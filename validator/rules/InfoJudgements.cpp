@@ -244,7 +244,7 @@ Judgement judgeLocalizationHoles(const PackageContents &contents, const RuleSett
     const QString start = contents.app()->path + u'/';
     // From language to its tables, of the app itself only.
     QMap<QString, QSet<QString>> tables;
-    for (const QString &path : contents.paths) {
+    for (const auto &[path, size] : contents.files) {
         const QStringList steps = path.startsWith(start) ? path.mid(start.size()).split(u'/') : QStringList();
         if (steps.size() == 2 && steps[0].endsWith(".lproj"_L1) && steps[0] != "Base.lproj"_L1 &&
             steps[1].endsWith(".strings"_L1))

@@ -4,10 +4,10 @@
 #include "validator/binary/MachOReader.h"
 #include "validator/bundle/PropertyList.h"
 
-#include <QHash>
-
 #include <algorithm>
+#include <map>
 #include <mutex>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -20,12 +20,10 @@ namespace
 constexpr qsizetype largestBinary = qsizetype{1} << 30;
 constexpr qsizetype largestKept = 64 << 20;
 
-/// The result of reading one file of the package.
-struct ReadFile
+/// What a file holds beside its digests, for the few files that hold facts.
+struct FoundFacts
 {
-    QByteArray sha1;
-    QByteArray sha256;
-    QByteArray content; ///< only for files with facts
+    QByteArray content;
     std::optional<PackageBinary> binary;
     bool isStaticArchive = false;
 };
@@ -50,57 +48,91 @@ PackageBinary readBinary(const QString &path, const QByteArray &content, BinaryF
     return binary;
 }
 
-/// The results of the reading threads.
-struct Gathering
+/// The results of the reading threads, by the entry's place in the source's list. Most files give digests only, so that
+/// the memory is small however many there are.
+class Gathering
 {
-    std::mutex mutex;
-    QHash<QString, ReadFile> files;
+public:
+    explicit Gathering(const PackageSource &source)
+        : m_source(source), m_digests(static_cast<std::size_t>(source.entries().size()))
+    {
+    }
+
+    void add(const PackageEntry &entry, const FileDigests &digests, FoundFacts found)
+    {
+        const std::size_t place = placeOf(entry);
+        const std::lock_guard lock(m_mutex);
+        m_digests[place] = digests;
+        if (found.binary || found.isStaticArchive || !found.content.isEmpty())
+            m_found.emplace(place, std::move(found));
+    }
+
+    /// Call these only when all threads are done.
+    const std::optional<FileDigests> &digests(const PackageEntry &entry) const { return m_digests[placeOf(entry)]; }
+    /// Null for a file without facts.
+    const FoundFacts *found(const PackageEntry &entry) const
+    {
+        const auto found = m_found.find(placeOf(entry));
+        return found == m_found.end() ? nullptr : &found->second;
+    }
+    QByteArray content(const QString &path) const
+    {
+        const PackageEntry *entry = m_source.find(path);
+        const FoundFacts *facts = entry == nullptr ? nullptr : found(*entry);
+        return facts == nullptr ? QByteArray() : facts->content;
+    }
+
+private:
+    std::size_t placeOf(const PackageEntry &entry) const
+    {
+        return static_cast<std::size_t>(&entry - m_source.entries().constData());
+    }
+
+    const PackageSource &m_source;
+    std::mutex m_mutex;
+    std::vector<std::optional<FileDigests>> m_digests;
+    std::map<std::size_t, FoundFacts> m_found;
 };
 
 class FileConsumer final : public EntryConsumer
 {
 public:
     FileConsumer(const PackageEntry &entry, Gathering &gathering)
-        : m_path(entry.path), m_gathering(gathering), m_keeps(isKept(entry.name()))
+        : m_entry(entry), m_gathering(gathering), m_keeps(isKept(entry.name()))
     {
     }
 
     void take(QByteArrayView bytes) override
     {
-        m_sha1.add(bytes);
-        m_sha256.add(bytes);
+        m_digesting.add(bytes);
         if (m_first) {
             m_first = false;
             m_isBinary = isMachO(bytes);
-            m_file.isStaticArchive = isStaticArchive(bytes);
+            m_found.isStaticArchive = isStaticArchive(bytes);
         }
         const qsizetype limit = m_isBinary ? largestBinary : largestKept;
-        if ((m_keeps || m_isBinary) && m_file.content.size() + bytes.size() <= limit)
-            m_file.content.append(bytes);
+        if ((m_keeps || m_isBinary) && m_found.content.size() + bytes.size() <= limit)
+            m_found.content.append(bytes);
     }
 
     void finish(bool) override
     {
-        m_file.sha1 = m_sha1.result();
-        m_file.sha256 = m_sha256.result();
         if (m_isBinary) {
-            if (auto facts = readMachO(m_file.content))
-                m_file.binary = readBinary(m_path, m_file.content, std::move(*facts));
-            m_file.content.clear();
+            if (auto facts = readMachO(m_found.content))
+                m_found.binary = readBinary(m_entry.path, m_found.content, std::move(*facts));
+            m_found.content.clear();
         }
-        const std::lock_guard lock(m_gathering.mutex);
-        m_gathering.files.insert(m_path, std::move(m_file));
+        m_gathering.add(m_entry, m_digesting.result(), std::move(m_found));
     }
 
 private:
-    QString m_path;
+    const PackageEntry &m_entry;
     Gathering &m_gathering;
     bool m_keeps;
     bool m_first = true;
     bool m_isBinary = false;
-    Digest m_sha1{DigestKind::Sha1};
-    Digest m_sha256{DigestKind::Sha256};
-    ReadFile m_file;
+    FileDigesting m_digesting;
+    FoundFacts m_found;
 };
 
 std::optional<BundleKind> bundleKind(const QString &path)
@@ -132,7 +164,7 @@ public:
 private:
     QString appPath() const;
     PackageBundle bundleAt(const QString &path, BundleKind kind) const;
-    QByteArray content(const QString &path) const { return m_gathering.files.value(path).content; }
+    QByteArray content(const QString &path) const { return m_gathering.content(path); }
     void compareSeal(PackageBundle &bundle) const;
 
     const PackageSource &m_source;
@@ -145,15 +177,14 @@ void ContentsReading::readFiles()
     for (const PackageEntry &entry : m_source.entries()) {
         if (entry.kind == EntryKind::Folder)
             continue;
-        m_contents.paths += entry.path;
-        m_contents.sizes.insert(entry.path, entry.size);
+        m_contents.files += PackageFile{entry.path, entry.size};
         m_contents.packedSize += entry.packedSize;
-        const auto file = m_gathering.files.constFind(entry.path);
-        if (entry.kind != EntryKind::File || file == m_gathering.files.cend())
+        const FoundFacts *found = m_gathering.found(entry);
+        if (entry.kind != EntryKind::File || found == nullptr)
             continue;
-        if (file->binary)
-            m_contents.binaries += *file->binary;
-        if (file->isStaticArchive)
+        if (found->binary)
+            m_contents.binaries += *found->binary;
+        if (found->isStaticArchive)
             m_contents.staticArchives += entry.path;
     }
 }
@@ -227,13 +258,12 @@ void ContentsReading::compareSeal(PackageBundle &bundle) const
     if (!seal)
         return;
     bundle.seal.present = true;
-    QMap<QString, BundleFile> files;
+    QMap<QStringView, BundleFile> files;
     for (const PackageEntry &entry : m_source.entries()) {
         if (entry.kind == EntryKind::Folder || !entry.path.startsWith(start))
             continue;
-        const ReadFile read = m_gathering.files.value(entry.path);
-        files.insert(entry.path.mid(start.size()),
-                     {read.sha1, read.sha256, entry.linkTarget, entry.kind == EntryKind::Link});
+        files.insert(files.cend(), QStringView(entry.path).sliced(start.size()),
+                     {m_gathering.digests(entry), entry.linkTarget, entry.kind == EntryKind::Link});
     }
     SealSubject subject{bundle.executable.mid(start.size()), {}};
     for (const PackageBundle &nested : m_contents.bundles) {
@@ -286,15 +316,21 @@ const CodeSignature *PackageContents::signatureOf(const PackageBundle &bundle) c
     return binary == nullptr || !binary->isSigned() ? nullptr : &binary->signatures.first();
 }
 
+bool PackageContents::holds(const QString &path) const
+{
+    return std::ranges::binary_search(files, path, {}, &PackageFile::path);
+}
+
 bool PackageContents::holdsFolder(const QString &path) const
 {
-    const auto found = sizes.lowerBound(path + u'/');
-    return found != sizes.cend() && found.key().startsWith(path + u'/');
+    const QString start = path + u'/';
+    const auto found = std::ranges::lower_bound(files, start, {}, &PackageFile::path);
+    return found != files.cend() && found->path.startsWith(start);
 }
 
 PackageContents readPackageContents(const PackageSource &source, const std::stop_token &stop)
 {
-    Gathering gathering;
+    Gathering gathering(source);
     WholeReading reading = source.readAll(
         [&](const PackageEntry &entry) { return std::make_unique<FileConsumer>(entry, gathering); }, stop);
     PackageContents contents;

@@ -9,7 +9,6 @@
 #include "validator/binary/ProvisioningProfile.h"
 #include "validator/binary/ResourceSeal.h"
 
-#include <QMap>
 #include <QVariantMap>
 
 #include <optional>
@@ -61,14 +60,19 @@ struct PackageBundle
     QString name() const { return path.mid(path.lastIndexOf(u'/') + 1); }
 };
 
+struct PackageFile
+{
+    QString path;
+    quint64 size = 0; ///< unpacked; bytes
+};
+
 /// The contents of a package, read once; independent of rules.
 struct PackageContents
 {
     QList<PackageBundle> bundles; ///< the app first; empty if there is none
     QList<PackageBinary> binaries;
     QStringList staticArchives;
-    QStringList paths;            ///< all files and links, in order
-    QMap<QString, quint64> sizes; ///< of files, unpacked; bytes
+    QList<PackageFile> files; ///< all files and links, ordered by path, code unit by code unit
     quint64 packedSize = 0;
     bool isArchive = false; ///< an .ipa; other forms have no files beside "Payload" yet
     WholeReading reading;   ///< how the reading itself went
@@ -76,7 +80,7 @@ struct PackageContents
     const PackageBundle *app() const { return bundles.isEmpty() ? nullptr : &bundles.first(); }
     const PackageBinary *binaryOf(const PackageBundle &bundle) const;
     const CodeSignature *signatureOf(const PackageBundle &bundle) const;
-    bool holds(const QString &path) const { return sizes.contains(path); }
+    bool holds(const QString &path) const;
     bool holdsFolder(const QString &path) const;
 };
 

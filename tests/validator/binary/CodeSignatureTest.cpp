@@ -15,12 +15,12 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-QMap<QString, BundleFile> filesOf(const QMap<QString, QByteArray> &contents)
+/// The names are views into the keys of the argument.
+QMap<QStringView, BundleFile> filesOf(const QMap<QString, QByteArray> &contents)
 {
-    QMap<QString, BundleFile> files;
+    QMap<QStringView, BundleFile> files;
     for (auto file = contents.cbegin(); file != contents.cend(); ++file)
-        files.insert(file.key(),
-                     {Digest::of(DigestKind::Sha1, *file), Digest::of(DigestKind::Sha256, *file), {}, false});
+        files.insert(file.key(), {FileDigests::of(*file), {}, false});
     return files;
 }
 
@@ -180,8 +180,8 @@ private slots:
             found.remove(path);
         else
             found.insert(path, content);
-        QMap<QString, BundleFile> files = filesOf(found);
-        files.insert(u"link"_s, {{}, {}, u"a/b.txt"_s, true});
+        QMap<QStringView, BundleFile> files = filesOf(found);
+        files.insert(u"link", {{}, u"a/b.txt"_s, true});
         const SealFindings findings = compareWithSeal(*seal, files, {u"Lamp"_s, {}});
         const QStringList expected = where.isEmpty() ? QStringList() : QStringList{path};
         QCOMPARE(findings.changed, where == "changed"_L1 ? expected : QStringList());
@@ -192,10 +192,11 @@ private slots:
     void comparesLinks()
     {
         const auto seal = readResourceSeal(contents("seal"));
-        QMap<QString, BundleFile> files = filesOf(sealedContents());
-        files.insert(u"link"_s, {{}, {}, u"lamp.png"_s, true});
+        const QMap<QString, QByteArray> sealed = sealedContents();
+        QMap<QStringView, BundleFile> files = filesOf(sealed);
+        files.insert(u"link", {{}, u"lamp.png"_s, true});
         QCOMPARE(compareWithSeal(*seal, files, {u"Lamp"_s, {}}).changed, QStringList{u"link"_s});
-        files.remove(u"link"_s);
+        files.remove(u"link");
         QCOMPARE(compareWithSeal(*seal, files, {u"Lamp"_s, {}}).missing, QStringList{u"link"_s});
     }
 
@@ -214,8 +215,9 @@ private slots:
         const auto seal = readResourceSeal(contents("seal of nested code"));
         QVERIFY(seal);
         const QString bulb = u"Frameworks/Bulb.framework"_s;
-        const auto files =
-            filesOf({{u"lamp.png"_s, "picture"}, {bulb + u"/Bulb", "code"}, {bulb + u"/Info.plist", "info"}});
+        const QMap<QString, QByteArray> found{
+            {u"lamp.png"_s, "picture"}, {bulb + u"/Bulb", "code"}, {bulb + u"/Info.plist", "info"}};
+        const auto files = filesOf(found);
         QVERIFY(compareWithSeal(*seal, files, {u"Lamp"_s, {{bulb, {QByteArray(20, 'b')}}}}).isEmpty());
         QCOMPARE(compareWithSeal(*seal, files, {u"Lamp"_s, {{bulb, {QByteArray(20, 'c')}}}}).changed,
                  QStringList{bulb});
@@ -235,9 +237,12 @@ private slots:
     {
         const auto seal = readResourceSeal(contents("seal with a slow rule"));
         QVERIFY(seal);
-        QMap<QString, BundleFile> files;
+        QStringList names;
         for (int i = 0; i < 1000; ++i)
-            files.insert(QString(200, u'a') + QString::number(i) + u'!', {});
+            names += QString(200, u'a') + QString::number(i) + u'!';
+        QMap<QStringView, BundleFile> files;
+        for (const QString &name : names)
+            files.insert(name, {});
         QElapsedTimer timer;
         timer.start();
         QCOMPARE(compareWithSeal(*seal, files, {}).extra.size(), 1000);
