@@ -32,7 +32,7 @@ int main(int argc, char **argv)
     installTexts(*qApp, QLocale(QStringLiteral("en_GB")));
     applyAppColors();
     QLoggingCategory::setFilterRules(QStringLiteral("*.info=false"));
-    RecordingServices services{{}, {}, {}, {}, workFolder.value()->path()};
+    RecordingServices services{{}, {}, {}, {}, {}, workFolder.value()->path()};
     AppDelegate delegate(services.services());
     delegate.applicationDidFinishLaunching();
     delegate.showTool(QStringLiteral("validator"));

@@ -126,8 +126,8 @@ private:
     const DensityBatchOptions &m_options;
 };
 
-/// Workers scale the sources; the calling thread reports them in order. The workers keep close to the reports, so that a
-/// stop leaves the rest undone however fast they are.
+/// Workers scale the sources; the calling thread reports them in order. The workers keep close to the reports, so that
+/// a stop leaves the rest undone however fast they are.
 class Batch
 {
 public:

@@ -268,10 +268,9 @@ void IconFailuresTest::littleMemoryIsReported_data()
 void IconFailuresTest::littleMemoryIsReported()
 {
     QFETCH(quint64, megabytes);
-    const LumoraRun run =
-        LumoraProcess()
-            .withMemory(megabytes * 1'000'000)
-            .run({u"icons"_s, u"--example"_s, u"--platform"_s, u"iphone"_s, u"--to"_s, at(u"out"_s)});
+    const LumoraRun run = LumoraProcess()
+                              .withMemory(megabytes * 1'000'000)
+                              .run({u"icons"_s, u"--example"_s, u"--platform"_s, u"iphone"_s, u"--to"_s, at(u"out"_s)});
     QVERIFY2(run.status == 0 || run.status == 1, run.err.constData());
     QCOMPARE(run.complaints().isEmpty(), run.status == 0);
 }

@@ -89,13 +89,6 @@ QByteArray Digest::of(DigestKind kind, QByteArrayView bytes)
     return digest.result();
 }
 
-FileDigests FileDigests::of(QByteArrayView bytes)
-{
-    FileDigesting digesting;
-    digesting.add(bytes);
-    return digesting.result();
-}
-
 void FileDigesting::add(QByteArrayView bytes)
 {
     m_sha1.add(bytes);
@@ -108,7 +101,8 @@ FileDigests FileDigesting::result()
     const QByteArray sha256 = m_sha256.result();
     FileDigests digests;
     std::copy_n(sha1.cbegin(), std::min<qsizetype>(sha1.size(), std::ssize(digests.sha1)), digests.sha1.begin());
-    std::copy_n(sha256.cbegin(), std::min<qsizetype>(sha256.size(), std::ssize(digests.sha256)), digests.sha256.begin());
+    std::copy_n(sha256.cbegin(), std::min<qsizetype>(sha256.size(), std::ssize(digests.sha256)),
+                digests.sha256.begin());
     return digests;
 }
 

@@ -51,8 +51,6 @@ struct FileDigests
 {
     std::array<char, 20> sha1{};
     std::array<char, 32> sha256{};
-
-    static FileDigests of(QByteArrayView bytes);
 };
 
 /// Computes both digests of content that comes piece by piece.

@@ -15,12 +15,19 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
+FileDigests digestsOf(const QByteArray &content)
+{
+    FileDigesting digesting;
+    digesting.add(content);
+    return digesting.result();
+}
+
 /// The names are views into the keys of the argument.
 QMap<QStringView, BundleFile> filesOf(const QMap<QString, QByteArray> &contents)
 {
     QMap<QStringView, BundleFile> files;
     for (auto file = contents.cbegin(); file != contents.cend(); ++file)
-        files.insert(file.key(), {FileDigests::of(*file), {}, false});
+        files.insert(file.key(), {digestsOf(*file), {}, false});
     return files;
 }
 
