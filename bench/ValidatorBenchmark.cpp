@@ -32,7 +32,8 @@ int main(int argc, char **argv)
     installTexts(*qApp, QLocale(QStringLiteral("en_GB")));
     applyAppColors();
     QLoggingCategory::setFilterRules(QStringLiteral("*.info=false"));
-    RecordingServices services{{}, {}, {}, {}, {}, workFolder.value()->path()};
+    RecordingServices services;
+    services.workFolder = workFolder.value()->path();
     AppDelegate delegate(services.services());
     delegate.applicationDidFinishLaunching();
     delegate.showTool(QStringLiteral("validator"));
