@@ -4,6 +4,7 @@
 #include "PngRows.h"
 #include "PngSection.h"
 #include "foundation/MemoryLimit.h"
+#include "pictures/pixels/PixelFormat.h"
 
 #include <algorithm>
 #include <array>
@@ -38,7 +39,8 @@ template <typename Work> Result<QByteArray> encoded(const QImage &picture, const
     });
 }
 
-Result<QByteArray> encodedInSections(const PngRows &picture, int threads, const QString &name)
+Result<QByteArray> encodedInSections(const PngRows &picture, int threads, const QString &name,
+                                     PngChannels channels = PngChannels::Rgba)
 {
     std::vector<PngSection> sections(static_cast<std::size_t>(pngSectionCount(picture.size())));
     std::atomic<std::size_t> next = 0;
@@ -46,7 +48,7 @@ Result<QByteArray> encodedInSections(const PngRows &picture, int threads, const 
     const auto makeSections = [&] {
         const Outcome made = withinMemory(name, [&]() -> Outcome {
             for (std::size_t index = next++; index < sections.size(); index = next++)
-                sections[index] = makePngSection(picture, static_cast<int>(index));
+                sections[index] = makePngSection(picture, static_cast<int>(index), channels);
             return Done{};
         });
         if (!made)
@@ -60,7 +62,7 @@ Result<QByteArray> encodedInSections(const PngRows &picture, int threads, const 
     }
     if (!isWhole)
         return outOfMemory(name);
-    return joinPngSections(picture.size(), sections);
+    return joinPngSections(picture.size(), sections, channels);
 }
 
 } // namespace
@@ -82,6 +84,21 @@ Result<QByteArray> encodePng(const PngRows &picture, int threads, const QString 
     if (picture.size().isEmpty())
         return emptyPicture(name);
     return withinMemory(name, [&] { return encodedInSections(picture, threads, name); });
+}
+
+Result<QByteArray> encodeOpaquePng(const PngRows &picture, int threads, const QString &name)
+{
+    if (picture.size().isEmpty())
+        return emptyPicture(name);
+    return withinMemory(name, [&] { return encodedInSections(picture, threads, name, PngChannels::Rgb); });
+}
+
+Result<QByteArray> encodeOpaquePng(const QImage &picture, int threads, const QString &name)
+{
+    // The premultiplied colors are those of the picture on black.
+    QImage onBlack = premultiplied(picture);
+    onBlack.reinterpretAsFormat(QImage::Format_RGBA8888);
+    return encoded(onBlack, name, [&](const PngRows &rows) { return encodeOpaquePng(rows, threads, name); });
 }
 
 } // namespace lumora

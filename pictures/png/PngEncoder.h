@@ -24,4 +24,10 @@ Result<QByteArray> encodePngQuickly(const QImage &picture, const QString &name);
 /// besides the compressed file, only one section for each thread is in memory.
 Result<QByteArray> encodePng(const PngRows &picture, int threads, const QString &name);
 
+/// The rows as a PNG file without an alpha channel: 8-bit RGB, else as `encodePng` makes it. Their alpha is left out.
+Result<QByteArray> encodeOpaquePng(const PngRows &picture, int threads, const QString &name);
+
+/// The picture as a PNG file without an alpha channel; what it lets through shows black.
+Result<QByteArray> encodeOpaquePng(const QImage &picture, int threads, const QString &name);
+
 } // namespace lumora

@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstring>
 #include <utility>
 #include <vector>
 
@@ -89,13 +90,16 @@ void appendChunk(QByteArray &file, QByteArrayView type, QByteArrayView content)
     append32(file, libdeflate_crc32(0, file.constData() + checked, static_cast<std::size_t>(file.size() - checked)));
 }
 
-QByteArray header(QSize size)
+QByteArray header(QSize size, PngChannels channels)
 {
     QByteArray content;
     append32(content, static_cast<std::uint32_t>(size.width()));
     append32(content, static_cast<std::uint32_t>(size.height()));
-    // 8 bits a sample, RGBA, deflate, adaptive filters, not interlaced.
-    content.append(QByteArrayView("\x08\x06\x00\x00\x00", 5));
+    content.append(8);
+    // The types of color: RGB with and without alpha.
+    content.append(channels == PngChannels::Rgba ? 6 : 2);
+    // Deflate, adaptive filters, not interlaced.
+    content.append(3, '\0');
     return content;
 }
 
@@ -109,6 +113,22 @@ CompressedRows compressed(std::vector<std::uint8_t> rows, int level)
 {
     QByteArray stream = deflated(rows, level);
     return {std::move(rows), std::move(stream)};
+}
+
+/// Every filter looks at one channel alone, so the filtered rows of RGBA without each fourth byte are those of RGB.
+std::vector<std::uint8_t> withoutAlpha(const std::vector<std::uint8_t> &rows, int width)
+{
+    const std::size_t from = static_cast<std::size_t>(width) * 4 + 1;
+    const std::size_t to = static_cast<std::size_t>(width) * 3 + 1;
+    std::vector<std::uint8_t> result(rows.size() / from * to);
+    for (std::size_t row = 0; row < rows.size() / from; ++row) {
+        const std::uint8_t *in = rows.data() + row * from;
+        std::uint8_t *out = result.data() + row * to;
+        *out++ = *in++;
+        for (int x = 0; x < width; ++x, in += 4, out += 3)
+            std::memcpy(out, in, 3);
+    }
+    return result;
 }
 
 /// The rows from which a section's filters are chosen; all rows of a small section.
@@ -132,16 +152,19 @@ std::vector<RowRange> sampleOf(const PngRows &picture, RowRange section)
 
 /// No rule predicts the best filters: plain shapes shrink most without a filter, gentle gradients by the pixel to the
 /// left, and photographs as often by one filter for all rows as by a choice for each row. So the choices are tried.
-CompressedRows compressed(const PngRows &picture, RowRange section)
+CompressedRows compressed(const PngRows &picture, RowRange section, PngChannels channels)
 {
     const std::vector<RowRange> sample = sampleOf(picture, section);
     std::vector<std::uint8_t> plain = filteredRows(picture, sample, PngFilterChoice::None);
     const bool noisy = novelty(plain, picture.size().width()) > mostNoveltyOfDrawings;
     const int trial = noisy ? trialLevel : drawingTrialLevel;
     PngFilterChoice choice = PngFilterChoice::Left;
-    CompressedRows best = compressed(filteredRows(picture, sample, choice), trial);
+    const auto stored = [&](std::vector<std::uint8_t> rows) {
+        return channels == PngChannels::Rgba ? rows : withoutAlpha(rows, picture.size().width());
+    };
+    CompressedRows best = compressed(stored(filteredRows(picture, sample, choice)), trial);
     const auto tryRows = [&](PngFilterChoice other, std::vector<std::uint8_t> rows, qsizetype leastGain) {
-        CompressedRows tried = compressed(std::move(rows), trial);
+        CompressedRows tried = compressed(stored(std::move(rows)), trial);
         if (tried.stream.size() >= best.stream.size() - leastGain)
             return;
         best = std::move(tried);
@@ -160,7 +183,7 @@ CompressedRows compressed(const PngRows &picture, RowRange section)
     if (choice != PngFilterChoice::None)
         tryOther(PngFilterChoice::ByEntropy, best.stream.size() / leastGainOfRows);
     if (const bool sampleIsAll = sample.size() == 1; !sampleIsAll)
-        best.rows = filteredRows(picture, {&section, 1}, choice);
+        best.rows = stored(filteredRows(picture, {&section, 1}, choice));
     const Levels &levels = noisy ? noiseLevels : choice == PngFilterChoice::None ? shapesLevels : drawingLevels;
     best.stream = deflated(best.rows, levelFor(levels, picture.size()));
     return best;
@@ -183,13 +206,13 @@ int pngSectionCount(QSize size)
     return static_cast<int>(std::clamp<qsizetype>(bytes / bytesPerSection, 1, std::max(size.height(), 1)));
 }
 
-PngSection makePngSection(const PngRows &picture, int index)
+PngSection makePngSection(const PngRows &picture, int index, PngChannels channels)
 {
     const qint64 height = picture.size().height();
     const qint64 sections = pngSectionCount(picture.size());
     const int first = static_cast<int>(height * index / sections);
     const int end = static_cast<int>(height * (index + 1) / sections);
-    PngSection section = finished(compressed(picture, {first, end}));
+    PngSection section = finished(compressed(picture, {first, end}, channels));
     if (index + 1 < sections)
         keepOpen(section.deflated);
     // The buffer has the length of the worst case; for a large, plain picture nearly all of it is unused.
@@ -219,7 +242,7 @@ PngSection makeOnlyPngSection(const PngRows &picture)
     return finished(std::move(drawing));
 }
 
-QByteArray joinPngSections(QSize size, std::span<const PngSection> sections)
+QByteArray joinPngSections(QSize size, std::span<const PngSection> sections, PngChannels channels)
 {
     // The zlib header names a 32 KiB window and gives no compression level.
     QByteArray stream(QByteArrayView("\x78\x9C", 2).toByteArray());
@@ -232,7 +255,7 @@ QByteArray joinPngSections(QSize size, std::span<const PngSection> sections)
 
     QByteArray file(pngSignature.toByteArray());
     file.reserve(stream.size() + 128);
-    appendChunk(file, "IHDR", header(size));
+    appendChunk(file, "IHDR", header(size, channels));
     // Rendering intent: perceptual.
     appendChunk(file, "sRGB", QByteArrayView("\x00", 1));
     appendChunk(file, "IDAT", stream);

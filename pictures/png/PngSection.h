@@ -12,6 +12,12 @@ namespace lumora
 
 class PngRows;
 
+/// What a PNG file holds of each pixel, 8 bits a channel.
+enum class PngChannels {
+    Rgba,
+    Rgb, ///< without alpha
+};
+
 /// A run of rows of one picture, filtered and deflated by itself, so that several cores can work inside one picture.
 /// The sections depend only on the picture's size, not on the machine, so the file's bytes are the same everywhere.
 struct PngSection
@@ -25,13 +31,13 @@ struct PngSection
 int pngSectionCount(QSize size);
 
 /// Makes one section of a picture. Sections may be made in any order, on any threads.
-PngSection makePngSection(const PngRows &picture, int index);
+PngSection makePngSection(const PngRows &picture, int index, PngChannels channels = PngChannels::Rgba);
 
 /// The whole picture as a single section, made with as much effort as is worth its time. For batches, in which each
 /// core works on its own picture.
 PngSection makeOnlyPngSection(const PngRows &picture);
 
 /// The PNG file of all sections of a picture of that size.
-QByteArray joinPngSections(QSize size, std::span<const PngSection> sections);
+QByteArray joinPngSections(QSize size, std::span<const PngSection> sections, PngChannels channels = PngChannels::Rgba);
 
 } // namespace lumora

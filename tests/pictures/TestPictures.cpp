@@ -24,6 +24,11 @@ QByteArray encodedPng(const QImage &picture)
     return encodePng(picture, {}).value();
 }
 
+QByteArray encodedOpaquePng(const QImage &picture)
+{
+    return encodeOpaquePng(picture, 1, {}).value();
+}
+
 QImage testPicture(int width, int height)
 {
     QImage picture(width, height, QImage::Format_ARGB32);

@@ -20,6 +20,9 @@ QImage resampled(const QImage &picture, QSize size);
 /// The engine's PNG file of the picture. Ends the test if it cannot be made.
 QByteArray encodedPng(const QImage &picture);
 
+/// The same without an alpha channel.
+QByteArray encodedOpaquePng(const QImage &picture);
+
 /// The premultiplied picture in straight colors, as in a written file.
 QImage straightened(const QImage &picture);
 

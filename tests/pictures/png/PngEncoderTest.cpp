@@ -99,6 +99,9 @@ private slots:
     void quickReadsBackAsItWas();
     void sameBytesFromRowsOnAnyNumberOfThreads_data();
     void sameBytesFromRowsOnAnyNumberOfThreads();
+    void opaqueHasNoAlphaChannel_data();
+    void opaqueHasNoAlphaChannel();
+    void opaqueShowsBlackThroughTransparency();
     void failsWithItsReason_data();
     void failsWithItsReason();
 };
@@ -180,6 +183,45 @@ void PngEncoderTest::sameBytesFromRowsOnAnyNumberOfThreads()
     QCOMPARE(encodePng(ImageRows(straightened(picture)), threads, {}).value(), encodedPng(picture));
 }
 
+void PngEncoderTest::opaqueHasNoAlphaChannel_data()
+{
+    readsBackAsItWas_data();
+}
+
+void PngEncoderTest::opaqueHasNoAlphaChannel()
+{
+    QFETCH(QImage, picture);
+    // Without its alpha the picture shows its colors.
+    picture = picture.convertToFormat(QImage::Format_RGB32);
+    const QByteArray file = encodeOpaquePng(picture, 1, {}).value();
+    const QList<PngChunk> chunks = pngChunks(file);
+    QByteArrayList types;
+    for (const PngChunk &chunk : chunks)
+        types << chunk.type;
+    QCOMPARE(types, (QByteArrayList{"IHDR", "sRGB", "IDAT", "IEND"}));
+    QCOMPARE(chunks[0].content.sliced(8), QByteArray("\x08\x02\0\0\0", 5));
+    QImage back;
+    QVERIFY(back.loadFromData(file, "png"));
+    QVERIFY(!back.hasAlphaChannel());
+    QCOMPARE(back.colorSpace(), QColorSpace(QColorSpace::SRgb));
+    back.setColorSpace(picture.colorSpace());
+    QCOMPARE(back.convertToFormat(QImage::Format_RGB32), picture);
+    QCOMPARE(inflatedPixels(file).size(), (picture.width() * 3 + 1) * qsizetype{picture.height()});
+    for (const int threads : {0, 2, 7})
+        QCOMPARE(encodeOpaquePng(picture, threads, {}).value(), file);
+    QVERIFY(file.size() <= encodedPng(picture).size() + encodedPng(picture).size() / 10);
+}
+
+void PngEncoderTest::opaqueShowsBlackThroughTransparency()
+{
+    QImage picture(2, 1, QImage::Format_RGBA8888);
+    picture.setPixelColor(0, 0, QColor(255, 255, 255, 0));
+    picture.setPixelColor(1, 0, QColor(255, 255, 255, 51));
+    const QImage read = QImage::fromData(encodeOpaquePng(picture, 1, {}).value(), "png");
+    QCOMPARE(read.pixelColor(0, 0), QColor(0, 0, 0));
+    QCOMPARE(read.pixelColor(1, 0), QColor(51, 51, 51));
+}
+
 void PngEncoderTest::quickFiltersWhatShrinksByIt_data()
 {
     QTest::addColumn<QImage>("picture");
@@ -229,6 +271,21 @@ void PngEncoderTest::failsWithItsReason_data()
     addRow(
         "null picture, quickly", [](const QString &name) { return encodePngQuickly(QImage(), name); },
         FailureCode::InvalidValue);
+    addRow(
+        "null picture, opaque", [](const QString &name) { return encodeOpaquePng(QImage(), 1, name); },
+        FailureCode::InvalidValue);
+    addRow(
+        "no rows, opaque",
+        [](const QString &name) {
+            return encodeOpaquePng(RowsWithoutMemory({7, 0}), 1, name);
+        },
+        FailureCode::InvalidValue);
+    addRow(
+        "no memory, opaque",
+        [](const QString &name) {
+            return encodeOpaquePng(RowsWithoutMemory({40, 40}), 1, name);
+        },
+        FailureCode::TooLarge);
     addRow(
         "no rows",
         [](const QString &name) {
