@@ -37,6 +37,9 @@ Result<QByteArray> encoded(const LabeledPicture &picture, const LabeledOptions &
     const QSize pixels = picture.size().pixels();
     switch (options.format) {
     case LabeledFormat::Png:
+        // Stores refuse screenshots with an alpha channel even where it is opaque.
+        if (picture.isOpaque())
+            return encodeOpaquePng(LabeledRows(picture), QThread::idealThreadCount(), path);
         return encodePng(LabeledRows(picture), QThread::idealThreadCount(), path);
     case LabeledFormat::Svg:
         return picture.toSvg();

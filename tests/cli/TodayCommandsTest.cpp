@@ -196,6 +196,25 @@ private slots:
         QCOMPARE(picture.pixel(0, 0), qRgb(0x33, 0x66, 0x99));
     }
 
+    void storesTakeTheirPlaceholders_data()
+    {
+        QTest::addColumn<QStringList>("options");
+        QTest::addColumn<bool>("hasAlpha");
+        QTest::newRow("as they are") << QStringList() << false;
+        QTest::newRow("in colors") << QStringList{u"--background"_s, u"navy"_s, u"--text"_s, u"Soon"_s} << false;
+        QTest::newRow("translucent") << QStringList{u"--background"_s, u"#00000080"_s} << true;
+    }
+    void storesTakeTheirPlaceholders()
+    {
+        QFETCH(QStringList, options);
+        const LumoraRun run = runLumora(
+            QStringList{u"placeholders"_s, u"--set"_s, u"feature-graphic"_s, u"--out"_s, path(u"out"_s)} + options);
+        QVERIFY2(run.status == 0, run.err);
+        const QImage picture(path(u"out/placeholder_1024x500.png"_s));
+        QCOMPARE(picture.size(), QSize(1024, 500));
+        QTEST(picture.hasAlphaChannel(), "hasAlpha");
+    }
+
     void screenshotsAreChecked()
     {
         QImage picture(1320, 2868, QImage::Format_RGB32);
