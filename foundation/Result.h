@@ -32,6 +32,12 @@ enum class FailureCode {
     WouldReplaceSource, ///< writing would replace one of the files that the run reads
     Exists,             ///< writing would replace an existing file
     NameTaken,          ///< two results of one run have the same name; `detail` gives the other's source
+    HasTransparency,    ///< an icon that lets something through where a store forbids it
+    NeedsLayers,        ///< fewer or more layers than a layered icon takes; `detail` is how many there are
+    NotAProject,        ///< a folder without the marks of any kind of project; `detail` names what was looked for
+    AmbiguousProject,   ///< several projects or targets in one folder contradict each other; `detail` names them
+    Stopped,            ///< the run was asked to end and took back what it had done
+    LeadsOutside,       ///< a path inside a folder that a link leads out of
 };
 
 /// One failure as data: what happened, to which file or value, and what the system or the decoder said about it.

@@ -46,6 +46,18 @@ const char *reasonKey(FailureCode code)
         return "CLI_NAME_TAKEN";
     case FailureCode::MissingContent:
         return "CLI_MISSING_CONTENT";
+    case FailureCode::HasTransparency:
+        return "CLI_HAS_TRANSPARENCY";
+    case FailureCode::NeedsLayers:
+        return "CLI_NEEDS_LAYERS";
+    case FailureCode::NotAProject:
+        return "CLI_NOT_A_PROJECT";
+    case FailureCode::AmbiguousProject:
+        return "CLI_AMBIGUOUS_PROJECT";
+    case FailureCode::Stopped:
+        return "CLI_STOPPED";
+    case FailureCode::LeadsOutside:
+        return "CLI_LEADS_OUTSIDE";
     case FailureCode::NotAnArchive:
     case FailureCode::NotReadable:
     case FailureCode::InvalidValue:

@@ -41,6 +41,12 @@ constexpr Wording wordings[] = {
     {FailureCode::WouldReplaceSource, "would-replace-source", "CLI_WOULD_REPLACE", "CLI_WOULD_REPLACE_ADVICE"},
     {FailureCode::Exists, "exists", "CLI_EXISTS", "CLI_EXISTS_ADVICE"},
     {FailureCode::NameTaken, "name-taken", "CLI_NAME_TAKEN", "CLI_NAME_TAKEN_ADVICE"},
+    {FailureCode::HasTransparency, "has-transparency", "CLI_HAS_TRANSPARENCY", "CLI_HAS_TRANSPARENCY_ADVICE"},
+    {FailureCode::NeedsLayers, "needs-layers", "CLI_NEEDS_LAYERS", "CLI_NEEDS_LAYERS_ADVICE"},
+    {FailureCode::NotAProject, "not-a-project", "CLI_NOT_A_PROJECT", "CLI_NOT_A_PROJECT_ADVICE"},
+    {FailureCode::AmbiguousProject, "ambiguous-project", "CLI_AMBIGUOUS_PROJECT", "CLI_AMBIGUOUS_PROJECT_ADVICE"},
+    {FailureCode::LeadsOutside, "leads-outside", "CLI_LEADS_OUTSIDE", "CLI_LEADS_OUTSIDE_ADVICE"},
+    {FailureCode::Stopped, "stopped", "CLI_STOPPED", "CLI_STOPPED_ADVICE"},
 };
 
 /// For a name with bytes of another encoding, which was searched for without them.

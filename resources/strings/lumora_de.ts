@@ -1634,9 +1634,13 @@
     <source>Read iOS app packages and check what is in them</source>
     <translation>iOS-App-Pakete lesen und ihren Inhalt prüfen</translation>
   </message>
-  <message id="CLI_ICONS_SOURCE">
+  <message id="CLI_ICON_SOURCE">
     <source>Picture of 1024 x 1024 pixels (PNG, JPEG, TIFF, WebP, BMP, GIF or ICNS), or - for standard input</source>
     <translation>Bild mit 1024 x 1024 Pixeln (PNG, JPEG, TIFF, WebP, BMP, GIF oder ICNS) oder - für die Standardeingabe</translation>
+  </message>
+  <message id="CLI_ICONS_SOURCE">
+    <source>Picture of 1024 x 1024 pixels (PNG, JPEG, TIFF, WebP, BMP, GIF or ICNS), for today's platforms a square SVG drawing, too, or - for standard input</source>
+    <translation>Bild von 1024 x 1024 Pixeln (PNG, JPEG, TIFF, WebP, BMP, GIF oder ICNS), für die Plattformen von heute auch eine quadratische SVG-Zeichnung, oder - für die Standardeingabe</translation>
   </message>
   <message id="CLI_EXAMPLE">
     <source>Use the built-in picture in place of SOURCE</source>
@@ -1649,6 +1653,206 @@
   <message id="CLI_ICONS_TO">
     <source>Make a fresh folder "icons" in DIR (icons_1 where that is taken)</source>
     <translation>Einen neuen Ordner "icons" in DIR anlegen (icons_1, wenn es ihn schon gibt)</translation>
+  </message>
+  <message id="CLI_ICONS_NAME">
+    <source>The app's name: of the Linux files, the web manifest and the Icon Composer bundle (App without it)</source>
+    <translation>Name der App: für die Linux-Dateien, das Web-Manifest und das Icon-Composer-Paket (sonst App)</translation>
+  </message>
+  <message id="CLI_ICONS_DARK">
+    <source>Dark icon for iOS and Icon Composer</source>
+    <translation>Dunkles Icon für iOS und Icon Composer</translation>
+  </message>
+  <message id="CLI_ICONS_TINTED">
+    <source>Tinted icon for iOS and Icon Composer: shades of grey, opaque</source>
+    <translation>Getöntes Icon für iOS und Icon Composer: Grautöne, deckend</translation>
+  </message>
+  <message id="CLI_ICONS_FOREGROUND">
+    <source>Foreground of an adaptive icon, as large as its layer</source>
+    <translation>Vordergrund eines adaptiven Icons, so groß wie dessen Ebene</translation>
+  </message>
+  <message id="CLI_ICONS_BACKGROUND">
+    <source>Background of adaptive, maskable and layered icons</source>
+    <translation>Hintergrund adaptiver, maskierbarer und geschichteter Icons</translation>
+  </message>
+  <message id="CLI_ICONS_MONOCHROME">
+    <source>Monochrome icon: only its transparency counts</source>
+    <translation>Einfarbiges Icon: nur seine Transparenz zählt</translation>
+  </message>
+  <message id="CLI_ICONS_LAYER">
+    <source>Layer of a tvOS, visionOS or Icon Composer icon, two to five, the back one first</source>
+    <translation>Ebene eines Icons für tvOS, visionOS oder Icon Composer, zwei bis fünf, die hinterste zuerst</translation>
+  </message>
+  <message id="CLI_ICONS_FLATTEN">
+    <source>What lies below transparency where a store forbids it: #RRGGBB or a name</source>
+    <translation>Was unter Transparenz liegt, wo ein Store sie verbietet: #RRGGBB oder ein Name</translation>
+  </message>
+  <message id="CLI_ICONS_FIT">
+    <source>Take any square picture of at least 512 pixels; it is scaled to 1024 once</source>
+    <translation>Jedes quadratische Bild ab 512 Pixeln nehmen; es wird einmal auf 1024 skaliert</translation>
+  </message>
+  <message id="CLI_ICONS_IOS_FORM">
+    <source>Form of the iOS catalogue: [WORDS]</source>
+    <translation>Form des iOS-Katalogs: [WORDS]</translation>
+  </message>
+  <message id="CLI_ICONS_MAC_FULL_BLEED">
+    <source>Mac icons that fill their square, without the rounded body and its shadow</source>
+    <translation>Mac-Icons, die ihr Quadrat füllen, ohne gerundeten Körper und Schatten</translation>
+  </message>
+  <message id="CLI_ICONS_INTO">
+    <source>Write the icons of the projects in DIR in their places</source>
+    <translation>Die Icons der Projekte in DIR an ihre Plätze schreiben</translation>
+  </message>
+  <message id="CLI_ICONS_DRY_RUN">
+    <source>With --into: only list what would be written</source>
+    <translation>Mit --into: nur auflisten, was geschrieben würde</translation>
+  </message>
+  <message id="CLI_ICONS_FLAVOR">
+    <source>With --into: flavor of an Android or Flutter app</source>
+    <translation>Mit --into: Variante (Flavor) einer Android- oder Flutter-App</translation>
+  </message>
+  <message id="CLI_ICONS_TARGET">
+    <source>With --into: target of an Xcode project</source>
+    <translation>Mit --into: Target eines Xcode-Projekts</translation>
+  </message>
+  <message id="CLI_ICONS_CHECK">
+    <source>Judge the icon catalogues in DIR; needs no SOURCE</source>
+    <translation>Die Icon-Kataloge in DIR prüfen; braucht keine SOURCE</translation>
+  </message>
+  <message id="CLI_ICONS_WRONG_SIZE_ADVICE">
+    <source>use a picture of exactly 1024 x 1024 pixels, or with --fit any square one of at least 512</source>
+    <translation>ein Bild von genau 1024 x 1024 Pixeln nehmen oder mit --fit ein beliebiges quadratisches ab 512</translation>
+  </message>
+  <message id="ICONS_FITTED">
+    <source>a picture of another size was scaled to 1024 x 1024</source>
+    <translation>ein Bild anderer Größe wurde auf 1024 x 1024 skaliert</translation>
+  </message>
+  <message id="ICONS_NOT_DRAWN">
+    <source>parts of an SVG file are not drawn</source>
+    <translation>Teile einer SVG-Datei werden nicht gezeichnet</translation>
+  </message>
+  <message id="ICONS_ICON_FLATTENED">
+    <source>the icon was put on the color of --flatten where it must be opaque</source>
+    <translation>wo es undurchsichtig sein muss, liegt das Icon auf der Farbe von --flatten</translation>
+  </message>
+  <message id="ICONS_TINTED_FROM_ICON">
+    <source>the tinted icon is the icon's luminance</source>
+    <translation>das getönte Icon ist die Helligkeit des Icons</translation>
+  </message>
+  <message id="ICONS_TINTED_ON_BLACK">
+    <source>the tinted icon is black where the picture is transparent</source>
+    <translation>das getönte Icon ist schwarz, wo das Bild durchsichtig ist</translation>
+  </message>
+  <message id="ICONS_DARK_IS_ICON">
+    <source>the dark icon is the icon with its transparency</source>
+    <translation>das dunkle Icon ist das Icon mit seiner Transparenz</translation>
+  </message>
+  <message id="ICONS_DARK_LEFT_OUT">
+    <source>there is no dark icon, since the icon has no transparency</source>
+    <translation>es gibt kein dunkles Icon, denn das Icon hat keine Transparenz</translation>
+  </message>
+  <message id="ICONS_FOREGROUND_FROM_ICON">
+    <source>the foreground is the icon inside the safe zone</source>
+    <translation>der Vordergrund ist das Icon innerhalb der sicheren Zone</translation>
+  </message>
+  <message id="ICONS_BACKGROUND_FROM_BORDER">
+    <source>the background is the color of the icon's border</source>
+    <translation>der Hintergrund hat die Farbe vom Rand des Icons</translation>
+  </message>
+  <message id="ICONS_BACKGROUND_WHITE">
+    <source>the background is white</source>
+    <translation>der Hintergrund ist weiß</translation>
+  </message>
+  <message id="ICONS_MONOCHROME_FROM_ICON">
+    <source>the monochrome icon is the icon's shape in white</source>
+    <translation>das einfarbige Icon ist die Form des Icons in Weiß</translation>
+  </message>
+  <message id="ICONS_MONOCHROME_LEFT_OUT">
+    <source>there are no monochrome, notification and badge pictures, since the icon has no transparency</source>
+    <translation>es gibt keine einfarbigen Bilder, auch nicht für Benachrichtigungen und Abzeichen, denn das Icon hat keine Transparenz</translation>
+  </message>
+  <message id="ICONS_WEB_ON_BACKGROUND">
+    <source>touch and maskable icons stand on the background color</source>
+    <translation>Touch- und maskierbare Icons liegen auf der Hintergrundfarbe</translation>
+  </message>
+  <message id="ICONS_BACK_LAYER_FLATTENED">
+    <source>the back layer was put on the background color</source>
+    <translation>die hinterste Ebene wurde auf die Hintergrundfarbe gelegt</translation>
+  </message>
+  <message id="ICONS_SHELF_FROM_LAYERS">
+    <source>the top shelf pictures show the layers on the background color</source>
+    <translation>die Top-Shelf-Bilder zeigen die Ebenen auf der Hintergrundfarbe</translation>
+  </message>
+  <message id="ICONS_LAYERS_FROM_ICON">
+    <source>the only layer is the icon, on the background color</source>
+    <translation>die einzige Ebene ist das Icon, auf der Hintergrundfarbe</translation>
+  </message>
+  <message id="ICONS_SCALABLE_LEFT_OUT">
+    <source>there is no SVG icon, since the icon is a picture of pixels</source>
+    <translation>es gibt kein SVG-Icon, denn das Icon ist ein Bild aus Pixeln</translation>
+  </message>
+  <message id="CLI_ICONS_LINE_TO_ADD">
+    <source>to add by hand: [LINE]</source>
+    <translation>von Hand zu ergänzen: [LINE]</translation>
+  </message>
+  <message id="CLI_ICONS_NONE_FOUND">
+    <source>holds no icon catalogue</source>
+    <translation>enthält keinen Icon-Katalog</translation>
+  </message>
+  <message id="CLI_ICONS_CHECKED">
+    <source>checked [N], found nothing</source>
+    <translation>[N] geprüft, nichts gefunden</translation>
+  </message>
+  <message id="CLI_CHECK_FAILED">
+    <source>does not keep the platforms' rules</source>
+    <translation>hält die Regeln der Plattformen nicht ein</translation>
+  </message>
+  <message id="CLI_HAS_TRANSPARENCY">
+    <source>lets something through where the store forbids it</source>
+    <translation>ist durchsichtig, wo der Store es verbietet</translation>
+  </message>
+  <message id="CLI_HAS_TRANSPARENCY_ADVICE">
+    <source>put it on a color with --flatten COLOR</source>
+    <translation>mit --flatten COLOR auf eine Farbe legen</translation>
+  </message>
+  <message id="CLI_NEEDS_LAYERS">
+    <source>has to be given two to five times</source>
+    <translation>muss zwei- bis fünfmal angegeben werden</translation>
+  </message>
+  <message id="CLI_NEEDS_LAYERS_ADVICE">
+    <source>name a picture for each layer, the back one first</source>
+    <translation>für jede Ebene ein Bild nennen, das hinterste zuerst</translation>
+  </message>
+  <message id="CLI_NOT_A_PROJECT">
+    <source>is no project whose icons are known</source>
+    <translation>ist kein Projekt, dessen Icons bekannt sind</translation>
+  </message>
+  <message id="CLI_NOT_A_PROJECT_ADVICE">
+    <source>name the folder with the project's file</source>
+    <translation>den Ordner mit der Projektdatei nennen</translation>
+  </message>
+  <message id="CLI_AMBIGUOUS_PROJECT">
+    <source>does not say which icons are meant</source>
+    <translation>lässt offen, welche Icons gemeint sind</translation>
+  </message>
+  <message id="CLI_AMBIGUOUS_PROJECT_ADVICE">
+    <source>choose with --target or --flavor, or name one project's own folder</source>
+    <translation>mit --target oder --flavor wählen oder den Ordner eines einzelnen Projekts nennen</translation>
+  </message>
+  <message id="CLI_LEADS_OUTSIDE">
+    <source>leads out of its folder</source>
+    <translation>führt aus seinem Ordner hinaus</translation>
+  </message>
+  <message id="CLI_LEADS_OUTSIDE_ADVICE">
+    <source>replace the link or the name by one inside</source>
+    <translation>den Verweis oder Namen durch einen im Ordner ersetzen</translation>
+  </message>
+  <message id="CLI_STOPPED">
+    <source>was stopped, and everything is as it was</source>
+    <translation>wurde abgebrochen, und alles ist wie zuvor</translation>
+  </message>
+  <message id="CLI_STOPPED_ADVICE">
+    <source>run it again</source>
+    <translation>noch einmal ausführen</translation>
   </message>
   <message id="CLI_OUT">
     <source>Write exactly into DIR: the same files on every run, other files are left alone</source>
@@ -1857,6 +2061,10 @@
   <message id="CLI_VALIDATE_RUNS_NOT_ON">
     <source>does not run on</source>
     <translation>läuft nicht auf</translation>
+  </message>
+  <message id="CLI_ICONS_NOT_CLASSIC">
+    <source>[OPTION] goes only with --into or a platform of today: [WORDS]</source>
+    <translation>[OPTION] geht nur mit --into oder einer Plattform von heute: [WORDS]</translation>
   </message>
   <message id="CLI_NOT_A_DATE">
     <source>[DATE] is no date; write it as in 2027-04-30</source>
@@ -2453,6 +2661,86 @@
   <message id="CLI_DOWNSCALE_SOURCES_ADVICE">
     <source>use folders of PNG or WebP files that state their density, such as logo@3x.png</source>
     <translation>Ordner mit PNG- oder WebP-Dateien nehmen, die ihre Auflösung nennen, etwa logo@3x.png</translation>
+  </message>
+  <message id="DETAIL_SVG_ENTITIES">
+    <source>it declares entities; save it as plain SVG</source>
+    <translation>sie erklärt Entitäten; als einfaches SVG speichern</translation>
+  </message>
+  <message id="DETAIL_SVG_STYLE_SHEET">
+    <source>it names a style sheet outside of it; save it as plain SVG</source>
+    <translation>sie nennt ein Stylesheet außerhalb; als einfaches SVG speichern</translation>
+  </message>
+  <message id="DETAIL_SVG_LINE">
+    <source>[ERROR] in line [LINE]</source>
+    <translation>[ERROR] in Zeile [LINE]</translation>
+  </message>
+  <message id="DETAIL_SVG_EMPTY">
+    <source>it holds no element</source>
+    <translation>sie enthält kein Element</translation>
+  </message>
+  <message id="DETAIL_SVG_TOO_MUCH">
+    <source>its shapes come to more than can be drawn in reasonable time</source>
+    <translation>ihre Formen sind zu viele, um sie in vertretbarer Zeit zu zeichnen</translation>
+  </message>
+  <message id="DETAIL_NO_SVG">
+    <source>it is no SVG drawing</source>
+    <translation>sie ist keine SVG-Zeichnung</translation>
+  </message>
+  <message id="DETAIL_SVG_SCRIPT">
+    <source>it holds a script or a foreign object; save it as plain SVG</source>
+    <translation>sie enthält ein Skript oder ein fremdes Objekt; als einfaches SVG speichern</translation>
+  </message>
+  <message id="DETAIL_SVG_TEXT">
+    <source>it holds text, which looks different on every machine; turn it into paths</source>
+    <translation>sie enthält Text, der auf jedem Rechner anders aussieht; in Pfade umwandeln</translation>
+  </message>
+  <message id="DETAIL_SVG_ANIMATED">
+    <source>it is animated; save one picture of it</source>
+    <translation>sie ist animiert; ein Bild davon speichern</translation>
+  </message>
+  <message id="DETAIL_SVG_OUTSIDE">
+    <source>it names something outside of it, [TARGET]; embed it</source>
+    <translation>sie nennt etwas außerhalb, [TARGET]; einbetten</translation>
+  </message>
+  <message id="DETAIL_SVG_PICTURE_BROKEN">
+    <source>a picture inside it cannot be read</source>
+    <translation>ein Bild darin lässt sich nicht lesen</translation>
+  </message>
+  <message id="DETAIL_SVG_PICTURE_LARGE">
+    <source>a picture inside it is too large</source>
+    <translation>ein Bild darin ist zu groß</translation>
+  </message>
+  <message id="DETAIL_SVG_STYLE_OUTSIDE">
+    <source>its style names something outside of it; embed it</source>
+    <translation>ihr Stil nennt etwas außerhalb; einbetten</translation>
+  </message>
+  <message id="DETAIL_SVG_ENDLESS">
+    <source>a shape of it repeats itself without end</source>
+    <translation>eine Form darin wiederholt sich ohne Ende</translation>
+  </message>
+  <message id="DETAIL_SVG_NO_SIZE">
+    <source>it has no size; give it a viewBox</source>
+    <translation>sie hat keine Größe; eine viewBox angeben</translation>
+  </message>
+  <message id="DETAIL_SVG_NOT_SQUARE">
+    <source>[WIDTH] x [HEIGHT], not square</source>
+    <translation>[WIDTH] x [HEIGHT], nicht quadratisch</translation>
+  </message>
+  <message id="DETAIL_MAUI_SVG">
+    <source>a .NET MAUI project takes an SVG file</source>
+    <translation>ein Projekt mit .NET MAUI nimmt eine SVG-Datei</translation>
+  </message>
+  <message id="DETAIL_NOT_PUT_BACK">
+    <source>[REASON]could not be put back: [FILES]</source>
+    <translation>[REASON]nicht zurückgelegt: [FILES]</translation>
+  </message>
+  <message id="DETAIL_BOTH_WANT">
+    <source>[FIRST] and [SECOND] both want [FILE]</source>
+    <translation>[FIRST] und [SECOND] wollen beide [FILE]</translation>
+  </message>
+  <message id="DETAIL_NO_ICON_PLACES">
+    <source>[PROJECTS] without a place for icons; make its platforms first</source>
+    <translation>[PROJECTS] ohne Platz für Icons; erst die Plattformen anlegen</translation>
   </message>
   <message id="DETAIL_DAMAGED">
     <source>damaged</source>

@@ -1632,9 +1632,13 @@
     <source>Read iOS app packages and check what is in them</source>
     <translation>Read iOS app packages and check what is in them</translation>
   </message>
-  <message id="CLI_ICONS_SOURCE">
+  <message id="CLI_ICON_SOURCE">
     <source>Picture of 1024 x 1024 pixels (PNG, JPEG, TIFF, WebP, BMP, GIF or ICNS), or - for standard input</source>
     <translation>Picture of 1024 x 1024 pixels (PNG, JPEG, TIFF, WebP, BMP, GIF or ICNS), or - for standard input</translation>
+  </message>
+  <message id="CLI_ICONS_SOURCE">
+    <source>Picture of 1024 x 1024 pixels (PNG, JPEG, TIFF, WebP, BMP, GIF or ICNS), for today's platforms a square SVG drawing, too, or - for standard input</source>
+    <translation>Picture of 1024 x 1024 pixels (PNG, JPEG, TIFF, WebP, BMP, GIF or ICNS), for today's platforms a square SVG drawing, too, or - for standard input</translation>
   </message>
   <message id="CLI_EXAMPLE">
     <source>Use the built-in picture in place of SOURCE</source>
@@ -1647,6 +1651,206 @@
   <message id="CLI_ICONS_TO">
     <source>Make a fresh folder "icons" in DIR (icons_1 where that is taken)</source>
     <translation>Make a fresh folder "icons" in DIR (icons_1 where that is taken)</translation>
+  </message>
+  <message id="CLI_ICONS_NAME">
+    <source>The app's name: of the Linux files, the web manifest and the Icon Composer bundle (App without it)</source>
+    <translation>The app's name: of the Linux files, the web manifest and the Icon Composer bundle (App without it)</translation>
+  </message>
+  <message id="CLI_ICONS_DARK">
+    <source>Dark icon for iOS and Icon Composer</source>
+    <translation>Dark icon for iOS and Icon Composer</translation>
+  </message>
+  <message id="CLI_ICONS_TINTED">
+    <source>Tinted icon for iOS and Icon Composer: shades of grey, opaque</source>
+    <translation>Tinted icon for iOS and Icon Composer: shades of grey, opaque</translation>
+  </message>
+  <message id="CLI_ICONS_FOREGROUND">
+    <source>Foreground of an adaptive icon, as large as its layer</source>
+    <translation>Foreground of an adaptive icon, as large as its layer</translation>
+  </message>
+  <message id="CLI_ICONS_BACKGROUND">
+    <source>Background of adaptive, maskable and layered icons</source>
+    <translation>Background of adaptive, maskable and layered icons</translation>
+  </message>
+  <message id="CLI_ICONS_MONOCHROME">
+    <source>Monochrome icon: only its transparency counts</source>
+    <translation>Monochrome icon: only its transparency counts</translation>
+  </message>
+  <message id="CLI_ICONS_LAYER">
+    <source>Layer of a tvOS, visionOS or Icon Composer icon, two to five, the back one first</source>
+    <translation>Layer of a tvOS, visionOS or Icon Composer icon, two to five, the back one first</translation>
+  </message>
+  <message id="CLI_ICONS_FLATTEN">
+    <source>What lies below transparency where a store forbids it: #RRGGBB or a name</source>
+    <translation>What lies below transparency where a store forbids it: #RRGGBB or a name</translation>
+  </message>
+  <message id="CLI_ICONS_FIT">
+    <source>Take any square picture of at least 512 pixels; it is scaled to 1024 once</source>
+    <translation>Take any square picture of at least 512 pixels; it is scaled to 1024 once</translation>
+  </message>
+  <message id="CLI_ICONS_IOS_FORM">
+    <source>Form of the iOS catalogue: [WORDS]</source>
+    <translation>Form of the iOS catalogue: [WORDS]</translation>
+  </message>
+  <message id="CLI_ICONS_MAC_FULL_BLEED">
+    <source>Mac icons that fill their square, without the rounded body and its shadow</source>
+    <translation>Mac icons that fill their square, without the rounded body and its shadow</translation>
+  </message>
+  <message id="CLI_ICONS_INTO">
+    <source>Write the icons of the projects in DIR in their places</source>
+    <translation>Write the icons of the projects in DIR in their places</translation>
+  </message>
+  <message id="CLI_ICONS_DRY_RUN">
+    <source>With --into: only list what would be written</source>
+    <translation>With --into: only list what would be written</translation>
+  </message>
+  <message id="CLI_ICONS_FLAVOR">
+    <source>With --into: flavor of an Android or Flutter app</source>
+    <translation>With --into: flavor of an Android or Flutter app</translation>
+  </message>
+  <message id="CLI_ICONS_TARGET">
+    <source>With --into: target of an Xcode project</source>
+    <translation>With --into: target of an Xcode project</translation>
+  </message>
+  <message id="CLI_ICONS_CHECK">
+    <source>Judge the icon catalogues in DIR; needs no SOURCE</source>
+    <translation>Judge the icon catalogues in DIR; needs no SOURCE</translation>
+  </message>
+  <message id="CLI_ICONS_WRONG_SIZE_ADVICE">
+    <source>use a picture of exactly 1024 x 1024 pixels, or with --fit any square one of at least 512</source>
+    <translation>use a picture of exactly 1024 x 1024 pixels, or with --fit any square one of at least 512</translation>
+  </message>
+  <message id="ICONS_FITTED">
+    <source>a picture of another size was scaled to 1024 x 1024</source>
+    <translation>a picture of another size was scaled to 1024 x 1024</translation>
+  </message>
+  <message id="ICONS_NOT_DRAWN">
+    <source>parts of an SVG file are not drawn</source>
+    <translation>parts of an SVG file are not drawn</translation>
+  </message>
+  <message id="ICONS_ICON_FLATTENED">
+    <source>the icon was put on the color of --flatten where it must be opaque</source>
+    <translation>the icon was put on the color of --flatten where it must be opaque</translation>
+  </message>
+  <message id="ICONS_TINTED_FROM_ICON">
+    <source>the tinted icon is the icon's luminance</source>
+    <translation>the tinted icon is the icon's luminance</translation>
+  </message>
+  <message id="ICONS_TINTED_ON_BLACK">
+    <source>the tinted icon is black where the picture is transparent</source>
+    <translation>the tinted icon is black where the picture is transparent</translation>
+  </message>
+  <message id="ICONS_DARK_IS_ICON">
+    <source>the dark icon is the icon with its transparency</source>
+    <translation>the dark icon is the icon with its transparency</translation>
+  </message>
+  <message id="ICONS_DARK_LEFT_OUT">
+    <source>there is no dark icon, since the icon has no transparency</source>
+    <translation>there is no dark icon, since the icon has no transparency</translation>
+  </message>
+  <message id="ICONS_FOREGROUND_FROM_ICON">
+    <source>the foreground is the icon inside the safe zone</source>
+    <translation>the foreground is the icon inside the safe zone</translation>
+  </message>
+  <message id="ICONS_BACKGROUND_FROM_BORDER">
+    <source>the background is the color of the icon's border</source>
+    <translation>the background is the color of the icon's border</translation>
+  </message>
+  <message id="ICONS_BACKGROUND_WHITE">
+    <source>the background is white</source>
+    <translation>the background is white</translation>
+  </message>
+  <message id="ICONS_MONOCHROME_FROM_ICON">
+    <source>the monochrome icon is the icon's shape in white</source>
+    <translation>the monochrome icon is the icon's shape in white</translation>
+  </message>
+  <message id="ICONS_MONOCHROME_LEFT_OUT">
+    <source>there are no monochrome, notification and badge pictures, since the icon has no transparency</source>
+    <translation>there are no monochrome, notification and badge pictures, since the icon has no transparency</translation>
+  </message>
+  <message id="ICONS_WEB_ON_BACKGROUND">
+    <source>touch and maskable icons stand on the background color</source>
+    <translation>touch and maskable icons stand on the background color</translation>
+  </message>
+  <message id="ICONS_BACK_LAYER_FLATTENED">
+    <source>the back layer was put on the background color</source>
+    <translation>the back layer was put on the background color</translation>
+  </message>
+  <message id="ICONS_SHELF_FROM_LAYERS">
+    <source>the top shelf pictures show the layers on the background color</source>
+    <translation>the top shelf pictures show the layers on the background color</translation>
+  </message>
+  <message id="ICONS_LAYERS_FROM_ICON">
+    <source>the only layer is the icon, on the background color</source>
+    <translation>the only layer is the icon, on the background color</translation>
+  </message>
+  <message id="ICONS_SCALABLE_LEFT_OUT">
+    <source>there is no SVG icon, since the icon is a picture of pixels</source>
+    <translation>there is no SVG icon, since the icon is a picture of pixels</translation>
+  </message>
+  <message id="CLI_ICONS_LINE_TO_ADD">
+    <source>to add by hand: [LINE]</source>
+    <translation>to add by hand: [LINE]</translation>
+  </message>
+  <message id="CLI_ICONS_NONE_FOUND">
+    <source>holds no icon catalogue</source>
+    <translation>holds no icon catalogue</translation>
+  </message>
+  <message id="CLI_ICONS_CHECKED">
+    <source>checked [N], found nothing</source>
+    <translation>checked [N], found nothing</translation>
+  </message>
+  <message id="CLI_CHECK_FAILED">
+    <source>does not keep the platforms' rules</source>
+    <translation>does not keep the platforms' rules</translation>
+  </message>
+  <message id="CLI_HAS_TRANSPARENCY">
+    <source>lets something through where the store forbids it</source>
+    <translation>lets something through where the store forbids it</translation>
+  </message>
+  <message id="CLI_HAS_TRANSPARENCY_ADVICE">
+    <source>put it on a color with --flatten COLOR</source>
+    <translation>put it on a color with --flatten COLOR</translation>
+  </message>
+  <message id="CLI_NEEDS_LAYERS">
+    <source>has to be given two to five times</source>
+    <translation>has to be given two to five times</translation>
+  </message>
+  <message id="CLI_NEEDS_LAYERS_ADVICE">
+    <source>name a picture for each layer, the back one first</source>
+    <translation>name a picture for each layer, the back one first</translation>
+  </message>
+  <message id="CLI_NOT_A_PROJECT">
+    <source>is no project whose icons are known</source>
+    <translation>is no project whose icons are known</translation>
+  </message>
+  <message id="CLI_NOT_A_PROJECT_ADVICE">
+    <source>name the folder with the project's file</source>
+    <translation>name the folder with the project's file</translation>
+  </message>
+  <message id="CLI_AMBIGUOUS_PROJECT">
+    <source>does not say which icons are meant</source>
+    <translation>does not say which icons are meant</translation>
+  </message>
+  <message id="CLI_AMBIGUOUS_PROJECT_ADVICE">
+    <source>choose with --target or --flavor, or name one project's own folder</source>
+    <translation>choose with --target or --flavor, or name one project's own folder</translation>
+  </message>
+  <message id="CLI_LEADS_OUTSIDE">
+    <source>leads out of its folder</source>
+    <translation>leads out of its folder</translation>
+  </message>
+  <message id="CLI_LEADS_OUTSIDE_ADVICE">
+    <source>replace the link or the name by one inside</source>
+    <translation>replace the link or the name by one inside</translation>
+  </message>
+  <message id="CLI_STOPPED">
+    <source>was stopped, and everything is as it was</source>
+    <translation>was stopped, and everything is as it was</translation>
+  </message>
+  <message id="CLI_STOPPED_ADVICE">
+    <source>run it again</source>
+    <translation>run it again</translation>
   </message>
   <message id="CLI_OUT">
     <source>Write exactly into DIR: the same files on every run, other files are left alone</source>
@@ -1855,6 +2059,10 @@
   <message id="CLI_VALIDATE_RUNS_NOT_ON">
     <source>does not run on</source>
     <translation>does not run on</translation>
+  </message>
+  <message id="CLI_ICONS_NOT_CLASSIC">
+    <source>[OPTION] goes only with --into or a platform of today: [WORDS]</source>
+    <translation>[OPTION] goes only with --into or a platform of today: [WORDS]</translation>
   </message>
   <message id="CLI_NOT_A_DATE">
     <source>[DATE] is no date; write it as in 2027-04-30</source>
@@ -2451,6 +2659,86 @@
   <message id="CLI_DOWNSCALE_SOURCES_ADVICE">
     <source>use folders of PNG or WebP files that state their density, such as logo@3x.png</source>
     <translation>use folders of PNG or WebP files that state their density, such as logo@3x.png</translation>
+  </message>
+  <message id="DETAIL_SVG_ENTITIES">
+    <source>it declares entities; save it as plain SVG</source>
+    <translation>it declares entities; save it as plain SVG</translation>
+  </message>
+  <message id="DETAIL_SVG_STYLE_SHEET">
+    <source>it names a style sheet outside of it; save it as plain SVG</source>
+    <translation>it names a style sheet outside of it; save it as plain SVG</translation>
+  </message>
+  <message id="DETAIL_SVG_LINE">
+    <source>[ERROR] in line [LINE]</source>
+    <translation>[ERROR] in line [LINE]</translation>
+  </message>
+  <message id="DETAIL_SVG_EMPTY">
+    <source>it holds no element</source>
+    <translation>it holds no element</translation>
+  </message>
+  <message id="DETAIL_SVG_TOO_MUCH">
+    <source>its shapes come to more than can be drawn in reasonable time</source>
+    <translation>its shapes come to more than can be drawn in reasonable time</translation>
+  </message>
+  <message id="DETAIL_NO_SVG">
+    <source>it is no SVG drawing</source>
+    <translation>it is no SVG drawing</translation>
+  </message>
+  <message id="DETAIL_SVG_SCRIPT">
+    <source>it holds a script or a foreign object; save it as plain SVG</source>
+    <translation>it holds a script or a foreign object; save it as plain SVG</translation>
+  </message>
+  <message id="DETAIL_SVG_TEXT">
+    <source>it holds text, which looks different on every machine; turn it into paths</source>
+    <translation>it holds text, which looks different on every machine; turn it into paths</translation>
+  </message>
+  <message id="DETAIL_SVG_ANIMATED">
+    <source>it is animated; save one picture of it</source>
+    <translation>it is animated; save one picture of it</translation>
+  </message>
+  <message id="DETAIL_SVG_OUTSIDE">
+    <source>it names something outside of it, [TARGET]; embed it</source>
+    <translation>it names something outside of it, [TARGET]; embed it</translation>
+  </message>
+  <message id="DETAIL_SVG_PICTURE_BROKEN">
+    <source>a picture inside it cannot be read</source>
+    <translation>a picture inside it cannot be read</translation>
+  </message>
+  <message id="DETAIL_SVG_PICTURE_LARGE">
+    <source>a picture inside it is too large</source>
+    <translation>a picture inside it is too large</translation>
+  </message>
+  <message id="DETAIL_SVG_STYLE_OUTSIDE">
+    <source>its style names something outside of it; embed it</source>
+    <translation>its style names something outside of it; embed it</translation>
+  </message>
+  <message id="DETAIL_SVG_ENDLESS">
+    <source>a shape of it repeats itself without end</source>
+    <translation>a shape of it repeats itself without end</translation>
+  </message>
+  <message id="DETAIL_SVG_NO_SIZE">
+    <source>it has no size; give it a viewBox</source>
+    <translation>it has no size; give it a viewBox</translation>
+  </message>
+  <message id="DETAIL_SVG_NOT_SQUARE">
+    <source>[WIDTH] x [HEIGHT], not square</source>
+    <translation>[WIDTH] x [HEIGHT], not square</translation>
+  </message>
+  <message id="DETAIL_MAUI_SVG">
+    <source>a .NET MAUI project takes an SVG file</source>
+    <translation>a .NET MAUI project takes an SVG file</translation>
+  </message>
+  <message id="DETAIL_NOT_PUT_BACK">
+    <source>[REASON]could not be put back: [FILES]</source>
+    <translation>[REASON]could not be put back: [FILES]</translation>
+  </message>
+  <message id="DETAIL_BOTH_WANT">
+    <source>[FIRST] and [SECOND] both want [FILE]</source>
+    <translation>[FIRST] and [SECOND] both want [FILE]</translation>
+  </message>
+  <message id="DETAIL_NO_ICON_PLACES">
+    <source>[PROJECTS] without a place for icons; make its platforms first</source>
+    <translation>[PROJECTS] without a place for icons; make its platforms first</translation>
   </message>
   <message id="DETAIL_DAMAGED">
     <source>damaged</source>

@@ -1,0 +1,124 @@
+// SPDX-License-Identifier: MIT
+#include "IconCheck.h"
+
+#include "CheckParts.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+namespace lumora
+{
+
+namespace
+{
+
+constexpr int mostEntries = 200'000;
+constexpr int deepestFolder = 40;
+
+/// Folders in which nothing is the project's own.
+bool isPassedOver(const QString &name)
+{
+    static const QStringList names = {u"node_modules"_s, u"Pods"_s, u"build"_s, u"DerivedData"_s};
+    return name.startsWith(u'.') || names.contains(name);
+}
+
+class Walk
+{
+public:
+    explicit Walk(IconCheck &check) : m_check(check) {}
+
+    void enter(const QString &folder, int depth)
+    {
+        if (judgeFolder(folder))
+            return;
+        const QFileInfoList entries =
+            QDir(folder).entryInfoList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::NoSymLinks, QDir::Name);
+        m_entries += static_cast<int>(entries.size());
+        for (const QFileInfo &entry : entries) {
+            if (m_entries > mostEntries || depth > deepestFolder) {
+                end(folder);
+                return;
+            }
+            const QString path = folder + u'/' + entry.fileName();
+            if (entry.isDir() && !isPassedOver(entry.fileName()))
+                enter(path, depth + 1);
+            else if (entry.isFile())
+                judgeFile(path, entry.fileName());
+        }
+    }
+
+private:
+    void end(const QString &folder)
+    {
+        if (!m_ended)
+            m_check.add(IconRule::WalkEnded, folder);
+        m_ended = true;
+    }
+
+    /// Whether the folder is one that is judged as a whole.
+    bool judgeFolder(const QString &folder)
+    {
+        const QString name = QFileInfo(folder).fileName();
+        if (name.endsWith(u".appiconset"))
+            checkIconSet(folder, m_check);
+        else if (name.endsWith(u".brandassets"))
+            checkBrandAssets(folder, m_check);
+        else if (name.endsWith(u".solidimagestack"))
+            checkVisionStack(folder, m_check);
+        else if (name.endsWith(u".icon") && QFileInfo::exists(folder + u"/icon.json"_s))
+            checkComposerBundle(folder, m_check);
+        else
+            return isResources(folder) ? (checkAndroidResources(folder, m_check), true) : false;
+        return true;
+    }
+
+    static bool isResources(const QString &folder)
+    {
+        const QStringList adaptive =
+            QDir(folder).entryList({u"mipmap-anydpi*"_s, u"drawable-anydpi*"_s}, QDir::Dirs | QDir::NoSymLinks);
+        return !adaptive.isEmpty();
+    }
+
+    void judgeFile(const QString &path, const QString &name)
+    {
+        if (name.endsWith(u".webmanifest") || name == u"manifest.json")
+            checkWebManifest(path, m_check);
+        else if (name.endsWith(u".ico"))
+            checkIcoFile(path, m_check);
+        else if (name.endsWith(u".icns"))
+            checkIcnsFile(path, m_check);
+        else if (name.endsWith(u"-playstore.png"))
+            checkPlayPicture(path, m_check);
+        else if (name.startsWith(u"apple-touch-icon") && name.endsWith(u".png"))
+            checkTouchIcon(path, m_check);
+        else if (const std::optional<QSize> theme = hicolorSize(path))
+            checkSizedPicture(path, *theme, m_check);
+        else if (const std::optional<QSize> asset = windowsAssetSize(name))
+            checkSizedPicture(path, *asset, m_check);
+    }
+
+    IconCheck &m_check;
+    int m_entries = 0;
+    bool m_ended = false;
+};
+
+} // namespace
+
+Result<IconCheck> checkIcons(const QString &folder)
+{
+    const QFileInfo info(folder);
+    if (!info.exists())
+        return Failure{FailureCode::NotFound, folder, {}};
+    if (!info.isDir())
+        return Failure{FailureCode::NotAFolder, folder, {}};
+    if (!info.isReadable() || !info.isExecutable())
+        return Failure{FailureCode::NoPermission, folder, {}};
+    IconCheck check;
+    Walk(check).enter(QDir(folder).absolutePath(), 0);
+    check.sort();
+    return check;
+}
+
+} // namespace lumora

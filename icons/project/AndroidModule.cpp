@@ -1,0 +1,125 @@
+// SPDX-License-Identifier: MIT
+#include "AndroidModule.h"
+
+#include "foundation/WholeFile.h"
+
+#include <QDir>
+#include <QXmlStreamReader>
+
+using namespace Qt::StringLiterals;
+
+namespace lumora
+{
+
+namespace
+{
+
+constexpr qint64 longestXml = 4LL * 1024 * 1024;
+constexpr auto androidSpace = "http://schemas.android.com/apk/res/android"_L1;
+
+/// The attributes that name the icon in a manifest.
+struct ManifestIcons
+{
+    bool found = false; ///< there is an application in it
+    QString icon;       ///< "@mipmap/ic_launcher", empty where none is named
+    QString round;
+};
+
+ManifestIcons readManifest(const QString &path)
+{
+    ManifestIcons icons;
+    const Result<QByteArray> bytes = readWholeFile(path, longestXml);
+    if (!bytes)
+        return icons;
+    QXmlStreamReader reader(bytes.value());
+    while (!reader.atEnd() && !icons.found) {
+        if (reader.readNext() != QXmlStreamReader::StartElement || reader.name() != u"application")
+            continue;
+        icons.found = true;
+        icons.icon = reader.attributes().value(QString(androidSpace), u"icon"_s).toString();
+        icons.round = reader.attributes().value(QString(androidSpace), u"roundIcon"_s).toString();
+    }
+    return icons;
+}
+
+/// Takes a reference of the type that icons may have apart; false for any other, such as a placeholder.
+bool takeReference(const QString &reference, QString &type, QString &name)
+{
+    const QString kind = reference.section(u'/', 0, 0);
+    if ((kind != u"@mipmap" && kind != u"@drawable") || reference.count(u'/') != 1)
+        return false;
+    type = kind.sliced(1);
+    name = reference.section(u'/', 1);
+    return !name.isEmpty();
+}
+
+/// Whether another file than our own gives a color that name.
+bool isColorTaken(const QString &resources, const QString &name)
+{
+    const QByteArray wanted = "name=\"" + name.toUtf8() + '"';
+    const QDir folder(resources);
+    const QStringList values = folder.entryList({u"values*"_s}, QDir::Dirs);
+    for (const QString &value : values) {
+        const QStringList files = QDir(folder.filePath(value)).entryList({u"*.xml"_s}, QDir::Files);
+        for (const QString &file : files) {
+            if (file == name + u".xml"_s)
+                continue;
+            const Result<QByteArray> bytes = readWholeFile(folder.filePath(value) + u'/' + file, longestXml);
+            if (bytes && bytes.value().contains(wanted))
+                return true;
+        }
+    }
+    return false;
+}
+
+/// A resource is one file in each folder, whatever its format.
+void removeOtherFormats(const QString &root, FilePlan &plan, qsizetype firstFile)
+{
+    for (qsizetype index = firstFile; index < plan.files.size(); ++index) {
+        const QString path = plan.files[index].path;
+        if (!path.endsWith(u".png") && !path.endsWith(u".xml"))
+            continue;
+        const QFileInfo info(root + u'/' + path);
+        if (info.dir().dirName().startsWith(u"values"))
+            continue;
+        const QString stem = info.completeBaseName();
+        const QStringList others = info.dir().entryList({stem + u".*"_s}, QDir::Files | QDir::Hidden);
+        for (const QString &other : others) {
+            if (other != info.fileName() && !other.endsWith(u".9.png"))
+                plan.filesToRemove << path.first(path.lastIndexOf(u'/') + 1) + other;
+        }
+    }
+}
+
+} // namespace
+
+Outcome planAndroidModule(const QString &root, const QString &sources, const QString &flavor, StorePicture store,
+                          const Motifs &motifs, FilePlan &plan)
+{
+    const QString sourceSet = sources + u'/' + (flavor.isEmpty() ? u"main"_s : flavor);
+    QString manifest = sources + u"/main/AndroidManifest.xml"_s;
+    AndroidNames names;
+    names.notification = false;
+    names.playStore = store == StorePicture::Kept;
+    names.round.clear();
+    const ManifestIcons icons = readManifest(root + u'/' + manifest);
+    if (icons.icon.isEmpty())
+        plan.linesToAdd << manifest + u": android:icon=\"@mipmap/ic_launcher\""_s;
+    else if (!takeReference(icons.icon, names.type, names.icon))
+        return Failure{FailureCode::AmbiguousProject, manifest, u"android:icon=\"%1\""_s.arg(icons.icon)};
+    QString roundType;
+    if (!icons.round.isEmpty() && icons.round != icons.icon && takeReference(icons.round, roundType, names.round) &&
+        roundType != names.type)
+        names.round.clear();
+    const QString resources = root + u'/' + sourceSet + u"/res"_s;
+    names.backgroundColor = names.icon + u"_background"_s;
+    if (isColorTaken(resources, names.backgroundColor))
+        names.backgroundColor = names.icon + u"_ground"_s;
+    const qsizetype firstFile = plan.files.size();
+    const Outcome planned = planAdaptive(motifs, names, sourceSet, plan);
+    if (planned)
+        removeOtherFormats(root, plan, firstFile);
+    return planned;
+}
+
+} // namespace lumora

@@ -1,0 +1,262 @@
+// SPDX-License-Identifier: MIT
+#include "ProjectPlan.h"
+
+#include "AndroidModule.h"
+#include "CatalogueFilling.h"
+#include "XcodeProject.h"
+#include "foundation/WholeFile.h"
+#include "icons/today/AppleSlots.h"
+#include "icons/today/Motifs.h"
+#include "icons/today/SetPlans.h"
+#include "pictures/PictureReader.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFileInfo>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace lumora
+{
+
+namespace
+{
+
+constexpr int mostFolders = 5000;
+
+/// The folders below that end so, by their paths from there; neither links nor folders of tools are followed.
+QStringList foldersEnding(const QString &root, const QString &ending)
+{
+    QStringList found;
+    QStringList open{QString()};
+    for (int looked = 0; !open.isEmpty() && looked < mostFolders; ++looked) {
+        const QString folder = open.takeFirst();
+        const QStringList names =
+            QDir(root + u'/' + folder).entryList(QDir::Dirs | QDir::NoDotAndDotDot | QDir::NoSymLinks, QDir::Name);
+        for (const QString &name : names) {
+            const QString path = below(folder, name);
+            if (name.endsWith(ending))
+                found << path;
+            else if (!name.startsWith(u'.') && name != u"Pods" && name != u"build" && name != u"node_modules")
+                open << path;
+        }
+    }
+    return found;
+}
+
+} // namespace
+
+ProjectPlaces::ProjectPlaces(QString root, const RecognizedProject &project, const Motifs &motifs,
+                             const ProjectOptions &options, FilePlan &plan)
+    : m_root(std::move(root)), m_project(project), m_motifs(motifs), m_options(options), m_plan(plan)
+{
+}
+
+Outcome ProjectPlaces::add()
+{
+    switch (m_project.kind) {
+    case ProjectKind::Flutter:
+        return addFlutter();
+    case ProjectKind::Capacitor:
+        return addCapacitor();
+    case ProjectKind::Cordova:
+        return addCordova();
+    case ProjectKind::ReactNative:
+        return addReactNative();
+    case ProjectKind::Expo:
+        return addExpo();
+    case ProjectKind::Tauri:
+        return addTauri();
+    case ProjectKind::Electron:
+        return addElectron();
+    case ProjectKind::Maui:
+        return addMaui();
+    case ProjectKind::Xcode:
+        return addXcode({});
+    case ProjectKind::Gradle:
+        return addGradle();
+    }
+    return Done{};
+}
+
+QString ProjectPlaces::at(const QString &path) const
+{
+    return below(m_project.folder, path);
+}
+
+QString ProjectPlaces::whole(const QString &path) const
+{
+    return m_root + u'/' + at(path);
+}
+
+bool ProjectPlaces::has(const QString &path) const
+{
+    return QFileInfo::exists(whole(path));
+}
+
+void ProjectPlaces::addSquare(const QString &file, PictureRecipe recipe)
+{
+    const Result<QSize> size = has(file) ? storedPixelSize(whole(file)) : QSize();
+    if (size && size.value().width() == size.value().height() && !size.value().isEmpty() &&
+        size.value().width() <= storeIconSize)
+        recipe = filled(recipe.motif, size.value().width(), recipe.form);
+    m_plan.addPicture(at(file), recipe);
+}
+
+Outcome ProjectPlaces::addOpaque(const QString &file, int edge)
+{
+    const Result<PictureRecipe> picture = opaqueIcon(m_motifs, edge, m_plan);
+    if (!picture)
+        return picture.failure();
+    m_plan.addPicture(at(file), picture.value());
+    return Done{};
+}
+
+Outcome ProjectPlaces::addAndroid(const QString &sources, bool storePicture)
+{
+    if (!has(sources))
+        return Done{};
+    return planAndroidModule(m_root, at(sources), m_options.flavor,
+                             storePicture ? StorePicture::Kept : StorePicture::None, m_motifs, m_plan);
+}
+
+Outcome ProjectPlaces::addCatalogues(const QString &folder, const QString &name, bool forMac)
+{
+    const QString set = name + u".appiconset"_s;
+    QStringList found;
+    const QStringList catalogues = foldersEnding(whole(folder), u".xcassets"_s);
+    for (const QString &catalogue : catalogues) {
+        const QString base = below(folder, catalogue);
+        const QStringList sets = foldersEnding(whole(base), u".appiconset"_s);
+        for (const QString &path : sets) {
+            if (QFileInfo(path).fileName() == set)
+                found << below(base, path);
+        }
+    }
+    if (found.isEmpty() && !catalogues.isEmpty())
+        found << below(folder, catalogues.first()) + u'/' + set;
+    for (const QString &path : std::as_const(found)) {
+        const Outcome planned =
+            planCatalogue(m_root, at(path), forMac ? CataloguePlatform::Mac : CataloguePlatform::Ios, m_motifs, m_plan);
+        if (!planned)
+            return planned;
+    }
+    return Done{};
+}
+
+Outcome ProjectPlaces::addFlutter()
+{
+    const QString flavored = m_options.flavor.isEmpty() ? u"AppIcon"_s : QString(u"AppIcon-"_s + m_options.flavor);
+    for (const auto &[folder, platform] :
+         {std::pair{u"ios/Runner"_s, CataloguePlatform::Ios}, std::pair{u"macos/Runner"_s, CataloguePlatform::Mac}}) {
+        if (!has(folder))
+            continue;
+        const Outcome planned = planCatalogue(m_root, at(folder + u"/Assets.xcassets/"_s + flavored + u".appiconset"_s),
+                                              platform, m_motifs, m_plan);
+        if (!planned)
+            return planned;
+    }
+    if (const Outcome android = addAndroid(u"android/app/src"_s, false); !android)
+        return android;
+    if (has(u"web"_s)) {
+        constexpr int faviconEdge = 32;
+        addSquare(u"web/favicon.png"_s, filled(Motif::Icon, faviconEdge));
+        for (const int edge : {192, 512}) {
+            m_plan.addPicture(at(u"web/icons/Icon-%1.png"_s.arg(edge)), filled(Motif::Icon, edge));
+            m_plan.addPicture(at(u"web/icons/Icon-maskable-%1.png"_s.arg(edge)), maskableIcon(m_motifs, edge, m_plan));
+        }
+    }
+    if (has(u"windows/runner"_s))
+        m_plan.files.append(
+            windowsIcon(at(u"windows/runner/resources/app_icon.ico"_s), {16, 20, 24, 32, 40, 48, 64, 96, 256}));
+    return Done{};
+}
+
+Outcome ProjectPlaces::addCapacitor()
+{
+    if (has(u"ios/App"_s)) {
+        const Outcome planned = planCatalogue(m_root, at(u"ios/App/App/Assets.xcassets/AppIcon.appiconset"_s),
+                                              CataloguePlatform::Ios, m_motifs, m_plan);
+        if (!planned)
+            return planned;
+    }
+    return addAndroid(u"android/app/src"_s, false);
+}
+
+Outcome ProjectPlaces::addReactNative()
+{
+    if (has(u"ios"_s)) {
+        const Outcome planned = addXcode(u"ios"_s);
+        if (!planned)
+            return planned;
+    }
+    return addAndroid(u"android/app/src"_s, false);
+}
+
+Outcome ProjectPlaces::addTauri()
+{
+    const QString icons = u"src-tauri/icons/"_s;
+    for (const auto &[name, edge] :
+         {std::pair{"32x32.png", 32}, {"128x128.png", 128}, {"128x128@2x.png", 256}, {"icon.png", 512}})
+        m_plan.addPicture(at(icons + QLatin1StringView(name)), filled(Motif::Icon, edge));
+    for (const int edge : {30, 44, 71, 89, 107, 142, 150, 284, 310})
+        m_plan.addPicture(at(icons + u"Square%1x%1Logo.png"_s.arg(edge)), filled(Motif::Icon, edge));
+    m_plan.addPicture(at(icons + u"StoreLogo.png"_s), filled(Motif::Icon, 50));
+    m_plan.files.append(windowsIcon(at(icons + u"icon.ico"_s), {16, 24, 32, 48, 64, 256}));
+    m_plan.files.append(macIconFile(at(icons + u"icon.icns"_s)));
+    if (has(u"src-tauri/gen/apple"_s)) {
+        const Outcome planned = addCatalogues(u"src-tauri/gen/apple"_s, u"AppIcon"_s, false);
+        if (!planned)
+            return planned;
+    }
+    return addAndroid(u"src-tauri/gen/android/app/src"_s, false);
+}
+
+Outcome ProjectPlaces::addXcode(const QString &folder)
+{
+    const QStringList projects =
+        QDir(whole(folder))
+            .entryList({u"*.xcodeproj"_s}, QDir::Dirs | QDir::NoDotAndDotDot | QDir::NoSymLinks, QDir::Name);
+    bool forMac = false;
+    QStringList names;
+    QStringList targets;
+    for (const QString &name : projects) {
+        const QString path = below(folder, name);
+        const std::optional<XcodeProject> project = readXcodeProject(whole(path));
+        if (!project)
+            return Failure{FailureCode::NotReadable, whole(path), u"project.pbxproj"_s};
+        forMac = forMac || project->forMac;
+        for (const auto &[target, icons] : project->iconNames) {
+            targets << target + u" ("_s + icons.join(u", "_s) + u')';
+            if (m_options.target.isEmpty() || m_options.target == target)
+                names += icons;
+        }
+    }
+    names.removeDuplicates();
+    if (names.size() > 1 || (names.isEmpty() && !m_options.target.isEmpty()))
+        return Failure{FailureCode::AmbiguousProject, whole(folder), QString(u"--target: "_s + targets.join(u", "_s))};
+    return addCatalogues(folder, names.isEmpty() ? u"AppIcon"_s : names.first(), forMac);
+}
+
+Outcome ProjectPlaces::addGradle()
+{
+    QStringList modules{u"app"_s};
+    const QStringList folders =
+        QDir(whole({})).entryList(QDir::Dirs | QDir::NoDotAndDotDot | QDir::NoSymLinks, QDir::Name);
+    for (const QString &folder : folders) {
+        if (folder != u"app" && !has(u"app"_s))
+            modules << folder;
+    }
+    for (const QString &module : std::as_const(modules)) {
+        if (!has(module + u"/src/main/AndroidManifest.xml"_s))
+            continue;
+        const Outcome planned = addAndroid(module + u"/src"_s, true);
+        if (!planned)
+            return planned;
+    }
+    return Done{};
+}
+
+} // namespace lumora

@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: MIT
+#include "ProjectPlan.h"
+
+#include "icons/today/Motifs.h"
+
+#include <QHash>
+
+using namespace Qt::StringLiterals;
+
+namespace lumora
+{
+
+namespace
+{
+
+QString description(const RecognizedProject &project)
+{
+    const QString name = QLatin1StringView(infoOf(project.kind).name);
+    return project.folder.isEmpty() ? name : QString(name + u" in "_s + project.folder);
+}
+
+bool isSame(const PlannedFile &one, const PlannedFile &other)
+{
+    return one.kind == other.kind && one.pictures == other.pictures && one.text == other.text;
+}
+
+void addAll(FilePlan &plan, const FilePlan &more)
+{
+    plan.files += more.files;
+    plan.linesToAdd += more.linesToAdd;
+    plan.filesToRemove += more.filesToRemove;
+    for (const Derived &derived : more.derived)
+        plan.note(derived.derivation, derived.detail);
+}
+
+} // namespace
+
+Result<ProjectPlan> planProjects(const QString &root, const Motifs &motifs, const ProjectOptions &options)
+{
+    ProjectPlan plan{recognizeProjects(root), {}};
+    if (plan.projects.isEmpty())
+        return Failure{FailureCode::NotAProject, root, projectMarks().join(u"; "_s)};
+    QHash<QString, RecognizedProject> owners;
+    for (const RecognizedProject &project : plan.projects) {
+        FilePlan files;
+        const Outcome planned = ProjectPlaces(root, project, motifs, options, files).add();
+        if (!planned)
+            return planned.failure();
+        FilePlan fresh;
+        for (const PlannedFile &file : files.files) {
+            const auto owner = owners.constFind(file.path);
+            if (owner == owners.constEnd()) {
+                owners.insert(file.path, project);
+                fresh.files << file;
+                continue;
+            }
+            for (const PlannedFile &other : plan.files.files) {
+                if (other.path == file.path && !isSame(file, other))
+                    return Failure{FailureCode::AmbiguousProject,
+                                   root,
+                                   {"DETAIL_BOTH_WANT",
+                                    {{"[FIRST]", description(*owner)},
+                                     {"[SECOND]", description(project)},
+                                     {"[FILE]", file.path}}}};
+            }
+        }
+        files.files = fresh.files;
+        addAll(plan.files, files);
+    }
+    if (plan.files.files.isEmpty()) {
+        QStringList names;
+        for (const RecognizedProject &project : plan.projects)
+            names << description(project);
+        return Failure{
+            FailureCode::NotAProject, root, {"DETAIL_NO_ICON_PLACES", {{"[PROJECTS]", names.join(u", "_s)}}}};
+    }
+    plan.files.filesToRemove.removeDuplicates();
+    return plan;
+}
+
+} // namespace lumora

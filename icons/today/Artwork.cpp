@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: MIT
+#include "Artwork.h"
+
+#include "icons/IconCatalogue.h"
+#include "pictures/pixels/PixelFormat.h"
+#include "pictures/scaling/PicturePlanes.h"
+#include "pictures/scaling/Resampler.h"
+#include "pictures/svg/SvgDrawing.h"
+
+#include <mutex>
+
+namespace lumora
+{
+
+struct Artwork::State
+{
+    QImage picture;                            ///< null for a drawing that is drawn again for every size
+    std::shared_ptr<const SvgDrawing> drawing; ///< none for a picture
+    std::once_flag takenApart;
+    std::unique_ptr<Resampler> resampler;
+    std::once_flag judged;
+    bool opaque = false;
+};
+
+Artwork::Artwork() = default;
+
+Artwork::Artwork(const QImage &picture)
+{
+    if (picture.isNull())
+        return;
+    m_state = std::make_shared<State>();
+    m_state->picture = premultiplied(picture);
+}
+
+Artwork::Artwork(std::shared_ptr<const SvgDrawing> drawing) : m_state(std::make_shared<State>())
+{
+    if (drawing->isHeavy())
+        m_state->picture = drawing->at(sourceIconSize);
+    m_state->drawing = std::move(drawing);
+}
+
+Artwork::~Artwork() = default;
+
+Artwork::Artwork(const Artwork &) = default;
+
+Artwork &Artwork::operator=(const Artwork &) = default;
+
+QByteArray Artwork::svgFile() const
+{
+    return m_state && m_state->drawing ? m_state->drawing->file() : QByteArray();
+}
+
+bool Artwork::isOpaque() const
+{
+    if (!m_state)
+        return false;
+    std::call_once(m_state->judged, [this] { m_state->opaque = lumora::isOpaque(at(sourceIconSize)); });
+    return m_state->opaque;
+}
+
+QImage Artwork::at(int edge) const
+{
+    if (!m_state)
+        return {};
+    if (m_state->picture.isNull())
+        return m_state->drawing->at(edge);
+    const QSize size(edge, edge);
+    if (m_state->picture.size() == size)
+        return m_state->picture;
+    std::call_once(m_state->takenApart,
+                   [this] { m_state->resampler = std::make_unique<Resampler>(m_state->picture, QString()); });
+    Result<QImage> scaled = m_state->resampler->scaledTo(size);
+    return scaled ? std::move(scaled).value() : QImage();
+}
+
+} // namespace lumora

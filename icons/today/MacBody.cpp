@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: MIT
+#include "MacBody.h"
+
+#include "AppleSlots.h"
+#include "Artwork.h"
+#include "pictures/RoundedCorners.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <cstring>
+#include <vector>
+
+namespace lumora
+{
+
+namespace
+{
+
+/// Opacities of a square picture, a byte each.
+using Shape = std::vector<std::uint8_t>;
+
+constexpr int edge = storeIconSize;
+
+/// Each value becomes the mean of those within `radius` along its row, and the picture is turned over its diagonal.
+/// Doing so twice blurs both ways.
+Shape blurredAndTurned(const Shape &shape, int radius)
+{
+    Shape result(shape.size());
+    const int window = 2 * radius + 1;
+    for (int y = 0; y < edge; ++y) {
+        const std::uint8_t *row = shape.data() + static_cast<std::size_t>(y) * edge;
+        const auto at = [row](int x) { return x < 0 || x >= edge ? 0 : int{row[x]}; };
+        int sum = 0;
+        for (int x = -radius; x <= radius; ++x)
+            sum += at(x);
+        for (int x = 0; x < edge; ++x) {
+            result[static_cast<std::size_t>(x) * edge + static_cast<std::size_t>(y)] =
+                static_cast<std::uint8_t>((sum + window / 2) / window);
+            sum += at(x + radius + 1) - at(x - radius);
+        }
+    }
+    return result;
+}
+
+/// The body's opacities lowered and blurred: three means come close to a bell.
+Shape shadowOf(const QImage &body, int left, int top)
+{
+    Shape shape(static_cast<std::size_t>(edge) * edge);
+    for (int y = 0; y < body.height(); ++y) {
+        const uchar *pixel = body.constScanLine(y);
+        const auto row = static_cast<std::size_t>(top + macGrid.shadowOffset + y) * edge;
+        for (int x = 0; x < body.width(); ++x)
+            shape[row + static_cast<std::size_t>(left + x)] = pixel[4 * x + 3];
+    }
+    for (int pass = 0; pass < 3; ++pass)
+        shape = blurredAndTurned(blurredAndTurned(shape, macGrid.shadowBlur / 3), macGrid.shadowBlur / 3);
+    return shape;
+}
+
+} // namespace
+
+QImage macBody(const Artwork &icon)
+{
+    QImage body = icon.at(macGrid.body);
+    if (body.isNull())
+        return {};
+    roundCorners(body, macGrid.cornerRadius);
+    const int margin = (edge - macGrid.body) / 2;
+    const Shape shadow = shadowOf(body, margin, margin);
+    QImage picture(edge, edge, QImage::Format_RGBA8888_Premultiplied);
+    picture.fill(Qt::transparent);
+    for (int y = 0; y < edge; ++y) {
+        uchar *row = picture.scanLine(y);
+        const std::uint8_t *shades = shadow.data() + static_cast<std::size_t>(y) * edge;
+        for (int x = 0; x < edge; ++x)
+            row[4 * x + 3] = static_cast<uchar>((shades[x] * macGrid.shadowOpacity + 127) / 255);
+        const int inBody = y - margin;
+        if (inBody < 0 || inBody >= body.height())
+            continue;
+        const uchar *from = body.constScanLine(inBody);
+        uchar *to = row + 4 * margin;
+        for (int x = 0; x < body.width(); ++x, from += 4, to += 4) {
+            const int below = (to[3] * (255 - from[3]) + 127) / 255;
+            std::memcpy(to, from, 3);
+            to[3] = static_cast<uchar>(std::min(from[3] + below, 255));
+        }
+    }
+    return picture;
+}
+
+} // namespace lumora

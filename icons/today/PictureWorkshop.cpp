@@ -1,0 +1,152 @@
+// SPDX-License-Identifier: MIT
+#include "PictureWorkshop.h"
+
+#include "Motifs.h"
+#include "foundation/MemoryLimit.h"
+#include "pictures/png/PngEncoder.h"
+#include "pictures/png/PngRows.h"
+
+#include <algorithm>
+#include <atomic>
+#include <map>
+#include <mutex>
+#include <optional>
+#include <thread>
+#include <tuple>
+
+namespace lumora
+{
+
+namespace
+{
+
+/// From this many pixels on a picture takes so long to encode that several threads share it.
+constexpr qint64 largePicture = 1 << 20;
+
+/// Values that are made once each, by whichever thread asks first; the others wait.
+template <typename Key, typename Value> class MadeOnce
+{
+public:
+    template <typename Make> Value get(const Key &key, Make make)
+    {
+        Entry *entry = nullptr;
+        {
+            const std::scoped_lock lock(m_mutex);
+            entry = &m_entries[key];
+        }
+        std::call_once(entry->once, [&] { entry->value = make(); });
+        return *entry->value;
+    }
+
+private:
+    struct Entry
+    {
+        std::once_flag once;
+        std::optional<Value> value;
+    };
+
+    std::mutex m_mutex;
+    std::map<Key, Entry> m_entries;
+};
+
+} // namespace
+
+class PictureWorkshop::Private
+{
+public:
+    explicit Private(const Motifs &pictured) : motifs(pictured) {}
+
+    ~Private()
+    {
+        stopping = true;
+        threads.clear();
+    }
+
+    QImage drawing(Motif motif, int layer, int edge)
+    {
+        return drawn.get({motif, layer, edge}, [this, motif, layer, edge] {
+            ++drawings;
+            return motifs.at(motif, layer, edge);
+        });
+    }
+
+    QImage pixels(const PictureRecipe &recipe)
+    {
+        const QImage motif = drawing(recipe.motif, recipe.layer, recipe.edge);
+        const QSize size(recipe.width, recipe.height);
+        if (motif.isNull() || (motif.size() == size && recipe.ground == 0))
+            return motif;
+        QImage picture(size, QImage::Format_RGBA8888_Premultiplied);
+        picture.fill(recipe.ground == 0 ? QColor(Qt::transparent) : QColor::fromRgb(recipe.ground));
+        drawInMiddle(picture, motif);
+        return picture;
+    }
+
+    Result<QByteArray> file(const PictureRecipe &recipe)
+    {
+        return files.get(recipe, [this, &recipe]() -> Result<QByteArray> {
+            return withinMemory(QString(), [&] { return encoded(recipe); });
+        });
+    }
+
+    Result<QByteArray> encoded(const PictureRecipe &recipe)
+    {
+        const QImage picture = pixels(recipe);
+        if (picture.isNull())
+            return outOfMemory({});
+        const bool large = qint64{picture.width()} * picture.height() >= largePicture;
+        const int helpers = large ? std::max(static_cast<int>(std::thread::hardware_concurrency()) / 2, 1) : 1;
+        return recipe.form == PictureForm::Opaque ? encodeOpaquePng(picture, helpers, {})
+                                                  : encodePng(ImageRows(picture), helpers, {});
+    }
+
+    const Motifs &motifs;
+    std::atomic<int> drawings = 0;
+    MadeOnce<std::tuple<Motif, int, int>, QImage> drawn;
+    MadeOnce<PictureRecipe, Result<QByteArray>> files;
+    std::vector<PictureRecipe> prepared;
+    std::atomic<std::size_t> next = 0;
+    std::atomic<bool> stopping = false;
+    std::vector<std::jthread> threads;
+};
+
+PictureWorkshop::PictureWorkshop(const Motifs &motifs) : m_state(std::make_unique<Private>(motifs)) {}
+
+PictureWorkshop::~PictureWorkshop() = default;
+
+void PictureWorkshop::prepare(std::vector<PictureRecipe> recipes)
+{
+    // What takes longest must not be left to the end, when the other cores have nothing to do.
+    std::stable_sort(recipes.begin(), recipes.end(), [](const PictureRecipe &one, const PictureRecipe &other) {
+        return qint64{one.width} * one.height > qint64{other.width} * other.height;
+    });
+    m_state->prepared = std::move(recipes);
+    const unsigned count = std::max(std::thread::hardware_concurrency(), 1U);
+    for (unsigned i = 0; i < count; ++i) {
+        m_state->threads.emplace_back([state = m_state.get()] {
+            for (std::size_t index = state->next++; index < state->prepared.size() && !state->stopping;
+                 index = state->next++)
+                (void)state->file(state->prepared[index]);
+        });
+    }
+}
+
+Result<QByteArray> PictureWorkshop::file(const PictureRecipe &recipe)
+{
+    return m_state->file(recipe);
+}
+
+Result<QImage> PictureWorkshop::pixels(const PictureRecipe &recipe)
+{
+    return withinMemory(QString(), [&]() -> Result<QImage> {
+        QImage picture = m_state->pixels(recipe);
+        return picture.isNull() ? Result<QImage>(outOfMemory({})) : std::move(picture);
+    });
+}
+
+int PictureWorkshop::drawings() const
+{
+    return m_state->drawings;
+}
+
+} // namespace lumora

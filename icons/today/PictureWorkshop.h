@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "PictureRecipe.h"
+#include "foundation/Result.h"
+
+#include <QByteArray>
+#include <QImage>
+
+#include <memory>
+#include <vector>
+
+namespace lumora
+{
+
+class Motifs;
+
+/// Makes the pictures of all sets: each motif is drawn once in each size, each recipe encoded once, on all cores.
+class PictureWorkshop
+{
+public:
+    /// The motifs must outlive it.
+    explicit PictureWorkshop(const Motifs &motifs);
+    /// Leaves out what was prepared and not begun; waits for what was.
+    ~PictureWorkshop();
+    PictureWorkshop(const PictureWorkshop &) = delete;
+    PictureWorkshop &operator=(const PictureWorkshop &) = delete;
+
+    /// Begins pictures that will be wanted, the largest first. Called once.
+    void prepare(std::vector<PictureRecipe> recipes);
+
+    /// The picture as a PNG file; waits until it is made. Fails with `TooLarge` and without a subject if memory runs
+    /// out.
+    Result<QByteArray> file(const PictureRecipe &recipe);
+
+    /// The picture's pixels, premultiplied RGBA. Fails as `file` does.
+    Result<QImage> pixels(const PictureRecipe &recipe);
+
+    /// How often a motif was drawn in some size up to now.
+    int drawings() const;
+
+private:
+    class Private;
+    std::unique_ptr<Private> m_state;
+};
+
+} // namespace lumora

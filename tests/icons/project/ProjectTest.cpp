@@ -1,0 +1,546 @@
+// SPDX-License-Identifier: MIT
+#include "icons/check/IconCheck.h"
+#include "icons/project/OpenStepList.h"
+#include "icons/project/ProjectPlan.h"
+#include "icons/project/ProjectWriter.h"
+#include "icons/today/Motifs.h"
+#include "pictures/PictureReader.h"
+#include "pictures/svg/SvgDrawing.h"
+#include "tests/doubles/FilesOnDisk.h"
+#include "tests/icons/today/TodayPictures.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QMap>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <algorithm>
+
+using namespace lumora;
+using namespace Qt::StringLiterals;
+
+using Tree = QMap<QString, QByteArray>;
+
+namespace
+{
+
+const QByteArray manifest = "<manifest xmlns:android=\"http://schemas.android.com/apk/res/android\">"
+                            "<application android:icon=\"@mipmap/ic_launcher\"/></manifest>";
+const QByteArray manifestWithRound =
+    "<manifest xmlns:android=\"http://schemas.android.com/apk/res/android\"><application "
+    "android:icon=\"@mipmap/ic_app\" android:roundIcon=\"@mipmap/ic_app_round\"/></manifest>";
+const QByteArray universalList = "{\"images\":[{\"idiom\":\"universal\",\"platform\":\"ios\",\"size\":\"1024x1024\"},"
+                                 "{\"idiom\":\"universal\",\"platform\":\"ios\",\"size\":\"1024x1024\","
+                                 "\"appearances\":[{\"appearance\":\"luminosity\",\"value\":\"tinted\"}]}],"
+                                 "\"info\":{\"author\":\"xcode\",\"version\":1}}";
+const QByteArray deviceList =
+    "{\"images\":[{\"size\":\"20x20\",\"idiom\":\"iphone\",\"filename\":\"Icon-App-20x20@2x.png\",\"scale\":\"2x\"},"
+    "{\"size\":\"83.5x83.5\",\"idiom\":\"ipad\",\"filename\":\"Icon-App-83.5x83.5@2x.png\",\"scale\":\"2x\"},"
+    "{\"size\":\"1024x1024\",\"idiom\":\"ios-marketing\",\"filename\":\"Icon-App-1024x1024@1x.png\",\"scale\":\"1x\"}],"
+    "\"info\":{\"version\":1,\"author\":\"xcode\"}}";
+const QByteArray macList =
+    "{\"images\":[{\"size\":\"16x16\",\"idiom\":\"mac\",\"filename\":\"app_icon_16.png\",\"scale\":\"1x\"},"
+    "{\"size\":\"16x16\",\"idiom\":\"mac\",\"filename\":\"app_icon_32.png\",\"scale\":\"2x\"},"
+    "{\"size\":\"32x32\",\"idiom\":\"mac\",\"filename\":\"app_icon_32.png\",\"scale\":\"1x\"},"
+    "{\"size\":\"512x512\",\"idiom\":\"mac\",\"filename\":\"app_icon_1024.png\",\"scale\":\"2x\"}]}";
+
+/// A project file with a target for each name and icon.
+QByteArray xcodeProject(const QList<std::pair<QByteArray, QByteArray>> &targets, const QByteArray &sdk = "iphoneos")
+{
+    QByteArray text = "// !$*UTF8*$!\n{\n\tarchiveVersion = 1;\n\tclasses = {\n\t};\n\tobjects = {\n"
+                      "/* Begin XCBuildConfiguration section */\n"
+                      "\t\tC0 /* Release */ = {isa = XCBuildConfiguration; buildSettings = {SDKROOT = " +
+                      sdk + "; }; name = Release; };\n";
+    for (const auto &[target, icon] : targets) {
+        text +=
+            "\t\tT" + target + " /* " + target + " */ = {\n\t\t\tisa = PBXNativeTarget;\n" +
+            "\t\t\tbuildConfigurationList = L" + target + ";\n\t\t\tname = \"" + target + "\";\n\t\t};\n" + "\t\tL" +
+            target + " = {isa = XCConfigurationList; buildConfigurations = (\n\t\t\t\tC" + target +
+            " /* Debug */,\n\t\t\t); };\n" + "\t\tC" + target +
+            " = {isa = XCBuildConfiguration; buildSettings = {\n\t\t\t\tASSETCATALOG_COMPILER_APPICON_NAME = " + icon +
+            ";\n\t\t\t\tOTHER = \"a \\\"quoted\\\" word\";\n\t\t\t}; name = Debug; };\n";
+    }
+    return text + "\t};\n\trootObject = P0;\n}\n";
+}
+
+const Tree flutter = {
+    {u"pubspec.yaml"_s, "name: app\nflutter:\n  uses-material-design: true\n"},
+    {u"ios/Runner/Assets.xcassets/AppIcon.appiconset/Contents.json"_s, deviceList},
+    {u"ios/Runner.xcodeproj/project.pbxproj"_s, xcodeProject({{"Runner", "AppIcon"}})},
+    {u"macos/Runner/Assets.xcassets/AppIcon.appiconset/Contents.json"_s, macList},
+    {u"android/settings.gradle"_s, ""},
+    {u"android/app/src/main/AndroidManifest.xml"_s, manifest},
+    {u"web/index.html"_s, "<html>"},
+    {u"web/manifest.json"_s, "{}"},
+    {u"web/favicon.png"_s, encodedPng(testPicture(16, 16))},
+    {u"windows/runner/resources/app_icon.ico"_s, "old"},
+};
+const Tree capacitor = {
+    {u"capacitor.config.ts"_s, "export default {};"},
+    {u"package.json"_s, "{}"},
+    {u"ios/App/App/Assets.xcassets/AppIcon.appiconset/Contents.json"_s,
+     "{\"images\":[{\"filename\":\"AppIcon-512@2x.png\",\"idiom\":\"universal\",\"platform\":\"ios\","
+     "\"size\":\"1024x1024\"}]}"},
+    {u"android/app/src/main/AndroidManifest.xml"_s, manifest},
+};
+const Tree cordova = {
+    {u"config.xml"_s, "<widget xmlns=\"http://www.w3.org/ns/widgets\"><platform name=\"ios\">"
+                      "<icon src=\"res/ios/60@2x.png\" width=\"120\" height=\"120\"/></platform>"
+                      "<platform name=\"android\"><icon src=\"res/a/hdpi.png\" width=\"72\"/></platform></widget>"},
+};
+const Tree reactNative = {
+    {u"package.json"_s, "{\"dependencies\":{\"react-native\":\"0.80\"}}"},
+    {u"ios/Mine/Images.xcassets/AppIcon.appiconset/Contents.json"_s, universalList},
+    {u"ios/Mine.xcodeproj/project.pbxproj"_s, xcodeProject({{"Mine", "AppIcon"}})},
+    {u"android/app/src/main/AndroidManifest.xml"_s, manifestWithRound},
+};
+const Tree expo = {
+    {u"app.json"_s, "{\"expo\":{\"icon\":\"./assets/icon.png\",\"ios\":{\"icon\":{\"light\":\"./assets/l.png\","
+                    "\"tinted\":\"./assets/t.png\"}},\"android\":{\"adaptiveIcon\":{\"foregroundImage\":"
+                    "\"./assets/f.png\"}},\"web\":{\"favicon\":\"./assets/favicon.png\"}}}"},
+    {u"package.json"_s, "{\"dependencies\":{\"expo\":\"54\"}}"},
+};
+const Tree tauri = {
+    {u"src-tauri/tauri.conf.json"_s, "{}"},
+    {u"src-tauri/icons/icon.ico"_s, "old"},
+    {u"package.json"_s, "{}"},
+    {u"src-tauri/gen/apple/Assets.xcassets/AppIcon.appiconset/Contents.json"_s, deviceList},
+};
+const Tree electron = {
+    {u"package.json"_s, "{\"devDependencies\":{\"electron\":\"30\"},\"build\":{\"directories\":{\"buildResources\":"
+                        "\"resources\"}}}"},
+};
+const Tree maui = {
+    {u"App.csproj"_s, "<Project><PropertyGroup><UseMaui>true</UseMaui></PropertyGroup></Project>"},
+};
+const Tree xcode = {
+    {u"Mine.xcodeproj/project.pbxproj"_s, xcodeProject({{"App", "Icon"}, {"Watch", "Icon"}})},
+    {u"Mine/Assets.xcassets/Other.appiconset/Contents.json"_s, universalList},
+    {u"Mine/Assets.xcassets/Icon.appiconset/Contents.json"_s, universalList},
+    {u"Watch/Assets.xcassets/Icon.appiconset/Contents.json"_s,
+     "{\"images\":[{\"idiom\":\"universal\",\"platform\":\"watchos\",\"size\":\"1024x1024\"}]}"},
+};
+const Tree gradle = {
+    {u"settings.gradle.kts"_s, ""},
+    {u"app/src/main/AndroidManifest.xml"_s, manifestWithRound},
+    {u"app/src/main/res/mipmap-hdpi/ic_app.webp"_s, "old"},
+    {u"app/src/main/res/values/colors.xml"_s, "<resources><color name=\"ic_app_background\">#000</color></resources>"},
+};
+
+bool put(const QString &folder, const Tree &tree)
+{
+    for (auto file = tree.begin(); file != tree.end(); ++file) {
+        if (!putFile(folder + u'/' + file.key(), file.value()))
+            return false;
+    }
+    return true;
+}
+
+TodaySources drawn()
+{
+    TodaySources sources;
+    sources.icon = Artwork(SvgDrawing::read("<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"0 0 10 10\">"
+                                            "<path fill=\"#d33\" d=\"M0 0h10v10h-10z\"/>"
+                                            "<path fill=\"#fff\" d=\"M3 3h4v4h-4z\"/></svg>",
+                                            {})
+                               .value());
+    return sources;
+}
+
+struct Put
+{
+    std::optional<Failure> failure;
+    QList<ProjectFile> files;
+    QStringList linesToAdd;
+    qsizetype count(FileChange change) const
+    {
+        return std::count_if(files.begin(), files.end(),
+                             [change](const ProjectFile &file) { return file.change == change; });
+    }
+    QStringList paths() const
+    {
+        QStringList paths;
+        for (const ProjectFile &file : files)
+            paths << file.path;
+        return paths;
+    }
+};
+
+Put putInto(const QString &folder, const ProjectOptions &options = {}, const TodaySources &sources = drawn())
+{
+    const Motifs motifs(sources, MacForm::Body);
+    const Result<ProjectPlan> plan = planProjects(folder, motifs, options);
+    if (!plan)
+        return {plan.failure(), {}, {}};
+    const Result<QList<ProjectFile>> files = compareWithProject(folder, plan.value().files, motifs);
+    if (!files)
+        return {files.failure(), {}, {}};
+    const Outcome written = writeIntoProject(folder, files.value(), {});
+    return {written ? std::nullopt : std::optional(written.failure()), files.value(), plan.value().files.linesToAdd};
+}
+
+/// Every file with its content.
+Tree content(const QString &folder)
+{
+    Tree tree;
+    for (const QString &file : filesBelowFolder(folder))
+        tree[file] = contentOfFile(folder + u'/' + file);
+    return tree;
+}
+
+} // namespace
+
+class ProjectTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void recognized_data();
+    void recognized();
+    void writtenTwice_data();
+    void writtenTwice();
+    void namesOfTheProject();
+    void sizesOfTheProject();
+    void flavors();
+    void targets();
+    void otherFormatsGo();
+    void takenColors();
+    void refused_data();
+    void refused();
+    void linksThatLeadOutside_data();
+    void linksThatLeadOutside();
+    void oldFilesComeBack();
+    void sourcesThatDoNotFit();
+    void propertyLists_data();
+    void propertyLists();
+};
+
+void ProjectTest::recognized_data()
+{
+    QTest::addColumn<Tree>("tree");
+    QTest::addColumn<QStringList>("kinds");
+    QTest::newRow("flutter") << flutter << QStringList{u"flutter"_s};
+    QTest::newRow("capacitor") << capacitor << QStringList{u"capacitor"_s};
+    QTest::newRow("cordova") << cordova << QStringList{u"cordova"_s};
+    QTest::newRow("react native") << reactNative << QStringList{u"react-native"_s};
+    QTest::newRow("expo") << expo << QStringList{u"expo"_s};
+    QTest::newRow("tauri") << tauri << QStringList{u"tauri"_s};
+    QTest::newRow("electron") << electron << QStringList{u"electron"_s};
+    QTest::newRow("maui") << maui << QStringList{u"maui"_s};
+    QTest::newRow("xcode") << xcode << QStringList{u"xcode"_s};
+    QTest::newRow("gradle") << gradle << QStringList{u"gradle"_s};
+    Tree two;
+    for (auto file = flutter.begin(); file != flutter.end(); ++file)
+        two[u"apps/mobile/"_s + file.key()] = file.value();
+    for (auto file = electron.begin(); file != electron.end(); ++file)
+        two[u"desktop/"_s + file.key()] = file.value();
+    QTest::newRow("several in one tree") << two << QStringList{u"desktop: electron"_s};
+    QTest::newRow("nothing") << Tree{{u"pubspec.yaml"_s, "name: package\n"},
+                                     {u"package.json"_s, "[]"},
+                                     {u"config.xml"_s, "<configuration/>"},
+                                     {u"app.json"_s, "{\"expo\":1}"}}
+                             << QStringList();
+}
+
+void ProjectTest::recognized()
+{
+    QFETCH(Tree, tree);
+    const QTemporaryDir folder;
+    QVERIFY(put(folder.path(), tree));
+    QStringList kinds;
+    for (const RecognizedProject &project : recognizeProjects(folder.path()))
+        kinds << (project.folder.isEmpty() ? QString() : QString(project.folder + u": "_s)) +
+                     QLatin1StringView(infoOf(project.kind).id);
+    QTEST(kinds, "kinds");
+}
+
+void ProjectTest::writtenTwice_data()
+{
+    QTest::addColumn<Tree>("tree");
+    QTest::addColumn<int>("count");
+    QTest::addColumn<QStringList>("some");
+    QTest::newRow("flutter") << flutter << 3 + 3 + 12 + 5 + 1
+                             << QStringList{
+                                    u"ios/Runner/Assets.xcassets/AppIcon.appiconset/Icon-App-83.5x83.5@2x.png"_s,
+                                    u"macos/Runner/Assets.xcassets/AppIcon.appiconset/app_icon_32.png"_s,
+                                    u"android/app/src/main/res/mipmap-xxhdpi/ic_launcher.png"_s,
+                                    u"web/icons/Icon-maskable-512.png"_s};
+    QTest::newRow("capacitor") << capacitor << 1 + 12
+                               << QStringList{u"ios/App/App/Assets.xcassets/AppIcon.appiconset/AppIcon-512@2x.png"_s};
+    QTest::newRow("cordova") << cordova << 2 << QStringList{u"res/ios/60@2x.png"_s, u"res/a/hdpi.png"_s};
+    QTest::newRow("react native") << reactNative << 3 + 18
+                                  << QStringList{u"ios/Mine/Images.xcassets/AppIcon.appiconset/AppIcon-Tinted.png"_s,
+                                                 u"android/app/src/main/res/mipmap-hdpi/ic_app_round.png"_s};
+    QTest::newRow("expo") << expo << 5 << QStringList{u"assets/icon.png"_s, u"assets/f.png"_s};
+    QTest::newRow("tauri") << tauri << 4 + 9 + 1 + 2 + 3
+                           << QStringList{u"src-tauri/icons/128x128@2x.png"_s, u"src-tauri/icons/icon.icns"_s};
+    QTest::newRow("electron") << electron << 3 + 9 << QStringList{u"resources/icons/512x512.png"_s};
+    QTest::newRow("maui") << maui << 1 << QStringList{u"Resources/AppIcon/appicon.svg"_s};
+    QTest::newRow("xcode") << xcode << 3 + 2
+                           << QStringList{u"Mine/Assets.xcassets/Icon.appiconset/AppIcon.png"_s,
+                                          u"Watch/Assets.xcassets/Icon.appiconset/AppIcon.png"_s};
+    QTest::newRow("gradle") << gradle << 18 + 1 + 1 << QStringList{u"app/src/main/ic_app-playstore.png"_s};
+}
+
+void ProjectTest::writtenTwice()
+{
+    QFETCH(Tree, tree);
+    QFETCH(int, count);
+    const QTemporaryDir folder;
+    QVERIFY(put(folder.path(), tree));
+    const Put first = putInto(folder.path());
+    QVERIFY2(!first.failure, first.failure ? qPrintable(first.failure->subject + first.failure->detail.words()) : "");
+    QVERIFY2(first.files.size() == count, qPrintable(first.paths().join(u'\n')));
+    QCOMPARE(first.count(FileChange::Unchanged), 0);
+    QFETCH(QStringList, some);
+    for (const QString &path : some)
+        QVERIFY2(first.paths().contains(path), qPrintable(path));
+    for (const ProjectFile &file : first.files) {
+        if (file.change != FileChange::Removed)
+            QCOMPARE(contentOfFile(folder.filePath(file.path)), file.after);
+    }
+    // What is not the icon's own stays.
+    for (auto file = tree.begin(); file != tree.end(); ++file) {
+        if (!first.paths().contains(file.key()))
+            QCOMPARE(contentOfFile(folder.filePath(file.key())), file.value());
+    }
+    const Tree written = content(folder.path());
+    const Put second = putInto(folder.path());
+    QVERIFY(!second.failure);
+    QCOMPARE(second.count(FileChange::Unchanged), second.files.size());
+    QCOMPARE(content(folder.path()), written);
+    const IconCheck check = checkIcons(folder.path()).value();
+    for (const IconFinding &finding : check.findings) {
+        const bool fits = infoOf(finding.rule).severity != FindingSeverity::Error || finding.path.contains(u"Other");
+        QVERIFY2(fits, qPrintable(finding.path + finding.evidence));
+    }
+}
+
+void ProjectTest::namesOfTheProject()
+{
+    const QTemporaryDir folder;
+    QVERIFY(put(folder.path(), reactNative));
+    QVERIFY(!putInto(folder.path()).failure);
+    const QString set = u"ios/Mine/Images.xcassets/AppIcon.appiconset/"_s;
+    const QJsonArray images =
+        QJsonDocument::fromJson(contentOfFile(folder.filePath(set + u"Contents.json"_s)))[u"images"_s].toArray();
+    QCOMPARE(images[0].toObject()[u"filename"_s].toString(), u"AppIcon.png"_s);
+    QCOMPARE(images[1].toObject()[u"filename"_s].toString(), u"AppIcon-Tinted.png"_s);
+    // A list whose every slot has its file is the project's own and stays as it is.
+    const QTemporaryDir other;
+    QVERIFY(put(other.path(), flutter));
+    QVERIFY(!putInto(other.path()).failure);
+    QCOMPARE(contentOfFile(other.filePath(u"ios/Runner/Assets.xcassets/AppIcon.appiconset/Contents.json"_s)),
+             deviceList);
+}
+
+void ProjectTest::sizesOfTheProject()
+{
+    const QTemporaryDir folder;
+    QVERIFY(put(folder.path(), flutter));
+    QVERIFY(!putInto(folder.path()).failure);
+    QCOMPARE(storedPixelSize(folder.filePath(u"web/favicon.png"_s)).value(), QSize(16, 16));
+    QCOMPARE(
+        storedPixelSize(folder.filePath(u"ios/Runner/Assets.xcassets/AppIcon.appiconset/Icon-App-83.5x83.5@2x.png"_s))
+            .value(),
+        QSize(167, 167));
+    QCOMPARE(storedPixelSize(folder.filePath(u"macos/Runner/Assets.xcassets/AppIcon.appiconset/app_icon_1024.png"_s))
+                 .value(),
+             QSize(1024, 1024));
+}
+
+void ProjectTest::flavors()
+{
+    const QTemporaryDir folder;
+    QVERIFY(put(folder.path(), flutter));
+    const Put result = putInto(folder.path(), {u"beta"_s, {}});
+    QVERIFY(!result.failure);
+    QVERIFY(result.paths().contains(u"android/app/src/beta/res/mipmap-mdpi/ic_launcher.png"_s));
+    QVERIFY(result.paths().contains(u"ios/Runner/Assets.xcassets/AppIcon-beta.appiconset/AppIcon.png"_s));
+    QVERIFY(!result.paths().join(u' ').contains(u"src/main"));
+}
+
+void ProjectTest::targets()
+{
+    Tree tree = xcode;
+    tree[u"Mine.xcodeproj/project.pbxproj"_s] = xcodeProject({{"App", "Icon"}, {"Beta", "Other"}});
+    const QTemporaryDir folder;
+    QVERIFY(put(folder.path(), tree));
+    const Put without = putInto(folder.path());
+    QVERIFY(without.failure && without.failure->code == FailureCode::AmbiguousProject);
+    QVERIFY(without.failure->detail.words().contains(u"Beta (Other)"));
+    const Put unknown = putInto(folder.path(), {{}, u"Gamma"_s});
+    QVERIFY(unknown.failure && unknown.failure->code == FailureCode::AmbiguousProject);
+    const Put beta = putInto(folder.path(), {{}, u"Beta"_s});
+    QVERIFY(!beta.failure);
+    QCOMPARE(beta.paths().filter(u"Icon.appiconset"_s), QStringList());
+    QVERIFY(beta.paths().contains(u"Mine/Assets.xcassets/Other.appiconset/AppIcon.png"_s));
+}
+
+void ProjectTest::otherFormatsGo()
+{
+    const QTemporaryDir folder;
+    QVERIFY(put(folder.path(), gradle));
+    const Put result = putInto(folder.path());
+    QCOMPARE(result.count(FileChange::Removed), 1);
+    QVERIFY(!QFile::exists(folder.filePath(u"app/src/main/res/mipmap-hdpi/ic_app.webp"_s)));
+}
+
+void ProjectTest::takenColors()
+{
+    const QTemporaryDir folder;
+    QVERIFY(put(folder.path(), gradle));
+    QVERIFY(!putInto(folder.path()).failure);
+    QVERIFY(
+        contentOfFile(folder.filePath(u"app/src/main/res/values/ic_app_ground.xml"_s)).contains("\"ic_app_ground\""));
+    QVERIFY(contentOfFile(folder.filePath(u"app/src/main/res/mipmap-anydpi-v26/ic_app.xml"_s))
+                .contains("@color/ic_app_ground"));
+}
+
+void ProjectTest::refused_data()
+{
+    QTest::addColumn<Tree>("tree");
+    QTest::addColumn<FailureCode>("code");
+    QTest::addColumn<QString>("named");
+    QTest::newRow("no project") << Tree{{u"a.txt"_s, ""}} << FailureCode::NotAProject << u"pubspec.yaml"_s;
+    QTest::newRow("a project without platforms")
+        << Tree{{u"capacitor.config.json"_s, "{}"}} << FailureCode::NotAProject << u"Capacitor"_s;
+    Tree both = flutter;
+    both[u"capacitor.config.json"_s] = "{}";
+    both[u"ios/App/App/Info.plist"_s] = "";
+    QTest::newRow("the same place twice, alike") << both << FailureCode::AmbiguousProject << QString();
+    Tree climbing = electron;
+    climbing[u"package.json"_s] = "{\"dependencies\":{\"electron\":\"1\"},\"build\":{\"directories\":"
+                                  "{\"buildResources\":\"../../out\"}}}";
+    QTest::newRow("a folder outside") << climbing << FailureCode::LeadsOutside << u"../../out"_s;
+    Tree named = capacitor;
+    named[u"ios/App/App/Assets.xcassets/AppIcon.appiconset/Contents.json"_s] =
+        "{\"images\":[{\"idiom\":\"universal\",\"size\":\"1024x1024\",\"filename\":\"../../../evil.png\"}]}";
+    QTest::newRow("a name that climbs") << named << FailureCode::LeadsOutside << QString();
+    Tree placeholder = capacitor;
+    placeholder[u"android/app/src/main/AndroidManifest.xml"_s] =
+        "<manifest xmlns:android=\"http://schemas.android.com/apk/res/android\"><application "
+        "android:icon=\"${appIcon}\"/></manifest>";
+    QTest::newRow("a name that only the build knows") << placeholder << FailureCode::AmbiguousProject << u"appIcon"_s;
+    Tree broken = xcode;
+    broken[u"Mine.xcodeproj/project.pbxproj"_s] = "{ objects = {";
+    QTest::newRow("a broken project file") << broken << FailureCode::NotReadable << u"pbxproj"_s;
+    Tree blocked = electron;
+    blocked[u"resources/icon.icns/file"_s] = "";
+    QTest::newRow("a folder in a file's place") << blocked << FailureCode::IsFolder << QString();
+    Tree blockedFolder = electron;
+    blockedFolder[u"resources"_s] = "a file";
+    QTest::newRow("a file in a folder's place") << blockedFolder << FailureCode::NotAFolder << QString();
+}
+
+void ProjectTest::refused()
+{
+    QFETCH(Tree, tree);
+    const QTemporaryDir folder;
+    QVERIFY(put(folder.path(), tree));
+    const Tree before = content(folder.path());
+    const Put result = putInto(folder.path());
+    if (qstrcmp(QTest::currentDataTag(), "the same place twice, alike") == 0) {
+        // Both want the same pictures in the same place, so there is nothing to choose.
+        QVERIFY(!result.failure);
+        return;
+    }
+    QVERIFY(result.failure.has_value());
+    QTEST(result.failure->code, "code");
+    QFETCH(QString, named);
+    QVERIFY2(QString(result.failure->subject + result.failure->detail.words()).contains(named),
+             qPrintable(result.failure->detail.words()));
+    QCOMPARE(content(folder.path()), before);
+}
+
+void ProjectTest::linksThatLeadOutside_data()
+{
+    QTest::addColumn<QString>("link");
+    QTest::newRow("the icon folder") << u"resources"_s;
+    QTest::newRow("a folder below") << u"resources/icons"_s;
+    QTest::newRow("a file") << u"resources/icon.png"_s;
+}
+
+void ProjectTest::linksThatLeadOutside()
+{
+    QFETCH(QString, link);
+    const QTemporaryDir outside;
+    QVERIFY(putFile(outside.filePath(u"icon.png"_s), "mine"));
+    const QTemporaryDir folder;
+    QVERIFY(put(folder.path(), electron));
+    QVERIFY(QDir(folder.path()).mkpath(QFileInfo(link).path()));
+    const QString target = link.endsWith(u".png") ? outside.filePath(u"icon.png"_s) : outside.path();
+    QVERIFY(QFile::link(target, folder.filePath(link)));
+    const Put result = putInto(folder.path());
+    QVERIFY(result.failure && result.failure->code == FailureCode::LeadsOutside);
+    QCOMPARE(filesBelowFolder(outside.path()), QStringList{u"icon.png"_s});
+    QCOMPARE(contentOfFile(outside.filePath(u"icon.png"_s)), QByteArray("mine"));
+    // One that stays inside is followed.
+    const QTemporaryDir inside;
+    QVERIFY(put(inside.path(), electron));
+    QVERIFY(QDir(inside.path()).mkpath(u"real"_s));
+    QVERIFY(QFile::link(inside.filePath(u"real"_s), inside.filePath(u"resources"_s)));
+    QVERIFY(!putInto(inside.path()).failure);
+    QVERIFY(QFile::exists(inside.filePath(u"real/icon.icns"_s)));
+}
+
+void ProjectTest::oldFilesComeBack()
+{
+    const QTemporaryDir folder;
+    Tree tree = electron;
+    tree[u"resources/icon.icns"_s] = "old icns";
+    tree[u"resources/icon.ico"_s] = "old ico";
+    QVERIFY(put(folder.path(), tree));
+    const Motifs motifs(drawn(), MacForm::Body);
+    const FilePlan plan = planProjects(folder.path(), motifs, {}).value().files;
+    QList<ProjectFile> files = compareWithProject(folder.path(), plan, motifs).value();
+    // Between the look and the write something else takes the last one's place.
+    QVERIFY(putFile(folder.filePath(files.last().path) + u"/in the way"_s, ""));
+    const Tree before = content(folder.path());
+    const Outcome written = writeIntoProject(folder.path(), files, {});
+    QVERIFY(!written.ok());
+    QCOMPARE(content(folder.path()), before);
+}
+
+void ProjectTest::sourcesThatDoNotFit()
+{
+    const QTemporaryDir folder;
+    QVERIFY(put(folder.path(), maui));
+    const Put pixels = putInto(folder.path(), {}, sourcesOf(opaquePicture()));
+    QVERIFY(pixels.failure && pixels.failure->detail.words().contains(u"SVG"));
+    const QTemporaryDir other;
+    QVERIFY(put(other.path(), capacitor));
+    const Put transparent = putInto(other.path(), {}, sourcesOf(disk(900)));
+    QVERIFY(transparent.failure && transparent.failure->code == FailureCode::HasTransparency);
+}
+
+void ProjectTest::propertyLists_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<bool>("sound");
+    QTest::newRow("dictionary") << QByteArray("{a = b; \"c d\" = (1, 2,); /* x */ e = {};}") << true;
+    QTest::newRow("array without a last comma") << QByteArray("(a, b)") << true;
+    QTest::newRow("comment to the end") << QByteArray("{} // end") << true;
+    QTest::newRow("nothing") << QByteArray() << false;
+    QTest::newRow("open") << QByteArray("{a = b;") << false;
+    QTest::newRow("no semicolon") << QByteArray("{a = b}") << false;
+    QTest::newRow("open string") << QByteArray("{a = \"b;}") << false;
+    QTest::newRow("string that ends in a backslash") << QByteArray("{a = \"b\\") << false;
+    QTest::newRow("open comment") << QByteArray("{ /* a") << false;
+    QTest::newRow("more behind it") << QByteArray("{} {}") << false;
+    QTest::newRow("deep") << QByteArray(100'000, '(') << false;
+}
+
+void ProjectTest::propertyLists()
+{
+    QFETCH(QByteArray, text);
+    QTEST(readOpenStepList(text).has_value(), "sound");
+}
+
+QTEST_APPLESS_MAIN(ProjectTest)
+
+#include "ProjectTest.moc"
