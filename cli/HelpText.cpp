@@ -78,8 +78,28 @@ QString section(const Declaration &declaration, ArgumentGroup group, const char 
     return entries.isEmpty() ? QString() : heading(textKey) + entries;
 }
 
-/// "lumora icons (SOURCE | --example) --platform LIST (--to DIR | --out DIR) [OPTION]..."
-QString usageOf(const Declaration &declaration)
+QString spelledForUsage(const Argument &argument)
+{
+    return argument.spelled() + (argument.isOperand() && argument.isRepeatable() ? u"..."_s : QString());
+}
+
+/// The options that several required choices have in common: each is a way of its own to call the command.
+QStringList waysOf(const Declaration &declaration)
+{
+    QStringList ways;
+    for (const Argument &argument : declaration.arguments()) {
+        const auto &choices = declaration.choices();
+        if (std::count_if(choices.begin(), choices.end(), [&argument](const Declaration::Choice &choice) {
+                return choice.isRequired && choice.names.contains(argument.name);
+            }) > 1)
+            ways << argument.name;
+    }
+    return ways;
+}
+
+/// "lumora icons (SOURCE | --example) --platform LIST (--to DIR | --out DIR) [OPTION]...": the call with one of the
+/// ways, or with none of them if `way` is empty.
+QString usageOf(const Declaration &declaration, const QStringList &ways, const QString &way)
 {
     QStringList parts{u"lumora"_s, declaration.commandName()};
     QStringList chosen;
@@ -87,21 +107,28 @@ QString usageOf(const Declaration &declaration)
     for (const Declaration::Choice &choice : declaration.choices()) {
         if (!choice.isRequired)
             continue;
+        chosen += choice.names;
+        if (choice.names.contains(way)) {
+            parts << declaration.named(way)->spelled();
+            continue;
+        }
         QStringList spelled;
         bool hasOperand = false;
         for (const QString &name : choice.names) {
             const Argument *argument = declaration.named(name);
-            spelled << argument->spelled() + (argument->isOperand() && argument->isRepeatable() ? u"..."_s : QString());
+            if (ways.contains(name))
+                continue;
+            spelled << spelledForUsage(*argument);
             hasOperand = hasOperand || argument->isOperand();
         }
-        chosen += choice.names;
-        (hasOperand ? parts : trailing) << u'(' + spelled.join(u" | "_s) + u')';
+        const QString all = spelled.join(u" | "_s);
+        (hasOperand || spelled.size() == 1 ? parts : trailing) << (spelled.size() == 1 ? all : u'(' + all + u')');
     }
+    parts.removeDuplicates();
     for (const Argument &argument : declaration.arguments()) {
         if (chosen.contains(argument.name))
             continue;
-        const QString spelled =
-            argument.spelled() + (argument.isOperand() && argument.isRepeatable() ? u"..."_s : QString());
+        const QString spelled = spelledForUsage(argument);
         if (argument.isOperand())
             parts << (argument.isRequired ? spelled : u'[' + spelled + u']');
         else if (argument.isRequired)
@@ -110,10 +137,16 @@ QString usageOf(const Declaration &declaration)
     return (parts + trailing + QStringList{u'[' + commandText("CLI_OPTION_WORD") + u"]..."_s}).join(u' ');
 }
 
-QString usageLine(const QString &usage)
+/// A line for each way to call the command.
+QString usageLines(const Declaration &declaration)
 {
     const QString word = commandText("CLI_USAGE") + u": "_s;
-    return word + wrapped(usage, word.size(), word.size());
+    const QString indent(word.size(), u' ');
+    const QStringList ways = waysOf(declaration);
+    QString lines = word + wrapped(usageOf(declaration, ways, {}), word.size(), word.size());
+    for (const QString &way : ways)
+        lines += indent + wrapped(usageOf(declaration, ways, way), word.size(), word.size());
+    return lines;
 }
 
 QString exampleLines(const QStringList &examples)
@@ -151,7 +184,7 @@ QString programHelp()
 
 QString commandHelp(const Command &command, const Declaration &declaration)
 {
-    QString text = wrapped(commandText(command.textKey), 0, 0) + u'\n' + usageLine(usageOf(declaration));
+    QString text = wrapped(commandText(command.textKey), 0, 0) + u'\n' + usageLines(declaration);
     for (const char *key : declaration.explanations())
         text += u'\n' + wrapped(commandText(key), 0, 0);
     text += section(declaration, ArgumentGroup::Operand, "CLI_OPERANDS");

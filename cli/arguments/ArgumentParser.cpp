@@ -205,34 +205,58 @@ private:
     Problem missing() const
     {
         for (const Declaration::Choice &choice : m_declaration.choices()) {
-            QStringList given;
-            QStringList spelled;
-            for (const QString &name : choice.names) {
-                const Argument *argument = m_declaration.named(name);
-                spelled << argument->spelled();
-                if (argument->isGiven)
-                    given << name;
-            }
+            const QStringList given = givenOf(choice);
             if (given.size() > 1 && choice.isExclusive)
                 return misuse("conflicting-options",
                               commandText("CLI_CONFLICT", {{"[FIRST]", given[0]}, {"[SECOND]", given[1]}}));
-            if (given.isEmpty() && choice.isRequired)
-                return lacking(alternatives(spelled));
+        }
+        for (const Declaration::Choice &choice : m_declaration.choices()) {
+            if (choice.isRequired && givenOf(choice).isEmpty())
+                return lacking(possibleOf(choice));
         }
         for (const Argument &argument : m_declaration.arguments()) {
-            if (!argument.isRequired || argument.isGiven)
-                continue;
-            Complaint complaint = lacking(argument.spelled());
-            if (!argument.choices.isEmpty())
-                complaint.advice = commandText("CLI_CHOICES", {{"[WORDS]", alternatives(argument.choices)}});
-            return complaint;
+            if (argument.isRequired && !argument.isGiven)
+                return lacking({argument.name});
         }
         return {};
     }
 
-    Complaint lacking(const QString &what) const
+    QStringList givenOf(const Declaration::Choice &choice) const
     {
-        return misuse("missing-option", commandText("CLI_MISSING_OPTION", {{"[OPTION]", what}}), seeHelp());
+        QStringList given;
+        for (const QString &name : choice.names) {
+            if (m_declaration.named(name)->isGiven)
+                given << name;
+        }
+        return given;
+    }
+
+    /// Those of the choice that go together with what is given; all of them where none does.
+    QStringList possibleOf(const Declaration::Choice &choice) const
+    {
+        QStringList possible;
+        for (const QString &name : choice.names) {
+            const auto &choices = m_declaration.choices();
+            const bool isExcluded = std::any_of(choices.begin(), choices.end(), [&](const Declaration::Choice &other) {
+                return other.isExclusive && other.names.contains(name) && !givenOf(other).isEmpty();
+            });
+            if (!isExcluded)
+                possible << name;
+        }
+        return possible.isEmpty() ? choice.names : possible;
+    }
+
+    /// One of these is missing.
+    Complaint lacking(const QStringList &names) const
+    {
+        QStringList spelled;
+        for (const QString &name : names)
+            spelled << m_declaration.named(name)->spelled();
+        Complaint complaint = misuse(
+            "missing-option", commandText("CLI_MISSING_OPTION", {{"[OPTION]", alternatives(spelled)}}), seeHelp());
+        if (const Argument &only = *m_declaration.named(names.first()); names.size() == 1 && !only.choices.isEmpty())
+            complaint.advice = commandText("CLI_CHOICES", {{"[WORDS]", alternatives(only.choices)}});
+        return complaint;
     }
 
     Declaration &m_declaration;

@@ -129,7 +129,7 @@ ExitStatus runIcon(Console &console, IconCommandArguments &arguments)
 CommandBody declareIconCommand(Declaration &declaration)
 {
     const auto arguments = std::make_shared<IconCommandArguments>();
-    arguments->declareOn(declaration, {u"--output"_s});
+    arguments->declareOn(declaration, "CLI_ICON_SOURCE", {u"--output"_s});
     declaration.option("--output", &arguments->file, "FILE", "CLI_ICON_OUTPUT").letter(u'o').in(ArgumentGroup::Output);
     declaration.option("--size", &arguments->sizes, "N", "CLI_ICON_SIZE").range(1, sourceIconSize).list().required();
     declaration.option("--corners", &arguments->corners, "STYLE", "CLI_ICON_CORNERS")

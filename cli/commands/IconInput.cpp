@@ -14,11 +14,12 @@ using namespace Qt::StringLiterals;
 namespace lumora
 {
 
-void IconArguments::declareOn(Declaration &declaration, const QStringList &otherPlaces)
+void IconArguments::declareOn(Declaration &declaration, const char *sourceKey, const QStringList &otherPlaces,
+                              const QStringList &otherSources)
 {
-    declaration.operand("SOURCE", &source, "CLI_ICONS_SOURCE");
+    declaration.operand("SOURCE", &source, sourceKey);
     declaration.flag("--example", &example, "CLI_EXAMPLE");
-    declaration.exactlyOne({u"SOURCE"_s, u"--example"_s});
+    declaration.exactlyOne(QStringList{u"SOURCE"_s, u"--example"_s} + otherSources);
     place.declareOn(declaration, "CLI_ICONS_TO", otherPlaces);
 }
 

@@ -19,7 +19,9 @@ struct IconArguments
     bool example = false;
     OutputPlace place;
 
-    void declareOn(Declaration &declaration, const QStringList &otherPlaces = {});
+    /// Further options of which one may be given in place of the source, or of the folder to write to.
+    void declareOn(Declaration &declaration, const char *sourceKey, const QStringList &otherPlaces = {},
+                   const QStringList &otherSources = {});
 };
 
 /// The source picture: the given file, standard input for "-", or the built-in picture for --example.

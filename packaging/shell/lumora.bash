@@ -16,7 +16,10 @@ _lumora_command() {
 
 _lumora_options() {
   case $1 in
-    icons) echo "--example --platform --to --out $_lumora_general" ;;
+    icons)
+      echo "--example --platform --to --out --name --dark --tinted --foreground --background --monochrome --layer --flatten" \
+        "--fit --ios-form --mac-full-bleed --into --dry-run --flavor --target --check $_lumora_general"
+      ;;
     icon) echo "--example --size --corners --to --out --output $_lumora_general" ;;
     placeholders) echo "--set --size --text --foreground --background --format --quality --check --to --out $_lumora_general" ;;
     downscale) echo "--overwrite --dry-run --layout --from --to-scales --format --quality --to --out $_lumora_general" ;;
@@ -38,7 +41,16 @@ _lumora_values() {
   case $1:$2 in
     *:--to | *:--out) echo folder ;;
     icon:--output | icon:-o | validate:--icon | validate:--ignore-file | validate:--sarif | validate:--junit | validate:--html) echo file ;;
-    icons:--platform) echo "list:iphone ipad mac android web-touch favicon all" ;;
+    icons:--platform)
+      echo "list:iphone ipad mac android web-touch favicon all ios macos watchos adaptive web windows linux tvos visionos" \
+        "icon-composer today"
+      ;;
+    icons:--into | icons:--check) echo folder ;;
+    icons:--dark | icons:--tinted | icons:--foreground | icons:--background | icons:--monochrome | icons:--layer)
+      echo file
+      ;;
+    icons:--ios-form) echo "one-size sizes" ;;
+    icons:--name | icons:--flatten | icons:--flavor | icons:--target) echo anything ;;
     icon:--corners) echo "none ios6 ios7" ;;
     placeholders:--set) echo "list:ios mac app-store play feature-graphic tv watch social launch" ;;
     placeholders:--check) echo folder ;;
@@ -74,7 +86,8 @@ _lumora_values() {
 # The endings of a command's files, as an extended pattern.
 _lumora_operands() {
   case $1 in
-    icons | icon) echo "@(png|jpg|jpeg|tif|tiff|webp|bmp|gif|icns)" ;;
+    icons) echo "@(png|jpg|jpeg|tif|tiff|webp|bmp|gif|icns|svg)" ;;
+    icon) echo "@(png|jpg|jpeg|tif|tiff|webp|bmp|gif|icns)" ;;
     downscale) echo "png" ;;
     validate | diff) echo "ipa" ;;
     "") echo "@(png|jpg|jpeg|tif|tiff|webp|bmp|gif|icns|ipa)" ;;

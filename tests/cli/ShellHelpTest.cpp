@@ -143,7 +143,8 @@ void ShellHelpTest::fishOffers_data()
     QTest::addColumn<QStringList>("offers");
     QTest::newRow("commands") << u"lumora down"_s << QStringList{u"downscale"_s};
     QTest::newRow("options") << u"lumora icons --p"_s << QStringList{u"--platform"_s};
-    QTest::newRow("a platform") << u"lumora icons --platform i"_s << QStringList{u"ipad"_s, u"iphone"_s};
+    QTest::newRow("a platform") << u"lumora icons --platform i"_s
+                                << QStringList{u"icon-composer"_s, u"ios"_s, u"ipad"_s, u"iphone"_s};
     QTest::newRow("a second platform") << u"lumora icons --platform mac,f"_s << QStringList{u"mac,favicon"_s};
     QTest::newRow("corners") << u"lumora icon --corners ios"_s << QStringList{u"ios6"_s, u"ios7"_s};
     QTest::newRow("folders only") << u"lumora icons --to /et"_s << QStringList{u"/etc/"_s};

@@ -30,8 +30,12 @@ MISTAKES = [
     ("--tool icons missing.png", 2, "lumora: missing.png: does not exist"),
     ("icon.png missing.png", 2, "lumora: missing.png: does not exist"),
     ("icon.png --tol=icons", 2, "lumora: --tol=icons is no option; did you mean --tool?"),
-    ("icons", 2, "lumora icons: SOURCE or --example is missing"),
+    ("icons", 2, "lumora icons: SOURCE, --example or --check DIR is missing"),
+    ("icons icon.png", 2, "lumora icons: --to DIR, --out DIR or --into DIR is missing"),
     ("icons icon.png --platform all", 2, "lumora icons: --to DIR or --out DIR is missing"),
+    ("icons --platform all", 2, "lumora icons: SOURCE or --example is missing"),
+    ("icons --check out --to out", 2, "lumora icons: --to and --check exclude each other"),
+    ("icons icon.png --into out --out out", 2, "lumora icons: --out and --into exclude each other"),
     ("icons icon.png --to out", 2, "lumora icons: --platform LIST is missing; it takes iphone"),
     ("icons icon.png --platform --to out", 2, "lumora icons: --platform lacks its value: --platform LIST; it takes iphone"),
     ("icons icon.png --platform all --to", 2, "lumora icons: --to lacks its value: --to DIR"),
@@ -42,7 +46,8 @@ MISTAKES = [
     ("icons icon.png icon.png --platform all --to out", 2, 'lumora icons: "icon.png" is one argument too many'),
     ("icons icon.png --platfrom all --to out", 2, "lumora icons: --platfrom is no option; did you mean --platform?"),
     ("icons icon.png -platform all --to out", 2, "lumora icons: -platform is no option; did you mean --platform?"),
-    ("icons icon.png --platform iOS --to out", 2, "lumora icons: --platform takes iphone, ipad, mac, android, web-touch, favicon or all, not"),
+    ("icons icon.png --platform iOS --to out", 2, "lumora icons: --platform takes iphone, ipad, mac, android, web-touch, favicon, all, ios, macos, "
+     'watchos, adaptive, web, windows, linux, tvos, visionos, icon-composer or today, not "iOS"; did you mean ios?'),
     ("icons icon.png --platform all --to a --to b", 2, "lumora icons: --to is given twice"),
     ("icons icon.png --platform all --to a --out b", 2, "lumora icons: --to and --out exclude each other"),
     ("icons icon.png --example --platform all --to a", 2, "lumora icons: SOURCE and --example exclude each other"),
@@ -86,6 +91,9 @@ MISTAKES = [
     ("diff a.ipa", 2, "lumora diff: NEW is missing"),
     ("diff a.ipa b.ipa icon.png", 2, 'lumora diff: "icon.png" is one argument too many'),
     ("diff a.ipa b.ipa --on never", 2, 'lumora diff: "never" is no date'),
+    ("icons icon.png --platform ipad --to out --dark icon.png", 2,
+     "lumora icons: --dark goes only with --into or a platform of today: ios, macos,"),
+    ("icons icon.png --platform ios --to out --dry-run", 2, "lumora icons: --dry-run goes with --into only"),
     ("rules sael", 2, 'lumora rules: "sael" is no rule; did you mean seal?'),
     ("rules seal --markdown", 2, "lumora rules: ID and --markdown exclude each other"),
     ("validate App.IPA", 3, "lumora: App.IPA: the name does not end in .ipa, .app or .xcarchive; rename it"),
@@ -232,7 +240,7 @@ class Calls(unittest.TestCase):
 
     def test_a_file_of_a_commands_name_is_opened_by_its_path(self):
         (self.folder / "icons").write_bytes(b"")
-        self.assertIn("SOURCE or --example is missing", self.run_line("icons").stderr)
+        self.assertIn("SOURCE, --example or --check DIR is missing", self.run_line("icons").stderr)
         self.assertIn("no display", self.run_line("./icons").stderr)
 
 

@@ -49,10 +49,18 @@ class Job:
     status: int = 0
     """Whether it writes into the user's own folder and replaces files; others make a new folder each time."""
     replaces: bool = False
+    """Whether it reads what is in the user's folder, so that it does nothing in an empty one."""
+    reads_present: bool = False
     program: str = os.environ["LUMORA_PROGRAM"]
 
 
 MINE = {"mine.txt": b"the user's own"}
+
+LOGO = b'<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 9 9"><path d="M0 0h9v9h-9z"/></svg>'
+
+# A project with two icons, one of which is there.
+CORDOVA = (b'<widget xmlns="http://www.w3.org/ns/widgets"><icon src="res/icon.png" width="48"/>'
+           b'<icon src="res/new/icon.png" width="36"/></widget>')
 
 COMMANDS = [
     Job(
@@ -60,6 +68,10 @@ COMMANDS = [
         ["icons", "--example", "--platform", "favicon,web-touch", "--to", "{out}"],
         present=MINE | {"icons/earlier.png": b"an earlier run"},
     ),
+    Job("icons of today", ["icons", "{in}/logo.svg", "--platform", "web", "--to", "{out}"], sources={"logo.svg": LOGO},
+        present=MINE, kinds=("once", "kill")),
+    Job("icons into a project", ["icons", "{in}/logo.svg", "--into", "{out}"], sources={"logo.svg": LOGO},
+        present=MINE | {"config.xml": CORDOVA, "res/icon.png": png(3, 3)}, replaces=True, reads_present=True),
     Job("iconset and its icon file", ["icons", "--example", "--platform", "mac", "--to", "{out}"], present=MINE, kinds=("once", "kill")),
     Job("icon", ["icon", "{in}/source.png", "--size", "200", "--corners", "ios7", "--to", "{out}"],
         sources={"source.png": png(1024, 1024)}, present=MINE),

@@ -177,7 +177,7 @@ class Faults(unittest.TestCase):
     def test_a_small_file_system_is_filled_and_told(self):
         # One page has space for the folders, but not for the results.
         mount = ["unshare", "--mount", "--propagation", "private", "sh", "-c", 'mount -t tmpfs -o size=4k,mode=700 tmpfs "$0"; exec "$@"']
-        for job in COMMANDS:
+        for job in [job for job in COMMANDS if not job.reads_present]:
             with self.subTest(job.name), tempfile.TemporaryDirectory() as small:
                 words = [word.replace("{out}", small) for word in job.arguments]
                 filled = replace(job, arguments=words, present={})

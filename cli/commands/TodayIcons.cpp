@@ -1,0 +1,239 @@
+// SPDX-License-Identifier: MIT
+#include "TodayIcons.h"
+
+#include "PlatformNames.h"
+#include "TodayReport.h"
+#include "cli/arguments/OutputPlace.h"
+#include "cli/console/CommandText.h"
+#include "cli/console/Interruption.h"
+#include "cli/console/KeptMemory.h"
+#include "icons/IconCatalogue.h"
+#include "icons/IconExport.h"
+#include "icons/check/IconCheck.h"
+
+#include <QFileInfo>
+#include <QSet>
+
+#include <optional>
+
+using namespace Qt::StringLiterals;
+
+namespace lumora
+{
+
+namespace
+{
+
+/// Complains of a failure. One without a subject is about the source; a picture that only has another size could be
+/// taken with --fit.
+ExitStatus refuse(Console &console, Failure failure, const QString &source)
+{
+    if (failure.subject.isEmpty())
+        failure.subject = source.isEmpty() ? u"--example"_s : source;
+    console.complain(failure.code == FailureCode::WrongSize
+                         ? complaintOf(failure, commandText("CLI_ICONS_WRONG_SIZE_ADVICE"))
+                         : complaintOf(failure));
+    return ExitStatus::Refused;
+}
+
+/// A line of progress, and whether to go on.
+FileProgress progressOn(Console &console)
+{
+    return [&console](qsizetype number, qsizetype count, const QString &path) {
+        console.progress(number, count, QFileInfo(path).fileName());
+        return !Interruption::isRequested();
+    };
+}
+
+/// The classic sets among the platforms; nothing where there are none.
+std::optional<IconExport> writeClassicSets(Console &console, const TodayRun &run, const ExportFolder &folder,
+                                           const Motifs &motifs)
+{
+    PlatformIconsRequest request;
+    request.expected = classicPlatformsNamed(run.platforms);
+    if (request.expected.isEmpty())
+        return std::nullopt;
+    request.icon = motifs.sources().icon.at(sourceIconSize);
+    request.folder = folder;
+    request.isChosen = [&request](const PlatformIcons &platform) {
+        return request.expected.contains(platform.platform);
+    };
+    request.progress = [&console](const IconProgress &progress) {
+        console.progress(progress.file, progress.count, QFileInfo(progress.path).fileName());
+    };
+    request.isStopped = &Interruption::isRequested;
+    return generatePlatformIcons(request);
+}
+
+QJsonArray classicFiles(const std::optional<IconExport> &result)
+{
+    QJsonArray files;
+    if (!result)
+        return files;
+    for (const IconFile &file : result->files) {
+        if (!file.failure)
+            files.append(QJsonObject{{u"path"_s, file.path}, {u"size"_s, file.size}, {u"bytes"_s, file.bytes}});
+    }
+    return files;
+}
+
+/// Reads back the folders that sets were written into.
+IconCheck checkSets(const QString &folder, const QList<TodaySet> &sets)
+{
+    IconCheck check;
+    for (const TodaySet set : sets) {
+        const Result<IconCheck> part = checkIcons(folder + u'/' + QLatin1StringView(infoOf(set).folder));
+        if (part)
+            check.append(part.value());
+    }
+    return check;
+}
+
+/// The first failure whole, the others by their files.
+void complainOf(Console &console, const QList<Failure> &failures, const QString &folder)
+{
+    if (failures.isEmpty())
+        return;
+    console.complain(failures.first());
+    QStringList missing;
+    for (const Failure &failure : failures)
+        missing << failure.subject;
+    console.complain(
+        Complaint{Complaint::Kind::Failure,
+                  u"missing-files"_s,
+                  {},
+                  commandText("CLI_MISSING_FILES", {{"[FOLDER]", folder}, {"[FILES]", missing.join(u", "_s)}}),
+                  {}});
+}
+
+} // namespace
+
+ExitStatus writeTodaySets(Console &console, const TodayRun &run)
+{
+    keepFreedMemory();
+    const Result<TodayInput> input = readTodayInput(run.arguments, run.source);
+    if (!input)
+        return refuse(console, input.failure(), run.source);
+    const Motifs motifs(input.value().sources, run.arguments.macForm());
+    const QList<TodaySet> sets = todaySetsNamed(run.platforms);
+    Result<FilePlan> plan = planSets(sets, motifs, run.arguments.setOptions());
+    if (!plan)
+        return refuse(console, plan.failure(), run.source);
+    plan.value().derived = input.value().derived + plan.value().derived;
+    const Result<ExportFolder> folder = run.place.open(u"icons"_s);
+    if (!folder)
+        return refuse(console, folder.failure(), run.source);
+    const QString path = folder.value().path;
+    const Interruption interruption;
+    const std::optional<IconExport> classic = writeClassicSets(console, run, folder.value(), motifs);
+    const TodayExport result = writePlan(plan.value(), motifs, path, progressOn(console));
+    console.endProgress();
+
+    const QList<Failure> failures = (classic ? classic->failures() : QList<Failure>()) + result.failures();
+    const IconCheck check = result.isStopped ? IconCheck() : checkSets(path, sets);
+    console.print(path);
+    for (const TodayFile &file : result.files)
+        console.note(file.path);
+    noteDerived(console, result.derived);
+    for (const QString &line : console.form().json ? QStringList() : findingLines(check, path))
+        console.warn(line);
+    complainOf(console, failures, path);
+    ExitStatus status =
+        failures.isEmpty() && !check.has(FindingSeverity::Error) ? ExitStatus::Done : ExitStatus::Refused;
+    const bool checkFailed = failures.isEmpty() && check.has(FindingSeverity::Error);
+    if (checkFailed)
+        console.complain(
+            Complaint{Complaint::Kind::Failure, u"check-failed"_s, path, commandText("CLI_CHECK_FAILED"), {}});
+    QJsonArray files = classicFiles(classic);
+    const QJsonArray more = filesJson(result);
+    for (const QJsonValue &file : more)
+        files.append(file);
+    if (result.isStopped) {
+        console.complain(Interruption::complaint(files.size(), plan.value().files.size()));
+        status = Interruption::status();
+    }
+    const QString icns = classic ? classic->icns : QString();
+    return console.finish(status, {{u"folder"_s, path},
+                                   {u"files"_s, files},
+                                   {u"icns"_s, icns.isEmpty() ? QJsonValue() : QJsonValue(icns)},
+                                   {u"derived"_s, derivedJson(result.derived)},
+                                   {u"findings"_s, findingsJson(check)}});
+}
+
+ExitStatus writeIntoProjects(Console &console, const IntoRun &run)
+{
+    keepFreedMemory();
+    const Result<QString> folder = absolutePath(run.folder);
+    if (!folder)
+        return refuse(console, folder.failure(), run.source);
+    const QFileInfo info(folder.value());
+    if (!info.isDir())
+        return refuse(console, {info.exists() ? FailureCode::NotAFolder : FailureCode::NotFound, run.folder, {}},
+                      run.source);
+    const Result<TodayInput> input = readTodayInput(run.arguments, run.source);
+    if (!input)
+        return refuse(console, input.failure(), run.source);
+    const Motifs motifs(input.value().sources, run.arguments.macForm());
+    Result<ProjectPlan> plan = planProjects(folder.value(), motifs, run.options);
+    if (!plan)
+        return refuse(console, plan.failure(), run.source);
+    const Result<QList<ProjectFile>> files = compareWithProject(folder.value(), plan.value().files, motifs);
+    if (!files)
+        return refuse(console, files.failure(), run.source);
+    const Interruption interruption;
+    if (!run.dryRun) {
+        const Outcome written = writeIntoProject(folder.value(), files.value(), progressOn(console));
+        console.endProgress();
+        if (!written && written.failure().code == FailureCode::Stopped) {
+            console.complain(Interruption::complaint(0, files.value().size()));
+            return Interruption::status();
+        }
+        if (!written)
+            return refuse(console, written.failure(), run.source);
+    }
+    const QList<Derived> derived = input.value().derived + plan.value().files.derived;
+    printProjectFiles(console, files.value());
+    noteDerived(console, derived);
+    for (const QString &line : plan.value().files.linesToAdd)
+        console.print(commandText("CLI_ICONS_LINE_TO_ADD", {{"[LINE]", line}}));
+    return console.finish(ExitStatus::Done,
+                          {{u"folder"_s, folder.value()},
+                           {u"dryRun"_s, run.dryRun},
+                           {u"projects"_s, projectsJson(plan.value().projects)},
+                           {u"changes"_s, projectFilesJson(files.value())},
+                           {u"derived"_s, derivedJson(derived)},
+                           {u"linesToAdd"_s, QJsonArray::fromStringList(plan.value().files.linesToAdd)}});
+}
+
+ExitStatus checkIconFolder(Console &console, const QString &folder)
+{
+    const Result<QString> path = absolutePath(folder);
+    if (!path) {
+        console.complain(path.failure());
+        return ExitStatus::Refused;
+    }
+    const Result<IconCheck> check = checkIcons(path.value());
+    if (!check) {
+        console.complain(check.failure());
+        return ExitStatus::Refused;
+    }
+    if (check.value().checked.isEmpty()) {
+        console.complain(
+            Complaint{Complaint::Kind::Failure, u"no-icons"_s, folder, commandText("CLI_ICONS_NONE_FOUND"), {}});
+        return ExitStatus::Refused;
+    }
+    for (const QString &line : findingLines(check.value(), path.value()))
+        console.print(line);
+    const bool refused = check.value().has(FindingSeverity::Error);
+    if (check.value().findings.isEmpty())
+        console.print(commandText("CLI_ICONS_CHECKED", {{"[N]", QString::number(check.value().checked.size())}}));
+    if (refused)
+        console.complain(
+            Complaint{Complaint::Kind::Failure, u"check-failed"_s, folder, commandText("CLI_CHECK_FAILED"), {}});
+    return console.finish(refused ? ExitStatus::Refused : ExitStatus::Done,
+                          {{u"folder"_s, path.value()},
+                           {u"checked"_s, QJsonArray::fromStringList(check.value().checked)},
+                           {u"findings"_s, findingsJson(check.value())}});
+}
+
+} // namespace lumora

@@ -1,0 +1,132 @@
+// SPDX-License-Identifier: MIT
+#include "TodayReport.h"
+
+#include "cli/console/CommandText.h"
+#include "foundation/PrintableText.h"
+
+#include <QDir>
+#include <QJsonObject>
+
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace lumora
+{
+
+namespace
+{
+
+/// In the order of `FindingSeverity`.
+constexpr std::array<const char *, 3> severityNames = {"error", "warning", "note"};
+/// In the order of `FileChange`.
+constexpr std::array<const char *, 4> changeNames = {"new", "replaced", "unchanged", "removed"};
+
+QLatin1StringView nameOf(FindingSeverity severity)
+{
+    return QLatin1StringView(severityNames[static_cast<std::size_t>(severity)]);
+}
+
+QLatin1StringView nameOf(FileChange change)
+{
+    return QLatin1StringView(changeNames[static_cast<std::size_t>(change)]);
+}
+
+const DerivationText &textOf(Derivation derivation)
+{
+    return derivationTexts[static_cast<std::size_t>(derivation)];
+}
+
+} // namespace
+
+QJsonArray filesJson(const TodayExport &result)
+{
+    QJsonArray files;
+    for (const TodayFile &file : result.files) {
+        if (file.failure)
+            continue;
+        QJsonObject json{{u"path"_s, file.path}, {u"bytes"_s, file.bytes}};
+        if (file.width > 0) {
+            json[u"width"_s] = file.width;
+            json[u"height"_s] = file.height;
+        }
+        files.append(json);
+    }
+    return files;
+}
+
+void noteDerived(Console &console, const QList<Derived> &derived)
+{
+    if (console.form().json)
+        return;
+    for (const Derived &one : derived) {
+        const QString text = commandText(textOf(one.derivation).textKey);
+        console.warn(one.detail.isEmpty() ? text : QString(text + u" ("_s + one.detail + u')'));
+    }
+}
+
+QJsonArray derivedJson(const QList<Derived> &derived)
+{
+    QJsonArray json;
+    for (const Derived &one : derived) {
+        json.append(QJsonObject{{u"id"_s, QLatin1StringView(textOf(one.derivation).id)},
+                                {u"text"_s, commandText(textOf(one.derivation).textKey)},
+                                {u"detail"_s, one.detail}});
+    }
+    return json;
+}
+
+QStringList findingLines(const IconCheck &check, const QString &folder)
+{
+    QStringList lines;
+    const QDir base(folder);
+    for (const IconFinding &finding : check.findings) {
+        const IconRuleInfo &info = infoOf(finding.rule);
+        QString line = nameOf(info.severity) + u": "_s + base.relativeFilePath(finding.path) + u": "_s +
+                       QLatin1StringView(info.title);
+        if (!finding.evidence.isEmpty())
+            line += u" ("_s + finding.evidence + u')';
+        lines << printableText(line + u"; "_s + QLatin1StringView(info.fix));
+    }
+    return lines;
+}
+
+QJsonArray findingsJson(const IconCheck &check)
+{
+    QJsonArray json;
+    for (const IconFinding &finding : check.findings) {
+        const IconRuleInfo &info = infoOf(finding.rule);
+        json.append(QJsonObject{{u"id"_s, QLatin1StringView(info.id)},
+                                {u"severity"_s, nameOf(info.severity)},
+                                {u"title"_s, QLatin1StringView(info.title)},
+                                {u"path"_s, finding.path},
+                                {u"evidence"_s, finding.evidence},
+                                {u"fix"_s, QLatin1StringView(info.fix)}});
+    }
+    return json;
+}
+
+void printProjectFiles(Console &console, const QList<ProjectFile> &files)
+{
+    for (const ProjectFile &file : files)
+        console.print(printableText(nameOf(file.change) + u": "_s + file.path));
+}
+
+QJsonArray projectFilesJson(const QList<ProjectFile> &files)
+{
+    QJsonArray json;
+    for (const ProjectFile &file : files)
+        json.append(QJsonObject{{u"path"_s, file.path}, {u"change"_s, nameOf(file.change)}, {u"bytes"_s, file.bytes}});
+    return json;
+}
+
+QJsonArray projectsJson(const QList<RecognizedProject> &projects)
+{
+    QJsonArray json;
+    for (const RecognizedProject &project : projects)
+        json.append(
+            QJsonObject{{u"kind"_s, QLatin1StringView(infoOf(project.kind).id)}, {u"folder"_s, project.folder}});
+    return json;
+}
+
+} // namespace lumora

@@ -1,0 +1,295 @@
+// SPDX-License-Identifier: MIT
+#include "LumoraProcess.h"
+#include "icons/IconCatalogue.h"
+#include "tests/doubles/FilesOnDisk.h"
+#include "tests/icons/today/TodayPictures.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QJsonArray>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace lumora;
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+const QByteArray logo = "<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"0 0 10 10\">"
+                        "<path fill=\"#d33\" d=\"M0 0h10v10h-10z\"/><path fill=\"#fff\" d=\"M3 3h4v4h-4z\"/></svg>";
+
+} // namespace
+
+class TodayIconsCommandTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+
+    void commonSets();
+    void classicSetsBesideThem();
+    void exactFolder();
+    void derivedIsListed();
+    void options();
+    void refused_data();
+    void refused();
+    void wrongUsage_data();
+    void wrongUsage();
+    void bombsEndAtOnce();
+    void check_data();
+    void check();
+    void checkAsJson();
+    void intoAProject();
+    void intoNoProject();
+
+private:
+    std::unique_ptr<QTemporaryDir> m_folder;
+    QByteArray m_photo;
+    QByteArray m_shape;
+
+    QString at(const QString &name) const { return m_folder->filePath(name); }
+    LumoraRun icons(const QStringList &arguments) const
+    {
+        return LumoraProcess().in(m_folder->path()).run(QStringList{u"icons"_s} + arguments);
+    }
+};
+
+void TodayIconsCommandTest::initTestCase()
+{
+    m_photo = pictureFile(opaquePicture());
+    m_shape = pictureFile(disk(900));
+}
+
+void TodayIconsCommandTest::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+    QVERIFY(putFile(at(u"photo.png"_s), m_photo));
+    QVERIFY(putFile(at(u"shape.png"_s), m_shape));
+    QVERIFY(putFile(at(u"logo.svg"_s), logo));
+}
+
+void TodayIconsCommandTest::commonSets()
+{
+    const LumoraRun run = icons({u"photo.png"_s, u"--platform"_s, u"today"_s, u"--to"_s, u"."_s, u"--json"_s});
+    QCOMPARE(run.err, QByteArray());
+    QCOMPARE(run.status, 0);
+    const QStringList folders = QDir(at(u"icons"_s)).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
+    QCOMPARE(folders,
+             (QStringList{u"Android"_s, u"Linux"_s, u"Web"_s, u"Windows"_s, u"iOS"_s, u"macOS"_s, u"watchOS"_s}));
+    const QJsonObject result = run.json();
+    // A photograph has no shape to make a monochrome icon of, and no dark one.
+    QStringList findings;
+    for (const QJsonValue &finding : result[u"findings"_s].toArray())
+        findings << finding[u"id"].toString();
+    QCOMPARE(findings, (QStringList{u"monochrome-missing"_s, u"appearance-missing"_s}));
+    QCOMPARE(result[u"files"_s].toArray().size(), filesBelowFolder(at(u"icons"_s)).size());
+    for (const QJsonValue &value : result[u"files"_s].toArray())
+        QCOMPARE(value[u"bytes"].toInteger(), QFileInfo(value[u"path"].toString()).size());
+}
+
+void TodayIconsCommandTest::classicSetsBesideThem()
+{
+    QCOMPARE(icons({u"photo.png"_s, u"--platform"_s, u"all"_s, u"--out"_s, u"alone"_s}).status, 0);
+    QCOMPARE(icons({u"photo.png"_s, u"--platform"_s, u"all,linux"_s, u"--out"_s, u"both"_s}).status, 0);
+    for (const QString &file : filesBelowFolder(at(u"alone"_s)))
+        QCOMPARE(contentOfFile(at(u"both/"_s + file)), contentOfFile(at(u"alone/"_s + file)));
+    QVERIFY(QFile::exists(at(u"both/Linux/hicolor/48x48/apps/App.png"_s)));
+}
+
+void TodayIconsCommandTest::exactFolder()
+{
+    const QStringList arguments{u"logo.svg"_s, u"--platform"_s, u"web,ios"_s, u"--out"_s, u"a/b"_s};
+    QVERIFY(putFile(at(u"a/b/mine.txt"_s), "mine"));
+    QCOMPARE(icons(arguments).status, 0);
+    const QStringList files = filesBelowFolder(at(u"a/b"_s));
+    QCOMPARE(icons(arguments).status, 0);
+    QCOMPARE(filesBelowFolder(at(u"a/b"_s)), files);
+    QCOMPARE(contentOfFile(at(u"a/b/mine.txt"_s)), QByteArray("mine"));
+}
+
+void TodayIconsCommandTest::derivedIsListed()
+{
+    const QStringList arguments{u"shape.png"_s, u"--platform"_s, u"ios"_s, u"--flatten"_s,
+                                u"#00ff00"_s,   u"--out"_s,      u"o"_s};
+    const LumoraRun text = icons(arguments);
+    QCOMPARE(text.out, QByteArray(at(u"o"_s).toUtf8() + '\n'));
+    QVERIFY(text.err.contains("--flatten") && text.err.contains("#00ff00"));
+    const QJsonArray derived = icons(arguments + QStringList{u"--json"_s}).json()[u"derived"_s].toArray();
+    QStringList ids;
+    for (const QJsonValue &one : derived)
+        ids << one[u"id"].toString();
+    ids.sort();
+    QCOMPARE(ids, (QStringList{u"dark-is-icon"_s, u"icon-flattened"_s, u"tinted-from-icon"_s, u"tinted-on-black"_s}));
+}
+
+void TodayIconsCommandTest::options()
+{
+    QVERIFY(putFile(at(u"large.png"_s), pictureFile(opaquePicture(700))));
+    const LumoraRun run = icons({u"large.png"_s,    u"--fit"_s,
+                                 u"--dark"_s,       u"shape.png"_s,
+                                 u"--tinted"_s,     u"logo.svg"_s,
+                                 u"--foreground"_s, u"shape.png"_s,
+                                 u"--background"_s, u"navy"_s,
+                                 u"--monochrome"_s, u"shape.png"_s,
+                                 u"--name"_s,       u"mine"_s,
+                                 u"--ios-form"_s,   u"sizes"_s,
+                                 u"--layer"_s,      u"photo.png"_s,
+                                 u"--layer"_s,      u"shape.png"_s,
+                                 u"--platform"_s,   u"ios,adaptive,linux,icon-composer"_s,
+                                 u"--out"_s,        u"o"_s,
+                                 u"--json"_s});
+    QCOMPARE(run.err, QByteArray());
+    QCOMPARE(run.status, 0);
+    QVERIFY(contentOfFile(at(u"o/Android/res/values/ic_launcher_background.xml"_s)).contains("#000080"));
+    QVERIFY(QFile::exists(at(u"o/Linux/hicolor/16x16/apps/mine.png"_s)));
+    QVERIFY(QFile::exists(at(u"o/iOS/Assets.xcassets/AppIcon.appiconset/AppIcon-Dark-60@3x.png"_s)));
+    QVERIFY(QFile::exists(at(u"o/IconComposer/mine.icon/Assets/Front.png"_s)));
+    QVERIFY(QString::fromUtf8(run.out).contains(u"\"fitted\""_s));
+}
+
+void TodayIconsCommandTest::refused_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("named");
+    QTest::newRow("transparency") << QStringList{u"shape.png"_s, u"--platform"_s, u"today"_s} << u"--flatten"_s;
+    QTest::newRow("another size") << QStringList{u"small.png"_s, u"--platform"_s, u"linux"_s} << u"--fit"_s;
+    QTest::newRow("too small to fit") << QStringList{u"tiny.png"_s, u"--fit"_s, u"--platform"_s, u"linux"_s}
+                                      << u"tiny.png"_s;
+    QTest::newRow("no layers") << QStringList{u"photo.png"_s, u"--platform"_s, u"tvos"_s} << u"--layer"_s;
+    QTest::newRow("missing dark") << QStringList{u"photo.png"_s, u"--dark"_s, u"none.png"_s, u"--platform"_s, u"ios"_s}
+                                  << u"none.png"_s;
+    QTest::newRow("no color") << QStringList{u"shape.png"_s, u"--flatten"_s, u"greenish"_s, u"--platform"_s, u"ios"_s}
+                              << u"greenish"_s;
+    QTest::newRow("name that climbs") << QStringList{u"photo.png"_s, u"--name"_s, u"../x"_s, u"--platform"_s,
+                                                     u"linux"_s}
+                                      << u"../x"_s;
+    QTest::newRow("svg with a script") << QStringList{u"script.svg"_s, u"--platform"_s, u"linux"_s} << u"script"_s;
+}
+
+void TodayIconsCommandTest::refused()
+{
+    QVERIFY(putFile(at(u"small.png"_s), pictureFile(opaquePicture(600))));
+    QVERIFY(putFile(at(u"tiny.png"_s), pictureFile(opaquePicture(300))));
+    QVERIFY(putFile(at(u"script.svg"_s), "<svg viewBox=\"0 0 1 1\"><script/></svg>"));
+    QFETCH(QStringList, arguments);
+    const LumoraRun run = icons(arguments + QStringList{u"--out"_s, u"o"_s});
+    QCOMPARE(run.status, 1);
+    QFETCH(QString, named);
+    QVERIFY2(run.err.contains(named.toUtf8()), run.err);
+    QVERIFY(!QDir(at(u"o"_s)).exists());
+}
+
+void TodayIconsCommandTest::wrongUsage_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::newRow("neither a platform nor a project") << QStringList{u"photo.png"_s, u"--out"_s, u"o"_s};
+    QTest::newRow("a platform and a project")
+        << QStringList{u"photo.png"_s, u"--platform"_s, u"ios"_s, u"--into"_s, u"."_s};
+    QTest::newRow("a source to check") << QStringList{u"photo.png"_s, u"--check"_s, u"."_s};
+    QTest::newRow("a dry run of no project")
+        << QStringList{u"photo.png"_s, u"--platform"_s, u"ios"_s, u"--out"_s, u"o"_s, u"--dry-run"_s};
+    QTest::newRow("a flavor of no project")
+        << QStringList{u"photo.png"_s, u"--platform"_s, u"ios"_s, u"--out"_s, u"o"_s, u"--flavor"_s, u"beta"_s};
+    QTest::newRow("a dark picture of a classic platform")
+        << QStringList{u"photo.png"_s, u"--platform"_s, u"ipad"_s, u"--out"_s, u"o"_s, u"--dark"_s, u"photo.png"_s};
+    QTest::newRow("a color to check") << QStringList{u"--check"_s, u"."_s, u"--flatten"_s, u"red"_s};
+    QTest::newRow("an unknown form") << QStringList{u"photo.png"_s, u"--platform"_s, u"ios"_s, u"--out"_s,
+                                                    u"o"_s,         u"--ios-form"_s, u"old"_s};
+}
+
+void TodayIconsCommandTest::wrongUsage()
+{
+    QFETCH(QStringList, arguments);
+    QCOMPARE(icons(arguments).status, 2);
+}
+
+void TodayIconsCommandTest::bombsEndAtOnce()
+{
+    QByteArray bomb =
+        "<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"0 0 9 9\"><g id=\"l0\"><path d=\"M0 0h9v9z\"/></g>";
+    for (int level = 1; level < 30; ++level) {
+        const QByteArray below = "<use href=\"#l" + QByteArray::number(level - 1) + "\"/>";
+        bomb += "<g id=\"l" + QByteArray::number(level) + "\">" + below.repeated(10) + "</g>";
+    }
+    QVERIFY(putFile(at(u"bomb.svg"_s), QByteArray(bomb + "</svg>")));
+    QElapsedTimer time;
+    time.start();
+    const LumoraRun run = icons({u"bomb.svg"_s, u"--platform"_s, u"linux"_s, u"--out"_s, u"o"_s});
+    QCOMPARE(run.status, 1);
+    // The promise is a second on a machine of its own.
+    QVERIFY2(time.elapsed() < 5000 * qEnvironmentVariableIntValue("LUMORA_TIME_FACTOR"),
+             qPrintable(QString::number(time.elapsed())));
+}
+
+void TodayIconsCommandTest::check_data()
+{
+    QTest::addColumn<QString>("dropped");
+    QTest::addColumn<QByteArray>("content"); ///< in its place, nothing when empty
+    QTest::addColumn<int>("status");
+    QTest::addColumn<QByteArray>("named");
+    const QString light = u"iOS/Assets.xcassets/AppIcon.appiconset/AppIcon.png"_s;
+    QTest::newRow("sound") << QString() << QByteArray() << 0 << QByteArray("nothing");
+    QTest::newRow("missing") << light << QByteArray() << 1 << QByteArray("error: " + light.toUtf8());
+    QTest::newRow("transparent") << light << pictureFile(disk(900)) << 1 << QByteArray("--flatten");
+    QTest::newRow("opaque alpha channel") << light << pictureFile(opaquePicture()) << 0 << QByteArray("warning: ");
+}
+
+void TodayIconsCommandTest::check()
+{
+    QCOMPARE(icons({u"shape.png"_s, u"--flatten"_s, u"white"_s, u"--platform"_s, u"ios"_s, u"--out"_s, u"o"_s}).status,
+             0);
+    QFETCH(QString, dropped);
+    QFETCH(QByteArray, content);
+    if (!dropped.isEmpty())
+        QVERIFY(QFile::remove(at(u"o/"_s + dropped)) && (content.isEmpty() || putFile(at(u"o/"_s + dropped), content)));
+    const LumoraRun run = icons({u"--check"_s, u"o"_s});
+    QTEST(run.status, "status");
+    QFETCH(QByteArray, named);
+    QVERIFY2(run.out.contains(named), run.out);
+}
+
+void TodayIconsCommandTest::checkAsJson()
+{
+    QVERIFY(putFile(at(u"o/A.appiconset/x.png"_s), "x"));
+    const LumoraRun run = icons({u"--check"_s, u"o"_s, u"--json"_s});
+    QCOMPARE(run.status, 1);
+    const QJsonArray findings = run.json()[u"findings"_s].toArray();
+    QCOMPARE(findings.size(), 1);
+    QCOMPARE(findings[0][u"id"].toString(), u"contents-unreadable"_s);
+    QCOMPARE(findings[0][u"severity"].toString(), u"error"_s);
+    QCOMPARE(icons({u"--check"_s, u"."_s + u"/none"_s}).status, 1);
+    QVERIFY(QDir(at(u"."_s)).mkdir(u"empty"_s));
+    QCOMPARE(icons({u"--check"_s, u"empty"_s}).status, 1);
+}
+
+void TodayIconsCommandTest::intoAProject()
+{
+    QVERIFY(putFile(at(u"p/package.json"_s), "{\"devDependencies\":{\"electron\":\"30\"}}"));
+    const LumoraRun dry = icons({u"logo.svg"_s, u"--into"_s, u"p"_s, u"--dry-run"_s});
+    QCOMPARE(dry.err, QByteArray());
+    QCOMPARE(dry.status, 0);
+    QVERIFY(dry.out.contains("new: build/icon.icns"));
+    QCOMPARE(filesBelowFolder(at(u"p"_s)), QStringList{u"package.json"_s});
+    const QJsonObject first = icons({u"logo.svg"_s, u"--into"_s, u"p"_s, u"--json"_s}).json();
+    QCOMPARE(first[u"projects"_s].toArray()[0][u"kind"].toString(), u"electron"_s);
+    QCOMPARE(first[u"changes"_s].toArray().size(), filesBelowFolder(at(u"p"_s)).size() - 1);
+    const LumoraRun second = icons({u"logo.svg"_s, u"--into"_s, u"p"_s});
+    QVERIFY(second.out.contains("unchanged: build/icon.icns"));
+    QVERIFY(!second.out.contains("new: ") && !second.out.contains("replaced: "));
+    QVERIFY(icons({u"photo.png"_s, u"--into"_s, u"p"_s}).out.contains("replaced: build/icon.icns"));
+}
+
+void TodayIconsCommandTest::intoNoProject()
+{
+    QVERIFY(putFile(at(u"p/a.txt"_s), ""));
+    const LumoraRun run = icons({u"logo.svg"_s, u"--into"_s, u"p"_s});
+    QCOMPARE(run.status, 1);
+    QVERIFY(run.err.contains("pubspec.yaml") && run.err.contains("settings.gradle"));
+}
+
+QTEST_GUILESS_MAIN(TodayIconsCommandTest)
+
+#include "TodayIconsCommandTest.moc"
