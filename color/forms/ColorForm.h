@@ -19,6 +19,8 @@ struct ColorForm
 {
     /// The name on the command line and the key in JSON.
     QLatin1StringView name;
+    /// The name of the language or library for people; a proper name, the same in every language.
+    QLatin1StringView title;
     ColorPlatform platform;
     /// The form with a place for each value; see FormValues.h for their names.
     QLatin1StringView text;
@@ -27,6 +29,9 @@ struct ColorForm
     /// True when `text` can hold colors outside sRGB.
     bool showsAnyGamut = false;
 };
+
+/// The platform's own name.
+QLatin1StringView platformName(ColorPlatform platform);
 
 /// All forms, in the order of listing.
 std::span<const ColorForm> colorForms();
