@@ -6,6 +6,9 @@
 #include "TypingRule.h"
 #include "color/picker/ColorWell.h"
 #include "color/pipette/Pipette.h"
+#include "color/today/TodayColorPane.h"
+#include "color/today/TodayColors.h"
+#include "color/today/WellColor.h"
 #include "tool/style/ButtonStyle.h"
 #include "tool/style/LabelStyle.h"
 #include "ui_ColorViewController.h"
@@ -55,7 +58,9 @@ ColorViewController::ColorViewController(const Services &services, QObject *pare
     m_resetTimer.setSingleShot(true);
     m_resetTimer.setInterval(copiedDuration);
     connect(&m_resetTimer, &QTimer::timeout, this, &ColorViewController::resetButtons);
-    takeColor(firstColor);
+    setUpToday();
+    setTheColor(firstColor);
+    setFieldText(stringFromColor(firstColor));
     resetButtons();
     createPopup();
 }
@@ -255,7 +260,7 @@ void ColorViewController::dropViewReceivedColor(const QColor &color)
 
 bool ColorViewController::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == m_ui->dropView && filterDrag(event))
+    if (isDropView(watched) && filterDrag(event))
         return true;
     if (watched == m_ui->colorTextField && event->type() == QEvent::KeyPress &&
         filterTyping(*static_cast<QKeyEvent *>(event)))
@@ -263,6 +268,13 @@ bool ColorViewController::eventFilter(QObject *watched, QEvent *event)
     if (filterCodeClick(watched, event))
         return true;
     return ToolViewController::eventFilter(watched, event);
+}
+
+/// Whether it is the area for drops of either side.
+bool ColorViewController::isDropView(const QObject *object) const
+{
+    const TodayColorPane *today = m_today == nullptr ? nullptr : m_today->pane();
+    return object == m_ui->dropView || (today != nullptr && object == today->dropView());
 }
 
 bool ColorViewController::filterDrag(QEvent *event)
@@ -279,14 +291,20 @@ bool ColorViewController::filterDrag(QEvent *event)
         return true;
     }
     drop->acceptProposedAction();
-    if (event->type() == QEvent::Drop)
-        takeColor(pastedColor(content.text())->color);
+    if (event->type() == QEvent::Drop) {
+        if (!isToday())
+            takeColor(pastedColor(content.text())->color);
+        else
+            m_today->takeText(content.text());
+    }
     return true;
 }
 
 void ColorViewController::setTheColor(const RgbaColor &color)
 {
     m_theColor = color;
+    if (!m_takesFromToday)
+        m_today->setColor(wideColorOfCode(color));
     m_ui->colorTextField->setTextColor(color);
     m_ui->colorWell->setColor(color);
     const int percent = qRound(static_cast<double>(color.alpha) * 100);
@@ -298,6 +316,7 @@ void ColorViewController::takeColor(const RgbaColor &color)
 {
     setTheColor(color);
     setFieldText(stringFromColor(color));
+    m_today->picked();
 }
 
 void ColorViewController::setFieldText(const QString &text)

@@ -29,6 +29,7 @@ class ColorWell;
 class HoverButton;
 class ImageButton;
 class Pipette;
+class TodayColors;
 
 /// The color tool: takes a typed, picked, dropped or pasted color and has a button for each notation that copies its
 /// code.
@@ -81,6 +82,8 @@ public:
     /// Takes a copied color, or a copied text with a color in any form.
     void paste() override;
     void pipetteButtonPressed();
+    /// The side of today, which has the same color, and the palette of both sides.
+    TodayColors *today() const { return m_today; }
     /// The pipette that picks from the screen; the system's own by default.
     void setPipette(std::unique_ptr<Pipette> pipette);
 
@@ -99,10 +102,15 @@ private:
     };
     std::array<CodeRow, colorNotationCount> codeRows() const;
 
+    bool isDropView(const QObject *object) const;
     bool filterDrag(QEvent *event);
     bool filterTyping(const QKeyEvent &event);
     bool filterCodeClick(QObject *watched, QEvent *event);
     void setUpPipette();
+    void setUpToday();
+    bool isToday() const;
+    /// The pipette button of the side in view.
+    ImageButton *shownPipetteButton() const;
     void endPicking();
     void pasteIntoField();
     /// Takes the text if it is a color, else types it at the cursor.
@@ -128,8 +136,11 @@ private:
     QString m_savedButtonTitle;
     QTimer m_resetTimer;
     std::unique_ptr<Pipette> m_pipette;
+    ImageButton *m_pickingButton = nullptr; ///< the one that started the pipette
     bool m_pipetteHadFocus = false;
     bool m_setsText = false;
+    TodayColors *m_today = nullptr; ///< owned by this
+    bool m_takesFromToday = false;
 };
 
 } // namespace lumora

@@ -5,9 +5,13 @@
 #include "PastedColor.h"
 #include "TypingRule.h"
 #include "color/pipette/Pipette.h"
+#include "color/today/TodayColorPane.h"
+#include "color/today/TodayColors.h"
+#include "color/today/WellColor.h"
 #include "ui_ColorViewController.h"
 
 #include <QKeyEvent>
+#include <QScopedValueRollback>
 #include <QShortcut>
 
 #include <algorithm>
@@ -25,7 +29,9 @@ void ColorViewController::paste()
         takeColor(rgbaFrom(color));
         return;
     }
-    if (const auto pasted = pastedColor(services().clipboard.plainText()))
+    if (isToday())
+        m_today->takeText(services().clipboard.plainText());
+    else if (const auto pasted = pastedColor(services().clipboard.plainText()))
         takeColor(pasted->color);
 }
 
@@ -125,6 +131,42 @@ void ColorViewController::setUpPipette()
     setPipette(makeScreenPipette());
 }
 
+void ColorViewController::setUpToday()
+{
+    m_today = new TodayColors(services(), this);
+    connect(m_today, &TodayColors::colorChanged, this, [this](const WideColor &color) {
+        const QScopedValueRollback fromToday(m_takesFromToday, true);
+        const RgbaColor shown = wellColor(color);
+        setTheColor(shown);
+        setFieldText(hex8Of(color).first(7));
+    });
+    connect(m_today, &TodayColors::pipetteWanted, this, &ColorViewController::pipetteButtonPressed);
+    connect(m_today, &TodayColors::messageWanted, this, &ColorViewController::showPopupWithTitle);
+    addToday([this](QWidget *pane) {
+        QWidget *today = m_today->makePane(pane);
+        m_today->pane()->dropView()->setDelegate(this);
+        m_today->pane()->dropView()->installEventFilter(this);
+        ImageButton *pipette = m_today->pane()->pipetteButton();
+        pipette->setImage(m_ui->pipetteButton->image());
+        pipette->setAccessibleName(m_ui->pipetteButton->accessibleName());
+        pipette->setToolTip(m_ui->pipetteButton->toolTip());
+        return today;
+    });
+    // A drop elsewhere in the window goes to the classic view, also while the side of today covers it.
+    connect(sides(), &PaneSides::shown, this,
+            [this](ToolSide side) { m_ui->dropView->setTakesWhileHidden(side == ToolSide::Today); });
+}
+
+bool ColorViewController::isToday() const
+{
+    return sides()->side() == ToolSide::Today;
+}
+
+ImageButton *ColorViewController::shownPipetteButton() const
+{
+    return isToday() && m_today->pane() != nullptr ? m_today->pane()->pipetteButton() : m_ui->pipetteButton;
+}
+
 void ColorViewController::setPipette(std::unique_ptr<Pipette> pipette)
 {
     m_pipette = std::move(pipette);
@@ -136,25 +178,29 @@ void ColorViewController::setPipette(std::unique_ptr<Pipette> pipette)
     connect(m_pipette.get(), &Pipette::failed, this, [this] {
         endPicking();
         showPopupWithTitle(qtTrId("COLOR_PIPETTE_FAILED_TITLE"), qtTrId("COLOR_PIPETTE_FAILED_MESSAGE"),
-                           m_ui->pipetteButton, true);
+                           shownPipetteButton(), true);
     });
 }
 
 void ColorViewController::pipetteButtonPressed()
 {
-    if (!m_ui->pipetteButton->isEnabled())
+    if (m_pickingButton != nullptr)
         return;
-    m_pipetteHadFocus = m_ui->pipetteButton->hasFocus();
-    m_ui->pipetteButton->setEnabled(false);
+    m_pickingButton = shownPipetteButton();
+    m_pipetteHadFocus = m_pickingButton->hasFocus();
+    m_pickingButton->setEnabled(false);
     m_pipette->pick(view());
 }
 
 void ColorViewController::endPicking()
 {
-    m_ui->pipetteButton->setEnabled(true);
+    ImageButton *button = std::exchange(m_pickingButton, nullptr);
+    if (button == nullptr)
+        return;
+    button->setEnabled(true);
     // A disabled button would pass the focus on.
     if (m_pipetteHadFocus)
-        m_ui->pipetteButton->setFocus();
+        button->setFocus();
 }
 
 } // namespace lumora

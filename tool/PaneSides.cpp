@@ -6,6 +6,7 @@
 #include "widgets/buttons/SegmentedControl.h"
 
 #include <QEvent>
+#include <QScopedValueRollback>
 #include <QShortcut>
 
 #include <utility>
@@ -30,7 +31,10 @@ PaneSides::PaneSides(QWidget *pane, MakeToday makeToday)
     m_control->setAccessibleName(qtTrId("ACCESSIBLE_SIDES"));
     for (Segment *segment : m_control->segments())
         segment->setToolTip(tipWithKeys(qtTrId("SIDE_TIP"), keys));
-    connect(m_control, &SegmentedControl::chosen, this, [this](int index) { show(static_cast<ToolSide>(index)); });
+    connect(m_control, &SegmentedControl::chosen, this, [this](int index) {
+        const QScopedValueRollback used(m_isUsed, true);
+        show(static_cast<ToolSide>(index));
+    });
     auto *shortcut = new QShortcut(keys, pane);
     connect(shortcut, &QShortcut::activated, this,
             [this] { show(m_side == ToolSide::Classic ? ToolSide::Today : ToolSide::Classic); });
@@ -80,8 +84,10 @@ void PaneSides::makeToday()
     m_today->hide();
     // Tab reaches the switch after everything else, on both sides.
     QWidget *last = m_today;
-    for (QWidget *next = last->nextInFocusChain(); m_today->isAncestorOf(next); next = next->nextInFocusChain())
-        last = next;
+    for (QWidget *next = last->nextInFocusChain(); next != m_today; next = next->nextInFocusChain()) {
+        if (m_today->isAncestorOf(next) && next->focusPolicy() != Qt::NoFocus)
+            last = next;
+    }
     for (Segment *segment : m_control->segments()) {
         QWidget::setTabOrder(last, segment);
         last = segment;

@@ -34,6 +34,8 @@ public:
     /// Shows the side, at once or as soon as the pane is seen.
     void show(ToolSide side);
     SegmentedControl *control() const { return m_control; }
+    /// Whether the user is operating the switch itself.
+    bool isUsed() const { return m_isUsed; }
 
 signals:
     /// The side is in view now.
@@ -54,6 +56,7 @@ private:
     std::vector<QPointer<QWidget>> m_hidden;
     ToolSide m_side = ToolSide::Classic;
     ToolSide m_inView = ToolSide::Classic;
+    bool m_isUsed = false;
 };
 
 } // namespace lumora

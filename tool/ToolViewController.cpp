@@ -40,6 +40,12 @@ void ToolViewController::takeFocus()
 void ToolViewController::addToday(PaneSides::MakeToday makeToday)
 {
     m_sides = new PaneSides(m_view, std::move(makeToday));
+    // The control that had the keyboard is hidden now; the switch keeps it if it was used.
+    connect(m_sides, &PaneSides::shown, this, [this] {
+        const QWidget *focused = QApplication::focusWidget();
+        if (focused != nullptr && m_view->isAncestorOf(focused) && !m_sides->isUsed())
+            takeFocus();
+    });
 }
 
 void ToolViewController::setUpResult(JobResultView *view, const QColor &normal, const QColor &hover)

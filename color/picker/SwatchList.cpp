@@ -157,8 +157,10 @@ void SwatchList::resizeEvent(QResizeEvent *event)
 
 void SwatchList::choose(const QModelIndex &index)
 {
-    if (index.isValid())
-        emit colorChosen(m_model->at(index).color);
+    if (!index.isValid())
+        return;
+    emit colorChosen(m_model->at(index).color);
+    emit rowChosen(index.row());
 }
 
 void SwatchWidget::setColor(const RgbaColor &color)

@@ -52,6 +52,8 @@ public:
 
 signals:
     void colorChosen(const lumora::RgbaColor &color);
+    /// The same by the swatch's place, for colors that sRGB cannot show.
+    void rowChosen(int row);
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;

@@ -863,6 +863,178 @@
     <source>Copy CSS</source>
     <translation>CSS kopieren</translation>
   </message>
+  <message id="COLOR_FORMS">
+    <source>Codes</source>
+    <translation>Codes</translation>
+  </message>
+  <message id="COLOR_PLATFORM">
+    <source>Platform whose codes come first</source>
+    <translation>Plattform, deren Codes zuerst kommen</translation>
+  </message>
+  <message id="COLOR_PLATFORM_TIP">
+    <source>The codes of this platform come first</source>
+    <translation>Die Codes dieser Plattform kommen zuerst</translation>
+  </message>
+  <message id="COLOR_DISPLAY_P3">
+    <source>Display P3</source>
+    <translation>Display P3</translation>
+  </message>
+  <message id="COLOR_DISPLAY_P3_TIP">
+    <source>Write the wide gamut where a platform has it, with the sRGB code beside it</source>
+    <translation>Den weiten Farbraum schreiben, wo eine Plattform ihn hat, mit dem sRGB-Code daneben</translation>
+  </message>
+  <message id="COLOR_CLIPPED">
+    <source>clipped in sRGB</source>
+    <translation>in sRGB beschnitten</translation>
+  </message>
+  <message id="COLOR_CLIPPED_TIP">
+    <source>sRGB cannot show this colour; its sRGB code is the nearest edge of sRGB</source>
+    <translation>sRGB kann diese Farbe nicht zeigen; ihr sRGB-Code ist der nächste Rand von sRGB</translation>
+  </message>
+  <message id="COLOR_COPY_FORM">
+    <source>Copy [FORM]</source>
+    <translation>[FORM] kopieren</translation>
+  </message>
+  <message id="COLOR_ANY_FIELD">
+    <source>Colour in any form</source>
+    <translation>Farbe in beliebiger Form</translation>
+  </message>
+  <message id="COLOR_ANY_HINT">
+    <source>A code in any language, or a CSS name.</source>
+    <translation>Ein Code in beliebiger Sprache oder ein CSS-Name.</translation>
+  </message>
+  <message id="COLOR_REFUSED">
+    <source>This is no colour code. The colour stays as it is.</source>
+    <translation>Das ist kein Farbcode. Die Farbe bleibt, wie sie ist.</translation>
+  </message>
+  <message id="COLOR_CONTRAST">
+    <source>Contrast on</source>
+    <translation>Kontrast auf</translation>
+  </message>
+  <message id="COLOR_BACKGROUND_FIELD">
+    <source>Background colour in any form</source>
+    <translation>Hintergrundfarbe in beliebiger Form</translation>
+  </message>
+  <message id="COLOR_BACKGROUND_WELL">
+    <source>Background colour well, opens the colour picker</source>
+    <translation>Feld der Hintergrundfarbe, öffnet die Farbauswahl</translation>
+  </message>
+  <message id="COLOR_RATIO_TIP">
+    <source>Contrast ratio as WCAG 2 defines it, 1 to 21</source>
+    <translation>Kontrastverhältnis nach WCAG 2, 1 bis 21</translation>
+  </message>
+  <message id="COLOR_SAMPLE">
+    <source>Sample text</source>
+    <translation>Beispieltext</translation>
+  </message>
+  <message id="COLOR_TEXT">
+    <source>Text</source>
+    <translation>Text</translation>
+  </message>
+  <message id="COLOR_LARGE_TEXT">
+    <source>Large text</source>
+    <translation>Großer Text</translation>
+  </message>
+  <message id="COLOR_INTERFACE">
+    <source>Controls</source>
+    <translation>Bedienung</translation>
+  </message>
+  <message id="COLOR_PASSES">
+    <source>[LEVEL] passes</source>
+    <translation>[LEVEL] erfüllt</translation>
+  </message>
+  <message id="COLOR_FAILS">
+    <source>[LEVEL] fails</source>
+    <translation>[LEVEL] verfehlt</translation>
+  </message>
+  <message id="COLOR_NEAREST">
+    <source>Nearest</source>
+    <translation>Nächste</translation>
+  </message>
+  <message id="COLOR_NEAREST_TIP">
+    <source>Take the most similar colour that passes [LEVEL]</source>
+    <translation>Die ähnlichste Farbe nehmen, die [LEVEL] erfüllt</translation>
+  </message>
+  <message id="COLOR_ALL_PASS">
+    <source>This colour passes already</source>
+    <translation>Diese Farbe genügt schon</translation>
+  </message>
+  <message id="COLOR_NONE_PASSES">
+    <source>No colour passes [LEVEL] on this background</source>
+    <translation>Auf diesem Hintergrund erfüllt keine Farbe [LEVEL]</translation>
+  </message>
+  <message id="COLOR_PALETTE">
+    <source>Palette</source>
+    <translation>Palette</translation>
+  </message>
+  <message id="COLOR_PALETTE_LIST">
+    <source>Colours picked so far</source>
+    <translation>Bisher gewählte Farben</translation>
+  </message>
+  <message id="COLOR_PALETTE_EMPTY">
+    <source>Every colour that you pick on either side is kept here until the program ends.</source>
+    <translation>Jede auf einer der beiden Seiten gewählte Farbe bleibt hier, bis das Programm endet.</translation>
+  </message>
+  <message id="COLOR_PALETTE_ADD">
+    <source>Add</source>
+    <translation>Hinzufügen</translation>
+  </message>
+  <message id="COLOR_PALETTE_REMOVE">
+    <source>Remove</source>
+    <translation>Entfernen</translation>
+  </message>
+  <message id="COLOR_PALETTE_OPEN">
+    <source>Open…</source>
+    <translation>Öffnen…</translation>
+  </message>
+  <message id="COLOR_PALETTE_SAVE">
+    <source>Save…</source>
+    <translation>Sichern…</translation>
+  </message>
+  <message id="COLOR_PALETTE_OPEN_TITLE">
+    <source>Choose a palette to read</source>
+    <translation>Eine Palette zum Lesen wählen</translation>
+  </message>
+  <message id="COLOR_PALETTE_SAVE_TITLE">
+    <source>Choose the folder for the palette</source>
+    <translation>Den Ordner für die Palette wählen</translation>
+  </message>
+  <message id="COLOR_PALETTE_FILES">
+    <source>Palettes</source>
+    <translation>Paletten</translation>
+  </message>
+  <message id="COLOR_PALETTE_SAVED">
+    <source>Palette saved</source>
+    <translation>Palette gesichert</translation>
+  </message>
+  <message id="COLOR_PALETTE_NOT_SAVED">
+    <source>The palette was not saved</source>
+    <translation>Die Palette wurde nicht gesichert</translation>
+  </message>
+  <message id="COLOR_PALETTE_REFUSED">
+    <source>This is no palette</source>
+    <translation>Das ist keine Palette</translation>
+  </message>
+  <message id="COLOR_FORMAT">
+    <source>File format of the palette</source>
+    <translation>Dateiformat der Palette</translation>
+  </message>
+  <message id="COLOR_FORMAT_SETS">
+    <source>Colour sets</source>
+    <translation>Colorsets</translation>
+  </message>
+  <message id="COLOR_FORMAT_GPL">
+    <source>GIMP (.gpl)</source>
+    <translation>GIMP (.gpl)</translation>
+  </message>
+  <message id="COLOR_FORMAT_JSON">
+    <source>JSON</source>
+    <translation>JSON</translation>
+  </message>
+  <message id="COLOR_FORMAT_CSS">
+    <source>CSS variables</source>
+    <translation>CSS-Variablen</translation>
+  </message>
   <message id="COLOR_ALERT_TITLE">
     <source>This is no colour code</source>
     <translation>Das ist kein Farbcode</translation>

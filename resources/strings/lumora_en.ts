@@ -861,6 +861,178 @@
     <source>Copy CSS</source>
     <translation>Copy CSS</translation>
   </message>
+  <message id="COLOR_FORMS">
+    <source>Codes</source>
+    <translation>Codes</translation>
+  </message>
+  <message id="COLOR_PLATFORM">
+    <source>Platform whose codes come first</source>
+    <translation>Platform whose codes come first</translation>
+  </message>
+  <message id="COLOR_PLATFORM_TIP">
+    <source>The codes of this platform come first</source>
+    <translation>The codes of this platform come first</translation>
+  </message>
+  <message id="COLOR_DISPLAY_P3">
+    <source>Display P3</source>
+    <translation>Display P3</translation>
+  </message>
+  <message id="COLOR_DISPLAY_P3_TIP">
+    <source>Write the wide gamut where a platform has it, with the sRGB code beside it</source>
+    <translation>Write the wide gamut where a platform has it, with the sRGB code beside it</translation>
+  </message>
+  <message id="COLOR_CLIPPED">
+    <source>clipped in sRGB</source>
+    <translation>clipped in sRGB</translation>
+  </message>
+  <message id="COLOR_CLIPPED_TIP">
+    <source>sRGB cannot show this colour; its sRGB code is the nearest edge of sRGB</source>
+    <translation>sRGB cannot show this colour; its sRGB code is the nearest edge of sRGB</translation>
+  </message>
+  <message id="COLOR_COPY_FORM">
+    <source>Copy [FORM]</source>
+    <translation>Copy [FORM]</translation>
+  </message>
+  <message id="COLOR_ANY_FIELD">
+    <source>Colour in any form</source>
+    <translation>Colour in any form</translation>
+  </message>
+  <message id="COLOR_ANY_HINT">
+    <source>A code in any language, or a CSS name.</source>
+    <translation>A code in any language, or a CSS name.</translation>
+  </message>
+  <message id="COLOR_REFUSED">
+    <source>This is no colour code. The colour stays as it is.</source>
+    <translation>This is no colour code. The colour stays as it is.</translation>
+  </message>
+  <message id="COLOR_CONTRAST">
+    <source>Contrast on</source>
+    <translation>Contrast on</translation>
+  </message>
+  <message id="COLOR_BACKGROUND_FIELD">
+    <source>Background colour in any form</source>
+    <translation>Background colour in any form</translation>
+  </message>
+  <message id="COLOR_BACKGROUND_WELL">
+    <source>Background colour well, opens the colour picker</source>
+    <translation>Background colour well, opens the colour picker</translation>
+  </message>
+  <message id="COLOR_RATIO_TIP">
+    <source>Contrast ratio as WCAG 2 defines it, 1 to 21</source>
+    <translation>Contrast ratio as WCAG 2 defines it, 1 to 21</translation>
+  </message>
+  <message id="COLOR_SAMPLE">
+    <source>Sample text</source>
+    <translation>Sample text</translation>
+  </message>
+  <message id="COLOR_TEXT">
+    <source>Text</source>
+    <translation>Text</translation>
+  </message>
+  <message id="COLOR_LARGE_TEXT">
+    <source>Large text</source>
+    <translation>Large text</translation>
+  </message>
+  <message id="COLOR_INTERFACE">
+    <source>Controls</source>
+    <translation>Controls</translation>
+  </message>
+  <message id="COLOR_PASSES">
+    <source>[LEVEL] passes</source>
+    <translation>[LEVEL] passes</translation>
+  </message>
+  <message id="COLOR_FAILS">
+    <source>[LEVEL] fails</source>
+    <translation>[LEVEL] fails</translation>
+  </message>
+  <message id="COLOR_NEAREST">
+    <source>Nearest</source>
+    <translation>Nearest</translation>
+  </message>
+  <message id="COLOR_NEAREST_TIP">
+    <source>Take the most similar colour that passes [LEVEL]</source>
+    <translation>Take the most similar colour that passes [LEVEL]</translation>
+  </message>
+  <message id="COLOR_ALL_PASS">
+    <source>This colour passes already</source>
+    <translation>This colour passes already</translation>
+  </message>
+  <message id="COLOR_NONE_PASSES">
+    <source>No colour passes [LEVEL] on this background</source>
+    <translation>No colour passes [LEVEL] on this background</translation>
+  </message>
+  <message id="COLOR_PALETTE">
+    <source>Palette</source>
+    <translation>Palette</translation>
+  </message>
+  <message id="COLOR_PALETTE_LIST">
+    <source>Colours picked so far</source>
+    <translation>Colours picked so far</translation>
+  </message>
+  <message id="COLOR_PALETTE_EMPTY">
+    <source>Every colour that you pick on either side is kept here until the program ends.</source>
+    <translation>Every colour that you pick on either side is kept here until the program ends.</translation>
+  </message>
+  <message id="COLOR_PALETTE_ADD">
+    <source>Add</source>
+    <translation>Add</translation>
+  </message>
+  <message id="COLOR_PALETTE_REMOVE">
+    <source>Remove</source>
+    <translation>Remove</translation>
+  </message>
+  <message id="COLOR_PALETTE_OPEN">
+    <source>Open…</source>
+    <translation>Open…</translation>
+  </message>
+  <message id="COLOR_PALETTE_SAVE">
+    <source>Save…</source>
+    <translation>Save…</translation>
+  </message>
+  <message id="COLOR_PALETTE_OPEN_TITLE">
+    <source>Choose a palette to read</source>
+    <translation>Choose a palette to read</translation>
+  </message>
+  <message id="COLOR_PALETTE_SAVE_TITLE">
+    <source>Choose the folder for the palette</source>
+    <translation>Choose the folder for the palette</translation>
+  </message>
+  <message id="COLOR_PALETTE_FILES">
+    <source>Palettes</source>
+    <translation>Palettes</translation>
+  </message>
+  <message id="COLOR_PALETTE_SAVED">
+    <source>Palette saved</source>
+    <translation>Palette saved</translation>
+  </message>
+  <message id="COLOR_PALETTE_NOT_SAVED">
+    <source>The palette was not saved</source>
+    <translation>The palette was not saved</translation>
+  </message>
+  <message id="COLOR_PALETTE_REFUSED">
+    <source>This is no palette</source>
+    <translation>This is no palette</translation>
+  </message>
+  <message id="COLOR_FORMAT">
+    <source>File format of the palette</source>
+    <translation>File format of the palette</translation>
+  </message>
+  <message id="COLOR_FORMAT_SETS">
+    <source>Colour sets</source>
+    <translation>Colour sets</translation>
+  </message>
+  <message id="COLOR_FORMAT_GPL">
+    <source>GIMP (.gpl)</source>
+    <translation>GIMP (.gpl)</translation>
+  </message>
+  <message id="COLOR_FORMAT_JSON">
+    <source>JSON</source>
+    <translation>JSON</translation>
+  </message>
+  <message id="COLOR_FORMAT_CSS">
+    <source>CSS variables</source>
+    <translation>CSS variables</translation>
+  </message>
   <message id="COLOR_ALERT_TITLE">
     <source>This is no colour code</source>
     <translation>This is no colour code</translation>

@@ -22,4 +22,15 @@ void styleDropDown(QComboBox *box)
     box->setItemDelegate(new QStyledItemDelegate(box));
 }
 
+void frameDropDown(QComboBox *box)
+{
+    box->setStyleSheet(uR"(
+        QComboBox { background: palette(base); border: 2px solid palette(window-text); border-radius: 5px;
+            padding: 0 10px; }
+        QComboBox:focus { border-color: palette(highlight); }
+        QComboBox::drop-down { border: 0; width: 28px; }
+        QComboBox::down-arrow { image: url(:/images/dropdown_arrow.svg); width: 12px; height: 12px; }
+    )"_s);
+}
+
 } // namespace lumora

@@ -10,4 +10,7 @@ namespace lumora
 /// after setting the box's own style sheet, if it has one.
 void styleDropDown(QComboBox *box);
 
+/// The look of a closed drop-down: framed like a field, with the program's own arrow. Call it before `styleDropDown`.
+void frameDropDown(QComboBox *box);
+
 } // namespace lumora

@@ -1,0 +1,306 @@
+// SPDX-License-Identifier: MIT
+#include "color/today/TodayColorPane.h"
+#include "color/ColorField.h"
+#include "color/ColorViewController.h"
+#include "color/picker/BFPopoverColorWell.h"
+#include "color/picker/SwatchList.h"
+#include "color/pipette/Pipette.h"
+#include "color/today/CodeField.h"
+#include "color/today/ContrastView.h"
+#include "color/today/FormListView.h"
+#include "color/today/FormRowView.h"
+#include "color/today/PaletteView.h"
+#include "color/today/TodayColors.h"
+#include "color/today/VerdictMark.h"
+#include "color/today/WellColor.h"
+#include "foundation/WholeFile.h"
+#include "resources/Resources.h"
+#include "tests/doubles/RecordingServices.h"
+#include "tool/DropView.h"
+#include "widgets/buttons/CheckboxButton.h"
+#include "widgets/buttons/IconButton.h"
+#include "widgets/buttons/ImageButton.h"
+#include "widgets/buttons/Segment.h"
+#include "widgets/buttons/SegmentedControl.h"
+#include "widgets/popover/SFBPopover.h"
+
+#include <QDropEvent>
+#include <QLabel>
+#include <QMimeData>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace lumora;
+using namespace Qt::StringLiterals;
+
+class TodayColorPaneTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    std::unique_ptr<RecordingServices> m_services;
+    std::unique_ptr<ColorViewController> m_controller;
+
+    TodayColorPane *pane() { return m_controller->today()->pane(); }
+    CodeField *field() { return pane()->field(); }
+    QString code() { return hex8Of(m_controller->today()->color()); }
+    QStringList palette()
+    {
+        QStringList codes;
+        for (const PaletteColor &entry : m_controller->today()->palette())
+            codes << hex8Of(entry.color);
+        return codes;
+    }
+    void type(const QString &text)
+    {
+        field()->setFocus();
+        field()->selectAll();
+        QTest::keyClicks(field(), text);
+    }
+    void press(QWidget *button) { QTest::mouseClick(button, Qt::LeftButton); }
+    static void pick(ColorWell *well, const RgbaColor &color)
+    {
+        well->setColor(color);
+        emit well->colorPicked(well);
+    }
+
+private slots:
+    void initTestCase() { installTexts(*QCoreApplication::instance(), QLocale(u"en"_s)); }
+    void init()
+    {
+        m_services = std::make_unique<RecordingServices>();
+        m_controller = std::make_unique<ColorViewController>(m_services->services());
+        m_controller->view()->resize(835, 600);
+        m_controller->view()->show();
+        m_controller->view()->activateWindow();
+        m_controller->popupView()->setAnimates(false);
+        QVERIFY(QTest::qWaitForWindowActive(m_controller->view()));
+        QVERIFY(pane() == nullptr);
+        m_controller->sides()->show(ToolSide::Today);
+        QVERIFY(pane()->isVisible());
+    }
+    void cleanup()
+    {
+        m_controller.reset();
+        m_services.reset();
+    }
+
+    void bothSidesHaveTheSameColor()
+    {
+        QCOMPARE(code(), u"#34485eff"_s);
+        type(u"rgb(255 99 71)"_s);
+        QCOMPARE(m_controller->colorTextField()->text(), u"#ff6347"_s);
+        QCOMPARE(stringFromColor(m_controller->colorWell()->color()), u"#ff6347"_s);
+        m_controller->sides()->show(ToolSide::Classic);
+        m_controller->colorTextField()->setText(u"#102030"_s);
+        QCOMPARE(code(), u"#102030ff"_s);
+        QCOMPARE(field()->text(), u"#102030"_s);
+        // A color that the classic side only shows stays the wider one.
+        m_controller->sides()->show(ToolSide::Today);
+        type(u"color(display-p3 0 1 0)"_s);
+        m_controller->sides()->show(ToolSide::Classic);
+        m_controller->sides()->show(ToolSide::Today);
+        QCOMPARE(m_controller->today()->color().space, RgbSpace::DisplayP3);
+    }
+
+    void fieldUnderstandsEveryForm_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("code"); ///< empty for a text that is refused
+        for (const FormRow &row : formRows(wideColorFromBytes(1, 2, 3, 128), ColorPlatform::Apple, FormGamut::Srgb))
+            QTest::newRow(row.form->name.data()) << row.text << u"#01020380"_s;
+        QTest::newRow("a name") << u"rebeccapurple"_s << u"#663399ff"_s;
+        QTest::newRow("blanks around") << u"  #fff "_s << u"#ffffffff"_s;
+        QTest::newRow("no code") << u"#12zz"_s << QString();
+        QTest::newRow("too many digits") << u"#1234567"_s << QString();
+        QTest::newRow("half a code") << u"rgb(1 2"_s << QString();
+    }
+    void fieldUnderstandsEveryForm()
+    {
+        QFETCH(QString, text);
+        QFETCH(QString, code);
+        field()->setText(text);
+        QCOMPARE(field()->text(), text);
+        QCOMPARE(this->code(), code.isEmpty() ? u"#34485eff"_s : code);
+        QCOMPARE(field()->isRefused(), code.isEmpty());
+        QCOMPARE(field()->accessibleDescription().isEmpty(), !code.isEmpty());
+        QTest::keyClick(field(), Qt::Key_Return);
+        QCOMPARE(field()->text(), text);
+        QCOMPARE(palette(), code.isEmpty() ? QStringList() : QStringList{code});
+    }
+
+    void refusedTextIsCorrectedInPlace()
+    {
+        type(u"#123456"_s);
+        QTest::keyClicks(field(), u"7"_s);
+        QVERIFY(field()->isRefused());
+        QVERIFY(field()->isUndoAvailable());
+        QTest::keyClick(field(), Qt::Key_Backspace);
+        QVERIFY(!field()->isRefused());
+        QCOMPARE(code(), u"#123456ff"_s);
+    }
+
+    void everyFormIsCopied_data()
+    {
+        QTest::addColumn<QString>("by");
+        QTest::newRow("button") << u"button"_s;
+        QTest::newRow("shortcut") << u"shortcut"_s;
+    }
+    void everyFormIsCopied()
+    {
+        QFETCH(QString, by);
+        type(u"#01020380"_s);
+        const auto &rows = pane()->forms()->rows();
+        for (std::size_t index = 0; index < rows.size(); ++index) {
+            const int digit = Qt::Key_0 + (static_cast<int>(index % 10) + 1) % 10;
+            if (by == u"button")
+                rows[index]->copyButton()->click();
+            else
+                QTest::keyClick(m_controller->view(), static_cast<Qt::Key>(digit),
+                                index < 10 ? Qt::AltModifier : Qt::AltModifier | Qt::ShiftModifier);
+            QCOMPARE(m_services->clipboard.changes, static_cast<int>(index) + 1);
+            QCOMPARE(m_services->clipboard.text, rows[index]->row().text);
+            QCOMPARE(rows[index]->copyButton()->text(), u"Copied"_s);
+        }
+    }
+
+    void platformAndGamutChangeTheRows()
+    {
+        const auto &rows = pane()->forms()->rows();
+        press(pane()->forms()->platforms()->segments().at(3));
+        QCOMPARE(rows.front()->row().form->name, "css-hex"_L1);
+        press(pane()->forms()->platforms()->segments().at(0));
+        press(pane()->forms()->displayP3());
+        QVERIFY(rows.front()->row().text.startsWith(u"Color(.displayP3"_s));
+        QVERIFY(!rows.front()->row().srgbText.isEmpty());
+        press(pane()->forms()->displayP3());
+        QVERIFY(rows.front()->row().srgbText.isEmpty());
+    }
+
+    void contrastIsLiveAndOneClickFromPassing()
+    {
+        ContrastView *contrast = pane()->contrast();
+        type(u"#777777"_s);
+        QCOMPARE(contrast->ratioLabel()->text(), u"4.48 : 1"_s);
+        const auto &text = contrast->row(ContrastUse::Text);
+        QVERIFY(!text.aa->passes());
+        QVERIFY(contrast->row(ContrastUse::LargeText).aa->passes());
+        QVERIFY(!contrast->row(ContrastUse::InterfacePart).nearest->isEnabled());
+        press(text.nearest);
+        QCOMPARE(code(), u"#767676ff"_s);
+        QVERIFY(text.aa->passes());
+        // The next level is one more click away.
+        press(text.nearest);
+        QVERIFY(text.aaa->passes());
+        QVERIFY(!text.nearest->isEnabled());
+        contrast->field()->setText(u"black"_s);
+        QVERIFY(!text.aaa->passes());
+        pick(contrast->well(), {1, 1, 1, 1});
+        QVERIFY(text.aaa->passes());
+        QCOMPARE(contrast->field()->text(), u"#ffffff"_s);
+    }
+
+    void pickedColorsOfBothSidesAreKept()
+    {
+        pick(pane()->well(), {1, 0, 0, 1});
+        pick(pane()->well(), {0, 1, 0, 1});
+        QCOMPARE(code(), u"#00ff00ff"_s);
+        QCOMPARE(palette(), QStringList());
+        // Only the color at which the pointer rests counts.
+        QTRY_COMPARE(palette(), QStringList{u"#00ff00ff"_s});
+        m_controller->sides()->show(ToolSide::Classic);
+        m_controller->dropViewReceivedColor(Qt::blue);
+        QTRY_COMPARE(palette(), (QStringList{u"#00ff00ff"_s, u"#0000ffff"_s}));
+        m_controller->sides()->show(ToolSide::Today);
+        m_services->clipboard.text = u"oklch(50% 0.1 120 / 0.25)"_s;
+        m_controller->paste();
+        QCOMPARE(palette().size(), 3);
+        QVERIFY(palette().last().endsWith(u"40"_s));
+        m_services->clipboard.text = u"no color"_s;
+        m_controller->paste();
+        QCOMPARE(palette().size(), 3);
+    }
+
+    void droppedTextsKeepTheirGamut()
+    {
+        QMimeData content;
+        content.setText(u"color(display-p3 1 0 0)"_s);
+        QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &content, Qt::LeftButton, {});
+        QCoreApplication::sendEvent(pane()->dropView(), &enter);
+        QVERIFY(enter.isAccepted());
+        QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &content, Qt::LeftButton, {});
+        QCoreApplication::sendEvent(pane()->dropView(), &drop);
+        QCOMPARE(m_controller->today()->color().space, RgbSpace::DisplayP3);
+    }
+
+    void swatchesAreChosenAndForgotten()
+    {
+        for (const char *name : {"tomato", "navy"})
+            m_controller->today()->takeText(QString::fromLatin1(name));
+        SwatchList *swatches = pane()->palette()->swatches();
+        QVERIFY(!pane()->palette()->removeButton()->isEnabled());
+        swatches->setFocus();
+        swatches->setCurrentIndex(swatches->model()->index(0, 0));
+        QCOMPARE(code(), u"#ff6347ff"_s);
+        QTest::keyClick(swatches, Qt::Key_Delete);
+        QCOMPARE(palette(), QStringList{u"#000080ff"_s});
+        type(u"teal"_s);
+        press(pane()->palette()->addButton());
+        QCOMPARE(palette().size(), 2);
+    }
+
+    void palettesAreSavedAndReadBack()
+    {
+        const QTemporaryDir folder;
+        PaletteView *view = pane()->palette();
+        QVERIFY(!view->saveButton()->isEnabled());
+        m_controller->today()->takeText(u"tomato"_s);
+        press(view->saveButton());
+        QVERIFY(m_services->folderChooser.isOpen());
+        m_services->folderChooser.confirm(folder.path());
+        QVERIFY(m_controller->popupView()->isVisible());
+        const QString saved = folder.filePath(u"palette.xcassets/tomato.colorset/Contents.json"_s);
+        QVERIFY(QFile::exists(saved));
+        m_controller->popupCloseButtonPressed();
+
+        QVERIFY(writeWholeFile(folder.filePath(u"a.gpl"_s), "GIMP Palette\n1 2 3 One\n4 5 6 Two\n").ok());
+        for (const QString &path : {saved, folder.filePath(u"a.gpl"_s)}) {
+            press(view->openButton());
+            m_services->fileChooser.confirm({path});
+        }
+        QCOMPARE(palette(), (QStringList{u"#ff6347ff"_s, u"#010203ff"_s, u"#040506ff"_s}));
+    }
+
+    void whatIsNoPaletteIsRefused()
+    {
+        const QTemporaryDir folder;
+        QVERIFY(writeWholeFile(folder.filePath(u"a.gpl"_s), "GIMP Palette\n1 2\n").ok());
+        press(pane()->palette()->openButton());
+        m_services->fileChooser.confirm({folder.filePath(u"a.gpl"_s)});
+        QVERIFY(m_controller->popupView()->isVisible());
+        QCOMPARE(palette(), QStringList());
+    }
+
+    void pipetteServesTheSideInView()
+    {
+        class HeldPipette final : public Pipette
+        {
+        public:
+            void pick(QWidget *) override {}
+        };
+        auto held = std::make_unique<HeldPipette>();
+        HeldPipette *pipette = held.get();
+        m_controller->setPipette(std::move(held));
+        press(pane()->pipetteButton());
+        QVERIFY(!pane()->pipetteButton()->isEnabled());
+        // The side may change meanwhile.
+        m_controller->sides()->show(ToolSide::Classic);
+        emit pipette->picked({1, 0, 0, 1});
+        QVERIFY(pane()->pipetteButton()->isEnabled());
+        QVERIFY(m_controller->pipetteButton()->isEnabled());
+        QCOMPARE(code(), u"#ff0000ff"_s);
+    }
+};
+
+QTEST_MAIN(TodayColorPaneTest)
+#include "TodayColorPaneTest.moc"
