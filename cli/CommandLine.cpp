@@ -105,9 +105,39 @@ Complaint unknownCommand(const QString &word)
                   meant.isEmpty() ? commandText("CLI_SEE_HELP", {{"[COMMAND]", u"lumora help"_s}}) : didYouMean(meant));
 }
 
+/// The complaint about a word that `help` and `version` do not take.
+std::optional<Complaint> surplus(const QStringList &words, qsizetype topics)
+{
+    for (const QString &word : words) {
+        const QStringList known = helpOptions + versionOptions + leadingOptions;
+        if (!word.startsWith(u'-') && --topics < 0)
+            return misuse("unexpected-argument", commandText("CLI_UNEXPECTED", {{"[WORD]", quoted(word)}}),
+                          commandText("CLI_SEE_HELP", {{"[COMMAND]", u"lumora help"_s}}));
+        if (word.startsWith(u'-') && !known.contains(word))
+            return unknownOption(word, known);
+    }
+    return std::nullopt;
+}
+
+/// `lumora version`.
+ExitStatus runVersion(Console &console, const QStringList &words)
+{
+    if (const std::optional<Complaint> complaint = surplus(words, 0)) {
+        console.complain(*complaint);
+        return console.finish(ExitStatus::Usage);
+    }
+    if (!console.form().json)
+        return printLines(console, versionLine());
+    return console.finish(ExitStatus::Done, {{u"version"_s, QLatin1StringView(versionText)}});
+}
+
 /// `lumora help [COMMAND]`.
 ExitStatus runHelp(Console &console, const QStringList &words)
 {
+    if (const std::optional<Complaint> complaint = surplus(words, 1)) {
+        console.complain(*complaint);
+        return console.finish(ExitStatus::Usage);
+    }
     const auto isTopic = [](const QString &word) { return !word.startsWith(u'-'); };
     const auto topic = std::find_if(words.begin(), words.end(), isTopic);
     if (topic == words.end() || *topic == helpCommand || *topic == versionCommand)
@@ -137,13 +167,8 @@ ExitStatus runCommand(const Command &command, const QStringList &words)
         return console.finish(problem->kind == Complaint::Kind::Misuse ? ExitStatus::Usage : ExitStatus::Refused);
     }
     Console console(declaration.form(), declaration.commandName());
-    ExitStatus status = body(console);
+    const ExitStatus status = body(console);
     console.finish(status);
-    if (!console.flush()) {
-        console.complain(Complaint{Complaint::Kind::Failure, u"cannot-write"_s, commandText("CLI_STANDARD_OUTPUT"),
-                                   commandText("CLI_CANNOT_WRITE"), commandText("CLI_STANDARD_OUTPUT_ADVICE")});
-        status = ExitStatus::Refused;
-    }
     return status;
 }
 
@@ -154,7 +179,7 @@ ExitStatus run(const QStringList &words)
     if (first == helpCommand || helpOptions.contains(first))
         return runHelp(console, words.sliced(1));
     if (first == versionCommand || versionOptions.contains(first))
-        return printLines(console, versionLine());
+        return runVersion(console, words.sliced(1));
     if (const Command *command = commandNamed(first))
         return runCommand(*command, words.sliced(1));
     if (leadingOptions.contains(first))
@@ -192,8 +217,12 @@ int runCommandLine(int argc, char **argv)
     QCoreApplication::setApplicationName(u"lumora"_s);
     QCoreApplication::setApplicationVersion(QLatin1StringView(versionText));
     installCommandTexts();
-    const ExitStatus status = run(words);
-    std::fflush(stdout);
+    ExitStatus status = run(words);
+    if (Console console; !console.flush()) {
+        console.complain(Complaint{Complaint::Kind::Failure, u"cannot-write"_s, commandText("CLI_STANDARD_OUTPUT"),
+                                   commandText("CLI_CANNOT_WRITE"), commandText("CLI_STANDARD_OUTPUT_ADVICE")});
+        status = ExitStatus::Refused;
+    }
     return static_cast<int>(status);
 }
 

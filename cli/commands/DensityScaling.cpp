@@ -79,9 +79,9 @@ public:
         m_status = ExitStatus::Refused;
     }
 
-    void stop(qsizetype done, qsizetype total)
+    void stop(qsizetype planned)
     {
-        m_console.complain(Interruption::complaint(done, total));
+        m_console.complain(Interruption::complaint(m_files.size(), planned));
         m_status = Interruption::status();
     }
 
@@ -138,6 +138,14 @@ Result<QString> destination(const OutputPlace &place, bool dryRun)
     return dryRun ? absolutePath(given) : place.folder();
 }
 
+qsizetype plannedFiles(const DensityPlan &plan)
+{
+    qsizetype count = 0;
+    for (const PlannedSource &source : plan.sources)
+        count += std::ranges::count_if(source.pictures, &PlannedPicture::written);
+    return count;
+}
+
 void write(Console &console, Report &report, const DensityPlan &plan, const DensityBatchOptions &options)
 {
     const Interruption interruption;
@@ -146,12 +154,12 @@ void write(Console &console, Report &report, const DensityPlan &plan, const Dens
     scaleDensities(plan, options, [&](qsizetype index, const std::vector<ScaledFile> &files) {
         for (const ScaledFile &file : files)
             report.add(file);
-        done = index + 1;
+        ++done;
         console.progress(done, total, QFileInfo(plan.sources[static_cast<std::size_t>(index)].source).fileName());
         return !Interruption::isRequested();
     });
     if (done < total)
-        report.stop(done, total);
+        report.stop(plannedFiles(plan));
 }
 
 } // namespace

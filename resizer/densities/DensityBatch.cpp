@@ -144,13 +144,21 @@ public:
             if (!scaled(static_cast<qsizetype>(index), take(index)))
                 break;
         }
-        const std::lock_guard lock(m_mutex);
-        m_next = count();
-        m_room.notify_all();
+        beginNoMore();
+        threads.clear();
+        for (const auto &[index, files] : m_done)
+            scaled(static_cast<qsizetype>(index), files);
     }
 
 private:
     std::size_t count() const { return m_plan.sources.size(); }
+
+    void beginNoMore()
+    {
+        const std::lock_guard lock(m_mutex);
+        m_next = count();
+        m_room.notify_all();
+    }
 
     void work()
     {

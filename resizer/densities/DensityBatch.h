@@ -27,7 +27,7 @@ struct ScaledFile
 };
 
 /// Called with the pictures of source number `index` (from 0), once for each source, in order. Returns whether the
-/// batch continues.
+/// batch continues. If it does not, no further source begins, but those in work are finished and reported, too.
 using SourceScaled = std::function<bool(qsizetype index, const std::vector<ScaledFile> &files)>;
 
 /// Writes the planned pictures and makes missing folders. Each source is read once; several are in work at the same

@@ -53,7 +53,17 @@ def help_lines(command):
     return [line.strip() for line in shown.split("Examples:\n")[1].splitlines()]
 
 
+def made_package():
+    with tempfile.TemporaryDirectory() as made:
+        subprocess.run([sys.executable, SOURCE / "tests/validator/make_packages.py", made], check=True, capture_output=True)
+        return Path(made, "valid.ipa").read_bytes()
+
+
 class Documents(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.package = made_package()
+
     def setUp(self):
         folder = tempfile.TemporaryDirectory()
         self.addCleanup(folder.cleanup)
@@ -69,9 +79,7 @@ class Documents(unittest.TestCase):
     def put_package(self, name):
         place = self.folder / name
         place.parent.mkdir(parents=True, exist_ok=True)
-        with tempfile.TemporaryDirectory() as made:
-            subprocess.run([sys.executable, SOURCE / "tests/validator/make_packages.py", made], check=True, capture_output=True)
-            place.write_bytes(Path(made, "valid.ipa").read_bytes())
+        place.write_bytes(self.package)
 
     def put_picture(self, name, size):
         place = self.folder / name
@@ -112,6 +120,17 @@ class Documents(unittest.TestCase):
             '<svg xmlns="http://www.w3.org/2000/svg" width="64" height="64"><rect width="64" height="64" fill="tomato"/></svg>')
         self.type(manual_lines())
         self.assertEqual(self.commands_of(manual_lines()), set(COMMANDS))
+
+    def test_figures_come_with_commands_that_start(self):
+        documents = ["README.md", "docs/performance.md", "bench/README.md"]
+        named = {name for document in documents
+                 for name in re.findall(r"`((?:bench|packaging)/[\w/.-]+)(?= |`)", (SOURCE / document).read_text())
+                 if (SOURCE / name).is_file() and not name.endswith((".md", ".txt"))}
+        self.assertGreater(len(named), 5)
+        self.assertEqual([name for name in sorted(named) if not os.access(SOURCE / name, os.X_OK)], [])
+        figures = (SOURCE / "README.md").read_text().split("Why not", 1)[1].split("## Install")[0].split("\n- ")[1:]
+        self.assertEqual([figure for figure in figures if not re.search(r"`bench/[\w.-]+[^`]*`", figure)], [])
+        self.assertEqual(len(figures), 3)
 
     def test_the_page_of_rules(self):
         page = subprocess.run([LUMORA, "rules", "--markdown"], capture_output=True, text=True, check=True, env=self.environment)

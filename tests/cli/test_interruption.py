@@ -32,6 +32,10 @@ class Interruption(unittest.TestCase):
         subprocess.run(["convert", "-size", "1600x1600", "plasma:", cls.art / "p0@2x.png"], check=True)
         for number in range(1, COUNT):
             (cls.art / f"p{number}@2x.png").write_bytes((cls.art / "p0@2x.png").read_bytes())
+        cls.dense = Path(cls.scratch.name, "dense")
+        cls.dense.mkdir()
+        for number in range(COUNT):
+            (cls.dense / f"p{number}@3x.png").hardlink_to(cls.art / "p0@2x.png")
 
     def stopped(self, number, *arguments):
         """Sends the signal once the first file is there."""
@@ -55,6 +59,14 @@ class Interruption(unittest.TestCase):
                 self.assertTrue(0 < len(named) < COUNT, len(named))
                 self.assertTrue(all(whole(path) for path in named))
                 self.assertEqual(complained, f"lumora: interrupted; {len(named)} of {COUNT} files are whole; run it again for the rest\n")
+
+    def test_all_densities_in_work_are_named(self):
+        returned, printed, complained, out = self.stopped(signal.SIGINT, "downscale", str(self.dense), "--layout", "ios")
+        self.assertEqual(returned, 130, complained)
+        named = {Path(line) for line in printed.splitlines()}
+        self.assertEqual(named, {path for path in out.rglob("*") if path.is_file()})
+        self.assertTrue(all(whole(path) for path in named))
+        self.assertEqual(complained, f"lumora: interrupted; {len(named)} of {2 * COUNT} files are whole; run it again for the rest\n")
 
     def test_the_result_says_so(self):
         returned, printed, _, out = self.stopped(signal.SIGINT, "downscale", str(self.art), "--json")

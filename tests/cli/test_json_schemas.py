@@ -72,6 +72,8 @@ CALLS = {
     "rules": ("rules", ["rules"], 0),
     "one rule": ("rules", ["rules", "seal"], 0),
     "no rule": ("rules", ["rules", "sael"], 2),
+    "version": ("version", ["version"], 0),
+    "version of what is none": ("version", ["version", "icons"], 2),
     "validate": ("validate", ["validate", "packages/valid.ipa"], 0),
     "validate with faults": ("validate", ["validate", "packages/logo.ipa"], 1),
     "validate what is damaged": ("validate", ["validate", "packages/encrypted.ipa"], 1),
