@@ -210,9 +210,20 @@ ExitStatus writeLabeledPlaceholders(Console &console, const LabeledPlaceholdersR
 
 ExitStatus checkScreenshots(Console &console, const LabeledPlaceholdersRequest &request)
 {
+    const auto isJudged = [](const QString &set) { return set == u"app-store" || set == u"play"; };
+    if (!std::ranges::all_of(request.sets, isJudged)) {
+        const QString sets = alternatives({u"--set app-store"_s, u"--set play"_s});
+        console.complain(
+            misuse("conflicting-options", commandText("CLI_NEEDS", {{"[FIRST]", u"--check"_s}, {"[SECOND]", sets}})));
+        return console.finish(ExitStatus::Usage);
+    }
     const Result<std::vector<ScreenshotFacts>> screenshots = readScreenshots(request.checkedFolder);
     if (!screenshots) {
         console.complain(screenshots.failure());
+        return console.finish(ExitStatus::Refused);
+    }
+    if (screenshots.value().empty()) {
+        console.complain(Failure{FailureCode::MissingContent, request.checkedFolder, "DETAIL_NO_PICTURE"});
         return console.finish(ExitStatus::Refused);
     }
     std::set<ScreenshotStore> stores;

@@ -59,12 +59,12 @@ ExitStatus Interruption::status()
     return static_cast<ExitStatus>(128 + received);
 }
 
-Complaint Interruption::complaint(qsizetype done, qsizetype total)
+Complaint Interruption::complaint(qsizetype done, qsizetype total, const char *textKey)
 {
     return {Complaint::Kind::Failure,
             u"interrupted"_s,
             {},
-            commandText("CLI_INTERRUPTED", {{"[DONE]", QString::number(done)}, {"[TOTAL]", QString::number(total)}}),
+            commandText(textKey, {{"[DONE]", QString::number(done)}, {"[TOTAL]", QString::number(total)}}),
             commandText("CLI_INTERRUPTED_ADVICE")};
 }
 

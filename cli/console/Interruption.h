@@ -20,8 +20,8 @@ public:
     static bool isRequested();
     /// 128 plus the signal's number, as in shells: 130 for Ctrl+C, 143 for `kill`.
     static ExitStatus status();
-    /// The complaint about it; `done` of `total` files are complete.
-    static Complaint complaint(qsizetype done, qsizetype total);
+    /// The complaint about it; `done` of `total` files are complete. The text has both numbers.
+    static Complaint complaint(qsizetype done, qsizetype total, const char *textKey = "CLI_INTERRUPTED");
 };
 
 } // namespace lumora

@@ -191,7 +191,7 @@ public:
             m_status = std::max(m_status, validate(file));
         }
         if (m_done < std::ssize(m_files)) {
-            m_console.complain(Interruption::complaint(m_done, std::ssize(m_files)));
+            m_console.complain(Interruption::complaint(m_done, std::ssize(m_files), "CLI_INTERRUPTED_CHECK"));
             m_status = Interruption::status();
         }
         return finish();

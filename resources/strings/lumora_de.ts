@@ -3130,5 +3130,13 @@
     <source>no model in it</source>
     <translation>kein Modell darin</translation>
   </message>
+  <message id="DETAIL_NO_PICTURE">
+    <source>no picture in it</source>
+    <translation>kein Bild darin</translation>
+  </message>
+  <message id="CLI_INTERRUPTED_CHECK">
+    <source>interrupted; [DONE] of [TOTAL] files are checked</source>
+    <translation>unterbrochen; [DONE] von [TOTAL] Dateien sind geprüft</translation>
+  </message>
 </context>
 </TS>

@@ -3128,5 +3128,13 @@
     <source>no model in it</source>
     <translation>no model in it</translation>
   </message>
+  <message id="DETAIL_NO_PICTURE">
+    <source>no picture in it</source>
+    <translation>no picture in it</translation>
+  </message>
+  <message id="CLI_INTERRUPTED_CHECK">
+    <source>interrupted; [DONE] of [TOTAL] files are checked</source>
+    <translation>interrupted; [DONE] of [TOTAL] files are checked</translation>
+  </message>
 </context>
 </TS>

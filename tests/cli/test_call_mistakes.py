@@ -66,6 +66,8 @@ MISTAKES = [
     ("placeholders --set iso --to out", 2, 'lumora placeholders: --set takes ios, mac, app-store, play, feature-graphic, tv, watch, social or '
      'launch, not "iso"; did you mean ios?'),
     ("placeholders --size 8x8 --check out", 2, "lumora placeholders: --size and --check exclude each other"),
+    ("placeholders --set play,ios --check bare", 2, "lumora placeholders: --check goes with --set app-store or --set play only"),
+    ("placeholders --check bare", 1, "lumora: bare: lacks what it has to contain (no picture in it); check how it was made"),
     ("downscale art --layout windows --dry-run", 2, "lumora downscale: --layout takes ios, android, flutter, react-native or web"),
     ("downscale art --layout ios --to-scales 7x", 2, "lumora downscale: --to-scales 7x: is no density"),
     ("downscale art --layout ios --from 2x --to-scales 3x", 2, "lumora downscale: 3x is not below 2x"),
@@ -155,6 +157,7 @@ class Calls(unittest.TestCase):
         self.folder = Path(folder.name)
         for name in ("icon.png", "App.IPA", "a.ipa", "b.ipa"):
             (self.folder / name).write_bytes(b"")
+        (self.folder / "bare").mkdir()
 
     def run_line(self, line, cwd=None, **variables):
         environment = {"PATH": "/usr/bin:/bin", "LC_ALL": "C.UTF-8", "HOME": str(self.folder), **variables}
