@@ -7,6 +7,8 @@
 #include "icons/IconSource.h"
 #include "pictures/PictureReader.h"
 
+#include <QFileInfo>
+
 #include <optional>
 #include <utility>
 
@@ -52,7 +54,12 @@ public:
         return source.value().artwork;
     }
 
-    void refuse(const QString &text) { m_failure = Failure{FailureCode::InvalidValue, text, {}}; }
+    /// Refuses what an option was given.
+    void refuse(const QString &option, const QString &value, const char *reasonKey)
+    {
+        if (!m_failure)
+            m_failure = Failure{FailureCode::InvalidValue, option + u' ' + value, reasonKey};
+    }
     const std::optional<Failure> &failure() const { return m_failure; }
 
 private:
@@ -128,16 +135,18 @@ Result<TodayInput> readTodayInput(const TodayArguments &arguments, const QString
     sources.foreground = reading.read(arguments.foreground);
     sources.monochrome = reading.read(arguments.monochrome);
     sources.backgroundColor = colorOf(arguments.background);
-    if (!sources.backgroundColor)
+    if (!sources.backgroundColor && !arguments.background.isEmpty() && !QFileInfo::exists(arguments.background))
+        reading.refuse(u"--background"_s, arguments.background, "DETAIL_NO_COLOR_OR_FILE");
+    else if (!sources.backgroundColor)
         sources.background = reading.read(arguments.background);
     for (const QString &layer : arguments.layers)
         sources.layers << reading.read(layer);
     sources.flatten = colorOf(arguments.flatten);
     if (!arguments.flatten.isEmpty() && !sources.flatten)
-        reading.refuse(arguments.flatten);
+        reading.refuse(u"--flatten"_s, arguments.flatten, "DETAIL_NO_OPAQUE_COLOR");
     // It becomes the name of files and folders.
     if (arguments.name.contains(u'/') || arguments.name.startsWith(u'.'))
-        reading.refuse(arguments.name);
+        reading.refuse(u"--name"_s, arguments.name, "DETAIL_NO_FILE_NAME");
     if (reading.failure())
         return *reading.failure();
     return input;

@@ -26,12 +26,13 @@ namespace
 
 /// Complains of a failure. One without a subject is about the source; a picture that only has another size could be
 /// taken with --fit.
-ExitStatus refuse(Console &console, Failure failure, const QString &source)
+ExitStatus refuse(Console &console, Failure failure, const QString &source, SourceFit fit)
 {
     if (failure.subject.isEmpty())
         failure.subject = source.isEmpty() ? u"--example"_s : source;
     console.complain(failure.code == FailureCode::WrongSize
-                         ? complaintOf(failure, commandText("CLI_ICONS_WRONG_SIZE_ADVICE"))
+                         ? complaintOf(failure, commandText(fit == SourceFit::Exact ? "CLI_ICONS_WRONG_SIZE_ADVICE"
+                                                                                    : "CLI_ICONS_FIT_ADVICE"))
                          : complaintOf(failure));
     return ExitStatus::Refused;
 }
@@ -113,16 +114,16 @@ ExitStatus writeTodaySets(Console &console, const TodayRun &run)
     keepFreedMemory();
     const Result<TodayInput> input = readTodayInput(run.arguments, run.source);
     if (!input)
-        return refuse(console, input.failure(), run.source);
+        return refuse(console, input.failure(), run.source, run.arguments.sourceFit());
     const Motifs motifs(input.value().sources, run.arguments.macForm());
     const QList<TodaySet> sets = todaySetsNamed(run.platforms);
     Result<FilePlan> plan = planSets(sets, motifs, run.arguments.setOptions());
     if (!plan)
-        return refuse(console, plan.failure(), run.source);
+        return refuse(console, plan.failure(), run.source, run.arguments.sourceFit());
     plan.value().derived = input.value().derived + plan.value().derived;
     const Result<ExportFolder> folder = run.place.open(u"icons"_s);
     if (!folder)
-        return refuse(console, folder.failure(), run.source);
+        return refuse(console, folder.failure(), run.source, run.arguments.sourceFit());
     const QString path = folder.value().path;
     const Interruption interruption;
     const std::optional<IconExport> classic = writeClassicSets(console, run, folder.value(), motifs);
@@ -134,9 +135,9 @@ ExitStatus writeTodaySets(Console &console, const TodayRun &run)
     console.print(path);
     for (const TodayFile &file : result.files)
         console.note(file.path);
-    noteDerived(console, result.derived);
-    for (const QString &line : console.form().json ? QStringList() : findingLines(check, path))
-        console.warn(line);
+    printDerived(console, result.derived);
+    for (const QString &line : findingLines(check, path))
+        console.print(line);
     complainOf(console, failures, path);
     ExitStatus status =
         failures.isEmpty() && !check.has(FindingSeverity::Error) ? ExitStatus::Done : ExitStatus::Refused;
@@ -165,21 +166,21 @@ ExitStatus writeIntoProjects(Console &console, const IntoRun &run)
     keepFreedMemory();
     const Result<QString> folder = absolutePath(run.folder);
     if (!folder)
-        return refuse(console, folder.failure(), run.source);
+        return refuse(console, folder.failure(), run.source, run.arguments.sourceFit());
     const QFileInfo info(folder.value());
     if (!info.isDir())
         return refuse(console, {info.exists() ? FailureCode::NotAFolder : FailureCode::NotFound, run.folder, {}},
-                      run.source);
+                      run.source, run.arguments.sourceFit());
     const Result<TodayInput> input = readTodayInput(run.arguments, run.source);
     if (!input)
-        return refuse(console, input.failure(), run.source);
+        return refuse(console, input.failure(), run.source, run.arguments.sourceFit());
     const Motifs motifs(input.value().sources, run.arguments.macForm());
     Result<ProjectPlan> plan = planProjects(folder.value(), motifs, run.options);
     if (!plan)
-        return refuse(console, plan.failure(), run.source);
+        return refuse(console, plan.failure(), run.source, run.arguments.sourceFit());
     const Result<QList<ProjectFile>> files = compareWithProject(folder.value(), plan.value().files, motifs);
     if (!files)
-        return refuse(console, files.failure(), run.source);
+        return refuse(console, files.failure(), run.source, run.arguments.sourceFit());
     const Interruption interruption;
     if (!run.dryRun) {
         const Outcome written = writeIntoProject(folder.value(), files.value(), progressOn(console));
@@ -189,11 +190,11 @@ ExitStatus writeIntoProjects(Console &console, const IntoRun &run)
             return Interruption::status();
         }
         if (!written)
-            return refuse(console, written.failure(), run.source);
+            return refuse(console, written.failure(), run.source, run.arguments.sourceFit());
     }
     const QList<Derived> derived = input.value().derived + plan.value().files.derived;
     printProjectFiles(console, files.value());
-    noteDerived(console, derived);
+    printDerived(console, derived);
     for (const QString &line : plan.value().files.linesToAdd)
         console.print(commandText("CLI_ICONS_LINE_TO_ADD", {{"[LINE]", line}}));
     return console.finish(ExitStatus::Done,

@@ -21,6 +21,8 @@ namespace
 constexpr std::array<const char *, 3> severityNames = {"error", "warning", "note"};
 /// In the order of `FileChange`.
 constexpr std::array<const char *, 4> changeNames = {"new", "replaced", "unchanged", "removed"};
+constexpr std::array<const char *, 4> changeKeys = {"ICONS_CHANGE_NEW", "ICONS_CHANGE_REPLACED",
+                                                    "ICONS_CHANGE_UNCHANGED", "ICONS_CHANGE_REMOVED"};
 
 QLatin1StringView nameOf(FindingSeverity severity)
 {
@@ -55,13 +57,11 @@ QJsonArray filesJson(const TodayExport &result)
     return files;
 }
 
-void noteDerived(Console &console, const QList<Derived> &derived)
+void printDerived(Console &console, const QList<Derived> &derived)
 {
-    if (console.form().json)
-        return;
     for (const Derived &one : derived) {
         const QString text = commandText(textOf(one.derivation).textKey);
-        console.warn(one.detail.isEmpty() ? text : QString(text + u" ("_s + one.detail + u')'));
+        console.print(printableText(one.detail.isEmpty() ? text : QString(text + u" ("_s + one.detail + u')')));
     }
 }
 
@@ -109,7 +109,8 @@ QJsonArray findingsJson(const IconCheck &check)
 void printProjectFiles(Console &console, const QList<ProjectFile> &files)
 {
     for (const ProjectFile &file : files)
-        console.print(printableText(nameOf(file.change) + u": "_s + file.path));
+        console.print(
+            printableText(commandText(changeKeys[static_cast<std::size_t>(file.change)]) + u": "_s + file.path));
 }
 
 QJsonArray projectFilesJson(const QList<ProjectFile> &files)

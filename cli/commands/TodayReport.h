@@ -15,8 +15,8 @@ namespace lumora
 /// The picture and text files that were written.
 QJsonArray filesJson(const TodayExport &result);
 
-/// What was derived: noted on stderr unless JSON is printed, and as JSON.
-void noteDerived(Console &console, const QList<Derived> &derived);
+/// What was derived: printed as lines, and as JSON.
+void printDerived(Console &console, const QList<Derived> &derived);
 QJsonArray derivedJson(const QList<Derived> &derived);
 
 /// Findings, the worst first, with reason and fix; paths are given from the folder. And as JSON.

@@ -103,7 +103,7 @@ public:
         const QJsonArray images = (*list)[u"images"_s].toArray();
         for (const QJsonValue &image : images)
             judge(entryOf(image.toObject()), image.toObject()[u"platform"_s].toString());
-        if (!m_hasStoreIcon && !images.isEmpty())
+        if (!m_hasStoreIcon)
             m_check.add(IconRule::StoreIconMissing, m_folder);
         if (m_isIos && (!m_appearances.contains(u"dark"_s) || !m_appearances.contains(u"tinted"_s)))
             m_check.add(IconRule::AppearanceMissing, m_folder);
@@ -118,7 +118,8 @@ private:
         if (!m_slots.contains(entry.slot()))
             m_slots << entry.slot();
         else if (!entry.file.isEmpty())
-            m_check.add(IconRule::DuplicateSlot, m_folder, entry.description());
+            m_check.add(IconRule::DuplicateSlot, m_folder, entry.description() + u": "_s + entry.file);
+        m_appearances << entry.appearance;
         if (entry.file.isEmpty()) {
             m_check.add(IconRule::SlotEmpty, m_folder, entry.description());
             return;
@@ -129,7 +130,6 @@ private:
         }
         m_assigned << entry.file;
         m_isIos = m_isIos || platform == u"ios";
-        m_appearances << entry.appearance;
         judgePicture(entry);
     }
 

@@ -4,6 +4,7 @@
 #include "foundation/WholeFile.h"
 
 #include <QDir>
+#include <QRegularExpression>
 #include <QXmlStreamReader>
 
 using namespace Qt::StringLiterals;
@@ -92,6 +93,23 @@ void removeOtherFormats(const QString &root, FilePlan &plan, qsizetype firstFile
 }
 
 } // namespace
+
+bool hasFlavor(const QString &sources, const QString &flavor)
+{
+    if (flavor.contains(u'/') || flavor.startsWith(u'.'))
+        return false;
+    if (QFileInfo(sources + u'/' + flavor).isDir())
+        return true;
+    const QRegularExpression word(u"\\b"_s + QRegularExpression::escape(flavor) + u"\\b"_s);
+    for (const char *name : {"build.gradle", "build.gradle.kts"}) {
+        const Result<QByteArray> file = readWholeFile(sources + u"/../"_s + QLatin1StringView(name), longestXml);
+        const QString text = file ? QString::fromUtf8(file.value()) : QString();
+        const qsizetype flavors = text.indexOf(u"productFlavors");
+        if (flavors >= 0 && text.indexOf(word, flavors) >= 0)
+            return true;
+    }
+    return false;
+}
 
 Outcome planAndroidModule(const QString &root, const QString &sources, const QString &flavor, StorePicture store,
                           const Motifs &motifs, FilePlan &plan)

@@ -18,4 +18,8 @@ enum class StorePicture { Kept, None };
 Outcome planAndroidModule(const QString &root, const QString &sources, const QString &flavor, StorePicture store,
                           const Motifs &motifs, FilePlan &plan);
 
+/// Whether a module with these sources (a whole path) has sources of that flavor or says in its build file that there
+/// is one.
+bool hasFlavor(const QString &sources, const QString &flavor);
+
 } // namespace lumora

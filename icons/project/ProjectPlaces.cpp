@@ -81,6 +81,54 @@ Outcome ProjectPlaces::add()
     return Done{};
 }
 
+bool ProjectPlaces::isMeant() const
+{
+    const bool hasTargets = m_project.kind == ProjectKind::Xcode || m_project.kind == ProjectKind::ReactNative;
+    return (m_options.target.isEmpty() || hasTargets) && (m_options.flavor.isEmpty() || isFlavorKnown());
+}
+
+bool ProjectPlaces::isFlavorKnown() const
+{
+    const QStringList sources = androidSources();
+    if (std::any_of(sources.begin(), sources.end(),
+                    [this](const QString &folder) { return hasFlavor(whole(folder), m_options.flavor); }))
+        return true;
+    if (m_project.kind != ProjectKind::Flutter || m_options.flavor.contains(u'/'))
+        return false;
+    for (const char *folder : {"ios", "macos"}) {
+        const QString platform = QString::fromLatin1(folder);
+        if (has(platform + u"/Runner/Assets.xcassets/AppIcon-"_s + m_options.flavor + u".appiconset"_s) ||
+            has(platform + u"/Runner.xcodeproj/xcshareddata/xcschemes/"_s + m_options.flavor + u".xcscheme"_s))
+            return true;
+    }
+    return false;
+}
+
+QStringList ProjectPlaces::androidSources() const
+{
+    switch (m_project.kind) {
+    case ProjectKind::Flutter:
+    case ProjectKind::Capacitor:
+    case ProjectKind::ReactNative:
+        return {u"android/app/src"_s};
+    case ProjectKind::Tauri:
+        return {u"src-tauri/gen/android/app/src"_s};
+    case ProjectKind::Gradle:
+        break;
+    default:
+        return {};
+    }
+    QStringList modules{u"app"_s};
+    if (!has(u"app"_s))
+        modules = QDir(whole({})).entryList(QDir::Dirs | QDir::NoDotAndDotDot | QDir::NoSymLinks, QDir::Name);
+    QStringList sources;
+    for (const QString &module : std::as_const(modules)) {
+        if (has(module + u"/src/main/AndroidManifest.xml"_s))
+            sources << module + u"/src"_s;
+    }
+    return sources;
+}
+
 QString ProjectPlaces::at(const QString &path) const
 {
     return below(m_project.folder, path);
@@ -114,12 +162,17 @@ Outcome ProjectPlaces::addOpaque(const QString &file, int edge)
     return Done{};
 }
 
-Outcome ProjectPlaces::addAndroid(const QString &sources, bool storePicture)
+Outcome ProjectPlaces::addAndroid(StorePicture store)
 {
-    if (!has(sources))
-        return Done{};
-    return planAndroidModule(m_root, at(sources), m_options.flavor,
-                             storePicture ? StorePicture::Kept : StorePicture::None, m_motifs, m_plan);
+    const QStringList folders = androidSources();
+    for (const QString &sources : folders) {
+        if (!has(sources))
+            continue;
+        const Outcome planned = planAndroidModule(m_root, at(sources), m_options.flavor, store, m_motifs, m_plan);
+        if (!planned)
+            return planned;
+    }
+    return Done{};
 }
 
 Outcome ProjectPlaces::addCatalogues(const QString &folder, const QString &name, bool forMac)
@@ -158,8 +211,11 @@ Outcome ProjectPlaces::addFlutter()
         if (!planned)
             return planned;
     }
-    if (const Outcome android = addAndroid(u"android/app/src"_s, false); !android)
+    if (const Outcome android = addAndroid(StorePicture::None); !android)
         return android;
+    // The site and the Windows program have no flavors.
+    if (!m_options.flavor.isEmpty())
+        return Done{};
     if (has(u"web"_s)) {
         constexpr int faviconEdge = 32;
         addSquare(u"web/favicon.png"_s, filled(Motif::Icon, faviconEdge));
@@ -182,7 +238,7 @@ Outcome ProjectPlaces::addCapacitor()
         if (!planned)
             return planned;
     }
-    return addAndroid(u"android/app/src"_s, false);
+    return addAndroid(StorePicture::None);
 }
 
 Outcome ProjectPlaces::addReactNative()
@@ -192,7 +248,7 @@ Outcome ProjectPlaces::addReactNative()
         if (!planned)
             return planned;
     }
-    return addAndroid(u"android/app/src"_s, false);
+    return addAndroid(StorePicture::None);
 }
 
 Outcome ProjectPlaces::addTauri()
@@ -211,7 +267,7 @@ Outcome ProjectPlaces::addTauri()
         if (!planned)
             return planned;
     }
-    return addAndroid(u"src-tauri/gen/android/app/src"_s, false);
+    return addAndroid(StorePicture::None);
 }
 
 Outcome ProjectPlaces::addXcode(const QString &folder)
@@ -242,21 +298,7 @@ Outcome ProjectPlaces::addXcode(const QString &folder)
 
 Outcome ProjectPlaces::addGradle()
 {
-    QStringList modules{u"app"_s};
-    const QStringList folders =
-        QDir(whole({})).entryList(QDir::Dirs | QDir::NoDotAndDotDot | QDir::NoSymLinks, QDir::Name);
-    for (const QString &folder : folders) {
-        if (folder != u"app" && !has(u"app"_s))
-            modules << folder;
-    }
-    for (const QString &module : std::as_const(modules)) {
-        if (!has(module + u"/src/main/AndroidManifest.xml"_s))
-            continue;
-        const Outcome planned = addAndroid(module + u"/src"_s, true);
-        if (!planned)
-            return planned;
-    }
-    return Done{};
+    return addAndroid(StorePicture::Kept);
 }
 
 } // namespace lumora

@@ -41,9 +41,14 @@ Result<ProjectPlan> planProjects(const QString &root, const Motifs &motifs, cons
     if (plan.projects.isEmpty())
         return Failure{FailureCode::NotAProject, root, projectMarks().join(u"; "_s)};
     QHash<QString, RecognizedProject> owners;
+    bool anyIsMeant = false;
     for (const RecognizedProject &project : plan.projects) {
         FilePlan files;
-        const Outcome planned = ProjectPlaces(root, project, motifs, options, files).add();
+        ProjectPlaces places(root, project, motifs, options, files);
+        if (!places.isMeant())
+            continue;
+        anyIsMeant = true;
+        const Outcome planned = places.add();
         if (!planned)
             return planned.failure();
         FilePlan fresh;
@@ -71,6 +76,12 @@ Result<ProjectPlan> planProjects(const QString &root, const Motifs &motifs, cons
         QStringList names;
         for (const RecognizedProject &project : plan.projects)
             names << description(project);
+        if (!anyIsMeant)
+            return Failure{FailureCode::AmbiguousProject,
+                           root,
+                           {options.flavor.isEmpty() ? "DETAIL_NO_TARGET" : "DETAIL_NO_FLAVOR",
+                            {{"[NAME]", options.flavor.isEmpty() ? options.target : options.flavor},
+                             {"[PROJECTS]", names.join(u", "_s)}}}};
         return Failure{
             FailureCode::NotAProject, root, {"DETAIL_NO_ICON_PLACES", {{"[PROJECTS]", names.join(u", "_s)}}}};
     }

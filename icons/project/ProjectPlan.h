@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "AndroidModule.h"
 #include "ProjectRecognition.h"
 #include "foundation/Result.h"
 #include "icons/today/FilePlan.h"
@@ -26,9 +27,10 @@ struct ProjectPlan
     FilePlan files; ///< by their paths from the folder
 };
 
-/// Finds the projects in the folder and plans exactly the files that they hold. Fails with `NotAProject` where there is
-/// none or none has a place for icons, with `AmbiguousProject` where two want one file to be different or a project has
-/// several icons of which none was chosen, and as the sets' own plans do.
+/// Finds the projects in the folder and plans exactly the files that they hold; with a flavor or target, only those of
+/// the projects that have it. Fails with `NotAProject` where there is
+/// none or none has a place for icons, with `AmbiguousProject` where two want one file to be different, a project has
+/// several icons of which none was chosen, or none has the flavor or target that was; and as the sets' own plans do.
 Result<ProjectPlan> planProjects(const QString &root, const Motifs &motifs, const ProjectOptions &options);
 
 /// Each kind's own plan; `root` is the tree's, `folder` the project's from there.
@@ -38,6 +40,9 @@ public:
     ProjectPlaces(QString root, const RecognizedProject &project, const Motifs &motifs, const ProjectOptions &options,
                   FilePlan &plan);
     Outcome add();
+
+    /// Whether the flavor or target that was chosen may be one of this project; true where none was chosen.
+    bool isMeant() const;
 
 private:
     Outcome addFlutter();
@@ -51,7 +56,10 @@ private:
     Outcome addXcode(const QString &folder);
     Outcome addGradle();
 
-    Outcome addAndroid(const QString &sources, bool storePicture);
+    bool isFlavorKnown() const;
+    /// The folders of the sources of its Android modules.
+    QStringList androidSources() const;
+    Outcome addAndroid(StorePicture store);
     Outcome addCatalogues(const QString &folder, const QString &name, bool forMac);
     /// A square picture in the size that it has there, else in another.
     void addSquare(const QString &file, PictureRecipe recipe);

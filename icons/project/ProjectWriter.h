@@ -28,8 +28,8 @@ struct ProjectFile
 };
 
 /// Every file of a plan beside what is there. Fails with `LeadsOutside` where a link on the way to a file, or the file
-/// itself, leads out of the folder, with `IsFolder` or `NotAFolder` where one is in the other's place, with `TooLarge` if
-/// memory runs out.
+/// itself, leads out of the folder, with `IsFolder` or `NotAFolder` where one is in the other's place, with `TooLarge`
+/// if memory runs out.
 Result<QList<ProjectFile>> compareWithProject(const QString &root, const FilePlan &plan, const Motifs &motifs);
 
 /// Writes what is new or differs, each file as a whole. Where one cannot be written, those before it get their old

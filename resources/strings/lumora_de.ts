@@ -1962,6 +1962,26 @@
     <source>there is no SVG icon, since the icon is a picture of pixels</source>
     <translation>es gibt kein SVG-Icon, denn das Icon ist ein Bild aus Pixeln</translation>
   </message>
+  <message id="CLI_ICONS_FIT_ADVICE">
+    <source>use a square picture of at least 512 x 512 pixels</source>
+    <translation>ein quadratisches Bild von mindestens 512 x 512 Pixeln nehmen</translation>
+  </message>
+  <message id="ICONS_CHANGE_NEW">
+    <source>new</source>
+    <translation>neu</translation>
+  </message>
+  <message id="ICONS_CHANGE_REPLACED">
+    <source>replaced</source>
+    <translation>ersetzt</translation>
+  </message>
+  <message id="ICONS_CHANGE_UNCHANGED">
+    <source>unchanged</source>
+    <translation>unverändert</translation>
+  </message>
+  <message id="ICONS_CHANGE_REMOVED">
+    <source>removed</source>
+    <translation>entfernt</translation>
+  </message>
   <message id="CLI_ICONS_LINE_TO_ADD">
     <source>to add by hand: [LINE]</source>
     <translation>von Hand zu ergänzen: [LINE]</translation>
@@ -2913,6 +2933,26 @@
   <message id="DETAIL_NO_ICON_PLACES">
     <source>[PROJECTS] without a place for icons; make its platforms first</source>
     <translation>[PROJECTS] ohne Platz für Icons; erst die Plattformen anlegen</translation>
+  </message>
+  <message id="DETAIL_NO_OPAQUE_COLOR">
+    <source>no opaque color; write #RRGGBB or a name such as navy</source>
+    <translation>keine deckende Farbe; #RRGGBB oder einen Namen wie navy schreiben</translation>
+  </message>
+  <message id="DETAIL_NO_COLOR_OR_FILE">
+    <source>neither an opaque color nor a file</source>
+    <translation>weder eine deckende Farbe noch eine Datei</translation>
+  </message>
+  <message id="DETAIL_NO_FILE_NAME">
+    <source>files get this name: no slash, no dot at its beginning</source>
+    <translation>Dateien heißen so: kein Schrägstrich, kein Punkt am Anfang</translation>
+  </message>
+  <message id="DETAIL_NO_FLAVOR">
+    <source>no flavor [NAME] in [PROJECTS]</source>
+    <translation>keine Variante [NAME] in [PROJECTS]</translation>
+  </message>
+  <message id="DETAIL_NO_TARGET">
+    <source>no target [NAME] in [PROJECTS]</source>
+    <translation>kein Ziel [NAME] in [PROJECTS]</translation>
   </message>
   <message id="DETAIL_DAMAGED">
     <source>damaged</source>

@@ -1960,6 +1960,26 @@
     <source>there is no SVG icon, since the icon is a picture of pixels</source>
     <translation>there is no SVG icon, since the icon is a picture of pixels</translation>
   </message>
+  <message id="CLI_ICONS_FIT_ADVICE">
+    <source>use a square picture of at least 512 x 512 pixels</source>
+    <translation>use a square picture of at least 512 x 512 pixels</translation>
+  </message>
+  <message id="ICONS_CHANGE_NEW">
+    <source>new</source>
+    <translation>new</translation>
+  </message>
+  <message id="ICONS_CHANGE_REPLACED">
+    <source>replaced</source>
+    <translation>replaced</translation>
+  </message>
+  <message id="ICONS_CHANGE_UNCHANGED">
+    <source>unchanged</source>
+    <translation>unchanged</translation>
+  </message>
+  <message id="ICONS_CHANGE_REMOVED">
+    <source>removed</source>
+    <translation>removed</translation>
+  </message>
   <message id="CLI_ICONS_LINE_TO_ADD">
     <source>to add by hand: [LINE]</source>
     <translation>to add by hand: [LINE]</translation>
@@ -2911,6 +2931,26 @@
   <message id="DETAIL_NO_ICON_PLACES">
     <source>[PROJECTS] without a place for icons; make its platforms first</source>
     <translation>[PROJECTS] without a place for icons; make its platforms first</translation>
+  </message>
+  <message id="DETAIL_NO_OPAQUE_COLOR">
+    <source>no opaque color; write #RRGGBB or a name such as navy</source>
+    <translation>no opaque color; write #RRGGBB or a name such as navy</translation>
+  </message>
+  <message id="DETAIL_NO_COLOR_OR_FILE">
+    <source>neither an opaque color nor a file</source>
+    <translation>neither an opaque color nor a file</translation>
+  </message>
+  <message id="DETAIL_NO_FILE_NAME">
+    <source>files get this name: no slash, no dot at its beginning</source>
+    <translation>files get this name: no slash, no dot at its beginning</translation>
+  </message>
+  <message id="DETAIL_NO_FLAVOR">
+    <source>no flavor [NAME] in [PROJECTS]</source>
+    <translation>no flavor [NAME] in [PROJECTS]</translation>
+  </message>
+  <message id="DETAIL_NO_TARGET">
+    <source>no target [NAME] in [PROJECTS]</source>
+    <translation>no target [NAME] in [PROJECTS]</translation>
   </message>
   <message id="DETAIL_DAMAGED">
     <source>damaged</source>

@@ -230,7 +230,10 @@ void IconCheckTest::faults_data()
                                                QVERIFY(QFile::remove(folder + u'/' + QLatin1StringView(iosSet) +
                                                                      u"AppIcon-Dark.png"_s));
                                            }}
-                                 << QStringList{u"appearance-missing"_s, u"slot-empty"_s};
+                                 << QStringList{u"slot-empty"_s};
+    QTest::newRow("no slots") << change([](QJsonObject &list) {
+        list[u"images"_s] = QJsonArray();
+    }) << QStringList{u"store-icon-missing"_s, u"unassigned-file"_s, u"unassigned-file"_s, u"unassigned-file"_s};
     QTest::newRow("no store icon") << Change{u"iOS"_s,
                                              [=](const QString &folder) {
                                                  changeImage(0, "filename", QJsonValue::Undefined).make(folder);

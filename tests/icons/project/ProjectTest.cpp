@@ -357,8 +357,17 @@ void ProjectTest::flavors()
 {
     const QTemporaryDir folder;
     QVERIFY(put(folder.path(), flutter));
+    const Put unknown = putInto(folder.path(), {u"beta"_s, {}});
+    QVERIFY(unknown.failure && unknown.failure->code == FailureCode::AmbiguousProject);
+    QVERIFY(unknown.failure->detail.words().contains(u"beta"));
+    QVERIFY(putFile(folder.filePath(u"android/app/build.gradle.kts"_s),
+                    "android { productFlavors { create(\"beta\") { dimension = \"stage\" } } }"));
+    // A project beside it without that flavor stays as it is.
+    QVERIFY(putFile(folder.filePath(u"desktop/package.json"_s), "{\"devDependencies\":{\"electron\":\"30\"}}"));
     const Put result = putInto(folder.path(), {u"beta"_s, {}});
     QVERIFY(!result.failure);
+    for (const QString &path : result.paths())
+        QVERIFY2(path.contains(u"/beta/") || path.contains(u"/AppIcon-beta.appiconset/"), qPrintable(path));
     QVERIFY(result.paths().contains(u"android/app/src/beta/res/mipmap-mdpi/ic_launcher.png"_s));
     QVERIFY(result.paths().contains(u"ios/Runner/Assets.xcassets/AppIcon-beta.appiconset/AppIcon.png"_s));
     QVERIFY(!result.paths().join(u' ').contains(u"src/main"));
@@ -375,6 +384,10 @@ void ProjectTest::targets()
     QVERIFY(without.failure->detail.words().contains(u"Beta (Other)"));
     const Put unknown = putInto(folder.path(), {{}, u"Gamma"_s});
     QVERIFY(unknown.failure && unknown.failure->code == FailureCode::AmbiguousProject);
+    const QTemporaryDir other;
+    QVERIFY(put(other.path(), electron));
+    const Put untargeted = putInto(other.path(), {{}, u"Beta"_s});
+    QVERIFY(untargeted.failure && untargeted.failure->code == FailureCode::AmbiguousProject);
     const Put beta = putInto(folder.path(), {{}, u"Beta"_s});
     QVERIFY(!beta.failure);
     QCOMPARE(beta.paths().filter(u"Icon.appiconset"_s), QStringList());
