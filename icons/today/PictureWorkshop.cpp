@@ -4,7 +4,6 @@
 #include "Motifs.h"
 #include "foundation/MemoryLimit.h"
 #include "pictures/png/PngEncoder.h"
-#include "pictures/png/PngRows.h"
 
 #include <algorithm>
 #include <atomic>
@@ -20,7 +19,8 @@ namespace lumora
 namespace
 {
 
-/// From this many pixels on a picture takes so long to encode that several threads share it.
+/// From this many pixels on a picture takes so long to encode that several threads share it, or that a twentieth of its
+/// bytes is not worth the time.
 constexpr qint64 largePicture = 1 << 20;
 
 /// Values that are made once each, by whichever thread asks first; the others wait.
@@ -95,9 +95,11 @@ public:
         if (picture.isNull())
             return outOfMemory({});
         const bool large = qint64{picture.width()} * picture.height() >= largePicture;
-        const int helpers = large ? std::max(static_cast<int>(std::thread::hardware_concurrency()) / 2, 1) : 1;
-        return recipe.form == PictureForm::Opaque ? encodeOpaquePng(picture, helpers, {})
-                                                  : encodePng(ImageRows(picture), helpers, {});
+        if (recipe.form == PictureForm::Opaque) {
+            const int helpers = large ? std::max(static_cast<int>(std::thread::hardware_concurrency()) / 2, 1) : 1;
+            return encodeOpaquePng(picture, helpers, {});
+        }
+        return large ? encodePngQuickly(picture, {}) : encodePng(picture, {});
     }
 
     const Motifs &motifs;

@@ -68,7 +68,7 @@ COMMANDS = [
         ["icons", "--example", "--platform", "favicon,web-touch", "--to", "{out}"],
         present=MINE | {"icons/earlier.png": b"an earlier run"},
     ),
-    Job("icons of today", ["icons", "{in}/logo.svg", "--platform", "web", "--to", "{out}"], sources={"logo.svg": LOGO},
+    Job("icons of today", ["icons", "{in}/logo.svg", "--platform", "watchos", "--to", "{out}"], sources={"logo.svg": LOGO},
         present=MINE, kinds=("once", "kill")),
     Job("icons into a project", ["icons", "{in}/logo.svg", "--into", "{out}"], sources={"logo.svg": LOGO},
         present=MINE | {"config.xml": CORDOVA, "res/icon.png": png(3, 3)}, replaces=True, reads_present=True),
