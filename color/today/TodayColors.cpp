@@ -41,7 +41,7 @@ TodayColors::TodayColors(const Services &services, QObject *parent)
 {
     m_rest.setSingleShot(true);
     m_rest.setInterval(restDuration);
-    connect(&m_rest, &QTimer::timeout, this, &TodayColors::keep);
+    connect(&m_rest, &QTimer::timeout, this, [this] { keep(m_resting); });
 }
 
 QWidget *TodayColors::makePane(QWidget *parent)
@@ -57,7 +57,7 @@ QWidget *TodayColors::makePane(QWidget *parent)
 void TodayColors::connectInput()
 {
     connect(m_pane->field(), &CodeField::colorTyped, this, &TodayColors::take);
-    connect(m_pane->field(), &CodeField::colorConfirmed, this, &TodayColors::keep);
+    connect(m_pane->field(), &CodeField::colorConfirmed, this, [this] { keep(m_color); });
     connect(m_pane->well(), &ColorWell::colorPicked, this, [this](const ColorWell *well) {
         take(wideColorFrom(well->color()));
         picked();
@@ -76,7 +76,7 @@ void TodayColors::connectPalette()
     PaletteView *view = m_pane->palette();
     connect(view, &PaletteView::chosen, this,
             [this](int index) { take(palette().at(static_cast<std::size_t>(index)).color); });
-    connect(view, &PaletteView::addWanted, this, &TodayColors::keep);
+    connect(view, &PaletteView::addWanted, this, [this] { keep(m_color); });
     connect(view, &PaletteView::removalWanted, this, [this](int index) {
         m_picked.remove(static_cast<std::size_t>(index));
         showPalette();
@@ -114,19 +114,20 @@ bool TodayColors::takeText(const QString &text)
     if (!reading)
         return false;
     take(reading.value().color);
-    keep();
+    keep(m_color);
     return true;
 }
 
 void TodayColors::picked()
 {
+    // A color that is typed meanwhile is not the one that was picked.
+    m_resting = m_color;
     m_rest.start();
 }
 
-void TodayColors::keep()
+void TodayColors::keep(const WideColor &color)
 {
-    m_rest.stop();
-    if (m_picked.add(m_color))
+    if (m_picked.add(color))
         showPalette();
 }
 

@@ -53,7 +53,7 @@ private:
     void connectInput();
     void connectPalette();
     void take(const WideColor &color);
-    void keep();
+    void keep(const WideColor &color);
     void showPalette();
     void openPalette(const QString &path);
     void savePaletteInto(const QString &folder);
@@ -62,6 +62,7 @@ private:
     FileReading *m_reading; ///< owned by this
     QPointer<TodayColorPane> m_pane;
     WideColor m_color;
+    WideColor m_resting; ///< picked last; not yet in the palette while the timer runs
     PickedPalette m_picked;
     QTimer m_rest;
     QString m_lastFolder;

@@ -5,6 +5,7 @@ interface; what is copied is read in another process."""
 import sys
 
 from desktop import WAIT, wait_for
+from walk_accessibility import nameless
 from window_system import Desktop
 
 FIELD = "Farbe in beliebiger Form"
@@ -60,6 +61,7 @@ def by_mouse(desktop, lumora, on_clipboard):
     on_clipboard("Color(red: 1, green: 0.4196, blue: 0.2784, opacity: 1)")
     lumora.button("Web").click()
     wait_for("the codes of the web to come first", lambda: copied_first(lumora) == "CSS hex kopieren")
+    assert not nameless(lumora), nameless(lumora)
     # A text that is no color stays as it is typed, and the color, too.
     field.click()
     desktop.key("ctrl+a")

@@ -206,6 +206,8 @@ private slots:
         pick(pane()->well(), {0, 1, 0, 1});
         QCOMPARE(code(), u"#00ff00ff"_s);
         QCOMPARE(palette(), QStringList());
+        // What is typed meanwhile does not take its place.
+        type(u"teal"_s);
         // Only the color at which the pointer rests counts.
         QTRY_COMPARE(palette(), QStringList{u"#00ff00ff"_s});
         m_controller->sides()->show(ToolSide::Classic);
