@@ -2,6 +2,8 @@
 #include "DeviceViewController.h"
 
 #include "DeviceViews.h"
+#include "devices/today/ModelList.h"
+#include "devices/today/TodayDevicePane.h"
 #include "tool/style/ButtonStyle.h"
 #include "tool/style/LabelStyle.h"
 #include "ui_DeviceViewController.h"
@@ -48,6 +50,12 @@ DeviceViewController::DeviceViewController(const Services &services, QObject *pa
     createiPodList();
     createiPadList();
     showCount();
+    addToday([this](QWidget *pane) {
+        m_today = new TodayDevicePane(builtInModels(), pane);
+        connect(m_today, &TodayDevicePane::copied, this,
+                [this](const QString &text) { this->services().clipboard.setText(text); });
+        return m_today;
+    });
     createPopup();
 }
 

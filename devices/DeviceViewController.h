@@ -23,6 +23,7 @@ namespace lumora
 class CheckboxButton;
 class IconButton;
 class RadioButton;
+class TodayDevicePane;
 
 /// The device matrix: every model as a picture with its label. Models without the chosen iOS version and features are
 /// faded.
@@ -55,6 +56,8 @@ public:
     IconButton *resetButton() const;
     /// "5 of 17 models fit".
     QLabel *countLabel() const;
+    /// The side of today; null until it is first seen.
+    TodayDevicePane *today() const { return m_today; }
     QLabel *miniLabel() const { return m_miniLabel; }
 
     void checkbox_ios4_checked(RadioButton *sender) { chooseVersion(4.0F, sender); }
@@ -104,7 +107,8 @@ private:
     DeviceGroup m_iPodViews;
     DeviceGroup m_iPadViews;
     FilterDictionary m_filterDictionary;
-    QLabel *m_miniLabel = nullptr; ///< owned by its container
+    QLabel *m_miniLabel = nullptr;      ///< owned by its container
+    TodayDevicePane *m_today = nullptr; ///< owned by the view
 };
 
 } // namespace lumora

@@ -28,12 +28,6 @@ constexpr std::array<ModelCapability, 6> capabilityTable{{
     {"iphone-performance-gaming-tier", [](const DeviceModel &model) { return model.gamingTier; }},
 }};
 
-QString featureKey(ModelFeature feature)
-{
-    const std::array keys = {u"dynamic-island"_s, u"lidar"_s, u"usb-c"_s, u"5g"_s};
-    return keys[static_cast<std::size_t>(feature)];
-}
-
 bool isChip(const QString &chip, const QString &wanted)
 {
     return chip.startsWith(wanted, Qt::CaseInsensitive) &&
@@ -90,6 +84,12 @@ const ModelCapability *modelCapability(QStringView key)
     const auto *found =
         std::ranges::find_if(capabilityTable, [key](const ModelCapability &one) { return key == text(one.key); });
     return found == capabilityTable.end() ? nullptr : found;
+}
+
+QString featureKey(ModelFeature feature)
+{
+    const std::array keys = {u"dynamic-island"_s, u"lidar"_s, u"usb-c"_s, u"5g"_s};
+    return keys[static_cast<std::size_t>(feature)];
 }
 
 Having havingOf(const DeviceModel &model, ModelFeature feature)

@@ -26,6 +26,8 @@ const ModelCapability *modelCapability(QStringView key);
 
 /// Features that are not known for every model.
 enum class ModelFeature { DynamicIsland, Lidar, UsbC, Cellular5G };
+/// Its word on the command line, "dynamic-island", which is also a reason's detail.
+QString featureKey(ModelFeature feature);
 Having havingOf(const DeviceModel &model, ModelFeature feature);
 
 /// The requirements on a model. An empty filter requires nothing; any member of a set satisfies the set.

@@ -1211,6 +1211,218 @@
     <source>iPad mini</source>
     <translation>iPad mini</translation>
   </message>
+  <message id="DEVICES_SEARCH">
+    <source>Name or identifier</source>
+    <translation>Name oder Kennung</translation>
+  </message>
+  <message id="DEVICES_IOS_FROM">
+    <source>Oldest iOS version</source>
+    <translation>Älteste iOS-Version</translation>
+  </message>
+  <message id="DEVICES_IOS_TO">
+    <source>Newest iOS version</source>
+    <translation>Neueste iOS-Version</translation>
+  </message>
+  <message id="DEVICES_IOS_RANGE">
+    <source>iOS [FROM] to [TO]</source>
+    <translation>iOS [FROM] bis [TO]</translation>
+  </message>
+  <message id="DEVICES_SHARE">
+    <source>[PERCENT] % of all identifiers ([COUNT] of [ALL])</source>
+    <translation>[PERCENT] % aller Kennungen ([COUNT] von [ALL])</translation>
+  </message>
+  <message id="DEVICES_FAMILY">
+    <source>Family</source>
+    <translation>Familie</translation>
+  </message>
+  <message id="DEVICES_HARDWARE">
+    <source>Hardware</source>
+    <translation>Hardware</translation>
+  </message>
+  <message id="DEVICES_ANY_CHIP">
+    <source>Any chip</source>
+    <translation>Beliebiger Chip</translation>
+  </message>
+  <message id="DEVICES_ANY_SCREEN">
+    <source>Any screen</source>
+    <translation>Beliebiger Bildschirm</translation>
+  </message>
+  <message id="DEVICES_ANY_BIOMETRY">
+    <source>Any biometry</source>
+    <translation>Beliebige Biometrie</translation>
+  </message>
+  <message id="DEVICES_CLASS">
+    <source>[FAMILY], [CLASS] inches</source>
+    <translation>[FAMILY], [CLASS] Zoll</translation>
+  </message>
+  <message id="DEVICES_MODELS">
+    <source>Models</source>
+    <translation>Modelle</translation>
+  </message>
+  <message id="DEVICES_FITS">
+    <source>meets the choice</source>
+    <translation>entspricht der Auswahl</translation>
+  </message>
+  <message id="DEVICES_COMPARED">
+    <source>in the comparison</source>
+    <translation>im Vergleich</translation>
+  </message>
+  <message id="DEVICES_TILE_TIP">
+    <source>Click for its facts; the mark, or Insert, adds it to a comparison</source>
+    <translation>Klicken zeigt die Daten; die Marke oder Einfg nimmt es in den Vergleich</translation>
+  </message>
+  <message id="DEVICES_COMPARE">
+    <source>Compare ([COUNT])</source>
+    <translation>Vergleichen ([COUNT])</translation>
+  </message>
+  <message id="DEVICES_COMPARE_TIP">
+    <source>Two or three marked models side by side</source>
+    <translation>Zwei oder drei markierte Modelle nebeneinander</translation>
+  </message>
+  <message id="DEVICES_BACK">
+    <source>All models</source>
+    <translation>Alle Modelle</translation>
+  </message>
+  <message id="DEVICES_BACK_TIP">
+    <source>Back to all models</source>
+    <translation>Zurück zu allen Modellen</translation>
+  </message>
+  <message id="DEVICES_MARK">
+    <source>Add to comparison</source>
+    <translation>In den Vergleich</translation>
+  </message>
+  <message id="DEVICES_UNMARK">
+    <source>Take out of comparison</source>
+    <translation>Aus dem Vergleich</translation>
+  </message>
+  <message id="DEVICES_CLICK_COPIES">
+    <source>Click to copy</source>
+    <translation>Klicken kopiert</translation>
+  </message>
+  <message id="DEVICES_ENDS">
+    <source>ends at iOS [DETAIL]</source>
+    <translation>endet bei iOS [DETAIL]</translation>
+  </message>
+  <message id="DEVICES_BEGINS">
+    <source>begins with iOS [DETAIL]</source>
+    <translation>beginnt mit iOS [DETAIL]</translation>
+  </message>
+  <message id="DEVICES_OTHER_FAMILY">
+    <source>is an [DETAIL]</source>
+    <translation>ist ein [DETAIL]</translation>
+  </message>
+  <message id="DEVICES_OTHER_CHIP">
+    <source>has the chip [DETAIL]</source>
+    <translation>hat den Chip [DETAIL]</translation>
+  </message>
+  <message id="DEVICES_MISSES">
+    <source>lacks [DETAIL]</source>
+    <translation>ohne [DETAIL]</translation>
+  </message>
+  <message id="DEVICES_OTHER_SCREEN">
+    <source>has a screen of class [DETAIL]</source>
+    <translation>hat die Bildschirmklasse [DETAIL]</translation>
+  </message>
+  <message id="DEVICES_UNKNOWN_SCREEN">
+    <source>its screen is not known</source>
+    <translation>Bildschirm nicht bekannt</translation>
+  </message>
+  <message id="DEVICES_OTHER_BIOMETRY">
+    <source>biometry: [DETAIL]</source>
+    <translation>Biometrie: [DETAIL]</translation>
+  </message>
+  <message id="DEVICES_UNKNOWN_FEATURE">
+    <source>nobody knows of its [DETAIL]</source>
+    <translation>[DETAIL]: nicht bekannt</translation>
+  </message>
+  <message id="DEVICES_NOT_SEARCHED">
+    <source>is not what is searched for</source>
+    <translation>passt nicht zur Suche</translation>
+  </message>
+  <message id="DEVICES_NO_BIOMETRY">
+    <source>none</source>
+    <translation>keine</translation>
+  </message>
+  <message id="DEVICES_UNKNOWN_BIOMETRY">
+    <source>not known</source>
+    <translation>nicht bekannt</translation>
+  </message>
+  <message id="DEVICES_YES">
+    <source>yes</source>
+    <translation>ja</translation>
+  </message>
+  <message id="DEVICES_NO">
+    <source>no</source>
+    <translation>nein</translation>
+  </message>
+  <message id="DEVICES_FACT_IDENTIFIERS">
+    <source>Identifiers</source>
+    <translation>Kennungen</translation>
+  </message>
+  <message id="DEVICES_FACT_RELEASED">
+    <source>Released</source>
+    <translation>Erschienen</translation>
+  </message>
+  <message id="DEVICES_FACT_CHIP">
+    <source>Chip</source>
+    <translation>Chip</translation>
+  </message>
+  <message id="DEVICES_FACT_ARCHITECTURE">
+    <source>Architecture</source>
+    <translation>Architektur</translation>
+  </message>
+  <message id="DEVICES_FACT_MINIMUM">
+    <source>Minimum iOS</source>
+    <translation>Ältestes iOS</translation>
+  </message>
+  <message id="DEVICES_FACT_NEWEST">
+    <source>Newest iOS</source>
+    <translation>Neuestes iOS</translation>
+  </message>
+  <message id="DEVICES_FACT_SCREEN">
+    <source>Screen, pixels</source>
+    <translation>Bildschirm, Pixel</translation>
+  </message>
+  <message id="DEVICES_FACT_RENDER">
+    <source>Drawn pixels</source>
+    <translation>Gezeichnete Pixel</translation>
+  </message>
+  <message id="DEVICES_FACT_POINTS">
+    <source>Screen, points</source>
+    <translation>Bildschirm, Punkte</translation>
+  </message>
+  <message id="DEVICES_FACT_SCALE">
+    <source>Scale</source>
+    <translation>Skalierung</translation>
+  </message>
+  <message id="DEVICES_FACT_DIAGONAL">
+    <source>Diagonal, inches</source>
+    <translation>Diagonale, Zoll</translation>
+  </message>
+  <message id="DEVICES_FACT_DENSITY">
+    <source>Pixels per inch</source>
+    <translation>Pixel je Zoll</translation>
+  </message>
+  <message id="DEVICES_FACT_CLASS">
+    <source>Screen class</source>
+    <translation>Bildschirmklasse</translation>
+  </message>
+  <message id="DEVICES_FACT_BIOMETRY">
+    <source>Biometry</source>
+    <translation>Biometrie</translation>
+  </message>
+  <message id="DEVICES_FACT_CAPABILITIES">
+    <source>Capabilities</source>
+    <translation>Fähigkeiten</translation>
+  </message>
+  <message id="DEVICES_FACT_LAUNCH">
+    <source>Launch sizes</source>
+    <translation>Startbildgrößen</translation>
+  </message>
+  <message id="DEVICES_FACT_SCREENSHOTS">
+    <source>Screenshot sizes</source>
+    <translation>Screenshot-Größen</translation>
+  </message>
 
   <!-- App package check: intake -->
   <message id="VALIDATER_BROWSE_INFO">

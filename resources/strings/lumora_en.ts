@@ -1209,6 +1209,218 @@
     <source>iPad mini</source>
     <translation>iPad mini</translation>
   </message>
+  <message id="DEVICES_SEARCH">
+    <source>Name or identifier</source>
+    <translation>Name or identifier</translation>
+  </message>
+  <message id="DEVICES_IOS_FROM">
+    <source>Oldest iOS version</source>
+    <translation>Oldest iOS version</translation>
+  </message>
+  <message id="DEVICES_IOS_TO">
+    <source>Newest iOS version</source>
+    <translation>Newest iOS version</translation>
+  </message>
+  <message id="DEVICES_IOS_RANGE">
+    <source>iOS [FROM] to [TO]</source>
+    <translation>iOS [FROM] to [TO]</translation>
+  </message>
+  <message id="DEVICES_SHARE">
+    <source>[PERCENT] % of all identifiers ([COUNT] of [ALL])</source>
+    <translation>[PERCENT] % of all identifiers ([COUNT] of [ALL])</translation>
+  </message>
+  <message id="DEVICES_FAMILY">
+    <source>Family</source>
+    <translation>Family</translation>
+  </message>
+  <message id="DEVICES_HARDWARE">
+    <source>Hardware</source>
+    <translation>Hardware</translation>
+  </message>
+  <message id="DEVICES_ANY_CHIP">
+    <source>Any chip</source>
+    <translation>Any chip</translation>
+  </message>
+  <message id="DEVICES_ANY_SCREEN">
+    <source>Any screen</source>
+    <translation>Any screen</translation>
+  </message>
+  <message id="DEVICES_ANY_BIOMETRY">
+    <source>Any biometry</source>
+    <translation>Any biometry</translation>
+  </message>
+  <message id="DEVICES_CLASS">
+    <source>[FAMILY], [CLASS] inches</source>
+    <translation>[FAMILY], [CLASS] inches</translation>
+  </message>
+  <message id="DEVICES_MODELS">
+    <source>Models</source>
+    <translation>Models</translation>
+  </message>
+  <message id="DEVICES_FITS">
+    <source>meets the choice</source>
+    <translation>meets the choice</translation>
+  </message>
+  <message id="DEVICES_COMPARED">
+    <source>in the comparison</source>
+    <translation>in the comparison</translation>
+  </message>
+  <message id="DEVICES_TILE_TIP">
+    <source>Click for its facts; the mark, or Insert, adds it to a comparison</source>
+    <translation>Click for its facts; the mark, or Insert, adds it to a comparison</translation>
+  </message>
+  <message id="DEVICES_COMPARE">
+    <source>Compare ([COUNT])</source>
+    <translation>Compare ([COUNT])</translation>
+  </message>
+  <message id="DEVICES_COMPARE_TIP">
+    <source>Two or three marked models side by side</source>
+    <translation>Two or three marked models side by side</translation>
+  </message>
+  <message id="DEVICES_BACK">
+    <source>All models</source>
+    <translation>All models</translation>
+  </message>
+  <message id="DEVICES_BACK_TIP">
+    <source>Back to all models</source>
+    <translation>Back to all models</translation>
+  </message>
+  <message id="DEVICES_MARK">
+    <source>Add to comparison</source>
+    <translation>Add to comparison</translation>
+  </message>
+  <message id="DEVICES_UNMARK">
+    <source>Take out of comparison</source>
+    <translation>Take out of comparison</translation>
+  </message>
+  <message id="DEVICES_CLICK_COPIES">
+    <source>Click to copy</source>
+    <translation>Click to copy</translation>
+  </message>
+  <message id="DEVICES_ENDS">
+    <source>ends at iOS [DETAIL]</source>
+    <translation>ends at iOS [DETAIL]</translation>
+  </message>
+  <message id="DEVICES_BEGINS">
+    <source>begins with iOS [DETAIL]</source>
+    <translation>begins with iOS [DETAIL]</translation>
+  </message>
+  <message id="DEVICES_OTHER_FAMILY">
+    <source>is an [DETAIL]</source>
+    <translation>is an [DETAIL]</translation>
+  </message>
+  <message id="DEVICES_OTHER_CHIP">
+    <source>has the chip [DETAIL]</source>
+    <translation>has the chip [DETAIL]</translation>
+  </message>
+  <message id="DEVICES_MISSES">
+    <source>lacks [DETAIL]</source>
+    <translation>lacks [DETAIL]</translation>
+  </message>
+  <message id="DEVICES_OTHER_SCREEN">
+    <source>has a screen of class [DETAIL]</source>
+    <translation>has a screen of class [DETAIL]</translation>
+  </message>
+  <message id="DEVICES_UNKNOWN_SCREEN">
+    <source>its screen is not known</source>
+    <translation>its screen is not known</translation>
+  </message>
+  <message id="DEVICES_OTHER_BIOMETRY">
+    <source>biometry: [DETAIL]</source>
+    <translation>biometry: [DETAIL]</translation>
+  </message>
+  <message id="DEVICES_UNKNOWN_FEATURE">
+    <source>nobody knows of its [DETAIL]</source>
+    <translation>nobody knows of its [DETAIL]</translation>
+  </message>
+  <message id="DEVICES_NOT_SEARCHED">
+    <source>is not what is searched for</source>
+    <translation>is not what is searched for</translation>
+  </message>
+  <message id="DEVICES_NO_BIOMETRY">
+    <source>none</source>
+    <translation>none</translation>
+  </message>
+  <message id="DEVICES_UNKNOWN_BIOMETRY">
+    <source>not known</source>
+    <translation>not known</translation>
+  </message>
+  <message id="DEVICES_YES">
+    <source>yes</source>
+    <translation>yes</translation>
+  </message>
+  <message id="DEVICES_NO">
+    <source>no</source>
+    <translation>no</translation>
+  </message>
+  <message id="DEVICES_FACT_IDENTIFIERS">
+    <source>Identifiers</source>
+    <translation>Identifiers</translation>
+  </message>
+  <message id="DEVICES_FACT_RELEASED">
+    <source>Released</source>
+    <translation>Released</translation>
+  </message>
+  <message id="DEVICES_FACT_CHIP">
+    <source>Chip</source>
+    <translation>Chip</translation>
+  </message>
+  <message id="DEVICES_FACT_ARCHITECTURE">
+    <source>Architecture</source>
+    <translation>Architecture</translation>
+  </message>
+  <message id="DEVICES_FACT_MINIMUM">
+    <source>Minimum iOS</source>
+    <translation>Minimum iOS</translation>
+  </message>
+  <message id="DEVICES_FACT_NEWEST">
+    <source>Newest iOS</source>
+    <translation>Newest iOS</translation>
+  </message>
+  <message id="DEVICES_FACT_SCREEN">
+    <source>Screen, pixels</source>
+    <translation>Screen, pixels</translation>
+  </message>
+  <message id="DEVICES_FACT_RENDER">
+    <source>Drawn pixels</source>
+    <translation>Drawn pixels</translation>
+  </message>
+  <message id="DEVICES_FACT_POINTS">
+    <source>Screen, points</source>
+    <translation>Screen, points</translation>
+  </message>
+  <message id="DEVICES_FACT_SCALE">
+    <source>Scale</source>
+    <translation>Scale</translation>
+  </message>
+  <message id="DEVICES_FACT_DIAGONAL">
+    <source>Diagonal, inches</source>
+    <translation>Diagonal, inches</translation>
+  </message>
+  <message id="DEVICES_FACT_DENSITY">
+    <source>Pixels per inch</source>
+    <translation>Pixels per inch</translation>
+  </message>
+  <message id="DEVICES_FACT_CLASS">
+    <source>Screen class</source>
+    <translation>Screen class</translation>
+  </message>
+  <message id="DEVICES_FACT_BIOMETRY">
+    <source>Biometry</source>
+    <translation>Biometry</translation>
+  </message>
+  <message id="DEVICES_FACT_CAPABILITIES">
+    <source>Capabilities</source>
+    <translation>Capabilities</translation>
+  </message>
+  <message id="DEVICES_FACT_LAUNCH">
+    <source>Launch sizes</source>
+    <translation>Launch sizes</translation>
+  </message>
+  <message id="DEVICES_FACT_SCREENSHOTS">
+    <source>Screenshot sizes</source>
+    <translation>Screenshot sizes</translation>
+  </message>
 
   <!-- App package check: intake -->
   <message id="VALIDATER_BROWSE_INFO">

@@ -1,0 +1,214 @@
+// SPDX-License-Identifier: MIT
+#include "ModelFilterView.h"
+
+#include "ModelChoices.h"
+#include "ModelTexts.h"
+#include "ScreenClass.h"
+#include "VersionRange.h"
+#include "tool/style/ButtonStyle.h"
+#include "tool/style/DropDownStyle.h"
+#include "tool/style/LabelStyle.h"
+#include "widgets/buttons/CheckboxButton.h"
+#include "widgets/buttons/IconButton.h"
+#include "widgets/style/Fonts.h"
+#include "widgets/style/Palette.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QScrollArea>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace lumora
+{
+
+namespace
+{
+
+constexpr int headingSize = 15;
+constexpr int fieldHeight = 36;
+/// The list of requirements is wider than the rest, so that its scroll bar is beside it.
+constexpr int sideMargin = 16;
+
+QString keyText(std::string_view key)
+{
+    return QString::fromUtf8(key.data(), static_cast<qsizetype>(key.size()));
+}
+
+} // namespace
+
+ModelFilterView::ModelFilterView(std::span<const DeviceModel> models, QWidget *parent)
+    : QWidget(parent), m_search(new QLineEdit(this)), m_range(new VersionRange(models)),
+      m_chips(makeChoice(qtTrId("DEVICES_FACT_CHIP"), qtTrId("DEVICES_ANY_CHIP"))),
+      m_screens(makeChoice(qtTrId("DEVICES_FACT_CLASS"), qtTrId("DEVICES_ANY_SCREEN"))),
+      m_biometries(makeChoice(qtTrId("DEVICES_FACT_BIOMETRY"), qtTrId("DEVICES_ANY_BIOMETRY"))),
+      m_reset(new IconButton(this))
+{
+    setUpSearch();
+    setUpChoices(models);
+    styleButton(m_reset, qtTrId("RESET"), u"button_icon_reset"_s, palette::devices, palette::devicesBorder);
+    m_reset->setFixedHeight(fieldHeight);
+    connect(m_reset, &IconButton::clicked, this, &ModelFilterView::reset);
+    connect(m_range, &VersionRange::changed, this, &ModelFilterView::changed);
+
+    auto *area = new QScrollArea;
+    area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area->setWidgetResizable(true);
+    area->setWidget(makeRequirements());
+    area->viewport()->setAutoFillBackground(false);
+    area->widget()->setAutoFillBackground(false);
+    const auto inset = [](QWidget *widget) {
+        auto *row = new QHBoxLayout;
+        row->setContentsMargins(sideMargin, 0, sideMargin, 0);
+        row->addWidget(widget);
+        return row;
+    };
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins({});
+    column->setSpacing(12);
+    column->addLayout(inset(m_search));
+    column->addWidget(area, 1);
+    column->addLayout(inset(m_reset));
+}
+
+void ModelFilterView::setUpSearch()
+{
+    m_search->setPlaceholderText(qtTrId("DEVICES_SEARCH"));
+    m_search->setAccessibleName(qtTrId("DEVICES_SEARCH"));
+    m_search->setClearButtonEnabled(true);
+    m_search->setFixedHeight(fieldHeight);
+    m_search->setFont(latoRegular(headingSize));
+    m_search->setStyleSheet(uR"(
+        QLineEdit { background: %1; color: %2; border: 1px solid %3; border-radius: 6px; padding: 0 7px; }
+        QLineEdit:focus { border: 2px solid %4; padding: 0 6px; }
+    )"_s.arg(palette::textFieldBackground.name(), palette::chromeText.name(), palette::panelOutline.name(),
+             palette::devices.name()));
+    connect(m_search, &QLineEdit::textChanged, this, &ModelFilterView::changed);
+}
+
+QComboBox *ModelFilterView::makeChoice(const QString &name, const QString &any)
+{
+    auto *choice = new QComboBox(this);
+    choice->addItem(any);
+    choice->setAccessibleName(name);
+    choice->setToolTip(name);
+    choice->setFixedHeight(fieldHeight);
+    choice->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    frameDropDown(choice);
+    styleDropDown(choice);
+    connect(choice, &QComboBox::currentIndexChanged, this, &ModelFilterView::changed);
+    return choice;
+}
+
+void ModelFilterView::setUpChoices(std::span<const DeviceModel> models)
+{
+    for (const QString &chip : chipNames(models))
+        m_chips->addItem(chip, chip);
+    for (const ScreenClass &screen : screenClasses()) {
+        const QString name = qtTrId("DEVICES_CLASS")
+                                 .replace("[FAMILY]"_L1, keyText(familyName(screen.family)))
+                                 .replace("[CLASS]"_L1, keyText(screen.key));
+        m_screens->addItem(name, keyText(screen.key));
+    }
+    for (const Biometry biometry : {Biometry::None, Biometry::TouchId, Biometry::FaceId})
+        m_biometries->addItem(biometryWords(biometry), static_cast<int>(biometry));
+}
+
+CheckboxButton *ModelFilterView::makeBox(const QString &text)
+{
+    auto *box = new CheckboxButton(this);
+    box->setText(text);
+    box->setToolTip(text);
+    connect(box, &CheckboxButton::clicked, this, [this, box] {
+        box->setActive(!box->isActive());
+        emit changed();
+    });
+    return box;
+}
+
+void ModelFilterView::addHeading(QVBoxLayout *column, const QString &text)
+{
+    auto *heading = new QLabel(text);
+    styleLabel(heading, latoBold(headingSize), palette::devices);
+    column->addSpacing(8);
+    column->addWidget(heading);
+}
+
+QWidget *ModelFilterView::makeRequirements()
+{
+    auto *content = new QWidget;
+    auto *column = new QVBoxLayout(content);
+    column->setContentsMargins(sideMargin, 0, sideMargin, 0);
+    column->setSpacing(8);
+    column->addWidget(m_range);
+    addHeading(column, qtTrId("DEVICES_FAMILY"));
+    for (const DeviceFamily family : {DeviceFamily::IPhone, DeviceFamily::IPad, DeviceFamily::IPod}) {
+        m_families.emplace_back(family, makeBox(keyText(familyName(family))));
+        column->addWidget(m_families.back().second);
+    }
+    addHeading(column, qtTrId("DEVICES_HARDWARE"));
+    for (QComboBox *choice : {m_chips, m_screens, m_biometries})
+        column->addWidget(choice);
+    for (const ModelFeature feature :
+         {ModelFeature::DynamicIsland, ModelFeature::Lidar, ModelFeature::UsbC, ModelFeature::Cellular5G}) {
+        m_features.emplace_back(feature, makeBox(featureWords(feature)));
+        column->addWidget(m_features.back().second);
+    }
+    addHeading(column, qtTrId("DEVICES_FACT_CAPABILITIES"));
+    for (const ModelCapability &capability : modelCapabilities()) {
+        m_capabilities.emplace_back(&capability, makeBox(keyText(capability.key)));
+        column->addWidget(m_capabilities.back().second);
+    }
+    column->addStretch(1);
+    return content;
+}
+
+ModelFilter ModelFilterView::filter() const
+{
+    ModelFilter filter;
+    m_range->apply(filter);
+    filter.search = m_search->text();
+    for (const auto &[family, box] : m_families) {
+        if (box->isActive())
+            filter.families.insert(family);
+    }
+    for (const auto &[feature, box] : m_features) {
+        if (box->isActive())
+            filter.features.insert(feature);
+    }
+    for (const auto &[capability, box] : m_capabilities) {
+        if (box->isActive())
+            filter.capabilities.push_back(capability);
+    }
+    if (m_chips->currentIndex() > 0)
+        filter.chips << m_chips->currentData().toString();
+    if (m_screens->currentIndex() > 0)
+        filter.screenClasses << m_screens->currentData().toString();
+    if (m_biometries->currentIndex() > 0)
+        filter.biometries.insert(static_cast<Biometry>(m_biometries->currentData().toInt()));
+    return filter;
+}
+
+void ModelFilterView::reset()
+{
+    const bool before = blockSignals(true);
+    m_search->clear();
+    m_range->reset();
+    for (QComboBox *choice : {m_chips, m_screens, m_biometries})
+        choice->setCurrentIndex(0);
+    const auto untick = [](const auto &boxes) {
+        for (const auto &[value, box] : boxes)
+            box->setActive(false);
+    };
+    untick(m_families);
+    untick(m_features);
+    untick(m_capabilities);
+    blockSignals(before);
+    emit changed();
+}
+
+} // namespace lumora

@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "ModelFilter.h"
+
+#include <QWidget>
+
+#include <span>
+#include <vector>
+
+class QLabel;
+class QSlider;
+
+namespace lumora
+{
+
+/// Two sliders over all versions of iOS, the oldest and the newest that an app runs on, and the share of models that
+/// remain.
+class VersionRange final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit VersionRange(std::span<const DeviceModel> models, QWidget *parent = nullptr);
+
+    QSlider *from() const { return m_from; }
+    QSlider *to() const { return m_to; }
+    QLabel *shareLabel() const { return m_share; }
+    /// Sets the range of the filter; both ends of all versions mean no requirement.
+    void apply(ModelFilter &filter) const;
+    void reset();
+
+signals:
+    void changed();
+
+private:
+    QSlider *makeSlider(const QString &name, int value);
+    void showRange();
+
+    std::span<const DeviceModel> m_models;
+    std::vector<OsVersion> m_versions;
+    QLabel *m_title;
+    QLabel *m_share;
+    QSlider *m_from;
+    QSlider *m_to;
+};
+
+} // namespace lumora
