@@ -65,6 +65,17 @@ class EnsurePackages(unittest.TestCase):
         self.assertEqual(result.returncode, 0, result.stderr)
         self.assertEqual(result.stdout, f"program: {' '.join(arguments)}\n")
 
+    def test_making_packages_installs_what_that_takes_besides_a_build(self):
+        (self.root / "packaging/deb").mkdir()
+        shutil.copy(SOURCE / "packaging/deb/make-packages", self.root / "packaging/deb/make-packages")
+        self.be_debian(0, packages(), apt="exit 1")
+        environment = {"PATH": str(self.commands), "FAKE_CALLS": str(self.calls)}
+        result = subprocess.run([self.root / "packaging/deb/make-packages", self.place / "made"], env=environment, capture_output=True,
+                                text=True, timeout=60)
+        self.assertNotEqual(result.returncode, 0)
+        self.assertIn("installing 2 packages", result.stderr)
+        self.assertTrue(self.called("apt-get")[0].endswith(" debhelper dpkg-dev"), self.calls.read_text())
+
     def test_another_system_is_told_every_package_and_tried(self):
         result = self.run_lumora("icons", "--help")
         self.assertIn("not a Debian system", result.stderr)
@@ -116,7 +127,7 @@ class EnsurePackages(unittest.TestCase):
         result = self.run_lumora("--version")
         expected = f"installing 2 packages with apt-get, which takes about a minute: {' '.join(packages()[:2])}\n"
         self.assertIn(expected, result.stderr)
-        self.assertIn("the first time takes about three minutes on two cores\n", result.stderr)
+        self.assertIn("the first time takes about four minutes on two cores\n", result.stderr)
 
     def test_without_a_terminal_each_tenth_of_the_build_is_a_line(self):
         self.be_debian(0, packages())

@@ -155,26 +155,46 @@ def many(out):
             archive.writestr(zipfile.ZipInfo(f"{number % 100}/{number}"), b"")
 
 
+def crc_of_zeros(size):
+    crc = 0
+    zeros = bytes(1 << 24)
+    while size:
+        crc = zlib.crc32(zeros[: min(size, len(zeros))], crc)
+        size -= min(size, len(zeros))
+    return crc
+
+
 def huge(out):
     """Over 4 GB unpacked in a few megabytes, with a second entry after it."""
-    with zipfile.ZipFile(out / "over 4 GB.zip", "w", zipfile.ZIP_DEFLATED, compresslevel=1) as archive:
-        zeros = bytes(1 << 20)
-        with archive.open("zeros", "w", force_zip64=True) as entry:
-            for _ in range(4097):
-                entry.write(zeros)
-            entry.write(b"end")
-        archive.writestr("behind", b"behind the large one")
+    compressor = zlib.compressobj(9, zlib.DEFLATED, -15)
+    # After a full flush the same bytes are packed in the same way, so one block is packed for all.
+    block = compressor.compress(bytes(1 << 20)) + compressor.flush(zlib.Z_FULL_FLUSH)
+    packed_size = 4097 * len(block)
+    end = compressor.compress(b"end") + compressor.flush()
+    packed_size += len(end)
+    size = (4097 << 20) + 3
+    crc = zlib.crc32(b"end", crc_of_zeros(4097 << 20))
+    wide = struct.pack("<HHQQ", 1, 16, size, packed_size)
+    local = b"PK\3\4" + struct.pack("<HHHHHIIIHH", 45, 0, DEFLATED, 0, 0x21, crc, 0xFFFFFFFF, 0xFFFFFFFF, 5, 20) + b"zeros" + wide
+    data = b"behind the large one"
+    second = b"PK\3\4" + struct.pack("<HHHHHIIIHH", 20, 0, 0, 0, 0x21, zlib.crc32(data), len(data), len(data), 6, 0) + b"behind"
+    second_at = len(local) + packed_size
+    directory = (b"PK\1\2" + struct.pack("<HHHHHHIIIHHHHHII", 45, 45, 0, DEFLATED, 0, 0x21, crc, 0xFFFFFFFF, 0xFFFFFFFF,
+                                         5, 20, 0, 0, 0, 0, 0) + b"zeros" + wide
+                 + b"PK\1\2" + struct.pack("<HHHHHHIIIHHHHHII", 20, 20, 0, 0, 0, 0x21, zlib.crc32(data), len(data), len(data),
+                                           6, 0, 0, 0, 0, 0, second_at) + b"behind")
+    at = second_at + len(second) + len(data)
+    with (out / "over 4 GB.zip").open("wb") as archive:
+        archive.write(local)
+        for _ in range(4097):
+            archive.write(block)
+        archive.write(end + second + data + directory + struct.pack("<4sHHHHIIH", b"PK\5\6", 0, 0, 2, 2, len(directory), at, 0))
 
 
 def sparse(out):
     """An archive file of over 4 GB that is a hole except for its headers: a stored entry of zeros, then one beyond 4 GB."""
     size = (4 << 30) + 4096
-    crc = 0
-    zeros = bytes(1 << 24)
-    left = size
-    while left:
-        crc = zlib.crc32(zeros[: min(left, len(zeros))], crc)
-        left -= min(left, len(zeros))
+    crc = crc_of_zeros(size)
     wide = struct.pack("<HHQQ", 1, 16, size, size)
     local = b"PK\3\4" + struct.pack("<HHHHHIIIHH", 45, 0, 0, 0, 0x21, crc, 0xFFFFFFFF, 0xFFFFFFFF, 5, 20) + b"zeros"
     second_at = len(local) + 20 + size
