@@ -6,6 +6,8 @@
 #   One Qt Test program, run by CTest without a screen.
 # lumora_time_limit(SECONDS TESTS...)
 #   How long the tests may take on a machine that is busy. To be called last, after everything else was said of them.
+# lumora_long_tests(TESTS...)
+#   These tests take long: they start before all others, so that none of them is alone at the end.
 # lumora_check_layers() is called at the end of app/ and fails the configuration where a link crosses a border: an engine that
 #   reaches Qt Widgets, a tool that reaches another tool, a library below the tools that reaches one.
 
@@ -104,6 +106,10 @@ function(lumora_time_limit seconds)
   # The test library's own limit is for each function, in milliseconds.
   set_property(TEST ${ARGN} APPEND PROPERTY ENVIRONMENT
     LUMORA_TIME_FACTOR=${lumora_time_factor} QTEST_FUNCTION_TIMEOUT=${limit}000)
+endfunction()
+
+function(lumora_long_tests)
+  set_tests_properties(${ARGN} PROPERTIES COST 100)
 endfunction()
 
 # Fails the configuration if a library depends, directly or indirectly, on a library that its kind must not know. Dependencies
