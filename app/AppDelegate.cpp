@@ -40,7 +40,6 @@ constexpr int sidebarFrameX = -11;
 constexpr qreal trafficLightsTopMargin = 5;
 /// The left one of the two header buttons.
 constexpr qreal fullScreenButtonRightMargin = 130;
-constexpr int popupAnchorBelowTitleBar = 20;
 
 QString text(const char *key)
 {
@@ -48,12 +47,6 @@ QString text(const char *key)
 }
 
 } // namespace
-
-QPointF headerPopupAnchor(const QRectF &buttonFrame, qreal windowHeight, qreal titleBarHeight)
-{
-    return {buttonFrame.x() + buttonFrame.width() / 2,
-            (buttonFrame.y() + buttonFrame.height() / 2) + (windowHeight - titleBarHeight - popupAnchorBelowTitleBar)};
-}
 
 AppDelegate::AppDelegate(const Services &services, QObject *parent) : QObject(parent), m_services(services) {}
 

@@ -6,8 +6,6 @@
 #include "widgets/window/INAppStoreWindowDelegateProxy.h"
 
 #include <QObject>
-#include <QPointF>
-#include <QRectF>
 
 #include <memory>
 #include <vector>
@@ -31,10 +29,6 @@ class PopupContentView;
 class SFBPopover;
 class ToolViewController;
 enum class ToolSide;
-
-/// The point at which a header button's popup points, from the window's lower left corner, y upwards. The button's
-/// frame is in the title bar's coordinates, also y upwards.
-QPointF headerPopupAnchor(const QRectF &buttonFrame, qreal windowHeight, qreal titleBarHeight);
 
 /// The application: one window with header and sidebar, the tools' controllers, and the help and about popups. The
 /// current tool is the sidebar's selection. The parts that the first frame does not show (the other tools, both popups)

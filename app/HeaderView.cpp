@@ -38,6 +38,12 @@ ImageButton *headerButton(const QString &image, const QString &name, HeaderView 
 
 } // namespace
 
+QPointF headerPopupAnchor(const QRectF &buttonFrame, qreal windowHeight, qreal titleBarHeight)
+{
+    return {buttonFrame.x() + buttonFrame.width() / 2,
+            (buttonFrame.y() + buttonFrame.height() / 2) + (windowHeight - titleBarHeight - popupAnchorBelowTitleBar)};
+}
+
 HeaderLayout HeaderLayout::forSize(QSize titleBar)
 {
     const int width = titleBar.width();

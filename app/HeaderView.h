@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QPointF>
 #include <QRect>
 #include <QWidget>
 
@@ -12,6 +13,13 @@ namespace lumora
 class StyledText;
 class ColorBand;
 class ImageButton;
+
+/// How far below the title bar the header's popups point; points.
+constexpr int popupAnchorBelowTitleBar = 20;
+
+/// The point at which a header button's popup points, from the window's lower left corner, y upwards. The button's
+/// frame is in the title bar's coordinates, also y upwards.
+QPointF headerPopupAnchor(const QRectF &buttonFrame, qreal windowHeight, qreal titleBarHeight);
 
 /// The layout of the header's parts in a title bar of the size, y down.
 struct HeaderLayout
