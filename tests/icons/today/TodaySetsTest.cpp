@@ -2,6 +2,7 @@
 #include "TodayPictures.h"
 #include "icons/today/AndroidFigures.h"
 #include "icons/today/AppleSlots.h"
+#include "icons/today/ContentExtent.h"
 #include "icons/today/LinuxSizes.h"
 #include "icons/today/Motifs.h"
 #include "icons/today/PictureWorkshop.h"
@@ -124,6 +125,8 @@ private slots:
     void monochromeIsWhite();
     void manifestNamesItsFiles();
     void maskableStaysInItsCircle();
+    void contentStaysInTheSafeZone_data();
+    void contentStaysInTheSafeZone();
     void windowsAssetsByTheirNames();
     void linuxTree();
     void layersAreNeeded_data();
@@ -546,6 +549,33 @@ void TodaySetsTest::maskableStaysInItsCircle()
         }
     }
     QVERIFY(picture.pixelColor(256 - 140, 256 - 140) != QColor(0, 0, 255));
+}
+
+void TodaySetsTest::contentStaysInTheSafeZone_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<double>("circle");
+    const double adaptive = double{adaptiveSafeDp} / adaptiveLayerDp;
+    QTest::newRow("maskable 192") << u"Web/maskable-192.png"_s << 0.8;
+    QTest::newRow("maskable 512") << u"Web/maskable-512.png"_s << 0.8;
+    QTest::newRow("layer 108") << u"Android/res/mipmap-mdpi/ic_launcher_foreground.png"_s << adaptive;
+    QTest::newRow("layer 432") << u"Android/res/mipmap-xxxhdpi/ic_launcher_foreground.png"_s << adaptive;
+}
+
+/// Whatever its diameter is, although scaling spreads a contour by up to a pixel.
+void TodaySetsTest::contentStaysInTheSafeZone()
+{
+    QFETCH(QString, file);
+    QFETCH(double, circle);
+    for (const int thousandths : {820, 853, 883, 917, 950, 991}) {
+        TodaySources sources = sourcesOf(disk(thousandths));
+        sources.flatten = QColor(Qt::white);
+        MadeSets sets({TodaySet::Web, TodaySet::Adaptive}, sources);
+        const QImage picture = sets.picture(file);
+        // The measured diameter counts the pixels at both of its ends whole.
+        const double beyond = (contentDiameter(picture) - circle) * picture.width();
+        QVERIFY2(beyond > -4 && beyond < 2, qPrintable(QString::number(beyond)));
+    }
 }
 
 void TodaySetsTest::windowsAssetsByTheirNames()
