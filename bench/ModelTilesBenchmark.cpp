@@ -34,6 +34,14 @@ struct Scene
     TodayDevicePane pane{builtInModels()};
 };
 
+/// From the press of the switch to the drawn pane, the first time.
+void opens(benchmark::State &state)
+{
+    for (auto _ : state)
+        const Scene scene;
+}
+BENCHMARK(opens)->Unit(benchmark::kMillisecond);
+
 /// Typing into the search judges all models, starts the fades and writes every tool tip.
 void filtersAll(benchmark::State &state)
 {

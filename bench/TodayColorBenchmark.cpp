@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+// The times of the color tool's side of today: until its first frame, and one step of a color that changes, with every
+// code, verdict and the drawn frame. Runs without a screen: QT_QPA_PLATFORM=offscreen.
+#include "color/today/TodayColorPane.h"
+#include "resources/Resources.h"
+
+#include <QApplication>
+
+#include <benchmark/benchmark.h>
+
+using namespace lumora;
+
+namespace
+{
+
+/// The pane in view, in the smallest size of the window.
+struct Scene
+{
+    Scene()
+    {
+        pane.resize(835, 600);
+        pane.show();
+        QCoreApplication::processEvents();
+    }
+    TodayColorPane pane;
+};
+
+void opens(benchmark::State &state)
+{
+    for (auto _ : state)
+        const Scene scene;
+}
+BENCHMARK(opens)->Unit(benchmark::kMillisecond);
+
+void showsTheNextColor(benchmark::State &state)
+{
+    Scene scene;
+    int byte = 0;
+    for (auto _ : state) {
+        byte = (byte + 1) % 256;
+        scene.pane.setColor(wideColorFromBytes(byte, 255 - byte, 128, byte));
+        QCoreApplication::processEvents();
+    }
+}
+BENCHMARK(showsTheNextColor)->Unit(benchmark::kMillisecond);
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QApplication application(argc, argv);
+    loadResources();
+    installTexts(application, QLocale(QStringLiteral("en")));
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
