@@ -24,7 +24,7 @@ def build_dependencies():
 class DebianSource(unittest.TestCase):
     def test_the_tracked_files_make_both_packages(self):
         place = BUILD / "debian-root"
-        system = BuildRoot(place, ["ca-certificates", "dpkg-dev", "fakeroot", *build_dependencies()])
+        system = BuildRoot(place, ["ca-certificates", "build-essential", "fakeroot", *build_dependencies()])
         with tempfile.TemporaryDirectory(dir=place) as folder:
             tree = Path(folder) / f"lumora-{VERSION}"
             tree.mkdir()
