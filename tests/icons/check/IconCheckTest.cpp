@@ -1,20 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "icons/check/IconCheck.h"
+#include "UnsoundPictures.h"
 #include "icons/check/CheckParts.h"
 #include "icons/today/Motifs.h"
 #include "icons/today/TodayExport.h"
-#include "tests/doubles/FilesOnDisk.h"
-#include "tests/icons/today/TodayPictures.h"
 
-#include <QColorSpace>
-#include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QTemporaryDir>
 #include <QTest>
 
 #include <algorithm>
-#include <filesystem>
 #include <functional>
 
 using namespace lumora;
@@ -46,49 +42,6 @@ QStringList lines(const IconCheck &check)
     for (const IconFinding &finding : check.findings)
         lines << QLatin1StringView(infoOf(finding.rule).id) + u' ' + finding.path + u' ' + finding.evidence;
     return lines;
-}
-
-QByteArray jpegOf(int edge)
-{
-    return pictureFile(opaquePicture(edge), "jpeg");
-}
-
-QByteArray deepPng(int edge)
-{
-    return pictureFile(opaquePicture(edge).convertToFormat(QImage::Format_RGBX64));
-}
-
-QByteArray palettePng(int edge)
-{
-    return pictureFile(
-        opaquePicture(edge).convertToFormat(QImage::Format_RGB888).convertToFormat(QImage::Format_Indexed8));
-}
-
-QByteArray wideGamutPng(int edge)
-{
-    QImage picture = opaquePicture(edge).convertToFormat(QImage::Format_RGB888);
-    picture.setColorSpace(QColorSpace(QColorSpace::DisplayP3));
-    return pictureFile(picture);
-}
-
-/// Puts a file in the place of another, which stays as it is under its other names.
-bool replaceFile(const QString &path, const QByteArray &content)
-{
-    return (!QFile::exists(path) || QFile::remove(path)) && putFile(path, content);
-}
-
-/// The same files, without their bytes on the disk again.
-bool linkTree(const QString &from, const QString &to)
-{
-    for (const QString &file : filesBelowFolder(from)) {
-        const QString path = to + u'/' + file;
-        std::error_code failure;
-        if (QDir().mkpath(QFileInfo(path).path()))
-            std::filesystem::create_hard_link(QString(from + u'/' + file).toStdString(), path.toStdString(), failure);
-        if (!QFile::exists(path))
-            return false;
-    }
-    return true;
 }
 
 /// The folder of a catalogue whose list is changed.
