@@ -2,6 +2,7 @@
 #include "MadeSets.h"
 #include "icons/today/AndroidFigures.h"
 #include "icons/today/AppleSlots.h"
+#include "icons/today/ContentExtent.h"
 #include "icons/today/LinuxSizes.h"
 #include "icons/today/Motifs.h"
 #include "icons/today/TodayExport.h"
