@@ -7,10 +7,12 @@
 #include "icons/today/Motifs.h"
 #include "icons/today/TodayExport.h"
 #include "icons/today/WindowsAssets.h"
+#include "pictures/scaling/PicturePlanes.h"
 
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QTest>
+#include <QtEndian>
 
 using namespace lumora;
 using namespace Qt::StringLiterals;
