@@ -21,7 +21,9 @@ std::vector<FormRow> formRows(const WideColor &color, ColorPlatform first, FormG
         }
         rows.push_back(std::move(row));
     }
-    std::ranges::stable_partition(rows, [first](const FormRow &row) { return row.form->platform == first; });
+    // clang 14 does not compile the subrange that std::ranges::stable_partition returns.
+    std::stable_partition(rows.begin(), rows.end(),
+                          [first](const FormRow &row) { return row.form->platform == first; });
     return rows;
 }
 
