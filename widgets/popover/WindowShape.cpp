@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "WindowShape.h"
 
+#include "widgets/style/X11Connection.h"
+
 #include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
 #include <QWindow>
 
 #include <xcb/shape.h>
-#include <xcb/xcb.h>
 
-#include <cstdlib>
-#include <memory>
+#include <string_view>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -20,18 +20,6 @@ namespace lumora
 
 namespace
 {
-
-struct FreeReply
-{
-    void operator()(void *reply) const { std::free(reply); }
-};
-
-/// The X11 connection, or nullptr on every other platform.
-xcb_connection_t *x11Connection()
-{
-    const auto *x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    return x11 ? x11->connection() : nullptr;
-}
 
 /// One rectangle for each run of pixels that the outline covers wholly or in part.
 std::vector<xcb_rectangle_t> rectanglesTouched(const QPainterPath &outline, const QWindow *window)
@@ -68,13 +56,11 @@ bool windowsAreTranslucent()
         return true;
     // A compositing manager owns the selection named after the screen it serves.
     constexpr std::string_view selection = "_NET_WM_CM_S0";
-    const auto atomCookie = xcb_intern_atom(connection, 0, selection.size(), selection.data());
-    const std::unique_ptr<xcb_intern_atom_reply_t, FreeReply> atom(
-        xcb_intern_atom_reply(connection, atomCookie, nullptr));
-    if (!atom)
+    const xcb_atom_t atom = x11Atom(connection, selection);
+    if (atom == XCB_ATOM_NONE)
         return false;
-    const auto ownerCookie = xcb_get_selection_owner(connection, atom->atom);
-    const std::unique_ptr<xcb_get_selection_owner_reply_t, FreeReply> owner(
+    const auto ownerCookie = xcb_get_selection_owner(connection, atom);
+    const X11Reply<xcb_get_selection_owner_reply_t> owner(
         xcb_get_selection_owner_reply(connection, ownerCookie, nullptr));
     return owner && owner->owner != XCB_WINDOW_NONE;
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "INTitlebarContainer.h"
 
+#include "SystemMove.h"
+
 #include <QGuiApplication>
 #include <QMouseEvent>
 #include <QStyleHints>
@@ -26,8 +28,10 @@ void INTitlebarContainer::mouseMoveEvent(QMouseEvent *event)
 {
     const QPoint travel = event->globalPosition().toPoint() - m_dragStart;
     if (m_drag == Drag::Pressed && travel.manhattanLength() >= QGuiApplication::styleHints()->startDragDistance()) {
+        m_drag = Drag::Moves;
         QWindow *handle = window()->windowHandle();
-        m_drag = handle && handle->startSystemMove() ? Drag::None : Drag::Moves;
+        if (handle && startSystemMove(handle, m_dragStart, *event))
+            m_drag = Drag::None;
     }
     if (m_drag == Drag::Moves)
         window()->move(m_windowOrigin + travel);

@@ -103,10 +103,10 @@ def popover_follows_a_window_that_is_dragged_by_its_bar():
         probe.tell("popover")
         probe.wait("the popover", lambda state: state["popover"])
         x, y = before[0] + 400, before[1] + 30
-        # The window manager continues the drag after the first 12 points, and moves the window from there on.
+        # The window manager continues the drag after the first 12 points, and counts from the press.
         desktop.mouse("mousemove", x, y, "mousedown", "1", "mousemove", x + 12, y, "sleep", "0.3", "mousemove", x + 40,
                       y - 20, "sleep", "0.2", "mousemove", x + 72, y - 40, "sleep", "0.2", "mouseup", "1")
-        state = probe.wait("the window to move", lambda state: state["window"][:2] == [before[0] + 60, before[1] - 40])
+        state = probe.wait("the window to move", lambda state: state["window"][:2] == [before[0] + 72, before[1] - 40])
         anchor = state["anchor"]
         state = probe.wait("the popover to follow", lambda state: state["tip"] == [anchor[0] + 20, anchor[1] + 40])
         wait_for("the arrow on screen", lambda: desktop.pixel(anchor[0] + 20, anchor[1] + 44) == GREEN)
