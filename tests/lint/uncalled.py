@@ -24,9 +24,9 @@ NOT_FUNCTIONS = {"if", "for", "while", "switch", "catch", "Q_PROPERTY", "operato
 
 
 def program_objects(build: Path) -> list[Path]:
-    """The libraries that the programs are linked from, and their main files."""
-    tests = build / "tests"
-    libraries = [file for file in sorted(build.rglob("liblumora_*.a")) if tests not in file.parents]
+    """The libraries that the programs are linked from, and their main files; not those of builds within this one."""
+    others = [build / "tests", *(cache.parent for cache in build.glob("*/**/CMakeCache.txt"))]
+    libraries = [file for file in sorted(build.rglob("liblumora_*.a")) if not set(others) & set(file.parents)]
     programs = [folder for name in PROGRAMS for folder in build.glob(f"*/CMakeFiles/{name}.dir")]
     return libraries + [file for folder in programs for file in sorted(folder.rglob("*.o"))]
 
