@@ -147,7 +147,7 @@ ExitStatus writeTodaySets(Console &console, const TodayRun &run)
             Complaint{Complaint::Kind::Failure, u"check-failed"_s, path, commandText("CLI_CHECK_FAILED"), {}});
     QJsonArray files = classicFiles(classic);
     const QJsonArray more = filesJson(result);
-    for (const QJsonValue &file : more)
+    for (const auto &file : more)
         files.append(file);
     if (result.isStopped) {
         console.complain(Interruption::complaint(files.size(), plan.value().files.size()));
