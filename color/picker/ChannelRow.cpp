@@ -107,7 +107,7 @@ QString ChannelRow::name(ColorChannel channel)
     case ColorChannel::Brightness:
         return qtTrId("COLOR_CHANNEL_BRIGHTNESS");
     case ColorChannel::Gray:
-        return qtTrId("COLOR_CHANNEL_GREY");
+        return qtTrId("COLOR_CHANNEL_GRAY");
     case ColorChannel::Opacity:
         return qtTrId("COLOR_CHANNEL_OPACITY");
     }

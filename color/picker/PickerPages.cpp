@@ -71,7 +71,7 @@ SlidersPage::SlidersPage(PickerModel *model, QWidget *parent)
     layout->addStretch(1);
     addKind(qtTrId("COLOR_MODE_RGB"), {ColorChannel::Red, ColorChannel::Green, ColorChannel::Blue}, model);
     addKind(qtTrId("COLOR_MODE_HSB"), {ColorChannel::Hue, ColorChannel::Saturation, ColorChannel::Brightness}, model);
-    addKind(qtTrId("COLOR_MODE_GREY"), {ColorChannel::Gray}, model);
+    addKind(qtTrId("COLOR_MODE_GRAY"), {ColorChannel::Gray}, model);
     connect(m_kind, &QComboBox::currentIndexChanged, m_sliders, &QStackedWidget::setCurrentIndex);
 }
 

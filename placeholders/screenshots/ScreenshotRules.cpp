@@ -46,7 +46,7 @@ constexpr std::array<ScreenshotRule, 17> rules{{
     {"screenshot.alpha"_L1, Severity::Error, "A screenshot may have no alpha channel"_L1,
      "Save it without transparency, even where every pixel is opaque"_L1},
     {"screenshot.rgb"_L1, Severity::Error, "A screenshot has to be in RGB"_L1,
-     "Convert it from inks or shades of grey to RGB"_L1},
+     "Convert it from inks or shades of gray to RGB"_L1},
     {"screenshot.size"_L1, Severity::Error, "The size is one that neither store takes"_L1,
      "Take it on a device or simulator of a size in the stores' lists"_L1},
     {"appstore.size"_L1, Severity::Error, "The App Store takes no screenshot of this size"_L1,

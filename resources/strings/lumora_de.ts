@@ -76,7 +76,7 @@
     <translation> | Retina-Verkleinerer</translation>
   </message>
   <message id="APP_COLOR">
-    <source> | Colours</source>
+    <source> | Colors</source>
     <translation> | Farben</translation>
   </message>
   <message id="APP_DEVICES">
@@ -102,7 +102,7 @@
     <translation>Platzhalter-Generator</translation>
   </message>
   <message id="HELP_PLACEHOLDER_TEXT">
-    <source>Fill a layout before its artwork exists. One press writes grey pictures in the screen sizes of iOS devices or of the Mac, each labelled in white with its own width and height. For anything else, type a width and a height from 1 to 9999 pixels. Choose where to save, and Lumora puts the PNG files, named like placeholder_640x1136.png, into a fresh “placeholders” folder. Folders from earlier runs stay untouched.</source>
+    <source>Fill a layout before its artwork exists. One press writes gray pictures in the screen sizes of iOS devices or of the Mac, each labeled in white with its own width and height. For anything else, type a width and a height from 1 to 9999 pixels. Choose where to save, and Lumora puts the PNG files, named like placeholder_640x1136.png, into a fresh “placeholders” folder. Folders from earlier runs stay untouched.</source>
     <translation>Layouts füllen, bevor es fertige Grafiken gibt. Ein Druck auf den Knopf schreibt graue Bilder in den Bildschirmgrößen von iOS-Geräten oder Macs; jedes trägt in Weiß seine Breite und Höhe. Für alles andere eine Breite und eine Höhe von 1 bis 9999 Pixeln eingeben. Nach der Wahl des Speicherorts legt Lumora die PNG-Dateien mit Namen wie placeholder_640x1136.png in einen neuen Ordner „placeholders“. Ordner aus früheren Durchgängen bleiben unberührt.</translation>
   </message>
   <message id="HELP_RESIZER">
@@ -114,11 +114,11 @@
     <translation>Einmal in doppelter Auflösung zeichnen, die normale Größe macht Lumora. PNG-Dateien mit der Kennung @2x oder -hd auf diese Seite ziehen oder auswählen, dann einen Ordner bestimmen. Jedes Bild wird in Breite und Höhe halbiert, ungerade Maße werden abgerundet, und ohne die Kennung im Namen gespeichert: Aus button@2x.png wird button.png. Dateien ohne Kennung und Dateien anderer Art bleiben außen vor. Vorsicht: Eine gleichnamige Datei im gewählten Ordner wird ersetzt.</translation>
   </message>
   <message id="HELP_COLOR">
-    <source>Colour codes</source>
+    <source>Color codes</source>
     <translation>Farbcodes</translation>
   </message>
   <message id="HELP_COLOR_TEXT">
-    <source>Carry a colour from your design into your code. Click the colour well to pick one, or type three or six hexadecimal digits such as #abc or #34485e; field and well follow each other. Each button copies the colour as code, ready to paste: a UIColor for iOS, an NSColor for the Mac, rgb(red, green, blue) or a CSS declaration for style sheets. Drag the picker away from the well and it stays open as a window of its own.</source>
+    <source>Carry a color from your design into your code. Click the color well to pick one, or type three or six hexadecimal digits such as #abc or #34485e; field and well follow each other. Each button copies the color as code, ready to paste: a UIColor for iOS, an NSColor for the Mac, rgb(red, green, blue) or a CSS declaration for style sheets. Drag the picker away from the well and it stays open as a window of its own.</source>
     <translation>Eine Farbe aus dem Entwurf in den Code übernehmen. Zum Auswählen auf das Farbfeld klicken oder drei oder sechs hexadezimale Ziffern wie #abc oder #34485e eingeben; Textfeld und Farbfeld folgen einander. Jeder Knopf kopiert die Farbe als fertigen Code zum Einfügen: als UIColor für iOS, als NSColor für den Mac, als rgb(Rot, Grün, Blau) oder als CSS-Deklaration für Stylesheets. Wird der Farbwähler vom Farbfeld weggezogen, bleibt er als eigenes Fenster offen.</translation>
   </message>
   <message id="HELP_DEVICES">
@@ -134,7 +134,7 @@
     <translation>App-Paketprüfung</translation>
   </message>
   <message id="HELP_VALIDATER_TEXT">
-    <source>Look through an app before you hand it in. Drop one .ipa package on the pane, or browse for it. Lumora shows its name, version, platform, oldest iOS version, bundle identifier and build kind, then checks the icons, launch images, provisioning profile, localisations, URL schemes and Facebook app ID. Press a box to read what was found; missing sizes are listed one by one. The package itself is never changed, and nothing is sent anywhere.</source>
+    <source>Look through an app before you hand it in. Drop one .ipa package on the pane, or browse for it. Lumora shows its name, version, platform, oldest iOS version, bundle identifier and build kind, then checks the icons, launch images, provisioning profile, localizations, URL schemes and Facebook app ID. Press a box to read what was found; missing sizes are listed one by one. The package itself is never changed, and nothing is sent anywhere.</source>
     <translation>Eine App durchsehen, bevor sie eingereicht wird. Ein .ipa-Paket auf diese Seite ziehen oder auswählen. Lumora zeigt Name, Version, Plattform, älteste iOS-Version, Bundle-ID und Art des Builds und prüft dann Icons, Startbilder, Bereitstellungsprofil, Lokalisierungen, URL-Schemata und Facebook-App-ID. Ein Klick auf ein Kästchen zeigt, was gefunden wurde; fehlende Größen werden einzeln aufgeführt. Das Paket selbst wird nie verändert, und es wird nichts verschickt.</translation>
   </message>
   <message id="HELP_BUG_REPORT">
@@ -152,7 +152,7 @@
 
   <!-- About and contact panels; the addresses open in the default browser or mail program -->
   <message id="ABOUT_TEXT">
-    <source>A toolbox for makers of mobile and desktop apps: icons, placeholders, retina pictures, colours, devices and package checks in one window.</source>
+    <source>A toolbox for makers of mobile and desktop apps: icons, placeholders, retina pictures, colors, devices and package checks in one window.</source>
     <translation>Ein Werkzeugkasten für alle, die Apps für Mobilgeräte und den Desktop machen: Icons, Platzhalter, Retina-Bilder, Farben, Geräte und Paketprüfung in einem Fenster.</translation>
   </message>
   <message id="ABOUT_TWITTER">
@@ -830,7 +830,7 @@
     <translation>Anhalten</translation>
   </message>
 
-  <!-- Colour codes -->
+  <!-- Color codes -->
   <message id="COLOR_IOS">
     <source>For iOS, as UIColor</source>
     <translation>Für iOS, als UIColor</translation>
@@ -888,7 +888,7 @@
     <translation>in sRGB beschnitten</translation>
   </message>
   <message id="COLOR_CLIPPED_TIP">
-    <source>sRGB cannot show this colour; its sRGB code is the nearest edge of sRGB</source>
+    <source>sRGB cannot show this color; its sRGB code is the nearest edge of sRGB</source>
     <translation>sRGB kann diese Farbe nicht zeigen; ihr sRGB-Code ist der nächste Rand von sRGB</translation>
   </message>
   <message id="COLOR_COPY_FORM">
@@ -896,7 +896,7 @@
     <translation>[FORM] kopieren</translation>
   </message>
   <message id="COLOR_ANY_FIELD">
-    <source>Colour in any form</source>
+    <source>Color in any form</source>
     <translation>Farbe in beliebiger Form</translation>
   </message>
   <message id="COLOR_ANY_HINT">
@@ -904,7 +904,7 @@
     <translation>Ein Code in beliebiger Sprache oder ein CSS-Name.</translation>
   </message>
   <message id="COLOR_REFUSED">
-    <source>This is no colour code. The colour stays as it is.</source>
+    <source>This is no color code. The color stays as it is.</source>
     <translation>Das ist kein Farbcode. Die Farbe bleibt, wie sie ist.</translation>
   </message>
   <message id="COLOR_CONTRAST">
@@ -912,11 +912,11 @@
     <translation>Kontrast auf</translation>
   </message>
   <message id="COLOR_BACKGROUND_FIELD">
-    <source>Background colour in any form</source>
+    <source>Background color in any form</source>
     <translation>Hintergrundfarbe in beliebiger Form</translation>
   </message>
   <message id="COLOR_BACKGROUND_WELL">
-    <source>Background colour well, opens the colour picker</source>
+    <source>Background color well, opens the color picker</source>
     <translation>Feld der Hintergrundfarbe, öffnet die Farbauswahl</translation>
   </message>
   <message id="COLOR_RATIO_TIP">
@@ -952,15 +952,15 @@
     <translation>Nächste</translation>
   </message>
   <message id="COLOR_NEAREST_TIP">
-    <source>Take the most similar colour that passes [LEVEL]</source>
+    <source>Take the most similar color that passes [LEVEL]</source>
     <translation>Die ähnlichste Farbe nehmen, die [LEVEL] erfüllt</translation>
   </message>
   <message id="COLOR_ALL_PASS">
-    <source>This colour passes already</source>
+    <source>This color passes already</source>
     <translation>Diese Farbe genügt schon</translation>
   </message>
   <message id="COLOR_NONE_PASSES">
-    <source>No colour passes [LEVEL] on this background</source>
+    <source>No color passes [LEVEL] on this background</source>
     <translation>Auf diesem Hintergrund erfüllt keine Farbe [LEVEL]</translation>
   </message>
   <message id="COLOR_PALETTE">
@@ -968,11 +968,11 @@
     <translation>Palette</translation>
   </message>
   <message id="COLOR_PALETTE_LIST">
-    <source>Colours picked so far</source>
+    <source>Colors picked so far</source>
     <translation>Bisher gewählte Farben</translation>
   </message>
   <message id="COLOR_PALETTE_EMPTY">
-    <source>Every colour that you pick on either side is kept here until the program ends.</source>
+    <source>Every color that you pick on either side is kept here until the program ends.</source>
     <translation>Jede auf einer der beiden Seiten gewählte Farbe bleibt hier, bis das Programm endet.</translation>
   </message>
   <message id="COLOR_PALETTE_ADD">
@@ -1020,7 +1020,7 @@
     <translation>Dateiformat der Palette</translation>
   </message>
   <message id="COLOR_FORMAT_SETS">
-    <source>Colour sets</source>
+    <source>Color sets</source>
     <translation>Colorsets</translation>
   </message>
   <message id="COLOR_FORMAT_GPL">
@@ -1036,7 +1036,7 @@
     <translation>CSS-Variablen</translation>
   </message>
   <message id="COLOR_ALERT_TITLE">
-    <source>This is no colour code</source>
+    <source>This is no color code</source>
     <translation>Das ist kein Farbcode</translation>
   </message>
   <message id="COLOR_ALERT_MESSAGE">
@@ -1044,13 +1044,13 @@
     <translation>Drei oder sechs hexadezimale Ziffern eingeben, zum Beispiel #abc oder #34485e.</translation>
   </message>
 
-  <!-- Colour codes: the colour picker -->
+  <!-- Color codes: the color picker -->
   <message id="COLOR_PICKER">
-    <source>Colours</source>
+    <source>Colors</source>
     <translation>Farben</translation>
   </message>
   <message id="COLOR_MODE_WHEEL">
-    <source>Colour wheel</source>
+    <source>Color wheel</source>
     <translation>Farbkreis</translation>
   </message>
   <message id="COLOR_MODE_RGB">
@@ -1061,8 +1061,8 @@
     <source>HSB sliders</source>
     <translation>HSB-Regler</translation>
   </message>
-  <message id="COLOR_MODE_GREY">
-    <source>Grey slider</source>
+  <message id="COLOR_MODE_GRAY">
+    <source>Gray slider</source>
     <translation>Grauregler</translation>
   </message>
   <message id="COLOR_MODE_PALETTE">
@@ -1074,7 +1074,7 @@
     <translation>Regler</translation>
   </message>
   <message id="COLOR_MODE_RECENT">
-    <source>Recent colours</source>
+    <source>Recent colors</source>
     <translation>Zuletzt gewählte Farben</translation>
   </message>
   <message id="COLOR_CHANNEL_RED">
@@ -1101,8 +1101,8 @@
     <source>Brightness</source>
     <translation>Helligkeit</translation>
   </message>
-  <message id="COLOR_CHANNEL_GREY">
-    <source>Grey</source>
+  <message id="COLOR_CHANNEL_GRAY">
+    <source>Gray</source>
     <translation>Grau</translation>
   </message>
   <message id="COLOR_CHANNEL_OPACITY">
@@ -1118,7 +1118,7 @@
     <translation>Art der Regler</translation>
   </message>
   <message id="COLOR_PALETTE_LUMORA">
-    <source>Colours of the tools</source>
+    <source>Colors of the tools</source>
     <translation>Farben der Werkzeuge</translation>
   </message>
   <message id="COLOR_PALETTE_DARK">
@@ -1138,11 +1138,11 @@
     <translation>Linie</translation>
   </message>
   <message id="COLOR_PALETTE_WEB">
-    <source>Named colours of the web</source>
+    <source>Named colors of the web</source>
     <translation>Benannte Farben des Webs</translation>
   </message>
   <message id="COLOR_RECENT_EMPTY">
-    <source>The colours you pick are kept here until you quit Lumora.</source>
+    <source>The colors you pick are kept here until you quit Lumora.</source>
     <translation>Gewählte Farben stehen hier, bis Lumora beendet wird.</translation>
   </message>
   <message id="COLOR_HEX">
@@ -1150,19 +1150,19 @@
     <translation>Hexadezimaler Code</translation>
   </message>
   <message id="COLOR_PIPETTE">
-    <source>Pick a colour from the screen</source>
+    <source>Pick a color from the screen</source>
     <translation>Farbe vom Bildschirm aufnehmen</translation>
   </message>
   <message id="COLOR_SCREEN_PIPETTE">
-    <source>Pick up a screen colour</source>
+    <source>Pick up a screen color</source>
     <translation>Bildschirmfarbe aufnehmen</translation>
   </message>
   <message id="COLOR_PIPETTE_FAILED_TITLE">
-    <source>No colour picked</source>
+    <source>No color picked</source>
     <translation>Keine Farbe aufgenommen</translation>
   </message>
   <message id="COLOR_NO_OPACITY">
-    <source>The colour is [PERCENT] % opaque. These codes carry no opacity: they are for the opaque colour.</source>
+    <source>The color is [PERCENT] % opaque. These codes carry no opacity: they are for the opaque color.</source>
     <translation>Die Farbe ist zu [PERCENT] % deckend. Diese Codes tragen keine Deckkraft: Sie gelten für die deckende Farbe.</translation>
   </message>
   <message id="COLOR_CLICK_COPIES">
@@ -1170,7 +1170,7 @@
     <translation>Klicken, um zu kopieren</translation>
   </message>
   <message id="COLOR_PIPETTE_FAILED_MESSAGE">
-    <source>The system did not let Lumora read the screen. Allow it in the system settings, or choose the colour here.</source>
+    <source>The system did not let Lumora read the screen. Allow it in the system settings, or choose the color here.</source>
     <translation>Das System hat den Zugriff auf den Bildschirm nicht erlaubt. In den Systemeinstellungen freigeben oder die Farbe hier wählen.</translation>
   </message>
 
@@ -1514,7 +1514,7 @@
     <translation>Release-Build</translation>
   </message>
   <message id="VALIDATER_APP_LOCALIZATIONS">
-    <source>Localisations</source>
+    <source>Localizations</source>
     <translation>Lokalisierungen</translation>
   </message>
   <message id="VALIDATER_APP_URL_SCHEMES">
@@ -1526,7 +1526,7 @@
     <translation>Facebook-App-ID</translation>
   </message>
 
-  <!-- App package check: explanations; lists follow the localisations and URL scheme texts directly, so these end in a line break -->
+  <!-- App package check: explanations; lists follow the localizations and URL scheme texts directly, so these end in a line break -->
   <message id="VALID_TEXT">
     <source>Looks good</source>
     <translation>Sieht gut aus</translation>
@@ -1580,7 +1580,7 @@
     <translation>Das Bereitstellungsprofil führt Testgeräte auf. Die App mit einem Distributionsprofil für den Store signieren.</translation>
   </message>
   <message id="VALIDATE_LOCALIZATIONS_TEXT">
-    <source>The app is localised for:
+    <source>The app is localized for:
 </source>
     <translation>Die App ist lokalisiert für:
 </translation>
@@ -1808,7 +1808,7 @@
     <translation>Seite dieses Werkzeugs</translation>
   </message>
   <message id="ACCESSIBLE_MINIMIZE">
-    <source>Minimise window</source>
+    <source>Minimize window</source>
     <translation>Fenster minimieren</translation>
   </message>
   <message id="ACCESSIBLE_ZOOM">
@@ -1868,11 +1868,11 @@
     <translation>Fortschritt der Verkleinerung</translation>
   </message>
   <message id="ACCESSIBLE_COLOR_FIELD">
-    <source>Colour code</source>
+    <source>Color code</source>
     <translation>Farbcode</translation>
   </message>
   <message id="ACCESSIBLE_COLOR_WELL">
-    <source>Colour well, opens the colour picker</source>
+    <source>Color well, opens the color picker</source>
     <translation>Farbfeld, öffnet den Farbwähler</translation>
   </message>
   <message id="ACCESSIBLE_DEVICE_MATCH">
@@ -1931,7 +1931,7 @@
     <translation>lumora BEFEHL [ARGUMENT]...</translation>
   </message>
   <message id="CLI_PROGRAM_ABOUT">
-    <source>Icons, placeholders, down-scaling, colour codes, devices and app package checks for people who make apps. Without a command the window opens, with the given files if there are any.</source>
+    <source>Icons, placeholders, down-scaling, color codes, devices and app package checks for people who make apps. Without a command the window opens, with the given files if there are any.</source>
     <translation>Icons, Platzhalter, Verkleinern, Farbcodes, Geräte und App-Paket-Prüfung für alle, die Apps machen. Ohne Befehl öffnet sich das Fenster, mit den angegebenen Dateien, falls es welche gibt.</translation>
   </message>
   <message id="CLI_COMMANDS">
@@ -1999,7 +1999,7 @@
     <translation>Icons in eigenen Größen schreiben</translation>
   </message>
   <message id="CLI_PLACEHOLDERS_ABOUT">
-    <source>Write grey pictures labelled with their size</source>
+    <source>Write gray pictures labeled with their size</source>
     <translation>Graue Bilder mit ihrer Größe als Aufschrift schreiben</translation>
   </message>
   <message id="CLI_DOWNSCALE_ABOUT">
@@ -2007,7 +2007,7 @@
     <translation>PNG-Bilder doppelter Auflösung halbieren</translation>
   </message>
   <message id="CLI_COLOR_ABOUT">
-    <source>Print a colour as code</source>
+    <source>Print a color as code</source>
     <translation>Eine Farbe als Code ausgeben</translation>
   </message>
   <message id="CLI_DEVICES_ABOUT">
@@ -2047,7 +2047,7 @@
     <translation>Dunkles Icon für iOS und Icon Composer</translation>
   </message>
   <message id="CLI_ICONS_TINTED">
-    <source>Tinted icon for iOS and Icon Composer: shades of grey, opaque</source>
+    <source>Tinted icon for iOS and Icon Composer: shades of gray, opaque</source>
     <translation>Getöntes Icon für iOS und Icon Composer: Grautöne, deckend</translation>
   </message>
   <message id="CLI_ICONS_FOREGROUND">
@@ -2303,7 +2303,7 @@
     <translation>Alle Hälften in DIR schreiben, ohne Unterordner; mit --layout in den Ordnern ihrer Quellen</translation>
   </message>
   <message id="CLI_COLOR_TEXT">
-    <source>Three or six hexadecimal digits, with or without #; with --form, --all or --contrast a colour in any form</source>
+    <source>Three or six hexadecimal digits, with or without #; with --form, --all or --contrast a color in any form</source>
     <translation>Drei oder sechs hexadezimale Ziffern, mit oder ohne #; mit --form, --all oder --contrast eine Farbe in jeder Form</translation>
   </message>
   <message id="CLI_COLOR_AS">
@@ -2699,7 +2699,7 @@
     <translation>siehe --help</translation>
   </message>
   <message id="CLI_HIGH_DYNAMIC_RANGE">
-    <source>has colours of high dynamic range</source>
+    <source>has colors of high dynamic range</source>
     <translation>hat Farben mit hohem Dynamikumfang</translation>
   </message>
   <message id="CLI_HIGH_DYNAMIC_RANGE_ADVICE">
@@ -2779,11 +2779,11 @@
     <translation>vorhanden, würde ersetzt</translation>
   </message>
   <message id="CLI_NO_COLOR">
-    <source>is no colour code</source>
+    <source>is no color code</source>
     <translation>ist kein Farbcode</translation>
   </message>
   <message id="CLI_NO_COLOR_ADVICE">
-    <source>give three or six hexadecimal digits, with or without #, such as #abc or #34485e, or add --form for a colour in any form</source>
+    <source>give three or six hexadecimal digits, with or without #, such as #abc or #34485e, or add --form for a color in any form</source>
     <translation>drei oder sechs hexadezimale Ziffern angeben, mit oder ohne #, etwa #abc oder #34485e, oder --form dazusetzen für eine Farbe in jeder Form</translation>
   </message>
   <message id="CLI_NOT_NAMED_IPA">
@@ -2911,11 +2911,11 @@
     <translation>Formen, die eine haben, in ihrer Display-P3-Variante ausgeben</translation>
   </message>
   <message id="CLI_COLOR_CONTRAST">
-    <source>Judge the contrast with another colour by WCAG 2</source>
+    <source>Judge the contrast with another color by WCAG 2</source>
     <translation>Den Kontrast zu einer anderen Farbe nach WCAG 2 beurteilen</translation>
   </message>
   <message id="CLI_COLOR_NO_FORM">
-    <source>is no colour in a form that is known</source>
+    <source>is no color in a form that is known</source>
     <translation>ist keine Farbe in einer bekannten Form</translation>
   </message>
   <message id="CLI_COLOR_NO_FORM_ADVICE">
@@ -2999,11 +2999,11 @@
     <translation>Was auf den Bildern steht; {size}, {width} und {height} werden ersetzt, \n beginnt eine Zeile</translation>
   </message>
   <message id="CLI_PLACEHOLDERS_FOREGROUND">
-    <source>Colour of the text, in any form of lumora color</source>
+    <source>Color of the text, in any form of lumora color</source>
     <translation>Farbe des Textes, in jeder Form von lumora color</translation>
   </message>
   <message id="CLI_PLACEHOLDERS_BACKGROUND">
-    <source>Colour of the ground, in any form of lumora color</source>
+    <source>Color of the ground, in any form of lumora color</source>
     <translation>Farbe des Grundes, in jeder Form von lumora color</translation>
   </message>
   <message id="CLI_PLACEHOLDERS_FORMAT">
@@ -3219,7 +3219,7 @@
     <translation>der Speicher reicht nicht</translation>
   </message>
   <message id="DETAIL_UNKNOWN_COLOR_FORM">
-    <source>no colour in any form that is known</source>
+    <source>no color in any form that is known</source>
     <translation>keine Farbe in einer bekannten Form</translation>
   </message>
   <message id="DETAIL_EMPTY_PICTURE">
@@ -3275,11 +3275,11 @@
     <translation>[WIDTH] x [HEIGHT] Pixel</translation>
   </message>
   <message id="DETAIL_MORE_COLORS">
-    <source>more than [COUNT] colours</source>
+    <source>more than [COUNT] colors</source>
     <translation>mehr als [COUNT] Farben</translation>
   </message>
   <message id="DETAIL_UNKNOWN_COLOR">
-    <source>[NAME]: [COLOR] is no colour that is known</source>
+    <source>[NAME]: [COLOR] is no color that is known</source>
     <translation>[NAME]: [COLOR] ist keine bekannte Farbe</translation>
   </message>
   <message id="DETAIL_LINE">
@@ -3287,11 +3287,11 @@
     <translation>Zeile [LINE]</translation>
   </message>
   <message id="DETAIL_UNKNOWN_COLOR_SET">
-    <source>a colour set with a colour that is not known</source>
+    <source>a color set with a color that is not known</source>
     <translation>ein Farbsatz mit einer unbekannten Farbe</translation>
   </message>
   <message id="DETAIL_NO_COLOR">
-    <source>no colour in it</source>
+    <source>no color in it</source>
     <translation>keine Farbe darin</translation>
   </message>
   <message id="DETAIL_QUOTATION_MARKS">

@@ -76,8 +76,8 @@
     <translation> | Retina down-scaler</translation>
   </message>
   <message id="APP_COLOR">
-    <source> | Colours</source>
-    <translation> | Colours</translation>
+    <source> | Colors</source>
+    <translation> | Colors</translation>
   </message>
   <message id="APP_DEVICES">
     <source> | Devices</source>
@@ -102,8 +102,8 @@
     <translation>Placeholder generator</translation>
   </message>
   <message id="HELP_PLACEHOLDER_TEXT">
-    <source>Fill a layout before its artwork exists. One press writes grey pictures in the screen sizes of iOS devices or of the Mac, each labelled in white with its own width and height. For anything else, type a width and a height from 1 to 9999 pixels. Choose where to save, and Lumora puts the PNG files, named like placeholder_640x1136.png, into a fresh “placeholders” folder. Folders from earlier runs stay untouched.</source>
-    <translation>Fill a layout before its artwork exists. One press writes grey pictures in the screen sizes of iOS devices or of the Mac, each labelled in white with its own width and height. For anything else, type a width and a height from 1 to 9999 pixels. Choose where to save, and Lumora puts the PNG files, named like placeholder_640x1136.png, into a fresh “placeholders” folder. Folders from earlier runs stay untouched.</translation>
+    <source>Fill a layout before its artwork exists. One press writes gray pictures in the screen sizes of iOS devices or of the Mac, each labeled in white with its own width and height. For anything else, type a width and a height from 1 to 9999 pixels. Choose where to save, and Lumora puts the PNG files, named like placeholder_640x1136.png, into a fresh “placeholders” folder. Folders from earlier runs stay untouched.</source>
+    <translation>Fill a layout before its artwork exists. One press writes gray pictures in the screen sizes of iOS devices or of the Mac, each labeled in white with its own width and height. For anything else, type a width and a height from 1 to 9999 pixels. Choose where to save, and Lumora puts the PNG files, named like placeholder_640x1136.png, into a fresh “placeholders” folder. Folders from earlier runs stay untouched.</translation>
   </message>
   <message id="HELP_RESIZER">
     <source>Retina down-scaler</source>
@@ -114,12 +114,12 @@
     <translation>Draw once at double resolution and let Lumora make the normal size. Drop PNG files marked @2x or -hd on the pane, or browse for them, and choose a folder. Every picture is halved in width and height, odd sizes rounding down, and saved without the mark in its name: button@2x.png becomes button.png. Files without a mark and files of other kinds are left out. Take care: a file of the same name in the chosen folder is replaced.</translation>
   </message>
   <message id="HELP_COLOR">
-    <source>Colour codes</source>
-    <translation>Colour codes</translation>
+    <source>Color codes</source>
+    <translation>Color codes</translation>
   </message>
   <message id="HELP_COLOR_TEXT">
-    <source>Carry a colour from your design into your code. Click the colour well to pick one, or type three or six hexadecimal digits such as #abc or #34485e; field and well follow each other. Each button copies the colour as code, ready to paste: a UIColor for iOS, an NSColor for the Mac, rgb(red, green, blue) or a CSS declaration for style sheets. Drag the picker away from the well and it stays open as a window of its own.</source>
-    <translation>Carry a colour from your design into your code. Click the colour well to pick one, or type three or six hexadecimal digits such as #abc or #34485e; field and well follow each other. Each button copies the colour as code, ready to paste: a UIColor for iOS, an NSColor for the Mac, rgb(red, green, blue) or a CSS declaration for style sheets. Drag the picker away from the well and it stays open as a window of its own.</translation>
+    <source>Carry a color from your design into your code. Click the color well to pick one, or type three or six hexadecimal digits such as #abc or #34485e; field and well follow each other. Each button copies the color as code, ready to paste: a UIColor for iOS, an NSColor for the Mac, rgb(red, green, blue) or a CSS declaration for style sheets. Drag the picker away from the well and it stays open as a window of its own.</source>
+    <translation>Carry a color from your design into your code. Click the color well to pick one, or type three or six hexadecimal digits such as #abc or #34485e; field and well follow each other. Each button copies the color as code, ready to paste: a UIColor for iOS, an NSColor for the Mac, rgb(red, green, blue) or a CSS declaration for style sheets. Drag the picker away from the well and it stays open as a window of its own.</translation>
   </message>
   <message id="HELP_DEVICES">
     <source>Device matrix</source>
@@ -134,8 +134,8 @@
     <translation>App package check</translation>
   </message>
   <message id="HELP_VALIDATER_TEXT">
-    <source>Look through an app before you hand it in. Drop one .ipa package on the pane, or browse for it. Lumora shows its name, version, platform, oldest iOS version, bundle identifier and build kind, then checks the icons, launch images, provisioning profile, localisations, URL schemes and Facebook app ID. Press a box to read what was found; missing sizes are listed one by one. The package itself is never changed, and nothing is sent anywhere.</source>
-    <translation>Look through an app before you hand it in. Drop one .ipa package on the pane, or browse for it. Lumora shows its name, version, platform, oldest iOS version, bundle identifier and build kind, then checks the icons, launch images, provisioning profile, localisations, URL schemes and Facebook app ID. Press a box to read what was found; missing sizes are listed one by one. The package itself is never changed, and nothing is sent anywhere.</translation>
+    <source>Look through an app before you hand it in. Drop one .ipa package on the pane, or browse for it. Lumora shows its name, version, platform, oldest iOS version, bundle identifier and build kind, then checks the icons, launch images, provisioning profile, localizations, URL schemes and Facebook app ID. Press a box to read what was found; missing sizes are listed one by one. The package itself is never changed, and nothing is sent anywhere.</source>
+    <translation>Look through an app before you hand it in. Drop one .ipa package on the pane, or browse for it. Lumora shows its name, version, platform, oldest iOS version, bundle identifier and build kind, then checks the icons, launch images, provisioning profile, localizations, URL schemes and Facebook app ID. Press a box to read what was found; missing sizes are listed one by one. The package itself is never changed, and nothing is sent anywhere.</translation>
   </message>
   <message id="HELP_BUG_REPORT">
     <source>Report a bug</source>
@@ -152,8 +152,8 @@
 
   <!-- About and contact panels; the addresses open in the default browser or mail program -->
   <message id="ABOUT_TEXT">
-    <source>A toolbox for makers of mobile and desktop apps: icons, placeholders, retina pictures, colours, devices and package checks in one window.</source>
-    <translation>A toolbox for makers of mobile and desktop apps: icons, placeholders, retina pictures, colours, devices and package checks in one window.</translation>
+    <source>A toolbox for makers of mobile and desktop apps: icons, placeholders, retina pictures, colors, devices and package checks in one window.</source>
+    <translation>A toolbox for makers of mobile and desktop apps: icons, placeholders, retina pictures, colors, devices and package checks in one window.</translation>
   </message>
   <message id="ABOUT_TWITTER">
     <source>Twitter</source>
@@ -828,7 +828,7 @@
     <translation>Stop</translation>
   </message>
 
-  <!-- Colour codes -->
+  <!-- Color codes -->
   <message id="COLOR_IOS">
     <source>For iOS, as UIColor</source>
     <translation>For iOS, as UIColor</translation>
@@ -886,36 +886,36 @@
     <translation>clipped in sRGB</translation>
   </message>
   <message id="COLOR_CLIPPED_TIP">
-    <source>sRGB cannot show this colour; its sRGB code is the nearest edge of sRGB</source>
-    <translation>sRGB cannot show this colour; its sRGB code is the nearest edge of sRGB</translation>
+    <source>sRGB cannot show this color; its sRGB code is the nearest edge of sRGB</source>
+    <translation>sRGB cannot show this color; its sRGB code is the nearest edge of sRGB</translation>
   </message>
   <message id="COLOR_COPY_FORM">
     <source>Copy [FORM]</source>
     <translation>Copy [FORM]</translation>
   </message>
   <message id="COLOR_ANY_FIELD">
-    <source>Colour in any form</source>
-    <translation>Colour in any form</translation>
+    <source>Color in any form</source>
+    <translation>Color in any form</translation>
   </message>
   <message id="COLOR_ANY_HINT">
     <source>A code in any language, or a CSS name.</source>
     <translation>A code in any language, or a CSS name.</translation>
   </message>
   <message id="COLOR_REFUSED">
-    <source>This is no colour code. The colour stays as it is.</source>
-    <translation>This is no colour code. The colour stays as it is.</translation>
+    <source>This is no color code. The color stays as it is.</source>
+    <translation>This is no color code. The color stays as it is.</translation>
   </message>
   <message id="COLOR_CONTRAST">
     <source>Contrast on</source>
     <translation>Contrast on</translation>
   </message>
   <message id="COLOR_BACKGROUND_FIELD">
-    <source>Background colour in any form</source>
-    <translation>Background colour in any form</translation>
+    <source>Background color in any form</source>
+    <translation>Background color in any form</translation>
   </message>
   <message id="COLOR_BACKGROUND_WELL">
-    <source>Background colour well, opens the colour picker</source>
-    <translation>Background colour well, opens the colour picker</translation>
+    <source>Background color well, opens the color picker</source>
+    <translation>Background color well, opens the color picker</translation>
   </message>
   <message id="COLOR_RATIO_TIP">
     <source>Contrast ratio as WCAG 2 defines it, 1 to 21</source>
@@ -950,28 +950,28 @@
     <translation>Nearest</translation>
   </message>
   <message id="COLOR_NEAREST_TIP">
-    <source>Take the most similar colour that passes [LEVEL]</source>
-    <translation>Take the most similar colour that passes [LEVEL]</translation>
+    <source>Take the most similar color that passes [LEVEL]</source>
+    <translation>Take the most similar color that passes [LEVEL]</translation>
   </message>
   <message id="COLOR_ALL_PASS">
-    <source>This colour passes already</source>
-    <translation>This colour passes already</translation>
+    <source>This color passes already</source>
+    <translation>This color passes already</translation>
   </message>
   <message id="COLOR_NONE_PASSES">
-    <source>No colour passes [LEVEL] on this background</source>
-    <translation>No colour passes [LEVEL] on this background</translation>
+    <source>No color passes [LEVEL] on this background</source>
+    <translation>No color passes [LEVEL] on this background</translation>
   </message>
   <message id="COLOR_PALETTE">
     <source>Palette</source>
     <translation>Palette</translation>
   </message>
   <message id="COLOR_PALETTE_LIST">
-    <source>Colours picked so far</source>
-    <translation>Colours picked so far</translation>
+    <source>Colors picked so far</source>
+    <translation>Colors picked so far</translation>
   </message>
   <message id="COLOR_PALETTE_EMPTY">
-    <source>Every colour that you pick on either side is kept here until the program ends.</source>
-    <translation>Every colour that you pick on either side is kept here until the program ends.</translation>
+    <source>Every color that you pick on either side is kept here until the program ends.</source>
+    <translation>Every color that you pick on either side is kept here until the program ends.</translation>
   </message>
   <message id="COLOR_PALETTE_ADD">
     <source>Add</source>
@@ -1018,8 +1018,8 @@
     <translation>File format of the palette</translation>
   </message>
   <message id="COLOR_FORMAT_SETS">
-    <source>Colour sets</source>
-    <translation>Colour sets</translation>
+    <source>Color sets</source>
+    <translation>Color sets</translation>
   </message>
   <message id="COLOR_FORMAT_GPL">
     <source>GIMP (.gpl)</source>
@@ -1034,22 +1034,22 @@
     <translation>CSS variables</translation>
   </message>
   <message id="COLOR_ALERT_TITLE">
-    <source>This is no colour code</source>
-    <translation>This is no colour code</translation>
+    <source>This is no color code</source>
+    <translation>This is no color code</translation>
   </message>
   <message id="COLOR_ALERT_MESSAGE">
     <source>Type three or six hexadecimal digits, for example #abc or #34485e.</source>
     <translation>Type three or six hexadecimal digits, for example #abc or #34485e.</translation>
   </message>
 
-  <!-- Colour codes: the colour picker -->
+  <!-- Color codes: the color picker -->
   <message id="COLOR_PICKER">
-    <source>Colours</source>
-    <translation>Colours</translation>
+    <source>Colors</source>
+    <translation>Colors</translation>
   </message>
   <message id="COLOR_MODE_WHEEL">
-    <source>Colour wheel</source>
-    <translation>Colour wheel</translation>
+    <source>Color wheel</source>
+    <translation>Color wheel</translation>
   </message>
   <message id="COLOR_MODE_RGB">
     <source>RGB sliders</source>
@@ -1059,9 +1059,9 @@
     <source>HSB sliders</source>
     <translation>HSB sliders</translation>
   </message>
-  <message id="COLOR_MODE_GREY">
-    <source>Grey slider</source>
-    <translation>Grey slider</translation>
+  <message id="COLOR_MODE_GRAY">
+    <source>Gray slider</source>
+    <translation>Gray slider</translation>
   </message>
   <message id="COLOR_MODE_PALETTE">
     <source>Palette</source>
@@ -1072,8 +1072,8 @@
     <translation>Sliders</translation>
   </message>
   <message id="COLOR_MODE_RECENT">
-    <source>Recent colours</source>
-    <translation>Recent colours</translation>
+    <source>Recent colors</source>
+    <translation>Recent colors</translation>
   </message>
   <message id="COLOR_CHANNEL_RED">
     <source>Red</source>
@@ -1099,9 +1099,9 @@
     <source>Brightness</source>
     <translation>Brightness</translation>
   </message>
-  <message id="COLOR_CHANNEL_GREY">
-    <source>Grey</source>
-    <translation>Grey</translation>
+  <message id="COLOR_CHANNEL_GRAY">
+    <source>Gray</source>
+    <translation>Gray</translation>
   </message>
   <message id="COLOR_CHANNEL_OPACITY">
     <source>Opacity</source>
@@ -1116,8 +1116,8 @@
     <translation>Kind of sliders</translation>
   </message>
   <message id="COLOR_PALETTE_LUMORA">
-    <source>Colours of the tools</source>
-    <translation>Colours of the tools</translation>
+    <source>Colors of the tools</source>
+    <translation>Colors of the tools</translation>
   </message>
   <message id="COLOR_PALETTE_DARK">
     <source>[NAME], dark shade</source>
@@ -1136,40 +1136,40 @@
     <translation>Rule</translation>
   </message>
   <message id="COLOR_PALETTE_WEB">
-    <source>Named colours of the web</source>
-    <translation>Named colours of the web</translation>
+    <source>Named colors of the web</source>
+    <translation>Named colors of the web</translation>
   </message>
   <message id="COLOR_RECENT_EMPTY">
-    <source>The colours you pick are kept here until you quit Lumora.</source>
-    <translation>The colours you pick are kept here until you quit Lumora.</translation>
+    <source>The colors you pick are kept here until you quit Lumora.</source>
+    <translation>The colors you pick are kept here until you quit Lumora.</translation>
   </message>
   <message id="COLOR_HEX">
     <source>Hexadecimal code</source>
     <translation>Hexadecimal code</translation>
   </message>
   <message id="COLOR_PIPETTE">
-    <source>Pick a colour from the screen</source>
-    <translation>Pick a colour from the screen</translation>
+    <source>Pick a color from the screen</source>
+    <translation>Pick a color from the screen</translation>
   </message>
   <message id="COLOR_SCREEN_PIPETTE">
-    <source>Pick up a screen colour</source>
-    <translation>Pick up a screen colour</translation>
+    <source>Pick up a screen color</source>
+    <translation>Pick up a screen color</translation>
   </message>
   <message id="COLOR_PIPETTE_FAILED_TITLE">
-    <source>No colour picked</source>
-    <translation>No colour picked</translation>
+    <source>No color picked</source>
+    <translation>No color picked</translation>
   </message>
   <message id="COLOR_NO_OPACITY">
-    <source>The colour is [PERCENT] % opaque. These codes carry no opacity: they are for the opaque colour.</source>
-    <translation>The colour is [PERCENT] % opaque. These codes carry no opacity: they are for the opaque colour.</translation>
+    <source>The color is [PERCENT] % opaque. These codes carry no opacity: they are for the opaque color.</source>
+    <translation>The color is [PERCENT] % opaque. These codes carry no opacity: they are for the opaque color.</translation>
   </message>
   <message id="COLOR_CLICK_COPIES">
     <source>Click to copy</source>
     <translation>Click to copy</translation>
   </message>
   <message id="COLOR_PIPETTE_FAILED_MESSAGE">
-    <source>The system did not let Lumora read the screen. Allow it in the system settings, or choose the colour here.</source>
-    <translation>The system did not let Lumora read the screen. Allow it in the system settings, or choose the colour here.</translation>
+    <source>The system did not let Lumora read the screen. Allow it in the system settings, or choose the color here.</source>
+    <translation>The system did not let Lumora read the screen. Allow it in the system settings, or choose the color here.</translation>
   </message>
 
   <!-- Device matrix -->
@@ -1512,8 +1512,8 @@
     <translation>Release build</translation>
   </message>
   <message id="VALIDATER_APP_LOCALIZATIONS">
-    <source>Localisations</source>
-    <translation>Localisations</translation>
+    <source>Localizations</source>
+    <translation>Localizations</translation>
   </message>
   <message id="VALIDATER_APP_URL_SCHEMES">
     <source>URL schemes</source>
@@ -1524,7 +1524,7 @@
     <translation>Facebook app ID</translation>
   </message>
 
-  <!-- App package check: explanations; lists follow the localisations and URL scheme texts directly, so these end in a line break -->
+  <!-- App package check: explanations; lists follow the localizations and URL scheme texts directly, so these end in a line break -->
   <message id="VALID_TEXT">
     <source>Looks good</source>
     <translation>Looks good</translation>
@@ -1578,9 +1578,9 @@
     <translation>The provisioning profile lists test devices. Sign the app with a distribution profile for the store.</translation>
   </message>
   <message id="VALIDATE_LOCALIZATIONS_TEXT">
-    <source>The app is localised for:
+    <source>The app is localized for:
 </source>
-    <translation>The app is localised for:
+    <translation>The app is localized for:
 </translation>
   </message>
   <message id="VALIDATE_URLSCHEME_TEXT">
@@ -1806,8 +1806,8 @@
     <translation>Side of this tool</translation>
   </message>
   <message id="ACCESSIBLE_MINIMIZE">
-    <source>Minimise window</source>
-    <translation>Minimise window</translation>
+    <source>Minimize window</source>
+    <translation>Minimize window</translation>
   </message>
   <message id="ACCESSIBLE_ZOOM">
     <source>Zoom window</source>
@@ -1866,12 +1866,12 @@
     <translation>Progress of the down-scaling</translation>
   </message>
   <message id="ACCESSIBLE_COLOR_FIELD">
-    <source>Colour code</source>
-    <translation>Colour code</translation>
+    <source>Color code</source>
+    <translation>Color code</translation>
   </message>
   <message id="ACCESSIBLE_COLOR_WELL">
-    <source>Colour well, opens the colour picker</source>
-    <translation>Colour well, opens the colour picker</translation>
+    <source>Color well, opens the color picker</source>
+    <translation>Color well, opens the color picker</translation>
   </message>
   <message id="ACCESSIBLE_DEVICE_MATCH">
     <source>[DEVICE], meets the choice</source>
@@ -1929,8 +1929,8 @@
     <translation>lumora COMMAND [ARGUMENT]...</translation>
   </message>
   <message id="CLI_PROGRAM_ABOUT">
-    <source>Icons, placeholders, down-scaling, colour codes, devices and app package checks for people who make apps. Without a command the window opens, with the given files if there are any.</source>
-    <translation>Icons, placeholders, down-scaling, colour codes, devices and app package checks for people who make apps. Without a command the window opens, with the given files if there are any.</translation>
+    <source>Icons, placeholders, down-scaling, color codes, devices and app package checks for people who make apps. Without a command the window opens, with the given files if there are any.</source>
+    <translation>Icons, placeholders, down-scaling, color codes, devices and app package checks for people who make apps. Without a command the window opens, with the given files if there are any.</translation>
   </message>
   <message id="CLI_COMMANDS">
     <source>Commands</source>
@@ -1997,16 +1997,16 @@
     <translation>Write icons of sizes of your own</translation>
   </message>
   <message id="CLI_PLACEHOLDERS_ABOUT">
-    <source>Write grey pictures labelled with their size</source>
-    <translation>Write grey pictures labelled with their size</translation>
+    <source>Write gray pictures labeled with their size</source>
+    <translation>Write gray pictures labeled with their size</translation>
   </message>
   <message id="CLI_DOWNSCALE_ABOUT">
     <source>Halve double-resolution PNG pictures</source>
     <translation>Halve double-resolution PNG pictures</translation>
   </message>
   <message id="CLI_COLOR_ABOUT">
-    <source>Print a colour as code</source>
-    <translation>Print a colour as code</translation>
+    <source>Print a color as code</source>
+    <translation>Print a color as code</translation>
   </message>
   <message id="CLI_DEVICES_ABOUT">
     <source>List the iPhones, iPods and iPads that can run an app</source>
@@ -2045,8 +2045,8 @@
     <translation>Dark icon for iOS and Icon Composer</translation>
   </message>
   <message id="CLI_ICONS_TINTED">
-    <source>Tinted icon for iOS and Icon Composer: shades of grey, opaque</source>
-    <translation>Tinted icon for iOS and Icon Composer: shades of grey, opaque</translation>
+    <source>Tinted icon for iOS and Icon Composer: shades of gray, opaque</source>
+    <translation>Tinted icon for iOS and Icon Composer: shades of gray, opaque</translation>
   </message>
   <message id="CLI_ICONS_FOREGROUND">
     <source>Foreground of an adaptive icon, as large as its layer</source>
@@ -2301,8 +2301,8 @@
     <translation>Write all halves into DIR, without sub-folders; with --layout in the folders of their sources</translation>
   </message>
   <message id="CLI_COLOR_TEXT">
-    <source>Three or six hexadecimal digits, with or without #; with --form, --all or --contrast a colour in any form</source>
-    <translation>Three or six hexadecimal digits, with or without #; with --form, --all or --contrast a colour in any form</translation>
+    <source>Three or six hexadecimal digits, with or without #; with --form, --all or --contrast a color in any form</source>
+    <translation>Three or six hexadecimal digits, with or without #; with --form, --all or --contrast a color in any form</translation>
   </message>
   <message id="CLI_COLOR_AS">
     <source>Notation to print: [WORDS]; all prints each with its name</source>
@@ -2697,8 +2697,8 @@
     <translation>see --help</translation>
   </message>
   <message id="CLI_HIGH_DYNAMIC_RANGE">
-    <source>has colours of high dynamic range</source>
-    <translation>has colours of high dynamic range</translation>
+    <source>has colors of high dynamic range</source>
+    <translation>has colors of high dynamic range</translation>
   </message>
   <message id="CLI_HIGH_DYNAMIC_RANGE_ADVICE">
     <source>convert it to sRGB or Display P3 first</source>
@@ -2777,12 +2777,12 @@
     <translation>exists, would be replaced</translation>
   </message>
   <message id="CLI_NO_COLOR">
-    <source>is no colour code</source>
-    <translation>is no colour code</translation>
+    <source>is no color code</source>
+    <translation>is no color code</translation>
   </message>
   <message id="CLI_NO_COLOR_ADVICE">
-    <source>give three or six hexadecimal digits, with or without #, such as #abc or #34485e, or add --form for a colour in any form</source>
-    <translation>give three or six hexadecimal digits, with or without #, such as #abc or #34485e, or add --form for a colour in any form</translation>
+    <source>give three or six hexadecimal digits, with or without #, such as #abc or #34485e, or add --form for a color in any form</source>
+    <translation>give three or six hexadecimal digits, with or without #, such as #abc or #34485e, or add --form for a color in any form</translation>
   </message>
   <message id="CLI_NOT_NAMED_IPA">
     <source>the name does not end in .ipa, .app or .xcarchive</source>
@@ -2909,12 +2909,12 @@
     <translation>Print forms that have one in their Display P3 variant</translation>
   </message>
   <message id="CLI_COLOR_CONTRAST">
-    <source>Judge the contrast with another colour by WCAG 2</source>
-    <translation>Judge the contrast with another colour by WCAG 2</translation>
+    <source>Judge the contrast with another color by WCAG 2</source>
+    <translation>Judge the contrast with another color by WCAG 2</translation>
   </message>
   <message id="CLI_COLOR_NO_FORM">
-    <source>is no colour in a form that is known</source>
-    <translation>is no colour in a form that is known</translation>
+    <source>is no color in a form that is known</source>
+    <translation>is no color in a form that is known</translation>
   </message>
   <message id="CLI_COLOR_NO_FORM_ADVICE">
     <source>write it as code would, such as #336699, rgb(51 102 153) or Color(0xFF336699), or as a CSS name</source>
@@ -2997,12 +2997,12 @@
     <translation>What the pictures say; {size}, {width} and {height} are filled in, \n begins a line</translation>
   </message>
   <message id="CLI_PLACEHOLDERS_FOREGROUND">
-    <source>Colour of the text, in any form of lumora color</source>
-    <translation>Colour of the text, in any form of lumora color</translation>
+    <source>Color of the text, in any form of lumora color</source>
+    <translation>Color of the text, in any form of lumora color</translation>
   </message>
   <message id="CLI_PLACEHOLDERS_BACKGROUND">
-    <source>Colour of the ground, in any form of lumora color</source>
-    <translation>Colour of the ground, in any form of lumora color</translation>
+    <source>Color of the ground, in any form of lumora color</source>
+    <translation>Color of the ground, in any form of lumora color</translation>
   </message>
   <message id="CLI_PLACEHOLDERS_FORMAT">
     <source>File type: [WORDS]</source>
@@ -3217,8 +3217,8 @@
     <translation>not enough memory</translation>
   </message>
   <message id="DETAIL_UNKNOWN_COLOR_FORM">
-    <source>no colour in any form that is known</source>
-    <translation>no colour in any form that is known</translation>
+    <source>no color in any form that is known</source>
+    <translation>no color in any form that is known</translation>
   </message>
   <message id="DETAIL_EMPTY_PICTURE">
     <source>the picture is empty</source>
@@ -3273,24 +3273,24 @@
     <translation>[WIDTH] x [HEIGHT] pixels</translation>
   </message>
   <message id="DETAIL_MORE_COLORS">
-    <source>more than [COUNT] colours</source>
-    <translation>more than [COUNT] colours</translation>
+    <source>more than [COUNT] colors</source>
+    <translation>more than [COUNT] colors</translation>
   </message>
   <message id="DETAIL_UNKNOWN_COLOR">
-    <source>[NAME]: [COLOR] is no colour that is known</source>
-    <translation>[NAME]: [COLOR] is no colour that is known</translation>
+    <source>[NAME]: [COLOR] is no color that is known</source>
+    <translation>[NAME]: [COLOR] is no color that is known</translation>
   </message>
   <message id="DETAIL_LINE">
     <source>line [LINE]</source>
     <translation>line [LINE]</translation>
   </message>
   <message id="DETAIL_UNKNOWN_COLOR_SET">
-    <source>a colour set with a colour that is not known</source>
-    <translation>a colour set with a colour that is not known</translation>
+    <source>a color set with a color that is not known</source>
+    <translation>a color set with a color that is not known</translation>
   </message>
   <message id="DETAIL_NO_COLOR">
-    <source>no colour in it</source>
-    <translation>no colour in it</translation>
+    <source>no color in it</source>
+    <translation>no color in it</translation>
   </message>
   <message id="DETAIL_QUOTATION_MARKS">
     <source>line [LINE]: quotation marks do not match</source>

@@ -83,7 +83,7 @@ MISTAKES = [
     ("downscale '' --to out", 2, "lumora downscale: SOURCE is empty"),
     ("downscale icon.png --to out --overwirte", 2, "lumora downscale: --overwirte is no option; did you mean --overwrite?"),
     ("color", 2, "lumora color: TEXT is missing"),
-    ("color 1z2z3z", 1, 'lumora: "1z2z3z": is no colour code; give three or six hexadecimal digits'),
+    ("color 1z2z3z", 1, 'lumora: "1z2z3z": is no color code; give three or six hexadecimal digits'),
     ("color abc --as CSS", 2, 'lumora color: --as takes hex, ios, mac, rgb, css or all, not "CSS"; did you mean css?'),
     ("devices --ios ''", 2, "lumora devices: --ios is empty"),
     ("devices --ios 7.0", 2, 'lumora devices: --ios takes 4, 5, 6 or 7, not "7.0"; did you mean 7?'),

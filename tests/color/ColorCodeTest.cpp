@@ -28,7 +28,7 @@ private slots:
             QTest::newRow(name) << text << QString(u"[UIColor colorWithRed:"_s + tail + u"f]"_s)
                                 << QString(u"[NSColor colorWithCalibratedRed:"_s + tail + u"f]"_s) << rgb << css;
         };
-        row("the colour at start-up", u"#34485e"_s, u"0.204 0.282 0.369 1.000"_s, u"rgb(52, 72, 94)"_s,
+        row("the color at start-up", u"#34485e"_s, u"0.204 0.282 0.369 1.000"_s, u"rgb(52, 72, 94)"_s,
             u"color: #34485e;"_s);
         row("three digits", u"#abc"_s, u"0.667 0.733 0.800 1.000"_s, u"rgb(170, 187, 204)"_s, u"color: #abc;"_s);
         row("three digits without a hash sign", u"abc"_s, u"0.667 0.733 0.800 1.000"_s, u"rgb(170, 187, 204)"_s,
@@ -95,9 +95,9 @@ private slots:
         QTest::newRow("hash sign and six") << u"#aabbcc"_s << true;
         QTest::newRow("six") << u"aabbcc"_s << true;
         QTest::newRow("two") << u"ab"_s << false;
-        QTest::newRow("hash sign and two: long enough, but no colour") << u"#ab"_s << false;
+        QTest::newRow("hash sign and two: long enough, but no color") << u"#ab"_s << false;
         QTest::newRow("five") << u"12345"_s << false;
-        QTest::newRow("seven digits: short enough, but no colour") << u"1234567"_s << false;
+        QTest::newRow("seven digits: short enough, but no color") << u"1234567"_s << false;
         QTest::newRow("empty") << u""_s << false;
         QTest::newRow("eight digits") << u"#aabbccdd"_s << false;
         QTest::newRow("three digits among too many hash signs") << u"#####abc"_s << false;

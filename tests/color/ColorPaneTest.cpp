@@ -234,7 +234,7 @@ private slots:
 
         QTest::newRow("a seventh digit undoes itself") << u"#1234567"_s << u"#123456"_s << u"#123456"_s;
         QTest::newRow("three digits are taken") << u"#abc"_s << u"#abc"_s << u"#aabbcc"_s;
-        QTest::newRow("four digits leave the colour of three") << u"#abcd"_s << u"#abcd"_s << u"#aabbcc"_s;
+        QTest::newRow("four digits leave the color of three") << u"#abcd"_s << u"#abcd"_s << u"#aabbcc"_s;
         QTest::newRow("without a hash sign") << u"80FF00"_s << u"80FF00"_s << u"#80ff00"_s;
         QTest::newRow("no digits") << u"zzz"_s << u"zzz"_s << u"#34485e"_s;
         QTest::newRow("two digits") << u"#12"_s << u"#12"_s << u"#34485e"_s;
@@ -304,8 +304,8 @@ private slots:
         QTest::addColumn<QString>("content");
         QTest::addColumn<bool>("taken");
 
-        QTest::newRow("a colour") << u"color"_s << true;
-        QTest::newRow("a text that is a colour") << u"text"_s << true;
+        QTest::newRow("a color") << u"color"_s << true;
+        QTest::newRow("a text that is a color") << u"text"_s << true;
         QTest::newRow("another text") << u"prose"_s << false;
         QTest::newRow("a picture") << u"image"_s << false;
         QTest::newRow("a picture that comes with a text") << u"image and text"_s << false;
@@ -338,8 +338,8 @@ private slots:
         QTest::addColumn<bool>("withPicture");
         QTest::addColumn<QString>("shown");
 
-        QTest::newRow("a colour") << QColor(1, 2, 3) << u""_s << false << u"#010203"_s;
-        QTest::newRow("a colour's code") << QColor() << u" #80FF00\n"_s << false << u"#80ff00"_s;
+        QTest::newRow("a color") << QColor(1, 2, 3) << u""_s << false << u"#010203"_s;
+        QTest::newRow("a color's code") << QColor() << u" #80FF00\n"_s << false << u"#80ff00"_s;
         QTest::newRow("another text") << QColor() << u"hello"_s << false << u"#34485e"_s;
         QTest::newRow("a picture") << QColor() << u""_s << true << u"#34485e"_s;
     }

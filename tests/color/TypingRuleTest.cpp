@@ -23,9 +23,9 @@ private slots:
         QTest::newRow("a seventh digit in the middle costs the last") << u"#1239456"_s << u"#123945"_s << u"123945"_s;
         QTest::newRow("a long pasted text loses one character") << u"#123456789"_s << u"#12345678"_s << none;
         QTest::newRow("eight characters come down to seven") << u"12345678"_s << u"#1234567"_s << none;
-        QTest::newRow("six digits make a colour") << u"#34485e"_s << none << u"34485e"_s;
+        QTest::newRow("six digits make a color") << u"#34485e"_s << none << u"34485e"_s;
         QTest::newRow("six digits without the hash sign") << u"34485e"_s << none << u"34485e"_s;
-        QTest::newRow("three digits make a colour") << u"#abc"_s << none << u"abc"_s;
+        QTest::newRow("three digits make a color") << u"#abc"_s << none << u"abc"_s;
         QTest::newRow("hash signs anywhere do not count") << u"a#b#c#"_s << none << u"abc"_s;
         QTest::newRow("upper case is kept") << u"#80FF00"_s << none << u"80FF00"_s;
         QTest::newRow("letters that are no digits are left to the conversion") << u"#zzz"_s << none << u"zzz"_s;

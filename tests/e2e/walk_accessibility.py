@@ -10,7 +10,7 @@ from pathlib import Path
 from desktop import wait_for
 from window_system import Desktop
 
-HELP_TITLES = ("Icon generator", "Placeholder generator", "Retina down-scaler", "Colour codes", "Device matrix",
+HELP_TITLES = ("Icon generator", "Placeholder generator", "Retina down-scaler", "Color codes", "Device matrix",
                "App package check")
 TOOLS = len(HELP_TITLES)
 # The roles of operable controls. The others are containers and texts.
@@ -67,12 +67,12 @@ def names_are_complete(desktop, lumora):
     lumora.wait_gone("KESTREL interactive")
 
     lumora.controls("page tab")[3].press()
-    lumora.find("color chooser", "Colour well, opens the colour picker").press()
+    lumora.find("color chooser", "Color well, opens the color picker").press()
     for page in wait_for("the picker's pages", lambda: lumora.controls("page tab")[TOOLS:]):
         page.press()
         wait_for(f"{page.name} to be selected", lambda page=page: page.has_state("selected"))
         check(f"the picker's {page.name}")
-    lumora.find("color chooser", "Colour well, opens the colour picker").press()
+    lumora.find("color chooser", "Color well, opens the color picker").press()
     lumora.wait_gone("Hexadecimal code")
 
 
@@ -155,10 +155,10 @@ def popovers_are_announced(desktop, lumora):
     desktop.key("ctrl+2")
     opens("This size will not work", lumora.button("Generate", 2))
     desktop.key("ctrl+4")
-    lumora.find("text", "Colour code").set_text("")
-    opens("This is no colour code", lumora.button("Copy CSS"))
-    lumora.find("text", "Colour code").set_text("#34485e")
-    opens("Colours", lumora.find("color chooser", "Colour well, opens the colour picker"))
+    lumora.find("text", "Color code").set_text("")
+    opens("This is no color code", lumora.button("Copy CSS"))
+    lumora.find("text", "Color code").set_text("#34485e")
+    opens("Colors", lumora.find("color chooser", "Color well, opens the color picker"))
 
 
 def main(program):

@@ -64,12 +64,12 @@ def controls_speak(desktop, lumora, reader):
     reader.hears(SELECTION, "page tab", tabs[3].name, lambda: desktop.key("ctrl+4"))
 
     # A button whose caption changes, and comes back.
-    lumora.find("text", "Colour code").set_text("#34485e")
+    lumora.find("text", "Color code").set_text("#34485e")
     reader.hears(NAME, "push button", None, lumora.button("Copy CSS").press)
     lumora.wait_shown("Copy CSS")
 
     # The picker: its pages, and its wheel by key.
-    well = lumora.find("color chooser", "Colour well, opens the colour picker")
+    well = lumora.find("color chooser", "Color well, opens the color picker")
     well.press()
     pages = wait_for("the picker's pages", lambda: lumora.controls("page tab")[len(tabs):])
     reader.hears(SELECTION, "page tab", pages[1].name, pages[1].press)

@@ -7,7 +7,7 @@ import sys
 from desktop import WAIT, wait_for
 from window_system import Desktop
 
-WELL = "Colour well, opens the colour picker"
+WELL = "Color well, opens the color picker"
 
 
 def drag(desktop, start, travel):
@@ -41,27 +41,27 @@ def by_mouse(desktop, lumora, field, on_clipboard):
     desktop.key("ctrl+a")
     desktop.type("zz")
     lumora.button("Copy iOS").click()
-    lumora.wait_shown("This is no colour code")
+    lumora.wait_shown("This is no color code")
     on_clipboard("color: #80FF00;")
     desktop.key("Escape")
-    lumora.wait_gone("This is no colour code")
+    lumora.wait_gone("This is no color code")
 
     # The picker: by key in the wheel, closed by Escape.
-    well = lumora.find("color chooser", "Colour well, opens the colour picker")
+    well = lumora.find("color chooser", "Color well, opens the color picker")
     well.click()
-    wheel = lumora.find("dial", "Colour wheel")
+    wheel = lumora.find("dial", "Color wheel")
     wheel.focus()
     before = field.text
     desktop.key("Right", "Right", "Right")
     wait_for("the field to follow the wheel", lambda: field.text != before)
     desktop.key("Escape")
-    lumora.wait_gone("Colour wheel")
+    lumora.wait_gone("Color wheel")
 
 
 def torn_off(desktop, lumora, field):
     # Dragged less than 50 points it returns; dragged further, it is detached and continues at the same place.
     lumora.find("color chooser", WELL).click()
-    wheel = lumora.find("dial", "Colour wheel")
+    wheel = lumora.find("dial", "Color wheel")
     x, y, width, _ = wheel.box
     grip = (x + width - 6, y - 16)
     drag(desktop, grip, (0, 49))
@@ -69,10 +69,10 @@ def torn_off(desktop, lumora, field):
     drag(desktop, grip, (-30, 40))
 
     def wheel_at(place):
-        return any(wheel.box[:2] == place for wheel in lumora.controls("dial", "Colour wheel"))
+        return any(wheel.box[:2] == place for wheel in lumora.controls("dial", "Color wheel"))
 
     wait_for("the picker to go on where it was let go", lambda: wheel_at((x - 30, y + 40)))
-    wheel = lumora.find("dial", "Colour wheel")
+    wheel = lumora.find("dial", "Color wheel")
 
     # It picks for the same well.
     before = field.text
@@ -81,14 +81,14 @@ def torn_off(desktop, lumora, field):
     wait_for("the field to follow the panel", lambda: field.text != before)
     # Its shortcut closes the panel, not the program.
     desktop.key("ctrl+w")
-    lumora.wait_gone("Colour wheel")
+    lumora.wait_gone("Color wheel")
     assert lumora.process.poll() is None
 
 
 def by_keyboard(desktop, lumora, field, on_clipboard):
     desktop.xdotool("mousemove", 1590, 1190)
     lumora.activate()
-    lumora.tab_to("text", "Colour code")
+    lumora.tab_to("text", "Color code")
     desktop.key("ctrl+a")
     desktop.type("#102030")
     lumora.tab_to("push button", "Copy rgb")
@@ -97,23 +97,23 @@ def by_keyboard(desktop, lumora, field, on_clipboard):
 
     well = lumora.tab_to("color chooser", WELL)
     desktop.key("space")
-    lumora.tab_to("dial", "Colour wheel")
+    lumora.tab_to("dial", "Color wheel")
     desktop.key("shift+Up", "Left")
     wait_for("the field to follow the wheel", lambda: field.text != "#102030")
     # All modes, by the arrow keys on the strip of tabs.
-    lumora.tab_to("page tab list", "Colours")
+    lumora.tab_to("page tab list", "Colors")
     desktop.key("Right")
     lumora.tab_to("slider", "Red")
     desktop.key("End")
     wait_for("the field to follow the slider", lambda: field.text.startswith("#ff"))
-    lumora.tab_to("page tab list", "Colours")
+    lumora.tab_to("page tab list", "Colors")
     desktop.key("Right")
-    lumora.tab_to("list", "Colours of the tools")
+    lumora.tab_to("list", "Colors of the tools")
     before = field.text
     desktop.key("Right")
     wait_for("the field to follow the swatches", lambda: field.text != before)
     desktop.key("Escape")
-    lumora.wait_gone("Colours of the tools")
+    lumora.wait_gone("Colors of the tools")
     wait_for("the keyboard to be back at the well", lambda: well.has_state("focused"))
 
 
@@ -125,9 +125,9 @@ def by_assistive_technology(desktop, lumora, field, on_clipboard):
     well = lumora.find("color chooser", WELL)
     well.press()
     # It opens in the last used mode.
-    lumora.find("list", "Colours of the tools")
-    lumora.find("page tab", "Colour wheel").press()
-    wheel = lumora.find("dial", "Colour wheel")
+    lumora.find("list", "Colors of the tools")
+    lumora.find("page tab", "Color wheel").press()
+    wheel = lumora.find("dial", "Color wheel")
     wheel.node.queryValue().currentValue = 120
     wait_for("the wheel to tell its hue", lambda: wheel.node.description.startswith("Hue 120°"))
     wait_for("the field to follow the wheel", lambda: field.text == "#aaccaa")
@@ -135,7 +135,7 @@ def by_assistive_technology(desktop, lumora, field, on_clipboard):
     lumora.find("slider", "Red").node.queryValue().currentValue = 17
     wait_for("the field to follow the slider", lambda: field.text == "#11ccaa")
     lumora.find("page tab", "Palette").press()
-    colors = lumora.find("list", "Named colours of the web")
+    colors = lumora.find("list", "Named colors of the web")
     tomato = next(node for node in (colors.node.getChildAtIndex(index) for index in range(colors.node.childCount))
                   if node.name == "tomato, #ff6347")
     tomato.queryAction().doAction(0)
@@ -147,8 +147,8 @@ def by_assistive_technology(desktop, lumora, field, on_clipboard):
 def main(program, clipboard_reader):
     with Desktop(program) as desktop:
         lumora = desktop.start("--tool=color")
-        lumora.wait_shown("Lumora | Colours")
-        field = lumora.find("text", "Colour code")
+        lumora.wait_shown("Lumora | Colors")
+        field = lumora.find("text", "Color code")
         assert field.text == "#34485e", field.text
 
         def on_clipboard(text):
@@ -164,9 +164,9 @@ def main(program, clipboard_reader):
 
         # The program's own keys work in a floating panel, too.
         lumora.find("color chooser", WELL).click()
-        x, y, _, height = lumora.find("page tab", "Recent colours").box
+        x, y, _, height = lumora.find("page tab", "Recent colors").box
         drag(desktop, (x + 80, y + height // 2), (0, 80))
-        wait_for("the panel to float", lambda: [panel for panel in lumora.controls("dialog", "Colours")
+        wait_for("the panel to float", lambda: [panel for panel in lumora.controls("dialog", "Colors")
                                                 if panel.box[3] == 400])
         desktop.key("ctrl+q")
         assert lumora.process.wait(WAIT) == 0

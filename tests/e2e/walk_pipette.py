@@ -7,8 +7,8 @@ from pathlib import Path
 
 from desktop import WAIT, Desktop, wait_for
 
-WELL = "Colour well, opens the colour picker"
-PIPETTE = "Pick a colour from the screen"
+WELL = "Color well, opens the color picker"
+PIPETTE = "Pick a color from the screen"
 
 
 def portal_is_there(desktop):
@@ -24,12 +24,12 @@ def main(program, color_window):
         lumora = desktop.start("--tool=color")
         def window_of(color, y):
             window = desktop.run(color_window, color)
-            number = wait_for("the window of a colour", lambda: desktop._window_of(window))
+            number = wait_for("the window of a color", lambda: desktop._window_of(window))
             desktop.xdotool("windowmove", "--sync", number, 40, y)
             place = dict(line.split("=") for line in desktop.xdotool("getwindowgeometry", "--shell", number).split())
             return int(place["X"]), int(place["Y"])
 
-        field = lumora.find("text", "Colour code")
+        field = lumora.find("text", "Color code")
         well = lumora.find("color chooser", WELL)
         blue, red = window_of("#336699", 20), window_of("#c0392b", 400)
         well.click()
@@ -39,7 +39,7 @@ def main(program, color_window):
         pipette.click()
         wait_for("the pipette to be at work", lambda: not pipette.has_state("sensitive"))
         desktop.click(blue[0] + 100, blue[1] + 100)
-        wait_for("the colour of the window", lambda: field.text == "#336699")
+        wait_for("the color of the window", lambda: field.text == "#336699")
         assert pipette.has_state("sensitive")
 
         # Escape cancels; the picker stays open.
@@ -49,7 +49,7 @@ def main(program, color_window):
         desktop.key("Escape")
         wait_for("the pipette to be let go", lambda: pipette.has_state("sensitive"))
         assert field.text == "#336699", field.text
-        assert lumora.shows("Colour wheel")
+        assert lumora.shows("Color wheel")
 
         # By key: the arrows move the pointer there from outside the window, Return picks. It has the focus again after each
         # pick.
@@ -58,7 +58,7 @@ def main(program, color_window):
         wait_for("the pipette to be at work", lambda: not pipette.has_state("sensitive"))
         desktop.xdotool("mousemove", red[0] - 12, red[1] + 50)
         desktop.key("shift+Right", "shift+Right", "Right", "Return")
-        wait_for("the colour of the other window", lambda: field.text == "#c0392b")
+        wait_for("the color of the other window", lambda: field.text == "#c0392b")
         wait_for("the focus to be back", lambda: pipette.has_state("focused"))
 
         # A portal on the bus is used instead.
@@ -66,7 +66,7 @@ def main(program, color_window):
 
         wait_for("the portal to be on the bus", lambda: portal_is_there(desktop))
         pipette.press()
-        wait_for("the portal's colour", lambda: field.text == "#3366ff")
+        wait_for("the portal's color", lambda: field.text == "#3366ff")
         wait_for("the pipette to be let go", lambda: pipette.has_state("sensitive"))
         portal.terminate()
         portal.wait(WAIT)

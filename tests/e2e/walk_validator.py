@@ -20,7 +20,7 @@ DROP_AREA = "Drop area for an app package"
 
 def shows_verdicts(lumora, **wrong):
     """Waits until the boxes show their results; the given ones must show something other than success."""
-    said = {"App icons": "passed", "Launch images": "passed", "Bundle identifier": "passed", "Localisations": "passed",
+    said = {"App icons": "passed", "Launch images": "passed", "Bundle identifier": "passed", "Localizations": "passed",
             "URL schemes": "passed", "Facebook app ID": "passed"} | wrong
     for box, verdict in said.items():
         lumora.find("check box", f"{box}: {verdict}")
@@ -96,7 +96,7 @@ def by_interface(desktop, scratch):
     field.node.queryEditableText().setTextContents(str(scratch / "no launch image.ipa"))
     lumora.button("Open").press()
     shows_verdicts(lumora, **{"Launch images": "problems found", "Bundle identifier": "problems found",
-                              "Localisations": "problems found"})
+                              "Localizations": "problems found"})
     lumora.wait_shown("Build: Release")
     said = explanation(lumora, "Launch images: problems found")
     assert all(size in said for size in ("640x960", "1136x640", "480x320")), said
@@ -124,9 +124,9 @@ def by_keys(desktop, scratch):
     lumora.wait_shown("Icon sizes are missing")
     desktop.key("Escape")
     lumora.wait_gone("Icon sizes are missing")
-    lumora.tab_to("check box", "Localisations: passed")
+    lumora.tab_to("check box", "Localizations: passed")
     desktop.key("space")
-    wait_for("the localisations", lambda: any("• French" in control.name for control in lumora.controls("label")))
+    wait_for("the localizations", lambda: any("• French" in control.name for control in lumora.controls("label")))
     desktop.key("Escape")
     wait_for("the popup to go", lambda: not any("• French" in control.name for control in lumora.controls("label")))
     lumora.tab_to("push button", "Close")

@@ -9,8 +9,8 @@ from pathlib import Path
 from desktop import wait_for
 from wayland_desktop import WaylandDesktop
 
-WELL = "Colour well, opens the colour picker"
-PIPETTE = "Pick a colour from the screen"
+WELL = "Color well, opens the color picker"
+PIPETTE = "Pick a color from the screen"
 
 
 def drag(desktop, start, travel, before_release=lambda: None):
@@ -27,10 +27,10 @@ def drag(desktop, start, travel, before_release=lambda: None):
 def main(program):
     with WaylandDesktop(program) as desktop:
         lumora = desktop.start("--tool=color")
-        field = lumora.find("text", "Colour code")
+        field = lumora.find("text", "Color code")
         well = lumora.find("color chooser", WELL)
         well.click()
-        wheel = lumora.find("dial", "Colour wheel")
+        wheel = lumora.find("dial", "Color wheel")
 
         def click_on_the_wheel(part):
             """Presses at the reported place of the wheel: at this part of its width, in the middle of its height."""
@@ -58,7 +58,7 @@ def main(program):
             time.sleep(0.5)
             return field.text == "#3366ff"
 
-        wait_for("the portal's colour", picked_by_portal)
+        wait_for("the portal's color", picked_by_portal)
         portal.terminate()
 
         # Released too early, it stays; the wheel is still there.
@@ -72,11 +72,11 @@ def main(program):
         tip = (wheel.box[0] - 20, well.box[1] + well.box[3] // 2)
         seen = {"before": desktop.pixel(*tip)}
         drag(desktop, grip, (-40, 60), lambda: seen.update(away=desktop.pixel(*tip)))
-        wait_for("the picker to float", lambda: [panel for panel in lumora.controls("dialog", "Colours")
+        wait_for("the picker to float", lambda: [panel for panel in lumora.controls("dialog", "Colors")
                                                  if panel.box_as_told[3] == 400])
         assert seen["before"] != seen["away"], f"the arrow is still there: {seen}"
         before = field.text
-        lumora.find("dial", "Colour wheel").node.queryValue().currentValue = 120
+        lumora.find("dial", "Color wheel").node.queryValue().currentValue = 120
         wait_for("the field to follow the floating picker", lambda: field.text != before)
         lumora.terminate()
 

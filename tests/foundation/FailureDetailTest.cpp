@@ -32,7 +32,7 @@ private slots:
         QTest::newRow("English") << FailureDetail("DETAIL_DAMAGED") << u"en_GB"_s << u"damaged"_s;
         QTest::newRow("German") << FailureDetail("DETAIL_DAMAGED") << u"de_DE"_s << u"beschädigt"_s;
         QTest::newRow("brackets in a value") << file << u"en_GB"_s << u"[FILE] of [COLOR].png gives the same file"_s;
-        QTest::newRow("values in any order") << color << u"en_GB"_s << u"tint: [NAME] is no colour that is known"_s;
+        QTest::newRow("values in any order") << color << u"en_GB"_s << u"tint: [NAME] is no color that is known"_s;
     }
     void isWordedInTheUsersLanguage()
     {

@@ -1,5 +1,6 @@
 # SPDX-License-Identifier: MIT
-"""Finds British spellings in the names that code declares and uses: the tree's language is American English.
+"""Finds British spellings in the names that code declares and uses, in the window's texts and in documents: the tree's language
+is American English.
 
 "Catalogue" and "judgement" are spelled both ways in America and stay; so do names that an interface from outside fixes (KEPT).
 """
@@ -24,18 +25,19 @@ KEPT = {
     "selectNeighbourItemWithValue": "an operation of ITSidebar that its design names",
     "ZIMG_COLOR_GREY": "libzimg",
 }
-LANGUAGES = {".cpp": "c", ".h": "c", ".py": "python", ".cmake": "cmake"}
+LANGUAGES = {".cpp": "c", ".h": "c", ".py": "python", ".cmake": "cmake", ".md": "prose", ".in": "prose"}
 NO_NAMES = {
     "c": re.compile(r"//[^\n]*|/\*.*?\*/|R\"(\w*)\(.*?\)\1\"|\"(?:[^\"\\\n]|\\.)*\"|^\s*#\s*include[^\n]*", re.DOTALL | re.MULTILINE),
     "python": re.compile(r"\"\"\".*?\"\"\"|'''.*?'''|#[^\n]*|\"(?:[^\"\\\n]|\\.)*\"|'(?:[^'\\\n]|\\.)*'", re.DOTALL),
     "cmake": re.compile(r"#[^\n]*|\"(?:[^\"\\]|\\.)*\"", re.DOTALL),
+    "prose": re.compile(r"https?://\S+|^\S*\[de\]=.*$|<(\w+) xml:lang=\"de\">.*?</\1>|`[^`\n]*`", re.DOTALL | re.MULTILINE),
 }
 NAME = re.compile(r"[A-Za-z_]\w{3,}")
 PARTS = re.compile(r"[A-Z]+(?![a-z])|[A-Z]?[a-z]+")
 
 
 def language_of(file: Path) -> str | None:
-    return "cmake" if file.name == "CMakeLists.txt" else LANGUAGES.get(file.suffix)
+    return {"CMakeLists.txt": "cmake", "lumora_en.ts": "prose"}.get(file.name, LANGUAGES.get(file.suffix))
 
 
 def is_british(name: str) -> bool:

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""Names are American English."""
+"""Names, texts and documents are American English."""
 
 import os
 import tempfile
@@ -18,6 +18,9 @@ FAULTS = {
     "an operation": ("a.cpp", "void Sidebar::normaliseAll() { minimise(); }", ["minimise", "normaliseAll"]),
     "a doubled letter": ("a.cpp", "bool isLabelled = cancelled;", ["cancelled", "isLabelled"]),
     "a test": ("a.py", "def test_colours_stay(self):", ["test_colours_stay"]),
+    "a text of the window": ("lumora_en.ts", "<translation>A grey centre</translation>", ["centre", "grey"]),
+    "a document": ("a.md", "The colour of `colour`.", ["colour"]),
+    "a desktop entry": ("a.desktop.in", "Name=Colours\nName[de]=Grey", ["Colours"]),
     "a target": ("CMakeLists.txt", "add_library(lumora_colours STATIC)", ["lumora_colours"]),
 }
 SOUND = {

@@ -62,11 +62,11 @@ private slots:
         QTest::newRow("files with generic only: none")
             << false << true << DragOperations(genericOp) << DragOperation::None;
         QTest::newRow("files with nothing: none") << false << true << DragOperations() << DragOperation::None;
-        QTest::newRow("colour and files with everything: generic") << true << true << all << genericOp;
-        QTest::newRow("colour and files without generic: link")
+        QTest::newRow("color and files with everything: generic") << true << true << all << genericOp;
+        QTest::newRow("color and files without generic: link")
             << true << true << DragOperations(copyOp | linkOp) << linkOp;
-        QTest::newRow("colour alone with generic: generic") << true << false << DragOperations(genericOp) << genericOp;
-        QTest::newRow("colour alone without generic: none")
+        QTest::newRow("color alone with generic: generic") << true << false << DragOperations(genericOp) << genericOp;
+        QTest::newRow("color alone without generic: none")
             << true << false << DragOperations(linkOp) << DragOperation::None;
         QTest::newRow("neither: none") << false << false << all << DragOperation::None;
     }
@@ -91,8 +91,8 @@ private slots:
         QTest::newRow("an empty list as it is") << QStringList() << false << DragOperations(linkOp) << 1 << 0 << false;
         QTest::newRow("copy only: logged, nothing delivered")
             << three << false << DragOperations(copyOp) << 0 << 0 << true;
-        QTest::newRow("a colour goes before the files") << three << true << DragOperations(linkOp) << 0 << 1 << false;
-        QTest::newRow("a colour needs no operation") << three << true << DragOperations() << 0 << 1 << false;
+        QTest::newRow("a color goes before the files") << three << true << DragOperations(linkOp) << 0 << 1 << false;
+        QTest::newRow("a color needs no operation") << three << true << DragOperations() << 0 << 1 << false;
     }
     void drop()
     {

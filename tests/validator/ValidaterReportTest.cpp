@@ -126,7 +126,7 @@ private slots:
                  u"one icon.ipa\n1 of 6 checks failed\n\nName: Demo\nVersion: 1.2.3\nPlatform: iPhone\n"
                  "Oldest iOS: 7.0\nBundle ID: com.example.app\nBuild: Debug\n\nApp icons: problems found\n"
                  "  Missing, in pixels: 114x114, 60x60, 120x120, 29x29, 58x58, 40x40, 80x80, 512x512, 1024x1024\n"
-                 "Launch images: passed\nBundle identifier: passed\nLocalisations: passed\nURL schemes: passed\n"
+                 "Launch images: passed\nBundle identifier: passed\nLocalizations: passed\nURL schemes: passed\n"
                  "Facebook app ID: passed\n"_s);
     }
 

@@ -129,7 +129,7 @@ ControlPage::ControlPage(QWidget *parent) : GalleryPage(parent)
     addStates(u"RadioButton"_s, [] { return named<RadioButton>("Radio"); });
     addStates(u"active"_s, [] { return active(named<RadioButton>("Radio")); });
     addStates(u"HoverButton"_s, [] { return hoverButton(palette::placeholders, palette::placeholdersBorder); });
-    addStates(u"in a light colour"_s, [] { return hoverButton(palette::validator, palette::validatorBorder); });
+    addStates(u"in a light color"_s, [] { return hoverButton(palette::validator, palette::validatorBorder); });
     addStates(u"IconButton"_s, [] { return iconButton(); });
     addStates(u"ImageButton"_s, [] { return imageButton(); });
     findChild<ImageButton *>()->setObjectName(QLatin1StringView(popoverAnchorName));

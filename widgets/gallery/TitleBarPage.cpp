@@ -91,8 +91,8 @@ const QList<Look> &looks()
         {"Full screen", becomeFullScreen},
         {"No line below", [](auto &window) { window.setShowsBaselineSeparator(false); }},
         {"40 points high", [](auto &window) { setHeight(window, 40); }},
-        {"Own colours", color},
-        {"Own colours, not active", color, false},
+        {"Own colors", color},
+        {"Own colors, not active", color, false},
         {"Drawn by a block", drawByBlock},
         {"Lights and title at the top",
          [](auto &window) {

@@ -31,15 +31,15 @@ private slots:
         QTest::addColumn<PickerMode>("mode");
         QTest::addColumn<QStringList>("names");
 
-        const QStringList always{u"Opacity"_s, u"Opacity"_s, u"Hexadecimal code"_s, u"Pick a colour from the screen"_s};
+        const QStringList always{u"Opacity"_s, u"Opacity"_s, u"Hexadecimal code"_s, u"Pick a color from the screen"_s};
         QTest::newRow("wheel") << PickerMode::Wheel
-                               << QStringList{u"Colour wheel"_s, u"Brightness"_s, u"Brightness"_s} + always;
+                               << QStringList{u"Color wheel"_s, u"Brightness"_s, u"Brightness"_s} + always;
         QTest::newRow("sliders") << PickerMode::Sliders
                                  << QStringList{u"Kind of sliders"_s, u"Red"_s,  u"Red"_s, u"Green"_s,
                                                 u"Green"_s,           u"Blue"_s, u"Blue"_s} +
                                         always;
         QTest::newRow("palettes") << PickerMode::Palettes
-                                  << QStringList{u"Colours of the tools"_s, u"Named colours of the web"_s} + always;
+                                  << QStringList{u"Colors of the tools"_s, u"Named colors of the web"_s} + always;
     }
     void tabGoesFromTheModeToWhatEveryModeHas()
     {

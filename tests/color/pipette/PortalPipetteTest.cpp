@@ -118,12 +118,12 @@ private slots:
         QTest::addColumn<QString>("end");
 
         const QVariantMap color{{u"color"_s, QVariant::fromValue(PortalColor{0.2, 0.4, 0.6})}};
-        QTest::newRow("a colour") << 0U << color << false << false << u"picked"_s;
-        QTest::newRow("a colour under a path of the portal's choice") << 0U << color << false << true << u"picked"_s;
+        QTest::newRow("a color") << 0U << color << false << false << u"picked"_s;
+        QTest::newRow("a color under a path of the portal's choice") << 0U << color << false << true << u"picked"_s;
         QTest::newRow("the user changed their mind") << 1U << QVariantMap() << false << false << u"cancelled"_s;
         QTest::newRow("it failed") << 2U << QVariantMap() << false << false << u"failed"_s;
-        QTest::newRow("no colour in the answer") << 0U << QVariantMap() << false << false << u"failed"_s;
-        QTest::newRow("something else than a colour in the answer")
+        QTest::newRow("no color in the answer") << 0U << QVariantMap() << false << false << u"failed"_s;
+        QTest::newRow("something else than a color in the answer")
             << 0U << QVariantMap{{u"color"_s, u"#336699"_s}} << false << false << u"failed"_s;
         QTest::newRow("access is denied") << 0U << color << true << false << u"failed"_s;
     }
