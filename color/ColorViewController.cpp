@@ -3,7 +3,6 @@
 
 #include "ColorField.h"
 #include "PastedColor.h"
-#include "TypingRule.h"
 #include "color/picker/ColorWell.h"
 #include "color/pipette/Pipette.h"
 #include "color/today/TodayColorPane.h"
@@ -16,10 +15,8 @@
 #include "widgets/style/Palette.h"
 
 #include <QDropEvent>
-#include <QKeyEvent>
 #include <QMimeData>
 
-#include <algorithm>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -60,7 +57,7 @@ ColorViewController::ColorViewController(const Services &services, QObject *pare
     connect(&m_resetTimer, &QTimer::timeout, this, &ColorViewController::resetButtons);
     setUpToday();
     setTheColor(firstColor);
-    setFieldText(stringFromColor(firstColor));
+    m_ui->colorTextField->showText(stringFromColor(firstColor));
     resetButtons();
     createPopup();
 }
@@ -74,15 +71,12 @@ void ColorViewController::setUpField()
     field->setAccessibleName(qtTrId("ACCESSIBLE_COLOR_FIELD"));
     // The pane handles a dropped text. The field would accept a dropped file's name as typed text.
     field->setAcceptDrops(false);
-    field->installEventFilter(this);
-    // Not only textEdited: text from assistive technology counts as typed, too.
-    connect(field, &QLineEdit::textChanged, this, [this] {
-        if (!m_setsText)
-            controlTextDidChange(m_ui->colorTextField);
-        showCodes();
-    });
-    connect(m_ui->colorTextField, &ColorField::pasteWanted, this, &ColorViewController::pasteIntoField);
-    connect(m_ui->colorTextField, &ColorField::textOffered, this, &ColorViewController::takeText);
+    connect(m_ui->colorTextField, &HexField::typed, this, [this] { controlTextDidChange(m_ui->colorTextField); });
+    connect(field, &QLineEdit::textChanged, this, &ColorViewController::showCodes);
+    connect(m_ui->colorTextField, &HexField::digitsCompleted, this,
+            [this](const QString &digits) { static_cast<void>(colorWithHexString(digits)); });
+    connect(m_ui->colorTextField, &HexField::colorPasted, this, &ColorViewController::setTheColor);
+    connect(m_ui->colorTextField, &HexField::pasteWanted, this, &ColorViewController::pasteIntoField);
     m_ui->colorWell->setAccessibleName(qtTrId("ACCESSIBLE_COLOR_WELL"));
     connect(m_ui->colorWell, &ColorWell::colorPicked, this, &ColorViewController::colorWellReceivedColor);
 }
@@ -182,17 +176,8 @@ Result<ColorCodes> ColorViewController::colorWithHexString(const QString &text)
 
 void ColorViewController::controlTextDidChange(const QObject *notificationObject)
 {
-    QLineEdit *field = m_ui->colorTextField;
-    if (notificationObject != field)
-        return;
-    const TypingOutcome outcome = outcomeOfTyping(field->text());
-    if (outcome.correctedText) {
-        const int cursor = field->cursorPosition();
-        setFieldText(*outcome.correctedText);
-        field->setCursorPosition(std::min(cursor, static_cast<int>(outcome.correctedText->size())));
-    }
-    if (outcome.colorText)
-        static_cast<void>(colorWithHexString(*outcome.colorText));
+    if (notificationObject == m_ui->colorTextField)
+        m_ui->colorTextField->applyTypingRule();
 }
 
 void ColorViewController::colorWellReceivedColor(const ColorWell *sender)
@@ -262,9 +247,6 @@ bool ColorViewController::eventFilter(QObject *watched, QEvent *event)
 {
     if (isDropView(watched) && filterDrag(event))
         return true;
-    if (watched == m_ui->colorTextField && event->type() == QEvent::KeyPress &&
-        filterTyping(*static_cast<QKeyEvent *>(event)))
-        return true;
     if (filterCodeClick(watched, event))
         return true;
     return ToolViewController::eventFilter(watched, event);
@@ -315,15 +297,8 @@ void ColorViewController::setTheColor(const RgbaColor &color)
 void ColorViewController::takeColor(const RgbaColor &color)
 {
     setTheColor(color);
-    setFieldText(stringFromColor(color));
+    m_ui->colorTextField->showText(stringFromColor(color));
     m_today->picked();
-}
-
-void ColorViewController::setFieldText(const QString &text)
-{
-    const bool before = std::exchange(m_setsText, true);
-    m_ui->colorTextField->setText(text);
-    m_setsText = before;
 }
 
 void ColorViewController::showCodes()

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "ColorCode.h"
-#include "TypingRule.h"
 #include "tool/DropView.h"
 #include "tool/ToolViewController.h"
 
@@ -12,7 +11,6 @@
 #include <chrono>
 #include <memory>
 
-class QKeyEvent;
 class QLabel;
 
 namespace Ui
@@ -104,7 +102,6 @@ private:
 
     bool isDropView(const QObject *object) const;
     bool filterDrag(QEvent *event);
-    bool filterTyping(const QKeyEvent &event);
     bool filterCodeClick(QObject *watched, QEvent *event);
     void setUpPipette();
     void setUpToday();
@@ -113,22 +110,11 @@ private:
     ImageButton *shownPipetteButton() const;
     void endPicking();
     void pasteIntoField();
-    /// Takes the text if it is a color, else types it at the cursor.
-    void takeText(const QString &text);
-    /// The user's text after the typing rule.
-    void showCorrected(const TypingOutcome &outcome);
-    /// The same as `setFieldText`, but can be undone.
-    void replaceFieldText(const QString &text);
-    /// The field's text with its selection replaced by the typed text.
-    QString textAfterTyping(const QString &typed) const;
     void setUpField();
     void setUpRows();
     void saveTitleAndCopy(HoverButton *sender);
     void setTheColor(const RgbaColor &color);
     void takeColor(const RgbaColor &color);
-    void takePasted(const QString &digits, const RgbaColor &color);
-    /// Sets the text from the program, which does not count as typing.
-    void setFieldText(const QString &text);
     void showCodes();
 
     std::unique_ptr<Ui::ColorViewController> m_ui;
@@ -138,7 +124,6 @@ private:
     std::unique_ptr<Pipette> m_pipette;
     ImageButton *m_pickingButton = nullptr; ///< the one that started the pipette
     bool m_pipetteHadFocus = false;
-    bool m_setsText = false;
     TodayColors *m_today = nullptr; ///< owned by this
     bool m_takesFromToday = false;
 };

@@ -3,18 +3,16 @@
 #include "ColorField.h"
 #include "ColorViewController.h"
 #include "PastedColor.h"
-#include "TypingRule.h"
 #include "color/pipette/Pipette.h"
 #include "color/today/TodayColorPane.h"
 #include "color/today/TodayColors.h"
 #include "color/today/WellColor.h"
 #include "ui_ColorViewController.h"
 
-#include <QKeyEvent>
+#include <QMouseEvent>
 #include <QScopedValueRollback>
 #include <QShortcut>
 
-#include <algorithm>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -41,69 +39,7 @@ void ColorViewController::pasteIntoField()
     if (services().clipboard.color().isValid())
         paste();
     else
-        takeText(services().clipboard.plainText());
-}
-
-void ColorViewController::takeText(const QString &text)
-{
-    if (const auto pasted = pastedColor(text)) {
-        takePasted(pasted->digits, pasted->color);
-        return;
-    }
-    const QString typed = text.trimmed();
-    const TypingOutcome outcome = outcomeOfTyping(textAfterTyping(typed));
-    if (outcome.correctedText)
-        showCorrected(outcome);
-    else
-        m_ui->colorTextField->insert(typed);
-}
-
-void ColorViewController::takePasted(const QString &digits, const RgbaColor &color)
-{
-    replaceFieldText(digits);
-    setTheColor(color);
-}
-
-void ColorViewController::showCorrected(const TypingOutcome &outcome)
-{
-    if (*outcome.correctedText != m_ui->colorTextField->text())
-        replaceFieldText(*outcome.correctedText);
-    if (outcome.colorText)
-        static_cast<void>(colorWithHexString(*outcome.colorText));
-}
-
-void ColorViewController::replaceFieldText(const QString &text)
-{
-    const bool before = std::exchange(m_setsText, true);
-    m_ui->colorTextField->replaceText(text);
-    m_setsText = before;
-}
-
-QString ColorViewController::textAfterTyping(const QString &typed) const
-{
-    const QLineEdit *field = m_ui->colorTextField;
-    const bool selected = field->hasSelectedText();
-    return field->text().replace(selected ? field->selectionStart() : field->cursorPosition(),
-                                 selected ? field->selectionLength() : 0, typed);
-}
-
-bool ColorViewController::filterTyping(const QKeyEvent &event)
-{
-    const QString typed = event.text();
-    const bool isCharacter = typed.size() == 1 && typed.front().isPrint() &&
-                             (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) == 0;
-    if (!isCharacter)
-        return false;
-    // An excess character never gets into the field: removing it afterwards would clear the undo history.
-    ColorField *field = m_ui->colorTextField;
-    const QString text = textAfterTyping(typed);
-    const TypingOutcome outcome = outcomeOfTyping(text);
-    if (!outcome.correctedText)
-        return false;
-    const int cursor = field->hasSelectedText() ? field->selectionStart() : field->cursorPosition();
-    showCorrected(outcome);
-    field->setCursorPosition(std::min(cursor + 1, static_cast<int>(outcome.correctedText->size())));
-    return true;
+        m_ui->colorTextField->takeText(services().clipboard.plainText());
 }
 
 bool ColorViewController::filterCodeClick(QObject *watched, QEvent *event)
@@ -138,7 +74,7 @@ void ColorViewController::setUpToday()
         const QScopedValueRollback fromToday(m_takesFromToday, true);
         const RgbaColor shown = wellColor(color);
         setTheColor(shown);
-        setFieldText(hex8Of(color).first(7));
+        m_ui->colorTextField->showText(hex8Of(color).first(7));
     });
     connect(m_today, &TodayColors::pipetteWanted, this, &ColorViewController::pipetteButtonPressed);
     connect(m_today, &TodayColors::messageWanted, this, &ColorViewController::showPopupWithTitle);

@@ -3,20 +3,23 @@
 
 #include "ChannelRow.h"
 #include "ColorSlider.h"
+#include "HexField.h"
 #include "PickerMetrics.h"
 #include "PickerModel.h"
 #include "PickerPages.h"
 #include "SwatchList.h"
 #include "color/ColorCode.h"
-#include "color/TypingRule.h"
+
 #include "color/pipette/Pipette.h"
 #include "widgets/style/Fonts.h"
 #include "widgets/style/NamedImage.h"
 #include "widgets/style/Palette.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QLineEdit>
+#include <QMimeData>
 #include <QSpinBox>
 #include <QStackedWidget>
 #include <QToolButton>
@@ -40,7 +43,7 @@ constexpr int codeFontSize = 13;
 
 PickerContent::PickerContent(PickerModel *model, QWidget *parent)
     : QWidget(parent), m_model(model), m_pages(new QStackedWidget),
-      m_opacity(new ChannelRow(ColorChannel::Opacity, model)), m_swatch(new SwatchWidget), m_code(new QLineEdit),
+      m_opacity(new ChannelRow(ColorChannel::Opacity, model)), m_swatch(new SwatchWidget), m_code(new HexField),
       m_pipetteButton(new QToolButton), m_complaint(new QLabel)
 {
     QPalette colors = QWidget::palette();
@@ -66,12 +69,7 @@ PickerContent::PickerContent(PickerModel *model, QWidget *parent)
 
     setPipette(makeScreenPipette());
     connect(m_model, &PickerModel::pickedChanged, this, &PickerContent::showPicked);
-    // Not only textEdited: text from assistive technology counts as typed, too.
-    connect(m_code, &QLineEdit::textChanged, this, [this](const QString &text) {
-        if (!m_setsCode)
-            codeEdited(text);
-    });
-    connect(m_code, &QLineEdit::editingFinished, this, &PickerContent::codeFinished);
+    connectCode();
     connect(m_pipetteButton, &QToolButton::clicked, this, &PickerContent::pickFromScreen);
     m_pages->setCurrentWidget(page(m_mode));
     showPicked();
@@ -187,33 +185,44 @@ void PickerContent::showPicked()
         codeFinished();
 }
 
-void PickerContent::codeEdited(const QString &text)
+void PickerContent::connectCode()
 {
-    const TypingOutcome outcome = outcomeOfTyping(text);
-    if (outcome.correctedText) {
-        setCodeText(*outcome.correctedText);
-        m_code->setModified(true);
+    connect(m_code, &HexField::typed, m_code, &HexField::applyTypingRule);
+    connect(m_code, &HexField::pasteWanted, this, &PickerContent::paste);
+    connect(m_code, &HexField::digitsCompleted, this, &PickerContent::digitsCompleted);
+    connect(m_code, &HexField::colorPasted, this, &PickerContent::takeCode);
+    connect(m_code, &QLineEdit::editingFinished, this, &PickerContent::codeFinished);
+}
+
+void PickerContent::paste()
+{
+    const QMimeData *content = QGuiApplication::clipboard()->mimeData();
+    const auto color = content == nullptr ? QColor() : qvariant_cast<QColor>(content->colorData());
+    if (!color.isValid()) {
+        m_code->takeText(QGuiApplication::clipboard()->text());
+        return;
     }
-    if (!outcome.colorText)
-        return;
-    const Result<ColorCodes> codes = colorWithHexString(*outcome.colorText);
-    if (!codes)
-        return;
-    RgbaColor color = codes.value().color;
-    color.alpha = m_model->color().alpha;
-    m_model->setColor(color);
+    m_model->setColor(rgbaFrom(color));
+    codeFinished();
+}
+
+void PickerContent::digitsCompleted(const QString &digits)
+{
+    if (const Result<ColorCodes> codes = colorWithHexString(digits))
+        takeCode(codes.value().color);
+}
+
+void PickerContent::takeCode(const RgbaColor &color)
+{
+    RgbaColor taken = color;
+    if (taken.alpha >= 1.0F)
+        taken.alpha = m_model->color().alpha;
+    m_model->setColor(taken);
 }
 
 void PickerContent::codeFinished()
 {
-    setCodeText(stringFromColor(m_model->color()));
-}
-
-void PickerContent::setCodeText(const QString &text)
-{
-    const bool before = std::exchange(m_setsCode, true);
-    m_code->setText(text);
-    m_setsCode = before;
+    m_code->showText(stringFromColor(m_model->color()));
 }
 
 void PickerContent::pickFromScreen()

@@ -9,7 +9,6 @@
 #include <QWidget>
 
 class QLabel;
-class QLineEdit;
 class QStackedWidget;
 class QToolButton;
 
@@ -17,6 +16,7 @@ namespace lumora
 {
 
 class ChannelRow;
+class HexField;
 class PickerModel;
 class Pipette;
 class SwatchWidget;
@@ -44,7 +44,7 @@ public:
     void setPipette(std::unique_ptr<Pipette> pipette);
 
     ChannelRow *opacityRow() const { return m_opacity; }
-    QLineEdit *codeField() const { return m_code; }
+    HexField *codeField() const { return m_code; }
     QToolButton *pipetteButton() const { return m_pipetteButton; }
     /// Reports that the screen could not be read; hidden without an error.
     QLabel *complaint() const { return m_complaint; }
@@ -54,10 +54,12 @@ private:
     /// Makes Tab go from the page to the controls of all modes; the page is above them but made later.
     void putBehindInTabOrder(const QWidget *page);
     void showPicked();
-    void codeEdited(const QString &text);
+    void connectCode();
+    void paste();
+    void digitsCompleted(const QString &digits);
+    /// Keeps the opacity, unless the code has one.
+    void takeCode(const RgbaColor &color);
     void codeFinished();
-    /// Sets the text without counting it as typed.
-    void setCodeText(const QString &text);
     void pickFromScreen();
     void screenFailed();
     void endPicking();
@@ -69,11 +71,10 @@ private:
     RecentColors m_recent;
     ChannelRow *m_opacity;
     SwatchWidget *m_swatch;
-    QLineEdit *m_code;
+    HexField *m_code;
     QToolButton *m_pipetteButton;
     QLabel *m_complaint;
     std::unique_ptr<Pipette> m_pipette;
-    bool m_setsCode = false;
     bool m_pipetteHadFocus = false;
 };
 

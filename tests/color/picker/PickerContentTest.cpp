@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "PickerTest.h"
 
+#include "color/picker/HexField.h"
+
+#include <QClipboard>
 #include <QLabel>
-#include <QLineEdit>
+#include <QMimeData>
 #include <QSpinBox>
 #include <QToolButton>
 
@@ -70,6 +73,64 @@ private slots:
         QCOMPARE(m_picker->content.codeField()->text(), u"#8f0"_s);
         QTest::keyClick(m_picker->content.codeField(), Qt::Key_Return);
         QCOMPARE(m_picker->content.codeField()->text(), u"#88ff00"_s);
+    }
+
+    void understandsWhatIsPasted_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<RgbaColor>("color");
+        QTest::addColumn<QString>("shown");
+
+        const RgbaColor lime{128.0F / 255.0F, 1.0F, 0.0F, 0.4F};
+        const RgbaColor slate{52.0F / 255.0F, 72.0F / 255.0F, 94.0F / 255.0F, 0.4F};
+        QTest::newRow("blanks around") << u"  #80ff00 \n"_s << lime << u"#80ff00"_s;
+        QTest::newRow("rgb") << u"rgb(52, 72, 94)"_s << slate << u"#34485e"_s;
+        QTest::newRow("a declaration") << u"color: #80ff00;"_s << lime << u"#80ff00"_s;
+        QTest::newRow("own code for iOS")
+            << u"[UIColor colorWithRed:0.204f green:0.282f blue:0.369f alpha:1.000f]"_s << slate << u"#34485e"_s;
+        QTest::newRow("an opacity") << u"rgba(0, 0, 255, 0.2)"_s << RgbaColor{0.0F, 0.0F, 1.0F, 0.2F} << u"#0000ff"_s;
+        QTest::newRow("no color") << u"zz"_s << RgbaColor{0.0F, 0.0F, 0.0F, 0.4F} << u"#00zz00"_s;
+    }
+    void understandsWhatIsPasted()
+    {
+        QFETCH(QString, text);
+        QFETCH(QString, shown);
+        m_picker->model.setColor({0.0F, 0.0F, 0.0F, 0.4F});
+        HexField *field = m_picker->content.codeField();
+        field->setText(u"#0000"_s);
+        field->setFocus();
+        // In the middle of the present text, where a plain field would insert it.
+        field->setCursorPosition(3);
+        QGuiApplication::clipboard()->setText(text);
+        QTest::keySequence(field, QKeySequence::Paste);
+        QCOMPARE(field->text(), shown);
+        QTEST(m_picker->model.color(), "color");
+    }
+
+    void pastesACopiedColor()
+    {
+        auto *content = new QMimeData;
+        content->setColorData(QColor(Qt::blue));
+        QGuiApplication::clipboard()->setMimeData(content);
+        HexField *field = m_picker->content.codeField();
+        field->setFocus();
+        field->selectAll();
+        QTest::keyClicks(field, u"#12"_s);
+        QTest::keySequence(field, QKeySequence::Paste);
+        QCOMPARE(field->text(), u"#0000ff"_s);
+        QCOMPARE(m_picker->model.color(), blue);
+    }
+
+    void theSeventhDigitKeepsWhatCanBeUndone()
+    {
+        HexField *field = m_picker->content.codeField();
+        field->setFocus();
+        field->selectAll();
+        QTest::keyClicks(field, u"#0000ff7"_s);
+        QCOMPARE(field->text(), u"#0000ff"_s);
+        QCOMPARE(m_picker->model.color(), blue);
+        field->undo();
+        QVERIFY2(field->text() != u"#0000ff"_s, "nothing is undone");
     }
 
     void whatAssistiveTechnologyWritesIsTyped()
