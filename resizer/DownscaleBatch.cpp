@@ -17,6 +17,7 @@
 #include <condition_variable>
 #include <map>
 #include <mutex>
+#include <optional>
 #include <thread>
 #include <vector>
 
@@ -43,9 +44,8 @@ Result<QByteArray> readSource(const QString &path)
     return readWholeFile(path, largestPictureFile);
 }
 
-Result<HalvedPicture> readAndHalve(const QString &path, MemoryBudget &budget)
+Result<HalvedPicture> halve(const Result<QByteArray> &bytes, const QString &path, MemoryBudget &budget)
 {
-    const Result<QByteArray> bytes = readSource(path);
     if (!bytes)
         return bytes.failure();
     const Result<QSize> stored = storedPixelSize(bytes.value(), path);
@@ -64,7 +64,8 @@ enum class MissingFolders { Refuse, Make };
 class Batch
 {
 public:
-    Batch(const QList<DownscaleJob> &jobs, MissingFolders missing) : m_jobs(jobs), m_missingFolders(missing)
+    Batch(const QList<DownscaleJob> &jobs, MissingFolders missing, const BatchSource &source = {})
+        : m_jobs(jobs), m_missingFolders(missing), m_read(source.read ? source.read : readSource), m_stop(source.stop)
     {
         findDependencies();
     }
@@ -76,8 +77,8 @@ public:
         for (qsizetype i = 0; i < workers; ++i)
             threads.emplace_back([this] { work(); });
         for (qsizetype index = 0; index < m_jobs.size(); ++index) {
-            const DownscaledFile file = write(index, take(index));
-            if (!downscaled(index, file))
+            const std::optional<Result<HalvedPicture>> picture = take(index);
+            if (!picture || !downscaled(index, write(index, *picture)))
                 break;
         }
         const std::lock_guard lock(m_mutex);
@@ -109,12 +110,21 @@ private:
             if (m_stopped)
                 return;
             lock.unlock();
-            Result<HalvedPicture> picture = readAndHalve(m_jobs.at(index).source, m_budget);
+            std::optional<Result<HalvedPicture>> picture = readAndHalve(m_jobs.at(index).source);
             lock.lock();
             m_bytesWaiting += bytesOf(picture);
             m_halved.emplace(index, std::move(picture));
             m_finished.notify_one();
         }
+    }
+
+    /// Empty if the batch was stopped and the file does not answer.
+    std::optional<Result<HalvedPicture>> readAndHalve(const QString &path)
+    {
+        const std::optional<Result<QByteArray>> bytes = readUnlessStopped(m_read, path, m_stop);
+        if (!bytes)
+            return std::nullopt;
+        return halve(*bytes, path, m_budget);
     }
 
     bool mayRead(qsizetype index) const
@@ -124,13 +134,16 @@ private:
         return (near || index == m_written) && m_written >= m_readableAfter[static_cast<std::size_t>(index)];
     }
 
-    static qint64 bytesOf(const Result<HalvedPicture> &picture) { return picture ? picture.value().png.size() : 0; }
+    static qint64 bytesOf(const std::optional<Result<HalvedPicture>> &picture)
+    {
+        return picture && *picture ? picture->value().png.size() : 0;
+    }
 
-    Result<HalvedPicture> take(qsizetype index)
+    std::optional<Result<HalvedPicture>> take(qsizetype index)
     {
         std::unique_lock lock(m_mutex);
         m_finished.wait(lock, [this, index] { return m_halved.contains(index); });
-        Result<HalvedPicture> picture = std::move(m_halved.at(index));
+        std::optional<Result<HalvedPicture>> picture = std::move(m_halved.at(index));
         m_halved.erase(index);
         m_bytesWaiting -= bytesOf(picture);
         return picture;
@@ -166,13 +179,15 @@ private:
 
     const QList<DownscaleJob> m_jobs;
     const MissingFolders m_missingFolders;
+    const ReadSource m_read;
+    const std::stop_token m_stop;
     std::vector<qsizetype> m_readableAfter;
     MemoryBudget m_budget{memoryForPictures};
 
     std::mutex m_mutex;                 ///< guards everything below
     std::condition_variable m_finished; ///< a picture is halved
     std::condition_variable m_mayRead;  ///< a file is written, or the batch must stop
-    std::map<qsizetype, Result<HalvedPicture>> m_halved;
+    std::map<qsizetype, std::optional<Result<HalvedPicture>>> m_halved;
     qint64 m_bytesWaiting = 0; ///< of `m_halved`
     qsizetype m_next = 0;
     qsizetype m_written = 0;
@@ -200,14 +215,15 @@ DownscaledFile foreseenHalf(const DownscaleJob &job)
     return file;
 }
 
-void createImagesFromDataPaths(const QStringList &paths, const QString &destination, const FileDownscaled &downscaled)
+void createImagesFromDataPaths(const QStringList &paths, const QString &destination, const FileDownscaled &downscaled,
+                               const BatchSource &source)
 {
     if (paths.isEmpty())
         return;
     QList<DownscaleJob> jobs;
     for (const QString &path : paths)
         jobs.append({path, downscaledPath(path, destination)});
-    Batch(jobs, MissingFolders::Refuse).run(downscaled);
+    Batch(jobs, MissingFolders::Refuse, source).run(downscaled);
 }
 
 void downscale(const QList<DownscaleJob> &jobs, const FileDownscaled &downscaled)

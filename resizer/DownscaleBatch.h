@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "StoppableRead.h"
 #include "foundation/Result.h"
 
 #include <QSize>
@@ -42,13 +43,23 @@ DownscaledFile foreseenHalf(const DownscaleJob &job);
 /// whether the batch continues.
 using FileDownscaled = std::function<bool(qsizetype index, const DownscaledFile &file)>;
 
+/// How a batch reads its sources.
+struct BatchSource
+{
+    /// Reads the file; by default from the disk, and only regular files of at most `largestPictureFile` bytes.
+    ReadSource read;
+    /// Ends the batch before a source that does not answer.
+    std::stop_token stop = {};
+};
+
 /// Halves every file of `paths` into the destination folder, replacing what is there under the same names. A file that
 /// cannot be read or written is reported, and the batch continues.
 ///
 /// Several files are in work at once, with bounded memory, but the result is the same as for one after another: files
 /// are written and reported in order, on the calling thread, and a source that an earlier file of the batch replaces is
 /// read after that.
-void createImagesFromDataPaths(const QStringList &paths, const QString &destination, const FileDownscaled &downscaled);
+void createImagesFromDataPaths(const QStringList &paths, const QString &destination, const FileDownscaled &downscaled,
+                               const BatchSource &source = {});
 
 /// The same with a target for each file. Missing parent folders are made.
 void downscale(const QList<DownscaleJob> &jobs, const FileDownscaled &downscaled);

@@ -16,6 +16,7 @@
 #include "widgets/style/Palette.h"
 
 #include <QFileInfo>
+#include <QHash>
 
 #include <algorithm>
 
@@ -39,6 +40,20 @@ QString progressText(QString text, qsizetype done, qsizetype total)
         from = at + digits.size();
     }
     return text;
+}
+
+/// Two sources of the same name have one half, and the later one replaces the earlier.
+void markReplaced(std::vector<PlannedPicture> &plan)
+{
+    QHash<QString, QString> lastSource;
+    for (auto picture = plan.rbegin(); picture != plan.rend(); ++picture) {
+        if (!picture->leftOut.isEmpty())
+            continue;
+        const QString written = singleResolutionName(picture->path);
+        picture->replacedBy = lastSource.value(written);
+        if (picture->replacedBy.isEmpty())
+            lastSource.insert(written, picture->path);
+    }
 }
 
 } // namespace
@@ -95,8 +110,9 @@ void ResizerViewController::dropViewReceivedFiles(const QStringList &files)
         const bool isTaken = isDoubleResolution(path);
         if (isTaken)
             m_sourceImages << path;
-        plan.push_back({path, isTaken ? QString() : failureReason({FailureCode::NotMarked, path, {}})});
+        plan.push_back({path, isTaken ? QString() : failureReason({FailureCode::NotMarked, path, {}}), {}});
     }
+    markReplaced(plan);
     m_ui->planView->setPlan(plan);
     lookAt(0);
     if (m_sourceImages.isEmpty()) {
@@ -233,37 +249,39 @@ void ResizerViewController::createImagesFromDataPaths(const QStringList &paths)
         return;
     m_ui->progressLabel->setText(progressText(qtTrId("RESIZER_PROGRESS"), 0, paths.size()));
     showCurrent(paths.constFirst());
-    m_isCanceled = std::make_shared<std::atomic<bool>>(false);
-    m_jobs.start([this, paths, savePath = m_savePath, isCanceled = m_isCanceled](const BackgroundJob &job) {
+    m_cancel = std::stop_source();
+    m_jobs.start([this, paths, savePath = m_savePath, cancel = m_cancel,
+                  reader = services().fileReader](const BackgroundJob &job) mutable {
+        const std::stop_callback closing(job.stopToken(), [&cancel] { cancel.request_stop(); });
+        const BatchSource source{[reader](const QString &path) { return reader->read(path, largestPictureFile); },
+                                 cancel.get_token()};
         const float step = 100.0F / static_cast<float>(paths.size());
         BatchEnd end{savePath, paths.size()};
-        lumora::createImagesFromDataPaths(paths, savePath, [&](qsizetype index, const DownscaledFile &file) {
+        const auto report = [&](qsizetype index, const DownscaledFile &file) {
             end.done = index + 1;
             if (!file.outcome)
                 end.failures.push_back(file.outcome.failure());
-            const bool isLast = end.done == end.total;
-            const bool isStopped = !isLast && (job.isStopRequested() || isCanceled->load());
-            if (isLast || isStopped)
-                job.post([this, end, step] {
-                    showProgress(end.done, end.total, step);
+            job.post([this, end, step, next = paths.value(end.done)] {
+                showProgress(end.done, end.total, step);
+                if (end.done == end.total)
                     showEnd(end);
-                });
-            else
-                job.post([this, done = end.done, total = end.total, step, next = paths.at(index + 1)] {
-                    showProgress(done, total, step);
+                else
                     showCurrent(next);
-                });
-            if (isStopped && job.isStopRequested())
-                logLine(QStringLiteral("Closed after %1 of %2 pictures").arg(end.done).arg(end.total));
-            return !isStopped;
-        });
+            });
+            return !cancel.stop_requested();
+        };
+        lumora::createImagesFromDataPaths(paths, savePath, report, source);
+        if (end.done == end.total)
+            return;
+        job.post([this, end] { showEnd(end); });
+        if (job.isStopRequested())
+            logLine(QStringLiteral("Closed after %1 of %2 pictures").arg(end.done).arg(end.total));
     });
 }
 
 void ResizerViewController::cancelPressed()
 {
-    if (m_isCanceled)
-        m_isCanceled->store(true);
+    m_cancel.request_stop();
     m_ui->cancelButton->setEnabled(false);
 }
 

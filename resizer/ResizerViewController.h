@@ -9,9 +9,9 @@
 
 #include <QTimer>
 
-#include <atomic>
 #include <chrono>
 #include <memory>
+#include <stop_token>
 #include <vector>
 
 namespace Ui
@@ -86,8 +86,8 @@ private:
     QString m_browsePath;
     QTimer m_ready;
     FileReading *m_reading = nullptr;
-    std::shared_ptr<std::atomic<bool>> m_isCanceled; ///< of the running batch
-    BackgroundJobs m_jobs; ///< last, so that it waits for running jobs before other members are destroyed
+    std::stop_source m_cancel; ///< of the running batch
+    BackgroundJobs m_jobs;     ///< last, so that it waits for running jobs before other members are destroyed
 };
 
 } // namespace lumora

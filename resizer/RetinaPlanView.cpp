@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "RetinaPlanView.h"
 
+#include "tool/JobResult.h"
 #include "tool/style/ButtonStyle.h"
 #include "tool/style/LabelStyle.h"
 #include "widgets/buttons/HoverButton.h"
@@ -24,6 +25,8 @@ namespace
 {
 
 enum Column { Name, Now, Then };
+/// Of the last column: nothing more is to come.
+constexpr int isComplete = Qt::UserRole;
 
 constexpr int gap = 8;
 constexpr int nameWidth = 300;
@@ -96,6 +99,9 @@ void RetinaPlanView::addRow(const PlannedPicture &picture)
     row->setText(Name, QFileInfo(picture.path).fileName());
     row->setData(Name, Qt::UserRole, picture.path);
     row->setToolTip(Name, picture.path);
+    if (!picture.replacedBy.isEmpty())
+        markReplaced(row, picture);
+    row->setData(Then, isComplete, !picture.leftOut.isEmpty());
     if (picture.leftOut.isEmpty())
         return;
     row->setText(Then, qtTrId("RESIZER_LEFT_OUT").replace(u"[REASON]"_s, picture.leftOut));
@@ -104,11 +110,20 @@ void RetinaPlanView::addRow(const PlannedPicture &picture)
         row->setForeground(column, palette::placeholderText);
 }
 
+void RetinaPlanView::markReplaced(QTreeWidgetItem *row, const PlannedPicture &picture)
+{
+    // The names alone are the same.
+    row->setText(Name, shortFolder(picture.path));
+    row->setText(Then, qtTrId("RESIZER_REPLACED").replace(u"[NAME]"_s, shortFolder(picture.replacedBy)));
+    row->setToolTip(Then, picture.replacedBy);
+    row->setForeground(Then, palette::errorDark);
+}
+
 QTreeWidgetItem *RetinaPlanView::rowOf(const QString &path) const
 {
     for (int row = 0; row < m_list->topLevelItemCount(); ++row) {
         QTreeWidgetItem *item = m_list->topLevelItem(row);
-        if (item->data(Name, Qt::UserRole).toString() == path && item->text(Then).isEmpty())
+        if (item->data(Name, Qt::UserRole).toString() == path && !item->data(Then, isComplete).toBool())
             return item;
     }
     return nullptr;
@@ -117,8 +132,10 @@ QTreeWidgetItem *RetinaPlanView::rowOf(const QString &path) const
 void RetinaPlanView::setSizes(const QString &path, QSize now, QSize then)
 {
     if (QTreeWidgetItem *row = rowOf(path)) {
+        const QString note = row->text(Then);
         row->setText(Now, sizeText(now));
-        row->setText(Then, sizeText(then));
+        row->setText(Then, note.isEmpty() ? sizeText(then) : sizeText(then) + u" · "_s + note);
+        row->setData(Then, isComplete, true);
     }
 }
 
@@ -126,6 +143,7 @@ void RetinaPlanView::setProblem(const QString &path, const QString &problem)
 {
     if (QTreeWidgetItem *row = rowOf(path)) {
         row->setText(Then, problem);
+        row->setData(Then, isComplete, true);
         row->setToolTip(Then, problem);
         row->setForeground(Then, palette::errorDark);
     }

@@ -20,7 +20,8 @@ class HoverButton;
 struct PlannedPicture
 {
     QString path;
-    QString leftOut; ///< the reason, empty for a picture that is taken
+    QString leftOut;    ///< the reason, empty for a picture that is taken
+    QString replacedBy; ///< the path of the picture whose half has the same name and comes later; mostly empty
 };
 
 /// Lists the files of the next batch before it begins: the pictures to be halved, with their sizes before and after,
@@ -49,6 +50,8 @@ public:
 private:
     void setUpList();
     void addRow(const PlannedPicture &picture);
+    /// Marks the row of a picture whose half another one replaces.
+    static void markReplaced(QTreeWidgetItem *row, const PlannedPicture &picture);
     QTreeWidgetItem *rowOf(const QString &path) const;
 
     QLabel *m_summary;

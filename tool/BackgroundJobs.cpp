@@ -29,10 +29,9 @@ void BackgroundJob::post(std::function<void()> onMainThread) const
     QCoreApplication::postEvent(&m_jobs, new QEvent(postedEvent()));
 }
 
-bool BackgroundJob::isStopRequested() const
+std::stop_token BackgroundJob::stopToken() const
 {
-    const std::lock_guard lock(m_jobs.m_mutex);
-    return m_jobs.m_stopRequested;
+    return m_jobs.m_stop.get_token();
 }
 
 BackgroundJobs::BackgroundJobs(Order order, const std::string &label) : m_order(order), m_label(label)
@@ -42,9 +41,9 @@ BackgroundJobs::BackgroundJobs(Order order, const std::string &label) : m_order(
 
 BackgroundJobs::~BackgroundJobs()
 {
+    m_stop.request_stop();
     {
         const std::lock_guard lock(m_mutex);
-        m_stopRequested = true;
         // A concurrent job counts as started even if its thread has not begun it yet.
         if (m_order == Order::Serial)
             m_waiting.clear();

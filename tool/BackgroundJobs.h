@@ -8,6 +8,7 @@
 #include <functional>
 #include <list>
 #include <mutex>
+#include <stop_token>
 #include <string>
 #include <thread>
 
@@ -24,7 +25,9 @@ public:
     /// BackgroundJobs is being destroyed. Returns at once: a job never waits for the main thread.
     void post(std::function<void()> onMainThread) const;
     /// The window is closing. A job that only reads may return early; a job that writes files continues to its end.
-    bool isStopRequested() const;
+    bool isStopRequested() const { return stopToken().stop_requested(); }
+    /// The same for what waits.
+    std::stop_token stopToken() const;
 
 private:
     friend class BackgroundJobs;
@@ -82,6 +85,7 @@ private:
 
     const Order m_order;
     const std::string m_label;
+    std::stop_source m_stop; ///< the window is closing
     // The standard library's locks, not the toolkit's: the thread sanitizer sees them without an instrumented toolkit.
     mutable std::mutex m_mutex; ///< guards everything below
     std::condition_variable m_workerFinished;
@@ -89,7 +93,6 @@ private:
     std::deque<std::function<void()>> m_posted;
     std::list<Worker> m_workers;
     int m_running = 0;
-    bool m_stopRequested = false;
 };
 
 } // namespace lumora

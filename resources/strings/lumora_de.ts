@@ -749,6 +749,10 @@
     <source>Left out: [REASON]</source>
     <translation>Ausgelassen: [REASON]</translation>
   </message>
+  <message id="RESIZER_REPLACED">
+    <source>overwritten by [NAME]</source>
+    <translation>wird von [NAME] überschrieben</translation>
+  </message>
   <message id="RESIZER_CHOOSE_FOLDER">
     <source>Choose folder…</source>
     <translation>Ordner wählen…</translation>

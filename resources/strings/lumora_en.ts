@@ -747,6 +747,10 @@
     <source>Left out: [REASON]</source>
     <translation>Left out: [REASON]</translation>
   </message>
+  <message id="RESIZER_REPLACED">
+    <source>overwritten by [NAME]</source>
+    <translation>overwritten by [NAME]</translation>
+  </message>
   <message id="RESIZER_CHOOSE_FOLDER">
     <source>Choose folder…</source>
     <translation>Choose folder…</translation>

@@ -97,6 +97,18 @@ private slots:
         QVERIFY(!m_services->folderChooser.isOpen());
     }
 
+    void sourcesOfTheSameNameAreMarked()
+    {
+        make();
+        QVERIFY(QDir(m_folder->path()).mkdir(u"one"_s) && QDir(m_folder->path()).mkdir(u"two"_s));
+        m_controller->dropViewReceivedFiles({put(u"one/a@2x.png"_s, {8, 6}), put(u"one/b@2x.png"_s, {8, 6}),
+                                             put(u"two/a-hd.png"_s, {10, 6}), put(u"two/a@2x.png"_s, {12, 6})});
+        QTRY_COMPARE(row(3), u"a@2x.png | 12 × 6 | 6 × 3"_s);
+        QCOMPARE(row(0), u"one/a@2x.png | 8 × 6 | 4 × 3 · overwritten by two/a@2x.png"_s);
+        QCOMPARE(row(1), u"b@2x.png | 8 × 6 | 4 × 3"_s);
+        QCOMPARE(row(2), u"two/a-hd.png | 10 × 6 | 5 × 3 · overwritten by two/a@2x.png"_s);
+    }
+
     void theFolderMayBeChosenLater()
     {
         make();
@@ -194,6 +206,34 @@ private slots:
         m_controller->dropViewReceivedFiles({put(u"b@2x.png"_s, {8, 6})});
         share->waitForBegun(2);
         m_controller.reset();
+        share->releaseAll();
+    }
+
+    void aStalledShareEndsWithItsBatch_data()
+    {
+        QTest::addColumn<bool>("closes");
+        QTest::newRow("the window closes") << true;
+        QTest::newRow("the user cancels") << false;
+    }
+    void aStalledShareEndsWithItsBatch()
+    {
+        QFETCH(bool, closes);
+        const auto share = std::make_shared<HeldFiles>();
+        m_services->fileReader = share;
+        make();
+        const QString first = put(u"a@2x.png"_s, {8, 6});
+        m_controller->dropViewReceivedFiles({first, put(u"b@2x.png"_s, {8, 6})});
+        share->release(first);
+        m_services->folderChooser.confirm(at(u"out"_s));
+        QTRY_COMPARE(ui().currentLabel->text(), u"b@2x.png"_s);
+        if (closes) {
+            m_controller.reset();
+        } else {
+            ui().cancelButton->click();
+            QTRY_VERIFY(!ui().resultView->isHidden());
+            QVERIFY2(ui().resultView->text().startsWith(u"1 of 2 pictures in "_s), qPrintable(ui().resultView->text()));
+        }
+        QCOMPARE(QDir(at(u"out"_s)).entryList(QDir::Files), QStringList{u"a.png"_s});
         share->releaseAll();
     }
 };
