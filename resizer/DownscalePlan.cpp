@@ -114,7 +114,9 @@ private:
             }
         }
         if (!other.isEmpty())
-            m_plan.failures.push_back({FailureCode::NameTaken, picture.path, QString(other + u" -> " + target)});
+            m_plan.failures.push_back({FailureCode::NameTaken,
+                                       picture.path,
+                                       {"DETAIL_NAME_NUMBERED", {{"[OTHER]", other}, {"[TARGET]", target}}}});
         m_takenBy.insert(fileIdentity(target), picture.path);
         m_plan.jobs.append({picture.path, target});
     }

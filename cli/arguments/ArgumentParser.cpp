@@ -75,7 +75,21 @@ private:
         }
         if (word.isEmpty())
             return misuse("empty-value", commandText("CLI_EMPTY_WORD"));
-        return misuse("unexpected-argument", commandText("CLI_UNEXPECTED", {{"[WORD]", quoted(word)}}), seeHelp());
+        const QStringList meant = optionsTaking(word);
+        return misuse("unexpected-argument", commandText("CLI_UNEXPECTED", {{"[WORD]", quoted(word)}}),
+                      meant.isEmpty() ? seeHelp() : didYouMean(meant));
+    }
+
+    /// The options that take a word given without one, such as "--size 64x64" for 64x64.
+    QStringList optionsTaking(const QString &word) const
+    {
+        QStringList options;
+        for (const Argument &argument : m_declaration.arguments()) {
+            const bool isSize = argument.placeholder == "WxH"_L1 && word.front().isDigit();
+            if (!argument.isOperand() && (isSize || argument.choices.contains(word)))
+                options.append(argument.name + u' ' + word);
+        }
+        return options;
     }
 
     Problem readLong(const QString &word)

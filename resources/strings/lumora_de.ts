@@ -2735,12 +2735,12 @@
     <translation>einen anderen Ordner nehmen oder sie mit --overwrite ersetzen</translation>
   </message>
   <message id="CLI_NAME_TAKEN">
-    <source>its half has the name of another one and got a number</source>
-    <translation>seine Hälfte heißt wie eine andere und hat eine Nummer bekommen</translation>
+    <source>its half has the name of another half and gets a number</source>
+    <translation>seine Hälfte heißt wie eine andere und bekommt eine Nummer</translation>
   </message>
   <message id="CLI_NAME_TAKEN_ADVICE">
-    <source>rename one of the two, or keep their folders apart with --out</source>
-    <translation>eines der beiden umbenennen oder mit --out die Ordner getrennt lassen</translation>
+    <source>rename one of the two; if they are in different folders, --out with the folder above both keeps them apart</source>
+    <translation>eines der beiden umbenennen; liegen sie in verschiedenen Ordnern, so hält --out mit dem Ordner über beiden sie getrennt</translation>
   </message>
   <message id="CLI_NO_MARKED_PICTURE">
     <source>holds no .png marked @2x or -hd</source>
@@ -3385,6 +3385,10 @@
   <message id="DETAIL_NO_MODEL">
     <source>no model in it</source>
     <translation>kein Modell darin</translation>
+  </message>
+  <message id="DETAIL_NAME_NUMBERED">
+    <source>[TARGET]; that name belongs to the half of [OTHER]</source>
+    <translation>[TARGET]; der Name ohne Nummer gehört der Hälfte von [OTHER]</translation>
   </message>
   <message id="DETAIL_NO_PICTURE">
     <source>no picture in it</source>

@@ -2733,12 +2733,12 @@
     <translation>choose another folder, or replace it with --overwrite</translation>
   </message>
   <message id="CLI_NAME_TAKEN">
-    <source>its half has the name of another one and got a number</source>
-    <translation>its half has the name of another one and got a number</translation>
+    <source>its half has the name of another half and gets a number</source>
+    <translation>its half has the name of another half and gets a number</translation>
   </message>
   <message id="CLI_NAME_TAKEN_ADVICE">
-    <source>rename one of the two, or keep their folders apart with --out</source>
-    <translation>rename one of the two, or keep their folders apart with --out</translation>
+    <source>rename one of the two; if they are in different folders, --out with the folder above both keeps them apart</source>
+    <translation>rename one of the two; if they are in different folders, --out with the folder above both keeps them apart</translation>
   </message>
   <message id="CLI_NO_MARKED_PICTURE">
     <source>holds no .png marked @2x or -hd</source>
@@ -3383,6 +3383,10 @@
   <message id="DETAIL_NO_MODEL">
     <source>no model in it</source>
     <translation>no model in it</translation>
+  </message>
+  <message id="DETAIL_NAME_NUMBERED">
+    <source>[TARGET]; that name belongs to the half of [OTHER]</source>
+    <translation>[TARGET]; that name belongs to the half of [OTHER]</translation>
   </message>
   <message id="DETAIL_NO_PICTURE">
     <source>no picture in it</source>

@@ -48,6 +48,8 @@ MISTAKES = [
     ("icons icon.png --platform all --out=", 2, "lumora icons: --out is empty"),
     ("icons '' --platform all --to out", 2, "lumora icons: SOURCE is empty"),
     ("icons icon.png icon.png --platform all --to out", 2, 'lumora icons: "icon.png" is one argument too many'),
+    ("icons icon.png ios --to out", 2, 'lumora icons: "ios" is one argument too many; did you mean --platform ios?'),
+    ("placeholders 64x64 --to out", 2, 'lumora placeholders: "64x64" is one argument too many; did you mean --size 64x64?'),
     ("icons icon.png --platfrom all --to out", 2, "lumora icons: --platfrom is no option; did you mean --platform?"),
     ("icons icon.png -platform all --to out", 2, "lumora icons: -platform is no option; did you mean --platform?"),
     ("icons icon.png --platform iOS --to out", 2, "lumora icons: --platform takes iphone, ipad, mac, android, web-touch, favicon, all, ios, macos, "
