@@ -199,7 +199,8 @@ private slots:
         const LumoraRun run = downscale({at(u"art"_s)});
         QCOMPARE(run.status, 1);
         QCOMPARE(run.complaints().size(), 1);
-        QVERIFY2(run.err.contains("out/a_1.png; that name belongs to the half of " + at(u"art/a-hd.png"_s).toUtf8()),
+        QVERIFY2(run.err.contains(
+                     QByteArray("out/a_1.png; that name belongs to the half of " + at(u"art/a-hd.png"_s).toUtf8())),
                  run.err.constData());
         // The first keeps the name, and the other is written, too.
         QCOMPARE(filesBelowFolder(at(u"out"_s)), (QStringList{u"a.png"_s, u"a_1.png"_s}));
