@@ -19,7 +19,7 @@ class ToolViewController;
 struct Tool : ToolFacts
 {
     /// Makes the controller, whose view comes from the interface file named like its class.
-    std::unique_ptr<ToolViewController> (*makeController)(const Services &services);
+    std::unique_ptr<ToolViewController> (*makeController)(const Services &services) = nullptr;
     /// Passes a file with the tool's extension to this row's controller; nullptr for a tool without one.
     void (*openFile)(ToolViewController &controller, const QString &path) = nullptr;
 };

@@ -16,7 +16,7 @@ namespace
 struct Signature
 {
     QByteArrayView start;
-    const char *format;
+    const char *format = nullptr;
 };
 
 const Signature signatures[] = {

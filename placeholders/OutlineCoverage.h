@@ -29,7 +29,7 @@ private:
     {
         QPointF top;
         QPointF bottom;
-        double direction; ///< +1 where the outline runs downwards, -1 where upwards
+        double direction = 0.0; ///< +1 where the outline runs downwards, -1 where upwards
     };
     void addLine(QPointF from, QPointF to);
     void addCurve(QPointF from, QPointF control1, QPointF control2, QPointF to);

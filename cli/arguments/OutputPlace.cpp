@@ -22,7 +22,7 @@ namespace
 
 bool isWorkingFolderThere()
 {
-    std::array<char, PATH_MAX> path;
+    std::array<char, PATH_MAX> path = {};
     return ::getcwd(path.data(), path.size()) != nullptr;
 }
 

@@ -61,7 +61,7 @@ ExitStatus reportIcons(Console &console, const IconExport &result, qsizetype exp
         return console.finish(ExitStatus::Refused);
     }
     const QJsonArray files = writtenFiles(result);
-    for (const QJsonValue &file : files)
+    for (const auto &file : files)
         console.note(file[u"path"].toString());
     console.print(result.folder.path);
     complainOfFailures(console, result);

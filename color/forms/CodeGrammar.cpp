@@ -20,7 +20,7 @@ namespace
 struct GrammarRow
 {
     QLatin1StringView form;
-    RgbSpace space;
+    RgbSpace space = RgbSpace::Srgb;
     QLatin1StringView text;
 };
 

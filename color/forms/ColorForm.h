@@ -21,7 +21,7 @@ struct ColorForm
     QLatin1StringView name;
     /// The name of the language or library for people; a proper name, the same in every language.
     QLatin1StringView title;
-    ColorPlatform platform;
+    ColorPlatform platform = {};
     /// The form with a place for each value; see FormValues.h for their names.
     QLatin1StringView text;
     /// The same for Display P3; empty if the form has only sRGB, or can hold any color.

@@ -90,10 +90,10 @@ struct FunctionRow
 {
     QLatin1StringView name;
     QLatin1StringView notation;
-    bool withCommas;
+    bool withCommas = false;
     Arguments withSpaces;
     Arguments legacy; ///< where commas are allowed
-    WideColor (*color)(const std::array<double, 3> &values, double alpha);
+    WideColor (*color)(const std::array<double, 3> &values, double alpha) = nullptr;
 };
 
 constexpr auto rgb = [](const std::array<double, 3> &v, double alpha) {

@@ -16,7 +16,7 @@ namespace
 struct AngleUnit
 {
     QLatin1StringView name;
-    double degrees;
+    double degrees = 0.0;
 };
 
 constexpr AngleUnit angleUnits[] = {

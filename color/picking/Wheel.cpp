@@ -21,7 +21,7 @@ int componentAt(float sector, float shift, float saturation)
     float turned = sector + shift;
     turned = turned < sectors ? turned : turned - sectors;
     const float chroma = std::clamp(std::min(turned, 4.0F - turned), 0.0F, 1.0F);
-    return static_cast<int>((1.0F - saturation * chroma) * 255.0F + 0.5F);
+    return static_cast<int>(255.5F - saturation * chroma * 255.0F);
 }
 
 /// The pixel at an offset from the middle, in pixels, y downwards. Gives the same color as computing the place on the

@@ -14,7 +14,7 @@ enum class ContrastUse { Text, LargeText, InterfacePart };
 /// The verdict on one purpose.
 struct ContrastRow
 {
-    ContrastUse use;
+    ContrastUse use = {};
     bool aa = false;
     bool aaa = false; ///< false for interface parts, which have no such level
     bool hasAaa = true;

@@ -54,7 +54,7 @@ std::vector<QSize> screenshotSizes(const DeviceModel &model);
 /// One fact of several models side by side.
 struct ComparedFact
 {
-    CardFact fact;
+    CardFact fact = {};
     QStringList values; ///< in the order of the groups
     bool differs = false;
 };

@@ -15,6 +15,7 @@ std::vector<OsVersion> majorVersions(std::span<const DeviceModel> models)
         majors.insert(model.maxOs.major());
     }
     std::vector<OsVersion> versions;
+    versions.reserve(majors.size());
     for (const int major : majors)
         versions.push_back({{major}, 1});
     return versions;

@@ -24,7 +24,7 @@ struct ModelLayout
 {
     struct Heading
     {
-        DeviceFamily family;
+        DeviceFamily family = {};
         QRect place;
     };
 

@@ -145,6 +145,7 @@ void TodayDevicePane::showCompared()
 void TodayDevicePane::open(const std::vector<std::size_t> &indexes)
 {
     std::vector<ModelGroup> groups;
+    groups.reserve(indexes.size());
     for (const std::size_t index : indexes)
         groups.push_back(m_tiles->groups().at(index));
     m_table->showModels(groups);

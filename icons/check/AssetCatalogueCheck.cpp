@@ -53,7 +53,7 @@ struct CatalogueEntry
 QString appearanceOf(const QJsonObject &image)
 {
     const QJsonArray appearances = image[u"appearances"_s].toArray();
-    for (const QJsonValue &value : appearances) {
+    for (const auto &value : appearances) {
         const QJsonObject appearance = value.toObject();
         if (appearance[u"appearance"_s].toString() == u"luminosity")
             return appearance[u"value"_s].toString();
@@ -101,7 +101,7 @@ public:
             return;
         }
         const QJsonArray images = (*list)[u"images"_s].toArray();
-        for (const QJsonValue &image : images)
+        for (const auto &image : images)
             judge(entryOf(image.toObject()), image.toObject()[u"platform"_s].toString());
         if (!m_hasStoreIcon)
             m_check.add(IconRule::StoreIconMissing, m_folder);

@@ -39,7 +39,7 @@ void checkImageSet(const QString &folder, QSize base, Transparency transparency,
     const std::optional<QJsonArray> images = listOf(folder, u"images"_s, check);
     if (!images)
         return;
-    for (const QJsonValue &value : *images) {
+    for (const auto &value : *images) {
         const QJsonObject image = value.toObject();
         const QString file = image[u"filename"_s].toString();
         if (file.isEmpty()) {
@@ -80,7 +80,7 @@ void collectImageNames(const QJsonValue &value, QStringList &names)
 {
     if (value.isArray()) {
         const QJsonArray array = value.toArray();
-        for (const QJsonValue &one : array)
+        for (const auto &one : array)
             collectImageNames(one, names);
     } else if (value.isObject()) {
         const QJsonObject object = value.toObject();
@@ -89,7 +89,7 @@ void collectImageNames(const QJsonValue &value, QStringList &names)
                 names << entry.value().toString();
             else if (entry.key() == u"image-name-specializations") {
                 const QJsonArray forms = entry.value().toArray();
-                for (const QJsonValue &form : forms)
+                for (const auto &form : forms)
                     names << form.toObject()[u"value"_s].toString();
             } else
                 collectImageNames(entry.value(), names);
@@ -105,7 +105,7 @@ void checkBrandAssets(const QString &folder, IconCheck &check)
     const std::optional<QJsonArray> assets = listOf(folder, u"assets"_s, check);
     if (!assets)
         return;
-    for (const QJsonValue &value : *assets) {
+    for (const auto &value : *assets) {
         const QJsonObject asset = value.toObject();
         const QString name = asset[u"filename"_s].toString();
         const QStringList edges = asset[u"size"_s].toString().split(u'x');

@@ -87,7 +87,7 @@ void checkWebManifest(const QString &file, IconCheck &check)
     if (icons.isEmpty())
         return;
     check.checked << file;
-    for (const QJsonValue &icon : icons)
+    for (const auto &icon : icons)
         checkIcon(icon.toObject(), file, check);
 }
 

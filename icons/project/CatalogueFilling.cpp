@@ -26,7 +26,7 @@ constexpr qint64 longestList = 4LL * 1024 * 1024;
 Appearance appearanceOf(const QJsonObject &image)
 {
     const QJsonArray appearances = image[u"appearances"_s].toArray();
-    for (const QJsonValue &value : appearances) {
+    for (const auto &value : appearances) {
         const QString name = value.toObject()[u"value"_s].toString();
         if (name == u"dark")
             return Appearance::Dark;

@@ -43,8 +43,6 @@ template <typename Visit> void alongEdges(const QImage &picture, Visit visit)
 
 std::optional<QColor> borderColor(const QImage &picture)
 {
-    if (picture.isNull())
-        return std::nullopt;
     std::array<qint64, 3> sums = {};
     qint64 count = 0;
     bool opaque = true;
@@ -54,6 +52,8 @@ std::optional<QColor> borderColor(const QImage &picture)
             sums[channel] += pixel[channel];
         ++count;
     });
+    if (count == 0)
+        return std::nullopt;
     std::array<int, 3> mean = {};
     for (std::size_t channel = 0; channel < 3; ++channel)
         mean[channel] = static_cast<int>((sums[channel] + count / 2) / count);

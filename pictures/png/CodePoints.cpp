@@ -30,7 +30,7 @@ enum Transfer : int {
 
 struct Gamut
 {
-    int primaries;
+    int primaries = 0;
     QPointF red;
     QPointF green;
     QPointF blue;

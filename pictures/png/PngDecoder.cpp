@@ -164,6 +164,7 @@ Result<DecodedPng> decodePng(const QByteArray &file, const QString &name)
     if (result.picture.isNull())
         return damaged;
     std::vector<png_bytep> rows;
+    rows.reserve(static_cast<std::size_t>(result.picture.height()));
     for (int y = 0; y < result.picture.height(); ++y)
         rows.push_back(result.picture.scanLine(y));
     if (!decoding.readRows(rows.data()))

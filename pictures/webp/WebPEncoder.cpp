@@ -18,8 +18,8 @@ namespace
 /// libwebp's picture and its output buffer; frees both.
 struct Encoding
 {
-    WebPPicture picture;
-    WebPMemoryWriter writer;
+    WebPPicture picture = {};
+    WebPMemoryWriter writer = {};
 
     Encoding()
     {

@@ -21,7 +21,7 @@ enum class ScreenshotSeverity { Error, Warning, Note };
 struct ScreenshotRule
 {
     QLatin1StringView id;
-    ScreenshotSeverity severity;
+    ScreenshotSeverity severity = {};
     QLatin1StringView title;
     QLatin1StringView fix;
 };
