@@ -12,7 +12,8 @@
 namespace lumora
 {
 
-// What a walk over a folder finds is judged by one of these. Each adds the path to what was checked.
+// The search of a folder passes each thing that it finds to one of these functions, which adds the path to the checked
+// ones.
 
 /// A folder ".appiconset".
 void checkIconSet(const QString &folder, IconCheck &check);
@@ -23,49 +24,49 @@ void checkVisionStack(const QString &folder, IconCheck &check);
 void checkComposerBundle(const QString &folder, IconCheck &check);
 /// An Android folder "res" with an adaptive icon in it.
 void checkAndroidResources(const QString &folder, IconCheck &check);
-/// The store's picture beside it.
+/// The picture for the store, beside the folder "res".
 void checkPlayPicture(const QString &file, IconCheck &check);
-/// A web manifest; passed over where it lists no icons.
+/// A web manifest. One that lists no icons is skipped.
 void checkWebManifest(const QString &file, IconCheck &check);
 /// A touch icon of a web site.
 void checkTouchIcon(const QString &file, IconCheck &check);
 /// A Windows or Mac icon file.
 void checkIcoFile(const QString &file, IconCheck &check);
 void checkIcnsFile(const QString &file, IconCheck &check);
-/// A picture whose folder or name says what size it must have.
+/// A picture whose size follows from its folder or its name.
 void checkSizedPicture(const QString &file, QSize size, IconCheck &check);
-/// That size: of "…/48x48/apps/ID.png" and "…/48x48@2/apps/ID.png", and of Windows' "NAME.scale-200.png" and
-/// "NAME.targetsize-48….png". Nothing for any other file.
+/// The size that follows from "…/48x48/apps/ID.png", "…/48x48@2/apps/ID.png", and Windows' "NAME.scale-200.png" and
+/// "NAME.targetsize-48….png"; nothing for any other file.
 std::optional<QSize> hicolorSize(const QString &path);
 std::optional<QSize> windowsAssetSize(const QString &fileName);
 
-// What they share.
+// What these functions share.
 
-/// A JSON object from a file of bounded length; nothing where it is none.
+/// The JSON object in a file of bounded length; nothing if the file has no object.
 std::optional<QJsonObject> readJson(const QString &path);
 
-/// Whether a file's name keeps to its folder.
+/// Whether a file name stays in its folder: it has no ".." and no slash.
 bool isPlainName(const QString &name);
 
-/// What becomes of a picture's transparency where it is shown.
+/// What happens to transparent pixels where the picture is shown.
 enum class Transparency {
-    Shown,     ///< it is shown as it is
-    Lost,      ///< it turns black or white
-    Refused,   ///< a store refuses it, and the channel had better not be there either
-    Forbidden, ///< a store refuses it, but asks for the channel
+    Shown,     ///< they stay transparent
+    Lost,      ///< they become black or white
+    Refused,   ///< a store refuses them, and an alpha channel is not expected either
+    Forbidden, ///< a store refuses them, but requires an alpha channel
 };
 
-/// What a slot asks of its picture.
+/// What a slot requires of its picture.
 struct SlotDemands
 {
-    QSize size = {}; ///< in pixels; empty where any will do
+    QSize size = {}; ///< in pixels; empty if any size is accepted
     Transparency transparency = Transparency::Shown;
 };
 
-/// Judges the picture in a slot; answers its facts where it can be read.
+/// Judges the picture in a slot; returns its facts if the file can be read.
 std::optional<PictureFacts> checkSlot(const QString &path, const SlotDemands &demands, IconCheck &check);
 
-/// Whether the pixels let something through.
+/// Whether any pixel is not opaque.
 bool hasTransparency(const PictureFacts &facts);
 
 } // namespace lumora

@@ -11,8 +11,8 @@ namespace lumora
 
 /// Judges every icon catalogue in a folder and below it: asset catalogues and layer stacks, Icon Composer bundles,
 /// Android resources, web manifests, hicolor trees, Windows assets, .ico and .icns files. Folders of tools and of build
-/// products (hidden ones, node_modules, Pods, build) are passed over, links not followed. Fails where the folder is
-/// none or cannot be read; a folder without any icons gives a check that looked at nothing.
+/// products (hidden ones, node_modules, Pods, build) are skipped, links are not followed. Fails if the folder does not
+/// exist or cannot be read. For a folder without icons the list of checked paths is empty.
 Result<IconCheck> checkIcons(const QString &folder);
 
 } // namespace lumora

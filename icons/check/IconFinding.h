@@ -12,7 +12,7 @@
 namespace lumora
 {
 
-/// A rule that something breaks.
+/// A broken rule.
 struct IconFinding
 {
     IconRule rule = IconRule::ContentsUnreadable;
@@ -22,7 +22,7 @@ struct IconFinding
     bool operator==(const IconFinding &) const = default;
 };
 
-/// What a check looked at and found.
+/// What a check has read and found.
 struct IconCheck
 {
     QStringList checked; ///< paths of the catalogues, resources, manifests and icon files that were judged
@@ -32,7 +32,7 @@ struct IconCheck
     {
         findings.append({rule, path, evidence});
     }
-    /// Adds what another check looked at and found; the worst findings come first.
+    /// Adds what another check has read and found; the worst findings come first.
     void append(const IconCheck &other)
     {
         checked += other.checked;

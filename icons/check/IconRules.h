@@ -6,11 +6,11 @@
 namespace lumora
 {
 
-/// How bad it is.
+/// How severe a broken rule is.
 enum class FindingSeverity {
-    Error,   ///< a store or a build refuses it
-    Warning, ///< taken, but not as it was meant
-    Note,    ///< worth to know
+    Error,   ///< a store or a build refuses the icon
+    Warning, ///< the icon is accepted, but does not look as intended
+    Note,    ///< no fault; good to know
 };
 
 enum class IconRule {

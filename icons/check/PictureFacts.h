@@ -9,11 +9,11 @@
 namespace lumora
 {
 
-/// What a picture file is, whatever it is called.
+/// What a picture file contains, independent of its name.
 struct PictureFacts
 {
     bool exists = false;
-    bool readable = false; ///< whole and in a known format; the rest says nothing otherwise
+    bool readable = false; ///< whole and in a known format; if false, the other members have no meaning
     qint64 fileBytes = 0;
     QByteArray format; ///< as `pictureFormat` names it
     QSize size;
@@ -22,14 +22,14 @@ struct PictureFacts
     bool interlaced = false;
     bool wideGamut = false;
     bool alphaChannel = false;
-    /// Kept where the pixels may have to be asked, which is when the picture has an alpha channel or is asked for them.
+    /// The file's bytes, kept if the pixels may be needed: for pictures with an alpha channel, or on request.
     QByteArray bytes;
 
-    /// The pixels, premultiplied RGBA; decoded at each call. Null where they cannot be.
+    /// The pixels, premultiplied RGBA, decoded at each call. Null if that fails.
     QImage pixels() const;
 };
 
-/// Reads a file's structure without decoding its pixels. Devices and what is longer than a picture may be count as
+/// Reads a file's structure without decoding its pixels. Devices and files above the limit for pictures count as
 /// unreadable.
 PictureFacts pictureFacts(const QString &path);
 

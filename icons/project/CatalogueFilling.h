@@ -9,12 +9,12 @@
 namespace lumora
 {
 
-/// What a catalogue that has no list yet is made for.
+/// The platform of a catalogue that has no list yet.
 enum class CataloguePlatform { Ios, Mac };
 
-/// Plans a picture for each slot that the catalogue `folder`, a path below `root`, lists, under the name that it has
-/// there; a slot without a file gets one, and with it the list is written again. Slots of appearances that nothing is
-/// given for and nothing follows from stay as they are. A catalogue without a list becomes a new one.
+/// Plans a picture for each slot in the list of the catalogue `folder`, a path below `root`, under the slot's file
+/// name. If a slot has no file name, it gets one, and the list is written again. Slots for appearances that are neither
+/// given nor derived stay unchanged. A catalogue without a list gets a new one.
 Outcome planCatalogue(const QString &root, const QString &folder, CataloguePlatform platform, const Motifs &motifs,
                       FilePlan &plan);
 

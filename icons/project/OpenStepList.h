@@ -10,7 +10,7 @@ namespace lumora
 {
 
 /// A property list in the old style of braces and semicolons, as Xcode's projects are: dictionaries as `QVariantMap`,
-/// arrays as `QVariantList`, everything else as `QString`. Nothing where it is broken or nested beyond reason.
+/// arrays as `QVariantList`, everything else as `QString`. Nothing if it is damaged or nested too deeply.
 std::optional<QVariant> readOpenStepList(const QByteArray &text);
 
 } // namespace lumora

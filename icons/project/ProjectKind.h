@@ -14,7 +14,7 @@ struct ProjectKindInfo
     ProjectKind kind;
     const char *id;
     const char *name;
-    const char *mark; ///< what it is known by
+    const char *mark; ///< the files that identify it
 };
 
 inline constexpr std::array<ProjectKindInfo, 10> projectKinds = {{

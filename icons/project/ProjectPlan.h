@@ -13,7 +13,7 @@ namespace lumora
 
 class Motifs;
 
-/// Which part of a project is meant.
+/// The chosen part of a project.
 struct ProjectOptions
 {
     QString flavor; ///< of an Android or Flutter app, empty for its main source set
@@ -24,16 +24,16 @@ struct ProjectOptions
 struct ProjectPlan
 {
     QList<RecognizedProject> projects;
-    FilePlan files; ///< by their paths from the folder
+    FilePlan files; ///< with paths relative to the folder
 };
 
-/// Finds the projects in the folder and plans exactly the files that they hold; with a flavor or target, only those of
-/// the projects that have it. Fails with `NotAProject` where there is
-/// none or none has a place for icons, with `AmbiguousProject` where two want one file to be different, a project has
-/// several icons of which none was chosen, or none has the flavor or target that was; and as the sets' own plans do.
+/// Finds the projects in the folder and plans exactly their icon files; with a flavor or target, only for the projects
+/// that have it. Fails with `NotAProject` if there is no project, or none with a place for icons; with
+/// `AmbiguousProject` if two projects need different contents in one file, if a project has several icons and none is
+/// chosen, or if no project has the chosen flavor or target; and as the plans of the sets do.
 Result<ProjectPlan> planProjects(const QString &root, const Motifs &motifs, const ProjectOptions &options);
 
-/// Each kind's own plan; `root` is the tree's, `folder` the project's from there.
+/// The plan of each kind of project; `root` is the tree's folder, `folder` the project's path below it.
 class ProjectPlaces
 {
 public:
@@ -41,7 +41,7 @@ public:
                   FilePlan &plan);
     Outcome add();
 
-    /// Whether the flavor or target that was chosen may be one of this project; true where none was chosen.
+    /// Whether this project may have the chosen flavor or target; true if none is chosen.
     bool isMeant() const;
 
 private:
@@ -57,11 +57,11 @@ private:
     Outcome addGradle();
 
     bool isFlavorKnown() const;
-    /// The folders of the sources of its Android modules.
+    /// The source folders of its Android modules.
     QStringList androidSources() const;
     Outcome addAndroid(StorePicture store);
     Outcome addCatalogues(const QString &folder, const QString &name, bool forMac);
-    /// A square picture in the size that it has there, else in another.
+    /// A square picture in the size of the existing file, or in the given size if there is none.
     void addSquare(const QString &file, PictureRecipe recipe);
     Outcome addOpaque(const QString &file, int edge);
     bool has(const QString &path) const;

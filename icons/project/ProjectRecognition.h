@@ -19,11 +19,11 @@ struct RecognizedProject
     bool operator==(const RecognizedProject &) const = default;
 };
 
-/// The projects whose marks are in the folder; where there are none, those in the folders up to two levels below it.
-/// What belongs to another project in the same folder, such as its own Xcode project, is none of its own.
+/// The projects whose marks are in the folder or, if there are none, up to two levels below it. A part of another
+/// project in the same folder, such as the Xcode project of a Flutter project, is not listed.
 QList<RecognizedProject> recognizeProjects(const QString &root);
 
-/// What was looked for, one line for each kind.
+/// The marks of all kinds of projects, one line for each kind.
 QStringList projectMarks();
 
 } // namespace lumora

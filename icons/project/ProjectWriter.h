@@ -14,27 +14,27 @@
 namespace lumora
 {
 
-/// What becomes of a file in a project.
+/// What writing changes about a file of a project.
 enum class FileChange { New, Replaced, Unchanged, Removed };
 
-/// One of its files.
+/// A file of a project.
 struct ProjectFile
 {
     QString path; ///< below the project's folder
     FileChange change = FileChange::New;
     qint64 bytes = 0;  ///< length of the new content
-    QByteArray before; ///< the old content of one that is replaced or removed
+    QByteArray before; ///< the old content of a file that is replaced or removed
     QByteArray after;
 };
 
-/// Every file of a plan beside what is there. Fails with `LeadsOutside` where a link on the way to a file, or the file
-/// itself, leads out of the folder, with `IsFolder` or `NotAFolder` where one is in the other's place, with `TooLarge`
-/// if memory runs out.
+/// Compares every file of a plan with the existing one. Fails with `LeadsOutside` if a file is a link out of the
+/// folder, or lies behind such a link; with `IsFolder` or `NotAFolder` if a folder is in the place of a file or a file
+/// in the place of a folder; with `TooLarge` if memory runs out.
 Result<QList<ProjectFile>> compareWithProject(const QString &root, const FilePlan &plan, const Motifs &motifs);
 
-/// Writes what is new or differs, each file as a whole. Where one cannot be written, those before it get their old
-/// content back, new ones and new folders go, and the failure says why; so they do where `progress` stops the run
-/// (`Stopped`).
+/// Writes the files that are new or differ, each as a whole. If a file cannot be written, or if `progress` stops the
+/// run
+/// (`Stopped`), the files before it get their old content back, and new files and folders are removed.
 Outcome writeIntoProject(const QString &root, const QList<ProjectFile> &files, const FileProgress &progress);
 
 } // namespace lumora

@@ -18,7 +18,7 @@ struct DensityBucket
     constexpr int pixels(int dp) const { return dp * percent / 100; }
 };
 
-/// Those that icons are written for.
+/// The buckets that icons are written for.
 inline constexpr std::array<DensityBucket, 5> densityBuckets = {{
     {"mdpi", 100},
     {"hdpi", 150},
@@ -27,19 +27,19 @@ inline constexpr std::array<DensityBucket, 5> densityBuckets = {{
     {"xxxhdpi", 400},
 }};
 
-/// Below the others; existing projects may have pictures for it.
+/// The lowest bucket; existing projects may have pictures for it.
 inline constexpr DensityBucket lowDensity = {"ldpi", 75};
 
 inline constexpr int legacyIconDp = 48;
 inline constexpr int adaptiveLayerDp = 108;
-/// What a mask may show of a layer.
+/// The part of a layer that a mask may show.
 inline constexpr int adaptiveViewportDp = 72;
 /// The diameter of the circle in a layer that every mask shows.
 inline constexpr int adaptiveSafeDp = 66;
 inline constexpr int notificationDp = 24;
-/// Of the store's picture, in pixels; it is opaque.
+/// Edge length of the store's picture in pixels; the picture is opaque.
 inline constexpr int playStoreSize = 512;
-/// The longest file that the store takes, in bytes.
+/// The largest file that the store accepts, in bytes.
 inline constexpr int playStoreBytes = 1024 * 1024;
 
 } // namespace lumora

@@ -76,7 +76,7 @@ struct MacGrid
 
 inline constexpr MacGrid macGrid;
 
-/// A picture of a set for the television.
+/// A picture in a set for Apple TV.
 struct TvAsset
 {
     const char *folder;
@@ -84,7 +84,7 @@ struct TvAsset
     int width; ///< in points
     int height;
     bool layered;
-    bool doubled; ///< there is one of double resolution, too
+    bool doubled; ///< the set also has it at double resolution
 };
 
 inline constexpr std::array<TvAsset, 4> tvAssets = {{

@@ -11,12 +11,12 @@ namespace lumora
 
 class SvgDrawing;
 
-/// Something square that icons are made of: a picture, which is scaled, or a drawing, which is drawn in the size
-/// needed. A value; copies share what they hold.
+/// A square source of icons: a picture, which is scaled, or an SVG drawing, which is drawn at the needed size. A value;
+/// copies share their data.
 class Artwork
 {
 public:
-    /// None.
+    /// No artwork.
     Artwork();
     /// A square picture.
     explicit Artwork(const QImage &picture);
@@ -26,12 +26,12 @@ public:
     Artwork &operator=(const Artwork &);
 
     bool isNull() const { return m_state == nullptr; }
-    /// The SVG file it is drawn from; empty for a picture.
+    /// The SVG file that is drawn; empty for a picture.
     QByteArray svgFile() const;
-    /// Whether no pixel lets anything through.
+    /// Whether every pixel is opaque.
     bool isOpaque() const;
-    /// `edge` pixels wide and high, as `QImage::Format_RGBA8888_Premultiplied`; null for none and if memory
-    /// runs out. Callable on any thread.
+    /// `edge` pixels wide and high, as `QImage::Format_RGBA8888_Premultiplied`; null if there is no artwork or
+    /// if memory runs out. Callable on any thread.
     QImage at(int edge) const;
 
 private:

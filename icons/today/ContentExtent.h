@@ -9,13 +9,13 @@
 namespace lumora
 {
 
-/// The one color along all four edges of an opaque RGBA picture, give or take what a JPEG file adds; nothing where it
-/// is not uniform or lets something through.
+/// The color along all four edges of an opaque RGBA picture, within the errors that JPEG adds; nothing if the color is
+/// not uniform or a pixel there is not opaque.
 std::optional<QColor> borderColor(const QImage &picture);
 
-/// The diameter of the circle around the middle of a square premultiplied RGBA picture that holds everything to be
-/// seen, in edges of the picture: 1 for a disk that touches the edges, 1.414 for a full square, 0 where there is
-/// nothing. What has the color of a uniform border is ground and not content.
+/// The diameter of the smallest circle around the middle of a square premultiplied RGBA picture that contains all
+/// visible content, in edge lengths: 1 for a disk that touches the edges, 1.414 for a full square, 0 for an empty
+/// picture. Pixels in the color of a uniform border are background, not content.
 double contentDiameter(const QImage &picture);
 
 } // namespace lumora

@@ -8,7 +8,7 @@
 namespace lumora
 {
 
-/// What was made of the given pictures because it was not given itself, or was left out.
+/// What is derived from the given pictures because it is not given itself, or is left out.
 enum class Derivation {
     Fitted,
     NotDrawn,
@@ -33,7 +33,7 @@ struct DerivationText
 {
     Derivation derivation;
     const char *id;
-    const char *textKey; ///< of one clause, without what `Derived::detail` adds
+    const char *textKey; ///< one clause, to which `Derived::detail` is added
 };
 
 inline constexpr std::array<DerivationText, 17> derivationTexts = {{
@@ -56,11 +56,11 @@ inline constexpr std::array<DerivationText, 17> derivationTexts = {{
     {Derivation::ScalableLeftOut, "scalable-left-out", "ICONS_SCALABLE_LEFT_OUT"},
 }};
 
-/// One of them as it came about.
+/// A derivation that was used.
 struct Derived
 {
     Derivation derivation = Derivation::Fitted;
-    QString detail; ///< the color, size or file concerned, may be empty
+    QString detail; ///< its color, size or file; may be empty
 
     bool operator==(const Derived &) const = default;
 };

@@ -14,15 +14,15 @@
 namespace lumora
 {
 
-/// What a file of a set holds.
+/// What a file of a set contains.
 enum class FileKind {
-    Picture, ///< its one recipe's PNG file
+    Picture, ///< a PNG file of its only recipe
     Ico,     ///< a Windows icon file of all its recipes
     Icns,    ///< a Mac icon file of all its recipes, in the order of `macSlots`
-    Text,    ///< its bytes as they are
+    Text,    ///< its text, unchanged
 };
 
-/// One file that is going to be written.
+/// A file to write.
 struct PlannedFile
 {
     QString path; ///< below the folder that is written to
@@ -31,12 +31,12 @@ struct PlannedFile
     QByteArray text;
 };
 
-/// The files of one or several sets, in the order in which they are written, and what had to be derived for them.
+/// The files of one or several sets in the order of writing, and what is derived for them.
 struct FilePlan
 {
     QList<PlannedFile> files;
     QList<Derived> derived;
-    /// Lines to put into files that are the user's own, each with the file it belongs into: "web/index.html: <link …>".
+    /// Lines that the user adds to files of their own, each with the name of its file: "web/index.html: <link …>".
     QStringList linesToAdd;
     /// Files that hold the same resource in another format, below the folder that is written to.
     QStringList filesToRemove;
@@ -46,7 +46,7 @@ struct FilePlan
         files.append({path, FileKind::Picture, {recipe}, {}});
     }
     void addText(const QString &path, const QByteArray &text) { files.append({path, FileKind::Text, {}, text}); }
-    /// Says it once, however many files it is true of.
+    /// Records a derivation once, even if it holds for many files.
     void note(Derivation derivation, const QString &detail = {})
     {
         if (!derived.contains(Derived{derivation, detail}))

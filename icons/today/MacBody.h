@@ -9,7 +9,7 @@ namespace lumora
 class Artwork;
 
 /// The icon as the Mac shows it, 1024 pixels wide: on the grid's body with its corners rounded and a soft shadow below,
-/// transparent around it. Where the icon is transparent, so is the body, and the shadow is that of what is there.
+/// transparent around it. Where the icon is transparent, the body is transparent, too, and casts no shadow.
 QImage macBody(const Artwork &icon);
 
 } // namespace lumora

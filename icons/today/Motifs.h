@@ -12,11 +12,11 @@
 namespace lumora
 {
 
-/// How the Mac's icons are made.
+/// The style of the Mac's icons.
 enum class MacForm { Body, FullBleed };
 
-/// What the pictures of all sets show, derived from the sources as far as it was not given. Made when it is first asked
-/// for, on any thread.
+/// What the pictures of all sets show: each given source, or what is derived from the others. Each motif is made when
+/// it is first needed, on any thread.
 class Motifs
 {
 public:
@@ -24,20 +24,20 @@ public:
 
     const TodaySources &sources() const { return m_sources; }
 
-    /// The motif `edge` pixels wide and high, as `QImage::Format_RGBA8888_Premultiplied`; null where there is none
-    /// and if memory runs out.
+    /// The motif `edge` pixels wide and high, as `QImage::Format_RGBA8888_Premultiplied`; null if there is none
+    /// or if memory runs out.
     QImage at(Motif motif, int layer, int edge) const;
 
-    /// Behind foregrounds, maskable and touch icons: the one given, else the color of the icon's own border where it
-    /// has one, else white.
+    /// Behind foregrounds, maskable icons and touch icons: the given color, else the color of the icon's uniform
+    /// border, else white.
     QColor backgroundColor() const;
     bool hasBorderColor() const;
 
-    /// Whether there is a shape to be had: given, or by the icon's own transparency.
+    /// Whether there is a shape: a given one, or that of the icon's opaque pixels.
     bool hasMonochrome() const;
 
-    /// The edge length in pixels at which all of the icon lies within a circle in the middle of a picture that is
-    /// `edge` pixels wide, at most that; `circle` is the diameter in parts of the picture's edge.
+    /// The largest edge length in pixels, at most `edge`, at which the whole icon fits into a circle in the middle of a
+    /// picture `edge` pixels wide. `circle` is the diameter as a part of the picture's edge.
     int safeEdge(double circle, int edge) const;
 
 private:
@@ -57,7 +57,7 @@ private:
     mutable std::optional<QColor> m_border;
 };
 
-/// Puts a premultiplied picture in the middle of another, upon what is there; what reaches beyond is cut off.
+/// Draws a premultiplied picture over the middle of another one, cut off at its edges.
 void drawInMiddle(QImage &ground, const QImage &picture);
 
 } // namespace lumora

@@ -17,22 +17,22 @@ enum class Motif {
     Foreground, ///< of an adaptive icon
     Background, ///< the same
     Monochrome, ///< white, only the transparency counts
-    Round,      ///< foreground upon background, cut to a circle
+    Round,      ///< foreground over background, cut to a circle
     Layer,      ///< one of the layers
-    Layers,     ///< all of them upon each other
+    Layers,     ///< all layers, one over the other
 };
 
 /// Whether a picture file has an alpha channel.
 enum class PictureForm { Transparent, Opaque };
 
-/// Everything that a picture file follows from, besides the sources. Equal recipes are made once.
+/// Everything besides the sources that determines a picture file. Equal recipes are made once.
 struct PictureRecipe
 {
     Motif motif = Motif::Icon;
     int layer = 0; ///< number of the layer, from the back
     int width = 0; ///< of the picture, in pixels
     int height = 0;
-    int edge = 0;    ///< of the motif in its middle, in pixels; what reaches beyond the picture is cut off
+    int edge = 0;    ///< of the motif in its middle, in pixels; cut off at the picture's edges
     QRgb ground = 0; ///< the opaque color below the motif, 0 for none
     PictureForm form = PictureForm::Transparent;
 

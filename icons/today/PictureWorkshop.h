@@ -21,12 +21,12 @@ class PictureWorkshop
 public:
     /// The motifs must outlive it.
     explicit PictureWorkshop(const Motifs &motifs);
-    /// Leaves out what was prepared and not begun; waits for what was.
+    /// Cancels pictures that are not begun; waits for those that are.
     ~PictureWorkshop();
     PictureWorkshop(const PictureWorkshop &) = delete;
     PictureWorkshop &operator=(const PictureWorkshop &) = delete;
 
-    /// Begins pictures that will be wanted, the largest first. Called once.
+    /// Starts to make pictures that will be needed, the largest first. Called once.
     void prepare(std::vector<PictureRecipe> recipes);
 
     /// The picture as a PNG file; waits until it is made. Fails with `TooLarge` and without a subject if memory runs
@@ -36,7 +36,7 @@ public:
     /// The picture's pixels, premultiplied RGBA. Fails as `file` does.
     Result<QImage> pixels(const PictureRecipe &recipe);
 
-    /// How often a motif was drawn in some size up to now.
+    /// The number of times that a motif has been drawn at any size.
     int drawings() const;
 
 private:

@@ -25,9 +25,9 @@ struct SetOptions
     IosForm iosForm = IosForm::OneSize;
 };
 
-// Each adds its set's files to the plan, below `folder` (without a slash at its end, empty for none). They fail with
-// `HasTransparency` and without a subject where the icon lets something through that the platform forbids and no color
-// to flatten it was given, with `NeedsLayers` where there are not enough layers.
+// Each function adds its set's files to the plan, below `folder` (without a slash at its end, empty for none). It fails
+// without a subject: with `HasTransparency` if the icon is transparent, the platform forbids that and no color to
+// flatten it is given; with `NeedsLayers` if there are too few layers.
 
 Outcome planSet(TodaySet set, const Motifs &motifs, const SetOptions &options, const QString &folder, FilePlan &plan);
 
@@ -41,13 +41,13 @@ Outcome planWeb(const Motifs &motifs, const SetOptions &options, const QString &
 Outcome planWindows(const Motifs &motifs, const QString &folder, FilePlan &plan);
 Outcome planLinux(const Motifs &motifs, const SetOptions &options, const QString &folder, FilePlan &plan);
 
-/// The names that an Android app calls its icons by.
+/// The names of an Android app's icons.
 struct AndroidNames
 {
     QString icon = QStringLiteral("ic_launcher");
     QString type = QStringLiteral("mipmap");             ///< of resource: "mipmap" or "drawable"
     QString round = QStringLiteral("ic_launcher_round"); ///< empty for no round pictures
-    /// Of the color resource behind the foreground, and of the file that defines it.
+    /// Names the color resource behind the foreground, and the file that defines it.
     QString backgroundColor = QStringLiteral("ic_launcher_background");
     bool notification = true;
     bool playStore = true;
@@ -59,20 +59,21 @@ Outcome planAdaptive(const Motifs &motifs, const AndroidNames &names, const QStr
 /// The icon as an opaque picture that fills its square. Fails with `HasTransparency` as above.
 Result<PictureRecipe> opaqueIcon(const Motifs &motifs, int edge, FilePlan &plan);
 
-/// A picture of iOS's three appearances in that size.
+/// A picture of one of iOS's three appearances in this size.
 enum class Appearance { Light, Dark, Tinted };
 Result<PictureRecipe> iosPicture(const Motifs &motifs, Appearance appearance, int edge, FilePlan &plan);
-/// Whether there is a dark picture besides the light one.
+/// Whether there is a dark picture.
 bool hasDarkIcon(const Motifs &motifs);
 
-/// The foreground or monochrome layer of an adaptive icon in that edge length: as it was given, else the icon inside
-/// the safe zone.
+/// The foreground or monochrome layer of an adaptive icon with this edge length: the given picture, else the icon
+/// inside the safe zone.
 PictureRecipe adaptiveLayer(const Motifs &motifs, Motif motif, int edge, FilePlan &plan);
 
-/// The icon within the circle that a maskable picture of that edge length always shows, on the background color.
+/// The icon inside the circle that every mask shows of a maskable picture with this edge length, on the background
+/// color.
 PictureRecipe maskableIcon(const Motifs &motifs, int edge, FilePlan &plan);
 
-/// The icon on the background color where it lets something through.
+/// The icon; a transparent one on the background color.
 PictureRecipe touchIcon(const Motifs &motifs, int edge, FilePlan &plan);
 
 /// A Windows icon file of these sizes.
@@ -81,10 +82,10 @@ PlannedFile windowsIcon(const QString &path, const std::vector<int> &edges);
 /// A Mac icon file.
 PlannedFile macIconFile(const QString &path);
 
-/// Says in the plan where the background color came from, and answers it.
+/// Returns the background color, and records in the plan where it comes from.
 QColor notedBackground(const Motifs &motifs, FilePlan &plan);
 
-/// `folder`/`name`, or `name` where there is no folder.
+/// `folder`/`name`, or `name` if `folder` is empty.
 QString below(const QString &folder, const QString &name);
 
 } // namespace lumora

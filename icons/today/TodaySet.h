@@ -9,17 +9,17 @@ namespace lumora
 /// The sets that stores and platforms want now. The classic ones are in `IconCatalogue.h` and do not change.
 enum class TodaySet { Ios, MacOs, WatchOs, Adaptive, Web, Windows, Linux, TvOs, VisionOs, IconComposer };
 
-/// What is fixed about one of them.
+/// The fixed facts of a set.
 struct TodaySetInfo
 {
     TodaySet set;
     const char *commandName; ///< its name on the command line
-    const char *folder;      ///< its folder in an export folder; several may share one
-    bool isCommon;           ///< one of those that "today" means
-    bool needsLayers;        ///< made from two to five layers
+    const char *folder;      ///< its folder in the export folder; several sets may share one
+    bool isCommon;           ///< whether "today" includes it
+    bool needsLayers;        ///< whether it is made from two to five layers
 };
 
-/// All of them, in the order in which they are written.
+/// All sets, in the order of writing.
 inline constexpr std::array<TodaySetInfo, 10> todaySets = {{
     {TodaySet::Ios, "ios", "iOS", true, false},
     {TodaySet::MacOs, "macos", "macOS", true, false},
@@ -38,7 +38,7 @@ constexpr const TodaySetInfo &infoOf(TodaySet set)
     return todaySets[static_cast<std::size_t>(set)];
 }
 
-/// The name on the command line of all common ones together.
+/// The name on the command line for all common sets.
 inline constexpr char commonSetsName[] = "today";
 
 inline constexpr int fewestLayers = 2;

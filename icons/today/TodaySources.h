@@ -14,21 +14,21 @@
 namespace lumora
 {
 
-/// What today's sets are made from. Only the icon has to be there.
+/// What today's sets are made from. Only the icon is required.
 struct TodaySources
 {
     Artwork icon;
     Artwork dark;
     Artwork tinted;
-    Artwork foreground;    ///< as large as an adaptive icon's layer
-    Artwork background;    ///< the same; takes precedence over the color
+    Artwork foreground;    ///< the size of an adaptive icon's layer
+    Artwork background;    ///< the same size; takes precedence over the color
     Artwork monochrome;    ///< only its transparency counts
     QList<Artwork> layers; ///< from the back to the front
     std::optional<QColor> backgroundColor;
-    std::optional<QColor> flatten; ///< what transparency is put on where a store forbids it
+    std::optional<QColor> flatten; ///< the color behind a transparent icon if a store forbids transparency
 };
 
-/// Whether a picture of another size than 1024 x 1024 is taken.
+/// Whether a picture of another size than 1024 x 1024 is accepted.
 enum class SourceFit {
     Exact,
     AnySquare, ///< square and at least `smallestFittedSource` pixels wide; scaled once
@@ -36,15 +36,15 @@ enum class SourceFit {
 
 inline constexpr int smallestFittedSource = 512;
 
-/// A source as it was read.
+/// A source that was read.
 struct ReadSource
 {
     Artwork artwork;
-    QList<Derived> derived; ///< what had to be said of it
+    QList<Derived> derived; ///< notes on how it was read, such as that it was scaled
 };
 
-/// The picture or SVG drawing in these bytes; `name` is what a failure calls them. A picture of a size that is not
-/// taken fails with `WrongSize`.
+/// The picture or SVG drawing in these bytes; `name` names them in failures. Fails with `WrongSize` for a picture whose
+/// size is not accepted.
 Result<ReadSource> readTodaySource(const QByteArray &bytes, const QString &name, SourceFit fit);
 Result<ReadSource> readTodaySource(const QString &path, SourceFit fit);
 

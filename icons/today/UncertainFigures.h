@@ -6,13 +6,13 @@
 namespace lumora
 {
 
-/// How far a figure may be relied on.
+/// How reliable a figure is.
 enum class Certainty {
-    OneSource, ///< a single source says so
-    NoSource,  ///< none does; it is what existing files hold, or a choice made here
+    OneSource, ///< it has a single source
+    NoSource,  ///< it has no source: existing files contain it, or it is chosen here
 };
 
-/// One figure or rule of the sets that may turn out otherwise.
+/// A figure or rule of the sets that may be wrong.
 struct UncertainFigure
 {
     const char *id;
@@ -20,7 +20,8 @@ struct UncertainFigure
     Certainty certainty;
 };
 
-/// All of them. With better knowledge, change the table that uses the figure and remove its row here.
+/// All uncertain figures. When a figure is confirmed or corrected, change the table that uses it and remove its row
+/// here.
 inline constexpr std::array<UncertainFigure, 14> uncertainFigures = {{
     {"icns-icp4-icp5", "the types of the 16 and 32 pixel pictures in a Mac icon file", Certainty::NoSource},
     {"ios-sizes-appearances", "dark and tinted pictures repeated for each slot of the multi-size form",

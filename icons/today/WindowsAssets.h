@@ -9,19 +9,19 @@ namespace lumora
 // Windows icons and the assets of its packages. Source: github.com/MicrosoftDocs/windows-dev-docs,
 // app-icon-construction.md.
 
-/// Edge lengths in an icon file, all that the shell asks for at any scale.
+/// Edge lengths in an icon file: all that the shell uses at any scale.
 inline constexpr std::array<int, 14> windowsIconSizes = {16, 20, 24, 30, 32, 36, 40, 48, 60, 64, 72, 80, 96, 256};
 
-/// From this edge length on the pictures in an icon file are PNG files.
+/// Pictures of at least this edge length are PNG files in an icon file.
 inline constexpr int firstPngIconSize = 256;
 
 inline constexpr std::array<int, 5> windowsScales = {100, 125, 150, 200, 400};
 
-/// Edge lengths in which the taskbar and menus ask for the app's icon, without a tile behind it.
+/// Edge lengths of the app's icon in the taskbar and in menus, without a tile behind it.
 inline constexpr auto windowsTargetSizes = windowsIconSizes;
 inline constexpr std::array<const char *, 3> targetSizeForms = {"", "_altform-unplated", "_altform-lightunplated"};
 
-/// One asset of a package, in every scale.
+/// An asset of a package, which exists at every scale.
 struct WindowsAsset
 {
     const char *name;
