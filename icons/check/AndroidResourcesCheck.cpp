@@ -24,12 +24,12 @@ constexpr qint64 longestXml = 1024 * 1024;
 /// A pixel of the smallest layer, in parts of its edge.
 constexpr double safeZoneTolerance = 0.01;
 
-/// One layer as the icon's XML names it.
+/// A layer in the icon's XML.
 struct LayerReference
 {
     QString type; ///< "mipmap", "drawable", "color"
     QString name;
-    bool inset = false; ///< given with a margin of its own
+    bool inset = false; ///< inside an <inset> element
 };
 
 std::optional<LayerReference> referenceOf(QStringView text)
@@ -42,7 +42,7 @@ std::optional<LayerReference> referenceOf(QStringView text)
     return LayerReference{text.sliced(1, slash - 1).toString(), text.sliced(slash + 1).toString(), false};
 }
 
-/// The layers of an adaptive icon by their elements' names; nothing where the file is none or cannot be read.
+/// The layers of an adaptive icon by the names of their elements; nothing if the file is not one or cannot be read.
 std::optional<QHash<QString, LayerReference>> readAdaptiveIcon(const QString &path)
 {
     const Result<QByteArray> bytes = readWholeFile(path, longestXml);
@@ -72,7 +72,7 @@ std::optional<QHash<QString, LayerReference>> readAdaptiveIcon(const QString &pa
     return reader.hasError() || layers.isEmpty() ? std::nullopt : std::optional(layers);
 }
 
-/// "xhdpi" of "mipmap-en-xhdpi-v26"; nothing for a folder of no density.
+/// "xhdpi" of "mipmap-en-xhdpi-v26"; nothing for a folder without a density.
 std::optional<DensityBucket> bucketOf(const QString &folder)
 {
     const QStringList parts = folder.split(u'-');
@@ -99,7 +99,7 @@ public:
             const QString name = QFileInfo(file).completeBaseName();
             const std::optional<QHash<QString, LayerReference>> icon = readAdaptiveIcon(path);
             if (!icon) {
-                // Other drawings may be kept for any density, too; an icon's file that is broken shows by its name.
+                // Other drawings may also be for any density; a broken icon file is recognized by its name.
                 if (name.startsWith(u"ic_launcher"))
                     m_check.add(IconRule::ContentsUnreadable, path);
                 continue;
@@ -138,7 +138,7 @@ private:
             m_layers << resource;
             judgeLayer(layer.key(), *layer, m_byResource.value(resource));
         }
-        // The round icon has the layers of the other, as a rule: one finding says it.
+        // The round icon usually has the same layers: one finding is enough.
         if (!icon.contains(u"monochrome"_s) && !m_withoutMonochrome.contains(icon.value(u"foreground"_s).name)) {
             m_withoutMonochrome << icon.value(u"foreground"_s).name;
             m_check.add(IconRule::MonochromeMissing, path);
@@ -193,7 +193,7 @@ private:
         });
     }
 
-    /// The pictures for systems without adaptive icons, and layers that no icon names.
+    /// The pictures for systems without adaptive icons, and layers that are in no icon.
     void judgeFile(const QString &file, const QSet<QString> &legacyNames)
     {
         const QString folder = file.section(u'/', 0, 0);

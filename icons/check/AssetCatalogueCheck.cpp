@@ -23,12 +23,12 @@ namespace
 /// Levels by which the channels of a gray pixel may differ.
 constexpr int grayTolerance = 4;
 
-/// One entry of a catalogue's list.
+/// An entry in a catalogue's list.
 struct CatalogueEntry
 {
     QString idiom;
     QString platform;
-    QString file; ///< empty where the slot is
+    QString file; ///< empty for an empty slot
     QString appearance;
     double points = 0;
     int scale = 1;
@@ -68,7 +68,7 @@ CatalogueEntry entryOf(const QJsonObject &image)
     entry.platform = image[u"platform"_s].toString();
     entry.file = image[u"filename"_s].toString();
     entry.appearance = appearanceOf(image);
-    // A watch's slots say their part on top of it.
+    // Slots for a watch also name their role.
     entry.platform += image[u"role"_s].toString() + image[u"subtype"_s].toString();
     entry.points = image[u"size"_s].toString().section(u'x', 0, 0).toDouble();
     entry.scale = std::max(image[u"scale"_s].toString().section(u'x', 0, 0).toInt(), 1);

@@ -17,7 +17,7 @@ namespace
 constexpr int mostEntries = 200'000;
 constexpr int deepestFolder = 40;
 
-/// Folders in which nothing is the project's own.
+/// Folders whose files are not the project's own.
 bool isPassedOver(const QString &name)
 {
     static const QStringList names = {u"node_modules"_s, u"Pods"_s, u"build"_s, u"DerivedData"_s};
@@ -57,7 +57,7 @@ private:
         m_ended = true;
     }
 
-    /// Whether the folder is one that is judged as a whole.
+    /// Whether the folder is judged as a whole, such as a catalogue.
     bool judgeFolder(const QString &folder)
     {
         const QString name = QFileInfo(folder).fileName();

@@ -23,7 +23,7 @@ QString contentsOf(const QString &folder)
     return folder + u'/' + QLatin1StringView(contentsName);
 }
 
-/// The array of that name in a folder's list; a finding and nothing where there is none.
+/// The named array in a folder's list; if there is none, adds a finding and returns nothing.
 std::optional<QJsonArray> listOf(const QString &folder, const QString &key, IconCheck &check)
 {
     const std::optional<QJsonObject> contents = readJson(contentsOf(folder));
@@ -33,7 +33,7 @@ std::optional<QJsonArray> listOf(const QString &folder, const QString &key, Icon
     return std::nullopt;
 }
 
-/// The pictures of a set, each in `base` times its scale.
+/// The pictures of a set, each with the size `base` times its scale.
 void checkImageSet(const QString &folder, QSize base, Transparency transparency, IconCheck &check)
 {
     const std::optional<QJsonArray> images = listOf(folder, u"images"_s, check);
@@ -126,7 +126,7 @@ void checkBrandAssets(const QString &folder, IconCheck &check)
 void checkVisionStack(const QString &folder, IconCheck &check)
 {
     check.checked << folder;
-    // Its only slot is one of double resolution.
+    // Its only slot has double resolution.
     checkStack(folder, QSize(visionLayerSize / 2, visionLayerSize / 2), check);
 }
 

@@ -23,7 +23,7 @@ constexpr int colorForm = 2;
 constexpr int paletteForm = 3;
 constexpr int deepBits = 16;
 
-/// A PNG file's own words; an Apple-optimized one is no file to hand in, but a picture all the same.
+/// The facts in a PNG file's chunks. An Apple-optimized file counts as a picture, too.
 void readPng(PictureFacts &facts)
 {
     const std::optional<PngHeader> header =

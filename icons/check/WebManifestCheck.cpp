@@ -18,8 +18,8 @@ namespace
 
 constexpr double safeZoneTolerance = 0.01;
 
-/// The file that an address in a manifest leads to; empty for one elsewhere on the web. A path from the site's root is
-/// looked for beside the manifest, where such sites keep it.
+/// The file at an address in a manifest; empty for an address on another site. A path from the site's root is taken as
+/// a path from the manifest's folder, where such sites keep their files.
 QString fileOf(const QString &folder, const QString &source)
 {
     const QUrl address(source);
@@ -76,7 +76,7 @@ void checkWebManifest(const QString &file, IconCheck &check)
 {
     const std::optional<QJsonObject> manifest = readJson(file);
     if (!manifest) {
-        // Other tools call files manifest.json, too, and not all of them are JSON.
+        // Other tools also write files called manifest.json, and some of them are not JSON.
         if (file.endsWith(u".webmanifest")) {
             check.checked << file;
             check.add(IconRule::ContentsUnreadable, file);

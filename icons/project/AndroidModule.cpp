@@ -21,8 +21,8 @@ constexpr auto androidSpace = "http://schemas.android.com/apk/res/android"_L1;
 /// The attributes that name the icon in a manifest.
 struct ManifestIcons
 {
-    bool found = false; ///< there is an application in it
-    QString icon;       ///< "@mipmap/ic_launcher", empty where none is named
+    bool found = false; ///< the manifest has an application element
+    QString icon;       ///< "@mipmap/ic_launcher", empty if none is named
     QString round;
 };
 
@@ -43,7 +43,7 @@ ManifestIcons readManifest(const QString &path)
     return icons;
 }
 
-/// Takes a reference of the type that icons may have apart; false for any other, such as a placeholder.
+/// Splits a reference into type and name. False if the type is not one for icons, or for a placeholder.
 bool takeReference(const QString &reference, QString &type, QString &name)
 {
     const QString kind = reference.section(u'/', 0, 0);
@@ -54,7 +54,7 @@ bool takeReference(const QString &reference, QString &type, QString &name)
     return !name.isEmpty();
 }
 
-/// Whether another file than our own gives a color that name.
+/// Whether a file that we do not write defines a color with this name.
 bool isColorTaken(const QString &resources, const QString &name)
 {
     const QByteArray wanted = "name=\"" + name.toUtf8() + '"';
@@ -73,7 +73,7 @@ bool isColorTaken(const QString &resources, const QString &name)
     return false;
 }
 
-/// A resource is one file in each folder, whatever its format.
+/// A resource has one file in each folder, in any format.
 void removeOtherFormats(const QString &root, FilePlan &plan, qsizetype firstFile)
 {
     for (qsizetype index = firstFile; index < plan.files.size(); ++index) {

@@ -57,7 +57,7 @@ QString fileNameFor(const QJsonObject &image, Appearance appearance, int pixels)
     return name + u".png"_s;
 }
 
-/// The list that Xcode puts into a new catalogue.
+/// The list that Xcode writes into a new catalogue.
 QJsonArray newList(CataloguePlatform platform)
 {
     QJsonArray images;
@@ -79,7 +79,7 @@ QJsonArray newList(CataloguePlatform platform)
     return images;
 }
 
-/// One catalogue on its way into a plan.
+/// A catalogue that is added to a plan.
 class Filling
 {
 public:

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The kinds of project that name their icons in a file of their own.
+// The kinds of project that name their icons in a configuration file.
 #include "ProjectPlan.h"
 
 #include "foundation/WholeFile.h"
@@ -31,7 +31,7 @@ QByteArray configuration(const QString &path)
     return bytes ? bytes.value() : QByteArray();
 }
 
-/// A path that a configuration names, from its folder; empty where it is none inside of it.
+/// A path in a configuration, relative to its folder; empty if it leads out of the folder.
 QString pathWithin(const QString &named)
 {
     const QString path = QDir::cleanPath(named);

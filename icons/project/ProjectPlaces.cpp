@@ -26,7 +26,7 @@ namespace
 
 constexpr int mostFolders = 5000;
 
-/// The folders below that end so, by their paths from there; neither links nor folders of tools are followed.
+/// The folders below whose names have this end, as relative paths. Links and folders of tools are not followed.
 QStringList foldersEnding(const QString &root, const QString &ending)
 {
     QStringList found;

@@ -23,7 +23,7 @@ constexpr qint64 longestMark = 4LL * 1024 * 1024;
 constexpr int levelsBelow = 2;
 constexpr int mostFolders = 500;
 
-/// One folder in which marks are looked for.
+/// A folder that is searched for marks.
 class Place
 {
 public:

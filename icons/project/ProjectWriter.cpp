@@ -22,8 +22,8 @@ namespace lumora
 namespace
 {
 
-/// Whether a path below the folder is really in it: every link on the way leads to a place inside, and no folder on the
-/// way is a file.
+/// Whether a path below the folder is really in it: every link in the path leads to a place inside the folder, and no
+/// folder in the path is a file.
 Outcome staysInside(const QString &root, const QString &path)
 {
     const QString canonicalRoot = QFileInfo(root).canonicalFilePath();
@@ -65,7 +65,7 @@ Result<ProjectFile> compared(const QString &root, const QString &path, const QBy
     return file;
 }
 
-/// Makes the folder and its parents; the paths of the new ones, the outermost first, are added.
+/// Makes the folder and its parents, and adds the paths of the new ones, the outermost first.
 bool makeFolders(const QString &path, QStringList &made)
 {
     if (QFileInfo(path).isDir())
@@ -76,14 +76,14 @@ bool makeFolders(const QString &path, QStringList &made)
     return true;
 }
 
-/// One run over the files. All of them are written first and get their names only then, so that a disk that fills up
-/// touches none of the old ones; what has its name can be taken back.
+/// Writes the files of one run. All contents are written before any file gets its name, so that a full disk does not
+/// touch the old files. Files that already have their names can be taken back.
 class Writing
 {
 public:
     explicit Writing(const QString &root) : m_root(root) {}
 
-    /// Writes the file's content without its name.
+    /// Writes the content to a file that has no name yet.
     Outcome prepare(const ProjectFile &file)
     {
         const QString whole = m_root + u'/' + file.path;
@@ -104,7 +104,7 @@ public:
         return Done{};
     }
 
-    /// Gives every prepared file its name.
+    /// Names every prepared file.
     Outcome publish()
     {
         for (const Prepared &prepared : m_prepared) {
@@ -120,7 +120,7 @@ public:
         return Done{};
     }
 
-    /// The failure to tell: the first one, and what could not be put back, which nobody expects.
+    /// The failure to report: the first one, and the files that could not be put back.
     Failure takeBack(Failure failure)
     {
         QStringList lost;
@@ -152,7 +152,7 @@ private:
     struct Prepared
     {
         const ProjectFile *file;
-        std::unique_ptr<PendingFile> pending; ///< none for one that is removed
+        std::unique_ptr<PendingFile> pending; ///< none for a file that is removed
     };
 
     QString m_root;

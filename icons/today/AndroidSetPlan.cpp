@@ -26,7 +26,7 @@ public:
             Result<PictureRecipe> store = opaqueIcon(m_motifs, playStoreSize, m_plan);
             if (!store)
                 return store.failure();
-            // The store asks for 32 bits a pixel.
+            // The store requires 32 bits per pixel.
             store.value().form = PictureForm::Transparent;
             m_plan.addPicture(storePath, store.value());
         }

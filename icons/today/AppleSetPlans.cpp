@@ -20,7 +20,7 @@ constexpr auto iconSet = "Assets.xcassets/AppIcon.appiconset"_L1;
 struct AppearanceNames
 {
     Appearance appearance;
-    const char *value;    ///< as the catalogue calls it, empty for the plain one
+    const char *value;    ///< the catalogue's name for it, empty for the plain appearance
     const char *fileForm; ///< between a file's stem and its size
 };
 
@@ -49,7 +49,7 @@ QJsonObject withAppearance(QJsonObject image, const AppearanceNames &names)
     return image;
 }
 
-/// "-60@2x", "-83.5@2x", nothing for the store's.
+/// "-60@2x", "-83.5@2x", nothing for the store's picture.
 QString sizeForm(const IosSlot &slot)
 {
     if (slot.pixels() == storeIconSize)

@@ -12,10 +12,10 @@ namespace lumora
 namespace
 {
 
-/// Levels of a channel that a picture with losses may be off by.
+/// The largest error of a channel in a lossy picture, in levels of 255.
 constexpr int tolerance = 8;
 
-/// What is fainter than this is an edge's last trace and no content, of 255.
+/// Pixels with less alpha, of 255, are the fading end of an edge and not content.
 constexpr int faintest = 8;
 
 bool isNear(const uchar *pixel, const std::array<int, 3> &color)
@@ -75,7 +75,7 @@ double contentDiameter(const QImage &picture)
             const uchar *pixel = row + 4 * x;
             return pixel[3] > faintest && !(ground && isNear(pixel, groundColor));
         };
-        // Of a row only its outermost pixels count.
+        // Only the outermost pixels of a row count.
         int first = 0;
         while (first < picture.width() && !isContent(first))
             ++first;

@@ -25,7 +25,7 @@ QString composerColor(const QColor &color)
     return u"extended-srgb:"_s + parts.join(u',');
 }
 
-/// Adds a source to the bundle as it is where it is a drawing, else as a picture; answers its file's name.
+/// Adds a source to the bundle: a drawing as its SVG file, anything else as a picture. Returns the file's name.
 QString addAsset(const QString &bundle, const QString &stem, const Artwork &artwork, const PictureRecipe &recipe,
                  FilePlan &plan)
 {

@@ -33,7 +33,7 @@ Outcome needLayers(const Motifs &motifs)
     return Done{};
 }
 
-/// "Front", "Middle", "Back"; with more than one in between "Middle 1" and so on from the front.
+/// "Front", "Middle", "Back"; several middle layers are "Middle 1" and so on from the front.
 QString layerName(int fromFront, int count)
 {
     if (fromFront == 0)
@@ -43,7 +43,7 @@ QString layerName(int fromFront, int count)
     return count == 3 ? u"Middle"_s : u"Middle %1"_s.arg(fromFront);
 }
 
-/// One size of a layer.
+/// A size of a layer.
 struct LayerPicture
 {
     int width;
@@ -55,12 +55,12 @@ struct LayerPicture
 struct ImageStack
 {
     QString folder;
-    QString layerSuffix; ///< of a layer's folder
+    QString layerSuffix; ///< the end of the name of a layer's folder
     QString idiom;
     QList<LayerPicture> pictures;
 };
 
-/// Of the layers that fill their picture the back one is opaque; the others lie in its middle.
+/// The back layer fills its picture and is opaque; the others are in the middle of theirs.
 PictureRecipe layerPicture(const Motifs &motifs, int layer, const LayerPicture &picture, FilePlan &plan)
 {
     PictureRecipe recipe{Motif::Layer,

@@ -16,13 +16,13 @@ namespace lumora
 namespace
 {
 
-/// Opacities of a square picture, a byte each.
+/// The alpha channel of a square picture, one byte per pixel.
 using Shape = std::vector<std::uint8_t>;
 
 constexpr int edge = storeIconSize;
 
-/// Each value becomes the mean of those within `radius` along its row, and the picture is turned over its diagonal.
-/// Doing so twice blurs both ways.
+/// Replaces each value by the mean of the values within `radius` in its row, and mirrors the picture at its diagonal.
+/// Two calls blur in both directions.
 Shape blurredAndTurned(const Shape &shape, int radius)
 {
     Shape result(shape.size());
@@ -42,7 +42,7 @@ Shape blurredAndTurned(const Shape &shape, int radius)
     return result;
 }
 
-/// The body's opacities lowered and blurred: three means come close to a bell.
+/// The body's alpha channel, moved down and blurred: three means are close to a Gaussian.
 Shape shadowOf(const QImage &body, int left, int top)
 {
     Shape shape(static_cast<std::size_t>(edge) * edge);

@@ -15,12 +15,12 @@ namespace lumora
 namespace
 {
 
-/// Of 10000; the eye's share of red, green and blue.
+/// The weights of red, green and blue in luminance, in parts of 10000.
 constexpr int redShare = 2126;
 constexpr int greenShare = 7152;
 constexpr int blueShare = 722;
 
-/// Pixels by which a contour may grow when it is scaled.
+/// The number of pixels by which scaling may enlarge a contour.
 constexpr int scalingSpread = 1;
 
 /// Opaque gray, on black.

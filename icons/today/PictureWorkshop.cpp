@@ -23,7 +23,7 @@ namespace
 /// bytes is not worth the time.
 constexpr qint64 largePicture = 1 << 20;
 
-/// Values that are made once each, by whichever thread asks first; the others wait.
+/// Values that are made once. The first thread that asks makes the value; the others wait for it.
 template <typename Key, typename Value> class MadeOnce
 {
 public:
@@ -118,7 +118,7 @@ PictureWorkshop::~PictureWorkshop() = default;
 
 void PictureWorkshop::prepare(std::vector<PictureRecipe> recipes)
 {
-    // What takes longest must not be left to the end, when the other cores have nothing to do.
+    // The longest work starts first; at the end it would leave the other cores idle.
     std::stable_sort(recipes.begin(), recipes.end(), [](const PictureRecipe &one, const PictureRecipe &other) {
         return qint64{one.width} * one.height > qint64{other.width} * other.height;
     });

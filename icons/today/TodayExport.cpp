@@ -141,7 +141,7 @@ std::vector<PictureRecipe> recipesOf(const FilePlan &plan)
 {
     std::vector<PictureRecipe> recipes;
     for (const PlannedFile &file : plan.files) {
-        // Of a Windows icon file only the largest pictures are PNG files.
+        // In a Windows icon file only the largest pictures are PNG files.
         if (file.kind == FileKind::Picture || file.kind == FileKind::Icns)
             recipes.insert(recipes.end(), file.pictures.begin(), file.pictures.end());
     }
