@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The time in which the device matrix filters and starts all fades. Runs without a screen: QT_QPA_PLATFORM=offscreen.
 #include "devices/DeviceViewController.h"
-#include "resources/Resources.h"
 #include "tests/doubles/RecordingServices.h"
 #include "widgets/buttons/CheckboxButton.h"
 
@@ -29,13 +28,3 @@ void filtersAndStartsTheFades(benchmark::State &state)
 BENCHMARK(filtersAndStartsTheFades)->Unit(benchmark::kMicrosecond);
 
 } // namespace
-
-int main(int argc, char **argv)
-{
-    QApplication application(argc, argv);
-    loadResources();
-    installTexts(application, QLocale(QStringLiteral("en")));
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 // The times of the device tool's side of today with all of its models: one requirement with its effects, a full
 // repaint, and the longest frame while it is scrolled. Runs without a screen: QT_QPA_PLATFORM=offscreen.
+#include "PaneInView.h"
 #include "devices/today/ModelFilterView.h"
 #include "devices/today/ModelList.h"
 #include "devices/today/ModelTiles.h"
 #include "devices/today/TodayDevicePane.h"
-#include "resources/Resources.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -22,16 +22,9 @@ using namespace lumora;
 namespace
 {
 
-/// The pane in view, in the smallest size of the window.
-struct Scene
+struct Scene : PaneInView<TodayDevicePane>
 {
-    Scene()
-    {
-        pane.resize(835, 600);
-        pane.show();
-        QCoreApplication::processEvents();
-    }
-    TodayDevicePane pane{builtInModels()};
+    Scene() : PaneInView(builtInModels()) {}
 };
 
 /// From the press of the switch to the drawn pane, the first time.
@@ -108,13 +101,3 @@ void scrolls(benchmark::State &state)
 BENCHMARK(scrolls)->Unit(benchmark::kMillisecond);
 
 } // namespace
-
-int main(int argc, char **argv)
-{
-    QApplication application(argc, argv);
-    loadResources();
-    installTexts(application, QLocale(QStringLiteral("en")));
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

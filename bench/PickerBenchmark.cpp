@@ -6,9 +6,7 @@
 #include "color/picker/BFPopoverColorWell.h"
 #include "color/picker/ColorPanel.h"
 #include "color/picker/PickerContent.h"
-#include "resources/Resources.h"
 #include "widgets/style/Fonts.h"
-#include "widgets/style/FrameClock.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -147,15 +145,3 @@ void dragsInTheWheel(benchmark::State &state)
 BENCHMARK(dragsInTheWheel)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 } // namespace
-
-int main(int argc, char **argv)
-{
-    QApplication application(argc, argv);
-    // Animations have the same frame clock as in the program.
-    const FrameClock frames;
-    loadResources();
-    installTexts(application, QLocale(QStringLiteral("en")));
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

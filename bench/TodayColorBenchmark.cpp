@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The times of the color tool's side of today: until its first frame, and one step of a color that changes, with every
 // code, verdict and the drawn frame. Runs without a screen: QT_QPA_PLATFORM=offscreen.
+#include "PaneInView.h"
 #include "color/today/TodayColorPane.h"
-#include "resources/Resources.h"
 
 #include <QApplication>
 
@@ -13,17 +13,7 @@ using namespace lumora;
 namespace
 {
 
-/// The pane in view, in the smallest size of the window.
-struct Scene
-{
-    Scene()
-    {
-        pane.resize(835, 600);
-        pane.show();
-        QCoreApplication::processEvents();
-    }
-    TodayColorPane pane;
-};
+using Scene = PaneInView<TodayColorPane>;
 
 void opens(benchmark::State &state)
 {
@@ -45,13 +35,3 @@ void showsTheNextColor(benchmark::State &state)
 BENCHMARK(showsTheNextColor)->Unit(benchmark::kMillisecond);
 
 } // namespace
-
-int main(int argc, char **argv)
-{
-    QApplication application(argc, argv);
-    loadResources();
-    installTexts(application, QLocale(QStringLiteral("en")));
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}
