@@ -2,6 +2,7 @@
 #include "DiffCommand.h"
 
 #include "DifferenceReport.h"
+#include "PackageComplaint.h"
 #include "PackageLock.h"
 #include "StoreDemands.h"
 #include "cli/arguments/Declaration.h"
@@ -59,7 +60,7 @@ ExitStatus runDiff(Console &console, const DiffArguments &arguments)
     const Result<ComparedPackage> after = compared(arguments.after, std::get<RuleSettings>(settings));
     for (const Result<ComparedPackage> *each : {&before, &after}) {
         if (!*each)
-            console.complain(each->failure());
+            console.complain(packageComplaint(each->failure().subject, each->failure()));
     }
     if (!before || !after)
         return console.finish(ExitStatus::Unreadable);

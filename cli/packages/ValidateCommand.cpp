@@ -2,6 +2,7 @@
 #include "ValidateCommand.h"
 
 #include "ClassicVerdicts.h"
+#include "PackageComplaint.h"
 #include "PackageLock.h"
 #include "PackagePage.h"
 #include "PackageReportText.h"
@@ -77,10 +78,8 @@ GivenPackage givenPackage(const QString &argument)
 
 Complaint wordedFailure(const GivenPackage &file, const Failure &failure)
 {
-    if (!file.isStdin && failure.code == FailureCode::NotAnArchive && !hasPackageName(file.name))
-        return {Complaint::Kind::Failure, u"wrong-name"_s, file.name, commandText("CLI_NOT_NAMED_IPA"),
-                commandText("CLI_NOT_NAMED_IPA_ADVICE")};
-    return complaintOf(Failure{failure.code, file.name, failure.detail});
+    return file.isStdin ? complaintOf(Failure{failure.code, file.name, failure.detail})
+                        : packageComplaint(file.name, failure);
 }
 
 std::variant<Inspection, Complaint> inspected(const GivenPackage &file, const SpooledPackage &spooled,

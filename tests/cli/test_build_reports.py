@@ -156,6 +156,13 @@ class Reports(unittest.TestCase):
             self.assertEqual(result[part], [])
         self.assertEqual(result["sizes"]["growth"], [])
 
+    def test_difference_of_what_is_not_there_or_no_package(self):
+        ended = self.run_lumora("diff", "gone", __file__)
+        self.assertEqual(ended.returncode, 3)
+        missing, wrong = ended.stderr.decode().splitlines()
+        self.assertEqual(missing, "lumora: gone: gibt es nicht; den Pfad prüfen")
+        self.assertTrue(wrong.startswith(f"lumora: {__file__}: der Name endet nicht auf .ipa, .app oder .xcarchive; "), wrong)
+
     def test_difference_with_what_is_none(self):
         ended = self.run_lumora("diff", "broken.ipa", "none.ipa")
         self.assertEqual((ended.returncode, ended.stdout), (3, b""))

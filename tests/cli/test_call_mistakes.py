@@ -105,6 +105,7 @@ MISTAKES = [
     ("rules sael", 2, 'lumora rules: "sael" is no rule; did you mean seal?'),
     ("rules seal --markdown", 2, "lumora rules: ID and --markdown exclude each other"),
     ("validate App.IPA", 3, "lumora: App.IPA: the name does not end in .ipa, .app or .xcarchive; rename it"),
+    ("validate missing.IPA", 3, "lumora: missing.IPA: does not exist; check the path"),
     ("validate a.ipa b.ipa --icon i.png", 2, "lumora validate: --icon writes the icon of one file"),
     ("validate - -", 2, "lumora validate: - is given twice"),
 ]

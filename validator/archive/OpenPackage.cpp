@@ -5,6 +5,7 @@
 #include "PackageView.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 using namespace Qt::StringLiterals;
 
@@ -21,6 +22,8 @@ Result<std::unique_ptr<PackageSource>> openPackage(const QString &path, const Ex
         return FolderSource::open(path, FolderLayout::App, limits);
     if (name.endsWith(u".xcarchive"))
         return FolderSource::open(path, FolderLayout::XcodeArchive, limits);
+    if (!QFileInfo::exists(path))
+        return Failure{FailureCode::NotFound, path, {}};
     return Failure{FailureCode::NotAnArchive, path, "DETAIL_PACKAGE_NAME"};
 }
 
