@@ -5,6 +5,7 @@
 #include "DropRouter.h"
 #include "HeaderView.h"
 #include "PopupContentView.h"
+#include "ToolHandoffs.h"
 #include "ToolTable.h"
 #include "app/sidebar/ITSidebar.h"
 #include "app/sidebar/ITSidebarItemCell.h"
@@ -161,6 +162,7 @@ ToolViewController *AppDelegate::controller(std::size_t index)
     if (controller == nullptr) {
         controller = toolTable()[index].makeController(m_services);
         controller->setWindow(m_window.get());
+        connectHandoffs(*this, *controller);
         if (PaneSides *sides = controller->sides())
             sides->show(m_firstSide);
         m_dropRouter->watchTool(index);

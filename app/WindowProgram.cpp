@@ -18,6 +18,7 @@
 #include "resources/Resources.h"
 #include "tool/PaneSides.h"
 #include "validator/bundle/WorkFolder.h"
+#include "validator/review/ReviewAnswer.h"
 #include "widgets/style/AppStyle.h"
 #include "widgets/style/FrameClock.h"
 #include "widgets/style/NamedImage.h"
@@ -28,7 +29,10 @@
 #include <QSettings>
 #include <QTimer>
 
+#include <optional>
 #include <variant>
+
+#include <unistd.h>
 
 namespace lumora
 {
@@ -86,11 +90,29 @@ void connectBus(BusApplication &bus, AppDelegate &delegate)
     });
 }
 
+/// The package that a reader is asked for; nothing when the program is to be a window.
+std::optional<QString> packageToRead(const QStringList &arguments)
+{
+    return arguments.size() == 2 && arguments.first() == readerArgument ? std::optional(arguments.last())
+                                                                        : std::nullopt;
+}
+
+/// Reads one package, locked in, for a window that started this process.
+int runReader(int argc, char **argv, const QString &package)
+{
+    QCoreApplication application(argc, argv);
+    loadResources();
+    installTexts(application, QLocale::system(), ToolkitTexts::LeaveOut);
+    return answerReview(package, RuleSettings{QDate::currentDate()}, STDOUT_FILENO);
+}
+
 } // namespace
 
 int runWindow(int argc, char **argv)
 {
     const QStringList arguments = windowArguments(argc, argv);
+    if (const auto package = packageToRead(arguments))
+        return runReader(argc, argv, *package);
     const std::variant<OpenRequest, Complaint> parsed = parseWindowArguments(arguments);
     if (std::holds_alternative<Complaint>(parsed))
         return endWithComplaint(argc, argv, ExitStatus::Usage,
@@ -120,6 +142,7 @@ int runWindow(int argc, char **argv)
     DesktopServices desktop;
     Services services = desktop.services();
     services.workFolder = workFolder ? workFolder->path() : QString();
+    services.readerProgram = QStringLiteral("/proc/self/exe");
     AppDelegate delegate(services);
     delegate.applicationDidFinishLaunching();
     const AppMenu menu(delegate);

@@ -2,6 +2,7 @@
 #include "DeviceViewController.h"
 
 #include "DeviceViews.h"
+#include "devices/today/ModelFilterView.h"
 #include "devices/today/ModelList.h"
 #include "devices/today/TodayDevicePane.h"
 #include "tool/style/ButtonStyle.h"
@@ -13,6 +14,7 @@
 #include <QLabel>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -54,12 +56,24 @@ DeviceViewController::DeviceViewController(const Services &services, QObject *pa
         m_today = new TodayDevicePane(builtInModels(), pane);
         connect(m_today, &TodayDevicePane::copied, this,
                 [this](const QString &text) { this->services().clipboard.setText(text); });
+        if (const auto wanted = std::exchange(m_wanted, {}))
+            m_today->filters()->require(*wanted);
         return m_today;
     });
     createPopup();
 }
 
 DeviceViewController::~DeviceViewController() = default;
+
+void DeviceViewController::showModels(const ModelFilter &filter)
+{
+    m_wanted = filter;
+    sides()->show(ToolSide::Today);
+    if (m_today == nullptr)
+        return;
+    m_wanted.reset();
+    m_today->filters()->require(filter);
+}
 
 void DeviceViewController::setUpSections()
 {

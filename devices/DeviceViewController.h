@@ -4,10 +4,12 @@
 #include "DeviceFilter.h"
 #include "DeviceGroup.h"
 #include "FadingView.h"
+#include "today/ModelFilter.h"
 #include "tool/ToolViewController.h"
 
 #include <array>
 #include <memory>
+#include <optional>
 #include <vector>
 
 class QLabel;
@@ -58,6 +60,8 @@ public:
     QLabel *countLabel() const;
     /// The side of today; null until it is first seen.
     TodayDevicePane *today() const { return m_today; }
+    /// Shows the side of today with the filter's requirements.
+    void showModels(const ModelFilter &filter);
     QLabel *miniLabel() const { return m_miniLabel; }
 
     void checkbox_ios4_checked(RadioButton *sender) { chooseVersion(4.0F, sender); }
@@ -107,8 +111,9 @@ private:
     DeviceGroup m_iPodViews;
     DeviceGroup m_iPadViews;
     FilterDictionary m_filterDictionary;
-    QLabel *m_miniLabel = nullptr;      ///< owned by its container
-    TodayDevicePane *m_today = nullptr; ///< owned by the view
+    QLabel *m_miniLabel = nullptr;       ///< owned by its container
+    TodayDevicePane *m_today = nullptr;  ///< owned by the view
+    std::optional<ModelFilter> m_wanted; ///< until the side of today is made
 };
 
 } // namespace lumora

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "ReasonView.h"
 
-#include "LongWords.h"
 #include "SizeChips.h"
 #include "tool/style/LabelStyle.h"
 #include "widgets/style/Fonts.h"
 #include "widgets/style/Palette.h"
+#include "words/LongWords.h"
 
 #include <QLabel>
 #include <QVBoxLayout>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ReportWords.h"
 
-#include "ShownFact.h"
 #include "validator/bundle/MetadataChecks.h"
+#include "words/ShownFact.h"
 
 #include <QLocale>
 #include <QObject>
@@ -172,7 +172,7 @@ QStringList factLines(const PackageFacts &facts)
     const QString build =
         buildKind(facts) == BuildKind::Debug ? qtTrId("VALID_BUILD_DEBUG") : qtTrId("VALID_BUILD_RELEASE");
     return {
-        factLine(qtTrId("VALIDATER_APP_NAME"), facts.appName()),
+        factLine(qtTrId("VALIDATER_APP_NAME"), facts.shownName()),
         factLine(qtTrId("VALIDATER_APP_VERSION"), facts.appVersion()),
         factLine(qtTrId("VALIDATER_APP_PLATFORM"), facts.appPlatform()),
         factLine(qtTrId("VALIDATER_APP_MINIMUM_OS"), facts.appMinimumOSVersion()),

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "ValidatePopupContentView.h"
 
-#include "LongWords.h"
 #include "tool/style/ButtonStyle.h"
 #include "tool/style/LabelStyle.h"
 #include "ui_ValidatePopupContentView.h"
 #include "widgets/style/Fonts.h"
 #include "widgets/style/Palette.h"
 #include "widgets/style/SlimScrollBars.h"
+#include "words/LongWords.h"
 
 #include <QScrollBar>
 

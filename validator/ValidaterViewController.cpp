@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ValidaterViewController.h"
 
-#include "LongWords.h"
 #include "ReportWords.h"
-#include "ShownFact.h"
 #include "ValidatePopupContentView.h"
 #include "tool/DropHighlight.h"
 #include "tool/TimedCaption.h"
@@ -15,6 +13,8 @@
 #include "widgets/popover/SFBPopover.h"
 #include "widgets/style/Fonts.h"
 #include "widgets/style/Palette.h"
+#include "words/LongWords.h"
+#include "words/ShownFact.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -151,6 +151,7 @@ void ValidaterViewController::setUpReport()
     // The amount of remaining work is not known before the package is unpacked.
     m_ui->readingBar->setDoubleValue(m_ui->readingBar->maxValue());
     m_ui->readingBar->setAccessibleName(qtTrId("ACCESSIBLE_VALIDATER_PROGRESS"));
+    setUpReview();
     for (QWidget *part : {static_cast<QWidget *>(m_ui->readingBar), static_cast<QWidget *>(m_ui->cancelButton)})
         setOpacity(part, 0);
 }
@@ -295,6 +296,10 @@ void ValidaterViewController::reset()
     m_extraction = Extraction();
     m_results.clear();
     m_found.reset();
+    m_review.reset();
+    m_readerEnd.reset();
+    m_isReviewing = false;
+    m_isJudged = false;
     clearReport();
     m_ui->appIconField->clear();
     m_ui->browseButton->setEnabled(true);
@@ -346,7 +351,7 @@ void ValidaterViewController::updateInterface(const PackageFacts &facts, const E
     m_facts = facts;
     m_extraction = extraction;
     m_found = found;
-    showFact(m_ui->appNameField, "VALIDATER_APP_NAME", facts.appName());
+    showFact(m_ui->appNameField, "VALIDATER_APP_NAME", facts.shownName());
     showFact(m_ui->appVersionField, "VALIDATER_APP_VERSION", facts.appVersion());
     showFact(m_ui->appPlatformField, "VALIDATER_APP_PLATFORM", facts.appPlatform());
     showFact(m_ui->appMinOSField, "VALIDATER_APP_MINIMUM_OS", facts.appMinimumOSVersion());
@@ -378,8 +383,8 @@ void ValidaterViewController::validate(const ArtworkReport &artwork)
         1);
     for (CheckboxButton *box : boxes())
         box->setToolTip(box->isEnabled() ? qtTrId("VALIDATER_BOX_TIP") : QString());
-    showSum();
-    presentReport();
+    m_isJudged = true;
+    conclude();
 }
 
 void ValidaterViewController::showPresence(CheckboxButton *box, bool present)

@@ -9,6 +9,7 @@
 #include "validator/bundle/CheckResults.h"
 #include "validator/bundle/FoundContent.h"
 #include "validator/bundle/PackageInspection.h"
+#include "validator/review/ReviewProcess.h"
 
 #include <memory>
 #include <optional>
@@ -23,13 +24,16 @@ namespace lumora
 {
 
 class CheckboxButton;
+class FindingsView;
 class ReasonView;
+class ReviewSections;
 class TimedCaption;
 class ValidatePopupContentView;
 
 /// The app package validator's pane. It has two interfaces: one for dropping or choosing a package, and one that shows
 /// the report: its sum, what was read, and seven boxes that explain their verdict when pressed, each with its reason
-/// below it. For a file that is no package the report says what was found.
+/// below it. For a file that is no package the report says what was found. Of a package that is not of old time it also
+/// shows what the store's rules find; another process reads it for that, so that no package takes the window down.
 class ValidaterViewController final : public ToolViewController, public DropViewDelegate
 {
     Q_OBJECT
@@ -52,6 +56,12 @@ public:
     const QList<CheckResult> &results() const { return m_results; }
     /// What was found instead of a package; empty if nothing was, or if a package was found.
     const std::optional<FoundContent> &found() const { return m_found; }
+    /// What the store's rules say; empty until the reader has answered, and without one.
+    const std::optional<PackageReview> &review() const { return m_review; }
+    FindingsView *findingsView() const { return m_findings; }
+    ReviewSections *reviewSections() const { return m_sections; }
+    /// The ids of the rules that the user ignores, while the program runs.
+    const QStringList &ignoredRules() const { return m_ignored; }
     /// The whole report as text, for sending.
     QString reportText() const;
 
@@ -83,6 +93,12 @@ public:
     /// Like the shared popup, but in the pane's own popup, whose message may have any length.
     void showValidatePopupWithTitle(const QString &title, const QString &message, QWidget *fromView, bool isError);
     void showAlertWithTitle(const QString &title, const QString &andMessage, QWidget *fromView);
+
+signals:
+    /// Icons are wanted from the picture at the path, which is empty when the package has none.
+    void iconsWanted(const QString &picture);
+    /// The models that run the package are wanted.
+    void modelsWanted(const lumora::DeviceDemands &demands);
 
 public slots:
     void resetButtonPressed();
@@ -116,6 +132,19 @@ private:
     void updateInterface(const PackageFacts &facts, const Extraction &extraction,
                          const std::optional<FoundContent> &found);
     void validate(const ArtworkReport &artwork);
+    void setUpReview();
+    void startReview(const QString &path, quint64 number);
+    void takeReview(std::variant<PackageReview, ReaderEnd> review);
+    bool isReviewPending() const { return m_isReviewing && !m_found; }
+    /// Presents the report when all that belongs to it is there.
+    void conclude();
+    void showReview();
+    /// The sum and the findings without the ignored rules.
+    void showFindings();
+    void passIconsOn();
+    void saveReport();
+    void writeReport(const QString &folder);
+    QString readerNote() const;
     void showFact(QLabel *field, const char *labelKey, const QString &value);
     void showAppIcon(const QImage &icon);
     /// Shows the sum on top and the reasons in their rows; without a package, what was found.
@@ -145,6 +174,14 @@ private:
     QList<CheckResult> m_results;
     std::optional<FoundContent> m_found;
     TimedCaption *m_copyCaption = nullptr; ///< owned by the controller
+    FindingsView *m_findings = nullptr;    ///< owned by the view, like the next one
+    ReviewSections *m_sections = nullptr;
+    TimedCaption *m_saveCaption = nullptr; ///< owned by the controller
+    std::optional<PackageReview> m_review;
+    std::optional<ReaderEnd> m_readerEnd; ///< why there is no review
+    QStringList m_ignored;
+    bool m_isReviewing = false;
+    bool m_isJudged = false; ///< the classic checks are done
     /// Counts the packages, so that results of a replaced reading are dropped.
     quint64 m_reading = 0;
     std::stop_source m_stop;
@@ -152,6 +189,8 @@ private:
     /// and remove, each other's files. A new package stops the current reading and waits for its end, which comes
     /// within a block of 4 KB. Last, so that it is destroyed first.
     BackgroundJobs m_jobs{BackgroundJobs::Order::Serial, "bgQueue"};
+    /// Readers and the writing of reports.
+    BackgroundJobs m_reviewJobs{BackgroundJobs::Order::Serial, "reviews"};
 };
 
 } // namespace lumora

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // The way of a package from its path to the validator's pane.
-#include "LongWords.h"
-#include "ShownFact.h"
 #include "ValidaterViewController.h"
 #include "ui_ValidaterViewController.h"
+#include "words/LongWords.h"
+#include "words/ShownFact.h"
 
 #include <QFileInfo>
 #include <QtMath>
@@ -70,6 +70,7 @@ void ValidaterViewController::foundIpaFile(const QString &path)
     const int iconScale = qCeil(view()->devicePixelRatioF());
     const InspectionSite site{services().workFolder, *m_profileDecoder, {}, m_stop.get_token(), iconScale};
     const quint64 number = ++m_reading;
+    startReview(path, number);
     m_jobs.start([this, path, site, number](const BackgroundJob &job) {
         Reading observer(job, this, number);
         PackageInspection(path, site.profileDecoder, observer).unzipApp(site);

@@ -1,15 +1,17 @@
 // SPDX-License-Identifier: MIT
 // The texts of the validator's pane about a package as a whole, and the actions on the report.
-#include "LongWords.h"
 #include "ReasonView.h"
 #include "ReportWords.h"
-#include "ShownFact.h"
 #include "ValidaterViewController.h"
+#include "findings/FindingWords.h"
+#include "findings/ReviewSections.h"
 #include "tool/TimedCaption.h"
 #include "ui_ValidaterViewController.h"
 #include "validator/bundle/BundleImages.h"
 #include "widgets/style/KeyboardFocus.h"
 #include "widgets/style/Palette.h"
+#include "words/LongWords.h"
+#include "words/ShownFact.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -78,7 +80,7 @@ void ValidaterViewController::showSum()
 
     const QString note = isTooMuchToRead ? qtTrId("VALIDATER_STOPPED_MESSAGE")
                          : m_found       ? foundText(*m_found)
-                                         : noteText(m_facts, m_extraction);
+                                         : QString(noteText(m_facts, m_extraction) + u'\n' + readerNote()).trimmed();
     m_ui->noteLabel->setText(breakingLongWords(note));
     m_ui->noteLabel->setAccessibleName(note);
     m_ui->noteLabel->setVisible(!note.isEmpty());
@@ -99,6 +101,7 @@ void ValidaterViewController::showSum()
 
 void ValidaterViewController::clearReport()
 {
+    m_ui->reportBody->showReview(ReportBody::Review::None);
     m_ui->noteLabel->hide();
     m_ui->noteLabel->setAccessibleName(QString());
     m_ui->factsPart->show();
@@ -151,6 +154,9 @@ QString ValidaterViewController::reportText() const
     if (m_found)
         return lines.join(u'\n') + u'\n';
     lines << QString() << factLines(m_facts) << QString();
+    if (m_review && !m_review->isOfOldTime)
+        lines << findingTexts(m_review->findings(m_ignored)) << m_sections->lines() << QString()
+              << qtTrId("REVIEW_CLASSIC_RULES");
     for (const CheckResult &result : m_results) {
         const QString reason = reasonText(result, m_facts);
         lines += verdictText(result);

@@ -4,6 +4,7 @@
 #include "StoreReport.h"
 #include "cli/console/CommandText.h"
 #include "foundation/PrintableText.h"
+#include "validator/reports/PackageJson.h"
 
 #include <QJsonArray>
 #include <QLocale>

@@ -6,8 +6,6 @@
 #include "foundation/PrintableText.h"
 #include "validator/bundle/MetadataChecks.h"
 
-#include <QJsonArray>
-
 using namespace Qt::StringLiterals;
 
 namespace lumora
@@ -63,38 +61,6 @@ QString presenceLine(bool present, const QString &what)
 
 } // namespace
 
-QJsonObject reportJson(const QString &file, const PackageReport &report)
-{
-    const PackageFacts &facts = report.facts;
-    const ArtworkFindings &findings = report.artwork.findings;
-    const MetadataVerdicts verdicts = metadataVerdicts(facts);
-    const QJsonObject checks{
-        {u"icons"_s, QJsonObject{{u"valid"_s, findings.missingIcons.isEmpty()},
-                                 {u"missing"_s, QJsonArray::fromStringList(sizeTexts(findings.missingIcons))}}},
-        {u"launchImages"_s,
-         QJsonObject{{u"valid"_s, findings.missingLaunchImages.isEmpty()},
-                     {u"missing"_s, QJsonArray::fromStringList(sizeTexts(findings.missingLaunchImages))}}},
-        {u"bundleIdentifier"_s, QJsonObject{{u"valid"_s, verdicts.bundleIdentifierValid}}},
-        {u"localizations"_s, QJsonObject{{u"valid"_s, verdicts.localizationsValid}}},
-        {u"urlSchemes"_s, QJsonObject{{u"present"_s, verdicts.urlSchemesPresent}}},
-        {u"facebookAppID"_s, QJsonObject{{u"present"_s, verdicts.facebookAppIDPresent}}},
-    };
-    const auto facebookAppID = facts.appFacebookID();
-    return {
-        {u"file"_s, file},
-        {u"name"_s, facts.appName()},
-        {u"version"_s, facts.appVersion()},
-        {u"platform"_s, facts.appPlatform()},
-        {u"minimumOS"_s, facts.appMinimumOSVersion()},
-        {u"bundleIdentifier"_s, facts.appBundleIdentifier()},
-        {u"build"_s, buildText(facts)},
-        {u"localizations"_s, QJsonArray::fromStringList(facts.appLocalizations)},
-        {u"urlSchemes"_s, QJsonArray::fromStringList(facts.appURLSchemes().value_or(QStringList()))},
-        {u"facebookAppID"_s, facebookAppID ? QJsonValue(*facebookAppID) : QJsonValue(QJsonValue::Null)},
-        {u"checks"_s, checks},
-    };
-}
-
 QJsonObject failureJson(const QString &file, const Complaint &complaint)
 {
     return {{u"file"_s, file}, {u"error"_s, complaint.line()}};
@@ -110,7 +76,7 @@ QStringList reportLines(const QString &file, const PackageReport &report)
         schemes += scheme + u"://"_s;
     return {
         printableText(file),
-        factLine(commandText("CLI_FACT_NAME"), facts.appName()),
+        factLine(commandText("CLI_FACT_NAME"), facts.shownName()),
         factLine(commandText("CLI_FACT_VERSION"), facts.appVersion()),
         factLine(commandText("CLI_FACT_PLATFORM"), facts.appPlatform()),
         factLine(commandText("CLI_FACT_MINIMUM_OS"), facts.appMinimumOSVersion()),

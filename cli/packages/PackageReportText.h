@@ -12,9 +12,6 @@ namespace lumora
 
 struct Complaint;
 
-/// The report for scripts, without the members that every object has; `file` is the package as the user named it.
-QJsonObject reportJson(const QString &file, const PackageReport &report);
-
 /// The object for a file that could not be read.
 QJsonObject failureJson(const QString &file, const Complaint &complaint);
 

@@ -3,7 +3,7 @@
 
 #include "cli/console/CommandText.h"
 #include "devices/today/ModelList.h"
-#include "validator/rules/Judging.h"
+#include "validator/rules/DeviceDemands.h"
 
 #include <QJsonObject>
 #include <QMap>
@@ -21,30 +21,6 @@ namespace
 QString text(std::string_view view)
 {
     return QString::fromUtf8(view.data(), static_cast<qsizetype>(view.size()));
-}
-
-/// The keys of UIRequiredDeviceCapabilities, a list or a table of what must be there and what must not.
-QStringList requiredCapabilities(const PackageBundle &app)
-{
-    const QVariant value = app.info ? app.info->value(u"UIRequiredDeviceCapabilities"_s) : QVariant();
-    if (value.typeId() != QMetaType::QVariantMap)
-        return value.toStringList();
-    QStringList keys;
-    const QVariantMap table = value.toMap();
-    for (auto each = table.begin(); each != table.end(); ++each) {
-        if (each.value().toBool())
-            keys += each.key();
-    }
-    return keys;
-}
-
-/// Whether all code of the app's executable is for 64-bit processors.
-bool isFor64BitOnly(const PackageContents &contents, const PackageBundle &app)
-{
-    const PackageBinary *binary = contents.binaryOf(app);
-    return binary != nullptr && !binary->facts.slices.isEmpty() &&
-           std::ranges::all_of(binary->facts.slices,
-                               [](const BinarySlice &slice) { return slice.architecture.startsWith(u"arm64"); });
 }
 
 QStringList namesOf(const std::vector<ModelGroup> &groups, DeviceFamily family, const ModelFilter &filter)
@@ -69,23 +45,8 @@ QStringList reasonTexts(const GroupVerdict &verdict)
 
 ModelFilter demandsOnModels(const PackageContents &contents)
 {
-    ModelFilter filter;
-    const PackageBundle *app = contents.app();
-    if (app == nullptr)
-        return filter;
-    if (const QString minimum = app->text(u"MinimumOSVersion"_s); !minimum.isEmpty())
-        takeIosRange(QString(minimum + u".."_s), filter);
-    if (!deviceFamilies(*app).contains(1))
-        filter.families = {DeviceFamily::IPad};
-    QStringList keys = requiredCapabilities(*app);
-    if (isFor64BitOnly(contents, *app))
-        keys += u"arm64"_s;
-    keys.removeDuplicates();
-    for (const QString &key : keys) {
-        if (const ModelCapability *capability = modelCapability(key))
-            filter.capabilities.push_back(capability);
-    }
-    return filter;
+    const DeviceDemands demands = deviceDemandsOf(contents);
+    return filterOf(demands.minimumSystem, demands.padOnly, demands.capabilities);
 }
 
 QStringList runnableModelLines(const ModelFilter &filter)

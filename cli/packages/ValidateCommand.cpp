@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ValidateCommand.h"
 
-#include "ClassicVerdicts.h"
 #include "PackageComplaint.h"
 #include "PackageLock.h"
-#include "PackagePage.h"
 #include "PackageReportText.h"
 #include "ReportFiles.h"
 #include "RunnableModels.h"
@@ -18,6 +16,9 @@
 #include "pictures/PictureOperations.h"
 #include "pictures/png/PngEncoder.h"
 #include "validator/archive/OpenPackage.h"
+#include "validator/reports/PackageJson.h"
+#include "validator/reports/PackagePage.h"
+#include "validator/rules/ClassicVerdicts.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

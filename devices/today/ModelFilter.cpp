@@ -175,6 +175,20 @@ bool takeIosRange(QStringView text, ModelFilter &filter)
     return true;
 }
 
+ModelFilter filterOf(const QString &minimumSystem, bool padOnly, const QStringList &capabilities)
+{
+    ModelFilter filter;
+    if (!minimumSystem.isEmpty())
+        takeIosRange(QString(minimumSystem + u".."_s), filter);
+    if (padOnly)
+        filter.families = {DeviceFamily::IPad};
+    for (const QString &key : capabilities) {
+        if (const ModelCapability *capability = modelCapability(key))
+            filter.capabilities.push_back(capability);
+    }
+    return filter;
+}
+
 int modelsRunning(std::span<const DeviceModel> models, const OsVersion &version)
 {
     return static_cast<int>(std::ranges::count_if(

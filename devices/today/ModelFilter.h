@@ -76,6 +76,10 @@ QString reasonText(const FallsOutReason &reason);
 /// Reads "15..", "..12", "9..12.4" or "15" into the filter; false if the text is no such range.
 bool takeIosRange(QStringView text, ModelFilter &filter);
 
+/// The filter for an app with these demands: its oldest version as text, no iPhone, and keys of capabilities, of which
+/// those that the list does not know demand nothing.
+ModelFilter filterOf(const QString &minimumSystem, bool padOnly, const QStringList &capabilities);
+
 /// The number of models that run the version or a newer one.
 int modelsRunning(std::span<const DeviceModel> models, const OsVersion &version);
 

@@ -19,6 +19,8 @@
 #include <QScrollArea>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace lumora
@@ -191,6 +193,19 @@ ModelFilter ModelFilterView::filter() const
     if (m_biometries->currentIndex() > 0)
         filter.biometries.insert(static_cast<Biometry>(m_biometries->currentData().toInt()));
     return filter;
+}
+
+void ModelFilterView::require(const ModelFilter &filter)
+{
+    const bool before = blockSignals(true);
+    reset();
+    m_range->require(filter);
+    for (const auto &[family, box] : m_families)
+        box->setActive(filter.families.contains(family));
+    for (const auto &[capability, box] : m_capabilities)
+        box->setActive(std::ranges::find(filter.capabilities, capability) != filter.capabilities.end());
+    blockSignals(before);
+    emit changed();
 }
 
 void ModelFilterView::reset()

@@ -30,6 +30,8 @@ public:
 
     ModelFilter filter() const;
     void reset();
+    /// Requires the filter's oldest version, families and capabilities, and nothing else.
+    void require(const ModelFilter &filter);
 
     QLineEdit *search() const { return m_search; }
     VersionRange *range() const { return m_range; }

@@ -90,6 +90,17 @@ void VersionRange::reset()
     m_to->setValue(m_to->maximum());
 }
 
+void VersionRange::require(const ModelFilter &filter)
+{
+    reset();
+    if (!filter.iosFrom)
+        return;
+    for (std::size_t index = 0; index < m_versions.size(); ++index) {
+        if (m_versions[index].major() <= filter.iosFrom->major())
+            m_from->setValue(static_cast<int>(index));
+    }
+}
+
 void VersionRange::showRange()
 {
     const auto version = [this](const QSlider *slider) {

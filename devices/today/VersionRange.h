@@ -29,6 +29,8 @@ public:
     /// Sets the range of the filter; both ends of all versions mean no requirement.
     void apply(ModelFilter &filter) const;
     void reset();
+    /// Requires the oldest version with its major number, if the filter has an oldest version.
+    void require(const ModelFilter &filter);
 
 signals:
     void changed();

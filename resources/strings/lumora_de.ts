@@ -1625,6 +1625,354 @@
     <source>No readable app package</source>
     <translation>Kein lesbares App-Paket</translation>
   </message>
+  <message id="FINDINGS_TITLE">
+    <source>Findings</source>
+    <translation>Befunde</translation>
+  </message>
+  <message id="FINDINGS_NONE">
+    <source>Nothing found</source>
+    <translation>Nichts gefunden</translation>
+  </message>
+  <message id="FINDINGS_NONE_LONG">
+    <source>The store's rules find nothing in this package.</source>
+    <translation>Die Regeln des Stores finden nichts in diesem Paket.</translation>
+  </message>
+  <message id="FINDINGS_NONE_FIT">
+    <source>No finding fits the choice.</source>
+    <translation>Kein Befund passt zur Auswahl.</translation>
+  </message>
+  <message id="FINDINGS_ONE_ERROR">
+    <source>1 error</source>
+    <translation>1 Fehler</translation>
+  </message>
+  <message id="FINDINGS_ERRORS">
+    <source>[COUNT] errors</source>
+    <translation>[COUNT] Fehler</translation>
+  </message>
+  <message id="FINDINGS_ONE_WARNING">
+    <source>1 warning</source>
+    <translation>1 Warnung</translation>
+  </message>
+  <message id="FINDINGS_WARNINGS">
+    <source>[COUNT] warnings</source>
+    <translation>[COUNT] Warnungen</translation>
+  </message>
+  <message id="FINDINGS_ONE_NOTE">
+    <source>1 note</source>
+    <translation>1 Hinweis</translation>
+  </message>
+  <message id="FINDINGS_NOTES">
+    <source>[COUNT] notes</source>
+    <translation>[COUNT] Hinweise</translation>
+  </message>
+  <message id="FINDINGS_ERROR">
+    <source>Error</source>
+    <translation>Fehler</translation>
+  </message>
+  <message id="FINDINGS_WARNING">
+    <source>Warning</source>
+    <translation>Warnung</translation>
+  </message>
+  <message id="FINDINGS_NOTE">
+    <source>Note</source>
+    <translation>Hinweis</translation>
+  </message>
+  <message id="FINDINGS_SHOW_ALL">
+    <source>All</source>
+    <translation>Alle</translation>
+  </message>
+  <message id="FINDINGS_SHOW_ERRORS">
+    <source>Errors</source>
+    <translation>Fehler</translation>
+  </message>
+  <message id="FINDINGS_SHOW_WARNINGS">
+    <source>Warnings</source>
+    <translation>Warnungen</translation>
+  </message>
+  <message id="FINDINGS_SHOW_NOTES">
+    <source>Notes</source>
+    <translation>Hinweise</translation>
+  </message>
+  <message id="ACCESSIBLE_FINDINGS_SEVERITY">
+    <source>Severity of the findings</source>
+    <translation>Schwere der Befunde</translation>
+  </message>
+  <message id="FINDINGS_SEARCH">
+    <source>Search the findings</source>
+    <translation>Befunde durchsuchen</translation>
+  </message>
+  <message id="FINDINGS_SAVE">
+    <source>Save report</source>
+    <translation>Bericht sichern</translation>
+  </message>
+  <message id="FINDINGS_SAVE_TIP">
+    <source>Save the report as a web page and as JSON</source>
+    <translation>Den Bericht als Webseite und als JSON sichern</translation>
+  </message>
+  <message id="FINDINGS_SAVE_PANEL">
+    <source>Choose a folder for the report</source>
+    <translation>Ordner für den Bericht wählen</translation>
+  </message>
+  <message id="FINDINGS_SAVED">
+    <source>Saved</source>
+    <translation>Gesichert</translation>
+  </message>
+  <message id="FINDINGS_NOT_SAVED">
+    <source>The report could not be saved</source>
+    <translation>Der Bericht ließ sich nicht sichern</translation>
+  </message>
+  <message id="FINDINGS_TIMES">
+    <source>[COUNT] times</source>
+    <translation>[COUNT]-mal</translation>
+  </message>
+  <message id="FINDINGS_MORE_PLACES">
+    <source>and [COUNT] more; the saved report has them all</source>
+    <translation>und [COUNT] weitere; der gesicherte Bericht enthält alle</translation>
+  </message>
+  <message id="FINDINGS_FOUND">
+    <source>What was found</source>
+    <translation>Was gefunden wurde</translation>
+  </message>
+  <message id="FINDINGS_WHY">
+    <source>Why it matters</source>
+    <translation>Warum das wichtig ist</translation>
+  </message>
+  <message id="FINDINGS_MEND">
+    <source>How to mend it</source>
+    <translation>Wie es sich beheben lässt</translation>
+  </message>
+  <message id="FINDINGS_IGNORE">
+    <source>Ignore this rule</source>
+    <translation>Diese Regel übergehen</translation>
+  </message>
+  <message id="FINDINGS_IGNORE_TIP">
+    <source>Leave this rule out until Lumora is closed</source>
+    <translation>Diese Regel weglassen, bis Lumora geschlossen wird</translation>
+  </message>
+  <message id="FINDINGS_RESTORE">
+    <source>Ignored rules: [COUNT]. Show again</source>
+    <translation>Übergangene Regeln: [COUNT]. Wieder zeigen</translation>
+  </message>
+  <message id="FINDINGS_MAKE_ICONS">
+    <source>Make the missing icons</source>
+    <translation>Fehlende Symbole erzeugen</translation>
+  </message>
+  <message id="FINDINGS_MAKE_ICONS_TIP">
+    <source>Open the icon tool, with the package's own picture if it has one</source>
+    <translation>Das Symbolwerkzeug öffnen, mit dem Bild des Pakets, falls es eines enthält</translation>
+  </message>
+  <message id="ACCESSIBLE_FINDING_OPEN">
+    <source>open</source>
+    <translation>geöffnet</translation>
+  </message>
+  <message id="ACCESSIBLE_FINDING_CLOSED">
+    <source>closed</source>
+    <translation>geschlossen</translation>
+  </message>
+  <message id="REVIEW_PENDING">
+    <source>Asking the store's rules …</source>
+    <translation>Die Regeln des Stores werden geprüft …</translation>
+  </message>
+  <message id="REVIEW_CLASSIC_RULES">
+    <source>iOS 7 rules</source>
+    <translation>Regeln von iOS 7</translation>
+  </message>
+  <message id="REVIEW_READER_CRASHED">
+    <source>The store's rules could not be asked: the reader stopped in the middle of the package. The file may be damaged on purpose.</source>
+    <translation>Die Regeln des Stores ließen sich nicht prüfen: Das Leseprogramm ist mitten im Paket abgebrochen. Die Datei ist vielleicht mit Absicht beschädigt.</translation>
+  </message>
+  <message id="REVIEW_READER_STALLED">
+    <source>The store's rules could not be asked: the reader did not get any further and was ended.</source>
+    <translation>Die Regeln des Stores ließen sich nicht prüfen: Das Leseprogramm kam nicht weiter und wurde beendet.</translation>
+  </message>
+  <message id="REVIEW_READER_NOT_STARTED">
+    <source>The store's rules could not be asked: the reader could not be started.</source>
+    <translation>Die Regeln des Stores ließen sich nicht prüfen: Das Leseprogramm ließ sich nicht starten.</translation>
+  </message>
+  <message id="REVIEW_SIGNING">
+    <source>Signature and profile</source>
+    <translation>Signatur und Profil</translation>
+  </message>
+  <message id="REVIEW_SIGNATURE">
+    <source>Signature</source>
+    <translation>Signatur</translation>
+  </message>
+  <message id="REVIEW_SIGNATURE_VALID">
+    <source>valid</source>
+    <translation>gültig</translation>
+  </message>
+  <message id="REVIEW_SIGNATURE_NONE">
+    <source>not signed</source>
+    <translation>nicht signiert</translation>
+  </message>
+  <message id="REVIEW_SIGNATURE_BROKEN">
+    <source>broken</source>
+    <translation>gebrochen</translation>
+  </message>
+  <message id="REVIEW_SIGNER">
+    <source>Signed by</source>
+    <translation>Signiert von</translation>
+  </message>
+  <message id="REVIEW_TEAM">
+    <source>Team</source>
+    <translation>Team</translation>
+  </message>
+  <message id="REVIEW_PROFILE">
+    <source>Profile</source>
+    <translation>Profil</translation>
+  </message>
+  <message id="REVIEW_PROFILE_NONE">
+    <source>none</source>
+    <translation>keines</translation>
+  </message>
+  <message id="REVIEW_PROFILE_DEVELOPMENT">
+    <source>for development</source>
+    <translation>zur Entwicklung</translation>
+  </message>
+  <message id="REVIEW_PROFILE_AD_HOC">
+    <source>for listed devices (ad hoc)</source>
+    <translation>für eingetragene Geräte (ad hoc)</translation>
+  </message>
+  <message id="REVIEW_PROFILE_ENTERPRISE">
+    <source>for one company (in-house)</source>
+    <translation>für ein einzelnes Unternehmen (in-house)</translation>
+  </message>
+  <message id="REVIEW_PROFILE_STORE">
+    <source>for the App Store</source>
+    <translation>für den App Store</translation>
+  </message>
+  <message id="REVIEW_PROFILE_NAME">
+    <source>Name of the profile</source>
+    <translation>Name des Profils</translation>
+  </message>
+  <message id="REVIEW_PROFILE_TEAM">
+    <source>Team of the profile</source>
+    <translation>Team des Profils</translation>
+  </message>
+  <message id="REVIEW_EXPIRY">
+    <source>Validity</source>
+    <translation>Gültigkeit</translation>
+  </message>
+  <message id="REVIEW_EXPIRES_IN_DAYS">
+    <source>expires in [COUNT] days ([DATE])</source>
+    <translation>läuft in [COUNT] Tagen ab ([DATE])</translation>
+  </message>
+  <message id="REVIEW_EXPIRES_IN_A_DAY">
+    <source>expires in 1 day ([DATE])</source>
+    <translation>läuft in 1 Tag ab ([DATE])</translation>
+  </message>
+  <message id="REVIEW_EXPIRED">
+    <source>expired on [DATE]</source>
+    <translation>am [DATE] abgelaufen</translation>
+  </message>
+  <message id="REVIEW_DEVICES">
+    <source>Devices</source>
+    <translation>Geräte</translation>
+  </message>
+  <message id="REVIEW_BUNDLES">
+    <source>Bundles</source>
+    <translation>Bundles</translation>
+  </message>
+  <message id="REVIEW_KIND_APP">
+    <source>app</source>
+    <translation>App</translation>
+  </message>
+  <message id="REVIEW_KIND_EXTENSION">
+    <source>extension</source>
+    <translation>Erweiterung</translation>
+  </message>
+  <message id="REVIEW_KIND_WATCH_APP">
+    <source>watch app</source>
+    <translation>Watch-App</translation>
+  </message>
+  <message id="REVIEW_KIND_FRAMEWORK">
+    <source>framework</source>
+    <translation>Framework</translation>
+  </message>
+  <message id="REVIEW_KIND_RESOURCES">
+    <source>resources</source>
+    <translation>Ressourcen</translation>
+  </message>
+  <message id="REVIEW_VERSION">
+    <source>version [VERSION]</source>
+    <translation>Version [VERSION]</translation>
+  </message>
+  <message id="REVIEW_MINIMUM">
+    <source>from iOS [VERSION]</source>
+    <translation>ab iOS [VERSION]</translation>
+  </message>
+  <message id="REVIEW_MORE">
+    <source>and [COUNT] more</source>
+    <translation>und [COUNT] weitere</translation>
+  </message>
+  <message id="REVIEW_PRIVACY">
+    <source>Privacy</source>
+    <translation>Datenschutz</translation>
+  </message>
+  <message id="REVIEW_PRIVACY_NONE">
+    <source>no privacy manifest</source>
+    <translation>kein Datenschutzmanifest</translation>
+  </message>
+  <message id="REVIEW_TRACKS">
+    <source>tracks people</source>
+    <translation>verfolgt Personen</translation>
+  </message>
+  <message id="REVIEW_TRACKS_NOT">
+    <source>does not track people</source>
+    <translation>verfolgt keine Personen</translation>
+  </message>
+  <message id="REVIEW_COLLECTS">
+    <source>kinds of data collected: [COUNT]</source>
+    <translation>gesammelte Arten von Daten: [COUNT]</translation>
+  </message>
+  <message id="REVIEW_SIZES">
+    <source>Sizes</source>
+    <translation>Größen</translation>
+  </message>
+  <message id="REVIEW_FILES_CODE">
+    <source>Code</source>
+    <translation>Code</translation>
+  </message>
+  <message id="REVIEW_FILES_CATALOGS">
+    <source>Catalogs</source>
+    <translation>Kataloge</translation>
+  </message>
+  <message id="REVIEW_FILES_PICTURES">
+    <source>Pictures</source>
+    <translation>Bilder</translation>
+  </message>
+  <message id="REVIEW_FILES_SOUNDS">
+    <source>Sound and film</source>
+    <translation>Ton und Film</translation>
+  </message>
+  <message id="REVIEW_FILES_INTERFACES">
+    <source>Interfaces</source>
+    <translation>Oberflächen</translation>
+  </message>
+  <message id="REVIEW_FILES_LANGUAGES">
+    <source>Languages</source>
+    <translation>Sprachen</translation>
+  </message>
+  <message id="REVIEW_FILES_FONTS">
+    <source>Fonts</source>
+    <translation>Schriften</translation>
+  </message>
+  <message id="REVIEW_FILES_SIGNING">
+    <source>Signing</source>
+    <translation>Signierung</translation>
+  </message>
+  <message id="REVIEW_FILES_OTHERS">
+    <source>Others</source>
+    <translation>Anderes</translation>
+  </message>
+  <message id="REVIEW_MODELS">
+    <source>Models on which it runs</source>
+    <translation>Modelle, auf denen es läuft</translation>
+  </message>
+  <message id="REVIEW_MODELS_TIP">
+    <source>Open the device tool with what the package asks for</source>
+    <translation>Das Gerätewerkzeug mit den Anforderungen des Pakets öffnen</translation>
+  </message>
   <message id="VALIDATER_NO_PACKAGE_ADVICE">
     <source>An app package is a zip archive that holds the app as a folder NAME.app in its Payload folder. Please choose another file, or export the app again.</source>
     <translation>Ein App-Paket ist ein Zip-Archiv, das die App als Ordner NAME.app in seinem Ordner Payload enthält. Bitte eine andere Datei wählen oder die App neu exportieren.</translation>

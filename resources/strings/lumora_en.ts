@@ -1623,6 +1623,354 @@
     <source>No readable app package</source>
     <translation>No readable app package</translation>
   </message>
+  <message id="FINDINGS_TITLE">
+    <source>Findings</source>
+    <translation>Findings</translation>
+  </message>
+  <message id="FINDINGS_NONE">
+    <source>Nothing found</source>
+    <translation>Nothing found</translation>
+  </message>
+  <message id="FINDINGS_NONE_LONG">
+    <source>The store's rules find nothing in this package.</source>
+    <translation>The store's rules find nothing in this package.</translation>
+  </message>
+  <message id="FINDINGS_NONE_FIT">
+    <source>No finding fits the choice.</source>
+    <translation>No finding fits the choice.</translation>
+  </message>
+  <message id="FINDINGS_ONE_ERROR">
+    <source>1 error</source>
+    <translation>1 error</translation>
+  </message>
+  <message id="FINDINGS_ERRORS">
+    <source>[COUNT] errors</source>
+    <translation>[COUNT] errors</translation>
+  </message>
+  <message id="FINDINGS_ONE_WARNING">
+    <source>1 warning</source>
+    <translation>1 warning</translation>
+  </message>
+  <message id="FINDINGS_WARNINGS">
+    <source>[COUNT] warnings</source>
+    <translation>[COUNT] warnings</translation>
+  </message>
+  <message id="FINDINGS_ONE_NOTE">
+    <source>1 note</source>
+    <translation>1 note</translation>
+  </message>
+  <message id="FINDINGS_NOTES">
+    <source>[COUNT] notes</source>
+    <translation>[COUNT] notes</translation>
+  </message>
+  <message id="FINDINGS_ERROR">
+    <source>Error</source>
+    <translation>Error</translation>
+  </message>
+  <message id="FINDINGS_WARNING">
+    <source>Warning</source>
+    <translation>Warning</translation>
+  </message>
+  <message id="FINDINGS_NOTE">
+    <source>Note</source>
+    <translation>Note</translation>
+  </message>
+  <message id="FINDINGS_SHOW_ALL">
+    <source>All</source>
+    <translation>All</translation>
+  </message>
+  <message id="FINDINGS_SHOW_ERRORS">
+    <source>Errors</source>
+    <translation>Errors</translation>
+  </message>
+  <message id="FINDINGS_SHOW_WARNINGS">
+    <source>Warnings</source>
+    <translation>Warnings</translation>
+  </message>
+  <message id="FINDINGS_SHOW_NOTES">
+    <source>Notes</source>
+    <translation>Notes</translation>
+  </message>
+  <message id="ACCESSIBLE_FINDINGS_SEVERITY">
+    <source>Severity of the findings</source>
+    <translation>Severity of the findings</translation>
+  </message>
+  <message id="FINDINGS_SEARCH">
+    <source>Search the findings</source>
+    <translation>Search the findings</translation>
+  </message>
+  <message id="FINDINGS_SAVE">
+    <source>Save report</source>
+    <translation>Save report</translation>
+  </message>
+  <message id="FINDINGS_SAVE_TIP">
+    <source>Save the report as a web page and as JSON</source>
+    <translation>Save the report as a web page and as JSON</translation>
+  </message>
+  <message id="FINDINGS_SAVE_PANEL">
+    <source>Choose a folder for the report</source>
+    <translation>Choose a folder for the report</translation>
+  </message>
+  <message id="FINDINGS_SAVED">
+    <source>Saved</source>
+    <translation>Saved</translation>
+  </message>
+  <message id="FINDINGS_NOT_SAVED">
+    <source>The report could not be saved</source>
+    <translation>The report could not be saved</translation>
+  </message>
+  <message id="FINDINGS_TIMES">
+    <source>[COUNT] times</source>
+    <translation>[COUNT] times</translation>
+  </message>
+  <message id="FINDINGS_MORE_PLACES">
+    <source>and [COUNT] more; the saved report has them all</source>
+    <translation>and [COUNT] more; the saved report has them all</translation>
+  </message>
+  <message id="FINDINGS_FOUND">
+    <source>What was found</source>
+    <translation>What was found</translation>
+  </message>
+  <message id="FINDINGS_WHY">
+    <source>Why it matters</source>
+    <translation>Why it matters</translation>
+  </message>
+  <message id="FINDINGS_MEND">
+    <source>How to mend it</source>
+    <translation>How to mend it</translation>
+  </message>
+  <message id="FINDINGS_IGNORE">
+    <source>Ignore this rule</source>
+    <translation>Ignore this rule</translation>
+  </message>
+  <message id="FINDINGS_IGNORE_TIP">
+    <source>Leave this rule out until Lumora is closed</source>
+    <translation>Leave this rule out until Lumora is closed</translation>
+  </message>
+  <message id="FINDINGS_RESTORE">
+    <source>Ignored rules: [COUNT]. Show again</source>
+    <translation>Ignored rules: [COUNT]. Show again</translation>
+  </message>
+  <message id="FINDINGS_MAKE_ICONS">
+    <source>Make the missing icons</source>
+    <translation>Make the missing icons</translation>
+  </message>
+  <message id="FINDINGS_MAKE_ICONS_TIP">
+    <source>Open the icon tool, with the package's own picture if it has one</source>
+    <translation>Open the icon tool, with the package's own picture if it has one</translation>
+  </message>
+  <message id="ACCESSIBLE_FINDING_OPEN">
+    <source>open</source>
+    <translation>open</translation>
+  </message>
+  <message id="ACCESSIBLE_FINDING_CLOSED">
+    <source>closed</source>
+    <translation>closed</translation>
+  </message>
+  <message id="REVIEW_PENDING">
+    <source>Asking the store's rules …</source>
+    <translation>Asking the store's rules …</translation>
+  </message>
+  <message id="REVIEW_CLASSIC_RULES">
+    <source>iOS 7 rules</source>
+    <translation>iOS 7 rules</translation>
+  </message>
+  <message id="REVIEW_READER_CRASHED">
+    <source>The store's rules could not be asked: the reader stopped in the middle of the package. The file may be damaged on purpose.</source>
+    <translation>The store's rules could not be asked: the reader stopped in the middle of the package. The file may be damaged on purpose.</translation>
+  </message>
+  <message id="REVIEW_READER_STALLED">
+    <source>The store's rules could not be asked: the reader did not get any further and was ended.</source>
+    <translation>The store's rules could not be asked: the reader did not get any further and was ended.</translation>
+  </message>
+  <message id="REVIEW_READER_NOT_STARTED">
+    <source>The store's rules could not be asked: the reader could not be started.</source>
+    <translation>The store's rules could not be asked: the reader could not be started.</translation>
+  </message>
+  <message id="REVIEW_SIGNING">
+    <source>Signature and profile</source>
+    <translation>Signature and profile</translation>
+  </message>
+  <message id="REVIEW_SIGNATURE">
+    <source>Signature</source>
+    <translation>Signature</translation>
+  </message>
+  <message id="REVIEW_SIGNATURE_VALID">
+    <source>valid</source>
+    <translation>valid</translation>
+  </message>
+  <message id="REVIEW_SIGNATURE_NONE">
+    <source>not signed</source>
+    <translation>not signed</translation>
+  </message>
+  <message id="REVIEW_SIGNATURE_BROKEN">
+    <source>broken</source>
+    <translation>broken</translation>
+  </message>
+  <message id="REVIEW_SIGNER">
+    <source>Signed by</source>
+    <translation>Signed by</translation>
+  </message>
+  <message id="REVIEW_TEAM">
+    <source>Team</source>
+    <translation>Team</translation>
+  </message>
+  <message id="REVIEW_PROFILE">
+    <source>Profile</source>
+    <translation>Profile</translation>
+  </message>
+  <message id="REVIEW_PROFILE_NONE">
+    <source>none</source>
+    <translation>none</translation>
+  </message>
+  <message id="REVIEW_PROFILE_DEVELOPMENT">
+    <source>for development</source>
+    <translation>for development</translation>
+  </message>
+  <message id="REVIEW_PROFILE_AD_HOC">
+    <source>for listed devices (ad hoc)</source>
+    <translation>for listed devices (ad hoc)</translation>
+  </message>
+  <message id="REVIEW_PROFILE_ENTERPRISE">
+    <source>for one company (in-house)</source>
+    <translation>for one company (in-house)</translation>
+  </message>
+  <message id="REVIEW_PROFILE_STORE">
+    <source>for the App Store</source>
+    <translation>for the App Store</translation>
+  </message>
+  <message id="REVIEW_PROFILE_NAME">
+    <source>Name of the profile</source>
+    <translation>Name of the profile</translation>
+  </message>
+  <message id="REVIEW_PROFILE_TEAM">
+    <source>Team of the profile</source>
+    <translation>Team of the profile</translation>
+  </message>
+  <message id="REVIEW_EXPIRY">
+    <source>Validity</source>
+    <translation>Validity</translation>
+  </message>
+  <message id="REVIEW_EXPIRES_IN_DAYS">
+    <source>expires in [COUNT] days ([DATE])</source>
+    <translation>expires in [COUNT] days ([DATE])</translation>
+  </message>
+  <message id="REVIEW_EXPIRES_IN_A_DAY">
+    <source>expires in 1 day ([DATE])</source>
+    <translation>expires in 1 day ([DATE])</translation>
+  </message>
+  <message id="REVIEW_EXPIRED">
+    <source>expired on [DATE]</source>
+    <translation>expired on [DATE]</translation>
+  </message>
+  <message id="REVIEW_DEVICES">
+    <source>Devices</source>
+    <translation>Devices</translation>
+  </message>
+  <message id="REVIEW_BUNDLES">
+    <source>Bundles</source>
+    <translation>Bundles</translation>
+  </message>
+  <message id="REVIEW_KIND_APP">
+    <source>app</source>
+    <translation>app</translation>
+  </message>
+  <message id="REVIEW_KIND_EXTENSION">
+    <source>extension</source>
+    <translation>extension</translation>
+  </message>
+  <message id="REVIEW_KIND_WATCH_APP">
+    <source>watch app</source>
+    <translation>watch app</translation>
+  </message>
+  <message id="REVIEW_KIND_FRAMEWORK">
+    <source>framework</source>
+    <translation>framework</translation>
+  </message>
+  <message id="REVIEW_KIND_RESOURCES">
+    <source>resources</source>
+    <translation>resources</translation>
+  </message>
+  <message id="REVIEW_VERSION">
+    <source>version [VERSION]</source>
+    <translation>version [VERSION]</translation>
+  </message>
+  <message id="REVIEW_MINIMUM">
+    <source>from iOS [VERSION]</source>
+    <translation>from iOS [VERSION]</translation>
+  </message>
+  <message id="REVIEW_MORE">
+    <source>and [COUNT] more</source>
+    <translation>and [COUNT] more</translation>
+  </message>
+  <message id="REVIEW_PRIVACY">
+    <source>Privacy</source>
+    <translation>Privacy</translation>
+  </message>
+  <message id="REVIEW_PRIVACY_NONE">
+    <source>no privacy manifest</source>
+    <translation>no privacy manifest</translation>
+  </message>
+  <message id="REVIEW_TRACKS">
+    <source>tracks people</source>
+    <translation>tracks people</translation>
+  </message>
+  <message id="REVIEW_TRACKS_NOT">
+    <source>does not track people</source>
+    <translation>does not track people</translation>
+  </message>
+  <message id="REVIEW_COLLECTS">
+    <source>kinds of data collected: [COUNT]</source>
+    <translation>kinds of data collected: [COUNT]</translation>
+  </message>
+  <message id="REVIEW_SIZES">
+    <source>Sizes</source>
+    <translation>Sizes</translation>
+  </message>
+  <message id="REVIEW_FILES_CODE">
+    <source>Code</source>
+    <translation>Code</translation>
+  </message>
+  <message id="REVIEW_FILES_CATALOGS">
+    <source>Catalogs</source>
+    <translation>Catalogs</translation>
+  </message>
+  <message id="REVIEW_FILES_PICTURES">
+    <source>Pictures</source>
+    <translation>Pictures</translation>
+  </message>
+  <message id="REVIEW_FILES_SOUNDS">
+    <source>Sound and film</source>
+    <translation>Sound and film</translation>
+  </message>
+  <message id="REVIEW_FILES_INTERFACES">
+    <source>Interfaces</source>
+    <translation>Interfaces</translation>
+  </message>
+  <message id="REVIEW_FILES_LANGUAGES">
+    <source>Languages</source>
+    <translation>Languages</translation>
+  </message>
+  <message id="REVIEW_FILES_FONTS">
+    <source>Fonts</source>
+    <translation>Fonts</translation>
+  </message>
+  <message id="REVIEW_FILES_SIGNING">
+    <source>Signing</source>
+    <translation>Signing</translation>
+  </message>
+  <message id="REVIEW_FILES_OTHERS">
+    <source>Others</source>
+    <translation>Others</translation>
+  </message>
+  <message id="REVIEW_MODELS">
+    <source>Models on which it runs</source>
+    <translation>Models on which it runs</translation>
+  </message>
+  <message id="REVIEW_MODELS_TIP">
+    <source>Open the device tool with what the package asks for</source>
+    <translation>Open the device tool with what the package asks for</translation>
+  </message>
   <message id="VALIDATER_NO_PACKAGE_ADVICE">
     <source>An app package is a zip archive that holds the app as a folder NAME.app in its Payload folder. Please choose another file, or export the app again.</source>
     <translation>An app package is a zip archive that holds the app as a folder NAME.app in its Payload folder. Please choose another file, or export the app again.</translation>

@@ -134,6 +134,12 @@ LumoraProcess &LumoraProcess::withVariable(const QString &name, const QString &v
     return *this;
 }
 
+LumoraProcess &LumoraProcess::of(const QString &program)
+{
+    m_program = program;
+    return *this;
+}
+
 LumoraRun LumoraProcess::run(const QStringList &arguments) const
 {
     QProcess process;
@@ -169,7 +175,7 @@ LumoraRun LumoraProcess::run(const QStringList &arguments) const
         if (slave >= 0)
             ::dup2(slave, STDERR_FILENO);
     });
-    process.start(QStringLiteral(LUMORA_PROGRAM), arguments);
+    process.start(m_program.isEmpty() ? QStringLiteral(LUMORA_PROGRAM) : m_program, arguments);
     process.write(m_input);
     process.closeWriteChannel();
     LumoraRun run;

@@ -47,10 +47,14 @@ public:
     /// Sets a variable of the program's environment.
     LumoraProcess &withVariable(const QString &name, const QString &value);
 
+    /// Runs another program in the place of `lumora`.
+    LumoraProcess &of(const QString &program);
+
     /// Runs the program to its end, for at most one minute.
     LumoraRun run(const QStringList &arguments) const;
 
 private:
+    QString m_program;
     QByteArray m_input;
     QString m_folder;
     QString m_output;

@@ -21,6 +21,8 @@ namespace
 /// The kernel feature that is needed to refuse a fault.
 enum class Held { Files, Calls };
 
+enum class ReadBy { Command, Window };
+
 } // namespace
 
 /// Tries, from inside the code that unpacks an archive, what it can do to the rest of the machine.
@@ -76,6 +78,18 @@ private slots:
         QCOMPARE(locked.status, 0);
     }
 
+    void locksTheWindowsReaderInToo_data() { refusesWhatAFaultTries_data(); }
+    void locksTheWindowsReaderInToo()
+    {
+        QFETCH(Held, held);
+        const LumoraRun command = planted({});
+        const bool offered = command.err.contains(held == Held::Files ? "(Landlock)" : "(seccomp)");
+        const LumoraRun locked = planted({}, ReadBy::Window);
+        QVERIFY2(locked.err.contains(offered ? ": refused" : ": done"), locked.err);
+        QCOMPARE(locked.status, 0);
+        QVERIFY2(locked.out.contains("\nreview "), locked.out);
+    }
+
     void writesItsOutputsAllTheSame_data()
     {
         QTest::addColumn<QString>("icon");
@@ -129,7 +143,7 @@ private:
     }
 
     /// A run whose unpacking tries the row's fault on new files.
-    LumoraRun planted(const QStringList &options)
+    LumoraRun planted(const QStringList &options, ReadBy reader = ReadBy::Command)
     {
         QFETCH(QString, fault);
         QFETCH(QString, place);
@@ -140,6 +154,8 @@ private:
         process.withVariable(u"LD_PRELOAD"_s, QStringLiteral(LUMORA_PLANTED_FAULT_LIBRARY))
             .withVariable(u"LUMORA_PLANTED_FAULT"_s, fault)
             .withVariable(u"LUMORA_PLANTED_PLACE"_s, place.isEmpty() ? u"none"_s : at(place));
+        if (reader == ReadBy::Window)
+            return process.of(QStringLiteral(LUMORA_WINDOW_PROGRAM)).run({u"--read-package"_s, at(u"App.ipa"_s)});
         return process.run(QStringList{u"validate"_s, u"--verbose"_s, at(u"App.ipa"_s)} + options);
     }
 

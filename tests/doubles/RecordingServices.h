@@ -96,11 +96,14 @@ struct RecordingServices
     RecordingClipboard clipboard;
     RecordingFileManager fileManager;
     std::shared_ptr<const FileReader> fileReader = std::make_shared<ReadyFiles>();
-    QString workFolder = {}; ///< set by tests that make one
+    QString workFolder = {};    ///< set by tests that make one
+    QString readerProgram = {}; ///< set by tests that have one
+    std::chrono::milliseconds readerPatience{60'000};
 
     Services services()
     {
-        return {fileChooser, folderChooser, urlOpener, clipboard, fileManager, fileReader, workFolder};
+        return {fileChooser, folderChooser, urlOpener,     clipboard,     fileManager,
+                fileReader,  workFolder,    readerProgram, readerPatience};
     }
 };
 

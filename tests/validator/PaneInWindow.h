@@ -21,14 +21,17 @@ class PaneInWindow
 public:
     enum class Room { There, None };
 
-    explicit PaneInWindow(Room room = Room::There)
+    explicit PaneInWindow(Room room = Room::There, const QString &reader = {},
+                          std::chrono::milliseconds patience = std::chrono::minutes(1))
         : services{{},
                    {},
                    {},
                    {},
                    {},
                    std::make_shared<ReadyFiles>(),
-                   room == Room::There && folder ? folder.value()->path() : QString()},
+                   room == Room::There && folder ? folder.value()->path() : QString(),
+                   reader,
+                   patience},
           tool(services.services())
     {
         window.resize(900, 660);

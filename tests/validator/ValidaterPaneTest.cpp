@@ -2,7 +2,7 @@
 #include "PaneInWindow.h"
 #include "resources/Resources.h"
 #include "tests/doubles/ScriptedFiles.h"
-#include "validator/LongWords.h"
+#include "validator/words/LongWords.h"
 #include "widgets/popover/ScreenCoordinates.h"
 #include "widgets/style/Fonts.h"
 #include "widgets/style/Palette.h"

@@ -10,6 +10,7 @@
 
 #include <QString>
 
+#include <chrono>
 #include <memory>
 
 namespace lumora
@@ -28,6 +29,10 @@ struct Services
     std::shared_ptr<const FileReader> fileReader;
     /// A private folder that is removed when the process ends; empty if none could be made.
     QString workFolder = {};
+    /// The program that reads foreign files in a process of its own; empty where there is none.
+    QString readerProgram = {};
+    /// A reader that tells no progress for that long is ended.
+    std::chrono::milliseconds readerPatience{60'000};
 };
 
 /// The services of the real desktop, owned in one place: the program's main().

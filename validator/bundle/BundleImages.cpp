@@ -8,6 +8,9 @@
 #include "validator/archive/PackageSource.h"
 
 #include <array>
+#include <utility>
+
+using namespace Qt::StringLiterals;
 
 namespace lumora
 {
@@ -20,6 +23,9 @@ constexpr qint64 largestImageFile = 16 << 20;
 constexpr qint64 largestIconArea = 2 << 20;
 
 constexpr std::array iconHeights = {512, 144, 120, 152, 1024, 114};
+
+/// Files whose size is looked at for the large picture.
+constexpr qsizetype mostLargeIcons = 200;
 
 constexpr double firstFlatVersion = 7.0;
 
@@ -61,6 +67,22 @@ QList<QSize> pictureSizes(const PackageSource &source, const QString &folder, co
     for (const QString &name : names)
         sizes += pictureSize(source, folder + u'/' + name);
     return sizes;
+}
+
+QImage largeIcon(const PackageSource &source, const QString &folder)
+{
+    QStringList candidates{u"iTunesArtwork@2x"_s, u"iTunesArtwork"_s};
+    for (const QString &name : source.names(folder)) {
+        if (candidates.size() < mostLargeIcons && name.endsWith(u".png", Qt::CaseInsensitive))
+            candidates += folder + u'/' + name;
+    }
+    for (const QString &path : std::as_const(candidates)) {
+        if (source.find(path) == nullptr || pictureSize(source, path) != QSize(largeIconSize, largeIconSize))
+            continue;
+        if (const auto picture = decoded(source, path))
+            return picture.value();
+    }
+    return {};
 }
 
 QImage appIcon(const PackageSource &source, const QString &folder, const QStringList &candidates,

@@ -26,6 +26,13 @@ QList<QSize> pictureSizes(const PackageSource &source, const QString &folder, co
 QImage appIcon(const PackageSource &source, const QString &folder, const QStringList &candidates,
                const QList<QSize> &sizes, double minimumOS, int scale = 1);
 
+/// The edge of the picture that the store shows.
+inline constexpr int largeIconSize = 1024;
+
+/// The package's own picture of the app at `largeIconSize`: the one beside the payload, else one of the first files in
+/// the app's folder; `folder` is the app's. Null when there is none.
+QImage largeIcon(const PackageSource &source, const QString &folder);
+
 inline constexpr int appIconSize = 128;
 
 } // namespace lumora

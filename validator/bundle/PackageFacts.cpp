@@ -49,6 +49,14 @@ QString PackageFacts::appName() const
     return text(u"CFBundleDisplayName"_s);
 }
 
+QString PackageFacts::shownName() const
+{
+    if (const QString name = appName(); !name.isEmpty())
+        return name;
+    const QString name = text(u"CFBundleName"_s);
+    return name.isEmpty() ? text(u"CFBundleExecutable"_s) : name;
+}
+
 QString PackageFacts::appVersion() const
 {
     return text(u"CFBundleVersion"_s);

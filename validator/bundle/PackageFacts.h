@@ -34,6 +34,8 @@ struct PackageFacts
     bool hasApp = false; ///< there is a bundle, whatever its contents
 
     QString appName() const;
+    /// The name under which the app is seen: `appName()`, else the bundle's name, else that of its program.
+    QString shownName() const;
     QString appVersion() const;
     QString appBundleIdentifier() const;
     QString appMinimumOSVersion() const;

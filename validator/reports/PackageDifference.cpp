@@ -7,7 +7,6 @@
 #include <QSet>
 
 #include <algorithm>
-#include <array>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -122,65 +121,10 @@ QList<Finding> findingsOnlyIn(const ComparedPackage &one, const ComparedPackage 
     return only;
 }
 
-struct Kind
+QList<KindTotals> kindsBetween(const FileTotals &before, const FileTotals &after)
 {
-    QLatin1StringView name;
-    QStringList endings;
-};
-
-const std::array<Kind, 7> &kindsByEnding()
-{
-    static const std::array<Kind, 7> kinds{
-        {{"code"_L1, {u".dylib"_s}},
-         {"catalogs"_L1, {u".car"_s}},
-         {"pictures"_L1, {u".png"_s, u".jpg"_s, u".jpeg"_s, u".heic"_s, u".webp"_s, u".gif"_s, u".svg"_s, u".pdf"_s}},
-         {"sounds"_L1, {u".mp3"_s, u".m4a"_s, u".caf"_s, u".wav"_s, u".aif"_s, u".aiff"_s, u".mp4"_s, u".mov"_s}},
-         {"interfaces"_L1, {u".nib"_s, u".storyboardc"_s}},
-         {"languages"_L1, {u".strings"_s, u".stringsdict"_s, u".loctable"_s}},
-         {"fonts"_L1, {u".ttf"_s, u".otf"_s, u".ttc"_s}}}};
-    return kinds;
-}
-
-QString kindOf(const QString &path, const QSet<QString> &binaries)
-{
-    if (binaries.contains(path))
-        return u"code"_s;
-    if (path.contains(u"/_CodeSignature/") || path.endsWith(u"embedded.mobileprovision") || path.contains(u"/SC_Info/"))
-        return u"signing"_s;
-    for (const Kind &kind : kindsByEnding()) {
-        if (std::ranges::any_of(kind.endings,
-                                [&path](const QString &ending) { return path.endsWith(ending, Qt::CaseInsensitive); }))
-            return kind.name;
-    }
-    return path.contains(u".storyboardc/") ? u"interfaces"_s : u"others"_s;
-}
-
-using Totals = QMap<QString, FileTotal>;
-
-/// By kind, and under the empty name all of them.
-Totals totalsOf(const PackageContents &contents)
-{
-    QSet<QString> binaries;
-    for (const PackageBinary &binary : contents.binaries)
-        binaries += binary.path;
-    Totals totals;
-    for (const auto &[path, size] : contents.files) {
-        for (const QString &kind : {kindOf(path, binaries), QString()}) {
-            FileTotal &total = totals[kind];
-            ++total.files;
-            total.bytes += size;
-        }
-    }
-    return totals;
-}
-
-QList<KindTotals> kindsBetween(const Totals &before, const Totals &after)
-{
-    QStringList names;
-    for (const Kind &kind : kindsByEnding())
-        names += kind.name;
     QList<KindTotals> kinds;
-    for (const QString &name : names + QStringList{u"signing"_s, u"others"_s}) {
+    for (const QString &name : fileKinds()) {
         if (before.contains(name) || after.contains(name))
             kinds += KindTotals{name, before.value(name), after.value(name)};
     }
@@ -225,8 +169,8 @@ PackageDifference differenceBetween(const ComparedPackage &before, const Compare
     difference.permissions = changesBetween(permissionsIn(before.contents), permissionsIn(after.contents));
     difference.gained = findingsOnlyIn(after, before);
     difference.lost = findingsOnlyIn(before, after);
-    const Totals totals = totalsOf(before.contents);
-    const Totals newTotals = totalsOf(after.contents);
+    const FileTotals totals = totalsOf(before.contents);
+    const FileTotals newTotals = totalsOf(after.contents);
     difference.all = {u"all"_s, totals.value(QString()), newTotals.value(QString())};
     difference.packedBefore = before.contents.packedSize;
     difference.packedAfter = after.contents.packedSize;

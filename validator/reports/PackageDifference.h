@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "FileKinds.h"
 #include "validator/rules/Rule.h"
 
 #include <QList>
@@ -17,15 +18,9 @@ struct ChangedFact
     QString after;
 };
 
-struct FileTotal
-{
-    qsizetype files = 0;
-    quint64 bytes = 0; ///< unpacked
-};
-
 struct KindTotals
 {
-    QString kind; ///< "code", "catalogs", "pictures", "sounds", "interfaces", "languages", "fonts", "signing", "others"
+    QString kind; ///< one of `fileKinds()`
     FileTotal before;
     FileTotal after;
 };

@@ -328,11 +328,17 @@ bool PackageContents::holdsFolder(const QString &path) const
     return found != files.cend() && found->path.startsWith(start);
 }
 
-PackageContents readPackageContents(const PackageSource &source, const std::stop_token &stop)
+PackageContents readPackageContents(const PackageSource &source, const std::stop_token &stop,
+                                    const ReadingProgress &progress)
 {
     Gathering gathering(source);
     WholeReading reading = source.readAll(
-        [&](const PackageEntry &entry) { return std::make_unique<FileConsumer>(entry, gathering); }, stop);
+        [&](const PackageEntry &entry) {
+            if (progress)
+                progress(entry.size);
+            return std::make_unique<FileConsumer>(entry, gathering);
+        },
+        stop);
     PackageContents contents;
     contents.reading = std::move(reading);
     contents.isArchive = source.path().endsWith(".ipa"_L1);

@@ -11,6 +11,7 @@
 
 #include <QVariantMap>
 
+#include <functional>
 #include <optional>
 #include <stop_token>
 
@@ -84,7 +85,11 @@ struct PackageContents
     bool holdsFolder(const QString &path) const;
 };
 
+/// Called when the reading of a file begins, with the file's size, on the reading threads, several at a time.
+using ReadingProgress = std::function<void(quint64 bytes)>;
+
 /// Reads every file of the package once. A file that is larger than any real file of its kind counts as unreadable.
-PackageContents readPackageContents(const PackageSource &source, const std::stop_token &stop = {});
+PackageContents readPackageContents(const PackageSource &source, const std::stop_token &stop = {},
+                                    const ReadingProgress &progress = {});
 
 } // namespace lumora

@@ -57,6 +57,18 @@ private slots:
         QCOMPARE(withValue(u"FacebookAppID"_s, value).appFacebookID().value_or(QString()), shown);
     }
 
+    void fallsBackToOtherNames()
+    {
+        PackageFacts facts = withValue(u"CFBundleExecutable"_s, u"lamp"_s);
+        QCOMPARE(facts.shownName(), u"lamp"_s);
+        facts.appInfoPlist->insert(u"CFBundleName"_s, u"Lamp"_s);
+        QCOMPARE(facts.shownName(), u"Lamp"_s);
+        facts.appInfoPlist->insert(u"CFBundleDisplayName"_s, QString());
+        QCOMPARE(facts.shownName(), u"Lamp"_s);
+        facts.appInfoPlist->insert(u"CFBundleDisplayName"_s, u"Table lamp"_s);
+        QCOMPARE(facts.shownName(), u"Table lamp"_s);
+    }
+
     void namesThePlatform_data()
     {
         QTest::addColumn<QVariant>("family");

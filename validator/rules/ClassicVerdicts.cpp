@@ -85,4 +85,13 @@ QList<RuleVerdict> classicVerdicts(const PackageReport &report)
             verdict(localizations, verdicts.localizationsValid, u"none"_s)};
 }
 
+const Rule *classicRuleNamed(const QString &id)
+{
+    for (const Rule *rule : {&icons, &launchImages, &identifier, &localizations}) {
+        if (id == QLatin1StringView(rule->id))
+            return rule;
+    }
+    return nullptr;
+}
+
 } // namespace lumora

@@ -1,0 +1,335 @@
+// SPDX-License-Identifier: MIT
+#include "PaneInWindow.h"
+#include "resources/Resources.h"
+#include "tests/doubles/ScriptedFiles.h"
+#include "validator/ReportBody.h"
+#include "validator/findings/FindingHeader.h"
+#include "validator/findings/FindingRow.h"
+#include "validator/findings/FindingsView.h"
+#include "validator/findings/ReviewSections.h"
+#include "validator/findings/SizeBar.h"
+#include "widgets/buttons/IconButton.h"
+#include "widgets/buttons/Segment.h"
+#include "widgets/buttons/SegmentedControl.h"
+#include "widgets/progress/LBProgressBar.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace lumora;
+using namespace Qt::StringLiterals;
+
+/// What the pane says of a package by the rules of today, which another process asks.
+class ValidaterFindingsTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        loadResources();
+        installTexts(*qApp, QLocale(u"en_GB"_s));
+        qputenv("LC_ALL", "C.UTF-8");
+        QVERIFY(runScript(u"make_rule_packages.py"_s, {m_packages.path(), u"icon-marketing icon-phone icon-pad"_s,
+                                                       u"keeps, all"_s, u"seal more"_s}));
+        QVERIFY(runScript(u"make_packages.py"_s, {m_packages.path()}));
+    }
+
+    void saysTheSumFirst_data()
+    {
+        QTest::addColumn<QString>("sum");
+        QTest::addColumn<QStringList>("rows");
+        QTest::newRow("keeps, all") << u"Nothing found"_s << QStringList();
+        QTest::newRow("icon-marketing icon-phone icon-pad")
+            << u"3 errors"_s << QStringList{u"icon-phone"_s, u"icon-pad"_s, u"icon-marketing"_s};
+        QTest::newRow("seal more") << u"1 error"_s << QStringList{u"seal"_s};
+    }
+    void saysTheSumFirst()
+    {
+        QFETCH(QStringList, rows);
+        ReadPane pane(*this, QTest::currentDataTag());
+        QTEST(pane.ui().sumLabel->text(), "sum");
+        QStringList ids;
+        for (const FindingRow *row : pane.rows())
+            ids += QString::fromLatin1(row->rule().id);
+        QCOMPARE(ids, rows);
+        QCOMPARE(pane.view().emptyLabel()->isVisibleTo(&pane.view()), rows.isEmpty());
+        QVERIFY2(pane.tool.reportText().contains(qtTrId("REVIEW_CLASSIC_RULES")), "the classic rows stay");
+        const auto top = [&pane](const QWidget *part) { return part->mapTo(pane.tool.view(), QPoint()).y(); };
+        QVERIFY2(top(pane.ui().checksPart) > top(&pane.view()), "below the findings");
+    }
+
+    void keepsThePageOfAnOldPackage()
+    {
+        ReadPane pane(*this, "one icon");
+        QCOMPARE(pane.ui().sumLabel->text(), u"1 of 6 checks failed"_s);
+        QVERIFY(!pane.view().isVisible());
+        QVERIFY2(pane.tool.reviewSections()->isVisible(), "what else is known of it");
+    }
+
+    void opensARowInPlace()
+    {
+        ReadPane pane(*this, "icon-marketing icon-phone icon-pad");
+        FindingRow *row = pane.rows().front();
+        QVERIFY(row->header()->accessibleName().startsWith(u"Error: "));
+        QVERIFY(row->header()->accessibleName().endsWith(u"ITMS-90022"));
+        QCOMPARE(row->header()->accessibleDescription(), u"closed"_s);
+        const int closed = row->sizeHint().height();
+        QTest::keyClick(row->header(), Qt::Key_Space);
+        QVERIFY(row->header()->isOpen());
+        QCOMPARE(row->header()->accessibleDescription(), u"open"_s);
+        QVERIFY(row->sizeHint().height() > closed);
+        QStringList texts;
+        for (const QLabel *label : row->findChildren<QLabel *>())
+            texts += label->accessibleName().isEmpty() ? label->text() : label->accessibleName();
+        QVERIFY2(texts.contains(u"What was found"_s), qPrintable(texts.join(u'\n')));
+        QVERIFY2(texts.join(u'\n').contains(row->places().first().text), "the evidence");
+        QTest::keyClick(row->header(), Qt::Key_Return);
+        QVERIFY(!row->header()->isOpen());
+    }
+
+    void movesByKeys()
+    {
+        ReadPane pane(*this, "icon-marketing icon-phone icon-pad");
+        const auto focused = [&](std::size_t index) { return pane.rows()[index]->header()->hasFocus(); };
+        pane.rows().front()->header()->setFocus();
+        QTRY_VERIFY(focused(0));
+        QTest::keyClick(pane.rows()[0]->header(), Qt::Key_Down);
+        QTRY_VERIFY(focused(1));
+        QTest::keyClick(pane.rows()[1]->header(), Qt::Key_End);
+        QTRY_VERIFY(focused(2));
+        QTest::keyClick(pane.rows()[2]->header(), Qt::Key_Down);
+        QVERIFY(focused(2));
+        QTest::keyClick(pane.rows()[2]->header(), Qt::Key_Home);
+        QTRY_VERIFY(focused(0));
+        int reached = 0;
+        for (const FindingRow *row : pane.rows())
+            reached += row->header()->focusPolicy() == Qt::StrongFocus ? 1 : 0;
+        QCOMPARE(reached, 1);
+    }
+
+    void filtersBySeverityAndWords()
+    {
+        ReadPane pane(*this, "icon-marketing icon-phone icon-pad");
+        const auto shown = [&pane] {
+            QStringList ids;
+            for (const FindingRow *row : pane.rows()) {
+                if (row->isVisibleTo(&pane.view()))
+                    ids += QString::fromLatin1(row->rule().id);
+            }
+            return ids.join(u' ');
+        };
+        pane.view().search()->setText(u"90023"_s);
+        QCOMPARE(shown(), u"icon-pad"_s);
+        pane.view().search()->setText(u"LARGE icon"_s);
+        QCOMPARE(shown(), u"icon-marketing"_s);
+        pane.view().search()->setText(u"nothing like it"_s);
+        QCOMPARE(shown(), QString());
+        QVERIFY(pane.view().emptyLabel()->isVisibleTo(&pane.view()));
+        pane.view().search()->clear();
+        pane.choose(2);
+        QCOMPARE(shown(), QString());
+        pane.choose(1);
+        QCOMPARE(shown(), u"icon-phone icon-pad icon-marketing"_s);
+    }
+
+    void ignoresARuleAndShowsItAgain()
+    {
+        ReadPane pane(*this, "icon-marketing icon-phone icon-pad");
+        pane.rows()[1]->setOpen(true);
+        pane.rows()[1]->ignoreButton()->click();
+        QCOMPARE(pane.rows().size(), std::size_t(2));
+        QCOMPARE(pane.ui().sumLabel->text(), u"2 errors"_s);
+        QVERIFY(!pane.tool.reportText().contains(u"ITMS-90023"));
+        // Also in the next package.
+        pane.read("icon-marketing icon-phone icon-pad");
+        QCOMPARE(pane.ui().sumLabel->text(), u"2 errors"_s);
+        QVERIFY(pane.view().restoreButton()->isVisibleTo(&pane.view()));
+        pane.view().restoreButton()->click();
+        QCOMPARE(pane.ui().sumLabel->text(), u"3 errors"_s);
+        QVERIFY(!pane.view().restoreButton()->isVisibleTo(&pane.view()));
+    }
+
+    void savesTheReportWithoutIgnoredRules()
+    {
+        const QTemporaryDir folder;
+        ReadPane pane(*this, "icon-marketing icon-phone icon-pad");
+        pane.rows()[1]->setOpen(true);
+        pane.rows()[1]->ignoreButton()->click();
+        for (const QString &name : {u" report"_s, u" report 2"_s}) {
+            pane.view().saveButton()->click();
+            QVERIFY(pane.services.folderChooser.isOpen());
+            pane.services.folderChooser.confirm(folder.path());
+            const QString base = folder.filePath(u"icon-marketing icon-phone icon-pad"_s + name);
+            QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(base + u".json"_s), readingTime);
+            QTRY_COMPARE_WITH_TIMEOUT(pane.view().saveButton()->text(), qtTrId("FINDINGS_SAVED"), readingTime);
+            const QJsonArray findings = QJsonDocument::fromJson(contentOf(base + u".json"_s))[u"findings"_s].toArray();
+            QCOMPARE(findings.size(), 2);
+            QCOMPARE(findings[0][u"id"_s].toString(), u"icon-phone"_s);
+            const QByteArray page = contentOf(base + u".html"_s);
+            QVERIFY(page.contains("icon-marketing") && page.contains("ITMS-90022"));
+            QVERIFY(!page.contains("ITMS-90023"));
+        }
+    }
+
+    void saysWhatCouldNotBeSaved()
+    {
+        ReadPane pane(*this, "keeps, all");
+        pane.view().saveButton()->click();
+        pane.services.folderChooser.confirm(u"/proc"_s);
+        QTRY_VERIFY_WITH_TIMEOUT(PopoverAlert::currentAlert() != nullptr, readingTime);
+        QCOMPARE(PopoverAlert::currentAlert()->messageText, qtTrId("FINDINGS_NOT_SAVED"));
+    }
+
+    void handsIconsAndModelsOn()
+    {
+        ReadPane pane(*this, "icon-marketing icon-phone icon-pad");
+        QSignalSpy icons(&pane.tool, &ValidaterViewController::iconsWanted);
+        QSignalSpy models(&pane.tool, &ValidaterViewController::modelsWanted);
+        pane.rows()[0]->setOpen(true);
+        pane.rows()[0]->iconsButton()->click();
+        QTRY_COMPARE_WITH_TIMEOUT(icons.size(), 1, readingTime);
+        QVERIFY2(icons[0][0].toString().isEmpty(), "the package has no picture");
+        pane.tool.reviewSections()->modelsButton()->click();
+        QCOMPARE(models.size(), 1);
+        QCOMPARE(models[0][0].value<DeviceDemands>().minimumSystem, u"15.0"_s);
+    }
+
+    void tellsWhatElseIsKnown()
+    {
+        ReadPane pane(*this, "keeps, all");
+        const QString text = pane.tool.reviewSections()->lines().join(u'\n');
+        for (const QString &part :
+             {u"Signature: valid"_s, u"Profile: for the App Store"_s, u"expires in "_s,
+              u"Bulb.framework: framework, com.example.bulb"_s, u"does not track people"_s, u"UserDefaults (CA92.1)"_s})
+            QVERIFY2(text.contains(part), qPrintable(part + u" in\n"_s + text));
+        QVERIFY(pane.tool.reviewSections()->sizeBar()->words().startsWith(u"Code "));
+        QVERIFY(pane.tool.reportText().contains(u"Signature: valid"));
+    }
+
+    void replacesTheFirstPackage()
+    {
+        ReadPane pane(*this, "seal more");
+        pane.tool.dropIpaFileFromDelegate(package("icon-marketing icon-phone icon-pad"));
+        pane.tool.dropIpaFileFromDelegate(package("keeps, all"));
+        QVERIFY2(!pane.view().isVisible(), "nothing of the last package");
+        QTRY_COMPARE_WITH_TIMEOUT(pane.ui().sumLabel->text(), u"Nothing found"_s, readingTime);
+        QVERIFY(pane.rows().empty());
+    }
+
+    void endsTheReaderOnCancel()
+    {
+        ReadPane pane(*this, nullptr, script(u"echo $$ > \"$0.pid\"; echo 'read 300'; exec sleep 600"_s));
+        pane.tool.dropIpaFileFromDelegate(package("keeps, all"));
+        QTRY_COMPARE_WITH_TIMEOUT(pane.ui().readingBar->doubleValue(), 30.0, readingTime);
+        QTRY_VERIFY_WITH_TIMEOUT(pane.ui().sumLabel->text() == qtTrId("REVIEW_PENDING"), readingTime);
+        const QString process = u"/proc/"_s + QString::fromLatin1(contentOf(m_script + u".pid"_s)).trimmed();
+        QVERIFY(QFile::exists(process));
+        pane.tool.cancelButtonPressed();
+        QVERIFY(pane.ui().dropView->isVisible());
+        QTRY_VERIFY_WITH_TIMEOUT(!QFile::exists(process), readingTime);
+    }
+
+    void saysWhenTheReaderFails_data()
+    {
+        QTest::addColumn<QString>("program");
+        QTest::addColumn<QByteArray>("note");
+        QTest::newRow("a crash") << u"kill -SEGV $$"_s << QByteArray("REVIEW_READER_CRASHED");
+        QTest::newRow("a crash in the middle")
+            << u"echo 'read 500'; echo 'review 900'; echo '{'; kill -SEGV $$"_s << QByteArray("REVIEW_READER_CRASHED");
+        QTest::newRow("silence") << u"exit 0"_s << QByteArray("REVIEW_READER_CRASHED");
+        QTest::newRow("a hang") << u"exec sleep 600"_s << QByteArray("REVIEW_READER_STALLED");
+        QTest::newRow("a hang in the middle")
+            << u"echo 'read 500'; exec sleep 600"_s << QByteArray("REVIEW_READER_STALLED");
+        QTest::newRow("noise") << u"exec head -c 1000000 /dev/urandom"_s << QByteArray("REVIEW_READER_CRASHED");
+        QTest::newRow("no end") << u"echo 'review 9'; exec yes"_s << QByteArray("REVIEW_READER_CRASHED");
+        QTest::newRow("a length past all bounds")
+            << u"echo 'review 999999999999'"_s << QByteArray("REVIEW_READER_CRASHED");
+        QTest::newRow("an answer that is no review")
+            << u"echo 'review 2'; printf '{}'"_s << QByteArray("REVIEW_READER_CRASHED");
+        QTest::newRow("no program") << QString() << QByteArray("REVIEW_READER_NOT_STARTED");
+    }
+    void saysWhenTheReaderFails()
+    {
+        QFETCH(QString, program);
+        QFETCH(QByteArray, note);
+        ReadPane pane(*this, nullptr, program.isEmpty() ? u"/does/not/exist"_s : script(program),
+                      std::chrono::milliseconds(400));
+        pane.read("keeps, all");
+        QVERIFY2(pane.ui().noteLabel->accessibleName().contains(qtTrId(note.constData())),
+                 qPrintable(pane.ui().noteLabel->accessibleName()));
+        QVERIFY2(pane.ui().sumLabel->text().contains(u"checks"), "the classic checks hold all the same");
+        QVERIFY(!pane.view().isVisible());
+        QVERIFY(!pane.tool.review());
+    }
+
+    void survivesANonsensicalReview()
+    {
+        const QString answer = uR"({"verdicts":[{"rule":"no-such-rule","state":1,"evidence":[{}]},)"
+                               uR"({"rule":"seal","state":77,"evidence":7}],"kinds":[{"kind":"?","bytes":-5}],)"
+                               uR"("bundles":[{"kind":99}],"sizes":[],"json":[]})"_s;
+        ReadPane pane(*this, nullptr,
+                      script(u"echo 'review %1'; printf '%s' '%2'"_s.arg(QString::number(answer.size()), answer)));
+        pane.read("keeps, all");
+        QVERIFY(pane.tool.review().has_value());
+        QCOMPARE(pane.ui().sumLabel->text(), u"Nothing found"_s);
+    }
+
+private:
+    /// The pane after it has read a package.
+    class ReadPane : public PaneInWindow
+    {
+    public:
+        ReadPane(ValidaterFindingsTest &test, const char *name, const QString &reader = {},
+                 std::chrono::milliseconds patience = std::chrono::minutes(1))
+            : PaneInWindow(Room::There, reader.isEmpty() ? QStringLiteral(LUMORA_WINDOW_PROGRAM) : reader, patience),
+              m_test(test)
+        {
+            if (name != nullptr)
+                read(name);
+        }
+
+        void read(const char *name)
+        {
+            tool.dropIpaFileFromDelegate(m_test.package(name));
+            QTRY_VERIFY_WITH_TIMEOUT(hasFacts() && opacity(ui().readingBar) == 0, readingTime);
+        }
+        FindingsView &view() const { return *tool.findingsView(); }
+        const std::vector<FindingRow *> &rows() const { return view().rows(); }
+        void choose(int severity) { view().severities()->segments().at(static_cast<std::size_t>(severity))->click(); }
+
+    private:
+        ValidaterFindingsTest &m_test;
+    };
+
+    QString package(const char *name) const { return m_packages.filePath(QString::fromUtf8(name) + u".ipa"_s); }
+    static QByteArray contentOf(const QString &path)
+    {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+    /// A program that does this in a reader's place.
+    QString script(const QString &body)
+    {
+        m_script = m_work.filePath(u"reader-%1"_s.arg(++m_scripts));
+        QFile file(m_script);
+        if (!file.open(QIODevice::WriteOnly))
+            qFatal("no script");
+        file.write("#!/bin/sh\n" + body.toUtf8() + '\n');
+        file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        return m_script;
+    }
+
+    QTemporaryDir m_packages;
+    QTemporaryDir m_work;
+    QString m_script;
+    int m_scripts = 0;
+};
+
+QTEST_MAIN(ValidaterFindingsTest)
+#include "ValidaterFindingsTest.moc"

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "validator/rules/Rule.h"
+
+#include <QLatin1StringView>
+#include <QString>
+
+namespace lumora
+{
+
+/// The argument that makes the window's program a reader: `--read-package PATH`.
+inline constexpr QLatin1StringView readerArgument("--read-package");
+
+/// The beginnings of an answer's lines: the part that was read, per mille; the length of the review that follows, in
+/// bytes; or that there is none.
+inline constexpr QLatin1StringView progressWord("read ");
+inline constexpr QLatin1StringView reviewWord("review ");
+inline constexpr QLatin1StringView failureWord("failure ");
+
+/// Reads the package in a process that is locked in: after this call the process reaches nothing but the package.
+/// Answers on the descriptor, which stays open, and returns the process' status: 0 after an answer. Expects the texts
+/// of the user's language to be installed and no other thread to run.
+int answerReview(const QString &path, const RuleSettings &settings, int descriptor);
+
+} // namespace lumora

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "PackageContents.h"
+
+#include <QString>
+#include <QStringList>
+
+namespace lumora
+{
+
+/// What an app demands of the device that it runs on.
+struct DeviceDemands
+{
+    QString minimumSystem; ///< as the Info.plist has it; empty without a demand
+    bool padOnly = false;
+    QStringList capabilities; ///< keys of UIRequiredDeviceCapabilities, and "arm64" for an app with 64-bit code only
+
+    bool operator==(const DeviceDemands &) const = default;
+};
+
+DeviceDemands deviceDemandsOf(const PackageContents &contents);
+
+} // namespace lumora
