@@ -34,6 +34,7 @@ IconsViewController::IconsViewController(const Services &services, QObject *pare
     setUpSnippets();
     connectControls();
     setUpResult(m_ui->resultView, palette::icons, palette::iconsBorder);
+    setUpToday();
     createPopup();
 }
 

@@ -26,6 +26,7 @@ namespace lumora
 class CheckboxButton;
 class IconView;
 class RadioButton;
+class TodayIcons;
 
 /// The icon tool: takes a source picture, exports whole icon sets or one icon of a typed size, shows previews and the
 /// code that declares the icons in a project.
@@ -38,6 +39,9 @@ public:
     ~IconsViewController() override;
 
     const Ui::IconsViewController &outlets() const { return *m_ui; }
+
+    /// The side of today, which has the same icon.
+    TodayIcons *today() const { return m_today; }
 
     /// The accepted source; a built-in picture until the user chooses one.
     const QImage &icon();
@@ -101,6 +105,10 @@ private:
     void setUpReading();
     void loadBuiltInIcon();
     void setUpSnippets();
+    void setUpToday();
+    bool isToday() const;
+    /// Takes the icon that was read on the side of today.
+    void takeIconOfToday(const QImage &icon, const QString &name);
     void connectControls();
     void openDialog();
     /// The edge lengths at which the pane shows the source, the large one first.
@@ -137,6 +145,7 @@ private:
     FileReading *m_reading = nullptr;
     TimedCaption *m_platformCaption = nullptr;
     TimedCaption *m_customCaption = nullptr;
+    TodayIcons *m_today = nullptr; ///< owned by this
     std::shared_ptr<Choices> m_choices = std::make_shared<Choices>();
     BackgroundJobs m_jobs; ///< last, so that it waits for running exports before other members are destroyed
 };

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 // The icon tool's fixed data, looks and connections, and its code snippets.
-#include "IconView.h"
 #include "IconsViewController.h"
 #include "SnippetKeys.h"
+#include "icons/pane/IconView.h"
+#include "icons/pane/TodayIconPane.h"
+#include "icons/pane/TodayIcons.h"
 #include "tool/DropHighlight.h"
+#include "tool/JobResultView.h"
 #include "tool/style/ButtonStyle.h"
 #include "tool/style/DropDownStyle.h"
 #include "tool/style/LabelStyle.h"
@@ -116,6 +119,28 @@ void IconsViewController::setUpSnippets()
     QPalette colors = m_ui->codeSnippedView->palette();
     colors.setColor(QPalette::Text, palette::chromeText);
     m_ui->codeSnippedView->setPalette(colors);
+}
+
+void IconsViewController::setUpToday()
+{
+    m_today = new TodayIcons(services(), this);
+    connect(m_today, &TodayIcons::messageWanted, this, &IconsViewController::showPopupWithTitle);
+    connect(m_today, &TodayIcons::attentionWanted, this, &IconsViewController::jobEnded);
+    connect(m_today, &TodayIcons::iconRead, this, &IconsViewController::takeIconOfToday);
+    addToday([this](QWidget *pane) {
+        QWidget *today = m_today->makePane(pane);
+        m_today->pane()->dropView()->setDelegate(this);
+        setUpResult(m_today->pane()->result(), palette::icons, palette::iconsBorder);
+        return today;
+    });
+    // A drop elsewhere in the window goes to the classic view, also while the side of today covers it.
+    connect(sides(), &PaneSides::shown, this,
+            [this](ToolSide side) { m_ui->dropView->setTakesWhileHidden(side == ToolSide::Today); });
+}
+
+bool IconsViewController::isToday() const
+{
+    return sides()->side() == ToolSide::Today && m_today->pane() != nullptr;
 }
 
 void IconsViewController::connectControls()

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 // The icon tool's source: reading it and showing it.
 #include "IconSource.h"
-#include "IconView.h"
 #include "IconsViewController.h"
+#include "icons/pane/IconView.h"
+#include "icons/pane/TodayIcons.h"
 #include "pictures/PictureOperations.h"
 #include "pictures/PictureReader.h"
 #include "tool/FailureText.h"
@@ -117,6 +118,24 @@ void IconsViewController::setIcon(const QImage &icon)
     showSource();
     editPreviewIcon();
     showStatus({});
+    m_today->setIcon(icon, qtTrId("ICONS_SOURCE_TITLE"));
+}
+
+void IconsViewController::takeIconOfToday(const QImage &icon, const QString &name)
+{
+    m_reading->stop();
+    m_builtInIconPending = false;
+    m_icon = icon;
+    m_ui->sourceIconTitle->setText(name);
+    m_ui->sourceIconSubtitle->setText(qtTrId("ICONS_SOURCE_SUBTITLE_ACTIVE"));
+    showStatus({});
+    m_jobs.start([this, icon, sides = pictureSides(), mode = cornerMode()](const BackgroundJob &job) {
+        const ShownIcon shown = shownIcon(icon, sides, mode);
+        job.post([this, shown] {
+            if (m_icon.cacheKey() == shown.icon.cacheKey())
+                showIcon(shown);
+        });
+    });
 }
 
 void IconsViewController::acceptIcon(const ShownIcon &shown, const QString &title)
@@ -127,6 +146,7 @@ void IconsViewController::acceptIcon(const ShownIcon &shown, const QString &titl
     m_ui->sourceIconTitle->setText(title);
     m_ui->sourceIconSubtitle->setText(qtTrId("ICONS_SOURCE_SUBTITLE_ACTIVE"));
     showStatus({});
+    m_today->setIcon(shown.icon, title);
 }
 
 void IconsViewController::refuseIcon(const QString &name, const QString &what)
@@ -145,13 +165,20 @@ void IconsViewController::dropViewReceivedFiles(const QStringList &files)
 {
     if (files.isEmpty())
         return;
+    if (isToday()) {
+        m_today->readIcon(files.first());
+        return;
+    }
     createIconFromURL(files.first());
     m_browsePath = QFileInfo(files.first()).path();
 }
 
 void IconsViewController::browseButtonPressed()
 {
-    openDialog();
+    if (isToday())
+        m_today->browseIcon();
+    else
+        openDialog();
 }
 
 void IconsViewController::openDialog()
@@ -174,7 +201,9 @@ void IconsViewController::paste()
         return;
     m_reading->stop();
     const QString name = qtTrId("ICONS_SOURCE_TITLE");
-    if (image.size() == QSize(sourceIconSize, sourceIconSize))
+    if (isToday())
+        m_today->takePasted(image);
+    else if (image.size() == QSize(sourceIconSize, sourceIconSize))
         acceptIcon(
             shownIcon(image.convertToFormat(QImage::Format_RGBA8888_Premultiplied), pictureSides(), cornerMode()),
             name);

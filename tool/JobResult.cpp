@@ -37,7 +37,7 @@ JobResult jobResult(const CountedThings &things, qsizetype written, qsizetype wa
                                 .replace(u"[DONE]"_s, QString::number(written))
                                 .replace(u"[COUNT]"_s, QString::number(wanted))
                                 .replace(u"[FOLDER]"_s, shortFolder(folder));
-    return {summary, written == 0 ? QString() : folder, failureLines(failures, QFileInfo(folder).path())};
+    return {summary, written == 0 ? QString() : folder, failureLines(failures, QFileInfo(folder).path()), {}};
 }
 
 } // namespace lumora

@@ -20,14 +20,16 @@ struct CountedThings
 };
 
 inline constexpr CountedThings countedIcons{"RESULT_ONE_ICON", "RESULT_ICONS", "RESULT_ICONS_PARTLY"};
+inline constexpr CountedThings countedFiles{"RESULT_ONE_FILE", "RESULT_FILES", "RESULT_FILES_PARTLY"};
 inline constexpr CountedThings countedPictures{"RESULT_ONE_PICTURE", "RESULT_PICTURES", "RESULT_PICTURES_PARTLY"};
 
 /// The result of a job, as texts for the user.
 struct JobResult
 {
-    QString summary;      ///< "51 icons in out/icons_1"
-    QString folder;       ///< absolute path of the written files; empty if nothing was written
-    QStringList failures; ///< a line for each reason
+    QString summary;        ///< "51 icons in out/icons_1"
+    QString folder;         ///< absolute path of the written files; empty if nothing was written
+    QStringList failures;   ///< a line for each reason
+    QStringList notes = {}; ///< what else is to be said, a line each
 
     bool isEmpty() const { return summary.isEmpty(); }
     bool operator==(const JobResult &) const = default;

@@ -37,7 +37,8 @@ constexpr int markWidth = 4;
 
 JobResultView::JobResultView(QWidget *parent)
     : QWidget(parent), m_summary(new ElidedLabel(this)), m_showButton(new HoverButton(this)),
-      m_copyButton(new HoverButton(this)), m_failureArea(new QScrollArea(this)), m_failures(new QLabel)
+      m_copyButton(new HoverButton(this)), m_failureArea(new QScrollArea(this)), m_failures(new QLabel),
+      m_notes(new QLabel)
 {
     setAccessibleRole(this, QAccessible::Grouping);
     setAccessibleName(qtTrId("RESULT_TITLE"));
@@ -71,16 +72,24 @@ JobResultView::JobResultView(QWidget *parent)
 
 void JobResultView::setUpFailures()
 {
+    auto *texts = new QWidget;
+    auto *column = new QVBoxLayout(texts);
+    column->setContentsMargins({});
+    column->setSpacing(0);
     styleLabel(m_failures, latoRegular(13), palette::errorDark);
-    m_failures->setWordWrap(true);
-    m_failures->setAlignment(Qt::AlignLeading | Qt::AlignTop);
-    m_failureArea->setWidget(m_failures);
+    styleLabel(m_notes, latoRegular(13), palette::chromeText);
+    for (QLabel *label : {m_failures, m_notes}) {
+        label->setWordWrap(true);
+        label->setAlignment(Qt::AlignLeading | Qt::AlignTop);
+        column->addWidget(label);
+    }
+    column->addStretch(1);
+    m_failureArea->setWidget(texts);
     m_failureArea->setWidgetResizable(true);
     m_failureArea->setFrameShape(QFrame::NoFrame);
     m_failureArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_failureArea->setAccessibleName(qtTrId("RESULT_FAILURES"));
     m_failureArea->viewport()->setAutoFillBackground(false);
-    m_failures->setAutoFillBackground(false);
+    texts->setAutoFillBackground(false);
 }
 
 void JobResultView::setColors(const QColor &normal, const QColor &hover)
@@ -97,9 +106,14 @@ void JobResultView::setResult(const JobResult &result)
     m_copyButton->setVisible(!result.folder.isEmpty());
     m_showButton->setToolTip(result.folder);
     m_failures->setText(result.failures.join(u'\n'));
-    m_failureArea->setVisible(!result.failures.isEmpty());
+    m_failures->setVisible(!result.failures.isEmpty());
+    m_notes->setText(result.notes.join(u'\n'));
+    m_notes->setVisible(!result.notes.isEmpty());
+    m_failureArea->setAccessibleName(qtTrId(result.failures.isEmpty() ? "RESULT_NOTES" : "RESULT_FAILURES"));
+    const qsizetype lines = result.failures.size() + result.notes.size();
+    m_failureArea->setVisible(lines > 0);
     // The area takes the focus only if it can be scrolled.
-    m_failureArea->setFocusPolicy(result.failures.size() > visibleFailures ? Qt::StrongFocus : Qt::NoFocus);
+    m_failureArea->setFocusPolicy(lines > visibleFailures ? Qt::StrongFocus : Qt::NoFocus);
     setAccessibleDescription(text());
     fitFailures();
     setVisible(!result.isEmpty());
@@ -110,13 +124,14 @@ void JobResultView::setResult(const JobResult &result)
 
 void JobResultView::fitFailures()
 {
-    const auto lines = std::min<int>(static_cast<int>(m_result.failures.size()), visibleFailures);
+    const auto lines =
+        std::min<int>(static_cast<int>(m_result.failures.size() + m_result.notes.size()), visibleFailures);
     m_failureArea->setFixedHeight(m_failures->fontMetrics().lineSpacing() * std::max(lines, 1) + 2);
 }
 
 QString JobResultView::text() const
 {
-    return (QStringList{m_result.summary} + m_result.failures).join(u'\n');
+    return (QStringList{m_result.summary} + m_result.failures + m_result.notes).join(u'\n');
 }
 
 void JobResultView::announce()

@@ -16,7 +16,8 @@ class ElidedLabel;
 class HoverButton;
 class TimedCaption;
 
-/// Shows the result of a job: a summary with buttons that show the folder and copy its path, and the failures below it.
+/// Shows the result of a job: a summary with buttons that show the folder and copy its path, and the failures and notes
+/// below it.
 /// Hidden while there is no result.
 class JobResultView final : public QWidget
 {
@@ -35,7 +36,7 @@ public:
 
     HoverButton *showButton() const { return m_showButton; }
     HoverButton *copyButton() const { return m_copyButton; }
-    /// The summary and the failures, one per line.
+    /// The summary, the failures and the notes, one per line.
     QString text() const;
 
 signals:
@@ -56,6 +57,7 @@ private:
     HoverButton *m_copyButton;
     QScrollArea *m_failureArea;
     QLabel *m_failures;
+    QLabel *m_notes;
     TimedCaption *m_copyCaption;
 };
 

@@ -83,10 +83,10 @@ QStringList findingLines(const IconCheck &check, const QString &folder)
     for (const IconFinding &finding : check.findings) {
         const IconRuleInfo &info = infoOf(finding.rule);
         QString line = nameOf(info.severity) + u": "_s + base.relativeFilePath(finding.path) + u": "_s +
-                       QLatin1StringView(info.title);
+                       commandText(info.titleKey);
         if (!finding.evidence.isEmpty())
             line += u" ("_s + finding.evidence + u')';
-        lines << printableText(line + u"; "_s + QLatin1StringView(info.fix));
+        lines << printableText(line + u"; "_s + commandText(info.fixKey));
     }
     return lines;
 }
@@ -98,10 +98,10 @@ QJsonArray findingsJson(const IconCheck &check)
         const IconRuleInfo &info = infoOf(finding.rule);
         json.append(QJsonObject{{u"id"_s, QLatin1StringView(info.id)},
                                 {u"severity"_s, nameOf(info.severity)},
-                                {u"title"_s, QLatin1StringView(info.title)},
+                                {u"title"_s, commandText(info.titleKey)},
                                 {u"path"_s, finding.path},
                                 {u"evidence"_s, finding.evidence},
-                                {u"fix"_s, QLatin1StringView(info.fix)}});
+                                {u"fix"_s, commandText(info.fixKey)}});
     }
     return json;
 }

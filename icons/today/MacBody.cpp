@@ -19,23 +19,26 @@ namespace
 /// The alpha channel of a square picture, one byte per pixel.
 using Shape = std::vector<std::uint8_t>;
 
-constexpr int edge = storeIconSize;
+/// A measure of the grid in a picture of that edge length.
+int onGrid(int measure, int edge)
+{
+    return measure * edge / storeIconSize;
+}
 
 /// Replaces each value by the mean of the values within `radius` in its row, and mirrors the picture at its diagonal.
 /// Two calls blur in both directions.
-Shape blurredAndTurned(const Shape &shape, int radius)
+Shape blurredAndTurned(const Shape &shape, int edge, int radius)
 {
     Shape result(shape.size());
     const int window = 2 * radius + 1;
     for (int y = 0; y < edge; ++y) {
-        const std::uint8_t *row = shape.data() + static_cast<std::size_t>(y) * edge;
-        const auto at = [row](int x) { return x < 0 || x >= edge ? 0 : int{row[x]}; };
+        const std::uint8_t *row = shape.data() + static_cast<std::size_t>(y * edge);
+        const auto at = [row, edge](int x) { return x < 0 || x >= edge ? 0 : int{row[x]}; };
         int sum = 0;
         for (int x = -radius; x <= radius; ++x)
             sum += at(x);
         for (int x = 0; x < edge; ++x) {
-            result[static_cast<std::size_t>(x) * edge + static_cast<std::size_t>(y)] =
-                static_cast<std::uint8_t>((sum + window / 2) / window);
+            result[static_cast<std::size_t>(x * edge + y)] = static_cast<std::uint8_t>((sum + window / 2) / window);
             sum += at(x + radius + 1) - at(x - radius);
         }
     }
@@ -43,35 +46,36 @@ Shape blurredAndTurned(const Shape &shape, int radius)
 }
 
 /// The body's alpha channel, moved down and blurred: three means are close to a Gaussian.
-Shape shadowOf(const QImage &body, int left, int top)
+Shape shadowOf(const QImage &body, int edge, int margin)
 {
-    Shape shape(static_cast<std::size_t>(edge) * edge);
+    Shape shape(static_cast<std::size_t>(edge * edge));
     for (int y = 0; y < body.height(); ++y) {
         const uchar *pixel = body.constScanLine(y);
-        const auto row = static_cast<std::size_t>(top + macGrid.shadowOffset + y) * edge;
+        const int row = (margin + onGrid(macGrid.shadowOffset, edge) + y) * edge;
         for (int x = 0; x < body.width(); ++x)
-            shape[row + static_cast<std::size_t>(left + x)] = pixel[4 * x + 3];
+            shape[static_cast<std::size_t>(row + margin + x)] = pixel[4 * x + 3];
     }
+    const int radius = onGrid(macGrid.shadowBlur / 3, edge);
     for (int pass = 0; pass < 3; ++pass)
-        shape = blurredAndTurned(blurredAndTurned(shape, macGrid.shadowBlur / 3), macGrid.shadowBlur / 3);
+        shape = blurredAndTurned(blurredAndTurned(shape, edge, radius), edge, radius);
     return shape;
 }
 
 } // namespace
 
-QImage macBody(const Artwork &icon)
+QImage macBody(const Artwork &icon, int edge)
 {
-    QImage body = icon.at(macGrid.body);
+    QImage body = icon.at(onGrid(macGrid.body, edge));
     if (body.isNull())
         return {};
-    roundCorners(body, macGrid.cornerRadius);
-    const int margin = (edge - macGrid.body) / 2;
-    const Shape shadow = shadowOf(body, margin, margin);
+    roundCorners(body, macGrid.cornerRadius * static_cast<float>(edge) / storeIconSize);
+    const int margin = (edge - body.width()) / 2;
+    const Shape shadow = shadowOf(body, edge, margin);
     QImage picture(edge, edge, QImage::Format_RGBA8888_Premultiplied);
     picture.fill(Qt::transparent);
     for (int y = 0; y < edge; ++y) {
         uchar *row = picture.scanLine(y);
-        const std::uint8_t *shades = shadow.data() + static_cast<std::size_t>(y) * edge;
+        const std::uint8_t *shades = shadow.data() + static_cast<std::size_t>(y * edge);
         for (int x = 0; x < edge; ++x)
             row[4 * x + 3] = static_cast<uchar>((shades[x] * macGrid.shadowOpacity + 127) / 255);
         const int inBody = y - margin;

@@ -64,7 +64,7 @@ QImage Motifs::at(Motif motif, int layer, int edge) const
     case Motif::MacBody:
         if (m_macForm == MacForm::FullBleed)
             return m_sources.icon.at(edge);
-        std::call_once(m_macMade, [this] { m_mac = Artwork(macBody(m_sources.icon)); });
+        std::call_once(m_macMade, [this] { m_mac = Artwork(macBody(m_sources.icon, sourceIconSize)); });
         return m_mac.at(edge);
     case Motif::Foreground:
         return (m_sources.foreground.isNull() ? m_sources.icon : m_sources.foreground).at(edge);

@@ -46,17 +46,21 @@ Result<ReadSource> readTodaySource(const QByteArray &bytes, const QString &name,
         return stored.failure();
     if (!isTaken(stored.value(), fit))
         return Failure{FailureCode::WrongSize, name, pixelsDetail(stored.value())};
-    Result<QImage> picture = readPicture(bytes, name);
-    if (!picture)
-        return picture.failure();
-    if (stored.value().width() == sourceIconSize)
-        return ReadSource{Artwork(picture.value()), {}};
-    const Result<QImage> fitted = resample(picture.value(), QSize(sourceIconSize, sourceIconSize), name);
+    const Result<QImage> picture = readPicture(bytes, name);
+    return picture ? todaySource(picture.value(), name, fit) : Result<ReadSource>(picture.failure());
+}
+
+Result<ReadSource> todaySource(const QImage &picture, const QString &name, SourceFit fit)
+{
+    if (!isTaken(picture.size(), fit))
+        return Failure{FailureCode::WrongSize, name, pixelsDetail(picture.size())};
+    if (picture.width() == sourceIconSize)
+        return ReadSource{Artwork(picture), {}};
+    const Result<QImage> fitted = resample(picture, QSize(sourceIconSize, sourceIconSize), name);
     if (!fitted)
         return fitted.failure();
-    return ReadSource{
-        Artwork(fitted.value()),
-        {Derived{Derivation::Fitted, name + u", %1 x %2"_s.arg(stored.value().width()).arg(stored.value().height())}}};
+    return ReadSource{Artwork(fitted.value()),
+                      {Derived{Derivation::Fitted, name + u", %1 x %2"_s.arg(picture.width()).arg(picture.height())}}};
 }
 
 Result<ReadSource> readTodaySource(const QString &path, SourceFit fit)

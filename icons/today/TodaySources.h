@@ -48,4 +48,7 @@ struct ReadSource
 Result<ReadSource> readTodaySource(const QByteArray &bytes, const QString &name, SourceFit fit);
 Result<ReadSource> readTodaySource(const QString &path, SourceFit fit);
 
+/// The same from a picture that is decoded already.
+Result<ReadSource> todaySource(const QImage &picture, const QString &name, SourceFit fit);
+
 } // namespace lumora

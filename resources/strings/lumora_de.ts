@@ -357,6 +357,194 @@
     <source>Pasted picture</source>
     <translation>Eingefügtes Bild</translation>
   </message>
+  <message id="ICONS_WATCH">
+    <source>Watch</source>
+    <translation>Watch</translation>
+  </message>
+  <message id="ICONS_WEB">
+    <source>Web</source>
+    <translation>Web</translation>
+  </message>
+  <message id="ICONS_WINDOWS">
+    <source>Windows</source>
+    <translation>Windows</translation>
+  </message>
+  <message id="ICONS_LINUX">
+    <source>Linux</source>
+    <translation>Linux</translation>
+  </message>
+  <message id="ICONS_SEEN">
+    <source>Where the icon will be seen</source>
+    <translation>Wo das Icon zu sehen sein wird</translation>
+  </message>
+  <message id="ICONS_SEEN_LIGHT">
+    <source>iOS light</source>
+    <translation>iOS hell</translation>
+  </message>
+  <message id="ICONS_SEEN_DARK">
+    <source>iOS dark</source>
+    <translation>iOS dunkel</translation>
+  </message>
+  <message id="ICONS_SEEN_TINTED">
+    <source>iOS tinted</source>
+    <translation>iOS getönt</translation>
+  </message>
+  <message id="ICONS_SEEN_CIRCLE">
+    <source>Circle</source>
+    <translation>Kreis</translation>
+  </message>
+  <message id="ICONS_SEEN_SQUIRCLE">
+    <source>Squircle</source>
+    <translation>Squircle</translation>
+  </message>
+  <message id="ICONS_SEEN_ROUNDED">
+    <source>Rounded</source>
+    <translation>Gerundet</translation>
+  </message>
+  <message id="ICONS_SEEN_TEARDROP">
+    <source>Teardrop</source>
+    <translation>Tropfen</translation>
+  </message>
+  <message id="ICONS_SEEN_MASKABLE">
+    <source>Web maskable</source>
+    <translation>Web, Maske</translation>
+  </message>
+  <message id="ICONS_SEEN_BY_SYSTEM">
+    <source>made by the system; the set has no such picture</source>
+    <translation>vom System gemacht; der Satz enthält kein solches Bild</translation>
+  </message>
+  <message id="ICONS_SEEN_SAFE_ZONE">
+    <source>the circle is what every mask shows</source>
+    <translation>der Kreis ist, was jede Maske zeigt</translation>
+  </message>
+  <message id="ICONS_SOURCE_DARK">
+    <source>Dark</source>
+    <translation>Dunkel</translation>
+  </message>
+  <message id="ICONS_SOURCE_TINTED">
+    <source>Tinted</source>
+    <translation>Getönt</translation>
+  </message>
+  <message id="ICONS_SOURCE_MONOCHROME">
+    <source>Monochrome</source>
+    <translation>Einfarbig</translation>
+  </message>
+  <message id="ICONS_SOURCE_FOREGROUND">
+    <source>Foreground</source>
+    <translation>Vordergrund</translation>
+  </message>
+  <message id="ICONS_SOURCE_BACKGROUND">
+    <source>Background</source>
+    <translation>Hintergrund</translation>
+  </message>
+  <message id="ICONS_SOURCE_DERIVED">
+    <source>derived</source>
+    <translation>abgeleitet</translation>
+  </message>
+  <message id="ICONS_SOURCE_GIVEN">
+    <source>given</source>
+    <translation>vorgegeben</translation>
+  </message>
+  <message id="ICONS_SOURCE_NONE">
+    <source>none</source>
+    <translation>keines</translation>
+  </message>
+  <message id="ICONS_SOURCE_TIP">
+    <source>Click or drop a square picture or SVG; Delete returns to what is derived</source>
+    <translation>Klicken oder ein quadratisches Bild oder SVG ablegen; Entf stellt das Abgeleitete wieder her</translation>
+  </message>
+  <message id="ICONS_SOURCE_REMOVE">
+    <source>[SOURCE]: back to what is derived</source>
+    <translation>[SOURCE]: zurück zum Abgeleiteten</translation>
+  </message>
+  <message id="ICONS_BACKGROUND_COLOR">
+    <source>Background colour</source>
+    <translation>Hintergrundfarbe</translation>
+  </message>
+  <message id="ICONS_FLATTEN_COLOR">
+    <source>Flatten onto this colour</source>
+    <translation>Auf diese Farbe reduzieren</translation>
+  </message>
+  <message id="ICONS_FLATTENED">
+    <source>the icon was put on this colour where it must be opaque</source>
+    <translation>wo es undurchsichtig sein muss, liegt das Icon auf dieser Farbe</translation>
+  </message>
+  <message id="ICONS_OR_COLOR">
+    <source>Or a colour</source>
+    <translation>Oder Farbe</translation>
+  </message>
+  <message id="ICONS_FLATTEN">
+    <source>Flatten onto</source>
+    <translation>Reduzieren auf</translation>
+  </message>
+  <message id="ICONS_FLATTEN_TIP">
+    <source>The colour below a transparent icon where a store forbids transparency</source>
+    <translation>Die Farbe unter einem durchsichtigen Icon, wo ein Store Transparenz verbietet</translation>
+  </message>
+  <message id="ICONS_COLOR_NONE">
+    <source>none</source>
+    <translation>keine</translation>
+  </message>
+  <message id="ICONS_COLOR_REFUSED">
+    <source>This is no opaque colour. Write #RRGGBB or a name.</source>
+    <translation>Das ist keine deckende Farbe. #RRGGBB oder einen Namen schreiben.</translation>
+  </message>
+  <message id="ICONS_APP_NAME">
+    <source>App name</source>
+    <translation>Name der App</translation>
+  </message>
+  <message id="ICONS_APP_NAME_TIP">
+    <source>The name in the web manifest and of the Linux files; App without it</source>
+    <translation>Der Name im Web-Manifest und der Linux-Dateien; sonst App</translation>
+  </message>
+  <message id="ICONS_PROGRESS">
+    <source>Progress of the icons</source>
+    <translation>Fortschritt der Icons</translation>
+  </message>
+  <message id="ICONS_BROWSE_TODAY">
+    <source>Choose a square picture of at least 512 pixels or an SVG drawing</source>
+    <translation>Ein quadratisches Bild ab 512 Pixeln oder eine SVG-Zeichnung auswählen</translation>
+  </message>
+  <message id="ICONS_FILTER_SOURCES">
+    <source>Pictures and drawings</source>
+    <translation>Bilder und Zeichnungen</translation>
+  </message>
+  <message id="ICONS_TODAY_REFUSED">
+    <source>[FILE]: [WHAT]. Please use a square picture of at least 512 pixels or a square SVG drawing.</source>
+    <translation>[FILE]: [WHAT]. Bitte ein quadratisches Bild ab 512 Pixeln oder eine quadratische SVG-Zeichnung nehmen.</translation>
+  </message>
+  <message id="ICONS_DESTINATION_TODAY">
+    <source>Choose a project or a folder for the icons</source>
+    <translation>Ein Projekt oder einen Ordner für die Icons auswählen</translation>
+  </message>
+  <message id="ICONS_TRANSPARENT_TITLE">
+    <source>The icon has transparency</source>
+    <translation>Das Icon ist durchsichtig</translation>
+  </message>
+  <message id="ICONS_TRANSPARENT_MESSAGE">
+    <source>iOS, Watch and Google Play refuse it. Choose a colour to flatten the icon onto, for example white.</source>
+    <translation>iOS, Watch und Google Play lehnen das ab. Eine Farbe wählen, auf die das Icon reduziert wird, zum Beispiel white.</translation>
+  </message>
+  <message id="ICONS_PROJECT_TITLE">
+    <source>[KIND] project</source>
+    <translation>[KIND]-Projekt</translation>
+  </message>
+  <message id="ICONS_PROJECT_QUESTION">
+    <source>Put [COUNT] icons in their places?</source>
+    <translation>[COUNT] Icons an ihre Plätze legen?</translation>
+  </message>
+  <message id="ICONS_PROJECT_FILES">
+    <source>Files of the project</source>
+    <translation>Dateien des Projekts</translation>
+  </message>
+  <message id="ICONS_INTO_PROJECT">
+    <source>Into the project</source>
+    <translation>Ins Projekt</translation>
+  </message>
+  <message id="ICONS_OWN_FOLDER">
+    <source>Into a folder of their own</source>
+    <translation>In einen eigenen Ordner</translation>
+  </message>
 
   <!-- Icon generator: code snippets; only the comments inside a snippet are translated -->
   <message id="Code Snippets">
@@ -785,6 +973,18 @@
     <source>[DONE] of [COUNT] pictures in [FOLDER]</source>
     <translation>[DONE] von [COUNT] Bildern in [FOLDER]</translation>
   </message>
+  <message id="RESULT_ONE_FILE">
+    <source>1 file in [FOLDER]</source>
+    <translation>1 Datei in [FOLDER]</translation>
+  </message>
+  <message id="RESULT_FILES">
+    <source>[COUNT] files in [FOLDER]</source>
+    <translation>[COUNT] Dateien in [FOLDER]</translation>
+  </message>
+  <message id="RESULT_FILES_PARTLY">
+    <source>[DONE] of [COUNT] files in [FOLDER]</source>
+    <translation>[DONE] von [COUNT] Dateien in [FOLDER]</translation>
+  </message>
   <message id="RESULT_NOTHING">
     <source>Nothing was written to [FOLDER]</source>
     <translation>Nichts wurde in [FOLDER] geschrieben</translation>
@@ -800,6 +1000,10 @@
   <message id="RESULT_FAILURES">
     <source>What went wrong</source>
     <translation>Was misslang</translation>
+  </message>
+  <message id="RESULT_NOTES">
+    <source>To be noted</source>
+    <translation>Zu beachten</translation>
   </message>
   <message id="RESULT_SHOW">
     <source>Show in folder</source>
@@ -2821,6 +3025,230 @@
   <message id="CLI_ICONS_NOT_CLASSIC">
     <source>[OPTION] goes only with --into or a platform of today: [WORDS]</source>
     <translation>[OPTION] geht nur mit --into oder einer Plattform von heute: [WORDS]</translation>
+  </message>
+  <message id="ICON_RULE_CONTENTS_UNREADABLE">
+    <source>The list of the folder's files is missing or cannot be read</source>
+    <translation>Die Liste der Dateien des Ordners fehlt oder ist nicht lesbar</translation>
+  </message>
+  <message id="ICON_FIX_CONTENTS_UNREADABLE">
+    <source>write the set again</source>
+    <translation>den Satz neu schreiben</translation>
+  </message>
+  <message id="ICON_RULE_FILE_MISSING">
+    <source>A listed file is not there</source>
+    <translation>Eine aufgeführte Datei fehlt</translation>
+  </message>
+  <message id="ICON_FIX_FILE_MISSING">
+    <source>add the file or take it off the list</source>
+    <translation>die Datei ergänzen oder aus der Liste nehmen</translation>
+  </message>
+  <message id="ICON_RULE_FILE_OUTSIDE">
+    <source>A listed file lies outside of the folder</source>
+    <translation>Eine aufgeführte Datei liegt außerhalb des Ordners</translation>
+  </message>
+  <message id="ICON_FIX_FILE_OUTSIDE">
+    <source>put the file into the folder and list it by its name alone</source>
+    <translation>die Datei in den Ordner legen und nur mit ihrem Namen aufführen</translation>
+  </message>
+  <message id="ICON_RULE_PICTURE_UNREADABLE">
+    <source>A picture cannot be read</source>
+    <translation>Ein Bild ist nicht lesbar</translation>
+  </message>
+  <message id="ICON_FIX_PICTURE_UNREADABLE">
+    <source>replace it by an undamaged PNG file</source>
+    <translation>durch eine unbeschädigte PNG-Datei ersetzen</translation>
+  </message>
+  <message id="ICON_RULE_WRONG_SIZE">
+    <source>A picture has another size than its slot</source>
+    <translation>Ein Bild hat eine andere Größe als sein Platz</translation>
+  </message>
+  <message id="ICON_FIX_WRONG_SIZE">
+    <source>replace it by a picture of the slot's size</source>
+    <translation>durch ein Bild in der Größe des Platzes ersetzen</translation>
+  </message>
+  <message id="ICON_RULE_STORE_ICON_MISSING">
+    <source>The icon of 1024 x 1024 pixels for the store is missing</source>
+    <translation>Das Icon von 1024 x 1024 Pixeln für den Store fehlt</translation>
+  </message>
+  <message id="ICON_FIX_STORE_ICON_MISSING">
+    <source>add it; uploads are refused without it</source>
+    <translation>ergänzen; ohne es werden Uploads abgelehnt</translation>
+  </message>
+  <message id="ICON_RULE_STORE_ICON_TRANSPARENT">
+    <source>The store's icon has transparent pixels</source>
+    <translation>Das Icon für den Store hat durchsichtige Pixel</translation>
+  </message>
+  <message id="ICON_FIX_STORE_ICON_TRANSPARENT">
+    <source>put it on a colour: lumora icons --flatten COLOR</source>
+    <translation>auf eine Farbe legen: lumora icons --flatten FARBE</translation>
+  </message>
+  <message id="ICON_RULE_PLATFORM_NAME">
+    <source>A slot's platform is not written as the catalogue compiler knows it</source>
+    <translation>Die Plattform eines Platzes ist anders geschrieben, als der Katalog-Compiler sie kennt</translation>
+  </message>
+  <message id="ICON_FIX_PLATFORM_NAME">
+    <source>write it in lower case</source>
+    <translation>klein schreiben</translation>
+  </message>
+  <message id="ICON_RULE_RESOURCE_MISSING">
+    <source>An adaptive icon names a resource that is not there</source>
+    <translation>Ein adaptives Icon nennt eine Ressource, die fehlt</translation>
+  </message>
+  <message id="ICON_FIX_RESOURCE_MISSING">
+    <source>add the resource or take its line out</source>
+    <translation>die Ressource ergänzen oder ihre Zeile entfernen</translation>
+  </message>
+  <message id="ICON_RULE_STORE_FILE_TOO_LONG">
+    <source>The store's picture is longer than 1024 KB</source>
+    <translation>Das Bild für den Store ist größer als 1024 KB</translation>
+  </message>
+  <message id="ICON_FIX_STORE_FILE_TOO_LONG">
+    <source>use a picture with fewer details</source>
+    <translation>ein Bild mit weniger Einzelheiten nehmen</translation>
+  </message>
+  <message id="ICON_RULE_ICON_FILE_BROKEN">
+    <source>An icon file is damaged</source>
+    <translation>Eine Icon-Datei ist beschädigt</translation>
+  </message>
+  <message id="ICON_FIX_ICON_FILE_BROKEN">
+    <source>write it again</source>
+    <translation>neu schreiben</translation>
+  </message>
+  <message id="ICON_RULE_LAYER_COUNT">
+    <source>A layered icon has fewer than two or more than five layers</source>
+    <translation>Ein geschichtetes Icon hat weniger als zwei oder mehr als fünf Ebenen</translation>
+  </message>
+  <message id="ICON_FIX_LAYER_COUNT">
+    <source>use two to five layers</source>
+    <translation>zwei bis fünf Ebenen nehmen</translation>
+  </message>
+  <message id="ICON_RULE_ICON_TRANSPARENT">
+    <source>A picture has transparent pixels, which are shown black or white</source>
+    <translation>Ein Bild hat durchsichtige Pixel, die schwarz oder weiß erscheinen</translation>
+  </message>
+  <message id="ICON_FIX_ICON_TRANSPARENT">
+    <source>put it on a colour: lumora icons --flatten COLOR</source>
+    <translation>auf eine Farbe legen: lumora icons --flatten FARBE</translation>
+  </message>
+  <message id="ICON_RULE_ALPHA_CHANNEL">
+    <source>The store's icon has an alpha channel, though all of it is opaque</source>
+    <translation>Das Icon für den Store hat einen Alphakanal, obwohl es ganz undurchsichtig ist</translation>
+  </message>
+  <message id="ICON_FIX_ALPHA_CHANNEL">
+    <source>save it without the channel</source>
+    <translation>ohne den Kanal sichern</translation>
+  </message>
+  <message id="ICON_RULE_UNASSIGNED_FILE">
+    <source>A file in the folder is in no slot</source>
+    <translation>Eine Datei im Ordner gehört zu keinem Platz</translation>
+  </message>
+  <message id="ICON_FIX_UNASSIGNED_FILE">
+    <source>assign it or remove it</source>
+    <translation>zuweisen oder entfernen</translation>
+  </message>
+  <message id="ICON_RULE_DUPLICATE_SLOT">
+    <source>Two pictures are listed for one slot</source>
+    <translation>Für einen Platz sind zwei Bilder aufgeführt</translation>
+  </message>
+  <message id="ICON_FIX_DUPLICATE_SLOT">
+    <source>take one of them off the list</source>
+    <translation>eines davon aus der Liste nehmen</translation>
+  </message>
+  <message id="ICON_RULE_FOREIGN_FORMAT">
+    <source>A file named .png holds another format</source>
+    <translation>Eine Datei namens .png enthält ein anderes Format</translation>
+  </message>
+  <message id="ICON_FIX_FOREIGN_FORMAT">
+    <source>save it as PNG</source>
+    <translation>als PNG sichern</translation>
+  </message>
+  <message id="ICON_RULE_STORE_ICON_COLORS">
+    <source>The store's icon has a palette or a wide-gamut profile, which uploads were refused for</source>
+    <translation>Das Icon für den Store hat eine Palette oder ein Profil mit großem Farbraum; Uploads wurden deshalb abgelehnt</translation>
+  </message>
+  <message id="ICON_FIX_STORE_ICON_COLORS">
+    <source>save it as sRGB with 8 bits a channel</source>
+    <translation>als sRGB mit 8 Bit je Kanal sichern</translation>
+  </message>
+  <message id="ICON_RULE_TINTED_COLORS">
+    <source>The tinted icon has colours</source>
+    <translation>Das getönte Icon hat Farben</translation>
+  </message>
+  <message id="ICON_FIX_TINTED_COLORS">
+    <source>use shades of grey; the system adds the tint</source>
+    <translation>Grautöne nehmen; die Tönung macht das System</translation>
+  </message>
+  <message id="ICON_RULE_OUTSIDE_SAFE_ZONE">
+    <source>The picture reaches beyond the circle that every mask shows</source>
+    <translation>Das Bild reicht über den Kreis hinaus, den jede Maske zeigt</translation>
+  </message>
+  <message id="ICON_FIX_OUTSIDE_SAFE_ZONE">
+    <source>make the picture's content smaller</source>
+    <translation>den Inhalt des Bildes verkleinern</translation>
+  </message>
+  <message id="ICON_RULE_MONOCHROME_MISSING">
+    <source>The adaptive icon has no monochrome layer for themed icons</source>
+    <translation>Das adaptive Icon hat keine einfarbige Ebene für thematische Icons</translation>
+  </message>
+  <message id="ICON_FIX_MONOCHROME_MISSING">
+    <source>add one: lumora icons --monochrome PICTURE</source>
+    <translation>eine ergänzen: lumora icons --monochrome BILD</translation>
+  </message>
+  <message id="ICON_RULE_MONOCHROME_OPAQUE">
+    <source>The monochrome layer is opaque, so that a themed icon is a plain square</source>
+    <translation>Die einfarbige Ebene ist undurchsichtig, ein thematisches Icon wird so zum bloßen Quadrat</translation>
+  </message>
+  <message id="ICON_FIX_MONOCHROME_OPAQUE">
+    <source>use a picture with transparency</source>
+    <translation>ein Bild mit Transparenz nehmen</translation>
+  </message>
+  <message id="ICON_RULE_MASKABLE_PURPOSE">
+    <source>One picture is listed both as "any" and as "maskable"</source>
+    <translation>Ein Bild ist zugleich als "any" und als "maskable" aufgeführt</translation>
+  </message>
+  <message id="ICON_FIX_MASKABLE_PURPOSE">
+    <source>list a picture of its own for each</source>
+    <translation>für beide Zwecke je ein eigenes Bild aufführen</translation>
+  </message>
+  <message id="ICON_RULE_LARGE_PICTURE_MISSING">
+    <source>The icon file has no large picture</source>
+    <translation>Die Icon-Datei hat kein großes Bild</translation>
+  </message>
+  <message id="ICON_FIX_LARGE_PICTURE_MISSING">
+    <source>add one of 256 pixels or more</source>
+    <translation>eines von mindestens 256 Pixeln ergänzen</translation>
+  </message>
+  <message id="ICON_RULE_SLOT_EMPTY">
+    <source>A slot is empty</source>
+    <translation>Ein Platz ist leer</translation>
+  </message>
+  <message id="ICON_FIX_SLOT_EMPTY">
+    <source>add a picture if it is wanted</source>
+    <translation>bei Bedarf ein Bild ergänzen</translation>
+  </message>
+  <message id="ICON_RULE_APPEARANCE_MISSING">
+    <source>There is no dark or no tinted icon</source>
+    <translation>Es gibt kein dunkles oder kein getöntes Icon</translation>
+  </message>
+  <message id="ICON_FIX_APPEARANCE_MISSING">
+    <source>add one: lumora icons --dark PICTURE --tinted PICTURE</source>
+    <translation>ergänzen: lumora icons --dark BILD --tinted BILD</translation>
+  </message>
+  <message id="ICON_RULE_UNCOMMON_PIXELS">
+    <source>The picture is interlaced or has 16 bits a channel</source>
+    <translation>Das Bild ist interlaced oder hat 16 Bit je Kanal</translation>
+  </message>
+  <message id="ICON_FIX_UNCOMMON_PIXELS">
+    <source>save it plain with 8 bits a channel</source>
+    <translation>schlicht mit 8 Bit je Kanal sichern</translation>
+  </message>
+  <message id="ICON_RULE_WALK_ENDED">
+    <source>The folder holds more than was looked through</source>
+    <translation>Der Ordner enthält mehr, als durchgesehen wurde</translation>
+  </message>
+  <message id="ICON_FIX_WALK_ENDED">
+    <source>check its parts one by one</source>
+    <translation>seine Teile einzeln prüfen</translation>
   </message>
   <message id="CLI_NOT_A_DATE">
     <source>[DATE] is no date; write it as in 2027-04-30</source>

@@ -357,6 +357,194 @@
     <source>Pasted picture</source>
     <translation>Pasted picture</translation>
   </message>
+  <message id="ICONS_WATCH">
+    <source>Watch</source>
+    <translation>Watch</translation>
+  </message>
+  <message id="ICONS_WEB">
+    <source>Web</source>
+    <translation>Web</translation>
+  </message>
+  <message id="ICONS_WINDOWS">
+    <source>Windows</source>
+    <translation>Windows</translation>
+  </message>
+  <message id="ICONS_LINUX">
+    <source>Linux</source>
+    <translation>Linux</translation>
+  </message>
+  <message id="ICONS_SEEN">
+    <source>Where the icon will be seen</source>
+    <translation>Where the icon will be seen</translation>
+  </message>
+  <message id="ICONS_SEEN_LIGHT">
+    <source>iOS light</source>
+    <translation>iOS light</translation>
+  </message>
+  <message id="ICONS_SEEN_DARK">
+    <source>iOS dark</source>
+    <translation>iOS dark</translation>
+  </message>
+  <message id="ICONS_SEEN_TINTED">
+    <source>iOS tinted</source>
+    <translation>iOS tinted</translation>
+  </message>
+  <message id="ICONS_SEEN_CIRCLE">
+    <source>Circle</source>
+    <translation>Circle</translation>
+  </message>
+  <message id="ICONS_SEEN_SQUIRCLE">
+    <source>Squircle</source>
+    <translation>Squircle</translation>
+  </message>
+  <message id="ICONS_SEEN_ROUNDED">
+    <source>Rounded</source>
+    <translation>Rounded</translation>
+  </message>
+  <message id="ICONS_SEEN_TEARDROP">
+    <source>Teardrop</source>
+    <translation>Teardrop</translation>
+  </message>
+  <message id="ICONS_SEEN_MASKABLE">
+    <source>Web maskable</source>
+    <translation>Web maskable</translation>
+  </message>
+  <message id="ICONS_SEEN_BY_SYSTEM">
+    <source>made by the system; the set has no such picture</source>
+    <translation>made by the system; the set has no such picture</translation>
+  </message>
+  <message id="ICONS_SEEN_SAFE_ZONE">
+    <source>the circle is what every mask shows</source>
+    <translation>the circle is what every mask shows</translation>
+  </message>
+  <message id="ICONS_SOURCE_DARK">
+    <source>Dark</source>
+    <translation>Dark</translation>
+  </message>
+  <message id="ICONS_SOURCE_TINTED">
+    <source>Tinted</source>
+    <translation>Tinted</translation>
+  </message>
+  <message id="ICONS_SOURCE_MONOCHROME">
+    <source>Monochrome</source>
+    <translation>Monochrome</translation>
+  </message>
+  <message id="ICONS_SOURCE_FOREGROUND">
+    <source>Foreground</source>
+    <translation>Foreground</translation>
+  </message>
+  <message id="ICONS_SOURCE_BACKGROUND">
+    <source>Background</source>
+    <translation>Background</translation>
+  </message>
+  <message id="ICONS_SOURCE_DERIVED">
+    <source>derived</source>
+    <translation>derived</translation>
+  </message>
+  <message id="ICONS_SOURCE_GIVEN">
+    <source>given</source>
+    <translation>given</translation>
+  </message>
+  <message id="ICONS_SOURCE_NONE">
+    <source>none</source>
+    <translation>none</translation>
+  </message>
+  <message id="ICONS_SOURCE_TIP">
+    <source>Click or drop a square picture or SVG; Delete returns to what is derived</source>
+    <translation>Click or drop a square picture or SVG; Delete returns to what is derived</translation>
+  </message>
+  <message id="ICONS_SOURCE_REMOVE">
+    <source>[SOURCE]: back to what is derived</source>
+    <translation>[SOURCE]: back to what is derived</translation>
+  </message>
+  <message id="ICONS_BACKGROUND_COLOR">
+    <source>Background colour</source>
+    <translation>Background colour</translation>
+  </message>
+  <message id="ICONS_FLATTEN_COLOR">
+    <source>Flatten onto this colour</source>
+    <translation>Flatten onto this colour</translation>
+  </message>
+  <message id="ICONS_FLATTENED">
+    <source>the icon was put on this colour where it must be opaque</source>
+    <translation>the icon was put on this colour where it must be opaque</translation>
+  </message>
+  <message id="ICONS_OR_COLOR">
+    <source>Or a colour</source>
+    <translation>Or a colour</translation>
+  </message>
+  <message id="ICONS_FLATTEN">
+    <source>Flatten onto</source>
+    <translation>Flatten onto</translation>
+  </message>
+  <message id="ICONS_FLATTEN_TIP">
+    <source>The colour below a transparent icon where a store forbids transparency</source>
+    <translation>The colour below a transparent icon where a store forbids transparency</translation>
+  </message>
+  <message id="ICONS_COLOR_NONE">
+    <source>none</source>
+    <translation>none</translation>
+  </message>
+  <message id="ICONS_COLOR_REFUSED">
+    <source>This is no opaque colour. Write #RRGGBB or a name.</source>
+    <translation>This is no opaque colour. Write #RRGGBB or a name.</translation>
+  </message>
+  <message id="ICONS_APP_NAME">
+    <source>App name</source>
+    <translation>App name</translation>
+  </message>
+  <message id="ICONS_APP_NAME_TIP">
+    <source>The name in the web manifest and of the Linux files; App without it</source>
+    <translation>The name in the web manifest and of the Linux files; App without it</translation>
+  </message>
+  <message id="ICONS_PROGRESS">
+    <source>Progress of the icons</source>
+    <translation>Progress of the icons</translation>
+  </message>
+  <message id="ICONS_BROWSE_TODAY">
+    <source>Choose a square picture of at least 512 pixels or an SVG drawing</source>
+    <translation>Choose a square picture of at least 512 pixels or an SVG drawing</translation>
+  </message>
+  <message id="ICONS_FILTER_SOURCES">
+    <source>Pictures and drawings</source>
+    <translation>Pictures and drawings</translation>
+  </message>
+  <message id="ICONS_TODAY_REFUSED">
+    <source>[FILE]: [WHAT]. Please use a square picture of at least 512 pixels or a square SVG drawing.</source>
+    <translation>[FILE]: [WHAT]. Please use a square picture of at least 512 pixels or a square SVG drawing.</translation>
+  </message>
+  <message id="ICONS_DESTINATION_TODAY">
+    <source>Choose a project or a folder for the icons</source>
+    <translation>Choose a project or a folder for the icons</translation>
+  </message>
+  <message id="ICONS_TRANSPARENT_TITLE">
+    <source>The icon has transparency</source>
+    <translation>The icon has transparency</translation>
+  </message>
+  <message id="ICONS_TRANSPARENT_MESSAGE">
+    <source>iOS, Watch and Google Play refuse it. Choose a colour to flatten the icon onto, for example white.</source>
+    <translation>iOS, Watch and Google Play refuse it. Choose a colour to flatten the icon onto, for example white.</translation>
+  </message>
+  <message id="ICONS_PROJECT_TITLE">
+    <source>[KIND] project</source>
+    <translation>[KIND] project</translation>
+  </message>
+  <message id="ICONS_PROJECT_QUESTION">
+    <source>Put [COUNT] icons in their places?</source>
+    <translation>Put [COUNT] icons in their places?</translation>
+  </message>
+  <message id="ICONS_PROJECT_FILES">
+    <source>Files of the project</source>
+    <translation>Files of the project</translation>
+  </message>
+  <message id="ICONS_INTO_PROJECT">
+    <source>Into the project</source>
+    <translation>Into the project</translation>
+  </message>
+  <message id="ICONS_OWN_FOLDER">
+    <source>Into a folder of their own</source>
+    <translation>Into a folder of their own</translation>
+  </message>
 
   <!-- Icon generator: code snippets; only the comments inside a snippet are translated -->
   <message id="Code Snippets">
@@ -783,6 +971,18 @@
     <source>[DONE] of [COUNT] pictures in [FOLDER]</source>
     <translation>[DONE] of [COUNT] pictures in [FOLDER]</translation>
   </message>
+  <message id="RESULT_ONE_FILE">
+    <source>1 file in [FOLDER]</source>
+    <translation>1 file in [FOLDER]</translation>
+  </message>
+  <message id="RESULT_FILES">
+    <source>[COUNT] files in [FOLDER]</source>
+    <translation>[COUNT] files in [FOLDER]</translation>
+  </message>
+  <message id="RESULT_FILES_PARTLY">
+    <source>[DONE] of [COUNT] files in [FOLDER]</source>
+    <translation>[DONE] of [COUNT] files in [FOLDER]</translation>
+  </message>
   <message id="RESULT_NOTHING">
     <source>Nothing was written to [FOLDER]</source>
     <translation>Nothing was written to [FOLDER]</translation>
@@ -798,6 +998,10 @@
   <message id="RESULT_FAILURES">
     <source>What went wrong</source>
     <translation>What went wrong</translation>
+  </message>
+  <message id="RESULT_NOTES">
+    <source>To be noted</source>
+    <translation>To be noted</translation>
   </message>
   <message id="RESULT_SHOW">
     <source>Show in folder</source>
@@ -2819,6 +3023,230 @@
   <message id="CLI_ICONS_NOT_CLASSIC">
     <source>[OPTION] goes only with --into or a platform of today: [WORDS]</source>
     <translation>[OPTION] goes only with --into or a platform of today: [WORDS]</translation>
+  </message>
+  <message id="ICON_RULE_CONTENTS_UNREADABLE">
+    <source>The list of the folder's files is missing or cannot be read</source>
+    <translation>The list of the folder's files is missing or cannot be read</translation>
+  </message>
+  <message id="ICON_FIX_CONTENTS_UNREADABLE">
+    <source>write the set again</source>
+    <translation>write the set again</translation>
+  </message>
+  <message id="ICON_RULE_FILE_MISSING">
+    <source>A listed file is not there</source>
+    <translation>A listed file is not there</translation>
+  </message>
+  <message id="ICON_FIX_FILE_MISSING">
+    <source>add the file or take it off the list</source>
+    <translation>add the file or take it off the list</translation>
+  </message>
+  <message id="ICON_RULE_FILE_OUTSIDE">
+    <source>A listed file lies outside of the folder</source>
+    <translation>A listed file lies outside of the folder</translation>
+  </message>
+  <message id="ICON_FIX_FILE_OUTSIDE">
+    <source>put the file into the folder and list it by its name alone</source>
+    <translation>put the file into the folder and list it by its name alone</translation>
+  </message>
+  <message id="ICON_RULE_PICTURE_UNREADABLE">
+    <source>A picture cannot be read</source>
+    <translation>A picture cannot be read</translation>
+  </message>
+  <message id="ICON_FIX_PICTURE_UNREADABLE">
+    <source>replace it by an undamaged PNG file</source>
+    <translation>replace it by an undamaged PNG file</translation>
+  </message>
+  <message id="ICON_RULE_WRONG_SIZE">
+    <source>A picture has another size than its slot</source>
+    <translation>A picture has another size than its slot</translation>
+  </message>
+  <message id="ICON_FIX_WRONG_SIZE">
+    <source>replace it by a picture of the slot's size</source>
+    <translation>replace it by a picture of the slot's size</translation>
+  </message>
+  <message id="ICON_RULE_STORE_ICON_MISSING">
+    <source>The icon of 1024 x 1024 pixels for the store is missing</source>
+    <translation>The icon of 1024 x 1024 pixels for the store is missing</translation>
+  </message>
+  <message id="ICON_FIX_STORE_ICON_MISSING">
+    <source>add it; uploads are refused without it</source>
+    <translation>add it; uploads are refused without it</translation>
+  </message>
+  <message id="ICON_RULE_STORE_ICON_TRANSPARENT">
+    <source>The store's icon has transparent pixels</source>
+    <translation>The store's icon has transparent pixels</translation>
+  </message>
+  <message id="ICON_FIX_STORE_ICON_TRANSPARENT">
+    <source>put it on a colour: lumora icons --flatten COLOR</source>
+    <translation>put it on a colour: lumora icons --flatten COLOR</translation>
+  </message>
+  <message id="ICON_RULE_PLATFORM_NAME">
+    <source>A slot's platform is not written as the catalogue compiler knows it</source>
+    <translation>A slot's platform is not written as the catalogue compiler knows it</translation>
+  </message>
+  <message id="ICON_FIX_PLATFORM_NAME">
+    <source>write it in lower case</source>
+    <translation>write it in lower case</translation>
+  </message>
+  <message id="ICON_RULE_RESOURCE_MISSING">
+    <source>An adaptive icon names a resource that is not there</source>
+    <translation>An adaptive icon names a resource that is not there</translation>
+  </message>
+  <message id="ICON_FIX_RESOURCE_MISSING">
+    <source>add the resource or take its line out</source>
+    <translation>add the resource or take its line out</translation>
+  </message>
+  <message id="ICON_RULE_STORE_FILE_TOO_LONG">
+    <source>The store's picture is longer than 1024 KB</source>
+    <translation>The store's picture is longer than 1024 KB</translation>
+  </message>
+  <message id="ICON_FIX_STORE_FILE_TOO_LONG">
+    <source>use a picture with fewer details</source>
+    <translation>use a picture with fewer details</translation>
+  </message>
+  <message id="ICON_RULE_ICON_FILE_BROKEN">
+    <source>An icon file is damaged</source>
+    <translation>An icon file is damaged</translation>
+  </message>
+  <message id="ICON_FIX_ICON_FILE_BROKEN">
+    <source>write it again</source>
+    <translation>write it again</translation>
+  </message>
+  <message id="ICON_RULE_LAYER_COUNT">
+    <source>A layered icon has fewer than two or more than five layers</source>
+    <translation>A layered icon has fewer than two or more than five layers</translation>
+  </message>
+  <message id="ICON_FIX_LAYER_COUNT">
+    <source>use two to five layers</source>
+    <translation>use two to five layers</translation>
+  </message>
+  <message id="ICON_RULE_ICON_TRANSPARENT">
+    <source>A picture has transparent pixels, which are shown black or white</source>
+    <translation>A picture has transparent pixels, which are shown black or white</translation>
+  </message>
+  <message id="ICON_FIX_ICON_TRANSPARENT">
+    <source>put it on a colour: lumora icons --flatten COLOR</source>
+    <translation>put it on a colour: lumora icons --flatten COLOR</translation>
+  </message>
+  <message id="ICON_RULE_ALPHA_CHANNEL">
+    <source>The store's icon has an alpha channel, though all of it is opaque</source>
+    <translation>The store's icon has an alpha channel, though all of it is opaque</translation>
+  </message>
+  <message id="ICON_FIX_ALPHA_CHANNEL">
+    <source>save it without the channel</source>
+    <translation>save it without the channel</translation>
+  </message>
+  <message id="ICON_RULE_UNASSIGNED_FILE">
+    <source>A file in the folder is in no slot</source>
+    <translation>A file in the folder is in no slot</translation>
+  </message>
+  <message id="ICON_FIX_UNASSIGNED_FILE">
+    <source>assign it or remove it</source>
+    <translation>assign it or remove it</translation>
+  </message>
+  <message id="ICON_RULE_DUPLICATE_SLOT">
+    <source>Two pictures are listed for one slot</source>
+    <translation>Two pictures are listed for one slot</translation>
+  </message>
+  <message id="ICON_FIX_DUPLICATE_SLOT">
+    <source>take one of them off the list</source>
+    <translation>take one of them off the list</translation>
+  </message>
+  <message id="ICON_RULE_FOREIGN_FORMAT">
+    <source>A file named .png holds another format</source>
+    <translation>A file named .png holds another format</translation>
+  </message>
+  <message id="ICON_FIX_FOREIGN_FORMAT">
+    <source>save it as PNG</source>
+    <translation>save it as PNG</translation>
+  </message>
+  <message id="ICON_RULE_STORE_ICON_COLORS">
+    <source>The store's icon has a palette or a wide-gamut profile, which uploads were refused for</source>
+    <translation>The store's icon has a palette or a wide-gamut profile, which uploads were refused for</translation>
+  </message>
+  <message id="ICON_FIX_STORE_ICON_COLORS">
+    <source>save it as sRGB with 8 bits a channel</source>
+    <translation>save it as sRGB with 8 bits a channel</translation>
+  </message>
+  <message id="ICON_RULE_TINTED_COLORS">
+    <source>The tinted icon has colours</source>
+    <translation>The tinted icon has colours</translation>
+  </message>
+  <message id="ICON_FIX_TINTED_COLORS">
+    <source>use shades of grey; the system adds the tint</source>
+    <translation>use shades of grey; the system adds the tint</translation>
+  </message>
+  <message id="ICON_RULE_OUTSIDE_SAFE_ZONE">
+    <source>The picture reaches beyond the circle that every mask shows</source>
+    <translation>The picture reaches beyond the circle that every mask shows</translation>
+  </message>
+  <message id="ICON_FIX_OUTSIDE_SAFE_ZONE">
+    <source>make the picture's content smaller</source>
+    <translation>make the picture's content smaller</translation>
+  </message>
+  <message id="ICON_RULE_MONOCHROME_MISSING">
+    <source>The adaptive icon has no monochrome layer for themed icons</source>
+    <translation>The adaptive icon has no monochrome layer for themed icons</translation>
+  </message>
+  <message id="ICON_FIX_MONOCHROME_MISSING">
+    <source>add one: lumora icons --monochrome PICTURE</source>
+    <translation>add one: lumora icons --monochrome PICTURE</translation>
+  </message>
+  <message id="ICON_RULE_MONOCHROME_OPAQUE">
+    <source>The monochrome layer is opaque, so that a themed icon is a plain square</source>
+    <translation>The monochrome layer is opaque, so that a themed icon is a plain square</translation>
+  </message>
+  <message id="ICON_FIX_MONOCHROME_OPAQUE">
+    <source>use a picture with transparency</source>
+    <translation>use a picture with transparency</translation>
+  </message>
+  <message id="ICON_RULE_MASKABLE_PURPOSE">
+    <source>One picture is listed both as "any" and as "maskable"</source>
+    <translation>One picture is listed both as "any" and as "maskable"</translation>
+  </message>
+  <message id="ICON_FIX_MASKABLE_PURPOSE">
+    <source>list a picture of its own for each</source>
+    <translation>list a picture of its own for each</translation>
+  </message>
+  <message id="ICON_RULE_LARGE_PICTURE_MISSING">
+    <source>The icon file has no large picture</source>
+    <translation>The icon file has no large picture</translation>
+  </message>
+  <message id="ICON_FIX_LARGE_PICTURE_MISSING">
+    <source>add one of 256 pixels or more</source>
+    <translation>add one of 256 pixels or more</translation>
+  </message>
+  <message id="ICON_RULE_SLOT_EMPTY">
+    <source>A slot is empty</source>
+    <translation>A slot is empty</translation>
+  </message>
+  <message id="ICON_FIX_SLOT_EMPTY">
+    <source>add a picture if it is wanted</source>
+    <translation>add a picture if it is wanted</translation>
+  </message>
+  <message id="ICON_RULE_APPEARANCE_MISSING">
+    <source>There is no dark or no tinted icon</source>
+    <translation>There is no dark or no tinted icon</translation>
+  </message>
+  <message id="ICON_FIX_APPEARANCE_MISSING">
+    <source>add one: lumora icons --dark PICTURE --tinted PICTURE</source>
+    <translation>add one: lumora icons --dark PICTURE --tinted PICTURE</translation>
+  </message>
+  <message id="ICON_RULE_UNCOMMON_PIXELS">
+    <source>The picture is interlaced or has 16 bits a channel</source>
+    <translation>The picture is interlaced or has 16 bits a channel</translation>
+  </message>
+  <message id="ICON_FIX_UNCOMMON_PIXELS">
+    <source>save it plain with 8 bits a channel</source>
+    <translation>save it plain with 8 bits a channel</translation>
+  </message>
+  <message id="ICON_RULE_WALK_ENDED">
+    <source>The folder holds more than was looked through</source>
+    <translation>The folder holds more than was looked through</translation>
+  </message>
+  <message id="ICON_FIX_WALK_ENDED">
+    <source>check its parts one by one</source>
+    <translation>check its parts one by one</translation>
   </message>
   <message id="CLI_NOT_A_DATE">
     <source>[DATE] is no date; write it as in 2027-04-30</source>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "IconsPane.h"
-#include "icons/IconView.h"
+#include "icons/pane/IconView.h"
 #include "pictures/PictureOperations.h"
 #include "widgets/style/Fonts.h"
 
