@@ -458,19 +458,19 @@
     <translation>[SOURCE]: zurück zum Abgeleiteten</translation>
   </message>
   <message id="ICONS_BACKGROUND_COLOR">
-    <source>Background colour</source>
+    <source>Background color</source>
     <translation>Hintergrundfarbe</translation>
   </message>
   <message id="ICONS_FLATTEN_COLOR">
-    <source>Flatten onto this colour</source>
+    <source>Flatten onto this color</source>
     <translation>Auf diese Farbe reduzieren</translation>
   </message>
   <message id="ICONS_FLATTENED">
-    <source>the icon was put on this colour where it must be opaque</source>
+    <source>the icon was put on this color where it must be opaque</source>
     <translation>wo es undurchsichtig sein muss, liegt das Icon auf dieser Farbe</translation>
   </message>
   <message id="ICONS_OR_COLOR">
-    <source>Or a colour</source>
+    <source>Or a color</source>
     <translation>Oder Farbe</translation>
   </message>
   <message id="ICONS_FLATTEN">
@@ -478,7 +478,7 @@
     <translation>Reduzieren auf</translation>
   </message>
   <message id="ICONS_FLATTEN_TIP">
-    <source>The colour below a transparent icon where a store forbids transparency</source>
+    <source>The color below a transparent icon where a store forbids transparency</source>
     <translation>Die Farbe unter einem durchsichtigen Icon, wo ein Store Transparenz verbietet</translation>
   </message>
   <message id="ICONS_COLOR_NONE">
@@ -486,7 +486,7 @@
     <translation>keine</translation>
   </message>
   <message id="ICONS_COLOR_REFUSED">
-    <source>This is no opaque colour. Write #RRGGBB or a name.</source>
+    <source>This is no opaque color. Write #RRGGBB or a name.</source>
     <translation>Das ist keine deckende Farbe. #RRGGBB oder einen Namen schreiben.</translation>
   </message>
   <message id="ICONS_APP_NAME">
@@ -522,7 +522,7 @@
     <translation>Das Icon ist durchsichtig</translation>
   </message>
   <message id="ICONS_TRANSPARENT_MESSAGE">
-    <source>iOS, Watch and Google Play refuse it. Choose a colour to flatten the icon onto, for example white.</source>
+    <source>iOS, Watch and Google Play refuse it. Choose a color to flatten the icon onto, for example white.</source>
     <translation>iOS, Watch und Google Play lehnen das ab. Eine Farbe wählen, auf die das Icon reduziert wird, zum Beispiel white.</translation>
   </message>
   <message id="ICONS_PROJECT_TITLE">
@@ -3079,7 +3079,7 @@
     <translation>Das Icon für den Store hat durchsichtige Pixel</translation>
   </message>
   <message id="ICON_FIX_STORE_ICON_TRANSPARENT">
-    <source>put it on a colour: lumora icons --flatten COLOR</source>
+    <source>put it on a color: lumora icons --flatten COLOR</source>
     <translation>auf eine Farbe legen: lumora icons --flatten FARBE</translation>
   </message>
   <message id="ICON_RULE_PLATFORM_NAME">
@@ -3127,7 +3127,7 @@
     <translation>Ein Bild hat durchsichtige Pixel, die schwarz oder weiß erscheinen</translation>
   </message>
   <message id="ICON_FIX_ICON_TRANSPARENT">
-    <source>put it on a colour: lumora icons --flatten COLOR</source>
+    <source>put it on a color: lumora icons --flatten COLOR</source>
     <translation>auf eine Farbe legen: lumora icons --flatten FARBE</translation>
   </message>
   <message id="ICON_RULE_ALPHA_CHANNEL">
@@ -3171,11 +3171,11 @@
     <translation>als sRGB mit 8 Bit je Kanal sichern</translation>
   </message>
   <message id="ICON_RULE_TINTED_COLORS">
-    <source>The tinted icon has colours</source>
+    <source>The tinted icon has colors</source>
     <translation>Das getönte Icon hat Farben</translation>
   </message>
   <message id="ICON_FIX_TINTED_COLORS">
-    <source>use shades of grey; the system adds the tint</source>
+    <source>use shades of gray; the system adds the tint</source>
     <translation>Grautöne nehmen; die Tönung macht das System</translation>
   </message>
   <message id="ICON_RULE_OUTSIDE_SAFE_ZONE">

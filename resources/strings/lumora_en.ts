@@ -458,36 +458,36 @@
     <translation>[SOURCE]: back to what is derived</translation>
   </message>
   <message id="ICONS_BACKGROUND_COLOR">
-    <source>Background colour</source>
-    <translation>Background colour</translation>
+    <source>Background color</source>
+    <translation>Background color</translation>
   </message>
   <message id="ICONS_FLATTEN_COLOR">
-    <source>Flatten onto this colour</source>
-    <translation>Flatten onto this colour</translation>
+    <source>Flatten onto this color</source>
+    <translation>Flatten onto this color</translation>
   </message>
   <message id="ICONS_FLATTENED">
-    <source>the icon was put on this colour where it must be opaque</source>
-    <translation>the icon was put on this colour where it must be opaque</translation>
+    <source>the icon was put on this color where it must be opaque</source>
+    <translation>the icon was put on this color where it must be opaque</translation>
   </message>
   <message id="ICONS_OR_COLOR">
-    <source>Or a colour</source>
-    <translation>Or a colour</translation>
+    <source>Or a color</source>
+    <translation>Or a color</translation>
   </message>
   <message id="ICONS_FLATTEN">
     <source>Flatten onto</source>
     <translation>Flatten onto</translation>
   </message>
   <message id="ICONS_FLATTEN_TIP">
-    <source>The colour below a transparent icon where a store forbids transparency</source>
-    <translation>The colour below a transparent icon where a store forbids transparency</translation>
+    <source>The color below a transparent icon where a store forbids transparency</source>
+    <translation>The color below a transparent icon where a store forbids transparency</translation>
   </message>
   <message id="ICONS_COLOR_NONE">
     <source>none</source>
     <translation>none</translation>
   </message>
   <message id="ICONS_COLOR_REFUSED">
-    <source>This is no opaque colour. Write #RRGGBB or a name.</source>
-    <translation>This is no opaque colour. Write #RRGGBB or a name.</translation>
+    <source>This is no opaque color. Write #RRGGBB or a name.</source>
+    <translation>This is no opaque color. Write #RRGGBB or a name.</translation>
   </message>
   <message id="ICONS_APP_NAME">
     <source>App name</source>
@@ -522,8 +522,8 @@
     <translation>The icon has transparency</translation>
   </message>
   <message id="ICONS_TRANSPARENT_MESSAGE">
-    <source>iOS, Watch and Google Play refuse it. Choose a colour to flatten the icon onto, for example white.</source>
-    <translation>iOS, Watch and Google Play refuse it. Choose a colour to flatten the icon onto, for example white.</translation>
+    <source>iOS, Watch and Google Play refuse it. Choose a color to flatten the icon onto, for example white.</source>
+    <translation>iOS, Watch and Google Play refuse it. Choose a color to flatten the icon onto, for example white.</translation>
   </message>
   <message id="ICONS_PROJECT_TITLE">
     <source>[KIND] project</source>
@@ -3077,8 +3077,8 @@
     <translation>The store's icon has transparent pixels</translation>
   </message>
   <message id="ICON_FIX_STORE_ICON_TRANSPARENT">
-    <source>put it on a colour: lumora icons --flatten COLOR</source>
-    <translation>put it on a colour: lumora icons --flatten COLOR</translation>
+    <source>put it on a color: lumora icons --flatten COLOR</source>
+    <translation>put it on a color: lumora icons --flatten COLOR</translation>
   </message>
   <message id="ICON_RULE_PLATFORM_NAME">
     <source>A slot's platform is not written as the catalogue compiler knows it</source>
@@ -3125,8 +3125,8 @@
     <translation>A picture has transparent pixels, which are shown black or white</translation>
   </message>
   <message id="ICON_FIX_ICON_TRANSPARENT">
-    <source>put it on a colour: lumora icons --flatten COLOR</source>
-    <translation>put it on a colour: lumora icons --flatten COLOR</translation>
+    <source>put it on a color: lumora icons --flatten COLOR</source>
+    <translation>put it on a color: lumora icons --flatten COLOR</translation>
   </message>
   <message id="ICON_RULE_ALPHA_CHANNEL">
     <source>The store's icon has an alpha channel, though all of it is opaque</source>
@@ -3169,12 +3169,12 @@
     <translation>save it as sRGB with 8 bits a channel</translation>
   </message>
   <message id="ICON_RULE_TINTED_COLORS">
-    <source>The tinted icon has colours</source>
-    <translation>The tinted icon has colours</translation>
+    <source>The tinted icon has colors</source>
+    <translation>The tinted icon has colors</translation>
   </message>
   <message id="ICON_FIX_TINTED_COLORS">
-    <source>use shades of grey; the system adds the tint</source>
-    <translation>use shades of grey; the system adds the tint</translation>
+    <source>use shades of gray; the system adds the tint</source>
+    <translation>use shades of gray; the system adds the tint</translation>
   </message>
   <message id="ICON_RULE_OUTSIDE_SAFE_ZONE">
     <source>The picture reaches beyond the circle that every mask shows</source>

@@ -298,7 +298,7 @@ private slots:
             }
         }
         for (const QString &name :
-             {u"Browse…"_s, u"Dark"_s, u"Background"_s, u"Background colour"_s, u"Flatten onto this colour"_s, u"iOS"_s,
+             {u"Browse…"_s, u"Dark"_s, u"Background"_s, u"Background color"_s, u"Flatten onto this color"_s, u"iOS"_s,
               u"Linux"_s, u"App name"_s, u"All"_s, u"Generate"_s, u"Code snippet"_s, u"Copy"_s, u"Android, Teardrop"_s})
             QVERIFY2(reached.contains(name), qPrintable(name));
     }
