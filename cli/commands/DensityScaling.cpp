@@ -33,7 +33,7 @@ class Report
 public:
     explicit Report(Console &console) : m_console(console) {}
 
-    void add(const PlannedSource &source, const PlannedPicture &picture)
+    void add(const PlannedSource &source, const PlannedTarget &picture)
     {
         QStringList remarks{u"%1x%2"_s.arg(picture.size.width()).arg(picture.size.height())};
         if (picture.rounded)
@@ -104,7 +104,9 @@ std::optional<Complaint> takeScales(const DensityScalingRequest &request, Densit
         complaint.path = option + u' ' + value;
         return complaint;
     };
-    if (!request.from.isEmpty()) {
+    if (request.from == "svg"_L1) {
+        density.kind = SourceKind::Drawings;
+    } else if (!request.from.isEmpty()) {
         density.from = densityNamed(request.from);
         if (!density.from)
             return wrong(u"--from"_s, request.from);
@@ -136,14 +138,6 @@ Result<QString> destination(const OutputPlace &place, bool dryRun)
     if (given.isEmpty())
         return QString();
     return dryRun ? absolutePath(given) : place.folder();
-}
-
-qsizetype plannedFiles(const DensityPlan &plan)
-{
-    qsizetype count = 0;
-    for (const PlannedSource &source : plan.sources)
-        count += std::ranges::count_if(source.pictures, &PlannedPicture::written);
-    return count;
 }
 
 void write(Console &console, Report &report, const DensityPlan &plan, const DensityBatchOptions &options)
@@ -178,7 +172,7 @@ bool DensityScalingRequest::isMeant() const
     return !layout.isEmpty() || !from.isEmpty() || !toScales.isEmpty() || !format.isEmpty() || quality;
 }
 
-ExitStatus scaleToDensities(Console &console, const QStringList &folders, const DensityScalingRequest &request,
+ExitStatus scaleToDensities(Console &console, const QStringList &sources, const DensityScalingRequest &request,
                             const OutputPlace &place, bool overwrite, bool dryRun)
 {
     DensityRequest density;
@@ -206,17 +200,12 @@ ExitStatus scaleToDensities(Console &console, const QStringList &folders, const 
                      : request.format == u"png" ? ScaledFormat::Png
                                                 : ScaledFormat::WebP;
     Report report(console);
-    DensityPlan plan;
-    for (const QString &source : folders) {
-        DensityPlan one = planDensities(source, density);
-        std::ranges::move(one.sources, std::back_inserter(plan.sources));
-        std::ranges::move(one.failures, std::back_inserter(plan.failures));
-    }
+    const DensityPlan plan = planDensities(sources, density);
     for (const Failure &failure : plan.failures)
         report.add(failure);
     if (dryRun) {
         for (const PlannedSource &source : plan.sources) {
-            for (const PlannedPicture &picture : source.pictures)
+            for (const PlannedTarget &picture : source.pictures)
                 report.add(source, picture);
         }
         return report.finish();

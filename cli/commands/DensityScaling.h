@@ -26,9 +26,9 @@ struct DensityScalingRequest
     bool isMeant() const;
 };
 
-/// Plans the missing densities of the pictures in the folders, and writes them unless it is a dry run: beside their
-/// sources, or in the same sub-folders of the given folder.
-ExitStatus scaleToDensities(Console &console, const QStringList &folders, const DensityScalingRequest &request,
+/// Plans the missing densities of the pictures that the paths name, and writes them unless it is a dry run: beside
+/// their sources, or in the same sub-folders of the given folder.
+ExitStatus scaleToDensities(Console &console, const QStringList &sources, const DensityScalingRequest &request,
                             const OutputPlace &place, bool overwrite, bool dryRun);
 
 } // namespace lumora

@@ -28,6 +28,14 @@ constexpr double heavyPoints = 40'000;
 /// The edges may differ by what rounding leaves of them.
 constexpr double squareTolerance = 0.001;
 
+/// Whether the proportions differ by more than what rounding to whole points makes of them.
+bool isOfOtherShape(const QSizeF &viewBox, const QSizeF &rounded)
+{
+    const double height = rounded.width() * viewBox.height() / viewBox.width();
+    const double width = rounded.height() * viewBox.width() / viewBox.height();
+    return std::abs(height - rounded.height()) > 1 && std::abs(width - rounded.width()) > 1;
+}
+
 } // namespace
 
 class SvgDrawing::Private
@@ -38,6 +46,7 @@ public:
     QByteArray file;
     QStringList notDrawn;
     bool heavy = false;
+    QSize size; ///< in points
     QSvgRenderer renderer;
     std::mutex mutex; ///< the renderer changes while it draws
 };
@@ -46,7 +55,7 @@ SvgDrawing::SvgDrawing(std::unique_ptr<Private> state) : m_state(std::move(state
 
 SvgDrawing::~SvgDrawing() = default;
 
-Result<std::shared_ptr<const SvgDrawing>> SvgDrawing::read(const QByteArray &bytes, const QString &name)
+Result<std::shared_ptr<const SvgDrawing>> SvgDrawing::read(const QByteArray &bytes, const QString &name, SvgShape shape)
 {
     const Result<SvgInspection> inspection = inspectSvg(bytes, name);
     if (!inspection)
@@ -58,11 +67,15 @@ Result<std::shared_ptr<const SvgDrawing>> SvgDrawing::read(const QByteArray &byt
     const QSizeF size = state->renderer.viewBoxF().size();
     if (!(size.width() > 0) || !(size.height() > 0) || !std::isfinite(size.width() * size.height()))
         return Failure{FailureCode::NotReadable, name, "DETAIL_SVG_NO_SIZE"};
-    if (std::abs(size.width() / size.height() - 1) > squareTolerance)
+    if (shape == SvgShape::Square && std::abs(size.width() / size.height() - 1) > squareTolerance)
         return Failure{FailureCode::WrongSize,
                        name,
                        {"DETAIL_SVG_NOT_SQUARE",
                         {{"[WIDTH]", QString::number(size.width())}, {"[HEIGHT]", QString::number(size.height())}}}};
+    state->size = state->renderer.defaultSize().expandedTo({1, 1});
+    // Where the file's own size has other proportions than its view box, the drawing sits in the middle.
+    if (shape == SvgShape::Any && isOfOtherShape(size, state->size))
+        state->renderer.setAspectRatioMode(Qt::KeepAspectRatio);
     const SvgEffort effort = svgEffort(state->renderer);
     if (effort.coverage > mostCoverage || effort.points > mostPoints) {
         return Failure{FailureCode::TooLarge, name, "DETAIL_SVG_TOO_MUCH"};
@@ -71,17 +84,22 @@ Result<std::shared_ptr<const SvgDrawing>> SvgDrawing::read(const QByteArray &byt
     return std::shared_ptr<const SvgDrawing>(new SvgDrawing(std::move(state)));
 }
 
-QImage SvgDrawing::at(int edge) const
+QSize SvgDrawing::size() const
 {
-    if (edge < 1)
+    return m_state->size;
+}
+
+QImage SvgDrawing::at(QSize pixels) const
+{
+    if (pixels.isEmpty() || qint64{pixels.width()} * pixels.height() > largestArea)
         return {};
-    QImage picture(edge, edge, QImage::Format_ARGB32_Premultiplied);
+    QImage picture(pixels, QImage::Format_ARGB32_Premultiplied);
     picture.fill(Qt::transparent);
     {
         const std::scoped_lock lock(m_state->mutex);
         QPainter painter(&picture);
         painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-        m_state->renderer.render(&painter, QRectF(0, 0, edge, edge));
+        m_state->renderer.render(&painter, QRectF(QPointF(), pixels));
     }
     return premultiplied(std::move(picture));
 }

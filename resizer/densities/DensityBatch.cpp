@@ -6,6 +6,8 @@
 #include "pictures/PictureReader.h"
 #include "pictures/png/PngEncoder.h"
 #include "pictures/scaling/Resampler.h"
+#include "pictures/svg/SvgDrawing.h"
+#include "pictures/svg/SvgInspection.h"
 #include "pictures/webp/WebPEncoder.h"
 #include "resizer/MemoryBudget.h"
 
@@ -40,7 +42,7 @@ qint64 scalingMemory(QSize pixels)
     return bytesPerPixel * pixels.width() * pixels.height();
 }
 
-Result<QByteArray> encoded(const QImage &picture, const PlannedPicture &planned, const DensityBatchOptions &options)
+Result<QByteArray> encoded(const QImage &picture, const PlannedTarget &planned, const DensityBatchOptions &options)
 {
     if (planned.format == ScaledFormat::WebP)
         return encodeWebP(picture, {options.webpQuality}, planned.target);
@@ -70,13 +72,13 @@ public:
     std::vector<ScaledFile> run(MemoryBudget &budget) const
     {
         std::vector<ScaledFile> files;
-        for (const PlannedPicture &picture : m_source.pictures) {
+        for (const PlannedTarget &picture : m_source.pictures) {
             if (picture.written)
                 files.push_back({m_source.source, picture.target, picture.size, picture.rounded, 0, Done{}});
         }
         if (files.empty())
             return files;
-        const MemoryBudget::Share share(budget, scalingMemory(m_source.size));
+        const MemoryBudget::Share share(budget, scalingMemory(largestSize(files)));
         const Outcome scaled = withinMemory(m_source.source, [&] { return scaleInto(files); });
         if (!scaled)
             failAll(files, scaled.failure());
@@ -86,7 +88,11 @@ public:
 private:
     Outcome scaleInto(std::vector<ScaledFile> &files) const
     {
-        const Result<QByteArray> content = readWholeFile(m_source.source, largestPictureFile);
+        const bool isDrawing = m_source.kind == SourceKind::Drawings;
+        const Result<QByteArray> content =
+            readWholeFile(m_source.source, isDrawing ? largestSvgFile : largestPictureFile);
+        if (isDrawing && content)
+            return drawInto(files, content.value());
         const Result<QImage> picture =
             content ? readStraightPicture(content.value(), m_source.source) : content.failure();
         if (!picture)
@@ -97,20 +103,46 @@ private:
         if (size != m_source.size && size != m_source.size.transposed())
             return Failure{FailureCode::WrongSize, m_source.source, "DETAIL_CHANGED_SINCE"};
         const Resampler resampler(picture.value(), m_source.source);
+        writeEach(files, size, [&resampler](QSize pixels) { return resampler.scaledTo(pixels); });
+        return Done{};
+    }
+
+    Outcome drawInto(std::vector<ScaledFile> &files, const QByteArray &content) const
+    {
+        const auto drawing = SvgDrawing::read(content, m_source.source, SvgShape::Any);
+        if (!drawing)
+            return drawing.failure();
+        if (drawing.value()->size() != m_source.size)
+            return Failure{FailureCode::WrongSize, m_source.source, "DETAIL_CHANGED_SINCE"};
+        writeEach(files, m_source.size,
+                  [&drawing](QSize pixels) { return Result<QImage>(drawing.value()->at(pixels)); });
+        return Done{};
+    }
+
+    template <typename InSize> void writeEach(std::vector<ScaledFile> &files, QSize size, const InSize &inSize) const
+    {
         auto file = files.begin();
-        for (const PlannedPicture &planned : m_source.pictures) {
+        for (const PlannedTarget &planned : m_source.pictures) {
             if (!planned.written)
                 continue;
             const ScaledSize scaled = scaledSize(size, m_source.density, planned.density);
             file->size = scaled.size;
-            const Result<QImage> result = resampler.scaledTo(scaled.size);
+            const Result<QImage> result = inSize(scaled.size);
             const Result<QByteArray> bytes =
                 result ? encoded(result.value(), planned, m_options) : Result<QByteArray>(result.failure());
             file->outcome = bytes ? write(planned.target, bytes.value(), m_options.existing) : bytes.failure();
             file->bytes = bytes && file->outcome ? bytes.value().size() : 0;
             ++file;
         }
-        return Done{};
+    }
+
+    /// A drawing is smaller than its pictures.
+    QSize largestSize(const std::vector<ScaledFile> &files) const
+    {
+        QSize largest = m_source.size;
+        for (const ScaledFile &file : files)
+            largest = largest.expandedTo(file.size);
+        return largest;
     }
 
     static void failAll(std::vector<ScaledFile> &files, const Failure &failure)

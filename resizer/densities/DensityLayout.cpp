@@ -79,6 +79,20 @@ std::optional<DensityPlace> androidPlace(const QString &path)
                         true};
 }
 
+/// Drawings are not in the folders of the densities; those are made beside them, or in place of "drawable-anydpi".
+std::optional<DensityPlace> androidDrawingPlace(const QString &path)
+{
+    static const QRegularExpression drawable(
+        u"^(.*/)?((?:drawable|mipmap)(?:-[A-Za-z0-9+]+)*?)(?:-(?:nodpi|anydpi)(?:-v[0-9]+)?)?$"_s);
+    if (const std::optional<DensityPlace> place = androidPlace(path))
+        return place;
+    const PathParts parts(path);
+    const auto match = drawable.match(parts.folder);
+    const QString folder =
+        match.hasMatch() ? QString(match.captured(1) + match.captured(2)) : joined(parts.folder, u"drawable"_s);
+    return DensityPlace{folder + u'-' + bucketPlace, parts.stem, {}, parts.extension, {}, false};
+}
+
 QString androidPath(const DensityPlace &place, const Density &density, const QString &extension)
 {
     static constexpr std::array<std::pair<Density, QLatin1StringView>, 7> buckets{{{{3, 4}, "ldpi"_L1},
@@ -130,11 +144,11 @@ constexpr std::array<Density, 5> nativeDensities{{{4, 1}, {3, 1}, {2, 1}, {3, 2}
 constexpr std::array<Density, 5> markedDensities{{{4, 1}, {3, 1}, {2, 1}, {3, 2}, {1, 1}}};
 
 constexpr std::array<DensityLayout, 5> layouts{{
-    {"ios"_L1, markedDensities, iosDensities, markedPlace, markedPath},
-    {"android"_L1, androidDensities, androidUsual, androidPlace, androidPath},
-    {"flutter"_L1, flutterDensities, flutterUsual, flutterPlace, flutterPath},
-    {"react-native"_L1, nativeDensities, nativeDensities, markedPlace, markedPath},
-    {"web"_L1, markedDensities, iosDensities, markedPlace, markedPath},
+    {"ios"_L1, markedDensities, iosDensities, markedPlace, markedPlace, markedPath},
+    {"android"_L1, androidDensities, androidUsual, androidPlace, androidDrawingPlace, androidPath},
+    {"flutter"_L1, flutterDensities, flutterUsual, flutterPlace, flutterPlace, flutterPath},
+    {"react-native"_L1, nativeDensities, nativeDensities, markedPlace, markedPlace, markedPath},
+    {"web"_L1, markedDensities, iosDensities, markedPlace, markedPlace, markedPath},
 }};
 
 } // namespace

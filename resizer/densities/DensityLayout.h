@@ -32,6 +32,8 @@ struct DensityLayout
     std::span<const Density> usual;
     /// Reads a path relative to the searched folder, with "/" between its parts; empty if the layout has no such path.
     std::optional<DensityPlace> (*place)(const QString &path);
+    /// The same for an SVG drawing, which needs no density in its path.
+    std::optional<DensityPlace> (*drawingPlace)(const QString &path);
     /// The path of the picture in another density.
     QString (*path)(const DensityPlace &place, const Density &density, const QString &extension);
 };

@@ -3,6 +3,8 @@
 
 #include "foundation/WholeFile.h"
 #include "pictures/PictureReader.h"
+#include "pictures/svg/SvgDrawing.h"
+#include "pictures/svg/SvgInspection.h"
 #include "resizer/FileIdentity.h"
 
 #include <QDir>
@@ -26,56 +28,127 @@ constexpr int deepestFolder = 64;
 struct FoundPicture
 {
     QString path;
+    QString root; ///< the folder that the place is relative to
     DensityPlace place;
+    SourceKind kind = SourceKind::Pictures;
 };
 
-bool isPicture(const QString &name)
+bool isDrawing(const QString &extension)
 {
-    return name.endsWith(".png"_L1) || name.endsWith(".webp"_L1);
+    return extension == "svg"_L1;
+}
+
+bool isJpeg(const QString &extension)
+{
+    return extension == "jpg"_L1 || extension == "jpeg"_L1;
 }
 
 class Search
 {
 public:
-    Search(const QString &folder, const DensityLayout &layout) : m_root(folder), m_layout(layout) {}
+    Search(const DensityRequest &request, const std::stop_token &stop, DensityPlan &plan)
+        : m_layout(*request.layout), m_kind(request.kind), m_stop(stop), m_plan(plan)
+    {
+    }
 
-    void run(DensityPlan &plan) { search(m_root, {}, 0, plan); }
+    void run(const QString &path)
+    {
+        const QFileInfo file(path);
+        m_root = file.absoluteFilePath();
+        if (file.isDir())
+            search(m_root, {}, 0);
+        else if (file.exists())
+            takeNamed(file);
+        else
+            m_plan.failures.push_back({FailureCode::NotFound, path, {}});
+    }
     const std::vector<FoundPicture> &found() const { return m_found; }
 
 private:
-    void search(const QString &folder, const QString &relative, int depth, DensityPlan &plan)
+    void search(const QString &folder, const QString &relative, int depth)
     {
         const QDir directory(folder);
         if (!directory.isReadable() || depth > deepestFolder) {
-            plan.failures.push_back({FailureCode::NoPermission, folder, {}});
+            m_plan.failures.push_back({FailureCode::NoPermission, folder, {}});
             return;
         }
         const QFileInfoList entries =
             directory.entryInfoList(QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
         for (const QFileInfo &entry : entries) {
+            if (m_stop.stop_requested() || m_isFull)
+                return;
             const QString inside = relative.isEmpty() ? entry.fileName() : relative + u'/' + entry.fileName();
+            const QString extension = entry.suffix().toLower();
             if (entry.isDir() && !entry.isSymLink())
-                search(entry.filePath(), inside, depth + 1, plan);
-            else if (entry.isFile() && isPicture(entry.fileName()))
-                take(entry.filePath(), inside);
+                search(entry.filePath(), inside, depth + 1);
+            else if (entry.isFile() && isWanted(extension))
+                take(entry.filePath(), placeOf(inside, extension));
         }
     }
 
-    void take(const QString &path, const QString &relative)
+    /// Pictures of every density are looked at, drawings only where they are the sources.
+    bool isWanted(const QString &extension) const
     {
-        if (const std::optional<DensityPlace> place = m_layout.place(relative))
-            m_found.push_back({path, *place});
+        if (isDrawing(extension))
+            return m_kind == SourceKind::Drawings;
+        return m_kind == SourceKind::Pictures && (extension == "png"_L1 || extension == "webp"_L1 || isJpeg(extension));
     }
 
-    QString m_root;
+    /// A file's density may be in its name or in that of its folder.
+    void takeNamed(const QFileInfo &file)
+    {
+        const QString extension = file.suffix().toLower();
+        const QString path = file.absoluteFilePath();
+        const QDir folder = file.absoluteDir();
+        const QString withFolder = folder.dirName() + u'/' + file.fileName();
+        std::optional<DensityPlace> place = placeOf(withFolder, extension);
+        m_root = QFileInfo(folder.path()).path();
+        // The folder's name is of no use where it is the same for all densities.
+        if (const std::optional<DensityPlace> bare = placeOf(file.fileName(), extension);
+            bare && (!place || place->folder == folder.dirName() || isDrawing(extension))) {
+            place = bare;
+            m_root = folder.path();
+        }
+        if (!place)
+            m_plan.failures.push_back({FailureCode::InvalidValue, path, "DETAIL_NO_DENSITY_PLACE"});
+        else
+            take(path, place);
+    }
+
+    std::optional<DensityPlace> placeOf(const QString &relative, const QString &extension) const
+    {
+        return isDrawing(extension) ? m_layout.drawingPlace(relative) : m_layout.place(relative);
+    }
+
+    void take(const QString &path, const std::optional<DensityPlace> &place)
+    {
+        if (!place || m_known.contains(path))
+            return;
+        if (m_found.size() == mostDensityFiles) {
+            m_isFull = true;
+            m_plan.failures.push_back({FailureCode::TooLarge, m_root, "DETAIL_TOO_MANY_PICTURES"});
+            return;
+        }
+        m_known.insert(path);
+        m_found.push_back({path, m_root, *place,
+                           isDrawing(place->extension.toLower()) ? SourceKind::Drawings : SourceKind::Pictures});
+    }
+
     const DensityLayout &m_layout;
+    const SourceKind m_kind;
+    const std::stop_token &m_stop;
+    DensityPlan &m_plan;
+    QString m_root;
     std::vector<FoundPicture> m_found;
+    QSet<QString> m_known;
+    bool m_isFull = false;
 };
 
 /// A picture has the same key in all its densities.
-QString keyOf(const DensityPlace &place)
+QString keyOf(const FoundPicture &picture)
 {
-    return place.folder + u'/' + place.name + u'/' + place.suffix + u'/' + place.extension;
+    const DensityPlace &place = picture.place;
+    return picture.root + u'/' + place.folder + u'/' + place.name + u'/' + place.suffix + u'/' + place.extension;
 }
 
 /// The pictures to scale from: those of the wanted density, or the largest of each picture.
@@ -83,7 +156,7 @@ std::vector<FoundPicture> chosenSources(const std::vector<FoundPicture> &found, 
 {
     std::map<QString, FoundPicture> largest;
     for (const FoundPicture &picture : found) {
-        const auto [place, isNew] = largest.try_emplace(keyOf(picture.place), picture);
+        const auto [place, isNew] = largest.try_emplace(keyOf(picture), picture);
         const bool wanted =
             request.from ? picture.place.density == *request.from : place->second.place.density < picture.place.density;
         if (!isNew && wanted)
@@ -92,18 +165,21 @@ std::vector<FoundPicture> chosenSources(const std::vector<FoundPicture> &found, 
     std::vector<FoundPicture> chosen;
     for (const auto &[key, picture] : largest) {
         const Density &density = picture.place.density;
-        if (request.from ? density == *request.from : picture.place.stated && Density{} < density)
+        if (picture.kind == SourceKind::Drawings)
+            chosen.push_back(picture);
+        else if (request.from ? density == *request.from : picture.place.stated && Density{} < density)
             chosen.push_back(picture);
     }
     std::ranges::sort(chosen, {}, &FoundPicture::path);
     return chosen;
 }
 
-std::vector<Density> wantedDensities(const DensityRequest &request, const Density &from)
+std::vector<Density> wantedDensities(const DensityRequest &request, const FoundPicture &source)
 {
     std::vector<Density> densities;
-    const auto add = [&densities, &from](const Density &density) {
-        if (density < from && std::ranges::find(densities, density) == densities.end())
+    const auto add = [&densities, &source](const Density &density) {
+        const bool isMade = source.kind == SourceKind::Drawings || density < source.place.density;
+        if (isMade && std::ranges::find(densities, density) == densities.end())
             densities.push_back(density);
     };
     if (request.to.empty())
@@ -117,26 +193,37 @@ ScaledFormat formatOf(const DensityRequest &request, const DensityPlace &place)
 {
     if (request.format != ScaledFormat::AsSource)
         return request.format;
-    return place.extension == "webp"_L1 ? ScaledFormat::WebP : ScaledFormat::Png;
+    return place.extension.compare("webp"_L1, Qt::CaseInsensitive) == 0 ? ScaledFormat::WebP : ScaledFormat::Png;
+}
+
+/// The size of a source: in pixels, or of a drawing in points.
+Result<QSize> sourceSize(const FoundPicture &source)
+{
+    if (source.kind == SourceKind::Pictures)
+        return storedPixelSize(source.path);
+    const Result<QByteArray> bytes = readWholeFile(source.path, largestSvgFile);
+    if (!bytes)
+        return bytes.failure();
+    const auto drawing = SvgDrawing::read(bytes.value(), source.path, SvgShape::Any);
+    if (!drawing)
+        return drawing.failure();
+    return drawing.value()->size();
 }
 
 class Planner
 {
 public:
-    Planner(const QString &folder, const DensityRequest &request, DensityPlan &plan)
-        : m_request(request), m_plan(plan), m_root(request.destination.isEmpty() ? folder : request.destination)
-    {
-    }
+    Planner(const DensityRequest &request, DensityPlan &plan) : m_request(request), m_plan(plan) {}
 
     void keepAsSource(const QString &path) { m_sources.insert(fileIdentity(path)); }
 
     void add(const FoundPicture &picture)
     {
-        if (picture.path.endsWith(".9.png"_L1)) {
-            m_plan.failures.push_back({FailureCode::InvalidValue, picture.path, "DETAIL_NINE_PATCH"});
+        if (const FailureDetail reason = refusal(picture); !reason.isEmpty()) {
+            m_plan.failures.push_back({FailureCode::InvalidValue, picture.path, reason});
             return;
         }
-        const Result<QSize> size = storedPixelSize(picture.path);
+        const Result<QSize> size = sourceSize(picture);
         if (!size) {
             m_plan.failures.push_back(size.failure());
             return;
@@ -145,24 +232,39 @@ public:
             m_plan.failures.push_back({FailureCode::TooLarge, picture.path, {}});
             return;
         }
-        PlannedSource source{picture.path, size.value(), picture.place.density, {}};
-        for (const Density &density : wantedDensities(m_request, picture.place.density))
-            addPicture(source, picture.place, density);
+        PlannedSource source{picture.path, size.value(), picture.place.density, picture.kind, {}};
+        for (const Density &density : wantedDensities(m_request, picture))
+            addPicture(source, picture, density);
         if (!source.pictures.empty())
             m_plan.sources.push_back(std::move(source));
     }
 
 private:
-    void addPicture(PlannedSource &source, const DensityPlace &place, const Density &density)
+    FailureDetail refusal(const FoundPicture &picture) const
     {
-        PlannedPicture picture;
-        picture.format = formatOf(m_request, place);
+        if (picture.path.endsWith(".9.png"_L1, Qt::CaseInsensitive))
+            return "DETAIL_NINE_PATCH";
+        if (m_request.format == ScaledFormat::AsSource && isJpeg(picture.place.extension.toLower()))
+            return "DETAIL_JPEG_NEEDS_FORMAT";
+        return {};
+    }
+
+    void addPicture(PlannedSource &source, const FoundPicture &found, const Density &density)
+    {
+        PlannedTarget picture;
+        picture.format = formatOf(m_request, found.place);
         const QString extension = picture.format == ScaledFormat::WebP ? u"webp"_s : u"png"_s;
-        picture.target = m_root + u'/' + m_request.layout->path(place, density, extension);
+        const QString &root = m_request.destination.isEmpty() ? found.root : m_request.destination;
+        picture.target = QDir::cleanPath(root + u'/' + m_request.layout->path(found.place, density, extension));
         picture.density = density;
         const ScaledSize scaled = scaledSize(source.size, source.density, density);
         picture.size = scaled.size;
         picture.rounded = scaled.rounded;
+        if (source.kind == SourceKind::Drawings &&
+            qint64{scaled.size.width()} * scaled.size.height() > SvgDrawing::largestArea) {
+            m_plan.failures.push_back({FailureCode::TooLarge, picture.target, {}});
+            return;
+        }
         const QFileInfo file(picture.target);
         picture.exists = file.exists() || file.isSymLink();
         picture.written = !picture.exists || m_request.existing == ExistingFiles::Replace;
@@ -182,31 +284,37 @@ private:
 
     const DensityRequest &m_request;
     DensityPlan &m_plan;
-    QString m_root;
     QSet<QString> m_sources;
     QHash<QString, QString> m_targets;
 };
 
 } // namespace
 
-DensityPlan planDensities(const QString &folder, const DensityRequest &request)
+qsizetype plannedFiles(const DensityPlan &plan)
+{
+    qsizetype count = 0;
+    for (const PlannedSource &source : plan.sources)
+        count += std::ranges::count_if(source.pictures, &PlannedTarget::written);
+    return count;
+}
+
+DensityPlan planDensities(const QStringList &paths, const DensityRequest &request, const std::stop_token &stop)
 {
     DensityPlan plan;
-    const QFileInfo root(folder);
-    if (!root.exists() || !root.isDir()) {
-        plan.failures.push_back({root.exists() ? FailureCode::NotAFolder : FailureCode::NotFound, folder, {}});
-        return plan;
-    }
-    Search search(root.absoluteFilePath(), *request.layout);
-    search.run(plan);
+    Search search(request, stop, plan);
+    for (const QString &path : paths)
+        search.run(path);
     const std::vector<FoundPicture> sources = chosenSources(search.found(), request);
-    Planner planner(root.absoluteFilePath(), request, plan);
+    Planner planner(request, plan);
     for (const FoundPicture &picture : sources)
         planner.keepAsSource(picture.path);
-    for (const FoundPicture &picture : sources)
+    for (const FoundPicture &picture : sources) {
+        if (stop.stop_requested())
+            break;
         planner.add(picture);
+    }
     if (sources.empty() && plan.failures.empty())
-        plan.failures.push_back({FailureCode::MissingContent, folder, "DETAIL_NO_SCALABLE"});
+        plan.failures.push_back({FailureCode::MissingContent, paths.value(0), "DETAIL_NO_SCALABLE"});
     return plan;
 }
 

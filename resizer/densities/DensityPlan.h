@@ -8,6 +8,7 @@
 #include <QStringList>
 
 #include <optional>
+#include <stop_token>
 #include <vector>
 
 namespace lumora
@@ -18,13 +19,17 @@ enum class ExistingFiles { Keep, Replace };
 
 enum class ScaledFormat { AsSource, Png, WebP };
 
+/// The sources of a run: pictures, or SVG drawings, which all densities are drawn from.
+enum class SourceKind { Pictures, Drawings };
+
 /// The user's request for a run.
 struct DensityRequest
 {
     const DensityLayout *layout = nullptr;
-    /// The density to scale from; if empty, the largest of each picture.
+    SourceKind kind = SourceKind::Pictures;
+    /// The density to scale pictures from; if empty, the largest of each picture.
     std::optional<Density> from;
-    /// The densities to make; empty for the layout's usual ones below the source's.
+    /// The densities to make; empty for the layout's usual ones below the source's. Of a drawing all are made.
     std::vector<Density> to;
     /// The destination folder, in which results get the sub-folders of their sources; empty to put them beside their
     /// sources.
@@ -34,7 +39,7 @@ struct DensityRequest
 };
 
 /// One picture to be written.
-struct PlannedPicture
+struct PlannedTarget
 {
     QString target;
     Density density;
@@ -50,9 +55,11 @@ struct PlannedPicture
 struct PlannedSource
 {
     QString source;
-    QSize size; ///< in pixels, from its header; the batch applies the orientation
-    Density density;
-    std::vector<PlannedPicture> pictures;
+    /// In pixels, from its header; the batch applies the orientation. In points for a drawing.
+    QSize size;
+    Density density; ///< that of `size`
+    SourceKind kind = SourceKind::Pictures;
+    std::vector<PlannedTarget> pictures;
 };
 
 struct DensityPlan
@@ -61,10 +68,18 @@ struct DensityPlan
     std::vector<Failure> failures;      ///< files that are left out, with the reason
 };
 
-/// Searches the folder and all folders in it (not hidden entries and links to folders) for pictures of the layout, and
-/// plans what to make of them; writes nothing. PNG and WebP files are sources. A target is never a source, whatever the
-/// spelling of its path, and two sources never have the same target. Refuses Android's stretchable pictures (.9.png),
-/// since their border marks in whole pixels where to stretch.
-DensityPlan planDensities(const QString &folder, const DensityRequest &request);
+/// The most files that one plan may find.
+inline constexpr std::size_t mostDensityFiles = 20'000;
+
+/// The number of files that the plan writes.
+qsizetype plannedFiles(const DensityPlan &plan);
+
+/// Searches the folders and all folders in them (not hidden entries and links to folders) for pictures of the layout,
+/// takes the files, and plans what to make of them; writes nothing. PNG and WebP files are sources, JPEG files where
+/// another format is wanted, SVG files where drawings are wanted or where they are named themselves. A target is never
+/// a source, whatever the spelling of its path, and two sources never have the same target. Refuses Android's
+/// stretchable pictures (.9.png), since their border marks in whole pixels where to stretch. If it is stopped, the plan
+/// is incomplete.
+DensityPlan planDensities(const QStringList &paths, const DensityRequest &request, const std::stop_token &stop = {});
 
 } // namespace lumora

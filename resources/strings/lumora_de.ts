@@ -2843,8 +2843,8 @@
     <translation>Einen neuen Ordner "placeholders" in DIR anlegen (placeholders_1, wenn es ihn schon gibt)</translation>
   </message>
   <message id="CLI_DOWNSCALE_SOURCE">
-    <source>PNG files marked @2x or -hd, or folders that are searched for such files; with --layout, folders of pictures of the largest density</source>
-    <translation>PNG-Dateien mit @2x oder -hd im Namen oder Ordner, die nach solchen durchsucht werden; mit --layout Ordner mit Bildern der größten Auflösung</translation>
+    <source>PNG files marked @2x or -hd, or folders that are searched for such files; with --layout, pictures of the largest density or folders of them, or SVG drawings</source>
+    <translation>PNG-Dateien mit @2x oder -hd im Namen oder Ordner, die nach solchen durchsucht werden; mit --layout Bilder der größten Auflösung oder Ordner mit ihnen oder SVG-Zeichnungen</translation>
   </message>
   <message id="CLI_DOWNSCALE_OVERWRITE">
     <source>Replace files that are there already, the sources among them</source>
@@ -3815,8 +3815,8 @@
     <translation>Alle fehlenden Auflösungen der Bilder in den Ordnern anlegen, abgelegt wie in Projekten für: [WORDS]; ohne Angabe ios</translation>
   </message>
   <message id="CLI_DOWNSCALE_FROM">
-    <source>Density to scale from, such as 3x or xxxhdpi; the largest of each picture where none is given</source>
-    <translation>Auflösung, von der skaliert wird, etwa 3x oder xxxhdpi; ohne Angabe die größte jedes Bildes</translation>
+    <source>Density to scale from, such as 3x or xxxhdpi, or svg for the drawings in the folders; the largest of each picture where none is given</source>
+    <translation>Auflösung, von der skaliert wird, etwa 3x oder xxxhdpi, oder svg für die Zeichnungen in den Ordnern; ohne Angabe die größte jedes Bildes</translation>
   </message>
   <message id="CLI_DOWNSCALE_TO_SCALES">
     <source>Densities to make, several separated by commas, such as 2x,1x</source>
@@ -3843,8 +3843,8 @@
     <translation>[SCALE] hat in der Ablage [LAYOUT] keinen Platz</translation>
   </message>
   <message id="CLI_DOWNSCALE_SOURCES_ADVICE">
-    <source>use folders of PNG or WebP files that state their density, such as logo@3x.png</source>
-    <translation>Ordner mit PNG- oder WebP-Dateien nehmen, die ihre Auflösung nennen, etwa logo@3x.png</translation>
+    <source>use PNG or WebP files that state their density, such as logo@3x.png, or folders of them</source>
+    <translation>PNG- oder WebP-Dateien nehmen, die ihre Auflösung nennen, etwa logo@3x.png, oder Ordner mit ihnen</translation>
   </message>
   <message id="DETAIL_SVG_ENTITIES">
     <source>it declares entities; save it as plain SVG</source>
@@ -4033,6 +4033,18 @@
   <message id="DETAIL_SAME_FILE">
     <source>[FILE] gives the same file</source>
     <translation>[FILE] ergibt dieselbe Datei</translation>
+  </message>
+  <message id="DETAIL_NO_DENSITY_PLACE">
+    <source>not in a folder such as drawable-xxhdpi</source>
+    <translation>nicht in einem Ordner wie drawable-xxhdpi</translation>
+  </message>
+  <message id="DETAIL_TOO_MANY_PICTURES">
+    <source>more than 20,000 pictures</source>
+    <translation>mehr als 20.000 Bilder</translation>
+  </message>
+  <message id="DETAIL_JPEG_NEEDS_FORMAT">
+    <source>a JPEG picture, for which PNG or WebP must be chosen</source>
+    <translation>ein JPEG-Bild, für das PNG oder WebP gewählt werden muss</translation>
   </message>
   <message id="DETAIL_NO_SCALABLE">
     <source>no picture to scale down from</source>

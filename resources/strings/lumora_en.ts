@@ -2841,8 +2841,8 @@
     <translation>Make a fresh folder "placeholders" in DIR (placeholders_1 where that is taken)</translation>
   </message>
   <message id="CLI_DOWNSCALE_SOURCE">
-    <source>PNG files marked @2x or -hd, or folders that are searched for such files; with --layout, folders of pictures of the largest density</source>
-    <translation>PNG files marked @2x or -hd, or folders that are searched for such files; with --layout, folders of pictures of the largest density</translation>
+    <source>PNG files marked @2x or -hd, or folders that are searched for such files; with --layout, pictures of the largest density or folders of them, or SVG drawings</source>
+    <translation>PNG files marked @2x or -hd, or folders that are searched for such files; with --layout, pictures of the largest density or folders of them, or SVG drawings</translation>
   </message>
   <message id="CLI_DOWNSCALE_OVERWRITE">
     <source>Replace files that are there already, the sources among them</source>
@@ -3813,8 +3813,8 @@
     <translation>Make all missing densities of the pictures in the folders, filed as in projects for: [WORDS]; ios where none is given</translation>
   </message>
   <message id="CLI_DOWNSCALE_FROM">
-    <source>Density to scale from, such as 3x or xxxhdpi; the largest of each picture where none is given</source>
-    <translation>Density to scale from, such as 3x or xxxhdpi; the largest of each picture where none is given</translation>
+    <source>Density to scale from, such as 3x or xxxhdpi, or svg for the drawings in the folders; the largest of each picture where none is given</source>
+    <translation>Density to scale from, such as 3x or xxxhdpi, or svg for the drawings in the folders; the largest of each picture where none is given</translation>
   </message>
   <message id="CLI_DOWNSCALE_TO_SCALES">
     <source>Densities to make, several separated by commas, such as 2x,1x</source>
@@ -3841,8 +3841,8 @@
     <translation>[SCALE] has no place in the layout [LAYOUT]</translation>
   </message>
   <message id="CLI_DOWNSCALE_SOURCES_ADVICE">
-    <source>use folders of PNG or WebP files that state their density, such as logo@3x.png</source>
-    <translation>use folders of PNG or WebP files that state their density, such as logo@3x.png</translation>
+    <source>use PNG or WebP files that state their density, such as logo@3x.png, or folders of them</source>
+    <translation>use PNG or WebP files that state their density, such as logo@3x.png, or folders of them</translation>
   </message>
   <message id="DETAIL_SVG_ENTITIES">
     <source>it declares entities; save it as plain SVG</source>
@@ -4031,6 +4031,18 @@
   <message id="DETAIL_SAME_FILE">
     <source>[FILE] gives the same file</source>
     <translation>[FILE] gives the same file</translation>
+  </message>
+  <message id="DETAIL_NO_DENSITY_PLACE">
+    <source>not in a folder such as drawable-xxhdpi</source>
+    <translation>not in a folder such as drawable-xxhdpi</translation>
+  </message>
+  <message id="DETAIL_TOO_MANY_PICTURES">
+    <source>more than 20,000 pictures</source>
+    <translation>more than 20,000 pictures</translation>
+  </message>
+  <message id="DETAIL_JPEG_NEEDS_FORMAT">
+    <source>a JPEG picture, for which PNG or WebP must be chosen</source>
+    <translation>a JPEG picture, for which PNG or WebP must be chosen</translation>
   </message>
   <message id="DETAIL_NO_SCALABLE">
     <source>no picture to scale down from</source>

@@ -75,7 +75,128 @@ private slots:
         QFETCH(QStringList, files);
         for (const QString &file : files)
             put(file, {60, 30});
-        QTEST(described(planDensities(m_folder->path(), requestFor(layout))), "targets");
+        QTEST(described(planDensities({m_folder->path()}, requestFor(layout))), "targets");
+    }
+
+    void drawingsAreDrawnInEveryDensity_data()
+    {
+        QTest::addColumn<QString>("layout");
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<QStringList>("targets");
+        QTest::newRow("ios") << u"ios"_s << u"art/a.svg"_s
+                             << QStringList{u"art/a@3x.png 72x36"_s, u"art/a@2x.png 48x24"_s, u"art/a.png 24x12"_s};
+        QTest::newRow("a stated density")
+            << u"ios"_s << u"a@2x.svg"_s << QStringList{u"a@3x.png 36x18"_s, u"a@2x.png 24x12"_s, u"a.png 12x6"_s};
+        QTest::newRow("android, anywhere")
+            << u"android"_s << u"art/a.svg"_s
+            << QStringList{u"art/drawable-xxxhdpi/a.png 96x48"_s, u"art/drawable-xxhdpi/a.png 72x36"_s,
+                           u"art/drawable-xhdpi/a.png 48x24"_s, u"art/drawable-hdpi/a.png 36x18"_s,
+                           u"art/drawable-mdpi/a.png 24x12"_s};
+        QTest::newRow("android, anydpi") << u"android"_s << u"res/mipmap-night-anydpi-v26/a.svg"_s
+                                         << QStringList{u"res/mipmap-night-xxxhdpi/a.png 96x48"_s,
+                                                        u"res/mipmap-night-xxhdpi/a.png 72x36"_s,
+                                                        u"res/mipmap-night-xhdpi/a.png 48x24"_s,
+                                                        u"res/mipmap-night-hdpi/a.png 36x18"_s,
+                                                        u"res/mipmap-night-mdpi/a.png 24x12"_s};
+        QTest::newRow("flutter") << u"flutter"_s << u"assets/a.SVG"_s
+                                 << QStringList{u"assets/4.0x/a.png 96x48"_s, u"assets/3.0x/a.png 72x36"_s,
+                                                u"assets/2.0x/a.png 48x24"_s, u"assets/a.png 24x12"_s};
+    }
+    void drawingsAreDrawnInEveryDensity()
+    {
+        QFETCH(QString, layout);
+        QFETCH(QString, file);
+        QFETCH(QStringList, targets);
+        putDrawing(file);
+        DensityRequest request = requestFor(layout);
+        // In a folder they may be there for other reasons.
+        QCOMPARE(described(planDensities({m_folder->path()}, request)),
+                 QStringList{u"no picture to scale down from"_s});
+        request.kind = SourceKind::Drawings;
+        const DensityPlan plan = planDensities({m_folder->path()}, request);
+        QCOMPARE(described(plan), targets);
+        scaleDensities(plan, {}, [](auto, const auto &) { return true; });
+        for (const PlannedTarget &picture : plan.sources.at(0).pictures) {
+            const Result<QImage> drawn = readPicture(picture.target);
+            QVERIFY(drawn.ok());
+            QCOMPARE(drawn.value().size(), picture.size);
+            const QRect left(0, 0, picture.size.width() / 2, picture.size.height());
+            QVERIFY(near(drawn.value().pixel(left.center()), qRgb(255, 0, 0), 0));
+            QCOMPARE(qAlpha(drawn.value().pixel(picture.size.width() - 1, 0)), 0);
+        }
+    }
+
+    void aBadDrawingIsLeftOut_data()
+    {
+        QTest::addColumn<QByteArray>("file");
+        QTest::newRow("no drawing") << QByteArray("nothing");
+        QTest::newRow("text") << QByteArray(
+            "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'><text/></svg>");
+        QTest::newRow("from elsewhere") << QByteArray("<svg xmlns='http://www.w3.org/2000/svg' width='9' "
+                                                      "height='9'><image href='http://a.example/a.png'/></svg>");
+        QTest::newRow("far too large in every density")
+            << QByteArray("<svg xmlns='http://www.w3.org/2000/svg' width='9000' height='9000'/>");
+    }
+    void aBadDrawingIsLeftOut()
+    {
+        QFETCH(QByteArray, file);
+        QVERIFY(writeWholeFile(path(u"a.svg"_s), file).ok());
+        const DensityPlan plan = planDensities({path(u"a.svg"_s)}, requestFor(u"ios"_s));
+        QVERIFY(plan.sources.empty());
+        QVERIFY(!plan.failures.empty());
+    }
+
+    void filesMayBeNamedThemselves_data()
+    {
+        QTest::addColumn<QString>("layout");
+        QTest::addColumn<QStringList>("paths");
+        QTest::addColumn<QStringList>("targets");
+        QTest::newRow("ios") << u"ios"_s << QStringList{u"art/a@3x.png"_s}
+                             << QStringList{u"art/a@2x.png 40x20"_s, u"art/a.png 20x10"_s};
+        QTest::newRow("with its folder") << u"ios"_s << QStringList{u"art/a@3x.png"_s, u"art"_s, u"art/a@3x.png"_s}
+                                         << QStringList{u"art/a@2x.png 40x20"_s, u"art/a.png 20x10"_s};
+        QTest::newRow("flutter") << u"flutter"_s << QStringList{u"3.0x/b.png"_s}
+                                 << QStringList{u"2.0x/b.png 40x20"_s, u"b.png 20x10"_s};
+        QTest::newRow("android") << u"android"_s << QStringList{u"drawable-xhdpi/c.png"_s}
+                                 << QStringList{u"drawable-hdpi/c.png 45x23 rounded"_s, u"drawable-mdpi/c.png 30x15"_s};
+        QTest::newRow("android, elsewhere") << u"android"_s << QStringList{u"art/a@3x.png"_s}
+                                            << QStringList{u"not in a folder such as drawable-xxhdpi"_s};
+        QTest::newRow("a drawing") << u"web"_s << QStringList{u"art/d.svg"_s}
+                                   << QStringList{u"art/d@3x.png 72x36"_s, u"art/d@2x.png 48x24"_s,
+                                                  u"art/d.png 24x12"_s};
+        QTest::newRow("nothing there") << u"ios"_s << QStringList{u"none@3x.png"_s} << QStringList{QString()};
+    }
+    void filesMayBeNamedThemselves()
+    {
+        QFETCH(QString, layout);
+        QFETCH(QStringList, paths);
+        for (const QString &file : {u"art/a@3x.png"_s, u"3.0x/b.png"_s, u"drawable-xhdpi/c.png"_s})
+            put(file, {60, 30});
+        putDrawing(u"art/d.svg"_s);
+        for (QString &one : paths)
+            one = path(one);
+        QTEST(described(planDensities(paths, requestFor(layout))), "targets");
+    }
+
+    void aJpegFileNeedsAnotherFormat()
+    {
+        QVERIFY(writeWholeFile(path(u"a@2x.JPG"_s), pictureFile(quarters(40, 20), "jpeg")).ok());
+        DensityRequest request = requestFor(u"ios"_s);
+        QCOMPARE(described(planDensities({m_folder->path()}, request)),
+                 QStringList{u"a JPEG picture, for which PNG or WebP must be chosen"_s});
+        request.format = ScaledFormat::WebP;
+        const DensityPlan plan = planDensities({m_folder->path()}, request);
+        QCOMPARE(described(plan), QStringList{u"a.webp 20x10"_s});
+        scaleDensities(plan, {}, [](auto, const auto &) { return true; });
+        QCOMPARE(QImage(path(u"a.webp"_s)).size(), QSize(20, 10));
+    }
+
+    void aStoppedPlanIsIncomplete()
+    {
+        put(u"a@3x.png"_s, {60, 30});
+        std::stop_source stop;
+        stop.request_stop();
+        QVERIFY(planDensities({m_folder->path()}, requestFor(u"ios"_s), stop.get_token()).sources.empty());
     }
 
     void theWantedDensitiesAreMade()
@@ -85,7 +206,7 @@ private slots:
         DensityRequest request = requestFor(u"react-native"_s);
         request.from = densityNamed(u"4x");
         request.to = {*densityNamed(u"1.5x"), *densityNamed(u"4x"), *densityNamed(u"1.5x")};
-        QCOMPARE(described(planDensities(m_folder->path(), request)), QStringList{u"a@1.5x.png 30x15"_s});
+        QCOMPARE(described(planDensities({m_folder->path()}, request)), QStringList{u"a@1.5x.png 30x15"_s});
     }
 
     void whatIsPlannedIsWritten()
@@ -93,7 +214,7 @@ private slots:
         put(u"a@3x.png"_s, {91, 62});
         put(u"sub/b@3x.png"_s, {30, 30});
         DensityRequest request = requestFor(u"ios"_s);
-        const DensityPlan plan = planDensities(m_folder->path(), request);
+        const DensityPlan plan = planDensities({m_folder->path()}, request);
         QCOMPARE(filesBelow(), 2);
         QStringList written;
         scaleDensities(plan, {}, [&](qsizetype index, const std::vector<ScaledFile> &files) {
@@ -109,8 +230,8 @@ private slots:
         });
         QCOMPARE(written, (QStringList{u"a@2x.png"_s, u"a.png"_s, u"sub/b@2x.png"_s, u"sub/b.png"_s}));
         // A second plan has nothing left to do.
-        const DensityPlan again = planDensities(m_folder->path(), request);
-        QVERIFY(std::ranges::none_of(again.sources[0].pictures, &PlannedPicture::written));
+        const DensityPlan again = planDensities({m_folder->path()}, request);
+        QVERIFY(std::ranges::none_of(again.sources[0].pictures, &PlannedTarget::written));
         QVERIFY(!m_failed);
     }
 
@@ -120,10 +241,10 @@ private slots:
         put(u"a.png"_s, {7, 7});
         const QByteArray before = content(u"a.png"_s);
         DensityRequest request = requestFor(u"ios"_s);
-        scaleDensities(planDensities(m_folder->path(), request), {}, [](auto, const auto &) { return true; });
+        scaleDensities(planDensities({m_folder->path()}, request), {}, [](auto, const auto &) { return true; });
         QCOMPARE(content(u"a.png"_s), before);
         request.existing = ExistingFiles::Replace;
-        const DensityPlan plan = planDensities(m_folder->path(), request);
+        const DensityPlan plan = planDensities({m_folder->path()}, request);
         // The options count as well, so that an old plan does no harm.
         Outcome outcome = Done{};
         scaleDensities(plan, {}, [&](auto, const std::vector<ScaledFile> &files) {
@@ -144,7 +265,7 @@ private slots:
         DensityRequest request = requestFor(u"ios"_s);
         request.from = densityNamed(u"3x");
         request.existing = ExistingFiles::Replace;
-        const DensityPlan plan = planDensities(m_folder->path(), request);
+        const DensityPlan plan = planDensities({m_folder->path()}, request);
         QCOMPARE(plan.failures.size(), std::size_t{1});
         QCOMPARE(plan.failures[0].code, FailureCode::WouldReplaceSource);
         scaleDensities(plan, {{}, ExistingFiles::Replace}, [](auto, const auto &) { return true; });
@@ -157,11 +278,11 @@ private slots:
         putWebP(u"a@3x.webp"_s, {60, 30});
         DensityRequest request = requestFor(u"ios"_s);
         request.format = ScaledFormat::Png;
-        const DensityPlan plan = planDensities(m_folder->path(), request);
+        const DensityPlan plan = planDensities({m_folder->path()}, request);
         QCOMPARE(plan.failures.size(), std::size_t{2});
         QVERIFY(plan.failures[0].detail.words().endsWith(u"a@3x.png gives the same file"_s));
         request.format = ScaledFormat::AsSource;
-        QCOMPARE(described(planDensities(m_folder->path(), request)),
+        QCOMPARE(described(planDensities({m_folder->path()}, request)),
                  (QStringList{u"a@2x.png 40x20"_s, u"a.png 20x10"_s, u"a@2x.webp 40x20"_s, u"a.webp 20x10"_s}));
     }
 
@@ -173,7 +294,7 @@ private slots:
         request.destination = other.path();
         request.format = ScaledFormat::WebP;
         request.to = {*densityNamed(u"mdpi")};
-        scaleDensities(planDensities(m_folder->path(), request), {80, ExistingFiles::Keep},
+        scaleDensities(planDensities({m_folder->path()}, request), {80, ExistingFiles::Keep},
                        [](auto, const auto &) { return true; });
         QCOMPARE(QImage(other.path() + u"/res/drawable-mdpi/a.webp"_s).size(), QSize(16, 16));
         QCOMPARE(filesBelow(), 1);
@@ -184,7 +305,7 @@ private slots:
         put(u"b@3x.png"_s, {60, 30});
         QVERIFY(writeWholeFile(path(u"a@3x.png"_s), "no picture").ok());
         QVERIFY(writeWholeFile(path(u"c@3x.png"_s), content(u"b@3x.png"_s).chopped(30)).ok());
-        const DensityPlan plan = planDensities(m_folder->path(), requestFor(u"ios"_s));
+        const DensityPlan plan = planDensities({m_folder->path()}, requestFor(u"ios"_s));
         QCOMPARE(plan.failures.size(), std::size_t{1});
         int failed = 0;
         scaleDensities(plan, {}, [&failed](auto, const std::vector<ScaledFile> &files) {
@@ -205,7 +326,7 @@ private slots:
                     .ok());
         DensityRequest request = requestFor(u"ios"_s);
         request.format = ScaledFormat::Png;
-        scaleDensities(planDensities(m_folder->path(), request), {}, [](auto, const auto &) { return true; });
+        scaleDensities(planDensities({m_folder->path()}, request), {}, [](auto, const auto &) { return true; });
         QCOMPARE(QImage(path(u"a.png"_s)).size(), QSize(10, 20));
     }
 
@@ -217,7 +338,7 @@ private slots:
             put(u"p%1@3x.png"_s.arg(number, 4, 10, QLatin1Char('0')), {30, 30});
         qsizetype calls = 0;
         int reported = 0;
-        scaleDensities(planDensities(m_folder->path(), requestFor(u"ios"_s)), {},
+        scaleDensities(planDensities({m_folder->path()}, requestFor(u"ios"_s)), {},
                        [&](qsizetype, const std::vector<ScaledFile> &files) {
                            reported += static_cast<int>(files.size());
                            return ++calls < 3;
@@ -237,6 +358,14 @@ private:
         QVERIFY(QDir().mkpath(QFileInfo(path(name)).path()));
         QVERIFY(putFlatPng(path(name), size, QColor(10, 20, 200)));
     }
+    /// Its left half is red, the other empty.
+    void putDrawing(const QString &name)
+    {
+        QVERIFY(QDir().mkpath(QFileInfo(path(name)).path()));
+        QVERIFY(writeWholeFile(path(name), "<svg xmlns='http://www.w3.org/2000/svg' width='24' height='12'>"
+                                           "<path d='M0 0h12v12h-12z' fill='#f00'/></svg>")
+                    .ok());
+    }
     void putWebP(const QString &name, QSize size)
     {
         QVERIFY(writeWholeFile(path(name), pictureFile(quarters(size.width(), size.height()), "webp")).ok());
@@ -255,7 +384,7 @@ private:
     {
         QStringList lines;
         for (const PlannedSource &source : plan.sources) {
-            for (const PlannedPicture &picture : source.pictures) {
+            for (const PlannedTarget &picture : source.pictures) {
                 QString line = relative(picture.target);
                 if (picture.written)
                     line += u" %1x%2"_s.arg(picture.size.width()).arg(picture.size.height());
