@@ -6,6 +6,8 @@
 #include "RetinaPicture.h"
 #include "foundation/Log.h"
 #include "pictures/PictureReader.h"
+#include "resizer/today/TodayResizerPane.h"
+#include "resizer/today/TodayScaling.h"
 #include "tool/DropHighlight.h"
 #include "tool/FailureText.h"
 #include "tool/style/ButtonStyle.h"
@@ -72,6 +74,7 @@ ResizerViewController::ResizerViewController(const Services &services, QObject *
     m_reading = new FileReading(services.fileReader, this);
     readyForUse();
     setUpResult(m_ui->resultView, palette::resizer, palette::resizerBorder);
+    setUpToday();
     createPopup();
 }
 
@@ -100,10 +103,34 @@ void ResizerViewController::setUpAppearance()
     m_ui->alertLabel->setText(qtTrId("RESIZER_DONE"));
 }
 
+void ResizerViewController::setUpToday()
+{
+    m_today = new TodayScaling(services(), this);
+    connect(m_today, &TodayScaling::jobEnded, this, &ResizerViewController::jobEnded);
+    addToday([this](QWidget *pane) {
+        QWidget *today = m_today->makePane(pane);
+        m_today->pane()->dropView()->setDelegate(this);
+        setUpResult(m_today->pane()->resultView(), palette::resizer, palette::resizerBorder);
+        return today;
+    });
+    // A drop elsewhere in the window goes to the classic view, also while the side of today covers it.
+    connect(sides(), &PaneSides::shown, this,
+            [this](ToolSide side) { m_ui->dropView->setTakesWhileHidden(side == ToolSide::Today); });
+}
+
+bool ResizerViewController::isToday() const
+{
+    return sides()->side() == ToolSide::Today && m_today->pane() != nullptr;
+}
+
 // Taking files
 
 void ResizerViewController::dropViewReceivedFiles(const QStringList &files)
 {
+    if (isToday()) {
+        m_today->take(files);
+        return;
+    }
     m_sourceImages.clear();
     std::vector<PlannedPicture> plan;
     for (const QString &path : files) {
@@ -152,15 +179,17 @@ void ResizerViewController::lookAt(qsizetype index)
 
 void ResizerViewController::browseButtonPressed()
 {
+    if (isToday())
+        m_today->chooseFiles();
     // The shortcut also works while the button is hidden.
-    if (!isWorking())
+    else if (!isWorking())
         openBrowsePanel();
 }
 
 void ResizerViewController::paste()
 {
     const QStringList files = services().clipboard.files();
-    if (!isWorking() && !files.isEmpty())
+    if ((isToday() || !isWorking()) && !files.isEmpty())
         dropViewReceivedFiles(files);
 }
 

@@ -22,6 +22,8 @@ class ResizerViewController;
 namespace lumora
 {
 
+class TodayScaling;
+
 /// The retina down-scaler: takes double-resolution PNG files, writes their halves into a folder, and shows the progress
 /// and the end.
 class ResizerViewController final : public ToolViewController, public DropViewDelegate
@@ -51,8 +53,12 @@ public:
     bool takesFiles() const override { return true; }
     void browseButtonPressed() override;
     void paste() override;
+    /// The side of today; its pane is null until it is seen first.
+    TodayScaling *today() const { return m_today; }
 
 private:
+    void setUpToday();
+    bool isToday() const;
     void setUpAppearance();
     void openBrowsePanel();
     void openChooseDestination();
@@ -86,6 +92,7 @@ private:
     QString m_browsePath;
     QTimer m_ready;
     FileReading *m_reading = nullptr;
+    TodayScaling *m_today = nullptr;
     std::stop_source m_cancel; ///< of the running batch
     BackgroundJobs m_jobs;     ///< last, so that it waits for running jobs before other members are destroyed
 };

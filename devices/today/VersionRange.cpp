@@ -3,6 +3,7 @@
 
 #include "ModelChoices.h"
 #include "tool/style/LabelStyle.h"
+#include "tool/style/SliderStyle.h"
 #include "widgets/style/Fonts.h"
 #include "widgets/style/Palette.h"
 
@@ -21,16 +22,6 @@ namespace
 
 constexpr int titleSize = 15;
 constexpr int shareSize = 13;
-constexpr int sliderHeight = 24;
-
-QString sliderStyle()
-{
-    return uR"(
-        QSlider::groove:horizontal { height: 4px; border-radius: 2px; background: %1; }
-        QSlider::handle:horizontal { width: 16px; margin: -6px 0; border-radius: 8px; background: %2; }
-        QSlider::handle:horizontal:focus { border: 2px solid %3; width: 12px; }
-    )"_s.arg(palette::panelOutline.name(), palette::devices.name(), palette::focusRing.name());
-}
 
 } // namespace
 
@@ -69,8 +60,7 @@ QSlider *VersionRange::makeSlider(const QString &name, int value)
     slider->setRange(0, static_cast<int>(m_versions.size()) - 1);
     slider->setPageStep(3);
     slider->setValue(value);
-    slider->setFixedHeight(sliderHeight);
-    slider->setStyleSheet(sliderStyle());
+    styleSlider(slider, palette::devices);
     return slider;
 }
 

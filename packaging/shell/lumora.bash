@@ -57,8 +57,8 @@ _lumora_values() {
     placeholders:--format) echo "png webp svg" ;;
     downscale:--format) echo "png webp" ;;
     downscale:--layout) echo "ios android flutter react-native web" ;;
-    downscale:--from) echo "1.5x 2x 3x 4x hdpi xhdpi xxhdpi xxxhdpi" ;;
-    downscale:--to-scales) echo "list:1x 1.5x 2x 3x ldpi mdpi tvdpi hdpi xhdpi xxhdpi" ;;
+    downscale:--from) echo "1.5x 2x 3x 4x hdpi xhdpi xxhdpi xxxhdpi svg" ;;
+    downscale:--to-scales) echo "list:1x 1.5x 2x 3x 4x ldpi mdpi tvdpi hdpi xhdpi xxhdpi xxxhdpi" ;;
     color:--form)
       echo "list:swiftui uikit-swift uikit-objc appkit-swift appkit-objc colorset compose flutter android-xml kotlin" \
         "css-hex css-rgb css-hsl css-hwb css-oklch css-p3 maui tailwind qml"

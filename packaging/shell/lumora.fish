@@ -70,7 +70,7 @@ complete -c lumora -n '__fish_seen_subcommand_from downscale resizer' -a '(__lum
 complete -c lumora -n '__fish_seen_subcommand_from downscale resizer' -l dry-run -d 'Write nothing'
 complete -c lumora -n '__fish_seen_subcommand_from downscale resizer' -l overwrite -d 'Replace what exists'
 complete -c lumora -n '__fish_seen_subcommand_from downscale resizer' -l layout -x -a 'ios android flutter react-native web' -d 'Make every density'
-complete -c lumora -n '__fish_seen_subcommand_from downscale resizer' -l from -x -a '2x 3x 4x xxxhdpi' -d 'Density to scale from'
+complete -c lumora -n '__fish_seen_subcommand_from downscale resizer' -l from -x -a '2x 3x 4x xxxhdpi svg' -d 'Density to scale from'
 complete -c lumora -n '__fish_seen_subcommand_from downscale resizer' -l to-scales -x -a '(__fish_append , 1x 1.5x 2x 3x mdpi hdpi xhdpi xxhdpi)' -d 'Densities to make'
 complete -c lumora -n '__fish_seen_subcommand_from downscale resizer' -l format -x -a 'png webp' -d 'File type'
 complete -c lumora -n '__fish_seen_subcommand_from color' -l as -x -a 'hex ios mac rgb css all' -d 'Notation'

@@ -57,6 +57,13 @@ QString densityText(const Density &density)
     return found == densities.end() ? QString::number(density.factor()) + u'x' : QString(found->name);
 }
 
+QString bucketText(const Density &density)
+{
+    const auto *found =
+        std::ranges::find_if(densities, [&density](const NamedDensity &one) { return one.density == density; });
+    return found == densities.end() ? QString() : QString(found->bucket);
+}
+
 ScaledSize scaledSize(QSize pixels, const Density &from, const Density &to)
 {
     const auto [width, widthRounded] = scaledEdge(pixels.width(), from, to);

@@ -31,6 +31,9 @@ std::optional<Density> densityNamed(QStringView text);
 /// "3x", "1.5x".
 QString densityText(const Density &density);
 
+/// The density's Android bucket, "xxhdpi"; empty for one that has none.
+QString bucketText(const Density &density);
+
 /// A size after a change of density.
 struct ScaledSize
 {

@@ -10,6 +10,7 @@
 #include "pictures/svg/SvgInspection.h"
 #include "pictures/webp/WebPEncoder.h"
 #include "resizer/MemoryBudget.h"
+#include "resizer/StoppableRead.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -89,8 +90,12 @@ private:
     Outcome scaleInto(std::vector<ScaledFile> &files) const
     {
         const bool isDrawing = m_source.kind == SourceKind::Drawings;
-        const Result<QByteArray> content =
-            readWholeFile(m_source.source, isDrawing ? largestSvgFile : largestPictureFile);
+        const qint64 limit = isDrawing ? largestSvgFile : largestPictureFile;
+        const auto read = [limit](const QString &path) { return readWholeFile(path, limit); };
+        const auto answer = readUnlessStopped(read, m_source.source, m_options.stop);
+        if (!answer)
+            return Failure{FailureCode::Stopped, m_source.source, {}};
+        const Result<QByteArray> &content = *answer;
         if (isDrawing && content)
             return drawInto(files, content.value());
         const Result<QImage> picture =

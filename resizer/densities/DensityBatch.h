@@ -13,6 +13,8 @@ struct DensityBatchOptions
 {
     std::optional<int> webpQuality;
     ExistingFiles existing = ExistingFiles::Keep;
+    /// Ends the wait for a source that does not answer; such sources fail with `Stopped`. Not the batch itself.
+    std::stop_token stop = {};
 };
 
 /// The result of one planned picture.

@@ -95,16 +95,8 @@ std::optional<DensityPlace> androidDrawingPlace(const QString &path)
 
 QString androidPath(const DensityPlace &place, const Density &density, const QString &extension)
 {
-    static constexpr std::array<std::pair<Density, QLatin1StringView>, 7> buckets{{{{3, 4}, "ldpi"_L1},
-                                                                                   {{1, 1}, "mdpi"_L1},
-                                                                                   {{4, 3}, "tvdpi"_L1},
-                                                                                   {{3, 2}, "hdpi"_L1},
-                                                                                   {{2, 1}, "xhdpi"_L1},
-                                                                                   {{3, 1}, "xxhdpi"_L1},
-                                                                                   {{4, 1}, "xxxhdpi"_L1}}};
-    const auto *bucket = std::ranges::find_if(buckets, [&density](const auto &one) { return one.first == density; });
     QString folder = place.folder;
-    folder.replace(bucketPlace, bucket->second);
+    folder.replace(bucketPlace, bucketText(density));
     return joined(folder, place.name + u'.' + extension);
 }
 

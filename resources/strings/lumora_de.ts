@@ -937,6 +937,205 @@
     <source>Left out: [REASON]</source>
     <translation>Ausgelassen: [REASON]</translation>
   </message>
+
+  <!-- The down-scaler's side of today -->
+  <message id="SCALER_LAYOUT">
+    <source>Project</source>
+    <translation>Projekt</translation>
+  </message>
+  <message id="SCALER_IOS">
+    <source>iOS and macOS (name@3x.png)</source>
+    <translation>iOS und macOS (name@3x.png)</translation>
+  </message>
+  <message id="SCALER_ANDROID">
+    <source>Android (drawable-xxhdpi)</source>
+    <translation>Android (drawable-xxhdpi)</translation>
+  </message>
+  <message id="SCALER_FLUTTER">
+    <source>Flutter (3.0x/name.png)</source>
+    <translation>Flutter (3.0x/name.png)</translation>
+  </message>
+  <message id="SCALER_REACT_NATIVE">
+    <source>React Native (name@3x.png)</source>
+    <translation>React Native (name@3x.png)</translation>
+  </message>
+  <message id="SCALER_WEB">
+    <source>Web (name@3x.png)</source>
+    <translation>Web (name@3x.png)</translation>
+  </message>
+  <message id="SCALER_FROM">
+    <source>From</source>
+    <translation>Von</translation>
+  </message>
+  <message id="SCALER_FROM_LARGEST">
+    <source>The largest of each picture</source>
+    <translation>Größte jedes Bildes</translation>
+  </message>
+  <message id="SCALER_FROM_SVG">
+    <source>SVG drawings</source>
+    <translation>SVG-Zeichnungen</translation>
+  </message>
+  <message id="SCALER_TO">
+    <source>To</source>
+    <translation>Nach</translation>
+  </message>
+  <message id="SCALER_FORMAT">
+    <source>Format</source>
+    <translation>Format</translation>
+  </message>
+  <message id="SCALER_FORMAT_SOURCE">
+    <source>As the source</source>
+    <translation>Wie die Quelle</translation>
+  </message>
+  <message id="SCALER_FORMAT_LOSSLESS">
+    <source>WebP, lossless</source>
+    <translation>WebP, verlustfrei</translation>
+  </message>
+  <message id="SCALER_FORMAT_LOSSY">
+    <source>WebP, smaller</source>
+    <translation>WebP, kleiner</translation>
+  </message>
+  <message id="SCALER_QUALITY">
+    <source>Quality: [QUALITY] of 100</source>
+    <translation>Qualität: [QUALITY] von 100</translation>
+  </message>
+  <message id="SCALER_QUALITY_NAME">
+    <source>Quality</source>
+    <translation>Qualität</translation>
+  </message>
+  <message id="SCALER_PLACE">
+    <source>Place</source>
+    <translation>Ablage</translation>
+  </message>
+  <message id="SCALER_BESIDE">
+    <source>Beside the sources</source>
+    <translation>Neben den Quellen</translation>
+  </message>
+  <message id="SCALER_OTHER_FOLDER">
+    <source>Other folder…</source>
+    <translation>Anderer Ordner …</translation>
+  </message>
+  <message id="SCALER_BACK_BESIDE">
+    <source>Beside the sources</source>
+    <translation>Neben die Quellen</translation>
+  </message>
+  <message id="SCALER_REPLACE">
+    <source>Replace existing files</source>
+    <translation>Vorhandene ersetzen</translation>
+  </message>
+  <message id="SCALER_REPLACE_TIP">
+    <source>Replaces files that exist, but never a source</source>
+    <translation>Ersetzt vorhandene Dateien, aber nie eine Quelle</translation>
+  </message>
+  <message id="SCALER_DROP">
+    <source>Drop pictures, SVG drawings or whole folders here</source>
+    <translation>Bilder, SVG-Zeichnungen oder ganze Ordner hier ablegen</translation>
+  </message>
+  <message id="SCALER_DROP_NAME">
+    <source>Area for pictures, drawings and folders</source>
+    <translation>Fläche für Bilder, Zeichnungen und Ordner</translation>
+  </message>
+  <message id="SCALER_FILES_BUTTON">
+    <source>Pictures…</source>
+    <translation>Bilder …</translation>
+  </message>
+  <message id="SCALER_FOLDER_BUTTON">
+    <source>Folder…</source>
+    <translation>Ordner …</translation>
+  </message>
+  <message id="SCALER_WRITE">
+    <source>Write the files</source>
+    <translation>Dateien schreiben</translation>
+  </message>
+  <message id="SCALER_FILES_TITLE">
+    <source>Choose pictures of the largest density, or drawings</source>
+    <translation>Bilder der größten Auflösung oder Zeichnungen wählen</translation>
+  </message>
+  <message id="SCALER_FOLDER_TITLE">
+    <source>Choose the folder with the pictures</source>
+    <translation>Ordner mit den Bildern wählen</translation>
+  </message>
+  <message id="SCALER_FILTER">
+    <source>Pictures and drawings</source>
+    <translation>Bilder und Zeichnungen</translation>
+  </message>
+  <message id="SCALER_NO_DENSITY">
+    <source>Tick at least one density</source>
+    <translation>Mindestens eine Auflösung ankreuzen</translation>
+  </message>
+  <message id="SCALER_READING">
+    <source>Reading…</source>
+    <translation>Wird gelesen …</translation>
+  </message>
+  <message id="SCALER_PLAN">
+    <source>Planned files</source>
+    <translation>Geplante Dateien</translation>
+  </message>
+  <message id="SCALER_PLAN_FILE">
+    <source>File</source>
+    <translation>Datei</translation>
+  </message>
+  <message id="SCALER_PLAN_SIZE">
+    <source>Size</source>
+    <translation>Größe</translation>
+  </message>
+  <message id="SCALER_PLAN_NOTE">
+    <source>Note</source>
+    <translation>Hinweis</translation>
+  </message>
+  <message id="SCALER_DRAWING">
+    <source>drawing</source>
+    <translation>Zeichnung</translation>
+  </message>
+  <message id="SCALER_ROUNDED">
+    <source>rounded to whole pixels</source>
+    <translation>auf ganze Pixel gerundet</translation>
+  </message>
+  <message id="SCALER_REPLACES">
+    <source>exists, is replaced</source>
+    <translation>vorhanden, wird ersetzt</translation>
+  </message>
+  <message id="SCALER_KEPT">
+    <source>exists, is kept</source>
+    <translation>vorhanden, bleibt</translation>
+  </message>
+  <message id="SCALER_LEFT_OUT">
+    <source>left out: [REASON]</source>
+    <translation>ausgelassen: [REASON]</translation>
+  </message>
+  <message id="SCALER_MORE">
+    <source>[COUNT] more</source>
+    <translation>[COUNT] weitere</translation>
+  </message>
+  <message id="SCALER_ONE_FILE">
+    <source>1 file to write</source>
+    <translation>1 Datei</translation>
+  </message>
+  <message id="SCALER_FILES">
+    <source>[COUNT] files to write</source>
+    <translation>[COUNT] Dateien</translation>
+  </message>
+  <message id="SCALER_SUM_KEPT">
+    <source>[COUNT] kept</source>
+    <translation>[COUNT] erhalten</translation>
+  </message>
+  <message id="SCALER_SUM_REPLACED">
+    <source>[COUNT] replaced</source>
+    <translation>[COUNT] ersetzt</translation>
+  </message>
+  <message id="SCALER_SUM_ROUNDED">
+    <source>[COUNT] rounded</source>
+    <translation>[COUNT] gerundet</translation>
+  </message>
+  <message id="SCALER_SUM_LEFT">
+    <source>[COUNT] left out</source>
+    <translation>[COUNT] ausgelassen</translation>
+  </message>
+  <message id="SCALER_PROGRESS">
+    <source>[DONE] of [COUNT]</source>
+    <translation>[DONE] von [COUNT]</translation>
+  </message>
+
   <message id="RESIZER_REPLACED">
     <source>overwritten by [NAME]</source>
     <translation>wird von [NAME] überschrieben</translation>

@@ -935,6 +935,205 @@
     <source>Left out: [REASON]</source>
     <translation>Left out: [REASON]</translation>
   </message>
+
+  <!-- The down-scaler's side of today -->
+  <message id="SCALER_LAYOUT">
+    <source>Project</source>
+    <translation>Project</translation>
+  </message>
+  <message id="SCALER_IOS">
+    <source>iOS and macOS (name@3x.png)</source>
+    <translation>iOS and macOS (name@3x.png)</translation>
+  </message>
+  <message id="SCALER_ANDROID">
+    <source>Android (drawable-xxhdpi)</source>
+    <translation>Android (drawable-xxhdpi)</translation>
+  </message>
+  <message id="SCALER_FLUTTER">
+    <source>Flutter (3.0x/name.png)</source>
+    <translation>Flutter (3.0x/name.png)</translation>
+  </message>
+  <message id="SCALER_REACT_NATIVE">
+    <source>React Native (name@3x.png)</source>
+    <translation>React Native (name@3x.png)</translation>
+  </message>
+  <message id="SCALER_WEB">
+    <source>Web (name@3x.png)</source>
+    <translation>Web (name@3x.png)</translation>
+  </message>
+  <message id="SCALER_FROM">
+    <source>From</source>
+    <translation>From</translation>
+  </message>
+  <message id="SCALER_FROM_LARGEST">
+    <source>The largest of each picture</source>
+    <translation>The largest of each picture</translation>
+  </message>
+  <message id="SCALER_FROM_SVG">
+    <source>SVG drawings</source>
+    <translation>SVG drawings</translation>
+  </message>
+  <message id="SCALER_TO">
+    <source>To</source>
+    <translation>To</translation>
+  </message>
+  <message id="SCALER_FORMAT">
+    <source>Format</source>
+    <translation>Format</translation>
+  </message>
+  <message id="SCALER_FORMAT_SOURCE">
+    <source>As the source</source>
+    <translation>As the source</translation>
+  </message>
+  <message id="SCALER_FORMAT_LOSSLESS">
+    <source>WebP, lossless</source>
+    <translation>WebP, lossless</translation>
+  </message>
+  <message id="SCALER_FORMAT_LOSSY">
+    <source>WebP, smaller</source>
+    <translation>WebP, smaller</translation>
+  </message>
+  <message id="SCALER_QUALITY">
+    <source>Quality: [QUALITY] of 100</source>
+    <translation>Quality: [QUALITY] of 100</translation>
+  </message>
+  <message id="SCALER_QUALITY_NAME">
+    <source>Quality</source>
+    <translation>Quality</translation>
+  </message>
+  <message id="SCALER_PLACE">
+    <source>Place</source>
+    <translation>Place</translation>
+  </message>
+  <message id="SCALER_BESIDE">
+    <source>Beside the sources</source>
+    <translation>Beside the sources</translation>
+  </message>
+  <message id="SCALER_OTHER_FOLDER">
+    <source>Other folder…</source>
+    <translation>Other folder…</translation>
+  </message>
+  <message id="SCALER_BACK_BESIDE">
+    <source>Beside the sources</source>
+    <translation>Beside the sources</translation>
+  </message>
+  <message id="SCALER_REPLACE">
+    <source>Replace existing files</source>
+    <translation>Replace existing files</translation>
+  </message>
+  <message id="SCALER_REPLACE_TIP">
+    <source>Replaces files that exist, but never a source</source>
+    <translation>Replaces files that exist, but never a source</translation>
+  </message>
+  <message id="SCALER_DROP">
+    <source>Drop pictures, SVG drawings or whole folders here</source>
+    <translation>Drop pictures, SVG drawings or whole folders here</translation>
+  </message>
+  <message id="SCALER_DROP_NAME">
+    <source>Area for pictures, drawings and folders</source>
+    <translation>Area for pictures, drawings and folders</translation>
+  </message>
+  <message id="SCALER_FILES_BUTTON">
+    <source>Pictures…</source>
+    <translation>Pictures…</translation>
+  </message>
+  <message id="SCALER_FOLDER_BUTTON">
+    <source>Folder…</source>
+    <translation>Folder…</translation>
+  </message>
+  <message id="SCALER_WRITE">
+    <source>Write the files</source>
+    <translation>Write the files</translation>
+  </message>
+  <message id="SCALER_FILES_TITLE">
+    <source>Choose pictures of the largest density, or drawings</source>
+    <translation>Choose pictures of the largest density, or drawings</translation>
+  </message>
+  <message id="SCALER_FOLDER_TITLE">
+    <source>Choose the folder with the pictures</source>
+    <translation>Choose the folder with the pictures</translation>
+  </message>
+  <message id="SCALER_FILTER">
+    <source>Pictures and drawings</source>
+    <translation>Pictures and drawings</translation>
+  </message>
+  <message id="SCALER_NO_DENSITY">
+    <source>Tick at least one density</source>
+    <translation>Tick at least one density</translation>
+  </message>
+  <message id="SCALER_READING">
+    <source>Reading…</source>
+    <translation>Reading…</translation>
+  </message>
+  <message id="SCALER_PLAN">
+    <source>Planned files</source>
+    <translation>Planned files</translation>
+  </message>
+  <message id="SCALER_PLAN_FILE">
+    <source>File</source>
+    <translation>File</translation>
+  </message>
+  <message id="SCALER_PLAN_SIZE">
+    <source>Size</source>
+    <translation>Size</translation>
+  </message>
+  <message id="SCALER_PLAN_NOTE">
+    <source>Note</source>
+    <translation>Note</translation>
+  </message>
+  <message id="SCALER_DRAWING">
+    <source>drawing</source>
+    <translation>drawing</translation>
+  </message>
+  <message id="SCALER_ROUNDED">
+    <source>rounded to whole pixels</source>
+    <translation>rounded to whole pixels</translation>
+  </message>
+  <message id="SCALER_REPLACES">
+    <source>exists, is replaced</source>
+    <translation>exists, is replaced</translation>
+  </message>
+  <message id="SCALER_KEPT">
+    <source>exists, is kept</source>
+    <translation>exists, is kept</translation>
+  </message>
+  <message id="SCALER_LEFT_OUT">
+    <source>left out: [REASON]</source>
+    <translation>left out: [REASON]</translation>
+  </message>
+  <message id="SCALER_MORE">
+    <source>[COUNT] more</source>
+    <translation>[COUNT] more</translation>
+  </message>
+  <message id="SCALER_ONE_FILE">
+    <source>1 file to write</source>
+    <translation>1 file to write</translation>
+  </message>
+  <message id="SCALER_FILES">
+    <source>[COUNT] files to write</source>
+    <translation>[COUNT] files to write</translation>
+  </message>
+  <message id="SCALER_SUM_KEPT">
+    <source>[COUNT] kept</source>
+    <translation>[COUNT] kept</translation>
+  </message>
+  <message id="SCALER_SUM_REPLACED">
+    <source>[COUNT] replaced</source>
+    <translation>[COUNT] replaced</translation>
+  </message>
+  <message id="SCALER_SUM_ROUNDED">
+    <source>[COUNT] rounded</source>
+    <translation>[COUNT] rounded</translation>
+  </message>
+  <message id="SCALER_SUM_LEFT">
+    <source>[COUNT] left out</source>
+    <translation>[COUNT] left out</translation>
+  </message>
+  <message id="SCALER_PROGRESS">
+    <source>[DONE] of [COUNT]</source>
+    <translation>[DONE] of [COUNT]</translation>
+  </message>
+
   <message id="RESIZER_REPLACED">
     <source>overwritten by [NAME]</source>
     <translation>overwritten by [NAME]</translation>
