@@ -27,6 +27,7 @@ constexpr int margin = 20;
 constexpr int gap = 10;
 constexpr int leastWidth = 480;
 constexpr int listHeight = 180;
+constexpr int rowSpacing = 2;
 constexpr int buttonHeight = 36;
 constexpr int buttonPadding = 12;
 
@@ -84,7 +85,7 @@ ProjectQuestion::ProjectQuestion(const QList<RecognizedProject> &projects, const
         m_list->addItem(qtTrId(changeKeys[static_cast<std::size_t>(file.change)]) + u": "_s + file.path);
     m_list->setFont(latoRegular(12));
     m_list->setFixedHeight(listHeight);
-    m_list->setUniformItemSizes(true);
+    m_list->setSpacing(rowSpacing);
     m_list->setTextElideMode(Qt::ElideMiddle);
     m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_list->setAccessibleName(qtTrId("ICONS_PROJECT_FILES"));

@@ -25,7 +25,7 @@ constexpr int stateHeight = 13;
 constexpr int nameSize = 11;
 constexpr int stateSize = 10;
 constexpr int checkSide = 6;
-constexpr int removeSide = 18;
+constexpr int removeSide = 16;
 constexpr qreal cornerRadius = 8;
 constexpr qreal frameWidth = 1.5;
 
@@ -68,7 +68,7 @@ SourceWell::SourceWell(FurtherSource source, QWidget *parent)
     m_dropView->setTakesColors(source == FurtherSource::Background);
     m_dropView->hide();
     setAcceptDrops(true);
-    m_remove->setImageName(u"button_icon_reset"_s);
+    m_remove->setImageName(u"window_close_active"_s);
     m_remove->setFixedSize(removeSide, removeSide);
     m_remove->setAccessibleName(qtTrId("ICONS_SOURCE_REMOVE").replace("[SOURCE]"_L1, text()));
     m_remove->setToolTip(m_remove->accessibleName());

@@ -16,6 +16,7 @@
 #include "widgets/buttons/HoverButton.h"
 #include "widgets/buttons/IconButton.h"
 #include "widgets/progress/LBProgressBar.h"
+#include "widgets/style/AccessibleRole.h"
 #include "widgets/style/Fonts.h"
 #include "widgets/style/Palette.h"
 
@@ -273,6 +274,7 @@ QWidget *TodayIconPane::makeSnippets()
 QWidget *TodayIconPane::makePreviews()
 {
     auto *panel = new Panel;
+    setAccessibleRole(panel, QAccessible::Grouping);
     panel->setAccessibleName(qtTrId("ICONS_SEEN"));
     auto *row = new QHBoxLayout(panel);
     row->setContentsMargins(gap, 10, gap, 8);
