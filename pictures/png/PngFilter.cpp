@@ -19,6 +19,7 @@ namespace
 
 constexpr int bytesPerPixel = 4;
 constexpr int filters = 5;
+constexpr std::uint8_t noFilter = 0;
 constexpr std::uint8_t leftFilter = 1;
 constexpr std::uint8_t upFilter = 2;
 constexpr std::uint8_t averageFilter = 3;
@@ -144,9 +145,10 @@ void addAdaptiveRows(const PngRows &picture, RowRange range, PngFilterChoice cho
 
     for (int y = range.first; y < range.end; ++y) {
         row.load(picture, y);
-        if (row == above && !row.isZero()) {
-            // For large flat areas: only this filter turns a repeated row into nothing but zeroes.
-            result.push_back(upFilter);
+        if (row == above) {
+            // For large flat areas: only this filter turns a repeated row into nothing but zeroes. A row of zeroes is
+            // that without a filter.
+            result.push_back(row.isZero() ? noFilter : upFilter);
             result.insert(result.end(), static_cast<std::size_t>(bytes), 0);
             continue;
         }

@@ -9,16 +9,28 @@
 namespace lumora
 {
 
-ImageRows::ImageRows(QImage picture)
-    : m_picture(picture.format() == QImage::Format_RGBA8888 ? std::move(picture) : premultiplied(std::move(picture)))
+namespace
 {
+
+/// An encoder reads each row several times, so that straightening them once saves more than the copy costs.
+QImage straight(QImage picture)
+{
+    if (picture.format() == QImage::Format_RGBA8888)
+        return picture;
+    picture = premultiplied(std::move(picture));
+    for (int row = 0; row < picture.height(); ++row)
+        straightenPixels(picture.scanLine(row), picture.width());
+    picture.reinterpretAsFormat(QImage::Format_RGBA8888);
+    return picture;
 }
+
+} // namespace
+
+ImageRows::ImageRows(QImage picture) : m_picture(straight(std::move(picture))) {}
 
 void ImageRows::readRow(int row, std::span<std::uint8_t> rgba) const
 {
     std::copy_n(m_picture.constScanLine(row), rgba.size(), rgba.begin());
-    if (m_picture.format() != QImage::Format_RGBA8888)
-        straightenPixels(rgba.data(), m_picture.width());
 }
 
 } // namespace lumora

@@ -23,7 +23,7 @@ public:
     virtual void readRow(int row, std::span<std::uint8_t> rgba) const = 0;
 };
 
-/// The rows of a picture. A picture in another format than `Format_RGBA8888` is converted row by row as it is read.
+/// The rows of a picture. A picture in another format than `Format_RGBA8888` is copied.
 class ImageRows final : public PngRows
 {
 public:
@@ -33,7 +33,7 @@ public:
     void readRow(int row, std::span<std::uint8_t> rgba) const override;
 
 private:
-    const QImage m_picture; ///< straight or premultiplied RGBA
+    const QImage m_picture; ///< straight RGBA
 };
 
 } // namespace lumora
