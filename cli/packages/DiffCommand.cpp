@@ -11,6 +11,7 @@
 #include "foundation/ProcessLock.h"
 #include "validator/archive/OpenPackage.h"
 
+#include <algorithm>
 #include <memory>
 #include <utility>
 
@@ -27,8 +28,19 @@ struct DiffArguments
     QString before;
     QString after;
     QString on;
+    QString failOn = u"never"_s;
     bool noSandbox = false;
 };
+
+/// Whether the new package breaks a rule that counts, where the old one did not.
+bool isWorse(const PackageDifference &difference, const QString &failOn)
+{
+    if (failOn == u"never")
+        return false;
+    const Severity least = failOn == u"warning" ? Severity::Warning : Severity::Error;
+    return std::ranges::any_of(difference.gained,
+                               [least](const Finding &finding) { return finding.rule->severity >= least; });
+}
 
 /// The package with what the rules find in it.
 Result<ComparedPackage> compared(const QString &file, const RuleSettings &settings)
@@ -70,7 +82,7 @@ ExitStatus runDiff(Console &console, const DiffArguments &arguments)
     QJsonObject result = differenceJson(difference);
     result.insert(u"old"_s, arguments.before);
     result.insert(u"new"_s, arguments.after);
-    return console.finish(ExitStatus::Done, result);
+    return console.finish(isWorse(difference, arguments.failOn) ? ExitStatus::Refused : ExitStatus::Done, result);
 }
 
 } // namespace
@@ -80,6 +92,8 @@ CommandBody declareDiffCommand(Declaration &declaration)
     const auto arguments = std::make_shared<DiffArguments>();
     declaration.operand("OLD", &arguments->before, "CLI_DIFF_OLD").required();
     declaration.operand("NEW", &arguments->after, "CLI_DIFF_NEW").required();
+    declaration.option("--fail-on", &arguments->failOn, "SEVERITY", "CLI_DIFF_FAIL_ON")
+        .words({u"error"_s, u"warning"_s, u"never"_s});
     declaration.option("--on", &arguments->on, "DATE", "CLI_VALIDATE_ON");
     declaration.flag("--no-sandbox", &arguments->noSandbox, "CLI_NO_SANDBOX");
     declaration.example("lumora diff App.ipa build/App.ipa");

@@ -87,13 +87,18 @@ QStringList findingsUnder(const char *headingKey, const QList<Finding> &findings
 
 QString bytesText(quint64 bytes)
 {
-    return QLocale::c().formattedDataSize(static_cast<qint64>(bytes), 1, QLocale::DataSizeSIFormat);
+    return QLocale().formattedDataSize(static_cast<qint64>(bytes), 1, QLocale::DataSizeSIFormat);
 }
 
 QString changeText(quint64 before, quint64 after)
 {
     const bool grew = after >= before;
     return (grew ? u"+"_s : u"-"_s) + bytesText(grew ? after - before : before - after);
+}
+
+QString kindName(const QString &kind)
+{
+    return kind == u"all" ? commandText("CLI_DIFF_ALL") : fileKindText(kind).toLower();
 }
 
 QString totalLine(const KindTotals &totals)
@@ -103,8 +108,8 @@ QString totalLine(const KindTotals &totals)
         return commandText("CLI_DIFF_TOTAL",
                            {{"[FILES]", QString::number(total.files)}, {"[SIZE]", bytesText(total.bytes)}});
     };
-    return u"  "_s + totals.kind.leftJustified(kindWidth) + text(totals.before) + u" -> "_s + text(totals.after) +
-           u" ("_s + changeText(totals.before.bytes, totals.after.bytes) + u')';
+    return u"  "_s + kindName(totals.kind).leftJustified(kindWidth) + text(totals.before) + u" -> "_s +
+           text(totals.after) + u" ("_s + changeText(totals.before.bytes, totals.after.bytes) + u')';
 }
 
 } // namespace

@@ -5,8 +5,11 @@
 #include "cli/arguments/Declaration.h"
 #include "cli/console/CommandText.h"
 #include "cli/console/Console.h"
+#include "resources/Resources.h"
 #include "validator/rules/Rule.h"
+#include "validator/rules/Wording.h"
 
+#include <QCoreApplication>
 #include <QJsonArray>
 
 #include <array>
@@ -35,10 +38,14 @@ QString text(const char *part)
 /// Each part of a rule by its name, the empty ones left out.
 QList<std::pair<QString, QString>> partsOf(const Rule &rule)
 {
-    QList<std::pair<QString, QString>> parts{
-        {u"id"_s, text(rule.id)},         {u"code"_s, text(rule.code)},  {u"severity"_s, severityName(rule.severity)},
-        {u"title"_s, text(rule.title)},   {u"rule"_s, text(rule.rule)},  {u"fix"_s, text(rule.fix)},
-        {u"source"_s, text(rule.source)}, {u"since"_s, text(rule.since)}};
+    QList<std::pair<QString, QString>> parts{{u"id"_s, text(rule.id)},
+                                             {u"code"_s, text(rule.code)},
+                                             {u"severity"_s, severityName(rule.severity)},
+                                             {u"title"_s, worded(rule.title)},
+                                             {u"rule"_s, worded(rule.rule)},
+                                             {u"fix"_s, worded(rule.fix)},
+                                             {u"source"_s, worded(rule.source)},
+                                             {u"since"_s, text(rule.since)}};
     parts.removeIf([](const auto &part) { return part.second.isEmpty(); });
     return parts;
 }
@@ -56,20 +63,38 @@ QString listLine(const Rule &rule)
 {
     constexpr int severityWidth = 9;
     const QString code = text(rule.code);
-    return severityName(rule.severity).leftJustified(severityWidth) + text(rule.id) +
-           (code.isEmpty() ? QString() : QString(u" ("_s + code + u')')) + u": "_s + text(rule.title);
+    return severityWord(rule.severity).leftJustified(severityWidth) + text(rule.id) +
+           (code.isEmpty() ? QString() : QString(u" ("_s + code + u')')) + u": "_s + worded(rule.title);
+}
+
+/// The part's name in the user's language.
+QString partName(const QString &part)
+{
+    static constexpr std::pair<QLatin1StringView, const char *> names[] = {
+        {"severity"_L1, "CLI_RULES_SEVERITY"}, {"title"_L1, "CLI_RULES_TITLE"},   {"rule"_L1, "CLI_RULES_RULE"},
+        {"fix"_L1, "CLI_RULES_FIX"},           {"source"_L1, "CLI_RULES_SOURCE"}, {"since"_L1, "CLI_RULES_SINCE"},
+    };
+    for (const auto &[name, key] : names) {
+        if (part == name)
+            return worded(key);
+    }
+    return part;
 }
 
 void printInFull(Console &console, const Rule &rule)
 {
     constexpr int nameWidth = 10;
-    for (const auto &[name, value] : partsOf(rule))
-        console.print(QString(name.leftJustified(nameWidth) + value));
+    for (const auto &[name, value] : partsOf(rule)) {
+        const bool isSeverity = name == u"severity";
+        console.print(
+            QString(partName(name).leftJustified(nameWidth) + (isSeverity ? severityWord(rule.severity) : value)));
+    }
 }
 
 /// The page of the documents, the same on every system.
 void printPage(Console &console)
 {
+    installTexts(*QCoreApplication::instance(), QLocale(QLocale::English), ToolkitTexts::LeaveOut);
     console.print(u"# What `lumora validate` asks of a package"_s);
     console.print(QString());
     console.print(u"Written by `lumora rules --markdown`. Leave a rule out with `--ignore ID`."_s);
@@ -82,12 +107,12 @@ void printPage(Console &console)
                 continue;
             const QString code = text(rule.code);
             const QString since = text(rule.since);
-            console.print(QString(u"\n### "_s + text(rule.title)));
+            console.print(QString(u"\n### "_s + worded(rule.title)));
             console.print(QString(u"\n`"_s + text(rule.id) + u'`' +
                                   (code.isEmpty() ? QString() : QString(u" · "_s + code)) +
                                   (since.isEmpty() ? QString() : QString(u" · since "_s + since))));
-            console.print(QString(u'\n' + text(rule.rule) + u' ' + text(rule.fix)));
-            console.print(QString(u"\nSource: "_s + text(rule.source)));
+            console.print(QString(u'\n' + worded(rule.rule) + u' ' + worded(rule.fix)));
+            console.print(QString(u"\nSource: "_s + worded(rule.source)));
         }
     }
 }

@@ -3,6 +3,7 @@
 
 #include "cli/console/CommandText.h"
 #include "foundation/PrintableText.h"
+#include "validator/rules/Wording.h"
 
 using namespace Qt::StringLiterals;
 
@@ -24,10 +25,10 @@ QStringList findingLines(const QList<Finding> &findings)
         const QString code = QString::fromLatin1(finding.rule->code);
         const QString name = QString::fromLatin1(finding.rule->id) + (code.isEmpty() ? QString() : u", "_s + code);
         const QString where = finding.evidence.path.isEmpty() ? QString() : QString(finding.evidence.path + u": "_s);
-        lines += u"  "_s + severityName(finding.rule->severity).leftJustified(severityWidth) +
-                 QString::fromUtf8(finding.rule->title) + u" ("_s + name + u')';
+        lines += u"  "_s + severityWord(finding.rule->severity).leftJustified(severityWidth) +
+                 worded(finding.rule->title) + u" ("_s + name + u')';
         lines += QString(severityWidth + 2, u' ') + printableText(where + finding.evidence.text);
-        lines += QString(severityWidth + 2, u' ') + QString::fromUtf8(finding.rule->fix);
+        lines += QString(severityWidth + 2, u' ') + worded(finding.rule->fix);
     }
     return lines;
 }

@@ -29,7 +29,7 @@ _lumora_options() {
         "$_lumora_general"
       ;;
     validate) echo "--icon --rules --fail-on --ignore --ignore-file --on --sarif --junit --html --devices --no-sandbox $_lumora_general" ;;
-    diff) echo "--on --no-sandbox $_lumora_general" ;;
+    diff) echo "--fail-on --on --no-sandbox $_lumora_general" ;;
     rules) echo "--markdown $_lumora_general" ;;
     help | version) ;;
     *) echo "--tool --today $_lumora_general" ;;
@@ -76,7 +76,7 @@ _lumora_values() {
         "opengl_2 opengl_3"
       ;;
     validate:--rules) echo "auto store classic all" ;;
-    validate:--fail-on) echo "error warning never" ;;
+    validate:--fail-on | diff:--fail-on) echo "error warning never" ;;
     icon:--size | placeholders:--size | *:--quality | *:--text | *:--foreground | *:--background) echo anything ;;
     color:--contrast | validate:--ignore | validate:--on | diff:--on | devices:--chip | devices:--search | devices:--model) echo anything ;;
     :--tool) echo "$_lumora_tools" ;;

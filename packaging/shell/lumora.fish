@@ -102,6 +102,7 @@ complete -c lumora -n '__fish_seen_subcommand_from validate validator' -l sarif 
 complete -c lumora -n '__fish_seen_subcommand_from validate validator' -l junit -r -F -d 'Write test cases as JUnit XML'
 complete -c lumora -n '__fish_seen_subcommand_from validate validator' -l html -r -F -d 'Write a page'
 complete -c lumora -n '__fish_seen_subcommand_from validate validator' -l devices -d 'List the models that run the app'
+complete -c lumora -n '__fish_seen_subcommand_from diff' -l fail-on -x -a 'error warning never' -d 'Least severe new finding that counts'
 complete -c lumora -n '__fish_seen_subcommand_from diff' -a '(__lumora_files ipa)'
 complete -c lumora -n '__fish_seen_subcommand_from rules' -l markdown -d 'Print the page of the documents'
 complete -c lumora -n '__fish_seen_subcommand_from validate validator diff' -l on -x -d 'Day to judge for'

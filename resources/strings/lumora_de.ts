@@ -2049,24 +2049,24 @@
     <translation>1 Fehler</translation>
   </message>
   <message id="FINDINGS_ERRORS">
-    <source>[COUNT] errors</source>
-    <translation>[COUNT] Fehler</translation>
+    <source>[A] errors</source>
+    <translation>[A] Fehler</translation>
   </message>
   <message id="FINDINGS_ONE_WARNING">
     <source>1 warning</source>
     <translation>1 Warnung</translation>
   </message>
   <message id="FINDINGS_WARNINGS">
-    <source>[COUNT] warnings</source>
-    <translation>[COUNT] Warnungen</translation>
+    <source>[A] warnings</source>
+    <translation>[A] Warnungen</translation>
   </message>
   <message id="FINDINGS_ONE_NOTE">
     <source>1 note</source>
     <translation>1 Hinweis</translation>
   </message>
   <message id="FINDINGS_NOTES">
-    <source>[COUNT] notes</source>
-    <translation>[COUNT] Hinweise</translation>
+    <source>[A] notes</source>
+    <translation>[A] Hinweise</translation>
   </message>
   <message id="FINDINGS_ERROR">
     <source>Error</source>
@@ -2158,11 +2158,11 @@
   </message>
   <message id="FINDINGS_MAKE_ICONS">
     <source>Make the missing icons</source>
-    <translation>Fehlende Symbole erzeugen</translation>
+    <translation>Fehlende Icons erzeugen</translation>
   </message>
   <message id="FINDINGS_MAKE_ICONS_TIP">
     <source>Open the icon tool, with the package's own picture if it has one</source>
-    <translation>Das Symbolwerkzeug öffnen, mit dem Bild des Pakets, falls es eines enthält</translation>
+    <translation>Das Icon-Werkzeug öffnen, mit dem Bild des Pakets, falls es eines enthält</translation>
   </message>
   <message id="ACCESSIBLE_FINDING_OPEN">
     <source>open</source>
@@ -2375,6 +2375,1434 @@
   <message id="REVIEW_MODELS_TIP">
     <source>Open the device tool with what the package asks for</source>
     <translation>Das Gerätewerkzeug mit den Anforderungen des Pakets öffnen</translation>
+  </message>
+  <message id="RULE_ARM64_MINIMUM_TITLE">
+    <source>The minimum system is likely too old for arm64</source>
+    <translation>Das älteste System ist wahrscheinlich zu alt für arm64</translation>
+  </message>
+  <message id="RULE_ARM64_MINIMUM_RULE">
+    <source>An app that lists arm64 among its required capabilities names a system that devices with 64-bit code run: 7.0 or more.</source>
+    <translation>Eine App, die arm64 unter den verlangten Fähigkeiten nennt, nennt ein System, das Geräte mit 64-Bit-Code ausführen: 7.0 oder mehr.</translation>
+  </message>
+  <message id="RULE_ARM64_MINIMUM_FIX">
+    <source>Raise the deployment target, or take arm64 out of UIRequiredDeviceCapabilities.</source>
+    <translation>Das Deployment Target anheben oder arm64 aus UIRequiredDeviceCapabilities nehmen.</translation>
+  </message>
+  <message id="RULE_PRIVATE_NAMES_TITLE">
+    <source>Private functions of the system</source>
+    <translation>Private Funktionen des Systems</translation>
+  </message>
+  <message id="RULE_PRIVATE_NAMES_RULE">
+    <source>Apps link no private framework and call no function that is known to be private.</source>
+    <translation>Apps linken kein privates Framework und rufen keine Funktion auf, die als privat bekannt ist.</translation>
+  </message>
+  <message id="RULE_PRIVATE_NAMES_FIX">
+    <source>Use the public counterpart, or a newer version of the library that calls it.</source>
+    <translation>Das öffentliche Gegenstück verwenden oder eine neuere Fassung der Bibliothek, die sie aufruft.</translation>
+  </message>
+  <message id="RULE_LISTED_KIT_SIGNATURE_TITLE">
+    <source>A listed kit is likely not signed by its maker</source>
+    <translation>Ein gelistetes Kit ist wahrscheinlich nicht von seinem Hersteller signiert</translation>
+  </message>
+  <message id="RULE_LISTED_KIT_SIGNATURE_RULE">
+    <source>A kit on the platform's list that is added as a finished binary is signed by its maker, and the archive holds the receipt in Signatures.</source>
+    <translation>Ein Kit von der Liste der Plattform, das als fertiges Programm eingebunden ist, ist von seinem Hersteller signiert, und das Archiv enthält den Beleg in Signatures.</translation>
+  </message>
+  <message id="RULE_LISTED_KIT_SIGNATURE_FIX">
+    <source>Use the maker's signed xcframework and export the archive with Xcode. A kit that is built from its sources needs no receipt.</source>
+    <translation>Das signierte xcframework des Herstellers verwenden und das Archiv mit Xcode exportieren. Ein Kit, das aus seinen Quellen gebaut ist, braucht keinen Beleg.</translation>
+  </message>
+  <message id="FOUND_ARM64_NOT_LISTED">
+    <source>it does not list arm64</source>
+    <translation>sie nennt arm64 nicht</translation>
+  </message>
+  <message id="FOUND_ARM64_MINIMUM">
+    <source>arm64 is listed, but MinimumOSVersion is [A]</source>
+    <translation>arm64 ist genannt, aber MinimumOSVersion ist [A]</translation>
+  </message>
+  <message id="FOUND_PRIVATE_FRAMEWORK">
+    <source>links the private framework [A]</source>
+    <translation>linkt das private Framework [A]</translation>
+  </message>
+  <message id="FOUND_PRIVATE_SYMBOL">
+    <source>imports the private name [A]</source>
+    <translation>importiert den privaten Namen [A]</translation>
+  </message>
+  <message id="FOUND_NO_RECEIPT">
+    <source>there is no receipt [A]…</source>
+    <translation>es gibt keinen Beleg [A]…</translation>
+  </message>
+  <message id="SEVERITY_ERROR">
+    <source>error</source>
+    <translation>Fehler</translation>
+  </message>
+  <message id="SEVERITY_WARNING">
+    <source>warning</source>
+    <translation>Warnung</translation>
+  </message>
+  <message id="SEVERITY_NOTE">
+    <source>note</source>
+    <translation>Hinweis</translation>
+  </message>
+  <message id="CLI_RULES_SEVERITY">
+    <source>severity</source>
+    <translation>Schwere</translation>
+  </message>
+  <message id="CLI_RULES_TITLE">
+    <source>title</source>
+    <translation>Titel</translation>
+  </message>
+  <message id="CLI_RULES_RULE">
+    <source>rule</source>
+    <translation>Regel</translation>
+  </message>
+  <message id="CLI_RULES_FIX">
+    <source>fix</source>
+    <translation>Abhilfe</translation>
+  </message>
+  <message id="CLI_RULES_SOURCE">
+    <source>source</source>
+    <translation>Quelle</translation>
+  </message>
+  <message id="CLI_RULES_SINCE">
+    <source>since</source>
+    <translation>seit</translation>
+  </message>
+  <message id="CLI_DIFF_ALL">
+    <source>all</source>
+    <translation>alles</translation>
+  </message>
+  <message id="HTML_LANGUAGE">
+    <source>en</source>
+    <translation>de</translation>
+  </message>
+  <message id="HTML_PACKAGES">
+    <source>Packages</source>
+    <translation>Pakete</translation>
+  </message>
+  <message id="HTML_FACTS">
+    <source>Facts</source>
+    <translation>Angaben</translation>
+  </message>
+  <message id="HTML_ONE_FILE">
+    <source>1 file</source>
+    <translation>1 Datei</translation>
+  </message>
+  <message id="HTML_FILES">
+    <source>[A] files</source>
+    <translation>[A] Dateien</translation>
+  </message>
+  <message id="HTML_MORE">
+    <source>[A] more</source>
+    <translation>[A] weitere</translation>
+  </message>
+  <message id="HTML_NAME">
+    <source>Name</source>
+    <translation>Name</translation>
+  </message>
+  <message id="HTML_VERSION">
+    <source>Version</source>
+    <translation>Version</translation>
+  </message>
+  <message id="HTML_PLATFORM">
+    <source>Platform</source>
+    <translation>Plattform</translation>
+  </message>
+  <message id="HTML_MINIMUM_SYSTEM">
+    <source>Minimum system</source>
+    <translation>Mindestsystem</translation>
+  </message>
+  <message id="HTML_IDENTIFIER">
+    <source>Identifier</source>
+    <translation>Kennung</translation>
+  </message>
+  <message id="HTML_BUILD">
+    <source>Build</source>
+    <translation>Build</translation>
+  </message>
+  <message id="HTML_URL_SCHEMES">
+    <source>URL schemes</source>
+    <translation>URL-Schemata</translation>
+  </message>
+  <message id="HTML_FACEBOOK">
+    <source>Facebook</source>
+    <translation>Facebook</translation>
+  </message>
+  <message id="HTML_EXPIRES">
+    <source>Expires</source>
+    <translation>Läuft ab</translation>
+  </message>
+  <message id="RULE_ICON_PHONE_TITLE">
+    <source>No icon for the iPhone</source>
+    <translation>Kein Icon für das iPhone</translation>
+  </message>
+  <message id="RULE_ICON_PHONE_RULE">
+    <source>An iPhone app for iOS 7 or newer has an icon of 120 by 120 pixels, in the catalog or as a file.</source>
+    <translation>Eine iPhone-App für iOS 7 oder neuer hat ein Icon von 120 mal 120 Pixeln, im Katalog oder als Datei.</translation>
+  </message>
+  <message id="RULE_ICON_PHONE_FIX">
+    <source>Give the app icon set a picture of 1024 pixels, or add the size of 120.</source>
+    <translation>Dem App-Icon-Satz ein Bild von 1024 Pixeln geben oder die Größe 120 ergänzen.</translation>
+  </message>
+  <message id="RULE_ICON_PAD_TITLE">
+    <source>No icon for the iPad</source>
+    <translation>Kein Icon für das iPad</translation>
+  </message>
+  <message id="RULE_ICON_PAD_RULE">
+    <source>An iPad app for iOS 7 or newer has an icon of 152 by 152 pixels, in the catalog or as a file.</source>
+    <translation>Eine iPad-App für iOS 7 oder neuer hat ein Icon von 152 mal 152 Pixeln, im Katalog oder als Datei.</translation>
+  </message>
+  <message id="RULE_ICON_PAD_FIX">
+    <source>Give the app icon set a picture of 1024 pixels, or add the size of 152.</source>
+    <translation>Dem App-Icon-Satz ein Bild von 1024 Pixeln geben oder die Größe 152 ergänzen.</translation>
+  </message>
+  <message id="RULE_ICON_MARKETING_TITLE">
+    <source>No large icon</source>
+    <translation>Kein großes Icon</translation>
+  </message>
+  <message id="RULE_ICON_MARKETING_RULE">
+    <source>The asset catalog holds an icon of 1024 by 1024 pixels.</source>
+    <translation>Der Katalog enthält ein Icon von 1024 mal 1024 Pixeln.</translation>
+  </message>
+  <message id="RULE_ICON_MARKETING_FIX">
+    <source>Add a picture of 1024 pixels to the app icon set.</source>
+    <translation>Dem App-Icon-Satz ein Bild von 1024 Pixeln hinzufügen.</translation>
+  </message>
+  <message id="RULE_ICON_NAME_TITLE">
+    <source>The icon set is not named</source>
+    <translation>Der Icon-Satz ist nicht benannt</translation>
+  </message>
+  <message id="RULE_ICON_NAME_RULE">
+    <source>An app built with the SDK of iOS 11 or newer names its icon set by CFBundleIconName.</source>
+    <translation>Eine App, die mit dem SDK von iOS 11 oder neuer gebaut ist, nennt ihren Icon-Satz durch CFBundleIconName.</translation>
+  </message>
+  <message id="RULE_ICON_NAME_FIX">
+    <source>Set ASSETCATALOG_COMPILER_APPICON_NAME to the name of the app icon set and build again.</source>
+    <translation>ASSETCATALOG_COMPILER_APPICON_NAME auf den Namen des App-Icon-Satzes setzen und neu bauen.</translation>
+  </message>
+  <message id="RULE_ICON_OPAQUE_TITLE">
+    <source>The large icon is translucent</source>
+    <translation>Das große Icon ist durchscheinend</translation>
+  </message>
+  <message id="RULE_ICON_OPAQUE_RULE">
+    <source>The icon of 1024 pixels has neither transparent pixels nor an alpha channel.</source>
+    <translation>Das Icon von 1024 Pixeln hat weder durchsichtige Pixel noch einen Alphakanal.</translation>
+  </message>
+  <message id="RULE_ICON_OPAQUE_FIX">
+    <source>Flatten the picture onto a color and save it without alpha channel.</source>
+    <translation>Das Bild auf eine Farbe legen und ohne Alphakanal sichern.</translation>
+  </message>
+  <message id="RULE_PAD_ORIENTATIONS_TITLE">
+    <source>The iPad app does not turn into every direction</source>
+    <translation>Die iPad-App dreht sich nicht in jede Richtung</translation>
+  </message>
+  <message id="RULE_PAD_ORIENTATIONS_RULE">
+    <source>An iPad app that does not ask for the whole screen lists all four orientations.</source>
+    <translation>Eine iPad-App, die nicht den ganzen Bildschirm verlangt, nennt alle vier Ausrichtungen.</translation>
+  </message>
+  <message id="RULE_PAD_ORIENTATIONS_FIX">
+    <source>List all four in UISupportedInterfaceOrientations~ipad, or set UIRequiresFullScreen.</source>
+    <translation>Alle vier in UISupportedInterfaceOrientations~ipad nennen oder UIRequiresFullScreen setzen.</translation>
+  </message>
+  <message id="RULE_LAUNCH_SCREEN_TITLE">
+    <source>No launch screen</source>
+    <translation>Kein Startbildschirm</translation>
+  </message>
+  <message id="RULE_LAUNCH_SCREEN_RULE">
+    <source>An iPad app that does not ask for the whole screen has a launch storyboard or UILaunchScreen.</source>
+    <translation>Eine iPad-App, die nicht den ganzen Bildschirm verlangt, hat ein Start-Storyboard oder UILaunchScreen.</translation>
+  </message>
+  <message id="RULE_LAUNCH_SCREEN_FIX">
+    <source>Add UILaunchStoryboardName or UILaunchScreen to the Info.plist.</source>
+    <translation>UILaunchStoryboardName oder UILaunchScreen in die Info.plist aufnehmen.</translation>
+  </message>
+  <message id="RULE_PACKAGE_TYPE_TITLE">
+    <source>The bundle is not marked as an app</source>
+    <translation>Das Bundle ist nicht als App gekennzeichnet</translation>
+  </message>
+  <message id="RULE_PACKAGE_TYPE_RULE">
+    <source>CFBundlePackageType of the app is APPL.</source>
+    <translation>CFBundlePackageType der App ist APPL.</translation>
+  </message>
+  <message id="RULE_PACKAGE_TYPE_FIX">
+    <source>Set CFBundlePackageType to APPL.</source>
+    <translation>CFBundlePackageType auf APPL setzen.</translation>
+  </message>
+  <message id="RULE_MINIMUM_SYSTEM_TITLE">
+    <source>The minimum system is likely too old</source>
+    <translation>Das älteste System ist wahrscheinlich zu alt</translation>
+  </message>
+  <message id="RULE_MINIMUM_SYSTEM_RULE">
+    <source>An app is likely to need a MinimumOSVersion of 15.0 or more from spring 2027 on.</source>
+    <translation>Ab Frühjahr 2027 braucht eine App wahrscheinlich eine MinimumOSVersion von 15.0 oder mehr.</translation>
+  </message>
+  <message id="RULE_MINIMUM_SYSTEM_FIX">
+    <source>Raise the deployment target to 15.0.</source>
+    <translation>Das Deployment Target auf 15.0 anheben.</translation>
+  </message>
+  <message id="RULE_NESTED_VERSION_TITLE">
+    <source>A version is missing or malformed</source>
+    <translation>Eine Version fehlt oder ist falsch geformt</translation>
+  </message>
+  <message id="RULE_NESTED_VERSION_RULE">
+    <source>The app and each bundle in it have a CFBundleShortVersionString of one to three numbers and a CFBundleVersion.</source>
+    <translation>Die App und jedes Bundle darin haben eine CFBundleShortVersionString aus ein bis drei Zahlen und eine CFBundleVersion.</translation>
+  </message>
+  <message id="RULE_NESTED_VERSION_FIX">
+    <source>Set both in the bundle's Info.plist, as in 2.1.0.</source>
+    <translation>Beide in der Info.plist des Bundles setzen, etwa 2.1.0.</translation>
+  </message>
+  <message id="RULE_EXTENSION_VERSION_TITLE">
+    <source>An extension has another version than the app</source>
+    <translation>Eine Erweiterung hat eine andere Version als die App</translation>
+  </message>
+  <message id="RULE_EXTENSION_VERSION_RULE">
+    <source>The versions of an extension are those of its app.</source>
+    <translation>Die Versionen einer Erweiterung sind die ihrer App.</translation>
+  </message>
+  <message id="RULE_EXTENSION_VERSION_FIX">
+    <source>Set both versions of the extension to the app's.</source>
+    <translation>Beide Versionen der Erweiterung auf die der App setzen.</translation>
+  </message>
+  <message id="RULE_IDENTIFIER_ONCE_TITLE">
+    <source>Two bundles have one identifier</source>
+    <translation>Zwei Bundles haben eine Kennung</translation>
+  </message>
+  <message id="RULE_IDENTIFIER_ONCE_RULE">
+    <source>Each CFBundleIdentifier in the package is there once.</source>
+    <translation>Jeder CFBundleIdentifier kommt im Paket nur einmal vor.</translation>
+  </message>
+  <message id="RULE_IDENTIFIER_ONCE_FIX">
+    <source>Give one of the bundles another identifier.</source>
+    <translation>Einem der Bundles eine andere Kennung geben.</translation>
+  </message>
+  <message id="RULE_NESTED_IDENTIFIER_TITLE">
+    <source>An extension's identifier does not begin with the app's</source>
+    <translation>Die Kennung einer Erweiterung beginnt nicht mit der der App</translation>
+  </message>
+  <message id="RULE_NESTED_IDENTIFIER_RULE">
+    <source>The identifier of an extension or watch app is the app's, a dot and a name of its own.</source>
+    <translation>Die Kennung einer Erweiterung oder Watch-App ist die der App, ein Punkt und ein eigener Name.</translation>
+  </message>
+  <message id="RULE_NESTED_IDENTIFIER_FIX">
+    <source>Change the CFBundleIdentifier of the nested bundle.</source>
+    <translation>Den CFBundleIdentifier des inneren Bundles ändern.</translation>
+  </message>
+  <message id="RULE_ARM64_CAPABILITY_TITLE">
+    <source>64-bit code alone, but arm64 is not asked for</source>
+    <translation>Nur 64-Bit-Code, aber arm64 wird nicht verlangt</translation>
+  </message>
+  <message id="RULE_ARM64_CAPABILITY_RULE">
+    <source>An app without 32-bit code that runs on systems before iOS 11 lists arm64 among its required capabilities.</source>
+    <translation>Eine App ohne 32-Bit-Code, die auf Systemen vor iOS 11 läuft, nennt arm64 unter den verlangten Fähigkeiten.</translation>
+  </message>
+  <message id="RULE_ARM64_CAPABILITY_FIX">
+    <source>Add arm64 to UIRequiredDeviceCapabilities, or raise the deployment target.</source>
+    <translation>arm64 in UIRequiredDeviceCapabilities aufnehmen oder das Deployment Target anheben.</translation>
+  </message>
+  <message id="RULE_SDK_AGE_TITLE">
+    <source>Built with an SDK that is too old</source>
+    <translation>Mit einem zu alten SDK gebaut</translation>
+  </message>
+  <message id="RULE_SDK_AGE_RULE">
+    <source>Apps are built with the SDK of iOS 18 since April 2025, and with that of iOS 26 since April 2026.</source>
+    <translation>Apps werden seit April 2025 mit dem SDK von iOS 18 gebaut und seit April 2026 mit dem von iOS 26.</translation>
+  </message>
+  <message id="RULE_SDK_AGE_FIX">
+    <source>Build with the current Xcode.</source>
+    <translation>Mit dem aktuellen Xcode bauen.</translation>
+  </message>
+  <message id="RULE_SDK_AGE_NEXT_TITLE">
+    <source>Likely built with an SDK that is too old</source>
+    <translation>Wahrscheinlich mit einem zu alten SDK gebaut</translation>
+  </message>
+  <message id="RULE_SDK_AGE_NEXT_RULE">
+    <source>Apps are likely to need the SDK of iOS 27 from April 2027 on.</source>
+    <translation>Ab April 2027 brauchen Apps wahrscheinlich das SDK von iOS 27.</translation>
+  </message>
+  <message id="RULE_SDK_AGE_NEXT_FIX">
+    <source>Build with Xcode 27.</source>
+    <translation>Mit Xcode 27 bauen.</translation>
+  </message>
+  <message id="RULE_EXECUTABLE_TITLE">
+    <source>Code is missing or damaged</source>
+    <translation>Code fehlt oder ist beschädigt</translation>
+  </message>
+  <message id="RULE_EXECUTABLE_RULE">
+    <source>Each bundle of code has the binary that its Info.plist names, and every binary can be read to its end.</source>
+    <translation>Jedes Bundle mit Code enthält das Programm, das seine Info.plist nennt, und jedes Programm lässt sich bis zum Ende lesen.</translation>
+  </message>
+  <message id="RULE_EXECUTABLE_FIX">
+    <source>Build and export the app again.</source>
+    <translation>Die App neu bauen und exportieren.</translation>
+  </message>
+  <message id="RULE_SIMULATOR_CODE_TITLE">
+    <source>Code for the simulator</source>
+    <translation>Code für den Simulator</translation>
+  </message>
+  <message id="RULE_SIMULATOR_CODE_RULE">
+    <source>No binary holds a slice for the simulator (i386, x86_64).</source>
+    <translation>Kein Programm enthält Code für den Simulator (i386, x86_64).</translation>
+  </message>
+  <message id="RULE_SIMULATOR_CODE_FIX">
+    <source>Link the library's device slice only, or its xcframework.</source>
+    <translation>Nur den Geräteteil der Bibliothek oder ihr xcframework linken.</translation>
+  </message>
+  <message id="RULE_ALIGNMENT_TITLE">
+    <source>A segment is not aligned</source>
+    <translation>Ein Segment ist nicht ausgerichtet</translation>
+  </message>
+  <message id="RULE_ALIGNMENT_RULE">
+    <source>Each segment of a binary begins at a page.</source>
+    <translation>Jedes Segment eines Programms beginnt an einer Seitengrenze.</translation>
+  </message>
+  <message id="RULE_ALIGNMENT_FIX">
+    <source>Link the binary again with the platform's own tools.</source>
+    <translation>Das Programm mit den Werkzeugen der Plattform neu linken.</translation>
+  </message>
+  <message id="RULE_BITCODE_TITLE">
+    <source>Bitcode</source>
+    <translation>Bitcode</translation>
+  </message>
+  <message id="RULE_BITCODE_RULE">
+    <source>A package built with Xcode 16 or newer holds no bitcode.</source>
+    <translation>Ein Paket, das mit Xcode 16 oder neuer gebaut ist, enthält keinen Bitcode.</translation>
+  </message>
+  <message id="RULE_BITCODE_FIX">
+    <source>Strip it with "bitcode_strip -r", or use a newer build of the library.</source>
+    <translation>Mit „bitcode_strip -r“ entfernen oder eine neuere Fassung der Bibliothek verwenden.</translation>
+  </message>
+  <message id="RULE_ENCRYPTION_INFO_TITLE">
+    <source>The store cannot encipher the binary</source>
+    <translation>Der Store kann das Programm nicht verschlüsseln</translation>
+  </message>
+  <message id="RULE_ENCRYPTION_INFO_RULE">
+    <source>The app's binary has an LC_ENCRYPTION_INFO and is not enciphered yet.</source>
+    <translation>Das Programm der App hat ein LC_ENCRYPTION_INFO und ist noch nicht verschlüsselt.</translation>
+  </message>
+  <message id="RULE_ENCRYPTION_INFO_FIX">
+    <source>Export the app from its archive instead of from a device, without a packer.</source>
+    <translation>Die App aus ihrem Archiv exportieren statt von einem Gerät, und ohne Packer.</translation>
+  </message>
+  <message id="RULE_WEB_VIEW_TITLE">
+    <source>UIWebView</source>
+    <translation>UIWebView</translation>
+  </message>
+  <message id="RULE_WEB_VIEW_RULE">
+    <source>No code refers to the class UIWebView.</source>
+    <translation>Kein Code verweist auf die Klasse UIWebView.</translation>
+  </message>
+  <message id="RULE_WEB_VIEW_FIX">
+    <source>Use WKWebView, and libraries that do.</source>
+    <translation>WKWebView verwenden, und Bibliotheken, die das tun.</translation>
+  </message>
+  <message id="RULE_FRAMEWORK_MINIMUM_TITLE">
+    <source>A framework's minimum system is missing or too old</source>
+    <translation>Das älteste System eines Frameworks fehlt oder ist zu alt</translation>
+  </message>
+  <message id="RULE_FRAMEWORK_MINIMUM_RULE">
+    <source>The MinimumOSVersion of a framework is there, and 8.0 or more.</source>
+    <translation>Die MinimumOSVersion eines Frameworks ist da und beträgt 8.0 oder mehr.</translation>
+  </message>
+  <message id="RULE_FRAMEWORK_MINIMUM_FIX">
+    <source>Add MinimumOSVersion to the framework's Info.plist.</source>
+    <translation>MinimumOSVersion in die Info.plist des Frameworks aufnehmen.</translation>
+  </message>
+  <message id="RULE_FRAMEWORK_SYSTEM_TITLE">
+    <source>A framework is built for another system than it says</source>
+    <translation>Ein Framework ist für ein anderes System gebaut, als es angibt</translation>
+  </message>
+  <message id="RULE_FRAMEWORK_SYSTEM_RULE">
+    <source>A framework's binary is built for the system that its Info.plist names, and for none newer than the app's.</source>
+    <translation>Das Programm eines Frameworks ist für das System gebaut, das seine Info.plist nennt, und für kein neueres als die App.</translation>
+  </message>
+  <message id="RULE_FRAMEWORK_SYSTEM_FIX">
+    <source>Build the framework with the app's deployment target.</source>
+    <translation>Das Framework mit dem Deployment Target der App bauen.</translation>
+  </message>
+  <message id="RULE_FRAMEWORK_TYPE_TITLE">
+    <source>A framework is no dynamic library</source>
+    <translation>Ein Framework ist keine dynamische Bibliothek</translation>
+  </message>
+  <message id="RULE_FRAMEWORK_TYPE_RULE">
+    <source>The binary of a framework is a dynamic library.</source>
+    <translation>Das Programm eines Frameworks ist eine dynamische Bibliothek.</translation>
+  </message>
+  <message id="RULE_FRAMEWORK_TYPE_FIX">
+    <source>Link the static library into the app, and do not embed it.</source>
+    <translation>Die statische Bibliothek in die App linken und nicht einbetten.</translation>
+  </message>
+  <message id="RULE_SWIFT_ENTRY_TITLE">
+    <source>An extension likely has no entry point</source>
+    <translation>Eine Erweiterung hat wahrscheinlich keinen Einstieg</translation>
+  </message>
+  <message id="RULE_SWIFT_ENTRY_RULE">
+    <source>An extension of the newer kind has a section __swift5_entry.</source>
+    <translation>Eine Erweiterung der neueren Art hat einen Abschnitt __swift5_entry.</translation>
+  </message>
+  <message id="RULE_SWIFT_ENTRY_FIX">
+    <source>Mark its type with @main and build again.</source>
+    <translation>Ihren Typ mit @main kennzeichnen und neu bauen.</translation>
+  </message>
+  <message id="RULE_LOOSE_CODE_TITLE">
+    <source>Code outside of a bundle</source>
+    <translation>Code außerhalb eines Bundles</translation>
+  </message>
+  <message id="RULE_LOOSE_CODE_RULE">
+    <source>Libraries and programs lie in frameworks and extensions only, laid out as on the phone.</source>
+    <translation>Bibliotheken und Programme liegen nur in Frameworks und Erweiterungen, angeordnet wie auf dem Telefon.</translation>
+  </message>
+  <message id="RULE_LOOSE_CODE_FIX">
+    <source>Embed a framework instead of the bare library.</source>
+    <translation>Ein Framework statt der bloßen Bibliothek einbetten.</translation>
+  </message>
+  <message id="RULE_NESTED_FRAMEWORKS_TITLE">
+    <source>Frameworks inside of a framework or extension</source>
+    <translation>Frameworks in einem Framework oder einer Erweiterung</translation>
+  </message>
+  <message id="RULE_NESTED_FRAMEWORKS_RULE">
+    <source>Only the app itself has a folder of frameworks.</source>
+    <translation>Nur die App selbst hat einen Ordner mit Frameworks.</translation>
+  </message>
+  <message id="RULE_NESTED_FRAMEWORKS_FIX">
+    <source>Embed the frameworks in the app alone.</source>
+    <translation>Die Frameworks allein in die App einbetten.</translation>
+  </message>
+  <message id="RULE_SWIFT_SUPPORT_TITLE">
+    <source>SwiftSupport is missing</source>
+    <translation>SwiftSupport fehlt</translation>
+  </message>
+  <message id="RULE_SWIFT_SUPPORT_RULE">
+    <source>An archive for the store that brings libraries of Swift holds them in SwiftSupport, too.</source>
+    <translation>Ein Archiv für den Store, das Bibliotheken von Swift mitbringt, enthält sie auch in SwiftSupport.</translation>
+  </message>
+  <message id="RULE_SWIFT_SUPPORT_FIX">
+    <source>Export the archive with Xcode instead of packing it by hand.</source>
+    <translation>Das Archiv mit Xcode exportieren, statt es von Hand zu packen.</translation>
+  </message>
+  <message id="RULE_SIGNED_TITLE">
+    <source>Code is not signed</source>
+    <translation>Code ist nicht signiert</translation>
+  </message>
+  <message id="RULE_SIGNED_RULE">
+    <source>All code is signed, and by somebody.</source>
+    <translation>Aller Code ist signiert, und zwar von jemandem.</translation>
+  </message>
+  <message id="RULE_SIGNED_FIX">
+    <source>Sign every nested bundle, then the app.</source>
+    <translation>Jedes innere Bundle signieren, dann die App.</translation>
+  </message>
+  <message id="RULE_SIGNATURE_TITLE">
+    <source>A signature is not valid</source>
+    <translation>Eine Signatur ist ungültig</translation>
+  </message>
+  <message id="RULE_SIGNATURE_RULE">
+    <source>Code, requirements and entitlements are what was signed, with the certificate's key, while it was valid.</source>
+    <translation>Code, Anforderungen und Berechtigungen sind das, was signiert wurde, mit dem Schlüssel des Zertifikats und solange es galt.</translation>
+  </message>
+  <message id="RULE_SIGNATURE_FIX">
+    <source>Sign the app again after the last change.</source>
+    <translation>Die App nach der letzten Änderung neu signieren.</translation>
+  </message>
+  <message id="RULE_SEAL_TITLE">
+    <source>The seal is broken</source>
+    <translation>Das Siegel ist gebrochen</translation>
+  </message>
+  <message id="RULE_SEAL_RULE">
+    <source>Every file of a signed bundle is sealed, unchanged and there.</source>
+    <translation>Jede Datei eines signierten Bundles ist versiegelt, unverändert und vorhanden.</translation>
+  </message>
+  <message id="RULE_SEAL_FIX">
+    <source>Sign the app again after the last change.</source>
+    <translation>Die App nach der letzten Änderung neu signieren.</translation>
+  </message>
+  <message id="RULE_CERTIFICATE_KIND_TITLE">
+    <source>Signed with a certificate for development</source>
+    <translation>Mit einem Zertifikat zur Entwicklung signiert</translation>
+  </message>
+  <message id="RULE_CERTIFICATE_KIND_RULE">
+    <source>An app for the store is signed with a distribution certificate.</source>
+    <translation>Eine App für den Store ist mit einem Vertriebszertifikat signiert.</translation>
+  </message>
+  <message id="RULE_CERTIFICATE_KIND_FIX">
+    <source>Export the archive for the App Store.</source>
+    <translation>Das Archiv für den App Store exportieren.</translation>
+  </message>
+  <message id="RULE_CERTIFICATE_VALIDITY_TITLE">
+    <source>The certificate has ended</source>
+    <translation>Das Zertifikat ist abgelaufen</translation>
+  </message>
+  <message id="RULE_CERTIFICATE_VALIDITY_RULE">
+    <source>The signer's certificate is valid.</source>
+    <translation>Das Zertifikat des Unterzeichners ist gültig.</translation>
+  </message>
+  <message id="RULE_CERTIFICATE_VALIDITY_FIX">
+    <source>Renew the certificate and sign the app again.</source>
+    <translation>Das Zertifikat erneuern und die App neu signieren.</translation>
+  </message>
+  <message id="RULE_CERTIFICATE_PROFILE_TITLE">
+    <source>The profile is for another certificate</source>
+    <translation>Das Profil gehört zu einem anderen Zertifikat</translation>
+  </message>
+  <message id="RULE_CERTIFICATE_PROFILE_RULE">
+    <source>The certificate that signs a bundle is in its profile.</source>
+    <translation>Das Zertifikat, mit dem ein Bundle signiert ist, steht in seinem Profil.</translation>
+  </message>
+  <message id="RULE_CERTIFICATE_PROFILE_FIX">
+    <source>Download the profile again, or sign with its certificate.</source>
+    <translation>Das Profil neu laden oder mit seinem Zertifikat signieren.</translation>
+  </message>
+  <message id="RULE_PROFILE_TITLE">
+    <source>No provisioning profile</source>
+    <translation>Kein Bereitstellungsprofil</translation>
+  </message>
+  <message id="RULE_PROFILE_RULE">
+    <source>The app and each extension bring a profile.</source>
+    <translation>Die App und jede Erweiterung bringen ein Profil mit.</translation>
+  </message>
+  <message id="RULE_PROFILE_FIX">
+    <source>Export the archive for the App Store.</source>
+    <translation>Das Archiv für den App Store exportieren.</translation>
+  </message>
+  <message id="RULE_PROFILE_KIND_TITLE">
+    <source>The profile is not for the store</source>
+    <translation>Das Profil ist nicht für den Store</translation>
+  </message>
+  <message id="RULE_PROFILE_KIND_RULE">
+    <source>The profile of an app for the store names no devices and is not for one company alone.</source>
+    <translation>Das Profil einer App für den Store nennt keine Geräte und ist nicht für ein einzelnes Unternehmen.</translation>
+  </message>
+  <message id="RULE_PROFILE_KIND_FIX">
+    <source>Export the archive for the App Store.</source>
+    <translation>Das Archiv für den App Store exportieren.</translation>
+  </message>
+  <message id="RULE_PROFILE_EXPIRY_TITLE">
+    <source>A profile has ended</source>
+    <translation>Ein Profil ist abgelaufen</translation>
+  </message>
+  <message id="RULE_PROFILE_EXPIRY_RULE">
+    <source>The profiles are valid.</source>
+    <translation>Die Profile sind gültig.</translation>
+  </message>
+  <message id="RULE_PROFILE_EXPIRY_FIX">
+    <source>Download the profiles again and export once more.</source>
+    <translation>Die Profile neu laden und noch einmal exportieren.</translation>
+  </message>
+  <message id="RULE_PROFILE_IDENTIFIER_TITLE">
+    <source>The profile is for another app</source>
+    <translation>Das Profil gehört zu einer anderen App</translation>
+  </message>
+  <message id="RULE_PROFILE_IDENTIFIER_RULE">
+    <source>The identifier in the profile covers the bundle's.</source>
+    <translation>Die Kennung im Profil deckt die des Bundles ab.</translation>
+  </message>
+  <message id="RULE_PROFILE_IDENTIFIER_FIX">
+    <source>Choose the profile of this bundle's identifier.</source>
+    <translation>Das Profil zur Kennung dieses Bundles wählen.</translation>
+  </message>
+  <message id="RULE_TEAM_TITLE">
+    <source>Signature and profile are of different teams</source>
+    <translation>Signatur und Profil sind von verschiedenen Teams</translation>
+  </message>
+  <message id="RULE_TEAM_RULE">
+    <source>Signature, certificate and profile name one team.</source>
+    <translation>Signatur, Zertifikat und Profil nennen ein Team.</translation>
+  </message>
+  <message id="RULE_TEAM_FIX">
+    <source>Sign with the certificate and profile of one team.</source>
+    <translation>Mit Zertifikat und Profil eines Teams signieren.</translation>
+  </message>
+  <message id="RULE_ENTITLEMENTS_TITLE">
+    <source>An entitlement is not granted</source>
+    <translation>Eine Berechtigung ist nicht gewährt</translation>
+  </message>
+  <message id="RULE_ENTITLEMENTS_RULE">
+    <source>The profile grants every entitlement that the signature claims.</source>
+    <translation>Das Profil gewährt jede Berechtigung, die die Signatur beansprucht.</translation>
+  </message>
+  <message id="RULE_ENTITLEMENTS_FIX">
+    <source>Add the capability to the app's identifier and download the profile again, or drop the entitlement.</source>
+    <translation>Der Kennung der App die Fähigkeit hinzufügen und das Profil neu laden, oder die Berechtigung weglassen.</translation>
+  </message>
+  <message id="RULE_DEBUGGABLE_TITLE">
+    <source>The app lets a debugger in</source>
+    <translation>Die App lässt einen Debugger herein</translation>
+  </message>
+  <message id="RULE_DEBUGGABLE_RULE">
+    <source>No code of an app for the store has the entitlement get-task-allow.</source>
+    <translation>Kein Code einer App für den Store hat die Berechtigung get-task-allow.</translation>
+  </message>
+  <message id="RULE_DEBUGGABLE_FIX">
+    <source>Export the archive for the App Store.</source>
+    <translation>Das Archiv für den App Store exportieren.</translation>
+  </message>
+  <message id="RULE_PUSH_TITLE">
+    <source>Push without its entitlement</source>
+    <translation>Push ohne die zugehörige Berechtigung</translation>
+  </message>
+  <message id="RULE_PUSH_RULE">
+    <source>An app that registers for remote notifications has the entitlement aps-environment.</source>
+    <translation>Eine App, die sich für entfernte Mitteilungen anmeldet, hat die Berechtigung aps-environment.</translation>
+  </message>
+  <message id="RULE_PUSH_FIX">
+    <source>Add the capability for push notifications, or remove the call.</source>
+    <translation>Die Fähigkeit für Push-Mitteilungen hinzufügen oder den Aufruf entfernen.</translation>
+  </message>
+  <message id="RULE_PURPOSE_TITLE">
+    <source>A purpose string is missing</source>
+    <translation>Ein Zwecktext fehlt</translation>
+  </message>
+  <message id="RULE_PURPOSE_RULE">
+    <source>An app whose code refers to camera, photos, location or contacts says in its Info.plist what for.</source>
+    <translation>Eine App, deren Code auf Kamera, Fotos, Ort oder Kontakte verweist, sagt in ihrer Info.plist wofür.</translation>
+  </message>
+  <message id="RULE_PURPOSE_FIX">
+    <source>Add the key with a sentence that people understand.</source>
+    <translation>Den Schlüssel mit einem verständlichen Satz aufnehmen.</translation>
+  </message>
+  <message id="RULE_PURPOSE_LIKELY_TITLE">
+    <source>A purpose string is likely missing</source>
+    <translation>Ein Zwecktext fehlt wahrscheinlich</translation>
+  </message>
+  <message id="RULE_PURPOSE_LIKELY_RULE">
+    <source>An app whose code refers to data of other kinds likely has to say in its Info.plist what for.</source>
+    <translation>Eine App, deren Code auf Daten anderer Art verweist, muss wahrscheinlich in ihrer Info.plist sagen wofür.</translation>
+  </message>
+  <message id="RULE_PURPOSE_LIKELY_FIX">
+    <source>Add the key with a sentence that people understand, or remove the class.</source>
+    <translation>Den Schlüssel mit einem verständlichen Satz aufnehmen oder die Klasse entfernen.</translation>
+  </message>
+  <message id="RULE_PURPOSE_EMPTY_TITLE">
+    <source>A purpose string is empty</source>
+    <translation>Ein Zwecktext ist leer</translation>
+  </message>
+  <message id="RULE_PURPOSE_EMPTY_RULE">
+    <source>A purpose string says something.</source>
+    <translation>Ein Zwecktext sagt etwas aus.</translation>
+  </message>
+  <message id="RULE_PURPOSE_EMPTY_FIX">
+    <source>Say in a sentence what the data is for.</source>
+    <translation>In einem Satz sagen, wofür die Daten gebraucht werden.</translation>
+  </message>
+  <message id="RULE_REQUIRED_REASON_TITLE">
+    <source>A use is not declared</source>
+    <translation>Eine Nutzung ist nicht angegeben</translation>
+  </message>
+  <message id="RULE_REQUIRED_REASON_RULE">
+    <source>The use of file times, boot time, disk space, keyboards and user defaults is declared with a reason.</source>
+    <translation>Die Nutzung von Dateizeiten, Startzeit, Speicherplatz, Tastaturen und Benutzervorgaben ist mit einem Grund angegeben.</translation>
+  </message>
+  <message id="RULE_REQUIRED_REASON_FIX">
+    <source>Add the category with a reason to PrivacyInfo.xcprivacy.</source>
+    <translation>Die Kategorie mit einem Grund in PrivacyInfo.xcprivacy aufnehmen.</translation>
+  </message>
+  <message id="RULE_PRIVACY_FORM_TITLE">
+    <source>The privacy manifest is malformed</source>
+    <translation>Das Datenschutzmanifest ist falsch geformt</translation>
+  </message>
+  <message id="RULE_PRIVACY_FORM_RULE">
+    <source>A privacy manifest holds only keys, categories and reasons that are known.</source>
+    <translation>Ein Datenschutzmanifest enthält nur bekannte Schlüssel, Kategorien und Gründe.</translation>
+  </message>
+  <message id="RULE_PRIVACY_FORM_FIX">
+    <source>Correct PrivacyInfo.xcprivacy; Xcode's editor offers the values.</source>
+    <translation>PrivacyInfo.xcprivacy berichtigen; der Editor von Xcode bietet die Werte an.</translation>
+  </message>
+  <message id="RULE_LISTED_KIT_TITLE">
+    <source>A listed kit has no privacy manifest</source>
+    <translation>Ein gelistetes Kit hat kein Datenschutzmanifest</translation>
+  </message>
+  <message id="RULE_LISTED_KIT_RULE">
+    <source>Software kits on the platform's list bring a privacy manifest of their own.</source>
+    <translation>Softwarekits von der Liste der Plattform bringen ein eigenes Datenschutzmanifest mit.</translation>
+  </message>
+  <message id="RULE_LISTED_KIT_FIX">
+    <source>Use a newer version of the kit.</source>
+    <translation>Eine neuere Fassung des Kits verwenden.</translation>
+  </message>
+  <message id="RULE_EXPORT_COMPLIANCE_TITLE">
+    <source>The store asks about encryption at every build</source>
+    <translation>Der Store fragt bei jedem Build nach Verschlüsselung</translation>
+  </message>
+  <message id="RULE_EXPORT_COMPLIANCE_RULE">
+    <source>ITSAppUsesNonExemptEncryption answers the question about export once for all.</source>
+    <translation>ITSAppUsesNonExemptEncryption beantwortet die Exportfrage ein für alle Mal.</translation>
+  </message>
+  <message id="RULE_EXPORT_COMPLIANCE_FIX">
+    <source>Add ITSAppUsesNonExemptEncryption to the Info.plist.</source>
+    <translation>ITSAppUsesNonExemptEncryption in die Info.plist aufnehmen.</translation>
+  </message>
+  <message id="RULE_BACKGROUND_PROCESSING_TITLE">
+    <source>Background processing without task identifiers</source>
+    <translation>Verarbeitung im Hintergrund ohne Aufgabenkennungen</translation>
+  </message>
+  <message id="RULE_BACKGROUND_PROCESSING_RULE">
+    <source>The background mode "processing" needs BGTaskSchedulerPermittedIdentifiers.</source>
+    <translation>Der Hintergrundmodus „processing“ braucht BGTaskSchedulerPermittedIdentifiers.</translation>
+  </message>
+  <message id="RULE_BACKGROUND_PROCESSING_FIX">
+    <source>List the identifiers of the tasks.</source>
+    <translation>Die Kennungen der Aufgaben nennen.</translation>
+  </message>
+  <message id="RULE_ARBITRARY_LOADS_TITLE">
+    <source>Connections without protection are allowed</source>
+    <translation>Ungeschützte Verbindungen sind erlaubt</translation>
+  </message>
+  <message id="RULE_ARBITRARY_LOADS_RULE">
+    <source>NSAllowsArbitraryLoads has to be justified in review.</source>
+    <translation>NSAllowsArbitraryLoads ist bei der Prüfung zu begründen.</translation>
+  </message>
+  <message id="RULE_ARBITRARY_LOADS_FIX">
+    <source>Name the hosts in NSExceptionDomains instead.</source>
+    <translation>Stattdessen die Hosts in NSExceptionDomains nennen.</translation>
+  </message>
+  <message id="RULE_LOCALIZATION_HOLES_TITLE">
+    <source>A language lacks texts</source>
+    <translation>Einer Sprache fehlen Texte</translation>
+  </message>
+  <message id="RULE_LOCALIZATION_HOLES_RULE">
+    <source>Each language of the app has the same tables of texts.</source>
+    <translation>Jede Sprache der App hat dieselben Texttabellen.</translation>
+  </message>
+  <message id="RULE_LOCALIZATION_HOLES_FIX">
+    <source>Add the missing tables, or drop the language.</source>
+    <translation>Die fehlenden Tabellen ergänzen oder die Sprache weglassen.</translation>
+  </message>
+  <message id="RULE_FACEBOOK_TITLE">
+    <source>The Facebook app has no URL scheme</source>
+    <translation>Die Facebook-App hat kein URL-Schema</translation>
+  </message>
+  <message id="RULE_FACEBOOK_RULE">
+    <source>An app that names a FacebookAppID has the URL scheme fb and that number.</source>
+    <translation>Eine App, die eine FacebookAppID nennt, hat das URL-Schema fb und diese Zahl.</translation>
+  </message>
+  <message id="RULE_FACEBOOK_FIX">
+    <source>Add the scheme to CFBundleURLSchemes.</source>
+    <translation>Das Schema in CFBundleURLSchemes aufnehmen.</translation>
+  </message>
+  <message id="RULE_CELLULAR_SIZE_TITLE">
+    <source>Large for a download over the cellular network</source>
+    <translation>Groß für das Laden über Mobilfunk</translation>
+  </message>
+  <message id="RULE_CELLULAR_SIZE_RULE">
+    <source>Phones ask before they load more than 200 MB over the cellular network.</source>
+    <translation>Telefone fragen nach, bevor sie über Mobilfunk mehr als 200 MB laden.</translation>
+  </message>
+  <message id="RULE_CELLULAR_SIZE_FIX">
+    <source>Look for what can be left out.</source>
+    <translation>Nach dem suchen, was sich weglassen lässt.</translation>
+  </message>
+  <message id="RULE_CLASSIC_ICONS_TITLE">
+    <source>An icon of iOS 7 is missing</source>
+    <translation>Ein Icon von iOS 7 fehlt</translation>
+  </message>
+  <message id="RULE_CLASSIC_ICONS_RULE">
+    <source>An app for iOS 7 and before has its icons as files in every size.</source>
+    <translation>Eine App für iOS 7 und davor hat ihre Icons als Dateien in jeder Größe.</translation>
+  </message>
+  <message id="RULE_CLASSIC_ICONS_FIX">
+    <source>Add the missing sizes as files.</source>
+    <translation>Die fehlenden Größen als Dateien hinzufügen.</translation>
+  </message>
+  <message id="RULE_CLASSIC_LAUNCH_IMAGES_TITLE">
+    <source>A launch image of iOS 7 is missing</source>
+    <translation>Ein Startbild von iOS 7 fehlt</translation>
+  </message>
+  <message id="RULE_CLASSIC_LAUNCH_IMAGES_RULE">
+    <source>An app for iOS 7 and before has a launch image for every screen.</source>
+    <translation>Eine App für iOS 7 und davor hat ein Startbild für jeden Bildschirm.</translation>
+  </message>
+  <message id="RULE_CLASSIC_LAUNCH_IMAGES_FIX">
+    <source>Add a picture of one of the sizes.</source>
+    <translation>Ein Bild von einer der Größen hinzufügen.</translation>
+  </message>
+  <message id="RULE_CLASSIC_IDENTIFIER_TITLE">
+    <source>The identifier is not that of the profile</source>
+    <translation>Die Kennung ist nicht die des Profils</translation>
+  </message>
+  <message id="RULE_CLASSIC_IDENTIFIER_RULE">
+    <source>The bundle identifier is the one that the profile is for.</source>
+    <translation>Die Kennung des Bundles ist die, für die das Profil gilt.</translation>
+  </message>
+  <message id="RULE_CLASSIC_IDENTIFIER_FIX">
+    <source>Change the identifier, or sign with the profile that is for it.</source>
+    <translation>Die Kennung ändern oder mit dem zugehörigen Profil signieren.</translation>
+  </message>
+  <message id="RULE_CLASSIC_LOCALIZATIONS_TITLE">
+    <source>There is no localization</source>
+    <translation>Es gibt keine Lokalisierung</translation>
+  </message>
+  <message id="RULE_CLASSIC_LOCALIZATIONS_RULE">
+    <source>The app has a folder for one language at least.</source>
+    <translation>Die App hat einen Ordner für mindestens eine Sprache.</translation>
+  </message>
+  <message id="RULE_CLASSIC_LOCALIZATIONS_FIX">
+    <source>Add a language to the project.</source>
+    <translation>Dem Projekt eine Sprache hinzufügen.</translation>
+  </message>
+  <message id="RULE_SOURCE_STORE">
+    <source>messages of the store's upload check</source>
+    <translation>Meldungen der Annahmeprüfung des Stores</translation>
+  </message>
+  <message id="RULE_SOURCE_ONE_REPORT">
+    <source>one report only</source>
+    <translation>nur ein Bericht</translation>
+  </message>
+  <message id="RULE_SOURCE_SIGNING">
+    <source>TN3125 and the format of code signatures</source>
+    <translation>TN3125 und das Format der Codesignaturen</translation>
+  </message>
+  <message id="RULE_SOURCE_PRIVACY">
+    <source>developer.apple.com, privacy manifest files</source>
+    <translation>developer.apple.com, Datenschutzmanifeste</translation>
+  </message>
+  <message id="RULE_SOURCE_OTHER_TOOLS">
+    <source>lists of other tools</source>
+    <translation>Listen anderer Werkzeuge</translation>
+  </message>
+  <message id="RULE_SOURCE_REVIEWS">
+    <source>reviews</source>
+    <translation>Prüfungen des Stores</translation>
+  </message>
+  <message id="RULE_SOURCE_KITS">
+    <source>developer.apple.com/support/third-party-SDK-requirements</source>
+    <translation>developer.apple.com/support/third-party-SDK-requirements</translation>
+  </message>
+  <message id="RULE_SOURCE_CONNECT">
+    <source>App Store Connect</source>
+    <translation>App Store Connect</translation>
+  </message>
+  <message id="RULE_SOURCE_LANGUAGES">
+    <source>comparison of the languages</source>
+    <translation>Vergleich der Sprachen</translation>
+  </message>
+  <message id="RULE_SOURCE_KIT">
+    <source>the kit's own instructions</source>
+    <translation>Anleitung des Kits</translation>
+  </message>
+  <message id="RULE_SOURCE_SETTINGS">
+    <source>settings of the App Store</source>
+    <translation>Einstellungen des App Store</translation>
+  </message>
+  <message id="RULE_SOURCE_CLASSIC">
+    <source>the rules of iOS 7</source>
+    <translation>die Regeln von iOS 7</translation>
+  </message>
+  <message id="FOUND_NO_SDK">
+    <source>neither the binary nor the Info.plist names an SDK</source>
+    <translation>weder das Programm noch die Info.plist nennt ein SDK</translation>
+  </message>
+  <message id="FOUND_OLD_SDK">
+    <source>built with the SDK of [A], [B] is asked for since [C]</source>
+    <translation>mit dem SDK von [A] gebaut, verlangt wird seit [C] das von [B]</translation>
+  </message>
+  <message id="FOUND_NO_PHONE_OR_PAD">
+    <source>no app for iPhone or iPad</source>
+    <translation>keine App für iPhone oder iPad</translation>
+  </message>
+  <message id="FOUND_UNKNOWN_DAY">
+    <source>nothing is known of what was asked for on that day</source>
+    <translation>was an diesem Tag verlangt wurde, ist nicht bekannt</translation>
+  </message>
+  <message id="FOUND_NOT_ASKED">
+    <source>not asked for on that day</source>
+    <translation>an diesem Tag nicht verlangt</translation>
+  </message>
+  <message id="FOUND_NO_EXECUTABLE_KEY">
+    <source>no CFBundleExecutable</source>
+    <translation>kein CFBundleExecutable</translation>
+  </message>
+  <message id="FOUND_NO_MACHO">
+    <source>no Mach-O file</source>
+    <translation>keine Mach-O-Datei</translation>
+  </message>
+  <message id="FOUND_NOT_THERE">
+    <source>is not there</source>
+    <translation>ist nicht da</translation>
+  </message>
+  <message id="FOUND_LOAD_COMMANDS">
+    <source>load commands that are damaged or lead out of the file</source>
+    <translation>Ladebefehle, die beschädigt sind oder aus der Datei hinausführen</translation>
+  </message>
+  <message id="FOUND_MAC_APP">
+    <source>an app for the Mac</source>
+    <translation>eine App für den Mac</translation>
+  </message>
+  <message id="FOUND_SIMULATOR_SLICE">
+    <source>a slice for the simulator: [A]</source>
+    <translation>ein Teil für den Simulator: [A]</translation>
+  </message>
+  <message id="FOUND_NOT_ALIGNED">
+    <source>[A] of [B] does not begin at a page</source>
+    <translation>[A] von [B] beginnt nicht an einer Seitengrenze</translation>
+  </message>
+  <message id="FOUND_BEFORE_XCODE_16">
+    <source>built with Xcode before 16</source>
+    <translation>mit Xcode vor 16 gebaut</translation>
+  </message>
+  <message id="FOUND_NO_XCODE">
+    <source>the Info.plist does not name the Xcode</source>
+    <translation>die Info.plist nennt kein Xcode</translation>
+  </message>
+  <message id="FOUND_BITCODE">
+    <source>a segment __LLVM for [A]</source>
+    <translation>ein Segment __LLVM für [A]</translation>
+  </message>
+  <message id="FOUND_NO_BINARY">
+    <source>the app's binary cannot be read</source>
+    <translation>das Programm der App ist nicht lesbar</translation>
+  </message>
+  <message id="FOUND_NO_ENCRYPTION_INFO">
+    <source>[A] has no LC_ENCRYPTION_INFO</source>
+    <translation>[A] hat kein LC_ENCRYPTION_INFO</translation>
+  </message>
+  <message id="FOUND_ENCIPHERED">
+    <source>[A] is enciphered already</source>
+    <translation>[A] ist bereits verschlüsselt</translation>
+  </message>
+  <message id="FOUND_WEB_VIEW">
+    <source>imports the class UIWebView</source>
+    <translation>importiert die Klasse UIWebView</translation>
+  </message>
+  <message id="FOUND_NO_MINIMUM">
+    <source>no MinimumOSVersion</source>
+    <translation>keine MinimumOSVersion</translation>
+  </message>
+  <message id="FOUND_MINIMUM_IS">
+    <source>MinimumOSVersion is [A]</source>
+    <translation>MinimumOSVersion ist [A]</translation>
+  </message>
+  <message id="FOUND_NO_FRAMEWORK">
+    <source>there is no framework</source>
+    <translation>es gibt kein Framework</translation>
+  </message>
+  <message id="FOUND_BUILT_OTHERWISE">
+    <source>is built for [A], its Info.plist says [B]</source>
+    <translation>ist für [A] gebaut, seine Info.plist sagt [B]</translation>
+  </message>
+  <message id="FOUND_BUILT_FOR_NEWER">
+    <source>is built for [A], the app for [B]</source>
+    <translation>ist für [A] gebaut, die App für [B]</translation>
+  </message>
+  <message id="FOUND_STATIC_LIBRARY">
+    <source>a static library</source>
+    <translation>eine statische Bibliothek</translation>
+  </message>
+  <message id="FOUND_FILE_TYPE">
+    <source>its type is "[A]"</source>
+    <translation>seine Art ist „[A]“</translation>
+  </message>
+  <message id="FOUND_NO_SWIFT_ENTRY">
+    <source>[A] has no section __swift5_entry</source>
+    <translation>[A] hat keinen Abschnitt __swift5_entry</translation>
+  </message>
+  <message id="FOUND_NO_SUCH_EXTENSION">
+    <source>there is no extension of that kind</source>
+    <translation>es gibt keine Erweiterung dieser Art</translation>
+  </message>
+  <message id="FOUND_LOOSE_CODE">
+    <source>code outside of a bundle of its own</source>
+    <translation>Code außerhalb eines eigenen Bundles</translation>
+  </message>
+  <message id="FOUND_MAC_LAYOUT">
+    <source>a framework laid out as on the Mac</source>
+    <translation>ein Framework, das wie auf dem Mac angeordnet ist</translation>
+  </message>
+  <message id="FOUND_NESTED_FRAMEWORKS">
+    <source>a folder of frameworks inside of nested code</source>
+    <translation>ein Ordner mit Frameworks in innerem Code</translation>
+  </message>
+  <message id="FOUND_NO_STORE_ARCHIVE">
+    <source>no archive for the store</source>
+    <translation>kein Archiv für den Store</translation>
+  </message>
+  <message id="FOUND_NO_SWIFT_SUPPORT">
+    <source>SwiftSupport/iphoneos/[A] is not there</source>
+    <translation>SwiftSupport/iphoneos/[A] ist nicht da</translation>
+  </message>
+  <message id="FOUND_NO_SWIFT_LIBRARIES">
+    <source>it brings no libraries of Swift</source>
+    <translation>es bringt keine Bibliotheken von Swift mit</translation>
+  </message>
+  <message id="FOUND_INFO_UNREADABLE">
+    <source>the Info.plist cannot be read</source>
+    <translation>die Info.plist ist nicht lesbar</translation>
+  </message>
+  <message id="FOUND_ICON_NAMES">
+    <source>the icon files' names do not tell their sizes</source>
+    <translation>die Namen der Icon-Dateien verraten ihre Größen nicht</translation>
+  </message>
+  <message id="FOUND_NO_ICON">
+    <source>no [A] icon of [B] by [B] pixels, neither in the catalog nor as a file</source>
+    <translation>kein Icon für [A] von [B] mal [B] Pixeln, weder im Katalog noch als Datei</translation>
+  </message>
+  <message id="FOUND_NO_PHONE">
+    <source>no app for the iPhone</source>
+    <translation>keine App für das iPhone</translation>
+  </message>
+  <message id="FOUND_BEFORE_IOS_7">
+    <source>it also runs before iOS 7</source>
+    <translation>sie läuft auch vor iOS 7</translation>
+  </message>
+  <message id="FOUND_NO_PAD">
+    <source>no app for the iPad</source>
+    <translation>keine App für das iPad</translation>
+  </message>
+  <message id="FOUND_BEFORE_IOS_11">
+    <source>built with an SDK before iOS 11</source>
+    <translation>mit einem SDK vor iOS 11 gebaut</translation>
+  </message>
+  <message id="FOUND_NO_CATALOG">
+    <source>there is no asset catalog, and so no large icon in one</source>
+    <translation>es gibt keinen Katalog und damit kein großes Icon darin</translation>
+  </message>
+  <message id="FOUND_NO_LARGE_ICON">
+    <source>no icon of 1024 by 1024 pixels</source>
+    <translation>kein Icon von 1024 mal 1024 Pixeln</translation>
+  </message>
+  <message id="FOUND_NO_ICON_NAME">
+    <source>no CFBundleIconName, neither in CFBundleIcons nor by itself</source>
+    <translation>kein CFBundleIconName, weder in CFBundleIcons noch für sich</translation>
+  </message>
+  <message id="FOUND_UNKNOWN_ICON_NAME">
+    <source>CFBundleIconName is "[A]", which the catalog does not hold</source>
+    <translation>CFBundleIconName ist „[A]“, was der Katalog nicht enthält</translation>
+  </message>
+  <message id="FOUND_TRANSLUCENT">
+    <source>"[A]" for [B] has transparent pixels or an alpha channel</source>
+    <translation>„[A]“ für [B] hat durchsichtige Pixel oder einen Alphakanal</translation>
+  </message>
+  <message id="FOUND_NO_LARGE_IN_CATALOG">
+    <source>there is no large icon in a catalog</source>
+    <translation>in keinem Katalog ist ein großes Icon</translation>
+  </message>
+  <message id="FOUND_WHOLE_SCREEN">
+    <source>it asks for the whole screen, or is for no iPad with multitasking</source>
+    <translation>sie verlangt den ganzen Bildschirm oder ist nicht für ein iPad mit Multitasking</translation>
+  </message>
+  <message id="FOUND_LIST_LACKS">
+    <source>[A] lacks [B]</source>
+    <translation>in [A] fehlt [B]</translation>
+  </message>
+  <message id="FOUND_NO_LAUNCH_SCREEN">
+    <source>neither UILaunchStoryboardName nor UILaunchScreen</source>
+    <translation>weder UILaunchStoryboardName noch UILaunchScreen</translation>
+  </message>
+  <message id="FOUND_NONE_READABLE">
+    <source>there is none that can be read</source>
+    <translation>es gibt keine lesbare</translation>
+  </message>
+  <message id="FOUND_PACKAGE_TYPE">
+    <source>CFBundlePackageType is "[A]"</source>
+    <translation>CFBundlePackageType ist „[A]“</translation>
+  </message>
+  <message id="FOUND_NOT_ANNOUNCED">
+    <source>not announced on that day</source>
+    <translation>an diesem Tag nicht angekündigt</translation>
+  </message>
+  <message id="FOUND_INFO_NO_MINIMUM">
+    <source>the Info.plist names no MinimumOSVersion</source>
+    <translation>die Info.plist nennt keine MinimumOSVersion</translation>
+  </message>
+  <message id="FOUND_NO_VERSION">
+    <source>no CFBundleShortVersionString</source>
+    <translation>keine CFBundleShortVersionString</translation>
+  </message>
+  <message id="FOUND_VERSION_IS">
+    <source>CFBundleShortVersionString is "[A]"</source>
+    <translation>CFBundleShortVersionString ist „[A]“</translation>
+  </message>
+  <message id="FOUND_NO_BUILD">
+    <source>no CFBundleVersion</source>
+    <translation>keine CFBundleVersion</translation>
+  </message>
+  <message id="FOUND_BUILD_IS">
+    <source>CFBundleVersion is "[A]"</source>
+    <translation>CFBundleVersion ist „[A]“</translation>
+  </message>
+  <message id="FOUND_OTHER_VERSION">
+    <source>[A] is "[B]", the app's is "[C]"</source>
+    <translation>[A] ist „[B]“, die der App „[C]“</translation>
+  </message>
+  <message id="FOUND_NO_EXTENSION">
+    <source>there is no extension</source>
+    <translation>es gibt keine Erweiterung</translation>
+  </message>
+  <message id="FOUND_IDENTIFIER_TWICE">
+    <source>"[A]" is the identifier of [B], too</source>
+    <translation>„[A]“ ist auch die Kennung von [B]</translation>
+  </message>
+  <message id="FOUND_NO_IDENTIFIER">
+    <source>the app has no identifier</source>
+    <translation>die App hat keine Kennung</translation>
+  </message>
+  <message id="FOUND_IDENTIFIER_OUTSIDE">
+    <source>CFBundleIdentifier is "[A]", not "[B].…"</source>
+    <translation>CFBundleIdentifier ist „[A]“, nicht „[B].…“</translation>
+  </message>
+  <message id="FOUND_NO_NESTED_APP">
+    <source>there is neither an extension nor a watch app</source>
+    <translation>es gibt weder eine Erweiterung noch eine Watch-App</translation>
+  </message>
+  <message id="FOUND_OLDER_DEVICES">
+    <source>it has code for older devices, or runs only on systems without them</source>
+    <translation>sie hat Code für ältere Geräte oder läuft nur auf Systemen ohne solche</translation>
+  </message>
+  <message id="FOUND_NO_ARM64">
+    <source>only 64-bit code, but no arm64 in UIRequiredDeviceCapabilities</source>
+    <translation>nur 64-Bit-Code, aber kein arm64 in UIRequiredDeviceCapabilities</translation>
+  </message>
+  <message id="FOUND_NO_EXPORT_KEY">
+    <source>no ITSAppUsesNonExemptEncryption</source>
+    <translation>kein ITSAppUsesNonExemptEncryption</translation>
+  </message>
+  <message id="FOUND_NO_PROCESSING">
+    <source>it does no processing in the background</source>
+    <translation>sie verarbeitet nichts im Hintergrund</translation>
+  </message>
+  <message id="FOUND_NO_TASKS">
+    <source>UIBackgroundModes holds "processing", but no task identifiers are listed</source>
+    <translation>UIBackgroundModes enthält „processing“, aber es sind keine Aufgabenkennungen genannt</translation>
+  </message>
+  <message id="FOUND_ARBITRARY_LOADS">
+    <source>NSAllowsArbitraryLoads is true</source>
+    <translation>NSAllowsArbitraryLoads ist wahr</translation>
+  </message>
+  <message id="FOUND_NO_FACEBOOK">
+    <source>it names no Facebook app</source>
+    <translation>sie nennt keine Facebook-App</translation>
+  </message>
+  <message id="FOUND_NO_FACEBOOK_SCHEME">
+    <source>FacebookAppID is [A], but no URL scheme is fb[A]</source>
+    <translation>FacebookAppID ist [A], aber kein URL-Schema ist fb[A]</translation>
+  </message>
+  <message id="FOUND_ONE_LANGUAGE">
+    <source>there are not two languages to compare</source>
+    <translation>es gibt keine zwei Sprachen zum Vergleichen</translation>
+  </message>
+  <message id="FOUND_LACKS">
+    <source>lacks [A]</source>
+    <translation>es fehlt [A]</translation>
+  </message>
+  <message id="FOUND_NOT_PACKED">
+    <source>the package is not packed</source>
+    <translation>das Paket ist nicht gepackt</translation>
+  </message>
+  <message id="FOUND_PACKED_SIZE">
+    <source>[A] MB packed</source>
+    <translation>[A] MB gepackt</translation>
+  </message>
+  <message id="FOUND_NO_PURPOSE">
+    <source>no [A], and [B] imports the class [C]</source>
+    <translation>kein [A], und [B] importiert die Klasse [C]</translation>
+  </message>
+  <message id="FOUND_EMPTY_KEY">
+    <source>[A] is empty</source>
+    <translation>[A] ist leer</translation>
+  </message>
+  <message id="FOUND_NO_PHONE_PAD_OR_TV">
+    <source>no app for iPhone, iPad or TV</source>
+    <translation>keine App für iPhone, iPad oder TV</translation>
+  </message>
+  <message id="FOUND_NO_REASON">
+    <source>uses [A], and no manifest gives a reason for [B]</source>
+    <translation>verwendet [A], und kein Manifest gibt einen Grund für [B] an</translation>
+  </message>
+  <message id="FOUND_UNREADABLE">
+    <source>cannot be read</source>
+    <translation>ist nicht lesbar</translation>
+  </message>
+  <message id="FOUND_NO_MANIFEST">
+    <source>there is no privacy manifest</source>
+    <translation>es gibt kein Datenschutzmanifest</translation>
+  </message>
+  <message id="FOUND_NO_PRIVACY_FILE">
+    <source>has no PrivacyInfo.xcprivacy</source>
+    <translation>hat keine PrivacyInfo.xcprivacy</translation>
+  </message>
+  <message id="FOUND_NO_LISTED_KIT">
+    <source>it brings none of the kits that are listed</source>
+    <translation>es bringt keines der gelisteten Kits mit</translation>
+  </message>
+  <message id="FOUND_APP_NOT_SIGNED">
+    <source>the app is not signed</source>
+    <translation>die App ist nicht signiert</translation>
+  </message>
+  <message id="FOUND_NO_PROFILE">
+    <source>there is no provisioning profile that can be read</source>
+    <translation>es gibt kein lesbares Bereitstellungsprofil</translation>
+  </message>
+  <message id="FOUND_SIGNATURE_DAMAGED">
+    <source>the signature is damaged</source>
+    <translation>die Signatur ist beschädigt</translation>
+  </message>
+  <message id="FOUND_SIGNATURE_NESTED">
+    <source>a signature inside a signature</source>
+    <translation>eine Signatur in einer Signatur</translation>
+  </message>
+  <message id="FOUND_SIGNATURE_EMPTY">
+    <source>the signature does not say what was signed</source>
+    <translation>die Signatur sagt nicht, was signiert wurde</translation>
+  </message>
+  <message id="FOUND_UNKNOWN_DIGEST">
+    <source>hashes of an unknown kind</source>
+    <translation>Prüfsummen unbekannter Art</translation>
+  </message>
+  <message id="FOUND_CODE_CHANGED">
+    <source>the code was changed after it was signed</source>
+    <translation>der Code wurde nach dem Signieren geändert</translation>
+  </message>
+  <message id="FOUND_CODE_NOT_COVERED">
+    <source>part of the code is not covered by the signature</source>
+    <translation>ein Teil des Codes ist nicht von der Signatur gedeckt</translation>
+  </message>
+  <message id="FOUND_REQUIREMENTS_CHANGED">
+    <source>the requirements were changed after they were signed</source>
+    <translation>die Anforderungen wurden nach dem Signieren geändert</translation>
+  </message>
+  <message id="FOUND_ENTITLEMENTS_CHANGED">
+    <source>the entitlements were changed after they were signed</source>
+    <translation>die Berechtigungen wurden nach dem Signieren geändert</translation>
+  </message>
+  <message id="FOUND_DER_CHANGED">
+    <source>the entitlements' second form was changed after it was signed</source>
+    <translation>die zweite Form der Berechtigungen wurde nach dem Signieren geändert</translation>
+  </message>
+  <message id="FOUND_FORMS_DIFFER">
+    <source>the two forms of the entitlements say different things</source>
+    <translation>die zwei Formen der Berechtigungen sagen Verschiedenes</translation>
+  </message>
+  <message id="FOUND_ENTITLEMENTS_UNREADABLE">
+    <source>the entitlements cannot be read</source>
+    <translation>die Berechtigungen sind nicht lesbar</translation>
+  </message>
+  <message id="FOUND_MESSAGE_UNREADABLE">
+    <source>the signature's message cannot be read</source>
+    <translation>die Nachricht der Signatur ist nicht lesbar</translation>
+  </message>
+  <message id="FOUND_NO_CERTIFICATE">
+    <source>the signer's certificate is not there</source>
+    <translation>das Zertifikat des Unterzeichners ist nicht da</translation>
+  </message>
+  <message id="FOUND_OTHER_CODE">
+    <source>the signature is about other code</source>
+    <translation>die Signatur gilt anderem Code</translation>
+  </message>
+  <message id="FOUND_OTHER_KEY">
+    <source>not signed with the certificate's key</source>
+    <translation>nicht mit dem Schlüssel des Zertifikats signiert</translation>
+  </message>
+  <message id="FOUND_OTHER_DIRECTORIES">
+    <source>the signature is about other code directories</source>
+    <translation>die Signatur gilt anderen Codeverzeichnissen</translation>
+  </message>
+  <message id="FOUND_OUTSIDE_VALIDITY">
+    <source>signed when the certificate was not valid</source>
+    <translation>signiert, als das Zertifikat nicht gültig war</translation>
+  </message>
+  <message id="FOUND_NOT_SIGNED">
+    <source>is not signed</source>
+    <translation>ist nicht signiert</translation>
+  </message>
+  <message id="FOUND_AD_HOC">
+    <source>is signed by nobody (ad hoc)</source>
+    <translation>ist von niemandem signiert (ad hoc)</translation>
+  </message>
+  <message id="FOUND_NOTHING_SIGNED">
+    <source>nothing is signed</source>
+    <translation>nichts ist signiert</translation>
+  </message>
+  <message id="FOUND_CHANGED">
+    <source>was changed after signing</source>
+    <translation>wurde nach dem Signieren geändert</translation>
+  </message>
+  <message id="FOUND_SEALED_MISSING">
+    <source>was sealed, but is not there</source>
+    <translation>war versiegelt, ist aber nicht da</translation>
+  </message>
+  <message id="FOUND_NOT_SEALED">
+    <source>is there, but was not sealed</source>
+    <translation>ist da, war aber nicht versiegelt</translation>
+  </message>
+  <message id="FOUND_SIGNED_BY">
+    <source>signed by "[A]"</source>
+    <translation>signiert von „[A]“</translation>
+  </message>
+  <message id="FOUND_CERTIFICATE_ENDED">
+    <source>the certificate was valid until [A]</source>
+    <translation>das Zertifikat galt bis [A]</translation>
+  </message>
+  <message id="FOUND_CERTIFICATE_NOT_IN_PROFILE">
+    <source>does not hold the certificate of "[A]"</source>
+    <translation>enthält nicht das Zertifikat von „[A]“</translation>
+  </message>
+  <message id="FOUND_NO_SIGNED_BUNDLE">
+    <source>there is no signed bundle with a profile</source>
+    <translation>es gibt kein signiertes Bundle mit einem Profil</translation>
+  </message>
+  <message id="FOUND_PROFILE_KIND">
+    <source>a profile [A]</source>
+    <translation>ein Profil [A]</translation>
+  </message>
+  <message id="FOUND_PROFILE_ENDED">
+    <source>ended on [A]</source>
+    <translation>lief am [A] ab</translation>
+  </message>
+  <message id="FOUND_PROFILE_FOR">
+    <source>is for [A], the bundle is [B]</source>
+    <translation>gilt für [A], das Bundle ist [B]</translation>
+  </message>
+  <message id="FOUND_TEAM_SIGNED">
+    <source>is signed for the team [A], the profile is of [B]</source>
+    <translation>ist für das Team [A] signiert, das Profil ist von [B]</translation>
+  </message>
+  <message id="FOUND_TEAM_CERTIFICATE">
+    <source>the certificate is of the team [A], the profile of [B]</source>
+    <translation>das Zertifikat ist vom Team [A], das Profil von [B]</translation>
+  </message>
+  <message id="FOUND_NOT_GRANTED">
+    <source>claims [A], which the profile does not grant</source>
+    <translation>beansprucht [A], was das Profil nicht gewährt</translation>
+  </message>
+  <message id="FOUND_DEBUGGABLE">
+    <source>get-task-allow is true</source>
+    <translation>get-task-allow ist wahr</translation>
+  </message>
+  <message id="FOUND_NO_PUSH">
+    <source>sends registerForRemoteNotifications, but has no entitlement aps-environment</source>
+    <translation>sendet registerForRemoteNotifications, hat aber keine Berechtigung aps-environment</translation>
+  </message>
+  <message id="FOUND_UNKNOWN_TYPE">
+    <source>unknown NSPrivacyAccessedAPIType "[A]"</source>
+    <translation>unbekannter NSPrivacyAccessedAPIType „[A]“</translation>
+  </message>
+  <message id="FOUND_NO_REASON_FOR">
+    <source>no reason for [A]</source>
+    <translation>kein Grund für [A]</translation>
+  </message>
+  <message id="FOUND_UNKNOWN_REASON">
+    <source>unknown reason "[A]" for [B]</source>
+    <translation>unbekannter Grund „[A]“ für [B]</translation>
+  </message>
+  <message id="FOUND_UNKNOWN_KEY">
+    <source>unknown key "[A]"</source>
+    <translation>unbekannter Schlüssel „[A]“</translation>
+  </message>
+  <message id="FOUND_TRACKING_NO_BOOLEAN">
+    <source>NSPrivacyTracking is no boolean</source>
+    <translation>NSPrivacyTracking ist kein Wahrheitswert</translation>
+  </message>
+  <message id="FOUND_TYPE_MISSING">
+    <source>a collected data type without NSPrivacyCollectedDataType</source>
+    <translation>eine gesammelte Datenart ohne NSPrivacyCollectedDataType</translation>
+  </message>
+  <message id="FOUND_NO_PURPOSES">
+    <source>no purposes for [A]</source>
+    <translation>keine Zwecke für [A]</translation>
+  </message>
+  <message id="FOUND_TRACKING_EMPTY">
+    <source>NSPrivacyTracking is true, but there are neither domains nor data types</source>
+    <translation>NSPrivacyTracking ist wahr, aber es gibt weder Domains noch Datenarten</translation>
   </message>
   <message id="VALIDATER_NO_PACKAGE_ADVICE">
     <source>An app package is a zip archive that holds the app as a folder NAME.app in its Payload folder. Please choose another file, or export the app again.</source>
@@ -3172,6 +4600,10 @@
   <message id="CLI_DIFF_NEW">
     <source>The package as it is</source>
     <translation>Das Paket, wie es ist</translation>
+  </message>
+  <message id="CLI_DIFF_FAIL_ON">
+    <source>The least severe finding that the new package has and the old one has not, and that makes the status 1; never is the default</source>
+    <translation>Der leichteste Befund, den das neue Paket hat und das alte nicht, und der zum Status 1 führt; die Vorgabe ist never</translation>
   </message>
   <message id="CLI_DIFF_FACTS">
     <source>Facts</source>

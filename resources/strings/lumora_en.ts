@@ -2047,24 +2047,24 @@
     <translation>1 error</translation>
   </message>
   <message id="FINDINGS_ERRORS">
-    <source>[COUNT] errors</source>
-    <translation>[COUNT] errors</translation>
+    <source>[A] errors</source>
+    <translation>[A] errors</translation>
   </message>
   <message id="FINDINGS_ONE_WARNING">
     <source>1 warning</source>
     <translation>1 warning</translation>
   </message>
   <message id="FINDINGS_WARNINGS">
-    <source>[COUNT] warnings</source>
-    <translation>[COUNT] warnings</translation>
+    <source>[A] warnings</source>
+    <translation>[A] warnings</translation>
   </message>
   <message id="FINDINGS_ONE_NOTE">
     <source>1 note</source>
     <translation>1 note</translation>
   </message>
   <message id="FINDINGS_NOTES">
-    <source>[COUNT] notes</source>
-    <translation>[COUNT] notes</translation>
+    <source>[A] notes</source>
+    <translation>[A] notes</translation>
   </message>
   <message id="FINDINGS_ERROR">
     <source>Error</source>
@@ -2373,6 +2373,1434 @@
   <message id="REVIEW_MODELS_TIP">
     <source>Open the device tool with what the package asks for</source>
     <translation>Open the device tool with what the package asks for</translation>
+  </message>
+  <message id="RULE_ARM64_MINIMUM_TITLE">
+    <source>The minimum system is likely too old for arm64</source>
+    <translation>The minimum system is likely too old for arm64</translation>
+  </message>
+  <message id="RULE_ARM64_MINIMUM_RULE">
+    <source>An app that lists arm64 among its required capabilities names a system that devices with 64-bit code run: 7.0 or more.</source>
+    <translation>An app that lists arm64 among its required capabilities names a system that devices with 64-bit code run: 7.0 or more.</translation>
+  </message>
+  <message id="RULE_ARM64_MINIMUM_FIX">
+    <source>Raise the deployment target, or take arm64 out of UIRequiredDeviceCapabilities.</source>
+    <translation>Raise the deployment target, or take arm64 out of UIRequiredDeviceCapabilities.</translation>
+  </message>
+  <message id="RULE_PRIVATE_NAMES_TITLE">
+    <source>Private functions of the system</source>
+    <translation>Private functions of the system</translation>
+  </message>
+  <message id="RULE_PRIVATE_NAMES_RULE">
+    <source>Apps link no private framework and call no function that is known to be private.</source>
+    <translation>Apps link no private framework and call no function that is known to be private.</translation>
+  </message>
+  <message id="RULE_PRIVATE_NAMES_FIX">
+    <source>Use the public counterpart, or a newer version of the library that calls it.</source>
+    <translation>Use the public counterpart, or a newer version of the library that calls it.</translation>
+  </message>
+  <message id="RULE_LISTED_KIT_SIGNATURE_TITLE">
+    <source>A listed kit is likely not signed by its maker</source>
+    <translation>A listed kit is likely not signed by its maker</translation>
+  </message>
+  <message id="RULE_LISTED_KIT_SIGNATURE_RULE">
+    <source>A kit on the platform's list that is added as a finished binary is signed by its maker, and the archive holds the receipt in Signatures.</source>
+    <translation>A kit on the platform's list that is added as a finished binary is signed by its maker, and the archive holds the receipt in Signatures.</translation>
+  </message>
+  <message id="RULE_LISTED_KIT_SIGNATURE_FIX">
+    <source>Use the maker's signed xcframework and export the archive with Xcode. A kit that is built from its sources needs no receipt.</source>
+    <translation>Use the maker's signed xcframework and export the archive with Xcode. A kit that is built from its sources needs no receipt.</translation>
+  </message>
+  <message id="FOUND_ARM64_NOT_LISTED">
+    <source>it does not list arm64</source>
+    <translation>it does not list arm64</translation>
+  </message>
+  <message id="FOUND_ARM64_MINIMUM">
+    <source>arm64 is listed, but MinimumOSVersion is [A]</source>
+    <translation>arm64 is listed, but MinimumOSVersion is [A]</translation>
+  </message>
+  <message id="FOUND_PRIVATE_FRAMEWORK">
+    <source>links the private framework [A]</source>
+    <translation>links the private framework [A]</translation>
+  </message>
+  <message id="FOUND_PRIVATE_SYMBOL">
+    <source>imports the private name [A]</source>
+    <translation>imports the private name [A]</translation>
+  </message>
+  <message id="FOUND_NO_RECEIPT">
+    <source>there is no receipt [A]…</source>
+    <translation>there is no receipt [A]…</translation>
+  </message>
+  <message id="SEVERITY_ERROR">
+    <source>error</source>
+    <translation>error</translation>
+  </message>
+  <message id="SEVERITY_WARNING">
+    <source>warning</source>
+    <translation>warning</translation>
+  </message>
+  <message id="SEVERITY_NOTE">
+    <source>note</source>
+    <translation>note</translation>
+  </message>
+  <message id="CLI_RULES_SEVERITY">
+    <source>severity</source>
+    <translation>severity</translation>
+  </message>
+  <message id="CLI_RULES_TITLE">
+    <source>title</source>
+    <translation>title</translation>
+  </message>
+  <message id="CLI_RULES_RULE">
+    <source>rule</source>
+    <translation>rule</translation>
+  </message>
+  <message id="CLI_RULES_FIX">
+    <source>fix</source>
+    <translation>fix</translation>
+  </message>
+  <message id="CLI_RULES_SOURCE">
+    <source>source</source>
+    <translation>source</translation>
+  </message>
+  <message id="CLI_RULES_SINCE">
+    <source>since</source>
+    <translation>since</translation>
+  </message>
+  <message id="CLI_DIFF_ALL">
+    <source>all</source>
+    <translation>all</translation>
+  </message>
+  <message id="HTML_LANGUAGE">
+    <source>en</source>
+    <translation>en</translation>
+  </message>
+  <message id="HTML_PACKAGES">
+    <source>Packages</source>
+    <translation>Packages</translation>
+  </message>
+  <message id="HTML_FACTS">
+    <source>Facts</source>
+    <translation>Facts</translation>
+  </message>
+  <message id="HTML_ONE_FILE">
+    <source>1 file</source>
+    <translation>1 file</translation>
+  </message>
+  <message id="HTML_FILES">
+    <source>[A] files</source>
+    <translation>[A] files</translation>
+  </message>
+  <message id="HTML_MORE">
+    <source>[A] more</source>
+    <translation>[A] more</translation>
+  </message>
+  <message id="HTML_NAME">
+    <source>Name</source>
+    <translation>Name</translation>
+  </message>
+  <message id="HTML_VERSION">
+    <source>Version</source>
+    <translation>Version</translation>
+  </message>
+  <message id="HTML_PLATFORM">
+    <source>Platform</source>
+    <translation>Platform</translation>
+  </message>
+  <message id="HTML_MINIMUM_SYSTEM">
+    <source>Minimum system</source>
+    <translation>Minimum system</translation>
+  </message>
+  <message id="HTML_IDENTIFIER">
+    <source>Identifier</source>
+    <translation>Identifier</translation>
+  </message>
+  <message id="HTML_BUILD">
+    <source>Build</source>
+    <translation>Build</translation>
+  </message>
+  <message id="HTML_URL_SCHEMES">
+    <source>URL schemes</source>
+    <translation>URL schemes</translation>
+  </message>
+  <message id="HTML_FACEBOOK">
+    <source>Facebook</source>
+    <translation>Facebook</translation>
+  </message>
+  <message id="HTML_EXPIRES">
+    <source>Expires</source>
+    <translation>Expires</translation>
+  </message>
+  <message id="RULE_ICON_PHONE_TITLE">
+    <source>No icon for the iPhone</source>
+    <translation>No icon for the iPhone</translation>
+  </message>
+  <message id="RULE_ICON_PHONE_RULE">
+    <source>An iPhone app for iOS 7 or newer has an icon of 120 by 120 pixels, in the catalog or as a file.</source>
+    <translation>An iPhone app for iOS 7 or newer has an icon of 120 by 120 pixels, in the catalog or as a file.</translation>
+  </message>
+  <message id="RULE_ICON_PHONE_FIX">
+    <source>Give the app icon set a picture of 1024 pixels, or add the size of 120.</source>
+    <translation>Give the app icon set a picture of 1024 pixels, or add the size of 120.</translation>
+  </message>
+  <message id="RULE_ICON_PAD_TITLE">
+    <source>No icon for the iPad</source>
+    <translation>No icon for the iPad</translation>
+  </message>
+  <message id="RULE_ICON_PAD_RULE">
+    <source>An iPad app for iOS 7 or newer has an icon of 152 by 152 pixels, in the catalog or as a file.</source>
+    <translation>An iPad app for iOS 7 or newer has an icon of 152 by 152 pixels, in the catalog or as a file.</translation>
+  </message>
+  <message id="RULE_ICON_PAD_FIX">
+    <source>Give the app icon set a picture of 1024 pixels, or add the size of 152.</source>
+    <translation>Give the app icon set a picture of 1024 pixels, or add the size of 152.</translation>
+  </message>
+  <message id="RULE_ICON_MARKETING_TITLE">
+    <source>No large icon</source>
+    <translation>No large icon</translation>
+  </message>
+  <message id="RULE_ICON_MARKETING_RULE">
+    <source>The asset catalog holds an icon of 1024 by 1024 pixels.</source>
+    <translation>The asset catalog holds an icon of 1024 by 1024 pixels.</translation>
+  </message>
+  <message id="RULE_ICON_MARKETING_FIX">
+    <source>Add a picture of 1024 pixels to the app icon set.</source>
+    <translation>Add a picture of 1024 pixels to the app icon set.</translation>
+  </message>
+  <message id="RULE_ICON_NAME_TITLE">
+    <source>The icon set is not named</source>
+    <translation>The icon set is not named</translation>
+  </message>
+  <message id="RULE_ICON_NAME_RULE">
+    <source>An app built with the SDK of iOS 11 or newer names its icon set by CFBundleIconName.</source>
+    <translation>An app built with the SDK of iOS 11 or newer names its icon set by CFBundleIconName.</translation>
+  </message>
+  <message id="RULE_ICON_NAME_FIX">
+    <source>Set ASSETCATALOG_COMPILER_APPICON_NAME to the name of the app icon set and build again.</source>
+    <translation>Set ASSETCATALOG_COMPILER_APPICON_NAME to the name of the app icon set and build again.</translation>
+  </message>
+  <message id="RULE_ICON_OPAQUE_TITLE">
+    <source>The large icon is translucent</source>
+    <translation>The large icon is translucent</translation>
+  </message>
+  <message id="RULE_ICON_OPAQUE_RULE">
+    <source>The icon of 1024 pixels has neither transparent pixels nor an alpha channel.</source>
+    <translation>The icon of 1024 pixels has neither transparent pixels nor an alpha channel.</translation>
+  </message>
+  <message id="RULE_ICON_OPAQUE_FIX">
+    <source>Flatten the picture onto a color and save it without alpha channel.</source>
+    <translation>Flatten the picture onto a color and save it without alpha channel.</translation>
+  </message>
+  <message id="RULE_PAD_ORIENTATIONS_TITLE">
+    <source>The iPad app does not turn into every direction</source>
+    <translation>The iPad app does not turn into every direction</translation>
+  </message>
+  <message id="RULE_PAD_ORIENTATIONS_RULE">
+    <source>An iPad app that does not ask for the whole screen lists all four orientations.</source>
+    <translation>An iPad app that does not ask for the whole screen lists all four orientations.</translation>
+  </message>
+  <message id="RULE_PAD_ORIENTATIONS_FIX">
+    <source>List all four in UISupportedInterfaceOrientations~ipad, or set UIRequiresFullScreen.</source>
+    <translation>List all four in UISupportedInterfaceOrientations~ipad, or set UIRequiresFullScreen.</translation>
+  </message>
+  <message id="RULE_LAUNCH_SCREEN_TITLE">
+    <source>No launch screen</source>
+    <translation>No launch screen</translation>
+  </message>
+  <message id="RULE_LAUNCH_SCREEN_RULE">
+    <source>An iPad app that does not ask for the whole screen has a launch storyboard or UILaunchScreen.</source>
+    <translation>An iPad app that does not ask for the whole screen has a launch storyboard or UILaunchScreen.</translation>
+  </message>
+  <message id="RULE_LAUNCH_SCREEN_FIX">
+    <source>Add UILaunchStoryboardName or UILaunchScreen to the Info.plist.</source>
+    <translation>Add UILaunchStoryboardName or UILaunchScreen to the Info.plist.</translation>
+  </message>
+  <message id="RULE_PACKAGE_TYPE_TITLE">
+    <source>The bundle is not marked as an app</source>
+    <translation>The bundle is not marked as an app</translation>
+  </message>
+  <message id="RULE_PACKAGE_TYPE_RULE">
+    <source>CFBundlePackageType of the app is APPL.</source>
+    <translation>CFBundlePackageType of the app is APPL.</translation>
+  </message>
+  <message id="RULE_PACKAGE_TYPE_FIX">
+    <source>Set CFBundlePackageType to APPL.</source>
+    <translation>Set CFBundlePackageType to APPL.</translation>
+  </message>
+  <message id="RULE_MINIMUM_SYSTEM_TITLE">
+    <source>The minimum system is likely too old</source>
+    <translation>The minimum system is likely too old</translation>
+  </message>
+  <message id="RULE_MINIMUM_SYSTEM_RULE">
+    <source>An app is likely to need a MinimumOSVersion of 15.0 or more from spring 2027 on.</source>
+    <translation>An app is likely to need a MinimumOSVersion of 15.0 or more from spring 2027 on.</translation>
+  </message>
+  <message id="RULE_MINIMUM_SYSTEM_FIX">
+    <source>Raise the deployment target to 15.0.</source>
+    <translation>Raise the deployment target to 15.0.</translation>
+  </message>
+  <message id="RULE_NESTED_VERSION_TITLE">
+    <source>A version is missing or malformed</source>
+    <translation>A version is missing or malformed</translation>
+  </message>
+  <message id="RULE_NESTED_VERSION_RULE">
+    <source>The app and each bundle in it have a CFBundleShortVersionString of one to three numbers and a CFBundleVersion.</source>
+    <translation>The app and each bundle in it have a CFBundleShortVersionString of one to three numbers and a CFBundleVersion.</translation>
+  </message>
+  <message id="RULE_NESTED_VERSION_FIX">
+    <source>Set both in the bundle's Info.plist, as in 2.1.0.</source>
+    <translation>Set both in the bundle's Info.plist, as in 2.1.0.</translation>
+  </message>
+  <message id="RULE_EXTENSION_VERSION_TITLE">
+    <source>An extension has another version than the app</source>
+    <translation>An extension has another version than the app</translation>
+  </message>
+  <message id="RULE_EXTENSION_VERSION_RULE">
+    <source>The versions of an extension are those of its app.</source>
+    <translation>The versions of an extension are those of its app.</translation>
+  </message>
+  <message id="RULE_EXTENSION_VERSION_FIX">
+    <source>Set both versions of the extension to the app's.</source>
+    <translation>Set both versions of the extension to the app's.</translation>
+  </message>
+  <message id="RULE_IDENTIFIER_ONCE_TITLE">
+    <source>Two bundles have one identifier</source>
+    <translation>Two bundles have one identifier</translation>
+  </message>
+  <message id="RULE_IDENTIFIER_ONCE_RULE">
+    <source>Each CFBundleIdentifier in the package is there once.</source>
+    <translation>Each CFBundleIdentifier in the package is there once.</translation>
+  </message>
+  <message id="RULE_IDENTIFIER_ONCE_FIX">
+    <source>Give one of the bundles another identifier.</source>
+    <translation>Give one of the bundles another identifier.</translation>
+  </message>
+  <message id="RULE_NESTED_IDENTIFIER_TITLE">
+    <source>An extension's identifier does not begin with the app's</source>
+    <translation>An extension's identifier does not begin with the app's</translation>
+  </message>
+  <message id="RULE_NESTED_IDENTIFIER_RULE">
+    <source>The identifier of an extension or watch app is the app's, a dot and a name of its own.</source>
+    <translation>The identifier of an extension or watch app is the app's, a dot and a name of its own.</translation>
+  </message>
+  <message id="RULE_NESTED_IDENTIFIER_FIX">
+    <source>Change the CFBundleIdentifier of the nested bundle.</source>
+    <translation>Change the CFBundleIdentifier of the nested bundle.</translation>
+  </message>
+  <message id="RULE_ARM64_CAPABILITY_TITLE">
+    <source>64-bit code alone, but arm64 is not asked for</source>
+    <translation>64-bit code alone, but arm64 is not asked for</translation>
+  </message>
+  <message id="RULE_ARM64_CAPABILITY_RULE">
+    <source>An app without 32-bit code that runs on systems before iOS 11 lists arm64 among its required capabilities.</source>
+    <translation>An app without 32-bit code that runs on systems before iOS 11 lists arm64 among its required capabilities.</translation>
+  </message>
+  <message id="RULE_ARM64_CAPABILITY_FIX">
+    <source>Add arm64 to UIRequiredDeviceCapabilities, or raise the deployment target.</source>
+    <translation>Add arm64 to UIRequiredDeviceCapabilities, or raise the deployment target.</translation>
+  </message>
+  <message id="RULE_SDK_AGE_TITLE">
+    <source>Built with an SDK that is too old</source>
+    <translation>Built with an SDK that is too old</translation>
+  </message>
+  <message id="RULE_SDK_AGE_RULE">
+    <source>Apps are built with the SDK of iOS 18 since April 2025, and with that of iOS 26 since April 2026.</source>
+    <translation>Apps are built with the SDK of iOS 18 since April 2025, and with that of iOS 26 since April 2026.</translation>
+  </message>
+  <message id="RULE_SDK_AGE_FIX">
+    <source>Build with the current Xcode.</source>
+    <translation>Build with the current Xcode.</translation>
+  </message>
+  <message id="RULE_SDK_AGE_NEXT_TITLE">
+    <source>Likely built with an SDK that is too old</source>
+    <translation>Likely built with an SDK that is too old</translation>
+  </message>
+  <message id="RULE_SDK_AGE_NEXT_RULE">
+    <source>Apps are likely to need the SDK of iOS 27 from April 2027 on.</source>
+    <translation>Apps are likely to need the SDK of iOS 27 from April 2027 on.</translation>
+  </message>
+  <message id="RULE_SDK_AGE_NEXT_FIX">
+    <source>Build with Xcode 27.</source>
+    <translation>Build with Xcode 27.</translation>
+  </message>
+  <message id="RULE_EXECUTABLE_TITLE">
+    <source>Code is missing or damaged</source>
+    <translation>Code is missing or damaged</translation>
+  </message>
+  <message id="RULE_EXECUTABLE_RULE">
+    <source>Each bundle of code has the binary that its Info.plist names, and every binary can be read to its end.</source>
+    <translation>Each bundle of code has the binary that its Info.plist names, and every binary can be read to its end.</translation>
+  </message>
+  <message id="RULE_EXECUTABLE_FIX">
+    <source>Build and export the app again.</source>
+    <translation>Build and export the app again.</translation>
+  </message>
+  <message id="RULE_SIMULATOR_CODE_TITLE">
+    <source>Code for the simulator</source>
+    <translation>Code for the simulator</translation>
+  </message>
+  <message id="RULE_SIMULATOR_CODE_RULE">
+    <source>No binary holds a slice for the simulator (i386, x86_64).</source>
+    <translation>No binary holds a slice for the simulator (i386, x86_64).</translation>
+  </message>
+  <message id="RULE_SIMULATOR_CODE_FIX">
+    <source>Link the library's device slice only, or its xcframework.</source>
+    <translation>Link the library's device slice only, or its xcframework.</translation>
+  </message>
+  <message id="RULE_ALIGNMENT_TITLE">
+    <source>A segment is not aligned</source>
+    <translation>A segment is not aligned</translation>
+  </message>
+  <message id="RULE_ALIGNMENT_RULE">
+    <source>Each segment of a binary begins at a page.</source>
+    <translation>Each segment of a binary begins at a page.</translation>
+  </message>
+  <message id="RULE_ALIGNMENT_FIX">
+    <source>Link the binary again with the platform's own tools.</source>
+    <translation>Link the binary again with the platform's own tools.</translation>
+  </message>
+  <message id="RULE_BITCODE_TITLE">
+    <source>Bitcode</source>
+    <translation>Bitcode</translation>
+  </message>
+  <message id="RULE_BITCODE_RULE">
+    <source>A package built with Xcode 16 or newer holds no bitcode.</source>
+    <translation>A package built with Xcode 16 or newer holds no bitcode.</translation>
+  </message>
+  <message id="RULE_BITCODE_FIX">
+    <source>Strip it with "bitcode_strip -r", or use a newer build of the library.</source>
+    <translation>Strip it with "bitcode_strip -r", or use a newer build of the library.</translation>
+  </message>
+  <message id="RULE_ENCRYPTION_INFO_TITLE">
+    <source>The store cannot encipher the binary</source>
+    <translation>The store cannot encipher the binary</translation>
+  </message>
+  <message id="RULE_ENCRYPTION_INFO_RULE">
+    <source>The app's binary has an LC_ENCRYPTION_INFO and is not enciphered yet.</source>
+    <translation>The app's binary has an LC_ENCRYPTION_INFO and is not enciphered yet.</translation>
+  </message>
+  <message id="RULE_ENCRYPTION_INFO_FIX">
+    <source>Export the app from its archive instead of from a device, without a packer.</source>
+    <translation>Export the app from its archive instead of from a device, without a packer.</translation>
+  </message>
+  <message id="RULE_WEB_VIEW_TITLE">
+    <source>UIWebView</source>
+    <translation>UIWebView</translation>
+  </message>
+  <message id="RULE_WEB_VIEW_RULE">
+    <source>No code refers to the class UIWebView.</source>
+    <translation>No code refers to the class UIWebView.</translation>
+  </message>
+  <message id="RULE_WEB_VIEW_FIX">
+    <source>Use WKWebView, and libraries that do.</source>
+    <translation>Use WKWebView, and libraries that do.</translation>
+  </message>
+  <message id="RULE_FRAMEWORK_MINIMUM_TITLE">
+    <source>A framework's minimum system is missing or too old</source>
+    <translation>A framework's minimum system is missing or too old</translation>
+  </message>
+  <message id="RULE_FRAMEWORK_MINIMUM_RULE">
+    <source>The MinimumOSVersion of a framework is there, and 8.0 or more.</source>
+    <translation>The MinimumOSVersion of a framework is there, and 8.0 or more.</translation>
+  </message>
+  <message id="RULE_FRAMEWORK_MINIMUM_FIX">
+    <source>Add MinimumOSVersion to the framework's Info.plist.</source>
+    <translation>Add MinimumOSVersion to the framework's Info.plist.</translation>
+  </message>
+  <message id="RULE_FRAMEWORK_SYSTEM_TITLE">
+    <source>A framework is built for another system than it says</source>
+    <translation>A framework is built for another system than it says</translation>
+  </message>
+  <message id="RULE_FRAMEWORK_SYSTEM_RULE">
+    <source>A framework's binary is built for the system that its Info.plist names, and for none newer than the app's.</source>
+    <translation>A framework's binary is built for the system that its Info.plist names, and for none newer than the app's.</translation>
+  </message>
+  <message id="RULE_FRAMEWORK_SYSTEM_FIX">
+    <source>Build the framework with the app's deployment target.</source>
+    <translation>Build the framework with the app's deployment target.</translation>
+  </message>
+  <message id="RULE_FRAMEWORK_TYPE_TITLE">
+    <source>A framework is no dynamic library</source>
+    <translation>A framework is no dynamic library</translation>
+  </message>
+  <message id="RULE_FRAMEWORK_TYPE_RULE">
+    <source>The binary of a framework is a dynamic library.</source>
+    <translation>The binary of a framework is a dynamic library.</translation>
+  </message>
+  <message id="RULE_FRAMEWORK_TYPE_FIX">
+    <source>Link the static library into the app, and do not embed it.</source>
+    <translation>Link the static library into the app, and do not embed it.</translation>
+  </message>
+  <message id="RULE_SWIFT_ENTRY_TITLE">
+    <source>An extension likely has no entry point</source>
+    <translation>An extension likely has no entry point</translation>
+  </message>
+  <message id="RULE_SWIFT_ENTRY_RULE">
+    <source>An extension of the newer kind has a section __swift5_entry.</source>
+    <translation>An extension of the newer kind has a section __swift5_entry.</translation>
+  </message>
+  <message id="RULE_SWIFT_ENTRY_FIX">
+    <source>Mark its type with @main and build again.</source>
+    <translation>Mark its type with @main and build again.</translation>
+  </message>
+  <message id="RULE_LOOSE_CODE_TITLE">
+    <source>Code outside of a bundle</source>
+    <translation>Code outside of a bundle</translation>
+  </message>
+  <message id="RULE_LOOSE_CODE_RULE">
+    <source>Libraries and programs lie in frameworks and extensions only, laid out as on the phone.</source>
+    <translation>Libraries and programs lie in frameworks and extensions only, laid out as on the phone.</translation>
+  </message>
+  <message id="RULE_LOOSE_CODE_FIX">
+    <source>Embed a framework instead of the bare library.</source>
+    <translation>Embed a framework instead of the bare library.</translation>
+  </message>
+  <message id="RULE_NESTED_FRAMEWORKS_TITLE">
+    <source>Frameworks inside of a framework or extension</source>
+    <translation>Frameworks inside of a framework or extension</translation>
+  </message>
+  <message id="RULE_NESTED_FRAMEWORKS_RULE">
+    <source>Only the app itself has a folder of frameworks.</source>
+    <translation>Only the app itself has a folder of frameworks.</translation>
+  </message>
+  <message id="RULE_NESTED_FRAMEWORKS_FIX">
+    <source>Embed the frameworks in the app alone.</source>
+    <translation>Embed the frameworks in the app alone.</translation>
+  </message>
+  <message id="RULE_SWIFT_SUPPORT_TITLE">
+    <source>SwiftSupport is missing</source>
+    <translation>SwiftSupport is missing</translation>
+  </message>
+  <message id="RULE_SWIFT_SUPPORT_RULE">
+    <source>An archive for the store that brings libraries of Swift holds them in SwiftSupport, too.</source>
+    <translation>An archive for the store that brings libraries of Swift holds them in SwiftSupport, too.</translation>
+  </message>
+  <message id="RULE_SWIFT_SUPPORT_FIX">
+    <source>Export the archive with Xcode instead of packing it by hand.</source>
+    <translation>Export the archive with Xcode instead of packing it by hand.</translation>
+  </message>
+  <message id="RULE_SIGNED_TITLE">
+    <source>Code is not signed</source>
+    <translation>Code is not signed</translation>
+  </message>
+  <message id="RULE_SIGNED_RULE">
+    <source>All code is signed, and by somebody.</source>
+    <translation>All code is signed, and by somebody.</translation>
+  </message>
+  <message id="RULE_SIGNED_FIX">
+    <source>Sign every nested bundle, then the app.</source>
+    <translation>Sign every nested bundle, then the app.</translation>
+  </message>
+  <message id="RULE_SIGNATURE_TITLE">
+    <source>A signature is not valid</source>
+    <translation>A signature is not valid</translation>
+  </message>
+  <message id="RULE_SIGNATURE_RULE">
+    <source>Code, requirements and entitlements are what was signed, with the certificate's key, while it was valid.</source>
+    <translation>Code, requirements and entitlements are what was signed, with the certificate's key, while it was valid.</translation>
+  </message>
+  <message id="RULE_SIGNATURE_FIX">
+    <source>Sign the app again after the last change.</source>
+    <translation>Sign the app again after the last change.</translation>
+  </message>
+  <message id="RULE_SEAL_TITLE">
+    <source>The seal is broken</source>
+    <translation>The seal is broken</translation>
+  </message>
+  <message id="RULE_SEAL_RULE">
+    <source>Every file of a signed bundle is sealed, unchanged and there.</source>
+    <translation>Every file of a signed bundle is sealed, unchanged and there.</translation>
+  </message>
+  <message id="RULE_SEAL_FIX">
+    <source>Sign the app again after the last change.</source>
+    <translation>Sign the app again after the last change.</translation>
+  </message>
+  <message id="RULE_CERTIFICATE_KIND_TITLE">
+    <source>Signed with a certificate for development</source>
+    <translation>Signed with a certificate for development</translation>
+  </message>
+  <message id="RULE_CERTIFICATE_KIND_RULE">
+    <source>An app for the store is signed with a distribution certificate.</source>
+    <translation>An app for the store is signed with a distribution certificate.</translation>
+  </message>
+  <message id="RULE_CERTIFICATE_KIND_FIX">
+    <source>Export the archive for the App Store.</source>
+    <translation>Export the archive for the App Store.</translation>
+  </message>
+  <message id="RULE_CERTIFICATE_VALIDITY_TITLE">
+    <source>The certificate has ended</source>
+    <translation>The certificate has ended</translation>
+  </message>
+  <message id="RULE_CERTIFICATE_VALIDITY_RULE">
+    <source>The signer's certificate is valid.</source>
+    <translation>The signer's certificate is valid.</translation>
+  </message>
+  <message id="RULE_CERTIFICATE_VALIDITY_FIX">
+    <source>Renew the certificate and sign the app again.</source>
+    <translation>Renew the certificate and sign the app again.</translation>
+  </message>
+  <message id="RULE_CERTIFICATE_PROFILE_TITLE">
+    <source>The profile is for another certificate</source>
+    <translation>The profile is for another certificate</translation>
+  </message>
+  <message id="RULE_CERTIFICATE_PROFILE_RULE">
+    <source>The certificate that signs a bundle is in its profile.</source>
+    <translation>The certificate that signs a bundle is in its profile.</translation>
+  </message>
+  <message id="RULE_CERTIFICATE_PROFILE_FIX">
+    <source>Download the profile again, or sign with its certificate.</source>
+    <translation>Download the profile again, or sign with its certificate.</translation>
+  </message>
+  <message id="RULE_PROFILE_TITLE">
+    <source>No provisioning profile</source>
+    <translation>No provisioning profile</translation>
+  </message>
+  <message id="RULE_PROFILE_RULE">
+    <source>The app and each extension bring a profile.</source>
+    <translation>The app and each extension bring a profile.</translation>
+  </message>
+  <message id="RULE_PROFILE_FIX">
+    <source>Export the archive for the App Store.</source>
+    <translation>Export the archive for the App Store.</translation>
+  </message>
+  <message id="RULE_PROFILE_KIND_TITLE">
+    <source>The profile is not for the store</source>
+    <translation>The profile is not for the store</translation>
+  </message>
+  <message id="RULE_PROFILE_KIND_RULE">
+    <source>The profile of an app for the store names no devices and is not for one company alone.</source>
+    <translation>The profile of an app for the store names no devices and is not for one company alone.</translation>
+  </message>
+  <message id="RULE_PROFILE_KIND_FIX">
+    <source>Export the archive for the App Store.</source>
+    <translation>Export the archive for the App Store.</translation>
+  </message>
+  <message id="RULE_PROFILE_EXPIRY_TITLE">
+    <source>A profile has ended</source>
+    <translation>A profile has ended</translation>
+  </message>
+  <message id="RULE_PROFILE_EXPIRY_RULE">
+    <source>The profiles are valid.</source>
+    <translation>The profiles are valid.</translation>
+  </message>
+  <message id="RULE_PROFILE_EXPIRY_FIX">
+    <source>Download the profiles again and export once more.</source>
+    <translation>Download the profiles again and export once more.</translation>
+  </message>
+  <message id="RULE_PROFILE_IDENTIFIER_TITLE">
+    <source>The profile is for another app</source>
+    <translation>The profile is for another app</translation>
+  </message>
+  <message id="RULE_PROFILE_IDENTIFIER_RULE">
+    <source>The identifier in the profile covers the bundle's.</source>
+    <translation>The identifier in the profile covers the bundle's.</translation>
+  </message>
+  <message id="RULE_PROFILE_IDENTIFIER_FIX">
+    <source>Choose the profile of this bundle's identifier.</source>
+    <translation>Choose the profile of this bundle's identifier.</translation>
+  </message>
+  <message id="RULE_TEAM_TITLE">
+    <source>Signature and profile are of different teams</source>
+    <translation>Signature and profile are of different teams</translation>
+  </message>
+  <message id="RULE_TEAM_RULE">
+    <source>Signature, certificate and profile name one team.</source>
+    <translation>Signature, certificate and profile name one team.</translation>
+  </message>
+  <message id="RULE_TEAM_FIX">
+    <source>Sign with the certificate and profile of one team.</source>
+    <translation>Sign with the certificate and profile of one team.</translation>
+  </message>
+  <message id="RULE_ENTITLEMENTS_TITLE">
+    <source>An entitlement is not granted</source>
+    <translation>An entitlement is not granted</translation>
+  </message>
+  <message id="RULE_ENTITLEMENTS_RULE">
+    <source>The profile grants every entitlement that the signature claims.</source>
+    <translation>The profile grants every entitlement that the signature claims.</translation>
+  </message>
+  <message id="RULE_ENTITLEMENTS_FIX">
+    <source>Add the capability to the app's identifier and download the profile again, or drop the entitlement.</source>
+    <translation>Add the capability to the app's identifier and download the profile again, or drop the entitlement.</translation>
+  </message>
+  <message id="RULE_DEBUGGABLE_TITLE">
+    <source>The app lets a debugger in</source>
+    <translation>The app lets a debugger in</translation>
+  </message>
+  <message id="RULE_DEBUGGABLE_RULE">
+    <source>No code of an app for the store has the entitlement get-task-allow.</source>
+    <translation>No code of an app for the store has the entitlement get-task-allow.</translation>
+  </message>
+  <message id="RULE_DEBUGGABLE_FIX">
+    <source>Export the archive for the App Store.</source>
+    <translation>Export the archive for the App Store.</translation>
+  </message>
+  <message id="RULE_PUSH_TITLE">
+    <source>Push without its entitlement</source>
+    <translation>Push without its entitlement</translation>
+  </message>
+  <message id="RULE_PUSH_RULE">
+    <source>An app that registers for remote notifications has the entitlement aps-environment.</source>
+    <translation>An app that registers for remote notifications has the entitlement aps-environment.</translation>
+  </message>
+  <message id="RULE_PUSH_FIX">
+    <source>Add the capability for push notifications, or remove the call.</source>
+    <translation>Add the capability for push notifications, or remove the call.</translation>
+  </message>
+  <message id="RULE_PURPOSE_TITLE">
+    <source>A purpose string is missing</source>
+    <translation>A purpose string is missing</translation>
+  </message>
+  <message id="RULE_PURPOSE_RULE">
+    <source>An app whose code refers to camera, photos, location or contacts says in its Info.plist what for.</source>
+    <translation>An app whose code refers to camera, photos, location or contacts says in its Info.plist what for.</translation>
+  </message>
+  <message id="RULE_PURPOSE_FIX">
+    <source>Add the key with a sentence that people understand.</source>
+    <translation>Add the key with a sentence that people understand.</translation>
+  </message>
+  <message id="RULE_PURPOSE_LIKELY_TITLE">
+    <source>A purpose string is likely missing</source>
+    <translation>A purpose string is likely missing</translation>
+  </message>
+  <message id="RULE_PURPOSE_LIKELY_RULE">
+    <source>An app whose code refers to data of other kinds likely has to say in its Info.plist what for.</source>
+    <translation>An app whose code refers to data of other kinds likely has to say in its Info.plist what for.</translation>
+  </message>
+  <message id="RULE_PURPOSE_LIKELY_FIX">
+    <source>Add the key with a sentence that people understand, or remove the class.</source>
+    <translation>Add the key with a sentence that people understand, or remove the class.</translation>
+  </message>
+  <message id="RULE_PURPOSE_EMPTY_TITLE">
+    <source>A purpose string is empty</source>
+    <translation>A purpose string is empty</translation>
+  </message>
+  <message id="RULE_PURPOSE_EMPTY_RULE">
+    <source>A purpose string says something.</source>
+    <translation>A purpose string says something.</translation>
+  </message>
+  <message id="RULE_PURPOSE_EMPTY_FIX">
+    <source>Say in a sentence what the data is for.</source>
+    <translation>Say in a sentence what the data is for.</translation>
+  </message>
+  <message id="RULE_REQUIRED_REASON_TITLE">
+    <source>A use is not declared</source>
+    <translation>A use is not declared</translation>
+  </message>
+  <message id="RULE_REQUIRED_REASON_RULE">
+    <source>The use of file times, boot time, disk space, keyboards and user defaults is declared with a reason.</source>
+    <translation>The use of file times, boot time, disk space, keyboards and user defaults is declared with a reason.</translation>
+  </message>
+  <message id="RULE_REQUIRED_REASON_FIX">
+    <source>Add the category with a reason to PrivacyInfo.xcprivacy.</source>
+    <translation>Add the category with a reason to PrivacyInfo.xcprivacy.</translation>
+  </message>
+  <message id="RULE_PRIVACY_FORM_TITLE">
+    <source>The privacy manifest is malformed</source>
+    <translation>The privacy manifest is malformed</translation>
+  </message>
+  <message id="RULE_PRIVACY_FORM_RULE">
+    <source>A privacy manifest holds only keys, categories and reasons that are known.</source>
+    <translation>A privacy manifest holds only keys, categories and reasons that are known.</translation>
+  </message>
+  <message id="RULE_PRIVACY_FORM_FIX">
+    <source>Correct PrivacyInfo.xcprivacy; Xcode's editor offers the values.</source>
+    <translation>Correct PrivacyInfo.xcprivacy; Xcode's editor offers the values.</translation>
+  </message>
+  <message id="RULE_LISTED_KIT_TITLE">
+    <source>A listed kit has no privacy manifest</source>
+    <translation>A listed kit has no privacy manifest</translation>
+  </message>
+  <message id="RULE_LISTED_KIT_RULE">
+    <source>Software kits on the platform's list bring a privacy manifest of their own.</source>
+    <translation>Software kits on the platform's list bring a privacy manifest of their own.</translation>
+  </message>
+  <message id="RULE_LISTED_KIT_FIX">
+    <source>Use a newer version of the kit.</source>
+    <translation>Use a newer version of the kit.</translation>
+  </message>
+  <message id="RULE_EXPORT_COMPLIANCE_TITLE">
+    <source>The store asks about encryption at every build</source>
+    <translation>The store asks about encryption at every build</translation>
+  </message>
+  <message id="RULE_EXPORT_COMPLIANCE_RULE">
+    <source>ITSAppUsesNonExemptEncryption answers the question about export once for all.</source>
+    <translation>ITSAppUsesNonExemptEncryption answers the question about export once for all.</translation>
+  </message>
+  <message id="RULE_EXPORT_COMPLIANCE_FIX">
+    <source>Add ITSAppUsesNonExemptEncryption to the Info.plist.</source>
+    <translation>Add ITSAppUsesNonExemptEncryption to the Info.plist.</translation>
+  </message>
+  <message id="RULE_BACKGROUND_PROCESSING_TITLE">
+    <source>Background processing without task identifiers</source>
+    <translation>Background processing without task identifiers</translation>
+  </message>
+  <message id="RULE_BACKGROUND_PROCESSING_RULE">
+    <source>The background mode "processing" needs BGTaskSchedulerPermittedIdentifiers.</source>
+    <translation>The background mode "processing" needs BGTaskSchedulerPermittedIdentifiers.</translation>
+  </message>
+  <message id="RULE_BACKGROUND_PROCESSING_FIX">
+    <source>List the identifiers of the tasks.</source>
+    <translation>List the identifiers of the tasks.</translation>
+  </message>
+  <message id="RULE_ARBITRARY_LOADS_TITLE">
+    <source>Connections without protection are allowed</source>
+    <translation>Connections without protection are allowed</translation>
+  </message>
+  <message id="RULE_ARBITRARY_LOADS_RULE">
+    <source>NSAllowsArbitraryLoads has to be justified in review.</source>
+    <translation>NSAllowsArbitraryLoads has to be justified in review.</translation>
+  </message>
+  <message id="RULE_ARBITRARY_LOADS_FIX">
+    <source>Name the hosts in NSExceptionDomains instead.</source>
+    <translation>Name the hosts in NSExceptionDomains instead.</translation>
+  </message>
+  <message id="RULE_LOCALIZATION_HOLES_TITLE">
+    <source>A language lacks texts</source>
+    <translation>A language lacks texts</translation>
+  </message>
+  <message id="RULE_LOCALIZATION_HOLES_RULE">
+    <source>Each language of the app has the same tables of texts.</source>
+    <translation>Each language of the app has the same tables of texts.</translation>
+  </message>
+  <message id="RULE_LOCALIZATION_HOLES_FIX">
+    <source>Add the missing tables, or drop the language.</source>
+    <translation>Add the missing tables, or drop the language.</translation>
+  </message>
+  <message id="RULE_FACEBOOK_TITLE">
+    <source>The Facebook app has no URL scheme</source>
+    <translation>The Facebook app has no URL scheme</translation>
+  </message>
+  <message id="RULE_FACEBOOK_RULE">
+    <source>An app that names a FacebookAppID has the URL scheme fb and that number.</source>
+    <translation>An app that names a FacebookAppID has the URL scheme fb and that number.</translation>
+  </message>
+  <message id="RULE_FACEBOOK_FIX">
+    <source>Add the scheme to CFBundleURLSchemes.</source>
+    <translation>Add the scheme to CFBundleURLSchemes.</translation>
+  </message>
+  <message id="RULE_CELLULAR_SIZE_TITLE">
+    <source>Large for a download over the cellular network</source>
+    <translation>Large for a download over the cellular network</translation>
+  </message>
+  <message id="RULE_CELLULAR_SIZE_RULE">
+    <source>Phones ask before they load more than 200 MB over the cellular network.</source>
+    <translation>Phones ask before they load more than 200 MB over the cellular network.</translation>
+  </message>
+  <message id="RULE_CELLULAR_SIZE_FIX">
+    <source>Look for what can be left out.</source>
+    <translation>Look for what can be left out.</translation>
+  </message>
+  <message id="RULE_CLASSIC_ICONS_TITLE">
+    <source>An icon of iOS 7 is missing</source>
+    <translation>An icon of iOS 7 is missing</translation>
+  </message>
+  <message id="RULE_CLASSIC_ICONS_RULE">
+    <source>An app for iOS 7 and before has its icons as files in every size.</source>
+    <translation>An app for iOS 7 and before has its icons as files in every size.</translation>
+  </message>
+  <message id="RULE_CLASSIC_ICONS_FIX">
+    <source>Add the missing sizes as files.</source>
+    <translation>Add the missing sizes as files.</translation>
+  </message>
+  <message id="RULE_CLASSIC_LAUNCH_IMAGES_TITLE">
+    <source>A launch image of iOS 7 is missing</source>
+    <translation>A launch image of iOS 7 is missing</translation>
+  </message>
+  <message id="RULE_CLASSIC_LAUNCH_IMAGES_RULE">
+    <source>An app for iOS 7 and before has a launch image for every screen.</source>
+    <translation>An app for iOS 7 and before has a launch image for every screen.</translation>
+  </message>
+  <message id="RULE_CLASSIC_LAUNCH_IMAGES_FIX">
+    <source>Add a picture of one of the sizes.</source>
+    <translation>Add a picture of one of the sizes.</translation>
+  </message>
+  <message id="RULE_CLASSIC_IDENTIFIER_TITLE">
+    <source>The identifier is not that of the profile</source>
+    <translation>The identifier is not that of the profile</translation>
+  </message>
+  <message id="RULE_CLASSIC_IDENTIFIER_RULE">
+    <source>The bundle identifier is the one that the profile is for.</source>
+    <translation>The bundle identifier is the one that the profile is for.</translation>
+  </message>
+  <message id="RULE_CLASSIC_IDENTIFIER_FIX">
+    <source>Change the identifier, or sign with the profile that is for it.</source>
+    <translation>Change the identifier, or sign with the profile that is for it.</translation>
+  </message>
+  <message id="RULE_CLASSIC_LOCALIZATIONS_TITLE">
+    <source>There is no localization</source>
+    <translation>There is no localization</translation>
+  </message>
+  <message id="RULE_CLASSIC_LOCALIZATIONS_RULE">
+    <source>The app has a folder for one language at least.</source>
+    <translation>The app has a folder for one language at least.</translation>
+  </message>
+  <message id="RULE_CLASSIC_LOCALIZATIONS_FIX">
+    <source>Add a language to the project.</source>
+    <translation>Add a language to the project.</translation>
+  </message>
+  <message id="RULE_SOURCE_STORE">
+    <source>messages of the store's upload check</source>
+    <translation>messages of the store's upload check</translation>
+  </message>
+  <message id="RULE_SOURCE_ONE_REPORT">
+    <source>one report only</source>
+    <translation>one report only</translation>
+  </message>
+  <message id="RULE_SOURCE_SIGNING">
+    <source>TN3125 and the format of code signatures</source>
+    <translation>TN3125 and the format of code signatures</translation>
+  </message>
+  <message id="RULE_SOURCE_PRIVACY">
+    <source>developer.apple.com, privacy manifest files</source>
+    <translation>developer.apple.com, privacy manifest files</translation>
+  </message>
+  <message id="RULE_SOURCE_OTHER_TOOLS">
+    <source>lists of other tools</source>
+    <translation>lists of other tools</translation>
+  </message>
+  <message id="RULE_SOURCE_REVIEWS">
+    <source>reviews</source>
+    <translation>reviews</translation>
+  </message>
+  <message id="RULE_SOURCE_KITS">
+    <source>developer.apple.com/support/third-party-SDK-requirements</source>
+    <translation>developer.apple.com/support/third-party-SDK-requirements</translation>
+  </message>
+  <message id="RULE_SOURCE_CONNECT">
+    <source>App Store Connect</source>
+    <translation>App Store Connect</translation>
+  </message>
+  <message id="RULE_SOURCE_LANGUAGES">
+    <source>comparison of the languages</source>
+    <translation>comparison of the languages</translation>
+  </message>
+  <message id="RULE_SOURCE_KIT">
+    <source>the kit's own instructions</source>
+    <translation>the kit's own instructions</translation>
+  </message>
+  <message id="RULE_SOURCE_SETTINGS">
+    <source>settings of the App Store</source>
+    <translation>settings of the App Store</translation>
+  </message>
+  <message id="RULE_SOURCE_CLASSIC">
+    <source>the rules of iOS 7</source>
+    <translation>the rules of iOS 7</translation>
+  </message>
+  <message id="FOUND_NO_SDK">
+    <source>neither the binary nor the Info.plist names an SDK</source>
+    <translation>neither the binary nor the Info.plist names an SDK</translation>
+  </message>
+  <message id="FOUND_OLD_SDK">
+    <source>built with the SDK of [A], [B] is asked for since [C]</source>
+    <translation>built with the SDK of [A], [B] is asked for since [C]</translation>
+  </message>
+  <message id="FOUND_NO_PHONE_OR_PAD">
+    <source>no app for iPhone or iPad</source>
+    <translation>no app for iPhone or iPad</translation>
+  </message>
+  <message id="FOUND_UNKNOWN_DAY">
+    <source>nothing is known of what was asked for on that day</source>
+    <translation>nothing is known of what was asked for on that day</translation>
+  </message>
+  <message id="FOUND_NOT_ASKED">
+    <source>not asked for on that day</source>
+    <translation>not asked for on that day</translation>
+  </message>
+  <message id="FOUND_NO_EXECUTABLE_KEY">
+    <source>no CFBundleExecutable</source>
+    <translation>no CFBundleExecutable</translation>
+  </message>
+  <message id="FOUND_NO_MACHO">
+    <source>no Mach-O file</source>
+    <translation>no Mach-O file</translation>
+  </message>
+  <message id="FOUND_NOT_THERE">
+    <source>is not there</source>
+    <translation>is not there</translation>
+  </message>
+  <message id="FOUND_LOAD_COMMANDS">
+    <source>load commands that are damaged or lead out of the file</source>
+    <translation>load commands that are damaged or lead out of the file</translation>
+  </message>
+  <message id="FOUND_MAC_APP">
+    <source>an app for the Mac</source>
+    <translation>an app for the Mac</translation>
+  </message>
+  <message id="FOUND_SIMULATOR_SLICE">
+    <source>a slice for the simulator: [A]</source>
+    <translation>a slice for the simulator: [A]</translation>
+  </message>
+  <message id="FOUND_NOT_ALIGNED">
+    <source>[A] of [B] does not begin at a page</source>
+    <translation>[A] of [B] does not begin at a page</translation>
+  </message>
+  <message id="FOUND_BEFORE_XCODE_16">
+    <source>built with Xcode before 16</source>
+    <translation>built with Xcode before 16</translation>
+  </message>
+  <message id="FOUND_NO_XCODE">
+    <source>the Info.plist does not name the Xcode</source>
+    <translation>the Info.plist does not name the Xcode</translation>
+  </message>
+  <message id="FOUND_BITCODE">
+    <source>a segment __LLVM for [A]</source>
+    <translation>a segment __LLVM for [A]</translation>
+  </message>
+  <message id="FOUND_NO_BINARY">
+    <source>the app's binary cannot be read</source>
+    <translation>the app's binary cannot be read</translation>
+  </message>
+  <message id="FOUND_NO_ENCRYPTION_INFO">
+    <source>[A] has no LC_ENCRYPTION_INFO</source>
+    <translation>[A] has no LC_ENCRYPTION_INFO</translation>
+  </message>
+  <message id="FOUND_ENCIPHERED">
+    <source>[A] is enciphered already</source>
+    <translation>[A] is enciphered already</translation>
+  </message>
+  <message id="FOUND_WEB_VIEW">
+    <source>imports the class UIWebView</source>
+    <translation>imports the class UIWebView</translation>
+  </message>
+  <message id="FOUND_NO_MINIMUM">
+    <source>no MinimumOSVersion</source>
+    <translation>no MinimumOSVersion</translation>
+  </message>
+  <message id="FOUND_MINIMUM_IS">
+    <source>MinimumOSVersion is [A]</source>
+    <translation>MinimumOSVersion is [A]</translation>
+  </message>
+  <message id="FOUND_NO_FRAMEWORK">
+    <source>there is no framework</source>
+    <translation>there is no framework</translation>
+  </message>
+  <message id="FOUND_BUILT_OTHERWISE">
+    <source>is built for [A], its Info.plist says [B]</source>
+    <translation>is built for [A], its Info.plist says [B]</translation>
+  </message>
+  <message id="FOUND_BUILT_FOR_NEWER">
+    <source>is built for [A], the app for [B]</source>
+    <translation>is built for [A], the app for [B]</translation>
+  </message>
+  <message id="FOUND_STATIC_LIBRARY">
+    <source>a static library</source>
+    <translation>a static library</translation>
+  </message>
+  <message id="FOUND_FILE_TYPE">
+    <source>its type is "[A]"</source>
+    <translation>its type is "[A]"</translation>
+  </message>
+  <message id="FOUND_NO_SWIFT_ENTRY">
+    <source>[A] has no section __swift5_entry</source>
+    <translation>[A] has no section __swift5_entry</translation>
+  </message>
+  <message id="FOUND_NO_SUCH_EXTENSION">
+    <source>there is no extension of that kind</source>
+    <translation>there is no extension of that kind</translation>
+  </message>
+  <message id="FOUND_LOOSE_CODE">
+    <source>code outside of a bundle of its own</source>
+    <translation>code outside of a bundle of its own</translation>
+  </message>
+  <message id="FOUND_MAC_LAYOUT">
+    <source>a framework laid out as on the Mac</source>
+    <translation>a framework laid out as on the Mac</translation>
+  </message>
+  <message id="FOUND_NESTED_FRAMEWORKS">
+    <source>a folder of frameworks inside of nested code</source>
+    <translation>a folder of frameworks inside of nested code</translation>
+  </message>
+  <message id="FOUND_NO_STORE_ARCHIVE">
+    <source>no archive for the store</source>
+    <translation>no archive for the store</translation>
+  </message>
+  <message id="FOUND_NO_SWIFT_SUPPORT">
+    <source>SwiftSupport/iphoneos/[A] is not there</source>
+    <translation>SwiftSupport/iphoneos/[A] is not there</translation>
+  </message>
+  <message id="FOUND_NO_SWIFT_LIBRARIES">
+    <source>it brings no libraries of Swift</source>
+    <translation>it brings no libraries of Swift</translation>
+  </message>
+  <message id="FOUND_INFO_UNREADABLE">
+    <source>the Info.plist cannot be read</source>
+    <translation>the Info.plist cannot be read</translation>
+  </message>
+  <message id="FOUND_ICON_NAMES">
+    <source>the icon files' names do not tell their sizes</source>
+    <translation>the icon files' names do not tell their sizes</translation>
+  </message>
+  <message id="FOUND_NO_ICON">
+    <source>no [A] icon of [B] by [B] pixels, neither in the catalog nor as a file</source>
+    <translation>no [A] icon of [B] by [B] pixels, neither in the catalog nor as a file</translation>
+  </message>
+  <message id="FOUND_NO_PHONE">
+    <source>no app for the iPhone</source>
+    <translation>no app for the iPhone</translation>
+  </message>
+  <message id="FOUND_BEFORE_IOS_7">
+    <source>it also runs before iOS 7</source>
+    <translation>it also runs before iOS 7</translation>
+  </message>
+  <message id="FOUND_NO_PAD">
+    <source>no app for the iPad</source>
+    <translation>no app for the iPad</translation>
+  </message>
+  <message id="FOUND_BEFORE_IOS_11">
+    <source>built with an SDK before iOS 11</source>
+    <translation>built with an SDK before iOS 11</translation>
+  </message>
+  <message id="FOUND_NO_CATALOG">
+    <source>there is no asset catalog, and so no large icon in one</source>
+    <translation>there is no asset catalog, and so no large icon in one</translation>
+  </message>
+  <message id="FOUND_NO_LARGE_ICON">
+    <source>no icon of 1024 by 1024 pixels</source>
+    <translation>no icon of 1024 by 1024 pixels</translation>
+  </message>
+  <message id="FOUND_NO_ICON_NAME">
+    <source>no CFBundleIconName, neither in CFBundleIcons nor by itself</source>
+    <translation>no CFBundleIconName, neither in CFBundleIcons nor by itself</translation>
+  </message>
+  <message id="FOUND_UNKNOWN_ICON_NAME">
+    <source>CFBundleIconName is "[A]", which the catalog does not hold</source>
+    <translation>CFBundleIconName is "[A]", which the catalog does not hold</translation>
+  </message>
+  <message id="FOUND_TRANSLUCENT">
+    <source>"[A]" for [B] has transparent pixels or an alpha channel</source>
+    <translation>"[A]" for [B] has transparent pixels or an alpha channel</translation>
+  </message>
+  <message id="FOUND_NO_LARGE_IN_CATALOG">
+    <source>there is no large icon in a catalog</source>
+    <translation>there is no large icon in a catalog</translation>
+  </message>
+  <message id="FOUND_WHOLE_SCREEN">
+    <source>it asks for the whole screen, or is for no iPad with multitasking</source>
+    <translation>it asks for the whole screen, or is for no iPad with multitasking</translation>
+  </message>
+  <message id="FOUND_LIST_LACKS">
+    <source>[A] lacks [B]</source>
+    <translation>[A] lacks [B]</translation>
+  </message>
+  <message id="FOUND_NO_LAUNCH_SCREEN">
+    <source>neither UILaunchStoryboardName nor UILaunchScreen</source>
+    <translation>neither UILaunchStoryboardName nor UILaunchScreen</translation>
+  </message>
+  <message id="FOUND_NONE_READABLE">
+    <source>there is none that can be read</source>
+    <translation>there is none that can be read</translation>
+  </message>
+  <message id="FOUND_PACKAGE_TYPE">
+    <source>CFBundlePackageType is "[A]"</source>
+    <translation>CFBundlePackageType is "[A]"</translation>
+  </message>
+  <message id="FOUND_NOT_ANNOUNCED">
+    <source>not announced on that day</source>
+    <translation>not announced on that day</translation>
+  </message>
+  <message id="FOUND_INFO_NO_MINIMUM">
+    <source>the Info.plist names no MinimumOSVersion</source>
+    <translation>the Info.plist names no MinimumOSVersion</translation>
+  </message>
+  <message id="FOUND_NO_VERSION">
+    <source>no CFBundleShortVersionString</source>
+    <translation>no CFBundleShortVersionString</translation>
+  </message>
+  <message id="FOUND_VERSION_IS">
+    <source>CFBundleShortVersionString is "[A]"</source>
+    <translation>CFBundleShortVersionString is "[A]"</translation>
+  </message>
+  <message id="FOUND_NO_BUILD">
+    <source>no CFBundleVersion</source>
+    <translation>no CFBundleVersion</translation>
+  </message>
+  <message id="FOUND_BUILD_IS">
+    <source>CFBundleVersion is "[A]"</source>
+    <translation>CFBundleVersion is "[A]"</translation>
+  </message>
+  <message id="FOUND_OTHER_VERSION">
+    <source>[A] is "[B]", the app's is "[C]"</source>
+    <translation>[A] is "[B]", the app's is "[C]"</translation>
+  </message>
+  <message id="FOUND_NO_EXTENSION">
+    <source>there is no extension</source>
+    <translation>there is no extension</translation>
+  </message>
+  <message id="FOUND_IDENTIFIER_TWICE">
+    <source>"[A]" is the identifier of [B], too</source>
+    <translation>"[A]" is the identifier of [B], too</translation>
+  </message>
+  <message id="FOUND_NO_IDENTIFIER">
+    <source>the app has no identifier</source>
+    <translation>the app has no identifier</translation>
+  </message>
+  <message id="FOUND_IDENTIFIER_OUTSIDE">
+    <source>CFBundleIdentifier is "[A]", not "[B].…"</source>
+    <translation>CFBundleIdentifier is "[A]", not "[B].…"</translation>
+  </message>
+  <message id="FOUND_NO_NESTED_APP">
+    <source>there is neither an extension nor a watch app</source>
+    <translation>there is neither an extension nor a watch app</translation>
+  </message>
+  <message id="FOUND_OLDER_DEVICES">
+    <source>it has code for older devices, or runs only on systems without them</source>
+    <translation>it has code for older devices, or runs only on systems without them</translation>
+  </message>
+  <message id="FOUND_NO_ARM64">
+    <source>only 64-bit code, but no arm64 in UIRequiredDeviceCapabilities</source>
+    <translation>only 64-bit code, but no arm64 in UIRequiredDeviceCapabilities</translation>
+  </message>
+  <message id="FOUND_NO_EXPORT_KEY">
+    <source>no ITSAppUsesNonExemptEncryption</source>
+    <translation>no ITSAppUsesNonExemptEncryption</translation>
+  </message>
+  <message id="FOUND_NO_PROCESSING">
+    <source>it does no processing in the background</source>
+    <translation>it does no processing in the background</translation>
+  </message>
+  <message id="FOUND_NO_TASKS">
+    <source>UIBackgroundModes holds "processing", but no task identifiers are listed</source>
+    <translation>UIBackgroundModes holds "processing", but no task identifiers are listed</translation>
+  </message>
+  <message id="FOUND_ARBITRARY_LOADS">
+    <source>NSAllowsArbitraryLoads is true</source>
+    <translation>NSAllowsArbitraryLoads is true</translation>
+  </message>
+  <message id="FOUND_NO_FACEBOOK">
+    <source>it names no Facebook app</source>
+    <translation>it names no Facebook app</translation>
+  </message>
+  <message id="FOUND_NO_FACEBOOK_SCHEME">
+    <source>FacebookAppID is [A], but no URL scheme is fb[A]</source>
+    <translation>FacebookAppID is [A], but no URL scheme is fb[A]</translation>
+  </message>
+  <message id="FOUND_ONE_LANGUAGE">
+    <source>there are not two languages to compare</source>
+    <translation>there are not two languages to compare</translation>
+  </message>
+  <message id="FOUND_LACKS">
+    <source>lacks [A]</source>
+    <translation>lacks [A]</translation>
+  </message>
+  <message id="FOUND_NOT_PACKED">
+    <source>the package is not packed</source>
+    <translation>the package is not packed</translation>
+  </message>
+  <message id="FOUND_PACKED_SIZE">
+    <source>[A] MB packed</source>
+    <translation>[A] MB packed</translation>
+  </message>
+  <message id="FOUND_NO_PURPOSE">
+    <source>no [A], and [B] imports the class [C]</source>
+    <translation>no [A], and [B] imports the class [C]</translation>
+  </message>
+  <message id="FOUND_EMPTY_KEY">
+    <source>[A] is empty</source>
+    <translation>[A] is empty</translation>
+  </message>
+  <message id="FOUND_NO_PHONE_PAD_OR_TV">
+    <source>no app for iPhone, iPad or TV</source>
+    <translation>no app for iPhone, iPad or TV</translation>
+  </message>
+  <message id="FOUND_NO_REASON">
+    <source>uses [A], and no manifest gives a reason for [B]</source>
+    <translation>uses [A], and no manifest gives a reason for [B]</translation>
+  </message>
+  <message id="FOUND_UNREADABLE">
+    <source>cannot be read</source>
+    <translation>cannot be read</translation>
+  </message>
+  <message id="FOUND_NO_MANIFEST">
+    <source>there is no privacy manifest</source>
+    <translation>there is no privacy manifest</translation>
+  </message>
+  <message id="FOUND_NO_PRIVACY_FILE">
+    <source>has no PrivacyInfo.xcprivacy</source>
+    <translation>has no PrivacyInfo.xcprivacy</translation>
+  </message>
+  <message id="FOUND_NO_LISTED_KIT">
+    <source>it brings none of the kits that are listed</source>
+    <translation>it brings none of the kits that are listed</translation>
+  </message>
+  <message id="FOUND_APP_NOT_SIGNED">
+    <source>the app is not signed</source>
+    <translation>the app is not signed</translation>
+  </message>
+  <message id="FOUND_NO_PROFILE">
+    <source>there is no provisioning profile that can be read</source>
+    <translation>there is no provisioning profile that can be read</translation>
+  </message>
+  <message id="FOUND_SIGNATURE_DAMAGED">
+    <source>the signature is damaged</source>
+    <translation>the signature is damaged</translation>
+  </message>
+  <message id="FOUND_SIGNATURE_NESTED">
+    <source>a signature inside a signature</source>
+    <translation>a signature inside a signature</translation>
+  </message>
+  <message id="FOUND_SIGNATURE_EMPTY">
+    <source>the signature does not say what was signed</source>
+    <translation>the signature does not say what was signed</translation>
+  </message>
+  <message id="FOUND_UNKNOWN_DIGEST">
+    <source>hashes of an unknown kind</source>
+    <translation>hashes of an unknown kind</translation>
+  </message>
+  <message id="FOUND_CODE_CHANGED">
+    <source>the code was changed after it was signed</source>
+    <translation>the code was changed after it was signed</translation>
+  </message>
+  <message id="FOUND_CODE_NOT_COVERED">
+    <source>part of the code is not covered by the signature</source>
+    <translation>part of the code is not covered by the signature</translation>
+  </message>
+  <message id="FOUND_REQUIREMENTS_CHANGED">
+    <source>the requirements were changed after they were signed</source>
+    <translation>the requirements were changed after they were signed</translation>
+  </message>
+  <message id="FOUND_ENTITLEMENTS_CHANGED">
+    <source>the entitlements were changed after they were signed</source>
+    <translation>the entitlements were changed after they were signed</translation>
+  </message>
+  <message id="FOUND_DER_CHANGED">
+    <source>the entitlements' second form was changed after it was signed</source>
+    <translation>the entitlements' second form was changed after it was signed</translation>
+  </message>
+  <message id="FOUND_FORMS_DIFFER">
+    <source>the two forms of the entitlements say different things</source>
+    <translation>the two forms of the entitlements say different things</translation>
+  </message>
+  <message id="FOUND_ENTITLEMENTS_UNREADABLE">
+    <source>the entitlements cannot be read</source>
+    <translation>the entitlements cannot be read</translation>
+  </message>
+  <message id="FOUND_MESSAGE_UNREADABLE">
+    <source>the signature's message cannot be read</source>
+    <translation>the signature's message cannot be read</translation>
+  </message>
+  <message id="FOUND_NO_CERTIFICATE">
+    <source>the signer's certificate is not there</source>
+    <translation>the signer's certificate is not there</translation>
+  </message>
+  <message id="FOUND_OTHER_CODE">
+    <source>the signature is about other code</source>
+    <translation>the signature is about other code</translation>
+  </message>
+  <message id="FOUND_OTHER_KEY">
+    <source>not signed with the certificate's key</source>
+    <translation>not signed with the certificate's key</translation>
+  </message>
+  <message id="FOUND_OTHER_DIRECTORIES">
+    <source>the signature is about other code directories</source>
+    <translation>the signature is about other code directories</translation>
+  </message>
+  <message id="FOUND_OUTSIDE_VALIDITY">
+    <source>signed when the certificate was not valid</source>
+    <translation>signed when the certificate was not valid</translation>
+  </message>
+  <message id="FOUND_NOT_SIGNED">
+    <source>is not signed</source>
+    <translation>is not signed</translation>
+  </message>
+  <message id="FOUND_AD_HOC">
+    <source>is signed by nobody (ad hoc)</source>
+    <translation>is signed by nobody (ad hoc)</translation>
+  </message>
+  <message id="FOUND_NOTHING_SIGNED">
+    <source>nothing is signed</source>
+    <translation>nothing is signed</translation>
+  </message>
+  <message id="FOUND_CHANGED">
+    <source>was changed after signing</source>
+    <translation>was changed after signing</translation>
+  </message>
+  <message id="FOUND_SEALED_MISSING">
+    <source>was sealed, but is not there</source>
+    <translation>was sealed, but is not there</translation>
+  </message>
+  <message id="FOUND_NOT_SEALED">
+    <source>is there, but was not sealed</source>
+    <translation>is there, but was not sealed</translation>
+  </message>
+  <message id="FOUND_SIGNED_BY">
+    <source>signed by "[A]"</source>
+    <translation>signed by "[A]"</translation>
+  </message>
+  <message id="FOUND_CERTIFICATE_ENDED">
+    <source>the certificate was valid until [A]</source>
+    <translation>the certificate was valid until [A]</translation>
+  </message>
+  <message id="FOUND_CERTIFICATE_NOT_IN_PROFILE">
+    <source>does not hold the certificate of "[A]"</source>
+    <translation>does not hold the certificate of "[A]"</translation>
+  </message>
+  <message id="FOUND_NO_SIGNED_BUNDLE">
+    <source>there is no signed bundle with a profile</source>
+    <translation>there is no signed bundle with a profile</translation>
+  </message>
+  <message id="FOUND_PROFILE_KIND">
+    <source>a profile [A]</source>
+    <translation>a profile [A]</translation>
+  </message>
+  <message id="FOUND_PROFILE_ENDED">
+    <source>ended on [A]</source>
+    <translation>ended on [A]</translation>
+  </message>
+  <message id="FOUND_PROFILE_FOR">
+    <source>is for [A], the bundle is [B]</source>
+    <translation>is for [A], the bundle is [B]</translation>
+  </message>
+  <message id="FOUND_TEAM_SIGNED">
+    <source>is signed for the team [A], the profile is of [B]</source>
+    <translation>is signed for the team [A], the profile is of [B]</translation>
+  </message>
+  <message id="FOUND_TEAM_CERTIFICATE">
+    <source>the certificate is of the team [A], the profile of [B]</source>
+    <translation>the certificate is of the team [A], the profile of [B]</translation>
+  </message>
+  <message id="FOUND_NOT_GRANTED">
+    <source>claims [A], which the profile does not grant</source>
+    <translation>claims [A], which the profile does not grant</translation>
+  </message>
+  <message id="FOUND_DEBUGGABLE">
+    <source>get-task-allow is true</source>
+    <translation>get-task-allow is true</translation>
+  </message>
+  <message id="FOUND_NO_PUSH">
+    <source>sends registerForRemoteNotifications, but has no entitlement aps-environment</source>
+    <translation>sends registerForRemoteNotifications, but has no entitlement aps-environment</translation>
+  </message>
+  <message id="FOUND_UNKNOWN_TYPE">
+    <source>unknown NSPrivacyAccessedAPIType "[A]"</source>
+    <translation>unknown NSPrivacyAccessedAPIType "[A]"</translation>
+  </message>
+  <message id="FOUND_NO_REASON_FOR">
+    <source>no reason for [A]</source>
+    <translation>no reason for [A]</translation>
+  </message>
+  <message id="FOUND_UNKNOWN_REASON">
+    <source>unknown reason "[A]" for [B]</source>
+    <translation>unknown reason "[A]" for [B]</translation>
+  </message>
+  <message id="FOUND_UNKNOWN_KEY">
+    <source>unknown key "[A]"</source>
+    <translation>unknown key "[A]"</translation>
+  </message>
+  <message id="FOUND_TRACKING_NO_BOOLEAN">
+    <source>NSPrivacyTracking is no boolean</source>
+    <translation>NSPrivacyTracking is no boolean</translation>
+  </message>
+  <message id="FOUND_TYPE_MISSING">
+    <source>a collected data type without NSPrivacyCollectedDataType</source>
+    <translation>a collected data type without NSPrivacyCollectedDataType</translation>
+  </message>
+  <message id="FOUND_NO_PURPOSES">
+    <source>no purposes for [A]</source>
+    <translation>no purposes for [A]</translation>
+  </message>
+  <message id="FOUND_TRACKING_EMPTY">
+    <source>NSPrivacyTracking is true, but there are neither domains nor data types</source>
+    <translation>NSPrivacyTracking is true, but there are neither domains nor data types</translation>
   </message>
   <message id="VALIDATER_NO_PACKAGE_ADVICE">
     <source>An app package is a zip archive that holds the app as a folder NAME.app in its Payload folder. Please choose another file, or export the app again.</source>
@@ -3170,6 +4598,10 @@
   <message id="CLI_DIFF_NEW">
     <source>The package as it is</source>
     <translation>The package as it is</translation>
+  </message>
+  <message id="CLI_DIFF_FAIL_ON">
+    <source>The least severe finding that the new package has and the old one has not, and that makes the status 1; never is the default</source>
+    <translation>The least severe finding that the new package has and the old one has not, and that makes the status 1; never is the default</translation>
   </message>
   <message id="CLI_DIFF_FACTS">
     <source>Facts</source>

@@ -51,7 +51,7 @@ class Reports(unittest.TestCase):
         location, = result["locations"]
         self.assertEqual(location["physicalLocation"]["artifactLocation"], {"uri": "seal.ipa", "index": 0})
         self.assertEqual(location["logicalLocations"][0]["fullyQualifiedName"], "Payload/Lamp.app/de.lproj/Localizable.strings")
-        self.assertIn("was changed after signing", result["message"]["text"])
+        self.assertIn("wurde nach dem Signieren geändert", result["message"]["text"])
         self.assertTrue(run["invocations"][0]["executionSuccessful"])
 
     def test_sarif_of_several_packages(self):
@@ -83,9 +83,9 @@ class Reports(unittest.TestCase):
         failed = [case for case in suite if case.find("failure") is not None]
         self.assertEqual([case.get("name") for case in failed], ["seal"])
         failure = failed[0].find("failure")
-        self.assertEqual((failure.get("type"), failure.get("message")), ("ITMS-90035", "The seal is broken"))
+        self.assertEqual((failure.get("type"), failure.get("message")), ("ITMS-90035", "Das Siegel ist gebrochen"))
         self.assertEqual(failure.text.splitlines()[0],
-                         "Payload/Lamp.app/de.lproj/Localizable.strings: was changed after signing")
+                         "Payload/Lamp.app/de.lproj/Localizable.strings: wurde nach dem Signieren geändert")
 
     def test_junit_counts_what_counts(self):
         for fail_on, failures in (("error", "0"), ("warning", "1"), ("never", "0")):
@@ -111,8 +111,8 @@ class Reports(unittest.TestCase):
         ended = self.run_lumora("validate", "a & <b>.ipa", "broken.ipa", "keeps, all.ipa", "--html", "page.html")
         self.assertEqual(ended.returncode, 3, ended)
         page = (self.folder / "page.html").read_text()
-        for shown in ("<h1>a &amp; &lt;b&gt;.ipa</h1>", "Findings: 1 error<", "Findings: nothing found<", "com.example.lamp",
-                      "The seal is broken", "Localizable.strings", "<td>TEAM123456</td>", "<td>app-store</td>", "Lamp.app"):
+        for shown in ("<h1>a &amp; &lt;b&gt;.ipa</h1>", "Befunde: 1 Fehler<", "Befunde: Nichts gefunden<", "com.example.lamp",
+                      "Das Siegel ist gebrochen", "Localizable.strings", "<td>TEAM123456</td>", "<td>für den App Store</td>", "Lamp.app"):
             self.assertIn(shown, page)
         # Nothing runs, and nothing comes from elsewhere.
         self.assertEqual(re.findall(r"<script|<link|<iframe|\bon\w+=|(?:src|href)=\"(?!data:)", page), [])
@@ -148,6 +148,30 @@ class Reports(unittest.TestCase):
         for side in ("old", "new"):
             for part in ("files", "bytes"):
                 self.assertEqual(sum(kind[side][part] for kind in result["sizes"]["kinds"]), result["sizes"][side][part])
+
+    def test_difference_that_counts(self):
+        for before, after, least, status in (
+                ("keeps, all", "seal", "error", 1), ("keeps, all", "seal", "never", 0), ("seal", "keeps, all", "warning", 0),
+                ("keeps, all", "purpose-likely", "error", 0), ("keeps, all", "purpose-likely", "warning", 1),
+                ("seal", "seal", "warning", 0)):
+            with self.subTest(before=before, after=after, least=least):
+                ended = self.run_lumora("diff", f"{before}.ipa", f"{after}.ipa", "--fail-on", least)
+                self.assertEqual(ended.returncode, status, ended)
+
+    def test_german(self):
+        self.run_lumora("validate", "seal.ipa", "--html", "page.html")
+        page = (self.folder / "page.html").read_text()
+        lines = self.run_lumora("validate", "seal.ipa").stdout.decode()
+        rule = subprocess.run([LUMORA, "rules", "seal"], capture_output=True, env={"LC_ALL": "de_DE.UTF-8"}).stdout.decode()
+        for text in (page, lines, rule):
+            self.assertIn("Das Siegel ist gebrochen", text)
+            self.assertNotIn("seal is broken", text)
+        self.assertIn('<html lang="de">', page)
+        for text in (page, lines):
+            self.assertIn("wurde nach dem Signieren geändert", text)
+        self.assertIn("Befunde: 1 Fehler", page)
+        written = subprocess.run([LUMORA, "rules", "--markdown"], capture_output=True, env={"LC_ALL": "de_DE.UTF-8"}).stdout
+        self.assertIn(b"### The seal is broken", written)
 
     def test_no_difference(self):
         ended = self.run_lumora("diff", "seal.ipa", "a & <b>.ipa", "--json")

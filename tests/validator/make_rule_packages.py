@@ -23,6 +23,17 @@ SYSTEM = "/usr/lib/libSystem.B.dylib"
 ORIENTATIONS = [f"UIInterfaceOrientation{name}" for name in ("Portrait", "PortraitUpsideDown", "LandscapeLeft", "LandscapeRight")]
 
 
+class Link(str):
+    """The target of a symbolic link, in the place of a file's content."""
+
+
+def linked(name):
+    entry = zipfile.ZipInfo(name)
+    entry.create_system = 3
+    entry.external_attr = 0o120777 << 16
+    return entry
+
+
 class Package:
     """A package for the store. Every attribute may be changed before `write`."""
 
@@ -48,6 +59,7 @@ class Package:
         self.privacy = {"NSPrivacyTracking": False, "NSPrivacyAccessedAPITypes": [
             {"NSPrivacyAccessedAPIType": "NSPrivacyAccessedAPICategoryUserDefaults",
              "NSPrivacyAccessedAPITypeReasons": ["CA92.1"]}]}
+        self.bulb_privacy = None
         self.profile = profile(identity)
         self.share_profile = profile(identity)
         self.share_profile["Entitlements"] = self.share_profile["Entitlements"] | {
@@ -79,7 +91,8 @@ class Package:
         return {f"{folder}/{path}": content for path, content in files.items()}
 
     def contents(self):
-        nested = self.sealed(self.bulb_path, {}, self.bulb_info, self.bulb, "com.example.bulb", None)
+        bulb_files = {} if self.bulb_privacy is None else {"PrivacyInfo.xcprivacy": plistlib.dumps(self.bulb_privacy)}
+        nested = self.sealed(self.bulb_path, bulb_files, self.bulb_info, self.bulb, "com.example.bulb", None)
         share_files = {"embedded.mobileprovision": signed(self.identity, self.share_profile)}
         share_files |= {path[len(SHARE) + 1:]: content for path, content in nested.items() if path.startswith(SHARE)}
         nested |= self.sealed(SHARE, share_files, self.share_info, self.share, "com.example.lamp.share",
@@ -100,7 +113,7 @@ class Package:
     def write(self, path):
         with zipfile.ZipFile(path, "w", zipfile.ZIP_DEFLATED) as archive:
             for name, content in sorted(self.contents().items()):
-                archive.writestr(name, content)
+                archive.writestr(linked(name) if isinstance(content, Link) else name, content)
 
 
 def without(dictionary, *keys):
@@ -198,6 +211,16 @@ def breaking(identity, other, developer, ended):
                 binary.minimum = system
         return change
 
+    def old_with_arm64(package):
+        package.info |= {"MinimumOSVersion": "6.1", "UIRequiredDeviceCapabilities": ["arm64"]}
+
+    def private_framework(package):
+        package.code.libraries.append(("/System/Library/PrivateFrameworks/Bulb.framework/Bulb", "needed"))
+
+    def listed_kit_without_receipt(package):
+        moved_framework("Alamofire")(package)
+        package.bulb_privacy = {"NSPrivacyTracking": False}
+
     small = app_icon(size=512, dark=False)
     return {
         "icon-phone": icons(app_icon(idioms=("pad",))),
@@ -265,7 +288,13 @@ def breaking(identity, other, developer, ended):
         "privacy-form": lambda package: package.privacy.update({"NSPrivacyTracking": True}),
         "privacy-form reason": lambda package: package.privacy["NSPrivacyAccessedAPITypes"].append(
             {"NSPrivacyAccessedAPIType": "NSPrivacyAccessedAPICategoryDiskSpace", "NSPrivacyAccessedAPITypeReasons": ["X"]}),
-        "listed-kit": moved_framework("Alamofire"),
+        "listed-kit listed-kit-signature": moved_framework("Alamofire"),
+        "listed-kit-signature": listed_kit_without_receipt,
+        "arm64-minimum minimum-system framework-system": old_with_arm64,
+        "private-names": private_framework,
+        "private-names symbol": code("bulb", imports=["_MGCopyAnswer"]),
+        "seal a file named like the link": replace(f"{APP}/CodeResources", b"more"),
+        "seal a link to elsewhere": replace(f"{APP}/CodeResources", Link("../../elsewhere")),
         "export-compliance": drop("ITSAppUsesNonExemptEncryption"),
         "background-processing": info(UIBackgroundModes=["processing"]),
         "arbitrary-loads": info(NSAppTransportSecurity={"NSAllowsArbitraryLoads": True}),
@@ -315,7 +344,23 @@ def keeping():
         package.share_info["EXAppExtensionAttributes"] = {"EXExtensionPointIdentifier": "com.example.point"}
         package.share.sections = {"__swift5_entry": bytes(4)}
 
-    return {"all": lambda package: None, "a selector of that name": web_view_selector, "declared use": declared,
+    def arm64(package):
+        package.info["UIRequiredDeviceCapabilities"] = ["arm64"]
+
+    def public_name(package):
+        package.code.imports = ["_MGCopyAnswerNot"]
+        package.code.libraries.append(("/System/Library/Frameworks/UIKit.framework/UIKit", "needed"))
+
+    def receipt(package):
+        package.bulb_path = f"{APP}/Frameworks/Alamofire.framework"
+        package.bulb_privacy = {"NSPrivacyTracking": False}
+        package.roots["Signatures/Alamofire.xcframework-ios.signature"] = b"signed"
+
+    def old_link(package):
+        package.after = lambda files: files.update({f"{APP}/CodeResources": Link("_CodeSignature/CodeResources")})
+
+    return {"all": lambda package: None, "arm64": arm64, "public names": public_name, "a kit with its receipt": receipt,
+            "a link to the seal": old_link, "a selector of that name": web_view_selector, "declared use": declared,
             "purpose said": purpose, "facebook scheme": facebook, "the whole screen": full_screen, "tasks listed": tasks,
             "swift libraries twice": swift, "push with its entitlement": push, "wildcard profile": wildcard,
             "swift entry": entry}

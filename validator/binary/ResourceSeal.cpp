@@ -87,9 +87,11 @@ bool isLeftOut(const QString &path, const QList<ReadyRule> &rules)
 }
 
 /// Files that are never sealed: the seal itself, the old link to it, the store's receipts.
-bool isNeverSealed(const QString &path, const SealSubject &subject)
+bool isNeverSealed(const QString &path, const BundleFile &file, const SealSubject &subject)
 {
-    return path == subject.executable || path == "CodeResources"_L1 || path.startsWith("_CodeSignature/"_L1) ||
+    const bool isOldLink =
+        path == "CodeResources"_L1 && file.isLink && file.linkTarget == "_CodeSignature/CodeResources"_L1;
+    return path == subject.executable || isOldLink || path.startsWith("_CodeSignature/"_L1) ||
            path.startsWith("SC_Info/"_L1);
 }
 
@@ -153,7 +155,7 @@ SealFindings compareWithSeal(const ResourceSeal &seal, const QMap<QStringView, B
     const QList<ReadyRule> rules = readyRules(seal.rules);
     for (auto file = files.cbegin(); file != files.cend(); ++file) {
         const QString path = file.key().toString();
-        if (seal.files.contains(path) || isNeverSealed(path, subject))
+        if (seal.files.contains(path) || isNeverSealed(path, *file, subject))
             continue;
         // Nested code seals its own files.
         if (std::ranges::any_of(nested, [&](const QString &code) { return isInside(path, code); }))

@@ -2,6 +2,7 @@
 #include "FindingHeader.h"
 
 #include "FindingWords.h"
+#include "validator/rules/Wording.h"
 #include "widgets/style/Fonts.h"
 #include "widgets/style/Palette.h"
 
@@ -47,7 +48,7 @@ QColor colorOf(Severity severity)
 FindingHeader::FindingHeader(const Rule &rule, qsizetype count, QWidget *parent)
     : PaintedButton(QAccessible::Button, parent), m_severity(rule.severity), m_detail(QString::fromLatin1(rule.code))
 {
-    setText(QString::fromUtf8(rule.title));
+    setText(worded(rule.title));
     if (count > 1) {
         const QString times = qtTrId("FINDINGS_TIMES").replace("[COUNT]"_L1, QLocale().toString(count));
         m_detail = m_detail.isEmpty() ? times : QString(times + u"  "_s + m_detail);

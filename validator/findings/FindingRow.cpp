@@ -4,6 +4,7 @@
 #include "FindingHeader.h"
 #include "FindingWords.h"
 #include "tool/style/LabelStyle.h"
+#include "validator/rules/Wording.h"
 #include "validator/words/LongWords.h"
 #include "widgets/buttons/IconButton.h"
 #include "widgets/style/Fonts.h"
@@ -64,8 +65,8 @@ void FindingRow::setOpen(bool isOpen)
 
 bool FindingRow::matches(const QString &words) const
 {
-    QStringList texts{QString::fromUtf8(m_rule.title), QString::fromUtf8(m_rule.rule), QString::fromUtf8(m_rule.fix),
-                      QString::fromLatin1(m_rule.id), QString::fromLatin1(m_rule.code)};
+    QStringList texts{worded(m_rule.title), worded(m_rule.rule), worded(m_rule.fix), QString::fromLatin1(m_rule.id),
+                      QString::fromLatin1(m_rule.code)};
     for (const Evidence &place : m_places)
         texts << place.path << place.text;
     const QString all = texts.join(u'\n');
@@ -105,8 +106,8 @@ void FindingRow::makeBody()
     column->setContentsMargins(indent, 6, 12, 12);
     column->setSpacing(2);
     addPart(column, qtTrId("FINDINGS_FOUND"), foundText());
-    addPart(column, qtTrId("FINDINGS_WHY"), QString::fromUtf8(m_rule.rule));
-    addPart(column, qtTrId("FINDINGS_MEND"), QString::fromUtf8(m_rule.fix));
+    addPart(column, qtTrId("FINDINGS_WHY"), worded(m_rule.rule));
+    addPart(column, qtTrId("FINDINGS_MEND"), worded(m_rule.fix));
     auto *buttons = new QHBoxLayout;
     buttons->setSpacing(8);
     if (QLatin1StringView(m_rule.id).startsWith("icon-"_L1)) {

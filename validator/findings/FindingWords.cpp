@@ -23,34 +23,6 @@ QString countText(qsizetype count, const char *one, const char *several)
 
 } // namespace
 
-QString findingSumText(const QList<Finding> &findings)
-{
-    QStringList sums;
-    const auto add = [&](Severity severity, const char *one, const char *several) {
-        const qsizetype count = std::ranges::count_if(
-            findings, [severity](const Finding &finding) { return finding.rule->severity == severity; });
-        if (count > 0)
-            sums += countText(count, one, several);
-    };
-    add(Severity::Error, "FINDINGS_ONE_ERROR", "FINDINGS_ERRORS");
-    add(Severity::Warning, "FINDINGS_ONE_WARNING", "FINDINGS_WARNINGS");
-    add(Severity::Note, "FINDINGS_ONE_NOTE", "FINDINGS_NOTES");
-    return sums.isEmpty() ? qtTrId("FINDINGS_NONE") : sums.join(u", "_s);
-}
-
-QString severityText(Severity severity)
-{
-    switch (severity) {
-    case Severity::Error:
-        return qtTrId("FINDINGS_ERROR");
-    case Severity::Warning:
-        return qtTrId("FINDINGS_WARNING");
-    case Severity::Note:
-        break;
-    }
-    return qtTrId("FINDINGS_NOTE");
-}
-
 QString bundleKindText(BundleKind kind)
 {
     switch (kind) {
@@ -66,25 +38,6 @@ QString bundleKindText(BundleKind kind)
         break;
     }
     return qtTrId("REVIEW_KIND_RESOURCES");
-}
-
-QString fileKindText(const QString &kind)
-{
-    static constexpr std::pair<QLatin1StringView, const char *> names[] = {
-        {"code"_L1, "REVIEW_FILES_CODE"},
-        {"catalogs"_L1, "REVIEW_FILES_CATALOGS"},
-        {"pictures"_L1, "REVIEW_FILES_PICTURES"},
-        {"sounds"_L1, "REVIEW_FILES_SOUNDS"},
-        {"interfaces"_L1, "REVIEW_FILES_INTERFACES"},
-        {"languages"_L1, "REVIEW_FILES_LANGUAGES"},
-        {"fonts"_L1, "REVIEW_FILES_FONTS"},
-        {"signing"_L1, "REVIEW_FILES_SIGNING"},
-    };
-    for (const auto &[name, key] : names) {
-        if (kind == name)
-            return qtTrId(key);
-    }
-    return qtTrId("REVIEW_FILES_OTHERS");
 }
 
 QString bytesText(quint64 bytes)
@@ -117,10 +70,10 @@ QStringList findingTexts(const QList<Finding> &findings)
     for (const Finding &finding : findings) {
         const Rule &rule = *finding.rule;
         const QString code = QString::fromLatin1(rule.code);
-        lines += severityText(rule.severity) + u": "_s + QString::fromUtf8(rule.title) + u" ("_s +
-                 QString::fromLatin1(rule.id) + (code.isEmpty() ? QString() : u", "_s + code) + u')';
+        lines += severityText(rule.severity) + u": "_s + worded(rule.title) + u" ("_s + QString::fromLatin1(rule.id) +
+                 (code.isEmpty() ? QString() : u", "_s + code) + u')';
         lines += u"  "_s + evidenceText(finding.evidence);
-        lines += u"  "_s + QString::fromUtf8(rule.fix);
+        lines += u"  "_s + worded(rule.fix);
     }
     return lines;
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "validator/review/PackageReview.h"
+#include "validator/rules/Wording.h"
 
 #include <QDateTime>
 #include <QString>
@@ -9,16 +10,7 @@
 namespace lumora
 {
 
-/// "3 errors, 2 warnings"; without findings, that there are none.
-QString findingSumText(const QList<Finding> &findings);
-
-/// "Error", "Warning", "Note".
-QString severityText(Severity severity);
-
 QString bundleKindText(BundleKind kind);
-
-/// The name of one of `fileKinds()`.
-QString fileKindText(const QString &kind);
 
 /// "12.4 MB" in the user's format.
 QString bytesText(quint64 bytes);

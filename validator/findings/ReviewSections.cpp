@@ -4,6 +4,7 @@
 #include "FindingWords.h"
 #include "SizeBar.h"
 #include "tool/style/LabelStyle.h"
+#include "validator/reports/PackageJson.h"
 #include "validator/words/LongWords.h"
 #include "validator/words/ShownFact.h"
 #include "widgets/buttons/IconButton.h"
@@ -36,31 +37,6 @@ QLabel *heading(const QString &text)
     auto *label = new QLabel(text);
     styleLabel(label, latoBold(headingSize), palette::chromeText);
     return label;
-}
-
-QString verdictText(const QJsonObject &signature)
-{
-    const QString verdict = signature[u"verdict"_s].toString();
-    if (verdict == u"valid")
-        return qtTrId("REVIEW_SIGNATURE_VALID");
-    if (verdict == u"unsigned")
-        return qtTrId("REVIEW_SIGNATURE_NONE");
-    return verdict.isEmpty() ? QString() : qtTrId("REVIEW_SIGNATURE_BROKEN");
-}
-
-QString profileText(const QString &kind)
-{
-    static constexpr std::pair<QLatin1StringView, const char *> names[] = {
-        {"development"_L1, "REVIEW_PROFILE_DEVELOPMENT"},
-        {"ad-hoc"_L1, "REVIEW_PROFILE_AD_HOC"},
-        {"enterprise"_L1, "REVIEW_PROFILE_ENTERPRISE"},
-        {"app-store"_L1, "REVIEW_PROFILE_STORE"},
-    };
-    for (const auto &[name, key] : names) {
-        if (kind == name)
-            return qtTrId(key);
-    }
-    return {};
 }
 
 /// The last step of the path.
@@ -165,14 +141,14 @@ NamedValues ReviewSections::signatureFacts(const PackageReview &review, const QD
         if (!value.isEmpty())
             facts.append({qtTrId(key), value});
     };
-    add("REVIEW_SIGNATURE", verdictText(signature));
+    add("REVIEW_SIGNATURE", valueWord(signature[u"verdict"_s].toString()));
     add("REVIEW_SIGNER", signature[u"signer"_s].toString());
     add("REVIEW_TEAM", signature[u"team"_s].toString());
     if (profile.isEmpty()) {
         add("REVIEW_PROFILE", qtTrId("REVIEW_PROFILE_NONE"));
         return facts;
     }
-    add("REVIEW_PROFILE", profileText(profile[u"kind"_s].toString()));
+    add("REVIEW_PROFILE", valueWord(profile[u"kind"_s].toString()));
     add("REVIEW_PROFILE_NAME", profile[u"name"_s].toString());
     add("REVIEW_PROFILE_TEAM", profile[u"team"_s].toString());
     add("REVIEW_EXPIRY", expiryText(QDateTime::fromString(profile[u"expires"_s].toString(), Qt::ISODate), now));

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "FileKinds.h"
 
+#include "validator/rules/Wording.h"
+
 #include <QSet>
 
 #include <algorithm>
@@ -55,6 +57,25 @@ QStringList fileKinds()
     for (const Kind &kind : kindsByEnding())
         names += kind.name;
     return names + QStringList{u"signing"_s, u"others"_s};
+}
+
+QString fileKindText(const QString &kind)
+{
+    static constexpr std::pair<QLatin1StringView, const char *> names[] = {
+        {"code"_L1, "REVIEW_FILES_CODE"},
+        {"catalogs"_L1, "REVIEW_FILES_CATALOGS"},
+        {"pictures"_L1, "REVIEW_FILES_PICTURES"},
+        {"sounds"_L1, "REVIEW_FILES_SOUNDS"},
+        {"interfaces"_L1, "REVIEW_FILES_INTERFACES"},
+        {"languages"_L1, "REVIEW_FILES_LANGUAGES"},
+        {"fonts"_L1, "REVIEW_FILES_FONTS"},
+        {"signing"_L1, "REVIEW_FILES_SIGNING"},
+    };
+    for (const auto &[name, key] : names) {
+        if (kind == name)
+            return worded(key);
+    }
+    return worded("REVIEW_FILES_OTHERS");
 }
 
 FileTotals totalsOf(const PackageContents &contents)

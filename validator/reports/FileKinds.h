@@ -21,6 +21,9 @@ using FileTotals = QMap<QString, FileTotal>;
 /// "code", "catalogs", "pictures", "sounds", "interfaces", "languages", "fonts", "signing", "others", in this order.
 QStringList fileKinds();
 
+/// The name of a kind in the user's language.
+QString fileKindText(const QString &kind);
+
 /// The totals by kind, and under the empty name those of all files.
 FileTotals totalsOf(const PackageContents &contents);
 

@@ -2,6 +2,7 @@
 #include "HtmlReport.h"
 
 #include "foundation/PrintableText.h"
+#include "validator/rules/Wording.h"
 
 #include <QLocale>
 
@@ -38,12 +39,12 @@ QString text(const char *part)
 
 QString bytesText(quint64 bytes)
 {
-    return QLocale::c().formattedDataSize(static_cast<qint64>(bytes), 1, QLocale::DataSizeSIFormat);
+    return QLocale().formattedDataSize(static_cast<qint64>(bytes), 1, QLocale::DataSizeSIFormat);
 }
 
-QString countText(qsizetype count, const QString &one)
+QString filesText(qsizetype count)
 {
-    return QString::number(count) + u' ' + one + (count == 1 ? QString() : u"s"_s);
+    return count == 1 ? worded("HTML_ONE_FILE") : worded("HTML_FILES", {QLocale().toString(count)});
 }
 
 QString table(const QString &title, const NamedValues &values)
@@ -56,31 +57,18 @@ QString table(const QString &title, const NamedValues &values)
     return html + u"</table>\n"_s;
 }
 
-/// "2 errors, 1 warning".
-QString sumOf(const QList<Finding> &findings)
-{
-    QStringList sums;
-    for (const Severity severity : {Severity::Error, Severity::Warning, Severity::Note}) {
-        const qsizetype count = std::ranges::count_if(
-            findings, [severity](const Finding &finding) { return finding.rule->severity == severity; });
-        if (count > 0)
-            sums += countText(count, severityName(severity));
-    }
-    return sums.isEmpty() ? u"nothing found"_s : sums.join(u", "_s);
-}
-
 QString findingHtml(const Finding &finding)
 {
     const Rule &rule = *finding.rule;
     const QString severity = severityName(rule.severity);
     const QString code = text(rule.code);
-    QString html = u"<div class=\"finding "_s + severity + u"\"><strong>"_s + escaped(text(rule.title)) +
-                   u"</strong> <span class=\"code\">"_s + severity + u", "_s + escaped(text(rule.id)) +
-                   (code.isEmpty() ? QString() : u", "_s + escaped(code)) + u"</span><br>\n"_s;
+    QString html = u"<div class=\"finding "_s + severity + u"\"><strong>"_s + escaped(worded(rule.title)) +
+                   u"</strong> <span class=\"code\">"_s + severityText(rule.severity) + u", "_s +
+                   escaped(text(rule.id)) + (code.isEmpty() ? QString() : u", "_s + escaped(code)) + u"</span><br>\n"_s;
     if (!finding.evidence.path.isEmpty())
         html += u"<code>"_s + escaped(finding.evidence.path) + u"</code>: "_s;
-    return html + escaped(finding.evidence.text) + u"<br>\n"_s + escaped(text(rule.rule)) + u' ' +
-           escaped(text(rule.fix)) + u"</div>\n"_s;
+    return html + escaped(finding.evidence.text) + u"<br>\n"_s + escaped(worded(rule.rule)) + u' ' +
+           escaped(worded(rule.fix)) + u"</div>\n"_s;
 }
 
 QString sizeHtml(const SizeNode &node)
@@ -88,12 +76,11 @@ QString sizeHtml(const SizeNode &node)
     const QString line = escaped(node.name) + u" <span class=\"code\">"_s + bytesText(node.bytes);
     if (node.parts.isEmpty())
         return u"<li>"_s + line + u"</span></li>\n"_s;
-    QString html =
-        u"<li><details><summary>"_s + line + u", "_s + countText(node.files, u"file"_s) + u"</span></summary><ul>\n"_s;
+    QString html = u"<li><details><summary>"_s + line + u", "_s + filesText(node.files) + u"</span></summary><ul>\n"_s;
     for (const SizeNode &part : node.parts)
         html += sizeHtml(part);
     if (node.more > 0)
-        html += u"<li class=\"code\">"_s + QString::number(node.more) + u" more</li>\n"_s;
+        html += u"<li class=\"code\">"_s + worded("HTML_MORE", {QLocale().toString(node.more)}) + u"</li>\n"_s;
     return html + u"</ul></details></li>\n"_s;
 }
 
@@ -107,15 +94,15 @@ QString packageHtml(const ShownPackage &package)
     html += u"<h1>"_s + escaped(judged.file) + u"</h1></header>\n"_s;
     if (!judged.failure.isEmpty())
         return html + u"<p class=\"finding error\">"_s + escaped(judged.failure) + u"</p>\n</section>\n"_s;
-    html += table(u"Facts"_s, package.facts);
+    html += table(worded("HTML_FACTS"), package.facts);
     const QList<Finding> findings = findingsAmong(judged.verdicts);
-    html += u"<h2>Findings: "_s + sumOf(findings) + u"</h2>\n"_s;
+    html += u"<h2>"_s + worded("FINDINGS_TITLE") + u": "_s + findingSumText(findings) + u"</h2>\n"_s;
     for (const Finding &finding : findings)
         html += findingHtml(finding);
-    html += table(u"Signature"_s, package.signature);
+    html += table(worded("REVIEW_SIGNATURE"), package.signature);
     if (package.sizes.files > 0) {
-        html += u"<h2>Sizes: "_s + bytesText(package.sizes.bytes) + u", "_s +
-                countText(package.sizes.files, u"file"_s) + u"</h2>\n<ul>\n"_s;
+        html += u"<h2>"_s + worded("REVIEW_SIZES") + u": "_s + bytesText(package.sizes.bytes) + u", "_s +
+                filesText(package.sizes.files) + u"</h2>\n<ul>\n"_s;
         for (const SizeNode &part : package.sizes.parts)
             html += sizeHtml(part);
         html += u"</ul>\n"_s;
@@ -127,13 +114,14 @@ QString packageHtml(const ShownPackage &package)
 
 QByteArray htmlReport(const QList<ShownPackage> &packages, const QString &version)
 {
-    QString html = u"<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n"
+    QString html = u"<!DOCTYPE html>\n<html lang=\""_s + worded("HTML_LANGUAGE") +
+                   u"\">\n<head>\n<meta charset=\"utf-8\">\n"
                    "<meta name=\"viewport\" content=\"width=device-width\">\n"
                    "<meta http-equiv=\"Content-Security-Policy\" "
                    "content=\"default-src 'none'; img-src data:; style-src 'unsafe-inline'\">\n"
                    "<meta name=\"generator\" content=\"Lumora "_s +
                    version + u"\">\n<title>"_s +
-                   (packages.size() == 1 ? escaped(packages.first().judged.file) : u"Packages"_s) +
+                   (packages.size() == 1 ? escaped(packages.first().judged.file) : worded("HTML_PACKAGES")) +
                    u"</title>\n<style>"_s + text(styleSheet) + u"</style>\n</head>\n<body>\n"_s;
     for (const ShownPackage &package : packages)
         html += packageHtml(package);

@@ -2,6 +2,7 @@
 #include "JunitReport.h"
 
 #include "foundation/PrintableText.h"
+#include "validator/rules/Wording.h"
 
 #include <QXmlStreamWriter>
 
@@ -59,7 +60,7 @@ QString foundBy(const RuleVerdict &verdict)
     for (const Evidence &evidence : verdict.judgement.evidence)
         lines +=
             printableText(evidence.path.isEmpty() ? evidence.text : QString(evidence.path + u": "_s + evidence.text));
-    return (lines << text(verdict.rule->fix)).join(u'\n');
+    return (lines << worded(verdict.rule->fix)).join(u'\n');
 }
 
 void writeCase(QXmlStreamWriter &xml, const RuleVerdict &verdict, std::optional<Severity> failOn)
@@ -71,7 +72,7 @@ void writeCase(QXmlStreamWriter &xml, const RuleVerdict &verdict, std::optional<
     if (countsAsFailure(verdict, failOn)) {
         xml.writeStartElement(u"failure"_s);
         xml.writeAttribute(u"type"_s, text(*rule.code == '\0' ? rule.id : rule.code));
-        xml.writeAttribute(u"message"_s, text(rule.title));
+        xml.writeAttribute(u"message"_s, worded(rule.title));
         xml.writeCharacters(foundBy(verdict));
         xml.writeEndElement();
     } else if (isSkipped(verdict)) {
@@ -79,7 +80,7 @@ void writeCase(QXmlStreamWriter &xml, const RuleVerdict &verdict, std::optional<
         xml.writeAttribute(u"message"_s, printableText(verdict.judgement.reason));
     } else if (verdict.judgement.state == Judgement::Broken) {
         xml.writeTextElement(u"system-out"_s,
-                             severityName(rule.severity) + u": "_s + text(rule.title) + u'\n' + foundBy(verdict));
+                             severityName(rule.severity) + u": "_s + worded(rule.title) + u'\n' + foundBy(verdict));
     }
     xml.writeEndElement();
 }

@@ -2,6 +2,7 @@
 #include "PackageJson.h"
 
 #include "validator/bundle/MetadataChecks.h"
+#include "validator/rules/Wording.h"
 
 #include <QJsonArray>
 
@@ -176,10 +177,13 @@ QJsonObject reportJson(const QString &file, const PackageReport &report)
 QJsonObject findingJson(const Finding &finding)
 {
     const Rule &rule = *finding.rule;
-    return {{u"id"_s, QString::fromLatin1(rule.id)},        {u"code"_s, textOrNull(QString::fromLatin1(rule.code))},
-            {u"severity"_s, severityName(rule.severity)},   {u"title"_s, QString::fromUtf8(rule.title)},
-            {u"path"_s, textOrNull(finding.evidence.path)}, {u"evidence"_s, finding.evidence.text},
-            {u"fix"_s, QString::fromUtf8(rule.fix)}};
+    return {{u"id"_s, QString::fromLatin1(rule.id)},
+            {u"code"_s, textOrNull(QString::fromLatin1(rule.code))},
+            {u"severity"_s, severityName(rule.severity)},
+            {u"title"_s, worded(rule.title)},
+            {u"path"_s, textOrNull(finding.evidence.path)},
+            {u"evidence"_s, finding.evidence.text},
+            {u"fix"_s, worded(rule.fix)}};
 }
 
 QJsonObject storeJson(const PackageContents &contents, const QList<Finding> &findings)

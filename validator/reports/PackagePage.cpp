@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "PackagePage.h"
 
+#include "PackageJson.h"
 #include "pictures/png/PngEncoder.h"
+#include "validator/rules/Wording.h"
 
 #include <QJsonArray>
 
@@ -19,7 +21,7 @@ QString valueText(const QString &key, const QJsonValue &value)
     if (key == u"devices")
         return value.toArray().isEmpty() ? QString() : QString::number(value.toArray().size());
     if (!value.isArray())
-        return value.toString();
+        return key == u"verdict" || key == u"kind" ? valueWord(value.toString()) : value.toString();
     QStringList texts;
     const QJsonArray array = value.toArray();
     for (const QJsonValue each : array)
@@ -47,24 +49,24 @@ ShownPackage shownPackage(const JudgedPackage &judged, const PackageReport &repo
     // Without an icon, or with one that memory does not suffice for, the page shows none.
     if (const Result<QByteArray> icon = encodePng(report.artwork.appIcon, judged.file))
         shown.iconPng = icon.value();
-    shown.facts = named(json, {{u"name"_s, u"Name"_s},
-                               {u"version"_s, u"Version"_s},
-                               {u"platform"_s, u"Platform"_s},
-                               {u"minimumOS"_s, u"Minimum system"_s},
-                               {u"bundleIdentifier"_s, u"Identifier"_s},
-                               {u"build"_s, u"Build"_s},
-                               {u"localizations"_s, u"Languages"_s},
-                               {u"urlSchemes"_s, u"URL schemes"_s},
-                               {u"facebookAppID"_s, u"Facebook"_s}});
-    shown.signature = named(json[u"signature"_s].toObject(), {{u"verdict"_s, u"Signature"_s},
-                                                              {u"identifier"_s, u"Identifier"_s},
-                                                              {u"team"_s, u"Team"_s},
-                                                              {u"signer"_s, u"Signer"_s},
-                                                              {u"broken"_s, u"Broken"_s}}) +
-                      named(json[u"profile"_s].toObject(), {{u"kind"_s, u"Profile"_s},
-                                                            {u"name"_s, u"Name of the profile"_s},
-                                                            {u"expires"_s, u"Expires"_s},
-                                                            {u"devices"_s, u"Devices"_s}});
+    shown.facts = named(json, {{u"name"_s, worded("HTML_NAME")},
+                               {u"version"_s, worded("HTML_VERSION")},
+                               {u"platform"_s, worded("HTML_PLATFORM")},
+                               {u"minimumOS"_s, worded("HTML_MINIMUM_SYSTEM")},
+                               {u"bundleIdentifier"_s, worded("HTML_IDENTIFIER")},
+                               {u"build"_s, worded("HTML_BUILD")},
+                               {u"localizations"_s, worded("REVIEW_FILES_LANGUAGES")},
+                               {u"urlSchemes"_s, worded("HTML_URL_SCHEMES")},
+                               {u"facebookAppID"_s, worded("HTML_FACEBOOK")}});
+    shown.signature = named(json[u"signature"_s].toObject(), {{u"verdict"_s, worded("REVIEW_SIGNATURE")},
+                                                              {u"identifier"_s, worded("HTML_IDENTIFIER")},
+                                                              {u"team"_s, worded("REVIEW_TEAM")},
+                                                              {u"signer"_s, worded("REVIEW_SIGNER")},
+                                                              {u"broken"_s, worded("REVIEW_SIGNATURE_BROKEN")}}) +
+                      named(json[u"profile"_s].toObject(), {{u"kind"_s, worded("REVIEW_PROFILE")},
+                                                            {u"name"_s, worded("REVIEW_PROFILE_NAME")},
+                                                            {u"expires"_s, worded("HTML_EXPIRES")},
+                                                            {u"devices"_s, worded("REVIEW_DEVICES")}});
     return shown;
 }
 

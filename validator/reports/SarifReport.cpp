@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "SarifReport.h"
 
+#include "validator/rules/Wording.h"
+
 #include <QDir>
 #include <QHash>
 #include <QJsonArray>
@@ -37,9 +39,9 @@ QString addressOf(const QString &file)
 QJsonObject ruleJson(const Rule &rule)
 {
     QJsonObject object{{u"id"_s, text(rule.id)},
-                       {u"shortDescription"_s, message(text(rule.title))},
-                       {u"fullDescription"_s, message(text(rule.rule))},
-                       {u"help"_s, message(text(rule.fix))},
+                       {u"shortDescription"_s, message(worded(rule.title))},
+                       {u"fullDescription"_s, message(worded(rule.rule))},
+                       {u"help"_s, message(worded(rule.fix))},
                        {u"defaultConfiguration"_s, QJsonObject{{u"level"_s, severityName(rule.severity)}}}};
     if (*rule.code != '\0')
         object.insert(u"properties"_s, QJsonObject{{u"tags"_s, QJsonArray{text(rule.code)}}});
@@ -98,7 +100,7 @@ private:
             {u"ruleId"_s, text(rule.id)},
             {u"ruleIndex"_s, m_ruleIndexes.value(&rule)},
             {u"level"_s, severityName(rule.severity)},
-            {u"message"_s, message(text(rule.title) + u" ("_s + where + evidence.text + u"). "_s + text(rule.fix))},
+            {u"message"_s, message(worded(rule.title) + u" ("_s + where + evidence.text + u"). "_s + worded(rule.fix))},
             {u"locations"_s, QJsonArray{location}}});
     }
 

@@ -17,6 +17,19 @@ struct SdkDemand
     int major;
 };
 
+constexpr QLatin1StringView privateFolder("/System/Library/PrivateFrameworks/");
+/// Functions that lie in public libraries, or are looked up by name, but are not for apps.
+constexpr const char *privateSymbols[] = {
+    "_MGCopyAnswer",
+    "_UIGetScreenImage",
+    "_SBSCopyFrontmostApplicationDisplayIdentifier",
+    "_SBSSpringBoardServerPort",
+    "_MobileInstallationInstall",
+    "_MobileInstallationLookup",
+    "_OBJC_CLASS_$_LSApplicationWorkspace",
+    "_OBJC_CLASS_$_LSApplicationProxy",
+};
+
 QVersionNumber versionNumber(const BinaryVersion &version)
 {
     return QVersionNumber(version.major(), version.minor());
@@ -26,12 +39,12 @@ Judgement sdkAtLeast(const PackageContents &contents, const SdkDemand &demand)
 {
     const QVersionNumber sdk = sdkOf(contents);
     if (sdk.isNull())
-        return cannotBeKnown(u"neither the binary nor the Info.plist names an SDK"_s);
+        return cannotBeKnown(worded("FOUND_NO_SDK"));
     if (sdk.majorVersion() >= demand.major)
         return holds();
-    return brokenBy({{contents.app()->executable,
-                      u"built with the SDK of %1, %2 is asked for since %3"_s.arg(
-                          sdk.toString(), QString::number(demand.major), demand.since.toString(u"yyyy-MM"_s))}});
+    return brokenBy(
+        {{contents.app()->executable, worded("FOUND_OLD_SDK", {sdk.toString(), QString::number(demand.major),
+                                                               demand.since.toString(u"yyyy-MM"_s)})}});
 }
 
 bool isSimulator(BinaryPlatform platform)
@@ -67,22 +80,22 @@ QStringList foldersIn(const PackageContents &contents, const QString &extension,
 Judgement judgeSdkAge(const PackageContents &contents, const RuleSettings &settings)
 {
     if (!isPhoneApp(contents))
-        return notApplicable(u"no app for iPhone or iPad"_s);
+        return notApplicable(worded("FOUND_NO_PHONE_OR_PAD"));
     // The day within the month is not certain, so each date counts from the end of its month.
     const SdkDemand demands[] = {{QDate(2026, 4, 30), 26}, {QDate(2025, 4, 30), 18}};
     for (const SdkDemand &demand : demands) {
         if (settings.on > demand.since)
             return sdkAtLeast(contents, demand);
     }
-    return notApplicable(u"nothing is known of what was asked for on that day"_s);
+    return notApplicable(worded("FOUND_UNKNOWN_DAY"));
 }
 
 Judgement judgeSdkAgeNext(const PackageContents &contents, const RuleSettings &settings)
 {
     if (!isPhoneApp(contents))
-        return notApplicable(u"no app for iPhone or iPad"_s);
+        return notApplicable(worded("FOUND_NO_PHONE_OR_PAD"));
     const SdkDemand demand{QDate(2027, 4, 30), 27};
-    return settings.on > demand.since ? sdkAtLeast(contents, demand) : notApplicable(u"not asked for on that day"_s);
+    return settings.on > demand.since ? sdkAtLeast(contents, demand) : notApplicable(worded("FOUND_NOT_ASKED"));
 }
 
 Judgement judgeExecutable(const PackageContents &contents, const RuleSettings &)
@@ -93,10 +106,10 @@ Judgement judgeExecutable(const PackageContents &contents, const RuleSettings &)
             continue;
         const PackageBinary *binary = contents.binaryOf(*bundle);
         if (bundle->executable.isEmpty())
-            bad += Evidence{infoPath(*bundle), u"no CFBundleExecutable"_s};
+            bad += Evidence{infoPath(*bundle), worded("FOUND_NO_EXECUTABLE_KEY")};
         else if (binary == nullptr)
             bad += Evidence{bundle->executable,
-                            contents.holds(bundle->executable) ? u"no Mach-O file"_s : u"is not there"_s};
+                            contents.holds(bundle->executable) ? worded("FOUND_NO_MACHO") : worded("FOUND_NOT_THERE")};
     }
     for (const PackageBinary &binary : contents.binaries) {
         const bool damaged =
@@ -107,7 +120,7 @@ Judgement judgeExecutable(const PackageContents &contents, const RuleSettings &)
                 });
             });
         if (damaged)
-            bad += Evidence{binary.path, u"load commands that are damaged or lead out of the file"_s};
+            bad += Evidence{binary.path, worded("FOUND_LOAD_COMMANDS")};
     }
     return brokenBy(bad);
 }
@@ -115,13 +128,13 @@ Judgement judgeExecutable(const PackageContents &contents, const RuleSettings &)
 Judgement judgeSimulatorSlices(const PackageContents &contents, const RuleSettings &)
 {
     if (isMacApp(contents))
-        return notApplicable(u"an app for the Mac"_s);
+        return notApplicable(worded("FOUND_MAC_APP"));
     QList<Evidence> slices;
     for (const PackageBinary &binary : contents.binaries) {
         for (const BinarySlice &slice : binary.facts.slices) {
             const bool simulator = !slice.targets.isEmpty() && isSimulator(slice.targets.first().platform);
             if (simulator || slice.architecture == "i386"_L1 || slice.architecture.startsWith("x86_64"_L1))
-                slices += Evidence{binary.path, u"a slice for the simulator: %1"_s.arg(slice.architecture)};
+                slices += Evidence{binary.path, worded("FOUND_SIMULATOR_SLICE", {slice.architecture})};
         }
     }
     return brokenBy(slices);
@@ -138,8 +151,8 @@ Judgement judgeAlignment(const PackageContents &contents, const RuleSettings &)
             for (const BinarySegment &segment : slice.segments) {
                 if (segment.fileSize > 0 &&
                     (segment.fileOffset % smallestPage != 0 || segment.address % smallestPage != 0))
-                    segments += Evidence{binary.path, u"%1 of %2 does not begin at a page"_s.arg(
-                                                          QString::fromLatin1(segment.name), slice.architecture)};
+                    segments += Evidence{binary.path, worded("FOUND_NOT_ALIGNED",
+                                                             {QString::fromLatin1(segment.name), slice.architecture})};
             }
         }
     }
@@ -152,14 +165,14 @@ Judgement judgeBitcode(const PackageContents &contents, const RuleSettings &)
     const int xcode = contents.app()->text(u"DTXcode"_s).toInt(&known);
     constexpr int firstWithout = 1600;
     if (known && xcode < firstWithout)
-        return notApplicable(u"built with Xcode before 16"_s);
+        return notApplicable(worded("FOUND_BEFORE_XCODE_16"));
     if (!known)
-        return cannotBeKnown(u"the Info.plist does not name the Xcode"_s);
+        return cannotBeKnown(worded("FOUND_NO_XCODE"));
     QList<Evidence> found;
     for (const PackageBinary &binary : contents.binaries) {
         for (const BinarySlice &slice : binary.facts.slices) {
             if (slice.segment("__LLVM") != nullptr)
-                found += Evidence{binary.path, u"a segment __LLVM for %1"_s.arg(slice.architecture)};
+                found += Evidence{binary.path, worded("FOUND_BITCODE", {slice.architecture})};
         }
     }
     return brokenBy(found);
@@ -168,16 +181,16 @@ Judgement judgeBitcode(const PackageContents &contents, const RuleSettings &)
 Judgement judgeEncryptionInfo(const PackageContents &contents, const RuleSettings &)
 {
     if (!isPhoneApp(contents))
-        return notApplicable(u"no app for iPhone or iPad"_s);
+        return notApplicable(worded("FOUND_NO_PHONE_OR_PAD"));
     const PackageBinary *binary = contents.binaryOf(*contents.app());
     if (binary == nullptr)
-        return cannotBeKnown(u"the app's binary cannot be read"_s);
+        return cannotBeKnown(worded("FOUND_NO_BINARY"));
     QList<Evidence> bad;
     for (const BinarySlice &slice : binary->facts.slices) {
         if (!slice.encryption)
-            bad += Evidence{binary->path, u"%1 has no LC_ENCRYPTION_INFO"_s.arg(slice.architecture)};
+            bad += Evidence{binary->path, worded("FOUND_NO_ENCRYPTION_INFO", {slice.architecture})};
         else if (slice.isEncrypted())
-            bad += Evidence{binary->path, u"%1 is enciphered already"_s.arg(slice.architecture)};
+            bad += Evidence{binary->path, worded("FOUND_ENCIPHERED", {slice.architecture})};
     }
     return brokenBy(bad);
 }
@@ -188,7 +201,34 @@ Judgement judgeWebView(const PackageContents &contents, const RuleSettings &)
     for (const PackageBinary &binary : contents.binaries) {
         if (std::ranges::any_of(binary.facts.slices,
                                 [](const BinarySlice &slice) { return slice.importsClass("UIWebView"); }))
-            uses += Evidence{binary.path, u"imports the class UIWebView"_s};
+            uses += Evidence{binary.path, worded("FOUND_WEB_VIEW")};
+    }
+    return brokenBy(uses);
+}
+
+Judgement judgePrivateNames(const PackageContents &contents, const RuleSettings &)
+{
+    if (isMacApp(contents))
+        return notApplicable(worded("FOUND_MAC_APP"));
+    QList<Evidence> uses;
+    for (const PackageBinary &binary : contents.binaries) {
+        QStringList found;
+        for (const BinarySlice &slice : binary.facts.slices) {
+            for (const LinkedLibrary &library : slice.libraries) {
+                const QString name = library.path.section(u'/', -1);
+                if (library.path.startsWith(privateFolder) && !found.contains(name)) {
+                    found += name;
+                    uses += Evidence{binary.path, worded("FOUND_PRIVATE_FRAMEWORK", {library.path})};
+                }
+            }
+            for (const char *symbol : privateSymbols) {
+                const QString name = QString::fromLatin1(symbol);
+                if (slice.imports(symbol) && !found.contains(name)) {
+                    found += name;
+                    uses += Evidence{binary.path, worded("FOUND_PRIVATE_SYMBOL", {name})};
+                }
+            }
+        }
     }
     return brokenBy(uses);
 }
@@ -196,7 +236,7 @@ Judgement judgeWebView(const PackageContents &contents, const RuleSettings &)
 Judgement judgeFrameworkMinimum(const PackageContents &contents, const RuleSettings &)
 {
     if (!isPhoneApp(contents))
-        return notApplicable(u"no app for iPhone or iPad"_s);
+        return notApplicable(worded("FOUND_NO_PHONE_OR_PAD"));
     QList<Evidence> bad;
     bool found = false;
     for (const PackageBundle &bundle : contents.bundles) {
@@ -205,11 +245,11 @@ Judgement judgeFrameworkMinimum(const PackageContents &contents, const RuleSetti
         found = true;
         const QVersionNumber minimum = minimumSystem(bundle);
         if (minimum.isNull())
-            bad += Evidence{infoPath(bundle), u"no MinimumOSVersion"_s};
+            bad += Evidence{infoPath(bundle), worded("FOUND_NO_MINIMUM")};
         else if (minimum < QVersionNumber(8))
-            bad += Evidence{infoPath(bundle), u"MinimumOSVersion is %1"_s.arg(minimum.toString())};
+            bad += Evidence{infoPath(bundle), worded("FOUND_MINIMUM_IS", {minimum.toString()})};
     }
-    return found ? brokenBy(bad) : notApplicable(u"there is no framework"_s);
+    return found ? brokenBy(bad) : notApplicable(worded("FOUND_NO_FRAMEWORK"));
 }
 
 Judgement judgeFrameworkBinaryMinimum(const PackageContents &contents, const RuleSettings &)
@@ -229,14 +269,13 @@ Judgement judgeFrameworkBinaryMinimum(const PackageContents &contents, const Rul
             const QVersionNumber real = versionNumber(slice.targets.first().minimumOS);
             if (!stated.isNull() &&
                 real.normalized() != QVersionNumber(stated.majorVersion(), stated.minorVersion()).normalized())
-                bad += Evidence{binary->path,
-                                u"is built for %1, its Info.plist says %2"_s.arg(real.toString(), stated.toString())};
+                bad += Evidence{binary->path, worded("FOUND_BUILT_OTHERWISE", {real.toString(), stated.toString()})};
             else if (!appMinimum.isNull() && real > appMinimum)
-                bad += Evidence{binary->path,
-                                u"is built for %1, the app for %2"_s.arg(real.toString(), appMinimum.toString())};
+                bad +=
+                    Evidence{binary->path, worded("FOUND_BUILT_FOR_NEWER", {real.toString(), appMinimum.toString()})};
         }
     }
-    return found ? brokenBy(bad) : notApplicable(u"there is no framework"_s);
+    return found ? brokenBy(bad) : notApplicable(worded("FOUND_NO_FRAMEWORK"));
 }
 
 Judgement judgeFrameworkFileType(const PackageContents &contents, const RuleSettings &)
@@ -249,13 +288,13 @@ Judgement judgeFrameworkFileType(const PackageContents &contents, const RuleSett
         found = true;
         const PackageBinary *binary = contents.binaryOf(bundle);
         if (contents.staticArchives.contains(bundle.executable))
-            bad += Evidence{bundle.executable, u"a static library"_s};
+            bad += Evidence{bundle.executable, worded("FOUND_STATIC_LIBRARY")};
         for (const BinarySlice &slice : binary == nullptr ? QList<BinarySlice>() : binary->facts.slices) {
             if (slice.fileType != BinaryFileType::Dylib)
-                bad += Evidence{binary->path, u"its type is \"%1\""_s.arg(fileTypeName(slice.fileType))};
+                bad += Evidence{binary->path, worded("FOUND_FILE_TYPE", {fileTypeName(slice.fileType)})};
         }
     }
-    return found ? brokenBy(bad) : notApplicable(u"there is no framework"_s);
+    return found ? brokenBy(bad) : notApplicable(worded("FOUND_NO_FRAMEWORK"));
 }
 
 Judgement judgeSwiftEntry(const PackageContents &contents, const RuleSettings &)
@@ -269,17 +308,17 @@ Judgement judgeSwiftEntry(const PackageContents &contents, const RuleSettings &)
         found = true;
         for (const BinarySlice &slice : binary->facts.slices) {
             if (slice.section("__swift5_entry") == nullptr)
-                bad += Evidence{binary->path, u"%1 has no section __swift5_entry"_s.arg(slice.architecture)};
+                bad += Evidence{binary->path, worded("FOUND_NO_SWIFT_ENTRY", {slice.architecture})};
         }
     }
-    return found ? brokenBy(bad) : notApplicable(u"there is no extension of that kind"_s);
+    return found ? brokenBy(bad) : notApplicable(worded("FOUND_NO_SUCH_EXTENSION"));
 }
 
 Judgement judgeLooseCode(const PackageContents &contents, const RuleSettings &)
 {
     const PackageBundle &app = *contents.app();
     if (isMacApp(contents))
-        return notApplicable(u"an app for the Mac"_s);
+        return notApplicable(worded("FOUND_MAC_APP"));
     QList<Evidence> loose;
     for (const PackageBinary &binary : contents.binaries) {
         if (!binary.path.startsWith(app.path + u'/'))
@@ -289,23 +328,23 @@ Judgement judgeLooseCode(const PackageContents &contents, const RuleSettings &)
         const bool isSwift =
             binary.path.startsWith(app.path + u"/Frameworks/libswift") && binary.path.endsWith(".dylib"_L1);
         if (!isExecutable && !isSwift)
-            loose += Evidence{binary.path, u"code outside of a bundle of its own"_s};
+            loose += Evidence{binary.path, worded("FOUND_LOOSE_CODE")};
     }
     for (const QString &path : contents.staticArchives)
-        loose += Evidence{path, u"a static library"_s};
+        loose += Evidence{path, worded("FOUND_STATIC_LIBRARY")};
     for (const QString &path : foldersIn(contents, u".framework"_s, u"Versions"_s))
-        loose += Evidence{path, u"a framework laid out as on the Mac"_s};
+        loose += Evidence{path, worded("FOUND_MAC_LAYOUT")};
     return brokenBy(loose);
 }
 
 Judgement judgeNestedFrameworks(const PackageContents &contents, const RuleSettings &)
 {
     if (isMacApp(contents))
-        return notApplicable(u"an app for the Mac"_s);
+        return notApplicable(worded("FOUND_MAC_APP"));
     QList<Evidence> nested;
     for (const QString &extension : {u".framework"_s, u".appex"_s}) {
         for (const QString &path : foldersIn(contents, extension, u"Frameworks"_s))
-            nested += Evidence{path, u"a folder of frameworks inside of nested code"_s};
+            nested += Evidence{path, worded("FOUND_NESTED_FRAMEWORKS")};
     }
     return brokenBy(nested);
 }
@@ -314,7 +353,7 @@ Judgement judgeSwiftSupport(const PackageContents &contents, const RuleSettings 
 {
     const PackageBundle &app = *contents.app();
     if (!contents.isArchive || !app.profile || app.profile->kind != ProfileKind::AppStore)
-        return notApplicable(u"no archive for the store"_s);
+        return notApplicable(worded("FOUND_NO_STORE_ARCHIVE"));
     QList<Evidence> missing;
     bool found = false;
     for (const PackageBinary &binary : contents.binaries) {
@@ -324,9 +363,9 @@ Judgement judgeSwiftSupport(const PackageContents &contents, const RuleSettings 
         found = true;
         const QString name = binary.path.mid(folder.size());
         if (!contents.holds(u"SwiftSupport/iphoneos/"_s + name))
-            missing += Evidence{binary.path, u"SwiftSupport/iphoneos/%1 is not there"_s.arg(name)};
+            missing += Evidence{binary.path, worded("FOUND_NO_SWIFT_SUPPORT", {name})};
     }
-    return found ? brokenBy(missing) : notApplicable(u"it brings no libraries of Swift"_s);
+    return found ? brokenBy(missing) : notApplicable(worded("FOUND_NO_SWIFT_LIBRARIES"));
 }
 
 } // namespace lumora

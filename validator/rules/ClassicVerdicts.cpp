@@ -11,41 +11,41 @@ namespace lumora
 namespace
 {
 
-constexpr const char *source = "the rules of iOS 7";
+constexpr const char *source = "RULE_SOURCE_CLASSIC";
 
 constexpr Rule icons{"classic-icons",
                      "",
                      Severity::Error,
-                     "An icon of iOS 7 is missing",
-                     "An app for iOS 7 and before has its icons as files in every size.",
-                     "Add the missing sizes as files.",
+                     "RULE_CLASSIC_ICONS_TITLE",
+                     "RULE_CLASSIC_ICONS_RULE",
+                     "RULE_CLASSIC_ICONS_FIX",
                      source,
                      "",
                      nullptr};
 constexpr Rule launchImages{"classic-launch-images",
                             "",
                             Severity::Error,
-                            "A launch image of iOS 7 is missing",
-                            "An app for iOS 7 and before has a launch image for every screen.",
-                            "Add a picture of one of the sizes.",
+                            "RULE_CLASSIC_LAUNCH_IMAGES_TITLE",
+                            "RULE_CLASSIC_LAUNCH_IMAGES_RULE",
+                            "RULE_CLASSIC_LAUNCH_IMAGES_FIX",
                             source,
                             "",
                             nullptr};
 constexpr Rule identifier{"classic-identifier",
                           "",
                           Severity::Error,
-                          "The identifier is not that of the profile",
-                          "The bundle identifier is the one that the profile is for.",
-                          "Change the identifier, or sign with the profile that is for it.",
+                          "RULE_CLASSIC_IDENTIFIER_TITLE",
+                          "RULE_CLASSIC_IDENTIFIER_RULE",
+                          "RULE_CLASSIC_IDENTIFIER_FIX",
                           source,
                           "",
                           nullptr};
 constexpr Rule localizations{"classic-localizations",
                              "",
                              Severity::Error,
-                             "There is no localization",
-                             "The app has a folder for one language at least.",
-                             "Add a language to the project.",
+                             "RULE_CLASSIC_LOCALIZATIONS_TITLE",
+                             "RULE_CLASSIC_LOCALIZATIONS_RULE",
+                             "RULE_CLASSIC_LOCALIZATIONS_FIX",
                              source,
                              "",
                              nullptr};

@@ -15,7 +15,10 @@ namespace
 
 constexpr int marketingEdge = 1024;
 
-const QString noPhoneApp = u"no app for iPhone or iPad"_s;
+QString noPhoneApp()
+{
+    return worded("FOUND_NO_PHONE_OR_PAD");
+}
 
 /// The icon set's name in a dictionary of icons ("CFBundleIcons", or with "~ipad").
 QString iconName(const PackageBundle &app, const QString &key)
@@ -107,16 +110,15 @@ Judgement judgeSizes(const PackageContents &contents, const QList<int> &edges, c
 {
     const PackageBundle &app = *contents.app();
     if (!app.info)
-        return cannotBeKnown(u"the Info.plist cannot be read"_s);
+        return cannotBeKnown(worded("FOUND_INFO_UNREADABLE"));
     QList<Evidence> missing;
     for (const int edge : edges) {
         if (catalogHolds(app, marketingEdge, fits) || catalogHolds(app, edge, fits) || looseIconHas(contents, edge))
             continue;
         if (!app.catalog && namesLooseIcons(app))
-            return cannotBeKnown(u"the icon files' names do not tell their sizes"_s);
-        missing +=
-            Evidence{app.catalog ? catalogPath(app) : app.path,
-                     u"no %1 icon of %2 by %2 pixels, neither in the catalog nor as a file"_s.arg(device).arg(edge)};
+            return cannotBeKnown(worded("FOUND_ICON_NAMES"));
+        missing += Evidence{app.catalog ? catalogPath(app) : app.path,
+                            worded("FOUND_NO_ICON", {device, QString::number(edge)})};
     }
     return brokenBy(missing);
 }
@@ -127,9 +129,9 @@ Judgement judgePhoneIcon(const PackageContents &contents, const RuleSettings &)
 {
     const PackageBundle *app = contents.app();
     if (!isPhoneApp(contents) || !deviceFamilies(*app).contains(1))
-        return notApplicable(u"no app for the iPhone"_s);
+        return notApplicable(worded("FOUND_NO_PHONE"));
     if (!minimumSystem(*app).isNull() && minimumSystem(*app) < QVersionNumber(7))
-        return notApplicable(u"it also runs before iOS 7"_s);
+        return notApplicable(worded("FOUND_BEFORE_IOS_7"));
     return judgeSizes(contents, {120}, u"iPhone"_s, &fitsPhone);
 }
 
@@ -137,49 +139,49 @@ Judgement judgePadIcon(const PackageContents &contents, const RuleSettings &)
 {
     const PackageBundle *app = contents.app();
     if (!isPhoneApp(contents) || !deviceFamilies(*app).contains(2))
-        return notApplicable(u"no app for the iPad"_s);
+        return notApplicable(worded("FOUND_NO_PAD"));
     if (!minimumSystem(*app).isNull() && minimumSystem(*app) < QVersionNumber(7))
-        return notApplicable(u"it also runs before iOS 7"_s);
+        return notApplicable(worded("FOUND_BEFORE_IOS_7"));
     return judgeSizes(contents, {152}, u"iPad"_s, &fitsPad);
 }
 
 Judgement judgeMarketingIcon(const PackageContents &contents, const RuleSettings &)
 {
     if (!isPhoneApp(contents))
-        return notApplicable(noPhoneApp);
+        return notApplicable(noPhoneApp());
     const PackageBundle &app = *contents.app();
     if (sdkOf(contents) < QVersionNumber(11))
-        return notApplicable(u"built with an SDK before iOS 11"_s);
+        return notApplicable(worded("FOUND_BEFORE_IOS_11"));
     if (!app.catalog)
-        return brokenBy({{app.path, u"there is no asset catalog, and so no large icon in one"_s}});
+        return brokenBy({{app.path, worded("FOUND_NO_CATALOG")}});
     const bool found = std::ranges::any_of(iconPictures(app), [](const CatalogRendition &picture) {
         return picture.width == marketingEdge && picture.height == marketingEdge &&
                (fitsPhone(picture) || fitsPad(picture));
     });
-    return found ? holds() : brokenBy({{catalogPath(app), u"no icon of 1024 by 1024 pixels"_s}});
+    return found ? holds() : brokenBy({{catalogPath(app), worded("FOUND_NO_LARGE_ICON")}});
 }
 
 Judgement judgeIconName(const PackageContents &contents, const RuleSettings &)
 {
     if (!isPhoneApp(contents))
-        return notApplicable(noPhoneApp);
+        return notApplicable(noPhoneApp());
     const PackageBundle &app = *contents.app();
     if (sdkOf(contents) < QVersionNumber(11))
-        return notApplicable(u"built with an SDK before iOS 11"_s);
+        return notApplicable(worded("FOUND_BEFORE_IOS_11"));
     if (!app.info)
-        return cannotBeKnown(u"the Info.plist cannot be read"_s);
+        return cannotBeKnown(worded("FOUND_INFO_UNREADABLE"));
     const QString name = anyIconName(app);
     if (name.isEmpty())
-        return brokenBy({{infoPath(app), u"no CFBundleIconName, neither in CFBundleIcons nor by itself"_s}});
+        return brokenBy({{infoPath(app), worded("FOUND_NO_ICON_NAME")}});
     if (app.catalog && !app.catalog->facets.contains(name))
-        return brokenBy({{infoPath(app), u"CFBundleIconName is \"%1\", which the catalog does not hold"_s.arg(name)}});
+        return brokenBy({{infoPath(app), worded("FOUND_UNKNOWN_ICON_NAME", {name})}});
     return holds();
 }
 
 Judgement judgeOpaqueIcon(const PackageContents &contents, const RuleSettings &)
 {
     if (!isPhoneApp(contents))
-        return notApplicable(noPhoneApp);
+        return notApplicable(noPhoneApp());
     const PackageBundle &app = *contents.app();
     QList<Evidence> translucent;
     bool found = false;
@@ -189,10 +191,9 @@ Judgement judgeOpaqueIcon(const PackageContents &contents, const RuleSettings &)
             continue;
         found = true;
         if (picture.opaque == false)
-            translucent += Evidence{catalogPath(app), u"\"%1\" for %2 has transparent pixels or an alpha channel"_s.arg(
-                                                          picture.name, picture.idiom)};
+            translucent += Evidence{catalogPath(app), worded("FOUND_TRANSLUCENT", {picture.name, picture.idiom})};
     }
-    return found ? brokenBy(translucent) : notApplicable(u"there is no large icon in a catalog"_s);
+    return found ? brokenBy(translucent) : notApplicable(worded("FOUND_NO_LARGE_IN_CATALOG"));
 }
 
 } // namespace lumora

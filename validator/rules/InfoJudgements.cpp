@@ -15,7 +15,10 @@ namespace lumora
 namespace
 {
 
-const QString unreadable = u"the Info.plist cannot be read"_s;
+QString unreadable()
+{
+    return worded("FOUND_INFO_UNREADABLE");
+}
 
 QStringList textsIn(const PackageBundle &bundle, const QString &key)
 {
@@ -35,17 +38,25 @@ bool sharesTheScreen(const PackageBundle &app)
            minimumSystem(app) >= QVersionNumber(9);
 }
 
+/// Whether the app says that it needs a device with 64-bit code.
+bool listsArm64(const PackageBundle &app)
+{
+    const QVariant needed = app.info ? app.info->value(u"UIRequiredDeviceCapabilities"_s) : QVariant();
+    return needed.typeId() == QMetaType::QVariantMap ? needed.toMap().value(u"arm64"_s).toBool()
+                                                     : needed.toStringList().contains(u"arm64"_s);
+}
+
 } // namespace
 
 Judgement judgePadOrientations(const PackageContents &contents, const RuleSettings &)
 {
     if (!isPhoneApp(contents))
-        return notApplicable(u"no app for the iPad"_s);
+        return notApplicable(worded("FOUND_NO_PAD"));
     const PackageBundle &app = *contents.app();
     if (!app.info)
-        return cannotBeKnown(unreadable);
+        return cannotBeKnown(unreadable());
     if (!sharesTheScreen(app))
-        return notApplicable(u"it asks for the whole screen, or is for no iPad with multitasking"_s);
+        return notApplicable(worded("FOUND_WHOLE_SCREEN"));
     const QString key = app.has(u"UISupportedInterfaceOrientations~ipad"_s) ? u"UISupportedInterfaceOrientations~ipad"_s
                                                                             : u"UISupportedInterfaceOrientations"_s;
     const QStringList listed = textsIn(app, key);
@@ -56,47 +67,47 @@ Judgement judgePadOrientations(const PackageContents &contents, const RuleSettin
     }
     if (missing.isEmpty())
         return holds();
-    return brokenBy({{infoPath(app), u"%1 lacks %2"_s.arg(key, missing.join(u", "_s))}});
+    return brokenBy({{infoPath(app), worded("FOUND_LIST_LACKS", {key, missing.join(u", "_s)})}});
 }
 
 Judgement judgeLaunchScreen(const PackageContents &contents, const RuleSettings &)
 {
     if (!isPhoneApp(contents))
-        return notApplicable(u"no app for the iPad"_s);
+        return notApplicable(worded("FOUND_NO_PAD"));
     const PackageBundle &app = *contents.app();
     if (!app.info)
-        return cannotBeKnown(unreadable);
+        return cannotBeKnown(unreadable());
     if (!sharesTheScreen(app))
-        return notApplicable(u"it asks for the whole screen, or is for no iPad with multitasking"_s);
+        return notApplicable(worded("FOUND_WHOLE_SCREEN"));
     for (const QString &key : {u"UILaunchStoryboardName"_s, u"UILaunchStoryboardName~ipad"_s, u"UILaunchScreen"_s,
                                u"UILaunchScreen~ipad"_s, u"UILaunchScreens"_s}) {
         if (app.has(key))
             return holds();
     }
-    return brokenBy({{infoPath(app), u"neither UILaunchStoryboardName nor UILaunchScreen"_s}});
+    return brokenBy({{infoPath(app), worded("FOUND_NO_LAUNCH_SCREEN")}});
 }
 
 Judgement judgePackageType(const PackageContents &contents, const RuleSettings &)
 {
     const PackageBundle &app = *contents.app();
     if (!app.info)
-        return brokenBy({{infoPath(app), u"there is none that can be read"_s}});
+        return brokenBy({{infoPath(app), worded("FOUND_NONE_READABLE")}});
     const QString type = app.text(u"CFBundlePackageType"_s);
-    return type == "APPL"_L1 ? holds() : brokenBy({{infoPath(app), u"CFBundlePackageType is \"%1\""_s.arg(type)}});
+    return type == "APPL"_L1 ? holds() : brokenBy({{infoPath(app), worded("FOUND_PACKAGE_TYPE", {type})}});
 }
 
 Judgement judgeMinimumSystem(const PackageContents &contents, const RuleSettings &settings)
 {
     if (!isPhoneApp(contents))
-        return notApplicable(u"no app for iPhone or iPad"_s);
+        return notApplicable(worded("FOUND_NO_PHONE_OR_PAD"));
     if (settings.on < QDate(2026, 6, 1))
-        return notApplicable(u"not announced on that day"_s);
+        return notApplicable(worded("FOUND_NOT_ANNOUNCED"));
     const QVersionNumber minimum = minimumSystem(*contents.app());
     if (minimum.isNull())
-        return cannotBeKnown(u"the Info.plist names no MinimumOSVersion"_s);
+        return cannotBeKnown(worded("FOUND_INFO_NO_MINIMUM"));
     if (minimum >= QVersionNumber(15))
         return holds();
-    return brokenBy({{infoPath(*contents.app()), u"MinimumOSVersion is %1"_s.arg(minimum.toString())}});
+    return brokenBy({{infoPath(*contents.app()), worded("FOUND_MINIMUM_IS", {minimum.toString()})}});
 }
 
 Judgement judgeNestedVersions(const PackageContents &contents, const RuleSettings &)
@@ -107,14 +118,14 @@ Judgement judgeNestedVersions(const PackageContents &contents, const RuleSetting
             continue;
         const QString version = bundle->text(u"CFBundleShortVersionString"_s);
         if (version.isEmpty())
-            bad += Evidence{infoPath(*bundle), u"no CFBundleShortVersionString"_s};
+            bad += Evidence{infoPath(*bundle), worded("FOUND_NO_VERSION")};
         else if (!isVersion(version))
-            bad += Evidence{infoPath(*bundle), u"CFBundleShortVersionString is \"%1\""_s.arg(version)};
+            bad += Evidence{infoPath(*bundle), worded("FOUND_VERSION_IS", {version})};
         const QString build = bundle->text(u"CFBundleVersion"_s);
         if (build.isEmpty())
-            bad += Evidence{infoPath(*bundle), u"no CFBundleVersion"_s};
+            bad += Evidence{infoPath(*bundle), worded("FOUND_NO_BUILD")};
         else if (bundle->kind != BundleKind::Framework && !isVersion(build))
-            bad += Evidence{infoPath(*bundle), u"CFBundleVersion is \"%1\""_s.arg(build)};
+            bad += Evidence{infoPath(*bundle), worded("FOUND_BUILD_IS", {build})};
     }
     return brokenBy(bad);
 }
@@ -130,11 +141,11 @@ Judgement judgeExtensionVersions(const PackageContents &contents, const RuleSett
         found = true;
         for (const QString &key : {u"CFBundleShortVersionString"_s, u"CFBundleVersion"_s}) {
             if (bundle.text(key) != app.text(key))
-                different += Evidence{infoPath(bundle),
-                                      u"%1 is \"%2\", the app's is \"%3\""_s.arg(key, bundle.text(key), app.text(key))};
+                different +=
+                    Evidence{infoPath(bundle), worded("FOUND_OTHER_VERSION", {key, bundle.text(key), app.text(key)})};
         }
     }
-    return found ? brokenBy(different) : notApplicable(u"there is no extension"_s);
+    return found ? brokenBy(different) : notApplicable(worded("FOUND_NO_EXTENSION"));
 }
 
 Judgement judgeIdentifiersOnce(const PackageContents &contents, const RuleSettings &)
@@ -148,7 +159,7 @@ Judgement judgeIdentifiersOnce(const PackageContents &contents, const RuleSettin
     QList<Evidence> twice;
     for (auto place = places.cbegin(); place != places.cend(); ++place) {
         if (place->size() > 1)
-            twice += Evidence{place->at(1), u"\"%1\" is the identifier of %2, too"_s.arg(place.key(), place->first())};
+            twice += Evidence{place->at(1), worded("FOUND_IDENTIFIER_TWICE", {place.key(), place->first()})};
     }
     return brokenBy(twice);
 }
@@ -157,7 +168,7 @@ Judgement judgeNestedIdentifiers(const PackageContents &contents, const RuleSett
 {
     const QString identifier = contents.app()->text(u"CFBundleIdentifier"_s);
     if (identifier.isEmpty())
-        return cannotBeKnown(u"the app has no identifier"_s);
+        return cannotBeKnown(worded("FOUND_NO_IDENTIFIER"));
     QList<Evidence> outside;
     bool found = false;
     for (const PackageBundle &bundle : contents.bundles) {
@@ -166,61 +177,74 @@ Judgement judgeNestedIdentifiers(const PackageContents &contents, const RuleSett
         found = true;
         const QString own = bundle.text(u"CFBundleIdentifier"_s);
         if (!own.startsWith(identifier + u'.'))
-            outside += Evidence{infoPath(bundle), u"CFBundleIdentifier is \"%1\", not \"%2.…\""_s.arg(own, identifier)};
+            outside += Evidence{infoPath(bundle), worded("FOUND_IDENTIFIER_OUTSIDE", {own, identifier})};
     }
-    return found ? brokenBy(outside) : notApplicable(u"there is neither an extension nor a watch app"_s);
+    return found ? brokenBy(outside) : notApplicable(worded("FOUND_NO_NESTED_APP"));
 }
 
 Judgement judgeArm64Capability(const PackageContents &contents, const RuleSettings &)
 {
     if (!isPhoneApp(contents))
-        return notApplicable(u"no app for iPhone or iPad"_s);
+        return notApplicable(worded("FOUND_NO_PHONE_OR_PAD"));
     const PackageBundle &app = *contents.app();
     const PackageBinary *binary = contents.binaryOf(app);
     if (binary == nullptr)
-        return cannotBeKnown(u"the app's binary cannot be read"_s);
+        return cannotBeKnown(worded("FOUND_NO_BINARY"));
     const bool only64 = std::ranges::all_of(binary->facts.slices, &BinarySlice::is64Bit);
     // Since iOS 11 no system runs on a device without arm64.
     const QVersionNumber minimum = minimumSystem(app);
     if (!only64 || minimum.isNull() || minimum >= QVersionNumber(11))
-        return notApplicable(u"it has code for older devices, or runs only on systems without them"_s);
-    const QVariant needed = app.info ? app.info->value(u"UIRequiredDeviceCapabilities"_s) : QVariant();
-    const bool listed = needed.typeId() == QMetaType::QVariantMap ? needed.toMap().value(u"arm64"_s).toBool()
-                                                                  : needed.toStringList().contains(u"arm64"_s);
-    if (listed)
+        return notApplicable(worded("FOUND_OLDER_DEVICES"));
+    if (listsArm64(app))
         return holds();
-    return brokenBy({{infoPath(app), u"only 64-bit code, but no arm64 in UIRequiredDeviceCapabilities"_s}});
+    return brokenBy({{infoPath(app), worded("FOUND_NO_ARM64")}});
+}
+
+Judgement judgeArm64Minimum(const PackageContents &contents, const RuleSettings &)
+{
+    if (!isPhoneApp(contents))
+        return notApplicable(worded("FOUND_NO_PHONE_OR_PAD"));
+    const PackageBundle &app = *contents.app();
+    if (!listsArm64(app))
+        return notApplicable(worded("FOUND_ARM64_NOT_LISTED"));
+    const QVersionNumber minimum = minimumSystem(app);
+    if (minimum.isNull())
+        return cannotBeKnown(worded("FOUND_INFO_NO_MINIMUM"));
+    // The first device with 64-bit code came with iOS 7.
+    if (minimum >= QVersionNumber(7))
+        return holds();
+    return brokenBy({{infoPath(app), worded("FOUND_ARM64_MINIMUM", {minimum.toString()})}});
 }
 
 Judgement judgeExportCompliance(const PackageContents &contents, const RuleSettings &)
 {
     const PackageBundle &app = *contents.app();
     if (!app.info)
-        return cannotBeKnown(unreadable);
+        return cannotBeKnown(unreadable());
     if (app.has(u"ITSAppUsesNonExemptEncryption"_s))
         return holds();
-    return brokenBy({{infoPath(app), u"no ITSAppUsesNonExemptEncryption"_s}});
+    return brokenBy({{infoPath(app), worded("FOUND_NO_EXPORT_KEY")}});
 }
 
 Judgement judgeBackgroundProcessing(const PackageContents &contents, const RuleSettings &)
 {
     const PackageBundle &app = *contents.app();
     if (!textsIn(app, u"UIBackgroundModes"_s).contains(u"processing"_s))
-        return notApplicable(u"it does no processing in the background"_s);
+        return notApplicable(worded("FOUND_NO_PROCESSING"));
     if (!textsIn(app, u"BGTaskSchedulerPermittedIdentifiers"_s).isEmpty())
         return holds();
-    return brokenBy({{infoPath(app), u"UIBackgroundModes holds \"processing\", but no task identifiers are listed"_s}});
+    return brokenBy({{infoPath(app), worded("FOUND_NO_TASKS")}});
 }
 
 Judgement judgeArbitraryLoads(const PackageContents &contents, const RuleSettings &)
 {
     const PackageBundle &app = *contents.app();
     if (!app.info)
-        return cannotBeKnown(unreadable);
+        return cannotBeKnown(unreadable());
     const QVariantMap security = app.info->value(u"NSAppTransportSecurity"_s).toMap();
     if (!security.value(u"NSAllowsArbitraryLoads"_s).toBool())
         return holds();
-    return brokenBy({{infoPath(app), u"NSAllowsArbitraryLoads is true"_s}});
+    return brokenBy({{infoPath(app), worded("FOUND_ARBITRARY_LOADS")}});
 }
 
 Judgement judgeFacebook(const PackageContents &contents, const RuleSettings &)
@@ -228,7 +252,7 @@ Judgement judgeFacebook(const PackageContents &contents, const RuleSettings &)
     const PackageBundle &app = *contents.app();
     const QString identifier = app.text(u"FacebookAppID"_s);
     if (identifier.isEmpty())
-        return notApplicable(u"it names no Facebook app"_s);
+        return notApplicable(worded("FOUND_NO_FACEBOOK"));
     for (const QVariant &type : app.info->value(u"CFBundleURLTypes"_s).toList()) {
         for (const QString &scheme : type.toMap().value(u"CFBundleURLSchemes"_s).toStringList()) {
             // A suffix may follow.
@@ -236,7 +260,7 @@ Judgement judgeFacebook(const PackageContents &contents, const RuleSettings &)
                 return holds();
         }
     }
-    return brokenBy({{infoPath(app), u"FacebookAppID is %1, but no URL scheme is fb%1"_s.arg(identifier)}});
+    return brokenBy({{infoPath(app), worded("FOUND_NO_FACEBOOK_SCHEME", {identifier})}});
 }
 
 Judgement judgeLocalizationHoles(const PackageContents &contents, const RuleSettings &)
@@ -251,7 +275,7 @@ Judgement judgeLocalizationHoles(const PackageContents &contents, const RuleSett
             tables[steps[0].chopped(6)] += steps[1];
     }
     if (tables.size() < 2)
-        return notApplicable(u"there are not two languages to compare"_s);
+        return notApplicable(worded("FOUND_ONE_LANGUAGE"));
     QSet<QString> all;
     for (const QSet<QString> &names : tables)
         all += names;
@@ -260,7 +284,7 @@ Judgement judgeLocalizationHoles(const PackageContents &contents, const RuleSett
         QStringList missing = QSet<QString>(all).subtract(language.value()).values();
         std::ranges::sort(missing);
         if (!missing.isEmpty())
-            holes += Evidence{start + language.key() + u".lproj", u"lacks %1"_s.arg(missing.join(u", "_s))};
+            holes += Evidence{start + language.key() + u".lproj", worded("FOUND_LACKS", {missing.join(u", "_s)})};
     }
     return brokenBy(holes);
 }
@@ -269,10 +293,10 @@ Judgement judgeCellularSize(const PackageContents &contents, const RuleSettings 
 {
     constexpr quint64 limit = 200'000'000;
     if (!contents.isArchive)
-        return cannotBeKnown(u"the package is not packed"_s);
+        return cannotBeKnown(worded("FOUND_NOT_PACKED"));
     if (contents.packedSize <= limit)
         return holds();
-    return brokenBy({{QString(), u"%1 MB packed"_s.arg(contents.packedSize / 1'000'000)}});
+    return brokenBy({{QString(), worded("FOUND_PACKED_SIZE", {QString::number(contents.packedSize / 1'000'000)})}});
 }
 
 } // namespace lumora

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Rule.h"
+#include "Wording.h"
 
 #include <QVersionNumber>
 
@@ -62,6 +62,7 @@ Judgement judgeExtensionVersions(const PackageContents &, const RuleSettings &);
 Judgement judgeIdentifiersOnce(const PackageContents &, const RuleSettings &);
 Judgement judgeNestedIdentifiers(const PackageContents &, const RuleSettings &);
 Judgement judgeArm64Capability(const PackageContents &, const RuleSettings &);
+Judgement judgeArm64Minimum(const PackageContents &, const RuleSettings &);
 Judgement judgeExportCompliance(const PackageContents &, const RuleSettings &);
 Judgement judgeBackgroundProcessing(const PackageContents &, const RuleSettings &);
 Judgement judgeArbitraryLoads(const PackageContents &, const RuleSettings &);
@@ -77,6 +78,7 @@ Judgement judgeAlignment(const PackageContents &, const RuleSettings &);
 Judgement judgeBitcode(const PackageContents &, const RuleSettings &);
 Judgement judgeEncryptionInfo(const PackageContents &, const RuleSettings &);
 Judgement judgeWebView(const PackageContents &, const RuleSettings &);
+Judgement judgePrivateNames(const PackageContents &, const RuleSettings &);
 Judgement judgeFrameworkMinimum(const PackageContents &, const RuleSettings &);
 Judgement judgeFrameworkBinaryMinimum(const PackageContents &, const RuleSettings &);
 Judgement judgeFrameworkFileType(const PackageContents &, const RuleSettings &);
@@ -106,5 +108,6 @@ Judgement judgeEmptyPurposes(const PackageContents &, const RuleSettings &);
 Judgement judgeRequiredReasons(const PackageContents &, const RuleSettings &);
 Judgement judgePrivacyForm(const PackageContents &, const RuleSettings &);
 Judgement judgeListedKits(const PackageContents &, const RuleSettings &);
+Judgement judgeKitSignatures(const PackageContents &, const RuleSettings &);
 
 } // namespace lumora

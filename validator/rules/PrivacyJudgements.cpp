@@ -57,7 +57,7 @@ template <std::size_t Count> Judgement judgeTexts(const PackageContents &content
 {
     const PackageBundle &app = *contents.app();
     if (!app.info)
-        return cannotBeKnown(u"the Info.plist cannot be read"_s);
+        return cannotBeKnown(worded("FOUND_INFO_UNREADABLE"));
     QList<Evidence> missing;
     QSet<QString> said;
     for (const Purpose &purpose : purposes) {
@@ -68,8 +68,8 @@ template <std::size_t Count> Judgement judgeTexts(const PackageContents &content
             if (!importsClass(binary, purpose.className) || said.contains(keys.first()))
                 continue;
             said += keys.first();
-            missing += Evidence{infoPath(app), u"no %1, and %2 imports the class %3"_s.arg(
-                                                   keys.first(), binary.path, QString::fromLatin1(purpose.className))};
+            missing += Evidence{infoPath(app), worded("FOUND_NO_PURPOSE", {keys.first(), binary.path,
+                                                                           QString::fromLatin1(purpose.className)})};
         }
     }
     return brokenBy(missing);
@@ -127,7 +127,7 @@ Judgement judgeEmptyPurposes(const PackageContents &contents, const RuleSettings
             continue;
         for (auto each = bundle->info->cbegin(); each != bundle->info->cend(); ++each) {
             if (each.key().endsWith("UsageDescription"_L1) && each->toString().trimmed().isEmpty())
-                empty += Evidence{infoPath(*bundle), u"%1 is empty"_s.arg(each.key())};
+                empty += Evidence{infoPath(*bundle), worded("FOUND_EMPTY_KEY", {each.key()})};
         }
     }
     return brokenBy(empty);
@@ -136,10 +136,10 @@ Judgement judgeEmptyPurposes(const PackageContents &contents, const RuleSettings
 Judgement judgeRequiredReasons(const PackageContents &contents, const RuleSettings &settings)
 {
     if (settings.on < QDate(2024, 5, 1))
-        return notApplicable(u"not asked for on that day"_s);
+        return notApplicable(worded("FOUND_NOT_ASKED"));
     const BinaryPlatform platform = platformOf(contents);
     if (platform != BinaryPlatform::Ios && platform != BinaryPlatform::TvOS)
-        return notApplicable(u"no app for iPhone, iPad or TV"_s);
+        return notApplicable(worded("FOUND_NO_PHONE_PAD_OR_TV"));
     QList<Evidence> missing;
     for (const PackageBundle *bundle : codeBundles(contents)) {
         const PackageBinary *binary = contents.binaryOf(*bundle);
@@ -150,7 +150,7 @@ Judgement judgeRequiredReasons(const PackageContents &contents, const RuleSettin
             const QString name = QString::fromLatin1(category.category);
             const QString used = declared.contains(name) ? QString() : use(*binary, category);
             if (!used.isEmpty())
-                missing += Evidence{binary->path, u"uses %1, and no manifest gives a reason for %2"_s.arg(used, name)};
+                missing += Evidence{binary->path, worded("FOUND_NO_REASON", {used, name})};
         }
     }
     return brokenBy(missing);
@@ -166,17 +166,17 @@ Judgement judgePrivacyForm(const PackageContents &contents, const RuleSettings &
         found = true;
         const QString path = bundle.path + u"/PrivacyInfo.xcprivacy";
         if (!bundle.privacy)
-            bad += Evidence{path, u"cannot be read"_s};
+            bad += Evidence{path, worded("FOUND_UNREADABLE")};
         for (const QString &fault : bundle.privacy ? bundle.privacy->faults : QStringList())
             bad += Evidence{path, fault};
     }
-    return found ? brokenBy(bad) : notApplicable(u"there is no privacy manifest"_s);
+    return found ? brokenBy(bad) : notApplicable(worded("FOUND_NO_MANIFEST"));
 }
 
 Judgement judgeListedKits(const PackageContents &contents, const RuleSettings &settings)
 {
     if (settings.on < QDate(2024, 5, 1))
-        return notApplicable(u"not asked for on that day"_s);
+        return notApplicable(worded("FOUND_NOT_ASKED"));
     QList<Evidence> bad;
     bool found = false;
     for (const PackageBundle &bundle : contents.bundles) {
@@ -184,9 +184,33 @@ Judgement judgeListedKits(const PackageContents &contents, const RuleSettings &s
             continue;
         found = true;
         if (!bundle.hasPrivacyFile)
-            bad += Evidence{bundle.path, u"has no PrivacyInfo.xcprivacy"_s};
+            bad += Evidence{bundle.path, worded("FOUND_NO_PRIVACY_FILE")};
     }
-    return found ? brokenBy(bad) : notApplicable(u"it brings none of the kits that are listed"_s);
+    return found ? brokenBy(bad) : notApplicable(worded("FOUND_NO_LISTED_KIT"));
+}
+
+Judgement judgeKitSignatures(const PackageContents &contents, const RuleSettings &settings)
+{
+    const PackageBundle &app = *contents.app();
+    if (settings.on < QDate(2024, 5, 1))
+        return notApplicable(worded("FOUND_NOT_ASKED"));
+    // Other archives come without receipts.
+    if (!contents.isArchive || !app.profile || app.profile->kind != ProfileKind::AppStore)
+        return notApplicable(worded("FOUND_NO_STORE_ARCHIVE"));
+    QList<Evidence> bad;
+    bool found = false;
+    for (const PackageBundle &bundle : contents.bundles) {
+        const QString kit = bundle.name().chopped(std::min<qsizetype>(bundle.name().size(), 10));
+        if (bundle.kind != BundleKind::Framework || !isListedKit(kit))
+            continue;
+        found = true;
+        const QString receipt = u"Signatures/"_s + kit + u".xcframework"_s;
+        const bool isThere = std::ranges::any_of(
+            contents.files, [&receipt](const PackageFile &file) { return file.path.startsWith(receipt); });
+        if (!isThere)
+            bad += Evidence{bundle.path, worded("FOUND_NO_RECEIPT", {receipt})};
+    }
+    return found ? brokenBy(bad) : notApplicable(worded("FOUND_NO_LISTED_KIT"));
 }
 
 } // namespace lumora

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "PrivacyManifest.h"
 
+#include "Wording.h"
+
 #include <QSet>
 
 using namespace Qt::StringLiterals;
@@ -42,16 +44,16 @@ void readAccess(const QVariantMap &access, PrivacyManifest &manifest)
     const QString category = type.startsWith(categoryPrefix) ? type.mid(categoryPrefix.size()) : QString();
     const RequiredReason *known = reasonNamed(category);
     if (known == nullptr) {
-        manifest.faults += u"unknown NSPrivacyAccessedAPIType \"%1\""_s.arg(type);
+        manifest.faults += worded("FOUND_UNKNOWN_TYPE", {type});
         return;
     }
     const QStringList allowed = QString::fromLatin1(known->reasons).split(u' ');
     const QVariantList reasons = access.value(u"NSPrivacyAccessedAPITypeReasons"_s).toList();
     if (reasons.isEmpty())
-        manifest.faults += u"no reason for %1"_s.arg(category);
+        manifest.faults += worded("FOUND_NO_REASON_FOR", {category});
     for (const QVariant &reason : reasons) {
         if (!allowed.contains(reason.toString()))
-            manifest.faults += u"unknown reason \"%1\" for %2"_s.arg(reason.toString(), category);
+            manifest.faults += worded("FOUND_UNKNOWN_REASON", {reason.toString(), category});
         manifest.reasons[category] += reason.toString();
     }
     if (!manifest.reasons.contains(category))
@@ -93,11 +95,11 @@ PrivacyManifest readPrivacyManifest(const QVariantMap &list)
     PrivacyManifest manifest;
     for (const QString &key : list.keys()) {
         if (!knownKeys.contains(key))
-            manifest.faults += u"unknown key \"%1\""_s.arg(key);
+            manifest.faults += worded("FOUND_UNKNOWN_KEY", {key});
     }
     const QVariant tracking = list.value(u"NSPrivacyTracking"_s);
     if (tracking.isValid() && tracking.typeId() != QMetaType::Bool)
-        manifest.faults += u"NSPrivacyTracking is no boolean"_s;
+        manifest.faults += worded("FOUND_TRACKING_NO_BOOLEAN");
     manifest.tracks = tracking.toBool();
     manifest.trackingDomains = list.value(u"NSPrivacyTrackingDomains"_s).toStringList();
     const QVariantList collected = list.value(u"NSPrivacyCollectedDataTypes"_s).toList();
@@ -105,12 +107,12 @@ PrivacyManifest readPrivacyManifest(const QVariantMap &list)
     for (const QVariant &each : collected) {
         const QVariantMap type = each.toMap();
         if (type.value(u"NSPrivacyCollectedDataType"_s).toString().isEmpty())
-            manifest.faults += u"a collected data type without NSPrivacyCollectedDataType"_s;
+            manifest.faults += worded("FOUND_TYPE_MISSING");
         else if (type.value(u"NSPrivacyCollectedDataTypePurposes"_s).toList().isEmpty())
-            manifest.faults += u"no purposes for %1"_s.arg(type.value(u"NSPrivacyCollectedDataType"_s).toString());
+            manifest.faults += worded("FOUND_NO_PURPOSES", {type.value(u"NSPrivacyCollectedDataType"_s).toString()});
     }
     if (manifest.tracks && manifest.trackingDomains.isEmpty() && collected.isEmpty())
-        manifest.faults += u"NSPrivacyTracking is true, but there are neither domains nor data types"_s;
+        manifest.faults += worded("FOUND_TRACKING_EMPTY");
     for (const QVariant &access : list.value(u"NSPrivacyAccessedAPITypes"_s).toList())
         readAccess(access.toMap(), manifest);
     return manifest;

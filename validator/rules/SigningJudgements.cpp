@@ -11,46 +11,52 @@ namespace lumora
 namespace
 {
 
-const QString unsignedReason = u"the app is not signed"_s;
-const QString noProfileReason = u"there is no provisioning profile that can be read"_s;
+QString unsignedReason()
+{
+    return worded("FOUND_APP_NOT_SIGNED");
+}
+QString noProfileReason()
+{
+    return worded("FOUND_NO_PROFILE");
+}
 
 QString faultText(SignatureFault fault)
 {
     switch (fault) {
     case SignatureFault::Damaged:
-        return u"the signature is damaged"_s;
+        return worded("FOUND_SIGNATURE_DAMAGED");
     case SignatureFault::NestedSignature:
-        return u"a signature inside a signature"_s;
+        return worded("FOUND_SIGNATURE_NESTED");
     case SignatureFault::NoCodeDirectory:
-        return u"the signature does not say what was signed"_s;
+        return worded("FOUND_SIGNATURE_EMPTY");
     case SignatureFault::UnknownDigest:
-        return u"hashes of an unknown kind"_s;
+        return worded("FOUND_UNKNOWN_DIGEST");
     case SignatureFault::PagesChanged:
-        return u"the code was changed after it was signed"_s;
+        return worded("FOUND_CODE_CHANGED");
     case SignatureFault::CodeNotCovered:
-        return u"part of the code is not covered by the signature"_s;
+        return worded("FOUND_CODE_NOT_COVERED");
     case SignatureFault::RequirementsChanged:
-        return u"the requirements were changed after they were signed"_s;
+        return worded("FOUND_REQUIREMENTS_CHANGED");
     case SignatureFault::EntitlementsChanged:
-        return u"the entitlements were changed after they were signed"_s;
+        return worded("FOUND_ENTITLEMENTS_CHANGED");
     case SignatureFault::DerEntitlementsChanged:
-        return u"the entitlements' second form was changed after it was signed"_s;
+        return worded("FOUND_DER_CHANGED");
     case SignatureFault::EntitlementsDiffer:
-        return u"the two forms of the entitlements say different things"_s;
+        return worded("FOUND_FORMS_DIFFER");
     case SignatureFault::EntitlementsUnreadable:
-        return u"the entitlements cannot be read"_s;
+        return worded("FOUND_ENTITLEMENTS_UNREADABLE");
     case SignatureFault::MessageUnreadable:
-        return u"the signature's message cannot be read"_s;
+        return worded("FOUND_MESSAGE_UNREADABLE");
     case SignatureFault::NoSignerCertificate:
-        return u"the signer's certificate is not there"_s;
+        return worded("FOUND_NO_CERTIFICATE");
     case SignatureFault::MessageDigestChanged:
-        return u"the signature is about other code"_s;
+        return worded("FOUND_OTHER_CODE");
     case SignatureFault::MessageSignatureBroken:
-        return u"not signed with the certificate's key"_s;
+        return worded("FOUND_OTHER_KEY");
     case SignatureFault::DirectoriesDiffer:
-        return u"the signature is about other code directories"_s;
+        return worded("FOUND_OTHER_DIRECTORIES");
     case SignatureFault::SignedOutsideValidity:
-        return u"signed when the certificate was not valid"_s;
+        return worded("FOUND_OUTSIDE_VALIDITY");
     }
     return {};
 }
@@ -89,9 +95,9 @@ Judgement judgeSigned(const PackageContents &contents, const RuleSettings &)
         if (!binary.path.startsWith(contents.app()->path + u'/'))
             continue;
         if (!binary.isSigned())
-            bad += Evidence{binary.path, u"is not signed"_s};
+            bad += Evidence{binary.path, worded("FOUND_NOT_SIGNED")};
         else if (std::ranges::any_of(binary.signatures, &CodeSignature::isAdHoc))
-            bad += Evidence{binary.path, u"is signed by nobody (ad hoc)"_s};
+            bad += Evidence{binary.path, worded("FOUND_AD_HOC")};
     }
     return brokenBy(bad);
 }
@@ -112,7 +118,7 @@ Judgement judgeSignature(const PackageContents &contents, const RuleSettings &)
         for (const SignatureFault fault : faults)
             bad += Evidence{binary.path, faultText(fault)};
     }
-    return found ? brokenBy(bad) : notApplicable(u"nothing is signed"_s);
+    return found ? brokenBy(bad) : notApplicable(worded("FOUND_NOTHING_SIGNED"));
 }
 
 Judgement judgeSeal(const PackageContents &contents, const RuleSettings &)
@@ -125,37 +131,38 @@ Judgement judgeSeal(const PackageContents &contents, const RuleSettings &)
         found = true;
         const QString sealPath = bundle->path + u"/_CodeSignature/CodeResources";
         if (!bundle->seal.infoBound)
-            bad += Evidence{infoPath(*bundle), u"was changed after signing"_s};
+            bad += Evidence{infoPath(*bundle), worded("FOUND_CHANGED")};
         if (!bundle->seal.present)
-            bad += Evidence{sealPath, contents.holds(sealPath) ? u"cannot be read"_s : u"is not there"_s};
+            bad +=
+                Evidence{sealPath, contents.holds(sealPath) ? worded("FOUND_UNREADABLE") : worded("FOUND_NOT_THERE")};
         else if (!bundle->seal.sealBound)
-            bad += Evidence{sealPath, u"was changed after signing"_s};
-        addAll(bad, bundle->seal.findings.changed, *bundle, u"was changed after signing"_s);
-        addAll(bad, bundle->seal.findings.missing, *bundle, u"was sealed, but is not there"_s);
-        addAll(bad, bundle->seal.findings.extra, *bundle, u"is there, but was not sealed"_s);
+            bad += Evidence{sealPath, worded("FOUND_CHANGED")};
+        addAll(bad, bundle->seal.findings.changed, *bundle, worded("FOUND_CHANGED"));
+        addAll(bad, bundle->seal.findings.missing, *bundle, worded("FOUND_SEALED_MISSING"));
+        addAll(bad, bundle->seal.findings.extra, *bundle, worded("FOUND_NOT_SEALED"));
     }
-    return found ? brokenBy(bad) : notApplicable(u"nothing is signed"_s);
+    return found ? brokenBy(bad) : notApplicable(worded("FOUND_NOTHING_SIGNED"));
 }
 
 Judgement judgeCertificateKind(const PackageContents &contents, const RuleSettings &)
 {
     const auto signer = signerOf(contents, *contents.app());
     if (!signer)
-        return notApplicable(unsignedReason);
+        return notApplicable(unsignedReason());
     if (isDistribution(signer->commonName))
         return holds();
-    return brokenBy({{contents.app()->executable, u"signed by \"%1\""_s.arg(signer->commonName)}});
+    return brokenBy({{contents.app()->executable, worded("FOUND_SIGNED_BY", {signer->commonName})}});
 }
 
 Judgement judgeCertificateValidity(const PackageContents &contents, const RuleSettings &settings)
 {
     const auto signer = signerOf(contents, *contents.app());
     if (!signer)
-        return notApplicable(unsignedReason);
+        return notApplicable(unsignedReason());
     if (signer->validUntil.date() >= settings.on)
         return holds();
-    return brokenBy({{contents.app()->executable,
-                      u"the certificate was valid until %1"_s.arg(signer->validUntil.toString(Qt::ISODate))}});
+    return brokenBy(
+        {{contents.app()->executable, worded("FOUND_CERTIFICATE_ENDED", {signer->validUntil.toString(Qt::ISODate)})}});
 }
 
 Judgement judgeCertificateInProfile(const PackageContents &contents, const RuleSettings &)
@@ -168,9 +175,9 @@ Judgement judgeCertificateInProfile(const PackageContents &contents, const RuleS
             continue;
         found = true;
         if (!bundle.profile->certificates.contains(signer->der))
-            bad += Evidence{profilePath(bundle), u"does not hold the certificate of \"%1\""_s.arg(signer->commonName)};
+            bad += Evidence{profilePath(bundle), worded("FOUND_CERTIFICATE_NOT_IN_PROFILE", {signer->commonName})};
     }
-    return found ? brokenBy(bad) : notApplicable(u"there is no signed bundle with a profile"_s);
+    return found ? brokenBy(bad) : notApplicable(worded("FOUND_NO_SIGNED_BUNDLE"));
 }
 
 Judgement judgeProfilePresent(const PackageContents &contents, const RuleSettings &)
@@ -180,7 +187,8 @@ Judgement judgeProfilePresent(const PackageContents &contents, const RuleSetting
         if (bundle.kind != BundleKind::App && bundle.kind != BundleKind::Extension)
             continue;
         if (!bundle.profile)
-            bad += Evidence{profilePath(bundle), bundle.hasProfileFile ? u"cannot be read"_s : u"is not there"_s};
+            bad += Evidence{profilePath(bundle),
+                            bundle.hasProfileFile ? worded("FOUND_UNREADABLE") : worded("FOUND_NOT_THERE")};
     }
     return brokenBy(bad);
 }
@@ -189,10 +197,11 @@ Judgement judgeProfileKind(const PackageContents &contents, const RuleSettings &
 {
     const PackageBundle &app = *contents.app();
     if (!app.profile)
-        return notApplicable(noProfileReason);
+        return notApplicable(noProfileReason());
     if (app.profile->kind == ProfileKind::AppStore)
         return holds();
-    return brokenBy({{profilePath(app), u"a profile for %1"_s.arg(profileKindName(app.profile->kind))}});
+    return brokenBy(
+        {{profilePath(app), worded("FOUND_PROFILE_KIND", {valueWord(profileKindName(app.profile->kind))})}});
 }
 
 Judgement judgeProfileExpiry(const PackageContents &contents, const RuleSettings &settings)
@@ -204,9 +213,10 @@ Judgement judgeProfileExpiry(const PackageContents &contents, const RuleSettings
             continue;
         found = true;
         if (bundle.profile->expires.date() < settings.on)
-            bad += Evidence{profilePath(bundle), u"ended on %1"_s.arg(bundle.profile->expires.toString(Qt::ISODate))};
+            bad += Evidence{profilePath(bundle),
+                            worded("FOUND_PROFILE_ENDED", {bundle.profile->expires.toString(Qt::ISODate)})};
     }
-    return found ? brokenBy(bad) : notApplicable(noProfileReason);
+    return found ? brokenBy(bad) : notApplicable(noProfileReason());
 }
 
 Judgement judgeProfileIdentifier(const PackageContents &contents, const RuleSettings &)
@@ -220,9 +230,9 @@ Judgement judgeProfileIdentifier(const PackageContents &contents, const RuleSett
         const QString granted = bundle.profile->applicationIdentifier();
         const QString wanted = granted.section(u'.', 0, 0) + u'.' + bundle.text(u"CFBundleIdentifier"_s);
         if (!entitlementIsGranted(granted, wanted))
-            bad += Evidence{profilePath(bundle), u"is for %1, the bundle is %2"_s.arg(granted, wanted)};
+            bad += Evidence{profilePath(bundle), worded("FOUND_PROFILE_FOR", {granted, wanted})};
     }
-    return found ? brokenBy(bad) : notApplicable(noProfileReason);
+    return found ? brokenBy(bad) : notApplicable(noProfileReason());
 }
 
 Judgement judgeTeam(const PackageContents &contents, const RuleSettings &)
@@ -238,13 +248,11 @@ Judgement judgeTeam(const PackageContents &contents, const RuleSettings &)
         const QString team = bundle.profile->teamIdentifier;
         const QString signedFor = signature->best() == nullptr ? QString() : signature->best()->team;
         if (!signedFor.isEmpty() && signedFor != team)
-            bad +=
-                Evidence{bundle.executable, u"is signed for the team %1, the profile is of %2"_s.arg(signedFor, team)};
+            bad += Evidence{bundle.executable, worded("FOUND_TEAM_SIGNED", {signedFor, team})};
         if (!signer->organizationalUnit.isEmpty() && signer->organizationalUnit != team)
-            bad += Evidence{bundle.executable, u"the certificate is of the team %1, the profile of %2"_s.arg(
-                                                   signer->organizationalUnit, team)};
+            bad += Evidence{bundle.executable, worded("FOUND_TEAM_CERTIFICATE", {signer->organizationalUnit, team})};
     }
-    return found ? brokenBy(bad) : notApplicable(u"there is no signed bundle with a profile"_s);
+    return found ? brokenBy(bad) : notApplicable(worded("FOUND_NO_SIGNED_BUNDLE"));
 }
 
 Judgement judgeEntitlements(const PackageContents &contents, const RuleSettings &)
@@ -261,10 +269,10 @@ Judgement judgeEntitlements(const PackageContents &contents, const RuleSettings 
             const bool claimsNothing = each.value() == QVariant(false) ||
                                        (each->typeId() == QMetaType::QVariantList && each->toList().isEmpty());
             if (!claimsNothing && !entitlementIsGranted(bundle.profile->entitlements.value(each.key()), each.value()))
-                bad += Evidence{bundle.executable, u"claims %1, which the profile does not grant"_s.arg(each.key())};
+                bad += Evidence{bundle.executable, worded("FOUND_NOT_GRANTED", {each.key()})};
         }
     }
-    return found ? brokenBy(bad) : notApplicable(u"there is no signed bundle with a profile"_s);
+    return found ? brokenBy(bad) : notApplicable(worded("FOUND_NO_SIGNED_BUNDLE"));
 }
 
 Judgement judgeDebuggable(const PackageContents &contents, const RuleSettings &)
@@ -272,9 +280,9 @@ Judgement judgeDebuggable(const PackageContents &contents, const RuleSettings &)
     QList<Evidence> bad;
     for (const PackageBundle *bundle : codeBundles(contents)) {
         if (entitlementsOf(contents, *bundle).value(u"get-task-allow"_s).toBool())
-            bad += Evidence{bundle->executable, u"get-task-allow is true"_s};
+            bad += Evidence{bundle->executable, worded("FOUND_DEBUGGABLE")};
     }
-    return contents.signatureOf(*contents.app()) == nullptr ? notApplicable(unsignedReason) : brokenBy(bad);
+    return contents.signatureOf(*contents.app()) == nullptr ? notApplicable(unsignedReason()) : brokenBy(bad);
 }
 
 Judgement judgePush(const PackageContents &contents, const RuleSettings &)
@@ -282,14 +290,13 @@ Judgement judgePush(const PackageContents &contents, const RuleSettings &)
     const PackageBundle &app = *contents.app();
     const PackageBinary *binary = contents.binaryOf(app);
     if (binary == nullptr || contents.signatureOf(app) == nullptr)
-        return notApplicable(unsignedReason);
+        return notApplicable(unsignedReason());
     const bool registers = std::ranges::any_of(binary->facts.slices, [](const BinarySlice &slice) {
         return slice.namesSelector("registerForRemoteNotifications");
     });
     if (!registers || entitlementsOf(contents, app).contains(u"aps-environment"_s))
         return holds();
-    return brokenBy(
-        {{binary->path, u"sends registerForRemoteNotifications, but has no entitlement aps-environment"_s}});
+    return brokenBy({{binary->path, worded("FOUND_NO_PUSH")}});
 }
 
 } // namespace lumora

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include "resources/Resources.h"
 #include "tests/doubles/ScriptedFiles.h"
 #include "validator/archive/OpenPackage.h"
-#include "validator/rules/Rule.h"
+#include "validator/rules/Wording.h"
 
 #include <QDir>
 #include <QSet>
@@ -48,6 +49,8 @@ class StoreRulesTest : public QObject
 private slots:
     void initTestCase()
     {
+        loadResources();
+        installTexts(*QCoreApplication::instance(), QLocale(u"en_US"_s), ToolkitTexts::LeaveOut);
         QVERIFY(runScript(u"make_rule_packages.py"_s, {m_files.path()}));
         m_packages = QDir(m_files.path()).entryList({u"*.ipa"_s}, QDir::Files, QDir::Name);
         QVERIFY(m_packages.size() > 60);
@@ -144,10 +147,10 @@ private slots:
         for (const Rule &rule : allRules()) {
             QVERIFY2(!ids.contains(QString::fromLatin1(rule.id)), rule.id);
             ids += QString::fromLatin1(rule.id);
-            for (const char *text : {rule.title, rule.rule, rule.fix, rule.source})
-                QVERIFY2(*text != '\0', rule.id);
+            for (const char *key : {rule.title, rule.rule, rule.fix, rule.source})
+                QVERIFY2(worded(key) != QLatin1StringView(key), key);
             // An uncertain fault is not an error.
-            const bool likely = QByteArrayView(rule.title).contains("ikely");
+            const bool likely = worded(rule.title).contains("ikely"_L1);
             QVERIFY2(!likely || rule.severity != Severity::Error, rule.id);
         }
     }
