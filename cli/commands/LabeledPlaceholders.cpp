@@ -126,21 +126,24 @@ QString severityWord(ScreenshotSeverity severity)
 void printFinding(Console &console, const ScreenshotFinding &finding)
 {
     const ScreenshotRule &rule = *finding.rule;
-    QString line = severityWord(rule.severity) + u' ' + rule.id + u": "_s;
+    QString line = commandText(severityKey(rule.severity)) + u' ' + rule.id + u": "_s;
     if (!finding.path.isEmpty())
         line += finding.path + u": "_s;
-    line += rule.title;
+    line += commandText(rule.titleKey);
     if (!finding.evidence.isEmpty())
-        line += u" ("_s + finding.evidence + u')';
-    console.print(QString(line + u"; "_s + rule.fix));
+        line += u" ("_s + finding.evidence.words() + u')';
+    console.print(QString(line + u"; "_s + commandText(rule.fixKey)));
 }
 
 QJsonObject findingJson(const ScreenshotFinding &finding)
 {
     const ScreenshotRule &rule = *finding.rule;
-    return {{u"id"_s, QString(rule.id)},       {u"severity"_s, severityWord(rule.severity)},
-            {u"title"_s, QString(rule.title)}, {u"path"_s, finding.path},
-            {u"evidence"_s, finding.evidence}, {u"fix"_s, QString(rule.fix)}};
+    return {{u"id"_s, QString(rule.id)},
+            {u"severity"_s, severityWord(rule.severity)},
+            {u"title"_s, commandText(rule.titleKey)},
+            {u"path"_s, finding.path},
+            {u"evidence"_s, finding.evidence.words()},
+            {u"fix"_s, commandText(rule.fixKey)}};
 }
 
 /// Why the options cannot be combined; empty if they can.

@@ -11,6 +11,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <map>
 #include <optional>
 
 using namespace Qt::StringLiterals;
@@ -62,6 +63,21 @@ bool isPictureName(const QString &name)
     return extensions.contains(QFileInfo(name).suffix().toLower());
 }
 
+/// Adds the pictures in the folder and below, until there are too many.
+void addFolder(const QDir &folder, const std::stop_token &stop, std::map<QString, QString> &files)
+{
+    for (QDirIterator entries(folder.path(), QDir::Files, QDirIterator::Subdirectories); entries.hasNext();) {
+        if (files.size() > mostScreenshots || stop.stop_requested())
+            return;
+        const QString path = entries.next();
+        const QString relative = folder.relativeFilePath(path);
+        const QStringList parts = relative.split(u'/');
+        const bool hidden = std::ranges::any_of(parts, [](const QString &part) { return part.startsWith(u'.'); });
+        if (!hidden && parts.size() <= deepestFolder && isPictureName(relative))
+            files.emplace(relative, path);
+    }
+}
+
 } // namespace
 
 ScreenshotFacts screenshotFacts(const QByteArray &bytes, const QString &path)
@@ -87,25 +103,31 @@ Result<std::vector<ScreenshotFacts>> readScreenshots(const QString &folder)
         return Failure{FailureCode::NotFound, folder, {}};
     if (!root.isDir())
         return Failure{FailureCode::NotAFolder, folder, {}};
-    QStringList paths;
-    const QDir directory(root.absoluteFilePath());
-    for (QDirIterator entries(directory.path(), QDir::Files, QDirIterator::Subdirectories); entries.hasNext();) {
-        const QString relative = directory.relativeFilePath(entries.next());
-        const QStringList parts = relative.split(u'/');
-        const bool hidden = std::ranges::any_of(parts, [](const QString &part) { return part.startsWith(u'.'); });
-        if (hidden || parts.size() > deepestFolder || !isPictureName(relative))
-            continue;
-        if (static_cast<std::size_t>(paths.size()) == mostScreenshots)
-            return Failure{FailureCode::TooLarge,
-                           folder,
-                           {"DETAIL_MORE_PICTURES", {{"[COUNT]", QString::number(mostScreenshots)}}}};
-        paths << relative;
+    return readScreenshots(QStringList{folder});
+}
+
+Result<std::vector<ScreenshotFacts>> readScreenshots(const QStringList &dropped, const std::stop_token &stop)
+{
+    std::map<QString, QString> files; // by the path that is shown
+    const auto isFull = [&files] { return files.size() > mostScreenshots; };
+    for (const QString &path : dropped) {
+        const QFileInfo file(path);
+        if (!file.exists())
+            return Failure{FailureCode::NotFound, path, {}};
+        if (file.isDir())
+            addFolder(QDir(file.absoluteFilePath()), stop, files);
+        else
+            files.emplace(file.absoluteDir().dirName() + u'/' + file.fileName(), file.absoluteFilePath());
+        if (isFull())
+            return Failure{
+                FailureCode::TooLarge, path, {"DETAIL_MORE_PICTURES", {{"[COUNT]", QString::number(mostScreenshots)}}}};
     }
-    paths.sort();
     std::vector<ScreenshotFacts> all;
-    for (const QString &path : std::as_const(paths)) {
-        const Result<QByteArray> bytes = readWholeFile(directory.filePath(path), largestPictureFile);
-        all.push_back(screenshotFacts(bytes ? bytes.value() : QByteArray(), path));
+    for (const auto &[shown, path] : files) {
+        if (stop.stop_requested())
+            break;
+        const Result<QByteArray> bytes = readWholeFile(path, largestPictureFile);
+        all.push_back(screenshotFacts(bytes ? bytes.value() : QByteArray(), shown));
     }
     return all;
 }

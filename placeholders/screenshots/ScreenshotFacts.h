@@ -6,7 +6,9 @@
 #include <QByteArray>
 #include <QSize>
 #include <QString>
+#include <QStringList>
 
+#include <stop_token>
 #include <vector>
 
 namespace lumora
@@ -32,5 +34,9 @@ ScreenshotFacts screenshotFacts(const QByteArray &bytes, const QString &path);
 /// Reads all picture files in the folder and below, known by their extension and sorted by path. Skips hidden entries
 /// and links to folders. A file that cannot be read has no format.
 Result<std::vector<ScreenshotFacts>> readScreenshots(const QString &folder);
+
+/// The same for folders and files; a file is known by its folder's name and its own. If it is stopped, the rest is left
+/// out.
+Result<std::vector<ScreenshotFacts>> readScreenshots(const QStringList &dropped, const std::stop_token &stop = {});
 
 } // namespace lumora

@@ -40,36 +40,23 @@ enum Rule : std::size_t {
 };
 
 constexpr std::array<ScreenshotRule, 17> rules{{
-    {"screenshot.unreadable"_L1, Severity::Error, "The file is no picture that can be read"_L1,
-     "Save it again as PNG or JPEG"_L1},
-    {"screenshot.format"_L1, Severity::Error, "Stores take PNG and JPEG only"_L1, "Save it as PNG"_L1},
-    {"screenshot.alpha"_L1, Severity::Error, "A screenshot may have no alpha channel"_L1,
-     "Save it without transparency, even where every pixel is opaque"_L1},
-    {"screenshot.rgb"_L1, Severity::Error, "A screenshot has to be in RGB"_L1,
-     "Convert it from inks or shades of gray to RGB"_L1},
-    {"screenshot.size"_L1, Severity::Error, "The size is one that neither store takes"_L1,
-     "Take it on a device or simulator of a size in the stores' lists"_L1},
-    {"appstore.size"_L1, Severity::Error, "The App Store takes no screenshot of this size"_L1,
-     "Take it on a device or simulator of a size in the store's list, such as 1320 x 2868 or 2064 x 2752"_L1},
-    {"appstore.count"_L1, Severity::Error, "The App Store takes ten screenshots of a screen size"_L1,
-     "Leave the others out"_L1},
-    {"appstore.iphone"_L1, Severity::Error, "iPhone screenshots are wanted at 6.9 inches, or else at 6.5"_L1,
-     "Add screenshots of 1320 x 2868, 1290 x 2796 or 1260 x 2736 pixels; the store scales them for the others"_L1},
-    {"appstore.ipad"_L1, Severity::Error, "iPad screenshots are wanted at 13 inches"_L1,
-     "Add screenshots of 2064 x 2752 or 2048 x 2732 pixels; the store scales them for the others"_L1},
-    {"play.side"_L1, Severity::Error, "Play wants each side to have 320 to 3840 pixels"_L1,
-     "Scale it, or take it on another device"_L1},
-    {"play.ratio"_L1, Severity::Error, "Play wants the long side to be at most twice the short one"_L1,
-     "Crop it, or take it on a device of another shape"_L1},
-    {"play.fewest"_L1, Severity::Error, "Play wants two screenshots at least"_L1, "Add another"_L1},
-    {"play.most"_L1, Severity::Error, "Play takes eight screenshots of a kind of device"_L1, "Leave the others out"_L1},
-    {"play.promotion"_L1, Severity::Note, "Play promotes apps with screenshots of 1080 pixels and 16:9"_L1,
-     "Add screenshots of 1080 x 1920 or 1920 x 1080 pixels"_L1},
-    {"play.tablet"_L1, Severity::Note, "Play advises four screenshots or more of a tablet"_L1, "Add others"_L1},
-    {"play.feature-graphic"_L1, Severity::Error, "The feature graphic has to be 1024 x 500 pixels"_L1,
-     "Draw it in that size"_L1},
-    {"screenshot.none"_L1, Severity::Error, "There is no picture in the folder"_L1,
-     "Name the folder that holds the screenshots"_L1},
+    {"screenshot.unreadable"_L1, Severity::Error, "SHOT_RULE_SCREENSHOT_UNREADABLE", "SHOT_FIX_SCREENSHOT_UNREADABLE"},
+    {"screenshot.format"_L1, Severity::Error, "SHOT_RULE_SCREENSHOT_FORMAT", "SHOT_FIX_SCREENSHOT_FORMAT"},
+    {"screenshot.alpha"_L1, Severity::Error, "SHOT_RULE_SCREENSHOT_ALPHA", "SHOT_FIX_SCREENSHOT_ALPHA"},
+    {"screenshot.rgb"_L1, Severity::Error, "SHOT_RULE_SCREENSHOT_RGB", "SHOT_FIX_SCREENSHOT_RGB"},
+    {"screenshot.size"_L1, Severity::Error, "SHOT_RULE_SCREENSHOT_SIZE", "SHOT_FIX_SCREENSHOT_SIZE"},
+    {"appstore.size"_L1, Severity::Error, "SHOT_RULE_APPSTORE_SIZE", "SHOT_FIX_APPSTORE_SIZE"},
+    {"appstore.count"_L1, Severity::Error, "SHOT_RULE_APPSTORE_COUNT", "SHOT_FIX_APPSTORE_COUNT"},
+    {"appstore.iphone"_L1, Severity::Error, "SHOT_RULE_APPSTORE_IPHONE", "SHOT_FIX_APPSTORE_IPHONE"},
+    {"appstore.ipad"_L1, Severity::Error, "SHOT_RULE_APPSTORE_IPAD", "SHOT_FIX_APPSTORE_IPAD"},
+    {"play.side"_L1, Severity::Error, "SHOT_RULE_PLAY_SIDE", "SHOT_FIX_PLAY_SIDE"},
+    {"play.ratio"_L1, Severity::Error, "SHOT_RULE_PLAY_RATIO", "SHOT_FIX_PLAY_RATIO"},
+    {"play.fewest"_L1, Severity::Error, "SHOT_RULE_PLAY_FEWEST", "SHOT_FIX_PLAY_FEWEST"},
+    {"play.most"_L1, Severity::Error, "SHOT_RULE_PLAY_MOST", "SHOT_FIX_PLAY_MOST"},
+    {"play.promotion"_L1, Severity::Note, "SHOT_RULE_PLAY_PROMOTION", "SHOT_FIX_PLAY_PROMOTION"},
+    {"play.tablet"_L1, Severity::Note, "SHOT_RULE_PLAY_TABLET", "SHOT_FIX_PLAY_TABLET"},
+    {"play.feature-graphic"_L1, Severity::Error, "SHOT_RULE_PLAY_FEATURE_GRAPHIC", "SHOT_FIX_PLAY_FEATURE_GRAPHIC"},
+    {"screenshot.none"_L1, Severity::Error, "SHOT_RULE_SCREENSHOT_NONE", "SHOT_FIX_SCREENSHOT_NONE"},
 }};
 
 constexpr int fewestOnPlay = 2;
@@ -131,9 +118,9 @@ public:
         if (facts.format != "png" && facts.format != "jpeg")
             add(Format, facts.path, QString::fromLatin1(facts.format));
         if (facts.hasAlpha)
-            add(Alpha, facts.path, u"it has an alpha channel"_s);
+            add(Alpha, facts.path, "SHOT_HAS_ALPHA");
         if (!facts.isRgb)
-            add(Rgb, facts.path, u"it has other channels"_s);
+            add(Rgb, facts.path, "SHOT_OTHER_CHANNELS");
         judgeSize(facts);
     }
 
@@ -141,13 +128,15 @@ public:
     {
         for (const auto &[slot, paths] : m_slots) {
             if (paths.size() > mostInSlot)
-                add(AppStoreCount, slot.first, u"%1 of %2"_s.arg(paths.size()).arg(QString(slot.second->name)));
+                add(AppStoreCount, slot.first,
+                    {"SHOT_COUNT_OF",
+                     {{"[COUNT]", QString::number(paths.size())}, {"[SCREEN]", QString(slot.second->name)}}});
         }
         for (const auto &[folder, devices] : m_devices) {
             if (devices.contains(Device::IPhone) && !m_required[folder].contains(Device::IPhone))
-                add(AppStoreIPhone, folder, u"smaller screens only"_s);
+                add(AppStoreIPhone, folder, "SHOT_SMALLER_ONLY");
             if (devices.contains(Device::IPad) && !m_required[folder].contains(Device::IPad))
-                add(AppStoreIPad, folder, u"smaller screens only"_s);
+                add(AppStoreIPad, folder, "SHOT_SMALLER_ONLY");
         }
         for (const auto &[folder, sizes] : m_play)
             judgePlayFolder(folder, sizes);
@@ -155,7 +144,7 @@ public:
 
     std::vector<ScreenshotFinding> findings() && { return std::move(m_findings); }
 
-    void add(Rule rule, const QString &path, const QString &evidence)
+    void add(Rule rule, const QString &path, const FailureDetail &evidence)
     {
         m_findings.push_back({&rules[rule], path, evidence});
     }
@@ -168,7 +157,7 @@ private:
         const QString folder = folderOf(facts.path);
         if (isFeatureGraphic(facts.path)) {
             if (facts.size != QSize(1024, 500))
-                add(PlayFeature, facts.path, pixelsText(facts.size));
+                add(PlayFeature, facts.path, pixelsDetail(facts.size));
             return;
         }
         if (isPlayFolder(folder)) {
@@ -178,11 +167,11 @@ private:
         const ScreenshotSlot *slot = screenshotSlotOf(facts.size);
         const bool fitsPlay = hasPlaySides(facts.size) && hasPlayRatio(facts.size);
         if (m_stores.empty() && slot == nullptr && !fitsPlay)
-            add(NoStore, facts.path, pixelsText(facts.size));
+            add(NoStore, facts.path, pixelsDetail(facts.size));
         else if (slot != nullptr && asks(ScreenshotStore::AppStore))
             takeForAppStore(*slot, folder, facts.path);
         else if (m_stores.contains(ScreenshotStore::AppStore))
-            add(AppStoreSize, facts.path, pixelsText(facts.size));
+            add(AppStoreSize, facts.path, pixelsDetail(facts.size));
         if (m_stores.contains(ScreenshotStore::Play) || (m_stores.empty() && slot == nullptr && fitsPlay))
             judgeForPlay(facts, folder);
     }
@@ -198,16 +187,17 @@ private:
     void judgeForPlay(const ScreenshotFacts &facts, const QString &folder)
     {
         if (!hasPlaySides(facts.size))
-            add(PlaySide, facts.path, pixelsText(facts.size));
+            add(PlaySide, facts.path, pixelsDetail(facts.size));
         if (!hasPlayRatio(facts.size))
-            add(PlayRatio, facts.path, pixelsText(facts.size));
+            add(PlayRatio, facts.path, pixelsDetail(facts.size));
         m_play[folder].push_back(facts.size);
     }
 
     void judgePlayFolder(const QString &folder, const std::vector<QSize> &sizes)
     {
         const int count = static_cast<int>(sizes.size());
-        const QString evidence = count == 1 ? u"1 screenshot"_s : u"%1 screenshots"_s.arg(count);
+        const FailureDetail evidence =
+            count == 1 ? FailureDetail("SHOT_ONE") : FailureDetail("SHOT_COUNT", {{"[COUNT]", QString::number(count)}});
         if (count < fewestOnPlay)
             add(PlayFewest, folder, evidence);
         if (count > mostOnPlay)
@@ -216,7 +206,7 @@ private:
             if (count < advisedForTablets)
                 add(PlayTablet, folder, evidence);
         } else if (std::ranges::none_of(sizes, isPromoted)) {
-            add(PlayPromotion, folder, pixelsText(sizes.front()));
+            add(PlayPromotion, folder, pixelsDetail(sizes.front()));
         }
     }
 
@@ -229,6 +219,12 @@ private:
 };
 
 } // namespace
+
+const char *severityKey(ScreenshotSeverity severity)
+{
+    constexpr std::array<const char *, 3> keys{"SHOT_ERROR", "SHOT_WARNING", "SHOT_NOTE"};
+    return keys[static_cast<std::size_t>(severity)];
+}
 
 std::span<const ScreenshotRule> screenshotRules()
 {
@@ -243,7 +239,7 @@ std::vector<ScreenshotFinding> screenshotFindings(const std::vector<ScreenshotFa
         judgement.judge(facts);
     judgement.judgeFolders();
     if (screenshots.empty())
-        judgement.add(Nothing, {}, u"no picture"_s);
+        judgement.add(Nothing, {}, "SHOT_NO_PICTURE");
     return std::move(judgement).findings();
 }
 

@@ -17,13 +17,16 @@ enum class ScreenshotStore { AppStore, Play };
 /// The store refuses an error and probably a warning; a note is a disadvantage.
 enum class ScreenshotSeverity { Error, Warning, Note };
 
+/// The key of the text that names the severity.
+const char *severityKey(ScreenshotSeverity severity);
+
 /// One rule for screenshots.
 struct ScreenshotRule
 {
     QLatin1StringView id;
     ScreenshotSeverity severity = {};
-    QLatin1StringView title;
-    QLatin1StringView fix;
+    const char *titleKey = nullptr; ///< of the texts
+    const char *fixKey = nullptr;
 };
 
 std::span<const ScreenshotRule> screenshotRules();
@@ -32,8 +35,8 @@ std::span<const ScreenshotRule> screenshotRules();
 struct ScreenshotFinding
 {
     const ScreenshotRule *rule = nullptr;
-    QString path;     ///< of the picture or of its folder
-    QString evidence; ///< the finding: "1081 x 1920 pixels"
+    QString path;           ///< of the picture or of its folder
+    FailureDetail evidence; ///< the finding: "1081 x 1920 pixels"
 };
 
 /// The faults of the pictures, sorted by path, then those of folders. A picture in one of Play's folders

@@ -938,6 +938,156 @@
     <translation>Ausgelassen: [REASON]</translation>
   </message>
 
+  <!-- The placeholder tool's side of today -->
+  <message id="PLACEHOLDER_TEXT">
+    <source>Text</source>
+    <translation>Text</translation>
+  </message>
+  <message id="PLACEHOLDER_TEXT_TIP">
+    <source>{size}, {width} and {height} become the size; \n begins a line</source>
+    <translation>{size}, {width} und {height} werden zur Größe; \n beginnt eine Zeile</translation>
+  </message>
+  <message id="PLACEHOLDER_FOREGROUND">
+    <source>Text color</source>
+    <translation>Textfarbe</translation>
+  </message>
+  <message id="PLACEHOLDER_BACKGROUND">
+    <source>Background</source>
+    <translation>Hintergrund</translation>
+  </message>
+  <message id="PLACEHOLDER_COLOR_TIP">
+    <source>A code such as #ff8800 or #ff880080, or a name such as tomato</source>
+    <translation>Ein Code wie #ff8800 oder #ff880080 oder ein Name wie tomato</translation>
+  </message>
+  <message id="PLACEHOLDER_OWN_SIZES">
+    <source>Own sizes</source>
+    <translation>Eigene Größen</translation>
+  </message>
+  <message id="PLACEHOLDER_SIZES_TIP">
+    <source>Sizes in points, such as 1200x600 800x800@2x</source>
+    <translation>Größen in Punkten, etwa 1200x600 800x800@2x</translation>
+  </message>
+  <message id="PLACEHOLDER_KEEP">
+    <source>Keep as a set</source>
+    <translation>Als Satz behalten</translation>
+  </message>
+  <message id="PLACEHOLDER_KEEP_TIP">
+    <source>Adds these sizes to the sets until the program ends</source>
+    <translation>Nimmt diese Größen bis zum Programmende unter die Sätze auf</translation>
+  </message>
+  <message id="PLACEHOLDER_NO_COLOR">
+    <source>A color is a code such as #ff8800 or a name</source>
+    <translation>Eine Farbe ist ein Code wie #ff8800 oder ein Name</translation>
+  </message>
+  <message id="PLACEHOLDER_NO_SHAPE">
+    <source>The font has no shape for “[TEXT]”</source>
+    <translation>Die Schrift hat kein Zeichen für „[TEXT]“</translation>
+  </message>
+  <message id="PLACEHOLDER_NO_SIZE">
+    <source>“[TEXT]” is not a size such as 800x600@2x</source>
+    <translation>„[TEXT]“ ist keine Größe wie 800x600@2x</translation>
+  </message>
+  <message id="PLACEHOLDER_ONE_PICTURE">
+    <source>1 picture</source>
+    <translation>1 Bild</translation>
+  </message>
+  <message id="PLACEHOLDER_PICTURES">
+    <source>[COUNT] pictures</source>
+    <translation>[COUNT] Bilder</translation>
+  </message>
+  <message id="PLACEHOLDER_CHOOSE_SETS">
+    <source>Choose sets, or type sizes</source>
+    <translation>Sätze wählen oder Größen eingeben</translation>
+  </message>
+  <message id="PLACEHOLDER_PROGRESS">
+    <source>Progress of the placeholders</source>
+    <translation>Fortschritt der Platzhalter</translation>
+  </message>
+  <message id="PLACEHOLDER_SET_APP_STORE">
+    <source>App Store</source>
+    <translation>App Store</translation>
+  </message>
+  <message id="PLACEHOLDER_SET_PLAY">
+    <source>Google Play</source>
+    <translation>Google Play</translation>
+  </message>
+  <message id="PLACEHOLDER_SET_FEATURE">
+    <source>Feature graphic</source>
+    <translation>Funktionsgrafik</translation>
+  </message>
+  <message id="PLACEHOLDER_SET_TV">
+    <source>Apple TV</source>
+    <translation>Apple TV</translation>
+  </message>
+  <message id="PLACEHOLDER_SET_WATCH">
+    <source>Apple Watch</source>
+    <translation>Apple Watch</translation>
+  </message>
+  <message id="PLACEHOLDER_SET_SOCIAL">
+    <source>Social cards</source>
+    <translation>Soziale Netze</translation>
+  </message>
+  <message id="PLACEHOLDER_SET_LAUNCH">
+    <source>Launch screens</source>
+    <translation>Startbilder</translation>
+  </message>
+  <message id="SHOT_CHECK">
+    <source>Check screenshots…</source>
+    <translation>Screenshots prüfen …</translation>
+  </message>
+  <message id="SHOT_CHECK_TIP">
+    <source>Holds the pictures of a folder against the rules of the stores</source>
+    <translation>Hält die Bilder eines Ordners an die Regeln der Stores</translation>
+  </message>
+  <message id="SHOT_BACK">
+    <source>Back to the sets</source>
+    <translation>Zu den Sätzen</translation>
+  </message>
+  <message id="SHOT_DROP">
+    <source>Drop screenshots or a folder here to hold them against the rules of the stores</source>
+    <translation>Screenshots oder Ordner zur Prüfung nach den Regeln der Stores ablegen</translation>
+  </message>
+  <message id="SHOT_DROP_NAME">
+    <source>Area for screenshots to check</source>
+    <translation>Fläche für Screenshots, die geprüft werden</translation>
+  </message>
+  <message id="SHOT_FOLDER_TITLE">
+    <source>Choose the folder with the screenshots</source>
+    <translation>Ordner mit den Screenshots wählen</translation>
+  </message>
+  <message id="SHOT_EITHER_STORE">
+    <source>Either store</source>
+    <translation>Einer der Stores</translation>
+  </message>
+  <message id="SHOT_STORE">
+    <source>Store</source>
+    <translation>Store</translation>
+  </message>
+  <message id="SHOT_WHOLE">
+    <source>The folder itself</source>
+    <translation>Der Ordner selbst</translation>
+  </message>
+  <message id="SHOT_FINDINGS">
+    <source>Findings</source>
+    <translation>Befunde</translation>
+  </message>
+  <message id="SHOT_SOUND">
+    <source>no findings</source>
+    <translation>keine Befunde</translation>
+  </message>
+  <message id="SHOT_ONE_FINDING">
+    <source>1 finding</source>
+    <translation>1 Befund</translation>
+  </message>
+  <message id="SHOT_COUNT_FINDINGS">
+    <source>[COUNT] findings</source>
+    <translation>[COUNT] Befunde</translation>
+  </message>
+  <message id="SHOT_REFUSED">
+    <source>Not checked</source>
+    <translation>Nicht geprüft</translation>
+  </message>
+
   <!-- The down-scaler's side of today -->
   <message id="SCALER_LAYOUT">
     <source>Project</source>
@@ -5693,6 +5843,185 @@
     <source>no such file type</source>
     <translation>kein solches Dateiformat</translation>
   </message>
+  <!-- The rules for screenshots -->
+  <message id="SHOT_RULE_SCREENSHOT_UNREADABLE">
+    <source>The file is no picture that can be read</source>
+    <translation>Die Datei ist kein lesbares Bild</translation>
+  </message>
+  <message id="SHOT_FIX_SCREENSHOT_UNREADABLE">
+    <source>Save it again as PNG or JPEG</source>
+    <translation>Noch einmal als PNG oder JPEG speichern</translation>
+  </message>
+  <message id="SHOT_RULE_SCREENSHOT_FORMAT">
+    <source>Stores take PNG and JPEG only</source>
+    <translation>Stores nehmen nur PNG und JPEG</translation>
+  </message>
+  <message id="SHOT_FIX_SCREENSHOT_FORMAT">
+    <source>Save it as PNG</source>
+    <translation>Als PNG speichern</translation>
+  </message>
+  <message id="SHOT_RULE_SCREENSHOT_ALPHA">
+    <source>A screenshot may have no alpha channel</source>
+    <translation>Ein Screenshot darf keinen Alphakanal haben</translation>
+  </message>
+  <message id="SHOT_FIX_SCREENSHOT_ALPHA">
+    <source>Save it without transparency, even where every pixel is opaque</source>
+    <translation>Ohne Transparenz speichern, auch wenn jedes Pixel deckt</translation>
+  </message>
+  <message id="SHOT_RULE_SCREENSHOT_RGB">
+    <source>A screenshot has to be in RGB</source>
+    <translation>Ein Screenshot muss in RGB sein</translation>
+  </message>
+  <message id="SHOT_FIX_SCREENSHOT_RGB">
+    <source>Convert it from inks or shades of gray to RGB</source>
+    <translation>Aus Druckfarben oder Graustufen in RGB umwandeln</translation>
+  </message>
+  <message id="SHOT_RULE_SCREENSHOT_SIZE">
+    <source>The size is one that neither store takes</source>
+    <translation>Diese Größe nimmt keiner der Stores</translation>
+  </message>
+  <message id="SHOT_FIX_SCREENSHOT_SIZE">
+    <source>Take it on a device or simulator of a size in the stores' lists</source>
+    <translation>Auf einem Gerät oder Simulator mit einer Größe aus den Listen der Stores aufnehmen</translation>
+  </message>
+  <message id="SHOT_RULE_APPSTORE_SIZE">
+    <source>The App Store takes no screenshot of this size</source>
+    <translation>Der App Store nimmt keinen Screenshot dieser Größe</translation>
+  </message>
+  <message id="SHOT_FIX_APPSTORE_SIZE">
+    <source>Take it on a device or simulator of a size in the store's list, such as 1320 x 2868 or 2064 x 2752</source>
+    <translation>Auf einem Gerät oder Simulator mit einer Größe aus der Liste des Stores aufnehmen, etwa 1320 x 2868 oder 2064 x 2752</translation>
+  </message>
+  <message id="SHOT_RULE_APPSTORE_COUNT">
+    <source>The App Store takes ten screenshots of a screen size</source>
+    <translation>Der App Store nimmt zehn Screenshots je Bildschirmgröße</translation>
+  </message>
+  <message id="SHOT_FIX_APPSTORE_COUNT">
+    <source>Leave the others out</source>
+    <translation>Die übrigen weglassen</translation>
+  </message>
+  <message id="SHOT_RULE_APPSTORE_IPHONE">
+    <source>iPhone screenshots are wanted at 6.9 inches, or else at 6.5</source>
+    <translation>Vom iPhone werden Screenshots in 6,9 Zoll verlangt, sonst in 6,5</translation>
+  </message>
+  <message id="SHOT_FIX_APPSTORE_IPHONE">
+    <source>Add screenshots of 1320 x 2868, 1290 x 2796 or 1260 x 2736 pixels; the store scales them for the others</source>
+    <translation>Screenshots mit 1320 x 2868, 1290 x 2796 oder 1260 x 2736 Pixeln hinzufügen; der Store verkleinert sie für die anderen</translation>
+  </message>
+  <message id="SHOT_RULE_APPSTORE_IPAD">
+    <source>iPad screenshots are wanted at 13 inches</source>
+    <translation>Vom iPad werden Screenshots in 13 Zoll verlangt</translation>
+  </message>
+  <message id="SHOT_FIX_APPSTORE_IPAD">
+    <source>Add screenshots of 2064 x 2752 or 2048 x 2732 pixels; the store scales them for the others</source>
+    <translation>Screenshots mit 2064 x 2752 oder 2048 x 2732 Pixeln hinzufügen; der Store verkleinert sie für die anderen</translation>
+  </message>
+  <message id="SHOT_RULE_PLAY_SIDE">
+    <source>Play wants each side to have 320 to 3840 pixels</source>
+    <translation>Play verlangt für jede Seite 320 bis 3840 Pixel</translation>
+  </message>
+  <message id="SHOT_FIX_PLAY_SIDE">
+    <source>Scale it, or take it on another device</source>
+    <translation>Skalieren oder auf einem anderen Gerät aufnehmen</translation>
+  </message>
+  <message id="SHOT_RULE_PLAY_RATIO">
+    <source>Play wants the long side to be at most twice the short one</source>
+    <translation>Play verlangt, dass die lange Seite höchstens doppelt so lang ist wie die kurze</translation>
+  </message>
+  <message id="SHOT_FIX_PLAY_RATIO">
+    <source>Crop it, or take it on a device of another shape</source>
+    <translation>Beschneiden oder auf einem Gerät anderer Form aufnehmen</translation>
+  </message>
+  <message id="SHOT_RULE_PLAY_FEWEST">
+    <source>Play wants two screenshots at least</source>
+    <translation>Play verlangt mindestens zwei Screenshots</translation>
+  </message>
+  <message id="SHOT_FIX_PLAY_FEWEST">
+    <source>Add another</source>
+    <translation>Einen weiteren hinzufügen</translation>
+  </message>
+  <message id="SHOT_RULE_PLAY_MOST">
+    <source>Play takes eight screenshots of a kind of device</source>
+    <translation>Play nimmt acht Screenshots je Geräteart</translation>
+  </message>
+  <message id="SHOT_FIX_PLAY_MOST">
+    <source>Leave the others out</source>
+    <translation>Die übrigen weglassen</translation>
+  </message>
+  <message id="SHOT_RULE_PLAY_PROMOTION">
+    <source>Play promotes apps with screenshots of 1080 pixels and 16:9</source>
+    <translation>Play empfiehlt Apps mit Screenshots von 1080 Pixeln in 16:9</translation>
+  </message>
+  <message id="SHOT_FIX_PLAY_PROMOTION">
+    <source>Add screenshots of 1080 x 1920 or 1920 x 1080 pixels</source>
+    <translation>Screenshots mit 1080 x 1920 oder 1920 x 1080 Pixeln hinzufügen</translation>
+  </message>
+  <message id="SHOT_RULE_PLAY_TABLET">
+    <source>Play advises four screenshots or more of a tablet</source>
+    <translation>Play rät zu mindestens vier Screenshots eines Tablets</translation>
+  </message>
+  <message id="SHOT_FIX_PLAY_TABLET">
+    <source>Add others</source>
+    <translation>Weitere hinzufügen</translation>
+  </message>
+  <message id="SHOT_RULE_PLAY_FEATURE_GRAPHIC">
+    <source>The feature graphic has to be 1024 x 500 pixels</source>
+    <translation>Die Funktionsgrafik muss 1024 x 500 Pixel haben</translation>
+  </message>
+  <message id="SHOT_FIX_PLAY_FEATURE_GRAPHIC">
+    <source>Draw it in that size</source>
+    <translation>In dieser Größe zeichnen</translation>
+  </message>
+  <message id="SHOT_RULE_SCREENSHOT_NONE">
+    <source>There is no picture in the folder</source>
+    <translation>Im Ordner ist kein Bild</translation>
+  </message>
+  <message id="SHOT_FIX_SCREENSHOT_NONE">
+    <source>Name the folder that holds the screenshots</source>
+    <translation>Den Ordner mit den Screenshots angeben</translation>
+  </message>
+  <message id="SHOT_HAS_ALPHA">
+    <source>it has an alpha channel</source>
+    <translation>hat einen Alphakanal</translation>
+  </message>
+  <message id="SHOT_OTHER_CHANNELS">
+    <source>it has other channels</source>
+    <translation>hat andere Kanäle</translation>
+  </message>
+  <message id="SHOT_SMALLER_ONLY">
+    <source>smaller screens only</source>
+    <translation>nur kleinere Bildschirme</translation>
+  </message>
+  <message id="SHOT_NO_PICTURE">
+    <source>no picture</source>
+    <translation>kein Bild</translation>
+  </message>
+  <message id="SHOT_COUNT_OF">
+    <source>[COUNT] of [SCREEN]</source>
+    <translation>[COUNT] für [SCREEN]</translation>
+  </message>
+  <message id="SHOT_ONE">
+    <source>1 screenshot</source>
+    <translation>1 Screenshot</translation>
+  </message>
+  <message id="SHOT_COUNT">
+    <source>[COUNT] screenshots</source>
+    <translation>[COUNT] Screenshots</translation>
+  </message>
+  <message id="SHOT_ERROR">
+    <source>error</source>
+    <translation>Fehler</translation>
+  </message>
+  <message id="SHOT_WARNING">
+    <source>warning</source>
+    <translation>Warnung</translation>
+  </message>
+  <message id="SHOT_NOTE">
+    <source>note</source>
+    <translation>Hinweis</translation>
+  </message>
+
+  <!-- More on failures -->
   <message id="DETAIL_PIXELS">
     <source>[WIDTH] x [HEIGHT] pixels</source>
     <translation>[WIDTH] x [HEIGHT] Pixel</translation>

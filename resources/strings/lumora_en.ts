@@ -936,6 +936,156 @@
     <translation>Left out: [REASON]</translation>
   </message>
 
+  <!-- The placeholder tool's side of today -->
+  <message id="PLACEHOLDER_TEXT">
+    <source>Text</source>
+    <translation>Text</translation>
+  </message>
+  <message id="PLACEHOLDER_TEXT_TIP">
+    <source>{size}, {width} and {height} become the size; \n begins a line</source>
+    <translation>{size}, {width} and {height} become the size; \n begins a line</translation>
+  </message>
+  <message id="PLACEHOLDER_FOREGROUND">
+    <source>Text color</source>
+    <translation>Text color</translation>
+  </message>
+  <message id="PLACEHOLDER_BACKGROUND">
+    <source>Background</source>
+    <translation>Background</translation>
+  </message>
+  <message id="PLACEHOLDER_COLOR_TIP">
+    <source>A code such as #ff8800 or #ff880080, or a name such as tomato</source>
+    <translation>A code such as #ff8800 or #ff880080, or a name such as tomato</translation>
+  </message>
+  <message id="PLACEHOLDER_OWN_SIZES">
+    <source>Own sizes</source>
+    <translation>Own sizes</translation>
+  </message>
+  <message id="PLACEHOLDER_SIZES_TIP">
+    <source>Sizes in points, such as 1200x600 800x800@2x</source>
+    <translation>Sizes in points, such as 1200x600 800x800@2x</translation>
+  </message>
+  <message id="PLACEHOLDER_KEEP">
+    <source>Keep as a set</source>
+    <translation>Keep as a set</translation>
+  </message>
+  <message id="PLACEHOLDER_KEEP_TIP">
+    <source>Adds these sizes to the sets until the program ends</source>
+    <translation>Adds these sizes to the sets until the program ends</translation>
+  </message>
+  <message id="PLACEHOLDER_NO_COLOR">
+    <source>A color is a code such as #ff8800 or a name</source>
+    <translation>A color is a code such as #ff8800 or a name</translation>
+  </message>
+  <message id="PLACEHOLDER_NO_SHAPE">
+    <source>The font has no shape for “[TEXT]”</source>
+    <translation>The font has no shape for “[TEXT]”</translation>
+  </message>
+  <message id="PLACEHOLDER_NO_SIZE">
+    <source>“[TEXT]” is not a size such as 800x600@2x</source>
+    <translation>“[TEXT]” is not a size such as 800x600@2x</translation>
+  </message>
+  <message id="PLACEHOLDER_ONE_PICTURE">
+    <source>1 picture</source>
+    <translation>1 picture</translation>
+  </message>
+  <message id="PLACEHOLDER_PICTURES">
+    <source>[COUNT] pictures</source>
+    <translation>[COUNT] pictures</translation>
+  </message>
+  <message id="PLACEHOLDER_CHOOSE_SETS">
+    <source>Choose sets, or type sizes</source>
+    <translation>Choose sets, or type sizes</translation>
+  </message>
+  <message id="PLACEHOLDER_PROGRESS">
+    <source>Progress of the placeholders</source>
+    <translation>Progress of the placeholders</translation>
+  </message>
+  <message id="PLACEHOLDER_SET_APP_STORE">
+    <source>App Store</source>
+    <translation>App Store</translation>
+  </message>
+  <message id="PLACEHOLDER_SET_PLAY">
+    <source>Google Play</source>
+    <translation>Google Play</translation>
+  </message>
+  <message id="PLACEHOLDER_SET_FEATURE">
+    <source>Feature graphic</source>
+    <translation>Feature graphic</translation>
+  </message>
+  <message id="PLACEHOLDER_SET_TV">
+    <source>Apple TV</source>
+    <translation>Apple TV</translation>
+  </message>
+  <message id="PLACEHOLDER_SET_WATCH">
+    <source>Apple Watch</source>
+    <translation>Apple Watch</translation>
+  </message>
+  <message id="PLACEHOLDER_SET_SOCIAL">
+    <source>Social cards</source>
+    <translation>Social cards</translation>
+  </message>
+  <message id="PLACEHOLDER_SET_LAUNCH">
+    <source>Launch screens</source>
+    <translation>Launch screens</translation>
+  </message>
+  <message id="SHOT_CHECK">
+    <source>Check screenshots…</source>
+    <translation>Check screenshots…</translation>
+  </message>
+  <message id="SHOT_CHECK_TIP">
+    <source>Holds the pictures of a folder against the rules of the stores</source>
+    <translation>Holds the pictures of a folder against the rules of the stores</translation>
+  </message>
+  <message id="SHOT_BACK">
+    <source>Back to the sets</source>
+    <translation>Back to the sets</translation>
+  </message>
+  <message id="SHOT_DROP">
+    <source>Drop screenshots or a folder here to hold them against the rules of the stores</source>
+    <translation>Drop screenshots or a folder here to hold them against the rules of the stores</translation>
+  </message>
+  <message id="SHOT_DROP_NAME">
+    <source>Area for screenshots to check</source>
+    <translation>Area for screenshots to check</translation>
+  </message>
+  <message id="SHOT_FOLDER_TITLE">
+    <source>Choose the folder with the screenshots</source>
+    <translation>Choose the folder with the screenshots</translation>
+  </message>
+  <message id="SHOT_EITHER_STORE">
+    <source>Either store</source>
+    <translation>Either store</translation>
+  </message>
+  <message id="SHOT_STORE">
+    <source>Store</source>
+    <translation>Store</translation>
+  </message>
+  <message id="SHOT_WHOLE">
+    <source>The folder itself</source>
+    <translation>The folder itself</translation>
+  </message>
+  <message id="SHOT_FINDINGS">
+    <source>Findings</source>
+    <translation>Findings</translation>
+  </message>
+  <message id="SHOT_SOUND">
+    <source>no findings</source>
+    <translation>no findings</translation>
+  </message>
+  <message id="SHOT_ONE_FINDING">
+    <source>1 finding</source>
+    <translation>1 finding</translation>
+  </message>
+  <message id="SHOT_COUNT_FINDINGS">
+    <source>[COUNT] findings</source>
+    <translation>[COUNT] findings</translation>
+  </message>
+  <message id="SHOT_REFUSED">
+    <source>Not checked</source>
+    <translation>Not checked</translation>
+  </message>
+
   <!-- The down-scaler's side of today -->
   <message id="SCALER_LAYOUT">
     <source>Project</source>
@@ -5691,6 +5841,185 @@
     <source>no such file type</source>
     <translation>no such file type</translation>
   </message>
+  <!-- The rules for screenshots -->
+  <message id="SHOT_RULE_SCREENSHOT_UNREADABLE">
+    <source>The file is no picture that can be read</source>
+    <translation>The file is no picture that can be read</translation>
+  </message>
+  <message id="SHOT_FIX_SCREENSHOT_UNREADABLE">
+    <source>Save it again as PNG or JPEG</source>
+    <translation>Save it again as PNG or JPEG</translation>
+  </message>
+  <message id="SHOT_RULE_SCREENSHOT_FORMAT">
+    <source>Stores take PNG and JPEG only</source>
+    <translation>Stores take PNG and JPEG only</translation>
+  </message>
+  <message id="SHOT_FIX_SCREENSHOT_FORMAT">
+    <source>Save it as PNG</source>
+    <translation>Save it as PNG</translation>
+  </message>
+  <message id="SHOT_RULE_SCREENSHOT_ALPHA">
+    <source>A screenshot may have no alpha channel</source>
+    <translation>A screenshot may have no alpha channel</translation>
+  </message>
+  <message id="SHOT_FIX_SCREENSHOT_ALPHA">
+    <source>Save it without transparency, even where every pixel is opaque</source>
+    <translation>Save it without transparency, even where every pixel is opaque</translation>
+  </message>
+  <message id="SHOT_RULE_SCREENSHOT_RGB">
+    <source>A screenshot has to be in RGB</source>
+    <translation>A screenshot has to be in RGB</translation>
+  </message>
+  <message id="SHOT_FIX_SCREENSHOT_RGB">
+    <source>Convert it from inks or shades of gray to RGB</source>
+    <translation>Convert it from inks or shades of gray to RGB</translation>
+  </message>
+  <message id="SHOT_RULE_SCREENSHOT_SIZE">
+    <source>The size is one that neither store takes</source>
+    <translation>The size is one that neither store takes</translation>
+  </message>
+  <message id="SHOT_FIX_SCREENSHOT_SIZE">
+    <source>Take it on a device or simulator of a size in the stores' lists</source>
+    <translation>Take it on a device or simulator of a size in the stores' lists</translation>
+  </message>
+  <message id="SHOT_RULE_APPSTORE_SIZE">
+    <source>The App Store takes no screenshot of this size</source>
+    <translation>The App Store takes no screenshot of this size</translation>
+  </message>
+  <message id="SHOT_FIX_APPSTORE_SIZE">
+    <source>Take it on a device or simulator of a size in the store's list, such as 1320 x 2868 or 2064 x 2752</source>
+    <translation>Take it on a device or simulator of a size in the store's list, such as 1320 x 2868 or 2064 x 2752</translation>
+  </message>
+  <message id="SHOT_RULE_APPSTORE_COUNT">
+    <source>The App Store takes ten screenshots of a screen size</source>
+    <translation>The App Store takes ten screenshots of a screen size</translation>
+  </message>
+  <message id="SHOT_FIX_APPSTORE_COUNT">
+    <source>Leave the others out</source>
+    <translation>Leave the others out</translation>
+  </message>
+  <message id="SHOT_RULE_APPSTORE_IPHONE">
+    <source>iPhone screenshots are wanted at 6.9 inches, or else at 6.5</source>
+    <translation>iPhone screenshots are wanted at 6.9 inches, or else at 6.5</translation>
+  </message>
+  <message id="SHOT_FIX_APPSTORE_IPHONE">
+    <source>Add screenshots of 1320 x 2868, 1290 x 2796 or 1260 x 2736 pixels; the store scales them for the others</source>
+    <translation>Add screenshots of 1320 x 2868, 1290 x 2796 or 1260 x 2736 pixels; the store scales them for the others</translation>
+  </message>
+  <message id="SHOT_RULE_APPSTORE_IPAD">
+    <source>iPad screenshots are wanted at 13 inches</source>
+    <translation>iPad screenshots are wanted at 13 inches</translation>
+  </message>
+  <message id="SHOT_FIX_APPSTORE_IPAD">
+    <source>Add screenshots of 2064 x 2752 or 2048 x 2732 pixels; the store scales them for the others</source>
+    <translation>Add screenshots of 2064 x 2752 or 2048 x 2732 pixels; the store scales them for the others</translation>
+  </message>
+  <message id="SHOT_RULE_PLAY_SIDE">
+    <source>Play wants each side to have 320 to 3840 pixels</source>
+    <translation>Play wants each side to have 320 to 3840 pixels</translation>
+  </message>
+  <message id="SHOT_FIX_PLAY_SIDE">
+    <source>Scale it, or take it on another device</source>
+    <translation>Scale it, or take it on another device</translation>
+  </message>
+  <message id="SHOT_RULE_PLAY_RATIO">
+    <source>Play wants the long side to be at most twice the short one</source>
+    <translation>Play wants the long side to be at most twice the short one</translation>
+  </message>
+  <message id="SHOT_FIX_PLAY_RATIO">
+    <source>Crop it, or take it on a device of another shape</source>
+    <translation>Crop it, or take it on a device of another shape</translation>
+  </message>
+  <message id="SHOT_RULE_PLAY_FEWEST">
+    <source>Play wants two screenshots at least</source>
+    <translation>Play wants two screenshots at least</translation>
+  </message>
+  <message id="SHOT_FIX_PLAY_FEWEST">
+    <source>Add another</source>
+    <translation>Add another</translation>
+  </message>
+  <message id="SHOT_RULE_PLAY_MOST">
+    <source>Play takes eight screenshots of a kind of device</source>
+    <translation>Play takes eight screenshots of a kind of device</translation>
+  </message>
+  <message id="SHOT_FIX_PLAY_MOST">
+    <source>Leave the others out</source>
+    <translation>Leave the others out</translation>
+  </message>
+  <message id="SHOT_RULE_PLAY_PROMOTION">
+    <source>Play promotes apps with screenshots of 1080 pixels and 16:9</source>
+    <translation>Play promotes apps with screenshots of 1080 pixels and 16:9</translation>
+  </message>
+  <message id="SHOT_FIX_PLAY_PROMOTION">
+    <source>Add screenshots of 1080 x 1920 or 1920 x 1080 pixels</source>
+    <translation>Add screenshots of 1080 x 1920 or 1920 x 1080 pixels</translation>
+  </message>
+  <message id="SHOT_RULE_PLAY_TABLET">
+    <source>Play advises four screenshots or more of a tablet</source>
+    <translation>Play advises four screenshots or more of a tablet</translation>
+  </message>
+  <message id="SHOT_FIX_PLAY_TABLET">
+    <source>Add others</source>
+    <translation>Add others</translation>
+  </message>
+  <message id="SHOT_RULE_PLAY_FEATURE_GRAPHIC">
+    <source>The feature graphic has to be 1024 x 500 pixels</source>
+    <translation>The feature graphic has to be 1024 x 500 pixels</translation>
+  </message>
+  <message id="SHOT_FIX_PLAY_FEATURE_GRAPHIC">
+    <source>Draw it in that size</source>
+    <translation>Draw it in that size</translation>
+  </message>
+  <message id="SHOT_RULE_SCREENSHOT_NONE">
+    <source>There is no picture in the folder</source>
+    <translation>There is no picture in the folder</translation>
+  </message>
+  <message id="SHOT_FIX_SCREENSHOT_NONE">
+    <source>Name the folder that holds the screenshots</source>
+    <translation>Name the folder that holds the screenshots</translation>
+  </message>
+  <message id="SHOT_HAS_ALPHA">
+    <source>it has an alpha channel</source>
+    <translation>it has an alpha channel</translation>
+  </message>
+  <message id="SHOT_OTHER_CHANNELS">
+    <source>it has other channels</source>
+    <translation>it has other channels</translation>
+  </message>
+  <message id="SHOT_SMALLER_ONLY">
+    <source>smaller screens only</source>
+    <translation>smaller screens only</translation>
+  </message>
+  <message id="SHOT_NO_PICTURE">
+    <source>no picture</source>
+    <translation>no picture</translation>
+  </message>
+  <message id="SHOT_COUNT_OF">
+    <source>[COUNT] of [SCREEN]</source>
+    <translation>[COUNT] of [SCREEN]</translation>
+  </message>
+  <message id="SHOT_ONE">
+    <source>1 screenshot</source>
+    <translation>1 screenshot</translation>
+  </message>
+  <message id="SHOT_COUNT">
+    <source>[COUNT] screenshots</source>
+    <translation>[COUNT] screenshots</translation>
+  </message>
+  <message id="SHOT_ERROR">
+    <source>error</source>
+    <translation>error</translation>
+  </message>
+  <message id="SHOT_WARNING">
+    <source>warning</source>
+    <translation>warning</translation>
+  </message>
+  <message id="SHOT_NOTE">
+    <source>note</source>
+    <translation>note</translation>
+  </message>
+
+  <!-- More on failures -->
   <message id="DETAIL_PIXELS">
     <source>[WIDTH] x [HEIGHT] pixels</source>
     <translation>[WIDTH] x [HEIGHT] pixels</translation>

@@ -2,6 +2,7 @@
 #include "placeholders/screenshots/ScreenshotRules.h"
 
 #include "foundation/WholeFile.h"
+#include "resources/Resources.h"
 
 #include <QBuffer>
 #include <QDir>
@@ -79,6 +80,7 @@ class ScreenshotRulesTest : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase() { installTexts(*qApp, QLocale(u"en_GB"_s)); }
     void everyRuleIsSeen_data()
     {
         using Store = ScreenshotStore;
@@ -151,7 +153,7 @@ private slots:
             facts.push_back(screenshotFacts(one.bytes, one.path));
         QStringList findings;
         for (const ScreenshotFinding &finding : screenshotFindings(facts, stores)) {
-            findings << QString(finding.rule->id) + u' ' + finding.path + u'|' + finding.evidence;
+            findings << QString(finding.rule->id) + u' ' + finding.path + u'|' + finding.evidence.words();
             m_seen.insert(finding.rule->id);
         }
         QTEST(findings, "findings");
@@ -162,8 +164,25 @@ private slots:
     {
         for (const ScreenshotRule &rule : screenshotRules()) {
             QVERIFY2(m_seen.contains(rule.id), rule.id.data());
-            QVERIFY(!rule.title.isEmpty() && !rule.fix.isEmpty());
+            QVERIFY2(qtTrId(rule.titleKey) != QLatin1StringView(rule.titleKey), rule.titleKey);
+            QVERIFY2(qtTrId(rule.fixKey) != QLatin1StringView(rule.fixKey), rule.fixKey);
         }
+    }
+
+    void theFindingsAreWordedInGerman()
+    {
+        QStringList english;
+        for (const ScreenshotRule &rule : screenshotRules())
+            english << qtTrId(rule.titleKey) << qtTrId(rule.fixKey);
+        installTexts(*qApp, QLocale(u"de_DE"_s));
+        for (const ScreenshotRule &rule : screenshotRules()) {
+            QVERIFY2(!english.contains(qtTrId(rule.titleKey)), rule.titleKey);
+            QVERIFY2(!english.contains(qtTrId(rule.fixKey)), rule.fixKey);
+        }
+        const auto findings = screenshotFindings({screenshotFacts(picture({300, 400}), u"a.png"_s)}, {});
+        QCOMPARE(findings.front().evidence.words(), u"300 x 400 Pixel"_s);
+        QCOMPARE(qtTrId(severityKey(findings.front().rule->severity)), u"Fehler"_s);
+        installTexts(*qApp, QLocale(u"en_GB"_s));
     }
 
     void aFolderIsReadInOrder()
