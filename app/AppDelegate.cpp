@@ -163,8 +163,11 @@ ToolViewController *AppDelegate::controller(std::size_t index)
         controller = toolTable()[index].makeController(m_services);
         controller->setWindow(m_window.get());
         connectHandoffs(*this, *controller);
-        if (PaneSides *sides = controller->sides())
+        if (PaneSides *sides = controller->sides()) {
             sides->show(m_firstSide);
+            // Each side may take other things.
+            connect(sides, &PaneSides::shown, this, &AppDelegate::toolChanged);
+        }
         m_dropRouter->watchTool(index);
         connect(controller.get(), &ToolViewController::attentionWanted, this,
                 [this, index] { m_sideBar->matrix()->cells().at(static_cast<qsizetype>(index))->setBadge(true); });

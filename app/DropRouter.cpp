@@ -65,7 +65,10 @@ std::optional<std::size_t> DropRouter::target(const QObject *watched, const QDro
     if (item != m_items.cend())
         return *item;
     const std::size_t inView = m_delegate.toolInView();
-    const bool takesFiles = inView != static_cast<std::size_t>(ToolIndex::Color) && dropViewOf(inView) != nullptr;
+    // A tool that takes files on one side only disables its drop view on the other.
+    const DropView *view = dropViewOf(inView);
+    const bool takesFiles =
+        inView != static_cast<std::size_t>(ToolIndex::Color) && view != nullptr && view->isEnabled();
     return toolFor(*event.mimeData(), inView, takesFiles);
 }
 

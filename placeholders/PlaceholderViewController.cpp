@@ -3,6 +3,9 @@
 
 #include "PlaceholderExport.h"
 #include "foundation/LeadingInteger.h"
+#include "placeholders/pane/TodayPlaceholderPane.h"
+#include "placeholders/pane/TodayPlaceholders.h"
+#include "tool/DropView.h"
 #include "tool/TimedCaption.h"
 #include "tool/style/ButtonStyle.h"
 #include "tool/style/LabelStyle.h"
@@ -24,21 +27,6 @@ QList<QSize> sizesOf(PlaceholderSet set)
     return QList<QSize>(sizes.begin(), sizes.end());
 }
 
-JobResult resultOf(const PlaceholderRun &run)
-{
-    std::vector<Failure> failures;
-    for (const PlaceholderFile &file : run.files) {
-        if (!file.outcome)
-            failures.push_back(file.outcome.failure());
-    }
-    const auto wanted = std::ssize(run.files);
-    const auto written = wanted - std::ssize(failures);
-    // If the folder could not be created, all other failures follow from that.
-    if (run.folderFailure)
-        failures = {*run.folderFailure};
-    return jobResult(countedPictures, written, wanted, run.folder.path, failures);
-}
-
 } // namespace
 
 PlaceholderViewController::PlaceholderViewController(const Services &services, QObject *parent)
@@ -54,6 +42,7 @@ PlaceholderViewController::PlaceholderViewController(const Services &services, Q
         connect(field, &ZKTextField::action, this, &PlaceholderViewController::showCustomMiniature);
     }
     setUpResult(m_ui->resultView, palette::placeholders, palette::placeholdersBorder);
+    setUpToday();
     createPopup();
 }
 
@@ -98,6 +87,45 @@ void PlaceholderViewController::setUpAppearance()
     m_ui->macMiniature->setPictures(sizesOf(PlaceholderSet::Mac));
     m_ui->macMiniature->setAccessibleName(qtTrId("PLACEHOLDER_MAC_SUBTITLE"));
     m_ui->customMiniature->setAccessibleName(qtTrId("PLACEHOLDER_CUSTOM_SUBTITLE"));
+}
+
+void PlaceholderViewController::setUpToday()
+{
+    m_today = new TodayPlaceholders(services(), this);
+    connect(m_today, &TodayPlaceholders::jobEnded, this, &PlaceholderViewController::jobEnded);
+    connect(m_today, &TodayPlaceholders::messageWanted, this, &PlaceholderViewController::showPopupWithTitle);
+    addToday([this](QWidget *pane) {
+        QWidget *today = m_today->makePane(pane);
+        m_today->pane()->dropView()->setDelegate(this);
+        setUpResult(m_today->pane()->resultView(), palette::placeholders, palette::placeholdersBorder);
+        return today;
+    });
+    // The classic side takes no files.
+    connect(sides(), &PaneSides::shown, this,
+            [this](ToolSide side) { m_today->pane()->dropView()->setEnabled(side == ToolSide::Today); });
+}
+
+bool PlaceholderViewController::takesFiles() const
+{
+    return sides()->side() == ToolSide::Today;
+}
+
+void PlaceholderViewController::browseButtonPressed()
+{
+    if (takesFiles() && m_today->pane() != nullptr)
+        m_today->chooseScreenshots();
+}
+
+void PlaceholderViewController::paste()
+{
+    if (takesFiles())
+        dropViewReceivedFiles(services().clipboard.files());
+}
+
+void PlaceholderViewController::dropViewReceivedFiles(const QStringList &files)
+{
+    if (m_today->pane() != nullptr)
+        m_today->check(files);
 }
 
 void PlaceholderViewController::setUpButton(HoverButton *button, const QString &what)
@@ -211,7 +239,7 @@ void PlaceholderViewController::finish(HoverButton *button, const PlaceholderRun
             qtTrId("PLACEHOLDER_NEW_FOLDER_ALERT_TITLE"),
             qtTrId("PLACEHOLDER_NEW_FOLDER_ALERT_MESSAGE").replace(QStringLiteral("[FOLDER]"), run.folder.name()),
             button, false);
-    m_ui->resultView->setResult(resultOf(run));
+    m_ui->resultView->setResult(resultOf(run, std::ssize(run.files)));
     // The user may have started another run meanwhile.
     if (m_selectedButton == button && m_saveImages.empty())
         m_selectedButton = nullptr;

@@ -5,6 +5,7 @@
 #include "Placeholder.h"
 #include "PlaceholderSizes.h"
 #include "tool/BackgroundJobs.h"
+#include "tool/DropView.h"
 #include "tool/ToolViewController.h"
 
 #include <QHash>
@@ -23,11 +24,12 @@ namespace lumora
 class HoverButton;
 struct PlaceholderRun;
 class TimedCaption;
+class TodayPlaceholders;
 class ZKTextField;
 
 /// The placeholder tool: writes labeled gray pictures in the screen sizes of iOS devices or of the Mac, or one in a
 /// typed size, and shows them beforehand.
-class PlaceholderViewController final : public ToolViewController
+class PlaceholderViewController final : public ToolViewController, public DropViewDelegate
 {
     Q_OBJECT
 
@@ -55,7 +57,17 @@ public slots:
     void macButtonPressed();
     void customButtonPressed();
 
+    /// The side of today, which alone takes files; its pane is null until it is seen first.
+    TodayPlaceholders *today() const { return m_today; }
+    bool takesFiles() const override;
+    void browseButtonPressed() override;
+    void paste() override;
+    void dropViewReceivedFiles(const QStringList &files) override;
+    /// Does nothing: colors are of no use here.
+    void dropViewReceivedColor(const QColor &) override {}
+
 private:
+    void setUpToday();
     void setUpAppearance();
     void setUpButton(HoverButton *button, const QString &what);
     void showCustomMiniature();
@@ -78,6 +90,7 @@ private:
     QString m_customName;
     HoverButton *m_selectedButton = nullptr;
     QHash<HoverButton *, TimedCaption *> m_captions;
+    TodayPlaceholders *m_today = nullptr;
     BackgroundJobs m_jobs; ///< last, so that it waits for running jobs before other members are destroyed
 };
 

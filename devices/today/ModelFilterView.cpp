@@ -7,6 +7,7 @@
 #include "VersionRange.h"
 #include "tool/style/ButtonStyle.h"
 #include "tool/style/DropDownStyle.h"
+#include "tool/style/FieldStyle.h"
 #include "tool/style/LabelStyle.h"
 #include "widgets/buttons/CheckboxButton.h"
 #include "widgets/buttons/IconButton.h"
@@ -82,13 +83,7 @@ void ModelFilterView::setUpSearch()
     m_search->setPlaceholderText(qtTrId("DEVICES_SEARCH"));
     m_search->setAccessibleName(qtTrId("DEVICES_SEARCH"));
     m_search->setClearButtonEnabled(true);
-    m_search->setFixedHeight(fieldHeight);
-    m_search->setFont(latoRegular(headingSize));
-    m_search->setStyleSheet(uR"(
-        QLineEdit { background: %1; color: %2; border: 1px solid %3; border-radius: 6px; padding: 0 7px; }
-        QLineEdit:focus { border: 2px solid %4; padding: 0 6px; }
-    )"_s.arg(palette::textFieldBackground.name(), palette::chromeText.name(), palette::panelOutline.name(),
-             palette::devices.name()));
+    styleField(m_search, palette::devices);
     connect(m_search, &QLineEdit::textChanged, this, &ModelFilterView::changed);
 }
 
