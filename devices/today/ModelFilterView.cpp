@@ -92,6 +92,8 @@ QComboBox *ModelFilterView::makeChoice(const QString &name, const QString &any)
     auto *choice = new QComboBox(this);
     choice->addItem(any);
     choice->setAccessibleName(name);
+    // The platform gives the chosen text as the name.
+    choice->setAccessibleDescription(name);
     choice->setToolTip(name);
     choice->setFixedHeight(fieldHeight);
     choice->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);

@@ -88,6 +88,7 @@ void LookFields::addField(QVBoxLayout *column, const QString &name, QWidget *fie
     auto *heading = new QLabel(name, this);
     styleLabel(heading, latoBold(headingSize), palette::placeholdersBorder);
     field->setAccessibleName(name);
+    heading->setBuddy(field);
     column->addWidget(heading);
     column->addWidget(field);
 }

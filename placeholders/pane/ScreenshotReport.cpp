@@ -44,6 +44,7 @@ ScreenshotReport::ScreenshotReport(QWidget *parent)
 {
     m_stores->addItems({qtTrId("SHOT_EITHER_STORE"), u"App Store"_s, u"Google Play"_s});
     m_stores->setAccessibleName(qtTrId("SHOT_STORE"));
+    m_stores->setAccessibleDescription(qtTrId("SHOT_STORE"));
     m_stores->setToolTip(qtTrId("SHOT_STORE"));
     m_stores->setFixedHeight(fieldHeight);
     frameDropDown(m_stores);

@@ -132,10 +132,11 @@ void ScalingChoices::setUpQuality()
     showQuality();
 }
 
-void ScalingChoices::addHeading(QVBoxLayout *column, const QString &text)
+void ScalingChoices::addHeading(QVBoxLayout *column, const QString &text, QWidget *field)
 {
     auto *heading = new QLabel(text, this);
     styleLabel(heading, latoBold(headingSize), palette::resizer);
+    heading->setBuddy(field);
     column->addSpacing(gap / 2);
     column->addWidget(heading);
 }
@@ -146,9 +147,9 @@ QWidget *ScalingChoices::makeContent()
     auto *column = new QVBoxLayout(content);
     column->setContentsMargins(sideMargin, 0, sideMargin, 0);
     column->setSpacing(gap);
-    addHeading(column, qtTrId("SCALER_LAYOUT"));
+    addHeading(column, qtTrId("SCALER_LAYOUT"), m_layouts);
     column->addWidget(m_layouts);
-    addHeading(column, qtTrId("SCALER_FROM"));
+    addHeading(column, qtTrId("SCALER_FROM"), m_froms);
     column->addWidget(m_froms);
     addHeading(column, qtTrId("SCALER_TO"));
     m_boxGrid = new QGridLayout;
@@ -156,7 +157,7 @@ QWidget *ScalingChoices::makeContent()
     m_boxGrid->setColumnStretch(0, 1);
     m_boxGrid->setColumnStretch(1, 1);
     column->addLayout(m_boxGrid);
-    addHeading(column, qtTrId("SCALER_FORMAT"));
+    addHeading(column, qtTrId("SCALER_FORMAT"), m_formats);
     column->addWidget(m_formats);
     column->addWidget(m_qualityLabel);
     column->addWidget(m_quality);

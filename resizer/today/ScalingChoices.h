@@ -51,7 +51,8 @@ signals:
 
 private:
     QWidget *makeContent();
-    void addHeading(QVBoxLayout *column, const QString &text);
+    /// A screen reader names the field by its heading.
+    void addHeading(QVBoxLayout *column, const QString &text, QWidget *field = nullptr);
     void setUp(QComboBox *choice, const QString &name);
     void connectBox(CheckboxButton *box);
     void setUpQuality();
