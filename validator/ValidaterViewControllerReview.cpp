@@ -10,6 +10,7 @@
 #include "tool/TimedCaption.h"
 #include "tool/style/LabelStyle.h"
 #include "ui_ValidaterViewController.h"
+#include "widgets/buttons/CheckboxButton.h"
 #include "widgets/buttons/IconButton.h"
 #include "widgets/style/Fonts.h"
 #include "widgets/style/Palette.h"
@@ -58,6 +59,12 @@ void ValidaterViewController::setUpReview()
     auto *heading = new QLabel(qtTrId("REVIEW_CLASSIC_RULES"));
     styleLabel(heading, latoBold(headingSize), palette::chromeText);
     m_ui->reportBody->setReviewParts(m_findings, m_sections, heading);
+    // The checks come last, as they are seen.
+    QWidget *before = m_sections->modelsButton();
+    for (CheckboxButton *box : boxes()) {
+        QWidget::setTabOrder(before, box);
+        before = box;
+    }
     m_saveCaption = new TimedCaption([this](const QString &caption) { m_findings->saveButton()->setText(caption); },
                                      qtTrId("FINDINGS_SAVE"), this);
     connect(m_findings, &FindingsView::ruleIgnored, this, [this](const QString &id) {

@@ -113,6 +113,20 @@ private slots:
         QCOMPARE(reached, 1);
     }
 
+    void reachesEverythingInTheOrderOfReading()
+    {
+        ReadPane pane(*this, "icon-marketing icon-phone icon-pad");
+        pane.rows()[0]->setOpen(true);
+        pane.view().search()->setFocus();
+        const QList<QWidget *> order{pane.rows()[0]->header(), pane.rows()[0]->iconsButton(),
+                                     pane.rows()[0]->ignoreButton(), pane.tool.reviewSections()->modelsButton(),
+                                     pane.ui().validAppIconsBox};
+        for (QWidget *next : order) {
+            QTest::keyClick(&pane.window, Qt::Key_Tab);
+            QVERIFY2(next->hasFocus(), qPrintable(next->accessibleName()));
+        }
+    }
+
     void filtersBySeverityAndWords()
     {
         ReadPane pane(*this, "icon-marketing icon-phone icon-pad");

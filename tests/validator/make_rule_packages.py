@@ -263,6 +263,7 @@ def breaking(identity, other, developer, ended):
         "seal": replace(f"{APP}/de.lproj/Localizable.strings", b"changed"),
         "seal Info.plist": lambda package: setattr(package, "after", lambda files: files.update(
             {f"{APP}/Info.plist": plistlib.dumps(package.info | {"CFBundleName": "Lump"})})),
+        "seal package-type unreadable": replace(f"{APP}/Info.plist", b"<plist><dict><key>CFBundleNa"),
         "seal embedded": lambda package: setattr(package, "after", lambda files: files.update(
             {f"{APP}/embedded.mobileprovision": signed(package.identity, package.profile | {"Name": "Another"})})),
         "seal missing": remove(f"{APP}/PrivacyInfo.xcprivacy"),

@@ -123,6 +123,9 @@ void FindingRow::makeBody()
     buttons->addStretch(1);
     column->addLayout(buttons);
     layout()->addWidget(m_body);
+    if (m_icons != nullptr)
+        setTabOrder(m_header, m_icons);
+    setTabOrder(m_icons != nullptr ? static_cast<QWidget *>(m_icons) : m_header, m_ignore);
 }
 
 } // namespace lumora

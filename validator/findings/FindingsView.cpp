@@ -135,6 +135,13 @@ void FindingsView::show(const QList<Finding> &findings, const QStringList &ignor
         }
         from = next;
     }
+    // New rows would be last of all.
+    QWidget *before = m_search;
+    for (const FindingRow *row : m_rows) {
+        setTabOrder(before, row->header());
+        before = row->header();
+    }
+    setTabOrder(before, m_restore);
     m_restore->setText(qtTrId("FINDINGS_RESTORE").replace("[COUNT]"_L1, QLocale().toString(hidden)));
     m_restore->setVisible(hidden > 0);
     filter();

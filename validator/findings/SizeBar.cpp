@@ -2,6 +2,7 @@
 #include "SizeBar.h"
 
 #include "FindingWords.h"
+#include "widgets/style/AccessibleRole.h"
 #include "widgets/style/Fonts.h"
 #include "widgets/style/Palette.h"
 
@@ -41,6 +42,7 @@ QColor colorOf(const QString &kind)
 
 SizeBar::SizeBar(QWidget *parent) : QWidget(parent)
 {
+    setAccessibleRole(this, QAccessible::Graphic);
     QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Minimum);
     policy.setHeightForWidth(true);
     setSizePolicy(policy);

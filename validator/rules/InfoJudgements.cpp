@@ -133,6 +133,8 @@ Judgement judgeNestedVersions(const PackageContents &contents, const RuleSetting
 Judgement judgeExtensionVersions(const PackageContents &contents, const RuleSettings &)
 {
     const PackageBundle &app = *contents.app();
+    if (!app.info)
+        return cannotBeKnown(unreadable());
     QList<Evidence> different;
     bool found = false;
     for (const PackageBundle &bundle : contents.bundles) {

@@ -205,7 +205,8 @@ PackageBundle ContentsReading::bundleAt(const QString &path, BundleKind kind) co
     bundle.path = path;
     bundle.kind = kind;
     bundle.info = propertyListDictionary(content(path + u"/Info.plist"));
-    const QString executable = bundle.text(u"CFBundleExecutable"_s);
+    // Without a readable Info.plist, as after a change to it, the code usually has the bundle's own name.
+    const QString executable = bundle.info ? bundle.text(u"CFBundleExecutable"_s) : bundle.name().section(u'.', 0, -2);
     if (!executable.isEmpty() && !executable.contains(u'/'))
         bundle.executable = path + u'/' + executable;
     for (qsizetype i = 0; i < m_contents.binaries.size(); ++i) {

@@ -224,7 +224,7 @@ Judgement judgeProfileIdentifier(const PackageContents &contents, const RuleSett
     QList<Evidence> bad;
     bool found = false;
     for (const PackageBundle &bundle : contents.bundles) {
-        if (!bundle.profile || bundle.profile->applicationIdentifier().isEmpty())
+        if (!bundle.info || !bundle.profile || bundle.profile->applicationIdentifier().isEmpty())
             continue;
         found = true;
         const QString granted = bundle.profile->applicationIdentifier();
