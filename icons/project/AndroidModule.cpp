@@ -2,6 +2,8 @@
 #include "AndroidModule.h"
 
 #include "foundation/WholeFile.h"
+#include "icons/today/AndroidFigures.h"
+#include "icons/today/Motifs.h"
 
 #include <QDir>
 #include <QRegularExpression>
@@ -92,6 +94,17 @@ void removeOtherFormats(const QString &root, FilePlan &plan, qsizetype firstFile
     }
 }
 
+/// Without a monochrome layer, the pictures of an earlier one are of no use any more.
+void removeMonochrome(const QString &root, const QString &sourceSet, const AndroidNames &names, FilePlan &plan)
+{
+    for (const DensityBucket &bucket : densityBuckets) {
+        const QString path =
+            sourceSet + u"/res/%1-%2/%3_monochrome.png"_s.arg(names.type, QLatin1StringView(bucket.name), names.icon);
+        if (QFileInfo::exists(root + u'/' + path))
+            plan.filesToRemove << path;
+    }
+}
+
 } // namespace
 
 bool hasFlavor(const QString &sources, const QString &flavor)
@@ -137,6 +150,8 @@ Outcome planAndroidModule(const QString &root, const QString &sources, const QSt
     const Outcome planned = planAdaptive(motifs, names, sourceSet, plan);
     if (planned)
         removeOtherFormats(root, plan, firstFile);
+    if (planned && !motifs.hasMonochrome())
+        removeMonochrome(root, sourceSet, names, plan);
     return planned;
 }
 

@@ -32,6 +32,8 @@ private slots:
     void flavors();
     void targets();
     void otherFormatsGo();
+    void oldMonochromeGoes_data();
+    void oldMonochromeGoes();
     void takenColors();
     void refused_data();
     void refused();
@@ -225,6 +227,30 @@ void ProjectTest::otherFormatsGo()
     const Put result = putInto(folder.path());
     QCOMPARE(result.count(FileChange::Removed), 1);
     QVERIFY(!QFile::exists(folder.filePath(u"app/src/main/res/mipmap-hdpi/ic_app.webp"_s)));
+}
+
+void ProjectTest::oldMonochromeGoes_data()
+{
+    QTest::addColumn<QImage>("icon");
+    QTest::addColumn<bool>("isKept");
+    QTest::newRow("an icon without a shape") << opaquePicture() << false;
+    QTest::newRow("an icon with a shape") << disk(800) << true;
+}
+
+void ProjectTest::oldMonochromeGoes()
+{
+    QFETCH(QImage, icon);
+    QFETCH(bool, isKept);
+    const QTemporaryDir folder;
+    QVERIFY(put(folder.path(), gradle));
+    const QString layer = u"app/src/main/res/mipmap-hdpi/ic_app_monochrome.png"_s;
+    const QString other = u"app/src/main/res/mipmap-hdpi/other_monochrome.png"_s;
+    QVERIFY(put(folder.path(), {{layer, "old"}, {other, "another's"}}));
+    TodaySources sources = sourcesOf(icon);
+    sources.flatten = Qt::white;
+    QVERIFY(!putInto(folder.path(), {}, sources).failure);
+    QCOMPARE(QFile::exists(folder.filePath(layer)), isKept);
+    QVERIFY(QFile::exists(folder.filePath(other)));
 }
 
 void ProjectTest::takenColors()
