@@ -109,6 +109,8 @@ private:
     bool isToday() const;
     /// Takes the icon that was read on the side of today.
     void takeIconOfToday(const QImage &icon, const QString &name);
+    /// Draws the pictures of an icon that was read on the side of today, once this side is in view.
+    void refreshPictures();
     void connectControls();
     void openDialog();
     /// The edge lengths at which the pane shows the source, the large one first.
@@ -145,7 +147,8 @@ private:
     FileReading *m_reading = nullptr;
     TimedCaption *m_platformCaption = nullptr;
     TimedCaption *m_customCaption = nullptr;
-    TodayIcons *m_today = nullptr; ///< owned by this
+    TodayIcons *m_today = nullptr;   ///< owned by this
+    bool m_picturesAreStale = false; ///< the pictures are not yet those of the icon
     std::shared_ptr<Choices> m_choices = std::make_shared<Choices>();
     BackgroundJobs m_jobs; ///< last, so that it waits for running exports before other members are destroyed
 };

@@ -134,8 +134,10 @@ void IconsViewController::setUpToday()
         return today;
     });
     // A drop elsewhere in the window goes to the classic view, also while the side of today covers it.
-    connect(sides(), &PaneSides::shown, this,
-            [this](ToolSide side) { m_ui->dropView->setTakesWhileHidden(side == ToolSide::Today); });
+    connect(sides(), &PaneSides::shown, this, [this](ToolSide side) {
+        m_ui->dropView->setTakesWhileHidden(side == ToolSide::Today);
+        refreshPictures();
+    });
 }
 
 bool IconsViewController::isToday() const

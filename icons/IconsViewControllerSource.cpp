@@ -61,6 +61,7 @@ QList<int> IconsViewController::pictureSides() const
 void IconsViewController::showIcon(const ShownIcon &shown)
 {
     m_icon = shown.icon;
+    m_picturesAreStale = false;
     m_ui->sourceIconView->setPicture(shown.pictures.first());
     // A view whose size changed meanwhile is drawn again.
     if (m_ui->sourceIconView->pixelSide() != shown.pictures.first().width())
@@ -129,7 +130,15 @@ void IconsViewController::takeIconOfToday(const QImage &icon, const QString &nam
     m_ui->sourceIconTitle->setText(name);
     m_ui->sourceIconSubtitle->setText(qtTrId("ICONS_SOURCE_SUBTITLE_ACTIVE"));
     showStatus({});
-    m_jobs.start([this, icon, sides = pictureSides(), mode = cornerMode()](const BackgroundJob &job) {
+    m_picturesAreStale = true;
+    refreshPictures();
+}
+
+void IconsViewController::refreshPictures()
+{
+    if (isToday() || !std::exchange(m_picturesAreStale, false))
+        return;
+    m_jobs.start([this, icon = m_icon, sides = pictureSides(), mode = cornerMode()](const BackgroundJob &job) {
         const ShownIcon shown = shownIcon(icon, sides, mode);
         job.post([this, shown] {
             if (m_icon.cacheKey() == shown.icon.cacheKey())

@@ -25,6 +25,7 @@
 #include <QPlainTextEdit>
 
 #include <cmath>
+#include <future>
 
 using namespace Qt::StringLiterals;
 
@@ -280,13 +281,15 @@ void TodayIcons::draw()
         }
         const Motifs motifs(sources, MacForm::Body);
         Drawn drawn;
-        drawn.icon = sources.icon.at(iconEdge);
+        std::future<QImage> icon =
+            std::async(std::launch::async, [&sources, iconEdge] { return sources.icon.at(iconEdge); });
         drawn.previews = iconPreviews(motifs, placeEdge, sourceEdge);
         drawn.isOpaque = sources.icon.isOpaque();
         drawn.background = motifs.backgroundColor();
+        drawn.icon = icon.get();
+        drawn.original = sources.icon.at(sourceIconSize);
         for (const TodaySet set : TodayIconPane::offeredSets)
             drawn.snippets.insert(static_cast<int>(set), todaySnippet(set, motifs, options));
-        drawn.original = sources.icon.at(sourceIconSize);
         job.post([this, drawn, icon = sources.icon] {
             if (m_sources.icon.isNull())
                 m_sources.icon = icon;

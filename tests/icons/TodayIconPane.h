@@ -3,6 +3,7 @@
 
 #include "icons/IconsViewController.h"
 #include "icons/pane/EntryField.h"
+#include "icons/pane/IconView.h"
 #include "icons/pane/PreviewTile.h"
 #include "icons/pane/ProjectQuestion.h"
 #include "icons/pane/SetGeneration.h"

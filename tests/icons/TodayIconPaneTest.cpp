@@ -230,6 +230,8 @@ private slots:
         QCOMPARE(m_scene->tool.outlets().sourceIconTitle->text(), u"small.png"_s);
         // The classic side takes only one size, and what it takes is the icon here, too.
         m_scene->tool.sides()->show(ToolSide::Classic);
+        const IconView *preview = m_scene->tool.outlets().iconPreviewOne;
+        QTRY_COMPARE(preview->picture().pixelColor(60, 60), QColor(200, 30, 60));
         m_scene->tool.dropViewReceivedFiles({icon});
         QCOMPARE(m_scene->popupTitle(), u"This picture does not fit"_s);
         m_scene->tool.popupCloseButtonPressed();
