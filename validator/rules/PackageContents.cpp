@@ -19,6 +19,7 @@ namespace
 
 constexpr qsizetype largestBinary = qsizetype{1} << 30;
 constexpr qsizetype largestKept = 64 << 20;
+constexpr quint64 largestReserved = quint64{512} << 20;
 
 /// What a file holds beside its digests, for the few files that hold facts.
 struct FoundFacts
@@ -109,6 +110,10 @@ public:
             m_first = false;
             m_isBinary = isMachO(bytes);
             m_found.isStaticArchive = isStaticArchive(bytes);
+            // Growing step by step would take up to twice the memory. What is promised but does not come stays
+            // untouched.
+            if (m_isBinary)
+                m_found.content.reserve(static_cast<qsizetype>(std::min<quint64>(m_entry.size, largestReserved)));
         }
         const qsizetype limit = m_isBinary ? largestBinary : largestKept;
         if ((m_keeps || m_isBinary) && m_found.content.size() + bytes.size() <= limit)
