@@ -123,6 +123,8 @@ private:
     void readingIsSlow();
     void readingEnded();
     void showSource();
+    /// The same for another size of the view, off the main thread; meanwhile the view stretches what it has.
+    void fitSource();
     void drawPreview(IconView *preview);
     void togglePlatform(IconPlatform platform);
     CheckboxButton *checkbox(IconPlatform platform) const;
@@ -150,6 +152,7 @@ private:
     TodayIcons *m_today = nullptr;   ///< owned by this
     bool m_picturesAreStale = false; ///< the pictures are not yet those of the icon
     std::shared_ptr<Choices> m_choices = std::make_shared<Choices>();
+    bool m_isFitting = false;
     BackgroundJobs m_jobs; ///< last, so that it waits for running exports before other members are destroyed
 };
 

@@ -91,7 +91,7 @@ void IconsViewController::setUpPreviews()
     }
     connect(m_ui->sourceIconView, &IconView::pixelSideChanged, this, [this] {
         if (!m_builtInIconPending)
-            showSource();
+            fitSource();
     });
     connect(m_ui->sourceIconView, &IconView::firstPainted, this, &IconsViewController::loadBuiltInIcon);
 }

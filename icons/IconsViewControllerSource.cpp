@@ -241,6 +241,22 @@ void IconsViewController::readingEnded()
         showStatus(m_statusBefore);
 }
 
+void IconsViewController::fitSource()
+{
+    if (std::exchange(m_isFitting, true))
+        return;
+    m_jobs.start([this, icon = icon(), side = m_ui->sourceIconView->pixelSide()](const BackgroundJob &job) {
+        const QImage picture = resizeImage(icon, side);
+        job.post([this, icon, side, picture] {
+            m_isFitting = false;
+            if (icon.cacheKey() != m_icon.cacheKey() || side != m_ui->sourceIconView->pixelSide())
+                fitSource();
+            else
+                m_ui->sourceIconView->setPicture(picture);
+        });
+    });
+}
+
 void IconsViewController::showSource()
 {
     m_ui->sourceIconView->setPicture(resizeImage(icon(), m_ui->sourceIconView->pixelSide()));

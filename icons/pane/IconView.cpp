@@ -40,13 +40,14 @@ void IconView::paintEvent(QPaintEvent *)
 {
     if (m_picture.isNull())
         return;
-    const QSizeF size = QSizeF(m_picture.size()) / devicePixelRatioF();
-    QRectF target(QPointF(), size);
-    target.moveCenter(QRectF(rect()).center());
-    // On the pixel grid, so that nothing is resampled.
     const qreal scale = devicePixelRatioF();
+    QRectF target(QPointF(), QSizeF(m_picture.size()).scaled(pixelSide(), pixelSide(), Qt::KeepAspectRatio) / scale);
+    target.moveCenter(QRectF(rect()).center());
+    // On the pixel grid, so that a picture of the right size is not resampled.
     target.moveTopLeft({std::round(target.x() * scale) / scale, std::round(target.y() * scale) / scale});
-    QPainter(this).drawImage(target, m_picture);
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(target, m_picture);
 }
 
 void IconView::noteSide()

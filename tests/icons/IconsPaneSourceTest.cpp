@@ -47,6 +47,20 @@ private slots:
         QCOMPARE(pane.ui.iconPreviewFive->picture().width(), pane.ui.iconPreviewFive->pixelSide());
     }
 
+    void sourceIsFittedAgainOffTheMainThread()
+    {
+        IconsPane pane;
+        QTRY_VERIFY_WITH_TIMEOUT(!pane.ui.iconPreviewOne->picture().isNull(), 30000);
+        const IconView *view = pane.ui.sourceIconView;
+        const QImage before = view->picture();
+        pane.ui.resultView->setResult({u"1 icon"_s, u"/tmp"_s, {}});
+        QVERIFY(view->pixelSide() != before.width());
+        // Until then the view stretches what it has, so that the window is not held up.
+        QCOMPARE(view->picture(), before);
+        QTRY_COMPARE(view->picture().width(), view->pixelSide());
+        QCOMPARE(view->picture(), resizeImage(pane.tool.icon(), view->pixelSide()));
+    }
+
     void sourceTakenBeforeTheBuiltInPictureCameStays()
     {
         const QTemporaryDir folder;
