@@ -9,6 +9,7 @@
 #include "tool/services/LocalFiles.h"
 #include "widgets/window/INAppStoreWindow.h"
 
+#include <QAbstractButton>
 #include <QDropEvent>
 #include <QFileInfo>
 #include <QMimeData>
@@ -72,17 +73,22 @@ std::optional<std::size_t> DropRouter::target(const QObject *watched, const QDro
     return toolFor(*event.mimeData(), inView, takesFiles);
 }
 
-void DropRouter::setHovered(DropView *view)
+void DropRouter::setHovered(DropView *view, QAbstractButton *item)
 {
     if (m_hovered != nullptr && m_hovered != view)
         m_hovered->forget();
     m_hovered = view;
+    if (m_markedItem != nullptr && m_markedItem != item)
+        m_markedItem->setDown(false);
+    m_markedItem = item;
+    if (item != nullptr)
+        item->setDown(true);
 }
 
 bool DropRouter::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::DragLeave)
-        setHovered(nullptr);
+        setHovered(nullptr, nullptr);
     if (event->type() != QEvent::DragEnter && event->type() != QEvent::DragMove && event->type() != QEvent::Drop)
         return QObject::eventFilter(watched, event);
     auto *drop = static_cast<QDropEvent *>(event);
@@ -98,10 +104,11 @@ bool DropRouter::eventFilter(QObject *watched, QEvent *event)
     }
     if (event->type() != QEvent::Drop) {
         view->judge(drop);
-        setHovered(view);
+        setHovered(view,
+                   *tool == m_delegate.toolInView() ? nullptr : qobject_cast<QAbstractButton *>(m_items.key(*tool)));
         return true;
     }
-    setHovered(nullptr);
+    setHovered(nullptr, nullptr);
     m_delegate.sideBar()->setSelectedIndex(static_cast<qint32>(*tool));
     view->receive(drop);
     return true;

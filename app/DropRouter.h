@@ -3,9 +3,11 @@
 
 #include <QHash>
 #include <QObject>
+#include <QPointer>
 
 #include <optional>
 
+class QAbstractButton;
 class QDropEvent;
 class QMimeData;
 class QWidget;
@@ -42,12 +44,14 @@ private:
     /// The tool that gets the event instead of the watched object.
     std::optional<std::size_t> target(const QObject *watched, const QDropEvent &event) const;
     DropView *dropViewOf(std::size_t index) const;
-    void setHovered(DropView *view);
+    /// Highlights the drop view that gets the drag, and the item of its tool if another tool is in view.
+    void setHovered(DropView *view, QAbstractButton *item);
 
     AppDelegate &m_delegate;
     QHash<QObject *, std::size_t> m_items; ///< of the sidebar
     QHash<QObject *, std::size_t> m_views; ///< the tools' drop views
     DropView *m_hovered = nullptr;         ///< highlighted for a drag over another widget
+    QPointer<QAbstractButton> m_markedItem;
 };
 
 } // namespace lumora

@@ -8,6 +8,7 @@
 #include "color/today/TodayColorPane.h"
 #include "color/today/TodayColors.h"
 #include "color/today/WellColor.h"
+#include "tool/DropHighlight.h"
 #include "tool/style/ButtonStyle.h"
 #include "tool/style/LabelStyle.h"
 #include "ui_ColorViewController.h"
@@ -51,6 +52,7 @@ ColorViewController::ColorViewController(const Services &services, QObject *pare
     setUpRows();
     m_ui->dropView->setDelegate(this);
     m_ui->dropView->setTakesColors(true);
+    new DropHighlight(m_ui->dropView, palette::color, m_ui->dropView);
     m_ui->dropView->installEventFilter(this);
     m_resetTimer.setSingleShot(true);
     m_resetTimer.setInterval(copiedDuration);
@@ -245,7 +247,7 @@ void ColorViewController::dropViewReceivedColor(const QColor &color)
 
 bool ColorViewController::eventFilter(QObject *watched, QEvent *event)
 {
-    if (isDropView(watched) && filterDrag(event))
+    if (isDropView(watched) && filterDrag(watched, event))
         return true;
     if (filterCodeClick(watched, event))
         return true;
@@ -259,7 +261,7 @@ bool ColorViewController::isDropView(const QObject *object) const
     return object == m_ui->dropView || (today != nullptr && object == today->dropView());
 }
 
-bool ColorViewController::filterDrag(QEvent *event)
+bool ColorViewController::filterDrag(QObject *watched, QEvent *event)
 {
     if (event->type() != QEvent::DragEnter && event->type() != QEvent::DragMove && event->type() != QEvent::Drop)
         return false;
@@ -273,7 +275,11 @@ bool ColorViewController::filterDrag(QEvent *event)
         return true;
     }
     drop->acceptProposedAction();
-    if (event->type() == QEvent::Drop) {
+    auto *view = static_cast<DropView *>(watched);
+    if (event->type() != QEvent::Drop) {
+        view->target();
+    } else {
+        view->forget();
         if (!isToday())
             takeColor(pastedColor(content.text())->color);
         else

@@ -101,7 +101,7 @@ private:
     std::array<CodeRow, colorNotationCount> codeRows() const;
 
     bool isDropView(const QObject *object) const;
-    bool filterDrag(QEvent *event);
+    bool filterDrag(QObject *watched, QEvent *event);
     bool filterCodeClick(QObject *watched, QEvent *event);
     void setUpPipette();
     void setUpToday();

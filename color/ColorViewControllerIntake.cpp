@@ -7,7 +7,9 @@
 #include "color/today/TodayColorPane.h"
 #include "color/today/TodayColors.h"
 #include "color/today/WellColor.h"
+#include "tool/DropHighlight.h"
 #include "ui_ColorViewController.h"
+#include "widgets/style/Palette.h"
 
 #include <QMouseEvent>
 #include <QScopedValueRollback>
@@ -80,8 +82,10 @@ void ColorViewController::setUpToday()
     connect(m_today, &TodayColors::messageWanted, this, &ColorViewController::showPopupWithTitle);
     addToday([this](QWidget *pane) {
         QWidget *today = m_today->makePane(pane);
-        m_today->pane()->dropView()->setDelegate(this);
-        m_today->pane()->dropView()->installEventFilter(this);
+        DropView *dropView = m_today->pane()->dropView();
+        new DropHighlight(dropView, palette::color, dropView);
+        dropView->setDelegate(this);
+        dropView->installEventFilter(this);
         ImageButton *pipette = m_today->pane()->pipetteButton();
         pipette->setImage(m_ui->pipetteButton->image());
         pipette->setAccessibleName(m_ui->pipetteButton->accessibleName());

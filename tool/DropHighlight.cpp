@@ -22,7 +22,7 @@ const QList<qreal> dashes = {4, 3};
 } // namespace
 
 DropHighlight::DropHighlight(DropView *dropView, const QColor &color)
-    : QWidget(dropView), m_dropView(dropView), m_color(color)
+    : QWidget(dropView), m_dropView(dropView), m_isOutlined(true), m_color(color)
 {
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setGeometry(dropView->rect());
@@ -31,10 +31,23 @@ DropHighlight::DropHighlight(DropView *dropView, const QColor &color)
     connect(dropView, &DropView::targetedChanged, this, qOverload<>(&QWidget::update));
 }
 
+DropHighlight::DropHighlight(DropView *dropView, const QColor &color, QWidget *above)
+    : QWidget(above), m_dropView(dropView), m_isOutlined(false), m_color(color)
+{
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    setGeometry(above->rect());
+    hide();
+    above->installEventFilter(this);
+    connect(dropView, &DropView::targetedChanged, this, [this](bool targeted) {
+        raise();
+        setVisible(targeted);
+    });
+}
+
 bool DropHighlight::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == m_dropView && event->type() == QEvent::Resize)
-        setGeometry(m_dropView->rect());
+    if (watched == parent() && event->type() == QEvent::Resize)
+        setGeometry(parentWidget()->rect());
     return QWidget::eventFilter(watched, event);
 }
 
@@ -42,7 +55,7 @@ void DropHighlight::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const bool targeted = m_dropView->isTargeted();
+    const bool targeted = !m_isOutlined || m_dropView->isTargeted();
     QPen pen(targeted ? m_color : palette::panelOutline, lineWidth);
     if (!targeted)
         pen.setDashPattern(dashes);

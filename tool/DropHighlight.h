@@ -9,15 +9,17 @@ namespace lumora
 
 class DropView;
 
-/// The visible part of a drop area: a dashed outline at rest, filled with the tool's color while a drag that will be
-/// accepted is over it. It is behind everything else on its drop view and has the same size.
+/// The visible part of a drop area, filled with the tool's color while a drag that will be accepted is over it.
 class DropHighlight final : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// The drop view is parent and owner.
+    /// A dashed outline at rest, behind everything else on the drop view, which owns it.
     DropHighlight(DropView *dropView, const QColor &color);
+    /// Nothing at rest, above everything else on the widget, which owns it: for what takes a drop after the area's
+    /// first one.
+    DropHighlight(DropView *dropView, const QColor &color, QWidget *above);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -25,6 +27,7 @@ protected:
 
 private:
     DropView *m_dropView;
+    bool m_isOutlined;
     QColor m_color;
 };
 

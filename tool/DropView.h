@@ -82,6 +82,8 @@ public:
     /// Handle a drag over the view and a drop, including events that another widget passes on to it.
     void judge(QDropEvent *event);
     void forget() { setTargeted(false); }
+    /// Call this for a drag over the view that the view's owner takes itself.
+    void target() { setTargeted(true); }
     void receive(QDropEvent *event);
 
 signals:

@@ -103,6 +103,7 @@ void ValidaterViewController::awakeFromNib()
     m_ui->dropView->setDelegate(this);
     m_ui->dropView->setAccessibleName(qtTrId("ACCESSIBLE_VALIDATER_DROP"));
     new DropHighlight(m_ui->dropView, palette::validatorBorder);
+    new DropHighlight(m_ui->dropView, palette::validatorBorder, m_ui->validateInterface);
     styleLabel(m_ui->informationText, latoRegular(informationSize), palette::chromeText);
     m_ui->informationText->setText(qtTrId("VALIDATER_BROWSE_INFO"));
     styleButton(m_ui->browseButton, qtTrId("BROWSE"), palette::chromeText, palette::chromeTextDark);

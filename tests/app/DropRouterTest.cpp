@@ -131,6 +131,26 @@ private slots:
         QCOMPARE(delegate.sideBar()->selectedIndex(), 0);
     }
 
+    void aDragForAnotherToolMarksItsItem()
+    {
+        Application application;
+        AppDelegate &delegate = application.delegate;
+        delegate.sideBar()->setSelectedIndex(4);
+        const auto *icons = delegate.sideBar()->matrix()->cells().at(0);
+        QMimeData content;
+        content.setUrls({QUrl::fromLocalFile(u"/a.png"_s)});
+        QDragEnterEvent enter(QPoint(400, 300), fileManagers, &content, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(delegate.window(), &enter);
+        QVERIFY(icons->isHighlighted());
+        QDragLeaveEvent leave;
+        QCoreApplication::sendEvent(delegate.window(), &leave);
+        QVERIFY(!icons->isHighlighted());
+        // The tool in view shows the drag by itself.
+        delegate.sideBar()->setSelectedIndex(0);
+        QCoreApplication::sendEvent(delegate.window(), &enter);
+        QVERIFY(!icons->isHighlighted());
+    }
+
     void whatNoToolTakesIsTurnedAway()
     {
         Application application;

@@ -6,6 +6,7 @@
 #include "color/picker/ColorPanel.h"
 #include "resources/Resources.h"
 #include "tests/doubles/RecordingServices.h"
+#include "tool/DropView.h"
 #include "widgets/buttons/HoverButton.h"
 #include "widgets/popover/SFBPopover.h"
 #include "widgets/style/Palette.h"
@@ -30,6 +31,8 @@ private:
     std::unique_ptr<ColorViewController> m_controller;
 
     RecordingClipboard &clipboard() { return m_services->clipboard; }
+    bool m_wasTargeted = false; ///< the area for drops, during the last drag
+
     ColorField *field() { return m_controller->colorTextField(); }
 
     void type(const QString &text)
@@ -50,10 +53,11 @@ private:
     /// Drops the content on the pane; returns whether the drag was accepted.
     bool drop(const QMimeData &content)
     {
-        QWidget *target = m_controller->view()->findChild<QWidget *>(u"dropView"_s);
+        auto *target = m_controller->view()->findChild<DropView *>(u"dropView"_s);
         const Qt::DropActions actions = Qt::CopyAction | Qt::LinkAction;
         QDragEnterEvent enter(QPoint(5, 5), actions, &content, Qt::LeftButton, {});
         QCoreApplication::sendEvent(target, &enter);
+        m_wasTargeted = target->isTargeted();
         QDropEvent dropped(QPointF(5, 5), actions, &content, Qt::LeftButton, {});
         dropped.ignore();
         QCoreApplication::sendEvent(target, &dropped);
@@ -327,6 +331,8 @@ private slots:
             data.setImageData(QImage(8, 8, QImage::Format_RGB32));
         QFETCH(bool, taken);
         QCOMPARE(drop(data), taken);
+        QCOMPARE(m_wasTargeted, taken);
+        QVERIFY(!m_controller->view()->findChild<DropView *>(u"dropView"_s)->isTargeted());
         QCOMPARE(field()->text(), taken ? u"#123456"_s : u"#34485e"_s);
         QCOMPARE(stringFromColor(m_controller->colorWell()->color()), field()->text());
     }

@@ -288,6 +288,27 @@ private slots:
         QCoreApplication::sendEvent(&view, &enter);
         QVERIFY(view.grab().toImage().pixelColor(100, 60) != atRest);
     }
+
+    void highlightAboveAnotherWidgetShowsOnlyTheDrag()
+    {
+        QWidget report;
+        report.resize(100, 80);
+        DropView view(&report);
+        view.hide();
+        new DropHighlight(&view, Qt::blue, &report);
+        report.resize(200, 120);
+        report.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&report));
+        const QImage atRest = report.grab().toImage();
+        QMimeData mimeData;
+        fill(mimeData, {u"/a.png"_s});
+        QDragEnterEvent enter(QPoint(5, 5), Qt::LinkAction, &mimeData, Qt::LeftButton, Qt::NoModifier);
+        view.judge(&enter);
+        const QImage targeted = report.grab().toImage();
+        QVERIFY(targeted.pixelColor(190, 60) != atRest.pixelColor(190, 60));
+        view.forget();
+        QCOMPARE(report.grab().toImage(), atRest);
+    }
 };
 
 QTEST_MAIN(DropViewTest)
