@@ -89,8 +89,13 @@ void DeviceViewController::setUpSections()
     // Beside the mini, which is alone in its row.
     m_miniLabel = new QLabel(m_ui->iPadContainer);
     section(m_miniLabel, groupFontSize, qtTrId("DEVICES_IPAD_MINI"));
+    const QRect mini = placeOfiPad(setupiPads().at(0), 0).picture;
     const int left = placeOfiPad(setupiPads().at(1), 2).picture.left();
-    m_miniLabel->setGeometry(left, 0, m_ui->iPadContainer->width() - left, m_miniLabel->sizeHint().height());
+    const int height = m_miniLabel->sizeHint().height();
+    const int middle = m_ui->iPadContainer->height() - mini.y() - mini.height() / 2;
+    m_miniLabel->setGeometry(left, middle - height / 2, m_ui->iPadContainer->width() - left, height);
+    // The pictures keep their places in a mirrored window, too.
+    m_miniLabel->setAlignment(Qt::AlignLeft | Qt::AlignAbsolute | Qt::AlignVCenter);
     styleLabel(m_ui->countLabel, latoBold(countFontSize), palette::chromeText);
 }
 

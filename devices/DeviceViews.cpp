@@ -43,6 +43,7 @@ void DeviceLabel::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.setOpacity(static_cast<qreal>(alphaValue()));
     painter.setPen(palette::chromeText);
+    painter.setLayoutDirection(Qt::LayoutDirectionAuto);
     painter.drawText(rect(), Qt::AlignCenter, m_text);
 }
 

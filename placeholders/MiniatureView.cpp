@@ -74,6 +74,8 @@ void MiniatureView::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
+    // The order of width and height is part of a size.
+    painter.setLayoutDirection(Qt::LeftToRight);
     if (m_miniatures.isEmpty()) {
         painter.setPen(QPen(palette::separator, frameWidth, Qt::DashLine));
         painter.drawRoundedRect(QRectF(rect()).adjusted(frameWidth, frameWidth, -frameWidth, -frameWidth), frameRadius,

@@ -80,7 +80,7 @@ void JobResultView::setUpFailures()
     styleLabel(m_notes, latoRegular(13), palette::chromeText);
     for (QLabel *label : {m_failures, m_notes}) {
         label->setWordWrap(true);
-        label->setAlignment(Qt::AlignLeading | Qt::AlignTop);
+        alignToStart(label, Qt::AlignTop);
         column->addWidget(label);
     }
     column->addStretch(1);

@@ -87,6 +87,8 @@ void SizeChips::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setFont(m_font);
+    // The order of width and height is part of a size.
+    painter.setLayoutDirection(Qt::LeftToRight);
     const QList<QRect> rectangles = placed(widths(), width(), layoutDirection());
     for (qsizetype i = 0; i < rectangles.size(); ++i) {
         painter.setPen(Qt::NoPen);

@@ -72,7 +72,7 @@ PaletteView::PaletteView(QWidget *parent)
     column->addWidget(m_swatches);
     styleLabel(m_hint, latoRegular(hintSize), palette::chromeText);
     m_hint->setFixedHeight(swatchesHeight);
-    m_hint->setAlignment(Qt::AlignLeading | Qt::AlignTop);
+    alignToStart(m_hint, Qt::AlignTop);
     enableButtons();
 }
 

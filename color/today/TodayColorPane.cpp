@@ -24,7 +24,7 @@ namespace lumora
 namespace
 {
 
-constexpr int margin = 20;
+constexpr int margin = 16;
 constexpr int padding = 24;
 constexpr int narrowPadding = 16;
 constexpr int leftWidth = 320;
@@ -88,7 +88,6 @@ QWidget *TodayColorPane::makeInput()
     m_pipetteButton->setFixedSize(pipetteSize);
     styleLabel(m_refusal, latoRegular(noteSize), palette::chromeText);
     m_refusal->setWordWrap(true);
-    m_refusal->setAlignment(Qt::AlignLeading | Qt::AlignVCenter);
     m_refusal->setText(qtTrId("COLOR_ANY_HINT"));
     connect(m_field, &CodeField::refusedChanged, this, [this](bool isRefused) {
         m_refusal->setText(isRefused ? qtTrId("COLOR_REFUSED") : qtTrId("COLOR_ANY_HINT"));

@@ -10,10 +10,12 @@
 #include "tool/style/ShellMetrics.h"
 #include "ui_PlaceholderViewController.h"
 #include "widgets/buttons/HoverButton.h"
+#include "widgets/buttons/IconButton.h"
 #include "widgets/buttons/ImageButton.h"
 #include "widgets/popover/SFBPopover.h"
 #include "widgets/popover/SFBPopoverWindow.h"
 #include "widgets/style/AppStyle.h"
+#include "widgets/style/NamedImage.h"
 #include "widgets/window/INAppStoreWindow.h"
 
 #include <QAbstractScrollArea>
@@ -74,6 +76,19 @@ void collect(const QWidget *parent, const QString &path, QMap<QString, const QWi
 bool isAt(const QRect &one, const QRect &other)
 {
     return one.size() == other.size() && (one.topLeft() - other.topLeft()).manhattanLength() <= 1;
+}
+
+/// Around all pixels that differ from the first one.
+QRect inkOf(const QImage &picture)
+{
+    QRect ink;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            if (picture.pixel(x, y) != picture.pixel(0, 0))
+                ink |= QRect(x, y, 1, 1);
+        }
+    }
+    return ink;
 }
 
 QRect mirrored(const QRect &rectangle, int width)
@@ -142,6 +157,39 @@ private slots:
         }
         QVERIFY(!mirroredInside.isEmpty() || unchangedInside.isEmpty());
         QVERIFY(!mirroredInside.intersects(unchangedInside));
+    }
+
+    void foreignNamesBeginWhereOthersDo()
+    {
+        Application application(Qt::RightToLeft);
+        auto *label = application.tool(4)->findChild<QLabel *>(u"iPhoneLabel"_s);
+        const QRect ink = inkOf(label->grab().toImage());
+        QVERIFY2(ink.left() > label->width() / 2, qPrintable(QString::number(ink.left())));
+    }
+
+    void signsKeepTheirOrder()
+    {
+        const auto picture = [](Qt::LayoutDirection direction) {
+            QApplication::setLayoutDirection(direction);
+            HoverButton button;
+            button.setText(u"iOS 4+ …"_s);
+            button.resize(120, 36);
+            return button.grab().toImage();
+        };
+        const QImage mirrored = picture(Qt::RightToLeft);
+        QCOMPARE(mirrored, picture(Qt::LeftToRight));
+    }
+
+    void iconsDoNotWidenTheirButtons()
+    {
+        const auto width = [](Qt::LayoutDirection direction) {
+            IconButton button;
+            button.setLayoutDirection(direction);
+            button.setIcon(NamedImage(u"button_icon_close"_s));
+            button.setText(u"Close"_s);
+            return button.sizeHint().width();
+        };
+        QCOMPARE(width(Qt::RightToLeft), width(Qt::LeftToRight));
     }
 
     void messagePointsAtItsControl()

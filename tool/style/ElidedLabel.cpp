@@ -3,6 +3,7 @@
 
 #include <QHelpEvent>
 #include <QPainter>
+#include <QStyle>
 #include <QToolTip>
 
 namespace lumora
@@ -31,7 +32,9 @@ void ElidedLabel::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.setPen(palette().color(QPalette::WindowText));
-    painter.drawText(rect(), static_cast<int>(alignment()) | Qt::TextSingleLine,
+    const Qt::Alignment side = QStyle::visualAlignment(layoutDirection(), alignment());
+    painter.setLayoutDirection(Qt::LayoutDirectionAuto);
+    painter.drawText(rect(), static_cast<int>(side | Qt::AlignAbsolute) | Qt::TextSingleLine,
                      fontMetrics().elidedText(text(), Qt::ElideMiddle, width()));
 }
 

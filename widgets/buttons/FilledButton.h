@@ -33,7 +33,8 @@ protected:
     virtual QColor colorUnderPointer() const = 0;
     /// The color of a pressed button.
     virtual QColor colorPressed() const = 0;
-    /// The part of a button of that size that an icon covers (a width of 0 means any width); empty without an icon.
+    /// The part of a button of that size that an icon covers (a width of 0 means any width, never
+    /// mirrored); empty without an icon.
     virtual QRectF iconInk(QSizeF) const { return {}; }
     virtual void drawIcon(QPainter &) {}
 

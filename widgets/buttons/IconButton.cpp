@@ -54,9 +54,12 @@ QRectF IconButton::iconInk(QSizeF bounds) const
 {
     if (m_icon.isNull())
         return {};
-    if (bounds.width() == 0)
+    Qt::LayoutDirection direction = layoutDirection();
+    if (bounds.width() == 0) {
         bounds.setWidth(m_icon.size().width() * bounds.height() / m_icon.size().height());
-    const QRectF icon = buttongeometry::iconRect(bounds, m_icon.size(), m_ink, layoutDirection());
+        direction = Qt::LeftToRight;
+    }
+    const QRectF icon = buttongeometry::iconRect(bounds, m_icon.size(), m_ink, direction);
     return {icon.x() + m_ink.x() * icon.width(), icon.y() + m_ink.y() * icon.height(), m_ink.width() * icon.width(),
             m_ink.height() * icon.height()};
 }

@@ -173,6 +173,8 @@ void PaintedButton::hideEvent(QHideEvent *event)
 void PaintedButton::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
+    // Text runs as it is written: the signs of a foreign name keep their order in a mirrored window.
+    painter.setLayoutDirection(Qt::LayoutDirectionAuto);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     if (!isEnabled())
         painter.setOpacity(palette::disabledOpacity);
