@@ -65,7 +65,9 @@ void RetinaPlanView::setUpList()
     m_list->setAccessibleName(qtTrId("RESIZER_PLAN"));
     m_list->setRootIsDecorated(false);
     m_list->setUniformRowHeights(true);
-    m_list->setStyleSheet(u"QTreeView::item { padding: 4px 2px; }"_s);
+    m_list->setStyleSheet(u"QTreeView { border: 1px solid palette(mid); border-radius: 4px; }"
+                          "QTreeView::item { padding: 4px 6px; }"
+                          "QHeaderView::section { background: palette(window); border: 0; padding: 6px; }"_s);
     m_list->setFont(latoRegular(13));
     m_list->header()->setFont(latoBold(13));
     m_list->header()->setSectionsMovable(false);

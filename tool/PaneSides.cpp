@@ -18,8 +18,8 @@ namespace
 {
 
 /// From the pane's edges: in the padding of its first panel, in line with the panel's content.
-constexpr int topMargin = 28;
-constexpr int sideMargin = 44;
+constexpr int topMargin = 24;
+constexpr int sideMargin = 40;
 
 } // namespace
 

@@ -28,7 +28,7 @@ namespace lumora
 namespace
 {
 
-constexpr int margin = 20;
+constexpr int margin = 16;
 constexpr int leftWidth = 264;
 constexpr int headerHeight = 28;
 constexpr int sideMargin = 16;

@@ -153,8 +153,8 @@ private slots:
         for (const int width : {835, 1200}) {
             scene.pane.resize(width, 600);
             const QRect place = scene.sides->control()->geometry();
-            QCOMPARE(direction == Qt::LeftToRight ? width - place.right() - 1 : place.left(), 44);
-            QCOMPARE(place.top(), 28);
+            QCOMPARE(direction == Qt::LeftToRight ? width - place.right() - 1 : place.left(), 40);
+            QCOMPARE(place.top(), 24);
         }
     }
 };
