@@ -36,8 +36,8 @@ namespace lumora
 namespace
 {
 
-constexpr int margin = 20;
-constexpr int gap = 12;
+constexpr int margin = 16;
+constexpr int gap = 8;
 constexpr int padding = 24;
 constexpr int narrowPadding = 16;
 constexpr int leftWidth = 310;
@@ -121,7 +121,7 @@ TodayIconPane::TodayIconPane(QWidget *parent)
       m_copy(new IconButton), m_result(new JobResultView)
 {
     auto *right = new QVBoxLayout;
-    right->setSpacing(gap);
+    right->setSpacing(margin);
     right->addWidget(makeSets());
     right->addWidget(makeSnippets(), 1);
     right->addWidget(m_result);
@@ -131,7 +131,7 @@ TodayIconPane::TodayIconPane(QWidget *parent)
     upper->addLayout(right, 1);
     auto *whole = new QVBoxLayout(this);
     whole->setContentsMargins(margin, margin, margin, margin);
-    whole->setSpacing(gap);
+    whole->setSpacing(margin);
     whole->addLayout(upper, 1);
     whole->addWidget(makePreviews());
 }
@@ -167,13 +167,13 @@ QWidget *TodayIconPane::makeSources()
         grid->setColumnStretch(column, 1);
 
     auto *lines = new QVBoxLayout(m_dropView);
-    lines->setContentsMargins(narrowPadding, narrowPadding, narrowPadding, gap);
+    lines->setContentsMargins(narrowPadding, narrowPadding, narrowPadding, narrowPadding);
     lines->setSpacing(4);
     lines->addWidget(m_iconView, 1);
     lines->addWidget(m_title);
     lines->addWidget(m_status);
     lines->addWidget(m_browse);
-    lines->addSpacing(6);
+    lines->addSpacing(gap);
     lines->addLayout(grid);
     return m_dropView;
 }
@@ -223,7 +223,7 @@ QWidget *TodayIconPane::makeSets()
     auto *panel = new Panel;
     auto *lines = new QVBoxLayout(panel);
     lines->setContentsMargins(padding, titleMargin, padding, narrowPadding);
-    lines->setSpacing(10);
+    lines->setSpacing(gap);
     // In line with the switch between the sides, which is in the corner.
     QLabel *title = makeTitle(qtTrId("ICONS_PLATFORMS_TITLE"));
     title->setFixedHeight(titleHeight);
@@ -277,7 +277,7 @@ QWidget *TodayIconPane::makePreviews()
     setAccessibleRole(panel, QAccessible::Grouping);
     panel->setAccessibleName(qtTrId("ICONS_SEEN"));
     auto *row = new QHBoxLayout(panel);
-    row->setContentsMargins(gap, 10, gap, 8);
+    row->setContentsMargins(narrowPadding, gap, narrowPadding, gap);
     row->setSpacing(0);
     for (const PreviewPlace place : previewPlaces) {
         m_tiles[static_cast<std::size_t>(place)] = new PreviewTile(place, panel);

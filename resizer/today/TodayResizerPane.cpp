@@ -30,8 +30,8 @@ namespace lumora
 namespace
 {
 
-constexpr int margin = 20;
-constexpr int gap = 12;
+constexpr int margin = 16;
+constexpr int gap = 8;
 constexpr int leftWidth = 264;
 constexpr int panelPadding = 16;
 constexpr int headerHeight = 36;
@@ -73,7 +73,7 @@ TodayResizerPane::TodayResizerPane(QWidget *parent)
     m_bottom->addWidget(makeProgress());
     m_bottom->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     auto *right = new QVBoxLayout;
-    right->setSpacing(gap);
+    right->setSpacing(margin);
     right->addWidget(makeDropArea(), 1);
     right->addWidget(m_bottom);
     right->addWidget(m_resultView);
