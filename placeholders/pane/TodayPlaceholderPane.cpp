@@ -31,7 +31,7 @@ namespace lumora
 namespace
 {
 
-constexpr int margin = 20;
+constexpr int margin = 16;
 constexpr int gap = 12;
 constexpr int leftWidth = 264;
 constexpr int panelPadding = 16;
