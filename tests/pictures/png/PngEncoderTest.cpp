@@ -229,6 +229,12 @@ void PngEncoderTest::quickFiltersWhatShrinksByIt_data()
     QTest::newRow("a drawing with soft shades") << drawing(0.5) << true;
     QTest::newRow("a drawing with hardly any shades") << drawing(0.02) << false;
     QTest::newRow("a photograph") << drawing(1) << true;
+    QImage shade(1000, 600, QImage::Format_RGBA8888);
+    for (int y = 0; y < shade.height(); ++y) {
+        for (int x = 0; x < shade.width(); ++x)
+            shade.setPixelColor(x, y, {x % 256, x / 4, x * 7 % 256});
+    }
+    QTest::newRow("the same shade in every row") << shade << true;
 }
 
 void PngEncoderTest::quickFiltersWhatShrinksByIt()
