@@ -247,7 +247,7 @@ std::optional<Complaint> unknownChip(const QStringList &chips, std::span<const D
             continue;
         QStringList known;
         for (const DeviceModel &model : models)
-            known << text(model.chip).section(u' ', 0, 0);
+            known << shortChipName(text(model.chip));
         known.removeDuplicates();
         Complaint complaint =
             misuse("bad-value", commandText("CLI_DEVICES_NO_CHIP"), didYouMean(nearestWords(chip, known)));

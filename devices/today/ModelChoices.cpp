@@ -30,13 +30,13 @@ QStringList chipNames(std::span<const DeviceModel> models)
     return names;
 }
 
-int modelsInRange(std::span<const DeviceModel> models, const ModelFilter &filter)
+int groupsInRange(std::span<const ModelGroup> groups, const ModelFilter &filter)
 {
     ModelFilter range;
     range.iosFrom = filter.iosFrom;
     range.iosTo = filter.iosTo;
-    return static_cast<int>(std::ranges::count_if(
-        models, [&range](const DeviceModel &model) { return reasonsAgainst(model, range).empty(); }));
+    return static_cast<int>(
+        std::ranges::count_if(groups, [&range](const ModelGroup &group) { return verdictOn(group, range).fits; }));
 }
 
 std::vector<std::size_t> toggledChoice(std::vector<std::size_t> chosen, std::size_t index)

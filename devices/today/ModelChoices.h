@@ -17,8 +17,8 @@ std::vector<OsVersion> majorVersions(std::span<const DeviceModel> models);
 /// Every chip once, in the order of the models.
 QStringList chipNames(std::span<const DeviceModel> models);
 
-/// The number of models that run some version of the filter's range, whatever else it requires.
-int modelsInRange(std::span<const DeviceModel> models, const ModelFilter &filter);
+/// The number of groups with a model that runs some version of the filter's range, whatever else it requires.
+int groupsInRange(std::span<const ModelGroup> groups, const ModelFilter &filter);
 
 /// The most models that are compared.
 inline constexpr std::size_t mostCompared = 3;

@@ -30,8 +30,7 @@ constexpr std::array<ModelCapability, 6> capabilityTable{{
 
 bool isChip(const QString &chip, const QString &wanted)
 {
-    return chip.startsWith(wanted, Qt::CaseInsensitive) &&
-           (chip.size() == wanted.size() || chip[wanted.size()] == u' ');
+    return shortChipName(chip).compare(shortChipName(wanted), Qt::CaseInsensitive) == 0;
 }
 
 bool isSearched(const DeviceModel &model, const QString &search)
@@ -84,6 +83,15 @@ const ModelCapability *modelCapability(QStringView key)
     const auto *found =
         std::ranges::find_if(capabilityTable, [key](const ModelCapability &one) { return key == text(one.key); });
     return found == capabilityTable.end() ? nullptr : found;
+}
+
+QString shortChipName(const QString &chip)
+{
+    for (const auto family : {" Bionic"_L1, " Fusion"_L1}) {
+        if (chip.endsWith(family, Qt::CaseInsensitive))
+            return chip.chopped(family.size());
+    }
+    return chip;
 }
 
 QString featureKey(ModelFeature feature)

@@ -27,6 +27,9 @@ const ModelCapability *modelCapability(QStringView key);
 /// Features that are not known for every model.
 enum class ModelFeature { DynamicIsland, Lidar, UsbC, Cellular5G };
 /// Its word on the command line, "dynamic-island", which is also a reason's detail.
+/// The chip without the name of its family: "A12" for "A12 Bionic", but "A19 Pro" stays, since the A19 is another.
+QString shortChipName(const QString &chip);
+
 QString featureKey(ModelFeature feature);
 Having havingOf(const DeviceModel &model, ModelFeature feature);
 
@@ -37,7 +40,8 @@ struct ModelFilter
     std::optional<OsVersion> iosFrom;
     std::optional<OsVersion> iosTo;
     std::set<DeviceFamily> families;
-    QStringList chips; ///< "A12 Bionic", or its beginning up to a space: "a12"
+    /// "A12 Bionic", or as `shortChipName` has it, in any case: "a12". "A19" is not "A19 Pro".
+    QStringList chips;
     std::vector<const ModelCapability *> capabilities;
     QStringList screenClasses; ///< keys of `screenClasses()`
     std::set<Biometry> biometries;

@@ -26,7 +26,7 @@ constexpr int shareSize = 13;
 } // namespace
 
 VersionRange::VersionRange(std::span<const DeviceModel> models, QWidget *parent)
-    : QWidget(parent), m_models(models), m_versions(majorVersions(models)), m_title(new QLabel(this)),
+    : QWidget(parent), m_groups(groupedModels(models)), m_versions(majorVersions(models)), m_title(new QLabel(this)),
       m_share(new QLabel(this)), m_from(makeSlider(qtTrId("DEVICES_IOS_FROM"), 0)),
       m_to(makeSlider(qtTrId("DEVICES_IOS_TO"), static_cast<int>(m_versions.size()) - 1))
 {
@@ -103,8 +103,8 @@ void VersionRange::showRange()
     m_to->setAccessibleDescription(u"iOS "_s + version(m_to));
     ModelFilter filter;
     apply(filter);
-    const int count = modelsInRange(m_models, filter);
-    const int all = static_cast<int>(m_models.size());
+    const int count = groupsInRange(m_groups, filter);
+    const int all = static_cast<int>(m_groups.size());
     m_share->setText(qtTrId("DEVICES_SHARE")
                          .replace("[PERCENT]"_L1, QString::number(all == 0 ? 0 : qRound(100.0 * count / all)))
                          .replace("[COUNT]"_L1, QString::number(count))

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "ModelFilter.h"
+#include "ModelGroup.h"
 
 #include <QWidget>
 
@@ -39,7 +39,7 @@ private:
     QSlider *makeSlider(const QString &name, int value);
     void showRange();
 
-    std::span<const DeviceModel> m_models;
+    std::vector<ModelGroup> m_groups;
     std::vector<OsVersion> m_versions;
     QLabel *m_title;
     QLabel *m_share;

@@ -1785,8 +1785,8 @@
     <translation>iOS [FROM] bis [TO]</translation>
   </message>
   <message id="DEVICES_SHARE">
-    <source>[PERCENT] % of all identifiers ([COUNT] of [ALL])</source>
-    <translation>[PERCENT] % aller Kennungen ([COUNT] von [ALL])</translation>
+    <source>[PERCENT] % of all models ([COUNT] of [ALL])</source>
+    <translation>[PERCENT] % aller Modelle ([COUNT] von [ALL])</translation>
   </message>
   <message id="DEVICES_FAMILY">
     <source>Family</source>
@@ -5496,8 +5496,8 @@
     <translation>Von den heutigen Modellen die gewünschten Familien: [WORDS]</translation>
   </message>
   <message id="CLI_DEVICES_CHIP">
-    <source>Of today's models, those with a chip such as A12 or M4</source>
-    <translation>Von den heutigen Modellen die mit einem Chip wie A12 oder M4</translation>
+    <source>Of today's models, those with exactly this chip, such as A12, M4 or A19 Pro; A19 is another one</source>
+    <translation>Von den heutigen Modellen die mit genau diesem Chip, etwa A12, M4 oder A19 Pro; A19 ist ein anderer</translation>
   </message>
   <message id="CLI_DEVICES_CAPABILITY">
     <source>Of today's models, those with what the app requires: [WORDS]</source>

@@ -1783,8 +1783,8 @@
     <translation>iOS [FROM] to [TO]</translation>
   </message>
   <message id="DEVICES_SHARE">
-    <source>[PERCENT] % of all identifiers ([COUNT] of [ALL])</source>
-    <translation>[PERCENT] % of all identifiers ([COUNT] of [ALL])</translation>
+    <source>[PERCENT] % of all models ([COUNT] of [ALL])</source>
+    <translation>[PERCENT] % of all models ([COUNT] of [ALL])</translation>
   </message>
   <message id="DEVICES_FAMILY">
     <source>Family</source>
@@ -5494,8 +5494,8 @@
     <translation>Of today's models, the families wanted: [WORDS]</translation>
   </message>
   <message id="CLI_DEVICES_CHIP">
-    <source>Of today's models, those with a chip such as A12 or M4</source>
-    <translation>Of today's models, those with a chip such as A12 or M4</translation>
+    <source>Of today's models, those with exactly this chip, such as A12, M4 or A19 Pro; A19 is another one</source>
+    <translation>Of today's models, those with exactly this chip, such as A12, M4 or A19 Pro; A19 is another one</translation>
   </message>
   <message id="CLI_DEVICES_CAPABILITY">
     <source>Of today's models, those with what the app requires: [WORDS]</source>

@@ -81,6 +81,15 @@ private slots:
         row(
             "chip with a letter more", "iPad8,1", [](ModelFilter &filter) { filter.chips = {u"A12"_s}; },
             "has the chip A12X Bionic");
+        row(
+            "chip", "iPhone18,3", [](ModelFilter &filter) { filter.chips = {u"a19"_s}; }, "");
+        row(
+            "chip with a word more", "iPhone18,1", [](ModelFilter &filter) { filter.chips = {u"A19"_s}; },
+            "has the chip A19 Pro");
+        row(
+            "chip of two words", "iPhone18,1", [](ModelFilter &filter) { filter.chips = {u"a19 pro"_s}; }, "");
+        row(
+            "chip with its family", "iPad7,11", [](ModelFilter &filter) { filter.chips = {u"a10 fusion"_s}; }, "");
         row("arkit", "iPhone7,2", needs("arkit"), "lacks arkit");
         row("gaming tier", "iPhone16,1", needs("iphone-performance-gaming-tier"), "");
         row("armv7 on arm64", "iPhone16,1", needs("armv7"), "");

@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "pictures/webp/WebPEncoder.h"
 
+#include "foundation/WholeFile.h"
 #include "tests/pictures/TestPictures.h"
 
 #include <QBuffer>
 #include <QImageReader>
+#include <QProcess>
+#include <QTemporaryDir>
 #include <QTest>
 
 using namespace lumora;
@@ -62,6 +65,26 @@ private slots:
         QCOMPARE(back.size(), picture.size());
         QVERIFY(largestError(picture.convertToFormat(QImage::Format_RGBA8888), back) < 0.01);
         QCOMPARE(encodeWebP(picture, {}, u"picture"_s).value(), bytes.value());
+    }
+
+    void anotherProgramReadsTheSame_data() { losslessKeepsEveryPixel_data(); }
+    void anotherProgramReadsTheSame()
+    {
+        QFETCH(QImage, picture);
+        const Result<QByteArray> bytes = encodeWebP(picture, {}, u"picture"_s);
+        QVERIFY(bytes.ok());
+        const QTemporaryDir folder;
+        QVERIFY(writeWholeFile(folder.filePath(u"a.webp"_s), bytes.value()).ok());
+        QProcess convert;
+        convert.start(u"convert"_s, {folder.filePath(u"a.webp"_s), u"-depth"_s, u"8"_s, u"rgba:-"_s});
+        QVERIFY(convert.waitForFinished());
+        const QByteArray pixels = convert.readAllStandardOutput();
+        const QImage straight = picture.convertToFormat(QImage::Format_RGBA8888);
+        const qsizetype rowBytes = qsizetype{4} * straight.width();
+        QCOMPARE(pixels.size(), rowBytes * straight.height());
+        const QImage back(reinterpret_cast<const uchar *>(pixels.constData()), straight.width(), straight.height(),
+                          rowBytes, QImage::Format_RGBA8888);
+        QVERIFY(largestError(straight, back) < 0.01);
     }
 
     void qualityTradesBytes()
