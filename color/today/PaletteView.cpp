@@ -37,8 +37,8 @@ QStringList formatNames()
 PaletteView::PaletteView(QWidget *parent)
     : QWidget(parent), m_swatches(new SwatchList(this)), m_hint(new QLabel(qtTrId("COLOR_PALETTE_EMPTY"), this)),
       m_add(makeButton(qtTrId("COLOR_PALETTE_ADD"))), m_remove(makeButton(qtTrId("COLOR_PALETTE_REMOVE"))),
-      m_open(makeButton(qtTrId("COLOR_PALETTE_OPEN"))), m_save(makeButton(qtTrId("COLOR_PALETTE_SAVE"))),
-      m_formats(new QComboBox(this))
+      m_open(makeButton(qtTrId("COLOR_PALETTE_OPEN"))), m_catalogue(makeButton(qtTrId("COLOR_CATALOGUE_OPEN"))),
+      m_save(makeButton(qtTrId("COLOR_PALETTE_SAVE"))), m_formats(new QComboBox(this))
 {
     auto *title = new QLabel(qtTrId("COLOR_PALETTE"), this);
     styleLabel(title, latoBold(titleSize), palette::color);
@@ -56,13 +56,15 @@ PaletteView::PaletteView(QWidget *parent)
     connect(m_add, &IconButton::clicked, this, &PaletteView::addWanted);
     connect(m_remove, &IconButton::clicked, this, &PaletteView::removeMarked);
     connect(m_open, &IconButton::clicked, this, &PaletteView::openWanted);
+    connect(m_catalogue, &IconButton::clicked, this, &PaletteView::catalogueWanted);
     connect(m_save, &IconButton::clicked, this, &PaletteView::saveWanted);
+    m_catalogue->setToolTip(qtTrId("COLOR_CATALOGUE_TIP"));
 
     auto *buttons = new QHBoxLayout;
     buttons->setSpacing(8);
     buttons->addWidget(title);
     buttons->addStretch(1);
-    for (QWidget *control : std::initializer_list<QWidget *>{m_add, m_remove, m_open, m_formats, m_save})
+    for (QWidget *control : std::initializer_list<QWidget *>{m_add, m_remove, m_open, m_catalogue, m_formats, m_save})
         buttons->addWidget(control);
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins({});

@@ -27,6 +27,7 @@ public:
     IconButton *addButton() const { return m_add; }
     IconButton *removeButton() const { return m_remove; }
     IconButton *openButton() const { return m_open; }
+    IconButton *catalogueButton() const { return m_catalogue; }
     IconButton *saveButton() const { return m_save; }
     QComboBox *formats() const { return m_formats; }
     PaletteFormat format() const;
@@ -36,6 +37,7 @@ signals:
     void addWanted();
     void removalWanted(int index);
     void openWanted();
+    void catalogueWanted();
     void saveWanted();
 
 protected:
@@ -52,6 +54,7 @@ private:
     IconButton *m_add;
     IconButton *m_remove;
     IconButton *m_open;
+    IconButton *m_catalogue;
     IconButton *m_save;
     QComboBox *m_formats;
 };

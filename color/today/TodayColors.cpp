@@ -8,6 +8,7 @@
 #include "TodayColorPane.h"
 #include "WellColor.h"
 #include "color/forms/ColorReader.h"
+#include "color/palettes/ColorCatalogue.h"
 #include "color/palettes/PaletteSaving.h"
 #include "color/picker/BFPopoverColorWell.h"
 #include "tool/FailureText.h"
@@ -89,6 +90,10 @@ void TodayColors::connectPalette()
         m_services.fileChooser.chooseFiles(m_pane->window(), request,
                                            [this](const QStringList &paths) { openPalette(paths.constFirst()); });
     });
+    connect(view, &PaletteView::catalogueWanted, this, [this] {
+        m_services.folderChooser.chooseFolder(m_pane->window(), {qtTrId("COLOR_CATALOGUE_TITLE"), m_lastFolder},
+                                              [this](const QString &folder) { openCatalogue(folder); });
+    });
     connect(view, &PaletteView::saveWanted, this, [this] {
         m_services.folderChooser.chooseFolder(m_pane->window(), {qtTrId("COLOR_PALETTE_SAVE_TITLE"), m_lastFolder},
                                               [this](const QString &folder) { savePaletteInto(folder); });
@@ -153,6 +158,28 @@ void TodayColors::openPalette(const QString &path)
             m_picked.add(read.value());
             showPalette();
         };
+    });
+}
+
+void TodayColors::openCatalogue(const QString &folder)
+{
+    m_lastFolder = QFileInfo(folder).path();
+    m_jobs.start([this, folder](const BackgroundJob &job) {
+        const Result<CatalogueColors> read = readColorCatalogue(folder, job.stopToken());
+        job.post([=, this] {
+            if (!m_pane)
+                return;
+            IconButton *button = m_pane->palette()->catalogueButton();
+            if (!read) {
+                emit messageWanted(qtTrId("COLOR_PALETTE_REFUSED"), failureReason(read.failure()), button, true);
+                return;
+            }
+            m_picked.add(read.value().palette);
+            showPalette();
+            if (!read.value().failures.empty())
+                emit messageWanted(qtTrId("COLOR_CATALOGUE_PARTLY"),
+                                   failureLines(read.value().failures, folder).join(u'\n'), button, true);
+        });
     });
 }
 

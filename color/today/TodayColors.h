@@ -2,6 +2,7 @@
 #pragma once
 
 #include "color/palettes/PickedPalette.h"
+#include "tool/BackgroundJobs.h"
 #include "tool/services/Services.h"
 
 #include <QObject>
@@ -56,6 +57,7 @@ private:
     void keep(const WideColor &color);
     void showPalette();
     void openPalette(const QString &path);
+    void openCatalogue(const QString &folder);
     void savePaletteInto(const QString &folder);
 
     Services m_services;
@@ -66,6 +68,7 @@ private:
     PickedPalette m_picked;
     QTimer m_rest;
     QString m_lastFolder;
+    BackgroundJobs m_jobs; ///< last, so that it waits for running jobs before other members are destroyed
 };
 
 } // namespace lumora

@@ -6,6 +6,7 @@
 #include "widgets/style/Palette.h"
 
 #include <QFileInfo>
+#include <QGuiApplication>
 #include <QHeaderView>
 
 #include <algorithm>
@@ -26,7 +27,9 @@ constexpr int sizeWidth = 100;
 
 QString sizeText(QSize size)
 {
-    return u"%1 × %2"_s.arg(size.width()).arg(size.height());
+    const QString text = u"%1 × %2"_s.arg(size.width()).arg(size.height());
+    // In a line that runs from the right, width and height would change places.
+    return QGuiApplication::isRightToLeft() ? QChar(0x2066) + text + QChar(0x2069) : text;
 }
 
 QString counted(const char *one, const char *several, qsizetype count)

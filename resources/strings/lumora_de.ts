@@ -1568,6 +1568,26 @@
     <source>The palette was not saved</source>
     <translation>Die Palette wurde nicht gesichert</translation>
   </message>
+  <message id="COLOR_CATALOGUE_OPEN">
+    <source>Catalog…</source>
+    <translation>Katalog …</translation>
+  </message>
+  <message id="COLOR_CATALOGUE_TIP">
+    <source>Reads all color sets of an asset catalog (.xcassets)</source>
+    <translation>Liest alle Farbsätze eines Asset-Katalogs (.xcassets)</translation>
+  </message>
+  <message id="COLOR_CATALOGUE_TITLE">
+    <source>Choose the asset catalog</source>
+    <translation>Asset-Katalog wählen</translation>
+  </message>
+  <message id="COLOR_CATALOGUE_PARTLY">
+    <source>Some color sets were not read</source>
+    <translation>Einige Farbsätze wurden nicht gelesen</translation>
+  </message>
+  <message id="DETAIL_NO_COLOR_SET">
+    <source>no color set in it</source>
+    <translation>ohne Farbsatz</translation>
+  </message>
   <message id="COLOR_PALETTE_REFUSED">
     <source>This is no palette</source>
     <translation>Das ist keine Palette</translation>

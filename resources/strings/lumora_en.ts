@@ -1566,6 +1566,26 @@
     <source>The palette was not saved</source>
     <translation>The palette was not saved</translation>
   </message>
+  <message id="COLOR_CATALOGUE_OPEN">
+    <source>Catalog…</source>
+    <translation>Catalog…</translation>
+  </message>
+  <message id="COLOR_CATALOGUE_TIP">
+    <source>Reads all color sets of an asset catalog (.xcassets)</source>
+    <translation>Reads all color sets of an asset catalog (.xcassets)</translation>
+  </message>
+  <message id="COLOR_CATALOGUE_TITLE">
+    <source>Choose the asset catalog</source>
+    <translation>Choose the asset catalog</translation>
+  </message>
+  <message id="COLOR_CATALOGUE_PARTLY">
+    <source>Some color sets were not read</source>
+    <translation>Some color sets were not read</translation>
+  </message>
+  <message id="DETAIL_NO_COLOR_SET">
+    <source>no color set in it</source>
+    <translation>no color set in it</translation>
+  </message>
   <message id="COLOR_PALETTE_REFUSED">
     <source>This is no palette</source>
     <translation>This is no palette</translation>

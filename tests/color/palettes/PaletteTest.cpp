@@ -2,7 +2,11 @@
 #include "color/palettes/Palette.h"
 
 #include "color/forms/ColorReader.h"
+#include "color/palettes/ColorCatalogue.h"
+#include "foundation/WholeFile.h"
 
+#include <QDir>
+#include <QTemporaryDir>
 #include <QTest>
 
 using namespace lumora;
@@ -45,6 +49,40 @@ class PaletteTest : public QObject
     Q_OBJECT
 
 private slots:
+    void catalogueIsReadInOrder()
+    {
+        const QTemporaryDir folder;
+        for (const PaletteFile &file : paletteFiles(sample(), u"p"_s, PaletteFormat::ColorSets)) {
+            const QString path = folder.filePath(file.path);
+            QVERIFY(QDir().mkpath(QFileInfo(path).path()) && writeWholeFile(path, file.content).ok());
+        }
+        QVERIFY(QDir(folder.path()).mkpath(u"p.xcassets/empty.colorset"_s));
+        QVERIFY(QFile::link(folder.path(), folder.filePath(u"p.xcassets/loop.colorset"_s)));
+        const auto read = readColorCatalogue(folder.path());
+        QVERIFY(read.ok());
+        QStringList names;
+        for (const PaletteColor &one : read.value().palette)
+            names << one.name;
+        QCOMPARE(names, (QStringList{u"------etc"_s, u"Warm-red"_s, u"sky-2"_s, u"sky"_s}));
+        QCOMPARE(read.value().failures.size(), std::size_t{1});
+        QVERIFY(read.value().failures.front().subject.endsWith(u"empty.colorset"_s));
+        // A set itself will do.
+        QCOMPARE(readColorCatalogue(folder.filePath(u"p.xcassets/sky.colorset"_s)).value().palette.size(),
+                 std::size_t{1});
+    }
+
+    void badCataloguesAreRefused()
+    {
+        const QTemporaryDir folder;
+        QCOMPARE(readColorCatalogue(folder.path()).failure().code, FailureCode::MissingContent);
+        QCOMPARE(readColorCatalogue(folder.filePath(u"none"_s)).failure().code, FailureCode::NotFound);
+        QVERIFY(writeWholeFile(folder.filePath(u"a"_s), "a").ok());
+        QCOMPARE(readColorCatalogue(folder.filePath(u"a"_s)).failure().code, FailureCode::NotAFolder);
+        QVERIFY(QDir(folder.path()).mkdir(u"b"_s));
+        QCOMPARE(readColorCatalogue(folder.path(), {}, 1).failure().code, FailureCode::TooLarge);
+        QCOMPARE(readColorCatalogue(folder.path(), {}, 2).failure().code, FailureCode::MissingContent);
+    }
+
     void whatIsWrittenReadsBack_data()
     {
         QTest::addColumn<PaletteFormat>("format");

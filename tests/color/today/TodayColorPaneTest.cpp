@@ -273,6 +273,37 @@ private slots:
         QCOMPARE(palette(), (QStringList{u"#ff6347ff"_s, u"#010203ff"_s, u"#040506ff"_s}));
     }
 
+    void aWholeCatalogueIsRead()
+    {
+        const QTemporaryDir folder;
+        PaletteView *view = pane()->palette();
+        for (const char *name : {"tomato", "navy"})
+            m_controller->today()->takeText(QString::fromLatin1(name));
+        press(view->saveButton());
+        m_services->folderChooser.confirm(folder.path());
+        m_controller->popupCloseButtonPressed();
+        press(view->removeButton());
+        const QStringList before = palette();
+        for (int left = 0; left < before.size(); ++left) {
+            view->swatches()->setCurrentIndex(view->swatches()->model()->index(0, 0));
+            press(view->removeButton());
+        }
+        QCOMPARE(palette(), QStringList());
+        press(view->catalogueButton());
+        m_services->folderChooser.confirm(folder.filePath(u"palette.xcassets"_s));
+        QTRY_COMPARE(palette(), (QStringList{u"#000080ff"_s, u"#ff6347ff"_s}));
+        // A damaged set is named; the others count.
+        QVERIFY(QDir(folder.path()).mkpath(u"palette.xcassets/bad.colorset"_s));
+        press(view->catalogueButton());
+        m_services->folderChooser.confirm(folder.filePath(u"palette.xcassets"_s));
+        QTRY_VERIFY(m_controller->popupView()->isVisible());
+        QCOMPARE(palette().size(), 2);
+        m_controller->popupCloseButtonPressed();
+        press(view->catalogueButton());
+        m_services->folderChooser.confirm(folder.filePath(u"none"_s));
+        QTRY_VERIFY(m_controller->popupView()->isVisible());
+    }
+
     void whatIsNoPaletteIsRefused()
     {
         const QTemporaryDir folder;
