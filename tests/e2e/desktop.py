@@ -82,13 +82,13 @@ class Desktop:
         self.run("/usr/libexec/at-spi-bus-launcher", "--launch-immediately")
         # This process finds the accessibility bus by its own environment.
         os.environ.update(self.environment)
-        # The library waits less than a second for an answer, too short for some instrumented programs.
+        # By itself the library waits less than a second for an answer, too short on a machine with other work.
         import gi
 
         gi.require_version("Atspi", "2.0")
         from gi.repository import Atspi
 
-        Atspi.set_timeout(int(800 * FACTOR), int(15000 * FACTOR))
+        Atspi.set_timeout(int(5000 * FACTOR), int(15000 * FACTOR))
 
     def _start_window_system(self):
         self.environment["QT_SCALE_FACTOR"] = str(self.scale)
