@@ -2546,6 +2546,38 @@
     <source>Open the device tool with what the package asks for</source>
     <translation>Das Gerätewerkzeug mit den Anforderungen des Pakets öffnen</translation>
   </message>
+  <message id="RULE_MAC_PROFILE_TITLE">
+    <source>The Mac app has no provisioning profile</source>
+    <translation>Die Mac-App hat kein Bereitstellungsprofil</translation>
+  </message>
+  <message id="RULE_MAC_PROFILE_RULE">
+    <source>An app for the Mac App Store that testers are to get brings Contents/embedded.provisionprofile.</source>
+    <translation>Eine App für den Mac App Store, die Testpersonen bekommen sollen, bringt Contents/embedded.provisionprofile mit.</translation>
+  </message>
+  <message id="RULE_MAC_PROFILE_FIX">
+    <source>Export the archive for the App Store with Xcode.</source>
+    <translation>Das Archiv mit Xcode für den App Store exportieren.</translation>
+  </message>
+  <message id="RULE_MAC_SANDBOX_TITLE">
+    <source>The Mac app is not sandboxed</source>
+    <translation>Die Mac-App läuft nicht in der Sandbox</translation>
+  </message>
+  <message id="RULE_MAC_SANDBOX_RULE">
+    <source>An app for the Mac App Store has the entitlement com.apple.security.app-sandbox.</source>
+    <translation>Eine App für den Mac App Store hat die Berechtigung com.apple.security.app-sandbox.</translation>
+  </message>
+  <message id="RULE_MAC_SANDBOX_FIX">
+    <source>Add the capability App Sandbox and sign the app again.</source>
+    <translation>Die Fähigkeit App Sandbox hinzufügen und die App neu signieren.</translation>
+  </message>
+  <message id="FOUND_NO_MAC_APP">
+    <source>no app for the Mac</source>
+    <translation>keine App für den Mac</translation>
+  </message>
+  <message id="FOUND_NO_SANDBOX">
+    <source>com.apple.security.app-sandbox is not among the entitlements</source>
+    <translation>com.apple.security.app-sandbox ist nicht unter den Berechtigungen</translation>
+  </message>
   <message id="RULE_ARM64_MINIMUM_TITLE">
     <source>The minimum system is likely too old for arm64</source>
     <translation>Das älteste System ist wahrscheinlich zu alt für arm64</translation>

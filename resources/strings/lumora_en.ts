@@ -2544,6 +2544,38 @@
     <source>Open the device tool with what the package asks for</source>
     <translation>Open the device tool with what the package asks for</translation>
   </message>
+  <message id="RULE_MAC_PROFILE_TITLE">
+    <source>The Mac app has no provisioning profile</source>
+    <translation>The Mac app has no provisioning profile</translation>
+  </message>
+  <message id="RULE_MAC_PROFILE_RULE">
+    <source>An app for the Mac App Store that testers are to get brings Contents/embedded.provisionprofile.</source>
+    <translation>An app for the Mac App Store that testers are to get brings Contents/embedded.provisionprofile.</translation>
+  </message>
+  <message id="RULE_MAC_PROFILE_FIX">
+    <source>Export the archive for the App Store with Xcode.</source>
+    <translation>Export the archive for the App Store with Xcode.</translation>
+  </message>
+  <message id="RULE_MAC_SANDBOX_TITLE">
+    <source>The Mac app is not sandboxed</source>
+    <translation>The Mac app is not sandboxed</translation>
+  </message>
+  <message id="RULE_MAC_SANDBOX_RULE">
+    <source>An app for the Mac App Store has the entitlement com.apple.security.app-sandbox.</source>
+    <translation>An app for the Mac App Store has the entitlement com.apple.security.app-sandbox.</translation>
+  </message>
+  <message id="RULE_MAC_SANDBOX_FIX">
+    <source>Add the capability App Sandbox and sign the app again.</source>
+    <translation>Add the capability App Sandbox and sign the app again.</translation>
+  </message>
+  <message id="FOUND_NO_MAC_APP">
+    <source>no app for the Mac</source>
+    <translation>no app for the Mac</translation>
+  </message>
+  <message id="FOUND_NO_SANDBOX">
+    <source>com.apple.security.app-sandbox is not among the entitlements</source>
+    <translation>com.apple.security.app-sandbox is not among the entitlements</translation>
+  </message>
   <message id="RULE_ARM64_MINIMUM_TITLE">
     <source>The minimum system is likely too old for arm64</source>
     <translation>The minimum system is likely too old for arm64</translation>

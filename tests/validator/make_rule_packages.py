@@ -60,6 +60,7 @@ class Package:
             {"NSPrivacyAccessedAPIType": "NSPrivacyAccessedAPICategoryUserDefaults",
              "NSPrivacyAccessedAPITypeReasons": ["CA92.1"]}]}
         self.bulb_privacy = None
+        self.is_for_mac = False
         self.profile = profile(identity)
         self.share_profile = profile(identity)
         self.share_profile["Entitlements"] = self.share_profile["Entitlements"] | {
@@ -90,7 +91,25 @@ class Package:
             files[executable] = code.bytes() if isinstance(code, MachO) else code
         return {f"{folder}/{path}": content for path, content in files.items()}
 
+    def mac_contents(self):
+        """The same app for the Mac, without frameworks and extensions."""
+        info = self.info | {"CFBundleSupportedPlatforms": ["MacOSX"], "DTPlatformName": "macosx", "LSMinimumSystemVersion": "13.0"}
+        files = {"Info.plist": plistlib.dumps(info), "Resources/en.lproj/Localizable.strings": b""}
+        if self.profile is not None:
+            files["embedded.provisionprofile"] = signed(self.identity, self.profile)
+        signer = Signer(self.identity, "com.example.lamp", self.entitlements)
+        signer.info = files["Info.plist"]
+        signer.seal = seal(files, "MacOS/Lamp")
+        code = MachO(platform="macos", minimum="13.0")
+        code.encryption = None
+        code.signature_room = 0x6000
+        code.sign = signer
+        files |= {"MacOS/Lamp": code.bytes(), "_CodeSignature/CodeResources": signer.seal}
+        return {f"{APP}/Contents/{path}": content for path, content in files.items()}
+
     def contents(self):
+        if self.is_for_mac:
+            return self.mac_contents()
         bulb_files = {} if self.bulb_privacy is None else {"PrivacyInfo.xcprivacy": plistlib.dumps(self.bulb_privacy)}
         nested = self.sealed(self.bulb_path, bulb_files, self.bulb_info, self.bulb, "com.example.bulb", None)
         share_files = {"embedded.mobileprovision": signed(self.identity, self.share_profile)}
@@ -118,6 +137,17 @@ class Package:
 
 def without(dictionary, *keys):
     return {key: value for key, value in dictionary.items() if key not in keys}
+
+
+def for_mac(sandbox, **changes):
+    def change(package):
+        package.is_for_mac = True
+        if sandbox is not None:
+            package.entitlements["com.apple.security.app-sandbox"] = sandbox
+            package.profile["Entitlements"]["com.apple.security.app-sandbox"] = True
+        for name, value in changes.items():
+            setattr(package, name, value)
+    return change
 
 
 def breaking(identity, other, developer, ended):
@@ -221,6 +251,13 @@ def breaking(identity, other, developer, ended):
         moved_framework("Alamofire")(package)
         package.bulb_privacy = {"NSPrivacyTracking": False}
 
+    def byte_of_entitlements(package):
+        def alter(files):
+            code = files[f"{APP}/Lamp"]
+            place = code.index(b"<key>application-identifier")
+            files[f"{APP}/Lamp"] = patched_bytes(code, place + 5, b"b")
+        package.after = alter
+
     small = app_icon(size=512, dark=False)
     return {
         "icon-phone": icons(app_icon(idioms=("pad",))),
@@ -296,6 +333,9 @@ def breaking(identity, other, developer, ended):
         "private-names symbol": code("bulb", imports=["_MGCopyAnswer"]),
         "seal a file named like the link": replace(f"{APP}/CodeResources", b"more"),
         "seal a link to elsewhere": replace(f"{APP}/CodeResources", Link("../../elsewhere")),
+        "mac-sandbox": for_mac(None),
+        "mac-profile": for_mac(True, profile=None),
+        "signature entitlements by a byte": byte_of_entitlements,
         "export-compliance": drop("ITSAppUsesNonExemptEncryption"),
         "background-processing": info(UIBackgroundModes=["processing"]),
         "arbitrary-loads": info(NSAppTransportSecurity={"NSAllowsArbitraryLoads": True}),
@@ -361,7 +401,7 @@ def keeping():
         package.after = lambda files: files.update({f"{APP}/CodeResources": Link("_CodeSignature/CodeResources")})
 
     return {"all": lambda package: None, "arm64": arm64, "public names": public_name, "a kit with its receipt": receipt,
-            "a link to the seal": old_link, "a selector of that name": web_view_selector, "declared use": declared,
+            "a link to the seal": old_link, "a Mac app": for_mac(True), "a selector of that name": web_view_selector, "declared use": declared,
             "purpose said": purpose, "facebook scheme": facebook, "the whole screen": full_screen, "tasks listed": tasks,
             "swift libraries twice": swift, "push with its entitlement": push, "wildcard profile": wildcard,
             "swift entry": entry}

@@ -53,13 +53,6 @@ bool isSimulator(BinaryPlatform platform)
            platform == BinaryPlatform::WatchOSSimulator || platform == BinaryPlatform::VisionOSSimulator;
 }
 
-bool isMacApp(const PackageContents &contents)
-{
-    const BinaryPlatform platform = platformOf(contents);
-    return platform == BinaryPlatform::MacOS || platform == BinaryPlatform::MacCatalyst;
-}
-
-/// Whether the path has a folder directly inside one with the extension, as in "A.framework/Frameworks".
 QStringList foldersIn(const PackageContents &contents, const QString &extension, const QString &folder)
 {
     const QString mark = extension + u'/' + folder + u'/';

@@ -33,6 +33,13 @@ bool isPhoneApp(const PackageContents &contents)
     return platformOf(contents) == BinaryPlatform::Ios;
 }
 
+bool isMacApp(const PackageContents &contents)
+{
+    const BinaryPlatform platform = platformOf(contents);
+    return platform == BinaryPlatform::MacOS || platform == BinaryPlatform::MacCatalyst;
+}
+
+/// Whether the path has a folder directly inside one with the extension, as in "A.framework/Frameworks".
 QList<int> deviceFamilies(const PackageBundle &app)
 {
     const QVariant value = app.info ? app.info->value(u"UIDeviceFamily"_s) : QVariant();

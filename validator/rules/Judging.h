@@ -31,12 +31,13 @@ inline Judgement brokenBy(const QList<Evidence> &evidence)
 
 inline QString infoPath(const PackageBundle &bundle)
 {
-    return bundle.path + QStringLiteral("/Info.plist");
+    return bundle.root + QStringLiteral("/Info.plist");
 }
 
 /// From the app's binary, else from its Info.plist; unknown without both.
 BinaryPlatform platformOf(const PackageContents &contents);
 bool isPhoneApp(const PackageContents &contents);
+bool isMacApp(const PackageContents &contents);
 /// 1 for the phone, 2 for the pad; an app without device families is for the phone.
 QList<int> deviceFamilies(const PackageBundle &app);
 QVersionNumber minimumSystem(const PackageBundle &bundle);
@@ -94,6 +95,8 @@ Judgement judgeCertificateKind(const PackageContents &, const RuleSettings &);
 Judgement judgeCertificateValidity(const PackageContents &, const RuleSettings &);
 Judgement judgeCertificateInProfile(const PackageContents &, const RuleSettings &);
 Judgement judgeProfilePresent(const PackageContents &, const RuleSettings &);
+Judgement judgeMacProfile(const PackageContents &, const RuleSettings &);
+Judgement judgeMacSandbox(const PackageContents &, const RuleSettings &);
 Judgement judgeProfileKind(const PackageContents &, const RuleSettings &);
 Judgement judgeProfileExpiry(const PackageContents &, const RuleSettings &);
 Judgement judgeProfileIdentifier(const PackageContents &, const RuleSettings &);

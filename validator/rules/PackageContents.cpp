@@ -31,8 +31,8 @@ struct FoundFacts
 
 bool isKept(const QString &name)
 {
-    static const QStringList names{u"Info.plist"_s, u"embedded.mobileprovision"_s, u"Assets.car"_s,
-                                   u"PrivacyInfo.xcprivacy"_s, u"CodeResources"_s};
+    static const QStringList names{u"Info.plist"_s, u"embedded.mobileprovision"_s, u"embedded.provisionprofile"_s,
+                                   u"Assets.car"_s, u"PrivacyInfo.xcprivacy"_s,    u"CodeResources"_s};
     return names.contains(name);
 }
 
@@ -207,22 +207,25 @@ QString ContentsReading::appPath() const
 PackageBundle ContentsReading::bundleAt(const QString &path, BundleKind kind) const
 {
     PackageBundle bundle;
+    const bool isForMac = !m_contents.holds(path + u"/Info.plist") && m_contents.holds(path + u"/Contents/Info.plist");
     bundle.path = path;
+    bundle.root = isForMac ? QString(path + u"/Contents") : path;
     bundle.kind = kind;
-    bundle.info = propertyListDictionary(content(path + u"/Info.plist"));
+    bundle.info = propertyListDictionary(content(bundle.root + u"/Info.plist"));
     // Without a readable Info.plist, as after a change to it, the code usually has the bundle's own name.
     const QString executable = bundle.info ? bundle.text(u"CFBundleExecutable"_s) : bundle.name().section(u'.', 0, -2);
     if (!executable.isEmpty() && !executable.contains(u'/'))
-        bundle.executable = path + u'/' + executable;
+        bundle.executable = bundle.root + (isForMac ? u"/MacOS/"_s : u"/"_s) + executable;
     for (qsizetype i = 0; i < m_contents.binaries.size(); ++i) {
         if (m_contents.binaries[i].path == bundle.executable)
             bundle.binary = i;
     }
-    const QString profile = path + u"/embedded.mobileprovision";
+    const QString resources = isForMac ? QString(bundle.root + u"/Resources") : path;
+    const QString profile = bundle.profilePath();
     bundle.hasProfileFile = m_contents.holds(profile);
     bundle.profile = readProvisioningProfile(content(profile));
-    bundle.catalog = readAssetCatalog(content(path + u"/Assets.car"));
-    const QString privacy = path + u"/PrivacyInfo.xcprivacy";
+    bundle.catalog = readAssetCatalog(content(resources + u"/Assets.car"));
+    const QString privacy = resources + u"/PrivacyInfo.xcprivacy";
     bundle.hasPrivacyFile = m_contents.holds(privacy);
     if (const auto list = propertyListDictionary(content(privacy)))
         bundle.privacy = readPrivacyManifest(*list);
@@ -245,7 +248,7 @@ void ContentsReading::readBundles()
 
 void ContentsReading::compareSeal(PackageBundle &bundle) const
 {
-    const QString start = bundle.path + u'/';
+    const QString start = bundle.root + u'/';
     const QByteArray bytes = content(start + u"_CodeSignature/CodeResources");
     const CodeSignature *signature = m_contents.signatureOf(bundle);
     if (signature == nullptr)
@@ -297,6 +300,11 @@ void ContentsReading::compareSeals()
 }
 
 } // namespace
+
+QString PackageBundle::profilePath() const
+{
+    return root + (root == path ? u"/embedded.mobileprovision"_s : u"/embedded.provisionprofile"_s);
+}
 
 QString PackageBundle::text(const QString &key) const
 {

@@ -44,6 +44,7 @@ struct BundleSeal
 struct PackageBundle
 {
     QString path;
+    QString root; ///< the folder of the Info.plist: the path, or "Contents" in it, as on the Mac
     BundleKind kind = BundleKind::App;
     std::optional<QVariantMap> info; ///< empty when there is no readable Info.plist
     QString executable;              ///< path; empty when the bundle names none
@@ -55,6 +56,7 @@ struct PackageBundle
     std::optional<PrivacyManifest> privacy;
     bool hasPrivacyFile = false;
 
+    QString profilePath() const;            ///< the place of the profile, whether there is one or not
     QString text(const QString &key) const; ///< of the Info.plist; a number as text
     bool has(const QString &key) const { return info && info->contains(key); }
     /// The last step of the path.

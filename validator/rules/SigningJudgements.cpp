@@ -64,7 +64,7 @@ QString faultText(SignatureFault fault)
 void addAll(QList<Evidence> &evidence, const QStringList &paths, const PackageBundle &bundle, const QString &text)
 {
     for (const QString &path : paths)
-        evidence += Evidence{bundle.path + u'/' + path, text};
+        evidence += Evidence{bundle.root + u'/' + path, text};
 }
 
 /// The certificate that the app is signed with.
@@ -78,12 +78,9 @@ bool isDistribution(const QString &commonName)
 {
     // The store itself signs with "Apple iPhone OS Application Signing".
     return commonName.startsWith("iPhone Distribution"_L1) || commonName.startsWith("Apple Distribution"_L1) ||
-           commonName.startsWith("Apple iPhone OS Application Signing"_L1);
-}
-
-QString profilePath(const PackageBundle &bundle)
-{
-    return bundle.path + u"/embedded.mobileprovision";
+           commonName.startsWith("Apple iPhone OS Application Signing"_L1) ||
+           commonName.startsWith("3rd Party Mac Developer Application"_L1) ||
+           commonName.startsWith("Apple Mac OS Application Signing"_L1);
 }
 
 } // namespace
@@ -129,7 +126,7 @@ Judgement judgeSeal(const PackageContents &contents, const RuleSettings &)
         if (contents.signatureOf(*bundle) == nullptr)
             continue;
         found = true;
-        const QString sealPath = bundle->path + u"/_CodeSignature/CodeResources";
+        const QString sealPath = bundle->root + u"/_CodeSignature/CodeResources";
         if (!bundle->seal.infoBound)
             bad += Evidence{infoPath(*bundle), worded("FOUND_CHANGED")};
         if (!bundle->seal.present)
@@ -175,22 +172,47 @@ Judgement judgeCertificateInProfile(const PackageContents &contents, const RuleS
             continue;
         found = true;
         if (!bundle.profile->certificates.contains(signer->der))
-            bad += Evidence{profilePath(bundle), worded("FOUND_CERTIFICATE_NOT_IN_PROFILE", {signer->commonName})};
+            bad += Evidence{bundle.profilePath(), worded("FOUND_CERTIFICATE_NOT_IN_PROFILE", {signer->commonName})};
     }
     return found ? brokenBy(bad) : notApplicable(worded("FOUND_NO_SIGNED_BUNDLE"));
 }
 
 Judgement judgeProfilePresent(const PackageContents &contents, const RuleSettings &)
 {
+    // It has a rule of its own.
+    if (isMacApp(contents))
+        return notApplicable(worded("FOUND_MAC_APP"));
     QList<Evidence> bad;
     for (const PackageBundle &bundle : contents.bundles) {
         if (bundle.kind != BundleKind::App && bundle.kind != BundleKind::Extension)
             continue;
         if (!bundle.profile)
-            bad += Evidence{profilePath(bundle),
+            bad += Evidence{bundle.profilePath(),
                             bundle.hasProfileFile ? worded("FOUND_UNREADABLE") : worded("FOUND_NOT_THERE")};
     }
     return brokenBy(bad);
+}
+
+Judgement judgeMacProfile(const PackageContents &contents, const RuleSettings &)
+{
+    if (!isMacApp(contents))
+        return notApplicable(worded("FOUND_NO_MAC_APP"));
+    const PackageBundle &app = *contents.app();
+    if (app.profile)
+        return holds();
+    return brokenBy({{app.profilePath(), worded(app.hasProfileFile ? "FOUND_UNREADABLE" : "FOUND_NOT_THERE")}});
+}
+
+Judgement judgeMacSandbox(const PackageContents &contents, const RuleSettings &)
+{
+    if (!isMacApp(contents))
+        return notApplicable(worded("FOUND_NO_MAC_APP"));
+    const PackageBundle &app = *contents.app();
+    if (contents.signatureOf(app) == nullptr)
+        return notApplicable(unsignedReason());
+    if (entitlementsOf(contents, app).value(u"com.apple.security.app-sandbox"_s).toBool())
+        return holds();
+    return brokenBy({{app.executable, worded("FOUND_NO_SANDBOX")}});
 }
 
 Judgement judgeProfileKind(const PackageContents &contents, const RuleSettings &)
@@ -201,7 +223,7 @@ Judgement judgeProfileKind(const PackageContents &contents, const RuleSettings &
     if (app.profile->kind == ProfileKind::AppStore)
         return holds();
     return brokenBy(
-        {{profilePath(app), worded("FOUND_PROFILE_KIND", {valueWord(profileKindName(app.profile->kind))})}});
+        {{app.profilePath(), worded("FOUND_PROFILE_KIND", {valueWord(profileKindName(app.profile->kind))})}});
 }
 
 Judgement judgeProfileExpiry(const PackageContents &contents, const RuleSettings &settings)
@@ -213,7 +235,7 @@ Judgement judgeProfileExpiry(const PackageContents &contents, const RuleSettings
             continue;
         found = true;
         if (bundle.profile->expires.date() < settings.on)
-            bad += Evidence{profilePath(bundle),
+            bad += Evidence{bundle.profilePath(),
                             worded("FOUND_PROFILE_ENDED", {bundle.profile->expires.toString(Qt::ISODate)})};
     }
     return found ? brokenBy(bad) : notApplicable(noProfileReason());
@@ -230,7 +252,7 @@ Judgement judgeProfileIdentifier(const PackageContents &contents, const RuleSett
         const QString granted = bundle.profile->applicationIdentifier();
         const QString wanted = granted.section(u'.', 0, 0) + u'.' + bundle.text(u"CFBundleIdentifier"_s);
         if (!entitlementIsGranted(granted, wanted))
-            bad += Evidence{profilePath(bundle), worded("FOUND_PROFILE_FOR", {granted, wanted})};
+            bad += Evidence{bundle.profilePath(), worded("FOUND_PROFILE_FOR", {granted, wanted})};
     }
     return found ? brokenBy(bad) : notApplicable(noProfileReason());
 }
