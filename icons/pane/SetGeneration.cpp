@@ -8,6 +8,7 @@
 #include "tool/FailureText.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 using namespace Qt::StringLiterals;
 
@@ -54,11 +55,19 @@ IconCheck checkSets(const QString &folder, const QList<TodaySet> &sets)
     return check;
 }
 
+/// Names only the folder itself: the pane has little room beside the buttons.
+JobResult filesResult(qsizetype written, qsizetype wanted, const QString &folder, const std::vector<Failure> &failures)
+{
+    JobResult result = jobResult(countedFiles, written, wanted, folder, failures);
+    result.summary.replace(shortFolder(folder), QFileInfo(folder).fileName());
+    return result;
+}
+
 JobResult resultOf(const TodayExport &run, qsizetype wanted)
 {
     const QList<Failure> failures = run.failures();
-    JobResult result = jobResult(countedFiles, run.files.size() - failures.size(), wanted, run.folder,
-                                 {failures.begin(), failures.end()});
+    JobResult result =
+        filesResult(run.files.size() - failures.size(), wanted, run.folder, {failures.begin(), failures.end()});
     if (run.isStopped)
         result.failures.prepend(qtTrId("RESULT_CANCELED"));
     return result;
@@ -103,7 +112,7 @@ void SetGeneration::start(const SetRequest &request)
             offer.notes << qtTrId("CLI_ICONS_LINE_TO_ADD").replace("[LINE]"_L1, line);
         job.post([this, offer] {
             if (*m_canceled) {
-                end(jobResult(countedFiles, 0, offer.files.size(), m_request.folder, {}));
+                end(filesResult(0, offer.files.size(), m_request.folder, {}));
                 return;
             }
             m_offer = offer;
@@ -127,8 +136,8 @@ void SetGeneration::writeIntoProject()
     m_jobs.start([this, folder = m_request.folder, offer = m_offer](const BackgroundJob &job) {
         const Outcome written = lumora::writeIntoProject(folder, offer.files, progressOf(job));
         const qsizetype count = offer.files.size();
-        JobResult result = jobResult(countedFiles, written ? count : 0, count, folder,
-                                     written ? std::vector<Failure>() : std::vector{written.failure()});
+        JobResult result = filesResult(written ? count : 0, count, folder,
+                                       written ? std::vector<Failure>() : std::vector{written.failure()});
         if (written)
             result.notes = offer.notes;
         job.post([this, result] { end(result); });
@@ -171,7 +180,7 @@ void SetGeneration::cancel()
     *m_canceled = true;
     // While the user is being asked, nothing runs that could end.
     if (m_state == State::Asking)
-        end(jobResult(countedFiles, 0, m_offer.files.size(), m_request.folder, {}));
+        end(filesResult(0, m_offer.files.size(), m_request.folder, {}));
 }
 
 void SetGeneration::end(const JobResult &result)

@@ -87,7 +87,7 @@ private slots:
         const JobResult &result = pane()->result()->result();
         QVERIFY2(result.failures.isEmpty(), qPrintable(result.failures.join(u'\n')));
         QCOMPARE(result.folder, out() + u"/icons"_s);
-        QCOMPARE(result.summary, u"%1 files in out/icons"_s.arg(filesBelow(out()).size()));
+        QCOMPARE(result.summary, u"%1 files in icons"_s.arg(filesBelow(out()).size()));
         QVERIFY(pane()->generateButton()->isVisible());
     }
 
@@ -229,7 +229,7 @@ private slots:
         QCOMPARE(isReplaced, answer == u"project");
         QCOMPARE(QFileInfo::exists(out() + u"/icons/Web/site.webmanifest"_s), answer == u"own folder");
         if (answer == u"project") {
-            QCOMPARE(result.summary, u"%1 files in %2"_s.arg(count).arg(shortFolder(out())));
+            QCOMPARE(result.summary, u"%1 files in out"_s.arg(count));
             QVERIFY(result.notes.size() > 1);
         } else if (answer != u"own folder") {
             QVERIFY2(result.summary.startsWith(u"Nothing was written"_s), qPrintable(result.summary));

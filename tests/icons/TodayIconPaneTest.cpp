@@ -289,6 +289,25 @@ private slots:
         QCOMPARE(m_scene->popupTitle(), u"Snippet copied"_s);
     }
 
+    void readsFromTheRight()
+    {
+        m_scene.reset();
+        QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+        m_scene = std::make_unique<TodayIconScene>();
+        QSignalSpy shown(m_scene->tool.today(), &TodayIcons::previewsShown);
+        QVERIFY(shown.wait());
+        const QString dark = saved(m_folder, u"dark.png"_s, disk(1024, {30, 30, 200}));
+        QVERIFY(m_scene->drawnAfter([&] { m_scene->tool.today()->readSource(FurtherSource::Dark, dark); }));
+        QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+        QVERIFY(pane()->dropView()->x() > pane()->width() / 2);
+        const SourceWell *well = pane()->well(FurtherSource::Dark);
+        QVERIFY(well->removeButton()->x() < well->width() / 2);
+        QVERIFY(well->x() > pane()->well(FurtherSource::Monochrome)->x());
+        QVERIFY(pane()->tile(PreviewPlace::IosLight)->x() > pane()->tile(PreviewPlace::Mac)->x());
+        // Code is written from the left in every language.
+        QCOMPARE(pane()->snippet()->layoutDirection(), Qt::LeftToRight);
+    }
+
     void everythingHasANameAndTheKeyboardReachesIt()
     {
         QSet<QString> reached;
