@@ -71,7 +71,7 @@ def make_pictures(folder):
         for i in range(count):
             width, height = dimensions[i % len(dimensions)]
             subprocess.run(["convert", *kind(width, height, number), *more, "-strip",
-                            f"{flavour}:{folder}/picture{number:03}@2x.png"], check=True)
+                            f"{flavor}:{folder}/picture{number:03}@2x.png"], check=True)
             sizes.append((width, height))
             halves += (width // 2) * (height // 2)
             number += 1

@@ -1542,11 +1542,11 @@
   </message>
   <message id="COLOR_PALETTE_OPEN">
     <source>Open…</source>
-    <translation>Öffnen…</translation>
+    <translation>Öffnen …</translation>
   </message>
   <message id="COLOR_PALETTE_SAVE">
     <source>Save…</source>
-    <translation>Sichern…</translation>
+    <translation>Sichern …</translation>
   </message>
   <message id="COLOR_PALETTE_OPEN_TITLE">
     <source>Choose a palette to read</source>
