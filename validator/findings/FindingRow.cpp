@@ -27,6 +27,7 @@ namespace
 constexpr int textSize = 13;
 /// The left edge of a line's title.
 constexpr int indent = 48;
+constexpr int sideMargin = 12;
 constexpr int buttonHeight = 28;
 
 IconButton *smallButton(const QString &text)
@@ -103,7 +104,9 @@ void FindingRow::makeBody()
 {
     m_body = new QWidget;
     auto *column = new QVBoxLayout(m_body);
-    column->setContentsMargins(indent, 6, 12, 12);
+    // Margins have sides, not beginnings.
+    const bool isMirrored = layoutDirection() == Qt::RightToLeft;
+    column->setContentsMargins(isMirrored ? sideMargin : indent, 6, isMirrored ? indent : sideMargin, 12);
     column->setSpacing(2);
     addPart(column, qtTrId("FINDINGS_FOUND"), foundText());
     addPart(column, qtTrId("FINDINGS_WHY"), worded(m_rule.rule));
