@@ -22,9 +22,20 @@ namespace
 {
 
 /// More than any package needs; past it the reader ends, and not the user's desktop.
-constexpr rlim_t mostMemory = rlim_t{4} << 30;
+[[maybe_unused]] constexpr rlim_t mostMemory = rlim_t{4} << 30;
 /// Progress is told in steps of this size, per mille.
 constexpr int progressStep = 10;
+
+void limitMemory()
+{
+#if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
+    // A sanitizer's shadow memory needs more.
+    const rlimit memory{mostMemory, mostMemory};
+    ::setrlimit(RLIMIT_AS, &memory);
+#endif
+    const rlimit noDump{0, 0};
+    ::setrlimit(RLIMIT_CORE, &noDump);
+}
 
 bool put(int descriptor, const QByteArray &bytes)
 {
@@ -70,10 +81,7 @@ private:
 int answerReview(const QString &path, const RuleSettings &settings, int descriptor)
 {
     loadCryptoLibrary();
-    const rlimit memory{mostMemory, mostMemory};
-    ::setrlimit(RLIMIT_AS, &memory);
-    const rlimit noDump{0, 0};
-    ::setrlimit(RLIMIT_CORE, &noDump);
+    limitMemory();
     lockProcess({{path}, {}, {}});
     ProgressLines progress(descriptor);
     const Result<PackageReview> review = withinMemory(
