@@ -1292,7 +1292,7 @@
   </message>
   <message id="RESIZER_CHOOSE_FOLDER">
     <source>Choose folder…</source>
-    <translation>Ordner wählen…</translation>
+    <translation>Ordner wählen …</translation>
   </message>
   <message id="RESULT_TITLE">
     <source>Result</source>
@@ -1368,7 +1368,7 @@
   </message>
   <message id="READING_FILE">
     <source>Reading [FILE]…</source>
-    <translation>[FILE] wird gelesen…</translation>
+    <translation>[FILE] wird gelesen …</translation>
   </message>
   <message id="TIP_BROWSE">
     <source>Choose from a folder</source>
