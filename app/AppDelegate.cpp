@@ -336,11 +336,6 @@ void AppDelegate::aboutButtonClicked()
     iconButtonClicked(m_header->iconButton());
 }
 
-void AppDelegate::newFile()
-{
-    activate();
-}
-
 bool AppDelegate::applicationShouldOpenUntitledFile()
 {
     activate();

@@ -87,7 +87,7 @@ public slots:
     void infoButtonClicked(QWidget *sender);
     void iconButtonClicked(QWidget *sender);
     void aboutButtonClicked();
-    void newFile();
+    void newFile() { activate(); }
     /// Brings the window to the front.
     void activate();
 

@@ -20,7 +20,7 @@ import zipfile
 from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).parent.parent / "tests" / "validator"))
-from make_rule_packages import Package  # noqa: E402
+from rule_package import Package  # noqa: E402
 from signing import Identity  # noqa: E402
 
 MAKER = Path(__file__).with_name("make_package.py")

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "IntoProject.h"
 #include "icons/check/IconCheck.h"
-#include "icons/project/OpenStepList.h"
 #include "pictures/PictureReader.h"
 
 #include <QDir>
@@ -41,8 +40,6 @@ private slots:
     void linksThatLeadOutside();
     void oldFilesComeBack();
     void sourcesThatDoNotFit();
-    void propertyLists_data();
-    void propertyLists();
 };
 
 void ProjectTest::recognized_data()
@@ -379,29 +376,6 @@ void ProjectTest::sourcesThatDoNotFit()
     QVERIFY(put(other.path(), capacitor));
     const Put transparent = putInto(other.path(), {}, sourcesOf(disk(900)));
     QVERIFY(transparent.failure && transparent.failure->code == FailureCode::HasTransparency);
-}
-
-void ProjectTest::propertyLists_data()
-{
-    QTest::addColumn<QByteArray>("text");
-    QTest::addColumn<bool>("sound");
-    QTest::newRow("dictionary") << QByteArray("{a = b; \"c d\" = (1, 2,); /* x */ e = {};}") << true;
-    QTest::newRow("array without a last comma") << QByteArray("(a, b)") << true;
-    QTest::newRow("comment to the end") << QByteArray("{} // end") << true;
-    QTest::newRow("nothing") << QByteArray() << false;
-    QTest::newRow("open") << QByteArray("{a = b;") << false;
-    QTest::newRow("no semicolon") << QByteArray("{a = b}") << false;
-    QTest::newRow("open string") << QByteArray("{a = \"b;}") << false;
-    QTest::newRow("string that ends in a backslash") << QByteArray("{a = \"b\\") << false;
-    QTest::newRow("open comment") << QByteArray("{ /* a") << false;
-    QTest::newRow("more behind it") << QByteArray("{} {}") << false;
-    QTest::newRow("deep") << QByteArray(100'000, '(') << false;
-}
-
-void ProjectTest::propertyLists()
-{
-    QFETCH(QByteArray, text);
-    QTEST(readOpenStepList(text).has_value(), "sound");
 }
 
 QTEST_APPLESS_MAIN(ProjectTest)
