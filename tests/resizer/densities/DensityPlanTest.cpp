@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "resizer/densities/DensityPlan.h"
+#include "DensityFolder.h"
 #include "resizer/densities/DensityBatch.h"
 
 #include "foundation/WholeFile.h"
@@ -16,31 +16,15 @@
 using namespace lumora;
 using namespace Qt::StringLiterals;
 
-namespace
-{
-
-DensityRequest requestFor(const QString &layout)
-{
-    DensityRequest request;
-    request.layout = densityLayoutNamed(layout);
-    return request;
-}
-
-} // namespace
-
 /// The run writes exactly what is planned for a folder, and no file is lost.
-class DensityPlanTest : public QObject
+class DensityPlanTest : public QObject, private DensityFolder
 {
     Q_OBJECT
 
 private slots:
     void initTestCase() { installTexts(*qApp, QLocale(u"en_GB"_s)); }
 
-    void init()
-    {
-        m_folder = std::make_unique<QTemporaryDir>();
-        QVERIFY(m_folder->isValid());
-    }
+    void init() { renew(); }
 
     void everyMissingDensityIsPlanned_data()
     {
@@ -349,58 +333,9 @@ private slots:
     }
 
 private:
-    QString path(const QString &name) const { return m_folder->path() + u'/' + name; }
-    QString relative(const QString &file) const { return QDir(m_folder->path()).relativeFilePath(file); }
-    QByteArray content(const QString &name) const { return readWholeFile(path(name), 1 << 20).value(); }
-
-    void put(const QString &name, QSize size)
-    {
-        QVERIFY(QDir().mkpath(QFileInfo(path(name)).path()));
-        QVERIFY(putFlatPng(path(name), size, QColor(10, 20, 200)));
-    }
-    /// Its left half is red, the other empty.
-    void putDrawing(const QString &name)
-    {
-        QVERIFY(QDir().mkpath(QFileInfo(path(name)).path()));
-        QVERIFY(writeWholeFile(path(name), "<svg xmlns='http://www.w3.org/2000/svg' width='24' height='12'>"
-                                           "<path d='M0 0h12v12h-12z' fill='#f00'/></svg>")
-                    .ok());
-    }
-    void putWebP(const QString &name, QSize size)
-    {
-        QVERIFY(writeWholeFile(path(name), pictureFile(quarters(size.width(), size.height()), "webp")).ok());
-    }
-    int filesBelow() const
-    {
-        int count = 0;
-        for (QDirIterator files(m_folder->path(), QDir::Files, QDirIterator::Subdirectories); files.hasNext(); ++count)
-            files.next();
-        return count;
-    }
     /// Records a failure inside a function that must return a value.
     void expect(bool holds) { m_failed = m_failed || !holds; }
 
-    QStringList described(const DensityPlan &plan) const
-    {
-        QStringList lines;
-        for (const PlannedSource &source : plan.sources) {
-            for (const PlannedTarget &picture : source.pictures) {
-                QString line = relative(picture.target);
-                if (picture.written)
-                    line += u" %1x%2"_s.arg(picture.size.width()).arg(picture.size.height());
-                else
-                    line += u" kept"_s;
-                if (picture.rounded)
-                    line += u" rounded"_s;
-                lines << line;
-            }
-        }
-        for (const Failure &failure : plan.failures)
-            lines << failure.detail.words();
-        return lines;
-    }
-
-    std::unique_ptr<QTemporaryDir> m_folder;
     bool m_failed = false;
 };
 
