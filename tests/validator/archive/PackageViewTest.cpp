@@ -222,6 +222,7 @@ private slots:
         QTest::newRow("missing.app") << int(FailureCode::NotFound);
         QTest::newRow("no archive.ipa") << int(FailureCode::NotAnArchive);
         QTest::newRow("App.IPA") << int(FailureCode::NotAnArchive);
+        QTest::newRow("missing.IPA") << int(FailureCode::NotFound);
     }
     void opensByTheName()
     {
@@ -230,8 +231,10 @@ private slots:
         for (const QString &folder : {u"Some.app"_s, u"Some.xcarchive"_s, u"folder.ipa"_s})
             place.mkdir(folder);
         ::mkfifo(QFile::encodeName(place.filePath(u"pipe.ipa"_s)).constData(), 0600);
-        QFile file(place.filePath(u"file.app"_s));
-        QVERIFY(file.open(QIODevice::WriteOnly));
+        for (const QString &name : {u"file.app"_s, u"App.IPA"_s}) {
+            QFile file(place.filePath(name));
+            QVERIFY(file.open(QIODevice::WriteOnly));
+        }
         const auto source = openPackage(place.path() + u'/' + QString::fromUtf8(QTest::currentDataTag()));
         QCOMPARE(source ? -1 : int(source.failure().code), failure);
     }

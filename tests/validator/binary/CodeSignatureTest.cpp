@@ -22,10 +22,11 @@ FileDigests digestsOf(const QByteArray &content)
     return digesting.result();
 }
 
-/// The names are views into the keys of the argument.
+/// The files with these contents, and the link to the seal that old bundles have. The names are views into the keys of
+/// the argument.
 QMap<QStringView, BundleFile> filesOf(const QMap<QString, QByteArray> &contents)
 {
-    QMap<QStringView, BundleFile> files;
+    QMap<QStringView, BundleFile> files{{u"CodeResources", {{}, u"_CodeSignature/CodeResources"_s, true}}};
     for (auto file = contents.cbegin(); file != contents.cend(); ++file)
         files.insert(file.key(), {digestsOf(*file), {}, false});
     return files;
@@ -34,15 +35,10 @@ QMap<QStringView, BundleFile> filesOf(const QMap<QString, QByteArray> &contents)
 /// The files that the fixtures' seals cover.
 QMap<QString, QByteArray> sealedContents()
 {
-    return {{u"Lamp"_s, "binary"},
-            {u"Info.plist"_s, "info"},
-            {u"PkgInfo"_s, "APPL????"},
-            {u"lamp.png"_s, "picture"},
-            {u"a/b.txt"_s, "text"},
-            {u"de.lproj/x.strings"_s, "worte"},
-            {u".DS_Store"_s, "junk"},
-            {u"_CodeSignature/CodeResources"_s, "seal"},
-            {u"CodeResources"_s, "_CodeSignature/CodeResources"}};
+    return {{u"Lamp"_s, "binary"},      {u"Info.plist"_s, "info"},
+            {u"PkgInfo"_s, "APPL????"}, {u"lamp.png"_s, "picture"},
+            {u"a/b.txt"_s, "text"},     {u"de.lproj/x.strings"_s, "worte"},
+            {u".DS_Store"_s, "junk"},   {u"_CodeSignature/CodeResources"_s, "seal"}};
 }
 
 } // namespace
@@ -171,6 +167,8 @@ private slots:
         QTest::newRow("a missing file") << u"lamp.png"_s << QByteArray() << u"missing"_s;
         QTest::newRow("a missing translation") << u"de.lproj/x.strings"_s << QByteArray() << QString();
         QTest::newRow("a changed translation") << u"de.lproj/x.strings"_s << QByteArray("werte") << u"changed"_s;
+        QTest::newRow("a file in place of the old link to the seal")
+            << u"CodeResources"_s << QByteArray("_CodeSignature/CodeResources") << u"extra"_s;
         QTest::newRow("one file more") << u"more.txt"_s << QByteArray("more") << u"extra"_s;
         QTest::newRow("the binary, which seals itself") << u"Lamp"_s << QByteArray("other") << QString();
         QTest::newRow("what the rules leave out") << u"sub/.DS_Store"_s << QByteArray("junk") << QString();
