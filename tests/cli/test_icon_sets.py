@@ -50,7 +50,8 @@ class Browser:
             ["chromium", "--headless=new", "--no-sandbox", "--disable-gpu", "--disable-dev-shm-usage", "--no-first-run",
              "--disable-extensions", "--disable-background-networking", f"--user-data-dir={profile}",
              "--remote-debugging-pipe", "about:blank"],
-            preexec_fn=place, close_fds=False, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+            preexec_fn=place, close_fds=False, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
+            env=os.environ | {"HOME": str(profile), "TMPDIR": str(profile)})
         os.close(to_browser)
         os.close(from_browser)
         self.output, self.input = ours, os.fdopen(theirs, "rb", 0)

@@ -48,7 +48,7 @@ class InTheBrowser(unittest.TestCase):
         subprocess.run(["chromium", "--headless", "--no-sandbox", "--disable-gpu", "--hide-scrollbars",
                         "--force-device-scale-factor=1", f"--user-data-dir={folder / 'profile'}",
                         f"--window-size={window[0]},{window[1]}", f"--screenshot={shot}", page.as_uri()],
-                       check=True, capture_output=True, timeout=110, env=os.environ | {"HOME": str(folder)})
+                       check=True, capture_output=True, timeout=110, env=os.environ | {"HOME": str(folder), "TMPDIR": str(folder)})
         subprocess.run(["convert", shot, "-crop", f"{width}x{height}+0+0", "+repage", shot], check=True)
         drawn, meant = pixels(shot, size), pixels(folder / f"placeholder_{text}.png", size)
         self.assertEqual(self.strangers(drawn, meant, size), [])
