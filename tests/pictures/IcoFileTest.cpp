@@ -41,6 +41,7 @@ class IcoFileTest : public QObject
 private slots:
     void entries();
     void anotherProgramReadsEveryPicture();
+    void theMaskHidesOnlyWhatIsTransparent();
     void damaged_data();
     void damaged();
 };
@@ -77,6 +78,28 @@ void IcoFileTest::anotherProgramReadsEveryPicture()
                 if (wanted.pixelColor(x, y).alpha() > 0)
                     QCOMPARE(picture.pixelColor(x, y), wanted.pixelColor(x, y));
             }
+        }
+    }
+}
+
+/// Readers that do not know alpha use the mask alone; the reader above ignores it.
+void IcoFileTest::theMaskHidesOnlyWhatIsTransparent()
+{
+    constexpr int edge = 33;
+    constexpr qsizetype maskRowBytes = 8;
+    QImage picture(edge, edge, QImage::Format_ARGB32_Premultiplied);
+    picture.fill(Qt::transparent);
+    picture.setPixelColor(9, 0, QColor(10, 20, 30));
+    picture.setPixelColor(32, 4, QColor(200, 100, 50, 1));
+    const QByteArray file = icoFile(std::array{IcoPicture{picture, {}}});
+    const QByteArray mask = file.last(edge * maskRowBytes);
+    for (int y = 0; y < edge; ++y) {
+        // The lowest row comes first.
+        const QByteArray row = mask.sliced((edge - 1 - y) * maskRowBytes, maskRowBytes);
+        for (int x = 0; x < edge; ++x) {
+            const bool hidden = (static_cast<uchar>(row[x / 8]) >> (7 - x % 8) & 1) != 0;
+            const bool visible = (x == 9 && y == 0) || (x == 32 && y == 4);
+            QVERIFY2(hidden == !visible, qPrintable(u"%1, %2"_s.arg(x).arg(y)));
         }
     }
 }
