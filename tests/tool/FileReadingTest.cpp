@@ -13,6 +13,19 @@
 using namespace Qt::StringLiterals;
 using namespace lumora;
 
+namespace
+{
+
+/// Releases the semaphore when the thread that has it ends.
+struct AtThreadEnd
+{
+    std::binary_semaphore *semaphore = nullptr;
+
+    ~AtThreadEnd() { semaphore->release(); }
+};
+
+} // namespace
+
 class FileReadingTest : public QObject
 {
     Q_OBJECT
@@ -94,6 +107,22 @@ private slots:
         m_share->release(first);
         read(second);
         QTRY_COMPARE(m_taken, (QStringList{u"second"_s, u"second"_s}));
+    }
+
+    void aResultOnItsWayIsDroppedWhenANewerReadBegins()
+    {
+        std::binary_semaphore isPosted{0};
+        const QString second = put(u"second"_s);
+        m_share->releaseAll();
+        m_reading->read(put(u"first"_s), 100, [&](const Result<QByteArray> &) -> FileReading::Conclusion {
+            thread_local AtThreadEnd end;
+            end.semaphore = &isPosted;
+            return [this] { m_taken << u"first"_s; };
+        });
+        isPosted.acquire();
+        read(second);
+        QTRY_VERIFY(!m_reading->isReading());
+        QCOMPARE(m_taken, QStringList{u"second"_s});
     }
 
     void aStoppedReadIsDropped()
