@@ -16,27 +16,6 @@ namespace
 
 constexpr int labelWidth = 18;
 
-QStringList sizeTexts(const QList<int> &edges)
-{
-    QStringList texts;
-    for (const int edge : edges)
-        texts += sizeText(QSize(edge, edge));
-    return texts;
-}
-
-QStringList sizeTexts(const QList<QSize> &sizes)
-{
-    QStringList texts;
-    for (const QSize size : sizes)
-        texts += sizeText(size);
-    return texts;
-}
-
-QString buildText(const PackageFacts &facts)
-{
-    return buildKind(facts) == BuildKind::Debug ? u"debug"_s : u"release"_s;
-}
-
 QString factLine(const QString &label, const QString &value)
 {
     return u"  "_s + label.leftJustified(labelWidth) + (value.isEmpty() ? u"-"_s : printableText(value));
@@ -81,12 +60,12 @@ QStringList reportLines(const QString &file, const PackageReport &report)
         factLine(commandText("CLI_FACT_PLATFORM"), facts.appPlatform()),
         factLine(commandText("CLI_FACT_MINIMUM_OS"), facts.appMinimumOSVersion()),
         factLine(commandText("CLI_FACT_IDENTIFIER"), facts.appBundleIdentifier()),
-        factLine(commandText("CLI_FACT_BUILD"), buildText(facts)),
+        factLine(commandText("CLI_FACT_BUILD"), buildName(buildKind(facts))),
         factLine(commandText("CLI_FACT_LOCALIZATIONS"), facts.appLocalizations.join(u", "_s)),
         factLine(commandText("CLI_FACT_URL_SCHEMES"), schemes.join(u", "_s)),
         factLine(commandText("CLI_FACT_FACEBOOK"), facts.appFacebookID().value_or(QString())),
         checkLine(findings.missingIcons.isEmpty(), commandText("CLI_CHECK_ICONS"),
-                  commandText("CLI_CHECK_MISSING", {{"[SIZES]", sizeTexts(findings.missingIcons).join(u", "_s)}})),
+                  commandText("CLI_CHECK_MISSING", {{"[SIZES]", squareTexts(findings.missingIcons).join(u", "_s)}})),
         checkLine(
             findings.missingLaunchImages.isEmpty(), commandText("CLI_CHECK_LAUNCH_IMAGES"),
             commandText("CLI_CHECK_NONE_OF", {{"[SIZES]", sizeTexts(findings.missingLaunchImages).join(u", "_s)}})),

@@ -79,4 +79,20 @@ QString sizeText(QSize size)
     return u"%1x%2"_s.arg(size.width()).arg(size.height());
 }
 
+QStringList sizeTexts(const QList<QSize> &sizes)
+{
+    QStringList texts;
+    for (const QSize size : sizes)
+        texts += sizeText(size);
+    return texts;
+}
+
+QStringList squareTexts(const QList<int> &edges)
+{
+    QStringList texts;
+    for (const int edge : edges)
+        texts += sizeText(QSize(edge, edge));
+    return texts;
+}
+
 } // namespace lumora

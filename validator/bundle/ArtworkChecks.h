@@ -35,5 +35,8 @@ QList<QSize> missingLaunchImages(PlatformType platform, const QList<QSize> &cand
 
 /// "57x57".
 QString sizeText(QSize size);
+QStringList sizeTexts(const QList<QSize> &sizes);
+/// Edge lengths as the texts of square sizes.
+QStringList squareTexts(const QList<int> &edges);
 
 } // namespace lumora

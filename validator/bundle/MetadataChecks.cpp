@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "MetadataChecks.h"
 
+using namespace Qt::StringLiterals;
+
 namespace lumora
 {
 
@@ -8,6 +10,11 @@ BuildKind buildKind(const PackageFacts &facts)
 {
     const bool namesDevices = !facts.provisioningProfile || facts.provisioningProfile->contains(u"ProvisionedDevices");
     return namesDevices ? BuildKind::Debug : BuildKind::Release;
+}
+
+QString buildName(BuildKind kind)
+{
+    return kind == BuildKind::Debug ? u"debug"_s : u"release"_s;
 }
 
 MetadataVerdicts metadataVerdicts(const PackageFacts &facts)

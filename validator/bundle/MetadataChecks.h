@@ -24,6 +24,8 @@ struct MetadataVerdicts
 };
 
 BuildKind buildKind(const PackageFacts &facts);
+/// "debug" or "release", as reports for programs write it.
+QString buildName(BuildKind kind);
 
 /// The identifier is valid when it occurs anywhere in the profile's text. So "com.example" is valid in a profile for
 /// "com.example.app", while a wildcard is only valid for an app with exactly that identifier. A profile that was never

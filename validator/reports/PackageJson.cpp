@@ -14,27 +14,6 @@ namespace lumora
 namespace
 {
 
-QStringList sizeTexts(const QList<int> &edges)
-{
-    QStringList texts;
-    for (const int edge : edges)
-        texts += sizeText(QSize(edge, edge));
-    return texts;
-}
-
-QStringList sizeTexts(const QList<QSize> &sizes)
-{
-    QStringList texts;
-    for (const QSize size : sizes)
-        texts += sizeText(size);
-    return texts;
-}
-
-QString buildText(const PackageFacts &facts)
-{
-    return buildKind(facts) == BuildKind::Debug ? u"debug"_s : u"release"_s;
-}
-
 QJsonValue textOrNull(const QString &text)
 {
     return text.isEmpty() ? QJsonValue(QJsonValue::Null) : QJsonValue(text);
@@ -149,7 +128,7 @@ QJsonObject reportJson(const QString &file, const PackageReport &report)
     const MetadataVerdicts verdicts = metadataVerdicts(facts);
     const QJsonObject checks{
         {u"icons"_s, QJsonObject{{u"valid"_s, findings.missingIcons.isEmpty()},
-                                 {u"missing"_s, QJsonArray::fromStringList(sizeTexts(findings.missingIcons))}}},
+                                 {u"missing"_s, QJsonArray::fromStringList(squareTexts(findings.missingIcons))}}},
         {u"launchImages"_s,
          QJsonObject{{u"valid"_s, findings.missingLaunchImages.isEmpty()},
                      {u"missing"_s, QJsonArray::fromStringList(sizeTexts(findings.missingLaunchImages))}}},
@@ -166,7 +145,7 @@ QJsonObject reportJson(const QString &file, const PackageReport &report)
         {u"platform"_s, facts.appPlatform()},
         {u"minimumOS"_s, facts.appMinimumOSVersion()},
         {u"bundleIdentifier"_s, facts.appBundleIdentifier()},
-        {u"build"_s, buildText(facts)},
+        {u"build"_s, buildName(buildKind(facts))},
         {u"localizations"_s, QJsonArray::fromStringList(facts.appLocalizations)},
         {u"urlSchemes"_s, QJsonArray::fromStringList(facts.appURLSchemes().value_or(QStringList()))},
         {u"facebookAppID"_s, facebookAppID ? QJsonValue(*facebookAppID) : QJsonValue(QJsonValue::Null)},

@@ -50,22 +50,6 @@ constexpr Rule localizations{"classic-localizations",
                              "",
                              nullptr};
 
-QString squareTexts(const QList<int> &edges)
-{
-    QStringList texts;
-    for (const int edge : edges)
-        texts += sizeText(QSize(edge, edge));
-    return texts.join(u", "_s);
-}
-
-QString sizeTexts(const QList<QSize> &sizes)
-{
-    QStringList texts;
-    for (const QSize size : sizes)
-        texts += sizeText(size);
-    return texts.join(u", "_s);
-}
-
 RuleVerdict verdict(const Rule &rule, bool valid, const QString &evidence)
 {
     if (valid)
@@ -79,8 +63,9 @@ QList<RuleVerdict> classicVerdicts(const PackageReport &report)
 {
     const ArtworkFindings &findings = report.artwork.findings;
     const MetadataVerdicts verdicts = metadataVerdicts(report.facts);
-    return {verdict(icons, findings.missingIcons.isEmpty(), squareTexts(findings.missingIcons)),
-            verdict(launchImages, findings.missingLaunchImages.isEmpty(), sizeTexts(findings.missingLaunchImages)),
+    return {verdict(icons, findings.missingIcons.isEmpty(), squareTexts(findings.missingIcons).join(u", "_s)),
+            verdict(launchImages, findings.missingLaunchImages.isEmpty(),
+                    sizeTexts(findings.missingLaunchImages).join(u", "_s)),
             verdict(identifier, verdicts.bundleIdentifierValid, report.facts.appBundleIdentifier()),
             verdict(localizations, verdicts.localizationsValid, u"none"_s)};
 }
