@@ -2,10 +2,9 @@
 #include "PopoverAlert.h"
 
 #include "PopoverAlertView.h"
-#include "tool/style/PopoverStyle.h"
+#include "QuestionPopover.h"
 #include "widgets/buttons/IconButton.h"
 #include "widgets/popover/SFBPopover.h"
-#include "widgets/style/Palette.h"
 
 #include <QEvent>
 
@@ -40,7 +39,7 @@ std::shared_ptr<PopoverAlert> PopoverAlert::create()
 
 PopoverAlert::~PopoverAlert()
 {
-    retirePopover();
+    retirePopover(std::move(m_parentPopover));
 }
 
 void PopoverAlert::runAsPopoverForView(QWidget *view, CompletionBlock withCompletionBlock)
@@ -55,22 +54,17 @@ void PopoverAlert::runAsPopoverForView(QWidget *view, RectEdge, CompletionBlock 
         m_targetView->removeEventFilter(this);
     m_targetView = view;
     view->installEventFilter(this);
-    retirePopover();
+    retirePopover(std::move(m_parentPopover));
     m_view = new PopoverAlertView(*this);
     for (IconButton *button : m_view->buttons())
         connect(button, &IconButton::clicked, this, [this, button] { stopSynchronousPopoverAlert(button); });
 
-    m_parentPopover = std::make_unique<SFBPopover>(m_view);
-    stylePopover(*m_parentPopover);
-    // A question stays until it is answered.
-    m_parentPopover->setClosesWhenApplicationBecomesInactive(false);
-    m_parentPopover->setClosesWhenPopoverResignsKey(false);
-    m_parentPopover->setBorderColor(palette::chromeText);
+    m_parentPopover = makeQuestionPopover(m_view);
 
     Alerts &all = alerts();
     if (all.current != nullptr && all.current.get() != this) {
         all.queue.push_back(all.current);
-        all.current->retirePopover();
+        retirePopover(std::move(all.current->m_parentPopover));
     }
     showOnView();
     all.currentPopover = m_parentPopover.get();
@@ -105,7 +99,7 @@ void PopoverAlert::stopSynchronousPopoverAlert(const IconButton *button)
     if (completion)
         completion(response);
     if (m_parentPopover.get() == answered)
-        retirePopover();
+        retirePopover(std::move(m_parentPopover));
     Alerts &all = alerts();
     // An alert that was replaced by one that its own completion ran is already answered.
     std::erase(all.queue, self);
@@ -114,20 +108,6 @@ void PopoverAlert::stopSynchronousPopoverAlert(const IconButton *button)
     all.currentPopover = nullptr;
     all.current.reset();
     checkForPreviouslyShownAlerts();
-}
-
-void PopoverAlert::retirePopover()
-{
-    SFBPopover *popover = m_parentPopover.release();
-    if (popover == nullptr)
-        return;
-    // Deleted later, since one of its buttons may be delivering the click that closes it.
-    if (!popover->isVisible()) {
-        popover->deleteLater();
-        return;
-    }
-    connect(popover, &SFBPopover::closed, popover, &QObject::deleteLater);
-    popover->closePopover();
 }
 
 QList<IconButton *> PopoverAlert::buttons() const

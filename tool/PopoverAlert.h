@@ -71,8 +71,6 @@ private:
 
     /// Opens the popover if its view is visible.
     void showOnView();
-    /// Closes the popover, which fades out and deletes itself.
-    void retirePopover();
 
     QPointer<QWidget> m_targetView;
     CompletionBlock m_completionBlock;

@@ -78,18 +78,6 @@ QJsonArray classicFiles(const std::optional<IconExport> &result)
     return files;
 }
 
-/// Reads back the folders that sets were written into.
-IconCheck checkSets(const QString &folder, const QList<TodaySet> &sets)
-{
-    IconCheck check;
-    for (const TodaySet set : sets) {
-        const Result<IconCheck> part = checkIcons(folder + u'/' + QLatin1StringView(infoOf(set).folder));
-        if (part)
-            check.append(part.value());
-    }
-    return check;
-}
-
 /// The first failure whole, the others by their files.
 void complainOf(Console &console, const QList<Failure> &failures, const QString &folder)
 {

@@ -121,4 +121,15 @@ Result<IconCheck> checkIcons(const QString &folder)
     return check;
 }
 
+IconCheck checkSets(const QString &folder, const QList<TodaySet> &sets)
+{
+    IconCheck check;
+    for (const TodaySet set : sets) {
+        const Result<IconCheck> part = checkIcons(folder + u'/' + QLatin1StringView(infoOf(set).folder));
+        if (part)
+            check.append(part.value());
+    }
+    return check;
+}
+
 } // namespace lumora

@@ -43,18 +43,6 @@ void addFindings(const IconCheck &check, const QString &folder, JobResult &resul
     }
 }
 
-/// Reads back what was written.
-IconCheck checkSets(const QString &folder, const QList<TodaySet> &sets)
-{
-    IconCheck check;
-    for (const TodaySet set : sets) {
-        const Result<IconCheck> part = checkIcons(folder + u'/' + QLatin1StringView(infoOf(set).folder));
-        if (part)
-            check.append(part.value());
-    }
-    return check;
-}
-
 /// Names only the folder itself: the pane has little room beside the buttons.
 JobResult filesResult(qsizetype written, qsizetype wanted, const QString &folder, const std::vector<Failure> &failures)
 {

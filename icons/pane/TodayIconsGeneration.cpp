@@ -7,7 +7,7 @@
 #include "TodayIcons.h"
 #include "tool/FailureText.h"
 #include "tool/JobResultView.h"
-#include "tool/style/PopoverStyle.h"
+#include "tool/QuestionPopover.h"
 #include "widgets/buttons/HoverButton.h"
 #include "widgets/popover/SFBPopover.h"
 #include "widgets/progress/LBProgressBar.h"
@@ -89,12 +89,7 @@ void TodayIcons::begin(const QString &folder)
 void TodayIcons::ask(const ProjectOffer &offer)
 {
     m_question = new ProjectQuestion(offer.projects, offer.files);
-    m_popover = std::make_unique<SFBPopover>(m_question);
-    stylePopover(*m_popover);
-    // A question stays until it is answered.
-    m_popover->setClosesWhenApplicationBecomesInactive(false);
-    m_popover->setClosesWhenPopoverResignsKey(false);
-    m_popover->setBorderColor(palette::chromeText);
+    m_popover = makeQuestionPopover(m_question);
     connect(m_question, &ProjectQuestion::intoProjectWanted, m_generation, &SetGeneration::writeIntoProject);
     connect(m_question, &ProjectQuestion::ownFolderWanted, m_generation, &SetGeneration::writeIntoOwnFolder);
     connect(m_question, &ProjectQuestion::declined, m_generation, &SetGeneration::cancel);
@@ -120,16 +115,7 @@ void TodayIcons::showQuestion()
 void TodayIcons::closeQuestion()
 {
     m_question = nullptr;
-    SFBPopover *popover = m_popover.release();
-    if (popover == nullptr)
-        return;
-    // Deleted later, since one of its buttons may be delivering the click that closes it.
-    if (!popover->isVisible()) {
-        popover->deleteLater();
-        return;
-    }
-    connect(popover, &SFBPopover::closed, popover, &QObject::deleteLater);
-    popover->closePopover();
+    retirePopover(std::move(m_popover));
 }
 
 void TodayIcons::runEnded()

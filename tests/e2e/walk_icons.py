@@ -8,28 +8,19 @@ import tempfile
 from pathlib import Path
 
 from desktop import wait_for
+from sample_files import files_below, photo
 from window_system import Desktop
 
 
 PLATFORMS = ("iPhone", "iPad", "Mac", "Android", "Web touch", "Favicon")
 
 
-def picture(path, size):
-    """A photo-like picture: plasma noise, the same on every run."""
-    subprocess.run(["convert", "-seed", "7", "-size", f"{size}x{size}", "plasma:tomato-steelblue", str(path)],
-                   check=True)
-    return path
-
-
-def files_below(folder):
-    return {str(path.relative_to(folder)): path.read_bytes() for path in folder.rglob("*") if path.is_file()}
-
-
 class Walk:
     def __init__(self, program, desktop, scratch):
         self.program, self.desktop, self.scratch = program, desktop, scratch
-        self.mine, self.other, self.small = (picture(scratch / "mine.png", 1024), picture(scratch / "other.png", 1024),
-                                             picture(scratch / "small.png", 512))
+        self.mine = photo(scratch / "mine.png", 1024, 1024)
+        self.other = photo(scratch / "other.png", 1024, 1024)
+        self.small = photo(scratch / "small.png", 512, 512)
         self.lumora = desktop.start()
         desktop.move_window(self.lumora, 100, 100)
         self.lumora.wait_shown("Source icon")

@@ -9,6 +9,7 @@ import tempfile
 from pathlib import Path
 
 from desktop import wait_for
+from sample_files import files_below
 from walk_accessibility import nameless
 from window_system import Desktop
 
@@ -17,10 +18,6 @@ def disk(path, ground):
     subprocess.run(["convert", "-size", "600x600", f"xc:{ground}", "-fill", "tomato", "-draw", "circle 300,300 300,60", str(path)],
                    check=True)
     return path
-
-
-def files_below(folder):
-    return {str(path.relative_to(folder)): path.read_bytes() for path in folder.rglob("*") if path.is_file()}
 
 
 class Walk:

@@ -8,14 +8,11 @@ import tempfile
 from pathlib import Path
 
 from desktop import wait_for
+from sample_files import files_below
 from window_system import Desktop
 
 SUBTITLES = {"ios": "Nine sizes for iPhone, iPod and iPad", "mac": "Four sizes for icons and screens",
              "custom": "One picture, 1 to 9999 pixels a side"}
-
-
-def files_below(folder):
-    return {str(path.relative_to(folder)): path.read_bytes() for path in folder.rglob("*") if path.is_file()}
 
 
 class Walk:

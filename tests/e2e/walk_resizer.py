@@ -8,29 +8,20 @@ import tempfile
 from pathlib import Path
 
 from desktop import wait_for
+from sample_files import files_below, photo
 from window_system import Desktop
 
 DROP_AREA = "Drop area for double-resolution pictures"
 PROGRESS = "Progress of the down-scaling"
 
 
-def picture(path, width, height, seed):
-    subprocess.run(["convert", "-seed", str(seed), "-size", f"{width}x{height}", "plasma:tomato-steelblue", str(path)],
-                   check=True)
-    return path
-
-
-def files_below(folder):
-    return {str(path.relative_to(folder)): path.read_bytes() for path in folder.rglob("*") if path.is_file()}
-
-
 class Walk:
     def __init__(self, program, desktop, scratch):
         self.program, self.desktop, self.scratch = program, desktop, scratch
         self.sources = self.folder("sources")
-        self.button = picture(self.sources / "button@2x.png", 200, 80, 1)
-        self.logo = picture(self.sources / "logo-hd@2x.png", 57, 57, 2)
-        self.plain = picture(self.sources / "plain.png", 10, 10, 3)
+        self.button = photo(self.sources / "button@2x.png", 200, 80, 1)
+        self.logo = photo(self.sources / "logo-hd@2x.png", 57, 57, 2)
+        self.plain = photo(self.sources / "plain.png", 10, 10, 3)
         self.lumora = desktop.start("--tool=resizer")
         desktop.move_window(self.lumora, 100, 100)
         self.lumora.wait_shown("Lumora | Retina down-scaler")
@@ -99,7 +90,7 @@ class Walk:
 
     def closed_in_the_middle(self):
         many = self.folder("many@2x")
-        first = picture(many / "p000.png", 1200, 900, 4)
+        first = photo(many / "p000.png", 1200, 900, 4)
         for number in range(1, 200):
             (many / f"p{number:03}.png").write_bytes(first.read_bytes())
         half = self.commanded(first)["p000.png"]

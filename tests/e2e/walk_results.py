@@ -2,18 +2,13 @@
 """What the panes say after a job: the result line with its way to the folder, by keyboard, and how long it
 stays; a batch of the down-scaler by drag."""
 
-import subprocess
 import sys
 import tempfile
 from pathlib import Path
 
 from desktop import wait_for
+from sample_files import photo
 from window_system import Desktop
-
-
-def picture(path, size):
-    subprocess.run(["convert", "-size", size, "plasma:tomato-steelblue", str(path)], check=True)
-    return path
 
 
 def export(desktop, lumora, scratch):
@@ -39,7 +34,7 @@ def export(desktop, lumora, scratch):
 def batch(desktop, lumora, scratch):
     art = scratch / "art"
     art.mkdir()
-    files = [picture(art / "a@2x.png", "101x75"), picture(art / "plain.png", "10x10")]
+    files = [photo(art / "a@2x.png", 101, 75), photo(art / "plain.png", 10, 10)]
     lumora.activate()
     desktop.key("ctrl+3")
     area = wait_for("the drop area", lambda: lumora.controls(None, "Drop area for double-resolution pictures"))[0]
