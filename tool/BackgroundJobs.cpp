@@ -1,8 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "BackgroundJobs.h"
 
+#include "foundation/Log.h"
+
 #include <QCoreApplication>
 #include <QEvent>
+
+#include <condition_variable>
+#include <ctime>
+#include <deque>
+#include <list>
+#include <mutex>
+#include <thread>
+#include <utility>
 
 #include <pthread.h>
 
@@ -18,56 +28,172 @@ QEvent::Type postedEvent()
     return static_cast<QEvent::Type>(type);
 }
 
+/// The whole process uses at least that much processor time while a job's own threads work for the job; the rest of
+/// the program, which only waits, uses less within `BackgroundJobs::patience`.
+constexpr std::chrono::milliseconds workOfOtherThreads{100};
+
+std::chrono::nanoseconds processorTime(clockid_t clock)
+{
+    timespec time = {};
+    if (::clock_gettime(clock, &time) != 0)
+        return {};
+    return std::chrono::seconds(time.tv_sec) + std::chrono::nanoseconds(time.tv_nsec);
+}
+
+/// The thread must not have ended.
+std::chrono::nanoseconds processorTime(std::thread &thread)
+{
+    clockid_t clock = {};
+    return ::pthread_getcpuclockid(thread.native_handle(), &clock) == 0 ? processorTime(clock)
+                                                                        : std::chrono::nanoseconds();
+}
+
 } // namespace
+
+/// What the jobs' threads share with the BackgroundJobs. It outlives the BackgroundJobs if a job is abandoned.
+struct BackgroundJobsQueue
+{
+    struct Worker
+    {
+        std::thread thread;
+        bool finished = false;
+    };
+
+    BackgroundJobsQueue(BackgroundJobs *receiver, BackgroundJobs::Order jobOrder, std::string name)
+        : order(jobOrder), label(std::move(name)), jobs(receiver)
+    {
+    }
+
+    void run(Worker &worker);
+    /// The processor time of all jobs that run.
+    std::chrono::nanoseconds work();
+
+    const BackgroundJobs::Order order;
+    const std::string label;
+    std::stop_source stop; ///< the window is closing
+    // The standard library's locks, not the toolkit's: the thread sanitizer sees them without an instrumented toolkit.
+    std::mutex mutex; ///< guards everything below
+    std::condition_variable workerFinished;
+    BackgroundJobs *jobs; ///< null once it is destroyed
+    std::deque<BackgroundJobs::Work> waiting;
+    std::deque<std::function<void()>> posted;
+    std::list<Worker> workers;
+    int running = 0;
+};
+
+void BackgroundJobsQueue::run(Worker &worker)
+{
+    if (!label.empty())
+        ::pthread_setname_np(::pthread_self(), label.c_str());
+    std::unique_lock lock(mutex);
+    while (!waiting.empty()) {
+        {
+            const BackgroundJobs::Work job = std::move(waiting.front());
+            waiting.pop_front();
+            lock.unlock();
+            job(BackgroundJob(*this));
+        }
+        lock.lock();
+    }
+    worker.finished = true;
+    --running;
+    workerFinished.notify_all();
+}
+
+std::chrono::nanoseconds BackgroundJobsQueue::work()
+{
+    std::chrono::nanoseconds sum = {};
+    for (Worker &worker : workers) {
+        if (!worker.finished)
+            sum += processorTime(worker.thread);
+    }
+    return sum;
+}
 
 void BackgroundJob::post(std::function<void()> onMainThread) const
 {
-    {
-        const std::lock_guard lock(m_jobs.m_mutex);
-        m_jobs.m_posted.push_back(std::move(onMainThread));
-    }
-    QCoreApplication::postEvent(&m_jobs, new QEvent(postedEvent()));
+    const std::lock_guard lock(m_queue.mutex);
+    if (m_queue.jobs == nullptr)
+        return;
+    m_queue.posted.push_back(std::move(onMainThread));
+    QCoreApplication::postEvent(m_queue.jobs, new QEvent(postedEvent()));
 }
 
 std::stop_token BackgroundJob::stopToken() const
 {
-    return m_jobs.m_stop.get_token();
+    return m_queue.stop.get_token();
 }
 
-BackgroundJobs::BackgroundJobs(Order order, const std::string &label) : m_order(order), m_label(label)
+BackgroundJobs::BackgroundJobs(Order order, const std::string &label, std::chrono::milliseconds endPatience)
+    : m_endPatience(endPatience), m_queue(std::make_shared<BackgroundJobsQueue>(this, order, label))
 {
     postedEvent();
 }
 
 BackgroundJobs::~BackgroundJobs()
 {
-    m_stop.request_stop();
+    m_queue->stop.request_stop();
     {
-        const std::lock_guard lock(m_mutex);
+        const std::lock_guard lock(m_queue->mutex);
         // A concurrent job counts as started even if its thread has not begun it yet.
-        if (m_order == Order::Serial)
-            m_waiting.clear();
+        if (m_queue->order == Order::Serial)
+            m_queue->waiting.clear();
     }
-    waitForDone();
+    if (!waitForEnd())
+        logLine(QStringLiteral("Ended while a file does not answer"));
     joinFinished();
+    std::deque<std::function<void()>> posted;
+    const std::lock_guard lock(m_queue->mutex);
+    posted.swap(m_queue->posted);
 }
 
 void BackgroundJobs::start(Work work)
 {
     joinFinished();
-    const std::lock_guard lock(m_mutex);
-    m_waiting.push_back(std::move(work));
-    if (m_order == Order::Serial && m_running > 0)
+    const std::lock_guard lock(m_queue->mutex);
+    m_queue->waiting.push_back(std::move(work));
+    if (m_queue->order == Order::Serial && m_queue->running > 0)
         return;
-    ++m_running;
-    Worker &worker = m_workers.emplace_back();
-    worker.thread = std::thread([this, &worker] { run(worker); });
+    ++m_queue->running;
+    BackgroundJobsQueue::Worker &worker = m_queue->workers.emplace_back();
+    worker.thread = std::thread([queue = m_queue, &worker] { queue->run(worker); });
 }
 
 void BackgroundJobs::waitForDone()
 {
-    std::unique_lock lock(m_mutex);
-    m_workerFinished.wait(lock, [this] { return m_running == 0; });
+    std::unique_lock lock(m_queue->mutex);
+    m_queue->workerFinished.wait(lock, [this] { return m_queue->running == 0; });
+}
+
+/// Waits for all jobs, or abandons those that do nothing for too long; returns whether all have ended.
+bool BackgroundJobs::waitForEnd()
+{
+    using namespace std::chrono_literals;
+    using Clock = std::chrono::steady_clock;
+
+    std::unique_lock lock(m_queue->mutex);
+    std::chrono::nanoseconds jobs = m_queue->work();
+    std::chrono::nanoseconds process = processorTime(CLOCK_PROCESS_CPUTIME_ID);
+    Clock::time_point lastSign = Clock::now();
+    while (!m_queue->workerFinished.wait_for(lock, 100ms, [this] { return m_queue->running == 0; })) {
+        const std::chrono::nanoseconds newJobs = m_queue->work();
+        const std::chrono::nanoseconds newProcess = processorTime(CLOCK_PROCESS_CPUTIME_ID);
+        if (newJobs != jobs || newProcess - process >= workOfOtherThreads) {
+            jobs = newJobs;
+            process = newProcess;
+            lastSign = Clock::now();
+        }
+        if (Clock::now() - lastSign < m_endPatience)
+            continue;
+        m_queue->jobs = nullptr;
+        for (BackgroundJobsQueue::Worker &worker : m_queue->workers) {
+            if (!worker.finished)
+                worker.thread.detach();
+        }
+        return false;
+    }
+    m_queue->jobs = nullptr;
+    return true;
 }
 
 bool BackgroundJobs::event(QEvent *event)
@@ -76,48 +202,32 @@ bool BackgroundJobs::event(QEvent *event)
         return QObject::event(event);
     std::function<void()> next;
     {
-        const std::lock_guard lock(m_mutex);
-        if (m_posted.empty())
+        const std::lock_guard lock(m_queue->mutex);
+        if (m_queue->posted.empty())
             return true;
-        next = std::move(m_posted.front());
-        m_posted.pop_front();
+        next = std::move(m_queue->posted.front());
+        m_queue->posted.pop_front();
     }
     next();
     return true;
 }
 
-void BackgroundJobs::run(Worker &worker)
-{
-    if (!m_label.empty())
-        ::pthread_setname_np(::pthread_self(), m_label.c_str());
-    std::unique_lock lock(m_mutex);
-    while (!m_waiting.empty()) {
-        {
-            const Work work = std::move(m_waiting.front());
-            m_waiting.pop_front();
-            lock.unlock();
-            work(BackgroundJob(*this));
-        }
-        lock.lock();
-    }
-    worker.finished = true;
-    --m_running;
-    m_workerFinished.notify_all();
-}
-
 void BackgroundJobs::joinFinished()
 {
-    std::list<Worker> finished;
+    std::list<BackgroundJobsQueue::Worker> finished;
     {
-        const std::lock_guard lock(m_mutex);
-        for (auto worker = m_workers.begin(); worker != m_workers.end();) {
+        const std::lock_guard lock(m_queue->mutex);
+        for (auto worker = m_queue->workers.begin(); worker != m_queue->workers.end();) {
             const auto current = worker++;
             if (current->finished)
-                finished.splice(finished.end(), m_workers, current);
+                finished.splice(finished.end(), m_queue->workers, current);
         }
     }
-    for (Worker &worker : finished)
-        worker.thread.join();
+    for (BackgroundJobsQueue::Worker &worker : finished) {
+        // An abandoned job may have ended meanwhile.
+        if (worker.thread.joinable())
+            worker.thread.join();
+    }
 }
 
 } // namespace lumora

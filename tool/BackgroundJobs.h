@@ -3,19 +3,17 @@
 
 #include <QObject>
 
-#include <condition_variable>
-#include <deque>
+#include <chrono>
 #include <functional>
-#include <list>
-#include <mutex>
+#include <memory>
 #include <stop_token>
 #include <string>
-#include <thread>
 
 namespace lumora
 {
 
 class BackgroundJobs;
+struct BackgroundJobsQueue;
 
 /// A running job's connection to the main thread. Used on the job's own thread only.
 class BackgroundJob
@@ -30,10 +28,10 @@ public:
     std::stop_token stopToken() const;
 
 private:
-    friend class BackgroundJobs;
-    explicit BackgroundJob(BackgroundJobs &jobs) : m_jobs(jobs) {}
+    friend struct BackgroundJobsQueue;
+    explicit BackgroundJob(BackgroundJobsQueue &queue) : m_queue(queue) {}
 
-    BackgroundJobs &m_jobs;
+    BackgroundJobsQueue &m_queue;
 };
 
 /// Work off the main thread for one controller.
@@ -47,8 +45,10 @@ private:
 ///
 /// A job copies the values it needs into its closure and uses nothing else; the closure captures `this` only for the
 /// posted functions. The destructor waits for the jobs that were begun, so that no file is left half-written. It drops
-/// serial jobs that were not begun and posted functions that have not run. Make the BackgroundJobs the controller's
-/// last member, so that it is destroyed first. Create, use and destroy it on the main thread.
+/// serial jobs that were not begun and posted functions that have not run. It abandons jobs that do nothing for
+/// `patience`: a write to a share that never answers must not keep the program alive. An abandoned job continues if the
+/// call returns after all, so its closure may refer to nothing that the controller owns. Make the BackgroundJobs the
+/// controller's last member, so that it is destroyed first. Create, use and destroy it on the main thread.
 class BackgroundJobs final : public QObject
 {
     Q_OBJECT
@@ -60,9 +60,13 @@ public:
     };
     using Work = std::function<void(const BackgroundJob &job)>;
 
+    /// The time without any work of the processor for a job after which the end of the program abandons it.
+    static constexpr std::chrono::milliseconds patience{10000};
+
     /// The label names the jobs' threads in tools that list them; at most 15 characters, empty for the program's own
     /// name.
-    explicit BackgroundJobs(Order order = Order::Concurrent, const std::string &label = {});
+    explicit BackgroundJobs(Order order = Order::Concurrent, const std::string &label = {},
+                            std::chrono::milliseconds endPatience = patience);
     ~BackgroundJobs() override;
 
     void start(Work work);
@@ -73,26 +77,11 @@ protected:
     bool event(QEvent *event) override;
 
 private:
-    friend class BackgroundJob;
-    struct Worker
-    {
-        std::thread thread;
-        bool finished = false;
-    };
-
-    void run(Worker &worker);
     void joinFinished();
+    bool waitForEnd();
 
-    const Order m_order;
-    const std::string m_label;
-    std::stop_source m_stop; ///< the window is closing
-    // The standard library's locks, not the toolkit's: the thread sanitizer sees them without an instrumented toolkit.
-    mutable std::mutex m_mutex; ///< guards everything below
-    std::condition_variable m_workerFinished;
-    std::deque<Work> m_waiting;
-    std::deque<std::function<void()>> m_posted;
-    std::list<Worker> m_workers;
-    int m_running = 0;
+    const std::chrono::milliseconds m_endPatience;
+    std::shared_ptr<BackgroundJobsQueue> m_queue; ///< shared with the jobs' threads
 };
 
 } // namespace lumora

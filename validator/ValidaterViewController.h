@@ -161,7 +161,7 @@ private:
                  const char *validTextKey);
 
     std::unique_ptr<Ui::ValidaterViewController> m_ui;
-    std::unique_ptr<ProfileDecoder> m_profileDecoder;
+    std::shared_ptr<const ProfileDecoder> m_profileDecoder; ///< shared with the readings
     std::unique_ptr<SFBPopover> m_validatePopup;
     ValidatePopupContentView *m_validatePopupContentView = nullptr; ///< owned by the popover
     OpacityFade m_fade;

@@ -68,10 +68,11 @@ void ValidaterViewController::foundIpaFile(const QString &path)
         return;
     }
     const int iconScale = qCeil(view()->devicePixelRatioF());
-    const InspectionSite site{services().workFolder, *m_profileDecoder, {}, m_stop.get_token(), iconScale};
     const quint64 number = ++m_reading;
     startReview(path, number);
-    m_jobs.start([this, path, site, number](const BackgroundJob &job) {
+    m_jobs.start([this, path, number, workFolder = services().workFolder, decoder = m_profileDecoder,
+                  stop = m_stop.get_token(), iconScale](const BackgroundJob &job) {
+        const InspectionSite site{workFolder, *decoder, {}, stop, iconScale};
         Reading observer(job, this, number);
         PackageInspection(path, site.profileDecoder, observer).unzipApp(site);
     });

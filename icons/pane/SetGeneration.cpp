@@ -110,9 +110,9 @@ void SetGeneration::start(const SetRequest &request)
     });
 }
 
-FileProgress SetGeneration::progressOf(const BackgroundJob &job)
+FileProgress SetGeneration::progressOf(const BackgroundJob &job, const Canceled &canceled)
 {
-    return [this, &job, canceled = m_canceled](qsizetype number, qsizetype count, const QString &) {
+    return [this, &job, canceled](qsizetype number, qsizetype count, const QString &) {
         job.post([this, number, count] { emit progressed(number, count); });
         return !*canceled && !job.isStopRequested();
     };
@@ -121,8 +121,8 @@ FileProgress SetGeneration::progressOf(const BackgroundJob &job)
 void SetGeneration::writeIntoProject()
 {
     m_state = State::Writing;
-    m_jobs.start([this, folder = m_request.folder, offer = m_offer](const BackgroundJob &job) {
-        const Outcome written = lumora::writeIntoProject(folder, offer.files, progressOf(job));
+    m_jobs.start([this, folder = m_request.folder, offer = m_offer, canceled = m_canceled](const BackgroundJob &job) {
+        const Outcome written = lumora::writeIntoProject(folder, offer.files, progressOf(job, canceled));
         const qsizetype count = offer.files.size();
         JobResult result = filesResult(written ? count : 0, count, folder,
                                        written ? std::vector<Failure>() : std::vector{written.failure()});
@@ -140,7 +140,7 @@ void SetGeneration::writeIntoOwnFolder()
 void SetGeneration::writeSets(const QString &note)
 {
     m_state = State::Writing;
-    m_jobs.start([this, request = m_request, note](const BackgroundJob &job) {
+    m_jobs.start([this, request = m_request, note, canceled = m_canceled](const BackgroundJob &job) {
         const Motifs motifs(request.sources, MacForm::Body);
         const Result<FilePlan> plan = planSets(request.sets, motifs, request.options);
         if (!plan) {
@@ -152,7 +152,7 @@ void SetGeneration::writeSets(const QString &note)
             job.post([this, failure = folder.failure()] { refuse(failure); });
             return;
         }
-        const TodayExport run = writePlan(plan.value(), motifs, folder.value().path, progressOf(job));
+        const TodayExport run = writePlan(plan.value(), motifs, folder.value().path, progressOf(job, canceled));
         JobResult result = resultOf(run, plan.value().files.size());
         if (!note.isEmpty())
             result.notes << note;

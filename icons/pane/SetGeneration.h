@@ -65,16 +65,17 @@ signals:
 
 private:
     enum class State { Idle, Looking, Asking, Writing };
+    using Canceled = std::shared_ptr<std::atomic<bool>>;
 
     void writeSets(const QString &note);
     /// Ends the run on the main thread.
     void end(const JobResult &result);
     void refuse(const Failure &failure);
-    FileProgress progressOf(const BackgroundJob &job);
+    FileProgress progressOf(const BackgroundJob &job, const Canceled &canceled);
 
     SetRequest m_request;
     ProjectOffer m_offer;
-    std::shared_ptr<std::atomic<bool>> m_canceled;
+    Canceled m_canceled;
     State m_state = State::Idle;
     BackgroundJobs m_jobs; ///< last, so that it waits for the run before other members are destroyed
 };

@@ -5,7 +5,11 @@
 
 #include <array>
 #include <atomic>
+#include <chrono>
+#include <ctime>
+#include <memory>
 #include <semaphore>
+#include <thread>
 
 #include <pthread.h>
 
@@ -121,6 +125,62 @@ private slots:
                 jobs.start([&](const BackgroundJob &) { ++finished; });
         }
         QCOMPARE(finished.load(), 8);
+    }
+
+    void destructionAbandonsAJobThatDoesNothing()
+    {
+        struct Share
+        {
+            std::binary_semaphore started{0};
+            std::binary_semaphore answer{0};
+            std::binary_semaphore ended{0};
+        };
+        const auto share = std::make_shared<Share>();
+        bool posted = false;
+        {
+            BackgroundJobs jobs(BackgroundJobs::Order::Concurrent, {}, std::chrono::milliseconds(200));
+            jobs.start([share, &posted](const BackgroundJob &job) {
+                share->started.release();
+                share->answer.acquire();
+                job.post([&posted] { posted = true; });
+                share->ended.release();
+            });
+            share->started.acquire();
+        }
+        // The call returns after all.
+        share->answer.release();
+        share->ended.acquire();
+        QCoreApplication::processEvents();
+        QVERIFY(!posted);
+    }
+
+    void destructionWaitsForAJobThatWorks_data()
+    {
+        QTest::addColumn<bool>("onOtherThread");
+        QTest::newRow("itself") << false;
+        QTest::newRow("on a thread of its own") << true;
+    }
+    void destructionWaitsForAJobThatWorks()
+    {
+        QFETCH(const bool, onOtherThread);
+        bool finished = false;
+        {
+            // Longer than the patience; counted in processor time, so that a loaded machine changes nothing.
+            const auto work = [&finished] {
+                const std::clock_t end = std::clock() + CLOCKS_PER_SEC;
+                while (std::clock() < end)
+                    continue;
+                finished = true;
+            };
+            BackgroundJobs jobs(BackgroundJobs::Order::Concurrent, {}, std::chrono::milliseconds(500));
+            jobs.start([&](const BackgroundJob &) {
+                if (onOtherThread)
+                    std::thread(work).join();
+                else
+                    work();
+            });
+        }
+        QVERIFY(finished);
     }
 
     void destructionDropsSerialJobsWhoseTurnHasNotCome()
