@@ -10,6 +10,7 @@
 #include "icons/IconCatalogue.h"
 #include "icons/IconExport.h"
 #include "icons/check/IconCheck.h"
+#include "icons/check/ProjectCheck.h"
 
 #include <QFileInfo>
 #include <QSet>
@@ -78,6 +79,13 @@ QJsonArray classicFiles(const std::optional<IconExport> &result)
     return files;
 }
 
+/// Complains that a store or a build would refuse what is in the folder.
+void complainOfCheck(Console &console, const QString &folder)
+{
+    console.complain(
+        Complaint{Complaint::Kind::Failure, u"check-failed"_s, folder, commandText("CLI_CHECK_FAILED"), {}});
+}
+
 /// The first failure whole, the others by their files.
 void complainOf(Console &console, const QList<Failure> &failures, const QString &folder)
 {
@@ -131,8 +139,7 @@ ExitStatus writeTodaySets(Console &console, const TodayRun &run)
         failures.isEmpty() && !check.has(FindingSeverity::Error) ? ExitStatus::Done : ExitStatus::Refused;
     const bool checkFailed = failures.isEmpty() && check.has(FindingSeverity::Error);
     if (checkFailed)
-        console.complain(
-            Complaint{Complaint::Kind::Failure, u"check-failed"_s, path, commandText("CLI_CHECK_FAILED"), {}});
+        complainOfCheck(console, path);
     QJsonArray files = classicFiles(classic);
     const QJsonArray more = filesJson(result);
     for (const auto &file : more)
@@ -166,32 +173,38 @@ ExitStatus writeIntoProjects(Console &console, const IntoRun &run)
     Result<ProjectPlan> plan = planProjects(folder.value(), motifs, run.options);
     if (!plan)
         return refuse(console, plan.failure(), run.source, run.arguments.sourceFit());
-    const Result<QList<ProjectFile>> files = compareWithProject(folder.value(), plan.value().files, motifs);
-    if (!files)
-        return refuse(console, files.failure(), run.source, run.arguments.sourceFit());
     const Interruption interruption;
-    if (!run.dryRun) {
-        const Outcome written = writeIntoProject(folder.value(), files.value(), progressOn(console));
-        console.endProgress();
-        if (!written && written.failure().code == FailureCode::Stopped) {
-            console.complain(Interruption::complaint(0, files.value().size()));
-            return Interruption::status();
-        }
-        if (!written)
-            return refuse(console, written.failure(), run.source, run.arguments.sourceFit());
+    const Result<QList<ProjectFile>> files =
+        compareWithProject(folder.value(), plan.value().files, motifs, progressOn(console));
+    const Outcome written = !files       ? Outcome(files.failure())
+                            : run.dryRun ? Outcome(Done{})
+                                         : writeIntoProject(folder.value(), files.value(), progressOn(console));
+    console.endProgress();
+    if (!written && written.failure().code == FailureCode::Stopped) {
+        console.complain(Interruption::complaint(0, plan.value().files.files.size()));
+        return Interruption::status();
     }
+    if (!written)
+        return refuse(console, written.failure(), run.source, run.arguments.sourceFit());
+    const IconCheck check = run.dryRun ? IconCheck() : checkProject(folder.value(), plan.value().files);
     const QList<Derived> derived = input.value().derived + plan.value().files.derived;
     printProjectFiles(console, files.value());
     printDerived(console, derived);
     for (const QString &line : plan.value().files.linesToAdd)
         console.print(commandText("CLI_ICONS_LINE_TO_ADD", {{"[LINE]", line}}));
-    return console.finish(ExitStatus::Done,
+    for (const QString &line : findingLines(check, folder.value()))
+        console.print(line);
+    const bool refused = check.has(FindingSeverity::Error);
+    if (refused)
+        complainOfCheck(console, run.folder);
+    return console.finish(refused ? ExitStatus::Refused : ExitStatus::Done,
                           {{u"folder"_s, folder.value()},
                            {u"dryRun"_s, run.dryRun},
                            {u"projects"_s, projectsJson(plan.value().projects)},
                            {u"changes"_s, projectFilesJson(files.value())},
                            {u"derived"_s, derivedJson(derived)},
-                           {u"linesToAdd"_s, QJsonArray::fromStringList(plan.value().files.linesToAdd)}});
+                           {u"linesToAdd"_s, QJsonArray::fromStringList(plan.value().files.linesToAdd)},
+                           {u"findings"_s, findingsJson(check)}});
 }
 
 ExitStatus checkIconFolder(Console &console, const QString &folder)
@@ -217,8 +230,7 @@ ExitStatus checkIconFolder(Console &console, const QString &folder)
     if (check.value().findings.isEmpty())
         console.print(commandText("CLI_ICONS_CHECKED", {{"[N]", QString::number(check.value().checked.size())}}));
     if (refused)
-        console.complain(
-            Complaint{Complaint::Kind::Failure, u"check-failed"_s, folder, commandText("CLI_CHECK_FAILED"), {}});
+        complainOfCheck(console, folder);
     return console.finish(refused ? ExitStatus::Refused : ExitStatus::Done,
                           {{u"folder"_s, path.value()},
                            {u"checked"_s, QJsonArray::fromStringList(check.value().checked)},

@@ -85,7 +85,7 @@ QStringList findingLines(const IconCheck &check, const QString &folder)
         QString line = nameOf(info.severity) + u": "_s + base.relativeFilePath(finding.path) + u": "_s +
                        commandText(info.titleKey);
         if (!finding.evidence.isEmpty())
-            line += u" ("_s + finding.evidence + u')';
+            line += u" ("_s + finding.evidence.words() + u')';
         lines << printableText(line + u"; "_s + commandText(info.fixKey));
     }
     return lines;
@@ -100,7 +100,7 @@ QJsonArray findingsJson(const IconCheck &check)
                                 {u"severity"_s, nameOf(info.severity)},
                                 {u"title"_s, commandText(info.titleKey)},
                                 {u"path"_s, finding.path},
-                                {u"evidence"_s, finding.evidence},
+                                {u"evidence"_s, finding.evidence.words()},
                                 {u"fix"_s, commandText(info.fixKey)}});
     }
     return json;

@@ -132,7 +132,7 @@ private:
         for (auto layer = icon.begin(); layer != icon.end(); ++layer) {
             const QString resource = layer->type + u'/' + layer->name;
             if (layer->type == u"color" ? !hasColor(layer->name) : !m_byResource.contains(resource))
-                m_check.add(IconRule::ResourceMissing, path, u'@' + resource);
+                m_check.add(IconRule::ResourceMissing, path, QString(u'@' + resource));
             if (layer->type == u"color" || m_layers.contains(resource))
                 continue;
             m_layers << resource;
@@ -177,7 +177,8 @@ private:
         const double safe = double{adaptiveSafeDp} / adaptiveLayerDp;
         if (!layer.inset && diameter > safe + safeZoneTolerance)
             m_check.add(IconRule::OutsideSafeZone, path,
-                        u"%1 of %2 dp"_s.arg(qRound(diameter * adaptiveLayerDp)).arg(adaptiveSafeDp));
+                        FailureDetail("DETAIL_OF_DP", {{"[FOUND]", QString::number(qRound(diameter * adaptiveLayerDp))},
+                                                       {"[LIMIT]", QString::number(adaptiveSafeDp)}}));
     }
 
     bool hasColor(const QString &name) const
@@ -234,7 +235,8 @@ void checkPlayPicture(const QString &file, IconCheck &check)
     const std::optional<PictureFacts> facts =
         checkSlot(file, {QSize(playStoreSize, playStoreSize), Transparency::Forbidden}, check);
     if (facts && facts->fileBytes > playStoreBytes)
-        check.add(IconRule::StoreFileTooLong, file, u"%1 bytes"_s.arg(facts->fileBytes));
+        check.add(IconRule::StoreFileTooLong, file,
+                  FailureDetail("DETAIL_BYTES", {{"[COUNT]", QString::number(facts->fileBytes)}}));
 }
 
 } // namespace lumora

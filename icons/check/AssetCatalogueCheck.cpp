@@ -118,7 +118,7 @@ private:
         if (!m_slots.contains(entry.slot()))
             m_slots << entry.slot();
         else if (!entry.file.isEmpty())
-            m_check.add(IconRule::DuplicateSlot, m_folder, entry.description() + u": "_s + entry.file);
+            m_check.add(IconRule::DuplicateSlot, m_folder, QString(entry.description() + u": "_s + entry.file));
         m_appearances << entry.appearance;
         if (entry.file.isEmpty()) {
             m_check.add(IconRule::SlotEmpty, m_folder, entry.description());

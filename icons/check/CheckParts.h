@@ -12,8 +12,12 @@
 namespace lumora
 {
 
-// The search of a folder passes each thing that it finds to one of these functions, which adds the path to the checked
-// ones.
+/// Judges a folder as a whole if it is a catalogue, a bundle or Android resources; whether it is one.
+bool checkFolder(const QString &folder, IconCheck &check);
+/// Judges a file outside of such folders if its name is that of an icon or a web manifest.
+void checkFile(const QString &path, IconCheck &check);
+
+// These two pass each thing to one of the following functions, which adds the path to the checked ones.
 
 /// A folder ".appiconset".
 void checkIconSet(const QString &folder, IconCheck &check);

@@ -24,6 +24,13 @@ bool isPassedOver(const QString &name)
     return name.startsWith(u'.') || names.contains(name);
 }
 
+bool isResources(const QString &folder)
+{
+    const QStringList adaptive =
+        QDir(folder).entryList({u"mipmap-anydpi*"_s, u"drawable-anydpi*"_s}, QDir::Dirs | QDir::NoSymLinks);
+    return !adaptive.isEmpty();
+}
+
 class Walk
 {
 public:
@@ -31,7 +38,7 @@ public:
 
     void enter(const QString &folder, int depth)
     {
-        if (judgeFolder(folder))
+        if (checkFolder(folder, m_check))
             return;
         const QFileInfoList entries =
             QDir(folder).entryInfoList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::NoSymLinks, QDir::Name);
@@ -45,7 +52,7 @@ public:
             if (entry.isDir() && !isPassedOver(entry.fileName()))
                 enter(path, depth + 1);
             else if (entry.isFile())
-                judgeFile(path, entry.fileName());
+                checkFile(path, m_check);
         }
     }
 
@@ -57,54 +64,49 @@ private:
         m_ended = true;
     }
 
-    /// Whether the folder is judged as a whole, such as a catalogue.
-    bool judgeFolder(const QString &folder)
-    {
-        const QString name = QFileInfo(folder).fileName();
-        if (name.endsWith(u".appiconset"))
-            checkIconSet(folder, m_check);
-        else if (name.endsWith(u".brandassets"))
-            checkBrandAssets(folder, m_check);
-        else if (name.endsWith(u".solidimagestack"))
-            checkVisionStack(folder, m_check);
-        else if (name.endsWith(u".icon") && QFileInfo::exists(folder + u"/icon.json"_s))
-            checkComposerBundle(folder, m_check);
-        else
-            return isResources(folder) ? (checkAndroidResources(folder, m_check), true) : false;
-        return true;
-    }
-
-    static bool isResources(const QString &folder)
-    {
-        const QStringList adaptive =
-            QDir(folder).entryList({u"mipmap-anydpi*"_s, u"drawable-anydpi*"_s}, QDir::Dirs | QDir::NoSymLinks);
-        return !adaptive.isEmpty();
-    }
-
-    void judgeFile(const QString &path, const QString &name)
-    {
-        if (name.endsWith(u".webmanifest") || name == u"manifest.json")
-            checkWebManifest(path, m_check);
-        else if (name.endsWith(u".ico"))
-            checkIcoFile(path, m_check);
-        else if (name.endsWith(u".icns"))
-            checkIcnsFile(path, m_check);
-        else if (name.endsWith(u"-playstore.png"))
-            checkPlayPicture(path, m_check);
-        else if (name.startsWith(u"apple-touch-icon") && name.endsWith(u".png"))
-            checkTouchIcon(path, m_check);
-        else if (const std::optional<QSize> theme = hicolorSize(path))
-            checkSizedPicture(path, *theme, m_check);
-        else if (const std::optional<QSize> asset = windowsAssetSize(name))
-            checkSizedPicture(path, *asset, m_check);
-    }
-
     IconCheck &m_check;
     int m_entries = 0;
     bool m_ended = false;
 };
 
 } // namespace
+
+bool checkFolder(const QString &folder, IconCheck &check)
+{
+    const QString name = QFileInfo(folder).fileName();
+    if (name.endsWith(u".appiconset"))
+        checkIconSet(folder, check);
+    else if (name.endsWith(u".brandassets"))
+        checkBrandAssets(folder, check);
+    else if (name.endsWith(u".solidimagestack"))
+        checkVisionStack(folder, check);
+    else if (name.endsWith(u".icon") && QFileInfo::exists(folder + u"/icon.json"_s))
+        checkComposerBundle(folder, check);
+    else if (isResources(folder))
+        checkAndroidResources(folder, check);
+    else
+        return false;
+    return true;
+}
+
+void checkFile(const QString &path, IconCheck &check)
+{
+    const QString name = QFileInfo(path).fileName();
+    if (name.endsWith(u".webmanifest") || name == u"manifest.json")
+        checkWebManifest(path, check);
+    else if (name.endsWith(u".ico"))
+        checkIcoFile(path, check);
+    else if (name.endsWith(u".icns"))
+        checkIcnsFile(path, check);
+    else if (name.endsWith(u"-playstore.png"))
+        checkPlayPicture(path, check);
+    else if (name.startsWith(u"apple-touch-icon") && name.endsWith(u".png"))
+        checkTouchIcon(path, check);
+    else if (const std::optional<QSize> theme = hicolorSize(path))
+        checkSizedPicture(path, *theme, check);
+    else if (const std::optional<QSize> asset = windowsAssetSize(name))
+        checkSizedPicture(path, *asset, check);
+}
 
 Result<IconCheck> checkIcons(const QString &folder)
 {

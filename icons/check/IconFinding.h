@@ -2,6 +2,7 @@
 #pragma once
 
 #include "IconRules.h"
+#include "foundation/FailureDetail.h"
 
 #include <QList>
 #include <QString>
@@ -16,8 +17,8 @@ namespace lumora
 struct IconFinding
 {
     IconRule rule = IconRule::ContentsUnreadable;
-    QString path;     ///< of the file or folder concerned
-    QString evidence; ///< what was found there
+    QString path;           ///< of the file or folder concerned
+    FailureDetail evidence; ///< what was found there
 
     bool operator==(const IconFinding &) const = default;
 };
@@ -28,7 +29,7 @@ struct IconCheck
     QStringList checked; ///< paths of the catalogues, resources, manifests and icon files that were judged
     QList<IconFinding> findings;
 
-    void add(IconRule rule, const QString &path, const QString &evidence = {})
+    void add(IconRule rule, const QString &path, const FailureDetail &evidence = {})
     {
         findings.append({rule, path, evidence});
     }

@@ -34,9 +34,10 @@ void checkForm(const PictureFacts &facts, const QString &path, const SlotDemands
     if (facts.format != "png")
         check.add(IconRule::ForeignFormat, path, QString::fromLatin1(facts.format).toUpper());
     if (demands.transparency == Transparency::Refused && (facts.palette || facts.wideGamut))
-        check.add(IconRule::StoreIconColors, path, facts.palette ? u"palette"_s : u"Display P3"_s);
+        check.add(IconRule::StoreIconColors, path,
+                  facts.palette ? FailureDetail("DETAIL_PALETTE") : FailureDetail(u"Display P3"_s));
     if (facts.deep || facts.interlaced)
-        check.add(IconRule::UncommonPixels, path, facts.deep ? u"16 bits a channel"_s : u"interlaced"_s);
+        check.add(IconRule::UncommonPixels, path, facts.deep ? "DETAIL_16_BITS" : "DETAIL_INTERLACED");
 }
 
 } // namespace
@@ -53,7 +54,7 @@ std::optional<PictureFacts> checkSlot(const QString &path, const SlotDemands &de
         return std::nullopt;
     }
     if (!demands.size.isEmpty() && facts.size != demands.size)
-        check.add(IconRule::WrongSize, path, pixelsText(facts.size) + u", not "_s + pixelsText(demands.size));
+        check.add(IconRule::WrongSize, path, pixelsDetail(facts.size, demands.size));
     checkTransparency(facts, path, demands, check);
     checkForm(facts, path, demands, check);
     return facts;

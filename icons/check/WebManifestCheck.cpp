@@ -67,7 +67,8 @@ void checkIcon(const QJsonObject &icon, const QString &manifest, IconCheck &chec
     const double diameter = contentDiameter(facts->pixels());
     if (diameter > maskableSafePercent / 100.0 + safeZoneTolerance)
         check.add(IconRule::OutsideSafeZone, path,
-                  u"%1 of %2 percent"_s.arg(qRound(diameter * 100)).arg(maskableSafePercent));
+                  FailureDetail("DETAIL_OF_PERCENT", {{"[FOUND]", QString::number(qRound(diameter * 100))},
+                                                      {"[LIMIT]", QString::number(maskableSafePercent)}}));
 }
 
 } // namespace

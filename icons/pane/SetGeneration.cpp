@@ -3,6 +3,7 @@
 
 #include "foundation/ExportFolder.h"
 #include "icons/check/IconCheck.h"
+#include "icons/check/ProjectCheck.h"
 #include "icons/today/Motifs.h"
 #include "icons/today/TodayExport.h"
 #include "tool/FailureText.h"
@@ -37,7 +38,7 @@ void addFindings(const IconCheck &check, const QString &folder, JobResult &resul
         const IconRuleInfo &info = infoOf(finding.rule);
         QString line = QDir(folder).relativeFilePath(finding.path) + u": "_s + qtTrId(info.titleKey);
         if (!finding.evidence.isEmpty())
-            line += u" ("_s + finding.evidence + u')';
+            line += u" ("_s + finding.evidence.words() + u')';
         line += u"; "_s + qtTrId(info.fixKey);
         (info.severity == FindingSeverity::Error ? result.failures : result.notes) << line;
     }
@@ -82,7 +83,12 @@ void SetGeneration::start(const SetRequest &request)
         const Motifs motifs(request.sources, MacForm::Body);
         Result<ProjectPlan> plan = planProjects(request.folder, motifs, {});
         const Result<QList<ProjectFile>> files =
-            plan ? compareWithProject(request.folder, plan.value().files, motifs) : plan.failure();
+            plan ? compareWithProject(request.folder, plan.value().files, motifs, progressOf(job)) : plan.failure();
+        if (!files && files.failure().code == FailureCode::Stopped) {
+            job.post(
+                [this, count = plan.value().files.files.size()] { end(filesResult(0, count, m_request.folder, {})); });
+            return;
+        }
         if (!files && files.failure().code == FailureCode::HasTransparency) {
             job.post([this, failure = files.failure()] { refuse(failure); });
             return;
@@ -94,6 +100,7 @@ void SetGeneration::start(const SetRequest &request)
             });
             return;
         }
+        offer.plan = plan.value().files;
         offer.files = files.value();
         offer.notes = derivedLines(request.derived + plan.value().files.derived);
         for (const QString &line : plan.value().files.linesToAdd)
@@ -126,8 +133,10 @@ void SetGeneration::writeIntoProject()
         const qsizetype count = offer.files.size();
         JobResult result = filesResult(written ? count : 0, count, folder,
                                        written ? std::vector<Failure>() : std::vector{written.failure()});
-        if (written)
+        if (written) {
             result.notes = offer.notes;
+            addFindings(checkProject(folder, offer.plan), folder, result);
+        }
         job.post([this, result] { end(result); });
     });
 }

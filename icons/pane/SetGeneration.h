@@ -30,6 +30,7 @@ struct SetRequest
 struct ProjectOffer
 {
     QList<RecognizedProject> projects;
+    FilePlan plan;
     QList<ProjectFile> files;
     QStringList notes; ///< what was derived, and the lines that the user has to add
 };
@@ -49,7 +50,7 @@ public:
     /// The answers to `projectFound`.
     void writeIntoProject();
     void writeIntoOwnFolder();
-    /// Ends the run after the file that is being written, or without any. What a project had comes back.
+    /// Ends the run after the file that is being compared or written. What a project had comes back.
     void cancel();
     /// Waits for the run; its signals follow when the event loop continues.
     void waitForDone() { m_jobs.waitForDone(); }
@@ -57,7 +58,7 @@ public:
 signals:
     /// There are projects in the folder; the run goes on with an answer.
     void projectFound(const lumora::ProjectOffer &offer);
-    /// File `number`, from 1, of `count` is being written.
+    /// File `number`, from 1, of `count` is being compared or written.
     void progressed(qsizetype number, qsizetype count);
     /// Nothing was written.
     void refused(const lumora::Failure &failure);

@@ -163,7 +163,8 @@ private:
 
 } // namespace
 
-Result<QList<ProjectFile>> compareWithProject(const QString &root, const FilePlan &plan, const Motifs &motifs)
+Result<QList<ProjectFile>> compareWithProject(const QString &root, const FilePlan &plan, const Motifs &motifs,
+                                              const FileProgress &progress)
 {
     for (const PlannedFile &file : plan.files) {
         if (const Outcome inside = staysInside(root, file.path); !inside)
@@ -173,6 +174,8 @@ Result<QList<ProjectFile>> compareWithProject(const QString &root, const FilePla
     workshop.prepare(recipesOf(plan));
     QList<ProjectFile> files;
     for (const PlannedFile &planned : plan.files) {
+        if (progress && !progress(files.size() + 1, plan.files.size(), planned.path))
+            return Failure{FailureCode::Stopped, root, {}};
         const Result<QByteArray> bytes = plannedBytes(planned, workshop);
         if (!bytes)
             return bytes.failure();

@@ -29,8 +29,10 @@ struct ProjectFile
 
 /// Compares every file of a plan with the existing one. Fails with `LeadsOutside` if a file is a link out of the
 /// folder, or lies behind such a link; with `IsFolder` or `NotAFolder` if a folder is in the place of a file or a file
-/// in the place of a folder; with `TooLarge` if memory runs out.
-Result<QList<ProjectFile>> compareWithProject(const QString &root, const FilePlan &plan, const Motifs &motifs);
+/// in the place of a folder; with `TooLarge` if memory runs out; with `Stopped` if `progress` stops the run, which
+/// happens between files.
+Result<QList<ProjectFile>> compareWithProject(const QString &root, const FilePlan &plan, const Motifs &motifs,
+                                              const FileProgress &progress);
 
 /// Writes the files that are new or differ, each as a whole. If a file cannot be written, or if `progress` stops the
 /// run

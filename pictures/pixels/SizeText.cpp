@@ -1,20 +1,22 @@
 // SPDX-License-Identifier: MIT
 #include "SizeText.h"
 
-using namespace Qt::StringLiterals;
-
 namespace lumora
 {
-
-QString pixelsText(QSize size)
-{
-    return u"%1 x %2 pixels"_s.arg(size.width()).arg(size.height());
-}
 
 FailureDetail pixelsDetail(QSize size)
 {
     return {"DETAIL_PIXELS",
             {{"[WIDTH]", QString::number(size.width())}, {"[HEIGHT]", QString::number(size.height())}}};
+}
+
+FailureDetail pixelsDetail(QSize size, QSize wanted)
+{
+    return {"DETAIL_PIXELS_NOT_WANTED",
+            {{"[WIDTH]", QString::number(size.width())},
+             {"[HEIGHT]", QString::number(size.height())},
+             {"[WANTED_WIDTH]", QString::number(wanted.width())},
+             {"[WANTED_HEIGHT]", QString::number(wanted.height())}}};
 }
 
 } // namespace lumora

@@ -9,10 +9,10 @@
 namespace lumora
 {
 
-/// A picture's size as the evidence of a rule states it: "640 x 480 pixels".
-QString pixelsText(QSize size);
-
-/// The same for a failure, in the user's language.
+/// A picture's size: "640 x 480 pixels" in the user's language.
 FailureDetail pixelsDetail(QSize size);
+
+/// A size that is not the wanted one: "640 x 480 pixels, not 1024 x 1024 pixels".
+FailureDetail pixelsDetail(QSize size, QSize wanted);
 
 } // namespace lumora

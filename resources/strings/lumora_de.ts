@@ -6078,6 +6078,34 @@
     <source>[WIDTH] x [HEIGHT] pixels</source>
     <translation>[WIDTH] x [HEIGHT] Pixel</translation>
   </message>
+  <message id="DETAIL_PIXELS_NOT_WANTED">
+    <source>[WIDTH] x [HEIGHT] pixels, not [WANTED_WIDTH] x [WANTED_HEIGHT] pixels</source>
+    <translation>[WIDTH] x [HEIGHT] Pixel statt [WANTED_WIDTH] x [WANTED_HEIGHT] Pixel</translation>
+  </message>
+  <message id="DETAIL_PALETTE">
+    <source>palette</source>
+    <translation>Farbpalette</translation>
+  </message>
+  <message id="DETAIL_16_BITS">
+    <source>16 bits a channel</source>
+    <translation>16 Bit je Kanal</translation>
+  </message>
+  <message id="DETAIL_INTERLACED">
+    <source>interlaced</source>
+    <translation>mit Zeilensprung</translation>
+  </message>
+  <message id="DETAIL_OF_DP">
+    <source>[FOUND] of [LIMIT] dp</source>
+    <translation>[FOUND] von [LIMIT] dp</translation>
+  </message>
+  <message id="DETAIL_OF_PERCENT">
+    <source>[FOUND] of [LIMIT] percent</source>
+    <translation>[FOUND] von [LIMIT] Prozent</translation>
+  </message>
+  <message id="DETAIL_BYTES">
+    <source>[COUNT] bytes</source>
+    <translation>[COUNT] Byte</translation>
+  </message>
   <message id="DETAIL_MORE_COLORS">
     <source>more than [COUNT] colors</source>
     <translation>mehr als [COUNT] Farben</translation>

@@ -6076,6 +6076,34 @@
     <source>[WIDTH] x [HEIGHT] pixels</source>
     <translation>[WIDTH] x [HEIGHT] pixels</translation>
   </message>
+  <message id="DETAIL_PIXELS_NOT_WANTED">
+    <source>[WIDTH] x [HEIGHT] pixels, not [WANTED_WIDTH] x [WANTED_HEIGHT] pixels</source>
+    <translation>[WIDTH] x [HEIGHT] pixels, not [WANTED_WIDTH] x [WANTED_HEIGHT] pixels</translation>
+  </message>
+  <message id="DETAIL_PALETTE">
+    <source>palette</source>
+    <translation>palette</translation>
+  </message>
+  <message id="DETAIL_16_BITS">
+    <source>16 bits a channel</source>
+    <translation>16 bits a channel</translation>
+  </message>
+  <message id="DETAIL_INTERLACED">
+    <source>interlaced</source>
+    <translation>interlaced</translation>
+  </message>
+  <message id="DETAIL_OF_DP">
+    <source>[FOUND] of [LIMIT] dp</source>
+    <translation>[FOUND] of [LIMIT] dp</translation>
+  </message>
+  <message id="DETAIL_OF_PERCENT">
+    <source>[FOUND] of [LIMIT] percent</source>
+    <translation>[FOUND] of [LIMIT] percent</translation>
+  </message>
+  <message id="DETAIL_BYTES">
+    <source>[COUNT] bytes</source>
+    <translation>[COUNT] bytes</translation>
+  </message>
   <message id="DETAIL_MORE_COLORS">
     <source>more than [COUNT] colors</source>
     <translation>more than [COUNT] colors</translation>

@@ -43,6 +43,7 @@ private slots:
     void check();
     void checkAsJson();
     void intoAProject();
+    void intoAProjectThatAStoreRefuses();
     void intoNoProject();
 
 private:
@@ -285,6 +286,24 @@ void TodayIconsCommandTest::intoAProject()
     QVERIFY(second.out.contains("unchanged: build/icon.icns"));
     QVERIFY(!second.out.contains("new: ") && !second.out.contains("replaced: "));
     QVERIFY(icons({u"photo.png"_s, u"--into"_s, u"p"_s}).out.contains("replaced: build/icon.icns"));
+}
+
+/// What the project's own list says is not changed, but judged.
+void TodayIconsCommandTest::intoAProjectThatAStoreRefuses()
+{
+    const QString set = u"ios/App/App/Assets.xcassets/AppIcon.appiconset"_s;
+    QVERIFY(putFile(at(u"p/capacitor.config.json"_s), "{}"));
+    QVERIFY(putFile(at(u"p/"_s + set + u"/Contents.json"_s),
+                    "{\"images\":[{\"idiom\":\"universal\",\"platform\":\"iOS\",\"size\":\"1024x1024\","
+                    "\"filename\":\"a.png\"}]}"));
+    QCOMPARE(icons({u"logo.svg"_s, u"--into"_s, u"p"_s, u"--dry-run"_s}).status, 0);
+    const LumoraRun run = icons({u"logo.svg"_s, u"--into"_s, u"p"_s, u"--json"_s});
+    QCOMPARE(run.status, 1);
+    QVERIFY(QFile::exists(at(u"p/"_s + set + u"/a.png"_s)));
+    const QJsonArray findings = run.json()[u"findings"_s].toArray();
+    QVERIFY2(!findings.isEmpty(), run.out);
+    QCOMPARE(findings[0][u"id"].toString(), u"platform-name"_s);
+    QCOMPARE(findings[0][u"path"].toString(), at(u"p/"_s + set));
 }
 
 void TodayIconsCommandTest::intoNoProject()

@@ -236,6 +236,51 @@ private slots:
         }
     }
 
+    void lookingAtAProjectIsCanceled()
+    {
+        QVERIFY(makeProject());
+        pane()->box(TodaySet::Web)->click();
+        QSignalSpy found(generation(), &SetGeneration::projectFound);
+        QSignalSpy ended(generation(), &SetGeneration::ended);
+        // With the first file that is compared the run is not wanted any more.
+        connect(generation(), &SetGeneration::progressed, pane()->cancelButton(), [this] {
+            if (pane()->cancelButton()->isVisible())
+                pane()->cancelButton()->click();
+        });
+        pane()->generateButton()->click();
+        m_scene->services.folderChooser.confirm(out());
+        QVERIFY(ended.wait(60000));
+        QCOMPARE(found.size(), qsizetype{0});
+        QVERIFY(TodayIconScene::question() == nullptr);
+        QVERIFY(pane()->generateButton()->isVisible());
+        const JobResult &result = pane()->result()->result();
+        QVERIFY2(result.summary.startsWith(u"Nothing was written"_s), qPrintable(result.summary));
+        QCOMPARE(filesBelow(out()).size(), qsizetype{3});
+    }
+
+    void whatIsWrittenIntoAProjectIsJudged()
+    {
+        QVERIFY(makeProject());
+        QVERIFY(writeWholeFile(out() + u"/package.json"_s, "{}") &&
+                QDir().mkpath(out() + u"/ios/Runner/Assets.xcassets/AppIcon.appiconset"_s) &&
+                writeWholeFile(out() + u"/ios/Runner/Assets.xcassets/AppIcon.appiconset/Contents.json"_s,
+                               "{\"images\":[{\"idiom\":\"universal\",\"platform\":\"iOS\",\"size\":\"1024x1024\","
+                               "\"filename\":\"a.png\"}]}"));
+        QSignalSpy found(generation(), &SetGeneration::projectFound);
+        QSignalSpy ended(generation(), &SetGeneration::ended);
+        pane()->box(TodaySet::Ios)->click();
+        pane()->generateButton()->click();
+        m_scene->services.folderChooser.confirm(out());
+        QVERIFY(found.wait(60000));
+        QTRY_VERIFY(TodayIconScene::question() != nullptr);
+        TodayIconScene::question()->intoProjectButton()->click();
+        QVERIFY(!ended.isEmpty() || ended.wait(60000));
+        const QStringList &failures = pane()->result()->result().failures;
+        QCOMPARE(failures.size(), qsizetype{1});
+        QVERIFY2(failures.first().startsWith(u"ios/Runner/Assets.xcassets/AppIcon.appiconset: "_s),
+                 qPrintable(failures.first()));
+    }
+
     void closingDuringARunEndsCleanly()
     {
         pane()->allButton()->click();

@@ -4,6 +4,7 @@
 #include "icons/check/CheckParts.h"
 #include "icons/today/Motifs.h"
 #include "icons/today/TodayExport.h"
+#include "resources/Resources.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -40,7 +41,7 @@ QStringList lines(const IconCheck &check)
 {
     QStringList lines;
     for (const IconFinding &finding : check.findings)
-        lines << QLatin1StringView(infoOf(finding.rule).id) + u' ' + finding.path + u' ' + finding.evidence;
+        lines << QLatin1StringView(infoOf(finding.rule).id) + u' ' + finding.path + u' ' + finding.evidence.words();
     return lines;
 }
 
@@ -72,6 +73,8 @@ private slots:
     void whatIsWrittenIsSound();
     void faults_data();
     void faults();
+    void evidenceInGerman_data();
+    void evidenceInGerman();
     void severityOrder();
     void nothingToCheck();
     void noFolder();
@@ -301,6 +304,43 @@ void IconCheckTest::faults()
     QVERIFY2(ids == found, qPrintable(lines(check.value()).join(u'\n')));
 }
 
+void IconCheckTest::evidenceInGerman_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QString>("evidence");
+    const QString light = QLatin1StringView(iosSet) + u"AppIcon.png"_s;
+    QTest::newRow("size") << light << encodedOpaquePng(opaquePicture(512))
+                          << u"512 x 512 Pixel statt 1024 x 1024 Pixel"_s;
+    QTest::newRow("palette") << light << palettePng(1024) << u"Farbpalette"_s;
+    QTest::newRow("deep") << light << deepPng(1024) << u"16 Bit je Kanal"_s;
+    QTest::newRow("safe zone") << u"Android/res/mipmap-xxxhdpi/ic_launcher_foreground.png"_s
+                               << encodedPng(disk(700, Qt::red, Qt::transparent, 432)) << u"76 von 66 dp"_s;
+    QTest::newRow("maskable") << u"Web/maskable-512.png"_s << encodedOpaquePng(opaquePicture(512))
+                              << u"141 von 80 Prozent"_s;
+    QTest::newRow("length") << u"Android/ic_launcher-playstore.png"_s
+                            << QByteArray(encodedPng(opaquePicture(512)).leftJustified(2 << 20, 'a'))
+                            << u"2097152 Byte"_s;
+}
+
+void IconCheckTest::evidenceInGerman()
+{
+    QFETCH(QString, file);
+    QFETCH(QByteArray, content);
+    const QTemporaryDir folder;
+    const QString part = file.section(u'/', 0, 0);
+    QVERIFY(linkTree(m_sound.filePath(part), folder.filePath(part)));
+    QVERIFY(replaceFile(folder.filePath(file), content));
+    const Result<IconCheck> check = checkIcons(folder.path());
+    QVERIFY(check.ok());
+    QStringList found;
+    installTexts(*qApp, QLocale(u"de_DE"_s));
+    for (const IconFinding &finding : check.value().findings)
+        found << finding.evidence.words();
+    QFETCH(QString, evidence);
+    QVERIFY2(found.contains(evidence), qPrintable(found.join(u'\n')));
+}
+
 void IconCheckTest::severityOrder()
 {
     const QTemporaryDir folder;
@@ -382,6 +422,6 @@ void IconCheckTest::sizesByName()
     QTEST(hicolorSize(path).value_or(windowsAssetSize(path).value_or(QSize())), "size");
 }
 
-QTEST_APPLESS_MAIN(IconCheckTest)
+QTEST_GUILESS_MAIN(IconCheckTest)
 
 #include "IconCheckTest.moc"

@@ -40,6 +40,7 @@ struct Put
     std::optional<Failure> failure;
     QList<ProjectFile> files;
     QStringList linesToAdd;
+    FilePlan plan;
     qsizetype count(FileChange change) const
     {
         return std::count_if(files.begin(), files.end(),
@@ -59,12 +60,13 @@ inline Put putInto(const QString &folder, const ProjectOptions &options = {}, co
     const Motifs motifs(sources, MacForm::Body);
     const Result<ProjectPlan> plan = planProjects(folder, motifs, options);
     if (!plan)
-        return {plan.failure(), {}, {}};
-    const Result<QList<ProjectFile>> files = compareWithProject(folder, plan.value().files, motifs);
+        return {plan.failure(), {}, {}, {}};
+    const Result<QList<ProjectFile>> files = compareWithProject(folder, plan.value().files, motifs, {});
     if (!files)
-        return {files.failure(), {}, {}};
+        return {files.failure(), {}, {}, {}};
     const Outcome written = writeIntoProject(folder, files.value(), {});
-    return {written ? std::nullopt : std::optional(written.failure()), files.value(), plan.value().files.linesToAdd};
+    return {written ? std::nullopt : std::optional(written.failure()), files.value(), plan.value().files.linesToAdd,
+            plan.value().files};
 }
 
 /// Every file with its content.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "IntoProject.h"
 #include "icons/check/IconCheck.h"
+#include "icons/check/ProjectCheck.h"
 #include "pictures/PictureReader.h"
 
 #include <QDir>
@@ -39,6 +40,10 @@ private slots:
     void linksThatLeadOutside_data();
     void linksThatLeadOutside();
     void oldFilesComeBack();
+    void readBack_data();
+    void readBack();
+    void readBackLeavesOthersAlone();
+    void comparisonIsStopped();
     void sourcesThatDoNotFit();
 };
 
@@ -139,8 +144,9 @@ void ProjectTest::writtenTwice()
     const IconCheck check = checkIcons(folder.path()).value();
     for (const IconFinding &finding : check.findings) {
         const bool fits = infoOf(finding.rule).severity != FindingSeverity::Error || finding.path.contains(u"Other");
-        QVERIFY2(fits, qPrintable(finding.path + finding.evidence));
+        QVERIFY2(fits, qPrintable(finding.path + finding.evidence.words()));
     }
+    QVERIFY(!checkProject(folder.path(), first.plan).has(FindingSeverity::Error));
 }
 
 void ProjectTest::namesOfTheProject()
@@ -357,13 +363,97 @@ void ProjectTest::oldFilesComeBack()
     QVERIFY(put(folder.path(), tree));
     const Motifs motifs(drawn(), MacForm::Body);
     const FilePlan plan = planProjects(folder.path(), motifs, {}).value().files;
-    QList<ProjectFile> files = compareWithProject(folder.path(), plan, motifs).value();
+    QList<ProjectFile> files = compareWithProject(folder.path(), plan, motifs, {}).value();
     // Between the look and the write something else takes the last one's place.
     QVERIFY(putFile(folder.filePath(files.last().path) + u"/in the way"_s, ""));
     const Tree before = content(folder.path());
     const Outcome written = writeIntoProject(folder.path(), files, {});
     QVERIFY(!written.ok());
     QCOMPARE(content(folder.path()), before);
+}
+
+void ProjectTest::readBack_data()
+{
+    QTest::addColumn<Tree>("tree");
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QByteArray>("content"); ///< in the file's place; empty if it is removed
+    QTest::addColumn<QString>("found");      ///< the rule, empty for none
+    const QString store = u"ios/Runner/Assets.xcassets/AppIcon.appiconset/Icon-App-1024x1024@1x.png"_s;
+    const QString adaptive = u"app/src/main/res/mipmap-anydpi-v26/ic_app.xml"_s;
+    QTest::newRow("nothing wrong") << electron << QString() << QByteArray() << QString();
+    QTest::newRow("slot without its file") << flutter << store << QByteArray() << u"file-missing"_s;
+    QTest::newRow("slot of another size")
+        << flutter << store << encodedOpaquePng(opaquePicture(512)) << u"wrong-size"_s;
+    QTest::newRow("store icon with transparency")
+        << flutter << store << encodedPng(disk(900)) << u"store-icon-transparent"_s;
+    QTest::newRow("broken list") << flutter << u"macos/Runner/Assets.xcassets/AppIcon.appiconset/Contents.json"_s
+                                 << QByteArray("{") << u"contents-unreadable"_s;
+    QTest::newRow("broken adaptive icon") << gradle << adaptive << QByteArray("<adaptive-icon") << QString();
+    QTest::newRow("layer of another size") << gradle << u"app/src/main/res/mipmap-hdpi/ic_app_foreground.png"_s
+                                           << encodedPng(disk(100, Qt::red, Qt::transparent, 49)) << u"wrong-size"_s;
+    QTest::newRow("play picture that is not there")
+        << gradle << u"app/src/main/ic_app-playstore.png"_s << QByteArray() << u"file-missing"_s;
+    QTest::newRow("icon by a settings file of another size")
+        << expo << u"assets/icon.png"_s << encodedOpaquePng(opaquePicture(512)) << u"wrong-size"_s;
+    QTest::newRow("broken ico") << electron << u"resources/icon.ico"_s << QByteArray("MZ") << u"icon-file-broken"_s;
+    QTest::newRow("broken icns") << electron << u"resources/icon.icns"_s << QByteArray("MZ") << u"icon-file-broken"_s;
+    QTest::newRow("cut picture") << electron << u"resources/icons/512x512.png"_s
+                                 << encodedPng(opaquePicture(512)).first(3000) << u"picture-unreadable"_s;
+}
+
+void ProjectTest::readBack()
+{
+    QFETCH(Tree, tree);
+    QFETCH(QString, file);
+    QFETCH(QByteArray, content);
+    const QTemporaryDir folder;
+    QVERIFY(put(folder.path(), tree));
+    const Put written = putInto(folder.path());
+    QVERIFY(!written.failure);
+    if (!file.isEmpty())
+        QVERIFY(QFile::remove(folder.filePath(file)));
+    if (!content.isEmpty())
+        QVERIFY(putFile(folder.filePath(file), content));
+    QStringList errors;
+    for (const IconFinding &finding : checkProject(folder.path(), written.plan).findings) {
+        if (infoOf(finding.rule).severity == FindingSeverity::Error)
+            errors << QLatin1StringView(infoOf(finding.rule).id) + u' ' + finding.path;
+    }
+    QFETCH(QString, found);
+    QCOMPARE(errors, found.isEmpty() ? QStringList() : QStringList{found + u' ' + folder.filePath(file)});
+}
+
+/// What was broken before, and is not the icon's, is no error of the run.
+void ProjectTest::readBackLeavesOthersAlone()
+{
+    const QTemporaryDir folder;
+    Tree tree = gradle;
+    const QString res = u"app/src/main/res/"_s;
+    tree[res + u"mipmap-anydpi-v26/ic_other.xml"_s] =
+        "<adaptive-icon xmlns:android=\"http://schemas.android.com/apk/res/android\">"
+        "<foreground android:drawable=\"@mipmap/none\"/></adaptive-icon>";
+    tree[u"app/old/favicon.ico"_s] = "MZ";
+    QVERIFY(put(folder.path(), tree));
+    const Put written = putInto(folder.path());
+    QVERIFY(!written.failure);
+    QVERIFY(checkIcons(folder.path()).value().has(FindingSeverity::Error));
+    QVERIFY(!checkProject(folder.path(), written.plan).has(FindingSeverity::Error));
+}
+
+void ProjectTest::comparisonIsStopped()
+{
+    const QTemporaryDir folder;
+    QVERIFY(put(folder.path(), electron));
+    const Motifs motifs(drawn(), MacForm::Body);
+    const FilePlan plan = planProjects(folder.path(), motifs, {}).value().files;
+    QList<qsizetype> numbers;
+    const Result<QList<ProjectFile>> files =
+        compareWithProject(folder.path(), plan, motifs, [&](qsizetype number, qsizetype count, const QString &path) {
+            numbers << number;
+            return count == plan.files.size() && path == plan.files[number - 1].path && number < 2;
+        });
+    QVERIFY(!files && files.failure().code == FailureCode::Stopped);
+    QCOMPARE(numbers, (QList<qsizetype>{1, 2}));
 }
 
 void ProjectTest::sourcesThatDoNotFit()
