@@ -19,6 +19,7 @@ namespace
 
 /// In the order of `FindingSeverity`.
 constexpr std::array<const char *, 3> severityNames = {"error", "warning", "note"};
+constexpr std::array<const char *, 3> severityKeys = {"SEVERITY_ERROR", "SEVERITY_WARNING", "SEVERITY_NOTE"};
 /// In the order of `FileChange`.
 constexpr std::array<const char *, 4> changeNames = {"new", "replaced", "unchanged", "removed"};
 constexpr std::array<const char *, 4> changeKeys = {"ICONS_CHANGE_NEW", "ICONS_CHANGE_REPLACED",
@@ -82,8 +83,8 @@ QStringList findingLines(const IconCheck &check, const QString &folder)
     const QDir base(folder);
     for (const IconFinding &finding : check.findings) {
         const IconRuleInfo &info = infoOf(finding.rule);
-        QString line = nameOf(info.severity) + u": "_s + base.relativeFilePath(finding.path) + u": "_s +
-                       commandText(info.titleKey);
+        QString line = commandText(severityKeys[static_cast<std::size_t>(info.severity)]) + u": "_s +
+                       base.relativeFilePath(finding.path) + u": "_s + commandText(info.titleKey);
         if (!finding.evidence.isEmpty())
             line += u" ("_s + finding.evidence.words() + u')';
         lines << printableText(line + u"; "_s + commandText(info.fixKey));

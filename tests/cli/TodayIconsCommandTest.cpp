@@ -42,6 +42,7 @@ private slots:
     void check_data();
     void check();
     void checkAsJson();
+    void checkInGerman();
     void intoAProject();
     void intoAProjectThatAStoreRefuses();
     void intoNoProject();
@@ -269,6 +270,22 @@ void TodayIconsCommandTest::checkAsJson()
     QCOMPARE(icons({u"--check"_s, u"."_s + u"/none"_s}).status, 1);
     QVERIFY(QDir(at(u"."_s)).mkdir(u"empty"_s));
     QCOMPARE(icons({u"--check"_s, u"empty"_s}).status, 1);
+}
+
+void TodayIconsCommandTest::checkInGerman()
+{
+    QVERIFY(putFile(at(u"o/A.appiconset/Contents.json"_s),
+                    "{\"images\":[{\"idiom\":\"universal\",\"platform\":\"ios\",\"size\":\"1024x1024\","
+                    "\"filename\":\"a.png\"}]}"));
+    QVERIFY(putFile(at(u"o/A.appiconset/a.png"_s), pictureFile(opaquePicture(20))));
+    const LumoraRun run = LumoraProcess()
+                              .in(m_folder->path())
+                              .withVariable(u"LC_ALL"_s, u"de_DE.UTF-8"_s)
+                              .run({u"icons"_s, u"--check"_s, u"o"_s});
+    QVERIFY2(run.out.contains("Fehler: A.appiconset/a.png: ") &&
+                 run.out.contains("(20 x 20 Pixel statt 1024 x 1024 Pixel)"),
+             run.out);
+    QVERIFY2(!run.out.contains("error") && !run.out.contains("not "), run.out);
 }
 
 void TodayIconsCommandTest::intoAProject()
