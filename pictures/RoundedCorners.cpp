@@ -2,8 +2,10 @@
 #include "RoundedCorners.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstdint>
+#include <limits>
 
 namespace lumora
 {
@@ -15,24 +17,41 @@ namespace
 /// than half an 8-bit level.
 constexpr int slices = 64;
 
-/// The share of pixel (x, y) inside the top left arc, whose center is (radius, radius).
-double insideShare(int x, int y, double radius)
+/// Where the top left arc, whose center is (radius, radius), crosses the slices of one row of pixels.
+class RowCrossings
 {
-    double sum = 0;
-    for (int slice = 0; slice < slices; ++slice) {
-        const double dy = radius - (y + (slice + 0.5) / slices);
-        if (dy <= 0) {
-            sum += 1;
-            continue;
+public:
+    RowCrossings(int y, double radius)
+    {
+        for (int slice = 0; slice < slices; ++slice) {
+            const double dy = radius - (y + (slice + 0.5) / slices);
+            const double squared = radius * radius - dy * dy;
+            // A slice below the center is inside, one above the arc is outside.
+            const double crossing = dy <= 0 ? 0 : squared <= 0 ? radius + 1 : radius - std::sqrt(squared);
+            m_crossings[static_cast<std::size_t>(slice)] = crossing;
+            m_first = std::min(m_first, crossing);
+            m_last = std::max(m_last, crossing);
         }
-        const double squared = radius * radius - dy * dy;
-        if (squared <= 0)
-            continue;
-        const double crossing = radius - std::sqrt(squared);
-        sum += std::clamp(x + 1 - crossing, 0.0, 1.0);
     }
-    return sum / slices;
-}
+
+    /// The share of pixel x inside the arc, in 255ths.
+    unsigned share(int x) const
+    {
+        if (x + 1 <= m_first)
+            return 0;
+        if (x >= m_last)
+            return 255;
+        double sum = 0;
+        for (const double crossing : m_crossings)
+            sum += std::clamp(x + 1 - crossing, 0.0, 1.0);
+        return static_cast<unsigned>(std::lround(sum / slices * 255));
+    }
+
+private:
+    std::array<double, slices> m_crossings{};
+    double m_first = std::numeric_limits<double>::max();
+    double m_last = 0;
+};
 
 void fade(std::uint8_t *pixel, unsigned share)
 {
@@ -69,8 +88,9 @@ void roundCorners(QImage &picture, float radius)
     for (int y = 0; y < reach; ++y) {
         std::uint8_t *top = picture.scanLine(y);
         std::uint8_t *mirrored = picture.scanLine(bottom - y);
+        const RowCrossings crossings(y, radius);
         for (int x = 0; x < reach; ++x) {
-            const auto share = static_cast<unsigned>(std::lround(insideShare(x, y, radius) * 255));
+            const unsigned share = crossings.share(x);
             if (share == 255)
                 break;
             // In a picture of one pixel, all four corners cut from the same pixel.

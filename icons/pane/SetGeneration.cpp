@@ -73,7 +73,7 @@ void SetGeneration::start(const SetRequest &request)
     m_request = request;
     m_state = State::Looking;
     m_canceled = std::make_shared<std::atomic<bool>>(false);
-    m_jobs.start([this, request](const BackgroundJob &job) {
+    m_jobs.start([this, request, canceled = m_canceled](const BackgroundJob &job) {
         ProjectOffer offer;
         offer.projects = recognizeProjects(request.folder);
         if (offer.projects.isEmpty()) {
@@ -83,7 +83,8 @@ void SetGeneration::start(const SetRequest &request)
         const Motifs motifs(request.sources, MacForm::Body);
         Result<ProjectPlan> plan = planProjects(request.folder, motifs, {});
         const Result<QList<ProjectFile>> files =
-            plan ? compareWithProject(request.folder, plan.value().files, motifs, progressOf(job)) : plan.failure();
+            plan ? compareWithProject(request.folder, plan.value().files, motifs, progressOf(job, canceled))
+                 : plan.failure();
         if (!files && files.failure().code == FailureCode::Stopped) {
             job.post(
                 [this, count = plan.value().files.files.size()] { end(filesResult(0, count, m_request.folder, {})); });

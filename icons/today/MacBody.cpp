@@ -25,25 +25,81 @@ int onGrid(int measure, int edge)
     return measure * edge / storeIconSize;
 }
 
-/// Replaces each value by the mean of the values within `radius` in its row, and mirrors the picture at its diagonal.
-/// Two calls blur in both directions.
-Shape blurredAndTurned(const Shape &shape, int edge, int radius)
+/// Replaces each value by the mean of a window of values along one direction; beyond the picture the values are 0.
+class BoxBlur
 {
-    Shape result(shape.size());
-    const int window = 2 * radius + 1;
-    for (int y = 0; y < edge; ++y) {
-        const std::uint8_t *row = shape.data() + static_cast<std::size_t>(y * edge);
-        const auto at = [row, edge](int x) { return x < 0 || x >= edge ? 0 : int{row[x]}; };
-        int sum = 0;
-        for (int x = -radius; x <= radius; ++x)
-            sum += at(x);
-        for (int x = 0; x < edge; ++x) {
-            result[static_cast<std::size_t>(x * edge + y)] = static_cast<std::uint8_t>((sum + window / 2) / window);
-            sum += at(x + radius + 1) - at(x - radius);
-        }
+public:
+    BoxBlur(int edge, int radius)
+        : m_edge(edge), m_radius(radius), m_means(static_cast<std::size_t>(255 * window() + 1)),
+          m_sums(static_cast<std::size_t>(edge))
+    {
+        for (int sum = 0; sum <= 255 * window(); ++sum)
+            m_means[static_cast<std::size_t>(sum)] = static_cast<std::uint8_t>((sum + window() / 2) / window());
     }
-    return result;
-}
+
+    Shape alongRows(const Shape &shape) const
+    {
+        Shape result(shape.size());
+        std::vector<std::uint8_t> padded(static_cast<std::size_t>(m_edge + window() + 1));
+        for (int y = 0; y < m_edge; ++y) {
+            std::memcpy(padded.data() + m_radius, rowOf(shape, y), static_cast<std::size_t>(m_edge));
+            std::uint8_t *to = result.data() + static_cast<std::size_t>(y) * static_cast<std::size_t>(m_edge);
+            unsigned sum = 0;
+            for (int x = 0; x < window(); ++x)
+                sum += padded[static_cast<std::size_t>(x)];
+            for (std::size_t x = 0; x < static_cast<std::size_t>(m_edge); ++x) {
+                to[x] = m_means[sum];
+                sum += padded[x + static_cast<std::size_t>(window())];
+                sum -= padded[x];
+            }
+        }
+        return result;
+    }
+
+    Shape alongColumns(const Shape &shape)
+    {
+        Shape result(shape.size());
+        std::fill(m_sums.begin(), m_sums.end(), 0);
+        for (int y = 0; y < m_radius; ++y)
+            addRow(shape, y);
+        for (int y = 0; y < m_edge; ++y) {
+            addRow(shape, y + m_radius);
+            std::uint8_t *to = result.data() + static_cast<std::size_t>(y) * static_cast<std::size_t>(m_edge);
+            for (std::size_t x = 0; x < m_sums.size(); ++x)
+                to[x] = m_means[m_sums[x]];
+            takeRow(shape, y - m_radius);
+        }
+        return result;
+    }
+
+private:
+    int window() const { return 2 * m_radius + 1; }
+    const std::uint8_t *rowOf(const Shape &shape, int y) const
+    {
+        return shape.data() + static_cast<std::size_t>(y) * static_cast<std::size_t>(m_edge);
+    }
+    void addRow(const Shape &shape, int y)
+    {
+        if (y >= m_edge)
+            return;
+        const std::uint8_t *row = rowOf(shape, y);
+        for (std::size_t x = 0; x < m_sums.size(); ++x)
+            m_sums[x] += row[x];
+    }
+    void takeRow(const Shape &shape, int y)
+    {
+        if (y < 0)
+            return;
+        const std::uint8_t *row = rowOf(shape, y);
+        for (std::size_t x = 0; x < m_sums.size(); ++x)
+            m_sums[x] -= row[x];
+    }
+
+    int m_edge;
+    int m_radius;
+    std::vector<std::uint8_t> m_means; ///< by the sum of a window
+    std::vector<unsigned> m_sums;      ///< of the window in each column
+};
 
 /// The body's alpha channel, moved down and blurred: three means are close to a Gaussian.
 Shape shadowOf(const QImage &body, int edge, int margin)
@@ -55,9 +111,9 @@ Shape shadowOf(const QImage &body, int edge, int margin)
         for (int x = 0; x < body.width(); ++x)
             shape[static_cast<std::size_t>(row + margin + x)] = pixel[4 * x + 3];
     }
-    const int radius = onGrid(macGrid.shadowBlur / 3, edge);
+    BoxBlur blur(edge, onGrid(macGrid.shadowBlur / 3, edge));
     for (int pass = 0; pass < 3; ++pass)
-        shape = blurredAndTurned(blurredAndTurned(shape, edge, radius), edge, radius);
+        shape = blur.alongColumns(blur.alongRows(shape));
     return shape;
 }
 
