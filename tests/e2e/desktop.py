@@ -24,6 +24,9 @@ from pathlib import Path
 from control import Control
 from waiting import FACTOR, WAIT, Missing, wait_for
 
+TYPING_ATTEMPTS = 4
+TYPING_WAIT = WAIT / TYPING_ATTEMPTS
+
 
 class Desktop:
     """Owns every process of the desktop; leaving the `with` block ends them all."""
@@ -300,9 +303,17 @@ class Lumora:
         field.focus()
         # Keys typed before the dialog is the active window go to the window behind it.
         wait_for("the dialog to have the keyboard", lambda: field.has_state("focused"))
-        self.desktop.key("ctrl+a")
-        self.desktop.type(str(path))
-        wait_for("the path in the dialog", lambda: field.text == str(path))
+        # On a busy machine a key can repeat before its release is read, and the dialog can still fill in a name of its own.
+        for _ in range(TYPING_ATTEMPTS):
+            self.desktop.key("ctrl+a")
+            self.desktop.type(str(path))
+            try:
+                wait_for("the path in the dialog", lambda: field.text == str(path), TYPING_WAIT)
+                break
+            except Missing:
+                typed = field.text
+        else:
+            raise Missing(f"the dialog has {typed!r}, not {path}")
         self.desktop.key("Return")
 
     def choose_by_reader(self, text, confirm):
