@@ -167,6 +167,8 @@ ToolViewController *AppDelegate::controller(std::size_t index)
             sides->show(m_firstSide);
             // Each side may take other things.
             connect(sides, &PaneSides::shown, this, &AppDelegate::toolChanged);
+            // The side of today is made when it is shown first.
+            connect(sides, &PaneSides::shown, m_dropRouter, [this, index] { m_dropRouter->watchTool(index); });
         }
         m_dropRouter->watchTool(index);
         connect(controller.get(), &ToolViewController::attentionWanted, this,

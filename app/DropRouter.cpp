@@ -25,7 +25,11 @@ DropRouter::DropRouter(AppDelegate &delegate) : QObject(&delegate), m_delegate(d
 
 void DropRouter::watchTool(std::size_t index)
 {
-    if (DropView *view = dropViewOf(index)) {
+    const QWidget *tool = m_delegate.controller(index)->view();
+    if (tool == nullptr)
+        return;
+    const QList<DropView *> views = tool->findChildren<DropView *>();
+    for (DropView *view : views) {
         m_views.insert(view, index);
         view->installEventFilter(this);
     }

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "StoppableRead.h"
 #include "foundation/Result.h"
+#include "foundation/StoppableRead.h"
 
 #include <QSize>
 #include <QString>

@@ -3,7 +3,6 @@
 
 #include "LookFields.h"
 #include "TodayPlaceholderPane.h"
-#include "placeholders/screenshots/ScreenshotFacts.h"
 #include "tool/FailureText.h"
 #include "tool/JobResultView.h"
 #include "widgets/buttons/HoverButton.h"
@@ -75,21 +74,29 @@ void TodayPlaceholders::check(const QStringList &paths)
     m_checking = std::stop_source();
     m_pane->resultView()->clear();
     m_pane->showNote(qtTrId("SCALER_READING"));
-    m_jobs.start([this, paths, stop = m_checking](const BackgroundJob &job) {
+    m_jobs.start([this, paths, reader = m_services.fileReader, stop = m_checking](const BackgroundJob &job) {
         const std::stop_callback closing(job.stopToken(), [stop] { stop.request_stop(); });
-        const auto screenshots = readScreenshots(paths, stop.get_token());
-        job.post([=, this] {
-            if (stop.stop_requested())
-                return;
-            if (screenshots) {
-                m_pane->showReport(screenshots.value());
-                return;
-            }
-            m_pane->showSets();
-            emit messageWanted(qtTrId("SHOT_REFUSED"), failureReason(screenshots.failure()), m_pane->checkButton(),
-                               true);
+        const std::stop_token token = stop.get_token();
+        const ReadFile read = [reader](const QString &path, qint64 limit) { return reader->read(path, limit); };
+        const std::function<Screenshots()> work = [=] { return readScreenshots(paths, token, read); };
+        const std::optional<Screenshots> screenshots = unlessStopped(work, token);
+        if (!screenshots)
+            return;
+        job.post([this, token, screenshots = *screenshots] {
+            if (!token.stop_requested())
+                showScreenshots(screenshots);
         });
     });
+}
+
+void TodayPlaceholders::showScreenshots(const Screenshots &screenshots)
+{
+    if (screenshots) {
+        m_pane->showReport(screenshots.value());
+        return;
+    }
+    m_pane->showSets();
+    emit messageWanted(qtTrId("SHOT_REFUSED"), failureReason(screenshots.failure()), m_pane->checkButton(), true);
 }
 
 // Placeholders

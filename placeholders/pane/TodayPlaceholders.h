@@ -2,6 +2,7 @@
 #pragma once
 
 #include "placeholders/PlaceholderExport.h"
+#include "placeholders/screenshots/ScreenshotFacts.h"
 #include "placeholders/today/SizeList.h"
 #include "tool/BackgroundJobs.h"
 #include "tool/JobResult.h"
@@ -43,6 +44,9 @@ signals:
     void messageWanted(const QString &title, const QString &message, QWidget *fromView, bool isError);
 
 private:
+    using Screenshots = Result<std::vector<ScreenshotFacts>>;
+
+    void showScreenshots(const Screenshots &screenshots);
     void generate();
     void write(const QString &destination);
     void finish(const PlaceholderRun &run, qsizetype wanted);

@@ -106,7 +106,8 @@ Result<std::vector<ScreenshotFacts>> readScreenshots(const QString &folder)
     return readScreenshots(QStringList{folder});
 }
 
-Result<std::vector<ScreenshotFacts>> readScreenshots(const QStringList &dropped, const std::stop_token &stop)
+Result<std::vector<ScreenshotFacts>> readScreenshots(const QStringList &dropped, const std::stop_token &stop,
+                                                     const ReadFile &read)
 {
     std::map<QString, QString> files; // by the path that is shown
     const auto isFull = [&files] { return files.size() > mostScreenshots; };
@@ -126,7 +127,7 @@ Result<std::vector<ScreenshotFacts>> readScreenshots(const QStringList &dropped,
     for (const auto &[shown, path] : files) {
         if (stop.stop_requested())
             break;
-        const Result<QByteArray> bytes = readWholeFile(path, largestPictureFile);
+        const Result<QByteArray> bytes = read(path, largestPictureFile);
         all.push_back(screenshotFacts(bytes ? bytes.value() : QByteArray(), shown));
     }
     return all;

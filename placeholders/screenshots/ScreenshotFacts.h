@@ -2,6 +2,8 @@
 #pragma once
 
 #include "foundation/Result.h"
+#include "foundation/StoppableRead.h"
+#include "foundation/WholeFile.h"
 
 #include <QByteArray>
 #include <QSize>
@@ -37,6 +39,7 @@ Result<std::vector<ScreenshotFacts>> readScreenshots(const QString &folder);
 
 /// The same for folders and files; a file is known by its folder's name and its own. If it is stopped, the rest is left
 /// out.
-Result<std::vector<ScreenshotFacts>> readScreenshots(const QStringList &dropped, const std::stop_token &stop = {});
+Result<std::vector<ScreenshotFacts>> readScreenshots(const QStringList &dropped, const std::stop_token &stop = {},
+                                                     const ReadFile &read = readWholeFile);
 
 } // namespace lumora

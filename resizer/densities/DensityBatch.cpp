@@ -10,7 +10,6 @@
 #include "pictures/svg/SvgInspection.h"
 #include "pictures/webp/WebPEncoder.h"
 #include "resizer/MemoryBudget.h"
-#include "resizer/StoppableRead.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -91,7 +90,7 @@ private:
     {
         const bool isDrawing = m_source.kind == SourceKind::Drawings;
         const qint64 limit = isDrawing ? largestSvgFile : largestPictureFile;
-        const auto read = [limit](const QString &path) { return readWholeFile(path, limit); };
+        const ReadSource read = [limit, file = m_options.read](const QString &path) { return file(path, limit); };
         const auto answer = readUnlessStopped(read, m_source.source, m_options.stop);
         if (!answer)
             return Failure{FailureCode::Stopped, m_source.source, {}};

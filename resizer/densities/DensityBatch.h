@@ -15,6 +15,7 @@ struct DensityBatchOptions
     ExistingFiles existing = ExistingFiles::Keep;
     /// Ends the wait for a source that does not answer; such sources fail with `Stopped`. Not the batch itself.
     std::stop_token stop = {};
+    ReadFile read = readWholeFile;
 };
 
 /// The result of one planned picture.

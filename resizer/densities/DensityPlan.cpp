@@ -197,13 +197,14 @@ ScaledFormat formatOf(const DensityRequest &request, const DensityPlace &place)
 }
 
 /// The size of a source: in pixels, or of a drawing in points.
-Result<QSize> sourceSize(const FoundPicture &source)
+Result<QSize> sourceSize(const FoundPicture &source, const ReadFile &read)
 {
-    if (source.kind == SourceKind::Pictures)
-        return storedPixelSize(source.path);
-    const Result<QByteArray> bytes = readWholeFile(source.path, largestSvgFile);
+    const bool isPicture = source.kind == SourceKind::Pictures;
+    const Result<QByteArray> bytes = read(source.path, isPicture ? largestPictureFile : largestSvgFile);
     if (!bytes)
         return bytes.failure();
+    if (isPicture)
+        return storedPixelSize(bytes.value(), source.path);
     const auto drawing = SvgDrawing::read(bytes.value(), source.path, SvgShape::Any);
     if (!drawing)
         return drawing.failure();
@@ -213,7 +214,10 @@ Result<QSize> sourceSize(const FoundPicture &source)
 class Planner
 {
 public:
-    Planner(const DensityRequest &request, DensityPlan &plan) : m_request(request), m_plan(plan) {}
+    Planner(const DensityRequest &request, const ReadFile &read, DensityPlan &plan)
+        : m_request(request), m_read(read), m_plan(plan)
+    {
+    }
 
     void keepAsSource(const QString &path) { m_sources.insert(fileIdentity(path)); }
 
@@ -223,7 +227,7 @@ public:
             m_plan.failures.push_back({FailureCode::InvalidValue, picture.path, reason});
             return;
         }
-        const Result<QSize> size = sourceSize(picture);
+        const Result<QSize> size = sourceSize(picture, m_read);
         if (!size) {
             m_plan.failures.push_back(size.failure());
             return;
@@ -283,6 +287,7 @@ private:
     }
 
     const DensityRequest &m_request;
+    const ReadFile &m_read;
     DensityPlan &m_plan;
     QSet<QString> m_sources;
     QHash<QString, QString> m_targets;
@@ -298,14 +303,15 @@ qsizetype plannedFiles(const DensityPlan &plan)
     return count;
 }
 
-DensityPlan planDensities(const QStringList &paths, const DensityRequest &request, const std::stop_token &stop)
+DensityPlan planDensities(const QStringList &paths, const DensityRequest &request, const std::stop_token &stop,
+                          const ReadFile &read)
 {
     DensityPlan plan;
     Search search(request, stop, plan);
     for (const QString &path : paths)
         search.run(path);
     const std::vector<FoundPicture> sources = chosenSources(search.found(), request);
-    Planner planner(request, plan);
+    Planner planner(request, read, plan);
     for (const FoundPicture &picture : sources)
         planner.keepAsSource(picture.path);
     for (const FoundPicture &picture : sources) {

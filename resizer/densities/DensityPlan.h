@@ -3,6 +3,8 @@
 
 #include "DensityLayout.h"
 #include "foundation/Result.h"
+#include "foundation/StoppableRead.h"
+#include "foundation/WholeFile.h"
 
 #include <QString>
 #include <QStringList>
@@ -80,6 +82,7 @@ qsizetype plannedFiles(const DensityPlan &plan);
 /// a source, whatever the spelling of its path, and two sources never have the same target. Refuses Android's
 /// stretchable pictures (.9.png), since their border marks in whole pixels where to stretch. If it is stopped, the plan
 /// is incomplete.
-DensityPlan planDensities(const QStringList &paths, const DensityRequest &request, const std::stop_token &stop = {});
+DensityPlan planDensities(const QStringList &paths, const DensityRequest &request, const std::stop_token &stop = {},
+                          const ReadFile &read = readWholeFile);
 
 } // namespace lumora

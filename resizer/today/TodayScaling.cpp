@@ -3,7 +3,7 @@
 
 #include "ScalingChoices.h"
 #include "TodayResizerPane.h"
-#include "resizer/StoppableRead.h"
+#include "foundation/StoppableRead.h"
 #include "tool/JobResultView.h"
 #include "widgets/buttons/HoverButton.h"
 
@@ -93,6 +93,11 @@ void TodayScaling::chooseDestination()
                                           [this](const QString &path) { m_pane->choices()->setDestination(path); });
 }
 
+ReadFile TodayScaling::reading() const
+{
+    return [reader = m_services.fileReader](const QString &path, qint64 limit) { return reader->read(path, limit); };
+}
+
 // The plan
 
 void TodayScaling::makePlan()
@@ -107,10 +112,10 @@ void TodayScaling::makePlan()
     }
     m_pane->showNote(qtTrId("SCALER_READING"));
     m_planning = std::stop_source();
-    m_jobs.start([this, request, paths = m_paths, stop = m_planning](const BackgroundJob &job) {
+    m_jobs.start([this, request, paths = m_paths, read = reading(), stop = m_planning](const BackgroundJob &job) {
         const std::stop_callback closing(job.stopToken(), [stop] { stop.request_stop(); });
         const std::stop_token token = stop.get_token();
-        const std::function<DensityPlan()> work = [=] { return planDensities(paths, request, token); };
+        const std::function<DensityPlan()> work = [=] { return planDensities(paths, request, token, read); };
         const std::optional<DensityPlan> plan = unlessStopped(work, token);
         if (!plan)
             return;
@@ -136,7 +141,8 @@ void TodayScaling::write()
         return;
     m_isWriting = true;
     m_writing = std::stop_source();
-    const DensityBatchOptions options{m_pane->choices()->webpQuality(), m_request.existing, m_writing.get_token()};
+    const DensityBatchOptions options{m_pane->choices()->webpQuality(), m_request.existing, m_writing.get_token(),
+                                      reading()};
     m_pane->beginProgress(plannedFiles(m_plan));
     m_pane->showProgress(0, plannedFiles(m_plan), sourceName(m_plan, 0));
     m_jobs.start([this, options, plan = m_plan, request = m_request, paths = m_paths,

@@ -51,6 +51,8 @@ private:
         std::vector<Failure> failures = {};
     };
 
+    /// Reads as the desktop does; usable on other threads and after this object.
+    ReadFile reading() const;
     void connectPane();
     void chooseFolder();
     void chooseDestination();

@@ -5,12 +5,17 @@
 #include "app/sidebar/ITSidebarItemCell.h"
 #include "app/sidebar/SidebarMatrix.h"
 #include "foundation/ToolFacts.h"
+#include "foundation/WholeFile.h"
 #include "resources/Resources.h"
 #include "tool/DropView.h"
+#include "tool/PaneSides.h"
+#include "tool/style/ElidedLabel.h"
 
 #include <QDropEvent>
 #include <QMimeData>
 #include <QTest>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 using namespace lumora;
@@ -113,6 +118,68 @@ private slots:
         QVERIFY(dropOn(place, content));
         QCOMPARE(delegate.sideBar()->selectedIndex(), 0);
         QTRY_COMPARE(application.icons().icon().pixelColor(500, 500), QColor(Qt::magenta));
+    }
+
+    void sidesOfTodayTakeTheirDrops_data()
+    {
+        QTest::addColumn<ToolIndex>("tool");
+        QTest::addColumn<bool>("onTheDropView");
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<ToolIndex>("end"); ///< the tool in view at the end
+        QTest::addColumn<QString>("summary");
+        using enum ToolIndex;
+        const QString screenshot = u"1 picture · no findings"_s;
+        const QString plan = u"0 files to write · 1 left out"_s;
+        for (const bool onTheDropView : {false, true}) {
+            const char *place = onTheDropView ? "on the area" : "beside the area";
+            QTest::addRow("screenshots %s", place)
+                << Placeholders << onTheDropView << u"shots"_s << Placeholders << screenshot;
+            QTest::addRow("a screenshot %s", place)
+                << Placeholders << onTheDropView << u"shots/a.png"_s << Placeholders << screenshot;
+            QTest::addRow("a folder to scale %s", place) << Resizer << onTheDropView << u"shots"_s << Resizer << plan;
+            QTest::addRow("a package on the placeholders %s", place)
+                << Placeholders << onTheDropView << u"a.ipa"_s << Validator << QString();
+            QTest::addRow("a package on the down-scaler %s", place)
+                << Resizer << onTheDropView << u"a.ipa"_s << Validator << QString();
+        }
+    }
+    void sidesOfTodayTakeTheirDrops()
+    {
+        QFETCH(ToolIndex, tool);
+        QFETCH(bool, onTheDropView);
+        QFETCH(QString, file);
+        QFETCH(ToolIndex, end);
+        QFETCH(QString, summary);
+        const QTemporaryDir folder;
+        QVERIFY(QDir(folder.path()).mkdir(u"shots"_s));
+        QImage screenshot(1320, 2868, QImage::Format_RGB32);
+        screenshot.fill(Qt::darkCyan);
+        QVERIFY(screenshot.save(folder.filePath(u"shots/a.png"_s)) &&
+                writeWholeFile(folder.filePath(u"a.ipa"_s), "no archive"));
+        Application application;
+        AppDelegate &delegate = application.delegate;
+        delegate.sideBar()->setSelectedIndex(static_cast<qint32>(tool));
+        delegate.currentController()->sides()->show(ToolSide::Today);
+        QWidget *place = delegate.window();
+        if (onTheDropView) {
+            for (DropView *view : delegate.currentController()->view()->findChildren<DropView *>()) {
+                if (view->isVisible())
+                    place = view;
+            }
+            QVERIFY(place != delegate.window());
+        }
+        QWidget *pane = delegate.currentController()->view();
+        QMimeData content;
+        content.setUrls({QUrl::fromLocalFile(folder.filePath(file))});
+        QVERIFY(dropOn(place, content));
+        QCOMPARE(delegate.sideBar()->selectedIndex(), static_cast<qint32>(end));
+        const auto shows = [pane](const QString &text) {
+            const auto labels = pane->findChildren<ElidedLabel *>();
+            return std::any_of(labels.begin(), labels.end(),
+                               [&text](const ElidedLabel *label) { return label->text() == text; });
+        };
+        if (!summary.isEmpty())
+            QTRY_VERIFY(shows(summary));
     }
 
     void anItemOfTheSidebarTakesDropsForItsTool()

@@ -4,6 +4,7 @@
 #include "foundation/WholeFile.h"
 #include "tool/services/FileReader.h"
 
+#include <QHash>
 #include <QSet>
 
 #include <condition_variable>
@@ -22,7 +23,9 @@ public:
         std::unique_lock lock(m_mutex);
         ++m_begun;
         m_changed.notify_all();
-        m_changed.wait(lock, [&] { return m_released.contains(path) || m_allReleased; });
+        m_changed.wait(lock, [&] { return m_released.contains(path) || m_answers.value(path) > 0 || m_allReleased; });
+        if (m_answers.value(path) > 0)
+            --m_answers[path];
         lock.unlock();
         return readWholeFile(path, limit);
     }
@@ -30,6 +33,13 @@ public:
     {
         const std::lock_guard lock(m_mutex);
         m_released.insert(path);
+        m_changed.notify_all();
+    }
+    /// Allows this number of answers for the file.
+    void answer(const QString &path, int count)
+    {
+        const std::lock_guard lock(m_mutex);
+        m_answers[path] = count;
         m_changed.notify_all();
     }
     void releaseAll()
@@ -49,6 +59,7 @@ private:
     mutable std::mutex m_mutex; ///< guards everything below
     mutable std::condition_variable m_changed;
     mutable int m_begun = 0;
+    mutable QHash<QString, int> m_answers;
     QSet<QString> m_released;
     bool m_allReleased = false;
 };

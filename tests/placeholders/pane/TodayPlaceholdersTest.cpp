@@ -9,6 +9,7 @@
 #include "placeholders/pane/SetTiles.h"
 #include "placeholders/pane/TodayPlaceholderPane.h"
 #include "resources/Resources.h"
+#include "tests/doubles/HeldFiles.h"
 #include "tests/doubles/RecordingServices.h"
 #include "tool/DropView.h"
 #include "tool/JobResultView.h"
@@ -20,6 +21,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTreeWidget>
@@ -77,6 +79,10 @@ private slots:
     {
         m_folder = std::make_unique<QTemporaryDir>();
         m_services = std::make_unique<RecordingServices>();
+        make();
+    }
+    void make()
+    {
         m_controller = std::make_unique<PlaceholderViewController>(m_services->services());
         m_controller->popupView()->setAnimates(false);
         m_controller->view()->resize(835, 600);
@@ -270,6 +276,36 @@ private slots:
         m_services->clipboard.copiedFiles = paths;
         m_controller->paste();
         QTRY_VERIFY2(summaryIs(summary), qPrintable(pane()->summary()->text()));
+    }
+
+    void aStalledShareHoldsUpNothing()
+    {
+        put(u"en/a.png"_s, {1320, 2868});
+        put(u"de/b.png"_s, {1320, 2868});
+        const auto share = std::make_shared<HeldFiles>();
+        m_services->fileReader = share;
+        make();
+        share->release(at(u"de/b.png"_s));
+        m_controller->dropViewReceivedFiles({at(u"en"_s)});
+        share->waitForBegun(1);
+        QVERIFY2(summaryIs(u"Reading…"_s), qPrintable(pane()->summary()->text()));
+        QVERIFY(!pane()->showsReport());
+        // Other screenshots, and placeholders meanwhile.
+        m_controller->dropViewReceivedFiles({at(u"de"_s)});
+        QTRY_VERIFY(summaryIs(u"1 picture · no findings"_s));
+        press(pane()->backButton());
+        press(tile(u"Feature graphic"_s));
+        m_controller->dropViewReceivedFiles({at(u"en"_s)});
+        share->waitForBegun(3);
+        press(pane()->generateButton());
+        m_services->folderChooser.confirm(m_folder->path());
+        QTRY_COMPARE(written().size(), qsizetype{1});
+        QTRY_VERIFY(!today()->isWriting());
+        QElapsedTimer time;
+        time.start();
+        m_controller.reset();
+        QVERIFY(!time.hasExpired(BackgroundJobs::patience.count()));
+        share->releaseAll();
     }
 
     void whatIsGoneIsSaid()

@@ -7,6 +7,7 @@
 #include "resizer/today/ScalingPlanView.h"
 #include "resizer/today/TodayResizerPane.h"
 #include "resources/Resources.h"
+#include "tests/doubles/HeldFiles.h"
 #include "tests/doubles/RecordingServices.h"
 #include "tests/resizer/RetinaFixtures.h"
 #include "tool/DropView.h"
@@ -21,6 +22,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QSlider>
 #include <QTemporaryDir>
 #include <QTest>
@@ -72,6 +74,10 @@ private slots:
     {
         m_folder = std::make_unique<QTemporaryDir>();
         m_services = std::make_unique<RecordingServices>();
+        make();
+    }
+    void make()
+    {
         m_controller = std::make_unique<ResizerViewController>(m_services->services());
         m_controller->view()->resize(835, 600);
         m_controller->view()->show();
@@ -234,6 +240,69 @@ private slots:
         QTRY_VERIFY(!scaling()->isWriting());
         QCOMPARE(QImage(at(u"a.png"_s)).size(), QSize(7, 7));
         QVERIFY(pane()->resultView()->text().startsWith(u"1 of 2 pictures in "_s));
+    }
+
+    void aStalledShareHoldsUpNoPlan()
+    {
+        const auto share = std::make_shared<HeldFiles>();
+        m_services->fileReader = share;
+        make();
+        const QString held = put(u"a@3x.png"_s, {90, 60});
+        const QString answered = put(u"b@3x.png"_s, {60, 60});
+        share->release(answered);
+        m_controller->dropViewReceivedFiles({held});
+        share->waitForBegun(1);
+        QVERIFY2(summaryIs(u"Reading…"_s), qPrintable(pane()->summary()->text()));
+        QVERIFY(!pane()->writeButton()->isEnabled());
+        m_controller->dropViewReceivedFiles({answered});
+        QTRY_COMPARE(rows().value(0), u"b@3x.png|60 × 60|3x"_s);
+        // The answer to the drop before comes too late.
+        share->release(held);
+        m_controller->dropViewReceivedFiles({put(u"c@3x.png"_s, {30, 60})});
+        share->waitForBegun(3);
+        QElapsedTimer time;
+        time.start();
+        m_controller.reset();
+        QVERIFY(!time.hasExpired(BackgroundJobs::patience.count()));
+        share->releaseAll();
+    }
+
+    void aStalledShareEndsWithItsBatch_data()
+    {
+        QTest::addColumn<bool>("closes");
+        QTest::newRow("the window closes") << true;
+        QTest::newRow("the user cancels") << false;
+    }
+    void aStalledShareEndsWithItsBatch()
+    {
+        QFETCH(bool, closes);
+        const QString first = put(u"a@3x.png"_s, {90, 60});
+        const QString second = put(u"b@3x.png"_s, {90, 60});
+        const auto share = std::make_shared<HeldFiles>();
+        m_services->fileReader = share;
+        make();
+        share->answer(second, 1);
+        share->release(first);
+        m_controller->dropViewReceivedFiles({first, second});
+        QTRY_VERIFY(summaryIs(u"4 files to write"_s));
+        press(pane()->writeButton());
+        // Both for the plan, and both for the batch.
+        share->waitForBegun(4);
+        QTRY_COMPARE(pane()->currentLabel()->text(), u"b@3x.png"_s);
+        if (closes) {
+            QElapsedTimer time;
+            time.start();
+            m_controller.reset();
+            QVERIFY(!time.hasExpired(BackgroundJobs::patience.count()));
+        } else {
+            press(pane()->cancelButton());
+            QTRY_VERIFY(!scaling()->isWriting());
+            QVERIFY2(pane()->resultView()->text().startsWith(u"2 of 4 pictures in "_s),
+                     qPrintable(pane()->resultView()->text()));
+        }
+        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files),
+                 (QStringList{u"a.png"_s, u"a@2x.png"_s, u"a@3x.png"_s, u"b@3x.png"_s}));
+        share->releaseAll();
     }
 
     void filesAndFoldersAreChosen()

@@ -22,6 +22,9 @@ namespace lumora
 /// Reads the content of the file at the path. Callable on any thread, on several at once, also after the job has ended.
 using ReadSource = std::function<Result<QByteArray>(const QString &path)>;
 
+/// The same for files of several kinds, each with the most bytes that it may have.
+using ReadFile = std::function<Result<QByteArray>(const QString &path, qint64 limit)>;
+
 /// The time that a read still has when its job is to stop: enough for every disk, not for a share that never answers.
 constexpr std::chrono::milliseconds readPatience{300};
 
