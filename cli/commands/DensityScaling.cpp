@@ -99,8 +99,8 @@ private:
 
 std::optional<Complaint> takeScales(const DensityScalingRequest &request, DensityRequest &density)
 {
-    const auto wrong = [](const QString &option, const QString &value) {
-        Complaint complaint = misuse("bad-value", commandText("CLI_DOWNSCALE_NO_SCALE"));
+    const auto wrong = [](const QString &option, const QString &value, const char *key) {
+        Complaint complaint = misuse("bad-value", commandText(key));
         complaint.path = option + u' ' + value;
         return complaint;
     };
@@ -109,12 +109,12 @@ std::optional<Complaint> takeScales(const DensityScalingRequest &request, Densit
     } else if (!request.from.isEmpty()) {
         density.from = densityNamed(request.from);
         if (!density.from)
-            return wrong(u"--from"_s, request.from);
+            return wrong(u"--from"_s, request.from, "CLI_DOWNSCALE_NO_SOURCE_SCALE");
     }
     for (const QString &scale : request.toScales) {
         const std::optional<Density> to = densityNamed(scale);
         if (!to)
-            return wrong(u"--to-scales"_s, scale);
+            return wrong(u"--to-scales"_s, scale, "CLI_DOWNSCALE_NO_SCALE");
         if (density.from && !(*to < *density.from))
             return misuse("bad-value",
                           commandText("CLI_DOWNSCALE_NOT_BELOW", {{"[SCALE]", scale}, {"[FROM]", request.from}}));

@@ -5667,6 +5667,10 @@
     <source>is no density; give 1x, 1.5x, 2x, 3x, 4x or a name such as xxhdpi</source>
     <translation>ist keine Auflösung; 1x, 1.5x, 2x, 3x, 4x oder einen Namen wie xxhdpi angeben</translation>
   </message>
+  <message id="CLI_DOWNSCALE_NO_SOURCE_SCALE">
+    <source>is no density; give 1x, 1.5x, 2x, 3x, 4x, a name such as xxhdpi, or svg</source>
+    <translation>ist keine Auflösung; 1x, 1.5x, 2x, 3x, 4x, einen Namen wie xxhdpi oder svg angeben</translation>
+  </message>
   <message id="CLI_DOWNSCALE_NOT_BELOW">
     <source>[SCALE] is not below [FROM]</source>
     <translation>[SCALE] ist nicht kleiner als [FROM]</translation>
@@ -5676,8 +5680,8 @@
     <translation>[SCALE] hat in der Ablage [LAYOUT] keinen Platz</translation>
   </message>
   <message id="CLI_DOWNSCALE_SOURCES_ADVICE">
-    <source>use PNG or WebP files that state their density, such as logo@3x.png, or folders of them</source>
-    <translation>PNG- oder WebP-Dateien nehmen, die ihre Auflösung nennen, etwa logo@3x.png, oder Ordner mit ihnen</translation>
+    <source>use PNG or WebP files that state their density, such as logo@3x.png, SVG drawings, or folders of them</source>
+    <translation>PNG- oder WebP-Dateien nehmen, die ihre Auflösung nennen, etwa logo@3x.png, SVG-Zeichnungen oder Ordner mit ihnen</translation>
   </message>
   <message id="DETAIL_SVG_ENTITIES">
     <source>it declares entities; save it as plain SVG</source>

@@ -5665,6 +5665,10 @@
     <source>is no density; give 1x, 1.5x, 2x, 3x, 4x or a name such as xxhdpi</source>
     <translation>is no density; give 1x, 1.5x, 2x, 3x, 4x or a name such as xxhdpi</translation>
   </message>
+  <message id="CLI_DOWNSCALE_NO_SOURCE_SCALE">
+    <source>is no density; give 1x, 1.5x, 2x, 3x, 4x, a name such as xxhdpi, or svg</source>
+    <translation>is no density; give 1x, 1.5x, 2x, 3x, 4x, a name such as xxhdpi, or svg</translation>
+  </message>
   <message id="CLI_DOWNSCALE_NOT_BELOW">
     <source>[SCALE] is not below [FROM]</source>
     <translation>[SCALE] is not below [FROM]</translation>
@@ -5674,8 +5678,8 @@
     <translation>[SCALE] has no place in the layout [LAYOUT]</translation>
   </message>
   <message id="CLI_DOWNSCALE_SOURCES_ADVICE">
-    <source>use PNG or WebP files that state their density, such as logo@3x.png, or folders of them</source>
-    <translation>use PNG or WebP files that state their density, such as logo@3x.png, or folders of them</translation>
+    <source>use PNG or WebP files that state their density, such as logo@3x.png, SVG drawings, or folders of them</source>
+    <translation>use PNG or WebP files that state their density, such as logo@3x.png, SVG drawings, or folders of them</translation>
   </message>
   <message id="DETAIL_SVG_ENTITIES">
     <source>it declares entities; save it as plain SVG</source>

@@ -71,6 +71,7 @@ MISTAKES = [
     ("placeholders --set play,ios --check bare", 2, "lumora placeholders: --check goes with --set app-store or --set play only"),
     ("placeholders --check bare", 1, "lumora: bare: lacks what it has to contain (no picture in it); check how it was made"),
     ("downscale art --layout windows --dry-run", 2, "lumora downscale: --layout takes ios, android, flutter, react-native or web"),
+    ("downscale art --layout ios --from sgv", 2, "lumora downscale: --from sgv: is no density; give 1x, 1.5x, 2x, 3x, 4x, a name such as xxhdpi, or svg"),
     ("downscale art --layout ios --to-scales 7x", 2, "lumora downscale: --to-scales 7x: is no density"),
     ("downscale art --layout ios --from 2x --to-scales 3x", 2, "lumora downscale: 3x is not below 2x"),
     ("color abc --as css --all", 2, "lumora color: --as and --all exclude each other"),
