@@ -253,7 +253,8 @@ void AppDelegate::updateViewForIndex()
     QWidget *previous = layout->itemAt(0)->widget();
     QWidget *next = m_currentController->view();
     if (previous != next) {
-        const QWidget *focused = QApplication::focusWidget();
+        // The window's own: another program may have the keyboard, as when files are dragged from it.
+        const QWidget *focused = m_window->focusWidget();
         const bool hadFocus = focused != nullptr && (focused == previous || previous->isAncestorOf(focused));
         layout->removeWidget(previous);
         previous->hide();

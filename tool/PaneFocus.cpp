@@ -39,14 +39,26 @@ QWidget *PaneFocus::controlAfter(QWidget *start) const
 
 void PaneFocus::focusChanged(QWidget *old, QWidget *now)
 {
-    const bool isLost =
-        old != nullptr && old != m_pane && m_pane->isVisible() && m_pane->isAncestorOf(old) && !canTakeFocus(old);
-    if (!isLost || (now != nullptr && now->window() != m_pane->window())) {
-        // The user has moved the focus elsewhere.
-        if (now != nullptr && now != m_standIn)
-            forget();
+    rest(nullptr);
+    if (isLost(old) && (now == nullptr || now->window() == m_pane->window())) {
+        pass(old, now);
         return;
     }
+    if (old != nullptr && m_pane->isAncestorOf(old) && m_pane->window()->focusWidget() == old)
+        rest(old);
+    // The user has moved the focus elsewhere.
+    if (now != nullptr && now != m_standIn)
+        forget();
+}
+
+bool PaneFocus::isLost(const QWidget *control) const
+{
+    return control != nullptr && control != m_pane && m_pane->isVisible() && m_pane->isAncestorOf(control) &&
+           !canTakeFocus(control);
+}
+
+void PaneFocus::pass(QWidget *old, QWidget *now)
+{
     // When the substitute disappears as well, the first control still gets the focus back.
     if (!m_left || old != m_standIn) {
         forget();
@@ -57,9 +69,18 @@ void PaneFocus::focusChanged(QWidget *old, QWidget *now)
     m_standIn->setFocus(Qt::OtherFocusReason);
 }
 
+void PaneFocus::rest(QWidget *control)
+{
+    if (m_resting && m_resting != m_left)
+        m_resting->removeEventFilter(this);
+    m_resting = control;
+    if (m_resting)
+        m_resting->installEventFilter(this);
+}
+
 void PaneFocus::forget()
 {
-    if (m_left)
+    if (m_left && m_left != m_resting)
         m_left->removeEventFilter(this);
     m_left = nullptr;
     m_standIn = nullptr;
@@ -67,14 +88,20 @@ void PaneFocus::forget()
 
 bool PaneFocus::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == m_left && (event->type() == QEvent::Show || event->type() == QEvent::EnabledChange))
+    if (watched == m_resting && (event->type() == QEvent::Hide || event->type() == QEvent::EnabledChange) &&
+        isLost(m_resting)) {
+        QWidget *lost = m_resting;
+        rest(nullptr);
+        pass(lost, nullptr);
+        rest(m_standIn);
+    } else if (watched == m_left && (event->type() == QEvent::Show || event->type() == QEvent::EnabledChange))
         QMetaObject::invokeMethod(this, &PaneFocus::giveBack, Qt::QueuedConnection);
     return QObject::eventFilter(watched, event);
 }
 
 void PaneFocus::giveBack()
 {
-    if (!m_left || !canTakeFocus(m_left) || QApplication::focusWidget() != m_standIn)
+    if (!m_left || !canTakeFocus(m_left) || m_pane->window()->focusWidget() != m_standIn)
         return;
     QWidget *left = m_left;
     left->setFocus(Qt::OtherFocusReason);

@@ -262,6 +262,24 @@ private slots:
         QCOMPARE(QApplication::focusWidget(), application.delegate.header()->infoButton());
     }
 
+    void aToolThatIsShownInTheBackgroundHasTheFocusLater()
+    {
+        Application application;
+        INAppStoreWindow *window = application.delegate.window();
+        application.delegate.activate();
+        QVERIFY(QTest::qWaitForWindowActive(window));
+        // Files come by drag from another program, which has the keyboard.
+        QWidget other;
+        other.show();
+        other.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&other));
+        application.delegate.showTool(u"placeholders"_s);
+        window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(window));
+        QTRY_VERIFY(QApplication::focusWidget() != nullptr);
+        QVERIFY(application.delegate.currentController()->view()->isAncestorOf(QApplication::focusWidget()));
+    }
+
     void tabReachesHeaderSidebarAndTool()
     {
         Application application;

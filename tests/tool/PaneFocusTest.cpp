@@ -61,6 +61,31 @@ private slots:
         QTRY_COMPARE(QApplication::focusWidget(), &scene.third);
     }
 
+    void theNextControlTakesItWhileAnotherWindowHasTheKeyboard_data()
+    {
+        QTest::addColumn<bool>("byHiding");
+        QTest::newRow("of a hidden one") << true;
+        QTest::newRow("of a disabled one") << false;
+    }
+    void theNextControlTakesItWhileAnotherWindowHasTheKeyboard()
+    {
+        QFETCH(bool, byHiding);
+        Scene scene;
+        scene.third.setFocus();
+        QWidget other;
+        other.show();
+        other.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&other));
+        byHiding ? scene.third.hide() : scene.third.setEnabled(false);
+        QCOMPARE(scene.window.focusWidget(), &scene.first);
+        QVERIFY(other.isActiveWindow());
+        scene.window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&scene.window));
+        QCOMPARE(QApplication::focusWidget(), &scene.first);
+        byHiding ? scene.third.show() : scene.third.setEnabled(true);
+        QTRY_COMPARE(QApplication::focusWidget(), &scene.third);
+    }
+
     void aPaneWithoutControlsTakesItItself()
     {
         Scene scene;
