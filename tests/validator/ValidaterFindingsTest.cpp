@@ -8,6 +8,7 @@
 #include "validator/findings/FindingsView.h"
 #include "validator/findings/ReviewSections.h"
 #include "validator/findings/SizeBar.h"
+#include "validator/rules/Rule.h"
 #include "widgets/buttons/IconButton.h"
 #include "widgets/buttons/Segment.h"
 #include "widgets/buttons/SegmentedControl.h"
@@ -70,6 +71,22 @@ private slots:
         QCOMPARE(pane.ui().sumLabel->text(), u"1 of 6 checks failed"_s);
         QVERIFY(!pane.view().isVisible());
         QVERIFY2(pane.tool.reviewSections()->isVisible(), "what else is known of it");
+    }
+
+    void aRowSaysHowOften_data()
+    {
+        QTest::addColumn<int>("count");
+        QTest::addColumn<QString>("name");
+        QTest::newRow("once") << 1 << u"Warning: A use is not declared, ITMS-91053"_s;
+        QTest::newRow("twice") << 2 << u"Warning: A use is not declared, 2 times, ITMS-91053"_s;
+    }
+    void aRowSaysHowOften()
+    {
+        QFETCH(const int, count);
+        QFETCH(const QString, name);
+        const Rule *rule = ruleNamed(u"ITMS-91053"_s);
+        QVERIFY(rule != nullptr);
+        QCOMPARE(FindingHeader(*rule, count).accessibleName(), name);
     }
 
     void opensARowInPlace()

@@ -46,15 +46,17 @@ QColor colorOf(Severity severity)
 } // namespace
 
 FindingHeader::FindingHeader(const Rule &rule, qsizetype count, QWidget *parent)
-    : PaintedButton(QAccessible::Button, parent), m_severity(rule.severity), m_detail(QString::fromLatin1(rule.code))
+    : PaintedButton(QAccessible::Button, parent), m_severity(rule.severity)
 {
     setText(worded(rule.title));
-    if (count > 1) {
-        const QString times = qtTrId("FINDINGS_TIMES").replace("[COUNT]"_L1, QLocale().toString(count));
-        m_detail = m_detail.isEmpty() ? times : QString(times + u"  "_s + m_detail);
-    }
-    setAccessibleName(severityText(m_severity) + u": "_s + text() +
-                      (m_detail.isEmpty() ? QString() : QString(u", "_s + m_detail)));
+    QStringList details;
+    if (count > 1)
+        details << qtTrId("FINDINGS_TIMES").replace("[COUNT]"_L1, QLocale().toString(count));
+    if (*rule.code != '\0')
+        details << QString::fromLatin1(rule.code);
+    m_detail = details.join(u"  "_s);
+    const QStringList spoken = QStringList{text()} + details;
+    setAccessibleName(severityText(m_severity) + u": "_s + spoken.join(u", "_s));
     setAccessibleDescription(qtTrId("ACCESSIBLE_FINDING_CLOSED"));
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
