@@ -12,6 +12,7 @@
 
 #include <QGridLayout>
 #include <QLabel>
+#include <QLocale>
 
 using namespace Qt::StringLiterals;
 
@@ -121,7 +122,8 @@ void ContrastView::setBackground(const WideColor &background)
 
 void ContrastView::showVerdicts()
 {
-    m_ratio->setText(ratioText(contrastOf(m_color, m_background).ratio) + u" : 1"_s);
+    QString ratio = ratioText(contrastOf(m_color, m_background).ratio);
+    m_ratio->setText(ratio.replace(u'.', QLocale().decimalPoint()) + u" : 1"_s);
     m_table = contrastTable(m_color, m_background);
     for (const ContrastRow &verdict : m_table) {
         const UseRow &row = m_rows[static_cast<std::size_t>(verdict.use)];

@@ -82,9 +82,9 @@ def copied_first(lumora):
 def by_assistive_technology(lumora, on_clipboard):
     lumora.find("text", FIELD).set_text("rebeccapurple")
     lumora.find("text", BACKGROUND).set_text("black")
-    lumora.wait_shown("2.50 : 1")
+    lumora.wait_shown("2,50 : 1")
     lumora.button("Text: Nächste").press()
-    wait_for("a color that passes", lambda: not lumora.shows("2.50 : 1") and lumora.shows("AA erfüllt"))
+    wait_for("a color that passes", lambda: not lumora.shows("2,50 : 1") and lumora.shows("AA erfüllt"))
     lumora.button("Android").press()
     wait_for("Android to be chosen", lambda: copied_first(lumora) == "Jetpack Compose kopieren")
     lumora.find("text", FIELD).set_text("teal")

@@ -27,6 +27,7 @@
 #include <QDropEvent>
 #include <QLabel>
 #include <QMimeData>
+#include <QScopeGuard>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -175,6 +176,23 @@ private slots:
         QVERIFY(!rows.front()->row().srgbText.isEmpty());
         press(pane()->forms()->displayP3());
         QVERIFY(rows.front()->row().srgbText.isEmpty());
+    }
+
+    void theRatioHasTheDecimalSignOfTheLanguage_data()
+    {
+        QTest::addColumn<QLocale>("locale");
+        QTest::addColumn<QString>("ratio");
+        QTest::newRow("English") << QLocale(u"en_GB"_s) << u"4.48 : 1"_s;
+        QTest::newRow("German") << QLocale(u"de_DE"_s) << u"4,48 : 1"_s;
+    }
+    void theRatioHasTheDecimalSignOfTheLanguage()
+    {
+        QFETCH(const QLocale, locale);
+        QFETCH(const QString, ratio);
+        const auto restore = qScopeGuard([old = QLocale()] { QLocale::setDefault(old); });
+        QLocale::setDefault(locale);
+        type(u"#777777"_s);
+        QCOMPARE(pane()->contrast()->ratioLabel()->text(), ratio);
     }
 
     void contrastIsLiveAndOneClickFromPassing()
