@@ -829,7 +829,7 @@
   </message>
   <message id="PLACEHOLDER_IOS_SUBTITLE">
     <source>Nine sizes for iPhone, iPod and iPad</source>
-    <translation>Neun Bilder für iPhone, iPod und iPad</translation>
+    <translation>Neun Größen für iPhone, iPod und iPad</translation>
   </message>
   <message id="PLACEHOLDER_MAC_TITLE">
     <source>Mac</source>
@@ -837,7 +837,7 @@
   </message>
   <message id="PLACEHOLDER_MAC_SUBTITLE">
     <source>Four sizes for icons and screens</source>
-    <translation>Vier Bilder für Icons und Bildschirme</translation>
+    <translation>Vier Größen für Icons und Bildschirme</translation>
   </message>
   <message id="PLACEHOLDER_CUSTOM">
     <source>Custom size</source>
@@ -960,7 +960,7 @@
     <translation>Ein Code wie #ff8800 oder #ff880080 oder ein Name wie tomato</translation>
   </message>
   <message id="PLACEHOLDER_OWN_SIZES">
-    <source>Own sizes</source>
+    <source>Your own sizes</source>
     <translation>Eigene Größen</translation>
   </message>
   <message id="PLACEHOLDER_SIZES_TIP">
@@ -1348,7 +1348,7 @@
   </message>
   <message id="RESULT_FAILURES">
     <source>What went wrong</source>
-    <translation>Was misslang</translation>
+    <translation>Was nicht gelang</translation>
   </message>
   <message id="RESULT_NOTES">
     <source>To be noted</source>
@@ -1445,8 +1445,8 @@
     <translation>in sRGB beschnitten</translation>
   </message>
   <message id="COLOR_CLIPPED_TIP">
-    <source>sRGB cannot show this color; its sRGB code is the nearest edge of sRGB</source>
-    <translation>sRGB kann diese Farbe nicht zeigen; ihr sRGB-Code ist der nächste Rand von sRGB</translation>
+    <source>sRGB cannot show this color; its sRGB code is cut to what sRGB shows</source>
+    <translation>sRGB kann diese Farbe nicht zeigen; ihr sRGB-Code ist auf das beschnitten, was sRGB zeigt</translation>
   </message>
   <message id="COLOR_COPY_FORM">
     <source>Copy [FORM]</source>
@@ -1474,7 +1474,7 @@
   </message>
   <message id="COLOR_BACKGROUND_WELL">
     <source>Background color well, opens the color picker</source>
-    <translation>Feld der Hintergrundfarbe, öffnet die Farbauswahl</translation>
+    <translation>Feld der Hintergrundfarbe, öffnet den Farbwähler</translation>
   </message>
   <message id="COLOR_RATIO_TIP">
     <source>Contrast ratio as WCAG 2 defines it, 1 to 21</source>
@@ -1598,7 +1598,7 @@
   </message>
   <message id="COLOR_FORMAT_SETS">
     <source>Color sets</source>
-    <translation>Colorsets</translation>
+    <translation>Farbsätze</translation>
   </message>
   <message id="COLOR_FORMAT_GPL">
     <source>GIMP (.gpl)</source>
@@ -1731,8 +1731,8 @@
     <translation>Farbe vom Bildschirm aufnehmen</translation>
   </message>
   <message id="COLOR_SCREEN_PIPETTE">
-    <source>Pick up a screen color</source>
-    <translation>Bildschirmfarbe aufnehmen</translation>
+    <source>Pick a color from the screen</source>
+    <translation>Farbe vom Bildschirm aufnehmen</translation>
   </message>
   <message id="COLOR_PIPETTE_FAILED_TITLE">
     <source>No color picked</source>
@@ -1845,7 +1845,7 @@
     <translation>im Vergleich</translation>
   </message>
   <message id="DEVICES_TILE_TIP">
-    <source>Click for its facts; the mark, or Insert, adds it to a comparison</source>
+    <source>Click for its data; the mark, or Insert, adds it to a comparison</source>
     <translation>Klicken zeigt die Daten; die Marke oder Einfg nimmt es in den Vergleich</translation>
   </message>
   <message id="DEVICES_COMPARE">
@@ -2343,7 +2343,7 @@
     <translation>geschlossen</translation>
   </message>
   <message id="REVIEW_PENDING">
-    <source>Asking the store's rules …</source>
+    <source>Checking the store's rules…</source>
     <translation>Die Regeln des Stores werden geprüft …</translation>
   </message>
   <message id="REVIEW_CLASSIC_RULES">
@@ -2351,15 +2351,15 @@
     <translation>Regeln von iOS 7</translation>
   </message>
   <message id="REVIEW_READER_CRASHED">
-    <source>The store's rules could not be asked: the reader stopped in the middle of the package. The file may be damaged on purpose.</source>
+    <source>The store's rules could not be checked: the reader stopped in the middle of the package. The file may be damaged on purpose.</source>
     <translation>Die Regeln des Stores ließen sich nicht prüfen: Das Leseprogramm ist mitten im Paket abgebrochen. Die Datei ist vielleicht mit Absicht beschädigt.</translation>
   </message>
   <message id="REVIEW_READER_STALLED">
-    <source>The store's rules could not be asked: the reader did not get any further and was ended.</source>
+    <source>The store's rules could not be checked: the reader did not get any further and was ended.</source>
     <translation>Die Regeln des Stores ließen sich nicht prüfen: Das Leseprogramm kam nicht weiter und wurde beendet.</translation>
   </message>
   <message id="REVIEW_READER_NOT_STARTED">
-    <source>The store's rules could not be asked: the reader could not be started.</source>
+    <source>The store's rules could not be checked: the reader could not be started.</source>
     <translation>Die Regeln des Stores ließen sich nicht prüfen: Das Leseprogramm ließ sich nicht starten.</translation>
   </message>
   <message id="REVIEW_SIGNING">
@@ -4023,12 +4023,12 @@
     <translation>Es ist keine gewöhnliche Datei, sondern eine Pipe, ein Socket oder ein Gerät.</translation>
   </message>
   <message id="VALIDATER_FOUND_UNREADABLE">
-    <source>The system does not let this file be read.</source>
-    <translation>Das System lässt diese Datei nicht lesen.</translation>
+    <source>The system does not allow this file to be read.</source>
+    <translation>Das System erlaubt nicht, diese Datei zu lesen.</translation>
   </message>
   <message id="VALIDATER_FOUND_EMPTY_FILE">
-    <source>The file is empty: it holds not one byte.</source>
-    <translation>Die Datei ist leer: Sie enthält kein einziges Byte.</translation>
+    <source>The file is empty.</source>
+    <translation>Die Datei ist leer.</translation>
   </message>
   <message id="VALIDATER_FOUND_TEXT">
     <source>The file is a text.</source>
@@ -4916,7 +4916,7 @@
     <translation>auf eine Farbe legen: lumora icons --flatten FARBE</translation>
   </message>
   <message id="ICON_RULE_PLATFORM_NAME">
-    <source>A slot's platform is not written as the catalogue compiler knows it</source>
+    <source>A slot's platform is not written as the catalog compiler knows it</source>
     <translation>Die Plattform eines Platzes ist anders geschrieben, als der Katalog-Compiler sie kennt</translation>
   </message>
   <message id="ICON_FIX_PLATFORM_NAME">
@@ -6207,7 +6207,7 @@
     <translation>Zeile [LINE]: verlangt ist die Kopfzeile: [HEADER]</translation>
   </message>
   <message id="DETAIL_MODEL_TWICE">
-    <source>line [LINE]: [MODEL] stands in line [FIRST] already</source>
+    <source>line [LINE]: [MODEL] is in line [FIRST] already</source>
     <translation>Zeile [LINE]: [MODEL] steht schon in Zeile [FIRST]</translation>
   </message>
   <message id="DETAIL_MORE_MODELS">

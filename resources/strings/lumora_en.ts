@@ -958,8 +958,8 @@
     <translation>A code such as #ff8800 or #ff880080, or a name such as tomato</translation>
   </message>
   <message id="PLACEHOLDER_OWN_SIZES">
-    <source>Own sizes</source>
-    <translation>Own sizes</translation>
+    <source>Your own sizes</source>
+    <translation>Your own sizes</translation>
   </message>
   <message id="PLACEHOLDER_SIZES_TIP">
     <source>Sizes in points, such as 1200x600 800x800@2x</source>
@@ -1443,8 +1443,8 @@
     <translation>clipped in sRGB</translation>
   </message>
   <message id="COLOR_CLIPPED_TIP">
-    <source>sRGB cannot show this color; its sRGB code is the nearest edge of sRGB</source>
-    <translation>sRGB cannot show this color; its sRGB code is the nearest edge of sRGB</translation>
+    <source>sRGB cannot show this color; its sRGB code is cut to what sRGB shows</source>
+    <translation>sRGB cannot show this color; its sRGB code is cut to what sRGB shows</translation>
   </message>
   <message id="COLOR_COPY_FORM">
     <source>Copy [FORM]</source>
@@ -1729,8 +1729,8 @@
     <translation>Pick a color from the screen</translation>
   </message>
   <message id="COLOR_SCREEN_PIPETTE">
-    <source>Pick up a screen color</source>
-    <translation>Pick up a screen color</translation>
+    <source>Pick a color from the screen</source>
+    <translation>Pick a color from the screen</translation>
   </message>
   <message id="COLOR_PIPETTE_FAILED_TITLE">
     <source>No color picked</source>
@@ -1843,8 +1843,8 @@
     <translation>in the comparison</translation>
   </message>
   <message id="DEVICES_TILE_TIP">
-    <source>Click for its facts; the mark, or Insert, adds it to a comparison</source>
-    <translation>Click for its facts; the mark, or Insert, adds it to a comparison</translation>
+    <source>Click for its data; the mark, or Insert, adds it to a comparison</source>
+    <translation>Click for its data; the mark, or Insert, adds it to a comparison</translation>
   </message>
   <message id="DEVICES_COMPARE">
     <source>Compare ([COUNT])</source>
@@ -2341,24 +2341,24 @@
     <translation>closed</translation>
   </message>
   <message id="REVIEW_PENDING">
-    <source>Asking the store's rules …</source>
-    <translation>Asking the store's rules …</translation>
+    <source>Checking the store's rules…</source>
+    <translation>Checking the store's rules…</translation>
   </message>
   <message id="REVIEW_CLASSIC_RULES">
     <source>iOS 7 rules</source>
     <translation>iOS 7 rules</translation>
   </message>
   <message id="REVIEW_READER_CRASHED">
-    <source>The store's rules could not be asked: the reader stopped in the middle of the package. The file may be damaged on purpose.</source>
-    <translation>The store's rules could not be asked: the reader stopped in the middle of the package. The file may be damaged on purpose.</translation>
+    <source>The store's rules could not be checked: the reader stopped in the middle of the package. The file may be damaged on purpose.</source>
+    <translation>The store's rules could not be checked: the reader stopped in the middle of the package. The file may be damaged on purpose.</translation>
   </message>
   <message id="REVIEW_READER_STALLED">
-    <source>The store's rules could not be asked: the reader did not get any further and was ended.</source>
-    <translation>The store's rules could not be asked: the reader did not get any further and was ended.</translation>
+    <source>The store's rules could not be checked: the reader did not get any further and was ended.</source>
+    <translation>The store's rules could not be checked: the reader did not get any further and was ended.</translation>
   </message>
   <message id="REVIEW_READER_NOT_STARTED">
-    <source>The store's rules could not be asked: the reader could not be started.</source>
-    <translation>The store's rules could not be asked: the reader could not be started.</translation>
+    <source>The store's rules could not be checked: the reader could not be started.</source>
+    <translation>The store's rules could not be checked: the reader could not be started.</translation>
   </message>
   <message id="REVIEW_SIGNING">
     <source>Signature and profile</source>
@@ -4021,12 +4021,12 @@
     <translation>It is no ordinary file but a pipe, a socket or a device.</translation>
   </message>
   <message id="VALIDATER_FOUND_UNREADABLE">
-    <source>The system does not let this file be read.</source>
-    <translation>The system does not let this file be read.</translation>
+    <source>The system does not allow this file to be read.</source>
+    <translation>The system does not allow this file to be read.</translation>
   </message>
   <message id="VALIDATER_FOUND_EMPTY_FILE">
-    <source>The file is empty: it holds not one byte.</source>
-    <translation>The file is empty: it holds not one byte.</translation>
+    <source>The file is empty.</source>
+    <translation>The file is empty.</translation>
   </message>
   <message id="VALIDATER_FOUND_TEXT">
     <source>The file is a text.</source>
@@ -4914,8 +4914,8 @@
     <translation>put it on a color: lumora icons --flatten COLOR</translation>
   </message>
   <message id="ICON_RULE_PLATFORM_NAME">
-    <source>A slot's platform is not written as the catalogue compiler knows it</source>
-    <translation>A slot's platform is not written as the catalogue compiler knows it</translation>
+    <source>A slot's platform is not written as the catalog compiler knows it</source>
+    <translation>A slot's platform is not written as the catalog compiler knows it</translation>
   </message>
   <message id="ICON_FIX_PLATFORM_NAME">
     <source>write it in lower case</source>
@@ -6205,8 +6205,8 @@
     <translation>line [LINE]: the header is wanted: [HEADER]</translation>
   </message>
   <message id="DETAIL_MODEL_TWICE">
-    <source>line [LINE]: [MODEL] stands in line [FIRST] already</source>
-    <translation>line [LINE]: [MODEL] stands in line [FIRST] already</translation>
+    <source>line [LINE]: [MODEL] is in line [FIRST] already</source>
+    <translation>line [LINE]: [MODEL] is in line [FIRST] already</translation>
   </message>
   <message id="DETAIL_MORE_MODELS">
     <source>more than [COUNT] models</source>
