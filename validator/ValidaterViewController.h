@@ -134,6 +134,10 @@ private:
     void validate(const ArtworkReport &artwork);
     void setUpReview();
     void startReview(const QString &path, quint64 number);
+    void showProgress(int perMille);
+    /// The line below the bar: what is read and, where that is known, how much of it.
+    void showReadingText();
+    QString withPercent(const QString &text) const;
     void takeReview(std::variant<PackageReview, ReaderEnd> review);
     bool isReviewPending() const { return m_isReviewing && !m_found; }
     /// Presents the report when all that belongs to it is there.
@@ -180,6 +184,7 @@ private:
     std::optional<PackageReview> m_review;
     std::optional<ReaderEnd> m_readerEnd; ///< why there is no review
     QStringList m_ignored;
+    int m_readPercent = 0;
     bool m_isReviewing = false;
     bool m_isJudged = false; ///< the classic checks are done
     /// Counts the packages, so that results of a replaced reading are dropped.

@@ -14,6 +14,7 @@
 #include "widgets/buttons/IconButton.h"
 #include "widgets/style/Fonts.h"
 #include "widgets/style/Palette.h"
+#include "words/LongWords.h"
 
 #include <QDateTime>
 #include <QFileInfo>
@@ -87,6 +88,7 @@ void ValidaterViewController::startReview(const QString &path, quint64 number)
         return;
     m_isReviewing = true;
     m_ui->readingBar->setDoubleValue(0);
+    m_readPercent = 0;
     const ReviewOrder order{services().readerProgram, path, services().readerPatience};
     m_reviewJobs.start([this, order, number, stop = m_stop.get_token()](const BackgroundJob &job) {
         const auto post = [&](std::function<void()> show) {
@@ -95,14 +97,30 @@ void ValidaterViewController::startReview(const QString &path, quint64 number)
                     show();
             });
         };
-        const auto progress = [&](int perMille) {
-            constexpr double whole = 1000;
-            post([this, perMille] {
-                m_ui->readingBar->setDoubleValue(m_ui->readingBar->maxValue() * perMille / whole);
-            });
-        };
+        const auto progress = [&](int perMille) { post([this, perMille] { showProgress(perMille); }); };
         post([this, review = reviewInProcess(order, stop, progress)] { takeReview(review); });
     });
+}
+
+void ValidaterViewController::showProgress(int perMille)
+{
+    constexpr double whole = 1000;
+    m_ui->readingBar->setDoubleValue(m_ui->readingBar->maxValue() * perMille / whole);
+    m_readPercent = perMille / 10;
+    showReadingText();
+    if (m_isJudged)
+        m_ui->sumLabel->setText(withPercent(qtTrId("REVIEW_PENDING")));
+}
+
+void ValidaterViewController::showReadingText()
+{
+    m_ui->readingLoaderField->setText(breakingLongWords(withPercent(m_ui->readingLoaderField->accessibleName())));
+}
+
+QString ValidaterViewController::withPercent(const QString &text) const
+{
+    // The package may be read at once, and without a review nothing counts the reading.
+    return m_isReviewing && m_readPercent > 0 ? QString(text + u" %1 %"_s.arg(m_readPercent)) : text;
 }
 
 void ValidaterViewController::takeReview(std::variant<PackageReview, ReaderEnd> review)
@@ -122,7 +140,7 @@ void ValidaterViewController::conclude()
     if (!m_isJudged)
         return;
     if (isReviewPending()) {
-        m_ui->sumLabel->setText(qtTrId("REVIEW_PENDING"));
+        m_ui->sumLabel->setText(withPercent(qtTrId("REVIEW_PENDING")));
         return;
     }
     showSum();

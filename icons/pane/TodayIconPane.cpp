@@ -116,9 +116,9 @@ TodayIconPane::TodayIconPane(QWidget *parent)
     : QWidget(parent), m_dropView(new DropView), m_iconView(new IconView), m_title(new ElidedLabel),
       m_status(new ElidedLabel), m_browse(makeButton(qtTrId("BROWSE"))), m_background(new ColorEntryField),
       m_flatten(new ColorEntryField), m_name(new EntryField), m_all(makeButton(qtTrId("ICONS_ALL"))),
-      m_generate(makeButton(qtTrId("GENERATE"))), m_progress(new LBProgressBar), m_cancel(makeButton(qtTrId("CANCEL"))),
-      m_actions(new QStackedWidget), m_snippetSets(new QComboBox), m_snippet(new QPlainTextEdit),
-      m_copy(new IconButton), m_result(new JobResultView)
+      m_generate(makeButton(qtTrId("GENERATE"))), m_progress(new LBProgressBar), m_progressLabel(new QLabel),
+      m_cancel(makeButton(qtTrId("CANCEL"))), m_actions(new QStackedWidget), m_snippetSets(new QComboBox),
+      m_snippet(new QPlainTextEdit), m_copy(new IconButton), m_result(new JobResultView)
 {
     auto *right = new QVBoxLayout;
     right->setSpacing(margin);
@@ -210,7 +210,9 @@ QWidget *TodayIconPane::makeSets()
     auto *bar = new QHBoxLayout(running);
     bar->setContentsMargins({});
     bar->addWidget(m_progress, 1);
+    bar->addWidget(m_progressLabel);
     bar->addWidget(m_cancel);
+    styleLabel(m_progressLabel, latoBold(textSize), palette::chromeText);
     m_progress->setFixedHeight(progressHeight);
     m_progress->setLightColor(palette::icons);
     m_progress->setDarkColor(palette::iconsBorder);
@@ -335,10 +337,20 @@ void TodayIconPane::showPreviews(const IconPreviews &previews)
         well(preview.source)->setPreview(preview);
 }
 
+void TodayIconPane::showProgress(qsizetype number, qsizetype count)
+{
+    m_progress->setMaxValue(static_cast<double>(count));
+    m_progress->setDoubleValue(static_cast<double>(number));
+    m_progressLabel->setText(qtTrId("SCALER_PROGRESS")
+                                 .replace("[DONE]"_L1, QString::number(number))
+                                 .replace("[COUNT]"_L1, QString::number(count)));
+}
+
 void TodayIconPane::setRunning(bool running)
 {
     m_actions->setCurrentIndex(running ? 1 : 0);
     if (running) {
+        m_progressLabel->clear();
         m_progress->setDoubleValue(0);
         m_progress->startAnimation();
     } else {

@@ -58,7 +58,7 @@ public:
     HoverButton *allButton() const { return m_all; }
     HoverButton *generateButton() const { return m_generate; }
     EntryField *nameField() const { return m_name; }
-    LBProgressBar *progressBar() const { return m_progress; }
+    QLabel *progressLabel() const { return m_progressLabel; }
     HoverButton *cancelButton() const { return m_cancel; }
     PreviewTile *tile(PreviewPlace place) const { return m_tiles[static_cast<std::size_t>(place)]; }
     QComboBox *snippetSets() const { return m_snippetSets; }
@@ -70,6 +70,8 @@ public:
     void setStatus(const QString &text, bool isRefusal);
     void showPreviews(const IconPreviews &previews);
     /// Shows the bar and the button to cancel in place of the buttons that start.
+    /// File `number`, from 1, of `count` is being written.
+    void showProgress(qsizetype number, qsizetype count);
     void setRunning(bool running);
 
 signals:
@@ -97,6 +99,7 @@ private:
     HoverButton *m_all;
     HoverButton *m_generate;
     LBProgressBar *m_progress;
+    QLabel *m_progressLabel;
     HoverButton *m_cancel;
     QStackedWidget *m_actions;
     std::array<PreviewTile *, previewPlaces.size()> m_tiles{};

@@ -10,7 +10,6 @@
 #include "tool/QuestionPopover.h"
 #include "widgets/buttons/HoverButton.h"
 #include "widgets/popover/SFBPopover.h"
-#include "widgets/progress/LBProgressBar.h"
 #include "widgets/style/Palette.h"
 
 #include <algorithm>
@@ -24,10 +23,7 @@ void TodayIcons::connectRun()
 {
     connect(m_pane->generateButton(), &HoverButton::clicked, this, &TodayIcons::generate);
     connect(m_pane->cancelButton(), &HoverButton::clicked, m_generation, &SetGeneration::cancel);
-    connect(m_generation, &SetGeneration::progressed, m_pane, [this](qsizetype number, qsizetype count) {
-        m_pane->progressBar()->setMaxValue(static_cast<double>(count));
-        m_pane->progressBar()->setDoubleValue(static_cast<double>(number));
-    });
+    connect(m_generation, &SetGeneration::progressed, m_pane, &TodayIconPane::showProgress);
     connect(m_generation, &SetGeneration::ended, m_pane, [this](const JobResult &result) {
         runEnded();
         m_pane->result()->setResult(result);

@@ -152,6 +152,20 @@ private slots:
         QVERIFY(!m_scene->services.folderChooser.isOpen());
     }
 
+    void theCountIsShownWhileFilesAreWritten()
+    {
+        pane()->box(TodaySet::Linux)->click();
+        QStringList shown;
+        QStringList expected;
+        connect(generation(), &SetGeneration::progressed, this, [&](qsizetype number, qsizetype count) {
+            shown << pane()->progressLabel()->text();
+            expected << u"%1 of %2"_s.arg(number).arg(count);
+        });
+        QVERIFY(m_scene->generateInto(out()));
+        QVERIFY(!shown.isEmpty());
+        QCOMPARE(shown, expected);
+    }
+
     void runIsCanceled()
     {
         pane()->allButton()->click();

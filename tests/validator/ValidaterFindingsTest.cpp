@@ -258,7 +258,9 @@ private slots:
         ReadPane pane(*this, nullptr, script(u"echo $$ > \"$0.pid\"; echo 'read 300'; exec sleep 600"_s));
         pane.tool.dropIpaFileFromDelegate(package("keeps, all"));
         QTRY_COMPARE_WITH_TIMEOUT(pane.ui().readingBar->doubleValue(), 30.0, readingTime);
-        QTRY_VERIFY_WITH_TIMEOUT(pane.ui().sumLabel->text() == qtTrId("REVIEW_PENDING"), readingTime);
+        QTRY_COMPARE_WITH_TIMEOUT(pane.ui().sumLabel->text(), u"Checking the store's rules… 30 %"_s, readingTime);
+        QVERIFY2(pane.ui().readingLoaderField->text().endsWith(u"… 30 %"_s),
+                 qPrintable(pane.ui().readingLoaderField->text()));
         const QString process = u"/proc/"_s + QString::fromLatin1(contentOf(m_script + u".pid"_s)).trimmed();
         QVERIFY(QFile::exists(process));
         pane.tool.cancelButtonPressed();
