@@ -159,12 +159,6 @@ void BackgroundJobs::start(Work work)
     worker.thread = std::thread([queue = m_queue, &worker] { queue->run(worker); });
 }
 
-void BackgroundJobs::waitForDone()
-{
-    std::unique_lock lock(m_queue->mutex);
-    m_queue->workerFinished.wait(lock, [this] { return m_queue->running == 0; });
-}
-
 /// Waits for all jobs, or abandons those that do nothing for too long; returns whether all have ended.
 bool BackgroundJobs::waitForEnd()
 {

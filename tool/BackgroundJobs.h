@@ -70,8 +70,6 @@ public:
     ~BackgroundJobs() override;
 
     void start(Work work);
-    /// Waits until every job has returned; their posted functions run when the event loop continues.
-    void waitForDone();
 
 protected:
     bool event(QEvent *event) override;

@@ -52,8 +52,6 @@ public:
     void writeIntoOwnFolder();
     /// Ends the run after the file that is being compared or written. What a project had comes back.
     void cancel();
-    /// Waits for the run; its signals follow when the event loop continues.
-    void waitForDone() { m_jobs.waitForDone(); }
 
 signals:
     /// There are projects in the folder; the run goes on with an answer.

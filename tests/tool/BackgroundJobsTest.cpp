@@ -41,19 +41,24 @@ private slots:
 
     void jobsRunOffTheMainThread()
     {
-        std::atomic<bool> elsewhere = false;
-        BackgroundJobs jobs;
-        jobs.start([&](const BackgroundJob &) { elsewhere = QThread::currentThread() != qApp->thread(); });
-        jobs.waitForDone();
+        bool elsewhere = false;
+        {
+            BackgroundJobs jobs;
+            jobs.start([&](const BackgroundJob &) { elsewhere = QThread::currentThread() != qApp->thread(); });
+        }
         QVERIFY(elsewhere);
     }
 
     void threadsBearTheLabel()
     {
         std::array<char, 16> name = {};
+        std::binary_semaphore named(0);
         BackgroundJobs jobs(BackgroundJobs::Order::Serial, "aQueue");
-        jobs.start([&](const BackgroundJob &) { ::pthread_getname_np(::pthread_self(), name.data(), name.size()); });
-        jobs.waitForDone();
+        jobs.start([&](const BackgroundJob &) {
+            ::pthread_getname_np(::pthread_self(), name.data(), name.size());
+            named.release();
+        });
+        named.acquire();
         QCOMPARE(QByteArray(name.data()), "aQueue"_ba);
     }
 
@@ -71,7 +76,6 @@ private slots:
             first.release();
             second.acquire();
         });
-        jobs.waitForDone();
     }
 
     void serialJobsRunOneAfterAnother()
@@ -79,6 +83,7 @@ private slots:
         std::atomic<int> running = 0;
         std::atomic<bool> overlapped = false;
         QList<int> order;
+        std::binary_semaphore last(0);
         BackgroundJobs jobs(BackgroundJobs::Order::Serial);
         for (int number = 0; number < 20; ++number) {
             jobs.start([&, number](const BackgroundJob &) {
@@ -87,9 +92,11 @@ private slots:
                 std::this_thread::yield();
                 order << number;
                 --running;
+                if (number == 19)
+                    last.release();
             });
         }
-        jobs.waitForDone();
+        last.acquire();
         QVERIFY(!overlapped);
         QCOMPARE(order.size(), 20);
         QVERIFY(std::is_sorted(order.cbegin(), order.cend()));
