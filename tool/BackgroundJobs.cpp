@@ -132,13 +132,14 @@ BackgroundJobs::BackgroundJobs(Order order, const std::string &label, std::chron
 
 BackgroundJobs::~BackgroundJobs()
 {
-    m_queue->stop.request_stop();
     {
+        // Before the stop: a job that ends for it must not let the next one begin.
         const std::lock_guard lock(m_queue->mutex);
         // A concurrent job counts as started even if its thread has not begun it yet.
         if (m_queue->order == Order::Serial)
             m_queue->waiting.clear();
     }
+    m_queue->stop.request_stop();
     if (!waitForEnd())
         logLine(QStringLiteral("Ended while a file does not answer"));
     joinFinished();

@@ -116,7 +116,7 @@ QSize SourceWell::sizeHint() const
 
 QRectF SourceWell::pictureArea() const
 {
-    return QRectF((width() - side) / 2, 0, side, side);
+    return QRect((width() - side) / 2, 0, side, side);
 }
 
 void SourceWell::resizeEvent(QResizeEvent *)
