@@ -94,7 +94,7 @@ QSize PreviewTile::sizeHint() const
 QRectF PreviewTile::pictureArea() const
 {
     // On the pixel grid, so that nothing is resampled.
-    return QRectF((width() - side) / 2, 0, side, side);
+    return QRect((width() - side) / 2, 0, side, side);
 }
 
 bool PreviewTile::event(QEvent *event)

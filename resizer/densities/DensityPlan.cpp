@@ -165,9 +165,8 @@ std::vector<FoundPicture> chosenSources(const std::vector<FoundPicture> &found, 
     std::vector<FoundPicture> chosen;
     for (const auto &[key, picture] : largest) {
         const Density &density = picture.place.density;
-        if (picture.kind == SourceKind::Drawings)
-            chosen.push_back(picture);
-        else if (request.from ? density == *request.from : picture.place.stated && Density{} < density)
+        const bool isWanted = request.from ? density == *request.from : picture.place.stated && Density{} < density;
+        if (picture.kind == SourceKind::Drawings || isWanted)
             chosen.push_back(picture);
     }
     std::ranges::sort(chosen, {}, &FoundPicture::path);

@@ -425,7 +425,7 @@ private:
     static QJsonArray withoutLengths(const QJsonObject &result)
     {
         QJsonArray files;
-        for (const QJsonValue &value : result[u"files"_s].toArray()) {
+        for (const QJsonValue value : result[u"files"_s].toArray()) {
             QJsonObject file = value.toObject();
             file.remove(u"bytes"_s);
             files << file;

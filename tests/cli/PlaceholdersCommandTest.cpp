@@ -103,7 +103,7 @@ private slots:
         QCOMPARE(result[u"schema"_s].toInt(), 1);
         QCOMPARE(result[u"folder"_s].toString(), out(u"placeholders"_s));
         QStringList told;
-        for (const QJsonValue &value : result[u"files"_s].toArray()) {
+        for (const QJsonValue value : result[u"files"_s].toArray()) {
             const QJsonObject file = value.toObject();
             QCOMPARE(file.keys(), (QStringList{u"bytes"_s, u"height"_s, u"path"_s, u"width"_s}));
             const QString path = file[u"path"_s].toString();
@@ -153,7 +153,7 @@ private slots:
         const LumoraRun run = write(arguments);
         QCOMPARE(run.status, 0);
         QStringList told;
-        for (const QJsonValue &file : run.json()[u"files"_s].toArray())
+        for (const QJsonValue file : run.json()[u"files"_s].toArray())
             told << QFileInfo(file[u"path"_s].toString()).fileName();
         QCOMPARE(told, names);
         QCOMPARE(filesBelowFolder(out()).size(), names.size());
@@ -298,7 +298,7 @@ private slots:
         // In the Mac's set, only the picture of 512 pixels is short enough.
         const LumoraRun reference = write({u"--set"_s, u"mac"_s, u"--json"_s});
         QList<qint64> lengths;
-        for (const QJsonValue &file : reference.json()[u"files"_s].toArray())
+        for (const QJsonValue file : reference.json()[u"files"_s].toArray())
             lengths << file[u"bytes"_s].toInteger();
         const qint64 small = lengths.at(1);
         const LumoraRun run = LumoraProcess()

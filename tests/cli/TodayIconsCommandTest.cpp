@@ -84,11 +84,11 @@ void TodayIconsCommandTest::commonSets()
     const QJsonObject result = run.json();
     // A photograph has no shape to make a monochrome icon of, and no dark one.
     QStringList findings;
-    for (const QJsonValue &finding : result[u"findings"_s].toArray())
+    for (const QJsonValue finding : result[u"findings"_s].toArray())
         findings << finding[u"id"].toString();
     QCOMPARE(findings, (QStringList{u"monochrome-missing"_s, u"appearance-missing"_s}));
     QCOMPARE(result[u"files"_s].toArray().size(), filesBelowFolder(at(u"icons"_s)).size());
-    for (const QJsonValue &value : result[u"files"_s].toArray())
+    for (const QJsonValue value : result[u"files"_s].toArray())
         QCOMPARE(value[u"bytes"].toInteger(), QFileInfo(value[u"path"].toString()).size());
 }
 
