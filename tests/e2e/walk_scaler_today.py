@@ -2,6 +2,7 @@
 """The sides of today of the down-scaler and the placeholder tool, in German and at scale 2: with the keyboard, the mouse, and
 by the accessibility interface."""
 
+import shutil
 import subprocess
 import sys
 import tempfile
@@ -25,7 +26,21 @@ def down_scaler(desktop, lumora, art):
     projects = lumora.find("combo box", "iOS und macOS (name@3x.png)")
     wait_for("the projects to have the keyboard", projects.has_focus)
     assert not nameless(lumora), nameless(lumora)
+    # By a drag: a folder, after a copy alone is refused.
+    area = lumora.controls(None, "Fläche für Bilder, Zeichnungen und Ordner")[0].middle
+    if desktop.has_links:
+        desktop.drag_files([art], area, actions="copy")
+        wait_for("the refusal in the log", lambda: "Error - Copied?!" in desktop.log())
+        assert not lumora.controls("label", "2 Dateien · 2 gerundet")
+    desktop.drag_files([art], area)
+    lumora.wait_shown("2 Dateien · 2 gerundet")
+    assert [path.name for path in art.iterdir()] == ["a@3x.png"]
     # By mouse.
+    picture(art / "b@3x.png", 90, 60)
+    lumora.button("Ordner …").click()
+    lumora.choose_in_dialog(art)
+    lumora.wait_shown("4 Dateien · 2 gerundet")
+    (art / "b@3x.png").unlink()
     lumora.button("Ordner …").click()
     lumora.choose_in_dialog(art)
     lumora.wait_shown("2 Dateien · 2 gerundet")
@@ -66,6 +81,18 @@ def placeholders(desktop, lumora, out):
     lumora.button("Erzeugen").click()
     lumora.choose_in_dialog(out)
     lumora.wait_shown(f"2 Bilder in {out.name}/placeholders")
+    # By a drag: screenshots are checked, whatever else is in their folder.
+    shots = [out / "shots" / "de" / name for name in ("one.png", "two.png")]
+    picture(shots[0], 1320, 2868)
+    picture(shots[1], 60, 40)
+    desktop.drag_files(shots, lumora.controls(None, "Fläche für Screenshots, die geprüft werden")[0].middle)
+    lumora.wait_shown("2 Bilder · 1 Befund")
+    lumora.wait_shown("Fehler: Diese Größe nimmt keiner der Stores (60 x 40 Pixel)")
+    desktop.drag_files([shots[0]], lumora.controls(None, "Fläche für Screenshots, die geprüft werden")[0].middle)
+    lumora.wait_shown("1 Bild · keine Befunde")
+    shutil.rmtree(out / "shots")
+    desktop.xdotool("mousemove", 5, 5)
+    lumora.activate()
     lumora.button("Screenshots prüfen …").click()
     lumora.choose_in_dialog(out)
     lumora.wait_shown("2 Bilder · 2 Befunde")
@@ -73,9 +100,9 @@ def placeholders(desktop, lumora, out):
     assert not nameless(lumora), nameless(lumora)
 
 
-def main(program):
+def main(program, drag_source):
     with tempfile.TemporaryDirectory() as scratch, \
-            Desktop(program, size="2000x1500", scale=2, language="de_DE.UTF-8") as desktop:
+            Desktop(program, drag_source, size="2000x1500", scale=2, language="de_DE.UTF-8") as desktop:
         folder = Path(scratch)
         lumora = desktop.start("--tool=resizer")
         lumora.wait_shown("Lumora | Retina-Verkleinerer")
@@ -86,4 +113,4 @@ def main(program):
 
 
 if __name__ == "__main__":
-    main(sys.argv[1])
+    main(*sys.argv[1:])
