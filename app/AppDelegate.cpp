@@ -167,6 +167,7 @@ ToolViewController *AppDelegate::controller(std::size_t index)
             sides->show(m_firstSide);
             // Each side may take other things.
             connect(sides, &PaneSides::shown, this, &AppDelegate::toolChanged);
+            connect(sides, &PaneSides::shown, this, &AppDelegate::tellHelp);
             // The side of today is made when it is shown first.
             connect(sides, &PaneSides::shown, m_dropRouter, [this, index] { m_dropRouter->watchTool(index); });
         }
@@ -285,7 +286,9 @@ void AppDelegate::tellHelp()
         return;
     const Tool &tool = toolTable()[m_toolInView];
     m_popupContentView->setTitle(text(tool.helpTitleKey));
-    m_popupContentView->setText(text(tool.helpTextKey));
+    const PaneSides *sides = controller(m_toolInView)->sides();
+    const bool isToday = sides != nullptr && sides->side() == ToolSide::Today;
+    m_popupContentView->setText(text(isToday ? tool.todayHelpTextKey : tool.helpTextKey));
     m_popupContentView->setIcon(NamedImage(QString::fromLatin1(tool.helpIcon)));
     m_popupContentView->setColor(platformColor(tool.color));
 }

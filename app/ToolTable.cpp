@@ -34,11 +34,11 @@ void openPackage(ToolViewController &controller, const QString &path)
 std::span<const Tool> toolTable()
 {
     static const Tool tools[] = {
-        {factsOf(ToolIndex::Icons), &make<IconsViewController>, &openIcon},
-        {factsOf(ToolIndex::Placeholders), &make<PlaceholderViewController>},
-        {factsOf(ToolIndex::Resizer), &make<ResizerViewController>},
-        {factsOf(ToolIndex::Color), &make<ColorViewController>},
-        {factsOf(ToolIndex::Devices), &make<DeviceViewController>},
+        {factsOf(ToolIndex::Icons), &make<IconsViewController>, &openIcon, "HELP_ICONS_TODAY_TEXT"},
+        {factsOf(ToolIndex::Placeholders), &make<PlaceholderViewController>, nullptr, "HELP_PLACEHOLDER_TODAY_TEXT"},
+        {factsOf(ToolIndex::Resizer), &make<ResizerViewController>, nullptr, "HELP_RESIZER_TODAY_TEXT"},
+        {factsOf(ToolIndex::Color), &make<ColorViewController>, nullptr, "HELP_COLOR_TODAY_TEXT"},
+        {factsOf(ToolIndex::Devices), &make<DeviceViewController>, nullptr, "HELP_DEVICES_TODAY_TEXT"},
         {factsOf(ToolIndex::Validator), &make<ValidaterViewController>, &openPackage},
     };
     static_assert(std::size(tools) == toolFacts.size());

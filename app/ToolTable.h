@@ -22,6 +22,8 @@ struct Tool : ToolFacts
     std::unique_ptr<ToolViewController> (*makeController)(const Services &services) = nullptr;
     /// Passes a file with the tool's extension to this row's controller; nullptr for a tool without one.
     void (*openFile)(ToolViewController &controller, const QString &path) = nullptr;
+    /// The help text of its side of today; nullptr for a tool without sides.
+    const char *todayHelpTextKey = nullptr;
 };
 
 /// All tools, in the order of `toolFacts` and of the sidebar.

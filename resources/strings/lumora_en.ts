@@ -97,6 +97,10 @@
     <source>Turn one picture into every icon an app needs. Drop a picture of exactly 1024 × 1024 pixels on the pane, or browse for one, then tick the platforms: iPhone, iPad, Mac, Android, web touch, favicon. Lumora writes each set with the right names and sizes into a fresh “icons” folder and packs the Mac set into an icon file as well. “Custom size” makes a single icon of 1 to 1024 pixels, with iOS 6 or iOS 7 corners if you like. The code snippets show how to declare the icons in your project.</source>
     <translation>Turn one picture into every icon an app needs. Drop a picture of exactly 1024 × 1024 pixels on the pane, or browse for one, then tick the platforms: iPhone, iPad, Mac, Android, web touch, favicon. Lumora writes each set with the right names and sizes into a fresh “icons” folder and packs the Mac set into an icon file as well. “Custom size” makes a single icon of 1 to 1024 pixels, with iOS 6 or iOS 7 corners if you like. The code snippets show how to declare the icons in your project.</translation>
   </message>
+  <message id="HELP_ICONS_TODAY_TEXT">
+    <source>Every icon that stores and platforms want now, from one square picture or SVG drawing. Tick iOS, Mac, Watch, Android, web, Windows or Linux; the row of previews shows each icon as it will be seen. The wells take pictures of their own for dark, tinted, foreground, background and monochrome; until then they show what Lumora derives. Choose a folder: in a project that Lumora knows, such as Flutter or Xcode, it offers to put the files in their places. What is written is read back and judged. The switch “Classic | Today” (Ctrl+T) changes sides.</source>
+    <translation>Every icon that stores and platforms want now, from one square picture or SVG drawing. Tick iOS, Mac, Watch, Android, web, Windows or Linux; the row of previews shows each icon as it will be seen. The wells take pictures of their own for dark, tinted, foreground, background and monochrome; until then they show what Lumora derives. Choose a folder: in a project that Lumora knows, such as Flutter or Xcode, it offers to put the files in their places. What is written is read back and judged. The switch “Classic | Today” (Ctrl+T) changes sides.</translation>
+  </message>
   <message id="HELP_PLACEHOLDER">
     <source>Placeholder generator</source>
     <translation>Placeholder generator</translation>
@@ -104,6 +108,10 @@
   <message id="HELP_PLACEHOLDER_TEXT">
     <source>Fill a layout before its artwork exists. One press writes gray pictures in the screen sizes of iOS devices or of the Mac, each labeled in white with its own width and height. For anything else, type a width and a height from 1 to 9999 pixels. Choose where to save, and Lumora puts the PNG files, named like placeholder_640x1136.png, into a fresh “placeholders” folder. Folders from earlier runs stay untouched.</source>
     <translation>Fill a layout before its artwork exists. One press writes gray pictures in the screen sizes of iOS devices or of the Mac, each labeled in white with its own width and height. For anything else, type a width and a height from 1 to 9999 pixels. Choose where to save, and Lumora puts the PNG files, named like placeholder_640x1136.png, into a fresh “placeholders” folder. Folders from earlier runs stay untouched.</translation>
+  </message>
+  <message id="HELP_PLACEHOLDER_TODAY_TEXT">
+    <source>Pictures for every place that is still empty. Choose sets: the screenshots of the App Store and of Google Play, feature graphics, TV and watch, social cards, launch screens; or type sizes of your own, such as 1200x600 800x800@2x. Give them a text and colors, and save them as PNG, WebP or SVG. The other way round, drop real screenshots or their folder here: Lumora holds them against the rules of the stores, with reason and remedy. The switch “Classic | Today” (Ctrl+T) changes sides.</source>
+    <translation>Pictures for every place that is still empty. Choose sets: the screenshots of the App Store and of Google Play, feature graphics, TV and watch, social cards, launch screens; or type sizes of your own, such as 1200x600 800x800@2x. Give them a text and colors, and save them as PNG, WebP or SVG. The other way round, drop real screenshots or their folder here: Lumora holds them against the rules of the stores, with reason and remedy. The switch “Classic | Today” (Ctrl+T) changes sides.</translation>
   </message>
   <message id="HELP_RESIZER">
     <source>Retina down-scaler</source>
@@ -113,6 +121,10 @@
     <source>Draw once at double resolution and let Lumora make the normal size. Drop PNG files marked @2x or -hd on the pane, or browse for them, and choose a folder. Every picture is halved in width and height, odd sizes rounding down, and saved without the mark in its name: button@2x.png becomes button.png. Files without a mark and files of other kinds are left out. Take care: a file of the same name in the chosen folder is replaced.</source>
     <translation>Draw once at double resolution and let Lumora make the normal size. Drop PNG files marked @2x or -hd on the pane, or browse for them, and choose a folder. Every picture is halved in width and height, odd sizes rounding down, and saved without the mark in its name: button@2x.png becomes button.png. Files without a mark and files of other kinds are left out. Take care: a file of the same name in the chosen folder is replaced.</translation>
   </message>
+  <message id="HELP_RESIZER_TODAY_TEXT">
+    <source>From the largest picture to all that are missing. Drop files or folders: name@3x.png or name@4x.png for iOS and macOS, drawable-xxxhdpi for Android, 3.0x or 4.0x for Flutter, React Native or the web; SVG drawings serve every density. Lumora first shows the plan: what is written, what is rounded to whole pixels, what exists and is kept. Existing files are replaced only where you say so, a source never. Save as PNG or WebP. The switch “Classic | Today” (Ctrl+T) changes sides.</source>
+    <translation>From the largest picture to all that are missing. Drop files or folders: name@3x.png or name@4x.png for iOS and macOS, drawable-xxxhdpi for Android, 3.0x or 4.0x for Flutter, React Native or the web; SVG drawings serve every density. Lumora first shows the plan: what is written, what is rounded to whole pixels, what exists and is kept. Existing files are replaced only where you say so, a source never. Save as PNG or WebP. The switch “Classic | Today” (Ctrl+T) changes sides.</translation>
+  </message>
   <message id="HELP_COLOR">
     <source>Color codes</source>
     <translation>Color codes</translation>
@@ -121,6 +133,10 @@
     <source>Carry a color from your design into your code. Click the color well to pick one, or type three or six hexadecimal digits such as #abc or #34485e; field and well follow each other. Each button copies the color as code, ready to paste: a UIColor for iOS, an NSColor for the Mac, rgb(red, green, blue) or a CSS declaration for style sheets. Drag the picker away from the well and it stays open as a window of its own.</source>
     <translation>Carry a color from your design into your code. Click the color well to pick one, or type three or six hexadecimal digits such as #abc or #34485e; field and well follow each other. Each button copies the color as code, ready to paste: a UIColor for iOS, an NSColor for the Mac, rgb(red, green, blue) or a CSS declaration for style sheets. Drag the picker away from the well and it stays open as a window of its own.</translation>
   </message>
+  <message id="HELP_COLOR_TODAY_TEXT">
+    <source>One color as code for everything. Type or paste it in any form: hexadecimal, a CSS name, rgb(), hsl(), oklch(), or a line of Swift, Kotlin or Dart; opacity and Display P3 are kept. Each form has a copy button, and the choice of platform brings its forms to the top. A second color shows the contrast by WCAG 2 and the nearest color that passes. The palette keeps what you pick while the program runs, and saves it as color sets, GIMP palette, JSON or CSS. The switch “Classic | Today” (Ctrl+T) changes sides.</source>
+    <translation>One color as code for everything. Type or paste it in any form: hexadecimal, a CSS name, rgb(), hsl(), oklch(), or a line of Swift, Kotlin or Dart; opacity and Display P3 are kept. Each form has a copy button, and the choice of platform brings its forms to the top. A second color shows the contrast by WCAG 2 and the nearest color that passes. The palette keeps what you pick while the program runs, and saves it as color sets, GIMP palette, JSON or CSS. The switch “Classic | Today” (Ctrl+T) changes sides.</translation>
+  </message>
   <message id="HELP_DEVICES">
     <source>Device matrix</source>
     <translation>Device matrix</translation>
@@ -128,6 +144,10 @@
   <message id="HELP_DEVICES_TEXT">
     <source>See at a glance which devices your app can reach. Choose the iOS version it requires and tick the features it needs, such as GPS, a camera flash or OpenGL 3.0. Devices that can run that version and have every ticked feature stay bright; all others fade. One version counts at a time, together with any number of features. “Reset” clears the choice and brings back all seventeen iPhone, iPod and iPad models up to iOS 7.</source>
     <translation>See at a glance which devices your app can reach. Choose the iOS version it requires and tick the features it needs, such as GPS, a camera flash or OpenGL 3.0. Devices that can run that version and have every ticked feature stay bright; all others fade. One version counts at a time, together with any number of features. “Reset” clears the choice and brings back all seventeen iPhone, iPod and iPad models up to iOS 7.</translation>
+  </message>
+  <message id="HELP_DEVICES_TODAY_TEXT">
+    <source>Every iPhone, iPad and iPod touch to date, newest first. Set the oldest and newest iOS version, the family, the chip and what your app requires; models that fall out fade, and their tip says why. The search takes names and identifiers such as iPhone15,2. A tile opens a card with screen, chip, versions, capabilities and the sizes of launch images and screenshots, each to copy. Two or three models can be compared side by side. The switch “Classic | Today” (Ctrl+T) changes sides.</source>
+    <translation>Every iPhone, iPad and iPod touch to date, newest first. Set the oldest and newest iOS version, the family, the chip and what your app requires; models that fall out fade, and their tip says why. The search takes names and identifiers such as iPhone15,2. A tile opens a card with screen, chip, versions, capabilities and the sizes of launch images and screenshots, each to copy. Two or three models can be compared side by side. The switch “Classic | Today” (Ctrl+T) changes sides.</translation>
   </message>
   <message id="HELP_VALIDATER">
     <source>App package check</source>

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "ShellFixture.h"
 #include "app/HeaderView.h"
+#include "app/PopupContentView.h"
 #include "app/sidebar/ITSidebar.h"
 #include "resources/Resources.h"
+#include "tool/PaneSides.h"
 #include "tool/PopoverAlert.h"
+#include "ui_PopupContentView.h"
 #include "widgets/buttons/IconButton.h"
 #include "widgets/buttons/ImageButton.h"
 #include "widgets/style/Palette.h"
@@ -63,6 +66,39 @@ private slots:
         delegate.header()->infoButton()->click();
         QVERIFY(delegate.popupView()->isVisible());
         QVERIFY(!delegate.aboutPopupView()->isVisible());
+    }
+
+    void helpIsThatOfTheSideInView_data()
+    {
+        QTest::addColumn<int>("tool");
+        QTest::addColumn<QString>("classic"); ///< in the text
+        QTest::addColumn<QString>("today");
+        QTest::newRow("icons") << 0 << u"favicon"_s << u"Ctrl+T"_s;
+        QTest::newRow("placeholders") << 1 << u"gray pictures"_s << u"social cards"_s;
+        QTest::newRow("down-scaler") << 2 << u"@2x or -hd"_s << u"drawable-xxxhdpi"_s;
+        QTest::newRow("colors") << 3 << u"UIColor"_s << u"oklch()"_s;
+        QTest::newRow("devices") << 4 << u"seventeen"_s << u"iPhone15,2"_s;
+        QTest::newRow("packages, which have one side") << 5 << u".ipa package"_s << QString();
+    }
+    void helpIsThatOfTheSideInView()
+    {
+        QFETCH(int, tool);
+        QFETCH(QString, classic);
+        QFETCH(QString, today);
+        Application application;
+        AppDelegate &delegate = application.delegate;
+        const auto help = [&delegate] { return delegate.popupContentView()->outlets().popupTextField->text(); };
+        delegate.sideBar()->setSelectedIndex(tool);
+        delegate.header()->infoButton()->click();
+        QVERIFY2(help().contains(classic) && !help().contains(u"Ctrl+T"_s), qPrintable(help()));
+        PaneSides *sides = delegate.currentController()->sides();
+        QCOMPARE(sides == nullptr, today.isEmpty());
+        if (sides == nullptr)
+            return;
+        sides->show(ToolSide::Today);
+        QVERIFY2(help().contains(today) && help().contains(u"Ctrl+T"_s), qPrintable(help()));
+        sides->show(ToolSide::Classic);
+        QVERIFY2(help().contains(classic), qPrintable(help()));
     }
 
     void switchingToolsClosesBoth_data()

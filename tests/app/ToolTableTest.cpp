@@ -133,9 +133,10 @@ private slots:
         QCOMPARE(tool.openFile != nullptr, expected.openedExtension != nullptr);
         QVERIFY(!NamedImage(QString::fromLatin1(tool.sidebarImage)).isNull());
         QVERIFY(!NamedImage(QString::fromLatin1(tool.helpIcon)).isNull());
-        for (const char *key : {tool.headerKey, tool.helpTitleKey, tool.helpTextKey})
-            QVERIFY2(qtTrId(key) != QLatin1StringView(key), key);
+        for (const char *key : {tool.headerKey, tool.helpTitleKey, tool.helpTextKey, tool.todayHelpTextKey})
+            QVERIFY2(key == nullptr || qtTrId(key) != QLatin1StringView(key), key);
         RecordingServices services;
+        QCOMPARE(tool.todayHelpTextKey == nullptr, tool.makeController(services.services())->sides() == nullptr);
         QCOMPARE(tool.makeController(services.services())->metaObject()->className(), expected.controller);
     }
 };
