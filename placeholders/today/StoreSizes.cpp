@@ -74,7 +74,8 @@ constexpr std::array<StoreSize, 4> play{{{{1080, 1920}, "phone"_L1},
                                          {{1600, 2560}, "tablet of 10\""_L1}}};
 constexpr std::array<StoreSize, 1> featureGraphic{{{{1024, 500}, "Play feature graphic"_L1}}};
 
-// The sizes in the sites' own pages on sharing: Open Graph, X's large card, Instagram, YouTube, GitHub, Pinterest.
+// No source: sizes in common use for cards and posts, not read from any site's own page. When one is confirmed or
+// corrected, this is the only table to change.
 constexpr std::array<StoreSize, 8> social{{{{1200, 630}, "Open Graph card"_L1},
                                            {{1200, 600}, "large card of 2:1"_L1},
                                            {{1280, 640}, "repository card"_L1},
