@@ -2,6 +2,7 @@
 #include "LumoraProcess.h"
 #include "icons/IconCatalogue.h"
 #include "tests/doubles/FilesOnDisk.h"
+#include "tests/doubles/ScriptedFiles.h"
 #include "tests/icons/today/TodayPictures.h"
 
 #include <QDir>
@@ -38,6 +39,7 @@ private slots:
     void refused();
     void wrongUsage_data();
     void wrongUsage();
+    void bombsEndAtOnce_data();
     void bombsEndAtOnce();
     void check_data();
     void check();
@@ -45,6 +47,8 @@ private slots:
     void checkInGerman();
     void intoAProject();
     void intoAProjectThatAStoreRefuses();
+    void intoAReadOnlyProject_data();
+    void intoAReadOnlyProject();
     void intoNoProject();
 
 private:
@@ -213,22 +217,59 @@ void TodayIconsCommandTest::wrongUsage()
     QCOMPARE(icons(arguments).status, 2);
 }
 
+void TodayIconsCommandTest::bombsEndAtOnce_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QByteArray>("reason");
+    const QByteArray begin = "<svg xmlns=\"http://www.w3.org/2000/svg\" xmlns:xlink=\"http://www.w3.org/1999/xlink\" "
+                             "viewBox=\"0 0 9 9\">";
+    QByteArray uses = begin + "<g id=\"l0\"><path d=\"M0 0h9v9z\"/></g>";
+    QByteArray entities = "<!DOCTYPE svg [<!ENTITY e0 \"lol\">";
+    for (int level = 1; level < 30; ++level) {
+        const QByteArray number = QByteArray::number(level);
+        const QByteArray before = QByteArray::number(level - 1);
+        uses += QByteArray("<g id=\"l" + number + "\">" + QByteArray("<use href=\"#l" + before + "\"/>").repeated(10) +
+                           "</g>");
+        entities += QByteArray("<!ENTITY e" + number + " \"" + QByteArray("&e" + before + ";").repeated(10) + "\">");
+    }
+    QTest::newRow("nested uses") << QByteArray(uses + "</svg>") << QByteArray("larger than");
+    QTest::newRow("nested entities") << QByteArray(entities + "]>" + begin + "<text>&e29;</text></svg>")
+                                     << QByteArray("entit");
+    QTest::newRow("an external entity") << QByteArray("<!DOCTYPE svg [<!ENTITY e SYSTEM \"file:///etc/passwd\">]>" +
+                                                      begin + "<text>&e;</text></svg>")
+                                        << QByteArray("entit");
+    QTest::newRow("an external picture")
+        << QByteArray(begin + "<image width=\"9\" height=\"9\" href=\"http://a.example/b.png\"/></svg>")
+        << QByteArray("outside");
+    QTest::newRow("a blur of a thousand pixels, a thousand times")
+        << QByteArray(begin + "<filter id=\"f\"><feGaussianBlur stdDeviation=\"1000\"/></filter>" +
+                      QByteArray("<rect width=\"9\" height=\"9\" filter=\"url(#f)\"/>").repeated(1000) + "</svg>")
+        << QByteArray("larger than");
+    QTest::newRow("a million points") << QByteArray(begin + "<path d=\"M0 0" +
+                                                    QByteArray("L9 9L0 5").repeated(500'000) +
+                                                    "\" stroke=\"red\" stroke-dasharray=\"0.0001\"/></svg>")
+                                      << QByteArray("larger than");
+    QTest::newRow("deep nesting") << QByteArray(begin + QByteArray("<g>").repeated(200'000))
+                                  << QByteArray("larger than");
+    QTest::newRow("a huge picture inside")
+        << QByteArray(begin + "<image width=\"9\" height=\"9\" href=\"data:image/png;base64," +
+                      pictureFile(QImage(30'000, 3000, QImage::Format_Mono)).toBase64() + "\"/></svg>")
+        << QByteArray("larger than");
+}
+
 void TodayIconsCommandTest::bombsEndAtOnce()
 {
-    QByteArray bomb =
-        "<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"0 0 9 9\"><g id=\"l0\"><path d=\"M0 0h9v9z\"/></g>";
-    for (int level = 1; level < 30; ++level) {
-        const QByteArray below = "<use href=\"#l" + QByteArray::number(level - 1) + "\"/>";
-        bomb += "<g id=\"l" + QByteArray::number(level) + "\">" + below.repeated(10) + "</g>";
-    }
-    QVERIFY(putFile(at(u"bomb.svg"_s), QByteArray(bomb + "</svg>")));
+    QFETCH(QByteArray, content);
+    QFETCH(QByteArray, reason);
+    QVERIFY(putFile(at(u"bomb.svg"_s), content));
     QElapsedTimer time;
     time.start();
     const LumoraRun run = icons({u"bomb.svg"_s, u"--platform"_s, u"linux"_s, u"--out"_s, u"o"_s});
+    const qint64 elapsed = time.elapsed();
     QCOMPARE(run.status, 1);
+    QVERIFY2(run.err.contains(reason), run.err);
     // The promise is a second on a machine of its own.
-    QVERIFY2(time.elapsed() < 5000 * qEnvironmentVariableIntValue("LUMORA_TIME_FACTOR"),
-             qPrintable(QString::number(time.elapsed())));
+    QVERIFY2(elapsed < 5000 * qEnvironmentVariableIntValue("LUMORA_TIME_FACTOR"), qPrintable(QString::number(elapsed)));
 }
 
 void TodayIconsCommandTest::check_data()
@@ -321,6 +362,34 @@ void TodayIconsCommandTest::intoAProjectThatAStoreRefuses()
     QVERIFY2(!findings.isEmpty(), run.out);
     QCOMPARE(findings[0][u"id"].toString(), u"platform-name"_s);
     QCOMPARE(findings[0][u"path"].toString(), at(u"p/"_s + set));
+}
+
+void TodayIconsCommandTest::intoAReadOnlyProject_data()
+{
+    QTest::addColumn<QString>("folder");
+    QTest::newRow("the icons' folder") << u"p/build"_s;
+    QTest::newRow("a folder that is missing in it") << u"p/build/icons"_s;
+    QTest::newRow("the project") << u"p"_s;
+}
+
+void TodayIconsCommandTest::intoAReadOnlyProject()
+{
+    QFETCH(QString, folder);
+    QVERIFY(putFile(at(u"p/package.json"_s), "{\"devDependencies\":{\"electron\":\"30\"}}"));
+    if (folder != u"p")
+        QVERIFY(putFile(at(u"p/build/icon.icns"_s), "old") && QDir().mkpath(at(folder)));
+    const QMap<QString, QString> before = treeBelow(at(u"p"_s));
+    const auto mode = [this, &folder](QFileDevice::Permissions permissions) {
+        return QFile::setPermissions(at(folder), permissions);
+    };
+    constexpr QFileDevice::Permissions readable = QFileDevice::ReadUser | QFileDevice::ExeUser;
+    QVERIFY(mode(readable));
+    const LumoraRun run =
+        LumoraProcess().in(m_folder->path()).underPermissions().run({u"icons"_s, u"logo.svg"_s, u"--into"_s, u"p"_s});
+    QVERIFY(mode(readable | QFileDevice::WriteUser));
+    QCOMPARE(run.status, 1);
+    QVERIFY2(run.err.contains(at(folder).toUtf8()), run.err);
+    QCOMPARE(treeBelow(at(u"p"_s)), before);
 }
 
 void TodayIconsCommandTest::intoNoProject()
