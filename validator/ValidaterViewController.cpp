@@ -8,6 +8,7 @@
 #include "tool/style/ButtonStyle.h"
 #include "tool/style/LabelStyle.h"
 #include "tool/style/PopoverStyle.h"
+#include "tool/style/ToolTip.h"
 #include "ui_ValidaterViewController.h"
 #include "widgets/popover/SFBPopover.h"
 #include "widgets/style/Fonts.h"
@@ -64,6 +65,8 @@ void ValidaterViewController::awakeFromNib()
     styleLabel(m_ui->informationText, latoRegular(informationSize), palette::chromeText);
     m_ui->informationText->setText(qtTrId("VALIDATER_BROWSE_INFO"));
     styleButton(m_ui->browseButton, qtTrId("BROWSE"), palette::chromeText, palette::chromeTextDark);
+    m_ui->browseButton->setToolTip(tipWithKeys(qtTrId("TIP_BROWSE"), QKeySequence::Open));
+    m_ui->dropView->setToolTip(tipWithKeys(qtTrId("TIP_DROP"), QKeySequence::Paste));
 
     styleLabel(m_ui->validatingTitle, latoBold(titleSize), palette::chromeText);
     m_ui->validatingTitle->setText(qtTrId("VALIDATER_VALIDATING"));

@@ -64,7 +64,9 @@ SlidersPage::SlidersPage(PickerModel *model, QWidget *parent)
     m_kind->setFont(latoRegular(fontSize));
     m_kind->setStyleSheet(flatComboBox);
     styleDropDown(m_kind);
+    // On X11 and Wayland the name of a drop-down list is its choice.
     m_kind->setAccessibleName(qtTrId("COLOR_SLIDERS_KIND"));
+    m_kind->setAccessibleDescription(qtTrId("COLOR_SLIDERS_KIND"));
     QVBoxLayout *layout = columnOn(this);
     layout->addWidget(m_kind);
     layout->addWidget(m_sliders);

@@ -46,8 +46,7 @@ ModelFilterView::ModelFilterView(std::span<const DeviceModel> models, QWidget *p
     : QWidget(parent), m_search(new QLineEdit(this)), m_range(new VersionRange(models)),
       m_chips(makeChoice(qtTrId("DEVICES_FACT_CHIP"), qtTrId("DEVICES_ANY_CHIP"))),
       m_screens(makeChoice(qtTrId("DEVICES_FACT_CLASS"), qtTrId("DEVICES_ANY_SCREEN"))),
-      m_biometries(makeChoice(qtTrId("DEVICES_FACT_BIOMETRY"), qtTrId("DEVICES_ANY_BIOMETRY"))),
-      m_reset(new IconButton(this))
+      m_biometries(makeChoice(qtTrId("DEVICES_FACT_BIOMETRY"), qtTrId("DEVICES_ANY_BIOMETRY"))), m_reset(new IconButton)
 {
     setUpSearch();
     setUpChoices(models);

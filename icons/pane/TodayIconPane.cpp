@@ -12,6 +12,7 @@
 #include "tool/style/ElidedLabel.h"
 #include "tool/style/LabelStyle.h"
 #include "tool/style/Panel.h"
+#include "tool/style/ToolTip.h"
 #include "widgets/buttons/CheckboxButton.h"
 #include "widgets/buttons/HoverButton.h"
 #include "widgets/buttons/IconButton.h"
@@ -149,7 +150,17 @@ QWidget *TodayIconPane::makeSources()
         label->setAlignment(Qt::AlignCenter);
     m_status->setFixedHeight(statusHeight);
     m_flatten->setPlaceholderText(qtTrId("ICONS_COLOR_NONE"));
+    m_browse->setToolTip(tipWithKeys(qtTrId("TIP_BROWSE"), QKeySequence::Open));
 
+    // In this order, which is the keyboard's.
+    auto *lines = new QVBoxLayout(m_dropView);
+    lines->setContentsMargins(narrowPadding, narrowPadding, narrowPadding, narrowPadding);
+    lines->setSpacing(4);
+    lines->addWidget(m_iconView, 1);
+    lines->addWidget(m_title);
+    lines->addWidget(m_status);
+    lines->addWidget(m_browse);
+    lines->addSpacing(gap);
     auto *grid = new QGridLayout;
     grid->setSpacing(8);
     for (const FurtherSource source : furtherSources) {
@@ -166,14 +177,6 @@ QWidget *TodayIconPane::makeSources()
     for (int column = 0; column < wellColumns; ++column)
         grid->setColumnStretch(column, 1);
 
-    auto *lines = new QVBoxLayout(m_dropView);
-    lines->setContentsMargins(narrowPadding, narrowPadding, narrowPadding, narrowPadding);
-    lines->setSpacing(4);
-    lines->addWidget(m_iconView, 1);
-    lines->addWidget(m_title);
-    lines->addWidget(m_status);
-    lines->addWidget(m_browse);
-    lines->addSpacing(gap);
     lines->addLayout(grid);
     return m_dropView;
 }
@@ -239,7 +242,9 @@ QWidget *TodayIconPane::makeSnippets()
 {
     for (const TodaySet set : offeredSets)
         m_snippetSets->addItem(nameOf(set), static_cast<int>(set));
+    // On X11 and Wayland the name of a drop-down list is its choice.
     m_snippetSets->setAccessibleName(qtTrId("ACCESSIBLE_SNIPPET_PLATFORM"));
+    m_snippetSets->setAccessibleDescription(qtTrId("ACCESSIBLE_SNIPPET_PLATFORM"));
     m_snippetSets->setFixedSize(dropDownWidth, dropDownHeight);
     frameDropDown(m_snippetSets);
     styleDropDown(m_snippetSets);

@@ -13,6 +13,8 @@ from window_system import Desktop
 HELP_TITLES = ("Icon generator", "Placeholder generator", "Retina down-scaler", "Color codes", "Device matrix",
                "App package check")
 TOOLS = len(HELP_TITLES)
+# The tools with a side of today, which are the first ones.
+TODAY_SIDES = 5
 # The roles of operable controls. The others are containers and texts.
 OPERATED = {"push button", "toggle button", "check box", "radio button", "text", "entry", "combo box", "spin button",
             "slider", "dial", "list", "list item", "page tab", "page tab list", "color chooser", "menu item", "link",
@@ -46,9 +48,21 @@ def nameless(lumora):
             or (control.role in OPERATED or control.has_state("focusable")) and not control.name.strip()]
 
 
+def unlabeled(lumora):
+    """The visible drop-down lists that say nothing but their choice, which is their name."""
+    import pyatspi
+
+    def label(control):
+        return next((relation for relation in control.node.getRelationSet()
+                     if relation.getRelationType() == pyatspi.RELATION_LABELLED_BY), None)
+
+    return [f"{control.role} {control.name} at {control.box}" for control in lumora.controls("combo box")
+            if not control.description.strip() and not label(control)]
+
+
 def names_are_complete(desktop, lumora):
     def check(where):
-        found = nameless(lumora)
+        found = nameless(lumora) + unlabeled(lumora)
         assert not found, f"{where}: {found}"
 
     for tool in lumora.controls("page tab"):
@@ -65,6 +79,15 @@ def names_are_complete(desktop, lumora):
     check("the about panel")
     desktop.key("Escape")
     lumora.wait_gone("KESTREL interactive")
+
+    for tool in lumora.controls("page tab")[:TODAY_SIDES]:
+        tool.press()
+        wait_for(f"{tool.name} to be selected", lambda tool=tool: tool.has_state("selected"))
+        lumora.button("Today").press()
+        wait_for("its side of today", lambda: lumora.button("Today").has_state("checked"))
+        check(f"the side of today of {tool.name}")
+        lumora.button("Classic").press()
+        wait_for("its classic side", lambda: lumora.button("Classic").has_state("checked"))
 
     lumora.controls("page tab")[3].press()
     lumora.find("color chooser", "Color well, opens the color picker").press()

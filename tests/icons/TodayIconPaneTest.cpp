@@ -52,6 +52,13 @@ private slots:
     }
     void cleanup() { m_scene.reset(); }
 
+    void tabGoesFromTheIconToTheFurtherSources()
+    {
+        pane()->browseButton()->setFocus();
+        QTest::keyClick(pane()->browseButton(), Qt::Key_Tab);
+        QCOMPARE(QApplication::focusWidget(), pane()->well(furtherSources.front()));
+    }
+
     void everyPlaceShowsTheIcon_data()
     {
         QTest::addColumn<PreviewPlace>("place");

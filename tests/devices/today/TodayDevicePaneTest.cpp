@@ -74,6 +74,16 @@ private slots:
         m_services.reset();
     }
 
+    void tabGoesFromTheSearchOverTheFiltersToReset()
+    {
+        pane()->filters()->search()->setFocus();
+        QTest::keyClick(pane()->filters()->search(), Qt::Key_Tab);
+        QVERIFY(pane()->filters()->range()->isAncestorOf(QApplication::focusWidget()));
+        pane()->filters()->resetButton()->setFocus();
+        QTest::keyClick(pane()->filters()->resetButton(), Qt::Key_Tab);
+        QVERIFY(!pane()->filters()->isAncestorOf(QApplication::focusWidget()));
+    }
+
     void everyRequirementFilters_data()
     {
         QTest::addColumn<QString>("requirement");
