@@ -1751,8 +1751,8 @@
     <translation>Farbe vom Bildschirm aufnehmen</translation>
   </message>
   <message id="COLOR_SCREEN_PIPETTE">
-    <source>Pick a color from the screen</source>
-    <translation>Farbe vom Bildschirm aufnehmen</translation>
+    <source>Pick a screen color</source>
+    <translation>Bildschirmfarbe aufnehmen</translation>
   </message>
   <message id="COLOR_PIPETTE_FAILED_TITLE">
     <source>No color picked</source>

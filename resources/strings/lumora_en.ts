@@ -1749,8 +1749,8 @@
     <translation>Pick a color from the screen</translation>
   </message>
   <message id="COLOR_SCREEN_PIPETTE">
-    <source>Pick a color from the screen</source>
-    <translation>Pick a color from the screen</translation>
+    <source>Pick a screen color</source>
+    <translation>Pick a screen color</translation>
   </message>
   <message id="COLOR_PIPETTE_FAILED_TITLE">
     <source>No color picked</source>
