@@ -50,14 +50,9 @@ def nameless(lumora):
 
 def unlabeled(lumora):
     """The visible drop-down lists that say nothing but their choice, which is their name."""
-    import pyatspi
-
-    def label(control):
-        return next((relation for relation in control.node.getRelationSet()
-                     if relation.getRelationType() == pyatspi.RELATION_LABELLED_BY), None)
-
+    # The only relation of these lists is the one with their label.
     return [f"{control.role} {control.name} at {control.box}" for control in lumora.controls("combo box")
-            if not control.description.strip() and not label(control)]
+            if not control.description.strip() and not control.node.getRelationSet()]
 
 
 def names_are_complete(desktop, lumora):

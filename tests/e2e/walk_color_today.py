@@ -19,7 +19,8 @@ def by_keyboard(desktop, lumora, on_clipboard):
     field = lumora.find("text", FIELD)
     wait_for("the field to have the keyboard", field.has_focus)
     assert field.text == "#34485e", field.text
-    assert lumora.button("Heute").has_state("checked") and not lumora.button("Klassisch").has_state("checked")
+    wait_for("the side of today to be chosen", lambda: lumora.button("Heute").has_state("checked")
+             and not lumora.button("Klassisch").has_state("checked"))
     desktop.key("ctrl+a")
     desktop.type("color(display-p3 1 0 0)")
     desktop.key("Return")

@@ -18,8 +18,8 @@ def main(program):
     with Desktop(program) as desktop:
         lumora = desktop.start("--tool=devices")
         lumora.wait_shown("Lumora | Devices")
+        wait_for("all pictures", lambda: {picture.name for picture in lumora.controls("image")} >= ALL)
         pictures = {picture.name: picture for picture in lumora.controls("image") if picture.name in ALL}
-        assert set(pictures) == ALL, ALL - set(pictures)
 
         def faded():
             told = {name: picture.node.description for name, picture in pictures.items()}
@@ -44,7 +44,7 @@ def main(program):
             wait_for("all to match", lambda: not faded())
             wait_for("all to stand out", lambda: darkness("iPod 1G") > 0.7)
             for control in lumora.controls("check box") + lumora.controls("radio button"):
-                assert not control.has_state("checked"), control.name
+                wait_for(f"{control.name} to be empty", lambda control=control: not control.has_state("checked"))
 
         wait_all()
 
@@ -76,10 +76,10 @@ def main(program):
         # By the accessibility interface.
         lumora.find("radio button", "iOS 7+").press()
         wait_faded(BELOW_7, "iPhone 5S", "iPod 4G")
-        assert lumora.find("radio button", "iOS 7+").has_state("checked")
+        wait_for("the version to be chosen", lambda: lumora.find("radio button", "iOS 7+").has_state("checked"))
         lumora.find("check box", "OpenGL 3.0").press()
         wait_faded(ALL - {"iPhone 5S"}, "iPhone 5S", "iPad 4th Gen")
-        assert lumora.find("check box", "OpenGL 3.0").has_state("checked")
+        wait_for("the feature to be chosen", lambda: lumora.find("check box", "OpenGL 3.0").has_state("checked"))
         lumora.button("Reset").press()
         wait_all()
         assert lumora.close() == 0

@@ -18,7 +18,7 @@ def by_keyboard(desktop, lumora, on_clipboard):
     desktop.key("ctrl+t")
     search = lumora.find("text", "Name oder Kennung")
     wait_for("the search to have the keyboard", search.has_focus)
-    assert lumora.shows(ALL)
+    lumora.wait_shown(ALL)
     desktop.type("iphone16,")
     lumora.wait_shown("2 von 106 Modellen passen")
     desktop.key("ctrl+a", "Delete")
@@ -71,8 +71,8 @@ def by_assistive_technology(lumora, on_clipboard):
     slider.node.queryValue().currentValue = 12
     wait_for("the version", lambda: slider.node.description == "iOS 13")
     tiles = {control.name: control for control in lumora.controls("push button", showing=False)}
-    assert tiles["iPad mini 2"].node.description == "endet bei iOS 12.5.8", tiles["iPad mini 2"].node.description
-    assert tiles["iPad mini (5th generation)"].node.description == FITS
+    wait_for("the reason on a model's tile", lambda: tiles["iPad mini 2"].node.description == "endet bei iOS 12.5.8")
+    wait_for("the tile of a model that fits", lambda: tiles["iPad mini (5th generation)"].node.description == FITS)
     tiles["iPad mini (5th generation)"].press()
     lumora.button("Chip: A12 Bionic").press()
     on_clipboard("A12 Bionic")

@@ -45,7 +45,7 @@ def running_and_second(desktop, scratch):
     wait_for("the validator", lambda: is_current(lumora, 6))
     assert desktop.start_again(str(picture(scratch / "second.png"))) == 0
     lumora.wait_shown("second.png")
-    assert is_current(lumora, 1)
+    wait_for("the icon tool", lambda: is_current(lumora, 1))
     assert desktop.start_again(str(package(scratch / "app.ipa", "Walked through"))) == 0
     wait_for("the validator", lambda: is_current(lumora, 6))
     wait_for("what was read of the package", lambda: any("Walked through" in c.name for c in lumora.controls("label")))
@@ -54,7 +54,7 @@ def running_and_second(desktop, scratch):
     strange = picture(scratch / "my ü – 画像 #1 100%.png")
     assert desktop.start_again(strange.name, "app.ipa", cwd=scratch) == 0
     lumora.wait_shown(strange.name)
-    assert is_current(lumora, 1)
+    wait_for("the icon tool", lambda: is_current(lumora, 1))
 
     # A busy program is waited for.
     lumora.process.send_signal(signal.SIGSTOP)

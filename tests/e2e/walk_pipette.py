@@ -40,7 +40,7 @@ def main(program, color_window):
         wait_for("the pipette to be at work", lambda: not pipette.has_state("sensitive"))
         desktop.click(blue[0] + 100, blue[1] + 100)
         wait_for("the color of the window", lambda: field.text == "#336699")
-        assert pipette.has_state("sensitive")
+        wait_for("the pipette to be let go", lambda: pipette.has_state("sensitive"))
 
         # Escape cancels; the picker stays open.
         pipette.click()
@@ -49,7 +49,7 @@ def main(program, color_window):
         desktop.key("Escape")
         wait_for("the pipette to be let go", lambda: pipette.has_state("sensitive"))
         assert field.text == "#336699", field.text
-        assert lumora.shows("Color wheel")
+        lumora.wait_shown("Color wheel")
 
         # By key: the arrows move the pointer there from outside the window, Return picks. It has the focus again after each
         # pick.

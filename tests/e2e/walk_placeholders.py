@@ -51,7 +51,8 @@ class Walk:
         self.generate("mac").click()
         self.lumora.choose_in_dialog(out)
         self.lumora.wait_shown("Saved in a new folder")
-        assert any("placeholders_1" in label.name for label in self.lumora.controls("label"))
+        wait_for("the name of the folder",
+                 lambda: any("placeholders_1" in label.name for label in self.lumora.controls("label")))
         self.expect_as_commanded(out / "placeholders_1", "--set", "mac")
         self.desktop.key("Escape")
         self.lumora.wait_gone("Saved in a new folder")

@@ -37,14 +37,16 @@ def main(program, drag_source):
         lumora.choose_in_dialog(scratch / "one icon.ipa")
         report = wait_report(lumora, "one icon.ipa", "1 of 6 checks failed")
         wait_for("the report to have the keyboard", report.has_focus)
-        assert any("114x114" in control.name and control.name.startswith("Missing") for control in lumora.controls("label"))
+        wait_for("the missing size", lambda: any("114x114" in control.name and control.name.startswith("Missing")
+                                                 for control in lumora.controls("label")))
 
         # The next file is dropped on the report.
         desktop.move_window(lumora, 100, 100)
         desktop.drag_files([scratch / "a text.ipa"], report.middle)
         wait_report(lumora, "a text.ipa", "No readable app package")
-        assert any("The file is a text." in control.name for control in lumora.controls("label"))
-        assert not lumora.controls("check box"), "no verdict on what is no app"
+        wait_for("what the file is",
+                 lambda: any("The file is a text." in control.name for control in lumora.controls("label")))
+        wait_for("the verdicts to go, for it is no app", lambda: not lumora.controls("check box"))
 
         # By keys: checks a repaired package again.
         shutil.copyfile(scratch / "valid.ipa", scratch / "a text.ipa")

@@ -43,7 +43,8 @@ class Walk:
         assert files_below(folder) == self.commanded(*sources), sorted(files_below(folder))
         # The notice stays for two seconds; then files may come again.
         wait_for("the drop area", lambda: self.lumora.controls(None, DROP_AREA), 5)
-        assert not self.lumora.shows("All done") and not self.lumora.shows(PROGRESS)
+        self.lumora.wait_gone("All done")
+        self.lumora.wait_gone(PROGRESS)
 
     def by_drag(self):
         drop_area = self.lumora.controls(None, DROP_AREA)[0]
@@ -99,7 +100,7 @@ class Walk:
         self.lumora.choose_in_dialog(out)
         self.lumora.wait_shown(PROGRESS)
         wait_for("some of the halves", lambda: len(list(out.glob("*.png"))) > 2)
-        assert any(label.name.endswith(" of 200") for label in self.lumora.controls("label"))
+        wait_for("the count", lambda: any(label.name.endswith(" of 200") for label in self.lumora.controls("label")))
         assert self.lumora.close() == 0
         # It stops after the file in work and reports that; the written files are complete.
         written = files_below(out)

@@ -28,7 +28,7 @@ def export(desktop, lumora, scratch):
     lumora.wait_shown("Copied")
     # The caption goes, the result stays.
     wait_for("the button at rest", lambda: lumora.controls("push button", "Generate")[1:])
-    assert lumora.shows("5 icons in with a blank/icons")
+    lumora.wait_shown("5 icons in with a blank/icons")
 
 
 def batch(desktop, lumora, scratch):

@@ -58,7 +58,7 @@ def down_scaler(desktop, lumora, art):
     lumora.wait_shown("0 Dateien · 1 erhalten")
     lumora.find("check box", "Vorhandene ersetzen").press()
     lumora.wait_shown("1 Datei · 1 ersetzt · 1 gerundet")
-    assert lumora.button("Dateien schreiben").has_state("enabled")
+    wait_for("the button to be enabled", lambda: lumora.button("Dateien schreiben").has_state("enabled"))
 
 
 def placeholders(desktop, lumora, out):
@@ -71,7 +71,7 @@ def placeholders(desktop, lumora, out):
     tile = lumora.tab_to("check box", "Funktionsgrafik")
     desktop.key("space")
     lumora.wait_shown("1 Bild")
-    assert tile.has_state("checked")
+    wait_for("the tile to be chosen", lambda: tile.has_state("checked"))
     # By assistive technology.
     lumora.find("text", "Eigene Größen").set_text("60x40 1")
     lumora.wait_shown("„1“ ist keine Größe wie 800x600@2x")

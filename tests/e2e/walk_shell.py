@@ -20,7 +20,8 @@ def main(program):
         for number, tool in enumerate(sidebar, start=1):
             tool.click()
             wait_for(f"{tool.name} to be selected", lambda tool=tool: tool.has_state("selected"))
-            titles.add(next(c.name for c in lumora.controls("label") if c.name.startswith("Lumora | ")))
+            titles.add(wait_for(f"the title of {tool.name}", lambda: next(
+                (c.name for c in lumora.controls("label") if c.name.startswith("Lumora | ") and c.name not in titles), None)))
             sidebar[0].press()
             desktop.key(f"ctrl+{number}")
             wait_for(f"{tool.name} by its key", lambda tool=tool: tool.has_state("selected"))

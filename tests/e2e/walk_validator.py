@@ -34,8 +34,13 @@ def close_button(lumora):
 def explanation(lumora, box):
     """The text of the box's popup, by the accessibility interface; closes it again."""
     before = {control.name for control in lumora.controls("label")}
+
+    def added():
+        return [control.name for control in lumora.controls("label") if control.name not in before]
+
     lumora.find("check box", box).press()
-    new = wait_for(f"what {box} explains", lambda: [c.name for c in lumora.controls("label") if c.name not in before])
+    # All of it: a look may come while it is being shown.
+    new = wait_for(f"what {box} explains", lambda: (seen := added()) and seen == added() and seen)
     close_button(lumora).press()
     wait_for("the popup to go", lambda: not any(lumora.shows(text) for text in new))
     return "\n".join(new)
@@ -82,7 +87,8 @@ def by_mouse(desktop, scratch, work):
     assert not any("lumora-work" in control.name for control in lumora.controls()), "the dialog shows the work folder"
     lumora.choose_in_dialog(scratch / "no links.ipa")
     shows_verdicts(lumora, **{"URL schemes": "not present", "Facebook app ID": "not present"})
-    assert not lumora.find("check box", "URL schemes: not present").has_state("enabled")
+    wait_for("the box without a verdict to be disabled",
+             lambda: not lumora.find("check box", "URL schemes: not present").has_state("enabled"))
     assert lumora.close() == 0
     assert not work_folders(work), "the work folder outlived its program"
     assert sorted(path.name for path in scratch.iterdir() if path.is_dir()) == ["work"], "something was left where the user stands"
