@@ -27,6 +27,7 @@ namespace
 constexpr int headingSize = 15;
 constexpr int textSize = 13;
 constexpr int fieldHeight = 36;
+constexpr int sideMargin = 16;
 constexpr int gap = 6;
 constexpr int usualQuality = 80;
 
@@ -60,7 +61,7 @@ LookFields::LookFields(QWidget *parent)
     m_refusal->setWordWrap(true);
 
     auto *column = new QVBoxLayout(this);
-    column->setContentsMargins({});
+    column->setContentsMargins(sideMargin, 0, sideMargin, 0);
     column->setSpacing(gap);
     addField(column, qtTrId("PLACEHOLDER_TEXT"), m_text);
     addField(column, qtTrId("PLACEHOLDER_FOREGROUND"), m_foreground);

@@ -8,7 +8,6 @@
 
 #include <vector>
 
-class QLabel;
 class QStackedWidget;
 
 namespace lumora
@@ -17,8 +16,8 @@ namespace lumora
 class DropView;
 class ElidedLabel;
 class HoverButton;
+class JobProgress;
 class JobResultView;
-class LBProgressBar;
 class LookFields;
 class ScreenshotReport;
 class SetTiles;
@@ -40,7 +39,7 @@ public:
     HoverButton *checkButton() const { return m_checkButton; }
     HoverButton *generateButton() const { return m_generateButton; }
     HoverButton *backButton() const { return m_backButton; }
-    HoverButton *cancelButton() const { return m_cancelButton; }
+    JobProgress *progress() const { return m_progress; }
     JobResultView *resultView() const { return m_resultView; }
     bool showsReport() const;
 
@@ -50,7 +49,6 @@ public:
     void showReport(const std::vector<ScreenshotFacts> &screenshots);
     void showSets();
     void beginProgress(qsizetype total);
-    void showProgress(qsizetype done, qsizetype total, const QString &name);
     void endProgress();
     /// Shows a text in place of the summary until something changes.
     void showNote(const QString &note);
@@ -58,7 +56,6 @@ public:
 private:
     QWidget *makeDropArea();
     QWidget *makeActions();
-    QWidget *makeProgress();
     void showSummary();
 
     LookFields *m_fields;
@@ -71,10 +68,7 @@ private:
     HoverButton *m_checkButton;
     HoverButton *m_generateButton;
     HoverButton *m_backButton;
-    HoverButton *m_cancelButton;
-    LBProgressBar *m_progressBar;
-    QLabel *m_progressLabel;
-    ElidedLabel *m_currentLabel;
+    JobProgress *m_progress;
     JobResultView *m_resultView;
 };
 

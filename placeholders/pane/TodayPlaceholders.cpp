@@ -4,6 +4,7 @@
 #include "LookFields.h"
 #include "TodayPlaceholderPane.h"
 #include "tool/FailureText.h"
+#include "tool/JobProgress.h"
 #include "tool/JobResultView.h"
 #include "widgets/buttons/HoverButton.h"
 
@@ -48,9 +49,9 @@ QWidget *TodayPlaceholders::makePane(QWidget *parent)
     m_pane = new TodayPlaceholderPane(parent);
     connect(m_pane->generateButton(), &HoverButton::clicked, this, &TodayPlaceholders::generate);
     connect(m_pane->checkButton(), &HoverButton::clicked, this, &TodayPlaceholders::chooseScreenshots);
-    connect(m_pane->cancelButton(), &HoverButton::clicked, this, [this] {
+    connect(m_pane->progress()->cancelButton(), &HoverButton::clicked, this, [this] {
         m_writing.request_stop();
-        m_pane->cancelButton()->setEnabled(false);
+        m_pane->progress()->cancelButton()->setEnabled(false);
     });
     return m_pane;
 }
@@ -118,14 +119,14 @@ void TodayPlaceholders::write(const QString &destination)
     m_writing = std::stop_source();
     const LabeledOptions options = m_pane->fields()->options();
     m_pane->beginProgress(std::ssize(sizes));
-    m_pane->showProgress(0, std::ssize(sizes), labeledFileName(sizes.front(), options.format));
+    m_pane->progress()->setProgress(0, std::ssize(sizes), labeledFileName(sizes.front(), options.format));
     m_jobs.start([this, sizes, options, destination, look = m_pane->fields()->look(),
                   stop = m_writing](const BackgroundJob &job) {
         const std::stop_callback closing(job.stopToken(), [stop] { stop.request_stop(); });
         const auto written = [&](qsizetype done, qsizetype total) {
             const QString next =
                 done < total ? labeledFileName(sizes[static_cast<std::size_t>(done)], options.format) : QString();
-            job.post([=, this] { m_pane->showProgress(done, total, next); });
+            job.post([=, this] { m_pane->progress()->setProgress(done, total, next); });
             return !stop.stop_requested();
         };
         const PlaceholderRun run = saveLabeledPictures(sizes, look, options, destination, written);

@@ -5,7 +5,6 @@
 
 #include <QWidget>
 
-class QLabel;
 class QStackedWidget;
 
 namespace lumora
@@ -14,8 +13,8 @@ namespace lumora
 class DropView;
 class ElidedLabel;
 class HoverButton;
+class JobProgress;
 class JobResultView;
-class LBProgressBar;
 class ScalingChoices;
 class ScalingPlanView;
 
@@ -35,24 +34,18 @@ public:
     HoverButton *filesButton() const { return m_filesButton; }
     HoverButton *folderButton() const { return m_folderButton; }
     HoverButton *writeButton() const { return m_writeButton; }
-    HoverButton *cancelButton() const { return m_cancelButton; }
-    LBProgressBar *progressBar() const { return m_progressBar; }
-    QLabel *progressLabel() const { return m_progressLabel; }
-    ElidedLabel *currentLabel() const { return m_currentLabel; }
+    JobProgress *progress() const { return m_progress; }
     JobResultView *resultView() const { return m_resultView; }
 
     /// Shows a text in place of the plan's summary, and no plan that could be run.
     void showNote(const QString &note);
     void showPlan(const DensityPlan &plan);
     void beginProgress(qsizetype total);
-    /// The name is that of the source in work.
-    void showProgress(qsizetype done, qsizetype total, const QString &name);
     void endProgress();
 
 private:
     QWidget *makeDropArea();
     QWidget *makeActions();
-    QWidget *makeProgress();
 
     ScalingChoices *m_choices;
     DropView *m_dropView;
@@ -63,10 +56,7 @@ private:
     HoverButton *m_filesButton;
     HoverButton *m_folderButton;
     HoverButton *m_writeButton;
-    HoverButton *m_cancelButton;
-    LBProgressBar *m_progressBar;
-    QLabel *m_progressLabel;
-    ElidedLabel *m_currentLabel;
+    JobProgress *m_progress;
     JobResultView *m_resultView;
 };
 

@@ -4,6 +4,7 @@
 #include "ScalingChoices.h"
 #include "TodayResizerPane.h"
 #include "foundation/StoppableRead.h"
+#include "tool/JobProgress.h"
 #include "tool/JobResultView.h"
 #include "widgets/buttons/HoverButton.h"
 
@@ -55,7 +56,7 @@ void TodayScaling::connectPane()
     connect(m_pane->filesButton(), &HoverButton::clicked, this, &TodayScaling::chooseFiles);
     connect(m_pane->folderButton(), &HoverButton::clicked, this, &TodayScaling::chooseFolder);
     connect(m_pane->writeButton(), &HoverButton::clicked, this, &TodayScaling::write);
-    connect(m_pane->cancelButton(), &HoverButton::clicked, this, &TodayScaling::cancel);
+    connect(m_pane->progress()->cancelButton(), &HoverButton::clicked, this, &TodayScaling::cancel);
 }
 
 // Taking files
@@ -144,7 +145,7 @@ void TodayScaling::write()
     const DensityBatchOptions options{m_pane->choices()->webpQuality(), m_request.existing, m_writing.get_token(),
                                       reading()};
     m_pane->beginProgress(plannedFiles(m_plan));
-    m_pane->showProgress(0, plannedFiles(m_plan), sourceName(m_plan, 0));
+    m_pane->progress()->setProgress(0, plannedFiles(m_plan), sourceName(m_plan, 0));
     m_jobs.start([this, options, plan = m_plan, request = m_request, paths = m_paths,
                   stop = m_writing](const BackgroundJob &job) {
         const std::stop_callback closing(job.stopToken(), [stop] { stop.request_stop(); });
@@ -159,7 +160,7 @@ void TodayScaling::write()
             }
             const QString next = sourceName(plan, static_cast<std::size_t>(index) + 1);
             job.post([this, done = progress.done, total = progress.total, next] {
-                m_pane->showProgress(done, total, next);
+                m_pane->progress()->setProgress(done, total, next);
             });
             return !stop.stop_requested();
         });
@@ -171,7 +172,7 @@ void TodayScaling::write()
 void TodayScaling::cancel()
 {
     m_writing.request_stop();
-    m_pane->cancelButton()->setEnabled(false);
+    m_pane->progress()->cancelButton()->setEnabled(false);
 }
 
 void TodayScaling::showEnd(const Progress &progress)

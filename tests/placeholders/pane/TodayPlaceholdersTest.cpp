@@ -12,6 +12,7 @@
 #include "tests/doubles/HeldFiles.h"
 #include "tests/doubles/RecordingServices.h"
 #include "tool/DropView.h"
+#include "tool/JobProgress.h"
 #include "tool/JobResultView.h"
 #include "tool/style/ElidedLabel.h"
 #include "widgets/buttons/HoverButton.h"
@@ -226,10 +227,10 @@ private slots:
         press(tile(u"Launch screens"_s));
         press(pane()->generateButton());
         m_services->folderChooser.confirm(m_folder->path());
-        QVERIFY(pane()->cancelButton()->isVisible());
-        press(pane()->cancelButton());
+        QVERIFY(pane()->progress()->cancelButton()->isVisible());
+        press(pane()->progress()->cancelButton());
         QTRY_VERIFY(!today()->isWriting());
-        QVERIFY(!pane()->cancelButton()->isVisible());
+        QVERIFY(!pane()->progress()->cancelButton()->isVisible());
         QVERIFY2(pane()->resultView()->text().endsWith(u"Stopped before the end."_s),
                  qPrintable(pane()->resultView()->text()));
         QVERIFY(written().size() < 55);

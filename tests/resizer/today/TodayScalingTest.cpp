@@ -11,6 +11,7 @@
 #include "tests/doubles/RecordingServices.h"
 #include "tests/resizer/RetinaFixtures.h"
 #include "tool/DropView.h"
+#include "tool/JobProgress.h"
 #include "tool/JobResultView.h"
 #include "tool/style/ElidedLabel.h"
 #include "ui_ResizerViewController.h"
@@ -161,10 +162,10 @@ private slots:
         m_controller->dropViewReceivedFiles({at(u"art"_s)});
         QTRY_VERIFY(pane()->writeButton()->isEnabled());
         press(pane()->writeButton());
-        QVERIFY(pane()->cancelButton()->isVisible());
+        QVERIFY(pane()->progress()->cancelButton()->isVisible());
         QVERIFY(!choices()->isEnabled());
         QTRY_VERIFY(!scaling()->isWriting());
-        QVERIFY(!pane()->cancelButton()->isVisible());
+        QVERIFY(!pane()->progress()->cancelButton()->isVisible());
         QVERIFY(choices()->isEnabled());
         QCOMPARE(QImage(at(u"art/a@2x.png"_s)).size(), QSize(60, 40));
         QCOMPARE(QImage(at(u"art/a.png"_s)).size(), QSize(30, 20));
@@ -218,8 +219,8 @@ private slots:
         m_controller->dropViewReceivedFiles({m_folder->path()});
         QTRY_VERIFY(summaryIs(u"120 files to write"_s));
         press(pane()->writeButton());
-        press(pane()->cancelButton());
-        QVERIFY(!pane()->cancelButton()->isEnabled());
+        press(pane()->progress()->cancelButton());
+        QVERIFY(!pane()->progress()->cancelButton()->isEnabled());
         QTRY_VERIFY(!scaling()->isWriting());
         const QString text = pane()->resultView()->text();
         QVERIFY2(text.contains(u"of 120 pictures"_s) && text.endsWith(u"Stopped before the end."_s), qPrintable(text));
@@ -288,14 +289,14 @@ private slots:
         press(pane()->writeButton());
         // Both for the plan, and both for the batch.
         share->waitForBegun(4);
-        QTRY_COMPARE(pane()->currentLabel()->text(), u"b@3x.png"_s);
+        QTRY_COMPARE(pane()->progress()->nameLabel()->text(), u"b@3x.png"_s);
         if (closes) {
             QElapsedTimer time;
             time.start();
             m_controller.reset();
             QVERIFY(!time.hasExpired(BackgroundJobs::patience.count()));
         } else {
-            press(pane()->cancelButton());
+            press(pane()->progress()->cancelButton());
             QTRY_VERIFY(!scaling()->isWriting());
             QVERIFY2(pane()->resultView()->text().startsWith(u"2 of 4 pictures in "_s),
                      qPrintable(pane()->resultView()->text()));
