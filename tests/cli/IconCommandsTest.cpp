@@ -104,7 +104,7 @@ void IconCommandsTest::json()
     QCOMPARE(result[u"icns"_s].toString(), at(u"out/icons/Mac/icons.icns"_s));
     const QJsonArray files = result[u"files"_s].toArray();
     QCOMPARE(files.size(), 51);
-    for (const QJsonValue &value : files) {
+    for (const QJsonValue value : files) {
         const QJsonObject file = value.toObject();
         QCOMPARE(file.keys(), (QStringList{u"bytes"_s, u"path"_s, u"size"_s}));
         QCOMPARE(file[u"bytes"_s].toInteger(), QFileInfo(file[u"path"_s].toString()).size());

@@ -127,7 +127,7 @@ void TodayIconsCommandTest::derivedIsListed()
     QCOMPARE(text.err, QByteArray());
     const QJsonArray derived = icons(arguments + QStringList{u"--json"_s}).json()[u"derived"_s].toArray();
     QStringList ids;
-    for (const QJsonValue &one : derived)
+    for (const QJsonValue one : derived)
         ids << one[u"id"].toString();
     ids.sort();
     QCOMPARE(ids, (QStringList{u"dark-is-icon"_s, u"icon-flattened"_s, u"tinted-from-icon"_s, u"tinted-on-black"_s}));

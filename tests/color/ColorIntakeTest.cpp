@@ -162,13 +162,10 @@ private slots:
         QCoreApplication::sendEvent(field(), &event);
         auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
         QVERIFY(menu != nullptr);
-        QAction *paste = nullptr;
         for (QAction *action : menu->actions()) {
             if (action->text().contains(u"Paste"_s))
-                paste = action;
+                action->trigger();
         }
-        QVERIFY(paste != nullptr);
-        paste->trigger();
         menu->close();
         QCOMPARE(field()->text(), u"#010203"_s);
     }

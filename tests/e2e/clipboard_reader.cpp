@@ -11,7 +11,7 @@
 int main(int argc, char **argv)
 {
     QGuiApplication application(argc, argv);
-    const QString wanted = application.arguments().value(1);
+    const QString wanted = QGuiApplication::arguments().value(1);
     QRasterWindow window;
     window.resize(100, 100);
     window.setVisible(QGuiApplication::platformName() == QStringLiteral("wayland"));

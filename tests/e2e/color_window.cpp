@@ -25,7 +25,7 @@ private:
 int main(int argc, char **argv)
 {
     const QGuiApplication application(argc, argv);
-    ColorWindow window(QColor(application.arguments().value(1)));
+    ColorWindow window(QColor(QGuiApplication::arguments().value(1)));
     window.show();
     return QGuiApplication::exec();
 }

@@ -86,7 +86,7 @@ bool changes(int flags)
 
 bool isRegular(int descriptor)
 {
-    struct stat status;
+    struct stat status = {};
     return ::fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode);
 }
 

@@ -74,6 +74,7 @@ private slots:
         QStringList paths;
         {
             std::vector<std::jthread> starters;
+            starters.reserve(threads);
             for (int i = 0; i < threads; ++i)
                 starters.emplace_back([&] {
                     for (int run = 0; run < runsPerThread; ++run) {

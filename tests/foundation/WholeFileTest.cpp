@@ -274,7 +274,7 @@ private slots:
         QVERIFY(put(path(u"a.png"_s), oldBytes));
         QCOMPARE(::chmod(QFile::encodeName(path(u"a.png"_s)).constData(), 0604), 0);
         QVERIFY(writeWholeFile(path(u"a.png"_s), newBytes).ok());
-        struct stat status;
+        struct stat status = {};
         QCOMPARE(::stat(QFile::encodeName(path(u"a.png"_s)).constData(), &status), 0);
         QCOMPARE(status.st_mode & 07777, 0604u);
     }
@@ -285,7 +285,7 @@ private slots:
         const Outcome outcome = writeWholeFile(path(u"a.png"_s), newBytes);
         ::umask(before);
         QVERIFY(outcome.ok());
-        struct stat status;
+        struct stat status = {};
         QCOMPARE(::stat(QFile::encodeName(path(u"a.png"_s)).constData(), &status), 0);
         QCOMPARE(status.st_mode & 07777, 0640u);
     }

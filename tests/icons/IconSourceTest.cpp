@@ -119,7 +119,7 @@ void IconSourceTest::builtInPictureIsGoodAsSource()
 {
     const Result<QImage> builtIn = builtInIcon();
     QVERIFY(builtIn.ok());
-    const QImage picture = builtIn.value();
+    const QImage &picture = builtIn.value();
     QCOMPARE(picture.size(), QSize(1024, 1024));
     QVERIFY(picture.constScanLine(0)[3] < 255);
     QCOMPARE(int(picture.constScanLine(512)[4 * 512 + 3]), 255);

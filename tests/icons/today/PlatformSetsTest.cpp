@@ -204,7 +204,7 @@ void PlatformSetsTest::manifestNamesItsFiles()
     const QJsonArray icons = manifest[u"icons"_s].toArray();
     QCOMPARE(icons.size(), 4);
     int maskable = 0;
-    for (const QJsonValue &value : icons) {
+    for (const QJsonValue value : icons) {
         const QJsonObject icon = value.toObject();
         const QSize size = sets.header(u"Web"_s + icon[u"src"_s].toString()).size;
         QCOMPARE(icon[u"sizes"_s].toString(), u"%1x%2"_s.arg(size.width()).arg(size.height()));

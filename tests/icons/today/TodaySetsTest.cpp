@@ -189,7 +189,7 @@ void TodaySetsTest::iosForms()
     QCOMPARE(sets.json(u"iOS/Assets.xcassets/Contents.json"_s).keys(), QStringList{u"info"_s});
     const QJsonArray images = contents[u"images"_s].toArray();
     QTEST(static_cast<int>(images.size()), "count");
-    for (const QJsonValue &value : images) {
+    for (const QJsonValue value : images) {
         const QJsonObject image = value.toObject();
         QCOMPARE(image[u"idiom"_s].toString(), u"universal"_s);
         QCOMPARE(image[u"platform"_s].toString(), u"ios"_s);

@@ -80,8 +80,9 @@ double lineWeight(const ColorPlanes &scaled)
 {
     double darkness = 0;
     const int edge = scaled.size().width();
+    const int middle = edge / 2;
     for (int x = 0; x < edge; ++x)
-        darkness += 255 - scaled.row<std::uint8_t>(0, edge / 2)[x];
+        darkness += 255 - scaled.row<std::uint8_t>(0, middle)[x];
     return darkness / (255.0 * edge / sourceEdge);
 }
 
@@ -141,12 +142,12 @@ void RingingClampTest::nothingRipplesBesideAnEdge_data()
     QTest::addColumn<int>("edge");
     const struct
     {
-        const char *name;
+        const char *name = nullptr;
         Shape shape;
     } shapes[] = {{"edge", leftOfAnEdge}, {"slope", aboveASlope}, {"disc", insideADisc}, {"hole", insideAHole}};
     const struct
     {
-        const char *name;
+        const char *name = nullptr;
         QColor color;
         QColor ground;
     } colors[] = {{"two colors", green, paper},
