@@ -7,15 +7,18 @@
 #include "app/sidebar/ITSidebarItemCell.h"
 #include "app/sidebar/SidebarMatrix.h"
 #include "resources/Resources.h"
+#include "tool/PaneSides.h"
 #include "tool/ToolViewController.h"
 #include "tool/style/ColorBand.h"
 #include "ui_IconsViewController.h"
 #include "ui_PopupContentView.h"
 #include "widgets/buttons/ImageButton.h"
+#include "widgets/buttons/SegmentedControl.h"
 #include "widgets/style/Fonts.h"
 
 #include <QDir>
 #include <QLabel>
+#include <QStyle>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -260,6 +263,35 @@ private slots:
         application.delegate.header()->infoButton()->setFocus();
         application.delegate.activate();
         QCOMPARE(QApplication::focusWidget(), application.delegate.header()->infoButton());
+    }
+
+    void theSwitchOfTheSidesCoversNoText_data()
+    {
+        QTest::addColumn<QString>("tool");
+        QTest::addColumn<ToolSide>("side");
+        for (const QString &tool : {u"icons"_s, u"placeholders"_s, u"resizer"_s, u"color"_s, u"devices"_s}) {
+            QTest::addRow("%s, classic", qPrintable(tool)) << tool << ToolSide::Classic;
+            QTest::addRow("%s, today", qPrintable(tool)) << tool << ToolSide::Today;
+        }
+    }
+    void theSwitchOfTheSidesCoversNoText()
+    {
+        QFETCH(const QString, tool);
+        QFETCH(const ToolSide, side);
+        Application application;
+        application.delegate.activate();
+        application.delegate.showTool(tool);
+        PaneSides *sides = application.delegate.currentController()->sides();
+        sides->show(side);
+        const QWidget *control = sides->control();
+        const QRect covered(control->mapToGlobal(QPoint()), control->size());
+        for (const QLabel *label : application.delegate.currentController()->view()->findChildren<QLabel *>()) {
+            if (!label->isVisible() || label->text().isEmpty())
+                continue;
+            const QRect words = label->style()->itemTextRect(label->fontMetrics(), label->contentsRect(),
+                                                             static_cast<int>(label->alignment()), true, label->text());
+            QVERIFY2(!words.translated(label->mapToGlobal(QPoint())).intersects(covered), qPrintable(label->text()));
+        }
     }
 
     void aToolThatIsShownInTheBackgroundHasTheFocusLater()
