@@ -44,6 +44,12 @@ QString titleOf(const QList<RecognizedProject> &projects)
     return qtTrId("ICONS_PROJECT_TITLE").replace("[KIND]"_L1, kinds.join(u", "_s));
 }
 
+QString questionOf(qsizetype files)
+{
+    return files == 1 ? qtTrId("ICONS_PROJECT_QUESTION_ONE")
+                      : qtTrId("ICONS_PROJECT_QUESTION").replace("[COUNT]"_L1, QString::number(files));
+}
+
 /// "12 new, 40 replaced, 6 unchanged"
 QString countsOf(const QList<ProjectFile> &files)
 {
@@ -76,8 +82,7 @@ ProjectQuestion::ProjectQuestion(const QList<RecognizedProject> &projects, const
     setAccessibleName(titleOf(projects));
     auto *title = new QLabel(accessibleName());
     styleLabel(title, latoBold(15), palette::chromeText);
-    auto *question = new QLabel(qtTrId("ICONS_PROJECT_QUESTION").replace("[COUNT]"_L1, QString::number(files.size())) +
-                                u"\n("_s + countsOf(files) + u')');
+    auto *question = new QLabel(questionOf(files.size()) + u"\n("_s + countsOf(files) + u')');
     styleLabel(question, latoRegular(13), palette::chromeText);
     question->setWordWrap(true);
     setAccessibleDescription(question->text());

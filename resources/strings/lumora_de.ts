@@ -553,6 +553,10 @@
     <source>Put [COUNT] icons in their places?</source>
     <translation>[COUNT] Icons an ihre Plätze legen?</translation>
   </message>
+  <message id="ICONS_PROJECT_QUESTION_ONE">
+    <source>Put one icon in its place?</source>
+    <translation>Ein Icon an seinen Platz legen?</translation>
+  </message>
   <message id="ICONS_PROJECT_FILES">
     <source>Files of the project</source>
     <translation>Dateien des Projekts</translation>

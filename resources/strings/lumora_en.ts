@@ -553,6 +553,10 @@
     <source>Put [COUNT] icons in their places?</source>
     <translation>Put [COUNT] icons in their places?</translation>
   </message>
+  <message id="ICONS_PROJECT_QUESTION_ONE">
+    <source>Put one icon in its place?</source>
+    <translation>Put one icon in its place?</translation>
+  </message>
   <message id="ICONS_PROJECT_FILES">
     <source>Files of the project</source>
     <translation>Files of the project</translation>

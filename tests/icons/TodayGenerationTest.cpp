@@ -274,10 +274,9 @@ private slots:
 
     void whatIsWrittenIntoAProjectIsJudged()
     {
-        QVERIFY(makeProject());
-        QVERIFY(writeWholeFile(out() + u"/package.json"_s, "{}") &&
-                QDir().mkpath(out() + u"/ios/Runner/Assets.xcassets/AppIcon.appiconset"_s) &&
-                writeWholeFile(out() + u"/ios/Runner/Assets.xcassets/AppIcon.appiconset/Contents.json"_s,
+        const QString set = u"ios/App/App/Assets.xcassets/AppIcon.appiconset"_s;
+        QVERIFY(QDir().mkpath(out() + u'/' + set) && writeWholeFile(out() + u"/capacitor.config.json"_s, "{}") &&
+                writeWholeFile(out() + u'/' + set + u"/Contents.json"_s,
                                "{\"images\":[{\"idiom\":\"universal\",\"platform\":\"iOS\",\"size\":\"1024x1024\","
                                "\"filename\":\"a.png\"}]}"));
         QSignalSpy found(generation(), &SetGeneration::projectFound);
@@ -287,12 +286,13 @@ private slots:
         m_scene->services.folderChooser.confirm(out());
         QVERIFY(found.wait(60000));
         QTRY_VERIFY(TodayIconScene::question() != nullptr);
+        QCOMPARE(TodayIconScene::question()->list()->count(), 1);
+        QCOMPARE(TodayIconScene::question()->accessibleDescription(), u"Put one icon in its place?\n(1 new)"_s);
         TodayIconScene::question()->intoProjectButton()->click();
         QVERIFY(!ended.isEmpty() || ended.wait(60000));
         const QStringList &failures = pane()->result()->result().failures;
         QCOMPARE(failures.size(), qsizetype{1});
-        QVERIFY2(failures.first().startsWith(u"ios/Runner/Assets.xcassets/AppIcon.appiconset: "_s),
-                 qPrintable(failures.first()));
+        QVERIFY2(failures.first().startsWith(set + u": "_s), qPrintable(failures.first()));
     }
 
     void closingDuringARunEndsCleanly()
