@@ -31,10 +31,13 @@ ExitStatus refuse(Console &console, Failure failure, const QString &source, Sour
 {
     if (failure.subject.isEmpty())
         failure.subject = source.isEmpty() ? u"--example"_s : source;
-    console.complain(failure.code == FailureCode::WrongSize
-                         ? complaintOf(failure, commandText(fit == SourceFit::Exact ? "CLI_ICONS_WRONG_SIZE_ADVICE"
-                                                                                    : "CLI_ICONS_FIT_ADVICE"))
-                         : complaintOf(failure));
+    if (failure.code == FailureCode::WrongSize)
+        console.complain(complaintOf(
+            failure, commandText(fit == SourceFit::Exact ? "CLI_ICONS_WRONG_SIZE_ADVICE" : "CLI_ICONS_FIT_ADVICE")));
+    else if (failure.code == FailureCode::NotAPicture)
+        console.complain(complaintOf(failure, commandText("CLI_ICONS_SOURCE_ADVICE")));
+    else
+        console.complain(failure);
     return ExitStatus::Refused;
 }
 

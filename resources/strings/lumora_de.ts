@@ -5267,6 +5267,10 @@
     <source>use an undamaged PNG, JPEG, TIFF, WebP, BMP, GIF or ICNS file</source>
     <translation>eine unbeschädigte PNG-, JPEG-, TIFF-, WebP-, BMP-, GIF- oder ICNS-Datei nehmen</translation>
   </message>
+  <message id="CLI_ICONS_SOURCE_ADVICE">
+    <source>use an undamaged SVG, PNG, JPEG, TIFF, WebP, BMP, GIF or ICNS file</source>
+    <translation>eine unbeschädigte SVG-, PNG-, JPEG-, TIFF-, WebP-, BMP-, GIF- oder ICNS-Datei nehmen</translation>
+  </message>
   <message id="CLI_DOWNSCALE_FORMAT_ADVICE">
     <source>use an undamaged PNG file</source>
     <translation>eine unbeschädigte PNG-Datei nehmen</translation>

@@ -5265,6 +5265,10 @@
     <source>use an undamaged PNG, JPEG, TIFF, WebP, BMP, GIF or ICNS file</source>
     <translation>use an undamaged PNG, JPEG, TIFF, WebP, BMP, GIF or ICNS file</translation>
   </message>
+  <message id="CLI_ICONS_SOURCE_ADVICE">
+    <source>use an undamaged SVG, PNG, JPEG, TIFF, WebP, BMP, GIF or ICNS file</source>
+    <translation>use an undamaged SVG, PNG, JPEG, TIFF, WebP, BMP, GIF or ICNS file</translation>
+  </message>
   <message id="CLI_DOWNSCALE_FORMAT_ADVICE">
     <source>use an undamaged PNG file</source>
     <translation>use an undamaged PNG file</translation>

@@ -177,6 +177,7 @@ void TodayIconsCommandTest::refused_data()
     QTest::newRow("name that climbs") << QStringList{u"photo.png"_s, u"--name"_s, u"../x"_s, u"--platform"_s,
                                                      u"linux"_s}
                                       << u"--name ../x"_s;
+    QTest::newRow("no picture") << QStringList{u"text.png"_s, u"--platform"_s, u"linux"_s} << u"undamaged SVG, PNG"_s;
     QTest::newRow("svg with a script") << QStringList{u"script.svg"_s, u"--platform"_s, u"linux"_s} << u"script"_s;
 }
 
@@ -185,6 +186,7 @@ void TodayIconsCommandTest::refused()
     QVERIFY(putFile(at(u"small.png"_s), pictureFile(opaquePicture(600))));
     QVERIFY(putFile(at(u"tiny.png"_s), pictureFile(opaquePicture(300))));
     QVERIFY(putFile(at(u"script.svg"_s), "<svg viewBox=\"0 0 1 1\"><script/></svg>"));
+    QVERIFY(putFile(at(u"text.png"_s), "no picture"));
     QFETCH(QStringList, arguments);
     const LumoraRun run = icons(arguments + QStringList{u"--out"_s, u"o"_s});
     QCOMPARE(run.status, 1);
