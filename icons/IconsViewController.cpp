@@ -122,11 +122,11 @@ void IconsViewController::generatePlatformIcons()
         job.post([this, result, hasIcon] {
             m_platformCaption->showForAWhile(qtTrId("ICONS_DONE"));
             jobEnded();
-            if (result.folder.nameTaken)
-                showNewFolder(result.folder.name(), m_ui->generateIconsButton);
             // Without a source the user has already seen a message.
             if (hasIcon)
                 m_ui->resultView->setResult(resultOf(result));
+            if (result.folder.nameTaken)
+                showNewFolder(result.folder.name(), m_ui->generateIconsButton);
         });
     });
 }

@@ -234,12 +234,13 @@ void PlaceholderViewController::finish(HoverButton *button, const PlaceholderRun
     if (TimedCaption *caption = m_captions.value(button))
         caption->showForAWhile(qtTrId("ALL_DONE"));
     jobEnded();
+    // Before the message, which points at a button that the result moves.
+    m_ui->resultView->setResult(resultOf(run, std::ssize(run.files)));
     if (run.folder.nameTaken)
         showPopupWithTitle(
             qtTrId("PLACEHOLDER_NEW_FOLDER_ALERT_TITLE"),
             qtTrId("PLACEHOLDER_NEW_FOLDER_ALERT_MESSAGE").replace(QStringLiteral("[FOLDER]"), run.folder.name()),
             button, false);
-    m_ui->resultView->setResult(resultOf(run, std::ssize(run.files)));
     // The user may have started another run meanwhile.
     if (m_selectedButton == button && m_saveImages.empty())
         m_selectedButton = nullptr;

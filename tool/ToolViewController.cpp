@@ -10,6 +10,7 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QLayout>
 
 #include <utility>
 
@@ -107,6 +108,9 @@ void ToolViewController::display(const Message &message)
 {
     m_shownMessage = message;
     m_waitingMessage.reset();
+    // What was shown or hidden just before may yet move the control.
+    if (m_view->layout() != nullptr)
+        m_view->layout()->activate();
     if (message.control.isNull())
         m_popupView->displayPopoverInWindow(window(), QPointF(metrics::toolLeft, -metrics::popupGap));
     else

@@ -4,9 +4,11 @@
 #include "tests/doubles/RecordingServices.h"
 #include "ui_PlaceholderViewController.h"
 #include "widgets/popover/SFBPopover.h"
+#include "widgets/popover/ScreenCoordinates.h"
 
 #include <QDir>
 #include <QLabel>
+#include <QLayout>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -41,11 +43,13 @@ private:
     const Ui::PlaceholderViewController &ui() const { return m_controller->outlets(); }
     RecordingFolderChooser &chooser() const { return m_services->folderChooser; }
     QString name() const { return QFileInfo(m_folder->path()).fileName(); }
-    /// The buttons are side by side.
+    /// In front of the lower or the upper edge of the control, at its place beside a result.
     bool popupPointsAt(const QWidget *control) const
     {
-        const qreal arrow = m_controller->popupView()->popoverWindow()->attachmentPoint().x();
-        return qAbs(arrow - control->mapToGlobal(QPointF(control->width() / 2.0, 0)).x()) < 1;
+        m_controller->view()->layout()->activate();
+        const QPointF arrow = flippedOnScreen(m_controller->popupView()->popoverWindow()->attachmentPoint());
+        const QRectF around(control->mapToGlobal(QPoint()), control->size());
+        return qAbs(arrow.x() - around.center().x()) < 1 && around.adjusted(0, -6, 0, 6).contains(arrow);
     }
 
 private slots:
