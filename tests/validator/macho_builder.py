@@ -53,6 +53,7 @@ class MachO:
         self.libraries = [("/usr/lib/libSystem.B.dylib", "needed")]
         self.identity = None
         self.run_paths = []
+        self.locals = []
         self.imports = []
         self.defined = ["__mh_execute_header"] if filetype == EXECUTE else []
         self.classes = []
@@ -135,6 +136,9 @@ class MachO:
         pool = b"\0"
         table = b""
         form = "<IBBHQ" if self.wide else "<IBBHI"
+        for name in self.locals:
+            table += struct.pack(form, len(pool), 0x0E, 1, 0, 0x4000)
+            pool += name.encode() + b"\0"
         for name in self.defined:
             table += struct.pack(form, len(pool), 0x0F, 1, 0, 0x4000)
             pool += name.encode() + b"\0"
@@ -146,7 +150,7 @@ class MachO:
         room = padded(content, 16)
         signature = (text_size + len(room), self.signature_room) if self.sign else None
         linkedit = (text_size, len(room) + (self.signature_room if self.sign else 0))
-        symbols = (text_size, len(self.defined) + len(self.imports))
+        symbols = (text_size, len(self.locals) + len(self.defined) + len(self.imports))
         parts = self.commands(places, text_size, linkedit, symbols, (text_size + len(table), len(pool)), signature)
         commands = b"".join(parts)
         magic = 0xFEEDFACF if self.wide else 0xFEEDFACE

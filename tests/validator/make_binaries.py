@@ -193,6 +193,24 @@ def hostile():
     }
 
 
+def local_symbols():
+    """Most symbols are local, as before stripping; of the others, one has a long name, one a name beyond the limit."""
+    app = whole_app()
+    app.locals = [f"_local{number:06}" + "x" * 60 for number in range(20_000)]
+    app.defined += ["_first", "_long" + "y" * 9000, "_beyond" + "z" * 40_000]
+    return app.bytes()
+
+
+def names_among_symbols():
+    """The names of the external symbols are said to be where the table has its local ones."""
+    app = whole_app()
+    app.locals = [f"_{number:06}" for number in range(20_000)]
+    whole = app.bytes()
+    place = command_at(whole, 0x2)
+    symbols, = struct.unpack_from("<I", whole, place + 8)
+    return patched(whole, place + 16, "<I", symbols)
+
+
 def main():
     out = Path(sys.argv[1])
     if sys.argv[2:] == ["compiled"]:
@@ -208,6 +226,8 @@ def main():
         "library": MachO(filetype=DYLIB).bytes(),
         "plug-in": MachO(filetype=BUNDLE).bytes(),
         "debug symbols": MachO(filetype=DSYM).bytes(),
+        "local symbols": local_symbols(),
+        "names among the symbols": names_among_symbols(),
         "enciphered": whole_app(encryption=(0x4000, 0x4000, 1)).bytes(),
         "bindings": with_content(0x80000022, bindings(["_stat", "_OBJC_CLASS_$_NSUserDefaults"])),
         "chained imports": with_content(0x80000034, chained_fixups(["_stat", "_OBJC_CLASS_$_NSUserDefaults"])),

@@ -11,7 +11,7 @@ import struct
 import sys
 from pathlib import Path
 
-from macho_builder import MachO, patched_bytes
+from macho_builder import MachO, fat, patched_bytes
 from signing import SHA1, SHA256, Identity, Signer, blob, der_entitlements, seal, super_blob
 
 ENTITLEMENTS = {"application-identifier": "TEAM123456.com.example.lamp", "com.apple.developer.team-identifier": "TEAM123456",
@@ -90,6 +90,7 @@ def main():
 
     files = {
         "signed": good,
+        "signed, behind another slice": fat(("armv7", MachO("armv7").bytes()), ("arm64", good)),
         "signed with both digests": variant(identity, kinds=(SHA1, SHA256)),
         "signed, values out of order": variant(identity, kinds=(SHA1, SHA256), message={"unsorted": True}),
         "signed, lengths indefinite": variant(identity, message={"indefinite": True}),

@@ -12,28 +12,8 @@ namespace
 constexpr quint32 withTeam = 0x20200;
 constexpr quint32 withLongLimit = 0x20300;
 constexpr quint32 withExecutableSegment = 0x20400;
-constexpr qsizetype brokenPagesKept = 16;
 constexpr qsizetype longestText = 1024;
 constexpr qsizetype shortHashSize = 20;
-
-/// Compares each page with its hash.
-void checkPages(QByteArrayView slice, const ByteReader &blob, quint64 hashOffset, CodeDirectory &directory)
-{
-    const auto hashSize = static_cast<quint64>(digestSize(directory.digest));
-    const quint64 pageSize = directory.pageSize == 0 ? directory.codeLimit : directory.pageSize;
-    quint64 at = 0;
-    for (quint64 page = 0; page < directory.pageCount && at < directory.codeLimit; ++page) {
-        const quint64 length = qMin(pageSize, directory.codeLimit - at);
-        const auto expected = blob.span(hashOffset + page * hashSize, hashSize);
-        const QByteArrayView bytes = ByteReader(slice, ByteOrder::Big).clipped(at, length);
-        at += length;
-        if (expected && Digest::of(directory.digest, bytes) == *expected)
-            continue;
-        directory.brokenPages += static_cast<quint32>(page);
-        if (directory.brokenPages.size() == brokenPagesKept)
-            return;
-    }
-}
 
 } // namespace
 
@@ -48,7 +28,8 @@ bool CodeDirectory::binds(SignatureSlot slot, QByteArrayView content) const
     return hasSlot(slot) && specialHashes.value(static_cast<quint32>(slot)) == Digest::of(digest, content);
 }
 
-std::optional<CodeDirectory> readCodeDirectory(QByteArrayView bytes, QByteArrayView slice, quint64 signatureOffset)
+std::optional<CodeDirectory> readCodeDirectory(QByteArrayView bytes, quint64 signatureOffset,
+                                               const PageCheck &brokenPages)
 {
     const ByteReader blob(bytes, ByteOrder::Big);
     constexpr quint64 smallest = 44;
@@ -94,7 +75,8 @@ std::optional<CodeDirectory> readCodeDirectory(QByteArrayView bytes, QByteArrayV
     const quint64 pageSize = directory.pageSize == 0 ? directory.codeLimit : directory.pageSize;
     const quint64 pagesNeeded = pageSize == 0 ? 0 : (directory.codeLimit + pageSize - 1) / pageSize;
     directory.coversCode = directory.codeLimit == signatureOffset && pagesNeeded == directory.pageCount;
-    checkPages(slice, blob, hashOffset, directory);
+    directory.brokenPages = brokenPages({directory.digest, directory.pageSize, directory.codeLimit, directory.pageCount,
+                                         blob.clipped(hashOffset, directory.pageCount * hashSize)});
     return directory;
 }
 

@@ -34,8 +34,9 @@ struct Blob
 class SignatureReading
 {
 public:
-    SignatureReading(QByteArrayView slice, const FileRange &range, CodeSignature &signature)
-        : m_slice(slice), m_range(range), m_signature(signature)
+    SignatureReading(QByteArrayView slice, const FileRange &range, const PageCheck &brokenPages,
+                     CodeSignature &signature)
+        : m_slice(slice), m_range(range), m_brokenPages(brokenPages), m_signature(signature)
     {
     }
 
@@ -52,6 +53,7 @@ private:
 
     QByteArrayView m_slice;
     FileRange m_range;
+    const PageCheck &m_brokenPages;
     CodeSignature &m_signature;
     QMap<quint32, Blob> m_blobs;
 };
@@ -104,7 +106,7 @@ void SignatureReading::readDirectories()
         if (blob.whole.isEmpty())
             continue;
         const auto directory =
-            blob.magic == directoryMagic ? readCodeDirectory(blob.whole, m_slice, m_range.offset) : std::nullopt;
+            blob.magic == directoryMagic ? readCodeDirectory(blob.whole, m_range.offset, m_brokenPages) : std::nullopt;
         if (!directory) {
             fault(SignatureFault::Damaged);
             continue;
@@ -214,8 +216,17 @@ const CodeDirectory *CodeSignature::best() const
 
 CodeSignature readCodeSignature(QByteArrayView slice, const FileRange &range)
 {
+    return readCodeSignature(slice, range, [slice](const PageTable &table) {
+        PageComparison comparison(table);
+        comparison.add(slice);
+        return comparison.broken();
+    });
+}
+
+CodeSignature readCodeSignature(QByteArrayView slice, const FileRange &range, const PageCheck &brokenPages)
+{
     CodeSignature signature;
-    SignatureReading(slice, range, signature).read();
+    SignatureReading(slice, range, brokenPages, signature).read();
     return signature;
 }
 

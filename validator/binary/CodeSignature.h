@@ -3,6 +3,7 @@
 
 #include "BinaryFacts.h"
 #include "SignedMessage.h"
+#include "SignedPages.h"
 #include "validator/crypto/Digest.h"
 
 #include <QByteArrayView>
@@ -93,5 +94,8 @@ struct CodeSignature
 /// The signature of a slice, read and checked: page hashes, bound blobs, message. `slice` is the whole slice, `range`
 /// the place of its code signature. The time is proportional to the slice's length.
 CodeSignature readCodeSignature(QByteArrayView slice, const FileRange &range);
+/// The same for a slice of which only the signature's own bytes are there. Each directory's pages are asked for once,
+/// in the same order each time.
+CodeSignature readCodeSignature(QByteArrayView slice, const FileRange &range, const PageCheck &brokenPages);
 
 } // namespace lumora

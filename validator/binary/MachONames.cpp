@@ -9,9 +9,7 @@ namespace lumora
 namespace
 {
 
-constexpr quint8 debugBits = 0xE0;
 constexpr quint8 typeBits = 0x0E;
-constexpr quint8 externalBit = 0x01;
 
 /// The memory of a kept name in addition to its letters.
 constexpr qsizetype nameOverhead = 48;
@@ -75,7 +73,7 @@ void GatheredNames::finish(QByteArrayList &list)
 std::optional<BinaryFault> gatherSymbols(const ByteReader &slice, const SymbolTable &table, const BinaryLimits &limits,
                                          GatheredNames &names, BinarySlice &facts)
 {
-    const quint64 entrySize = facts.is64Bit ? 16 : 12;
+    const quint64 entrySize = symbolEntrySize(facts.is64Bit);
     const ByteReader texts(slice.clipped(table.nameOffset, table.nameSize), slice.order());
     std::optional<BinaryFault> fault;
     if (!slice.holds(table.symbolOffset, table.symbolCount * entrySize) || texts.size() < table.nameSize)
@@ -89,7 +87,7 @@ std::optional<BinaryFault> gatherSymbols(const ByteReader &slice, const SymbolTa
         if (!slice.holds(entry, entrySize) || !place || !type)
             return BinaryFault::SymbolsPastEnd;
         const quint64 value = facts.is64Bit ? slice.u64(entry + 8).value_or(0) : slice.u32(entry + 8).value_or(0);
-        if ((*type & debugBits) != 0 || (*type & externalBit) == 0)
+        if (!isExternalSymbol(*type))
             continue;
         const bool undefined = (*type & typeBits) == 0 && value == 0;
         const QByteArrayView name = texts.text(*place, static_cast<quint64>(names.nameLength()));

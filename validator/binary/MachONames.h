@@ -40,6 +40,19 @@ struct SymbolTable
     quint32 nameSize = 0;
 };
 
+constexpr quint64 symbolEntrySize(bool is64Bit)
+{
+    return is64Bit ? 16 : 12;
+}
+
+/// Whether the type of an entry in the symbol table is that of an external symbol, not of debugging.
+constexpr bool isExternalSymbol(quint8 type)
+{
+    constexpr quint8 debugBits = 0xE0;
+    constexpr quint8 externalBit = 0x01;
+    return (type & debugBits) == 0 && (type & externalBit) != 0;
+}
+
 /// Adds the undefined external symbols to the imported ones, and the defined external symbols to the defined ones.
 /// Returns the fault, if there is one.
 std::optional<BinaryFault> gatherSymbols(const ByteReader &slice, const SymbolTable &table, const BinaryLimits &limits,

@@ -30,13 +30,13 @@ bool isFat(const ByteReader &file)
     return magic == fatMagic64 || (magic == fatMagic && file.u32(4).value_or(0) < firstJavaVersion);
 }
 
-BinaryFacts readFat(const ByteReader &file, const BinaryLimits &limits)
+/// The places of a fat file's slices; the others are faults.
+QList<FileRange> fatSlices(const ByteReader &file, const BinaryLimits &limits, BinaryFacts &facts)
 {
     const bool wide = file.u32(0) == fatMagic64;
     const quint64 entrySize = wide ? 32 : 20;
     const quint32 count = file.u32(4).value_or(0);
-    BinaryFacts facts;
-    facts.isFat = true;
+    QList<FileRange> slices;
     const quint64 read = qMin<quint64>(count, static_cast<quint64>(limits.slices));
     QList<FileRange> taken{{0, 8 + read * entrySize}};
     for (quint64 i = 0; i < count; ++i) {
@@ -61,6 +61,16 @@ BinaryFacts readFat(const ByteReader &file, const BinaryLimits &limits)
             continue;
         }
         taken += range;
+        slices += range;
+    }
+    return slices;
+}
+
+BinaryFacts readFat(const ByteReader &file, const BinaryLimits &limits)
+{
+    BinaryFacts facts;
+    facts.isFat = true;
+    for (const FileRange &range : fatSlices(file, limits, facts)) {
         auto slice = readMachOSlice(*file.span(range.offset, range.size), limits);
         if (!slice) {
             addFault(facts.faults, BinaryFault::UnreadableSlice);
@@ -84,6 +94,15 @@ bool isMachO(QByteArrayView bytes)
 bool isStaticArchive(QByteArrayView bytes)
 {
     return bytes.startsWith("!<arch>\n");
+}
+
+QList<FileRange> sliceRanges(QByteArrayView bytes, const BinaryLimits &limits)
+{
+    const ByteReader file(bytes, ByteOrder::Big);
+    if (!isFat(file))
+        return {{0, file.size()}};
+    BinaryFacts facts;
+    return fatSlices(file, limits, facts);
 }
 
 std::optional<BinaryFacts> readMachO(QByteArrayView bytes, const BinaryLimits &limits)

@@ -26,6 +26,10 @@ bool isMachO(QByteArrayView bytes);
 /// True when the bytes begin like a static library.
 bool isStaticArchive(QByteArrayView bytes);
 
+/// The places of the slices that are read. Of the bytes, only the first `fatHeaderSize` are looked at.
+QList<FileRange> sliceRanges(QByteArrayView bytes, const BinaryLimits &limits = {});
+constexpr quint64 fatHeaderSize = 8 + 32 * 32;
+
 /// The facts of a Mach-O file, thin or fat, of either byte order and width; empty when the bytes are not such a file.
 /// Time and memory are bounded whatever the file contains: each byte is read at most a fixed number of times, and
 /// exceeding a limit is a fault.

@@ -13,6 +13,19 @@ namespace
 
 constexpr quint32 magic32 = 0xFEEDFACE;
 constexpr quint32 magic64 = 0xFEEDFACF;
+constexpr QByteArrayView classNames("__objc_classname");
+constexpr QByteArrayView methodNames("__objc_methname");
+
+/// Empty when the bytes do not begin with a Mach-O header.
+std::optional<ByteOrder> sliceOrder(QByteArrayView bytes)
+{
+    for (const ByteOrder order : {ByteOrder::Little, ByteOrder::Big}) {
+        const quint32 magic = ByteReader(bytes, order).u32(0).value_or(0);
+        if (magic == magic32 || magic == magic64)
+            return order;
+    }
+    return std::nullopt;
+}
 
 void readHeader(const ByteReader &slice, BinarySlice &facts)
 {
@@ -74,12 +87,12 @@ void NameReading::readObjectiveC()
     quint64 room = static_cast<quint64>(m_limits.nameBytes);
     for (const BinarySegment &segment : m_facts.segments) {
         for (const BinarySection &section : segment.sections) {
-            const bool classes = section.name == "__objc_classname";
-            if ((!classes && section.name != "__objc_methname") || !hasBytesInFile(section))
+            if (!hasObjectiveCNames(section))
                 continue;
             const QByteArrayView texts = m_slice.clipped(section.offset, qMin(section.size, room));
             room -= static_cast<quint64>(texts.size());
-            fault(gatherTexts(texts, m_names, classes ? m_facts.objectiveCClasses : m_facts.objectiveCSelectors));
+            fault(gatherTexts(texts, m_names,
+                              section.name == classNames ? m_facts.objectiveCClasses : m_facts.objectiveCSelectors));
         }
     }
 }
@@ -93,27 +106,47 @@ void NameReading::finish()
 
 } // namespace
 
+std::optional<SliceLayout> readSliceLayout(QByteArrayView bytes, const BinaryLimits &limits)
+{
+    const auto order = sliceOrder(bytes);
+    if (!order)
+        return std::nullopt;
+    const ByteReader slice(bytes, *order);
+    SliceLayout layout;
+    layout.order = *order;
+    layout.facts.is64Bit = slice.u32(0) == magic64;
+    readHeader(slice, layout.facts);
+    layout.places = readLoadCommands(slice, limits, layout.facts);
+    return layout;
+}
+
 std::optional<BinarySlice> readMachOSlice(QByteArrayView bytes, const BinaryLimits &limits)
 {
-    const ByteReader little(bytes, ByteOrder::Little);
-    const ByteReader big(bytes, ByteOrder::Big);
-    const quint32 magic = little.u32(0).value_or(0);
-    const quint32 turned = big.u32(0).value_or(0);
-    const bool isLittle = magic == magic32 || magic == magic64;
-    if (!isLittle && turned != magic32 && turned != magic64)
+    auto layout = readSliceLayout(bytes, limits);
+    if (!layout)
         return std::nullopt;
-    const ByteReader &slice = isLittle ? little : big;
-    BinarySlice facts;
-    facts.is64Bit = (isLittle ? magic : turned) == magic64;
-    readHeader(slice, facts);
-    const NamePlaces places = readLoadCommands(slice, limits, facts);
-    NameReading names(slice, limits, facts);
-    names.readSymbols(places);
+    const ByteReader slice(bytes, layout->order);
+    NameReading names(slice, limits, layout->facts);
+    names.readSymbols(layout->places);
     // Encrypted names are meaningless.
-    if (!facts.isEncrypted())
+    if (!layout->facts.isEncrypted())
         names.readObjectiveC();
     names.finish();
-    return facts;
+    return std::move(layout->facts);
+}
+
+quint64 sliceLayoutSize(QByteArrayView bytes)
+{
+    const auto order = sliceOrder(bytes);
+    if (!order)
+        return 0;
+    const quint64 commands = ByteReader(bytes, *order).u32(20).value_or(0);
+    return sliceHeaderSize + commands;
+}
+
+bool hasObjectiveCNames(const BinarySection &section)
+{
+    return (section.name == classNames || section.name == methodNames) && hasBytesInFile(section);
 }
 
 } // namespace lumora

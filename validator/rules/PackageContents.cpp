@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "PackageContents.h"
 
-#include "validator/binary/MachOReader.h"
+#include "validator/binary/BinaryInPieces.h"
 #include "validator/bundle/PropertyList.h"
 
 #include <algorithm>
@@ -17,9 +17,8 @@ namespace lumora
 namespace
 {
 
-constexpr qsizetype largestBinary = qsizetype{1} << 30;
+constexpr quint64 largestBinary = quint64{1} << 30;
 constexpr qsizetype largestKept = 64 << 20;
-constexpr quint64 largestReserved = quint64{512} << 20;
 
 /// What a file holds beside its digests, for the few files that hold facts.
 struct FoundFacts
@@ -36,17 +35,36 @@ bool isKept(const QString &name)
     return names.contains(name);
 }
 
-PackageBinary readBinary(const QString &path, const QByteArray &content, BinaryFacts facts)
+std::optional<PackageBinary> readBinary(const QString &path, QByteArrayView content)
 {
-    PackageBinary binary{path, std::move(facts), {}};
+    auto facts = readMachO(content);
+    if (!facts)
+        return std::nullopt;
+    PackageBinary binary{path, std::move(*facts), {}};
     for (const BinarySlice &slice : binary.facts.slices) {
         if (!slice.codeSignature)
             continue;
-        const QByteArrayView part = QByteArrayView(content).sliced(static_cast<qsizetype>(slice.range.offset),
-                                                                   static_cast<qsizetype>(slice.range.size));
+        const QByteArrayView part =
+            content.sliced(static_cast<qsizetype>(slice.range.offset), static_cast<qsizetype>(slice.range.size));
         binary.signatures += readCodeSignature(part, *slice.codeSignature);
     }
     return binary;
+}
+
+/// Reads the entry from its start once more.
+void readAgain(const PackageSource &source, const PackageEntry &entry, const std::function<void(QByteArrayView)> &take)
+{
+    constexpr qsizetype blockSize = 1 << 16;
+    const auto stream = source.open(entry);
+    if (!stream)
+        return;
+    QByteArray block(blockSize, Qt::Uninitialized);
+    while (true) {
+        const auto count = stream.value()->read(block.data(), block.size());
+        if (!count || count.value() == 0)
+            return;
+        take(QByteArrayView(block).first(count.value()));
+    }
 }
 
 /// The results of the reading threads, by the entry's place in the source's list. Most files give digests only, so that
@@ -67,6 +85,8 @@ public:
         if (found.binary || found.isStaticArchive || !found.content.isEmpty())
             m_found.emplace(place, std::move(found));
     }
+
+    const PackageSource &source() const { return m_source; }
 
     /// Call these only when all threads are done.
     const std::optional<FileDigests> &digests(const PackageEntry &entry) const { return m_digests[placeOf(entry)]; }
@@ -108,34 +128,44 @@ public:
         m_digesting.add(bytes);
         if (m_first) {
             m_first = false;
-            m_isBinary = isMachO(bytes);
             m_found.isStaticArchive = isStaticArchive(bytes);
-            // Growing step by step would take up to twice the memory. What is promised but does not come stays
-            // untouched.
-            if (m_isBinary)
-                m_found.content.reserve(static_cast<qsizetype>(std::min<quint64>(m_entry.size, largestReserved)));
+            if (isMachO(bytes)) {
+                // A file that comes in one piece is read where it is.
+                if (static_cast<quint64>(bytes.size()) == m_entry.size)
+                    m_found.binary = readBinary(m_entry.path, bytes);
+                else
+                    m_pieces.emplace(qMin<quint64>(m_entry.size, largestBinary));
+            }
         }
-        const qsizetype limit = m_isBinary ? largestBinary : largestKept;
-        if ((m_keeps || m_isBinary) && m_found.content.size() + bytes.size() <= limit)
+        if (m_pieces)
+            m_pieces->take(bytes);
+        else if (m_keeps && m_found.content.size() + bytes.size() <= largestKept)
             m_found.content.append(bytes);
     }
 
     void finish(bool) override
     {
-        if (m_isBinary) {
-            if (auto facts = readMachO(m_found.content))
-                m_found.binary = readBinary(m_entry.path, m_found.content, std::move(*facts));
-            m_found.content.clear();
-        }
+        if (m_pieces)
+            finishBinary();
         m_gathering.add(m_entry, m_digesting.result(), std::move(m_found));
     }
 
 private:
+    void finishBinary()
+    {
+        auto facts = m_pieces->facts();
+        if (!facts)
+            return;
+        QList<CodeSignature> signatures =
+            m_pieces->signatures(*facts, [this](const auto &take) { readAgain(m_gathering.source(), m_entry, take); });
+        m_found.binary = PackageBinary{m_entry.path, std::move(*facts), std::move(signatures)};
+    }
+
     const PackageEntry &m_entry;
     Gathering &m_gathering;
     bool m_keeps;
     bool m_first = true;
-    bool m_isBinary = false;
+    std::optional<BinaryInPieces> m_pieces; ///< of a long binary
     FileDigesting m_digesting;
     FoundFacts m_found;
 };
