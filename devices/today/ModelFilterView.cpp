@@ -109,7 +109,7 @@ void ModelFilterView::setUpChoices(std::span<const DeviceModel> models)
     for (const ScreenClass &screen : screenClasses()) {
         const QString name = qtTrId("DEVICES_CLASS")
                                  .replace("[FAMILY]"_L1, keyText(familyName(screen.family)))
-                                 .replace("[CLASS]"_L1, keyText(screen.key));
+                                 .replace("[CLASS]"_L1, valueWords(CardFact::ScreenClassKey, keyText(screen.key)));
         m_screens->addItem(name, keyText(screen.key));
     }
     for (const Biometry biometry : {Biometry::None, Biometry::TouchId, Biometry::FaceId})

@@ -2,6 +2,7 @@
 #include "ModelTexts.h"
 
 #include <QCoreApplication>
+#include <QLocale>
 
 #include <array>
 
@@ -129,6 +130,8 @@ QString valueWords(CardFact fact, const QString &value)
 {
     if (value.isEmpty())
         return u"–"_s;
+    if (fact == CardFact::Diagonal || fact == CardFact::Scale || fact == CardFact::ScreenClassKey)
+        return QString(value).replace(u'.', QLocale().decimalPoint());
     const bool isHaving = fact == CardFact::DynamicIsland || fact == CardFact::Lidar || fact == CardFact::UsbC ||
                           fact == CardFact::Cellular5G;
     if (!isHaving && fact != CardFact::Biometry)

@@ -19,6 +19,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScopeGuard>
 #include <QScrollBar>
 #include <QSlider>
 #include <QTest>
@@ -72,6 +73,25 @@ private slots:
     {
         m_controller.reset();
         m_services.reset();
+    }
+
+    void numbersHaveTheDecimalSignOfTheLanguage_data()
+    {
+        QTest::addColumn<CardFact>("fact");
+        QTest::addColumn<QString>("value");
+        QTest::addColumn<QString>("words");
+        QTest::newRow("diagonal") << CardFact::Diagonal << u"6.9"_s << u"6,9"_s;
+        QTest::newRow("class") << CardFact::ScreenClassKey << u"12.9"_s << u"12,9"_s;
+        QTest::newRow("a version stays") << CardFact::NewestOs << u"12.5.8"_s << u"12.5.8"_s;
+    }
+    void numbersHaveTheDecimalSignOfTheLanguage()
+    {
+        QFETCH(const CardFact, fact);
+        QFETCH(const QString, value);
+        QFETCH(const QString, words);
+        const auto restore = qScopeGuard([old = QLocale()] { QLocale::setDefault(old); });
+        QLocale::setDefault(QLocale(u"de_DE"_s));
+        QCOMPARE(valueWords(fact, value), words);
     }
 
     void tabGoesFromTheSearchOverTheFiltersToReset()
