@@ -8,11 +8,10 @@
 namespace lumora
 {
 
-/// A delegate with both forms of the selectors, so that it is called. Records the messages and questions.
-class ListeningDelegate : public ZipArchiveDelegate
+/// A delegate that implements the two operations and nothing else, like any other. Records the messages and questions.
+class ColonOnlyDelegate : public ZipArchiveDelegate
 {
 public:
-    bool respondsToSelector(QLatin1StringView) const override { return true; }
     void ErrorMessage(const QString &message) override { messages += message; }
     bool OverWriteOperation(const QString &path) override
     {
@@ -25,14 +24,11 @@ public:
     bool replace = true;
 };
 
-/// A delegate that implements the two operations and nothing else, like any other.
-class ColonOnlyDelegate final : public ListeningDelegate
+/// A delegate with both forms of the selectors, so that it is called.
+class ListeningDelegate final : public ColonOnlyDelegate
 {
 public:
-    bool respondsToSelector(QLatin1StringView selector) const override
-    {
-        return ZipArchiveDelegate::respondsToSelector(selector);
-    }
+    bool respondsToSelector(QLatin1StringView) const override { return true; }
 };
 
 } // namespace lumora

@@ -107,7 +107,7 @@ private slots:
         QFETCH(bool, replaced);
         const QTemporaryDir destination;
         write(destination.filePath(u"1"_s), "what was there");
-        std::shared_ptr<ListeningDelegate> listener;
+        std::shared_ptr<ColonOnlyDelegate> listener;
         if (delegate == u"colon")
             listener = std::make_shared<ColonOnlyDelegate>();
         else if (delegate != u"none")
