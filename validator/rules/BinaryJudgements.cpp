@@ -282,7 +282,9 @@ Judgement judgeFrameworkFileType(const PackageContents &contents, const RuleSett
         const PackageBinary *binary = contents.binaryOf(bundle);
         if (contents.staticArchives.contains(bundle.executable))
             bad += Evidence{bundle.executable, worded("FOUND_STATIC_LIBRARY")};
-        for (const BinarySlice &slice : binary == nullptr ? QList<BinarySlice>() : binary->facts.slices) {
+        if (binary == nullptr)
+            continue;
+        for (const BinarySlice &slice : binary->facts.slices) {
             if (slice.fileType != BinaryFileType::Dylib)
                 bad += Evidence{binary->path, worded("FOUND_FILE_TYPE", {fileTypeName(slice.fileType)})};
         }
