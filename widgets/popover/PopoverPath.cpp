@@ -62,7 +62,7 @@ int cornerBesideArrow(PopoverPosition position)
 std::array<qreal, 4> cornerRadii(const QRectF &balloon, const PopoverMetrics &metrics)
 {
     const qreal largest = std::max(0.0, std::min(balloon.width(), balloon.height()) / 2);
-    std::array<qreal, 4> radii;
+    std::array<qreal, 4> radii = {};
     radii.fill(std::clamp(metrics.cornerRadius, 0.0, largest));
     const int square = metrics.drawRoundCornerBesideArrow ? -1 : cornerBesideArrow(metrics.position);
     if (square >= 0)

@@ -44,7 +44,7 @@ void TabSelection::selectAllOf(int itemCount)
 
 int slotAtX(double x, double startX, double itemWidth)
 {
-    constexpr double bound = std::numeric_limits<int>::max() / 2;
+    constexpr double bound = std::numeric_limits<int>::max() / 2.0;
     return static_cast<int>(std::clamp(std::floor((x - startX) / itemWidth), -bound, bound));
 }
 
