@@ -17,7 +17,7 @@ namespace
 
 /// Enough for about 60,000 files with two hashes each.
 constexpr PropertyListLimits sealLimits{
-    .fileBytes = 24 << 20, .values = 600'000, .expandedBytes = 48 << 20, .depth = 16};
+    .fileBytes = 24 << 20, .values = 600'000, .expandedBytes = 48 << 20, .depth = 16, .containers = 200'000};
 constexpr qsizetype mostRules = 64;
 constexpr qsizetype longestPattern = 512;
 

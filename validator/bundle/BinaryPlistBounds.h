@@ -13,6 +13,7 @@ struct PropertyListLimits
     qsizetype values = 100'000;         ///< objects, counted as often as they are referred to
     qsizetype expandedBytes = 16 << 20; ///< bytes of texts and data, counted as often as they are referred to
     qsizetype depth = 200;              ///< depth of nested arrays and dictionaries
+    qsizetype containers = 20'000;      ///< arrays and dictionaries of an XML list
 };
 
 /// True when it is safe to read the binary property list with libplist, because it unfolds within the limits. Objects

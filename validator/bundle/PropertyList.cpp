@@ -131,14 +131,39 @@ bool holdsZero(const QByteArray &xml)
     return xml.contains('\0') || reference.match(QString::fromLatin1(xml)).hasMatch();
 }
 
+bool opensContainer(QByteArrayView tag)
+{
+    return tag.startsWith("<array") || tag.startsWith("<dict");
+}
+
+/// The largest number of arrays and dictionaries that are open at the same place. A closing tag counts only in a text
+/// as Apple's tools write it: behind a comment, a quotation mark or a tag inside a tag it may be no tag at all.
+qsizetype deepestContainer(QByteArrayView xml)
+{
+    qsizetype deepest = 0;
+    qsizetype open = 0;
+    bool isPlain = true;
+    for (qsizetype at = xml.indexOf('<'); at >= 0; at = xml.indexOf('<', at + 1)) {
+        const qsizetype end = xml.indexOf('>', at);
+        const QByteArrayView tag = xml.sliced(at, (end < 0 ? xml.size() : end) - at);
+        if (deepest > 0 && (tag.startsWith("<!") || tag.startsWith("<?") || tag.contains('"') || tag.contains('\'') ||
+                            tag.lastIndexOf('<') > 0))
+            isPlain = false;
+        if (opensContainer(tag) && (!isPlain || !tag.endsWith('/')))
+            deepest = qMax(deepest, ++open);
+        else if (isPlain && open > 0 && (tag == QByteArrayView("</array") || tag == QByteArrayView("</dict")))
+            --open;
+    }
+    return deepest;
+}
+
 /// XML has no references, so the number of tags limits its unfolded size.
 bool xmlIsBounded(const QByteArray &xml, const PropertyListLimits &limits)
 {
-    // Most tags come in pairs; the opening tags of arrays and dictionaries limit the depth, even when they are never
-    // closed.
+    // Most tags come in pairs.
     constexpr qsizetype containersPerDepth = 100;
-    return xml.count('<') <= limits.values * 2 &&
-           xml.count("<array") + xml.count("<dict") <= limits.depth * containersPerDepth;
+    return xml.count('<') <= limits.values * 2 && xml.count("<array") + xml.count("<dict") <= limits.containers &&
+           deepestContainer(xml) <= limits.depth * containersPerDepth;
 }
 
 } // namespace

@@ -155,6 +155,26 @@ private slots:
             QVERIFY(list->value(u"a"_s).toList().size() > 1000);
     }
 
+    void boundsTheDepthOfXml_data()
+    {
+        QTest::addColumn<QByteArray>("item");
+        QTest::addColumn<bool>("read");
+        QTest::newRow("beside each other") << QByteArray("<dict></dict>") << true;
+        QTest::newRow("inside each other") << QByteArray("<dict><key>a</key>") << false;
+        QTest::newRow("closed in a comment") << QByteArray("<dict><!-- > </dict> --></dict>") << false;
+        QTest::newRow("closed in a quotation") << QByteArray("<dict a=\"> </dict>\"></dict>") << false;
+        QTest::newRow("closed in quotations of both kinds")
+            << QByteArray("<dict a='\"' b=\"> </dict>\"></dict>") << false;
+        QTest::newRow("closed in a tag") << QByteArray("<dict </dict></dict>") << false;
+    }
+    void boundsTheDepthOfXml()
+    {
+        QFETCH(QByteArray, item);
+        const PropertyListLimits limits{.depth = 16, .containers = 200'000};
+        const QByteArray list = "<plist><dict><key>a</key><array>" + item.repeated(2000) + "</array></dict></plist>";
+        QTEST(propertyListDictionary(list, limits).has_value(), "read");
+    }
+
     void expandsNoEntities()
     {
         const auto list = propertyListDictionary(contents(u"entities"_s));
