@@ -125,7 +125,7 @@ private slots:
         QTest::newRow("another header") << QByteArray("identifier,name\n") << u"line 1: the header is wanted"_s;
         QTest::newRow("no text") << QByteArray("\x89PNG\r\n\x1a\n\0", 9) << u"not UTF-8 text"_s;
         QTest::newRow("too large") << QByteArray(largestModelFile + 1, '#') << u"more than 1 MiB"_s;
-        row("identifier twice", soundRow + u'\n' + soundRow, "line 3: iPhone15,2 stands in line 2 already");
+        row("identifier twice", soundRow + u'\n' + soundRow, "line 3: iPhone15,2 is in line 2 already");
         row("a column too few", with(",0", ""), "line 2: 26 columns are wanted");
         row("a column too many", soundRow + ",0"_L1, "line 2: 26 columns are wanted");
         row("half a quotation", with("\"iPhone15,2\"", "\"iPhone15"), "line 2: quotation marks do not match");
