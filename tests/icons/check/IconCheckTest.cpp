@@ -76,12 +76,7 @@ private slots:
     void evidenceInGerman_data();
     void evidenceInGerman();
     void severityOrder();
-    void nothingToCheck();
-    void noFolder();
     void olderCatalogue();
-    void linksAreNotFollowed();
-    void sizesByName_data();
-    void sizesByName();
 
 private:
     QTemporaryDir m_sound;
@@ -358,26 +353,6 @@ void IconCheckTest::severityOrder()
                            }));
 }
 
-void IconCheckTest::nothingToCheck()
-{
-    const QTemporaryDir folder;
-    QVERIFY(putFile(folder.filePath(u"a/b.txt"_s), "c"));
-    QVERIFY(putFile(folder.filePath(u"manifest.json"_s), "{\"name\":\"an extension\"}"));
-    QVERIFY(putFile(folder.filePath(u"node_modules/x/A.appiconset/a.png"_s), "c"));
-    const Result<IconCheck> check = checkIcons(folder.path());
-    QVERIFY(check.ok());
-    QVERIFY(check.value().checked.isEmpty());
-    QVERIFY(check.value().findings.isEmpty());
-}
-
-void IconCheckTest::noFolder()
-{
-    const QTemporaryDir folder;
-    QCOMPARE(checkIcons(folder.filePath(u"none"_s)).failure().code, FailureCode::NotFound);
-    QVERIFY(putFile(folder.filePath(u"file"_s), "c"));
-    QCOMPARE(checkIcons(folder.filePath(u"file"_s)).failure().code, FailureCode::NotAFolder);
-}
-
 /// The form that templates of cross-platform kits hold: slots by device, and the store's.
 void IconCheckTest::olderCatalogue()
 {
@@ -392,34 +367,6 @@ void IconCheckTest::olderCatalogue()
     QVERIFY(putFile(set + u"b.png"_s, encodedOpaquePng(opaquePicture(167))));
     QVERIFY(putFile(set + u"c.png"_s, encodedOpaquePng(opaquePicture(1024))));
     QCOMPARE(lines(checkIcons(folder.path()).value()), QStringList());
-}
-
-void IconCheckTest::linksAreNotFollowed()
-{
-    const QTemporaryDir folder;
-    QVERIFY(QFile::link(m_sound.path(), folder.filePath(u"link"_s)));
-    QVERIFY(QFile::link(folder.path(), folder.filePath(u"itself"_s)));
-    QVERIFY(checkIcons(folder.path()).value().checked.isEmpty());
-}
-
-void IconCheckTest::sizesByName_data()
-{
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QSize>("size");
-    QTest::newRow("theme") << u"a/hicolor/48x48/apps/b.png"_s << QSize(48, 48);
-    QTest::newRow("theme, doubled") << u"a/hicolor/48x48@2/apps/b.png"_s << QSize(96, 96);
-    QTest::newRow("no app") << u"a/hicolor/48x48/places/b.png"_s << QSize();
-    QTest::newRow("target size") << u"AppList.targetsize-20_altform-unplated.png"_s << QSize(20, 20);
-    QTest::newRow("square logo") << u"Square150x150Logo.scale-125.png"_s << QSize(188, 188);
-    QTest::newRow("wide logo") << u"Wide310x150Logo.scale-200.png"_s << QSize(620, 300);
-    QTest::newRow("tile") << u"SmallTile.scale-150.png"_s << QSize(107, 107);
-    QTest::newRow("another's") << u"Logo.scale-150.png"_s << QSize();
-}
-
-void IconCheckTest::sizesByName()
-{
-    QFETCH(QString, path);
-    QTEST(hicolorSize(path).value_or(windowsAssetSize(path).value_or(QSize())), "size");
 }
 
 QTEST_GUILESS_MAIN(IconCheckTest)
