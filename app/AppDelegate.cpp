@@ -42,11 +42,6 @@ constexpr qreal trafficLightsTopMargin = 5;
 /// The left one of the two header buttons.
 constexpr qreal fullScreenButtonRightMargin = 130;
 
-QString text(const char *key)
-{
-    return qtTrId(key);
-}
-
 } // namespace
 
 AppDelegate::AppDelegate(const Services &services, QObject *parent) : QObject(parent), m_services(services) {}
@@ -150,8 +145,8 @@ void AppDelegate::setUpSidebar()
         const NamedImage image(QString::fromLatin1(tool.sidebarImage));
         ITSidebarItemCell *cell =
             m_sideBar->addItemWithImage(image, image, this, [this](ITSidebarItemCell *) { sideBarItemClicked(); });
-        cell->setAccessibleName(text(tool.helpTitleKey));
-        cell->setToolTip(text(tool.helpTitleKey));
+        cell->setAccessibleName(qtTrId(tool.helpTitleKey));
+        cell->setToolTip(qtTrId(tool.helpTitleKey));
         m_dropRouter->watchItem(cell, index++);
     }
 }
@@ -266,7 +261,7 @@ void AppDelegate::updateViewForIndex()
             m_currentController->takeFocus();
     }
 
-    m_header->setTitle(createAttributedStringForHeaderTitle(qtTrId("APP_DEFAULT") + text(tool.headerKey)));
+    m_header->setTitle(createAttributedStringForHeaderTitle(qtTrId("APP_DEFAULT") + qtTrId(tool.headerKey)));
     m_sideBar->setBackgroundColor(platformColor(tool.color));
     m_header->curBackgroundColor()->setBackgroundColor(platformColor(tool.color));
     m_header->topBorderView()->setBackgroundColor(platformColor(tool.borderColor));
@@ -285,10 +280,10 @@ void AppDelegate::tellHelp()
     if (m_popupContentView == nullptr)
         return;
     const Tool &tool = toolTable()[m_toolInView];
-    m_popupContentView->setTitle(text(tool.helpTitleKey));
+    m_popupContentView->setTitle(qtTrId(tool.helpTitleKey));
     const PaneSides *sides = controller(m_toolInView)->sides();
     const bool isToday = sides != nullptr && sides->side() == ToolSide::Today;
-    m_popupContentView->setText(text(isToday ? tool.todayHelpTextKey : tool.helpTextKey));
+    m_popupContentView->setText(qtTrId(isToday ? tool.todayHelpTextKey : tool.helpTextKey));
     m_popupContentView->setIcon(NamedImage(QString::fromLatin1(tool.helpIcon)));
     m_popupContentView->setColor(platformColor(tool.color));
 }

@@ -45,11 +45,6 @@ private slots:
     void check();
     void checkAsJson();
     void checkInGerman();
-    void intoAProject();
-    void intoAProjectThatAStoreRefuses();
-    void intoAReadOnlyProject_data();
-    void intoAReadOnlyProject();
-    void intoNoProject();
 
 private:
     std::unique_ptr<QTemporaryDir> m_folder;
@@ -329,77 +324,6 @@ void TodayIconsCommandTest::checkInGerman()
                  run.out.contains("(20 x 20 Pixel statt 1024 x 1024 Pixel)"),
              run.out);
     QVERIFY2(!run.out.contains("error") && !run.out.contains("not "), run.out);
-}
-
-void TodayIconsCommandTest::intoAProject()
-{
-    QVERIFY(putFile(at(u"p/package.json"_s), "{\"devDependencies\":{\"electron\":\"30\"}}"));
-    const LumoraRun dry = icons({u"logo.svg"_s, u"--into"_s, u"p"_s, u"--dry-run"_s});
-    QCOMPARE(dry.err, QByteArray());
-    QCOMPARE(dry.status, 0);
-    QVERIFY(dry.out.contains("new: build/icon.icns"));
-    QCOMPARE(filesBelowFolder(at(u"p"_s)), QStringList{u"package.json"_s});
-    const QJsonObject first = icons({u"logo.svg"_s, u"--into"_s, u"p"_s, u"--json"_s}).json();
-    QCOMPARE(first[u"projects"_s].toArray()[0][u"kind"].toString(), u"electron"_s);
-    QCOMPARE(first[u"changes"_s].toArray().size(), filesBelowFolder(at(u"p"_s)).size() - 1);
-    const LumoraRun second = icons({u"logo.svg"_s, u"--into"_s, u"p"_s});
-    QVERIFY(second.out.contains("unchanged: build/icon.icns"));
-    QVERIFY(!second.out.contains("new: ") && !second.out.contains("replaced: "));
-    QVERIFY(icons({u"photo.png"_s, u"--into"_s, u"p"_s}).out.contains("replaced: build/icon.icns"));
-}
-
-/// What the project's own list says is not changed, but judged.
-void TodayIconsCommandTest::intoAProjectThatAStoreRefuses()
-{
-    const QString set = u"ios/App/App/Assets.xcassets/AppIcon.appiconset"_s;
-    QVERIFY(putFile(at(u"p/capacitor.config.json"_s), "{}"));
-    QVERIFY(putFile(at(u"p/"_s + set + u"/Contents.json"_s),
-                    "{\"images\":[{\"idiom\":\"universal\",\"platform\":\"iOS\",\"size\":\"1024x1024\","
-                    "\"filename\":\"a.png\"}]}"));
-    QCOMPARE(icons({u"logo.svg"_s, u"--into"_s, u"p"_s, u"--dry-run"_s}).status, 0);
-    const LumoraRun run = icons({u"logo.svg"_s, u"--into"_s, u"p"_s, u"--json"_s});
-    QCOMPARE(run.status, 1);
-    QVERIFY(QFile::exists(at(u"p/"_s + set + u"/a.png"_s)));
-    const QJsonArray findings = run.json()[u"findings"_s].toArray();
-    QVERIFY2(!findings.isEmpty(), run.out);
-    QCOMPARE(findings[0][u"id"].toString(), u"platform-name"_s);
-    QCOMPARE(findings[0][u"path"].toString(), at(u"p/"_s + set));
-}
-
-void TodayIconsCommandTest::intoAReadOnlyProject_data()
-{
-    QTest::addColumn<QString>("folder");
-    QTest::newRow("the icons' folder") << u"p/build"_s;
-    QTest::newRow("a folder that is missing in it") << u"p/build/icons"_s;
-    QTest::newRow("the project") << u"p"_s;
-}
-
-void TodayIconsCommandTest::intoAReadOnlyProject()
-{
-    QFETCH(QString, folder);
-    QVERIFY(putFile(at(u"p/package.json"_s), "{\"devDependencies\":{\"electron\":\"30\"}}"));
-    if (folder != u"p")
-        QVERIFY(putFile(at(u"p/build/icon.icns"_s), "old") && QDir().mkpath(at(folder)));
-    const QMap<QString, QString> before = treeBelow(at(u"p"_s));
-    const auto mode = [this, &folder](QFileDevice::Permissions permissions) {
-        return QFile::setPermissions(at(folder), permissions);
-    };
-    constexpr QFileDevice::Permissions readable = QFileDevice::ReadUser | QFileDevice::ExeUser;
-    QVERIFY(mode(readable));
-    const LumoraRun run =
-        LumoraProcess().in(m_folder->path()).underPermissions().run({u"icons"_s, u"logo.svg"_s, u"--into"_s, u"p"_s});
-    QVERIFY(mode(readable | QFileDevice::WriteUser));
-    QCOMPARE(run.status, 1);
-    QVERIFY2(run.err.contains(at(folder).toUtf8()), run.err);
-    QCOMPARE(treeBelow(at(u"p"_s)), before);
-}
-
-void TodayIconsCommandTest::intoNoProject()
-{
-    QVERIFY(putFile(at(u"p/a.txt"_s), ""));
-    const LumoraRun run = icons({u"logo.svg"_s, u"--into"_s, u"p"_s});
-    QCOMPARE(run.status, 1);
-    QVERIFY(run.err.contains("pubspec.yaml") && run.err.contains("settings.gradle"));
 }
 
 QTEST_GUILESS_MAIN(TodayIconsCommandTest)
