@@ -143,7 +143,7 @@ void RingingClampTest::nothingRipplesBesideAnEdge_data()
     const struct
     {
         const char *name = nullptr;
-        Shape shape;
+        Shape shape = nullptr;
     } shapes[] = {{"edge", leftOfAnEdge}, {"slope", aboveASlope}, {"disc", insideADisc}, {"hole", insideAHole}};
     const struct
     {
