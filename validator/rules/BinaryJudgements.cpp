@@ -14,7 +14,7 @@ namespace
 struct SdkDemand
 {
     QDate since;
-    int major;
+    int major = 0;
 };
 
 constexpr QLatin1StringView privateFolder("/System/Library/PrivateFrameworks/");
