@@ -18,14 +18,42 @@ QByteArrayView PageTable::hash(quint64 page) const
     return hashes.sliced(static_cast<qsizetype>(page) * size, size);
 }
 
+PageDigests::PageDigests(DigestKind digest, quint64 pageSize, quint64 codeLimit)
+    : m_kind(digest), m_pageSize(pageSize), m_codeLimit(codeLimit), m_current(digest)
+{
+}
+
+std::optional<QByteArray> PageDigests::take(QByteArrayView *bytes)
+{
+    // Dividing first: the end of a hostile last page is beyond 64 bits.
+    const quint64 left = qMin(m_pageSize - m_size % m_pageSize, m_codeLimit - m_size);
+    const quint64 count = qMin(left, static_cast<quint64>(bytes->size()));
+    m_current.add(bytes->first(static_cast<qsizetype>(count)));
+    *bytes = bytes->sliced(static_cast<qsizetype>(count));
+    m_size += count;
+    if (count < left)
+        return std::nullopt;
+    return end();
+}
+
+QByteArray PageDigests::end()
+{
+    return std::exchange(m_current, Digest(m_kind)).result();
+}
+
+PageComparison::PageComparison(const PageTable &table)
+    : m_table(table), m_pages(table.digest, table.bytesInPage(), table.codeLimit)
+{
+}
+
 bool PageComparison::isDone() const
 {
     return m_page >= m_table.pagesWithCode() || m_broken.size() == brokenPagesKept;
 }
 
-void PageComparison::endPage()
+void PageComparison::compare(const QByteArray &digest)
 {
-    if (std::exchange(m_current, Digest(m_table.digest)).result() != m_table.hash(m_page))
+    if (digest != m_table.hash(m_page))
         m_broken += static_cast<quint32>(m_page);
     ++m_page;
 }
@@ -33,15 +61,8 @@ void PageComparison::endPage()
 void PageComparison::add(QByteArrayView bytes)
 {
     while (!bytes.isEmpty() && !isDone()) {
-        // Dividing first: the end of a hostile last page is beyond 64 bits.
-        const quint64 inPage = m_at % m_table.bytesInPage();
-        const quint64 left = qMin(m_table.bytesInPage() - inPage, m_table.codeLimit - m_at);
-        const quint64 count = qMin(left, static_cast<quint64>(bytes.size()));
-        m_current.add(bytes.first(static_cast<qsizetype>(count)));
-        bytes = bytes.sliced(static_cast<qsizetype>(count));
-        m_at += count;
-        if (count == left)
-            endPage();
+        if (const std::optional<QByteArray> digest = m_pages.take(&bytes))
+            compare(*digest);
     }
 }
 
@@ -49,32 +70,20 @@ QList<quint32> PageComparison::broken()
 {
     // What is missing is no part of its page's digest.
     while (!isDone())
-        endPage();
+        compare(m_pages.end());
     return m_broken;
 }
 
 void UsualPages::add(QByteArrayView bytes)
 {
-    while (!bytes.isEmpty() && m_at < m_codeLimit) {
-        const quint64 left = qMin(pageSize - m_at % pageSize, m_codeLimit - m_at);
-        const quint64 count = qMin(left, static_cast<quint64>(bytes.size()));
-        m_current.add(bytes.first(static_cast<qsizetype>(count)));
-        bytes = bytes.sliced(static_cast<qsizetype>(count));
-        m_at += count;
-        if (count == left)
-            endPage();
-    }
-}
-
-void UsualPages::endPage()
-{
-    m_digests += std::exchange(m_current, Digest(DigestKind::Sha256)).result();
+    while (!bytes.isEmpty() && m_pages.size() < m_codeLimit)
+        m_digests += m_pages.take(&bytes).value_or(QByteArray());
 }
 
 bool UsualPages::answers(const PageTable &table) const
 {
     return (table.digest == DigestKind::Sha256 || table.digest == DigestKind::Sha256Truncated) &&
-           table.pageSize == pageSize && table.codeLimit == m_codeLimit && m_at == m_codeLimit;
+           table.pageSize == pageSize && table.codeLimit == m_codeLimit && m_pages.size() == m_codeLimit;
 }
 
 QList<quint32> UsualPages::broken(const PageTable &table) const

@@ -7,6 +7,7 @@
 #include <QList>
 
 #include <functional>
+#include <optional>
 
 namespace lumora
 {
@@ -26,6 +27,29 @@ struct PageTable
     QByteArrayView hash(quint64 page) const;
 };
 
+/// Cuts the bytes of a slice, which come piece by piece, into pages and digests each.
+class PageDigests
+{
+public:
+    /// All in bytes; the last page ends at the limit.
+    PageDigests(DigestKind digest, quint64 pageSize, quint64 codeLimit);
+
+    /// The number of bytes taken; the limit is never passed.
+    quint64 size() const { return m_size; }
+    /// Moves bytes of the current page from the front of `bytes`; the digest once the page is whole. Call it only below
+    /// the limit.
+    std::optional<QByteArray> take(QByteArrayView *bytes);
+    /// Ends the current page early: the digest of what has come of it.
+    QByteArray end();
+
+private:
+    DigestKind m_kind;
+    quint64 m_pageSize;
+    quint64 m_codeLimit;
+    quint64 m_size = 0;
+    Digest m_current;
+};
+
 /// Compares the pages of a slice with their hashes, while its bytes come piece by piece.
 class PageComparison
 {
@@ -33,7 +57,7 @@ public:
     /// More broken pages are not listed.
     static constexpr qsizetype brokenPagesKept = 16;
 
-    explicit PageComparison(const PageTable &table) : m_table(table), m_current(table.digest) {}
+    explicit PageComparison(const PageTable &table);
 
     /// The next bytes of the slice; those behind the code limit are left out.
     void add(QByteArrayView bytes);
@@ -41,22 +65,21 @@ public:
     QList<quint32> broken();
 
 private:
-    void endPage();
+    void compare(const QByteArray &digest);
     bool isDone() const;
 
     PageTable m_table;
-    Digest m_current;
-    quint64 m_at = 0; ///< of the next byte in the slice
+    PageDigests m_pages;
     quint64 m_page = 0;
     QList<quint32> m_broken;
 };
 
 /// The digests of the pages of the usual signature (SHA-256, pages of 4 KiB), computed before the signature is known,
-/// which stands behind the code.
+/// which comes after the code.
 class UsualPages
 {
 public:
-    explicit UsualPages(quint64 codeLimit) : m_codeLimit(codeLimit) {}
+    explicit UsualPages(quint64 codeLimit) : m_codeLimit(codeLimit), m_pages(DigestKind::Sha256, pageSize, codeLimit) {}
 
     void add(QByteArrayView bytes);
     /// Whether the table is of the usual kind for this code, all of which has come.
@@ -67,11 +90,8 @@ public:
 private:
     static constexpr quint64 pageSize = 4096;
 
-    void endPage();
-
     quint64 m_codeLimit;
-    quint64 m_at = 0;
-    Digest m_current{DigestKind::Sha256};
+    PageDigests m_pages;
     QByteArray m_digests;
 };
 
