@@ -23,13 +23,6 @@ class DownscaleDrawingsTest : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase() { m_picture = pictureFile(testPicture(40, 31)); }
-    void init()
-    {
-        m_folder = std::make_unique<QTemporaryDir>();
-        QVERIFY(QDir(m_folder->path()).mkdir(u"out"_s));
-    }
-
     void drawings_data()
     {
         QTest::addColumn<QString>("layout");
@@ -60,8 +53,10 @@ private slots:
         QFETCH(QStringList, options);
         using Files = QMap<QString, QSize>;
         QFETCH(Files, written);
+        const QTemporaryDir folder;
+        const auto at = [&folder](const QString &name) { return folder.filePath(name); };
         // A picture beside the drawing is no source.
-        QVERIFY(putFile(at(u"art/a@3x.png"_s), m_picture));
+        QVERIFY(putFile(at(u"art/a@3x.png"_s), pictureFile(testPicture(40, 31))));
         QVERIFY(putFile(at(u"art/d.svg"_s), drawing));
         const LumoraRun run = runLumora(QStringList{u"downscale"_s, at(u"art"_s), u"--from"_s, u"svg"_s, u"--layout"_s,
                                                     layout, u"--out"_s, at(u"out"_s)} +
@@ -98,7 +93,9 @@ private slots:
     {
         QFETCH(QByteArray, content);
         QFETCH(QByteArray, named);
-        QVERIFY(putFile(at(u"art/a@3x.png"_s), m_picture));
+        const QTemporaryDir folder;
+        const auto at = [&folder](const QString &name) { return folder.filePath(name); };
+        QVERIFY(putFile(at(u"art/a@3x.png"_s), pictureFile(testPicture(40, 31))));
         if (!content.isEmpty())
             QVERIFY(putFile(at(u"art/d.svg"_s), content));
         const LumoraRun run =
@@ -107,12 +104,6 @@ private slots:
         QVERIFY2(run.err.contains(named), run.err);
         QCOMPARE(filesBelowFolder(at(u"out"_s)), QStringList());
     }
-
-private:
-    QString at(const QString &name) const { return m_folder->filePath(name); }
-
-    std::unique_ptr<QTemporaryDir> m_folder;
-    QByteArray m_picture;
 };
 
 QTEST_GUILESS_MAIN(DownscaleDrawingsTest)

@@ -12,14 +12,6 @@
 using namespace lumora;
 using namespace Qt::StringLiterals;
 
-namespace
-{
-
-const QByteArray logo = "<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"0 0 10 10\">"
-                        "<path fill=\"#d33\" d=\"M0 0h10v10h-10z\"/><path fill=\"#fff\" d=\"M3 3h4v4h-4z\"/></svg>";
-
-} // namespace
-
 class IntoProjectCommandTest : public QObject
 {
     Q_OBJECT
@@ -49,7 +41,7 @@ void IntoProjectCommandTest::init()
 {
     m_folder = std::make_unique<QTemporaryDir>();
     QVERIFY(putFile(at(u"photo.png"_s), m_photo));
-    QVERIFY(putFile(at(u"logo.svg"_s), logo));
+    QVERIFY(putFile(at(u"logo.svg"_s), squareDrawing));
 }
 
 void IntoProjectCommandTest::intoAProject()

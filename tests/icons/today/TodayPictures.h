@@ -30,6 +30,11 @@ inline QImage disk(int thousandths, QColor color = Qt::red, QColor ground = Qt::
     return picture;
 }
 
+/// A square drawing without a size of its own, as an SVG file.
+inline const QByteArray squareDrawing =
+    "<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"0 0 10 10\">"
+    "<path fill=\"#d33\" d=\"M0 0h10v10h-10z\"/><path fill=\"#fff\" d=\"M3 3h4v4h-4z\"/></svg>";
+
 /// Sources of that icon alone.
 inline TodaySources sourcesOf(const QImage &icon)
 {
