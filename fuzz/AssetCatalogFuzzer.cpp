@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Any bytes as a compiled asset catalogue.
-#include "validator/binary/AssetCatalog.h"
+#include "validator/binary/catalog/AssetCatalog.h"
 
 #include <algorithm>
 #include <cstdlib>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Any bytes as a Mach-O file: every fact stays inside the file, sorted lists are sorted, and the file gives the same
 // facts when it comes in pieces.
-#include "validator/binary/BinaryInPieces.h"
+#include "validator/binary/macho/BinaryInPieces.h"
 
 #include <algorithm>
 #include <cstdlib>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 // Any bytes as a signed binary, as a bare signature, as its message, as entitlements and as a seal.
-#include "validator/binary/CodeSignature.h"
-#include "validator/binary/DerEntitlements.h"
-#include "validator/binary/MachOReader.h"
-#include "validator/binary/ProvisioningProfile.h"
-#include "validator/binary/ResourceSeal.h"
+#include "validator/binary/macho/MachOReader.h"
+#include "validator/binary/signature/CodeSignature.h"
+#include "validator/binary/signature/DerEntitlements.h"
+#include "validator/binary/signature/ProvisioningProfile.h"
+#include "validator/binary/signature/ResourceSeal.h"
 
 #include <cstdlib>
 

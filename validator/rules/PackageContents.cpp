@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "PackageContents.h"
 
-#include "validator/binary/BinaryInPieces.h"
+#include "validator/binary/macho/BinaryInPieces.h"
 #include "validator/bundle/PropertyList.h"
 
 #include <algorithm>

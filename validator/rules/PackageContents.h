@@ -3,11 +3,11 @@
 
 #include "PrivacyManifest.h"
 #include "validator/archive/PackageSource.h"
-#include "validator/binary/AssetCatalog.h"
 #include "validator/binary/BinaryFacts.h"
-#include "validator/binary/CodeSignature.h"
-#include "validator/binary/ProvisioningProfile.h"
-#include "validator/binary/ResourceSeal.h"
+#include "validator/binary/catalog/AssetCatalog.h"
+#include "validator/binary/signature/CodeSignature.h"
+#include "validator/binary/signature/ProvisioningProfile.h"
+#include "validator/binary/signature/ResourceSeal.h"
 
 #include <QVariantMap>
 

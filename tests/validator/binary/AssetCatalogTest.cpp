@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "validator/binary/AssetCatalog.h"
+#include "validator/binary/catalog/AssetCatalog.h"
 #include "tests/doubles/ScriptedFiles.h"
 
 #include <QElapsedTimer>

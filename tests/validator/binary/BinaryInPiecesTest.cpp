@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "validator/binary/BinaryInPieces.h"
+#include "validator/binary/macho/BinaryInPieces.h"
 #include "tests/doubles/ScriptedFiles.h"
 
 #include <QDir>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "validator/binary/CodeSignature.h"
+#include "validator/binary/signature/CodeSignature.h"
 #include "tests/doubles/ScriptedFiles.h"
-#include "validator/binary/MachOReader.h"
-#include "validator/binary/ResourceSeal.h"
+#include "validator/binary/macho/MachOReader.h"
+#include "validator/binary/signature/ResourceSeal.h"
 
 #include <QElapsedTimer>
 #include <QFile>

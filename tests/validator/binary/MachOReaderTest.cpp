@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "validator/binary/MachOReader.h"
+#include "validator/binary/macho/MachOReader.h"
 #include "tests/doubles/ScriptedFiles.h"
 
 #include <QElapsedTimer>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "validator/binary/ProvisioningProfile.h"
+#include "validator/binary/signature/ProvisioningProfile.h"
 #include "tests/doubles/ScriptedFiles.h"
-#include "validator/binary/SignedMessage.h"
+#include "validator/binary/signature/SignedMessage.h"
 
 #include <QFile>
 #include <QTemporaryDir>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // usage: binary_facts FILE The facts of a Mach-O file as JSON, for comparison with other readers.
-#include "validator/binary/MachOReader.h"
+#include "validator/binary/macho/MachOReader.h"
 
 #include <QFile>
 #include <QJsonArray>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "CodeSignature.h"
 
-#include "ByteReader.h"
 #include "CodeDirectoryReading.h"
 #include "DerEntitlements.h"
-#include "FaultList.h"
+#include "validator/binary/ByteReader.h"
+#include "validator/binary/FaultList.h"
 #include "validator/bundle/PropertyList.h"
 
 #include <algorithm>

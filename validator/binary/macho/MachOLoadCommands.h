@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "ByteReader.h"
 #include "MachONames.h"
 #include "MachOReader.h"
+#include "validator/binary/ByteReader.h"
 
 #include <array>
 #include <optional>

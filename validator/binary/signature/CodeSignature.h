@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "BinaryFacts.h"
 #include "SignedMessage.h"
 #include "SignedPages.h"
+#include "validator/binary/BinaryFacts.h"
 #include "validator/crypto/Digest.h"
 
 #include <QByteArrayView>

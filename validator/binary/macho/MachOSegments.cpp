@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "MachOSegments.h"
 
-#include "FaultList.h"
+#include "validator/binary/FaultList.h"
 
 #include <algorithm>
 #include <array>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "ByteReader.h"
+#include "validator/binary/ByteReader.h"
 
 #include <QByteArray>
 #include <QHash>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "ByteReader.h"
 #include "CodeSignature.h"
+#include "validator/binary/ByteReader.h"
 
 namespace lumora
 {

@@ -2,7 +2,7 @@
 #include "AssetCatalog.h"
 
 #include "BomStore.h"
-#include "FaultList.h"
+#include "validator/binary/FaultList.h"
 
 #include <QHash>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "BinaryInPieces.h"
 
-#include "FaultList.h"
 #include "SliceInPieces.h"
+#include "validator/binary/FaultList.h"
 
 #include <algorithm>
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "MachOReader.h"
 
-#include "ByteReader.h"
-#include "FaultList.h"
 #include "MachOSlice.h"
+#include "validator/binary/ByteReader.h"
+#include "validator/binary/FaultList.h"
 
 #include <algorithm>
 

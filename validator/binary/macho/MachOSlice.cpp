@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "MachOSlice.h"
 
-#include "FaultList.h"
 #include "MachOLoadCommands.h"
 #include "MachOSegments.h"
+#include "validator/binary/FaultList.h"
 
 namespace lumora
 {

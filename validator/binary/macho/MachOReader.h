@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "BinaryFacts.h"
+#include "validator/binary/BinaryFacts.h"
 
 #include <QByteArrayView>
 

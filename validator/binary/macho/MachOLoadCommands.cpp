@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "MachOLoadCommands.h"
 
-#include "FaultList.h"
 #include "MachOSegments.h"
+#include "validator/binary/FaultList.h"
 
 namespace lumora
 {

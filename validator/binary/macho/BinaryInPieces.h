@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "CodeSignature.h"
 #include "MachOSlice.h"
 #include "SparseBytes.h"
+#include "validator/binary/signature/CodeSignature.h"
 
 #include <QByteArrayView>
 

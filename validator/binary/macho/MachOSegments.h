@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "BinaryFacts.h"
-#include "ByteReader.h"
+#include "validator/binary/BinaryFacts.h"
+#include "validator/binary/ByteReader.h"
 
 namespace lumora
 {
