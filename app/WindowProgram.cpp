@@ -18,7 +18,7 @@
 #include "resources/Resources.h"
 #include "tool/PaneSides.h"
 #include "validator/bundle/WorkFolder.h"
-#include "validator/review/ReviewAnswer.h"
+#include "validator/review/ReaderCall.h"
 #include "widgets/style/AppStyle.h"
 #include "widgets/style/FrameClock.h"
 #include "widgets/style/NamedImage.h"
@@ -29,7 +29,6 @@
 #include <QSettings>
 #include <QTimer>
 
-#include <optional>
 #include <variant>
 
 #include <unistd.h>
@@ -90,20 +89,13 @@ void connectBus(BusApplication &bus, AppDelegate &delegate)
     });
 }
 
-/// The package that a reader is asked for; nothing when the program is to be a window.
-std::optional<QString> packageToRead(const QStringList &arguments)
-{
-    return arguments.size() == 2 && arguments.first() == readerArgument ? std::optional(arguments.last())
-                                                                        : std::nullopt;
-}
-
 /// Reads one package, locked in, for a window that started this process.
-int runReader(int argc, char **argv, const QString &package)
+int runReader(int argc, char **argv, const QStringList &arguments)
 {
     QCoreApplication application(argc, argv);
     loadResources();
     installTexts(application, QLocale::system(), ToolkitTexts::LeaveOut);
-    return answerReview(package, RuleSettings{QDate::currentDate()}, STDOUT_FILENO);
+    return answerReaderCall(arguments, STDOUT_FILENO);
 }
 
 } // namespace
@@ -111,8 +103,8 @@ int runReader(int argc, char **argv, const QString &package)
 int runWindow(int argc, char **argv)
 {
     const QStringList arguments = windowArguments(argc, argv);
-    if (const auto package = packageToRead(arguments))
-        return runReader(argc, argv, *package);
+    if (isReaderCall(arguments))
+        return runReader(argc, argv, arguments);
     const std::variant<OpenRequest, Complaint> parsed = parseWindowArguments(arguments);
     if (std::holds_alternative<Complaint>(parsed))
         return endWithComplaint(argc, argv, ExitStatus::Usage,

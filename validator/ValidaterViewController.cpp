@@ -259,6 +259,7 @@ void ValidaterViewController::reset()
     m_found.reset();
     m_review.reset();
     m_readerEnd.reset();
+    m_inspectionEnd.reset();
     m_isReviewing = false;
     m_isJudged = false;
     clearReport();

@@ -9,6 +9,7 @@
 #include "validator/bundle/CheckResults.h"
 #include "validator/bundle/FoundContent.h"
 #include "validator/bundle/PackageInspection.h"
+#include "validator/review/InspectionProcess.h"
 #include "validator/review/ReviewProcess.h"
 
 #include <memory>
@@ -126,12 +127,14 @@ private:
     void readyForIpa();
     void reset();
 
-    /// One package on its way through the background queue, where `PackageInspection` takes its steps.
-    class Reading;
-
+    /// Sends the package through the background queue, where `PackageInspection` takes its steps, in a process of its
+    /// own if there is one.
+    void startInspection(const QString &path, quint64 number);
     void updateInterface(const PackageFacts &facts, const Extraction &extraction,
                          const std::optional<FoundContent> &found);
     void validate(const ArtworkReport &artwork);
+    /// The inspection came to no end.
+    void giveUp(ReaderEnd end);
     void setUpReview();
     void startReview(const QString &path, quint64 number);
     void showProgress(int perMille);
@@ -151,6 +154,7 @@ private:
     QString readerNote() const;
     void showFact(QLabel *field, const char *labelKey, const QString &value);
     void showAppIcon(const QImage &icon);
+    bool hasFacts() const { return !m_found && (!m_inspectionEnd || m_facts.appInfoPlist); }
     /// Shows the sum on top and the reasons in their rows; without a package, what was found.
     void showSum();
     void clearReport();
@@ -182,7 +186,8 @@ private:
     ReviewSections *m_sections = nullptr;
     TimedCaption *m_saveCaption = nullptr; ///< owned by the controller
     std::optional<PackageReview> m_review;
-    std::optional<ReaderEnd> m_readerEnd; ///< why there is no review
+    std::optional<ReaderEnd> m_readerEnd;     ///< why there is no review
+    std::optional<ReaderEnd> m_inspectionEnd; ///< why there are no facts or verdicts
     QStringList m_ignored;
     int m_readPercent = 0;
     bool m_isReviewing = false;

@@ -13,43 +13,6 @@ using namespace Qt::StringLiterals;
 namespace lumora
 {
 
-/// Passes the results of one package on to the pane, unless another package has replaced it meanwhile.
-class ValidaterViewController::Reading final : public InspectionObserver
-{
-public:
-    Reading(const BackgroundJob &job, ValidaterViewController *controller, quint64 number)
-        : m_job(job), m_controller(controller), m_number(number)
-    {
-    }
-
-    void gathered(const PackageFacts &facts, const Extraction &extraction) override
-    {
-        std::optional<FoundContent> found;
-        if (!facts.hasApp)
-            found = foundContent(facts.ipaPath);
-        post([facts, extraction, found](ValidaterViewController &controller) {
-            controller.updateInterface(facts, extraction, found);
-        });
-    }
-    void validated(const ArtworkReport &artwork) override
-    {
-        post([artwork](ValidaterViewController &controller) { controller.validate(artwork); });
-    }
-
-private:
-    void post(std::function<void(ValidaterViewController &)> show) const
-    {
-        m_job.post([controller = m_controller, number = m_number, show = std::move(show)] {
-            if (controller->m_reading == number)
-                show(*controller);
-        });
-    }
-
-    const BackgroundJob &m_job;
-    ValidaterViewController *m_controller; ///< only for posted functions
-    quint64 m_number;
-};
-
 void ValidaterViewController::foundIpaFile(const QString &path)
 {
     // A package that the system opens while another is read or shown replaces the other: the reading ends at its next
@@ -67,14 +30,32 @@ void ValidaterViewController::foundIpaFile(const QString &path)
         validate({});
         return;
     }
-    const int iconScale = qCeil(view()->devicePixelRatioF());
     const quint64 number = ++m_reading;
     startReview(path, number);
-    m_jobs.start([this, path, number, workFolder = services().workFolder, decoder = m_profileDecoder,
-                  stop = m_stop.get_token(), iconScale](const BackgroundJob &job) {
-        const InspectionSite site{workFolder, *decoder, {}, stop, iconScale};
-        Reading observer(job, this, number);
-        PackageInspection(path, site.profileDecoder, observer).unzipApp(site);
+    startInspection(path, number);
+}
+
+void ValidaterViewController::startInspection(const QString &path, quint64 number)
+{
+    const ReaderOrder order{services().readerProgram, path, services().readerPatience};
+    m_jobs.start([this, order, number, workFolder = services().workFolder, decoder = m_profileDecoder,
+                  stop = m_stop.get_token(), iconScale = qCeil(view()->devicePixelRatioF())](const BackgroundJob &job) {
+        const auto post = [&](std::function<void()> show) {
+            job.post([this, number, show = std::move(show)] {
+                if (m_reading == number)
+                    show();
+            });
+        };
+        const InspectionResults results{
+            [&](const GatheredFacts &gathered) {
+                post([this, gathered] { updateInterface(gathered.facts, gathered.extraction, gathered.found); });
+            },
+            [&](const ArtworkReport &artwork) { post([this, artwork] { validate(artwork); }); },
+        };
+        if (order.program.isEmpty() || !decoder->worksLockedIn())
+            inspectHere(order.package, {workFolder, *decoder, {}, stop, iconScale}, results);
+        else if (const auto end = inspectInProcess(order, workFolder, iconScale, stop, results))
+            post([this, end] { giveUp(*end); });
     });
 }
 

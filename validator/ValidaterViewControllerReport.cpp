@@ -58,6 +58,22 @@ bool isTooMuch(const Outcome &extraction)
     return code == FailureCode::TooLarge || code == FailureCode::CannotWrite || code == FailureCode::CannotCreateFolder;
 }
 
+QString inspectionNote(ReaderEnd end)
+{
+    switch (end) {
+    case ReaderEnd::Stalled:
+        return qtTrId("VALIDATER_READER_STALLED");
+    case ReaderEnd::NotStarted:
+        return qtTrId("VALIDATER_READER_NOT_STARTED");
+    case ReaderEnd::NoApp:
+    case ReaderEnd::Crashed:
+    case ReaderEnd::Nonsense:
+    case ReaderEnd::Stopped:
+        break;
+    }
+    return qtTrId("VALIDATER_READER_CRASHED");
+}
+
 } // namespace
 
 void ValidaterViewController::showAppIcon(const QImage &icon)
@@ -71,22 +87,24 @@ void ValidaterViewController::showSum()
 {
     const CheckSum sum = sumOf(m_results);
     const bool isTooMuchToRead = isTooMuch(m_extraction.outcome);
-    const bool good = !m_found && !isTooMuchToRead && sum.failed == 0;
-    m_ui->sumLabel->setText(isTooMuchToRead ? qtTrId("VALIDATER_STOPPED_TITLE")
-                            : m_found       ? qtTrId("VALIDATER_SUM_NO_PACKAGE")
-                                            : sumText(sum));
+    const bool good = !m_found && !m_inspectionEnd && !isTooMuchToRead && sum.failed == 0;
+    m_ui->sumLabel->setText(isTooMuchToRead   ? qtTrId("VALIDATER_STOPPED_TITLE")
+                            : m_found         ? qtTrId("VALIDATER_SUM_NO_PACKAGE")
+                            : m_inspectionEnd ? qtTrId("VALIDATER_SUM_UNREAD")
+                                              : sumText(sum));
     setColor(m_ui->sumLabel, good ? palette::successDark : palette::errorDark);
     m_ui->fileLabel->setText(shownFact(QFileInfo(m_facts.ipaPath).fileName()));
 
-    const QString note = isTooMuchToRead ? qtTrId("VALIDATER_STOPPED_MESSAGE")
-                         : m_found       ? foundText(*m_found)
-                                         : QString(noteText(m_facts, m_extraction) + u'\n' + readerNote()).trimmed();
+    const QString note = isTooMuchToRead   ? qtTrId("VALIDATER_STOPPED_MESSAGE")
+                         : m_found         ? foundText(*m_found)
+                         : m_inspectionEnd ? QString(inspectionNote(*m_inspectionEnd) + u'\n' + readerNote()).trimmed()
+                                           : QString(noteText(m_facts, m_extraction) + u'\n' + readerNote()).trimmed();
     m_ui->noteLabel->setText(breakingLongWords(note));
     m_ui->noteLabel->setAccessibleName(note);
     m_ui->noteLabel->setVisible(!note.isEmpty());
     // A file that is not a package has neither facts nor verdicts to show.
-    m_ui->factsPart->setVisible(!m_found);
-    m_ui->checksPart->setVisible(!m_found);
+    m_ui->factsPart->setVisible(hasFacts());
+    m_ui->checksPart->setVisible(!m_found && !m_inspectionEnd);
     m_ui->reportArea->verticalScrollBar()->setValue(0);
 
     for (const CheckResult &result : std::as_const(m_results)) {
@@ -153,7 +171,9 @@ QString ValidaterViewController::reportText() const
         lines << QString() << note;
     if (m_found)
         return lines.join(u'\n') + u'\n';
-    lines << QString() << factLines(m_facts) << QString();
+    if (hasFacts())
+        lines << QString() << factLines(m_facts);
+    lines << QString();
     if (m_review && !m_review->isOfOldTime)
         lines << findingTexts(m_review->findings(m_ignored)) << m_sections->lines() << QString()
               << qtTrId("REVIEW_CLASSIC_RULES");

@@ -89,7 +89,7 @@ void ValidaterViewController::startReview(const QString &path, quint64 number)
     m_isReviewing = true;
     m_ui->readingBar->setDoubleValue(0);
     m_readPercent = 0;
-    const ReviewOrder order{services().readerProgram, path, services().readerPatience};
+    const ReaderOrder order{services().readerProgram, path, services().readerPatience};
     m_reviewJobs.start([this, order, number, stop = m_stop.get_token()](const BackgroundJob &job) {
         const auto post = [&](std::function<void()> show) {
             job.post([this, number, show = std::move(show)] {

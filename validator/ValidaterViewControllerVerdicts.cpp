@@ -114,6 +114,14 @@ void ValidaterViewController::validate(const ArtworkReport &artwork)
     conclude();
 }
 
+void ValidaterViewController::giveUp(ReaderEnd end)
+{
+    m_inspectionEnd = end;
+    updateInterface(m_facts, m_extraction, {});
+    m_isJudged = true;
+    conclude();
+}
+
 void ValidaterViewController::showPresence(CheckboxButton *box, bool present)
 {
     judge(box, true);

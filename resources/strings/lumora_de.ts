@@ -2218,6 +2218,22 @@
     <source>[FAILED] of [COUNT] checks failed</source>
     <translation>[FAILED] von [COUNT] Prüfungen nicht bestanden</translation>
   </message>
+  <message id="VALIDATER_SUM_UNREAD">
+    <source>Package could not be read</source>
+    <translation>Paket nicht lesbar</translation>
+  </message>
+  <message id="VALIDATER_READER_CRASHED">
+    <source>The package could not be read: the reader stopped in the middle of it. The file may be damaged on purpose.</source>
+    <translation>Das Paket ließ sich nicht lesen: Das Leseprogramm ist mittendrin abgebrochen. Die Datei ist vielleicht mit Absicht beschädigt.</translation>
+  </message>
+  <message id="VALIDATER_READER_STALLED">
+    <source>The package could not be read: the reader did not get any further and was ended.</source>
+    <translation>Das Paket ließ sich nicht lesen: Das Leseprogramm kam nicht weiter und wurde beendet.</translation>
+  </message>
+  <message id="VALIDATER_READER_NOT_STARTED">
+    <source>The package could not be read: the reader could not be started.</source>
+    <translation>Das Paket ließ sich nicht lesen: Das Leseprogramm ließ sich nicht starten.</translation>
+  </message>
   <message id="VALIDATER_SUM_NO_PACKAGE">
     <source>No readable app package</source>
     <translation>Kein lesbares App-Paket</translation>

@@ -2216,6 +2216,22 @@
     <source>[FAILED] of [COUNT] checks failed</source>
     <translation>[FAILED] of [COUNT] checks failed</translation>
   </message>
+  <message id="VALIDATER_SUM_UNREAD">
+    <source>Package could not be read</source>
+    <translation>Package could not be read</translation>
+  </message>
+  <message id="VALIDATER_READER_CRASHED">
+    <source>The package could not be read: the reader stopped in the middle of it. The file may be damaged on purpose.</source>
+    <translation>The package could not be read: the reader stopped in the middle of it. The file may be damaged on purpose.</translation>
+  </message>
+  <message id="VALIDATER_READER_STALLED">
+    <source>The package could not be read: the reader did not get any further and was ended.</source>
+    <translation>The package could not be read: the reader did not get any further and was ended.</translation>
+  </message>
+  <message id="VALIDATER_READER_NOT_STARTED">
+    <source>The package could not be read: the reader could not be started.</source>
+    <translation>The package could not be read: the reader could not be started.</translation>
+  </message>
   <message id="VALIDATER_SUM_NO_PACKAGE">
     <source>No readable app package</source>
     <translation>No readable app package</translation>

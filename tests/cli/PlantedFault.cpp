@@ -100,6 +100,15 @@ void plant()
 
 } // namespace
 
+extern "C" int unzReadCurrentFile(void *archive, void *buffer, unsigned size)
+{
+    using Function = int (*)(void *, void *, unsigned);
+    static const auto real = reinterpret_cast<Function>(::dlsym(RTLD_NEXT, "unzReadCurrentFile"));
+    static std::once_flag planted;
+    std::call_once(planted, plant);
+    return real(archive, buffer, size);
+}
+
 extern "C" libdeflate_result libdeflate_deflate_decompress(libdeflate_decompressor *decompressor, const void *in,
                                                            std::size_t inSize, void *out, std::size_t outSize,
                                                            std::size_t *written)

@@ -21,7 +21,7 @@ namespace
 /// The kernel feature that is needed to refuse a fault.
 enum class Held { Files, Calls };
 
-enum class ReadBy { Command, Window };
+enum class ReadBy { Command, Window, Inspection };
 
 } // namespace
 
@@ -79,16 +79,10 @@ private slots:
     }
 
     void locksTheWindowsReaderInToo_data() { refusesWhatAFaultTries_data(); }
-    void locksTheWindowsReaderInToo()
-    {
-        QFETCH(Held, held);
-        const LumoraRun command = planted({});
-        const bool offered = command.err.contains(held == Held::Files ? "(Landlock)" : "(seccomp)");
-        const LumoraRun locked = planted({}, ReadBy::Window);
-        QVERIFY2(locked.err.contains(offered ? ": refused" : ": done"), locked.err);
-        QCOMPARE(locked.status, 0);
-        QVERIFY2(locked.out.contains("\nreview "), locked.out);
-    }
+    void locksTheWindowsReaderInToo() { refusesInTheWindows(ReadBy::Window, "\nreview "); }
+
+    void locksTheWindowsInspectionInToo_data() { refusesWhatAFaultTries_data(); }
+    void locksTheWindowsInspectionInToo() { refusesInTheWindows(ReadBy::Inspection, "artwork "); }
 
     void writesItsOutputsAllTheSame_data()
     {
@@ -142,6 +136,17 @@ private:
         QVERIFY(QFile::copy(m_packages.filePath(u"valid.ipa"_s), at(name)));
     }
 
+    void refusesInTheWindows(ReadBy reader, const char *answer)
+    {
+        QFETCH(Held, held);
+        const LumoraRun command = planted({});
+        const bool offered = command.err.contains(held == Held::Files ? "(Landlock)" : "(seccomp)");
+        const LumoraRun locked = planted({}, reader);
+        QVERIFY2(locked.err.contains(offered ? ": refused" : ": done"), locked.err);
+        QCOMPARE(locked.status, 0);
+        QVERIFY2(locked.out.contains(answer), locked.out);
+    }
+
     /// A run whose unpacking tries the row's fault on new files.
     LumoraRun planted(const QStringList &options, ReadBy reader = ReadBy::Command)
     {
@@ -154,6 +159,13 @@ private:
         process.withVariable(u"LD_PRELOAD"_s, QStringLiteral(LUMORA_PLANTED_FAULT_LIBRARY))
             .withVariable(u"LUMORA_PLANTED_FAULT"_s, fault)
             .withVariable(u"LUMORA_PLANTED_PLACE"_s, place.isEmpty() ? u"none"_s : at(place));
+        if (reader == ReadBy::Inspection) {
+            const QTemporaryDir work;
+            if (!QDir(work.path()).mkdir(u"Documents"_s))
+                return {};
+            return process.of(QStringLiteral(LUMORA_WINDOW_PROGRAM))
+                .run({u"--inspect-package"_s, at(u"App.ipa"_s), work.path(), u"1"_s});
+        }
         if (reader == ReadBy::Window)
             return process.of(QStringLiteral(LUMORA_WINDOW_PROGRAM)).run({u"--read-package"_s, at(u"App.ipa"_s)});
         return process.run(QStringList{u"validate"_s, u"--verbose"_s, at(u"App.ipa"_s)} + options);

@@ -285,20 +285,105 @@ private slots:
             << u"echo 'review 999999999999'"_s << QByteArray("REVIEW_READER_CRASHED");
         QTest::newRow("an answer that is no review")
             << u"echo 'review 2'; printf '{}'"_s << QByteArray("REVIEW_READER_CRASHED");
-        QTest::newRow("no program") << QString() << QByteArray("REVIEW_READER_NOT_STARTED");
     }
     void saysWhenTheReaderFails()
     {
         QFETCH(QString, program);
         QFETCH(QByteArray, note);
-        ReadPane pane(*this, nullptr, program.isEmpty() ? u"/does/not/exist"_s : script(program),
-                      std::chrono::milliseconds(400));
+        ReadPane pane(*this, nullptr, script(program), std::chrono::milliseconds(400));
         pane.read("keeps, all");
         QVERIFY2(pane.ui().noteLabel->accessibleName().contains(qtTrId(note.constData())),
                  qPrintable(pane.ui().noteLabel->accessibleName()));
         QVERIFY2(pane.ui().sumLabel->text().contains(u"checks"), "the classic checks hold all the same");
         QVERIFY(!pane.view().isVisible());
         QVERIFY(!pane.tool.review());
+    }
+
+    void saysWhenTheInspectionFails_data()
+    {
+        QTest::addColumn<QString>("program");
+        QTest::addColumn<QByteArray>("note");
+        QTest::newRow("a crash") << u"kill -SEGV $$"_s << QByteArray("VALIDATER_READER_CRASHED");
+        QTest::newRow("a crash in the middle")
+            << u"echo 'gathered 900'; echo 'x'; kill -SEGV $$"_s << QByteArray("VALIDATER_READER_CRASHED");
+        QTest::newRow("silence") << u"exit 0"_s << QByteArray("VALIDATER_READER_CRASHED");
+        QTest::newRow("a hang") << u"exec sleep 600"_s << QByteArray("VALIDATER_READER_STALLED");
+        QTest::newRow("noise") << u"exec head -c 1000000 /dev/urandom"_s << QByteArray("VALIDATER_READER_CRASHED");
+        QTest::newRow("facts that are none")
+            << u"echo 'gathered 2'; printf '{}'"_s << QByteArray("VALIDATER_READER_CRASHED");
+        QTest::newRow("verdicts without facts")
+            << u"echo 'artwork 1'; printf '\240'"_s << QByteArray("VALIDATER_READER_CRASHED");
+        QTest::newRow("too little memory") << u"echo 'failure 7'"_s << QByteArray("VALIDATER_READER_CRASHED");
+    }
+    void saysWhenTheInspectionFails()
+    {
+        QFETCH(QString, program);
+        QFETCH(QByteArray, note);
+        ReadPane pane(*this, nullptr, script(program, u"--inspect-package"_s), std::chrono::seconds(2));
+        pane.tool.dropIpaFileFromDelegate(package("keeps, all"));
+        QTRY_VERIFY_WITH_TIMEOUT(opacity(pane.ui().sumLabel) == 1 && opacity(pane.ui().readingBar) == 0, readingTime);
+        QCOMPARE(pane.ui().noteLabel->accessibleName(), qtTrId(note.constData()));
+        QVERIFY(!pane.ui().checksPart->isVisible());
+        QVERIFY(!pane.ui().factsPart->isVisible());
+        QVERIFY2(pane.view().isVisible(), "the store's rules were checked all the same");
+        QCOMPARE(pane.ui().sumLabel->text(), u"Nothing found"_s);
+        QVERIFY(pane.tool.reportText().contains(qtTrId(note.constData())));
+        QVERIFY(treeBelow(pane.services.workFolder).isEmpty());
+    }
+
+    void saysWhenBothReadersFail_data()
+    {
+        QTest::addColumn<QString>("program");
+        QTest::addColumn<QStringList>("notes");
+        QTest::newRow("no program") << u"/does/not/exist"_s
+                                    << QStringList{u"VALIDATER_READER_NOT_STARTED"_s, u"REVIEW_READER_NOT_STARTED"_s};
+        QTest::newRow("an early end") << u"/bin/false"_s
+                                      << QStringList{u"VALIDATER_READER_CRASHED"_s, u"REVIEW_READER_CRASHED"_s};
+    }
+    void saysWhenBothReadersFail()
+    {
+        QFETCH(QString, program);
+        QFETCH(QStringList, notes);
+        ReadPane pane(*this, nullptr, program);
+        pane.tool.dropIpaFileFromDelegate(package("keeps, all"));
+        QTRY_VERIFY_WITH_TIMEOUT(opacity(pane.ui().sumLabel) == 1 && opacity(pane.ui().readingBar) == 0, readingTime);
+        QCOMPARE(pane.ui().sumLabel->text(), qtTrId("VALIDATER_SUM_UNREAD"));
+        const QString note = pane.ui().noteLabel->accessibleName();
+        for (const QString &key : notes)
+            QVERIFY2(note.contains(qtTrId(key.toLatin1().constData())), qPrintable(note));
+        QVERIFY(!pane.view().isVisible());
+        QVERIFY(!pane.tool.reportText().contains(u"checks passed"_s));
+    }
+
+    void inspectsInAnotherProcess()
+    {
+        ReadPane pane(*this, "valid");
+        QVERIFY(pane.tool.facts().provisioningProfile->contains(pane.tool.facts().appBundleIdentifier()));
+        const QImage shown = pane.ui().appIconField->pixmap(Qt::ReturnByValue).toImage();
+        PaneInWindow here;
+        here.tool.dropIpaFileFromDelegate(package("valid"));
+        QTRY_VERIFY_WITH_TIMEOUT(here.hasFacts(), readingTime);
+        QCOMPARE(here.tool.facts().appInfoPlist, pane.tool.facts().appInfoPlist);
+        QCOMPARE(here.tool.facts().appImages, pane.tool.facts().appImages);
+        QCOMPARE(here.tool.facts().appLocalizations, pane.tool.facts().appLocalizations);
+        QCOMPARE(here.tool.facts().provisioningProfile, pane.tool.facts().provisioningProfile);
+        QCOMPARE(here.tool.facts().appContentFolderPath, pane.tool.facts().appContentFolderPath);
+        QCOMPARE(here.tool.reportText().section(qtTrId("REVIEW_CLASSIC_RULES"), -1),
+                 pane.tool.reportText().section(qtTrId("REVIEW_CLASSIC_RULES"), -1));
+        QCOMPARE(shown.convertToFormat(QImage::Format_ARGB32),
+                 here.ui().appIconField->pixmap(Qt::ReturnByValue).toImage().convertToFormat(QImage::Format_ARGB32));
+    }
+
+    void saysWhatANoPackageIs()
+    {
+        const QString path = m_packages.filePath(u"picture.ipa"_s);
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write("%PDF-1.4") > 0);
+        file.close();
+        ReadPane pane(*this, nullptr);
+        pane.tool.dropIpaFileFromDelegate(path);
+        QTRY_COMPARE_WITH_TIMEOUT(pane.ui().sumLabel->text(), qtTrId("VALIDATER_SUM_NO_PACKAGE"), readingTime);
+        QVERIFY(pane.tool.found() && pane.tool.found()->kind == FoundKind::Document);
     }
 
     void survivesANonsensicalReview()
@@ -346,14 +431,16 @@ private:
         QFile file(path);
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
-    /// A program that does this in a reader's place.
-    QString script(const QString &body)
+    /// A program that does this in the place of the reader of this argument; another reader is the real one.
+    QString script(const QString &body, const QString &argument = u"--read-package"_s)
     {
         m_script = m_work.filePath(u"reader-%1"_s.arg(++m_scripts));
         QFile file(m_script);
         if (!file.open(QIODevice::WriteOnly))
             qFatal("no script");
-        file.write("#!/bin/sh\n" + body.toUtf8() + '\n');
+        const QString others = u"[ \"$1\" = %1 ] || exec '%2' \"$@\""_s;
+        file.write("#!/bin/sh\n" + others.arg(argument, QStringLiteral(LUMORA_WINDOW_PROGRAM)).toUtf8() + '\n' +
+                   body.toUtf8() + '\n');
         file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
         return m_script;
     }

@@ -26,6 +26,8 @@ public:
     virtual std::optional<QString> readProvisioningFromPath(const QString &path) const = 0;
     /// The same for the profile at the path inside a package.
     virtual std::optional<QString> readProvisioning(const PackageSource &source, const QString &path) const = 0;
+    /// True when it needs no other program, so that it also works in a locked process.
+    virtual bool worksLockedIn() const = 0;
 };
 
 /// Reads the signed message with OpenSSL. Like the system's tool it does not check the signer: the text is shown and
@@ -35,6 +37,7 @@ class CmsProfileDecoder final : public ProfileDecoder
 public:
     std::optional<QString> readProvisioningFromPath(const QString &path) const override;
     std::optional<QString> readProvisioning(const PackageSource &source, const QString &path) const override;
+    bool worksLockedIn() const override { return true; }
 };
 
 /// Asks the system's `security` tool.
@@ -46,6 +49,7 @@ public:
     std::optional<QString> readProvisioningFromPath(const QString &path) const override;
     /// The tool reads files only, so a profile in an archive is never received.
     std::optional<QString> readProvisioning(const PackageSource &source, const QString &path) const override;
+    bool worksLockedIn() const override { return false; }
 
     /// The profile's text: the whole output of the tool, once it has ended.
     static QString receivedProvProfileOutput(QProcess &tool);

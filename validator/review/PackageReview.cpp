@@ -62,7 +62,7 @@ void listKinds(const PackageContents &contents, PackageReview &review)
 class Share
 {
 public:
-    Share(const PackageSource &source, const ReviewProgress &progress) : m_progress(progress)
+    Share(const PackageSource &source, const ReaderProgress &progress) : m_progress(progress)
     {
         for (const PackageEntry &entry : source.entries())
             m_all += entry.size;
@@ -79,7 +79,7 @@ public:
     }
 
 private:
-    const ReviewProgress &m_progress;
+    const ReaderProgress &m_progress;
     quint64 m_all = 0;
     std::atomic<quint64> m_begun = 0;
 };
@@ -107,7 +107,7 @@ PackageReview PackageReview::without(const QStringList &ignored) const
     return rest;
 }
 
-Result<PackageReview> reviewPackage(const QString &path, const RuleSettings &settings, const ReviewProgress &progress)
+Result<PackageReview> reviewPackage(const QString &path, const RuleSettings &settings, const ReaderProgress &progress)
 {
     const auto source = openPackage(path);
     if (!source)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "ReaderProcess.h"
 #include "validator/reports/FileKinds.h"
 #include "validator/reports/HtmlReport.h"
 #include "validator/rules/DeviceDemands.h"
@@ -61,11 +62,8 @@ struct PackageReview
     PackageReview without(const QStringList &ignored) const;
 };
 
-/// Called with the part of the package that was read, 0 to 1000, on any thread.
-using ReviewProgress = std::function<void(int perMille)>;
-
 /// Reads the package in place and asks every rule. Fails where there is no app to judge.
 Result<PackageReview> reviewPackage(const QString &path, const RuleSettings &settings,
-                                    const ReviewProgress &progress = {});
+                                    const ReaderProgress &progress = {});
 
 } // namespace lumora

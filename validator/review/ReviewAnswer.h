@@ -9,14 +9,8 @@
 namespace lumora
 {
 
-/// The argument that makes the window's program a reader: `--read-package PATH`.
-inline constexpr QLatin1StringView readerArgument("--read-package");
-
-/// The beginnings of an answer's lines: the part that was read, per mille; the length of the review that follows, in
-/// bytes; or that there is none.
-inline constexpr QLatin1StringView progressWord("read ");
+/// The word before the review.
 inline constexpr QLatin1StringView reviewWord("review ");
-inline constexpr QLatin1StringView failureWord("failure ");
 
 /// Reads the package in a process that is locked in: after this call the process reaches nothing but the package.
 /// Answers on the descriptor, which stays open, and returns the process' status: 0 after an answer. Expects the texts
