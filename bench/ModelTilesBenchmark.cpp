@@ -2,10 +2,10 @@
 // The times of the device tool's side of today with all of its models: one requirement with its effects, a full
 // repaint, and the longest frame while it is scrolled. Runs without a screen: QT_QPA_PLATFORM=offscreen.
 #include "PaneInView.h"
-#include "devices/today/ModelFilterView.h"
+#include "devices/pane/ModelFilterView.h"
+#include "devices/pane/ModelTiles.h"
+#include "devices/pane/TodayDevicePane.h"
 #include "devices/today/ModelList.h"
-#include "devices/today/ModelTiles.h"
-#include "devices/today/TodayDevicePane.h"
 
 #include <QApplication>
 #include <QElapsedTimer>

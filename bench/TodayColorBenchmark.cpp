@@ -2,7 +2,7 @@
 // The times of the color tool's side of today: until its first frame, and one step of a color that changes, with every
 // code, verdict and the drawn frame. Runs without a screen: QT_QPA_PLATFORM=offscreen.
 #include "PaneInView.h"
-#include "color/today/TodayColorPane.h"
+#include "color/pane/TodayColorPane.h"
 
 #include <QApplication>
 

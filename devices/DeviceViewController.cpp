@@ -2,9 +2,9 @@
 #include "DeviceViewController.h"
 
 #include "DeviceViews.h"
-#include "devices/today/ModelFilterView.h"
+#include "devices/pane/ModelFilterView.h"
+#include "devices/pane/TodayDevicePane.h"
 #include "devices/today/ModelList.h"
-#include "devices/today/TodayDevicePane.h"
 #include "tool/style/ButtonStyle.h"
 #include "tool/style/LabelStyle.h"
 #include "ui_DeviceViewController.h"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/AppDelegate.h"
 #include "devices/DeviceViewController.h"
-#include "devices/today/ModelFilterView.h"
-#include "devices/today/TodayDevicePane.h"
+#include "devices/pane/ModelFilterView.h"
+#include "devices/pane/TodayDevicePane.h"
 #include "foundation/ToolFacts.h"
 #include "icons/IconsViewController.h"
 #include "resources/Resources.h"

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "TodayDevicePane.h"
 
-#include "ModelChoices.h"
 #include "ModelFilterView.h"
 #include "ModelTable.h"
 #include "ModelTiles.h"
+#include "devices/today/ModelChoices.h"
 #include "tool/style/LabelStyle.h"
 #include "tool/style/Panel.h"
 #include "tool/style/ToolTip.h"

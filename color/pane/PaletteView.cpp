@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "PaletteView.h"
 
-#include "WellColor.h"
+#include "color/WellColor.h"
 #include "color/picker/SwatchList.h"
 #include "tool/style/DropDownStyle.h"
 #include "tool/style/LabelStyle.h"

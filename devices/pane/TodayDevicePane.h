@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "ModelGroup.h"
+#include "devices/today/ModelGroup.h"
 
 #include <QWidget>
 

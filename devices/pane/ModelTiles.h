@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "ModelLayout.h"
+#include "devices/today/ModelLayout.h"
 #include "widgets/style/EasedAnimation.h"
 
 #include <QScrollArea>

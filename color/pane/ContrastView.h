@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "ContrastTable.h"
+#include "color/spaces/ContrastTable.h"
 
 #include <QWidget>
 

@@ -3,7 +3,7 @@
 
 #include "CodeField.h"
 #include "VerdictMark.h"
-#include "WellColor.h"
+#include "color/WellColor.h"
 #include "color/picker/BFPopoverColorWell.h"
 #include "tool/style/LabelStyle.h"
 #include "widgets/buttons/IconButton.h"

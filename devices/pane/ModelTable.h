@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "ModelCard.h"
+#include "devices/today/ModelCard.h"
 
 #include <QScrollArea>
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "ModelTiles.h"
 
-#include "ModelChoices.h"
 #include "ModelTexts.h"
 #include "ModelTile.h"
+#include "devices/today/ModelChoices.h"
 #include "tool/style/LabelStyle.h"
 #include "widgets/style/AccessibleRole.h"
 #include "widgets/style/Fonts.h"

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
+#include "color/WellColor.h"
 #include "color/forms/ColorReader.h"
+#include "color/forms/FormList.h"
 #include "color/palettes/PaletteSaving.h"
 #include "color/palettes/PickedPalette.h"
-#include "color/today/ContrastTable.h"
-#include "color/today/FormList.h"
-#include "color/today/WellColor.h"
+#include "color/spaces/ContrastTable.h"
 #include "foundation/WholeFile.h"
 
 #include <QDir>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "ModelFilterView.h"
 
-#include "ModelChoices.h"
 #include "ModelTexts.h"
-#include "ScreenClass.h"
 #include "VersionRange.h"
+#include "devices/today/ModelChoices.h"
+#include "devices/today/ScreenClass.h"
 #include "tool/style/ButtonStyle.h"
 #include "tool/style/DropDownStyle.h"
 #include "tool/style/FieldStyle.h"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "CodeField.h"
 
-#include "FormList.h"
 #include "color/forms/ColorReader.h"
+#include "color/forms/FormList.h"
 #include "widgets/style/Fonts.h"
 #include "widgets/style/Palette.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "VersionRange.h"
 
-#include "ModelChoices.h"
+#include "devices/today/ModelChoices.h"
 #include "tool/style/LabelStyle.h"
 #include "tool/style/SliderStyle.h"
 #include "widgets/style/Fonts.h"

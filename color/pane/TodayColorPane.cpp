@@ -5,7 +5,7 @@
 #include "ContrastView.h"
 #include "FormListView.h"
 #include "PaletteView.h"
-#include "WellColor.h"
+#include "color/WellColor.h"
 #include "color/picker/BFPopoverColorWell.h"
 #include "tool/DropView.h"
 #include "tool/style/LabelStyle.h"

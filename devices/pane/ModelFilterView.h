@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "ModelFilter.h"
+#include "devices/today/ModelFilter.h"
 
 #include <QWidget>
 

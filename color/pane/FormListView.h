@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "FormList.h"
+#include "color/forms/FormList.h"
 
 #include <QWidget>
 

@@ -6,7 +6,7 @@
 #include "FormListView.h"
 #include "PaletteView.h"
 #include "TodayColorPane.h"
-#include "WellColor.h"
+#include "color/WellColor.h"
 #include "color/forms/ColorReader.h"
 #include "color/palettes/ColorCatalogue.h"
 #include "color/palettes/PaletteSaving.h"
