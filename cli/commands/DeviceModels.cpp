@@ -97,7 +97,8 @@ std::optional<ModelFilter> filterFrom(const DeviceModelsRequest &request)
 bool isNamed(const ModelGroup &group, const QString &wanted)
 {
     return std::ranges::any_of(group.variants, [&wanted](const DeviceModel *model) {
-        return text(model->identifier) == wanted || text(model->name).compare(wanted, Qt::CaseInsensitive) == 0;
+        return text(model->identifier).compare(wanted, Qt::CaseInsensitive) == 0 ||
+               text(model->name).compare(wanted, Qt::CaseInsensitive) == 0;
     });
 }
 

@@ -1,13 +1,15 @@
 # SPDX-License-Identifier: MIT
 # usage: cmake -D LIST=models.csv -D TABLE=models.inc -P GenerateModels.cmake   The device list as rows of a constexpr table.
-# A script, so that a build for another machine needs no program of this one's. It stops at a field that is not of its column's kind;
-# ModelListTest holds the table against what the reader of such lists makes of the file.
+# A script, so that a build for another machine needs no program of this one's. It stops at a field that is not of its column's kind,
+# at sizes that are not points times scale, at an identifier that comes twice and at a row out of its order; ModelListTest holds the
+# table against what the reader of such lists makes of the file.
 cmake_minimum_required(VERSION 3.25)
 
-set(kinds text text text text text version version number number number number number number number number number biometry
+set(kinds text text date text text version version number number number number number number number number number biometry
   having having having having flag flag flag flag flag)
 set(field_number "^[0-9]*$|^[0-9]+[.][0-9]+$")
 set(field_version "^[0-9]+([.][0-9]+)?([.][0-9]+)?$")
+set(field_date "^[0-9][0-9][0-9][0-9]-[0-9][0-9](-[0-9][0-9])?$")
 set(field_text "^[^\\\\]+$")
 set(field_flag "^[01]$")
 set(field_having "^[01]?$")
@@ -31,6 +33,44 @@ function(make_version field result)
   set(${result} "{{${numbers}}, ${count}}" PARENT_SCOPE)
 endfunction()
 
+# The pixels that apps draw are the points times the scale.
+function(check_screen fields line)
+  list(SUBLIST fields 9 5 sizes)
+  list(POP_FRONT sizes scale width height width_points height_points)
+  math(EXPR drawn_width "${width_points} * ${scale}")
+  math(EXPR drawn_height "${height_points} * ${scale}")
+  if(NOT "${drawn_width}x${drawn_height}" STREQUAL "${width}x${height}")
+    message(FATAL_ERROR "${LIST}: ${width}x${height} is not points times scale in ${line}")
+  endif()
+endfunction()
+
+# Rows stand by family, the newest first, and each identifier once.
+function(check_place fields line)
+  list(GET fields 0 identifier)
+  list(GET fields 2 released)
+  get_property(known GLOBAL PROPERTY "first ${identifier}")
+  if(known)
+    message(FATAL_ERROR "${LIST}: ${identifier} comes twice: ${line}")
+  endif()
+  set_property(GLOBAL PROPERTY "first ${identifier}" yes)
+  string(REGEX MATCH "^\"(iPhone|iPad|iPod)" family "${identifier}")
+  get_property(family_before GLOBAL PROPERTY family)
+  get_property(released_before GLOBAL PROPERTY released)
+  get_property(families GLOBAL PROPERTY families)
+  if(family STREQUAL "")
+    message(FATAL_ERROR "${LIST}: ${identifier} is of no iPhone, iPad or iPod in ${line}")
+  elseif(NOT family STREQUAL family_before)
+    if(family IN_LIST families)
+      message(FATAL_ERROR "${LIST}: ${identifier} is apart from its family in ${line}")
+    endif()
+    set_property(GLOBAL APPEND PROPERTY families "${family}")
+  elseif(released STRGREATER released_before)
+    message(FATAL_ERROR "${LIST}: ${released} comes after an older day in ${line}")
+  endif()
+  set_property(GLOBAL PROPERTY family "${family}")
+  set_property(GLOBAL PROPERTY released "${released}")
+endfunction()
+
 function(make_row line result)
   set(rest "${line},")
   set(fields "")
@@ -43,7 +83,7 @@ function(make_row line result)
     if(NOT field MATCHES "${field_${kind}}")
       message(FATAL_ERROR "${LIST}: \"${field}\" is no ${kind} in ${line}")
     endif()
-    if(kind STREQUAL "text")
+    if(kind MATCHES "^(text|date)$")
       set(field "\"${field}\"")
     elseif(kind STREQUAL "version")
       make_version("${field}" field)
@@ -54,6 +94,8 @@ function(make_row line result)
     endif()
     list(APPEND fields "${field}")
   endforeach()
+  check_screen("${fields}" "${line}")
+  check_place("${fields}" "${line}")
   if(NOT rest STREQUAL "")
     message(FATAL_ERROR "${LIST}: too many columns in ${line}")
   endif()

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ModelList.h"
 
+#include "foundation/PrintableText.h"
+
 #include <QDate>
 #include <QHash>
 #include <QStringDecoder>
@@ -23,6 +25,7 @@ constexpr std::string_view header =
     "cap_arkit,cap_min_performance_a12,cap_gaming_tier";
 constexpr std::size_t columnCount = 26;
 constexpr std::size_t longestField = 100;
+constexpr std::array<std::string_view, 5> architectures{"armv6", "armv7", "armv7s", "arm64", "arm64e"};
 
 using Fields = std::array<std::string_view, columnCount>;
 
@@ -89,8 +92,19 @@ public:
     std::string_view word()
     {
         const std::string_view field = next();
-        if (field.empty())
+        const QString word = text(field);
+        if (word.trimmed().isEmpty())
             complain("DETAIL_FIELD_EMPTY");
+        else if (printableText(word) != word)
+            complain("DETAIL_FIELD_PRINTABLE");
+        return field;
+    }
+
+    std::string_view architecture()
+    {
+        const std::string_view field = next();
+        if (std::ranges::find(architectures, field) == architectures.end())
+            complain("DETAIL_FIELD_ARCHITECTURE");
         return field;
     }
 
@@ -177,13 +191,30 @@ private:
     Complaint m_complaint;
 };
 
+/// Whether it has the form of "iPhone15,2".
+bool isIdentifier(std::string_view text)
+{
+    const auto isNumber = [](std::string_view digits) {
+        return !digits.empty() && std::ranges::all_of(digits, [](char digit) { return digit >= '0' && digit <= '9'; });
+    };
+    for (const std::string_view family : {"iPhone", "iPad", "iPod"}) {
+        if (!text.starts_with(family))
+            continue;
+        const std::string_view numbers = text.substr(family.size());
+        const std::size_t comma = std::min(numbers.find(','), numbers.size());
+        return isNumber(numbers.substr(0, comma)) && comma < numbers.size() && isNumber(numbers.substr(comma + 1));
+    }
+    return false;
+}
+
 Complaint contradiction(const DeviceModel &model)
 {
-    const std::string_view id = model.identifier;
-    if (!id.starts_with("iPhone") && !id.starts_with("iPad") && !id.starts_with("iPod"))
+    if (!isIdentifier(model.identifier))
         return Fault{"DETAIL_FOREIGN_MODEL", {}};
     if (comparedVersions(model.minOs, model.maxOs) > 0)
         return Fault{"DETAIL_VERSION_ORDER", {}};
+    if (model.arm64 != model.arch.starts_with("arm64"))
+        return Fault{"DETAIL_ARCHITECTURE_FLAG", {}};
     const std::array sizes = {model.widthPixels,  model.heightPixels, model.scale,        model.renderWidth,
                               model.renderHeight, model.widthPoints,  model.heightPoints, model.pixelsPerInch};
     const auto given = std::ranges::count_if(sizes, [](int size) { return size > 0; });
@@ -207,7 +238,7 @@ Complaint readModel(std::string_view line, DeviceModel &model)
     model.name = reader.word();
     model.released = reader.date();
     model.chip = reader.word();
-    model.arch = reader.word();
+    model.arch = reader.architecture();
     model.minOs = reader.version();
     model.maxOs = reader.version();
     model.widthPixels = reader.number(longestEdge);
@@ -262,6 +293,9 @@ Result<ModelList> readModelList(const QByteArray &bytes, const QString &name)
     bool headed = false;
     int number = 0;
     std::string_view rest(bytes.constData(), static_cast<std::size_t>(bytes.size()));
+    constexpr std::string_view byteOrderMark = "\xef\xbb\xbf"; // spreadsheets write one
+    if (rest.starts_with(byteOrderMark))
+        rest.remove_prefix(byteOrderMark.size());
     while (!rest.empty()) {
         const std::size_t end = std::min(rest.find('\n'), rest.size());
         const std::string_view line = withoutReturn(rest.substr(0, end));

@@ -6198,6 +6198,10 @@
     <source>line [LINE]: [COLUMN] is no number of inches from 1 to 100</source>
     <translation>Zeile [LINE]: [COLUMN] ist keine Zahl von 1 bis 100 Zoll</translation>
   </message>
+  <message id="DETAIL_FIELD_PRINTABLE">
+    <source>line [LINE]: [COLUMN] holds characters that do not print</source>
+    <translation>Zeile [LINE]: [COLUMN] enthält Zeichen, die sich nicht anzeigen lassen</translation>
+  </message>
   <message id="DETAIL_FIELD_VERSION">
     <source>line [LINE]: [COLUMN] is no version such as 12.5.8</source>
     <translation>Zeile [LINE]: [COLUMN] ist keine Version wie 12.5.8</translation>
@@ -6205,6 +6209,14 @@
   <message id="DETAIL_FIELD_DATE">
     <source>line [LINE]: [COLUMN] is no date such as 2022-09-16 or 2010-09</source>
     <translation>Zeile [LINE]: [COLUMN] ist kein Datum wie 2022-09-16 oder 2010-09</translation>
+  </message>
+  <message id="DETAIL_ARCHITECTURE_FLAG">
+    <source>line [LINE]: arch and cap_arm64 contradict each other</source>
+    <translation>Zeile [LINE]: arch und cap_arm64 widersprechen sich</translation>
+  </message>
+  <message id="DETAIL_FIELD_ARCHITECTURE">
+    <source>line [LINE]: arch is none of armv6, armv7, armv7s, arm64, arm64e</source>
+    <translation>Zeile [LINE]: arch ist nicht armv6, armv7, armv7s, arm64 oder arm64e</translation>
   </message>
   <message id="DETAIL_FIELD_BIOMETRY">
     <source>line [LINE]: [COLUMN] is none of none, touchid, faceid</source>

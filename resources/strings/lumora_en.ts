@@ -6196,6 +6196,10 @@
     <source>line [LINE]: [COLUMN] is no number of inches from 1 to 100</source>
     <translation>line [LINE]: [COLUMN] is no number of inches from 1 to 100</translation>
   </message>
+  <message id="DETAIL_FIELD_PRINTABLE">
+    <source>line [LINE]: [COLUMN] holds characters that do not print</source>
+    <translation>line [LINE]: [COLUMN] holds characters that do not print</translation>
+  </message>
   <message id="DETAIL_FIELD_VERSION">
     <source>line [LINE]: [COLUMN] is no version such as 12.5.8</source>
     <translation>line [LINE]: [COLUMN] is no version such as 12.5.8</translation>
@@ -6203,6 +6207,14 @@
   <message id="DETAIL_FIELD_DATE">
     <source>line [LINE]: [COLUMN] is no date such as 2022-09-16 or 2010-09</source>
     <translation>line [LINE]: [COLUMN] is no date such as 2022-09-16 or 2010-09</translation>
+  </message>
+  <message id="DETAIL_ARCHITECTURE_FLAG">
+    <source>line [LINE]: arch and cap_arm64 contradict each other</source>
+    <translation>line [LINE]: arch and cap_arm64 contradict each other</translation>
+  </message>
+  <message id="DETAIL_FIELD_ARCHITECTURE">
+    <source>line [LINE]: arch is none of armv6, armv7, armv7s, arm64, arm64e</source>
+    <translation>line [LINE]: arch is none of armv6, armv7, armv7s, arm64, arm64e</translation>
   </message>
   <message id="DETAIL_FIELD_BIOMETRY">
     <source>line [LINE]: [COLUMN] is none of none, touchid, faceid</source>

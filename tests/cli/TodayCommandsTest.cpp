@@ -140,10 +140,12 @@ private slots:
                 QCOMPARE(model[u"reasons"_s].toArray(), QJsonArray{u"ends at iOS 12.5.8"_s});
         }
         QCOMPARE(identifiers, 178);
-        const QJsonArray one =
-            runLumora({u"devices"_s, u"--model"_s, u"iPhone15,2"_s, u"--json"_s}).json()[u"models"_s].toArray();
-        QCOMPARE(one.size(), 1);
-        QCOMPARE(one[0].toObject()[u"points"_s].toObject()[u"height"_s], 852);
+        for (const QString &wanted : {u"iPhone15,2"_s, u"iphone15,2"_s, u"iphone 14 pro"_s}) {
+            const QJsonArray one =
+                runLumora({u"devices"_s, u"--model"_s, wanted, u"--json"_s}).json()[u"models"_s].toArray();
+            QCOMPARE(one.size(), 1);
+            QCOMPARE(one[0].toObject()[u"points"_s].toObject()[u"height"_s], 852);
+        }
     }
 
     void aListOfOnesOwn()

@@ -79,7 +79,7 @@ MISTAKES = [
     ("devices --today --ios 15..12", 2, "lumora devices: --ios 15..12: is no range of versions"),
     ("devices --ios 15..", 2, 'lumora devices: --ios takes 4, 5, 6 or 7, not "15.."; add --today, which knows all versions'),
     ("devices --chip a12z,m9x", 2, "lumora devices: --chip m9x: is no chip in the list; did you mean A9X, A9 or M4?"),
-    ("devices --model iphone15,2", 1, 'lumora: "iphone15,2": is no model in the list; did you mean iPhone15,2'),
+    ("devices --model iphone15.2", 1, 'lumora: "iphone15.2": is no model in the list; did you mean iPhone15,2'),
     ("devices --today --feature gps", 2, "lumora devices: --feature and --today exclude each other"),
     ("downscale art --from 3x", 2, "lumora downscale: --to DIR, --out DIR or --layout LAYOUT is missing"),
     ("downscale --to out", 2, "lumora downscale: SOURCE is missing"),
