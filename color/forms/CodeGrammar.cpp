@@ -39,6 +39,7 @@ constexpr GrammarRow readOnly[] = {
     {"swiftui"_L1, srgb, "Color(white: {w})"_L1},
     {"swiftui"_L1, srgb, "Color(hue: {h}, saturation: {s}, brightness: {v}, opacity: {a})"_L1},
     {"swiftui"_L1, srgb, "Color(hue: {h}, saturation: {s}, brightness: {v})"_L1},
+    {"uikit-swift"_L1, srgb, "#colorLiteral(red: {r}, green: {g}, blue: {b}, alpha: {a})"_L1},
     {"uikit-swift"_L1, srgb, "UIColor(white: {w}, alpha: {a})"_L1},
     {"uikit-swift"_L1, srgb, "UIColor(hue: {h}, saturation: {s}, brightness: {v}, alpha: {a})"_L1},
     {"uikit-objc"_L1, srgb, "[UIColor colorWithWhite:{w} alpha:{a}]"_L1},
@@ -49,6 +50,7 @@ constexpr GrammarRow readOnly[] = {
     {"appkit-objc"_L1, srgb, "[NSColor colorWithRed:{r} green:{g} blue:{b} alpha:{a}]"_L1},
     // Components of the calibrated space are read as sRGB, as the code list writes them.
     {"appkit-objc"_L1, srgb, "[NSColor colorWithCalibratedRed:{r} green:{g} blue:{b} alpha:{a}]"_L1},
+    {"compose"_L1, srgb, "{0xargb}"_L1},
     {"compose"_L1, srgb, "Color({R}, {G}, {B})"_L1},
     {"compose"_L1, srgb, "Color({R}, {G}, {B}, {A})"_L1},
     {"compose"_L1, srgb, "Color(red = {R}, green = {G}, blue = {B})"_L1},
@@ -127,7 +129,7 @@ int hexValue(QStringView digits)
 class Values
 {
 public:
-    explicit Values(RgbSpace space) : m_color{space, 0.0, 0.0, 0.0, 1.0} {}
+    Values(RgbSpace space, WholeQuotients whole) : m_color{space, 0.0, 0.0, 0.0, 1.0}, m_whole(whole) {}
 
     bool take(QStringView place, const CodeToken &token)
     {
@@ -139,7 +141,7 @@ public:
             return takeHexNumber(token);
         if (token.kind != CodeToken::Kind::Number)
             return false;
-        const std::optional<double> number = decimalValue(token.text);
+        const std::optional<double> number = quotientValue(token.text, m_whole);
         const char16_t letter = place[1].unicode();
         const bool byte = letter >= u'A' && letter <= u'Z';
         if (!number || *number < 0.0 || *number > (byte ? 255.0 : 1.0))
@@ -213,18 +215,26 @@ private:
     }
 
     WideColor m_color;
+    WholeQuotients m_whole;
     bool m_isHue = false;
     double m_hue = 0.0;
     double m_saturation = 0.0;
     double m_brightness = 0.0;
 };
 
+/// Swift takes the literals of "51/255" for fractions, and JavaScript has no whole numbers.
+WholeQuotients wholeQuotientsIn(QLatin1StringView form)
+{
+    const bool divided = form == "swiftui"_L1 || form.endsWith("-swift"_L1) || form == "qml"_L1;
+    return divided ? WholeQuotients::Divided : WholeQuotients::Truncated;
+}
+
 /// A place that follows a fixed word in the same token is filled from the rest of that token.
 std::optional<WideColor> matched(const Grammar &grammar, const Tokens &tokens)
 {
     if (grammar.tokens.size() != tokens.size())
         return std::nullopt;
-    Values values(grammar.space);
+    Values values(grammar.space, wholeQuotientsIn(grammar.form));
     for (std::size_t index = 0; index < tokens.size(); ++index) {
         const CodeToken &expected = grammar.tokens[index];
         const bool fits = expected.kind == CodeToken::Kind::Place ? values.take(expected.text, tokens[index])

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "CodeTokens.h"
 
+#include <algorithm>
 #include <cmath>
 
 using namespace Qt::StringLiterals;
@@ -50,7 +51,8 @@ qsizetype decimalLength(QStringView text)
     qsizetype fraction = 0;
     if (at < text.size() && text[at] == u'.') {
         fraction = lengthWhile(text, at + 1, isDigit);
-        if (fraction > 0)
+        // As in C, the digits after the point may be missing.
+        if (whole + fraction > 0)
             at += 1 + fraction;
     }
     if (whole + fraction == 0)
@@ -65,16 +67,28 @@ qsizetype decimalLength(QStringView text)
     return at;
 }
 
+/// The length of the decimal number at the beginning with the suffix of its type.
+qsizetype operandLength(QStringView text)
+{
+    qsizetype length = decimalLength(text);
+    if (length > 0 && length < text.size() && (text[length] == u'f' || text[length] == u'F'))
+        ++length;
+    return length;
+}
+
 qsizetype numberLength(QStringView text)
 {
     if (text.startsWith("0x"_L1) || text.startsWith("0X"_L1)) {
         const qsizetype digits = lengthWhile(text, 2, isHexDigit);
         return digits > 0 ? 2 + digits : 0;
     }
-    qsizetype length = decimalLength(text);
-    if (length > 0 && length < text.size() && (text[length] == u'f' || text[length] == u'F'))
-        ++length;
-    return length;
+    const qsizetype length = operandLength(text);
+    const qsizetype slash = length + lengthWhile(text, length, [](QChar one) { return one.isSpace(); });
+    if (length == 0 || slash == text.size() || text[slash] != u'/')
+        return length;
+    const qsizetype from = slash + 1 + lengthWhile(text, slash + 1, [](QChar one) { return one.isSpace(); });
+    const qsizetype divisor = operandLength(text.sliced(from));
+    return divisor > 0 ? from + divisor : length;
 }
 
 qsizetype placeLength(QStringView text)
@@ -98,7 +112,8 @@ CodeToken tokenAt(QStringView text, CodePlaces places)
     if (first == u'#' && !known) {
         const qsizetype digits = lengthWhile(text, 1, isHexDigit);
         const bool ends = digits > 0 && (digits + 1 == text.size() || !isWordCharacter(text[digits + 1]));
-        return {CodeToken::Kind::Hash, ends ? text.first(digits + 1) : QStringView()};
+        return ends ? CodeToken{CodeToken::Kind::Hash, text.first(digits + 1)}
+                    : CodeToken{CodeToken::Kind::Sign, text.first(1)};
     }
     if (const qsizetype length = numberLength(text); length > 0) {
         const bool ends = length == text.size() || !isWordCharacter(text[length]);
@@ -131,6 +146,22 @@ std::optional<double> decimalValue(QStringView number)
     const double value = number.first(length).toDouble();
     // "1e999" is a number, too.
     return std::isfinite(value) ? std::optional(value) : std::nullopt;
+}
+
+std::optional<double> quotientValue(QStringView number, WholeQuotients whole)
+{
+    const qsizetype slash = number.indexOf(u'/');
+    if (slash < 0)
+        return decimalValue(number);
+    const auto isWhole = [](QStringView operand) { return std::ranges::all_of(operand, isDigit); };
+    const QStringView dividend = number.first(slash).trimmed();
+    const QStringView divisor = number.sliced(slash + 1).trimmed();
+    const std::optional<double> one = decimalValue(dividend);
+    const std::optional<double> other = decimalValue(divisor);
+    if (!one || !other || *other <= 0.0 ||
+        (whole == WholeQuotients::Truncated && isWhole(dividend) && isWhole(divisor)))
+        return std::nullopt;
+    return *one / *other;
 }
 
 } // namespace lumora

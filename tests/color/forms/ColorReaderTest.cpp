@@ -72,6 +72,26 @@ private slots:
         row("\"#80336699\"", "#33669980", "qml");
         row("QColor(51, 102, 153)", "#336699ff", "qml");
         row("Qt.rgba(0.2, 0.4, 0.6, 1)", "#336699ff", "qml");
+        // Colors out of lines of code.
+        row("0xFF336699", "#336699ff", "compose");
+        row("Color(0xff336699),", "#336699ff", "compose");
+        row("rgb(51 102 153);", "#336699ff", "css-rgb");
+        row("UIColor(red: 51/255, green: 102.0 / 255.0, blue: 153/255, alpha: 1)", "#336699ff", "uikit-swift");
+        row("[UIColor colorWithRed:51/255.0 green:102.0f/255.0f blue:153/255. alpha:1]", "#336699ff", "uikit-objc");
+        row("Qt.rgba(51/255, 102/255, 153/255, 1)", "#336699ff", "qml");
+        row("#colorLiteral(red: 0.2, green: 0.4, blue: 0.6, alpha: 1)", "#336699ff", "uikit-swift");
+        row("let brand = Color(red: 0.2, green: 0.4, blue: 0.6)", "#336699ff", "swiftui");
+        row("static let brand: UIColor = UIColor(white: 0.2, alpha: 1)", "#333333ff", "uikit-swift");
+        row("private val Brand = Color(0xFF336699)", "#336699ff", "compose");
+        row("final brand = const Color(0xFF336699);", "#336699ff", "flutter");
+        row("color: Color(0xFF336699),", "#336699ff", "compose");
+        row("self.view.backgroundColor = [UIColor colorWithWhite:0.2 alpha:1];", "#333333ff", "uikit-objc");
+        row("'#336699'", "#336699ff", "css-hex");
+        row("backgroundColor: 'rgb(51, 102, 153)',", "#336699ff", "css-rgb");
+        row("const brand = `oklch(0.49931 0.09866 250.433)`;", "#336699ff", "css-oklch");
+        row("'#33669980'", "#33669980", "css-hex");
+        row("color: \"#80336699\"", "#33669980", "qml");
+        row("hover:bg-[#369]", "#336699ff", "tailwind");
         row("{\"colors\":[{\"idiom\":\"universal\",\"color\":{\"color-space\":\"srgb\",\"components\":"
             "{\"red\":\"51\",\"green\":\"0.400\",\"blue\":\"0x99\",\"alpha\":\"1\"}}}]}",
             "#336699ff", "colorset");
@@ -90,6 +110,7 @@ private slots:
     void isRefused_data()
     {
         QTest::addColumn<QString>("text");
+        // "51/255" is 0 in languages that divide whole numbers to whole ones.
         for (const char *text :
              {"",
               " ",
@@ -145,6 +166,24 @@ private slots:
               "\"blue\":\"1\",\"alpha\":\"1\"}}}]}",
               "{\"colors\":[{\"color\":{\"color-space\":\"srgb\",\"components\":{\"red\":\"300\",\"green\":\"1\","
               "\"blue\":\"1\",\"alpha\":\"1\"}}}]}",
+              "[UIColor colorWithRed:51/255 green:102/255 blue:153/255 alpha:1]",
+              "Color.argb(1, 51/255, 102/255, 153/255)",
+              "UIColor(red: 51/0.0, green: 0, blue: 0, alpha: 1)",
+              "UIColor(red: 510/255, green: 0, blue: 0, alpha: 1)",
+              "UIColor(red: 51/255/1, green: 0, blue: 0, alpha: 1)",
+              "QColor(51/255, 102, 153)",
+              "0xFF3366",
+              "#colorLiteral(0.2, 0.4, 0.6, 1)",
+              "= #369",
+              "a = b = #369",
+              "brand == #369",
+              "f(x) = #369",
+              "'#336699",
+              "'#336699\"",
+              "''",
+              "'",
+              "let brand =",
+              "Color(0xFF336699),,",
               "bg-[]",
               "bg-[#12]",
               "--: #123",
