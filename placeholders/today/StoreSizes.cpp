@@ -62,10 +62,10 @@ constexpr std::array<ScreenshotSlot, 15> slotTable{{{"iPhone 6.9\""_L1, Device::
                                                     {"Apple Watch"_L1, Device::Watch, watch},
                                                     {"Apple TV"_L1, Device::Television, television}}};
 
-constexpr std::array<StoreSize, 23> appStore{
+constexpr std::array<StoreSize, 24> appStore{
     {iphone69[0], iphone69[1], iphone69[2], iphone65[0], iphone65[1], iphone63[0], iphone63[1], iphone61[0],
      iphone61[1], iphone61[2], iphone55[0], iphone47[0], ipad13[0],   ipad13[1],   ipad11[0],   ipad11[1],
-     ipad11[2],   ipad11[3],   ipad105[0],  ipad97[0],   mac[0],      mac[2],      mac[3]}};
+     ipad11[2],   ipad11[3],   ipad105[0],  ipad97[0],   mac[0],      mac[1],      mac[2],      mac[3]}};
 
 // Play: support.google.com/googleplay/android-developer, "Add preview assets".
 constexpr std::array<StoreSize, 4> play{{{{1080, 1920}, "phone"_L1},
@@ -86,18 +86,38 @@ constexpr std::array<StoreSize, 8> social{{{{1200, 630}, "Open Graph card"_L1},
                                            {{1000, 1500}, "pin"_L1}}};
 
 // The screens of iPhones and iPads since iOS 9, which a web app's startup images fill; Android's splash pictures by
-// bucket, and the square that a storyboard crops, both as in capacitor-assets.
-constexpr std::array<StoreSize, 28> launch{
-    {{{1320, 2868}, "iPhone"_L1},       {{1290, 2796}, "iPhone"_L1},        {{1284, 2778}, "iPhone"_L1},
-     {{1260, 2736}, "iPhone"_L1},       {{1242, 2688}, "iPhone"_L1},        {{1206, 2622}, "iPhone"_L1},
-     {{1179, 2556}, "iPhone"_L1},       {{1170, 2532}, "iPhone"_L1},        {{1125, 2436}, "iPhone"_L1},
-     {{1242, 2208}, "iPhone"_L1},       {{828, 1792}, "iPhone"_L1},         {{750, 1334}, "iPhone"_L1},
-     {{640, 1136}, "iPhone"_L1},        {{2064, 2752}, "iPad"_L1},          {{2048, 2732}, "iPad"_L1},
-     {{1668, 2420}, "iPad"_L1},         {{1668, 2388}, "iPad"_L1},          {{1668, 2224}, "iPad"_L1},
-     {{1640, 2360}, "iPad"_L1},         {{1620, 2160}, "iPad"_L1},          {{1536, 2048}, "iPad"_L1},
-     {{1488, 2266}, "iPad"_L1},         {{320, 480}, "Android mdpi"_L1},    {{480, 800}, "Android hdpi"_L1},
-     {{720, 1280}, "Android xhdpi"_L1}, {{960, 1600}, "Android xxhdpi"_L1}, {{1280, 1920}, "Android xxxhdpi"_L1},
-     {{2732, 2732}, "storyboard"_L1}}};
+// bucket, and the square that a storyboard crops, both as in capacitor-assets; the canvas of the icon that Android 12
+// and later show, 288 dp, and 240 dp on a ground of its own, at the density of xxxhdpi.
+constexpr std::array<StoreSize, 30> launch{{{{1320, 2868}, "iPhone"_L1},
+                                            {{1290, 2796}, "iPhone"_L1},
+                                            {{1284, 2778}, "iPhone"_L1},
+                                            {{1260, 2736}, "iPhone"_L1},
+                                            {{1242, 2688}, "iPhone"_L1},
+                                            {{1206, 2622}, "iPhone"_L1},
+                                            {{1179, 2556}, "iPhone"_L1},
+                                            {{1170, 2532}, "iPhone"_L1},
+                                            {{1125, 2436}, "iPhone"_L1},
+                                            {{1242, 2208}, "iPhone"_L1},
+                                            {{828, 1792}, "iPhone"_L1},
+                                            {{750, 1334}, "iPhone"_L1},
+                                            {{640, 1136}, "iPhone"_L1},
+                                            {{2064, 2752}, "iPad"_L1},
+                                            {{2048, 2732}, "iPad"_L1},
+                                            {{1668, 2420}, "iPad"_L1},
+                                            {{1668, 2388}, "iPad"_L1},
+                                            {{1668, 2224}, "iPad"_L1},
+                                            {{1640, 2360}, "iPad"_L1},
+                                            {{1620, 2160}, "iPad"_L1},
+                                            {{1536, 2048}, "iPad"_L1},
+                                            {{1488, 2266}, "iPad"_L1},
+                                            {{320, 480}, "Android mdpi"_L1},
+                                            {{480, 800}, "Android hdpi"_L1},
+                                            {{720, 1280}, "Android xhdpi"_L1},
+                                            {{960, 1600}, "Android xxhdpi"_L1},
+                                            {{1280, 1920}, "Android xxxhdpi"_L1},
+                                            {{2732, 2732}, "storyboard"_L1},
+                                            {{1152, 1152}, "Android 12"_L1},
+                                            {{960, 960}, "Android 12, on a ground"_L1}}};
 
 constexpr std::array<StoreSet, 7> sets{{{"app-store"_L1, appStore},
                                         {"play"_L1, play},

@@ -31,9 +31,28 @@ private slots:
             }
         }
         QCOMPARE(names.join(u' '), u"app-store play feature-graphic tv watch social launch"_s);
-        QCOMPARE(picturesOf(*storeSetNamed(u"app-store")).size(), std::size_t{23});
-        QCOMPARE(picturesOf(*storeSetNamed(u"launch")).size(), std::size_t{55});
+        QCOMPARE(picturesOf(*storeSetNamed(u"app-store")).size(), std::size_t{24});
+        QCOMPARE(picturesOf(*storeSetNamed(u"launch")).size(), std::size_t{57});
         QCOMPARE(storeSetNamed(u"ios"), nullptr);
+    }
+
+    void aSetHolds_data()
+    {
+        QTest::addColumn<QString>("set");
+        QTest::addColumn<QSize>("size");
+        for (const QSize size : {QSize(1280, 800), QSize(1440, 900), QSize(2560, 1600), QSize(2880, 1800)})
+            QTest::addRow("Mac of %d", size.width()) << u"app-store"_s << size;
+        QTest::newRow("feature graphic") << u"feature-graphic"_s << QSize(1024, 500);
+        QTest::newRow("splash icon") << u"launch"_s << QSize(1152, 1152);
+        QTest::newRow("splash icon on a ground") << u"launch"_s << QSize(960, 960);
+        QTest::newRow("splash of old, across") << u"launch"_s << QSize(1920, 1280);
+    }
+    void aSetHolds()
+    {
+        QFETCH(QString, set);
+        QFETCH(QSize, size);
+        const std::vector<StoreSize> pictures = picturesOf(*storeSetNamed(set));
+        QVERIFY(std::ranges::find(pictures, size, &StoreSize::size) != pictures.end());
     }
 
     void whatTheStoreSetsMakeIsWhatTheStoreTakes()
