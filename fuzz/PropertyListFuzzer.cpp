@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Any bytes as an Info.plist: read, and every fact drawn from it.
+// Any bytes as an Info.plist, and as a table of strings in its place: read, and every fact drawn from it.
 #include "validator/bundle/ArtworkChecks.h"
 #include "validator/bundle/MetadataChecks.h"
 #include "validator/bundle/PropertyList.h"
@@ -10,14 +10,16 @@ using namespace lumora;
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
+    const QByteArray bytes(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
     PackageFacts facts;
-    facts.appInfoPlist =
-        propertyListDictionary(QByteArray(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size)));
+    facts.appInfoPlist = propertyListDictionary(bytes);
+    if (const auto table = readStringsTable(bytes))
+        facts.localizedInfo.insert(QStringLiteral("en"), *table);
     const bool known = facts.appInfoPlist.has_value();
-    if (known == facts.appPlatform().isEmpty())
+    if (known == facts.appPlatform().isEmpty() || known == facts.shownPlatform().isEmpty())
         std::abort();
     facts.provisioningProfile =
-        facts.appName() + facts.appVersion() + facts.appMinimumOSVersion() + facts.appBundleIdentifier();
+        facts.shownName() + facts.appVersion() + facts.appMinimumOSVersion() + facts.appBundleIdentifier();
     const MetadataVerdicts verdicts = metadataVerdicts(facts);
     if (verdicts.bundleIdentifierValid == facts.appBundleIdentifier().isEmpty())
         std::abort();

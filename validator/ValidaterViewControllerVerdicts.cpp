@@ -80,7 +80,7 @@ void ValidaterViewController::updateInterface(const PackageFacts &facts, const E
     m_found = found;
     showFact(m_ui->appNameField, "VALIDATER_APP_NAME", facts.shownName());
     showFact(m_ui->appVersionField, "VALIDATER_APP_VERSION", facts.appVersion());
-    showFact(m_ui->appPlatformField, "VALIDATER_APP_PLATFORM", facts.appPlatform());
+    showFact(m_ui->appPlatformField, "VALIDATER_APP_PLATFORM", facts.shownPlatform());
     showFact(m_ui->appMinOSField, "VALIDATER_APP_MINIMUM_OS", facts.appMinimumOSVersion());
     showFact(m_ui->appBundleIDField, "VALIDATER_APP_BUNDLE_ID", facts.appBundleIdentifier());
     showFact(m_ui->appBuildField, "VALIDATER_BUILD",

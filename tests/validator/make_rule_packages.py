@@ -31,6 +31,12 @@ def for_mac(sandbox, **changes):
     return change
 
 
+def languages(**tables):
+    """The languages' own values for the Info.plist."""
+    return lambda package: package.files.update(
+        {f"{language}.lproj/InfoPlist.strings": content for language, content in tables.items()})
+
+
 def breaking(identity, other, developer, ended):
     """From a name to a function that changes a good package."""
     def info(**changes):
@@ -202,6 +208,8 @@ def breaking(identity, other, developer, ended):
         "purpose": code(imports=["_OBJC_CLASS_$_AVCaptureDevice"]),
         "purpose-likely": code(imports=["_OBJC_CLASS_$_EKEventStore"]),
         "purpose-empty": info(NSCameraUsageDescription=" "),
+        "purpose-empty in a language": languages(en=b'NSCameraUsageDescription = "To see.";',
+                                                 de=b'"NSCameraUsageDescription" = "";'),
         "required-reason": code(imports=["_statfs"]),
         "required-reason in a framework": code("bulb", selectors=["systemUptime"]),
         "privacy-form": lambda package: package.privacy.update({"NSPrivacyTracking": True}),
@@ -215,6 +223,10 @@ def breaking(identity, other, developer, ended):
         "seal a file named like the link": replace(f"{APP}/CodeResources", b"more"),
         "seal a link to elsewhere": replace(f"{APP}/CodeResources", Link("../../elsewhere")),
         "mac-sandbox": for_mac(None),
+        "privacy-form of a Mac app": for_mac(True, mac_privacy={"NSPrivacyTracking": True}),
+        "privacy-form of a Mac framework": for_mac(True, bulb_privacy={"NSPrivacyTracking": True}),
+        "seal of a Mac framework": for_mac(True, bulb_privacy={}, after=lambda files: files.update(
+            {f"{APP}/Contents/Frameworks/Bulb.framework/Versions/A/Resources/more.txt": b"more"})),
         "mac-profile": for_mac(True, profile=None),
         "signature entitlements by a byte": byte_of_entitlements,
         "export-compliance": drop("ITSAppUsesNonExemptEncryption"),
@@ -236,6 +248,16 @@ def keeping():
     def purpose(package):
         package.code.imports = ["_OBJC_CLASS_$_AVCaptureDevice"]
         package.info["NSCameraUsageDescription"] = "The lamp sees how bright it is."
+
+    def purpose_in_languages(package):
+        package.code.imports = ["_OBJC_CLASS_$_AVCaptureDevice"]
+        text = {"NSCameraUsageDescription": "The lamp sees how bright it is."}
+        languages(en=plistlib.dumps(text, fmt=plistlib.FMT_BINARY), de=plistlib.dumps(text))(package)
+
+    def purpose_from_a_language(package):
+        package.info["NSCameraUsageDescription"] = ""
+        text = '/* Why */\n"NSCameraUsageDescription" = "The lamp sees how bright it is.";\n'.encode("utf-16")
+        languages(en=text, de=text)(package)
 
     def facebook(package):
         package.info["FacebookAppID"] = "12345"
@@ -283,7 +305,9 @@ def keeping():
 
     return {"all": lambda package: None, "arm64": arm64, "public names": public_name, "a kit with its receipt": receipt,
             "a link to the seal": old_link, "a Mac app": for_mac(True), "a selector of that name": web_view_selector, "declared use": declared,
-            "purpose said": purpose, "facebook scheme": facebook, "the whole screen": full_screen, "tasks listed": tasks,
+            "purpose said": purpose, "purpose in languages": purpose_in_languages,
+            "purpose from a language": purpose_from_a_language,
+            "a Mac framework": for_mac(True, bulb_privacy={"NSPrivacyTracking": False}, mac_privacy={}), "facebook scheme": facebook, "the whole screen": full_screen, "tasks listed": tasks,
             "swift libraries twice": swift, "push with its entitlement": push, "wildcard profile": wildcard,
             "swift entry": entry}
 

@@ -53,6 +53,7 @@ class Package:
              "NSPrivacyAccessedAPITypeReasons": ["CA92.1"]}]}
         self.bulb_privacy = None
         self.is_for_mac = False
+        self.mac_privacy = None
         self.profile = profile(identity)
         self.share_profile = profile(identity)
         self.share_profile["Entitlements"] = self.share_profile["Entitlements"] | {
@@ -84,24 +85,51 @@ class Package:
         return {f"{folder}/{path}": content for path, content in files.items()}
 
     def mac_contents(self):
-        """The same app for the Mac, without frameworks and extensions."""
+        """The same app for the Mac, without extensions; with a framework only if it has a privacy manifest."""
         info = self.info | {"CFBundleSupportedPlatforms": ["MacOSX"], "DTPlatformName": "macosx", "LSMinimumSystemVersion": "13.0"}
         files = {"Info.plist": plistlib.dumps(info), "Resources/en.lproj/Localizable.strings": b""}
         if self.profile is not None:
             files["embedded.provisionprofile"] = signed(self.identity, self.profile)
+        if self.mac_privacy is not None:
+            files["Resources/PrivacyInfo.xcprivacy"] = plistlib.dumps(self.mac_privacy)
+        links = {}
+        if self.bulb_privacy is not None:
+            files |= self.mac_framework()
+            bulb = "Frameworks/Bulb.framework"
+            links = {f"{bulb}/Versions/Current": "A", f"{bulb}/Bulb": "Versions/Current/Bulb",
+                     f"{bulb}/Resources": "Versions/Current/Resources"}
         signer = Signer(self.identity, "com.example.lamp", self.entitlements)
         signer.info = files["Info.plist"]
-        signer.seal = seal(files, "MacOS/Lamp")
+        signer.seal = seal(files, "MacOS/Lamp", links)
         code = MachO(platform="macos", minimum="13.0")
         code.encryption = None
         code.signature_room = 0x6000
         code.sign = signer
         files |= {"MacOS/Lamp": code.bytes(), "_CodeSignature/CodeResources": signer.seal}
+        files |= {path: Link(target) for path, target in links.items()}
         return {f"{APP}/Contents/{path}": content for path, content in files.items()}
+
+    def mac_framework(self):
+        """The framework as the Mac has it: in a folder for its version."""
+        info = {key: value for key, value in self.bulb_info.items() if key != "MinimumOSVersion"}
+        files = {"Resources/Info.plist": plistlib.dumps(info | {"LSMinimumSystemVersion": "13.0"}),
+                 "Resources/PrivacyInfo.xcprivacy": plistlib.dumps(self.bulb_privacy)}
+        signer = Signer(self.identity, "com.example.bulb")
+        signer.info = files["Resources/Info.plist"]
+        signer.seal = seal(files, "Bulb")
+        code = MachO(filetype=DYLIB, platform="macos", minimum="13.0")
+        code.encryption = None
+        code.signature_room = 0x6000
+        code.sign = signer
+        files |= {"Bulb": code.bytes(), "_CodeSignature/CodeResources": signer.seal}
+        return {f"Frameworks/Bulb.framework/Versions/A/{path}": content for path, content in files.items()}
 
     def contents(self):
         if self.is_for_mac:
-            return self.mac_contents()
+            everything = self.mac_contents()
+            if self.after:
+                self.after(everything)
+            return everything
         bulb_files = {} if self.bulb_privacy is None else {"PrivacyInfo.xcprivacy": plistlib.dumps(self.bulb_privacy)}
         nested = self.sealed(self.bulb_path, bulb_files, self.bulb_info, self.bulb, "com.example.bulb", None)
         share_files = {"embedded.mobileprovision": signed(self.identity, self.share_profile)}

@@ -30,6 +30,25 @@ std::optional<QString> shownText(const QVariant &value)
     }
 }
 
+/// The devices of a family's number, or of the name of the platform that an app is built for.
+struct DeviceKind
+{
+    int family;
+    QLatin1StringView platform;
+    QLatin1StringView name;
+};
+
+constexpr DeviceKind deviceKinds[] = {
+    {1, {}, QLatin1StringView("iPhone")},
+    {2, {}, QLatin1StringView("iPad")},
+    {3, QLatin1StringView("AppleTVOS"), QLatin1StringView("Apple TV")},
+    {4, QLatin1StringView("WatchOS"), QLatin1StringView("Apple Watch")},
+    {6, QLatin1StringView("MacOSX"), QLatin1StringView("Mac")},
+    {7, QLatin1StringView("XROS"), QLatin1StringView("Apple Vision")},
+};
+/// The families for which an app has one name.
+constexpr int lastPhoneOrPad = 2;
+
 QVariantList arrayOrOne(const QVariant &value)
 {
     if (value.typeId() == QMetaType::QVariantList)
@@ -51,10 +70,15 @@ QString PackageFacts::appName() const
 
 QString PackageFacts::shownName() const
 {
-    if (const QString name = appName(); !name.isEmpty())
-        return name;
-    const QString name = text(u"CFBundleName"_s);
-    return name.isEmpty() ? text(u"CFBundleExecutable"_s) : name;
+    const QString bundleName = u"CFBundleName"_s;
+    const std::pair<QString, QString> names[] = {{appName(), u"CFBundleDisplayName"_s}, {text(bundleName), bundleName}};
+    for (const auto &[name, key] : names) {
+        const QString shown =
+            name.isEmpty() ? localizedText(localizedInfo, key, text(u"CFBundleDevelopmentRegion"_s)) : name;
+        if (!shown.isEmpty())
+            return shown;
+    }
+    return text(u"CFBundleExecutable"_s);
 }
 
 QString PackageFacts::appVersion() const
@@ -86,6 +110,29 @@ QString PackageFacts::appPlatform() const
         return u"iPhone & iPad"_s;
     const int first = families.isEmpty() ? 0 : leadingInteger(shownText(families.first()).value_or(QString()));
     return first == 1 ? u"iPhone"_s : u"iPad"_s;
+}
+
+QString PackageFacts::shownPlatform() const
+{
+    if (!appInfoPlist)
+        return {};
+    QList<int> families;
+    for (const QVariant &family : arrayOrOne(appInfoPlist->value(u"UIDeviceFamily"_s)))
+        families += leadingInteger(shownText(family).value_or(QString()));
+    const QVariantList platforms = arrayOrOne(appInfoPlist->value(u"CFBundleSupportedPlatforms"_s));
+    QStringList names;
+    bool isForOthers = false;
+    for (const auto &[family, platform, name] : deviceKinds) {
+        const bool isBuiltFor = !platform.isEmpty() && platforms.contains(QString(platform));
+        if (!families.contains(family) && !isBuiltFor)
+            continue;
+        names += name;
+        isForOthers = isForOthers || family > lastPhoneOrPad;
+    }
+    if (!isForOthers)
+        return appPlatform();
+    const QString last = names.takeLast();
+    return names.isEmpty() ? last : QString(names.join(u", "_s) + u" & "_s + last);
 }
 
 PlatformType PackageFacts::appPlatformType() const

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "LocalizedInfo.h"
+
 #include <QString>
 #include <QStringList>
 #include <QVariantMap>
@@ -27,6 +29,7 @@ struct PackageFacts
     /// slash when there is no bundle.
     QString appContentFolderPath;
     std::optional<QVariantMap> appInfoPlist; ///< empty when there is no readable one
+    LocalizedInfo localizedInfo;             ///< what the app's languages put in the place of the list's values
     QStringList appLocalizations;            ///< English names, in the order of the folders' names
     QStringList appImages;                   ///< file names, sorted
     /// `std::nullopt` when it was never received, empty when there is no readable profile.
@@ -34,7 +37,8 @@ struct PackageFacts
     bool hasApp = false; ///< there is a bundle, whatever its contents
 
     QString appName() const;
-    /// The name under which the app is seen: `appName()`, else the bundle's name, else that of its program.
+    /// The name under which the app is seen: `appName()`, else the bundle's name, each else as its languages have it,
+    /// else that of its program.
     QString shownName() const;
     QString appVersion() const;
     QString appBundleIdentifier() const;
@@ -44,6 +48,9 @@ struct PackageFacts
     /// "iPhone", "iPad" or "iPhone & iPad"; empty without a property list. A list without a family is that of an iPad
     /// app. A family without an array counts as an array of one.
     QString appPlatform() const;
+    /// The devices that the app is for, by name: `appPlatform()`, but of an app for other devices their own names, as
+    /// in "Apple TV" or "iPhone, iPad & Apple Vision".
+    QString shownPlatform() const;
     PlatformType appPlatformType() const;
     /// The schemes of the first URL type; empty when there is no URL type or it has no schemes. A scheme without an
     /// array counts as an array of one.

@@ -83,12 +83,17 @@ PackageFacts readBundle(const QString &ipaPath, const PackageSource &source, con
     }
     const QString folder = shownBundle(facts);
     facts.hasApp = source.isFolder(folder);
-    const BundleContents contents = bundleContents(loggedListing(source, folder));
+    const QStringList listing = loggedListing(source, folder);
+    const BundleContents contents = bundleContents(listing);
     if (contents.hasInfoPlist) {
         const auto bytes = source.read(folder + u"/Info.plist", PropertyListLimits().fileBytes);
         if (bytes)
             facts.appInfoPlist = propertyListDictionary(bytes.value());
     }
+    facts.localizedInfo = readLocalizedInfo(listing, [&source, &folder](const QString &path) {
+        const auto bytes = source.read(folder + u'/' + path, largestStringsTable);
+        return bytes ? bytes.value() : QByteArray();
+    });
     facts.appLocalizations = contents.localizations;
     facts.appImages = contents.images;
     facts.provisioningProfile = decoder.readProvisioning(source, folder + u"/embedded.mobileprovision");

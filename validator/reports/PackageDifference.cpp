@@ -86,9 +86,13 @@ NamedTexts permissionsIn(const PackageContents &contents)
     const PackageBundle &app = *contents.app();
     if (!app.info)
         return texts;
-    for (auto each = app.info->begin(); each != app.info->end(); ++each) {
-        if (each.key().startsWith(u"NS") && each.key().endsWith(u"UsageDescription"))
-            texts.insert(each.key(), valueText(each.value()));
+    QStringList keys = app.info->keys();
+    for (const StringsTable &table : app.localized)
+        keys += table.keys();
+    for (const QString &key : std::as_const(keys)) {
+        const QString text = app.shownText(key);
+        if (key.startsWith(u"NS") && key.endsWith(u"UsageDescription"))
+            texts.insert(key, text.isEmpty() ? valueText(app.info->value(key)) : text);
     }
     return texts;
 }

@@ -142,7 +142,7 @@ QJsonObject reportJson(const QString &file, const PackageReport &report)
         {u"file"_s, file},
         {u"name"_s, facts.shownName()},
         {u"version"_s, facts.appVersion()},
-        {u"platform"_s, facts.appPlatform()},
+        {u"platform"_s, facts.shownPlatform()},
         {u"minimumOS"_s, facts.appMinimumOSVersion()},
         {u"bundleIdentifier"_s, facts.appBundleIdentifier()},
         {u"build"_s, buildName(buildKind(facts))},

@@ -57,6 +57,29 @@ template <typename Enum> Enum enumIn(const QCborValue &value, Enum last)
     return static_cast<Enum>(std::clamp<qint64>(value.toInteger(), 0, static_cast<qint64>(last)));
 }
 
+QCborValue cbor(const LocalizedInfo &info)
+{
+    QCborMap languages;
+    for (auto language = info.cbegin(); language != info.cend(); ++language) {
+        QCborMap texts;
+        for (auto text = language->cbegin(); text != language->cend(); ++text)
+            texts.insert(text.key(), text.value());
+        languages.insert(language.key(), texts);
+    }
+    return languages;
+}
+
+LocalizedInfo localizedInfoIn(const QCborValue &value)
+{
+    LocalizedInfo info;
+    const QCborMap languages = value.toMap();
+    for (const auto &[language, texts] : languages) {
+        for (const auto &[key, text] : texts.toMap())
+            info[language.toString()].insert(key.toString(), text.toString());
+    }
+    return info;
+}
+
 QCborValue cbor(const std::optional<FoundContent> &found)
 {
     if (!found)
@@ -118,6 +141,7 @@ QByteArray bytesOf(const GatheredFacts &gathered)
     const QCborMap map{
         {u"folder"_s, facts.appContentFolderPath},
         {u"info"_s, facts.appInfoPlist ? QCborValue(QCborMap::fromVariantMap(*facts.appInfoPlist)) : nullptr},
+        {u"localized"_s, cbor(facts.localizedInfo)},
         {u"localizations"_s, QCborArray::fromStringList(facts.appLocalizations)},
         {u"images"_s, QCborArray::fromStringList(facts.appImages)},
         {u"profile"_s, facts.provisioningProfile ? QCborValue(*facts.provisioningProfile) : nullptr},
@@ -140,6 +164,7 @@ std::optional<GatheredFacts> gatheredFactsIn(const QByteArray &bytes, const QStr
     facts.appContentFolderPath = map[u"folder"_s].toString();
     if (const QCborValue info = map[u"info"_s]; info.isMap())
         facts.appInfoPlist = info.toMap().toVariantMap();
+    facts.localizedInfo = localizedInfoIn(map[u"localized"_s]);
     facts.appLocalizations = textsIn(map[u"localizations"_s]);
     facts.appImages = textsIn(map[u"images"_s]);
     if (const QCborValue profile = map[u"profile"_s]; profile.isString())

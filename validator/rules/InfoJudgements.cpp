@@ -267,7 +267,7 @@ Judgement judgeFacebook(const PackageContents &contents, const RuleSettings &)
 
 Judgement judgeLocalizationHoles(const PackageContents &contents, const RuleSettings &)
 {
-    const QString start = contents.app()->path + u'/';
+    const QString start = contents.app()->layout.resources + u'/';
     // From language to its tables, of the app itself only.
     QMap<QString, QSet<QString>> tables;
     for (const auto &[path, size] : contents.files) {

@@ -31,7 +31,7 @@ inline Judgement brokenBy(const QList<Evidence> &evidence)
 
 inline QString infoPath(const PackageBundle &bundle)
 {
-    return bundle.root + QStringLiteral("/Info.plist");
+    return bundle.layout.info;
 }
 
 /// From the app's binary, else from its Info.plist; unknown without both.

@@ -30,8 +30,9 @@ struct FoundFacts
 
 bool isKept(const QString &name)
 {
-    static const QStringList names{u"Info.plist"_s, u"embedded.mobileprovision"_s, u"embedded.provisionprofile"_s,
-                                   u"Assets.car"_s, u"PrivacyInfo.xcprivacy"_s,    u"CodeResources"_s};
+    static const QStringList names{u"Info.plist"_s,  u"embedded.mobileprovision"_s, u"embedded.provisionprofile"_s,
+                                   u"Assets.car"_s,  u"PrivacyInfo.xcprivacy"_s,    u"CodeResources"_s,
+                                   localizedInfoFile};
     return names.contains(name);
 }
 
@@ -237,25 +238,28 @@ QString ContentsReading::appPath() const
 PackageBundle ContentsReading::bundleAt(const QString &path, BundleKind kind) const
 {
     PackageBundle bundle;
-    const bool isForMac = !m_contents.holds(path + u"/Info.plist") && m_contents.holds(path + u"/Contents/Info.plist");
+    const BundleLayout layout = bundleLayout(m_source, path);
     bundle.path = path;
-    bundle.root = isForMac ? QString(path + u"/Contents") : path;
+    bundle.layout = layout;
     bundle.kind = kind;
-    bundle.info = propertyListDictionary(content(bundle.root + u"/Info.plist"));
+    bundle.info = propertyListDictionary(content(layout.info));
     // Without a readable Info.plist, as after a change to it, the code usually has the bundle's own name.
     const QString executable = bundle.info ? bundle.text(u"CFBundleExecutable"_s) : bundle.name().section(u'.', 0, -2);
     if (!executable.isEmpty() && !executable.contains(u'/'))
-        bundle.executable = bundle.root + (isForMac ? u"/MacOS/"_s : u"/"_s) + executable;
+        bundle.executable = layout.code + u'/' + executable;
     for (qsizetype i = 0; i < m_contents.binaries.size(); ++i) {
         if (m_contents.binaries[i].path == bundle.executable)
             bundle.binary = i;
     }
-    const QString resources = isForMac ? QString(bundle.root + u"/Resources") : path;
+    if (kind != BundleKind::Resources)
+        bundle.localized = readLocalizedInfo(
+            m_source.names(layout.resources),
+            [this, &folder = layout.resources](const QString &file) { return content(folder + u'/' + file); });
     const QString profile = bundle.profilePath();
     bundle.hasProfileFile = m_contents.holds(profile);
     bundle.profile = readProvisioningProfile(content(profile));
-    bundle.catalog = readAssetCatalog(content(resources + u"/Assets.car"));
-    const QString privacy = resources + u"/PrivacyInfo.xcprivacy";
+    bundle.catalog = readAssetCatalog(content(layout.resources + u"/Assets.car"));
+    const QString privacy = bundle.privacyPath();
     bundle.hasPrivacyFile = m_contents.holds(privacy);
     if (const auto list = propertyListDictionary(content(privacy)))
         bundle.privacy = readPrivacyManifest(*list);
@@ -278,12 +282,12 @@ void ContentsReading::readBundles()
 
 void ContentsReading::compareSeal(PackageBundle &bundle) const
 {
-    const QString start = bundle.root + u'/';
+    const QString start = bundle.layout.root + u'/';
     const QByteArray bytes = content(start + u"_CodeSignature/CodeResources");
     const CodeSignature *signature = m_contents.signatureOf(bundle);
     if (signature == nullptr)
         return;
-    const QByteArray info = content(start + u"Info.plist");
+    const QByteArray info = content(bundle.layout.info);
     const PackageBinary &binary = m_contents.binaries[bundle.binary];
     bundle.seal.infoBound = true;
     bundle.seal.sealBound = true;
@@ -330,24 +334,6 @@ void ContentsReading::compareSeals()
 }
 
 } // namespace
-
-QString PackageBundle::profilePath() const
-{
-    return root + (root == path ? u"/embedded.mobileprovision"_s : u"/embedded.provisionprofile"_s);
-}
-
-QString PackageBundle::text(const QString &key) const
-{
-    const QVariant value = info ? info->value(key) : QVariant();
-    switch (value.typeId()) {
-    case QMetaType::QString:
-    case QMetaType::LongLong:
-    case QMetaType::Double:
-        return value.toString();
-    default:
-        return {};
-    }
-}
 
 const PackageBinary *PackageContents::binaryOf(const PackageBundle &bundle) const
 {

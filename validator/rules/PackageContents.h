@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "BundleLayout.h"
 #include "PrivacyManifest.h"
 #include "validator/archive/PackageSource.h"
 #include "validator/binary/BinaryFacts.h"
@@ -8,6 +9,7 @@
 #include "validator/binary/signature/CodeSignature.h"
 #include "validator/binary/signature/ProvisioningProfile.h"
 #include "validator/binary/signature/ResourceSeal.h"
+#include "validator/bundle/LocalizedInfo.h"
 
 #include <QVariantMap>
 
@@ -44,9 +46,10 @@ struct BundleSeal
 struct PackageBundle
 {
     QString path;
-    QString root; ///< the folder of the Info.plist: the path, or "Contents" in it, as on the Mac
+    BundleLayout layout;
     BundleKind kind = BundleKind::App;
     std::optional<QVariantMap> info; ///< empty when there is no readable Info.plist
+    LocalizedInfo localized;         ///< what the bundle's languages put in the place of its values
     QString executable;              ///< path; empty when the bundle names none
     qsizetype binary = -1;           ///< number of the executable in `PackageContents::binaries`
     BundleSeal seal;
@@ -56,9 +59,13 @@ struct PackageBundle
     std::optional<PrivacyManifest> privacy;
     bool hasPrivacyFile = false;
 
-    QString profilePath() const;            ///< the place of the profile, whether there is one or not
-    QString text(const QString &key) const; ///< of the Info.plist; a number as text
+    QString profilePath() const;                          ///< the place of the profile, whether there is one or not
+    QString privacyPath() const;                          ///< likewise that of the privacy manifest
+    QString localizedPath(const QString &language) const; ///< the file of the language's values
+    QString text(const QString &key) const;               ///< of the Info.plist; a number as text
     bool has(const QString &key) const { return info && info->contains(key); }
+    /// The text as its users see it: that of the Info.plist, else as the languages have it.
+    QString shownText(const QString &key) const;
     /// The last step of the path.
     QString name() const { return path.mid(path.lastIndexOf(u'/') + 1); }
 };

@@ -62,7 +62,8 @@ template <std::size_t Count> Judgement judgeTexts(const PackageContents &content
     QSet<QString> said;
     for (const Purpose &purpose : purposes) {
         const QStringList keys = QString::fromLatin1(purpose.keys).split(u' ');
-        if (std::ranges::any_of(keys, [&](const QString &key) { return app.has(key); }))
+        if (std::ranges::any_of(keys,
+                                [&](const QString &key) { return app.has(key) || !app.shownText(key).isEmpty(); }))
             continue;
         for (const PackageBinary &binary : contents.binaries) {
             if (!importsClass(binary, purpose.className) || said.contains(keys.first()))
@@ -73,6 +74,11 @@ template <std::size_t Count> Judgement judgeTexts(const PackageContents &content
         }
     }
     return brokenBy(missing);
+}
+
+bool isPurpose(const QString &key)
+{
+    return key.endsWith("UsageDescription"_L1);
 }
 
 /// The first symbol of the category that the binary uses; empty if there is none.
@@ -126,8 +132,14 @@ Judgement judgeEmptyPurposes(const PackageContents &contents, const RuleSettings
         if (!bundle->info)
             continue;
         for (auto each = bundle->info->cbegin(); each != bundle->info->cend(); ++each) {
-            if (each.key().endsWith("UsageDescription"_L1) && each->toString().trimmed().isEmpty())
+            if (isPurpose(each.key()) && bundle->shownText(each.key()).trimmed().isEmpty())
                 empty += Evidence{infoPath(*bundle), worded("FOUND_EMPTY_KEY", {each.key()})};
+        }
+        for (auto language = bundle->localized.cbegin(); language != bundle->localized.cend(); ++language) {
+            for (auto each = language->cbegin(); each != language->cend(); ++each) {
+                if (isPurpose(each.key()) && each->trimmed().isEmpty())
+                    empty += Evidence{bundle->localizedPath(language.key()), worded("FOUND_EMPTY_KEY", {each.key()})};
+            }
         }
     }
     return brokenBy(empty);
@@ -164,11 +176,10 @@ Judgement judgePrivacyForm(const PackageContents &contents, const RuleSettings &
         if (!bundle.hasPrivacyFile)
             continue;
         found = true;
-        const QString path = bundle.path + u"/PrivacyInfo.xcprivacy";
         if (!bundle.privacy)
-            bad += Evidence{path, worded("FOUND_UNREADABLE")};
+            bad += Evidence{bundle.privacyPath(), worded("FOUND_UNREADABLE")};
         for (const QString &fault : bundle.privacy ? bundle.privacy->faults : QStringList())
-            bad += Evidence{path, fault};
+            bad += Evidence{bundle.privacyPath(), fault};
     }
     return found ? brokenBy(bad) : notApplicable(worded("FOUND_NO_MANIFEST"));
 }

@@ -64,7 +64,7 @@ QString faultText(SignatureFault fault)
 void addAll(QList<Evidence> &evidence, const QStringList &paths, const PackageBundle &bundle, const QString &text)
 {
     for (const QString &path : paths)
-        evidence += Evidence{bundle.root + u'/' + path, text};
+        evidence += Evidence{bundle.layout.root + u'/' + path, text};
 }
 
 /// The certificate that the app is signed with.
@@ -126,7 +126,7 @@ Judgement judgeSeal(const PackageContents &contents, const RuleSettings &)
         if (contents.signatureOf(*bundle) == nullptr)
             continue;
         found = true;
-        const QString sealPath = bundle->root + u"/_CodeSignature/CodeResources";
+        const QString sealPath = bundle->layout.root + u"/_CodeSignature/CodeResources";
         if (!bundle->seal.infoBound)
             bad += Evidence{infoPath(*bundle), worded("FOUND_CHANGED")};
         if (!bundle->seal.present)

@@ -69,6 +69,74 @@ private slots:
         QCOMPARE(facts.shownName(), u"Table lamp"_s);
     }
 
+    void namesOtherDevices_data()
+    {
+        QTest::addColumn<QVariant>("family");
+        QTest::addColumn<QStringList>("built");
+        QTest::addColumn<QString>("shown");
+        const auto row = [](const char *name, const QVariant &family, const QStringList &built, const QString &shown) {
+            QTest::newRow(name) << family << built << shown;
+        };
+        const QStringList phone{u"iPhoneOS"_s};
+        row("phone", QVariantList{1LL}, phone, u"iPhone"_s);
+        row("phone and pad", QVariantList{1LL, 2LL}, phone, u"iPhone & iPad"_s);
+        row("no family", absent, phone, u"iPad"_s);
+        row("an unknown family", QVariantList{9LL}, phone, u"iPad"_s);
+        row("television", QVariantList{3LL}, {u"AppleTVOS"_s}, u"Apple TV"_s);
+        row("television as a number", 3LL, {}, u"Apple TV"_s);
+        row("television as a text", u"3"_s, {}, u"Apple TV"_s);
+        row("television by its platform only", absent, {u"AppleTVOS"_s}, u"Apple TV"_s);
+        row("watch", QVariantList{4LL}, {u"WatchOS"_s}, u"Apple Watch"_s);
+        row("headset", QVariantList{7LL}, {u"XROS"_s}, u"Apple Vision"_s);
+        row("phone, pad and headset", QVariantList{1LL, 2LL, 7LL}, phone, u"iPhone, iPad & Apple Vision"_s);
+        row("pad and Mac", QVariantList{2LL, 6LL}, {u"MacOSX"_s}, u"iPad & Mac"_s);
+        row("Mac", absent, {u"MacOSX"_s}, u"Mac"_s);
+    }
+    void namesOtherDevices()
+    {
+        QFETCH(QVariant, family);
+        QFETCH(QStringList, built);
+        PackageFacts facts = withValue(u"UIDeviceFamily"_s, family);
+        facts.appInfoPlist->insert(u"CFBundleSupportedPlatforms"_s, QVariantList(built.begin(), built.end()));
+        QTEST(facts.shownPlatform(), "shown");
+        QVERIFY(PackageFacts().shownPlatform().isEmpty());
+    }
+
+    void fallsBackToTheLanguagesNames_data()
+    {
+        QTest::addColumn<QVariantMap>("info");
+        QTest::addColumn<QStringList>("languages");
+        QTest::addColumn<QString>("name");
+        const auto row = [](const char *name, const QVariantMap &info, const QStringList &languages,
+                            const QString &shown) { QTest::newRow(name) << info << languages << shown; };
+        const QString region = u"CFBundleDevelopmentRegion"_s;
+        const QVariantMap bare{{u"CFBundleExecutable"_s, u"lamp"_s}};
+        row("no language", bare, {}, u"lamp"_s);
+        row("the only language", bare, {u"fr"_s}, u"CFBundleDisplayName in fr"_s);
+        row("the development region first", {{region, u"fr"_s}}, {u"Base"_s, u"de"_s, u"en"_s, u"fr"_s},
+            u"CFBundleDisplayName in fr"_s);
+        row("then the base", {{region, u"it"_s}}, {u"Base"_s, u"de"_s, u"en"_s}, u"CFBundleDisplayName in Base"_s);
+        row("then English", {}, {u"de"_s, u"en"_s, u"fr"_s}, u"CFBundleDisplayName in en"_s);
+        row("English by its old name", {}, {u"Dutch"_s, u"English"_s}, u"CFBundleDisplayName in English"_s);
+        row("an own name before all", {{u"CFBundleDisplayName"_s, u"Lamp"_s}}, {u"en"_s}, u"Lamp"_s);
+        row("an empty own name", {{u"CFBundleDisplayName"_s, u""_s}}, {u"en"_s}, u"CFBundleDisplayName in en"_s);
+        row("a display name before the bundle's", {{u"CFBundleName"_s, u"Lamp"_s}}, {u"en"_s},
+            u"CFBundleDisplayName in en"_s);
+        row("the bundle's name in a language", bare, {u"en-name"_s}, u"CFBundleName in en-name"_s);
+    }
+    void fallsBackToTheLanguagesNames()
+    {
+        QFETCH(QVariantMap, info);
+        QFETCH(QStringList, languages);
+        PackageFacts facts;
+        facts.appInfoPlist = info;
+        for (const QString &language : languages) {
+            const QString key = language.endsWith("-name"_L1) ? u"CFBundleName"_s : u"CFBundleDisplayName"_s;
+            facts.localizedInfo[language].insert(key, key + u" in "_s + language);
+        }
+        QTEST(facts.shownName(), "name");
+    }
+
     void namesThePlatform_data()
     {
         QTest::addColumn<QVariant>("family");
