@@ -3,6 +3,7 @@
 
 #include "cli/console/CommandText.h"
 #include "devices/today/ModelList.h"
+#include "devices/today/ReasonWords.h"
 #include "validator/rules/DeviceDemands.h"
 
 #include <QJsonObject>
@@ -46,7 +47,9 @@ QStringList reasonTexts(const GroupVerdict &verdict)
 ModelFilter demandsOnModels(const PackageContents &contents)
 {
     const DeviceDemands demands = deviceDemandsOf(contents);
-    return filterOf(demands.minimumSystem, demands.padOnly, demands.capabilities);
+    ModelFilter filter = filterOf(demands.minimumSystem, demands.padOnly, demands.capabilities);
+    filter.otherDevice = demands.otherDevice;
+    return filter;
 }
 
 QStringList runnableModelLines(const ModelFilter &filter)
@@ -61,7 +64,7 @@ QStringList runnableModelLines(const ModelFilter &filter)
     QMap<QString, QStringList> others;
     for (const ModelGroup &group : groups) {
         if (const GroupVerdict verdict = verdictOn(group, filter); !verdict.fits)
-            others[reasonTexts(verdict).join(u", "_s)] += text(group.first().name);
+            others[reasonWords(verdict.reasons)] += text(group.first().name);
     }
     if (!others.isEmpty())
         lines += u"  "_s + commandText("CLI_VALIDATE_RUNS_NOT_ON");

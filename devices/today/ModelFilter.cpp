@@ -118,6 +118,9 @@ Having havingOf(const DeviceModel &model, ModelFeature feature)
 std::vector<FallsOutReason> reasonsAgainst(const DeviceModel &model, const ModelFilter &filter)
 {
     Reasons reasons;
+    // Versions and capabilities of another device say nothing of these models.
+    if (!filter.otherDevice.isEmpty())
+        return {{FallsOut::OtherDevice, filter.otherDevice}};
     addSystem(reasons, model, filter);
     if (!filter.families.empty() && !filter.families.contains(familyOf(model)))
         reasons.push_back({FallsOut::OtherFamily, text(familyName(familyOf(model)))});
@@ -146,6 +149,8 @@ QString reasonText(const FallsOutReason &reason)
         return u"ends at iOS "_s + reason.detail;
     case FallsOut::BeginsAfter:
         return u"begins with iOS "_s + reason.detail;
+    case FallsOut::OtherDevice:
+        return u"the app is for "_s + reason.detail;
     case FallsOut::OtherFamily:
         return u"is an "_s + reason.detail;
     case FallsOut::OtherChip:

@@ -46,13 +46,15 @@ struct ModelFilter
     QStringList screenClasses; ///< keys of `screenClasses()`
     std::set<Biometry> biometries;
     std::set<ModelFeature> features;
-    QString search; ///< words; the name or the identifier must contain each of them
+    QString otherDevice; ///< the only device of all, by name, which is none of the list: no model matches
+    QString search;      ///< words; the name or the identifier must contain each of them
 };
 
 /// The reason why a model does not match.
 enum class FallsOut {
     EndsBefore,  ///< `detail` is the newest version that it runs
     BeginsAfter, ///< `detail` is the oldest version that it runs
+    OtherDevice, ///< `detail` is the device that is none of the list
     OtherFamily, ///< `detail` is its family
     OtherChip,   ///< `detail` is its chip
     Lacks,       ///< `detail` is the capability's key

@@ -1908,6 +1908,10 @@
     <source>begins with iOS [DETAIL]</source>
     <translation>beginnt mit iOS [DETAIL]</translation>
   </message>
+  <message id="DEVICES_OTHER_DEVICE">
+    <source>the app is for [DETAIL]</source>
+    <translation>die App ist für [DETAIL]</translation>
+  </message>
   <message id="DEVICES_OTHER_FAMILY">
     <source>is an [DETAIL]</source>
     <translation>ist ein [DETAIL]</translation>

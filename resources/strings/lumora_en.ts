@@ -1906,6 +1906,10 @@
     <source>begins with iOS [DETAIL]</source>
     <translation>begins with iOS [DETAIL]</translation>
   </message>
+  <message id="DEVICES_OTHER_DEVICE">
+    <source>the app is for [DETAIL]</source>
+    <translation>the app is for [DETAIL]</translation>
+  </message>
   <message id="DEVICES_OTHER_FAMILY">
     <source>is an [DETAIL]</source>
     <translation>is an [DETAIL]</translation>

@@ -13,7 +13,7 @@ from pathlib import Path
 LUMORA, MAKE_RULE_PACKAGES = (Path(argument).resolve() for argument in sys.argv[1:3])
 LEVELS = {"error", "warning", "note"}
 # Of these each breaks the rule of its name.
-PACKAGES = ["keeps, all", "seal", "purpose-likely"]
+PACKAGES = ["keeps, all", "keeps, a Mac app", "seal", "purpose-likely"]
 
 
 class Reports(unittest.TestCase):
@@ -127,7 +127,15 @@ class Reports(unittest.TestCase):
         self.assertTrue(all(model["fits"] == (not model["reasons"]) for model in models))
         text = self.run_lumora("validate", "keeps, all.ipa", "--devices", "--rules", "classic").stdout.decode()
         self.assertRegex(text, r"(?m)^    iPhone: .*iPhone 6s")
-        self.assertRegex(text, r"(?m)^    ends at iOS 12.5.8: .*iPhone 5s")
+        self.assertRegex(text, r"(?m)^    endet bei iOS 12.5.8: .*iPhone 5s")
+        self.assertNotRegex(text, "ends at|lacks")
+
+    def test_models_of_another_device(self):
+        models = json.loads(self.run_lumora("validate", "keeps, a Mac app.ipa", "--devices", "--json").stdout)["models"]
+        self.assertEqual({tuple(model["reasons"]) for model in models}, {("the app is for Mac",)})
+        text = self.run_lumora("validate", "keeps, a Mac app.ipa", "--devices").stdout.decode()
+        self.assertRegex(text, r"(?m)^    iPhone: keine?$")
+        self.assertRegex(text, r"(?m)^    die App ist für Mac: .*iPhone 17")
 
     def test_no_place_for_a_report(self):
         ended = self.run_lumora("validate", "keeps, all.ipa", "--sarif", "none/report.sarif", "--json")

@@ -173,6 +173,7 @@ void ReviewSections::show(const PackageReview &review, const QDateTime &now)
     addSection(qtTrId("REVIEW_PRIVACY"), privacy);
     m_column->insertWidget(0, m_facts);
     m_sizes->setKinds(review.kinds);
+    m_models->setVisible(review.demands.otherDevice.isEmpty());
     m_lines << QString() << qtTrId("REVIEW_SIZES") << u"  "_s + m_sizes->words();
 }
 

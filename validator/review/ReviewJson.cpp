@@ -177,6 +177,7 @@ QByteArray bytesOf(const PackageReview &review)
         {u"minimum"_s, review.demands.minimumSystem},
         {u"padOnly"_s, review.demands.padOnly},
         {u"capabilities"_s, QJsonArray::fromStringList(review.demands.capabilities)},
+        {u"otherDevice"_s, review.demands.otherDevice},
         {u"largeIcon"_s, base64(review.largeIcon)},
     };
     return QJsonDocument(object).toJson(QJsonDocument::Compact);
@@ -202,7 +203,7 @@ std::optional<PackageReview> reviewIn(const QByteArray &bytes)
     review.manifests = listOf(document[u"manifests"_s], &manifestIn);
     review.kinds = listOf(document[u"kinds"_s], &kindIn);
     review.demands = {document[u"minimum"_s].toString(), document[u"padOnly"_s].toBool(),
-                      textsIn(document[u"capabilities"_s])};
+                      textsIn(document[u"capabilities"_s]), document[u"otherDevice"_s].toString()};
     review.largeIcon = pngIn(document[u"largeIcon"_s]);
     return review;
 }

@@ -37,6 +37,32 @@ bool isFor64BitOnly(const PackageContents &contents, const PackageBundle &app)
                                [](const BinarySlice &slice) { return slice.architecture.startsWith(u"arm64"); });
 }
 
+/// Of an app for several devices, the first one.
+QString otherDevice(const PackageContents &contents, const PackageBundle &app)
+{
+    switch (platformOf(contents)) {
+    case BinaryPlatform::MacOS:
+    case BinaryPlatform::MacCatalyst:
+        return u"Mac"_s;
+    case BinaryPlatform::TvOS:
+    case BinaryPlatform::TvOSSimulator:
+        return u"Apple TV"_s;
+    case BinaryPlatform::WatchOS:
+    case BinaryPlatform::WatchOSSimulator:
+        return u"Apple Watch"_s;
+    case BinaryPlatform::VisionOS:
+    case BinaryPlatform::VisionOSSimulator:
+        return u"Apple Vision"_s;
+    default:
+        break;
+    }
+    const QList<int> families = deviceFamilies(app);
+    if (families.contains(1) || families.contains(2))
+        return {};
+    const QMap<int, QString> names{{3, u"Apple TV"_s}, {4, u"Apple Watch"_s}, {6, u"Mac"_s}, {7, u"Apple Vision"_s}};
+    return names.value(families.first());
+}
+
 } // namespace
 
 DeviceDemands deviceDemandsOf(const PackageContents &contents)
@@ -49,6 +75,7 @@ DeviceDemands deviceDemandsOf(const PackageContents &contents)
     if (isFor64BitOnly(contents, *app))
         demands.capabilities += u"arm64"_s;
     demands.capabilities.removeDuplicates();
+    demands.otherDevice = otherDevice(contents, *app);
     return demands;
 }
 

@@ -25,6 +25,12 @@ BinaryPlatform platformOf(const PackageContents &contents)
         return BinaryPlatform::TvOS;
     if (name == "iphonesimulator"_L1)
         return BinaryPlatform::IosSimulator;
+    if (name == "watchos"_L1)
+        return BinaryPlatform::WatchOS;
+    if (name == "xros"_L1)
+        return BinaryPlatform::VisionOS;
+    if (name == "macosx"_L1)
+        return BinaryPlatform::MacOS;
     return BinaryPlatform::Unknown;
 }
 
@@ -39,7 +45,6 @@ bool isMacApp(const PackageContents &contents)
     return platform == BinaryPlatform::MacOS || platform == BinaryPlatform::MacCatalyst;
 }
 
-/// Whether the path has a folder directly inside one with the extension, as in "A.framework/Frameworks".
 QList<int> deviceFamilies(const PackageBundle &app)
 {
     const QVariant value = app.info ? app.info->value(u"UIDeviceFamily"_s) : QVariant();
