@@ -79,6 +79,24 @@ public:
         m_status = ExitStatus::Refused;
     }
 
+    /// Collects the existing files that stay.
+    void keep(const DensityPlan &plan)
+    {
+        for (const PlannedSource &source : plan.sources) {
+            for (const PlannedTarget &picture : source.pictures) {
+                if (!picture.written)
+                    m_kept.append(picture.target);
+            }
+        }
+    }
+
+    /// Says what stays, so that a run without work is no riddle.
+    void warnOfKept() const
+    {
+        if (!m_kept.isEmpty())
+            m_console.warn(commandText("CLI_DOWNSCALE_KEPT", {{"[COUNT]", QString::number(m_kept.size())}}));
+    }
+
     void stop(qsizetype planned)
     {
         m_console.complain(Interruption::complaint(m_files.size(), planned));
@@ -88,12 +106,13 @@ public:
     ExitStatus finish()
     {
         m_console.endProgress();
-        return m_console.finish(m_status, {{u"files"_s, m_files}});
+        return m_console.finish(m_status, {{u"files"_s, m_files}, {u"kept"_s, m_kept}});
     }
 
 private:
     Console &m_console;
     QJsonArray m_files;
+    QJsonArray m_kept;
     ExitStatus m_status = ExitStatus::Done;
 };
 
@@ -203,6 +222,7 @@ ExitStatus scaleToDensities(Console &console, const QStringList &sources, const 
     const DensityPlan plan = planDensities(sources, density);
     for (const Failure &failure : plan.failures)
         report.add(failure);
+    report.keep(plan);
     if (dryRun) {
         for (const PlannedSource &source : plan.sources) {
             for (const PlannedTarget &picture : source.pictures)
@@ -212,6 +232,7 @@ ExitStatus scaleToDensities(Console &console, const QStringList &sources, const 
     }
     keepFreedMemory();
     write(console, report, plan, {request.quality, density.existing});
+    report.warnOfKept();
     return report.finish();
 }
 

@@ -5435,6 +5435,10 @@
     <source>exists, would be left as it is</source>
     <translation>vorhanden, bliebe, wie es ist</translation>
   </message>
+  <message id="CLI_DOWNSCALE_KEPT">
+    <source>left as they are: [COUNT] files that are there already; replace them with --overwrite</source>
+    <translation>unverändert: [COUNT] Dateien, die es schon gibt; mit --overwrite werden sie ersetzt</translation>
+  </message>
   <message id="CLI_DRY_REPLACES">
     <source>exists, would be replaced</source>
     <translation>vorhanden, würde ersetzt</translation>

@@ -5433,6 +5433,10 @@
     <source>exists, would be left as it is</source>
     <translation>exists, would be left as it is</translation>
   </message>
+  <message id="CLI_DOWNSCALE_KEPT">
+    <source>left as they are: [COUNT] files that are there already; replace them with --overwrite</source>
+    <translation>left as they are: [COUNT] files that are there already; replace them with --overwrite</translation>
+  </message>
   <message id="CLI_DRY_REPLACES">
     <source>exists, would be replaced</source>
     <translation>exists, would be replaced</translation>

@@ -176,10 +176,15 @@ private slots:
         QCOMPARE(QDir(path(u"art"_s)).count(), 3U);
         QCOMPARE(runLumora(call).out, QString(path(u"art/a@2x.png"_s) + u'\n' + path(u"art/a.png"_s) + u'\n').toUtf8());
         QCOMPARE(QImage(path(u"art/a.png"_s)).size(), QSize(10, 10));
-        // A second run has nothing to do, and nothing is lost.
+        // A second run has nothing to do, says so, and nothing is lost.
         const LumoraRun again = runLumora(call);
         QCOMPARE(again.status, 0);
         QCOMPARE(again.out, QByteArray());
+        QCOMPARE(
+            again.complaints(),
+            QStringList{u"lumora: left as they are: 2 files that are there already; replace them with --overwrite"_s});
+        QCOMPARE(runLumora(call + QStringList{u"--json"_s}).json()[u"kept"_s].toArray(),
+                 QJsonArray({path(u"art/a@2x.png"_s), path(u"art/a.png"_s)}));
         const LumoraRun webp = runLumora(
             call + QStringList{u"--format"_s, u"webp"_s, u"--quality"_s, u"80"_s, u"--out"_s, path(u"out"_s)});
         QVERIFY2(webp.status == 0, webp.err);
