@@ -12,15 +12,17 @@ namespace lumora
 void DialogFileChooser::chooseFiles(QWidget *window, const FileRequest &request, FilesChosen chosen)
 {
     const QString start = request.startFolder.isEmpty() ? m_lastFolder : request.startFolder;
-    QFileDialog *dialog = makeFileDialog(window, request.message, existingStartFolder(start));
-    dialog->setFileMode(request.severalFiles ? QFileDialog::ExistingFiles : QFileDialog::ExistingFile);
-    if (!request.nameFilters.isEmpty())
-        dialog->setNameFilters(request.nameFilters);
-    QObject::connect(dialog, &QFileDialog::filesSelected, dialog, [this, chosen](const QStringList &paths) {
-        m_lastFolder = QFileInfo(paths.first()).absolutePath();
-        chosen(paths);
-    });
-    dialog->open();
+    const auto mode = request.severalFiles ? QFileDialog::ExistingFiles : QFileDialog::ExistingFile;
+    openFileDialog(window, {request.message, existingStartFolder(start), mode},
+                   [this, filters = request.nameFilters, chosen = std::move(chosen)](QFileDialog *dialog) {
+                       if (!filters.isEmpty())
+                           dialog->setNameFilters(filters);
+                       QObject::connect(dialog, &QFileDialog::filesSelected, dialog,
+                                        [this, chosen](const QStringList &paths) {
+                                            m_lastFolder = QFileInfo(paths.first()).absolutePath();
+                                            chosen(paths);
+                                        });
+                   });
 }
 
 } // namespace lumora

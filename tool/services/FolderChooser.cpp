@@ -12,16 +12,18 @@ namespace lumora
 void DialogFolderChooser::chooseFolder(QWidget *window, const FolderRequest &request, FolderChosen chosen,
                                        FolderDeclined declined)
 {
-    QFileDialog *dialog = makeFileDialog(window, request.message, existingStartFolder(request.startFolder));
-    dialog->setFileMode(QFileDialog::Directory);
-    dialog->setOption(QFileDialog::ShowDirsOnly);
-    QObject::connect(dialog, &QFileDialog::fileSelected, dialog, [chosen = std::move(chosen)](const QString &path) {
-        const QString absolute = QDir::cleanPath(QDir(path).absolutePath());
-        chosen(absolute);
-    });
-    if (declined)
-        QObject::connect(dialog, &QFileDialog::rejected, dialog, std::move(declined));
-    dialog->open();
+    const FileDialogRequest dialogRequest{request.message, existingStartFolder(request.startFolder),
+                                          QFileDialog::Directory};
+    openFileDialog(window, dialogRequest,
+                   [chosen = std::move(chosen), declined = std::move(declined)](QFileDialog *dialog) {
+                       dialog->setOption(QFileDialog::ShowDirsOnly);
+                       QObject::connect(dialog, &QFileDialog::fileSelected, dialog, [chosen](const QString &path) {
+                           const QString absolute = QDir::cleanPath(QDir(path).absolutePath());
+                           chosen(absolute);
+                       });
+                       if (declined)
+                           QObject::connect(dialog, &QFileDialog::rejected, dialog, declined);
+                   });
 }
 
 } // namespace lumora
