@@ -3,13 +3,13 @@
 
 #include "AppDelegate.h"
 #include "app/sidebar/ITSidebar.h"
+#include "app/sidebar/ITSidebarItemCell.h"
 #include "foundation/ToolFacts.h"
 #include "tool/DropView.h"
 #include "tool/ToolViewController.h"
 #include "tool/services/LocalFiles.h"
 #include "widgets/window/INAppStoreWindow.h"
 
-#include <QAbstractButton>
 #include <QDropEvent>
 #include <QFileInfo>
 #include <QMimeData>
@@ -77,16 +77,16 @@ std::optional<std::size_t> DropRouter::target(const QObject *watched, const QDro
     return toolFor(*event.mimeData(), inView, takesFiles);
 }
 
-void DropRouter::setHovered(DropView *view, QAbstractButton *item)
+void DropRouter::setHovered(DropView *view, ITSidebarItemCell *item)
 {
     if (m_hovered != nullptr && m_hovered != view)
         m_hovered->forget();
     m_hovered = view;
     if (m_markedItem != nullptr && m_markedItem != item)
-        m_markedItem->setDown(false);
+        m_markedItem->setDropTarget(false);
     m_markedItem = item;
     if (item != nullptr)
-        item->setDown(true);
+        item->setDropTarget(true);
 }
 
 bool DropRouter::eventFilter(QObject *watched, QEvent *event)
@@ -109,7 +109,7 @@ bool DropRouter::eventFilter(QObject *watched, QEvent *event)
     if (event->type() != QEvent::Drop) {
         view->judge(drop);
         setHovered(view,
-                   *tool == m_delegate.toolInView() ? nullptr : qobject_cast<QAbstractButton *>(m_items.key(*tool)));
+                   *tool == m_delegate.toolInView() ? nullptr : qobject_cast<ITSidebarItemCell *>(m_items.key(*tool)));
         return true;
     }
     setHovered(nullptr, nullptr);

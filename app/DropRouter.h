@@ -7,7 +7,6 @@
 
 #include <optional>
 
-class QAbstractButton;
 class QDropEvent;
 class QMimeData;
 class QWidget;
@@ -17,6 +16,7 @@ namespace lumora
 
 class AppDelegate;
 class DropView;
+class ITSidebarItemCell;
 
 /// Passes anything that is dropped in the window to the right tool: a package to the package check, a picture to the
 /// icons if the tool in view takes none, a color to the color tool, and a drop on an item of the sidebar to that item's
@@ -45,13 +45,13 @@ private:
     std::optional<std::size_t> target(const QObject *watched, const QDropEvent &event) const;
     DropView *dropViewOf(std::size_t index) const;
     /// Highlights the drop view that gets the drag, and the item of its tool if another tool is in view.
-    void setHovered(DropView *view, QAbstractButton *item);
+    void setHovered(DropView *view, ITSidebarItemCell *item);
 
     AppDelegate &m_delegate;
     QHash<QObject *, std::size_t> m_items; ///< of the sidebar
     QHash<QObject *, std::size_t> m_views; ///< the tools' drop views
     DropView *m_hovered = nullptr;         ///< highlighted for a drag over another widget
-    QPointer<QAbstractButton> m_markedItem;
+    QPointer<ITSidebarItemCell> m_markedItem;
 };
 
 } // namespace lumora

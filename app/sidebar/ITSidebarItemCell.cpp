@@ -36,6 +36,14 @@ void ITSidebarItemCell::setBadge(bool badge)
     update();
 }
 
+void ITSidebarItemCell::setDropTarget(bool dropTarget)
+{
+    if (m_dropTarget == dropTarget)
+        return;
+    m_dropTarget = dropTarget;
+    update();
+}
+
 void ITSidebarItemCell::setImage(const NamedImage &image)
 {
     if (m_image == image)
@@ -106,7 +114,7 @@ void ITSidebarItemCell::paintEvent(QPaintEvent *)
 
 void ITSidebarItemCell::drawBackgroundWithFrame(QPainter *painter, const QRectF &frame) const
 {
-    if (!underMouse() || state())
+    if ((!underMouse() && !m_dropTarget) || state())
         return;
     painter->setPen(Qt::NoPen);
     painter->setBrush(palette::sidebarHover);

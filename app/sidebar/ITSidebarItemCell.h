@@ -38,6 +38,10 @@ public:
     bool hasBadge() const { return m_badge; }
     void setBadge(bool badge);
 
+    /// Marks the item as the pointer does, while a drag over the window would go to its tool.
+    bool isDropTarget() const { return m_dropTarget; }
+    void setDropTarget(bool dropTarget);
+
     /// On means selected.
     bool state() const { return isChecked(); }
     bool isHighlighted() const { return isDown(); }
@@ -71,6 +75,7 @@ private:
     NamedImage m_alternateImage;
     TargetAction<ITSidebarItemCell> m_targetAction;
     bool m_badge = false;
+    bool m_dropTarget = false;
 };
 
 } // namespace lumora

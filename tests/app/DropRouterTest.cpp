@@ -208,14 +208,14 @@ private slots:
         content.setUrls({QUrl::fromLocalFile(u"/a.png"_s)});
         QDragEnterEvent enter(QPoint(400, 300), fileManagers, &content, Qt::LeftButton, Qt::NoModifier);
         QCoreApplication::sendEvent(delegate.window(), &enter);
-        QVERIFY(icons->isHighlighted());
+        QVERIFY(icons->isDropTarget());
         QDragLeaveEvent leave;
         QCoreApplication::sendEvent(delegate.window(), &leave);
-        QVERIFY(!icons->isHighlighted());
+        QVERIFY(!icons->isDropTarget());
         // The tool in view shows the drag by itself.
         delegate.sideBar()->setSelectedIndex(0);
         QCoreApplication::sendEvent(delegate.window(), &enter);
-        QVERIFY(!icons->isHighlighted());
+        QVERIFY(!icons->isDropTarget());
     }
 
     void whatNoToolTakesIsTurnedAway()

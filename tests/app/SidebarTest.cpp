@@ -326,6 +326,17 @@ private slots:
         QVERIFY(drawn.pixelColor(12, 31).rgb() != palette::sidebarSelection.rgb());
     }
 
+    void aDropTargetIsMarked()
+    {
+        Fixture fixture(2);
+        const auto inside = [&fixture] { return fixture.scrollView.grab().toImage().pixelColor(14, 31); };
+        const QColor unmarked = inside();
+        fixture.cell(0)->setDropTarget(true);
+        QVERIFY(inside().lightness() > unmarked.lightness());
+        fixture.cell(0)->setDropTarget(false);
+        QCOMPARE(inside(), unmarked);
+    }
+
     void scrollViewIsSetUp()
     {
         const Fixture fixture(0);

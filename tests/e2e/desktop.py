@@ -163,8 +163,8 @@ class Desktop:
         self.xdotool("mousemove", x, y, "click", 1)
 
     def drag_files(self, files, to, actions="copy,move,link", before_drop=None):
-        """Drags the files from another process's window and drops them at the point. Calls `before_drop` while
-        the pointer rests there."""
+        """Drags the files, or a color as #rrggbb, from another process's window and drops them at the point. Calls
+        `before_drop` while the pointer rests there."""
         start = None
         while not start:
             if self.source:

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
-// A window for dragging files: drag_source copy,move,link FILE...  Prints the operation when the drag has ended, and
-// keeps running to provide its data, which the receiver fetches after that.
+// A window for dragging files, or a color without any file: drag_source copy,move,link FILE...|#RRGGBB  Prints the
+// operation when the drag has ended, and keeps running to provide its data, which the receiver fetches after that.
 #include <QApplication>
+#include <QColor>
 #include <QDrag>
 #include <QMimeData>
 #include <QMouseEvent>
@@ -25,7 +26,8 @@ Qt::DropActions actionsNamed(const QString &names)
 class Source final : public QWidget
 {
 public:
-    Source(Qt::DropActions actions, QList<QUrl> files) : m_actions(actions), m_files(std::move(files))
+    Source(Qt::DropActions actions, QList<QUrl> files, QColor color)
+        : m_actions(actions), m_files(std::move(files)), m_color(color)
     {
         resize(120, 120);
         // Found by its color if windows have no ids.
@@ -38,7 +40,10 @@ protected:
     {
         auto *drag = new QDrag(this);
         auto *content = new QMimeData;
-        content->setUrls(m_files);
+        if (m_color.isValid())
+            content->setColorData(m_color);
+        else
+            content->setUrls(m_files);
         drag->setMimeData(content);
         const Qt::DropAction chosen = drag->exec(m_actions, Qt::CopyAction);
         QTextStream(stdout) << "dropped as " << static_cast<int>(chosen) << Qt::endl;
@@ -47,6 +52,7 @@ protected:
 private:
     Qt::DropActions m_actions;
     QList<QUrl> m_files;
+    QColor m_color;
 };
 
 } // namespace
@@ -58,9 +64,14 @@ int main(int argc, char **argv)
     if (arguments.size() < 3)
         return 2;
     QList<QUrl> files;
-    for (const QString &file : arguments.sliced(2))
-        files << QUrl::fromLocalFile(file);
-    Source source(actionsNamed(arguments.at(1)), files);
+    QColor color;
+    for (const QString &file : arguments.sliced(2)) {
+        if (file.startsWith(u'#'))
+            color = QColor(file);
+        else
+            files << QUrl::fromLocalFile(file);
+    }
+    Source source(actionsNamed(arguments.at(1)), files, color);
     source.show();
     return QApplication::exec();
 }

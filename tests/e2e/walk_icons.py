@@ -64,6 +64,12 @@ class Walk:
         lumora.wait_gone("This picture does not fit")
         assert lumora.shows("mine.png")
 
+        # A color alone is for the color tool.
+        desktop.drag_files(["#12ab34"], drop_area.middle)
+        wait_for("the color", lambda: [field.text for field in lumora.controls("text")] == ["#12ab34"])
+        lumora.find("page tab", "Icon generator").click()
+        lumora.wait_shown("mine.png")
+
         # Opened with the program from outside.
         assert desktop.start_again(str(self.other)) == 0
         lumora.wait_shown("other.png")
