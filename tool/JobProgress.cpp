@@ -57,6 +57,14 @@ void JobProgress::begin(qsizetype total)
     m_bar->startAnimation();
 }
 
+void JobProgress::beginReading()
+{
+    begin(1);
+    m_bar->setDoubleValue(1);
+    m_count->setText({});
+    m_name->setText({});
+}
+
 void JobProgress::setProgress(qsizetype done, qsizetype total, const QString &name)
 {
     m_bar->setDoubleValue(static_cast<double>(done));

@@ -31,6 +31,8 @@ public:
     /// Starts at nothing of the total.
     void begin(qsizetype total);
     void setProgress(qsizetype done, qsizetype total, const QString &name);
+    /// The same before a job, while it is unknown how much there is to read: the whole bar is striped, without a text.
+    void beginReading();
     void end();
 
 private:

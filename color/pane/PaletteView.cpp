@@ -38,7 +38,8 @@ PaletteView::PaletteView(QWidget *parent)
     : QWidget(parent), m_swatches(new SwatchList(this)), m_hint(new QLabel(qtTrId("COLOR_PALETTE_EMPTY"), this)),
       m_add(makeButton(qtTrId("COLOR_PALETTE_ADD"))), m_remove(makeButton(qtTrId("COLOR_PALETTE_REMOVE"))),
       m_open(makeButton(qtTrId("COLOR_PALETTE_OPEN"))), m_catalogue(makeButton(qtTrId("COLOR_CATALOGUE_OPEN"))),
-      m_save(makeButton(qtTrId("COLOR_PALETTE_SAVE"))), m_formats(new QComboBox(this))
+      m_stop(makeButton(qtTrId("STOP"))), m_save(makeButton(qtTrId("COLOR_PALETTE_SAVE"))),
+      m_formats(new QComboBox(this))
 {
     auto *title = new QLabel(qtTrId("COLOR_PALETTE"), this);
     styleLabel(title, latoBold(titleSize), palette::color);
@@ -57,6 +58,7 @@ PaletteView::PaletteView(QWidget *parent)
     connect(m_remove, &IconButton::clicked, this, &PaletteView::removeMarked);
     connect(m_open, &IconButton::clicked, this, &PaletteView::openWanted);
     connect(m_catalogue, &IconButton::clicked, this, &PaletteView::catalogueWanted);
+    connect(m_stop, &IconButton::clicked, this, &PaletteView::stopWanted);
     connect(m_save, &IconButton::clicked, this, &PaletteView::saveWanted);
     m_catalogue->setToolTip(qtTrId("COLOR_CATALOGUE_TIP"));
 
@@ -64,7 +66,8 @@ PaletteView::PaletteView(QWidget *parent)
     buttons->setSpacing(8);
     buttons->addWidget(title);
     buttons->addStretch(1);
-    for (QWidget *control : std::initializer_list<QWidget *>{m_add, m_remove, m_open, m_catalogue, m_formats, m_save})
+    for (QWidget *control :
+         std::initializer_list<QWidget *>{m_add, m_remove, m_open, m_catalogue, m_stop, m_formats, m_save})
         buttons->addWidget(control);
     auto *column = new QVBoxLayout(this);
     column->setContentsMargins({});
@@ -74,6 +77,7 @@ PaletteView::PaletteView(QWidget *parent)
     column->addWidget(m_swatches);
     styleLabel(m_hint, latoRegular(hintSize), palette::chromeText);
     m_hint->setFixedHeight(swatchesHeight);
+    m_stop->hide();
     alignToStart(m_hint, Qt::AlignTop);
     enableButtons();
 }
@@ -87,6 +91,13 @@ IconButton *PaletteView::makeButton(const QString &text)
     button->setActiveColor(palette::colorBorder);
     button->setFixedHeight(buttonHeight);
     return button;
+}
+
+void PaletteView::setReading(bool isReading)
+{
+    m_open->setHidden(isReading);
+    m_catalogue->setHidden(isReading);
+    m_stop->setVisible(isReading);
 }
 
 PaletteFormat PaletteView::format() const

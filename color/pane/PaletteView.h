@@ -28,6 +28,9 @@ public:
     IconButton *removeButton() const { return m_remove; }
     IconButton *openButton() const { return m_open; }
     IconButton *catalogueButton() const { return m_catalogue; }
+    /// In place of the two buttons that open while a slow file is read.
+    IconButton *stopButton() const { return m_stop; }
+    void setReading(bool isReading);
     IconButton *saveButton() const { return m_save; }
     QComboBox *formats() const { return m_formats; }
     PaletteFormat format() const;
@@ -38,6 +41,7 @@ signals:
     void removalWanted(int index);
     void openWanted();
     void catalogueWanted();
+    void stopWanted();
     void saveWanted();
 
 protected:
@@ -55,6 +59,7 @@ private:
     IconButton *m_remove;
     IconButton *m_open;
     IconButton *m_catalogue;
+    IconButton *m_stop;
     IconButton *m_save;
     QComboBox *m_formats;
 };

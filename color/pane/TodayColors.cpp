@@ -11,6 +11,7 @@
 #include "color/palettes/ColorCatalogue.h"
 #include "color/palettes/PaletteSaving.h"
 #include "color/picker/BFPopoverColorWell.h"
+#include "foundation/StoppableRead.h"
 #include "tool/FailureText.h"
 #include "tool/FileReading.h"
 #include "widgets/buttons/IconButton.h"
@@ -43,6 +44,8 @@ TodayColors::TodayColors(const Services &services, QObject *parent)
     m_rest.setSingleShot(true);
     m_rest.setInterval(restDuration);
     connect(&m_rest, &QTimer::timeout, this, [this] { keep(m_resting); });
+    m_patience.setSingleShot(true);
+    m_patience.setInterval(FileReading::patience);
 }
 
 QWidget *TodayColors::makePane(QWidget *parent)
@@ -75,6 +78,10 @@ void TodayColors::connectInput()
 void TodayColors::connectPalette()
 {
     PaletteView *view = m_pane->palette();
+    connect(m_reading, &FileReading::slow, view, [view] { view->setReading(true); });
+    connect(m_reading, &FileReading::ended, view, [view] { view->setReading(false); });
+    connect(&m_patience, &QTimer::timeout, view, [view] { view->setReading(true); });
+    connect(view, &PaletteView::stopWanted, this, &TodayColors::stopReading);
     connect(view, &PaletteView::chosen, this,
             [this](int index) { take(palette().at(static_cast<std::size_t>(index)).color); });
     connect(view, &PaletteView::addWanted, this, [this] { keep(m_color); });
@@ -161,14 +168,36 @@ void TodayColors::openPalette(const QString &path)
     });
 }
 
+void TodayColors::endSearch()
+{
+    m_patience.stop();
+    m_pane->palette()->setReading(false);
+}
+
+void TodayColors::stopReading()
+{
+    m_reading->stop();
+    m_searching.request_stop();
+    endSearch();
+}
+
 void TodayColors::openCatalogue(const QString &folder)
 {
     m_lastFolder = QFileInfo(folder).path();
-    m_jobs.start([this, folder](const BackgroundJob &job) {
-        const Result<CatalogueColors> read = readColorCatalogue(folder, job.stopToken());
-        job.post([=, this] {
-            if (!m_pane)
+    m_searching.request_stop();
+    m_searching = std::stop_source();
+    m_patience.start();
+    m_jobs.start([this, folder, stop = m_searching](const BackgroundJob &job) {
+        const std::stop_callback closing(job.stopToken(), [stop] { stop.request_stop(); });
+        const std::stop_token token = stop.get_token();
+        const std::function<Result<CatalogueColors>()> work = [=] { return readColorCatalogue(folder, token); };
+        const std::optional<Result<CatalogueColors>> answer = unlessStopped(work, token);
+        if (!answer)
+            return;
+        job.post([this, folder, token, read = *answer] {
+            if (!m_pane || token.stop_requested())
                 return;
+            endSearch();
             IconButton *button = m_pane->palette()->catalogueButton();
             if (!read) {
                 emit messageWanted(qtTrId("COLOR_PALETTE_REFUSED"), failureReason(read.failure()), button, true);

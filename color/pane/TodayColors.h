@@ -11,6 +11,7 @@
 #include <QWidget>
 
 #include <chrono>
+#include <stop_token>
 
 namespace lumora
 {
@@ -58,6 +59,8 @@ private:
     void showPalette();
     void openPalette(const QString &path);
     void openCatalogue(const QString &folder);
+    void endSearch();
+    void stopReading();
     void savePaletteInto(const QString &folder);
 
     Services m_services;
@@ -68,7 +71,9 @@ private:
     PickedPalette m_picked;
     QTimer m_rest;
     QString m_lastFolder;
-    BackgroundJobs m_jobs; ///< last, so that it waits for running jobs before other members are destroyed
+    std::stop_source m_searching; ///< of a catalog
+    QTimer m_patience;            ///< runs while a catalog is searched and that is not slow yet
+    BackgroundJobs m_jobs;        ///< last, so that it waits for running jobs before other members are destroyed
 };
 
 } // namespace lumora

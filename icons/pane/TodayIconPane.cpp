@@ -22,6 +22,7 @@
 #include "widgets/style/Palette.h"
 
 #include <QComboBox>
+#include <QFileInfo>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPlainTextEdit>
@@ -115,11 +116,11 @@ QWidget *underName(const QString &name, const QString &accessibleName, ColorEntr
 
 TodayIconPane::TodayIconPane(QWidget *parent)
     : QWidget(parent), m_dropView(new DropView), m_iconView(new IconView), m_title(new ElidedLabel),
-      m_status(new ElidedLabel), m_browse(makeButton(qtTrId("BROWSE"))), m_background(new ColorEntryField),
-      m_flatten(new ColorEntryField), m_name(new EntryField), m_all(makeButton(qtTrId("ICONS_ALL"))),
-      m_generate(makeButton(qtTrId("GENERATE"))), m_progress(new LBProgressBar), m_progressLabel(new QLabel),
-      m_cancel(makeButton(qtTrId("CANCEL"))), m_actions(new QStackedWidget), m_snippetSets(new QComboBox),
-      m_snippet(new QPlainTextEdit), m_copy(new IconButton), m_result(new JobResultView)
+      m_status(new ElidedLabel), m_browse(makeButton(qtTrId("BROWSE"))), m_stop(makeButton(qtTrId("STOP"))),
+      m_background(new ColorEntryField), m_flatten(new ColorEntryField), m_name(new EntryField),
+      m_all(makeButton(qtTrId("ICONS_ALL"))), m_generate(makeButton(qtTrId("GENERATE"))), m_progress(new LBProgressBar),
+      m_progressLabel(new QLabel), m_cancel(makeButton(qtTrId("CANCEL"))), m_actions(new QStackedWidget),
+      m_snippetSets(new QComboBox), m_snippet(new QPlainTextEdit), m_copy(new IconButton), m_result(new JobResultView)
 {
     auto *right = new QVBoxLayout;
     right->setSpacing(margin);
@@ -160,6 +161,8 @@ QWidget *TodayIconPane::makeSources()
     lines->addWidget(m_title);
     lines->addWidget(m_status);
     lines->addWidget(m_browse);
+    lines->addWidget(m_stop);
+    m_stop->hide();
     lines->addSpacing(gap);
     auto *grid = new QGridLayout;
     grid->setSpacing(8);
@@ -330,8 +333,33 @@ void TodayIconPane::toggleAll()
 
 void TodayIconPane::setStatus(const QString &text, bool isRefusal)
 {
+    m_statusText = text;
+    m_isRefusal = isRefusal;
+    if (m_stop->isHidden())
+        showStatus(text, isRefusal);
+}
+
+void TodayIconPane::showStatus(const QString &text, bool isRefusal)
+{
     styleLabel(m_status, latoBold(textSize), isRefusal ? palette::errorDark : palette::linkText);
     m_status->setText(text);
+}
+
+void TodayIconPane::showReading(const QString &path)
+{
+    showStatus(qtTrId("READING_FILE").replace("[FILE]"_L1, QFileInfo(path).fileName()), false);
+    // The focus passes from one to the other.
+    m_stop->show();
+    m_browse->hide();
+}
+
+void TodayIconPane::endReading()
+{
+    m_browse->show();
+    if (m_stop->hasFocus())
+        m_browse->setFocus();
+    m_stop->hide();
+    showStatus(m_statusText, m_isRefusal);
 }
 
 void TodayIconPane::showPreviews(const IconPreviews &previews)

@@ -48,7 +48,10 @@ public:
     DropView *dropView() const { return m_dropView; }
     IconView *iconView() const { return m_iconView; }
     ElidedLabel *title() const { return m_title; }
+    ElidedLabel *statusLabel() const { return m_status; }
     HoverButton *browseButton() const { return m_browse; }
+    /// In place of the button to browse while a slow file is read.
+    HoverButton *stopButton() const { return m_stop; }
     SourceWell *well(FurtherSource source) const { return m_wells[static_cast<std::size_t>(source)]; }
     ColorEntryField *backgroundField() const { return m_background; }
     /// The color that the icon is put on where a store forbids transparency.
@@ -68,6 +71,9 @@ public:
 
     /// The line below the icon; refusals have the color of errors.
     void setStatus(const QString &text, bool isRefusal);
+    /// Shows the file's name in place of the status until `endReading`.
+    void showReading(const QString &path);
+    void endReading();
     void showPreviews(const IconPreviews &previews);
     /// Shows the bar and the button to cancel in place of the buttons that start.
     /// File `number`, from 1, of `count` is being written.
@@ -85,12 +91,16 @@ private:
     QWidget *makePreviews();
     void toggle(TodaySet set);
     void toggleAll();
+    void showStatus(const QString &text, bool isRefusal);
 
     DropView *m_dropView;
     IconView *m_iconView;
     ElidedLabel *m_title;
     ElidedLabel *m_status;
     HoverButton *m_browse;
+    HoverButton *m_stop;
+    QString m_statusText;
+    bool m_isRefusal = false;
     std::array<SourceWell *, furtherSources.size()> m_wells{};
     ColorEntryField *m_background;
     ColorEntryField *m_flatten;

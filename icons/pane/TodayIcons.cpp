@@ -24,6 +24,7 @@
 #include <QFileInfo>
 #include <QPlainTextEdit>
 
+#include <algorithm>
 #include <cmath>
 #include <future>
 
@@ -71,8 +72,24 @@ QWidget *TodayIcons::makePane(QWidget *parent)
     return m_pane;
 }
 
+void TodayIcons::connectReading(FileReading *reading)
+{
+    connect(reading, &FileReading::slow, m_pane, [this, reading] { m_pane->showReading(reading->path()); });
+    connect(reading, &FileReading::ended, m_pane, [this] {
+        const bool isReading =
+            m_iconReading->isReading() ||
+            std::any_of(m_readings.begin(), m_readings.end(), [](const FileReading *one) { return one->isReading(); });
+        if (!isReading)
+            m_pane->endReading();
+    });
+    connect(m_pane->stopButton(), &HoverButton::clicked, reading, &FileReading::stop);
+}
+
 void TodayIcons::connectPane()
 {
+    connectReading(m_iconReading);
+    for (FileReading *reading : m_readings)
+        connectReading(reading);
     connect(m_pane->browseButton(), &HoverButton::clicked, this, &TodayIcons::browseIcon);
     connect(m_pane->iconView(), &IconView::pixelSideChanged, this, &TodayIcons::refresh);
     for (const FurtherSource source : furtherSources) {

@@ -74,6 +74,8 @@ private:
     };
 
     void connectPane();
+    /// Shows a slow read, with a button to stop it.
+    void connectReading(FileReading *reading);
     void connectRun();
     void browseSource(FurtherSource source);
     Artwork &artworkOf(FurtherSource source);

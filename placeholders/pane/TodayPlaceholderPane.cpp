@@ -144,6 +144,12 @@ void TodayPlaceholderPane::showSets()
     showSummary();
 }
 
+void TodayPlaceholderPane::beginReading()
+{
+    m_bottom->setCurrentWidget(m_progress);
+    m_progress->beginReading();
+}
+
 void TodayPlaceholderPane::beginProgress(qsizetype total)
 {
     m_resultView->clear();

@@ -48,6 +48,8 @@ public:
 
     void showReport(const std::vector<ScreenshotFacts> &screenshots);
     void showSets();
+    /// Offers to stop a slow read, until `endProgress`.
+    void beginReading();
     void beginProgress(qsizetype total);
     void endProgress();
     /// Shows a text in place of the summary until something changes.

@@ -4,6 +4,7 @@
 #include "LookFields.h"
 #include "TodayPlaceholderPane.h"
 #include "tool/FailureText.h"
+#include "tool/FileReading.h"
 #include "tool/JobProgress.h"
 #include "tool/JobResultView.h"
 #include "widgets/buttons/HoverButton.h"
@@ -36,6 +37,8 @@ JobResult resultOf(const PlaceholderRun &run, qsizetype wanted)
 
 TodayPlaceholders::TodayPlaceholders(const Services &services, QObject *parent) : QObject(parent), m_services(services)
 {
+    m_patience.setSingleShot(true);
+    m_patience.setInterval(FileReading::patience);
 }
 
 TodayPlaceholders::~TodayPlaceholders()
@@ -49,11 +52,21 @@ QWidget *TodayPlaceholders::makePane(QWidget *parent)
     m_pane = new TodayPlaceholderPane(parent);
     connect(m_pane->generateButton(), &HoverButton::clicked, this, &TodayPlaceholders::generate);
     connect(m_pane->checkButton(), &HoverButton::clicked, this, &TodayPlaceholders::chooseScreenshots);
-    connect(m_pane->progress()->cancelButton(), &HoverButton::clicked, this, [this] {
-        m_writing.request_stop();
-        m_pane->progress()->cancelButton()->setEnabled(false);
-    });
+    connect(m_pane->progress()->cancelButton(), &HoverButton::clicked, this, &TodayPlaceholders::cancel);
+    connect(&m_patience, &QTimer::timeout, m_pane, &TodayPlaceholderPane::beginReading);
     return m_pane;
+}
+
+void TodayPlaceholders::cancel()
+{
+    if (!m_isWriting) {
+        m_checking.request_stop();
+        endChecking();
+        m_pane->showSets();
+        return;
+    }
+    m_writing.request_stop();
+    m_pane->progress()->cancelButton()->setEnabled(false);
 }
 
 // Screenshots
@@ -75,6 +88,8 @@ void TodayPlaceholders::check(const QStringList &paths)
     m_checking = std::stop_source();
     m_pane->resultView()->clear();
     m_pane->showNote(qtTrId("SCALER_READING"));
+    m_isChecking = true;
+    m_patience.start();
     m_jobs.start([this, paths, reader = m_services.fileReader, stop = m_checking](const BackgroundJob &job) {
         const std::stop_callback closing(job.stopToken(), [stop] { stop.request_stop(); });
         const std::stop_token token = stop.get_token();
@@ -90,8 +105,17 @@ void TodayPlaceholders::check(const QStringList &paths)
     });
 }
 
+void TodayPlaceholders::endChecking()
+{
+    m_isChecking = false;
+    m_patience.stop();
+    if (!m_isWriting)
+        m_pane->endProgress();
+}
+
 void TodayPlaceholders::showScreenshots(const Screenshots &screenshots)
 {
+    endChecking();
     if (screenshots) {
         m_pane->showReport(screenshots.value());
         return;
@@ -116,6 +140,7 @@ void TodayPlaceholders::write(const QString &destination)
         return;
     m_lastFolder = destination;
     m_isWriting = true;
+    m_patience.stop();
     m_writing = std::stop_source();
     const LabeledOptions options = m_pane->fields()->options();
     m_pane->beginProgress(std::ssize(sizes));
@@ -138,6 +163,8 @@ void TodayPlaceholders::finish(const PlaceholderRun &run, qsizetype wanted)
 {
     m_isWriting = false;
     m_pane->endProgress();
+    if (m_isChecking)
+        m_patience.start();
     m_pane->resultView()->setResult(resultOf(run, wanted));
     emit jobEnded();
     if (run.folder.nameTaken)

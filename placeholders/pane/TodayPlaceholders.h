@@ -10,6 +10,7 @@
 
 #include <QObject>
 #include <QPointer>
+#include <QTimer>
 
 #include <stop_token>
 #include <vector>
@@ -47,6 +48,9 @@ private:
     using Screenshots = Result<std::vector<ScreenshotFacts>>;
 
     void showScreenshots(const Screenshots &screenshots);
+    void endChecking();
+    /// Stops what runs: the batch, or a slow read of screenshots.
+    void cancel();
     void generate();
     void write(const QString &destination);
     void finish(const PlaceholderRun &run, qsizetype wanted);
@@ -55,6 +59,8 @@ private:
     QPointer<TodayPlaceholderPane> m_pane; ///< owned by its parent
     QString m_lastFolder;
     bool m_isWriting = false;
+    bool m_isChecking = false;
+    QTimer m_patience; ///< runs while screenshots are read and that is not slow yet
     std::stop_source m_checking;
     std::stop_source m_writing;
     BackgroundJobs m_jobs; ///< last, so that it waits for running jobs before other members are destroyed

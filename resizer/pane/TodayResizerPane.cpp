@@ -112,6 +112,12 @@ void TodayResizerPane::showPlan(const DensityPlan &plan)
     QAccessible::updateAccessibility(&news);
 }
 
+void TodayResizerPane::beginReading()
+{
+    m_bottom->setCurrentWidget(m_progress);
+    m_progress->beginReading();
+}
+
 void TodayResizerPane::beginProgress(qsizetype total)
 {
     m_resultView->clear();

@@ -40,6 +40,8 @@ public:
     /// Shows a text in place of the plan's summary, and no plan that could be run.
     void showNote(const QString &note);
     void showPlan(const DensityPlan &plan);
+    /// Offers to stop a slow read, until `endProgress`.
+    void beginReading();
     void beginProgress(qsizetype total);
     void endProgress();
 

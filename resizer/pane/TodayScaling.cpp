@@ -4,6 +4,7 @@
 #include "ScalingChoices.h"
 #include "TodayResizerPane.h"
 #include "foundation/StoppableRead.h"
+#include "tool/FileReading.h"
 #include "tool/JobProgress.h"
 #include "tool/JobResultView.h"
 #include "widgets/buttons/HoverButton.h"
@@ -34,7 +35,11 @@ QString sourceName(const DensityPlan &plan, std::size_t index)
 
 } // namespace
 
-TodayScaling::TodayScaling(const Services &services, QObject *parent) : QObject(parent), m_services(services) {}
+TodayScaling::TodayScaling(const Services &services, QObject *parent) : QObject(parent), m_services(services)
+{
+    m_patience.setSingleShot(true);
+    m_patience.setInterval(FileReading::patience);
+}
 
 TodayScaling::~TodayScaling()
 {
@@ -57,6 +62,7 @@ void TodayScaling::connectPane()
     connect(m_pane->folderButton(), &HoverButton::clicked, this, &TodayScaling::chooseFolder);
     connect(m_pane->writeButton(), &HoverButton::clicked, this, &TodayScaling::write);
     connect(m_pane->progress()->cancelButton(), &HoverButton::clicked, this, &TodayScaling::cancel);
+    connect(&m_patience, &QTimer::timeout, m_pane, &TodayResizerPane::beginReading);
 }
 
 // Taking files
@@ -108,10 +114,12 @@ void TodayScaling::makePlan()
         return;
     const DensityRequest request = m_pane->choices()->request();
     if (request.to.empty()) {
+        endPlanning();
         m_pane->showNote(qtTrId("SCALER_NO_DENSITY"));
         return;
     }
     m_pane->showNote(qtTrId("SCALER_READING"));
+    m_patience.start();
     m_planning = std::stop_source();
     m_jobs.start([this, request, paths = m_paths, read = reading(), stop = m_planning](const BackgroundJob &job) {
         const std::stop_callback closing(job.stopToken(), [stop] { stop.request_stop(); });
@@ -127,8 +135,15 @@ void TodayScaling::makePlan()
     });
 }
 
+void TodayScaling::endPlanning()
+{
+    m_patience.stop();
+    m_pane->endProgress();
+}
+
 void TodayScaling::showPlan(const DensityRequest &request, const DensityPlan &plan)
 {
+    endPlanning();
     m_request = request;
     m_plan = plan;
     m_pane->showPlan(plan);
@@ -171,6 +186,14 @@ void TodayScaling::write()
 
 void TodayScaling::cancel()
 {
+    if (!m_isWriting) {
+        m_planning.request_stop();
+        endPlanning();
+        m_paths.clear();
+        m_plan = {};
+        m_pane->showNote({});
+        return;
+    }
     m_writing.request_stop();
     m_pane->progress()->cancelButton()->setEnabled(false);
 }

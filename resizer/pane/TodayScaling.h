@@ -7,6 +7,7 @@
 
 #include <QObject>
 #include <QPointer>
+#include <QTimer>
 
 #include <stop_token>
 
@@ -57,6 +58,7 @@ private:
     void chooseFolder();
     void chooseDestination();
     void makePlan();
+    void endPlanning();
     void showPlan(const DensityRequest &request, const DensityPlan &plan);
     void write();
     void cancel();
@@ -70,6 +72,7 @@ private:
     DensityPlan m_plan;
     bool m_isWriting = false;
     std::stop_source m_planning;
+    QTimer m_patience; ///< runs while a plan is made that is not slow yet
     std::stop_source m_writing;
     BackgroundJobs m_jobs; ///< last, so that it waits for running jobs before other members are destroyed
 };

@@ -11,6 +11,7 @@
 #include "icons/pane/TodayIconPane.h"
 #include "icons/pane/TodayIcons.h"
 #include "resources/Resources.h"
+#include "tests/doubles/HeldFiles.h"
 #include "tests/doubles/RecordingServices.h"
 #include "tool/JobResultView.h"
 #include "widgets/buttons/CheckboxButton.h"
@@ -31,7 +32,8 @@ namespace lumora
 /// The icon tool with its side of today in view, with recording services.
 struct TodayIconScene
 {
-    TodayIconScene() : tool(services.services())
+    explicit TodayIconScene(std::shared_ptr<const FileReader> reader = nullptr)
+        : services(servicesOver(std::move(reader))), tool(services.services())
     {
         window.resize(900, 660);
         tool.view()->setParent(&window);
@@ -39,6 +41,13 @@ struct TodayIconScene
         tool.popupView()->setAnimates(false);
         tool.sides()->show(ToolSide::Today);
         window.show();
+    }
+    static RecordingServices servicesOver(std::shared_ptr<const FileReader> reader)
+    {
+        RecordingServices services;
+        if (reader)
+            services.fileReader = std::move(reader);
+        return services;
     }
     TodayIconPane *pane() const { return tool.today()->pane(); }
     QString popupTitle() const

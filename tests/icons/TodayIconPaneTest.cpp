@@ -84,6 +84,39 @@ private slots:
         QCOMPARE(pane()->title()->text(), u"disk.png"_s);
     }
 
+    void aSlowReadIsStopped_data()
+    {
+        QTest::addColumn<bool>("isFurther");
+        QTest::newRow("of the icon") << false;
+        QTest::newRow("of a further source") << true;
+    }
+    void aSlowReadIsStopped()
+    {
+        QFETCH(bool, isFurther);
+        const QString path = saved(m_folder, u"slow.png"_s, disk(1024, {200, 30, 60}));
+        const auto share = std::make_shared<HeldFiles>();
+        m_scene = std::make_unique<TodayIconScene>(share);
+        QVERIFY(pane()->stopButton()->isHidden());
+        if (isFurther)
+            m_scene->tool.today()->readSource(FurtherSource::Dark, path);
+        else
+            m_scene->tool.today()->readIcon(path);
+        QTRY_VERIFY(pane()->stopButton()->isVisible());
+        QVERIFY(pane()->browseButton()->isHidden());
+        QCOMPARE(pane()->statusLabel()->text(), u"Reading slow.png…"_s);
+        m_scene->window.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&m_scene->window));
+        QTest::mouseClick(pane()->stopButton(), Qt::LeftButton);
+        QVERIFY(pane()->stopButton()->isHidden());
+        QVERIFY(pane()->browseButton()->isVisible());
+        QVERIFY(pane()->browseButton()->hasFocus());
+        QCOMPARE(pane()->statusLabel()->text(), u"Example picture"_s);
+        share->releaseAll();
+        QVERIFY(m_scene->drawnAfter([&] { m_scene->tool.today()->readIcon(path); }));
+        QCOMPARE(pane()->title()->text(), u"slow.png"_s);
+        QVERIFY(!preview(FurtherSource::Dark).isGiven);
+    }
+
     void tintedIsOneHue()
     {
         const QString icon = saved(m_folder, u"disk.png"_s, disk(1024, {255, 255, 255}, {0, 0, 0}));

@@ -15,6 +15,7 @@
 #include "color/pipette/Pipette.h"
 #include "foundation/WholeFile.h"
 #include "resources/Resources.h"
+#include "tests/doubles/HeldFiles.h"
 #include "tests/doubles/RecordingServices.h"
 #include "tool/DropView.h"
 #include "widgets/buttons/CheckboxButton.h"
@@ -65,11 +66,8 @@ private:
         emit well->colorPicked(well);
     }
 
-private slots:
-    void initTestCase() { installTexts(*QCoreApplication::instance(), QLocale(u"en"_s)); }
-    void init()
+    void make()
     {
-        m_services = std::make_unique<RecordingServices>();
         m_controller = std::make_unique<ColorViewController>(m_services->services());
         m_controller->view()->resize(835, 600);
         m_controller->view()->show();
@@ -79,6 +77,14 @@ private slots:
         QVERIFY(pane() == nullptr);
         m_controller->sides()->show(ToolSide::Today);
         QVERIFY(pane()->isVisible());
+    }
+
+private slots:
+    void initTestCase() { installTexts(*QCoreApplication::instance(), QLocale(u"en"_s)); }
+    void init()
+    {
+        m_services = std::make_unique<RecordingServices>();
+        make();
     }
     void cleanup()
     {
@@ -320,6 +326,27 @@ private slots:
         press(view->catalogueButton());
         m_services->folderChooser.confirm(folder.filePath(u"none"_s));
         QTRY_VERIFY(m_controller->popupView()->isVisible());
+    }
+
+    void aSlowPaletteIsStopped()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(u"a.gpl"_s);
+        QVERIFY(writeWholeFile(path, "GIMP Palette\n1 2 3 One\n").ok());
+        const auto share = std::make_shared<HeldFiles>();
+        m_services->fileReader = share;
+        make();
+        PaletteView *view = pane()->palette();
+        press(view->openButton());
+        m_services->fileChooser.confirm({path});
+        QTRY_VERIFY(view->stopButton()->isVisible());
+        QVERIFY(!view->openButton()->isVisible());
+        press(view->stopButton());
+        QVERIFY(view->openButton()->isVisible() && !view->stopButton()->isVisible());
+        share->releaseAll();
+        press(view->openButton());
+        m_services->fileChooser.confirm({path});
+        QTRY_COMPARE(palette(), QStringList{u"#010203ff"_s});
     }
 
     void whatIsNoPaletteIsRefused()

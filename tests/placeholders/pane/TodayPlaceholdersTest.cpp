@@ -279,6 +279,25 @@ private slots:
         QTRY_VERIFY2(summaryIs(summary), qPrintable(pane()->summary()->text()));
     }
 
+    void aSlowCheckIsStopped()
+    {
+        put(u"en/a.png"_s, {1320, 2868});
+        const auto share = std::make_shared<HeldFiles>();
+        m_services->fileReader = share;
+        make();
+        const QString before = pane()->summary()->text();
+        m_controller->dropViewReceivedFiles({at(u"en"_s)});
+        QTRY_VERIFY(pane()->progress()->isVisible());
+        QVERIFY2(summaryIs(u"Reading…"_s), qPrintable(pane()->summary()->text()));
+        press(pane()->progress()->cancelButton());
+        QVERIFY(pane()->checkButton()->isVisible());
+        QCOMPARE(pane()->summary()->text(), before);
+        share->releaseAll();
+        m_controller->dropViewReceivedFiles({at(u"en"_s)});
+        QTRY_VERIFY(pane()->showsReport());
+        QVERIFY(pane()->checkButton()->isVisible());
+    }
+
     void aStalledShareHoldsUpNothing()
     {
         put(u"en/a.png"_s, {1320, 2868});

@@ -243,6 +243,26 @@ private slots:
         QVERIFY(pane()->resultView()->text().startsWith(u"1 of 2 pictures in "_s));
     }
 
+    void aSlowPlanIsStopped()
+    {
+        const auto share = std::make_shared<HeldFiles>();
+        m_services->fileReader = share;
+        make();
+        const QString held = put(u"a@3x.png"_s, {90, 60});
+        m_controller->dropViewReceivedFiles({held});
+        QTRY_VERIFY(pane()->progress()->isVisible());
+        QVERIFY(!pane()->filesButton()->isVisible());
+        press(pane()->progress()->cancelButton());
+        QVERIFY(pane()->filesButton()->isVisible());
+        QVERIFY2(summaryIs(QString()), qPrintable(pane()->summary()->text()));
+        // Its answer comes too late, and is not part of the next plan.
+        share->releaseAll();
+        m_controller->dropViewReceivedFiles({put(u"b@3x.png"_s, {60, 60})});
+        QTRY_COMPARE(rows().value(0), u"b@3x.png|60 × 60|3x"_s);
+        QVERIFY(pane()->filesButton()->isVisible());
+        QVERIFY(!pane()->progress()->bar()->isAnimating());
+    }
+
     void aStalledShareHoldsUpNoPlan()
     {
         const auto share = std::make_shared<HeldFiles>();
