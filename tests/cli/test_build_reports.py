@@ -108,10 +108,12 @@ class Reports(unittest.TestCase):
         self.assertIn(b"seal.ipa", ended.stderr)
 
     def test_a_page(self):
-        ended = self.run_lumora("validate", "a & <b>.ipa", "broken.ipa", "keeps, all.ipa", "--html", "page.html")
+        ended = self.run_lumora("validate", self.folder / "a & <b>.ipa", "broken.ipa", "keeps, all.ipa", "--html", "page.html")
         self.assertEqual(ended.returncode, 3, ended)
         page = (self.folder / "page.html").read_text()
-        for shown in ("<h1>a &amp; &lt;b&gt;.ipa</h1>", "Befunde: 1 Fehler<", "Befunde: Nichts gefunden<", "com.example.lamp",
+        # A page is passed on, and where the package was is of no use there.
+        self.assertNotIn(str(self.folder), page)
+        for shown in ("<h1>Lamp</h1>", "<h1>broken.ipa</h1>", ">a &amp; &lt;b&gt;.ipa<", "Befunde: 1 Fehler<", "Befunde: Nichts gefunden<", "com.example.lamp",
                       "Das Siegel ist gebrochen", "Localizable.strings", "<td>TEAM123456</td>", "<td>für den App Store</td>", "Lamp.app"):
             self.assertIn(shown, page)
         # Nothing runs, and nothing comes from elsewhere.

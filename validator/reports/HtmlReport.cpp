@@ -4,6 +4,7 @@
 #include "foundation/PrintableText.h"
 #include "validator/rules/Wording.h"
 
+#include <QFileInfo>
 #include <QLocale>
 
 #include <algorithm>
@@ -25,7 +26,8 @@ constexpr const char *styleSheet =
     ".error{border-color:#b3261e}.warning{border-color:#9a6700}.note{border-color:#57606a}"
     ".code{color:#555}code{overflow-wrap:anywhere}summary,li{overflow-wrap:anywhere}"
     "details{margin-left:1em}ul{margin:0 0 0 1em;padding:0;list-style:none}"
-    "@media(prefers-color-scheme:dark){body{color:#ddd;background:#1b1b1b}th,.code{color:#aaa}}";
+    ":root{color-scheme:light "
+    "dark}@media(prefers-color-scheme:dark){body{color:#ddd;background:#1b1b1b}th,.code{color:#aaa}}";
 
 QString escaped(const QString &text)
 {
@@ -84,6 +86,19 @@ QString sizeHtml(const SizeNode &node)
     return html + u"</ul></details></li>\n"_s;
 }
 
+/// The file's name without its folders, which are nobody's business but the machine's.
+QString fileName(const ShownPackage &package)
+{
+    return QFileInfo(package.judged.file).fileName();
+}
+
+/// The app's name; the file's where there is no app.
+QString heading(const ShownPackage &package)
+{
+    const auto name = std::ranges::find(package.facts, worded("HTML_NAME"), &NamedValues::value_type::first);
+    return name == package.facts.end() ? fileName(package) : name->second;
+}
+
 QString packageHtml(const ShownPackage &package)
 {
     const JudgedPackage &judged = package.judged;
@@ -91,7 +106,8 @@ QString packageHtml(const ShownPackage &package)
     if (!package.iconPng.isEmpty())
         html += u"<img alt=\"\" src=\"data:image/png;base64,"_s + QString::fromLatin1(package.iconPng.toBase64()) +
                 u"\">"_s;
-    html += u"<h1>"_s + escaped(judged.file) + u"</h1></header>\n"_s;
+    html += u"<div><h1>"_s + escaped(heading(package)) + u"</h1><span class=\"code\">"_s + escaped(fileName(package)) +
+            u"</span></div></header>\n"_s;
     if (!judged.failure.isEmpty())
         return html + u"<p class=\"finding error\">"_s + escaped(judged.failure) + u"</p>\n</section>\n"_s;
     html += table(worded("HTML_FACTS"), package.facts);
@@ -121,7 +137,7 @@ QByteArray htmlReport(const QList<ShownPackage> &packages, const QString &versio
                    "content=\"default-src 'none'; img-src data:; style-src 'unsafe-inline'\">\n"
                    "<meta name=\"generator\" content=\"Lumora "_s +
                    version + u"\">\n<title>"_s +
-                   (packages.size() == 1 ? escaped(packages.first().judged.file) : worded("HTML_PACKAGES")) +
+                   (packages.size() == 1 ? escaped(heading(packages.first())) : worded("HTML_PACKAGES")) +
                    u"</title>\n<style>"_s + text(styleSheet) + u"</style>\n</head>\n<body>\n"_s;
     for (const ShownPackage &package : packages)
         html += packageHtml(package);
