@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Any bytes as a compiled asset catalogue.
-#include "validator/binary/catalog/AssetCatalog.h"
+// Any bytes as a compiled asset catalogue, as a whole and in pieces.
+#include "validator/binary/catalog/CatalogInPieces.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -9,8 +9,22 @@ using namespace lumora;
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
-    const auto catalog =
-        readAssetCatalog(QByteArrayView(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size)));
+    const QByteArrayView bytes(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
+    const auto pass = [&](const std::function<void(QByteArrayView)> &take) {
+        constexpr qsizetype pieceSize = 1000;
+        for (qsizetype at = 0; at < bytes.size(); at += pieceSize)
+            take(bytes.sliced(at, qMin(pieceSize, bytes.size() - at)));
+    };
+    CatalogInPieces pieces;
+    pass([&](QByteArrayView piece) { pieces.take(piece); });
+    const auto read = pieces.catalog(pass);
+    const auto catalog = readAssetCatalog(bytes);
+    if (read.has_value() != catalog.has_value())
+        std::abort();
+    // Blocks that lie over one another may need more room than there is.
+    if (read && !read->faults.contains(CatalogFault::TooLarge) &&
+        (read->renditions != catalog->renditions || read->facets != catalog->facets || read->faults != catalog->faults))
+        std::abort();
     if (!catalog)
         return 0;
     for (const CatalogRendition &rendition : catalog->renditions) {

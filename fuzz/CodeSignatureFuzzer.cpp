@@ -4,7 +4,7 @@
 #include "validator/binary/signature/CodeSignature.h"
 #include "validator/binary/signature/DerEntitlements.h"
 #include "validator/binary/signature/ProvisioningProfile.h"
-#include "validator/binary/signature/ResourceSeal.h"
+#include "validator/binary/signature/SealComparison.h"
 
 #include <cstdlib>
 
@@ -41,7 +41,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     readSigner(bytes, "content");
     readProvisioningProfile(bytes);
     entitlementsFromDer(bytes);
-    if (const auto seal = readResourceSeal(bytes))
-        compareWithSeal(*seal, {{QStringLiteral("file"), {}}}, {});
+    SealComparison comparison({{u"file"}}, {});
+    comparison.take(bytes);
+    comparison.findings();
     return 0;
 }

@@ -3858,6 +3858,22 @@
     <source>cannot be read</source>
     <translation>ist nicht lesbar</translation>
   </message>
+  <message id="FOUND_SEAL_TOO_LARGE">
+    <source>is larger than any seal that can be compared</source>
+    <translation>ist größer als jedes Siegel, das verglichen werden kann</translation>
+  </message>
+  <message id="FOUND_MORE_DIFFER">
+    <source>[A] more files differ</source>
+    <translation>[A] weitere Dateien weichen ab</translation>
+  </message>
+  <message id="FOUND_MORE_MISSING">
+    <source>more files are missing; the comparison ends here</source>
+    <translation>weitere Dateien fehlen; der Vergleich endet hier</translation>
+  </message>
+  <message id="FOUND_CATALOG_CUT_OFF">
+    <source>the asset catalog is damaged, or too large to be read completely</source>
+    <translation>der Asset-Katalog ist beschädigt oder zu groß, um ihn ganz zu lesen</translation>
+  </message>
   <message id="FOUND_NO_MANIFEST">
     <source>there is no privacy manifest</source>
     <translation>es gibt kein Datenschutzmanifest</translation>

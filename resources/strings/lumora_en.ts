@@ -3856,6 +3856,22 @@
     <source>cannot be read</source>
     <translation>cannot be read</translation>
   </message>
+  <message id="FOUND_SEAL_TOO_LARGE">
+    <source>is larger than any seal that can be compared</source>
+    <translation>is larger than any seal that can be compared</translation>
+  </message>
+  <message id="FOUND_MORE_DIFFER">
+    <source>[A] more files differ</source>
+    <translation>[A] more files differ</translation>
+  </message>
+  <message id="FOUND_MORE_MISSING">
+    <source>more files are missing; the comparison ends here</source>
+    <translation>more files are missing; the comparison ends here</translation>
+  </message>
+  <message id="FOUND_CATALOG_CUT_OFF">
+    <source>the asset catalog is damaged, or too large to be read completely</source>
+    <translation>the asset catalog is damaged, or too large to be read completely</translation>
+  </message>
   <message id="FOUND_NO_MANIFEST">
     <source>there is no privacy manifest</source>
     <translation>there is no privacy manifest</translation>

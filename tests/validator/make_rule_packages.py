@@ -10,11 +10,29 @@ import plistlib
 import sys
 from pathlib import Path
 
-from catalog_builder import app_icon
+from catalog_builder import app_icon, rendition
 from macho_builder import DYLIB, BUNDLE, MachO, patched_bytes
 from make_provisioning import TEAM, profile, signed
 from rule_package import APP, BULB, ORIENTATIONS, SHARE, Link, Package
 from signing import Identity, Signer, seal
+
+def with_pictures(entries, megabytes=5):
+    """The catalogue's entries, and so many of a megabyte that it does not come in one piece."""
+    return entries + [(facet, numbers, entry + bytes(1 << 20)) for facet, numbers, entry in
+                      (rendition(f"picture {n}", f"{n}.png", 900, 900, 2, part=181) for n in range(megabytes))]
+
+
+def with_rows(rows):
+    """A function that puts the rows into the newer list of the app's seal."""
+    def change(sealed):
+        at = sealed.rindex(b"</dict>", 0, sealed.index(b"<key>rules</key>"))
+        return sealed[:at] + rows + sealed[at:]
+    return change
+
+
+# About two megabytes, of files that may be missing.
+LONG_ROWS = b"".join(b"<key>%d.strings</key><dict><key>optional</key><true/></dict>" % n for n in range(30_000))
+
 
 def without(dictionary, *keys):
     return {key: value for key, value in dictionary.items() if key not in keys}
@@ -60,6 +78,9 @@ def breaking(identity, other, developer, ended):
 
     def icons(entries):
         return lambda package: setattr(package, "icons", entries)
+
+    def sealed_rows(rows):
+        return lambda package: setattr(package, "change_seal", with_rows(rows))
 
     def signer(**changes):
         return lambda package: package.signer.update(changes)
@@ -153,6 +174,7 @@ def breaking(identity, other, developer, ended):
         "icon-name": drop("CFBundleIcons", "CFBundleIcons~ipad"),
         "icon-name wrong": info(CFBundleIcons={"CFBundlePrimaryIcon": {"CFBundleIconName": "Other"}}),
         "icon-opaque": icons(app_icon(opaque=False)),
+        "icon-opaque in a long catalogue": icons(with_pictures(app_icon(opaque=False))),
         "pad-orientations": info(UISupportedInterfaceOrientations=ORIENTATIONS[:1]),
         "launch-screen": drop("UILaunchScreen"),
         "package-type": info(CFBundlePackageType="FMWK"),
@@ -190,6 +212,9 @@ def breaking(identity, other, developer, ended):
         "seal package-type unreadable": replace(f"{APP}/Info.plist", b"<plist><dict><key>CFBundleNa"),
         "seal embedded": lambda package: setattr(package, "after", lambda files: files.update(
             {f"{APP}/embedded.mobileprovision": signed(package.identity, package.profile | {"Name": "Another"})})),
+        "seal with more rows than can be compared": sealed_rows(
+            b"<key>m</key><dict><key>optional</key><true/></dict>" * 500_001),
+        "seal of files that are not there": sealed_rows(b"".join(b"<key>%d</key><dict/>" % n for n in range(20_000))),
         "seal missing": remove(f"{APP}/PrivacyInfo.xcprivacy"),
         "seal more": replace(f"{APP}/more.txt", b"more"),
         "certificate-kind": by(developer),
@@ -303,7 +328,13 @@ def keeping():
     def old_link(package):
         package.after = lambda files: files.update({f"{APP}/CodeResources": Link("_CodeSignature/CodeResources")})
 
-    return {"all": lambda package: None, "arm64": arm64, "public names": public_name, "a kit with its receipt": receipt,
+    def long_catalog(package):
+        package.icons = with_pictures(package.icons)
+
+    def long_seal(package):
+        package.change_seal = with_rows(LONG_ROWS)
+
+    return {"all": lambda package: None, "a long catalogue": long_catalog, "a long seal": long_seal, "arm64": arm64, "public names": public_name, "a kit with its receipt": receipt,
             "a link to the seal": old_link, "a Mac app": for_mac(True), "a selector of that name": web_view_selector, "declared use": declared,
             "purpose said": purpose, "purpose in languages": purpose_in_languages,
             "purpose from a language": purpose_from_a_language,

@@ -7,6 +7,7 @@ With "parts" only the parts of a signature: the signature, its message, its enti
 
 import hashlib
 import plistlib
+import re
 import struct
 import sys
 from pathlib import Path
@@ -50,14 +51,30 @@ def seals(out):
     files = {"Lamp": b"binary", "Info.plist": b"info", "PkgInfo": b"APPL????", "lamp.png": b"picture", "a/b.txt": b"text",
              "de.lproj/x.strings": b"worte", ".DS_Store": b"junk"}
     (out / "seal").write_bytes(seal(files, "Lamp", links={"link": "a/b.txt"}))
+    (out / "seal in binary form").write_bytes(plistlib.dumps(plistlib.loads(seal(files, "Lamp", links={"link": "a/b.txt"})),
+                                                             fmt=plistlib.FMT_BINARY))
     (out / "seal of old").write_bytes(seal(files, "Lamp", newer=False))
     nested = plistlib.loads(seal({"lamp.png": b"picture"}, "Lamp"))
     nested["files2"]["Frameworks/Bulb.framework"] = {"cdhash": b"b" * 20, "requirement": "anchor apple generic"}
     (out / "seal of nested code").write_bytes(plistlib.dumps(nested))
     rows = {f"file-{number}": {"hash2": bytes(32)} for number in range(1000)}
     body = plistlib.dumps({"files": {}, "files2": rows, "rules2": {"^.*": True}})
-    many = body.replace(b"</dict>\n\t<key>rules2", b"<key>more</key><dict/>" * 1_000_000 + b"</dict>\n\t<key>rules2")
-    (out / "seal of a million rows").write_bytes(many)
+    end_of_files = b"</dict>\n\t<key>rules2"
+
+    def with_rows(more):
+        return body.replace(end_of_files, more + end_of_files)
+
+    (out / "seal of a million rows").write_bytes(with_rows(b"<key>more</key><dict/>" * 1_000_000))
+    (out / "seal of a million rows that may be missing").write_bytes(
+        with_rows(b"<key>m</key><dict><key>optional</key><true/></dict>" * 1_000_000))
+    (out / "seal of a million rules").write_bytes(body.replace(b"<key>^.*</key>", b"<key>^.*</key><true/>" * 1_000_000 + b"<key>^.*</key>"))
+    laughs = "".join(f'<!ENTITY e{n} "{f"&e{n - 1};" * 10 if n else "ha" * 99}">' for n in range(10)).encode()
+    (out / "seal of entities").write_bytes(
+        re.sub(rb"<!DOCTYPE[^>]*>", b"<!DOCTYPE plist [" + laughs + b"]>", with_rows(b"<key>&e9;</key><dict/>")))
+    (out / "deep seal").write_bytes(with_rows(b"<key>deep</key>" + b"<dict><key>a</key>" * 100_000))
+    (out / "seal with a name without end").write_bytes(with_rows(b"<key>" + b"a" * (4 << 20)))
+    (out / "seal with a tag without end").write_bytes(with_rows(b'<key a="' + b"a" * (4 << 20)))
+    (out / "seal that is cut off").write_bytes(body[:-200])
     slow = {"files": {}, "files2": {}, "rules2": {"^(([a-z])+.)+[A-Z]([a-z])+$": True, "^.*": True}}
     (out / "seal with a slow rule").write_bytes(plistlib.dumps(slow))
     (out / "no seal").write_bytes(plistlib.dumps({"name": "value"}))

@@ -66,6 +66,7 @@ class Package:
         self.signer = {}
         self.executable = "Lamp"
         self.bulb_path = BULB
+        self.change_seal = None  # changes the app's seal before it is signed
         self.after = None  # changes the package after signing
 
     def sealed(self, folder, files, info, code, name, entitlements, sign=True, **changes):
@@ -76,6 +77,8 @@ class Package:
             signer = Signer(self.identity, name, entitlements)
             signer.info = files["Info.plist"]
             signer.seal = seal(files, executable)
+            if self.change_seal and folder == APP:
+                signer.seal = self.change_seal(signer.seal)
             for key, value in changes.items():
                 setattr(signer, key, value)
             code.sign = signer

@@ -105,6 +105,12 @@ QString catalogPath(const PackageBundle &app)
     return app.path + u"/Assets.car";
 }
 
+/// Whether the catalogue may hold more than could be read of it.
+bool isCatalogCutOff(const PackageBundle &app)
+{
+    return app.catalog && !app.catalog->faults.isEmpty();
+}
+
 Judgement judgeSizes(const PackageContents &contents, const QList<int> &edges, const QString &device,
                      bool (*fits)(const CatalogRendition &))
 {
@@ -117,6 +123,8 @@ Judgement judgeSizes(const PackageContents &contents, const QList<int> &edges, c
             continue;
         if (!app.catalog && namesLooseIcons(app))
             return cannotBeKnown(worded("FOUND_ICON_NAMES"));
+        if (isCatalogCutOff(app))
+            return cannotBeKnown(worded("FOUND_CATALOG_CUT_OFF"));
         missing += Evidence{app.catalog ? catalogPath(app) : app.path,
                             worded("FOUND_NO_ICON", {device, QString::number(edge)})};
     }
@@ -152,12 +160,16 @@ Judgement judgeMarketingIcon(const PackageContents &contents, const RuleSettings
     const PackageBundle &app = *contents.app();
     if (sdkOf(contents) < QVersionNumber(11))
         return notApplicable(worded("FOUND_BEFORE_IOS_11"));
+    if (!app.catalog && contents.holds(catalogPath(app)))
+        return brokenBy({{catalogPath(app), worded("FOUND_UNREADABLE")}});
     if (!app.catalog)
         return brokenBy({{app.path, worded("FOUND_NO_CATALOG")}});
     const bool found = std::ranges::any_of(iconPictures(app), [](const CatalogRendition &picture) {
         return picture.width == marketingEdge && picture.height == marketingEdge &&
                (fitsPhone(picture) || fitsPad(picture));
     });
+    if (!found && isCatalogCutOff(app))
+        return cannotBeKnown(worded("FOUND_CATALOG_CUT_OFF"));
     return found ? holds() : brokenBy({{catalogPath(app), worded("FOUND_NO_LARGE_ICON")}});
 }
 
@@ -173,6 +185,8 @@ Judgement judgeIconName(const PackageContents &contents, const RuleSettings &)
     const QString name = anyIconName(app);
     if (name.isEmpty())
         return brokenBy({{infoPath(app), worded("FOUND_NO_ICON_NAME")}});
+    if (app.catalog && !app.catalog->facets.contains(name) && isCatalogCutOff(app))
+        return cannotBeKnown(worded("FOUND_CATALOG_CUT_OFF"));
     if (app.catalog && !app.catalog->facets.contains(name))
         return brokenBy({{infoPath(app), worded("FOUND_UNKNOWN_ICON_NAME", {name})}});
     return holds();

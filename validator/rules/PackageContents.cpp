@@ -1,13 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "PackageContents.h"
+#include "FileGathering.h"
 
-#include "validator/binary/macho/BinaryInPieces.h"
 #include "validator/bundle/PropertyList.h"
 
 #include <algorithm>
-#include <map>
-#include <mutex>
-#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -16,160 +12,6 @@ namespace lumora
 
 namespace
 {
-
-constexpr quint64 largestBinary = quint64{1} << 30;
-constexpr qsizetype largestKept = 64 << 20;
-
-/// What a file holds beside its digests, for the few files that hold facts.
-struct FoundFacts
-{
-    QByteArray content;
-    std::optional<PackageBinary> binary;
-    bool isStaticArchive = false;
-};
-
-bool isKept(const QString &name)
-{
-    static const QStringList names{u"Info.plist"_s,  u"embedded.mobileprovision"_s, u"embedded.provisionprofile"_s,
-                                   u"Assets.car"_s,  u"PrivacyInfo.xcprivacy"_s,    u"CodeResources"_s,
-                                   localizedInfoFile};
-    return names.contains(name);
-}
-
-std::optional<PackageBinary> readBinary(const QString &path, QByteArrayView content)
-{
-    auto facts = readMachO(content);
-    if (!facts)
-        return std::nullopt;
-    PackageBinary binary{path, std::move(*facts), {}};
-    for (const BinarySlice &slice : binary.facts.slices) {
-        if (!slice.codeSignature)
-            continue;
-        const QByteArrayView part =
-            content.sliced(static_cast<qsizetype>(slice.range.offset), static_cast<qsizetype>(slice.range.size));
-        binary.signatures += readCodeSignature(part, *slice.codeSignature);
-    }
-    return binary;
-}
-
-/// Reads the entry from its start once more.
-void readAgain(const PackageSource &source, const PackageEntry &entry, const std::function<void(QByteArrayView)> &take)
-{
-    constexpr qsizetype blockSize = 1 << 16;
-    const auto stream = source.open(entry);
-    if (!stream)
-        return;
-    QByteArray block(blockSize, Qt::Uninitialized);
-    while (true) {
-        const auto count = stream.value()->read(block.data(), block.size());
-        if (!count || count.value() == 0)
-            return;
-        take(QByteArrayView(block).first(count.value()));
-    }
-}
-
-/// The results of the reading threads, by the entry's place in the source's list. Most files give digests only, so that
-/// the memory is small however many there are.
-class Gathering
-{
-public:
-    explicit Gathering(const PackageSource &source)
-        : m_source(source), m_digests(static_cast<std::size_t>(source.entries().size()))
-    {
-    }
-
-    void add(const PackageEntry &entry, const FileDigests &digests, FoundFacts found)
-    {
-        const std::size_t place = placeOf(entry);
-        const std::lock_guard lock(m_mutex);
-        m_digests[place] = digests;
-        if (found.binary || found.isStaticArchive || !found.content.isEmpty())
-            m_found.emplace(place, std::move(found));
-    }
-
-    const PackageSource &source() const { return m_source; }
-
-    /// Call these only when all threads are done.
-    const std::optional<FileDigests> &digests(const PackageEntry &entry) const { return m_digests[placeOf(entry)]; }
-    /// Null for a file without facts.
-    const FoundFacts *found(const PackageEntry &entry) const
-    {
-        const auto found = m_found.find(placeOf(entry));
-        return found == m_found.end() ? nullptr : &found->second;
-    }
-    QByteArray content(const QString &path) const
-    {
-        const PackageEntry *entry = m_source.find(path);
-        const FoundFacts *facts = entry == nullptr ? nullptr : found(*entry);
-        return facts == nullptr ? QByteArray() : facts->content;
-    }
-
-private:
-    std::size_t placeOf(const PackageEntry &entry) const
-    {
-        return static_cast<std::size_t>(&entry - m_source.entries().constData());
-    }
-
-    const PackageSource &m_source;
-    std::mutex m_mutex;
-    std::vector<std::optional<FileDigests>> m_digests;
-    std::map<std::size_t, FoundFacts> m_found;
-};
-
-class FileConsumer final : public EntryConsumer
-{
-public:
-    FileConsumer(const PackageEntry &entry, Gathering &gathering)
-        : m_entry(entry), m_gathering(gathering), m_keeps(isKept(entry.name()))
-    {
-    }
-
-    void take(QByteArrayView bytes) override
-    {
-        m_digesting.add(bytes);
-        if (m_first) {
-            m_first = false;
-            m_found.isStaticArchive = isStaticArchive(bytes);
-            if (isMachO(bytes)) {
-                // A file that comes in one piece is read where it is.
-                if (static_cast<quint64>(bytes.size()) == m_entry.size)
-                    m_found.binary = readBinary(m_entry.path, bytes);
-                else
-                    m_pieces.emplace(qMin<quint64>(m_entry.size, largestBinary));
-            }
-        }
-        if (m_pieces)
-            m_pieces->take(bytes);
-        else if (m_keeps && m_found.content.size() + bytes.size() <= largestKept)
-            m_found.content.append(bytes);
-    }
-
-    void finish(bool) override
-    {
-        if (m_pieces)
-            finishBinary();
-        m_gathering.add(m_entry, m_digesting.result(), std::move(m_found));
-    }
-
-private:
-    void finishBinary()
-    {
-        auto facts = m_pieces->facts();
-        if (!facts)
-            return;
-        QList<CodeSignature> signatures =
-            m_pieces->signatures(*facts, [this](const auto &take) { readAgain(m_gathering.source(), m_entry, take); });
-        m_found.binary = PackageBinary{m_entry.path, std::move(*facts), std::move(signatures)};
-    }
-
-    const PackageEntry &m_entry;
-    Gathering &m_gathering;
-    bool m_keeps;
-    bool m_first = true;
-    std::optional<BinaryInPieces> m_pieces; ///< of a long binary
-    FileDigesting m_digesting;
-    FoundFacts m_found;
-};
 
 std::optional<BundleKind> bundleKind(const QString &path)
 {
@@ -185,10 +27,21 @@ std::optional<BundleKind> bundleKind(const QString &path)
     return std::nullopt;
 }
 
+/// The path of the app; empty when there is none.
+QString appPath(const PackageSource &source)
+{
+    QString app;
+    for (const QString &name : source.names(u"Payload"_s)) {
+        if (name.endsWith(".app"_L1))
+            app = u"Payload/"_s + name;
+    }
+    return app;
+}
+
 class ContentsReading
 {
 public:
-    ContentsReading(const PackageSource &source, const Gathering &gathering, PackageContents &contents)
+    ContentsReading(const PackageSource &source, const FileGathering &gathering, PackageContents &contents)
         : m_source(source), m_gathering(gathering), m_contents(contents)
     {
     }
@@ -198,14 +51,16 @@ public:
     void compareSeals();
 
 private:
-    QString appPath() const;
     PackageBundle bundleAt(const QString &path, BundleKind kind) const;
     QByteArray content(const QString &path) const { return m_gathering.content(path); }
-    void compareSeal(PackageBundle &bundle) const;
+    bool binds(const PackageBinary &binary, SignatureSlot slot, const QString &path) const;
+    SealSubject sealSubject(const PackageBundle &bundle) const;
+    void compareSeal(PackageBundle &bundle);
 
     const PackageSource &m_source;
-    const Gathering &m_gathering;
+    const FileGathering &m_gathering;
     PackageContents &m_contents;
+    quint64 m_sealRoom = 2 * SealReader::mostBytes; ///< of all bundles' seals; bytes
 };
 
 void ContentsReading::readFiles()
@@ -223,16 +78,6 @@ void ContentsReading::readFiles()
         if (found->isStaticArchive)
             m_contents.staticArchives += entry.path;
     }
-}
-
-QString ContentsReading::appPath() const
-{
-    QString app;
-    for (const QString &name : m_source.names(u"Payload"_s)) {
-        if (name.endsWith(".app"_L1))
-            app = u"Payload/"_s + name;
-    }
-    return app;
 }
 
 PackageBundle ContentsReading::bundleAt(const QString &path, BundleKind kind) const
@@ -258,7 +103,10 @@ PackageBundle ContentsReading::bundleAt(const QString &path, BundleKind kind) co
     const QString profile = bundle.profilePath();
     bundle.hasProfileFile = m_contents.holds(profile);
     bundle.profile = readProvisioningProfile(content(profile));
-    bundle.catalog = readAssetCatalog(content(layout.resources + u"/Assets.car"));
+    if (const PackageEntry *catalog = m_source.find(layout.resources + u"/Assets.car"); catalog != nullptr) {
+        const FoundFacts *found = m_gathering.found(*catalog);
+        bundle.catalog = found == nullptr ? std::nullopt : found->catalog;
+    }
     const QString privacy = bundle.privacyPath();
     bundle.hasPrivacyFile = m_contents.holds(privacy);
     if (const auto list = propertyListDictionary(content(privacy)))
@@ -268,7 +116,7 @@ PackageBundle ContentsReading::bundleAt(const QString &path, BundleKind kind) co
 
 void ContentsReading::readBundles()
 {
-    const QString app = appPath();
+    const QString app = appPath(m_source);
     if (app.isEmpty())
         return;
     m_contents.bundles += bundleAt(app, BundleKind::App);
@@ -280,51 +128,68 @@ void ContentsReading::readBundles()
     }
 }
 
-void ContentsReading::compareSeal(PackageBundle &bundle) const
+/// Whether every code directory's slot has the hash of the file.
+bool ContentsReading::binds(const PackageBinary &binary, SignatureSlot slot, const QString &path) const
 {
-    const QString start = bundle.layout.root + u'/';
-    const QByteArray bytes = content(start + u"_CodeSignature/CodeResources");
-    const CodeSignature *signature = m_contents.signatureOf(bundle);
-    if (signature == nullptr)
-        return;
-    const QByteArray info = content(bundle.layout.info);
-    const PackageBinary &binary = m_contents.binaries[bundle.binary];
-    bundle.seal.infoBound = true;
-    bundle.seal.sealBound = true;
     for (const CodeSignature &each : binary.signatures) {
         for (const CodeDirectory &directory : each.directories) {
-            bundle.seal.infoBound = bundle.seal.infoBound && directory.binds(SignatureSlot::InfoPlist, info);
-            bundle.seal.sealBound = bundle.seal.sealBound && directory.binds(SignatureSlot::CodeResources, bytes);
+            if (!directory.bindsDigest(slot, m_gathering.digest(path, directory.digest)))
+                return false;
         }
     }
-    const auto seal = readResourceSeal(bytes);
-    if (!seal)
-        return;
-    bundle.seal.present = true;
-    QMap<QStringView, BundleFile> files;
-    for (const PackageEntry &entry : m_source.entries()) {
-        if (entry.kind == EntryKind::Folder || !entry.path.startsWith(start))
-            continue;
-        files.insert(files.cend(), QStringView(entry.path).sliced(start.size()),
-                     {m_gathering.digests(entry), entry.linkTarget, entry.kind == EntryKind::Link});
-    }
+    return true;
+}
+
+SealSubject ContentsReading::sealSubject(const PackageBundle &bundle) const
+{
+    const QString start = bundle.layout.root + u'/';
     SealSubject subject{bundle.executable.mid(start.size()), {}};
+    const auto add = [&](const QString &path, const CodeSignature &code) {
+        for (const CodeDirectory &directory : code.directories)
+            subject.nestedHashes[path.mid(start.size())] += directory.shortHash;
+    };
     for (const PackageBundle &nested : m_contents.bundles) {
         const CodeSignature *code = m_contents.signatureOf(nested);
-        if (code == nullptr || !nested.path.startsWith(start))
-            continue;
-        for (const CodeDirectory &directory : code->directories)
-            subject.nestedHashes[nested.path.mid(start.size())] += directory.shortHash;
+        if (code != nullptr && nested.path.startsWith(start))
+            add(nested.path, *code);
     }
     for (const PackageBinary &nested : m_contents.binaries) {
         if (!nested.path.startsWith(start))
             continue;
-        for (const CodeSignature &code : nested.signatures) {
-            for (const CodeDirectory &directory : code.directories)
-                subject.nestedHashes[nested.path.mid(start.size())] += directory.shortHash;
-        }
+        for (const CodeSignature &code : nested.signatures)
+            add(nested.path, code);
     }
-    bundle.seal.findings = compareWithSeal(*seal, files, subject);
+    return subject;
+}
+
+void ContentsReading::compareSeal(PackageBundle &bundle)
+{
+    if (m_contents.signatureOf(bundle) == nullptr)
+        return;
+    const QString start = bundle.layout.root + u'/';
+    const QString sealPath = start + u"_CodeSignature/CodeResources";
+    const PackageBinary &binary = m_contents.binaries[bundle.binary];
+    bundle.seal.infoBound = binds(binary, SignatureSlot::InfoPlist, bundle.layout.info);
+    bundle.seal.sealBound = binds(binary, SignatureSlot::CodeResources, sealPath);
+    const PackageEntry *seal = m_source.find(sealPath);
+    if (seal == nullptr || seal->kind == EntryKind::Folder)
+        return;
+    if (seal->size > m_sealRoom) {
+        bundle.seal.findings.state = SealState::TooLarge;
+        return;
+    }
+    m_sealRoom -= seal->size;
+    std::vector<BundleFile> files;
+    const QList<PackageEntry> &entries = m_source.entries();
+    for (auto entry = std::ranges::lower_bound(entries, start, {}, &PackageEntry::path);
+         entry != entries.cend() && entry->path.startsWith(start); ++entry) {
+        if (entry->kind != EntryKind::Folder)
+            files.push_back({QStringView(entry->path).sliced(start.size()), m_gathering.digests(*entry),
+                             entry->linkTarget, entry->kind == EntryKind::Link});
+    }
+    SealComparison comparison(std::move(files), sealSubject(bundle));
+    readEntry(m_source, *seal, [&](QByteArrayView bytes) { return comparison.take(bytes); });
+    bundle.seal.findings = comparison.findings();
 }
 
 void ContentsReading::compareSeals()
@@ -361,12 +226,14 @@ bool PackageContents::holdsFolder(const QString &path) const
 PackageContents readPackageContents(const PackageSource &source, const std::stop_token &stop,
                                     const ReadingProgress &progress)
 {
-    Gathering gathering(source);
+    const QString app = appPath(source);
+    FileGathering gathering(source,
+                            app.isEmpty() ? QString() : QString(bundleLayout(source, app).resources + u"/Assets.car"));
     WholeReading reading = source.readAll(
         [&](const PackageEntry &entry) {
             if (progress)
                 progress(entry.size);
-            return std::make_unique<FileConsumer>(entry, gathering);
+            return gathering.consumerFor(entry);
         },
         stop);
     PackageContents contents;

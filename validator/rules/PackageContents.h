@@ -8,7 +8,7 @@
 #include "validator/binary/catalog/AssetCatalog.h"
 #include "validator/binary/signature/CodeSignature.h"
 #include "validator/binary/signature/ProvisioningProfile.h"
-#include "validator/binary/signature/ResourceSeal.h"
+#include "validator/binary/signature/SealComparison.h"
 #include "validator/bundle/LocalizedInfo.h"
 
 #include <QVariantMap>
@@ -36,7 +36,6 @@ struct PackageBinary
 /// The comparison of a bundle's files with its signature.
 struct BundleSeal
 {
-    bool present = false;   ///< there is a readable seal
     bool infoBound = false; ///< the signature is about this Info.plist
     bool sealBound = false; ///< the signature is about this seal
     SealFindings findings;
@@ -55,7 +54,7 @@ struct PackageBundle
     BundleSeal seal;
     std::optional<ProvisioningProfile> profile;
     bool hasProfileFile = false;
-    std::optional<AssetCatalog> catalog;
+    std::optional<AssetCatalog> catalog; ///< of the app; no rule asks for those of nested bundles
     std::optional<PrivacyManifest> privacy;
     bool hasPrivacyFile = false;
 

@@ -127,16 +127,24 @@ Judgement judgeSeal(const PackageContents &contents, const RuleSettings &)
             continue;
         found = true;
         const QString sealPath = bundle->layout.root + u"/_CodeSignature/CodeResources";
+        const SealFindings &findings = bundle->seal.findings;
         if (!bundle->seal.infoBound)
             bad += Evidence{infoPath(*bundle), worded("FOUND_CHANGED")};
-        if (!bundle->seal.present)
-            bad +=
-                Evidence{sealPath, contents.holds(sealPath) ? worded("FOUND_UNREADABLE") : worded("FOUND_NOT_THERE")};
+        if (findings.state == SealState::NotThere)
+            bad += Evidence{sealPath, worded("FOUND_NOT_THERE")};
+        else if (findings.state == SealState::Unreadable)
+            bad += Evidence{sealPath, worded("FOUND_UNREADABLE")};
+        else if (findings.state == SealState::TooLarge)
+            bad += Evidence{sealPath, worded("FOUND_SEAL_TOO_LARGE")};
         else if (!bundle->seal.sealBound)
             bad += Evidence{sealPath, worded("FOUND_CHANGED")};
-        addAll(bad, bundle->seal.findings.changed, *bundle, worded("FOUND_CHANGED"));
-        addAll(bad, bundle->seal.findings.missing, *bundle, worded("FOUND_SEALED_MISSING"));
-        addAll(bad, bundle->seal.findings.extra, *bundle, worded("FOUND_NOT_SEALED"));
+        addAll(bad, findings.changed, *bundle, worded("FOUND_CHANGED"));
+        addAll(bad, findings.missing, *bundle, worded("FOUND_SEALED_MISSING"));
+        addAll(bad, findings.extra, *bundle, worded("FOUND_NOT_SEALED"));
+        if (findings.unlisted > 0)
+            bad += Evidence{sealPath, worded("FOUND_MORE_DIFFER", {QString::number(findings.unlisted)})};
+        if (findings.endsEarly)
+            bad += Evidence{sealPath, worded("FOUND_MORE_MISSING")};
     }
     return found ? brokenBy(bad) : notApplicable(worded("FOUND_NOTHING_SIGNED"));
 }

@@ -1,14 +1,33 @@
 // SPDX-License-Identifier: MIT
 #include "validator/binary/catalog/AssetCatalog.h"
 #include "tests/doubles/ScriptedFiles.h"
+#include "validator/binary/catalog/CatalogInPieces.h"
 
+#include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QtEndian>
 
 using namespace lumora;
 using namespace Qt::StringLiterals;
+
+namespace
+{
+
+std::optional<AssetCatalog> readInPieces(const QByteArray &bytes, qsizetype pieceSize)
+{
+    const auto pass = [&](const std::function<void(QByteArrayView)> &take) {
+        for (qsizetype at = 0; at < bytes.size(); at += pieceSize)
+            take(QByteArrayView(bytes).sliced(at, qMin(pieceSize, bytes.size() - at)));
+    };
+    CatalogInPieces pieces;
+    pass([&](QByteArrayView piece) { pieces.take(piece); });
+    return pieces.catalog(pass);
+}
+
+} // namespace
 
 class AssetCatalogTest : public QObject
 {
@@ -107,6 +126,65 @@ private slots:
         QVERIFY(catalog);
         QVERIFY(catalog->faults.contains(fault));
         QVERIFY(timer.elapsed() < 2000);
+    }
+
+    void readsTheSameInPieces_data()
+    {
+        QTest::addColumn<int>("unused");
+        for (const QString &file : QDir(m_files.path()).entryList(QDir::Files))
+            QTest::newRow(qPrintable(file)) << 0;
+    }
+    void readsTheSameInPieces()
+    {
+        const QByteArray bytes = contents(QTest::currentDataTag());
+        const auto whole = readAssetCatalog(bytes);
+        for (const qsizetype pieceSize : {1, 17, 5000, 1 << 16}) {
+            const auto pieces = readInPieces(bytes, pieceSize);
+            QCOMPARE(pieces.has_value(), whole.has_value());
+            if (!whole)
+                continue;
+            QCOMPARE(pieces->faults, whole->faults);
+            QCOMPARE(pieces->facets, whole->facets);
+            QCOMPARE(pieces->tool, whole->tool);
+            QVERIFY(pieces->renditions == whole->renditions);
+        }
+    }
+
+    void keepsNoMoreThanItSays_data()
+    {
+        QTest::addColumn<int>("blocks");
+        QTest::addColumn<quint32>("blockSize");
+        // All blocks are at the same place.
+        QTest::newRow("many entries at one place") << 400'000 << 176U;
+        QTest::newRow("long nodes at one place") << 100 << (1U << 20);
+        QTest::newRow("a table of blocks that is too long") << 600'000 << 0U;
+    }
+    void keepsNoMoreThanItSays()
+    {
+        QFETCH(int, blocks);
+        QFETCH(quint32, blockSize);
+        QByteArray bytes = contents("app icon") + QByteArray(2 << 20, '\1');
+        const auto number = [](quint32 value) {
+            QByteArray text(4, '\0');
+            qToBigEndian(value, text.data());
+            return text;
+        };
+        const ByteReader file(bytes, ByteOrder::Big);
+        const quint32 oldTable = *file.u32(16);
+        const quint32 oldCount = *file.u32(oldTable);
+        QByteArray table = number(static_cast<quint32>(blocks)) + bytes.mid(oldTable + 4, oldCount * 8);
+        for (quint32 i = oldCount; i < static_cast<quint32>(blocks); ++i)
+            table += number(static_cast<quint32>(bytes.size()) - (1 << 20)) + number(blockSize);
+        const auto offset = static_cast<quint32>(bytes.size());
+        bytes.replace(16, 8, QByteArray(number(offset) + number(static_cast<quint32>(table.size()))));
+        bytes += table;
+        QElapsedTimer timer;
+        timer.start();
+        const auto catalog = readInPieces(bytes, 1 << 16);
+        QVERIFY(timer.elapsed() < 2000);
+        QVERIFY(catalog);
+        QVERIFY(catalog->faults.contains(CatalogFault::TooLarge));
+        QVERIFY(!catalog->renditions.isEmpty());
     }
 
     void bearsBlocksWithoutEnd()

@@ -2,7 +2,6 @@
 #include "validator/binary/signature/CodeSignature.h"
 #include "tests/doubles/ScriptedFiles.h"
 #include "validator/binary/macho/MachOReader.h"
-#include "validator/binary/signature/ResourceSeal.h"
 
 #include <QElapsedTimer>
 #include <QFile>
@@ -14,32 +13,6 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-
-FileDigests digestsOf(const QByteArray &content)
-{
-    FileDigesting digesting;
-    digesting.add(content);
-    return digesting.result();
-}
-
-/// The files with these contents, and the link to the seal that old bundles have. The names are views into the keys of
-/// the argument.
-QMap<QStringView, BundleFile> filesOf(const QMap<QString, QByteArray> &contents)
-{
-    QMap<QStringView, BundleFile> files{{u"CodeResources", {{}, u"_CodeSignature/CodeResources"_s, true}}};
-    for (auto file = contents.cbegin(); file != contents.cend(); ++file)
-        files.insert(file.key(), {digestsOf(*file), {}, false});
-    return files;
-}
-
-/// The files that the fixtures' seals cover.
-QMap<QString, QByteArray> sealedContents()
-{
-    return {{u"Lamp"_s, "binary"},      {u"Info.plist"_s, "info"},
-            {u"PkgInfo"_s, "APPL????"}, {u"lamp.png"_s, "picture"},
-            {u"a/b.txt"_s, "text"},     {u"de.lproj/x.strings"_s, "worte"},
-            {u".DS_Store"_s, "junk"},   {u"_CodeSignature/CodeResources"_s, "seal"}};
-}
 
 } // namespace
 
@@ -154,104 +127,6 @@ private slots:
         QCOMPARE(signature.directories.first().brokenPages, QList<quint32>{4});
         // It has no other fault.
         QCOMPARE(signature.faults, QList<SignatureFault>{SignatureFault::PagesChanged});
-    }
-
-    void comparesFilesWithTheSeal_data()
-    {
-        QTest::addColumn<QString>("path");
-        QTest::addColumn<QByteArray>("content");
-        QTest::addColumn<QString>("where");
-        QTest::newRow("nothing changed") << QString() << QByteArray() << QString();
-        QTest::newRow("a changed file") << u"lamp.png"_s << QByteArray("pixture") << u"changed"_s;
-        QTest::newRow("a file below") << u"a/b.txt"_s << QByteArray("tent") << u"changed"_s;
-        QTest::newRow("a missing file") << u"lamp.png"_s << QByteArray() << u"missing"_s;
-        QTest::newRow("a missing translation") << u"de.lproj/x.strings"_s << QByteArray() << QString();
-        QTest::newRow("a changed translation") << u"de.lproj/x.strings"_s << QByteArray("werte") << u"changed"_s;
-        QTest::newRow("a file in place of the old link to the seal")
-            << u"CodeResources"_s << QByteArray("_CodeSignature/CodeResources") << u"extra"_s;
-        QTest::newRow("one file more") << u"more.txt"_s << QByteArray("more") << u"extra"_s;
-        QTest::newRow("the binary, which seals itself") << u"Lamp"_s << QByteArray("other") << QString();
-        QTest::newRow("what the rules leave out") << u"sub/.DS_Store"_s << QByteArray("junk") << QString();
-    }
-    void comparesFilesWithTheSeal()
-    {
-        QFETCH(QString, path);
-        QFETCH(QByteArray, content);
-        QFETCH(QString, where);
-        const auto seal = readResourceSeal(contents("seal"));
-        QVERIFY(seal && seal->hasNewList);
-        QMap<QString, QByteArray> found = sealedContents();
-        if (content.isEmpty())
-            found.remove(path);
-        else
-            found.insert(path, content);
-        QMap<QStringView, BundleFile> files = filesOf(found);
-        files.insert(u"link", {{}, u"a/b.txt"_s, true});
-        const SealFindings findings = compareWithSeal(*seal, files, {u"Lamp"_s, {}});
-        const QStringList expected = where.isEmpty() ? QStringList() : QStringList{path};
-        QCOMPARE(findings.changed, where == "changed"_L1 ? expected : QStringList());
-        QCOMPARE(findings.missing, where == "missing"_L1 ? expected : QStringList());
-        QCOMPARE(findings.extra, where == "extra"_L1 ? expected : QStringList());
-    }
-
-    void comparesLinks()
-    {
-        const auto seal = readResourceSeal(contents("seal"));
-        const QMap<QString, QByteArray> sealed = sealedContents();
-        QMap<QStringView, BundleFile> files = filesOf(sealed);
-        files.insert(u"link", {{}, u"lamp.png"_s, true});
-        QCOMPARE(compareWithSeal(*seal, files, {u"Lamp"_s, {}}).changed, QStringList{u"link"_s});
-        files.remove(u"link");
-        QCOMPARE(compareWithSeal(*seal, files, {u"Lamp"_s, {}}).missing, QStringList{u"link"_s});
-    }
-
-    void readsASealOfOld()
-    {
-        const auto seal = readResourceSeal(contents("seal of old"));
-        QVERIFY(seal && !seal->hasNewList);
-        QMap<QString, QByteArray> found = sealedContents();
-        QVERIFY(compareWithSeal(*seal, filesOf(found), {u"Lamp"_s, {}}).isEmpty());
-        found[u"Info.plist"_s] = "other";
-        QCOMPARE(compareWithSeal(*seal, filesOf(found), {u"Lamp"_s, {}}).changed, QStringList{u"Info.plist"_s});
-    }
-
-    void leavesNestedCodeToItsOwnSeal()
-    {
-        const auto seal = readResourceSeal(contents("seal of nested code"));
-        QVERIFY(seal);
-        const QString bulb = u"Frameworks/Bulb.framework"_s;
-        const QMap<QString, QByteArray> found{
-            {u"lamp.png"_s, "picture"}, {bulb + u"/Bulb", "code"}, {bulb + u"/Info.plist", "info"}};
-        const auto files = filesOf(found);
-        QVERIFY(compareWithSeal(*seal, files, {u"Lamp"_s, {{bulb, {QByteArray(20, 'b')}}}}).isEmpty());
-        QCOMPARE(compareWithSeal(*seal, files, {u"Lamp"_s, {{bulb, {QByteArray(20, 'c')}}}}).changed,
-                 QStringList{bulb});
-        QCOMPARE(compareWithSeal(*seal, files, {u"Lamp"_s, {}}).missing, QStringList{bulb});
-    }
-
-    void refusesASealWithoutEnd()
-    {
-        QElapsedTimer timer;
-        timer.start();
-        QVERIFY(!readResourceSeal(contents("seal of a million rows")));
-        QVERIFY(!readResourceSeal(contents("no seal")));
-        QVERIFY(timer.elapsed() < 2000);
-    }
-
-    void bearsASlowRule()
-    {
-        const auto seal = readResourceSeal(contents("seal with a slow rule"));
-        QVERIFY(seal);
-        QStringList names;
-        for (int i = 0; i < 1000; ++i)
-            names += QString(200, u'a') + QString::number(i) + u'!';
-        QMap<QStringView, BundleFile> files;
-        for (const QString &name : names)
-            files.insert(name, {});
-        QElapsedTimer timer;
-        timer.start();
-        QCOMPARE(compareWithSeal(*seal, files, {}).extra.size(), 1000);
-        QVERIFY(timer.elapsed() < 2000);
     }
 
 private:

@@ -21,7 +21,8 @@ namespace
 enum KeyToken : quint32 { PartToken = 2, AppearanceToken = 7, ScaleToken = 12, IdiomToken = 15, IdentifierToken = 17 };
 
 constexpr std::array idiomNames{"universal", "phone", "pad", "tv", "car", "watch", "marketing", "mac", "vision"};
-constexpr quint64 csiHeadSize = 176;
+/// Of the payload before the pixels: its kind and flags.
+constexpr quint64 payloadHeadSize = 12;
 
 struct Facet
 {
@@ -58,6 +59,21 @@ std::optional<PixelSize> jpegSize(QByteArrayView bytes)
         at += 2 + quint64{*length};
     }
     return std::nullopt;
+}
+
+/// Where the payload of an entry begins, behind its chain of attributes.
+quint64 payloadOffset(const ByteReader &csi)
+{
+    const quint64 chain = csi.u32(168).value_or(0);
+    const quint64 lengths = csi.u32(172).value_or(0);
+    return renditionHeadSize + 4 * (lengths + 1) + chain;
+}
+
+qsizetype memoryOf(const CatalogRendition &rendition)
+{
+    constexpr qsizetype perText = 24;
+    const auto characters = rendition.name.size() + rendition.idiom.size() + rendition.appearance.size();
+    return static_cast<qsizetype>(sizeof(CatalogRendition)) + 4 * perText + 2 * characters;
 }
 
 class CatalogReading
@@ -183,7 +199,7 @@ void CatalogReading::readPayload(const ByteReader &csi, quint64 at, CatalogRendi
 std::optional<CatalogRendition> CatalogReading::rendition(const BomStore::Pair &pair) const
 {
     const ByteReader csi(pair.value, ByteOrder::Little);
-    if (!pair.value.startsWith("ISTC") || !csi.holds(0, csiHeadSize))
+    if (!isRendition(pair.value) || !csi.holds(0, renditionHeadSize))
         return std::nullopt;
     CatalogRendition found;
     found.width = static_cast<int>(qMin<quint32>(*csi.u32(12), 1U << 20));
@@ -201,32 +217,54 @@ std::optional<CatalogRendition> CatalogReading::rendition(const BomStore::Pair &
     if (appearance != 0)
         found.appearance = m_appearances.value(appearance, u"appearance %1"_s.arg(appearance));
     found.facet = m_facets.value(keyNumber(key, IdentifierToken).value_or(0));
-    const quint64 chain = *csi.u32(168);
-    const quint64 lengths = *csi.u32(172);
-    readPayload(csi, csiHeadSize + 4 * (lengths + 1) + chain, found);
+    readPayload(csi, payloadOffset(csi), found);
     return found;
 }
 
 void CatalogReading::readRenditions()
 {
+    qsizetype memory = 0;
     for (const BomStore::Pair &pair : pairs("RENDITIONS").pairs) {
         const auto found = rendition(pair);
-        if (found)
-            m_catalog.renditions += *found;
-        else
+        if (!found) {
             fault(CatalogFault::DamagedRendition);
+            continue;
+        }
+        memory += memoryOf(*found);
+        if (memory > AssetCatalog::mostRenditionBytes) {
+            fault(CatalogFault::TooLarge);
+            return;
+        }
+        m_catalog.renditions += *found;
     }
 }
 
 } // namespace
 
+bool isRendition(QByteArrayView start)
+{
+    return start.startsWith("ISTC");
+}
+
+quint64 renditionSizeToPixels(QByteArrayView start, quint64 pictureBytes)
+{
+    const ByteReader csi(start, ByteOrder::Little);
+    const bool isSizeless = csi.u32(12) == 0U && csi.u32(16) == 0U && start.sliced(24, 4) == QByteArrayView("GEPJ");
+    return payloadOffset(csi) + payloadHeadSize + (isSizeless ? pictureBytes : 0);
+}
+
 std::optional<AssetCatalog> readAssetCatalog(QByteArrayView bytes)
 {
     const auto store = BomStore::open(bytes);
-    if (!store || !store->holds("CARHEADER"))
+    return store ? readAssetCatalog(*store) : std::nullopt;
+}
+
+std::optional<AssetCatalog> readAssetCatalog(const BomStore &store)
+{
+    if (!store.holds("CARHEADER"))
         return std::nullopt;
     AssetCatalog catalog;
-    CatalogReading reading(*store, catalog);
+    CatalogReading reading(store, catalog);
     reading.readHeads();
     if (!reading.readKeyFormat())
         return std::nullopt;

@@ -15,24 +15,41 @@ constexpr int deepestTree = 16;
 
 } // namespace
 
+std::optional<BomTables> BomTables::of(QByteArrayView head)
+{
+    const ByteReader file(head, ByteOrder::Big);
+    if (!head.startsWith("BOMStore") || !file.holds(0, headSize))
+        return std::nullopt;
+    const BomTables tables{{*file.u32(16), *file.u32(20)}, {*file.u32(24), *file.u32(28)}};
+    if (tables.blocks.offset < headSize || tables.names.offset < headSize)
+        return std::nullopt;
+    return tables;
+}
+
 std::optional<BomStore> BomStore::open(QByteArrayView bytes)
 {
-    BomStore store(bytes);
-    const ByteReader &file = store.m_file;
-    if (!bytes.startsWith("BOMStore") || !file.holds(0, 32))
+    const auto tables = BomTables::of(bytes);
+    if (!tables)
         return std::nullopt;
-    store.m_indexOffset = *file.u32(16);
-    const quint64 namesOffset = *file.u32(24);
-    const auto blockCount = file.u32(store.m_indexOffset);
-    const auto nameCount = file.u32(namesOffset);
-    if (!blockCount || !nameCount)
+    const ByteReader file(bytes, ByteOrder::Big);
+    return open(file.clipped(tables->blocks.offset, tables->blocks.size),
+                file.clipped(tables->names.offset, tables->names.size), [file](quint32, const FileRange &range) {
+                    return file.span(range.offset, range.size).value_or(QByteArrayView());
+                });
+}
+
+std::optional<BomStore> BomStore::open(QByteArrayView blockTable, QByteArrayView nameTable, BlockFinder find)
+{
+    const ByteReader names(nameTable, ByteOrder::Big);
+    const auto nameCount = names.u32(0);
+    if (blockTable.size() < 4 || !nameCount)
         return std::nullopt;
-    store.m_blockCount = *blockCount;
-    quint64 at = namesOffset + 4;
+    BomStore store(blockTable, std::move(find));
+    quint64 at = 4;
     for (quint32 i = 0; i < *nameCount && i < mostNames; ++i) {
-        const auto number = file.u32(at);
-        const auto length = file.u8(at + 4);
-        const auto name = length ? file.span(at + 5, *length) : std::nullopt;
+        const auto number = names.u32(at);
+        const auto length = names.u8(at + 4);
+        const auto name = length ? names.span(at + 5, *length) : std::nullopt;
         if (!number || !name)
             return std::nullopt;
         store.m_names.insert(name->toByteArray(), *number);
@@ -41,17 +58,26 @@ std::optional<BomStore> BomStore::open(QByteArrayView bytes)
     return store;
 }
 
-QByteArrayView BomStore::block(quint32 number) const
+quint32 BomStore::blockCount(QByteArrayView blockTable)
+{
+    const quint32 stated = ByteReader(blockTable, ByteOrder::Big).u32(0).value_or(0);
+    return static_cast<quint32>(qMin<qint64>(stated, (blockTable.size() - 4) / 8));
+}
+
+std::optional<FileRange> BomStore::blockRange(QByteArrayView blockTable, quint32 number)
 {
     // The first block is unused.
-    if (number == 0 || number >= m_blockCount)
-        return {};
-    const quint64 entry = m_indexOffset + 4 + quint64{number} * 8;
-    const auto address = m_file.u32(entry);
-    const auto length = m_file.u32(entry + 4);
-    if (!address || !length)
-        return {};
-    return m_file.span(*address, *length).value_or(QByteArrayView());
+    if (number == 0 || number >= blockCount(blockTable))
+        return std::nullopt;
+    const ByteReader table(blockTable, ByteOrder::Big);
+    const quint64 entry = 4 + quint64{number} * 8;
+    return FileRange{*table.u32(entry), *table.u32(entry + 4)};
+}
+
+QByteArrayView BomStore::block(quint32 number) const
+{
+    const auto range = blockRange(m_blockTable, number);
+    return range ? m_find(number, *range) : QByteArrayView();
 }
 
 BomStore::Pairs BomStore::tree(const QByteArray &name) const

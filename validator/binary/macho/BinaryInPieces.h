@@ -2,7 +2,7 @@
 #pragma once
 
 #include "MachOSlice.h"
-#include "SparseBytes.h"
+#include "validator/binary/SparseBytes.h"
 #include "validator/binary/signature/CodeSignature.h"
 
 #include <QByteArrayView>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "SymbolNamePages.h"
 
-#include "SparseBytes.h"
+#include "validator/binary/SparseBytes.h"
 
 namespace lumora
 {

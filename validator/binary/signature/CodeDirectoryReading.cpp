@@ -25,7 +25,12 @@ bool CodeDirectory::hasSlot(SignatureSlot slot) const
 
 bool CodeDirectory::binds(SignatureSlot slot, QByteArrayView content) const
 {
-    return hasSlot(slot) && specialHashes.value(static_cast<quint32>(slot)) == Digest::of(digest, content);
+    return bindsDigest(slot, Digest::of(digest, content));
+}
+
+bool CodeDirectory::bindsDigest(SignatureSlot slot, QByteArrayView content) const
+{
+    return hasSlot(slot) && specialHashes.value(static_cast<quint32>(slot)) == content;
 }
 
 std::optional<CodeDirectory> readCodeDirectory(QByteArrayView bytes, quint64 signatureOffset,

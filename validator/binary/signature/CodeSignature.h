@@ -52,6 +52,8 @@ struct CodeDirectory
 
     /// True when the slot's hash is that of the content; false for a slot without a hash or with zeros.
     bool binds(SignatureSlot slot, QByteArrayView content) const;
+    /// The same for the content's digest, of the directory's kind.
+    bool bindsDigest(SignatureSlot slot, QByteArrayView content) const;
     /// True when the slot has a hash that is not all zeros.
     bool hasSlot(SignatureSlot slot) const;
 };
