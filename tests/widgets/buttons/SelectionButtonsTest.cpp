@@ -264,6 +264,56 @@ private slots:
         QCOMPARE(QAccessible::queryAccessibleInterface(&radio)->role(), QAccessible::RadioButton);
     }
 
+    void arrowKeysChooseInTheGroup_data()
+    {
+        QTest::addColumn<Qt::LayoutDirection>("direction");
+        QTest::addColumn<int>("active"); ///< before; -1 for none
+        QTest::addColumn<QList<int>>("keys");
+        QTest::addColumn<QList<int>>("clicks");
+        QTest::addColumn<int>("focused");
+        const Qt::LayoutDirection ltr = Qt::LeftToRight;
+        const Qt::LayoutDirection rtl = Qt::RightToLeft;
+        QTest::newRow("right") << ltr << 0 << QList<int>{Qt::Key_Right} << QList<int>{1} << 1;
+        QTest::newRow("down") << ltr << -1 << QList<int>{Qt::Key_Down} << QList<int>{1} << 1;
+        QTest::newRow("right and up") << ltr << 0 << QList<int>{Qt::Key_Right, Qt::Key_Up} << QList<int>{1, 0} << 0;
+        QTest::newRow("not past the ends")
+            << ltr << 0 << QList<int>{Qt::Key_Left, Qt::Key_Right, Qt::Key_Right, Qt::Key_Right} << QList<int>{1} << 1;
+        QTest::newRow("onto the chosen one") << ltr << 1 << QList<int>{Qt::Key_Right} << QList<int>{} << 1;
+        QTest::newRow("left, read from the right") << rtl << 0 << QList<int>{Qt::Key_Left} << QList<int>{1} << 1;
+        QTest::newRow("right, read from the right") << rtl << 0 << QList<int>{Qt::Key_Right} << QList<int>{} << 0;
+    }
+    void arrowKeysChooseInTheGroup()
+    {
+        QFETCH(Qt::LayoutDirection, direction);
+        QFETCH(int, active);
+        QFETCH(QList<int>, keys);
+        QFETCH(QList<int>, clicks);
+        QFETCH(int, focused);
+        QWidget pane;
+        pane.setLayoutDirection(direction);
+        auto *deeper = new RadioButton(new QWidget(&pane));
+        const QList<RadioButton *> group{new RadioButton(&pane), new RadioButton(&pane)};
+        new CheckboxButton(&pane);
+        QList<int> clicked;
+        for (int index = 0; index < group.size(); ++index) {
+            group[index]->setActive(index == active);
+            connect(group[index], &RadioButton::clicked, &pane, [&group, &clicked, index] {
+                clicked << index;
+                for (int one = 0; one < group.size(); ++one)
+                    group[one]->setActive(one == index);
+            });
+        }
+        pane.show();
+        pane.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&pane));
+        group[0]->setFocus();
+        for (const int key : keys)
+            QTest::keyClick(pane.focusWidget(), static_cast<Qt::Key>(key));
+        QCOMPARE(clicked, clicks);
+        QCOMPARE(pane.focusWidget(), group[focused]);
+        QVERIFY(!deeper->isActive());
+    }
+
     void sizeHintHoldsTheText()
     {
         CheckboxButton box;
