@@ -5,7 +5,10 @@
 #include "HeaderView.h"
 #include "ToolTable.h"
 #include "app/sidebar/ITSidebar.h"
+#include "app/sidebar/ITSidebarItemCell.h"
+#include "app/sidebar/SidebarMatrix.h"
 #include "tool/ToolViewController.h"
+#include "tool/style/ToolTip.h"
 #include "widgets/buttons/ImageButton.h"
 #include "widgets/window/INAppStoreWindow.h"
 
@@ -94,9 +97,10 @@ void AppMenu::addToolsMenu()
     auto *group = new QActionGroup(this);
     int index = 0;
     for (const Tool &tool : toolTable()) {
-        QAction *action =
-            add(menu, qtTrId(tool.helpTitleKey), QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + index)),
-                [this, index] { m_delegate.sideBar()->setSelectedIndex(index); });
+        const QString name = qtTrId(tool.helpTitleKey);
+        const QKeySequence keys(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + index));
+        QAction *action = add(menu, name, keys, [this, index] { m_delegate.sideBar()->setSelectedIndex(index); });
+        m_delegate.sideBar()->matrix()->cells().at(index)->setToolTip(tipWithKeys(name, keys));
         action->setCheckable(true);
         group->addAction(action);
         m_tools << action;
@@ -109,6 +113,8 @@ void AppMenu::addHelpMenu()
     QMenu *menu = m_menu.addMenu(qtTrId("MENU_HELP"));
     add(menu, qtTrId("MENU_TOOL_HELP"), QKeySequence::HelpContents,
         [this] { m_delegate.infoButtonClicked(m_delegate.header()->infoButton()); });
+    ImageButton *help = m_delegate.header()->infoButton();
+    help->setToolTip(tipWithKeys(help->accessibleName(), QKeySequence::HelpContents));
     add(menu, qtTrId("MENU_ABOUT"), {}, [this] { m_delegate.aboutButtonClicked(); });
 }
 

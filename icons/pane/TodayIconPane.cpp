@@ -142,6 +142,7 @@ QWidget *TodayIconPane::makeSources()
 {
     new DropHighlight(m_dropView, palette::icons);
     m_dropView->setAccessibleName(qtTrId("ACCESSIBLE_ICONS_DROP"));
+    m_dropView->setToolTip(tipWithKeys(qtTrId("TIP_DROP"), QKeySequence::Paste));
     m_dropView->setFixedWidth(leftWidth);
     m_iconView->setAccessibleName(qtTrId("ACCESSIBLE_ICONS_SOURCE"));
     m_iconView->setMinimumSize(leastIcon);
