@@ -74,6 +74,9 @@ public:
         if (failure.code == FailureCode::InvalidValue || failure.code == FailureCode::MissingContent) {
             complaint.message = failure.detail.words();
             complaint.advice = commandText("CLI_DOWNSCALE_SOURCES_ADVICE");
+        } else if (failure.code == FailureCode::WouldReplaceSource) {
+            // Unlike halves, densities never replace a source, whatever the options.
+            complaint.advice = commandText("CLI_DOWNSCALE_SOURCE_STAYS");
         }
         m_console.complain(complaint);
         m_status = ExitStatus::Refused;

@@ -144,11 +144,31 @@ private:
     bool m_isFull = false;
 };
 
+/// A picture has the same key in all its densities and formats.
+QString keyOfPicture(const FoundPicture &picture)
+{
+    const DensityPlace &place = picture.place;
+    return picture.root + u'/' + place.folder + u'/' + place.name + u'/' + place.suffix;
+}
+
 /// A picture has the same key in all its densities.
 QString keyOf(const FoundPicture &picture)
 {
-    const DensityPlace &place = picture.place;
-    return picture.root + u'/' + place.folder + u'/' + place.name + u'/' + place.suffix + u'/' + place.extension;
+    return keyOfPicture(picture) + u'/' + picture.place.extension;
+}
+
+/// Where all formats become one, a picture's smaller densities in another format are of no use as sources; they may be
+/// what an earlier run made.
+void leaveSmallerOnesOut(std::vector<FoundPicture> &chosen)
+{
+    QHash<QString, Density> largest;
+    for (const FoundPicture &picture : chosen) {
+        Density &density = largest[keyOfPicture(picture)];
+        density = std::max(density, picture.place.density);
+    }
+    std::erase_if(chosen, [&largest](const FoundPicture &picture) {
+        return picture.kind == SourceKind::Pictures && picture.place.density < largest.value(keyOfPicture(picture));
+    });
 }
 
 /// The pictures to scale from: those of the wanted density, or the largest of each picture.
@@ -169,6 +189,8 @@ std::vector<FoundPicture> chosenSources(const std::vector<FoundPicture> &found, 
         if (picture.kind == SourceKind::Drawings || isWanted)
             chosen.push_back(picture);
     }
+    if (request.format != ScaledFormat::AsSource)
+        leaveSmallerOnesOut(chosen);
     std::ranges::sort(chosen, {}, &FoundPicture::path);
     return chosen;
 }

@@ -5447,6 +5447,10 @@
     <source>check where it goes</source>
     <translation>prüfen, wohin sie geht</translation>
   </message>
+  <message id="CLI_DOWNSCALE_SOURCE_STAYS">
+    <source>choose another folder</source>
+    <translation>einen anderen Ordner nehmen</translation>
+  </message>
   <message id="CLI_DRY_EXISTS">
     <source>exists, would be left as it is</source>
     <translation>vorhanden, bliebe, wie es ist</translation>

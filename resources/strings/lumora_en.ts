@@ -5445,6 +5445,10 @@
     <source>check where it goes</source>
     <translation>check where it goes</translation>
   </message>
+  <message id="CLI_DOWNSCALE_SOURCE_STAYS">
+    <source>choose another folder</source>
+    <translation>choose another folder</translation>
+  </message>
   <message id="CLI_DRY_EXISTS">
     <source>exists, would be left as it is</source>
     <translation>exists, would be left as it is</translation>

@@ -185,6 +185,11 @@ private slots:
             QStringList{u"lumora: left as they are: 2 files that are there already; replace them with --overwrite"_s});
         QCOMPARE(runLumora(call + QStringList{u"--json"_s}).json()[u"kept"_s].toArray(),
                  QJsonArray({path(u"art/a@2x.png"_s), path(u"art/a.png"_s)}));
+        QVERIFY(QFile::remove(path(u"art/a.png"_s)) && QFile::link(path(u"art/a@3x.png"_s), path(u"art/a.png"_s)));
+        const LumoraRun onto = runLumora(call + QStringList{u"--overwrite"_s});
+        QCOMPARE(onto.status, 1);
+        QVERIFY2(onto.err.contains("a.png: is one of the pictures to be scaled down; choose another folder\n"),
+                 onto.err);
         const LumoraRun webp = runLumora(
             call + QStringList{u"--format"_s, u"webp"_s, u"--quality"_s, u"80"_s, u"--out"_s, path(u"out"_s)});
         QVERIFY2(webp.status == 0, webp.err);

@@ -270,6 +270,23 @@ private slots:
                  (QStringList{u"a@2x.png 40x20"_s, u"a.png 20x10"_s, u"a@2x.webp 40x20"_s, u"a.webp 20x10"_s}));
     }
 
+    void aSecondRunInAnotherFormatPlansTheSame()
+    {
+        put(u"a@3x.png"_s, {60, 30});
+        DensityRequest request = requestFor(u"ios"_s);
+        request.format = ScaledFormat::WebP;
+        request.existing = ExistingFiles::Replace;
+        const QStringList files{u"a@2x.webp 40x20"_s, u"a.webp 20x10"_s};
+        const DensityPlan first = planDensities({m_folder->path()}, request);
+        QCOMPARE(described(first), files);
+        scaleDensities(first, {{}, ExistingFiles::Replace}, [](auto, const auto &) { return true; });
+        // What the first run made of the picture is no source beside it.
+        const DensityPlan second = planDensities({m_folder->path()}, request);
+        QVERIFY(second.failures.empty());
+        QCOMPARE(described(second), files);
+        QCOMPARE(relative(second.sources[0].source), u"a@3x.png"_s);
+    }
+
     void resultsMayGoElsewhereAndBeWebP()
     {
         put(u"res/drawable-xxxhdpi/a.png"_s, {64, 64});
