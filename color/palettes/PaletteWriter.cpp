@@ -52,10 +52,13 @@ private:
 };
 
 /// The name with "-" in place of all characters except letters and digits; never empty, never beginning with a dot.
+/// "#336699", the name of a color that nobody named, becomes "color-336699".
 QString plainName(const QString &name)
 {
     QString plain;
-    for (const QChar character : name)
+    const bool unnamed = name.startsWith(u'#') && name.size() > 1 && name[1].isLetterOrNumber();
+    const QString wanted = unnamed ? QString(u"color-"_s + QStringView(name).sliced(1)) : name;
+    for (const QChar character : wanted)
         plain += isPlain(character) ? character : QChar(u'-');
     return plain.isEmpty() ? u"color"_s : plain.left(100);
 }

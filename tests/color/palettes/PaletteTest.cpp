@@ -71,6 +71,17 @@ private slots:
                  std::size_t{1});
     }
 
+    void unnamedColorsGetNames()
+    {
+        const Palette palette{{u"#336699ff"_s, wideColorFromBytes(0x33, 0x66, 0x99)},
+                              {u"#336699ff"_s, wideColorFromBytes(0x33, 0x66, 0x99)}};
+        const std::vector<PaletteFile> sets = paletteFiles(palette, u"p"_s, PaletteFormat::ColorSets);
+        QCOMPARE(sets[1].path, u"p.xcassets/color-336699ff.colorset/Contents.json"_s);
+        QCOMPARE(sets[2].path, u"p.xcassets/color-336699ff-2.colorset/Contents.json"_s);
+        const QByteArray css = paletteFiles(palette, u"p"_s, PaletteFormat::CssVariables)[0].content;
+        QVERIFY2(css.contains("\n  --color-336699ff: #336699ff;\n  --color-336699ff-2: #336699ff;\n"), css);
+    }
+
     void badCataloguesAreRefused()
     {
         const QTemporaryDir folder;
