@@ -17,10 +17,16 @@ namespace
 constexpr int mostEntries = 200'000;
 constexpr int deepestFolder = 40;
 
-/// Folders whose files are not the project's own.
-bool isPassedOver(const QString &name)
+/// Whether the folder's files are not the project's own. Electron's packagers take their icons from "build", which in
+/// other projects holds what was built.
+bool isPassedOver(const QFileInfo &folder)
 {
-    static const QStringList names = {u"node_modules"_s, u"Pods"_s, u"build"_s, u"DerivedData"_s};
+    static const QStringList names = {u"node_modules"_s, u"Pods"_s, u"DerivedData"_s};
+    const QString name = folder.fileName();
+    if (name == u"build") {
+        const QDir build(folder.filePath());
+        return !build.exists(u"icon.icns"_s) && !build.exists(u"icon.ico"_s);
+    }
     return name.startsWith(u'.') || names.contains(name);
 }
 
@@ -49,7 +55,7 @@ public:
                 return;
             }
             const QString path = folder + u'/' + entry.fileName();
-            if (entry.isDir() && !isPassedOver(entry.fileName()))
+            if (entry.isDir() && !isPassedOver(entry))
                 enter(path, depth + 1);
             else if (entry.isFile())
                 checkFile(path, m_check);

@@ -17,6 +17,7 @@ class CheckedPlacesTest : public QObject
 private slots:
     void nothingToCheck();
     void noFolder();
+    void whatWasBuiltIsPassedOver();
     void linksAreNotFollowed();
     void sizesByName_data();
     void sizesByName();
@@ -40,6 +41,17 @@ void CheckedPlacesTest::noFolder()
     QCOMPARE(checkIcons(folder.filePath(u"none"_s)).failure().code, FailureCode::NotFound);
     QVERIFY(putFile(folder.filePath(u"file"_s), "c"));
     QCOMPARE(checkIcons(folder.filePath(u"file"_s)).failure().code, FailureCode::NotAFolder);
+}
+
+void CheckedPlacesTest::whatWasBuiltIsPassedOver()
+{
+    const QTemporaryDir folder;
+    QVERIFY(putFile(folder.filePath(u"build/web/favicon.ico"_s), "c"));
+    QVERIFY(checkIcons(folder.path()).value().checked.isEmpty());
+    // Electron's packagers keep their icons there.
+    QVERIFY(putFile(folder.filePath(u"build/icon.ico"_s), "c"));
+    QVERIFY(checkIcons(folder.path()).value().checked.contains(folder.filePath(u"build/icon.ico"_s)));
+    QVERIFY(checkIcons(folder.filePath(u"build"_s)).value().checked.contains(folder.filePath(u"build/icon.ico"_s)));
 }
 
 void CheckedPlacesTest::linksAreNotFollowed()
