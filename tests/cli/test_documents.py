@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: MIT
-"""usage: test_documents.py LUMORA SOURCE   Types the commands in README, the manual, docs/ci.md and the help, word for word;
-they must succeed. The lines that install a package get an apt-get that only checks whether it is given one."""
+"""usage: test_documents.py LUMORA SOURCE   Types the commands in README, the manual, docs/ci.md, docs/devices.md and
+the help, word for word; they must succeed. The lines that install a package get an apt-get that only checks whether it is given
+one."""
 import os
 import re
 import subprocess
@@ -120,6 +121,16 @@ class Documents(unittest.TestCase):
             '<svg xmlns="http://www.w3.org/2000/svg" width="64" height="64"><rect width="64" height="64" fill="tomato"/></svg>')
         self.type(manual_lines())
         self.assertEqual(self.commands_of(manual_lines()), set(COMMANDS))
+
+    def test_devices(self):
+        text = (SOURCE / "docs/devices.md").read_text()
+        rows = fenced(text, "text")
+        (self.folder / "models.csv").write_text("\n".join(rows) + "\n")
+        self.type(fenced(text, "sh"))
+        shown = subprocess.run(["lumora", "devices", "--data", "models.csv"], cwd=self.folder, env=self.environment, capture_output=True)
+        self.assertTrue(shown.stdout.startswith(b"iPhone: iPhone 14 Pro\n"), shown)
+        described = [name for row in re.findall(r"^\| ([a-z][^|]*) \|", text, re.MULTILINE) for name in row.split(", ")]
+        self.assertEqual(described, rows[0].split(","))
 
     def test_figures_come_with_commands_that_start(self):
         documents = ["README.md", "docs/performance.md", "bench/README.md"]
