@@ -159,6 +159,7 @@ void ValidaterViewController::showReview()
 
 void ValidaterViewController::showFindings()
 {
+    m_findings->setIconNote(m_review->hasPackedIcon ? qtTrId("FINDINGS_PACKED_ICON") : QString());
     m_findings->show(m_review->findings(), m_ignored);
     const QList<Finding> findings = m_review->findings(m_ignored);
     m_ui->sumLabel->setText(findingSumText(findings));

@@ -2370,6 +2370,14 @@
     <source>Ignored rules: [COUNT]. Show again</source>
     <translation>Übergangene Regeln: [COUNT]. Wieder zeigen</translation>
   </message>
+  <message id="FINDINGS_OWN_PICTURE">
+    <source>The package's own picture</source>
+    <translation>Das eigene Bild des Pakets</translation>
+  </message>
+  <message id="FINDINGS_PACKED_ICON">
+    <source>The package has a picture of 1024 pixels, but only compressed in Assets.car, where this program reads its size and not its pixels. The icon tool opens without it: drop the original picture there.</source>
+    <translation>Das Paket hat ein Bild mit 1024 Pixeln, aber nur komprimiert in Assets.car. Dort liest dieses Programm die Größe, nicht die Pixel. Das Icon-Werkzeug öffnet sich ohne Bild: Legen Sie dort das Original ab.</translation>
+  </message>
   <message id="FINDINGS_MAKE_ICONS">
     <source>Make the missing icons</source>
     <translation>Fehlende Icons erzeugen</translation>

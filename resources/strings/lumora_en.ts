@@ -2368,6 +2368,14 @@
     <source>Ignored rules: [COUNT]. Show again</source>
     <translation>Ignored rules: [COUNT]. Show again</translation>
   </message>
+  <message id="FINDINGS_OWN_PICTURE">
+    <source>The package's own picture</source>
+    <translation>The package's own picture</translation>
+  </message>
+  <message id="FINDINGS_PACKED_ICON">
+    <source>The package has a picture of 1024 pixels, but only compressed in Assets.car, where this program reads its size and not its pixels. The icon tool opens without it: drop the original picture there.</source>
+    <translation>The package has a picture of 1024 pixels, but only compressed in Assets.car, where this program reads its size and not its pixels. The icon tool opens without it: drop the original picture there.</translation>
+  </message>
   <message id="FINDINGS_MAKE_ICONS">
     <source>Make the missing icons</source>
     <translation>Make the missing icons</translation>

@@ -36,8 +36,9 @@ private slots:
         loadResources();
         installTexts(*qApp, QLocale(u"en_GB"_s));
         qputenv("LC_ALL", "C.UTF-8");
-        QVERIFY(runScript(u"make_rule_packages.py"_s, {m_packages.path(), u"icon-marketing icon-phone icon-pad"_s,
-                                                       u"keeps, all"_s, u"seal more"_s}));
+        QVERIFY(runScript(u"make_rule_packages.py"_s,
+                          {m_packages.path(), u"icon-marketing icon-phone icon-pad"_s, u"keeps, all"_s, u"seal more"_s,
+                           u"icon-pad"_s, u"icon-pad a JPEG"_s, u"keeps, a Mac app"_s}));
         QVERIFY(runScript(u"make_packages.py"_s, {m_packages.path()}));
     }
 
@@ -101,9 +102,7 @@ private slots:
         QVERIFY(row->header()->isOpen());
         QCOMPARE(row->header()->accessibleDescription(), u"open"_s);
         QVERIFY(row->sizeHint().height() > closed);
-        QStringList texts;
-        for (const QLabel *label : row->findChildren<QLabel *>())
-            texts += label->accessibleName().isEmpty() ? label->text() : label->accessibleName();
+        const QStringList texts = textsIn(*row);
         QVERIFY2(texts.contains(u"What was found"_s), qPrintable(texts.join(u'\n')));
         QVERIFY2(texts.join(u'\n').contains(row->places().first().text), "the evidence");
         QTest::keyClick(row->header(), Qt::Key_Return);
@@ -229,6 +228,38 @@ private slots:
         pane.tool.reviewSections()->modelsButton()->click();
         QCOMPARE(models.size(), 1);
         QCOMPARE(models[0][0].value<DeviceDemands>().minimumSystem, u"15.0"_s);
+    }
+
+    void handsThePackagesOwnPictureOn()
+    {
+        ReadPane pane(*this, "icon-pad a JPEG");
+        QSignalSpy icons(&pane.tool, &ValidaterViewController::iconsWanted);
+        pane.rows()[0]->setOpen(true);
+        QVERIFY(!textsIn(*pane.rows()[0]).contains(qtTrId("FINDINGS_PACKED_ICON")));
+        pane.rows()[0]->iconsButton()->click();
+        QTRY_COMPARE_WITH_TIMEOUT(icons.size(), 1, readingTime);
+        const QImage picture(icons[0][0].toString());
+        QCOMPARE(picture.size(), QSize(1024, 1024));
+        QCOMPARE(picture.pixelColor(1000, 1000), QColor(128, 128, 128));
+    }
+
+    void saysWhyItHasNoPicture()
+    {
+        ReadPane pane(*this, "icon-pad");
+        QSignalSpy icons(&pane.tool, &ValidaterViewController::iconsWanted);
+        pane.rows()[0]->setOpen(true);
+        QVERIFY(textsIn(*pane.rows()[0]).contains(qtTrId("FINDINGS_PACKED_ICON")));
+        pane.rows()[0]->iconsButton()->click();
+        QTRY_COMPARE_WITH_TIMEOUT(icons.size(), 1, readingTime);
+        QVERIFY(icons[0][0].toString().isEmpty());
+    }
+
+    void offersNoModelsForAnotherDevice()
+    {
+        ReadPane pane(*this, "keeps, a Mac app");
+        QVERIFY(!pane.tool.reviewSections()->modelsButton()->isVisibleTo(pane.tool.reviewSections()));
+        pane.read("keeps, all");
+        QVERIFY(pane.tool.reviewSections()->modelsButton()->isVisibleTo(pane.tool.reviewSections()));
     }
 
     void tellsWhatElseIsKnown()
@@ -425,6 +456,13 @@ private:
         ValidaterFindingsTest &m_test;
     };
 
+    static QStringList textsIn(const FindingRow &row)
+    {
+        QStringList texts;
+        for (const QLabel *label : row.findChildren<QLabel *>())
+            texts += label->accessibleName().isEmpty() ? label->text() : label->accessibleName();
+        return texts;
+    }
     QString package(const char *name) const { return m_packages.filePath(QString::fromUtf8(name) + u".ipa"_s); }
     static QByteArray contentOf(const QString &path)
     {

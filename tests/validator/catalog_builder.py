@@ -66,8 +66,14 @@ def elements(opaque):
 
 
 def jpeg(width, height):
-    return (b"\xff\xd8\xff\xe0\0\x10JFIF\0\1\1\0\0\1\0\1\0\0" + b"\xff\xc0\0\x0b\x08" + struct.pack(">HH", height, width)
-            + b"\1\1\x11\0" + b"\xff\xd9")
+    """A gray picture: every block says with two bits that it is like the one before."""
+    def huffman(table):
+        return b"\xff\xc4\0\x14" + bytes([table, 1]) + bytes(15 + 1)
+
+    blocks = -(-width // 8) * -(-height // 8)
+    return (b"\xff\xd8\xff\xe0\0\x10JFIF\0\1\1\0\0\1\0\1\0\0" + b"\xff\xdb\0\x43\0" + b"\1" * 64
+            + b"\xff\xc0\0\x0b\x08" + struct.pack(">HH", height, width) + b"\1\1\x11\0" + huffman(0) + huffman(0x10)
+            + b"\xff\xda\0\x08\1\1\0\0\x3f\0" + bytes(-(-blocks // 4)) + b"\xff\xd9")
 
 
 def rendition(facet, name, width, height, scale=1, idiom="universal", appearance=0, part=220, opaque=True, layout=PICTURE,
@@ -112,12 +118,12 @@ def catalog(renditions, appearances=("UIAppearanceDark",), tool="Xcode 26.0 (17A
     return bom
 
 
-def app_icon(opaque=True, size=1024, facet="AppIcon", idioms=("phone", "pad"), dark=True):
+def app_icon(opaque=True, size=1024, facet="AppIcon", idioms=("phone", "pad"), dark=True, pixel_format="ARGB"):
     """The icon of an app as current tools build it."""
     entries = []
     for idiom in idioms:
         entries.append(rendition(facet, facet, size, size, idiom=idiom, part=218, layout=SET, pixel_format="\0\0\0\0"))
-        entries.append(rendition(facet, "icon.png", size, size, idiom=idiom, opaque=opaque))
+        entries.append(rendition(facet, "icon.png", size, size, idiom=idiom, opaque=opaque, pixel_format=pixel_format))
         if dark:
             entries.append(rendition(facet, "dark.png", size, size, idiom=idiom, appearance=1, opaque=False))
     return entries

@@ -173,6 +173,7 @@ def breaking(identity, other, developer, ended):
         "icon-marketing icon-phone icon-pad": icons(small),
         "icon-name": drop("CFBundleIcons", "CFBundleIcons~ipad"),
         "icon-name wrong": info(CFBundleIcons={"CFBundlePrimaryIcon": {"CFBundleIconName": "Other"}}),
+        "icon-pad a JPEG": icons(app_icon(idioms=("phone",), pixel_format="JPEG", dark=False)),
         "icon-opaque": icons(app_icon(opaque=False)),
         "icon-opaque in a long catalogue": icons(with_pictures(app_icon(opaque=False))),
         "pad-orientations": info(UISupportedInterfaceOrientations=ORIENTATIONS[:1]),

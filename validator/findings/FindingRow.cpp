@@ -111,9 +111,12 @@ void FindingRow::makeBody()
     addPart(column, qtTrId("FINDINGS_FOUND"), foundText());
     addPart(column, qtTrId("FINDINGS_WHY"), worded(m_rule.rule));
     addPart(column, qtTrId("FINDINGS_MEND"), worded(m_rule.fix));
+    const bool hasIcons = QLatin1StringView(m_rule.id).startsWith("icon-"_L1);
+    if (hasIcons && !m_iconNote.isEmpty())
+        addPart(column, qtTrId("FINDINGS_OWN_PICTURE"), m_iconNote);
     auto *buttons = new QHBoxLayout;
     buttons->setSpacing(8);
-    if (QLatin1StringView(m_rule.id).startsWith("icon-"_L1)) {
+    if (hasIcons) {
         m_icons = smallButton(qtTrId("FINDINGS_MAKE_ICONS"));
         m_icons->setToolTip(qtTrId("FINDINGS_MAKE_ICONS_TIP"));
         connect(m_icons, &IconButton::clicked, this, &FindingRow::iconsWanted);

@@ -33,6 +33,8 @@ public:
     /// Also null for a rule that new icons do not mend.
     IconButton *iconsButton() const { return m_icons; }
     void setOpen(bool isOpen);
+    /// A note beside the button for icons, about the picture that they are made from. Set it before the row is opened.
+    void setIconNote(const QString &note) { m_iconNote = note; }
     /// Whether the words, separated by spaces, are all in the texts of the row, whatever their case.
     bool matches(const QString &words) const;
 
@@ -50,6 +52,7 @@ private:
     const Rule &m_rule;
     QList<Evidence> m_places;
     FindingHeader *m_header;
+    QString m_iconNote;
     QWidget *m_body = nullptr;
     IconButton *m_ignore = nullptr;
     IconButton *m_icons = nullptr;

@@ -125,6 +125,7 @@ void FindingsView::show(const QList<Finding> &findings, const QStringList &ignor
             ++hidden;
         } else {
             auto *row = new FindingRow(rule, places);
+            row->setIconNote(m_iconNote);
             const std::size_t index = m_rows.size();
             connect(row, &FindingRow::ignored, this, &FindingsView::ruleIgnored);
             connect(row, &FindingRow::iconsWanted, this, &FindingsView::iconsWanted);

@@ -29,6 +29,8 @@ public:
 
     /// Replaces the rows; rules of `ignored` have none, but are counted below.
     void show(const QList<Finding> &findings, const QStringList &ignored);
+    /// What rows that new icons mend say about the package's own picture; empty for nothing. For the next rows.
+    void setIconNote(const QString &note) { m_iconNote = note; }
 
     const std::vector<FindingRow *> &rows() const { return m_rows; }
     SegmentedControl *severities() const { return m_severities; }
@@ -58,6 +60,7 @@ private:
     QLabel *m_empty;
     QVBoxLayout *m_column;
     std::vector<FindingRow *> m_rows;
+    QString m_iconNote;
 };
 
 } // namespace lumora

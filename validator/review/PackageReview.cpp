@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "PackageReview.h"
 
+#include "pictures/PictureReader.h"
 #include "pictures/png/PngEncoder.h"
 #include "validator/archive/OpenPackage.h"
 #include "validator/bundle/BundleImages.h"
@@ -56,6 +57,36 @@ void listKinds(const PackageContents &contents, PackageReview &review)
         if (totals.contains(kind))
             review.kinds += ReviewedKind{kind, totals.value(kind)};
     }
+}
+
+/// The first JPEG picture of the size in the app's catalog, in its usual appearance; null when there is none.
+QImage jpegIcon(const AssetCatalog &catalog)
+{
+    for (const CatalogRendition &each : catalog.renditions) {
+        if (each.jpeg.isEmpty() || !each.appearance.isEmpty())
+            continue;
+        const auto picture = readPicture(each.jpeg, each.name);
+        if (picture && picture.value().size() == QSize(largeIconSize, largeIconSize))
+            return picture.value();
+    }
+    return {};
+}
+
+void takeLargeIcon(const PackageSource &source, const PackageBundle &app, PackageReview &review)
+{
+    QImage icon = largeIcon(source, app.path);
+    if (icon.isNull() && app.catalog) {
+        icon = jpegIcon(*app.catalog);
+        review.hasPackedIcon =
+            icon.isNull() &&
+            std::any_of(app.catalog->renditions.cbegin(), app.catalog->renditions.cend(), [](const auto &each) {
+                return each.part == CatalogRendition::IconPart && each.isPicture() && each.width == largeIconSize;
+            });
+    }
+    if (icon.isNull())
+        return;
+    if (const auto png = encodePng(icon, app.path))
+        review.largeIcon = png.value();
 }
 
 /// Turns the sizes of single files into the part of the whole that was begun.
@@ -134,10 +165,7 @@ Result<PackageReview> reviewPackage(const QString &path, const RuleSettings &set
     listBundles(contents, review);
     listKinds(contents, review);
     review.demands = deviceDemandsOf(contents);
-    if (const QImage icon = largeIcon(*source.value(), contents.app()->path); !icon.isNull()) {
-        if (const auto png = encodePng(icon, path))
-            review.largeIcon = png.value();
-    }
+    takeLargeIcon(*source.value(), *contents.app(), review);
     return review;
 }
 

@@ -54,7 +54,8 @@ struct PackageReview
     QList<ReviewedManifest> manifests;
     QList<ReviewedKind> kinds; ///< those that the package holds, in the order of `fileKinds()`
     DeviceDemands demands;
-    QByteArray largeIcon; ///< a PNG of `largeIconSize`, empty when the package has none
+    QByteArray largeIcon;       ///< a PNG of `largeIconSize`, empty when the package has none that can be read
+    bool hasPackedIcon = false; ///< there is one in the catalog, compressed in a way that is not read
 
     /// What is broken, errors first, but what the ignored rules find.
     QList<Finding> findings(const QStringList &ignored = {}) const;

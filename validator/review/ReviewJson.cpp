@@ -179,6 +179,7 @@ QByteArray bytesOf(const PackageReview &review)
         {u"capabilities"_s, QJsonArray::fromStringList(review.demands.capabilities)},
         {u"otherDevice"_s, review.demands.otherDevice},
         {u"largeIcon"_s, base64(review.largeIcon)},
+        {u"packedIcon"_s, review.hasPackedIcon},
     };
     return QJsonDocument(object).toJson(QJsonDocument::Compact);
 }
@@ -205,6 +206,7 @@ std::optional<PackageReview> reviewIn(const QByteArray &bytes)
     review.demands = {document[u"minimum"_s].toString(), document[u"padOnly"_s].toBool(),
                       textsIn(document[u"capabilities"_s]), document[u"otherDevice"_s].toString()};
     review.largeIcon = pngIn(document[u"largeIcon"_s]);
+    review.hasPackedIcon = document[u"packedIcon"_s].toBool();
     return review;
 }
 

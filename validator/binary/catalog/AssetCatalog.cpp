@@ -73,8 +73,12 @@ qsizetype memoryOf(const CatalogRendition &rendition)
 {
     constexpr qsizetype perText = 24;
     const auto characters = rendition.name.size() + rendition.idiom.size() + rendition.appearance.size();
-    return static_cast<qsizetype>(sizeof(CatalogRendition)) + 4 * perText + 2 * characters;
+    return static_cast<qsizetype>(sizeof(CatalogRendition)) + 4 * perText + 2 * characters + rendition.jpeg.size();
 }
+
+/// Only icons for the store are that large; there is one for each idiom.
+constexpr int largeIconEdge = 1024;
+constexpr qsizetype largestJpeg = 4 << 20;
 
 class CatalogReading
 {
@@ -193,6 +197,11 @@ void CatalogReading::readPayload(const ByteReader &csi, quint64 at, CatalogRendi
             rendition.width = size ? size->width : 0;
             rendition.height = size ? size->height : 0;
         }
+        // Of a long catalogue only the beginning of a picture was kept.
+        const auto file = reader.span(12, reader.u32(8).value_or(0));
+        if (rendition.part == CatalogRendition::IconPart && rendition.width >= largeIconEdge && file &&
+            file->size() <= largestJpeg)
+            rendition.jpeg = file->toByteArray();
     }
 }
 

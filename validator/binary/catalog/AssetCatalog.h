@@ -38,6 +38,7 @@ struct CatalogRendition
     quint16 part = 0;
     quint16 layout = 0;
     QByteArray pixelFormat; ///< "ARGB", "GA8 ", "JPEG" ...
+    QByteArray jpeg;        ///< the file of a large icon that is a JPEG picture and was read whole; else empty
     /// Empty when the entry does not say it: an atlas has one mark for all its pictures.
     std::optional<bool> opaque;
 
@@ -52,7 +53,7 @@ enum class CatalogFault {
     TooLarge,         ///< more entries than can be kept
 };
 
-/// The facts of a compiled asset catalogue, `Assets.car`; no pixels.
+/// The facts of a compiled asset catalogue, `Assets.car`; of its pictures only those that are files themselves.
 struct AssetCatalog
 {
     static constexpr qsizetype mostRenditionBytes = 20 << 20;
