@@ -91,6 +91,31 @@ void printInFull(Console &console, const Rule &rule)
     }
 }
 
+/// What the store judges, too, but not by the package alone.
+struct UnknownToThePackage
+{
+    const char *codes;
+    const char *reason;
+};
+
+constexpr UnknownToThePackage unknowns[] = {
+    {"ITMS-90062, ITMS-90186, ITMS-90189",
+     "Version and build number have to be higher than those of the last upload. Only the store knows that upload; "
+     "`lumora diff OLD NEW` compares two packages."},
+    {"ITMS-90338",
+     "The store's list of private names is not public. `private-names` knows private frameworks and a few functions; "
+     "the store may find more."},
+    {"ITMS-90035, ITMS-90161",
+     "Whether a certificate was revoked or a profile withdrawn is known to the issuer's server only. `lumora validate` "
+     "asks no server."},
+    {"ITMS-90046", "`entitlements` compares with what the profile grants; whether the store "
+                   "accepts the value "
+                   "of one is its own decision."},
+    {"ITMS-91056", "The list of kinds of collected data and of their purposes grows. `privacy-form` checks that each "
+                   "kind has purposes, "
+                   "not that they are on the list."},
+};
+
 /// The page of the documents, the same on every system.
 void printPage(Console &console)
 {
@@ -115,6 +140,10 @@ void printPage(Console &console)
             console.print(QString(u"\nSource: "_s + worded(rule.source)));
         }
     }
+    console.print(u"\n## What the package alone does not tell"_s);
+    console.print(u"\nThe store also judges by what is not in the file. No rule asks for it:\n"_s);
+    for (const auto &[codes, reason] : unknowns)
+        console.print(QString(u"- "_s + text(codes) + u": "_s + text(reason)));
 }
 
 ExitStatus runRules(Console &console, const RulesArguments &arguments)

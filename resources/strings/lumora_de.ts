@@ -3326,6 +3326,58 @@
     <source>Add the key with a sentence that people understand, or remove the class.</source>
     <translation>Den Schlüssel mit einem verständlichen Satz aufnehmen oder die Klasse entfernen.</translation>
   </message>
+  <message id="RULE_ICON_PAD_PRO_TITLE">
+    <source>Likely no icon for the iPad Pro</source>
+    <translation>Vermutlich kein Icon für das iPad Pro</translation>
+  </message>
+  <message id="RULE_ICON_PAD_PRO_RULE">
+    <source>An iPad app built with the SDK of iOS 9 or newer has an icon of 167 by 167 pixels, in the catalog or as a file.</source>
+    <translation>Eine iPad-App, die mit dem SDK von iOS 9 oder neuer gebaut ist, hat ein Icon mit 167 mal 167 Pixeln, im Katalog oder als Datei.</translation>
+  </message>
+  <message id="RULE_ICON_PAD_PRO_FIX">
+    <source>Give the app icon set a picture of 1024 pixels, or add the size of 167.</source>
+    <translation>Dem App-Icon-Satz ein Bild mit 1024 Pixeln geben oder die Größe 167 ergänzen.</translation>
+  </message>
+  <message id="RULE_PURPOSE_VAGUE_TITLE">
+    <source>A purpose string hardly says why</source>
+    <translation>Ein Zwecktext sagt kaum, wozu</translation>
+  </message>
+  <message id="RULE_PURPOSE_VAGUE_RULE">
+    <source>A purpose string says in a sentence what the app does with the data, and reviewers refuse one that does not.</source>
+    <translation>Ein Zwecktext sagt in einem Satz, was die App mit den Daten macht; ohne das lehnt die Prüfung ihn ab.</translation>
+  </message>
+  <message id="RULE_PURPOSE_VAGUE_FIX">
+    <source>Write a sentence that names the use, as in "Takes the picture for your profile."</source>
+    <translation>Einen Satz schreiben, der die Verwendung nennt, wie „Nimmt das Bild für Ihr Profil auf.“</translation>
+  </message>
+  <message id="RULE_SIGNATURE_DIGEST_TITLE">
+    <source>Signed with SHA-1 alone</source>
+    <translation>Nur mit SHA-1 signiert</translation>
+  </message>
+  <message id="RULE_SIGNATURE_DIGEST_RULE">
+    <source>A signature of today holds hashes of SHA-256, which alone are safe from forgery.</source>
+    <translation>Eine heutige Signatur enthält Prüfsummen mit SHA-256, denn nur sie sind fälschungssicher.</translation>
+  </message>
+  <message id="RULE_SIGNATURE_DIGEST_FIX">
+    <source>Sign the app again with current tools.</source>
+    <translation>Die App mit aktuellen Werkzeugen neu signieren.</translation>
+  </message>
+  <message id="FOUND_SHA1_ONLY">
+    <source>has no hashes but those of SHA-1</source>
+    <translation>hat nur Prüfsummen mit SHA-1</translation>
+  </message>
+  <message id="FOUND_VAGUE_KEY">
+    <source>[A] says only "[B]"</source>
+    <translation>[A] sagt nur „[B]“</translation>
+  </message>
+  <message id="FOUND_BEFORE_IOS_9">
+    <source>built before iOS 9</source>
+    <translation>vor iOS 9 gebaut</translation>
+  </message>
+  <message id="FOUND_NO_PAD_ICON">
+    <source>there is no icon for the iPad either</source>
+    <translation>auch das Icon für das iPad fehlt</translation>
+  </message>
   <message id="RULE_PURPOSE_EMPTY_TITLE">
     <source>A purpose string is empty</source>
     <translation>Ein Zwecktext ist leer</translation>

@@ -3324,6 +3324,58 @@
     <source>Add the key with a sentence that people understand, or remove the class.</source>
     <translation>Add the key with a sentence that people understand, or remove the class.</translation>
   </message>
+  <message id="RULE_ICON_PAD_PRO_TITLE">
+    <source>Likely no icon for the iPad Pro</source>
+    <translation>Likely no icon for the iPad Pro</translation>
+  </message>
+  <message id="RULE_ICON_PAD_PRO_RULE">
+    <source>An iPad app built with the SDK of iOS 9 or newer has an icon of 167 by 167 pixels, in the catalog or as a file.</source>
+    <translation>An iPad app built with the SDK of iOS 9 or newer has an icon of 167 by 167 pixels, in the catalog or as a file.</translation>
+  </message>
+  <message id="RULE_ICON_PAD_PRO_FIX">
+    <source>Give the app icon set a picture of 1024 pixels, or add the size of 167.</source>
+    <translation>Give the app icon set a picture of 1024 pixels, or add the size of 167.</translation>
+  </message>
+  <message id="RULE_PURPOSE_VAGUE_TITLE">
+    <source>A purpose string hardly says why</source>
+    <translation>A purpose string hardly says why</translation>
+  </message>
+  <message id="RULE_PURPOSE_VAGUE_RULE">
+    <source>A purpose string says in a sentence what the app does with the data, and reviewers refuse one that does not.</source>
+    <translation>A purpose string says in a sentence what the app does with the data, and reviewers refuse one that does not.</translation>
+  </message>
+  <message id="RULE_PURPOSE_VAGUE_FIX">
+    <source>Write a sentence that names the use, as in "Takes the picture for your profile."</source>
+    <translation>Write a sentence that names the use, as in "Takes the picture for your profile."</translation>
+  </message>
+  <message id="RULE_SIGNATURE_DIGEST_TITLE">
+    <source>Signed with SHA-1 alone</source>
+    <translation>Signed with SHA-1 alone</translation>
+  </message>
+  <message id="RULE_SIGNATURE_DIGEST_RULE">
+    <source>A signature of today holds hashes of SHA-256, which alone are safe from forgery.</source>
+    <translation>A signature of today holds hashes of SHA-256, which alone are safe from forgery.</translation>
+  </message>
+  <message id="RULE_SIGNATURE_DIGEST_FIX">
+    <source>Sign the app again with current tools.</source>
+    <translation>Sign the app again with current tools.</translation>
+  </message>
+  <message id="FOUND_SHA1_ONLY">
+    <source>has no hashes but those of SHA-1</source>
+    <translation>has no hashes but those of SHA-1</translation>
+  </message>
+  <message id="FOUND_VAGUE_KEY">
+    <source>[A] says only "[B]"</source>
+    <translation>[A] says only "[B]"</translation>
+  </message>
+  <message id="FOUND_BEFORE_IOS_9">
+    <source>built before iOS 9</source>
+    <translation>built before iOS 9</translation>
+  </message>
+  <message id="FOUND_NO_PAD_ICON">
+    <source>there is no icon for the iPad either</source>
+    <translation>there is no icon for the iPad either</translation>
+  </message>
   <message id="RULE_PURPOSE_EMPTY_TITLE">
     <source>A purpose string is empty</source>
     <translation>A purpose string is empty</translation>

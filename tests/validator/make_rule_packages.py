@@ -14,7 +14,7 @@ from catalog_builder import app_icon, rendition
 from macho_builder import DYLIB, BUNDLE, MachO, patched_bytes
 from make_provisioning import TEAM, profile, signed
 from rule_package import APP, BULB, ORIENTATIONS, SHARE, Link, Package
-from signing import Identity, Signer, seal
+from signing import SHA1, Identity, Signer, seal
 
 def with_pictures(entries, megabytes=5):
     """The catalogue's entries, and so many of a megabyte that it does not come in one piece."""
@@ -115,11 +115,13 @@ def breaking(identity, other, developer, ended):
             package.bulb_path = f"{APP}/Frameworks/{name}.framework"
         return change
 
-    def store_swift(package):
-        library = MachO(filetype=DYLIB)
+    def store_swift(package, minimum="15.0", twice=False):
+        library = MachO(filetype=DYLIB, minimum=minimum)
         library.signature_room = 0x6000
         library.sign = Signer(package.identity, "libswiftCore")
         package.files["Frameworks/libswiftCore.dylib"] = library.bytes()
+        if twice:
+            package.roots["SwiftSupport/iphoneos/libswiftCore.dylib"] = library.bytes()
 
     def loose(package):
         library = MachO(filetype=DYLIB)
@@ -171,6 +173,8 @@ def breaking(identity, other, developer, ended):
         "icon-phone": icons(app_icon(idioms=("pad",))),
         "icon-pad": icons(app_icon(idioms=("phone",))),
         "icon-marketing icon-phone icon-pad": icons(small),
+        "icon-pad-pro": icons(app_icon(idioms=("phone",)) + [
+            rendition("AppIcon", "pad.png", 152, 152, scale=2, idiom="pad")]),
         "icon-name": drop("CFBundleIcons", "CFBundleIcons~ipad"),
         "icon-name wrong": info(CFBundleIcons={"CFBundlePrimaryIcon": {"CFBundleIconName": "Other"}}),
         "icon-pad a JPEG": icons(app_icon(idioms=("phone",), pixel_format="JPEG", dark=False)),
@@ -203,9 +207,11 @@ def breaking(identity, other, developer, ended):
         "loose-code": loose,
         "nested-frameworks": lambda package: setattr(package, "bulb_path", f"{SHARE}/Frameworks/Bulb.framework"),
         "swift-support": store_swift,
+        "swift-support newer": lambda package: store_swift(package, minimum="17.0", twice=True),
         "signed": signer(identity=None, team="", flags=2),
         "signed not at all": lambda package: setattr(package, "sign_app", False),
         "signature": byte(f"{APP}/Lamp"),
+        "signature-digest": signer(kinds=(SHA1,)),
         "signature seal": byte(f"{BULB}/Bulb"),
         "seal": replace(f"{APP}/de.lproj/Localizable.strings", b"changed"),
         "seal Info.plist": lambda package: setattr(package, "after", lambda files: files.update(
@@ -233,14 +239,25 @@ def breaking(identity, other, developer, ended):
         "push": code(selectors=["registerForRemoteNotifications"]),
         "purpose": code(imports=["_OBJC_CLASS_$_AVCaptureDevice"]),
         "purpose-likely": code(imports=["_OBJC_CLASS_$_EKEventStore"]),
+        "purpose-likely microphone": code(imports=["_OBJC_CLASS_$_AVAudioRecorder"]),
+        "purpose-likely local network": code(imports=["_OBJC_CLASS_$_NSNetServiceBrowser"]),
+        "purpose-vague": info(NSCameraUsageDescription="Needs camera"),
+        "purpose-vague unfilled": info(NSCameraUsageDescription="$(PRODUCT_NAME) would like to use the camera."),
+        "purpose-vague in a language": languages(
+            en=b'NSCameraUsageDescription = "To see how bright it is.";',
+            de=b'NSCameraUsageDescription = "Kamera";'),
         "purpose-empty": info(NSCameraUsageDescription=" "),
-        "purpose-empty in a language": languages(en=b'NSCameraUsageDescription = "To see.";',
+        "purpose-empty in a language": languages(en=b'NSCameraUsageDescription = "To see how bright it is.";',
                                                  de=b'"NSCameraUsageDescription" = "";'),
         "required-reason": code(imports=["_statfs"]),
         "required-reason in a framework": code("bulb", selectors=["systemUptime"]),
         "privacy-form": lambda package: package.privacy.update({"NSPrivacyTracking": True}),
         "privacy-form reason": lambda package: package.privacy["NSPrivacyAccessedAPITypes"].append(
             {"NSPrivacyAccessedAPIType": "NSPrivacyAccessedAPICategoryDiskSpace", "NSPrivacyAccessedAPITypeReasons": ["X"]}),
+        "privacy-form unknown key": lambda package: package.privacy["NSPrivacyAccessedAPITypes"][0].update({"Reason": "CA92.1"}),
+        "privacy-form unknown key of data": lambda package: package.privacy.update({"NSPrivacyCollectedDataTypes": [
+            {"NSPrivacyCollectedDataType": "NSPrivacyCollectedDataTypeName", "NSPrivacyCollectedDataTypePurposes": ["A"],
+             "NSPrivacyCollectedDataTypeLinks": True}]}),
         "listed-kit listed-kit-signature": moved_framework("Alamofire"),
         "listed-kit-signature": listed_kit_without_receipt,
         "arm64-minimum minimum-system framework-system": old_with_arm64,
@@ -284,6 +301,10 @@ def keeping():
         package.info["NSCameraUsageDescription"] = ""
         text = '/* Why */\n"NSCameraUsageDescription" = "The lamp sees how bright it is.";\n'.encode("utf-16")
         languages(en=text, de=text)(package)
+
+    def purpose_in_other_scripts(package):
+        languages(en="NSCameraUsageDescription = \"明るさを見ます\";".encode(),
+                  de="NSCameraUsageDescription = \"Misst die Helligkeit für Sie.\";".encode())(package)
 
     def facebook(package):
         package.info["FacebookAppID"] = "12345"
@@ -339,6 +360,7 @@ def keeping():
             "a link to the seal": old_link, "a Mac app": for_mac(True), "a selector of that name": web_view_selector, "declared use": declared,
             "purpose said": purpose, "purpose in languages": purpose_in_languages,
             "purpose from a language": purpose_from_a_language,
+            "purpose in other scripts": purpose_in_other_scripts,
             "a Mac framework": for_mac(True, bulb_privacy={"NSPrivacyTracking": False}, mac_privacy={}), "facebook scheme": facebook, "the whole screen": full_screen, "tasks listed": tasks,
             "swift libraries twice": swift, "push with its entitlement": push, "wildcard profile": wildcard,
             "swift entry": entry}

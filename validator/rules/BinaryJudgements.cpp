@@ -359,6 +359,14 @@ Judgement judgeSwiftSupport(const PackageContents &contents, const RuleSettings 
         const QString name = binary.path.mid(folder.size());
         if (!contents.holds(u"SwiftSupport/iphoneos/"_s + name))
             missing += Evidence{binary.path, worded("FOUND_NO_SWIFT_SUPPORT", {name})};
+        for (const BinarySlice &slice : binary.facts.slices) {
+            const QVersionNumber built =
+                slice.targets.isEmpty() ? QVersionNumber() : versionNumber(slice.targets.first().minimumOS);
+            const QVersionNumber minimum = minimumSystem(app);
+            if (!minimum.isNull() && built > minimum)
+                missing +=
+                    Evidence{binary.path, worded("FOUND_BUILT_FOR_NEWER", {built.toString(), minimum.toString()})};
+        }
     }
     return found ? brokenBy(missing) : notApplicable(worded("FOUND_NO_SWIFT_LIBRARIES"));
 }

@@ -153,6 +153,18 @@ Judgement judgePadIcon(const PackageContents &contents, const RuleSettings &)
     return judgeSizes(contents, {152}, u"iPad"_s, &fitsPad);
 }
 
+Judgement judgePadProIcon(const PackageContents &contents, const RuleSettings &settings)
+{
+    const Judgement pad = judgePadIcon(contents, settings);
+    if (pad.state == Judgement::Broken)
+        return notApplicable(worded("FOUND_NO_PAD_ICON"));
+    if (pad.state != Judgement::Holds)
+        return pad;
+    if (sdkOf(contents) < QVersionNumber(9))
+        return notApplicable(worded("FOUND_BEFORE_IOS_9"));
+    return judgeSizes(contents, {167}, u"iPad Pro"_s, &fitsPad);
+}
+
 Judgement judgeMarketingIcon(const PackageContents &contents, const RuleSettings &)
 {
     if (!isPhoneApp(contents))

@@ -50,6 +50,7 @@ QList<const PackageBundle *> codeBundles(const PackageContents &contents);
 
 Judgement judgePhoneIcon(const PackageContents &, const RuleSettings &);
 Judgement judgePadIcon(const PackageContents &, const RuleSettings &);
+Judgement judgePadProIcon(const PackageContents &, const RuleSettings &);
 Judgement judgeMarketingIcon(const PackageContents &, const RuleSettings &);
 Judgement judgeIconName(const PackageContents &, const RuleSettings &);
 Judgement judgeOpaqueIcon(const PackageContents &, const RuleSettings &);
@@ -90,6 +91,7 @@ Judgement judgeSwiftSupport(const PackageContents &, const RuleSettings &);
 
 Judgement judgeSigned(const PackageContents &, const RuleSettings &);
 Judgement judgeSignature(const PackageContents &, const RuleSettings &);
+Judgement judgeSignatureDigest(const PackageContents &, const RuleSettings &);
 Judgement judgeSeal(const PackageContents &, const RuleSettings &);
 Judgement judgeCertificateKind(const PackageContents &, const RuleSettings &);
 Judgement judgeCertificateValidity(const PackageContents &, const RuleSettings &);
@@ -108,6 +110,7 @@ Judgement judgePush(const PackageContents &, const RuleSettings &);
 Judgement judgePurposes(const PackageContents &, const RuleSettings &);
 Judgement judgeLikelyPurposes(const PackageContents &, const RuleSettings &);
 Judgement judgeEmptyPurposes(const PackageContents &, const RuleSettings &);
+Judgement judgeVaguePurposes(const PackageContents &, const RuleSettings &);
 Judgement judgeRequiredReasons(const PackageContents &, const RuleSettings &);
 Judgement judgePrivacyForm(const PackageContents &, const RuleSettings &);
 Judgement judgeListedKits(const PackageContents &, const RuleSettings &);

@@ -35,6 +35,8 @@ constexpr Purpose likelyPurposes[] = {
     {"CBCentralManager", "NSBluetoothAlwaysUsageDescription"},
     {"CBPeripheralManager", "NSBluetoothAlwaysUsageDescription"},
     {"LAContext", "NSFaceIDUsageDescription"},
+    {"AVAudioRecorder", "NSMicrophoneUsageDescription"},
+    {"NSNetServiceBrowser", "NSLocalNetworkUsageDescription"},
     {"CMMotionActivityManager", "NSMotionUsageDescription"},
     {"CMPedometer", "NSMotionUsageDescription"},
     {"SFSpeechRecognizer", "NSSpeechRecognitionUsageDescription"},
@@ -79,6 +81,45 @@ template <std::size_t Count> Judgement judgeTexts(const PackageContents &content
 bool isPurpose(const QString &key)
 {
     return key.endsWith("UsageDescription"_L1);
+}
+
+/// A purpose string and its place; the text may be empty.
+struct SaidPurpose
+{
+    QString path;
+    QString key;
+    QString text;
+};
+
+/// The purpose strings of all code: those of the Info.plists, and those of the languages.
+QList<SaidPurpose> saidPurposes(const PackageContents &contents)
+{
+    QList<SaidPurpose> said;
+    for (const PackageBundle *bundle : codeBundles(contents)) {
+        for (const QString &key : bundle->info ? bundle->info->keys() : QStringList()) {
+            if (isPurpose(key))
+                said += SaidPurpose{infoPath(*bundle), key, bundle->shownText(key).trimmed()};
+        }
+        for (auto language = bundle->localized.cbegin(); language != bundle->localized.cend(); ++language) {
+            for (auto each = language->cbegin(); each != language->cend(); ++each) {
+                if (isPurpose(each.key()))
+                    said += SaidPurpose{bundle->localizedPath(language.key()), each.key(), each->trimmed()};
+            }
+        }
+    }
+    return said;
+}
+
+/// Whether the text is too short for a reason, or was never written. Of scripts that need no spaces, nothing is known.
+bool isVague(const QString &text)
+{
+    constexpr qsizetype fewestWords = 3;
+    constexpr QChar lastLatin(0x24F);
+    if (text.isEmpty() ||
+        std::ranges::any_of(text, [](QChar letter) { return letter > lastLatin && letter.isLetter(); }))
+        return false;
+    return text.split(u' ', Qt::SkipEmptyParts).size() < fewestWords || text.contains("$("_L1) ||
+           text.contains("lorem ipsum"_L1, Qt::CaseInsensitive);
 }
 
 /// The first symbol of the category that the binary uses; empty if there is none.
@@ -128,21 +169,21 @@ Judgement judgeLikelyPurposes(const PackageContents &contents, const RuleSetting
 Judgement judgeEmptyPurposes(const PackageContents &contents, const RuleSettings &)
 {
     QList<Evidence> empty;
-    for (const PackageBundle *bundle : codeBundles(contents)) {
-        if (!bundle->info)
-            continue;
-        for (auto each = bundle->info->cbegin(); each != bundle->info->cend(); ++each) {
-            if (isPurpose(each.key()) && bundle->shownText(each.key()).trimmed().isEmpty())
-                empty += Evidence{infoPath(*bundle), worded("FOUND_EMPTY_KEY", {each.key()})};
-        }
-        for (auto language = bundle->localized.cbegin(); language != bundle->localized.cend(); ++language) {
-            for (auto each = language->cbegin(); each != language->cend(); ++each) {
-                if (isPurpose(each.key()) && each->trimmed().isEmpty())
-                    empty += Evidence{bundle->localizedPath(language.key()), worded("FOUND_EMPTY_KEY", {each.key()})};
-            }
-        }
+    for (const SaidPurpose &each : saidPurposes(contents)) {
+        if (each.text.isEmpty())
+            empty += Evidence{each.path, worded("FOUND_EMPTY_KEY", {each.key})};
     }
     return brokenBy(empty);
+}
+
+Judgement judgeVaguePurposes(const PackageContents &contents, const RuleSettings &)
+{
+    QList<Evidence> vague;
+    for (const SaidPurpose &each : saidPurposes(contents)) {
+        if (isVague(each.text))
+            vague += Evidence{each.path, worded("FOUND_VAGUE_KEY", {each.key, each.text.left(80)})};
+    }
+    return brokenBy(vague);
 }
 
 Judgement judgeRequiredReasons(const PackageContents &contents, const RuleSettings &settings)

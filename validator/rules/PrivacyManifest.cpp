@@ -38,8 +38,18 @@ const RequiredReason *reasonNamed(const QString &category)
     return nullptr;
 }
 
+/// Keys of a dictionary of the manifest that nobody knows are a fault of it.
+void findUnknownKeys(const QVariantMap &dictionary, const QStringList &known, PrivacyManifest &manifest)
+{
+    for (const QString &key : dictionary.keys()) {
+        if (!known.contains(key))
+            manifest.faults += worded("FOUND_UNKNOWN_KEY", {key});
+    }
+}
+
 void readAccess(const QVariantMap &access, PrivacyManifest &manifest)
 {
+    findUnknownKeys(access, {u"NSPrivacyAccessedAPIType"_s, u"NSPrivacyAccessedAPITypeReasons"_s}, manifest);
     const QString type = access.value(u"NSPrivacyAccessedAPIType"_s).toString();
     const QString category = type.startsWith(categoryPrefix) ? type.mid(categoryPrefix.size()) : QString();
     const RequiredReason *known = reasonNamed(category);
@@ -90,13 +100,12 @@ bool isListedKit(const QString &name)
 
 PrivacyManifest readPrivacyManifest(const QVariantMap &list)
 {
-    static const QSet<QString> knownKeys{u"NSPrivacyTracking"_s, u"NSPrivacyTrackingDomains"_s,
-                                         u"NSPrivacyCollectedDataTypes"_s, u"NSPrivacyAccessedAPITypes"_s};
+    static const QString collectedKey = u"NSPrivacyCollectedDataType"_s;
     PrivacyManifest manifest;
-    for (const QString &key : list.keys()) {
-        if (!knownKeys.contains(key))
-            manifest.faults += worded("FOUND_UNKNOWN_KEY", {key});
-    }
+    findUnknownKeys(list,
+                    {u"NSPrivacyTracking"_s, u"NSPrivacyTrackingDomains"_s, u"NSPrivacyCollectedDataTypes"_s,
+                     u"NSPrivacyAccessedAPITypes"_s},
+                    manifest);
     const QVariant tracking = list.value(u"NSPrivacyTracking"_s);
     if (tracking.isValid() && tracking.typeId() != QMetaType::Bool)
         manifest.faults += worded("FOUND_TRACKING_NO_BOOLEAN");
@@ -106,6 +115,9 @@ PrivacyManifest readPrivacyManifest(const QVariantMap &list)
     manifest.collectedDataTypes = collected.size();
     for (const QVariant &each : collected) {
         const QVariantMap type = each.toMap();
+        findUnknownKeys(
+            type, {collectedKey, collectedKey + u"Linked", collectedKey + u"Tracking", collectedKey + u"Purposes"},
+            manifest);
         if (type.value(u"NSPrivacyCollectedDataType"_s).toString().isEmpty())
             manifest.faults += worded("FOUND_TYPE_MISSING");
         else if (type.value(u"NSPrivacyCollectedDataTypePurposes"_s).toList().isEmpty())

@@ -118,6 +118,24 @@ Judgement judgeSignature(const PackageContents &contents, const RuleSettings &)
     return found ? brokenBy(bad) : notApplicable(worded("FOUND_NOTHING_SIGNED"));
 }
 
+Judgement judgeSignatureDigest(const PackageContents &contents, const RuleSettings &)
+{
+    QList<Evidence> bad;
+    bool found = false;
+    for (const PackageBinary &binary : contents.binaries) {
+        const bool isOld = std::ranges::any_of(binary.signatures, [&found](const CodeSignature &signature) {
+            found = true;
+            return !signature.directories.isEmpty() &&
+                   std::ranges::all_of(signature.directories, [](const CodeDirectory &directory) {
+                       return directory.digest == DigestKind::Sha1;
+                   });
+        });
+        if (isOld)
+            bad += Evidence{binary.path, worded("FOUND_SHA1_ONLY")};
+    }
+    return found ? brokenBy(bad) : notApplicable(worded("FOUND_NOTHING_SIGNED"));
+}
+
 Judgement judgeSeal(const PackageContents &contents, const RuleSettings &)
 {
     QList<Evidence> bad;
