@@ -2375,8 +2375,8 @@
     <translation>Das eigene Bild des Pakets</translation>
   </message>
   <message id="FINDINGS_PACKED_ICON">
-    <source>The package has a picture of 1024 pixels, but only compressed in Assets.car, where this program reads its size and not its pixels. The icon tool opens without it: drop the original picture there.</source>
-    <translation>Das Paket hat ein Bild mit 1024 Pixeln, aber nur komprimiert in Assets.car. Dort liest dieses Programm die Größe, nicht die Pixel. Das Icon-Werkzeug öffnet sich ohne Bild: Legen Sie dort das Original ab.</translation>
+    <source>The package has a picture of 1024 pixels in Assets.car, where this program reads its size only. The icon tool opens without it: drop the original picture there.</source>
+    <translation>Das Paket hat ein Bild von 1024 Pixeln in Assets.car, aber dort liest dieses Programm nur die Größe. Das Icon-Werkzeug öffnet sich ohne Bild: Legen Sie dort das Original ab.</translation>
   </message>
   <message id="FINDINGS_MAKE_ICONS">
     <source>Make the missing icons</source>
@@ -2603,8 +2603,8 @@
     <translation>Die Mac-App hat kein Bereitstellungsprofil</translation>
   </message>
   <message id="RULE_MAC_PROFILE_RULE">
-    <source>An app for the Mac App Store that testers are to get brings Contents/embedded.provisionprofile.</source>
-    <translation>Eine App für den Mac App Store, die Testpersonen bekommen sollen, bringt Contents/embedded.provisionprofile mit.</translation>
+    <source>A Mac app that is for testers, too, brings Contents/embedded.provisionprofile.</source>
+    <translation>Eine Mac-App, die auch für Testpersonen ist, bringt Contents/embedded.provisionprofile mit.</translation>
   </message>
   <message id="RULE_MAC_PROFILE_FIX">
     <source>Export the archive for the App Store with Xcode.</source>
@@ -2643,16 +2643,16 @@
     <translation>Das Deployment Target anheben oder arm64 aus UIRequiredDeviceCapabilities nehmen.</translation>
   </message>
   <message id="RULE_PRIVATE_NAMES_TITLE">
-    <source>Private functions of the system</source>
-    <translation>Private Funktionen des Systems</translation>
+    <source>Code uses private functions of the system</source>
+    <translation>Code verwendet private Funktionen des Systems</translation>
   </message>
   <message id="RULE_PRIVATE_NAMES_RULE">
-    <source>Apps link no private framework and call no function that is known to be private.</source>
-    <translation>Apps linken kein privates Framework und rufen keine Funktion auf, die als privat bekannt ist.</translation>
+    <source>An app links no private framework and calls no function that is known to be private.</source>
+    <translation>Eine App linkt kein privates Framework und ruft keine Funktion auf, die als privat bekannt ist.</translation>
   </message>
   <message id="RULE_PRIVATE_NAMES_FIX">
-    <source>Use the public counterpart, or a newer version of the library that calls it.</source>
-    <translation>Das öffentliche Gegenstück verwenden oder eine neuere Fassung der Bibliothek, die sie aufruft.</translation>
+    <source>Use a public function instead, or a newer version of the library that calls the private one.</source>
+    <translation>Stattdessen eine öffentliche Funktion verwenden oder eine neuere Fassung der Bibliothek, die die private aufruft.</translation>
   </message>
   <message id="RULE_LISTED_KIT_SIGNATURE_TITLE">
     <source>A listed kit is likely not signed by its maker</source>
@@ -2875,8 +2875,8 @@
     <translation>Das Bundle ist nicht als App gekennzeichnet</translation>
   </message>
   <message id="RULE_PACKAGE_TYPE_RULE">
-    <source>CFBundlePackageType of the app is APPL.</source>
-    <translation>CFBundlePackageType der App ist APPL.</translation>
+    <source>The app's CFBundlePackageType is APPL.</source>
+    <translation>Der CFBundlePackageType der App ist APPL.</translation>
   </message>
   <message id="RULE_PACKAGE_TYPE_FIX">
     <source>Set CFBundlePackageType to APPL.</source>
@@ -2887,44 +2887,44 @@
     <translation>Das älteste System ist wahrscheinlich zu alt</translation>
   </message>
   <message id="RULE_MINIMUM_SYSTEM_RULE">
-    <source>An app is likely to need a MinimumOSVersion of 15.0 or more from spring 2027 on.</source>
+    <source>An app likely needs a MinimumOSVersion of 15.0 or more from spring 2027 on.</source>
     <translation>Ab Frühjahr 2027 braucht eine App wahrscheinlich eine MinimumOSVersion von 15.0 oder mehr.</translation>
   </message>
   <message id="RULE_MINIMUM_SYSTEM_FIX">
-    <source>Raise the deployment target to 15.0.</source>
-    <translation>Das Deployment Target auf 15.0 anheben.</translation>
+    <source>Raise the deployment target to 15.0 or more.</source>
+    <translation>Das Deployment Target auf 15.0 oder mehr anheben.</translation>
   </message>
   <message id="RULE_NESTED_VERSION_TITLE">
     <source>A version is missing or malformed</source>
     <translation>Eine Version fehlt oder ist falsch geformt</translation>
   </message>
   <message id="RULE_NESTED_VERSION_RULE">
-    <source>The app and each bundle in it have a CFBundleShortVersionString of one to three numbers and a CFBundleVersion.</source>
-    <translation>Die App und jedes Bundle darin haben eine CFBundleShortVersionString aus ein bis drei Zahlen und eine CFBundleVersion.</translation>
+    <source>The app and each bundle in it has a CFBundleShortVersionString of one to three numbers and a CFBundleVersion.</source>
+    <translation>Die App und jedes Bundle darin hat einen CFBundleShortVersionString aus ein bis drei Zahlen und eine CFBundleVersion.</translation>
   </message>
   <message id="RULE_NESTED_VERSION_FIX">
-    <source>Set both in the bundle's Info.plist, as in 2.1.0.</source>
-    <translation>Beide in der Info.plist des Bundles setzen, etwa 2.1.0.</translation>
+    <source>Set both keys in the bundle's Info.plist to numbers with dots, as in 2.1.0.</source>
+    <translation>Beide Schlüssel in der Info.plist des Bundles auf Zahlen mit Punkten setzen, etwa 2.1.0.</translation>
   </message>
   <message id="RULE_EXTENSION_VERSION_TITLE">
     <source>An extension has another version than the app</source>
     <translation>Eine Erweiterung hat eine andere Version als die App</translation>
   </message>
   <message id="RULE_EXTENSION_VERSION_RULE">
-    <source>The versions of an extension are those of its app.</source>
-    <translation>Die Versionen einer Erweiterung sind die ihrer App.</translation>
+    <source>An extension has the same version and build number as its app.</source>
+    <translation>Eine Erweiterung hat dieselbe Version und Buildnummer wie ihre App.</translation>
   </message>
   <message id="RULE_EXTENSION_VERSION_FIX">
-    <source>Set both versions of the extension to the app's.</source>
-    <translation>Beide Versionen der Erweiterung auf die der App setzen.</translation>
+    <source>Set version and build number of the extension to the app's.</source>
+    <translation>Version und Buildnummer der Erweiterung auf die der App setzen.</translation>
   </message>
   <message id="RULE_IDENTIFIER_ONCE_TITLE">
-    <source>Two bundles have one identifier</source>
-    <translation>Zwei Bundles haben eine Kennung</translation>
+    <source>Two bundles have the same identifier</source>
+    <translation>Zwei Bundles haben dieselbe Kennung</translation>
   </message>
   <message id="RULE_IDENTIFIER_ONCE_RULE">
-    <source>Each CFBundleIdentifier in the package is there once.</source>
-    <translation>Jeder CFBundleIdentifier kommt im Paket nur einmal vor.</translation>
+    <source>No two bundles of the package have the same CFBundleIdentifier.</source>
+    <translation>Keine zwei Bundles des Pakets haben denselben CFBundleIdentifier.</translation>
   </message>
   <message id="RULE_IDENTIFIER_ONCE_FIX">
     <source>Give one of the bundles another identifier.</source>
@@ -2939,11 +2939,11 @@
     <translation>Die Kennung einer Erweiterung oder Watch-App ist die der App, ein Punkt und ein eigener Name.</translation>
   </message>
   <message id="RULE_NESTED_IDENTIFIER_FIX">
-    <source>Change the CFBundleIdentifier of the nested bundle.</source>
-    <translation>Den CFBundleIdentifier des inneren Bundles ändern.</translation>
+    <source>Let the CFBundleIdentifier of the nested bundle begin with the app's identifier and a dot.</source>
+    <translation>Den CFBundleIdentifier des inneren Bundles mit der Kennung der App und einem Punkt beginnen lassen.</translation>
   </message>
   <message id="RULE_ARM64_CAPABILITY_TITLE">
-    <source>64-bit code alone, but arm64 is not asked for</source>
+    <source>Only 64-bit code, but arm64 is not asked for</source>
     <translation>Nur 64-Bit-Code, aber arm64 wird nicht verlangt</translation>
   </message>
   <message id="RULE_ARM64_CAPABILITY_RULE">
@@ -2959,8 +2959,8 @@
     <translation>Mit einem zu alten SDK gebaut</translation>
   </message>
   <message id="RULE_SDK_AGE_RULE">
-    <source>Apps are built with the SDK of iOS 18 since April 2025, and with that of iOS 26 since April 2026.</source>
-    <translation>Apps werden seit April 2025 mit dem SDK von iOS 18 gebaut und seit April 2026 mit dem von iOS 26.</translation>
+    <source>An app is built with the SDK of iOS 18 or newer since April 2025, and with that of iOS 26 or newer since April 2026.</source>
+    <translation>Eine App wird seit April 2025 mit dem SDK von iOS 18 oder neuer gebaut und seit April 2026 mit dem von iOS 26 oder neuer.</translation>
   </message>
   <message id="RULE_SDK_AGE_FIX">
     <source>Build with the current Xcode.</source>
@@ -2971,12 +2971,12 @@
     <translation>Wahrscheinlich mit einem zu alten SDK gebaut</translation>
   </message>
   <message id="RULE_SDK_AGE_NEXT_RULE">
-    <source>Apps are likely to need the SDK of iOS 27 from April 2027 on.</source>
-    <translation>Ab April 2027 brauchen Apps wahrscheinlich das SDK von iOS 27.</translation>
+    <source>An app likely needs the SDK of iOS 27 or newer from April 2027 on.</source>
+    <translation>Ab April 2027 braucht eine App wahrscheinlich das SDK von iOS 27 oder neuer.</translation>
   </message>
   <message id="RULE_SDK_AGE_NEXT_FIX">
-    <source>Build with Xcode 27.</source>
-    <translation>Mit Xcode 27 bauen.</translation>
+    <source>Build with Xcode 27 or newer.</source>
+    <translation>Mit Xcode 27 oder neuer bauen.</translation>
   </message>
   <message id="RULE_EXECUTABLE_TITLE">
     <source>Code is missing or damaged</source>
@@ -2991,8 +2991,8 @@
     <translation>Die App neu bauen und exportieren.</translation>
   </message>
   <message id="RULE_SIMULATOR_CODE_TITLE">
-    <source>Code for the simulator</source>
-    <translation>Code für den Simulator</translation>
+    <source>Code is for the simulator</source>
+    <translation>Code ist für den Simulator</translation>
   </message>
   <message id="RULE_SIMULATOR_CODE_RULE">
     <source>No binary holds a slice for the simulator (i386, x86_64).</source>
@@ -3007,7 +3007,7 @@
     <translation>Ein Segment ist nicht ausgerichtet</translation>
   </message>
   <message id="RULE_ALIGNMENT_RULE">
-    <source>Each segment of a binary begins at a page.</source>
+    <source>Each segment of a binary begins at the start of a page.</source>
     <translation>Jedes Segment eines Programms beginnt an einer Seitengrenze.</translation>
   </message>
   <message id="RULE_ALIGNMENT_FIX">
@@ -3015,8 +3015,8 @@
     <translation>Das Programm mit den Werkzeugen der Plattform neu linken.</translation>
   </message>
   <message id="RULE_BITCODE_TITLE">
-    <source>Bitcode</source>
-    <translation>Bitcode</translation>
+    <source>Code still holds bitcode</source>
+    <translation>Code enthält noch Bitcode</translation>
   </message>
   <message id="RULE_BITCODE_RULE">
     <source>A package built with Xcode 16 or newer holds no bitcode.</source>
@@ -3027,40 +3027,40 @@
     <translation>Mit „bitcode_strip -r“ entfernen oder eine neuere Fassung der Bibliothek verwenden.</translation>
   </message>
   <message id="RULE_ENCRYPTION_INFO_TITLE">
-    <source>The store cannot encipher the binary</source>
+    <source>The store cannot encrypt the binary</source>
     <translation>Der Store kann das Programm nicht verschlüsseln</translation>
   </message>
   <message id="RULE_ENCRYPTION_INFO_RULE">
-    <source>The app's binary has an LC_ENCRYPTION_INFO and is not enciphered yet.</source>
-    <translation>Das Programm der App hat ein LC_ENCRYPTION_INFO und ist noch nicht verschlüsselt.</translation>
+    <source>The app's binary has a load command LC_ENCRYPTION_INFO and is not encrypted yet.</source>
+    <translation>Das Programm der App hat einen Ladebefehl LC_ENCRYPTION_INFO und ist noch nicht verschlüsselt.</translation>
   </message>
   <message id="RULE_ENCRYPTION_INFO_FIX">
-    <source>Export the app from its archive instead of from a device, without a packer.</source>
-    <translation>Die App aus ihrem Archiv exportieren statt von einem Gerät, und ohne Packer.</translation>
+    <source>Export the app from its archive, not from a device, and without a packer.</source>
+    <translation>Die App aus ihrem Archiv exportieren, nicht von einem Gerät, und ohne Packer.</translation>
   </message>
   <message id="RULE_WEB_VIEW_TITLE">
-    <source>UIWebView</source>
-    <translation>UIWebView</translation>
+    <source>Code refers to UIWebView</source>
+    <translation>Code verweist auf UIWebView</translation>
   </message>
   <message id="RULE_WEB_VIEW_RULE">
     <source>No code refers to the class UIWebView.</source>
     <translation>Kein Code verweist auf die Klasse UIWebView.</translation>
   </message>
   <message id="RULE_WEB_VIEW_FIX">
-    <source>Use WKWebView, and libraries that do.</source>
-    <translation>WKWebView verwenden, und Bibliotheken, die das tun.</translation>
+    <source>Use WKWebView, and versions of libraries that use it, too.</source>
+    <translation>WKWebView verwenden, und Fassungen der Bibliotheken, die es auch tun.</translation>
   </message>
   <message id="RULE_FRAMEWORK_MINIMUM_TITLE">
     <source>A framework's minimum system is missing or too old</source>
     <translation>Das älteste System eines Frameworks fehlt oder ist zu alt</translation>
   </message>
   <message id="RULE_FRAMEWORK_MINIMUM_RULE">
-    <source>The MinimumOSVersion of a framework is there, and 8.0 or more.</source>
-    <translation>Die MinimumOSVersion eines Frameworks ist da und beträgt 8.0 oder mehr.</translation>
+    <source>Each framework names a MinimumOSVersion of 8.0 or more.</source>
+    <translation>Jedes Framework nennt eine MinimumOSVersion von 8.0 oder mehr.</translation>
   </message>
   <message id="RULE_FRAMEWORK_MINIMUM_FIX">
-    <source>Add MinimumOSVersion to the framework's Info.plist.</source>
-    <translation>MinimumOSVersion in die Info.plist des Frameworks aufnehmen.</translation>
+    <source>Set MinimumOSVersion in the framework's Info.plist to the app's.</source>
+    <translation>MinimumOSVersion in der Info.plist des Frameworks auf die der App setzen.</translation>
   </message>
   <message id="RULE_FRAMEWORK_SYSTEM_TITLE">
     <source>A framework is built for another system than it says</source>
@@ -3075,7 +3075,7 @@
     <translation>Das Framework mit dem Deployment Target der App bauen.</translation>
   </message>
   <message id="RULE_FRAMEWORK_TYPE_TITLE">
-    <source>A framework is no dynamic library</source>
+    <source>A framework is not a dynamic library</source>
     <translation>Ein Framework ist keine dynamische Bibliothek</translation>
   </message>
   <message id="RULE_FRAMEWORK_TYPE_RULE">
@@ -3083,16 +3083,16 @@
     <translation>Das Programm eines Frameworks ist eine dynamische Bibliothek.</translation>
   </message>
   <message id="RULE_FRAMEWORK_TYPE_FIX">
-    <source>Link the static library into the app, and do not embed it.</source>
-    <translation>Die statische Bibliothek in die App linken und nicht einbetten.</translation>
+    <source>Link a static library into the app and do not embed it.</source>
+    <translation>Eine statische Bibliothek in die App linken und nicht einbetten.</translation>
   </message>
   <message id="RULE_SWIFT_ENTRY_TITLE">
     <source>An extension likely has no entry point</source>
     <translation>Eine Erweiterung hat wahrscheinlich keinen Einstieg</translation>
   </message>
   <message id="RULE_SWIFT_ENTRY_RULE">
-    <source>An extension of the newer kind has a section __swift5_entry.</source>
-    <translation>Eine Erweiterung der neueren Art hat einen Abschnitt __swift5_entry.</translation>
+    <source>An extension of the newer kind has a section __swift5_entry, where the system starts it.</source>
+    <translation>Eine Erweiterung der neueren Art hat einen Abschnitt __swift5_entry, an dem das System sie startet.</translation>
   </message>
   <message id="RULE_SWIFT_ENTRY_FIX">
     <source>Mark its type with @main and build again.</source>
@@ -3103,8 +3103,8 @@
     <translation>Code außerhalb eines Bundles</translation>
   </message>
   <message id="RULE_LOOSE_CODE_RULE">
-    <source>Libraries and programs lie in frameworks and extensions only, laid out as on the phone.</source>
-    <translation>Bibliotheken und Programme liegen nur in Frameworks und Erweiterungen, angeordnet wie auf dem Telefon.</translation>
+    <source>Libraries and programs are only in frameworks and extensions, which have the layout of the phone.</source>
+    <translation>Bibliotheken und Programme liegen nur in Frameworks und Erweiterungen, und diese sind angeordnet wie auf dem Telefon.</translation>
   </message>
   <message id="RULE_LOOSE_CODE_FIX">
     <source>Embed a framework instead of the bare library.</source>
@@ -3119,16 +3119,16 @@
     <translation>Nur die App selbst hat einen Ordner mit Frameworks.</translation>
   </message>
   <message id="RULE_NESTED_FRAMEWORKS_FIX">
-    <source>Embed the frameworks in the app alone.</source>
-    <translation>Die Frameworks allein in die App einbetten.</translation>
+    <source>Embed the frameworks in the app only.</source>
+    <translation>Die Frameworks nur in die App einbetten.</translation>
   </message>
   <message id="RULE_SWIFT_SUPPORT_TITLE">
-    <source>SwiftSupport is missing</source>
-    <translation>SwiftSupport fehlt</translation>
+    <source>SwiftSupport is missing or does not fit</source>
+    <translation>SwiftSupport fehlt oder passt nicht</translation>
   </message>
   <message id="RULE_SWIFT_SUPPORT_RULE">
-    <source>An archive for the store that brings libraries of Swift holds them in SwiftSupport, too.</source>
-    <translation>Ein Archiv für den Store, das Bibliotheken von Swift mitbringt, enthält sie auch in SwiftSupport.</translation>
+    <source>An archive for the store that brings libraries of Swift holds them in SwiftSupport, too, built for the app's minimum system.</source>
+    <translation>Ein Archiv für den Store, das Bibliotheken von Swift mitbringt, enthält sie auch in SwiftSupport, gebaut für das älteste System der App.</translation>
   </message>
   <message id="RULE_SWIFT_SUPPORT_FIX">
     <source>Export the archive with Xcode instead of packing it by hand.</source>
@@ -3139,20 +3139,20 @@
     <translation>Code ist nicht signiert</translation>
   </message>
   <message id="RULE_SIGNED_RULE">
-    <source>All code is signed, and by somebody.</source>
-    <translation>Aller Code ist signiert, und zwar von jemandem.</translation>
+    <source>All code is signed, and with a certificate.</source>
+    <translation>Aller Code ist signiert, und zwar mit einem Zertifikat.</translation>
   </message>
   <message id="RULE_SIGNED_FIX">
-    <source>Sign every nested bundle, then the app.</source>
-    <translation>Jedes innere Bundle signieren, dann die App.</translation>
+    <source>Sign every nested bundle with a certificate, then the app.</source>
+    <translation>Jedes innere Bundle mit einem Zertifikat signieren, dann die App.</translation>
   </message>
   <message id="RULE_SIGNATURE_TITLE">
     <source>A signature is not valid</source>
     <translation>Eine Signatur ist ungültig</translation>
   </message>
   <message id="RULE_SIGNATURE_RULE">
-    <source>Code, requirements and entitlements are what was signed, with the certificate's key, while it was valid.</source>
-    <translation>Code, Anforderungen und Berechtigungen sind das, was signiert wurde, mit dem Schlüssel des Zertifikats und solange es galt.</translation>
+    <source>Code, requirements and entitlements are unchanged since they were signed with the certificate's key, within its time.</source>
+    <translation>Code, Anforderungen und Berechtigungen sind unverändert, seit sie mit dem Schlüssel des Zertifikats und in dessen Laufzeit signiert wurden.</translation>
   </message>
   <message id="RULE_SIGNATURE_FIX">
     <source>Sign the app again after the last change.</source>
@@ -3163,8 +3163,8 @@
     <translation>Das Siegel ist gebrochen</translation>
   </message>
   <message id="RULE_SEAL_RULE">
-    <source>Every file of a signed bundle is sealed, unchanged and there.</source>
-    <translation>Jede Datei eines signierten Bundles ist versiegelt, unverändert und vorhanden.</translation>
+    <source>Every file of a signed bundle is listed in its seal, unchanged and present.</source>
+    <translation>Jede Datei eines signierten Bundles ist in seinem Siegel genannt, unverändert und vorhanden.</translation>
   </message>
   <message id="RULE_SEAL_FIX">
     <source>Sign the app again after the last change.</source>
@@ -3183,12 +3183,12 @@
     <translation>Das Archiv für den App Store exportieren.</translation>
   </message>
   <message id="RULE_CERTIFICATE_VALIDITY_TITLE">
-    <source>The certificate has ended</source>
+    <source>The certificate has expired</source>
     <translation>Das Zertifikat ist abgelaufen</translation>
   </message>
   <message id="RULE_CERTIFICATE_VALIDITY_RULE">
-    <source>The signer's certificate is valid.</source>
-    <translation>Das Zertifikat des Unterzeichners ist gültig.</translation>
+    <source>The certificate that the app is signed with has not expired.</source>
+    <translation>Das Zertifikat, mit dem die App signiert ist, ist nicht abgelaufen.</translation>
   </message>
   <message id="RULE_CERTIFICATE_VALIDITY_FIX">
     <source>Renew the certificate and sign the app again.</source>
@@ -3203,16 +3203,16 @@
     <translation>Das Zertifikat, mit dem ein Bundle signiert ist, steht in seinem Profil.</translation>
   </message>
   <message id="RULE_CERTIFICATE_PROFILE_FIX">
-    <source>Download the profile again, or sign with its certificate.</source>
-    <translation>Das Profil neu laden oder mit seinem Zertifikat signieren.</translation>
+    <source>Download the profile again, or sign with a certificate that is in it.</source>
+    <translation>Das Profil neu laden oder mit einem Zertifikat signieren, das darin steht.</translation>
   </message>
   <message id="RULE_PROFILE_TITLE">
     <source>No provisioning profile</source>
     <translation>Kein Bereitstellungsprofil</translation>
   </message>
   <message id="RULE_PROFILE_RULE">
-    <source>The app and each extension bring a profile.</source>
-    <translation>Die App und jede Erweiterung bringen ein Profil mit.</translation>
+    <source>The app and each extension brings a provisioning profile.</source>
+    <translation>Die App und jede Erweiterung bringt ein Bereitstellungsprofil mit.</translation>
   </message>
   <message id="RULE_PROFILE_FIX">
     <source>Export the archive for the App Store.</source>
@@ -3231,12 +3231,12 @@
     <translation>Das Archiv für den App Store exportieren.</translation>
   </message>
   <message id="RULE_PROFILE_EXPIRY_TITLE">
-    <source>A profile has ended</source>
+    <source>A profile has expired</source>
     <translation>Ein Profil ist abgelaufen</translation>
   </message>
   <message id="RULE_PROFILE_EXPIRY_RULE">
-    <source>The profiles are valid.</source>
-    <translation>Die Profile sind gültig.</translation>
+    <source>No profile in the package has expired.</source>
+    <translation>Kein Profil im Paket ist abgelaufen.</translation>
   </message>
   <message id="RULE_PROFILE_EXPIRY_FIX">
     <source>Download the profiles again and export once more.</source>
@@ -3247,24 +3247,24 @@
     <translation>Das Profil gehört zu einer anderen App</translation>
   </message>
   <message id="RULE_PROFILE_IDENTIFIER_RULE">
-    <source>The identifier in the profile covers the bundle's.</source>
-    <translation>Die Kennung im Profil deckt die des Bundles ab.</translation>
+    <source>The identifier in a profile is that of its bundle, or a pattern that fits it.</source>
+    <translation>Die Kennung in einem Profil ist die seines Bundles oder ein Muster, das zu ihr passt.</translation>
   </message>
   <message id="RULE_PROFILE_IDENTIFIER_FIX">
-    <source>Choose the profile of this bundle's identifier.</source>
-    <translation>Das Profil zur Kennung dieses Bundles wählen.</translation>
+    <source>Sign with the profile for this bundle's identifier.</source>
+    <translation>Mit dem Profil zur Kennung dieses Bundles signieren.</translation>
   </message>
   <message id="RULE_TEAM_TITLE">
     <source>Signature and profile are of different teams</source>
     <translation>Signatur und Profil sind von verschiedenen Teams</translation>
   </message>
   <message id="RULE_TEAM_RULE">
-    <source>Signature, certificate and profile name one team.</source>
-    <translation>Signatur, Zertifikat und Profil nennen ein Team.</translation>
+    <source>Signature, certificate and profile name the same team.</source>
+    <translation>Signatur, Zertifikat und Profil nennen dasselbe Team.</translation>
   </message>
   <message id="RULE_TEAM_FIX">
-    <source>Sign with the certificate and profile of one team.</source>
-    <translation>Mit Zertifikat und Profil eines Teams signieren.</translation>
+    <source>Sign with a certificate and a profile of the same team.</source>
+    <translation>Mit einem Zertifikat und einem Profil desselben Teams signieren.</translation>
   </message>
   <message id="RULE_ENTITLEMENTS_TITLE">
     <source>An entitlement is not granted</source>
@@ -3275,7 +3275,7 @@
     <translation>Das Profil gewährt jede Berechtigung, die die Signatur beansprucht.</translation>
   </message>
   <message id="RULE_ENTITLEMENTS_FIX">
-    <source>Add the capability to the app's identifier and download the profile again, or drop the entitlement.</source>
+    <source>Add the capability to the app's identifier and download the profile again, or remove the entitlement.</source>
     <translation>Der Kennung der App die Fähigkeit hinzufügen und das Profil neu laden, oder die Berechtigung weglassen.</translation>
   </message>
   <message id="RULE_DEBUGGABLE_TITLE">
@@ -3291,8 +3291,8 @@
     <translation>Das Archiv für den App Store exportieren.</translation>
   </message>
   <message id="RULE_PUSH_TITLE">
-    <source>Push without its entitlement</source>
-    <translation>Push ohne die zugehörige Berechtigung</translation>
+    <source>The app registers for push without the entitlement</source>
+    <translation>Die App meldet sich ohne Berechtigung für Push an</translation>
   </message>
   <message id="RULE_PUSH_RULE">
     <source>An app that registers for remote notifications has the entitlement aps-environment.</source>
@@ -3307,36 +3307,36 @@
     <translation>Ein Zwecktext fehlt</translation>
   </message>
   <message id="RULE_PURPOSE_RULE">
-    <source>An app whose code refers to camera, photos, location or contacts says in its Info.plist what for.</source>
-    <translation>Eine App, deren Code auf Kamera, Fotos, Ort oder Kontakte verweist, sagt in ihrer Info.plist wofür.</translation>
+    <source>An app whose code refers to the camera, photos, the location or contacts says in its Info.plist what it needs them for.</source>
+    <translation>Eine App, deren Code auf Kamera, Fotos, Ort oder Kontakte verweist, sagt in ihrer Info.plist, wofür sie sie braucht.</translation>
   </message>
   <message id="RULE_PURPOSE_FIX">
-    <source>Add the key with a sentence that people understand.</source>
-    <translation>Den Schlüssel mit einem verständlichen Satz aufnehmen.</translation>
+    <source>Add the key to the Info.plist with a sentence that people understand.</source>
+    <translation>Den Schlüssel mit einem verständlichen Satz in die Info.plist aufnehmen.</translation>
   </message>
   <message id="RULE_PURPOSE_LIKELY_TITLE">
     <source>A purpose string is likely missing</source>
     <translation>Ein Zwecktext fehlt wahrscheinlich</translation>
   </message>
   <message id="RULE_PURPOSE_LIKELY_RULE">
-    <source>An app whose code refers to data of other kinds likely has to say in its Info.plist what for.</source>
-    <translation>Eine App, deren Code auf Daten anderer Art verweist, muss wahrscheinlich in ihrer Info.plist sagen wofür.</translation>
+    <source>An app whose code refers to other protected data likely has to say in its Info.plist what it needs them for.</source>
+    <translation>Eine App, deren Code auf andere geschützte Daten verweist, muss wahrscheinlich in ihrer Info.plist sagen, wofür sie sie braucht.</translation>
   </message>
   <message id="RULE_PURPOSE_LIKELY_FIX">
-    <source>Add the key with a sentence that people understand, or remove the class.</source>
-    <translation>Den Schlüssel mit einem verständlichen Satz aufnehmen oder die Klasse entfernen.</translation>
+    <source>Add the key to the Info.plist with a sentence that people understand, or remove the use of the class.</source>
+    <translation>Den Schlüssel mit einem verständlichen Satz in die Info.plist aufnehmen oder die Verwendung der Klasse entfernen.</translation>
   </message>
   <message id="RULE_ICON_PAD_PRO_TITLE">
-    <source>Likely no icon for the iPad Pro</source>
-    <translation>Vermutlich kein Icon für das iPad Pro</translation>
+    <source>There is likely no icon for the iPad Pro</source>
+    <translation>Ein Icon für das iPad Pro fehlt wahrscheinlich</translation>
   </message>
   <message id="RULE_ICON_PAD_PRO_RULE">
     <source>An iPad app built with the SDK of iOS 9 or newer has an icon of 167 by 167 pixels, in the catalog or as a file.</source>
-    <translation>Eine iPad-App, die mit dem SDK von iOS 9 oder neuer gebaut ist, hat ein Icon mit 167 mal 167 Pixeln, im Katalog oder als Datei.</translation>
+    <translation>Eine iPad-App, die mit dem SDK von iOS 9 oder neuer gebaut ist, hat ein Icon von 167 mal 167 Pixeln, im Katalog oder als Datei.</translation>
   </message>
   <message id="RULE_ICON_PAD_PRO_FIX">
     <source>Give the app icon set a picture of 1024 pixels, or add the size of 167.</source>
-    <translation>Dem App-Icon-Satz ein Bild mit 1024 Pixeln geben oder die Größe 167 ergänzen.</translation>
+    <translation>Dem App-Icon-Satz ein Bild von 1024 Pixeln geben oder die Größe 167 ergänzen.</translation>
   </message>
   <message id="RULE_PURPOSE_VAGUE_TITLE">
     <source>A purpose string hardly says why</source>
@@ -3383,20 +3383,20 @@
     <translation>Ein Zwecktext ist leer</translation>
   </message>
   <message id="RULE_PURPOSE_EMPTY_RULE">
-    <source>A purpose string says something.</source>
-    <translation>Ein Zwecktext sagt etwas aus.</translation>
+    <source>No purpose string is empty, in no language.</source>
+    <translation>Kein Zwecktext ist leer, in keiner Sprache.</translation>
   </message>
   <message id="RULE_PURPOSE_EMPTY_FIX">
-    <source>Say in a sentence what the data is for.</source>
-    <translation>In einem Satz sagen, wofür die Daten gebraucht werden.</translation>
+    <source>Say in a sentence what the app needs the data for.</source>
+    <translation>In einem Satz sagen, wofür die App die Daten braucht.</translation>
   </message>
   <message id="RULE_REQUIRED_REASON_TITLE">
-    <source>A use is not declared</source>
-    <translation>Eine Nutzung ist nicht angegeben</translation>
+    <source>A use of protected functions is not declared</source>
+    <translation>Eine Nutzung geschützter Funktionen ist nicht angegeben</translation>
   </message>
   <message id="RULE_REQUIRED_REASON_RULE">
-    <source>The use of file times, boot time, disk space, keyboards and user defaults is declared with a reason.</source>
-    <translation>Die Nutzung von Dateizeiten, Startzeit, Speicherplatz, Tastaturen und Benutzervorgaben ist mit einem Grund angegeben.</translation>
+    <source>An app that reads file times, the boot time, disk space, keyboards or user defaults declares a reason for it.</source>
+    <translation>Eine App, die Dateizeiten, die Startzeit, den Speicherplatz, Tastaturen oder Benutzervorgaben liest, gibt dafür einen Grund an.</translation>
   </message>
   <message id="RULE_REQUIRED_REASON_FIX">
     <source>Add the category with a reason to PrivacyInfo.xcprivacy.</source>
@@ -3411,16 +3411,16 @@
     <translation>Ein Datenschutzmanifest enthält nur bekannte Schlüssel, Kategorien und Gründe.</translation>
   </message>
   <message id="RULE_PRIVACY_FORM_FIX">
-    <source>Correct PrivacyInfo.xcprivacy; Xcode's editor offers the values.</source>
-    <translation>PrivacyInfo.xcprivacy berichtigen; der Editor von Xcode bietet die Werte an.</translation>
+    <source>Correct PrivacyInfo.xcprivacy; Xcode's editor offers the known values.</source>
+    <translation>PrivacyInfo.xcprivacy berichtigen; der Editor von Xcode bietet die bekannten Werte an.</translation>
   </message>
   <message id="RULE_LISTED_KIT_TITLE">
     <source>A listed kit has no privacy manifest</source>
     <translation>Ein gelistetes Kit hat kein Datenschutzmanifest</translation>
   </message>
   <message id="RULE_LISTED_KIT_RULE">
-    <source>Software kits on the platform's list bring a privacy manifest of their own.</source>
-    <translation>Softwarekits von der Liste der Plattform bringen ein eigenes Datenschutzmanifest mit.</translation>
+    <source>A software kit on the platform's list brings a privacy manifest of its own.</source>
+    <translation>Ein Softwarekit von der Liste der Plattform bringt ein eigenes Datenschutzmanifest mit.</translation>
   </message>
   <message id="RULE_LISTED_KIT_FIX">
     <source>Use a newer version of the kit.</source>
@@ -3431,36 +3431,36 @@
     <translation>Der Store fragt bei jedem Build nach Verschlüsselung</translation>
   </message>
   <message id="RULE_EXPORT_COMPLIANCE_RULE">
-    <source>ITSAppUsesNonExemptEncryption answers the question about export once for all.</source>
-    <translation>ITSAppUsesNonExemptEncryption beantwortet die Exportfrage ein für alle Mal.</translation>
+    <source>The key ITSAppUsesNonExemptEncryption answers the question about export once for all.</source>
+    <translation>Der Schlüssel ITSAppUsesNonExemptEncryption beantwortet die Exportfrage ein für alle Mal.</translation>
   </message>
   <message id="RULE_EXPORT_COMPLIANCE_FIX">
-    <source>Add ITSAppUsesNonExemptEncryption to the Info.plist.</source>
-    <translation>ITSAppUsesNonExemptEncryption in die Info.plist aufnehmen.</translation>
+    <source>Add ITSAppUsesNonExemptEncryption to the Info.plist, true or false.</source>
+    <translation>ITSAppUsesNonExemptEncryption in die Info.plist aufnehmen, wahr oder falsch.</translation>
   </message>
   <message id="RULE_BACKGROUND_PROCESSING_TITLE">
     <source>Background processing without task identifiers</source>
     <translation>Verarbeitung im Hintergrund ohne Aufgabenkennungen</translation>
   </message>
   <message id="RULE_BACKGROUND_PROCESSING_RULE">
-    <source>The background mode "processing" needs BGTaskSchedulerPermittedIdentifiers.</source>
-    <translation>Der Hintergrundmodus „processing“ braucht BGTaskSchedulerPermittedIdentifiers.</translation>
+    <source>An app with the background mode "processing" lists its tasks in BGTaskSchedulerPermittedIdentifiers.</source>
+    <translation>Eine App mit dem Hintergrundmodus „processing“ nennt ihre Aufgaben in BGTaskSchedulerPermittedIdentifiers.</translation>
   </message>
   <message id="RULE_BACKGROUND_PROCESSING_FIX">
-    <source>List the identifiers of the tasks.</source>
-    <translation>Die Kennungen der Aufgaben nennen.</translation>
+    <source>List the identifiers of the tasks there, or drop the mode.</source>
+    <translation>Die Kennungen der Aufgaben dort nennen oder den Modus weglassen.</translation>
   </message>
   <message id="RULE_ARBITRARY_LOADS_TITLE">
     <source>Connections without protection are allowed</source>
     <translation>Ungeschützte Verbindungen sind erlaubt</translation>
   </message>
   <message id="RULE_ARBITRARY_LOADS_RULE">
-    <source>NSAllowsArbitraryLoads has to be justified in review.</source>
-    <translation>NSAllowsArbitraryLoads ist bei der Prüfung zu begründen.</translation>
+    <source>An app that sets NSAllowsArbitraryLoads has to justify it in review.</source>
+    <translation>Eine App, die NSAllowsArbitraryLoads setzt, muss das bei der Prüfung begründen.</translation>
   </message>
   <message id="RULE_ARBITRARY_LOADS_FIX">
-    <source>Name the hosts in NSExceptionDomains instead.</source>
-    <translation>Stattdessen die Hosts in NSExceptionDomains nennen.</translation>
+    <source>Name the hosts that need it in NSExceptionDomains instead.</source>
+    <translation>Stattdessen die Hosts, die es brauchen, in NSExceptionDomains nennen.</translation>
   </message>
   <message id="RULE_LOCALIZATION_HOLES_TITLE">
     <source>A language lacks texts</source>
@@ -3475,28 +3475,28 @@
     <translation>Die fehlenden Tabellen ergänzen oder die Sprache weglassen.</translation>
   </message>
   <message id="RULE_FACEBOOK_TITLE">
-    <source>The Facebook app has no URL scheme</source>
-    <translation>Die Facebook-App hat kein URL-Schema</translation>
+    <source>The Facebook app ID has no URL scheme</source>
+    <translation>Zur Facebook-App-ID fehlt das URL-Schema</translation>
   </message>
   <message id="RULE_FACEBOOK_RULE">
-    <source>An app that names a FacebookAppID has the URL scheme fb and that number.</source>
-    <translation>Eine App, die eine FacebookAppID nennt, hat das URL-Schema fb und diese Zahl.</translation>
+    <source>An app that names a FacebookAppID has a URL scheme of "fb" and that number.</source>
+    <translation>Eine App, die eine FacebookAppID nennt, hat ein URL-Schema aus „fb“ und dieser Zahl.</translation>
   </message>
   <message id="RULE_FACEBOOK_FIX">
-    <source>Add the scheme to CFBundleURLSchemes.</source>
-    <translation>Das Schema in CFBundleURLSchemes aufnehmen.</translation>
+    <source>Add the scheme to CFBundleURLSchemes, as in fb1234567890.</source>
+    <translation>Das Schema in CFBundleURLSchemes aufnehmen, etwa fb1234567890.</translation>
   </message>
   <message id="RULE_CELLULAR_SIZE_TITLE">
-    <source>Large for a download over the cellular network</source>
-    <translation>Groß für das Laden über Mobilfunk</translation>
+    <source>The package is large for a cellular download</source>
+    <translation>Das Paket ist groß für das Laden über Mobilfunk</translation>
   </message>
   <message id="RULE_CELLULAR_SIZE_RULE">
     <source>Phones ask before they load more than 200 MB over the cellular network.</source>
     <translation>Telefone fragen nach, bevor sie über Mobilfunk mehr als 200 MB laden.</translation>
   </message>
   <message id="RULE_CELLULAR_SIZE_FIX">
-    <source>Look for what can be left out.</source>
-    <translation>Nach dem suchen, was sich weglassen lässt.</translation>
+    <source>Remove files that the app does not need, or load them later.</source>
+    <translation>Dateien entfernen, die die App nicht braucht, oder sie später laden.</translation>
   </message>
   <message id="RULE_CLASSIC_ICONS_TITLE">
     <source>An icon of iOS 7 is missing</source>

@@ -2373,8 +2373,8 @@
     <translation>The package's own picture</translation>
   </message>
   <message id="FINDINGS_PACKED_ICON">
-    <source>The package has a picture of 1024 pixels, but only compressed in Assets.car, where this program reads its size and not its pixels. The icon tool opens without it: drop the original picture there.</source>
-    <translation>The package has a picture of 1024 pixels, but only compressed in Assets.car, where this program reads its size and not its pixels. The icon tool opens without it: drop the original picture there.</translation>
+    <source>The package has a picture of 1024 pixels in Assets.car, where this program reads its size only. The icon tool opens without it: drop the original picture there.</source>
+    <translation>The package has a picture of 1024 pixels in Assets.car, where this program reads its size only. The icon tool opens without it: drop the original picture there.</translation>
   </message>
   <message id="FINDINGS_MAKE_ICONS">
     <source>Make the missing icons</source>
@@ -2601,8 +2601,8 @@
     <translation>The Mac app has no provisioning profile</translation>
   </message>
   <message id="RULE_MAC_PROFILE_RULE">
-    <source>An app for the Mac App Store that testers are to get brings Contents/embedded.provisionprofile.</source>
-    <translation>An app for the Mac App Store that testers are to get brings Contents/embedded.provisionprofile.</translation>
+    <source>A Mac app that is for testers, too, brings Contents/embedded.provisionprofile.</source>
+    <translation>A Mac app that is for testers, too, brings Contents/embedded.provisionprofile.</translation>
   </message>
   <message id="RULE_MAC_PROFILE_FIX">
     <source>Export the archive for the App Store with Xcode.</source>
@@ -2641,16 +2641,16 @@
     <translation>Raise the deployment target, or take arm64 out of UIRequiredDeviceCapabilities.</translation>
   </message>
   <message id="RULE_PRIVATE_NAMES_TITLE">
-    <source>Private functions of the system</source>
-    <translation>Private functions of the system</translation>
+    <source>Code uses private functions of the system</source>
+    <translation>Code uses private functions of the system</translation>
   </message>
   <message id="RULE_PRIVATE_NAMES_RULE">
-    <source>Apps link no private framework and call no function that is known to be private.</source>
-    <translation>Apps link no private framework and call no function that is known to be private.</translation>
+    <source>An app links no private framework and calls no function that is known to be private.</source>
+    <translation>An app links no private framework and calls no function that is known to be private.</translation>
   </message>
   <message id="RULE_PRIVATE_NAMES_FIX">
-    <source>Use the public counterpart, or a newer version of the library that calls it.</source>
-    <translation>Use the public counterpart, or a newer version of the library that calls it.</translation>
+    <source>Use a public function instead, or a newer version of the library that calls the private one.</source>
+    <translation>Use a public function instead, or a newer version of the library that calls the private one.</translation>
   </message>
   <message id="RULE_LISTED_KIT_SIGNATURE_TITLE">
     <source>A listed kit is likely not signed by its maker</source>
@@ -2873,8 +2873,8 @@
     <translation>The bundle is not marked as an app</translation>
   </message>
   <message id="RULE_PACKAGE_TYPE_RULE">
-    <source>CFBundlePackageType of the app is APPL.</source>
-    <translation>CFBundlePackageType of the app is APPL.</translation>
+    <source>The app's CFBundlePackageType is APPL.</source>
+    <translation>The app's CFBundlePackageType is APPL.</translation>
   </message>
   <message id="RULE_PACKAGE_TYPE_FIX">
     <source>Set CFBundlePackageType to APPL.</source>
@@ -2885,44 +2885,44 @@
     <translation>The minimum system is likely too old</translation>
   </message>
   <message id="RULE_MINIMUM_SYSTEM_RULE">
-    <source>An app is likely to need a MinimumOSVersion of 15.0 or more from spring 2027 on.</source>
-    <translation>An app is likely to need a MinimumOSVersion of 15.0 or more from spring 2027 on.</translation>
+    <source>An app likely needs a MinimumOSVersion of 15.0 or more from spring 2027 on.</source>
+    <translation>An app likely needs a MinimumOSVersion of 15.0 or more from spring 2027 on.</translation>
   </message>
   <message id="RULE_MINIMUM_SYSTEM_FIX">
-    <source>Raise the deployment target to 15.0.</source>
-    <translation>Raise the deployment target to 15.0.</translation>
+    <source>Raise the deployment target to 15.0 or more.</source>
+    <translation>Raise the deployment target to 15.0 or more.</translation>
   </message>
   <message id="RULE_NESTED_VERSION_TITLE">
     <source>A version is missing or malformed</source>
     <translation>A version is missing or malformed</translation>
   </message>
   <message id="RULE_NESTED_VERSION_RULE">
-    <source>The app and each bundle in it have a CFBundleShortVersionString of one to three numbers and a CFBundleVersion.</source>
-    <translation>The app and each bundle in it have a CFBundleShortVersionString of one to three numbers and a CFBundleVersion.</translation>
+    <source>The app and each bundle in it has a CFBundleShortVersionString of one to three numbers and a CFBundleVersion.</source>
+    <translation>The app and each bundle in it has a CFBundleShortVersionString of one to three numbers and a CFBundleVersion.</translation>
   </message>
   <message id="RULE_NESTED_VERSION_FIX">
-    <source>Set both in the bundle's Info.plist, as in 2.1.0.</source>
-    <translation>Set both in the bundle's Info.plist, as in 2.1.0.</translation>
+    <source>Set both keys in the bundle's Info.plist to numbers with dots, as in 2.1.0.</source>
+    <translation>Set both keys in the bundle's Info.plist to numbers with dots, as in 2.1.0.</translation>
   </message>
   <message id="RULE_EXTENSION_VERSION_TITLE">
     <source>An extension has another version than the app</source>
     <translation>An extension has another version than the app</translation>
   </message>
   <message id="RULE_EXTENSION_VERSION_RULE">
-    <source>The versions of an extension are those of its app.</source>
-    <translation>The versions of an extension are those of its app.</translation>
+    <source>An extension has the same version and build number as its app.</source>
+    <translation>An extension has the same version and build number as its app.</translation>
   </message>
   <message id="RULE_EXTENSION_VERSION_FIX">
-    <source>Set both versions of the extension to the app's.</source>
-    <translation>Set both versions of the extension to the app's.</translation>
+    <source>Set version and build number of the extension to the app's.</source>
+    <translation>Set version and build number of the extension to the app's.</translation>
   </message>
   <message id="RULE_IDENTIFIER_ONCE_TITLE">
-    <source>Two bundles have one identifier</source>
-    <translation>Two bundles have one identifier</translation>
+    <source>Two bundles have the same identifier</source>
+    <translation>Two bundles have the same identifier</translation>
   </message>
   <message id="RULE_IDENTIFIER_ONCE_RULE">
-    <source>Each CFBundleIdentifier in the package is there once.</source>
-    <translation>Each CFBundleIdentifier in the package is there once.</translation>
+    <source>No two bundles of the package have the same CFBundleIdentifier.</source>
+    <translation>No two bundles of the package have the same CFBundleIdentifier.</translation>
   </message>
   <message id="RULE_IDENTIFIER_ONCE_FIX">
     <source>Give one of the bundles another identifier.</source>
@@ -2937,12 +2937,12 @@
     <translation>The identifier of an extension or watch app is the app's, a dot and a name of its own.</translation>
   </message>
   <message id="RULE_NESTED_IDENTIFIER_FIX">
-    <source>Change the CFBundleIdentifier of the nested bundle.</source>
-    <translation>Change the CFBundleIdentifier of the nested bundle.</translation>
+    <source>Let the CFBundleIdentifier of the nested bundle begin with the app's identifier and a dot.</source>
+    <translation>Let the CFBundleIdentifier of the nested bundle begin with the app's identifier and a dot.</translation>
   </message>
   <message id="RULE_ARM64_CAPABILITY_TITLE">
-    <source>64-bit code alone, but arm64 is not asked for</source>
-    <translation>64-bit code alone, but arm64 is not asked for</translation>
+    <source>Only 64-bit code, but arm64 is not asked for</source>
+    <translation>Only 64-bit code, but arm64 is not asked for</translation>
   </message>
   <message id="RULE_ARM64_CAPABILITY_RULE">
     <source>An app without 32-bit code that runs on systems before iOS 11 lists arm64 among its required capabilities.</source>
@@ -2957,8 +2957,8 @@
     <translation>Built with an SDK that is too old</translation>
   </message>
   <message id="RULE_SDK_AGE_RULE">
-    <source>Apps are built with the SDK of iOS 18 since April 2025, and with that of iOS 26 since April 2026.</source>
-    <translation>Apps are built with the SDK of iOS 18 since April 2025, and with that of iOS 26 since April 2026.</translation>
+    <source>An app is built with the SDK of iOS 18 or newer since April 2025, and with that of iOS 26 or newer since April 2026.</source>
+    <translation>An app is built with the SDK of iOS 18 or newer since April 2025, and with that of iOS 26 or newer since April 2026.</translation>
   </message>
   <message id="RULE_SDK_AGE_FIX">
     <source>Build with the current Xcode.</source>
@@ -2969,12 +2969,12 @@
     <translation>Likely built with an SDK that is too old</translation>
   </message>
   <message id="RULE_SDK_AGE_NEXT_RULE">
-    <source>Apps are likely to need the SDK of iOS 27 from April 2027 on.</source>
-    <translation>Apps are likely to need the SDK of iOS 27 from April 2027 on.</translation>
+    <source>An app likely needs the SDK of iOS 27 or newer from April 2027 on.</source>
+    <translation>An app likely needs the SDK of iOS 27 or newer from April 2027 on.</translation>
   </message>
   <message id="RULE_SDK_AGE_NEXT_FIX">
-    <source>Build with Xcode 27.</source>
-    <translation>Build with Xcode 27.</translation>
+    <source>Build with Xcode 27 or newer.</source>
+    <translation>Build with Xcode 27 or newer.</translation>
   </message>
   <message id="RULE_EXECUTABLE_TITLE">
     <source>Code is missing or damaged</source>
@@ -2989,8 +2989,8 @@
     <translation>Build and export the app again.</translation>
   </message>
   <message id="RULE_SIMULATOR_CODE_TITLE">
-    <source>Code for the simulator</source>
-    <translation>Code for the simulator</translation>
+    <source>Code is for the simulator</source>
+    <translation>Code is for the simulator</translation>
   </message>
   <message id="RULE_SIMULATOR_CODE_RULE">
     <source>No binary holds a slice for the simulator (i386, x86_64).</source>
@@ -3005,16 +3005,16 @@
     <translation>A segment is not aligned</translation>
   </message>
   <message id="RULE_ALIGNMENT_RULE">
-    <source>Each segment of a binary begins at a page.</source>
-    <translation>Each segment of a binary begins at a page.</translation>
+    <source>Each segment of a binary begins at the start of a page.</source>
+    <translation>Each segment of a binary begins at the start of a page.</translation>
   </message>
   <message id="RULE_ALIGNMENT_FIX">
     <source>Link the binary again with the platform's own tools.</source>
     <translation>Link the binary again with the platform's own tools.</translation>
   </message>
   <message id="RULE_BITCODE_TITLE">
-    <source>Bitcode</source>
-    <translation>Bitcode</translation>
+    <source>Code still holds bitcode</source>
+    <translation>Code still holds bitcode</translation>
   </message>
   <message id="RULE_BITCODE_RULE">
     <source>A package built with Xcode 16 or newer holds no bitcode.</source>
@@ -3025,40 +3025,40 @@
     <translation>Strip it with "bitcode_strip -r", or use a newer build of the library.</translation>
   </message>
   <message id="RULE_ENCRYPTION_INFO_TITLE">
-    <source>The store cannot encipher the binary</source>
-    <translation>The store cannot encipher the binary</translation>
+    <source>The store cannot encrypt the binary</source>
+    <translation>The store cannot encrypt the binary</translation>
   </message>
   <message id="RULE_ENCRYPTION_INFO_RULE">
-    <source>The app's binary has an LC_ENCRYPTION_INFO and is not enciphered yet.</source>
-    <translation>The app's binary has an LC_ENCRYPTION_INFO and is not enciphered yet.</translation>
+    <source>The app's binary has a load command LC_ENCRYPTION_INFO and is not encrypted yet.</source>
+    <translation>The app's binary has a load command LC_ENCRYPTION_INFO and is not encrypted yet.</translation>
   </message>
   <message id="RULE_ENCRYPTION_INFO_FIX">
-    <source>Export the app from its archive instead of from a device, without a packer.</source>
-    <translation>Export the app from its archive instead of from a device, without a packer.</translation>
+    <source>Export the app from its archive, not from a device, and without a packer.</source>
+    <translation>Export the app from its archive, not from a device, and without a packer.</translation>
   </message>
   <message id="RULE_WEB_VIEW_TITLE">
-    <source>UIWebView</source>
-    <translation>UIWebView</translation>
+    <source>Code refers to UIWebView</source>
+    <translation>Code refers to UIWebView</translation>
   </message>
   <message id="RULE_WEB_VIEW_RULE">
     <source>No code refers to the class UIWebView.</source>
     <translation>No code refers to the class UIWebView.</translation>
   </message>
   <message id="RULE_WEB_VIEW_FIX">
-    <source>Use WKWebView, and libraries that do.</source>
-    <translation>Use WKWebView, and libraries that do.</translation>
+    <source>Use WKWebView, and versions of libraries that use it, too.</source>
+    <translation>Use WKWebView, and versions of libraries that use it, too.</translation>
   </message>
   <message id="RULE_FRAMEWORK_MINIMUM_TITLE">
     <source>A framework's minimum system is missing or too old</source>
     <translation>A framework's minimum system is missing or too old</translation>
   </message>
   <message id="RULE_FRAMEWORK_MINIMUM_RULE">
-    <source>The MinimumOSVersion of a framework is there, and 8.0 or more.</source>
-    <translation>The MinimumOSVersion of a framework is there, and 8.0 or more.</translation>
+    <source>Each framework names a MinimumOSVersion of 8.0 or more.</source>
+    <translation>Each framework names a MinimumOSVersion of 8.0 or more.</translation>
   </message>
   <message id="RULE_FRAMEWORK_MINIMUM_FIX">
-    <source>Add MinimumOSVersion to the framework's Info.plist.</source>
-    <translation>Add MinimumOSVersion to the framework's Info.plist.</translation>
+    <source>Set MinimumOSVersion in the framework's Info.plist to the app's.</source>
+    <translation>Set MinimumOSVersion in the framework's Info.plist to the app's.</translation>
   </message>
   <message id="RULE_FRAMEWORK_SYSTEM_TITLE">
     <source>A framework is built for another system than it says</source>
@@ -3073,24 +3073,24 @@
     <translation>Build the framework with the app's deployment target.</translation>
   </message>
   <message id="RULE_FRAMEWORK_TYPE_TITLE">
-    <source>A framework is no dynamic library</source>
-    <translation>A framework is no dynamic library</translation>
+    <source>A framework is not a dynamic library</source>
+    <translation>A framework is not a dynamic library</translation>
   </message>
   <message id="RULE_FRAMEWORK_TYPE_RULE">
     <source>The binary of a framework is a dynamic library.</source>
     <translation>The binary of a framework is a dynamic library.</translation>
   </message>
   <message id="RULE_FRAMEWORK_TYPE_FIX">
-    <source>Link the static library into the app, and do not embed it.</source>
-    <translation>Link the static library into the app, and do not embed it.</translation>
+    <source>Link a static library into the app and do not embed it.</source>
+    <translation>Link a static library into the app and do not embed it.</translation>
   </message>
   <message id="RULE_SWIFT_ENTRY_TITLE">
     <source>An extension likely has no entry point</source>
     <translation>An extension likely has no entry point</translation>
   </message>
   <message id="RULE_SWIFT_ENTRY_RULE">
-    <source>An extension of the newer kind has a section __swift5_entry.</source>
-    <translation>An extension of the newer kind has a section __swift5_entry.</translation>
+    <source>An extension of the newer kind has a section __swift5_entry, where the system starts it.</source>
+    <translation>An extension of the newer kind has a section __swift5_entry, where the system starts it.</translation>
   </message>
   <message id="RULE_SWIFT_ENTRY_FIX">
     <source>Mark its type with @main and build again.</source>
@@ -3101,8 +3101,8 @@
     <translation>Code outside of a bundle</translation>
   </message>
   <message id="RULE_LOOSE_CODE_RULE">
-    <source>Libraries and programs lie in frameworks and extensions only, laid out as on the phone.</source>
-    <translation>Libraries and programs lie in frameworks and extensions only, laid out as on the phone.</translation>
+    <source>Libraries and programs are only in frameworks and extensions, which have the layout of the phone.</source>
+    <translation>Libraries and programs are only in frameworks and extensions, which have the layout of the phone.</translation>
   </message>
   <message id="RULE_LOOSE_CODE_FIX">
     <source>Embed a framework instead of the bare library.</source>
@@ -3117,16 +3117,16 @@
     <translation>Only the app itself has a folder of frameworks.</translation>
   </message>
   <message id="RULE_NESTED_FRAMEWORKS_FIX">
-    <source>Embed the frameworks in the app alone.</source>
-    <translation>Embed the frameworks in the app alone.</translation>
+    <source>Embed the frameworks in the app only.</source>
+    <translation>Embed the frameworks in the app only.</translation>
   </message>
   <message id="RULE_SWIFT_SUPPORT_TITLE">
-    <source>SwiftSupport is missing</source>
-    <translation>SwiftSupport is missing</translation>
+    <source>SwiftSupport is missing or does not fit</source>
+    <translation>SwiftSupport is missing or does not fit</translation>
   </message>
   <message id="RULE_SWIFT_SUPPORT_RULE">
-    <source>An archive for the store that brings libraries of Swift holds them in SwiftSupport, too.</source>
-    <translation>An archive for the store that brings libraries of Swift holds them in SwiftSupport, too.</translation>
+    <source>An archive for the store that brings libraries of Swift holds them in SwiftSupport, too, built for the app's minimum system.</source>
+    <translation>An archive for the store that brings libraries of Swift holds them in SwiftSupport, too, built for the app's minimum system.</translation>
   </message>
   <message id="RULE_SWIFT_SUPPORT_FIX">
     <source>Export the archive with Xcode instead of packing it by hand.</source>
@@ -3137,20 +3137,20 @@
     <translation>Code is not signed</translation>
   </message>
   <message id="RULE_SIGNED_RULE">
-    <source>All code is signed, and by somebody.</source>
-    <translation>All code is signed, and by somebody.</translation>
+    <source>All code is signed, and with a certificate.</source>
+    <translation>All code is signed, and with a certificate.</translation>
   </message>
   <message id="RULE_SIGNED_FIX">
-    <source>Sign every nested bundle, then the app.</source>
-    <translation>Sign every nested bundle, then the app.</translation>
+    <source>Sign every nested bundle with a certificate, then the app.</source>
+    <translation>Sign every nested bundle with a certificate, then the app.</translation>
   </message>
   <message id="RULE_SIGNATURE_TITLE">
     <source>A signature is not valid</source>
     <translation>A signature is not valid</translation>
   </message>
   <message id="RULE_SIGNATURE_RULE">
-    <source>Code, requirements and entitlements are what was signed, with the certificate's key, while it was valid.</source>
-    <translation>Code, requirements and entitlements are what was signed, with the certificate's key, while it was valid.</translation>
+    <source>Code, requirements and entitlements are unchanged since they were signed with the certificate's key, within its time.</source>
+    <translation>Code, requirements and entitlements are unchanged since they were signed with the certificate's key, within its time.</translation>
   </message>
   <message id="RULE_SIGNATURE_FIX">
     <source>Sign the app again after the last change.</source>
@@ -3161,8 +3161,8 @@
     <translation>The seal is broken</translation>
   </message>
   <message id="RULE_SEAL_RULE">
-    <source>Every file of a signed bundle is sealed, unchanged and there.</source>
-    <translation>Every file of a signed bundle is sealed, unchanged and there.</translation>
+    <source>Every file of a signed bundle is listed in its seal, unchanged and present.</source>
+    <translation>Every file of a signed bundle is listed in its seal, unchanged and present.</translation>
   </message>
   <message id="RULE_SEAL_FIX">
     <source>Sign the app again after the last change.</source>
@@ -3181,12 +3181,12 @@
     <translation>Export the archive for the App Store.</translation>
   </message>
   <message id="RULE_CERTIFICATE_VALIDITY_TITLE">
-    <source>The certificate has ended</source>
-    <translation>The certificate has ended</translation>
+    <source>The certificate has expired</source>
+    <translation>The certificate has expired</translation>
   </message>
   <message id="RULE_CERTIFICATE_VALIDITY_RULE">
-    <source>The signer's certificate is valid.</source>
-    <translation>The signer's certificate is valid.</translation>
+    <source>The certificate that the app is signed with has not expired.</source>
+    <translation>The certificate that the app is signed with has not expired.</translation>
   </message>
   <message id="RULE_CERTIFICATE_VALIDITY_FIX">
     <source>Renew the certificate and sign the app again.</source>
@@ -3201,16 +3201,16 @@
     <translation>The certificate that signs a bundle is in its profile.</translation>
   </message>
   <message id="RULE_CERTIFICATE_PROFILE_FIX">
-    <source>Download the profile again, or sign with its certificate.</source>
-    <translation>Download the profile again, or sign with its certificate.</translation>
+    <source>Download the profile again, or sign with a certificate that is in it.</source>
+    <translation>Download the profile again, or sign with a certificate that is in it.</translation>
   </message>
   <message id="RULE_PROFILE_TITLE">
     <source>No provisioning profile</source>
     <translation>No provisioning profile</translation>
   </message>
   <message id="RULE_PROFILE_RULE">
-    <source>The app and each extension bring a profile.</source>
-    <translation>The app and each extension bring a profile.</translation>
+    <source>The app and each extension brings a provisioning profile.</source>
+    <translation>The app and each extension brings a provisioning profile.</translation>
   </message>
   <message id="RULE_PROFILE_FIX">
     <source>Export the archive for the App Store.</source>
@@ -3229,12 +3229,12 @@
     <translation>Export the archive for the App Store.</translation>
   </message>
   <message id="RULE_PROFILE_EXPIRY_TITLE">
-    <source>A profile has ended</source>
-    <translation>A profile has ended</translation>
+    <source>A profile has expired</source>
+    <translation>A profile has expired</translation>
   </message>
   <message id="RULE_PROFILE_EXPIRY_RULE">
-    <source>The profiles are valid.</source>
-    <translation>The profiles are valid.</translation>
+    <source>No profile in the package has expired.</source>
+    <translation>No profile in the package has expired.</translation>
   </message>
   <message id="RULE_PROFILE_EXPIRY_FIX">
     <source>Download the profiles again and export once more.</source>
@@ -3245,24 +3245,24 @@
     <translation>The profile is for another app</translation>
   </message>
   <message id="RULE_PROFILE_IDENTIFIER_RULE">
-    <source>The identifier in the profile covers the bundle's.</source>
-    <translation>The identifier in the profile covers the bundle's.</translation>
+    <source>The identifier in a profile is that of its bundle, or a pattern that fits it.</source>
+    <translation>The identifier in a profile is that of its bundle, or a pattern that fits it.</translation>
   </message>
   <message id="RULE_PROFILE_IDENTIFIER_FIX">
-    <source>Choose the profile of this bundle's identifier.</source>
-    <translation>Choose the profile of this bundle's identifier.</translation>
+    <source>Sign with the profile for this bundle's identifier.</source>
+    <translation>Sign with the profile for this bundle's identifier.</translation>
   </message>
   <message id="RULE_TEAM_TITLE">
     <source>Signature and profile are of different teams</source>
     <translation>Signature and profile are of different teams</translation>
   </message>
   <message id="RULE_TEAM_RULE">
-    <source>Signature, certificate and profile name one team.</source>
-    <translation>Signature, certificate and profile name one team.</translation>
+    <source>Signature, certificate and profile name the same team.</source>
+    <translation>Signature, certificate and profile name the same team.</translation>
   </message>
   <message id="RULE_TEAM_FIX">
-    <source>Sign with the certificate and profile of one team.</source>
-    <translation>Sign with the certificate and profile of one team.</translation>
+    <source>Sign with a certificate and a profile of the same team.</source>
+    <translation>Sign with a certificate and a profile of the same team.</translation>
   </message>
   <message id="RULE_ENTITLEMENTS_TITLE">
     <source>An entitlement is not granted</source>
@@ -3273,8 +3273,8 @@
     <translation>The profile grants every entitlement that the signature claims.</translation>
   </message>
   <message id="RULE_ENTITLEMENTS_FIX">
-    <source>Add the capability to the app's identifier and download the profile again, or drop the entitlement.</source>
-    <translation>Add the capability to the app's identifier and download the profile again, or drop the entitlement.</translation>
+    <source>Add the capability to the app's identifier and download the profile again, or remove the entitlement.</source>
+    <translation>Add the capability to the app's identifier and download the profile again, or remove the entitlement.</translation>
   </message>
   <message id="RULE_DEBUGGABLE_TITLE">
     <source>The app lets a debugger in</source>
@@ -3289,8 +3289,8 @@
     <translation>Export the archive for the App Store.</translation>
   </message>
   <message id="RULE_PUSH_TITLE">
-    <source>Push without its entitlement</source>
-    <translation>Push without its entitlement</translation>
+    <source>The app registers for push without the entitlement</source>
+    <translation>The app registers for push without the entitlement</translation>
   </message>
   <message id="RULE_PUSH_RULE">
     <source>An app that registers for remote notifications has the entitlement aps-environment.</source>
@@ -3305,28 +3305,28 @@
     <translation>A purpose string is missing</translation>
   </message>
   <message id="RULE_PURPOSE_RULE">
-    <source>An app whose code refers to camera, photos, location or contacts says in its Info.plist what for.</source>
-    <translation>An app whose code refers to camera, photos, location or contacts says in its Info.plist what for.</translation>
+    <source>An app whose code refers to the camera, photos, the location or contacts says in its Info.plist what it needs them for.</source>
+    <translation>An app whose code refers to the camera, photos, the location or contacts says in its Info.plist what it needs them for.</translation>
   </message>
   <message id="RULE_PURPOSE_FIX">
-    <source>Add the key with a sentence that people understand.</source>
-    <translation>Add the key with a sentence that people understand.</translation>
+    <source>Add the key to the Info.plist with a sentence that people understand.</source>
+    <translation>Add the key to the Info.plist with a sentence that people understand.</translation>
   </message>
   <message id="RULE_PURPOSE_LIKELY_TITLE">
     <source>A purpose string is likely missing</source>
     <translation>A purpose string is likely missing</translation>
   </message>
   <message id="RULE_PURPOSE_LIKELY_RULE">
-    <source>An app whose code refers to data of other kinds likely has to say in its Info.plist what for.</source>
-    <translation>An app whose code refers to data of other kinds likely has to say in its Info.plist what for.</translation>
+    <source>An app whose code refers to other protected data likely has to say in its Info.plist what it needs them for.</source>
+    <translation>An app whose code refers to other protected data likely has to say in its Info.plist what it needs them for.</translation>
   </message>
   <message id="RULE_PURPOSE_LIKELY_FIX">
-    <source>Add the key with a sentence that people understand, or remove the class.</source>
-    <translation>Add the key with a sentence that people understand, or remove the class.</translation>
+    <source>Add the key to the Info.plist with a sentence that people understand, or remove the use of the class.</source>
+    <translation>Add the key to the Info.plist with a sentence that people understand, or remove the use of the class.</translation>
   </message>
   <message id="RULE_ICON_PAD_PRO_TITLE">
-    <source>Likely no icon for the iPad Pro</source>
-    <translation>Likely no icon for the iPad Pro</translation>
+    <source>There is likely no icon for the iPad Pro</source>
+    <translation>There is likely no icon for the iPad Pro</translation>
   </message>
   <message id="RULE_ICON_PAD_PRO_RULE">
     <source>An iPad app built with the SDK of iOS 9 or newer has an icon of 167 by 167 pixels, in the catalog or as a file.</source>
@@ -3381,20 +3381,20 @@
     <translation>A purpose string is empty</translation>
   </message>
   <message id="RULE_PURPOSE_EMPTY_RULE">
-    <source>A purpose string says something.</source>
-    <translation>A purpose string says something.</translation>
+    <source>No purpose string is empty, in no language.</source>
+    <translation>No purpose string is empty, in no language.</translation>
   </message>
   <message id="RULE_PURPOSE_EMPTY_FIX">
-    <source>Say in a sentence what the data is for.</source>
-    <translation>Say in a sentence what the data is for.</translation>
+    <source>Say in a sentence what the app needs the data for.</source>
+    <translation>Say in a sentence what the app needs the data for.</translation>
   </message>
   <message id="RULE_REQUIRED_REASON_TITLE">
-    <source>A use is not declared</source>
-    <translation>A use is not declared</translation>
+    <source>A use of protected functions is not declared</source>
+    <translation>A use of protected functions is not declared</translation>
   </message>
   <message id="RULE_REQUIRED_REASON_RULE">
-    <source>The use of file times, boot time, disk space, keyboards and user defaults is declared with a reason.</source>
-    <translation>The use of file times, boot time, disk space, keyboards and user defaults is declared with a reason.</translation>
+    <source>An app that reads file times, the boot time, disk space, keyboards or user defaults declares a reason for it.</source>
+    <translation>An app that reads file times, the boot time, disk space, keyboards or user defaults declares a reason for it.</translation>
   </message>
   <message id="RULE_REQUIRED_REASON_FIX">
     <source>Add the category with a reason to PrivacyInfo.xcprivacy.</source>
@@ -3409,16 +3409,16 @@
     <translation>A privacy manifest holds only keys, categories and reasons that are known.</translation>
   </message>
   <message id="RULE_PRIVACY_FORM_FIX">
-    <source>Correct PrivacyInfo.xcprivacy; Xcode's editor offers the values.</source>
-    <translation>Correct PrivacyInfo.xcprivacy; Xcode's editor offers the values.</translation>
+    <source>Correct PrivacyInfo.xcprivacy; Xcode's editor offers the known values.</source>
+    <translation>Correct PrivacyInfo.xcprivacy; Xcode's editor offers the known values.</translation>
   </message>
   <message id="RULE_LISTED_KIT_TITLE">
     <source>A listed kit has no privacy manifest</source>
     <translation>A listed kit has no privacy manifest</translation>
   </message>
   <message id="RULE_LISTED_KIT_RULE">
-    <source>Software kits on the platform's list bring a privacy manifest of their own.</source>
-    <translation>Software kits on the platform's list bring a privacy manifest of their own.</translation>
+    <source>A software kit on the platform's list brings a privacy manifest of its own.</source>
+    <translation>A software kit on the platform's list brings a privacy manifest of its own.</translation>
   </message>
   <message id="RULE_LISTED_KIT_FIX">
     <source>Use a newer version of the kit.</source>
@@ -3429,36 +3429,36 @@
     <translation>The store asks about encryption at every build</translation>
   </message>
   <message id="RULE_EXPORT_COMPLIANCE_RULE">
-    <source>ITSAppUsesNonExemptEncryption answers the question about export once for all.</source>
-    <translation>ITSAppUsesNonExemptEncryption answers the question about export once for all.</translation>
+    <source>The key ITSAppUsesNonExemptEncryption answers the question about export once for all.</source>
+    <translation>The key ITSAppUsesNonExemptEncryption answers the question about export once for all.</translation>
   </message>
   <message id="RULE_EXPORT_COMPLIANCE_FIX">
-    <source>Add ITSAppUsesNonExemptEncryption to the Info.plist.</source>
-    <translation>Add ITSAppUsesNonExemptEncryption to the Info.plist.</translation>
+    <source>Add ITSAppUsesNonExemptEncryption to the Info.plist, true or false.</source>
+    <translation>Add ITSAppUsesNonExemptEncryption to the Info.plist, true or false.</translation>
   </message>
   <message id="RULE_BACKGROUND_PROCESSING_TITLE">
     <source>Background processing without task identifiers</source>
     <translation>Background processing without task identifiers</translation>
   </message>
   <message id="RULE_BACKGROUND_PROCESSING_RULE">
-    <source>The background mode "processing" needs BGTaskSchedulerPermittedIdentifiers.</source>
-    <translation>The background mode "processing" needs BGTaskSchedulerPermittedIdentifiers.</translation>
+    <source>An app with the background mode "processing" lists its tasks in BGTaskSchedulerPermittedIdentifiers.</source>
+    <translation>An app with the background mode "processing" lists its tasks in BGTaskSchedulerPermittedIdentifiers.</translation>
   </message>
   <message id="RULE_BACKGROUND_PROCESSING_FIX">
-    <source>List the identifiers of the tasks.</source>
-    <translation>List the identifiers of the tasks.</translation>
+    <source>List the identifiers of the tasks there, or drop the mode.</source>
+    <translation>List the identifiers of the tasks there, or drop the mode.</translation>
   </message>
   <message id="RULE_ARBITRARY_LOADS_TITLE">
     <source>Connections without protection are allowed</source>
     <translation>Connections without protection are allowed</translation>
   </message>
   <message id="RULE_ARBITRARY_LOADS_RULE">
-    <source>NSAllowsArbitraryLoads has to be justified in review.</source>
-    <translation>NSAllowsArbitraryLoads has to be justified in review.</translation>
+    <source>An app that sets NSAllowsArbitraryLoads has to justify it in review.</source>
+    <translation>An app that sets NSAllowsArbitraryLoads has to justify it in review.</translation>
   </message>
   <message id="RULE_ARBITRARY_LOADS_FIX">
-    <source>Name the hosts in NSExceptionDomains instead.</source>
-    <translation>Name the hosts in NSExceptionDomains instead.</translation>
+    <source>Name the hosts that need it in NSExceptionDomains instead.</source>
+    <translation>Name the hosts that need it in NSExceptionDomains instead.</translation>
   </message>
   <message id="RULE_LOCALIZATION_HOLES_TITLE">
     <source>A language lacks texts</source>
@@ -3473,28 +3473,28 @@
     <translation>Add the missing tables, or drop the language.</translation>
   </message>
   <message id="RULE_FACEBOOK_TITLE">
-    <source>The Facebook app has no URL scheme</source>
-    <translation>The Facebook app has no URL scheme</translation>
+    <source>The Facebook app ID has no URL scheme</source>
+    <translation>The Facebook app ID has no URL scheme</translation>
   </message>
   <message id="RULE_FACEBOOK_RULE">
-    <source>An app that names a FacebookAppID has the URL scheme fb and that number.</source>
-    <translation>An app that names a FacebookAppID has the URL scheme fb and that number.</translation>
+    <source>An app that names a FacebookAppID has a URL scheme of "fb" and that number.</source>
+    <translation>An app that names a FacebookAppID has a URL scheme of "fb" and that number.</translation>
   </message>
   <message id="RULE_FACEBOOK_FIX">
-    <source>Add the scheme to CFBundleURLSchemes.</source>
-    <translation>Add the scheme to CFBundleURLSchemes.</translation>
+    <source>Add the scheme to CFBundleURLSchemes, as in fb1234567890.</source>
+    <translation>Add the scheme to CFBundleURLSchemes, as in fb1234567890.</translation>
   </message>
   <message id="RULE_CELLULAR_SIZE_TITLE">
-    <source>Large for a download over the cellular network</source>
-    <translation>Large for a download over the cellular network</translation>
+    <source>The package is large for a cellular download</source>
+    <translation>The package is large for a cellular download</translation>
   </message>
   <message id="RULE_CELLULAR_SIZE_RULE">
     <source>Phones ask before they load more than 200 MB over the cellular network.</source>
     <translation>Phones ask before they load more than 200 MB over the cellular network.</translation>
   </message>
   <message id="RULE_CELLULAR_SIZE_FIX">
-    <source>Look for what can be left out.</source>
-    <translation>Look for what can be left out.</translation>
+    <source>Remove files that the app does not need, or load them later.</source>
+    <translation>Remove files that the app does not need, or load them later.</translation>
   </message>
   <message id="RULE_CLASSIC_ICONS_TITLE">
     <source>An icon of iOS 7 is missing</source>

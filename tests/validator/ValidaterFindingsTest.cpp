@@ -78,8 +78,8 @@ private slots:
     {
         QTest::addColumn<int>("count");
         QTest::addColumn<QString>("name");
-        QTest::newRow("once") << 1 << u"Warning: A use is not declared, ITMS-91053"_s;
-        QTest::newRow("twice") << 2 << u"Warning: A use is not declared, 2 times, ITMS-91053"_s;
+        QTest::newRow("once") << 1 << u"Warning: A use of protected functions is not declared, ITMS-91053"_s;
+        QTest::newRow("twice") << 2 << u"Warning: A use of protected functions is not declared, 2 times, ITMS-91053"_s;
     }
     void aRowSaysHowOften()
     {
