@@ -165,11 +165,11 @@ QString reasonText(const FallsOutReason &reason)
         return reason.detail == u"unknown" ? u"its biometry is not known"_s
                                            : QString(u"has the biometry "_s + reason.detail);
     case FallsOut::UnknownFeature:
-        return u"nobody knows of its "_s + reason.detail;
+        return u"not known whether it has "_s + reason.detail;
     case FallsOut::NotSearched:
         break;
     }
-    return u"is not what is searched for"_s;
+    return u"does not match the search"_s;
 }
 
 bool takeIosRange(QStringView text, ModelFilter &filter)

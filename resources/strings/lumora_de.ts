@@ -99,7 +99,7 @@
   </message>
   <message id="HELP_ICONS_TODAY_TEXT">
     <source>Every icon that stores and platforms want now, from one square picture or SVG drawing. Tick iOS, Mac, Watch, Android, web, Windows or Linux; the row of previews shows each icon as it will be seen. The wells take pictures of their own for dark, tinted, foreground, background and monochrome; until then they show what Lumora derives. Choose a folder: in a project that Lumora knows, such as Flutter or Xcode, it offers to put the files in their places. What is written is read back and judged. The switch “Classic | Today” (Ctrl+T) changes sides.</source>
-    <translation>Alle Icons, die Stores und Plattformen heute verlangen, aus einem quadratischen Bild oder einer SVG-Zeichnung. iOS, Mac, Watch, Android, Web, Windows oder Linux ankreuzen; die Vorschau zeigt jedes Icon, wie es zu sehen sein wird. Die Mulden nehmen eigene Bilder für Dunkel, Getönt, Vordergrund, Hintergrund und Einfarbig; bis dahin zeigen sie, was Lumora ableitet. Dann einen Ordner wählen: In einem bekannten Projekt, etwa Flutter oder Xcode, legt Lumora die Dateien auf Wunsch an ihre Plätze. Der Schalter „Klassisch | Heute“ (Strg+T) wechselt die Seite.</translation>
+    <translation>Alle Icons, die Stores und Plattformen heute verlangen, aus einem quadratischen Bild oder einer SVG-Zeichnung. iOS, Mac, Watch, Android, Web, Windows oder Linux ankreuzen; die Vorschau zeigt jedes Icon, wie es zu sehen sein wird. Die Mulden nehmen eigene Bilder für Dunkel, Getönt, Vordergrund, Hintergrund und Einfarbig; bis dahin zeigen sie, was Lumora ableitet. Dann einen Ordner wählen: In einem bekannten Projekt, etwa Flutter oder Xcode, legt Lumora die Dateien auf Wunsch an ihre Plätze. Was geschrieben ist, wird nachgelesen und beurteilt. Der Schalter „Klassisch | Heute“ (Strg+T) wechselt die Seite.</translation>
   </message>
   <message id="HELP_PLACEHOLDER">
     <source>Placeholder generator</source>
@@ -111,7 +111,7 @@
   </message>
   <message id="HELP_PLACEHOLDER_TODAY_TEXT">
     <source>Pictures for every place that is still empty. Choose sets: the screenshots of the App Store and of Google Play, feature graphics, TV and watch, social cards, launch screens; or type sizes of your own, such as 1200x600 800x800@2x. Give them a text and colors, and save them as PNG, WebP or SVG. The other way round, drop real screenshots or their folder here: Lumora holds them against the rules of the stores, with reason and remedy. The switch “Classic | Today” (Ctrl+T) changes sides.</source>
-    <translation>Bilder für alle Plätze, die noch leer sind. Sätze wählen: Screenshots für App Store und Google Play, Funktionsgrafik, TV und Watch, soziale Netze, Startbilder; oder eigene Größen eingeben, etwa 1200x600 800x800@2x. Text und Farben bestimmen und als PNG, WebP oder SVG sichern. Umgekehrt: Echte Screenshots oder ihren Ordner hierher ziehen, und Lumora prüft sie nach den Regeln der Stores, mit Grund und Abhilfe. Der Schalter „Klassisch | Heute“ (Strg+T) wechselt die Seite.</translation>
+    <translation>Bilder für alle Plätze, die noch leer sind. Sätze wählen: Screenshots für App Store und Google Play, Funktionsgrafik, TV und Watch, soziale Netze, Startbilder; oder eigene Größen eingeben, etwa 1200x600 800x800@2x. Text und Farben bestimmen und als PNG, WebP oder SVG speichern. Umgekehrt: Echte Screenshots oder ihren Ordner hierher ziehen, und Lumora prüft sie nach den Regeln der Stores, mit Grund und Abhilfe. Der Schalter „Klassisch | Heute“ (Strg+T) wechselt die Seite.</translation>
   </message>
   <message id="HELP_RESIZER">
     <source>Retina down-scaler</source>
@@ -123,7 +123,7 @@
   </message>
   <message id="HELP_RESIZER_TODAY_TEXT">
     <source>From the largest picture to all that are missing. Drop files or folders: name@3x.png or name@4x.png for iOS and macOS, drawable-xxxhdpi for Android, 3.0x or 4.0x for Flutter, React Native or the web; SVG drawings serve every density. Lumora first shows the plan: what is written, what is rounded to whole pixels, what exists and is kept. Existing files are replaced only where you say so, a source never. Save as PNG or WebP. The switch “Classic | Today” (Ctrl+T) changes sides.</source>
-    <translation>Vom größten Bild zu allen, die fehlen. Dateien oder Ordner hierher ziehen: name@3x.png oder name@4x.png für iOS und macOS, drawable-xxxhdpi für Android, 3.0x oder 4.0x für Flutter, React Native oder das Web; SVG-Zeichnungen dienen jeder Auflösung. Zuerst zeigt Lumora den Plan: was geschrieben, was auf ganze Pixel gerundet, was erhalten wird. Vorhandene Dateien werden nur auf Wunsch ersetzt, eine Quelle nie. Sichern als PNG oder WebP. Der Schalter „Klassisch | Heute“ (Strg+T) wechselt die Seite.</translation>
+    <translation>Vom größten Bild zu allen, die fehlen. Dateien oder Ordner hierher ziehen: name@3x.png oder name@4x.png für iOS und macOS, drawable-xxxhdpi für Android, 3.0x oder 4.0x für Flutter, React Native oder das Web; SVG-Zeichnungen dienen jeder Auflösung. Zuerst zeigt Lumora den Plan: was geschrieben, was auf ganze Pixel gerundet, was erhalten wird. Vorhandene Dateien werden nur auf Wunsch ersetzt, eine Quelle nie. Speichern als PNG oder WebP. Der Schalter „Klassisch | Heute“ (Strg+T) wechselt die Seite.</translation>
   </message>
   <message id="HELP_COLOR">
     <source>Color codes</source>
@@ -135,7 +135,7 @@
   </message>
   <message id="HELP_COLOR_TODAY_TEXT">
     <source>One color as code for everything. Type or paste it in any form: hexadecimal, a CSS name, rgb(), hsl(), oklch(), or a line of Swift, Kotlin or Dart; opacity and Display P3 are kept. Each form has a copy button, and the choice of platform brings its forms to the top. A second color shows the contrast by WCAG 2 and the nearest color that passes. The palette keeps what you pick while the program runs, and saves it as color sets, GIMP palette, JSON or CSS. The switch “Classic | Today” (Ctrl+T) changes sides.</source>
-    <translation>Eine Farbe als Code für alles. In jeder Form eingeben oder einfügen: hexadezimal, als CSS-Name, rgb(), hsl(), oklch() oder als Zeile in Swift, Kotlin oder Dart; Deckkraft und Display P3 bleiben erhalten. Jede Form hat einen Knopf zum Kopieren; die Wahl der Plattform bringt deren Formen nach oben. Eine zweite Farbe zeigt den Kontrast nach WCAG 2 und die nächste Farbe, die besteht. Die Palette merkt sich Gewähltes und sichert es als Farbsätze, GIMP-Palette, JSON oder CSS. Der Schalter „Klassisch | Heute“ (Strg+T) wechselt die Seite.</translation>
+    <translation>Eine Farbe als Code für alles. In jeder Form eingeben oder einfügen: hexadezimal, als CSS-Name, rgb(), hsl(), oklch() oder als Zeile in Swift, Kotlin oder Dart; Deckkraft und Display P3 bleiben erhalten. Jede Form hat einen Knopf zum Kopieren; die Wahl der Plattform bringt deren Formen nach oben. Eine zweite Farbe zeigt den Kontrast nach WCAG 2 und die nächste Farbe, die besteht. Die Palette merkt sich Gewähltes bis zum Programmende und speichert es als Farbsätze, GIMP-Palette, JSON oder CSS. Der Schalter „Klassisch | Heute“ (Strg+T) wechselt die Seite.</translation>
   </message>
   <message id="HELP_DEVICES">
     <source>Device matrix</source>
@@ -514,8 +514,8 @@
     <translation>Name der App</translation>
   </message>
   <message id="ICONS_APP_NAME_TIP">
-    <source>The name in the web manifest and of the Linux files; App without it</source>
-    <translation>Der Name im Web-Manifest und der Linux-Dateien; sonst App</translation>
+    <source>The name in the web manifest and of the Linux files; “App” without it</source>
+    <translation>Der Name im Web-Manifest und der Linux-Dateien; sonst „App“</translation>
   </message>
   <message id="ICONS_PROGRESS">
     <source>Progress of the icons</source>
@@ -1061,7 +1061,7 @@
   </message>
   <message id="SHOT_CHECK_TIP">
     <source>Holds the pictures of a folder against the rules of the stores</source>
-    <translation>Hält die Bilder eines Ordners an die Regeln der Stores</translation>
+    <translation>Prüft die Bilder eines Ordners nach den Regeln der Stores</translation>
   </message>
   <message id="SHOT_BACK">
     <source>Back to the sets</source>
@@ -1143,7 +1143,7 @@
   </message>
   <message id="SCALER_FROM_LARGEST">
     <source>The largest of each picture</source>
-    <translation>Größte jedes Bildes</translation>
+    <translation>Je Bild die größte</translation>
   </message>
   <message id="SCALER_FROM_SVG">
     <source>SVG drawings</source>
@@ -1570,7 +1570,7 @@
   </message>
   <message id="COLOR_PALETTE_SAVE">
     <source>Save…</source>
-    <translation>Sichern …</translation>
+    <translation>Speichern …</translation>
   </message>
   <message id="COLOR_PALETTE_OPEN_TITLE">
     <source>Choose a palette to read</source>
@@ -1586,11 +1586,11 @@
   </message>
   <message id="COLOR_PALETTE_SAVED">
     <source>Palette saved</source>
-    <translation>Palette gesichert</translation>
+    <translation>Palette gespeichert</translation>
   </message>
   <message id="COLOR_PALETTE_NOT_SAVED">
     <source>The palette was not saved</source>
-    <translation>Die Palette wurde nicht gesichert</translation>
+    <translation>Die Palette wurde nicht gespeichert</translation>
   </message>
   <message id="COLOR_CATALOGUE_OPEN">
     <source>Catalog…</source>
@@ -1711,7 +1711,7 @@
     <translation>Deckkraft</translation>
   </message>
   <message id="COLOR_WHEEL_VALUE">
-    <source>Hue [HUE]°, saturation [SATURATION] %</source>
+    <source>Hue [HUE]°, saturation [SATURATION]%</source>
     <translation>Farbton [HUE]°, Sättigung [SATURATION] %</translation>
   </message>
   <message id="COLOR_SLIDERS_KIND">
@@ -1763,7 +1763,7 @@
     <translation>Keine Farbe aufgenommen</translation>
   </message>
   <message id="COLOR_NO_OPACITY">
-    <source>The color is [PERCENT] % opaque. These codes carry no opacity: they are for the opaque color.</source>
+    <source>The color is [PERCENT]% opaque. These codes carry no opacity: they are for the opaque color.</source>
     <translation>Die Farbe ist zu [PERCENT] % deckend. Diese Codes tragen keine Deckkraft: Sie gelten für die deckende Farbe.</translation>
   </message>
   <message id="COLOR_CLICK_COPIES">
@@ -1829,7 +1829,7 @@
     <translation>iOS [FROM] bis [TO]</translation>
   </message>
   <message id="DEVICES_SHARE">
-    <source>[PERCENT] % of all models ([COUNT] of [ALL])</source>
+    <source>[PERCENT]% of all models ([COUNT] of [ALL])</source>
     <translation>[PERCENT] % aller Modelle ([COUNT] von [ALL])</translation>
   </message>
   <message id="DEVICES_FAMILY">
@@ -1898,7 +1898,7 @@
   </message>
   <message id="DEVICES_CLICK_COPIES">
     <source>Click to copy</source>
-    <translation>Klicken kopiert</translation>
+    <translation>Klicken, um zu kopieren</translation>
   </message>
   <message id="DEVICES_ENDS">
     <source>ends at iOS [DETAIL]</source>
@@ -1937,11 +1937,11 @@
     <translation>Biometrie: [DETAIL]</translation>
   </message>
   <message id="DEVICES_UNKNOWN_FEATURE">
-    <source>nobody knows of its [DETAIL]</source>
+    <source>not known whether it has [DETAIL]</source>
     <translation>[DETAIL]: nicht bekannt</translation>
   </message>
   <message id="DEVICES_NOT_SEARCHED">
-    <source>is not what is searched for</source>
+    <source>does not match the search</source>
     <translation>passt nicht zur Suche</translation>
   </message>
   <message id="DEVICES_NO_BIOMETRY">
@@ -2320,11 +2320,11 @@
   </message>
   <message id="FINDINGS_SAVE">
     <source>Save report</source>
-    <translation>Bericht sichern</translation>
+    <translation>Bericht speichern</translation>
   </message>
   <message id="FINDINGS_SAVE_TIP">
     <source>Save the report as a web page and as JSON</source>
-    <translation>Den Bericht als Webseite und als JSON sichern</translation>
+    <translation>Den Bericht als Webseite und als JSON speichern</translation>
   </message>
   <message id="FINDINGS_SAVE_PANEL">
     <source>Choose a folder for the report</source>
@@ -2332,11 +2332,11 @@
   </message>
   <message id="FINDINGS_SAVED">
     <source>Saved</source>
-    <translation>Gesichert</translation>
+    <translation>Gespeichert</translation>
   </message>
   <message id="FINDINGS_NOT_SAVED">
     <source>The report could not be saved</source>
-    <translation>Der Bericht ließ sich nicht sichern</translation>
+    <translation>Der Bericht ließ sich nicht speichern</translation>
   </message>
   <message id="FINDINGS_TIMES">
     <source>[COUNT] times</source>
@@ -2344,7 +2344,7 @@
   </message>
   <message id="FINDINGS_MORE_PLACES">
     <source>and [COUNT] more; the saved report has them all</source>
-    <translation>und [COUNT] weitere; der gesicherte Bericht enthält alle</translation>
+    <translation>und [COUNT] weitere; der gespeicherte Bericht enthält alle</translation>
   </message>
   <message id="FINDINGS_FOUND">
     <source>What was found</source>
@@ -2844,7 +2844,7 @@
   </message>
   <message id="RULE_ICON_OPAQUE_FIX">
     <source>Flatten the picture onto a color and save it without alpha channel.</source>
-    <translation>Das Bild auf eine Farbe legen und ohne Alphakanal sichern.</translation>
+    <translation>Das Bild auf eine Farbe legen und ohne Alphakanal speichern.</translation>
   </message>
   <message id="RULE_PAD_ORIENTATIONS_TITLE">
     <source>The iPad app does not turn into every direction</source>
@@ -5089,7 +5089,7 @@
   </message>
   <message id="ICON_FIX_ALPHA_CHANNEL">
     <source>save it without the channel</source>
-    <translation>ohne den Kanal sichern</translation>
+    <translation>ohne den Kanal speichern</translation>
   </message>
   <message id="ICON_RULE_UNASSIGNED_FILE">
     <source>A file in the folder is in no slot</source>
@@ -5113,7 +5113,7 @@
   </message>
   <message id="ICON_FIX_FOREIGN_FORMAT">
     <source>save it as PNG</source>
-    <translation>als PNG sichern</translation>
+    <translation>als PNG speichern</translation>
   </message>
   <message id="ICON_RULE_STORE_ICON_COLORS">
     <source>The store's icon has a palette or a wide-gamut profile, which uploads were refused for</source>
@@ -5121,7 +5121,7 @@
   </message>
   <message id="ICON_FIX_STORE_ICON_COLORS">
     <source>save it as sRGB with 8 bits a channel</source>
-    <translation>als sRGB mit 8 Bit je Kanal sichern</translation>
+    <translation>als sRGB mit 8 Bit je Kanal speichern</translation>
   </message>
   <message id="ICON_RULE_TINTED_COLORS">
     <source>The tinted icon has colors</source>
@@ -5193,7 +5193,7 @@
   </message>
   <message id="ICON_FIX_UNCOMMON_PIXELS">
     <source>save it plain with 8 bits a channel</source>
-    <translation>schlicht mit 8 Bit je Kanal sichern</translation>
+    <translation>schlicht mit 8 Bit je Kanal speichern</translation>
   </message>
   <message id="ICON_RULE_WALK_ENDED">
     <source>The folder holds more than was looked through</source>
@@ -6138,7 +6138,7 @@
   </message>
   <message id="SHOT_RULE_PLAY_PROMOTION">
     <source>Play promotes apps with screenshots of 1080 pixels and 16:9</source>
-    <translation>Play empfiehlt Apps mit Screenshots von 1080 Pixeln in 16:9</translation>
+    <translation>Play bewirbt Apps mit Screenshots von 1080 Pixeln in 16:9</translation>
   </message>
   <message id="SHOT_FIX_PLAY_PROMOTION">
     <source>Add screenshots of 1080 x 1920 or 1920 x 1080 pixels</source>

@@ -514,8 +514,8 @@
     <translation>App name</translation>
   </message>
   <message id="ICONS_APP_NAME_TIP">
-    <source>The name in the web manifest and of the Linux files; App without it</source>
-    <translation>The name in the web manifest and of the Linux files; App without it</translation>
+    <source>The name in the web manifest and of the Linux files; “App” without it</source>
+    <translation>The name in the web manifest and of the Linux files; “App” without it</translation>
   </message>
   <message id="ICONS_PROGRESS">
     <source>Progress of the icons</source>
@@ -1709,8 +1709,8 @@
     <translation>Opacity</translation>
   </message>
   <message id="COLOR_WHEEL_VALUE">
-    <source>Hue [HUE]°, saturation [SATURATION] %</source>
-    <translation>Hue [HUE]°, saturation [SATURATION] %</translation>
+    <source>Hue [HUE]°, saturation [SATURATION]%</source>
+    <translation>Hue [HUE]°, saturation [SATURATION]%</translation>
   </message>
   <message id="COLOR_SLIDERS_KIND">
     <source>Kind of sliders</source>
@@ -1761,8 +1761,8 @@
     <translation>No color picked</translation>
   </message>
   <message id="COLOR_NO_OPACITY">
-    <source>The color is [PERCENT] % opaque. These codes carry no opacity: they are for the opaque color.</source>
-    <translation>The color is [PERCENT] % opaque. These codes carry no opacity: they are for the opaque color.</translation>
+    <source>The color is [PERCENT]% opaque. These codes carry no opacity: they are for the opaque color.</source>
+    <translation>The color is [PERCENT]% opaque. These codes carry no opacity: they are for the opaque color.</translation>
   </message>
   <message id="COLOR_CLICK_COPIES">
     <source>Click to copy</source>
@@ -1827,8 +1827,8 @@
     <translation>iOS [FROM] to [TO]</translation>
   </message>
   <message id="DEVICES_SHARE">
-    <source>[PERCENT] % of all models ([COUNT] of [ALL])</source>
-    <translation>[PERCENT] % of all models ([COUNT] of [ALL])</translation>
+    <source>[PERCENT]% of all models ([COUNT] of [ALL])</source>
+    <translation>[PERCENT]% of all models ([COUNT] of [ALL])</translation>
   </message>
   <message id="DEVICES_FAMILY">
     <source>Family</source>
@@ -1935,12 +1935,12 @@
     <translation>biometry: [DETAIL]</translation>
   </message>
   <message id="DEVICES_UNKNOWN_FEATURE">
-    <source>nobody knows of its [DETAIL]</source>
-    <translation>nobody knows of its [DETAIL]</translation>
+    <source>not known whether it has [DETAIL]</source>
+    <translation>not known whether it has [DETAIL]</translation>
   </message>
   <message id="DEVICES_NOT_SEARCHED">
-    <source>is not what is searched for</source>
-    <translation>is not what is searched for</translation>
+    <source>does not match the search</source>
+    <translation>does not match the search</translation>
   </message>
   <message id="DEVICES_NO_BIOMETRY">
     <source>none</source>

@@ -89,7 +89,7 @@ private slots:
         QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(m_picker->wheel());
         QCOMPARE(interface->role(), QAccessible::Dial);
         QCOMPARE(interface->text(QAccessible::Name), u"Color wheel"_s);
-        QCOMPARE(interface->text(QAccessible::Value), u"Hue 240°, saturation 100 %"_s);
+        QCOMPARE(interface->text(QAccessible::Value), u"Hue 240°, saturation 100%"_s);
         QAccessibleValueInterface *value = ShownPicker::valueOf(m_picker->wheel());
         QVERIFY(value != nullptr);
         QCOMPARE(value->currentValue().toInt(), 240);

@@ -108,14 +108,14 @@ private slots:
             "lacks dynamic-island");
         row(
             "plug unknown", "iPhone19,3", [](ModelFilter &filter) { filter.features = {ModelFeature::UsbC}; },
-            "nobody knows of its usb-c");
+            "not known whether it has usb-c");
         row(
             "searched by identifier", "iPhone15,2", [](ModelFilter &filter) { filter.search = u"15,2"_s; }, "");
         row(
             "searched by words", "iPhone15,2", [](ModelFilter &filter) { filter.search = u" pro  14"_s; }, "");
         row(
             "searched elsewhere", "iPhone15,2", [](ModelFilter &filter) { filter.search = u"mini"_s; },
-            "is not what is searched for");
+            "does not match the search");
         row(
             "several", "iPad1,1",
             [](ModelFilter &filter) {
