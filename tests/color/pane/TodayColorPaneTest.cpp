@@ -25,7 +25,9 @@
 #include "widgets/buttons/SegmentedControl.h"
 #include "widgets/popover/SFBPopover.h"
 
+#include <QClipboard>
 #include <QDropEvent>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QMimeData>
 #include <QScopeGuard>
@@ -134,6 +136,33 @@ private slots:
         QTest::keyClick(field(), Qt::Key_Return);
         QCOMPARE(field()->text(), text);
         QCOMPARE(palette(), code.isEmpty() ? QStringList() : QStringList{code});
+    }
+
+    void linesAreUnderstoodWhenPastedIntoTheField_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QString>("code");
+        QTest::newRow("color set")
+            << u"{\n  \"colors\" : [\n    {\n      \"color\" : {\n        \"color-space\" : \"srgb\",\n"
+               "        \"components\" : { \"alpha\" : \"0.500\", \"blue\" : \"0x99\",\n"
+               "          \"green\" : \"0x66\", \"red\" : \"0x33\" }\n      },\n"
+               "      \"idiom\" : \"universal\"\n    }\n  ],\n  \"info\" : { \"version\" : 1 }\n}\n"_s
+            << u"#33669980"_s;
+        QTest::newRow("arguments below each other")
+            << u"UIColor(\n    red: 51/255,\n    green: 102/255,\n    blue: 153/255,\n    alpha: 1\n)\n"_s
+            << u"#336699ff"_s;
+        QTest::newRow("two colors") << u"#336699\n#ffffff"_s << QString();
+    }
+    void linesAreUnderstoodWhenPastedIntoTheField()
+    {
+        QFETCH(QString, text);
+        QFETCH(QString, code);
+        QGuiApplication::clipboard()->setText(text);
+        field()->setFocus();
+        field()->selectAll();
+        QTest::keySequence(field(), QKeySequence::Paste);
+        QCOMPARE(field()->isRefused(), code.isEmpty());
+        QCOMPARE(this->code(), code.isEmpty() ? u"#34485eff"_s : code);
     }
 
     void refusedTextIsCorrectedInPlace()
