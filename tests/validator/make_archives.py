@@ -139,6 +139,7 @@ def by_hand(out):
     write("zip64 field too short", [Entry("wide", TEXT, DEFLATED, size=0xFFFFFFFF, packed_size=0xFFFFFFFF,
                                           extra=b"\1\0\4\0abcd"), good])
     write("zip64 behind another field", [Entry("wide", TEXT, DEFLATED, zip64=True, extra=b"UT\5\0\3abcd"), good])
+    write("a stored file past the end", [good, Entry("long", b"short", size=2000, packed_size=2000)])
     write("three files", [text("1"), text("folder/2"), text("folder/3")])
     (out / "not an archive.zip").write_bytes(TEXT)
     (out / "nothing.zip").write_bytes(b"")

@@ -172,7 +172,13 @@ void PackageSource::setEntries(QList<PackageEntry> entries)
     m_entries = std::move(entries);
     QList<PackageEntry> added;
     QSet<QString> seen;
+    QStringView last;
     for (const PackageEntry &entry : std::as_const(m_entries)) {
+        // Most files follow another one of the same folder.
+        const QStringView parent = QStringView(entry.path).first(qMax<qsizetype>(0, entry.path.lastIndexOf(u'/')));
+        if (parent == last)
+            continue;
+        last = parent;
         QString folder = entry.path;
         for (qsizetype slash = folder.lastIndexOf(u'/'); slash >= 0; slash = folder.lastIndexOf(u'/')) {
             folder.truncate(slash);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "PackageView.h"
 
+#include "ArchiveInput.h"
 #include "CurrentEntry.h"
 #include "EntryName.h"
 #include "PackageListing.h"
@@ -45,7 +46,7 @@ struct FreeDecompressor
 
 ArchivePointer openArchive(const QString &path)
 {
-    return ArchivePointer(::unzOpen(path.toUtf8().constData()));
+    return ArchivePointer(openWithBuffers(path));
 }
 
 /// The file mode, if the archive was made on a system with permission bits.
