@@ -175,7 +175,7 @@ QStringList factLines(const PackageFacts &facts)
         factLine(qtTrId("VALIDATER_APP_NAME"), facts.shownName()),
         factLine(qtTrId("VALIDATER_APP_VERSION"), facts.appVersion()),
         factLine(qtTrId("VALIDATER_APP_PLATFORM"), facts.shownPlatform()),
-        factLine(qtTrId("VALIDATER_APP_MINIMUM_OS"), facts.appMinimumOSVersion()),
+        factLine(qtTrId("VALIDATER_APP_MINIMUM_OS"), facts.shownMinimumOS()),
         factLine(qtTrId("VALIDATER_APP_BUNDLE_ID"), facts.appBundleIdentifier()),
         factLine(qtTrId("VALIDATER_BUILD"), build),
     };

@@ -81,7 +81,7 @@ void ValidaterViewController::updateInterface(const PackageFacts &facts, const E
     showFact(m_ui->appNameField, "VALIDATER_APP_NAME", facts.shownName());
     showFact(m_ui->appVersionField, "VALIDATER_APP_VERSION", facts.appVersion());
     showFact(m_ui->appPlatformField, "VALIDATER_APP_PLATFORM", facts.shownPlatform());
-    showFact(m_ui->appMinOSField, "VALIDATER_APP_MINIMUM_OS", facts.appMinimumOSVersion());
+    showFact(m_ui->appMinOSField, "VALIDATER_APP_MINIMUM_OS", facts.shownMinimumOS());
     showFact(m_ui->appBundleIDField, "VALIDATER_APP_BUNDLE_ID", facts.appBundleIdentifier());
     showFact(m_ui->appBuildField, "VALIDATER_BUILD",
              buildKind(facts) == BuildKind::Debug ? qtTrId("VALID_BUILD_DEBUG") : qtTrId("VALID_BUILD_RELEASE"));

@@ -58,7 +58,7 @@ QStringList reportLines(const QString &file, const PackageReport &report)
         factLine(commandText("CLI_FACT_NAME"), facts.shownName()),
         factLine(commandText("CLI_FACT_VERSION"), facts.appVersion()),
         factLine(commandText("CLI_FACT_PLATFORM"), facts.shownPlatform()),
-        factLine(commandText("CLI_FACT_MINIMUM_OS"), facts.appMinimumOSVersion()),
+        factLine(commandText("CLI_FACT_MINIMUM_OS"), facts.shownMinimumOS()),
         factLine(commandText("CLI_FACT_IDENTIFIER"), facts.appBundleIdentifier()),
         factLine(commandText("CLI_FACT_BUILD"), buildName(buildKind(facts))),
         factLine(commandText("CLI_FACT_LOCALIZATIONS"), facts.appLocalizations.join(u", "_s)),

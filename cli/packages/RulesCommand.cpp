@@ -99,22 +99,29 @@ struct UnknownToThePackage
 };
 
 constexpr UnknownToThePackage unknowns[] = {
-    {"ITMS-90062, ITMS-90186, ITMS-90189",
-     "Version and build number have to be higher than those of the last upload. Only the store knows that upload; "
-     "`lumora diff OLD NEW` compares two packages."},
-    {"ITMS-90338",
-     "The store's list of private names is not public. `private-names` knows private frameworks and a few functions; "
-     "the store may find more."},
-    {"ITMS-90035, ITMS-90161",
-     "Whether a certificate was revoked or a profile withdrawn is known to the issuer's server only. `lumora validate` "
-     "asks no server."},
-    {"ITMS-90046", "`entitlements` compares with what the profile grants; whether the store "
-                   "accepts the value "
-                   "of one is its own decision."},
-    {"ITMS-91056", "The list of kinds of collected data and of their purposes grows. `privacy-form` checks that each "
-                   "kind has purposes, "
-                   "not that they are on the list."},
+    {"ITMS-90062 ITMS-90186 ITMS-90189", "UNJUDGED_VERSIONS"},
+    {"ITMS-90338", "UNJUDGED_PRIVATE_NAMES"},
+    {"ITMS-90035 ITMS-90161", "UNJUDGED_REVOCATION"},
+    {"ITMS-90046", "UNJUDGED_ENTITLEMENTS"},
+    {"ITMS-91056", "UNJUDGED_DATA_KINDS"},
 };
+
+QStringList codesOf(const UnknownToThePackage &unknown)
+{
+    return text(unknown.codes).split(u' ');
+}
+
+/// Null for a code of a rule.
+const UnknownToThePackage *unknownNamed(const QString &code)
+{
+    if (ruleNamed(code) != nullptr)
+        return nullptr;
+    for (const UnknownToThePackage &each : unknowns) {
+        if (codesOf(each).contains(code, Qt::CaseInsensitive))
+            return &each;
+    }
+    return nullptr;
+}
 
 /// The page of the documents, the same on every system.
 void printPage(Console &console)
@@ -142,13 +149,22 @@ void printPage(Console &console)
     }
     console.print(u"\n## What the package alone does not tell"_s);
     console.print(u"\nThe store also judges by what is not in the file. No rule asks for it:\n"_s);
-    for (const auto &[codes, reason] : unknowns)
-        console.print(QString(u"- "_s + text(codes) + u": "_s + text(reason)));
+    for (const UnknownToThePackage &each : unknowns)
+        console.print(QString(u"- "_s + codesOf(each).join(u", "_s) + u": "_s + worded(each.reason)));
 }
 
 ExitStatus runRules(Console &console, const RulesArguments &arguments)
 {
-    if (const std::optional<Complaint> problem = unknownRule(arguments.ids)) {
+    QStringList ids;
+    for (const QString &id : arguments.ids) {
+        if (const UnknownToThePackage *unknown = unknownNamed(id))
+            console.print(QString(id + u": "_s + worded(unknown->reason)));
+        else
+            ids += id;
+    }
+    if (ids.isEmpty() && !arguments.ids.isEmpty())
+        return console.finish(ExitStatus::Done, {{u"rules"_s, QJsonArray()}});
+    if (const std::optional<Complaint> problem = unknownRule(ids)) {
         console.complain(*problem);
         return console.finish(ExitStatus::Usage);
     }
@@ -157,7 +173,7 @@ ExitStatus runRules(Console &console, const RulesArguments &arguments)
         return console.finish(ExitStatus::Done);
     }
     QList<const Rule *> rules;
-    for (const QString &id : arguments.ids)
+    for (const QString &id : std::as_const(ids))
         rules += ruleNamed(id);
     if (rules.isEmpty()) {
         for (const Rule &rule : allRules())
@@ -165,7 +181,7 @@ ExitStatus runRules(Console &console, const RulesArguments &arguments)
     }
     QJsonArray array;
     for (const Rule *rule : rules) {
-        if (arguments.ids.isEmpty()) {
+        if (ids.isEmpty()) {
             console.print(listLine(*rule));
         } else {
             if (!array.isEmpty())

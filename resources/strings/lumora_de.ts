@@ -3546,6 +3546,26 @@
     <source>Add a language to the project.</source>
     <translation>Dem Projekt eine Sprache hinzufügen.</translation>
   </message>
+  <message id="UNJUDGED_VERSIONS">
+    <source>The version and the build number have to be higher than those of the last upload. Only the store knows that upload; "lumora diff OLD NEW" compares two packages.</source>
+    <translation>Version und Buildnummer müssen höher sein als beim letzten Hochladen. Das kennt nur der Store; „lumora diff ALT NEU“ vergleicht zwei Pakete.</translation>
+  </message>
+  <message id="UNJUDGED_PRIVATE_NAMES">
+    <source>The store's list of private names is not public. The rule private-names knows private frameworks and a few functions; the store may find more.</source>
+    <translation>Die Liste privater Namen des Stores ist nicht öffentlich. Die Regel private-names kennt private Frameworks und einige Funktionen; der Store findet vielleicht mehr.</translation>
+  </message>
+  <message id="UNJUDGED_REVOCATION">
+    <source>Only the issuer's server knows whether a certificate was revoked or a profile withdrawn, and no server is asked.</source>
+    <translation>Nur der Server des Ausstellers weiß, ob ein Zertifikat widerrufen oder ein Profil zurückgezogen ist, und kein Server wird gefragt.</translation>
+  </message>
+  <message id="UNJUDGED_ENTITLEMENTS">
+    <source>The rule entitlements compares with what the profile grants; whether the store accepts the value of an entitlement is its own decision.</source>
+    <translation>Die Regel entitlements vergleicht mit dem, was das Profil gewährt; ob der Store den Wert einer Berechtigung annimmt, entscheidet er selbst.</translation>
+  </message>
+  <message id="UNJUDGED_DATA_KINDS">
+    <source>The list of kinds of collected data and of their purposes grows. The rule privacy-form checks that each kind has purposes, not that they are on the list.</source>
+    <translation>Die Liste der Arten gesammelter Daten und ihrer Zwecke wächst. Die Regel privacy-form prüft, dass jede Art Zwecke hat, nicht dass sie auf der Liste stehen.</translation>
+  </message>
   <message id="RULE_SOURCE_STORE">
     <source>messages of the store's upload check</source>
     <translation>Meldungen der Annahmeprüfung des Stores</translation>

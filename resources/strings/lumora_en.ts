@@ -3544,6 +3544,26 @@
     <source>Add a language to the project.</source>
     <translation>Add a language to the project.</translation>
   </message>
+  <message id="UNJUDGED_VERSIONS">
+    <source>The version and the build number have to be higher than those of the last upload. Only the store knows that upload; "lumora diff OLD NEW" compares two packages.</source>
+    <translation>The version and the build number have to be higher than those of the last upload. Only the store knows that upload; "lumora diff OLD NEW" compares two packages.</translation>
+  </message>
+  <message id="UNJUDGED_PRIVATE_NAMES">
+    <source>The store's list of private names is not public. The rule private-names knows private frameworks and a few functions; the store may find more.</source>
+    <translation>The store's list of private names is not public. The rule private-names knows private frameworks and a few functions; the store may find more.</translation>
+  </message>
+  <message id="UNJUDGED_REVOCATION">
+    <source>Only the issuer's server knows whether a certificate was revoked or a profile withdrawn, and no server is asked.</source>
+    <translation>Only the issuer's server knows whether a certificate was revoked or a profile withdrawn, and no server is asked.</translation>
+  </message>
+  <message id="UNJUDGED_ENTITLEMENTS">
+    <source>The rule entitlements compares with what the profile grants; whether the store accepts the value of an entitlement is its own decision.</source>
+    <translation>The rule entitlements compares with what the profile grants; whether the store accepts the value of an entitlement is its own decision.</translation>
+  </message>
+  <message id="UNJUDGED_DATA_KINDS">
+    <source>The list of kinds of collected data and of their purposes grows. The rule privacy-form checks that each kind has purposes, not that they are on the list.</source>
+    <translation>The list of kinds of collected data and of their purposes grows. The rule privacy-form checks that each kind has purposes, not that they are on the list.</translation>
+  </message>
   <message id="RULE_SOURCE_STORE">
     <source>messages of the store's upload check</source>
     <translation>messages of the store's upload check</translation>

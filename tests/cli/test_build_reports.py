@@ -139,6 +139,22 @@ class Reports(unittest.TestCase):
         self.assertRegex(text, r"(?m)^    iPhone: keine?$")
         self.assertRegex(text, r"(?m)^    die App ist für Mac: .*iPhone 17")
 
+    def test_facts_of_a_mac_app(self):
+        facts = json.loads(self.run_lumora("validate", "keeps, a Mac app.ipa", "--json").stdout)
+        for key, value in {"name": "Lamp", "platform": "Mac", "minimumOS": "13.0", "bundleIdentifier": "com.example.lamp",
+                           "build": "release", "localizations": ["English"]}.items():
+            self.assertEqual(facts[key], value, key)
+        self.assertEqual(facts["checks"]["icons"], {"valid": True, "missing": []})
+
+    def test_a_code_that_nobody_can_judge(self):
+        ended = subprocess.run([LUMORA, "rules", "ITMS-90186", "seal"], capture_output=True, env={"LC_ALL": "de_DE.UTF-8"})
+        self.assertEqual((ended.returncode, ended.stderr), (0, b""))
+        lines = ended.stdout.decode().splitlines()
+        self.assertRegex(lines[0], "^ITMS-90186: .*nur der Store")
+        self.assertRegex(lines[1], "^id +seal")
+        unknown = subprocess.run([LUMORA, "rules", "ITMS-90187"], capture_output=True, env={"LC_ALL": "de_DE.UTF-8"})
+        self.assertEqual(unknown.returncode, 2)
+
     def test_no_place_for_a_report(self):
         ended = self.run_lumora("validate", "keeps, all.ipa", "--sarif", "none/report.sarif", "--json")
         self.assertEqual(ended.returncode, 1, ended)

@@ -101,9 +101,14 @@ std::optional<QString> PackageFacts::appFacebookID() const
     return appInfoPlist ? shownText(appInfoPlist->value(u"FacebookAppID"_s)) : std::nullopt;
 }
 
+QString PackageFacts::shownMinimumOS() const
+{
+    return isMacApp ? text(u"LSMinimumSystemVersion"_s) : appMinimumOSVersion();
+}
+
 QString PackageFacts::appPlatform() const
 {
-    if (!appInfoPlist)
+    if (!appInfoPlist || isMacApp)
         return {};
     const QVariantList families = arrayOrOne(appInfoPlist->value(u"UIDeviceFamily"_s));
     if (families.size() >= 2)
@@ -116,6 +121,8 @@ QString PackageFacts::shownPlatform() const
 {
     if (!appInfoPlist)
         return {};
+    if (isMacApp)
+        return u"Mac"_s;
     QList<int> families;
     for (const QVariant &family : arrayOrOne(appInfoPlist->value(u"UIDeviceFamily"_s)))
         families += leadingInteger(shownText(family).value_or(QString()));

@@ -34,7 +34,8 @@ struct PackageFacts
     QStringList appImages;                   ///< file names, sorted
     /// `std::nullopt` when it was never received, empty when there is no readable profile.
     std::optional<QString> provisioningProfile;
-    bool hasApp = false; ///< there is a bundle, whatever its contents
+    bool hasApp = false;   ///< there is a bundle, whatever its contents
+    bool isMacApp = false; ///< the list is that of an app for the Mac, in its folder "Contents"
 
     QString appName() const;
     /// The name under which the app is seen: `appName()`, else the bundle's name, each else as its languages have it,
@@ -43,10 +44,12 @@ struct PackageFacts
     QString appVersion() const;
     QString appBundleIdentifier() const;
     QString appMinimumOSVersion() const;
+    /// `appMinimumOSVersion()`; of an app for the Mac, the version of its system.
+    QString shownMinimumOS() const;
     /// Empty when the list has no such text or number.
     std::optional<QString> appFacebookID() const;
-    /// "iPhone", "iPad" or "iPhone & iPad"; empty without a property list. A list without a family is that of an iPad
-    /// app. A family without an array counts as an array of one.
+    /// "iPhone", "iPad" or "iPhone & iPad"; empty without a property list and for an app for the Mac. A list without a
+    /// family is that of an iPad app. A family without an array counts as an array of one.
     QString appPlatform() const;
     /// The devices that the app is for, by name: `appPlatform()`, but of an app for other devices their own names, as
     /// in "Apple TV" or "iPhone, iPad & Apple Vision".

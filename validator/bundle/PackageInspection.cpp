@@ -36,6 +36,20 @@ QStringList loggedListing(const PackageSource &source, const QString &folder)
     return source.names(folder);
 }
 
+std::optional<QVariantMap> infoPlist(const PackageSource &source, const QString &folder)
+{
+    const auto bytes = source.read(folder + u"/Info.plist", PropertyListLimits().fileBytes);
+    return bytes ? propertyListDictionary(bytes.value()) : std::nullopt;
+}
+
+LocalizedInfo localizedInfo(const PackageSource &source, const QString &folder, const QStringList &listing)
+{
+    return readLocalizedInfo(listing, [&source, &folder](const QString &path) {
+        const auto bytes = source.read(folder + u'/' + path, largestStringsTable);
+        return bytes ? bytes.value() : QByteArray();
+    });
+}
+
 /// A package without any contents.
 class NoSource final : public PackageSource
 {
@@ -85,17 +99,21 @@ PackageFacts readBundle(const QString &ipaPath, const PackageSource &source, con
     facts.hasApp = source.isFolder(folder);
     const QStringList listing = loggedListing(source, folder);
     const BundleContents contents = bundleContents(listing);
-    if (contents.hasInfoPlist) {
-        const auto bytes = source.read(folder + u"/Info.plist", PropertyListLimits().fileBytes);
-        if (bytes)
-            facts.appInfoPlist = propertyListDictionary(bytes.value());
-    }
-    facts.localizedInfo = readLocalizedInfo(listing, [&source, &folder](const QString &path) {
-        const auto bytes = source.read(folder + u'/' + path, largestStringsTable);
-        return bytes ? bytes.value() : QByteArray();
-    });
-    facts.appLocalizations = contents.localizations;
     facts.appImages = contents.images;
+    const QString macFolder = folder + u"/Contents";
+    facts.isMacApp = !contents.hasInfoPlist && source.find(macFolder + u"/Info.plist") != nullptr;
+    if (facts.isMacApp) {
+        const QStringList resources = source.names(macFolder + u"/Resources");
+        facts.appInfoPlist = infoPlist(source, macFolder);
+        facts.localizedInfo = localizedInfo(source, macFolder + u"/Resources", resources);
+        facts.appLocalizations = bundleContents(resources).localizations;
+        facts.provisioningProfile = decoder.readProvisioning(source, macFolder + u"/embedded.provisionprofile");
+        return facts;
+    }
+    if (contents.hasInfoPlist)
+        facts.appInfoPlist = infoPlist(source, folder);
+    facts.localizedInfo = localizedInfo(source, folder, listing);
+    facts.appLocalizations = contents.localizations;
     facts.provisioningProfile = decoder.readProvisioning(source, folder + u"/embedded.mobileprovision");
     return facts;
 }

@@ -143,7 +143,7 @@ QJsonObject reportJson(const QString &file, const PackageReport &report)
         {u"name"_s, facts.shownName()},
         {u"version"_s, facts.appVersion()},
         {u"platform"_s, facts.shownPlatform()},
-        {u"minimumOS"_s, facts.appMinimumOSVersion()},
+        {u"minimumOS"_s, facts.shownMinimumOS()},
         {u"bundleIdentifier"_s, facts.appBundleIdentifier()},
         {u"build"_s, buildName(buildKind(facts))},
         {u"localizations"_s, QJsonArray::fromStringList(facts.appLocalizations)},

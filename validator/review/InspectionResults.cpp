@@ -146,6 +146,7 @@ QByteArray bytesOf(const GatheredFacts &gathered)
         {u"images"_s, QCborArray::fromStringList(facts.appImages)},
         {u"profile"_s, facts.provisioningProfile ? QCborValue(*facts.provisioningProfile) : nullptr},
         {u"app"_s, facts.hasApp},
+        {u"mac"_s, facts.isMacApp},
         {u"failure"_s, outcome ? QCborValue(nullptr) : QCborValue(static_cast<int>(outcome.failure().code))},
         {u"damaged"_s, QCborArray::fromStringList(gathered.extraction.damagedEntries)},
         {u"found"_s, cbor(gathered.found)},
@@ -170,6 +171,7 @@ std::optional<GatheredFacts> gatheredFactsIn(const QByteArray &bytes, const QStr
     if (const QCborValue profile = map[u"profile"_s]; profile.isString())
         facts.provisioningProfile = profile.toString();
     facts.hasApp = map[u"app"_s].toBool();
+    facts.isMacApp = map[u"mac"_s].toBool();
     if (const QCborValue failure = map[u"failure"_s]; failure.isInteger())
         gathered.extraction.outcome = Failure{enumIn(failure, FailureCode::LeadsOutside), path, {}};
     gathered.extraction.damagedEntries = textsIn(map[u"damaged"_s]);
