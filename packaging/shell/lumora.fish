@@ -13,7 +13,7 @@ complete -c lumora -f
 complete -c lumora -n __fish_use_subcommand -a icons -d 'Write every icon of whole platforms'
 complete -c lumora -n __fish_use_subcommand -a icon -d 'Write icons of sizes of your own'
 complete -c lumora -n __fish_use_subcommand -a placeholders -d 'Write labeled gray pictures'
-complete -c lumora -n __fish_use_subcommand -a downscale -d 'Halve double-resolution PNG pictures'
+complete -c lumora -n __fish_use_subcommand -a downscale -d 'Scale retina pictures down to smaller densities'
 complete -c lumora -n __fish_use_subcommand -a color -d 'Print a color as code'
 complete -c lumora -n __fish_use_subcommand -a devices -d 'List the devices that can run an app'
 complete -c lumora -n __fish_use_subcommand -a validate -d 'Check iOS app packages'

@@ -4524,12 +4524,12 @@
     <translation>Icons in eigenen Größen schreiben</translation>
   </message>
   <message id="CLI_PLACEHOLDERS_ABOUT">
-    <source>Write gray pictures labeled with their size</source>
-    <translation>Graue Bilder mit ihrer Größe als Aufschrift schreiben</translation>
+    <source>Write placeholder pictures labeled with their size</source>
+    <translation>Platzhalterbilder mit ihrer Größe als Aufschrift schreiben</translation>
   </message>
   <message id="CLI_DOWNSCALE_ABOUT">
-    <source>Halve double-resolution PNG pictures</source>
-    <translation>PNG-Bilder doppelter Auflösung halbieren</translation>
+    <source>Scale retina pictures down to smaller densities</source>
+    <translation>Retina-Bilder auf kleinere Auflösungen verkleinern</translation>
   </message>
   <message id="CLI_COLOR_ABOUT">
     <source>Print a color as code</source>
@@ -4816,8 +4816,8 @@
     <translation>PNG-Dateien mit @2x oder -hd im Namen oder Ordner, die nach solchen durchsucht werden; mit --layout Bilder der größten Auflösung oder Ordner mit ihnen oder SVG-Zeichnungen</translation>
   </message>
   <message id="CLI_DOWNSCALE_OVERWRITE">
-    <source>Replace files that are there already, the sources among them</source>
-    <translation>Vorhandene Dateien ersetzen, auch die Quellen selbst</translation>
+    <source>Replace files that are there already; with --layout never a source</source>
+    <translation>Vorhandene Dateien ersetzen; mit --layout nie eine Quelle</translation>
   </message>
   <message id="CLI_DOWNSCALE_DRY_RUN">
     <source>Print what would be written and mark what exists; write nothing</source>

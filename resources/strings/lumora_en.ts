@@ -4522,12 +4522,12 @@
     <translation>Write icons of sizes of your own</translation>
   </message>
   <message id="CLI_PLACEHOLDERS_ABOUT">
-    <source>Write gray pictures labeled with their size</source>
-    <translation>Write gray pictures labeled with their size</translation>
+    <source>Write placeholder pictures labeled with their size</source>
+    <translation>Write placeholder pictures labeled with their size</translation>
   </message>
   <message id="CLI_DOWNSCALE_ABOUT">
-    <source>Halve double-resolution PNG pictures</source>
-    <translation>Halve double-resolution PNG pictures</translation>
+    <source>Scale retina pictures down to smaller densities</source>
+    <translation>Scale retina pictures down to smaller densities</translation>
   </message>
   <message id="CLI_COLOR_ABOUT">
     <source>Print a color as code</source>
@@ -4814,8 +4814,8 @@
     <translation>PNG files marked @2x or -hd, or folders that are searched for such files; with --layout, pictures of the largest density or folders of them, or SVG drawings</translation>
   </message>
   <message id="CLI_DOWNSCALE_OVERWRITE">
-    <source>Replace files that are there already, the sources among them</source>
-    <translation>Replace files that are there already, the sources among them</translation>
+    <source>Replace files that are there already; with --layout never a source</source>
+    <translation>Replace files that are there already; with --layout never a source</translation>
   </message>
   <message id="CLI_DOWNSCALE_DRY_RUN">
     <source>Print what would be written and mark what exists; write nothing</source>
