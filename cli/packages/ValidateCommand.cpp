@@ -9,6 +9,7 @@
 #include "SpooledPackage.h"
 #include "StoreDemands.h"
 #include "StoreReport.h"
+#include "WrittenPlaces.h"
 #include "cli/arguments/Declaration.h"
 #include "cli/console/CommandText.h"
 #include "cli/console/Interruption.h"
@@ -323,6 +324,14 @@ private:
     ExitStatus m_status = ExitStatus::Done;
 };
 
+/// The files that the command writes, standard output aside.
+QStringList writtenFiles(const ValidateArguments &arguments)
+{
+    QStringList files{arguments.icon, arguments.reports.sarif, arguments.reports.junit, arguments.reports.html};
+    files.removeIf([](const QString &file) { return file.isEmpty() || file == u"-"; });
+    return files;
+}
+
 std::optional<Complaint> misuseOf(const Console &console, const ValidateArguments &arguments)
 {
     if (!arguments.icon.isEmpty() && arguments.files.size() > 1)
@@ -338,6 +347,8 @@ std::optional<Complaint> misuseOf(const Console &console, const ValidateArgument
     }
     if (arguments.icon == u"-" && ::isatty(STDOUT_FILENO) == 1)
         return misuse("terminal", commandText("CLI_TERMINAL_OUTPUT"), commandText("CLI_TERMINAL_OUTPUT_ADVICE"));
+    if (const QString file = fileNamedTwice(writtenFiles(arguments)); !file.isEmpty())
+        return misuse("given-twice", commandText("CLI_GIVEN_TWICE", {{"[OPTION]", file}}));
     if (arguments.files.count(u"-"_s) > 1)
         return misuse("given-twice", commandText("CLI_GIVEN_TWICE", {{"[OPTION]", u"-"_s}}));
     return {};
@@ -348,6 +359,11 @@ ExitStatus runValidate(Console &console, const ValidateArguments &arguments)
     if (const std::optional<Complaint> problem = misuseOf(console, arguments)) {
         console.complain(*problem);
         return ExitStatus::Usage;
+    }
+    if (const QString file = fileInPlaceOf(arguments.files, writtenFiles(arguments)); !file.isEmpty()) {
+        console.complain({Complaint::Kind::Failure, u"would-replace-source"_s, file,
+                          commandText("CLI_VALIDATE_REPLACES"), commandText("CLI_VALIDATE_REPLACES_ADVICE")});
+        return ExitStatus::Refused;
     }
     auto demands = arguments.store.demands();
     if (const auto *problem = std::get_if<Complaint>(&demands)) {

@@ -5291,6 +5291,14 @@
     <source>it takes [WORDS]</source>
     <translation>möglich sind [WORDS]</translation>
   </message>
+  <message id="CLI_VALIDATE_REPLACES">
+    <source>is a package that is to be checked</source>
+    <translation>ist ein Paket, das geprüft werden soll</translation>
+  </message>
+  <message id="CLI_VALIDATE_REPLACES_ADVICE">
+    <source>write to another name</source>
+    <translation>unter einem anderen Namen schreiben</translation>
+  </message>
   <message id="CLI_GIVEN_TWICE">
     <source>[OPTION] is given twice</source>
     <translation>[OPTION] ist zweimal angegeben</translation>

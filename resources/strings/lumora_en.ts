@@ -5289,6 +5289,14 @@
     <source>it takes [WORDS]</source>
     <translation>it takes [WORDS]</translation>
   </message>
+  <message id="CLI_VALIDATE_REPLACES">
+    <source>is a package that is to be checked</source>
+    <translation>is a package that is to be checked</translation>
+  </message>
+  <message id="CLI_VALIDATE_REPLACES_ADVICE">
+    <source>write to another name</source>
+    <translation>write to another name</translation>
+  </message>
   <message id="CLI_GIVEN_TWICE">
     <source>[OPTION] is given twice</source>
     <translation>[OPTION] is given twice</translation>

@@ -155,6 +155,20 @@ class Reports(unittest.TestCase):
         unknown = subprocess.run([LUMORA, "rules", "ITMS-90187"], capture_output=True, env={"LC_ALL": "de_DE.UTF-8"})
         self.assertEqual(unknown.returncode, 2)
 
+    def test_no_report_in_the_place_of_a_package(self):
+        whole = (self.folder / "seal.ipa").read_bytes()
+        (self.folder / "link.html").symlink_to("seal.ipa")
+        for option in ("--html", "--sarif", "--junit", "--icon"):
+            for place in ("seal.ipa", "./seal.ipa", str(self.folder / "seal.ipa"), "link.html"):
+                ended = self.run_lumora("validate", "seal.ipa", option, place)
+                self.assertEqual((ended.returncode, ended.stdout), (1, b""), (option, place, ended))
+                self.assertEqual((self.folder / "seal.ipa").read_bytes(), whole, (option, place))
+
+    def test_no_two_reports_in_one_place(self):
+        ended = self.run_lumora("validate", "seal.ipa", "--html", "new.report", "--sarif", "./new.report")
+        self.assertEqual((ended.returncode, ended.stdout), (2, b""), ended)
+        self.assertFalse((self.folder / "new.report").exists())
+
     def test_no_place_for_a_report(self):
         ended = self.run_lumora("validate", "keeps, all.ipa", "--sarif", "none/report.sarif", "--json")
         self.assertEqual(ended.returncode, 1, ended)
