@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "PaneInWindow.h"
+#include "ReadPane.h"
 #include "resources/Resources.h"
+#include "tests/doubles/FilesOnDisk.h"
 #include "tests/doubles/ScriptedFiles.h"
 #include "validator/ReportBody.h"
 #include "validator/findings/FindingHeader.h"
@@ -54,7 +55,7 @@ private slots:
     void saysTheSumFirst()
     {
         QFETCH(QStringList, rows);
-        ReadPane pane(*this, QTest::currentDataTag());
+        ReadPane pane(package(QTest::currentDataTag()));
         QTEST(pane.ui().sumLabel->text(), "sum");
         QStringList ids;
         for (const FindingRow *row : pane.rows())
@@ -68,7 +69,7 @@ private slots:
 
     void keepsThePageOfAnOldPackage()
     {
-        ReadPane pane(*this, "one icon");
+        ReadPane pane(package("one icon"));
         QCOMPARE(pane.ui().sumLabel->text(), u"1 of 6 checks failed"_s);
         QVERIFY(!pane.view().isVisible());
         QVERIFY2(pane.tool.reviewSections()->isVisible(), "what else is known of it");
@@ -92,7 +93,7 @@ private slots:
 
     void opensARowInPlace()
     {
-        ReadPane pane(*this, "icon-marketing icon-phone icon-pad");
+        ReadPane pane(package("icon-marketing icon-phone icon-pad"));
         FindingRow *row = pane.rows().front();
         QVERIFY(row->header()->accessibleName().startsWith(u"Error: "));
         QVERIFY(row->header()->accessibleName().endsWith(u"ITMS-90022"));
@@ -111,7 +112,7 @@ private slots:
 
     void movesByKeys()
     {
-        ReadPane pane(*this, "icon-marketing icon-phone icon-pad");
+        ReadPane pane(package("icon-marketing icon-phone icon-pad"));
         const auto focused = [&](std::size_t index) { return pane.rows()[index]->header()->hasFocus(); };
         pane.rows().front()->header()->setFocus();
         QTRY_VERIFY(focused(0));
@@ -131,7 +132,7 @@ private slots:
 
     void reachesEverythingInTheOrderOfReading()
     {
-        ReadPane pane(*this, "icon-marketing icon-phone icon-pad");
+        ReadPane pane(package("icon-marketing icon-phone icon-pad"));
         pane.rows()[0]->setOpen(true);
         pane.view().search()->setFocus();
         const QList<QWidget *> order{pane.rows()[0]->header(), pane.rows()[0]->iconsButton(),
@@ -145,7 +146,7 @@ private slots:
 
     void filtersBySeverityAndWords()
     {
-        ReadPane pane(*this, "icon-marketing icon-phone icon-pad");
+        ReadPane pane(package("icon-marketing icon-phone icon-pad"));
         const auto shown = [&pane] {
             QStringList ids;
             for (const FindingRow *row : pane.rows()) {
@@ -170,14 +171,14 @@ private slots:
 
     void ignoresARuleAndShowsItAgain()
     {
-        ReadPane pane(*this, "icon-marketing icon-phone icon-pad");
+        ReadPane pane(package("icon-marketing icon-phone icon-pad"));
         pane.rows()[1]->setOpen(true);
         pane.rows()[1]->ignoreButton()->click();
         QCOMPARE(pane.rows().size(), std::size_t(2));
         QCOMPARE(pane.ui().sumLabel->text(), u"2 errors"_s);
         QVERIFY(!pane.tool.reportText().contains(u"ITMS-90023"));
         // Also in the next package.
-        pane.read("icon-marketing icon-phone icon-pad");
+        pane.read(package("icon-marketing icon-phone icon-pad"));
         QCOMPARE(pane.ui().sumLabel->text(), u"2 errors"_s);
         QVERIFY(pane.view().restoreButton()->isVisibleTo(&pane.view()));
         pane.view().restoreButton()->click();
@@ -188,7 +189,7 @@ private slots:
     void savesTheReportWithoutIgnoredRules()
     {
         const QTemporaryDir folder;
-        ReadPane pane(*this, "icon-marketing icon-phone icon-pad");
+        ReadPane pane(package("icon-marketing icon-phone icon-pad"));
         pane.rows()[1]->setOpen(true);
         pane.rows()[1]->ignoreButton()->click();
         for (const QString &name : {u" report"_s, u" report 2"_s}) {
@@ -198,10 +199,11 @@ private slots:
             const QString base = folder.filePath(u"icon-marketing icon-phone icon-pad"_s + name);
             QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(base + u".json"_s), readingTime);
             QTRY_COMPARE_WITH_TIMEOUT(pane.view().saveButton()->text(), qtTrId("FINDINGS_SAVED"), readingTime);
-            const QJsonArray findings = QJsonDocument::fromJson(contentOf(base + u".json"_s))[u"findings"_s].toArray();
+            const QJsonArray findings =
+                QJsonDocument::fromJson(contentOfFile(base + u".json"_s))[u"findings"_s].toArray();
             QCOMPARE(findings.size(), 2);
             QCOMPARE(findings[0][u"id"_s].toString(), u"icon-phone"_s);
-            const QByteArray page = contentOf(base + u".html"_s);
+            const QByteArray page = contentOfFile(base + u".html"_s);
             QVERIFY(page.contains("icon-marketing") && page.contains("ITMS-90022"));
             QVERIFY(!page.contains("ITMS-90023"));
         }
@@ -209,7 +211,7 @@ private slots:
 
     void saysWhatCouldNotBeSaved()
     {
-        ReadPane pane(*this, "keeps, all");
+        ReadPane pane(package("keeps, all"));
         pane.view().saveButton()->click();
         pane.services.folderChooser.confirm(u"/proc"_s);
         QTRY_VERIFY_WITH_TIMEOUT(PopoverAlert::currentAlert() != nullptr, readingTime);
@@ -218,7 +220,7 @@ private slots:
 
     void handsIconsAndModelsOn()
     {
-        ReadPane pane(*this, "icon-marketing icon-phone icon-pad");
+        ReadPane pane(package("icon-marketing icon-phone icon-pad"));
         QSignalSpy icons(&pane.tool, &ValidaterViewController::iconsWanted);
         QSignalSpy models(&pane.tool, &ValidaterViewController::modelsWanted);
         pane.rows()[0]->setOpen(true);
@@ -232,7 +234,7 @@ private slots:
 
     void handsThePackagesOwnPictureOn()
     {
-        ReadPane pane(*this, "icon-pad a JPEG");
+        ReadPane pane(package("icon-pad a JPEG"));
         QSignalSpy icons(&pane.tool, &ValidaterViewController::iconsWanted);
         pane.rows()[0]->setOpen(true);
         QVERIFY(!textsIn(*pane.rows()[0]).contains(qtTrId("FINDINGS_PACKED_ICON")));
@@ -245,7 +247,7 @@ private slots:
 
     void saysWhyItHasNoPicture()
     {
-        ReadPane pane(*this, "icon-pad");
+        ReadPane pane(package("icon-pad"));
         QSignalSpy icons(&pane.tool, &ValidaterViewController::iconsWanted);
         pane.rows()[0]->setOpen(true);
         QVERIFY(textsIn(*pane.rows()[0]).contains(qtTrId("FINDINGS_PACKED_ICON")));
@@ -256,15 +258,15 @@ private slots:
 
     void offersNoModelsForAnotherDevice()
     {
-        ReadPane pane(*this, "keeps, a Mac app");
+        ReadPane pane(package("keeps, a Mac app"));
         QVERIFY(!pane.tool.reviewSections()->modelsButton()->isVisibleTo(pane.tool.reviewSections()));
-        pane.read("keeps, all");
+        pane.read(package("keeps, all"));
         QVERIFY(pane.tool.reviewSections()->modelsButton()->isVisibleTo(pane.tool.reviewSections()));
     }
 
     void tellsWhatElseIsKnown()
     {
-        ReadPane pane(*this, "keeps, all");
+        ReadPane pane(package("keeps, all"));
         const QString text = pane.tool.reviewSections()->lines().join(u'\n');
         for (const QString &part :
              {u"Signature: valid"_s, u"Profile: for the App Store"_s, u"expires in "_s,
@@ -276,133 +278,12 @@ private slots:
 
     void replacesTheFirstPackage()
     {
-        ReadPane pane(*this, "seal more");
+        ReadPane pane(package("seal more"));
         pane.tool.dropIpaFileFromDelegate(package("icon-marketing icon-phone icon-pad"));
         pane.tool.dropIpaFileFromDelegate(package("keeps, all"));
         QVERIFY2(!pane.view().isVisible(), "nothing of the last package");
         QTRY_COMPARE_WITH_TIMEOUT(pane.ui().sumLabel->text(), u"Nothing found"_s, readingTime);
         QVERIFY(pane.rows().empty());
-    }
-
-    void endsTheReaderOnCancel()
-    {
-        ReadPane pane(*this, nullptr, script(u"echo $$ > \"$0.pid\"; echo 'read 300'; exec sleep 600"_s));
-        pane.tool.dropIpaFileFromDelegate(package("keeps, all"));
-        QTRY_COMPARE_WITH_TIMEOUT(pane.ui().readingBar->doubleValue(), 30.0, readingTime);
-        QTRY_COMPARE_WITH_TIMEOUT(pane.ui().sumLabel->text(), u"Checking the store's rules… 30 %"_s, readingTime);
-        QVERIFY2(pane.ui().readingLoaderField->text().endsWith(u"… 30 %"_s),
-                 qPrintable(pane.ui().readingLoaderField->text()));
-        const QString process = u"/proc/"_s + QString::fromLatin1(contentOf(m_script + u".pid"_s)).trimmed();
-        QVERIFY(QFile::exists(process));
-        pane.tool.cancelButtonPressed();
-        QVERIFY(pane.ui().dropView->isVisible());
-        QTRY_VERIFY_WITH_TIMEOUT(!QFile::exists(process), readingTime);
-    }
-
-    void saysWhenTheReaderFails_data()
-    {
-        QTest::addColumn<QString>("program");
-        QTest::addColumn<QByteArray>("note");
-        QTest::newRow("a crash") << u"kill -SEGV $$"_s << QByteArray("REVIEW_READER_CRASHED");
-        QTest::newRow("a crash in the middle")
-            << u"echo 'read 500'; echo 'review 900'; echo '{'; kill -SEGV $$"_s << QByteArray("REVIEW_READER_CRASHED");
-        QTest::newRow("silence") << u"exit 0"_s << QByteArray("REVIEW_READER_CRASHED");
-        QTest::newRow("a hang") << u"exec sleep 600"_s << QByteArray("REVIEW_READER_STALLED");
-        QTest::newRow("a hang in the middle")
-            << u"echo 'read 500'; exec sleep 600"_s << QByteArray("REVIEW_READER_STALLED");
-        QTest::newRow("noise") << u"exec head -c 1000000 /dev/urandom"_s << QByteArray("REVIEW_READER_CRASHED");
-        QTest::newRow("no end") << u"echo 'review 9'; exec yes"_s << QByteArray("REVIEW_READER_CRASHED");
-        QTest::newRow("a length past all bounds")
-            << u"echo 'review 999999999999'"_s << QByteArray("REVIEW_READER_CRASHED");
-        QTest::newRow("an answer that is no review")
-            << u"echo 'review 2'; printf '{}'"_s << QByteArray("REVIEW_READER_CRASHED");
-    }
-    void saysWhenTheReaderFails()
-    {
-        QFETCH(QString, program);
-        QFETCH(QByteArray, note);
-        ReadPane pane(*this, nullptr, script(program), std::chrono::milliseconds(400));
-        pane.read("keeps, all");
-        QVERIFY2(pane.ui().noteLabel->accessibleName().contains(qtTrId(note.constData())),
-                 qPrintable(pane.ui().noteLabel->accessibleName()));
-        QVERIFY2(pane.ui().sumLabel->text().contains(u"checks"), "the classic checks hold all the same");
-        QVERIFY(!pane.view().isVisible());
-        QVERIFY(!pane.tool.review());
-    }
-
-    void saysWhenTheInspectionFails_data()
-    {
-        QTest::addColumn<QString>("program");
-        QTest::addColumn<QByteArray>("note");
-        QTest::newRow("a crash") << u"kill -SEGV $$"_s << QByteArray("VALIDATER_READER_CRASHED");
-        QTest::newRow("a crash in the middle")
-            << u"echo 'gathered 900'; echo 'x'; kill -SEGV $$"_s << QByteArray("VALIDATER_READER_CRASHED");
-        QTest::newRow("silence") << u"exit 0"_s << QByteArray("VALIDATER_READER_CRASHED");
-        QTest::newRow("a hang") << u"exec sleep 600"_s << QByteArray("VALIDATER_READER_STALLED");
-        QTest::newRow("noise") << u"exec head -c 1000000 /dev/urandom"_s << QByteArray("VALIDATER_READER_CRASHED");
-        QTest::newRow("facts that are none")
-            << u"echo 'gathered 2'; printf '{}'"_s << QByteArray("VALIDATER_READER_CRASHED");
-        QTest::newRow("verdicts without facts")
-            << u"echo 'artwork 1'; printf '\240'"_s << QByteArray("VALIDATER_READER_CRASHED");
-        QTest::newRow("too little memory") << u"echo 'failure 7'"_s << QByteArray("VALIDATER_READER_CRASHED");
-    }
-    void saysWhenTheInspectionFails()
-    {
-        QFETCH(QString, program);
-        QFETCH(QByteArray, note);
-        ReadPane pane(*this, nullptr, script(program, u"--inspect-package"_s), std::chrono::seconds(2));
-        pane.tool.dropIpaFileFromDelegate(package("keeps, all"));
-        QTRY_VERIFY_WITH_TIMEOUT(opacity(pane.ui().sumLabel) == 1 && opacity(pane.ui().readingBar) == 0, readingTime);
-        QCOMPARE(pane.ui().noteLabel->accessibleName(), qtTrId(note.constData()));
-        QVERIFY(!pane.ui().checksPart->isVisible());
-        QVERIFY(!pane.ui().factsPart->isVisible());
-        QVERIFY2(pane.view().isVisible(), "the store's rules were checked all the same");
-        QCOMPARE(pane.ui().sumLabel->text(), u"Nothing found"_s);
-        QVERIFY(pane.tool.reportText().contains(qtTrId(note.constData())));
-        QVERIFY(treeBelow(pane.services.workFolder).isEmpty());
-    }
-
-    void saysWhenBothReadersFail_data()
-    {
-        QTest::addColumn<QString>("program");
-        QTest::addColumn<QStringList>("notes");
-        QTest::newRow("no program") << u"/does/not/exist"_s
-                                    << QStringList{u"VALIDATER_READER_NOT_STARTED"_s, u"REVIEW_READER_NOT_STARTED"_s};
-        QTest::newRow("an early end") << u"/bin/false"_s
-                                      << QStringList{u"VALIDATER_READER_CRASHED"_s, u"REVIEW_READER_CRASHED"_s};
-    }
-    void saysWhenBothReadersFail()
-    {
-        QFETCH(QString, program);
-        QFETCH(QStringList, notes);
-        ReadPane pane(*this, nullptr, program);
-        pane.tool.dropIpaFileFromDelegate(package("keeps, all"));
-        QTRY_VERIFY_WITH_TIMEOUT(opacity(pane.ui().sumLabel) == 1 && opacity(pane.ui().readingBar) == 0, readingTime);
-        QCOMPARE(pane.ui().sumLabel->text(), qtTrId("VALIDATER_SUM_UNREAD"));
-        const QString note = pane.ui().noteLabel->accessibleName();
-        for (const QString &key : notes)
-            QVERIFY2(note.contains(qtTrId(key.toLatin1().constData())), qPrintable(note));
-        QVERIFY(!pane.view().isVisible());
-        QVERIFY(!pane.tool.reportText().contains(u"checks passed"_s));
-    }
-
-    void inspectsInAnotherProcess()
-    {
-        ReadPane pane(*this, "valid");
-        QVERIFY(pane.tool.facts().provisioningProfile->contains(pane.tool.facts().appBundleIdentifier()));
-        const QImage shown = pane.ui().appIconField->pixmap(Qt::ReturnByValue).toImage();
-        PaneInWindow here;
-        here.tool.dropIpaFileFromDelegate(package("valid"));
-        QTRY_VERIFY_WITH_TIMEOUT(here.hasFacts(), readingTime);
-        QCOMPARE(here.tool.facts().appInfoPlist, pane.tool.facts().appInfoPlist);
-        QCOMPARE(here.tool.facts().appImages, pane.tool.facts().appImages);
-        QCOMPARE(here.tool.facts().appLocalizations, pane.tool.facts().appLocalizations);
-        QCOMPARE(here.tool.facts().provisioningProfile, pane.tool.facts().provisioningProfile);
-        QCOMPARE(here.tool.facts().appContentFolderPath, pane.tool.facts().appContentFolderPath);
-        QCOMPARE(here.tool.reportText().section(qtTrId("REVIEW_CLASSIC_RULES"), -1),
-                 pane.tool.reportText().section(qtTrId("REVIEW_CLASSIC_RULES"), -1));
-        QCOMPARE(shown.convertToFormat(QImage::Format_ARGB32),
-                 here.ui().appIconField->pixmap(Qt::ReturnByValue).toImage().convertToFormat(QImage::Format_ARGB32));
     }
 
     void saysWhatANoPackageIs()
@@ -411,51 +292,13 @@ private slots:
         QFile file(path);
         QVERIFY(file.open(QIODevice::WriteOnly) && file.write("%PDF-1.4") > 0);
         file.close();
-        ReadPane pane(*this, nullptr);
+        ReadPane pane;
         pane.tool.dropIpaFileFromDelegate(path);
         QTRY_COMPARE_WITH_TIMEOUT(pane.ui().sumLabel->text(), qtTrId("VALIDATER_SUM_NO_PACKAGE"), readingTime);
         QVERIFY(pane.tool.found() && pane.tool.found()->kind == FoundKind::Document);
     }
 
-    void survivesANonsensicalReview()
-    {
-        const QString answer = uR"({"verdicts":[{"rule":"no-such-rule","state":1,"evidence":[{}]},)"
-                               uR"({"rule":"seal","state":77,"evidence":7}],"kinds":[{"kind":"?","bytes":-5}],)"
-                               uR"("bundles":[{"kind":99}],"sizes":[],"json":[]})"_s;
-        ReadPane pane(*this, nullptr,
-                      script(u"echo 'review %1'; printf '%s' '%2'"_s.arg(QString::number(answer.size()), answer)));
-        pane.read("keeps, all");
-        QVERIFY(pane.tool.review().has_value());
-        QCOMPARE(pane.ui().sumLabel->text(), u"Nothing found"_s);
-    }
-
 private:
-    /// The pane after it has read a package.
-    class ReadPane : public PaneInWindow
-    {
-    public:
-        ReadPane(ValidaterFindingsTest &test, const char *name, const QString &reader = {},
-                 std::chrono::milliseconds patience = std::chrono::minutes(1))
-            : PaneInWindow(Room::There, reader.isEmpty() ? QStringLiteral(LUMORA_WINDOW_PROGRAM) : reader, patience),
-              m_test(test)
-        {
-            if (name != nullptr)
-                read(name);
-        }
-
-        void read(const char *name)
-        {
-            tool.dropIpaFileFromDelegate(m_test.package(name));
-            QTRY_VERIFY_WITH_TIMEOUT(hasFacts() && opacity(ui().readingBar) == 0, readingTime);
-        }
-        FindingsView &view() const { return *tool.findingsView(); }
-        const std::vector<FindingRow *> &rows() const { return view().rows(); }
-        void choose(int severity) { view().severities()->segments().at(static_cast<std::size_t>(severity))->click(); }
-
-    private:
-        ValidaterFindingsTest &m_test;
-    };
-
     static QStringList textsIn(const FindingRow &row)
     {
         QStringList texts;
@@ -464,29 +307,7 @@ private:
         return texts;
     }
     QString package(const char *name) const { return m_packages.filePath(QString::fromUtf8(name) + u".ipa"_s); }
-    static QByteArray contentOf(const QString &path)
-    {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
-    /// A program that does this in the place of the reader of this argument; another reader is the real one.
-    QString script(const QString &body, const QString &argument = u"--read-package"_s)
-    {
-        m_script = m_work.filePath(u"reader-%1"_s.arg(++m_scripts));
-        QFile file(m_script);
-        if (!file.open(QIODevice::WriteOnly))
-            qFatal("no script");
-        const QString others = u"[ \"$1\" = %1 ] || exec '%2' \"$@\""_s;
-        file.write("#!/bin/sh\n" + others.arg(argument, QStringLiteral(LUMORA_WINDOW_PROGRAM)).toUtf8() + '\n' +
-                   body.toUtf8() + '\n');
-        file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-        return m_script;
-    }
-
     QTemporaryDir m_packages;
-    QTemporaryDir m_work;
-    QString m_script;
-    int m_scripts = 0;
 };
 
 QTEST_MAIN(ValidaterFindingsTest)
