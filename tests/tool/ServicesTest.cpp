@@ -6,7 +6,10 @@
 #include <QClipboard>
 #include <QDir>
 #include <QFileDialog>
+#include <QFileIconProvider>
 #include <QHeaderView>
+#include <QImage>
+#include <QMimeDatabase>
 #include <QScopeGuard>
 #include <QSettings>
 #include <QStandardPaths>
@@ -127,6 +130,26 @@ private slots:
         for (int column = 1; column < list->header()->count(); ++column)
             QVERIFY(list->isColumnHidden(column) ||
                     list->columnWidth(column) >= list->header()->sectionSizeHint(column));
+    }
+
+    void fileDialogOpensNoFileToShowIt()
+    {
+        const QTemporaryDir temporary;
+        const QString path = temporary.filePath(u"a.unknown"_s);
+        QImage picture(8, 8, QImage::Format_RGB32);
+        picture.fill(Qt::red);
+        QVERIFY(picture.save(path, "PNG"));
+        QWidget window;
+        window.show();
+        DialogFileChooser chooser;
+        chooser.chooseFiles(&window, {u"Choose"_s, temporary.path(), {}, false}, [](const QStringList &) {});
+        const auto *dialog = window.findChild<QFileDialog *>();
+        QMimeDatabase kinds;
+        QCOMPARE(dialog->iconProvider()->type(QFileInfo(path)),
+                 kinds.mimeTypeForName(u"application/octet-stream"_s).comment());
+        QCOMPARE(dialog->iconProvider()->type(QFileInfo(temporary.filePath(u"a.png"_s))),
+                 kinds.mimeTypeForName(u"image/png"_s).comment());
+        QVERIFY(!dialog->iconProvider()->icon(QFileInfo(path)).isNull());
     }
 
     void folderDialogAnswersItsFolder()

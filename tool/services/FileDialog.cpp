@@ -6,7 +6,9 @@
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QDBusVariant>
+#include <QFileIconProvider>
 #include <QHeaderView>
+#include <QMimeDatabase>
 #include <QTreeView>
 
 #include <algorithm>
@@ -33,6 +35,40 @@ bool leavesDialogsToPortal()
     return std::any_of(std::begin(themes), std::end(themes), [&](QLatin1StringView name) { return theme == name; });
 }
 
+/// Judges files by their names. The toolkit's own provider opens files, on the main thread, too, and so a share that
+/// does not answer would freeze the window.
+class IconsByName final : public QFileIconProvider
+{
+public:
+    using QFileIconProvider::icon;
+
+    QIcon icon(const QFileInfo &info) const override
+    {
+        const QIcon standard = icon(info.isDir() ? Folder : File);
+        return info.isDir() ? standard : QIcon::fromTheme(kindOf(info).iconName(), standard);
+    }
+
+    QString type(const QFileInfo &info) const override
+    {
+        return info.isDir() ? QFileIconProvider::type(info) : kindOf(info).comment();
+    }
+
+private:
+    QMimeType kindOf(const QFileInfo &info) const
+    {
+        return m_kinds.mimeTypeForFile(info.fileName(), QMimeDatabase::MatchExtension);
+    }
+
+    QMimeDatabase m_kinds;
+};
+
+/// Outlives every dialog, whose threads use it.
+QFileIconProvider *iconsByName()
+{
+    static IconsByName icons;
+    return &icons;
+}
+
 void widen(const QFileDialog &dialog)
 {
     // Null where the desktop shows its own dialog.
@@ -49,6 +85,7 @@ void open(QWidget *window, const FileDialogRequest &request, const std::function
     auto *dialog = new QFileDialog(window, request.title, request.startFolder);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setOption(QFileDialog::DontUseNativeDialog, !ofDesktop);
+    dialog->setIconProvider(iconsByName());
     dialog->setFileMode(request.mode);
     dialog->resize(dialogSize);
     widen(*dialog);
