@@ -43,6 +43,14 @@ private:
     const InspectionResults &m_results;
 };
 
+/// Nothing of bytes that are no map or are cut off, of which the toolkit would give the first part.
+std::optional<QCborValue> mapIn(const QByteArray &bytes)
+{
+    QCborParserError error;
+    const QCborValue map = QCborValue::fromCbor(bytes, &error);
+    return map.isMap() && error.error == QCborError::NoError ? std::optional(map) : std::nullopt;
+}
+
 QStringList textsIn(const QCborValue &value)
 {
     QStringList texts;
@@ -156,9 +164,10 @@ QByteArray bytesOf(const GatheredFacts &gathered)
 
 std::optional<GatheredFacts> gatheredFactsIn(const QByteArray &bytes, const QString &path)
 {
-    const QCborValue map = QCborValue::fromCbor(bytes);
-    if (!map.isMap())
+    const auto whole = mapIn(bytes);
+    if (!whole)
         return {};
+    const QCborValue &map = *whole;
     GatheredFacts gathered;
     PackageFacts &facts = gathered.facts;
     facts.ipaPath = path;
@@ -193,10 +202,13 @@ QByteArray bytesOf(const ArtworkReport &artwork)
 
 std::optional<ArtworkReport> artworkIn(const QByteArray &bytes)
 {
-    const QCborValue map = QCborValue::fromCbor(bytes);
+    const auto whole = mapIn(bytes);
+    if (!whole)
+        return {};
+    const QCborValue &map = *whole;
     const QCborArray icons = map[u"icons"_s].toArray();
     const QCborArray launchImages = map[u"launchImages"_s].toArray();
-    if (!map.isMap() || icons.size() > mostSizes || launchImages.size() > mostSizes)
+    if (icons.size() > mostSizes || launchImages.size() > mostSizes)
         return {};
     ArtworkReport artwork;
     for (const QCborValue edge : icons)
