@@ -41,7 +41,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     readSigner(bytes, "content");
     readProvisioningProfile(bytes);
     entitlementsFromDer(bytes);
-    SealComparison comparison({{u"file"}}, {});
+    BundleFile file;
+    file.path = u"file";
+    SealComparison comparison({file}, {});
     comparison.take(bytes);
     comparison.findings();
     return 0;

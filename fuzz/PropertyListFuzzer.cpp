@@ -3,6 +3,7 @@
 #include "validator/bundle/ArtworkChecks.h"
 #include "validator/bundle/MetadataChecks.h"
 #include "validator/bundle/PropertyList.h"
+#include "validator/rules/PrivacyManifest.h"
 
 #include <cstdlib>
 
@@ -15,6 +16,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     facts.appInfoPlist = propertyListDictionary(bytes);
     if (const auto table = readStringsTable(bytes))
         facts.localizedInfo.insert(QStringLiteral("en"), *table);
+    if (facts.appInfoPlist)
+        readPrivacyManifest(*facts.appInfoPlist);
     const bool known = facts.appInfoPlist.has_value();
     if (known == facts.appPlatform().isEmpty() || known == facts.shownPlatform().isEmpty())
         std::abort();

@@ -53,6 +53,13 @@ def main():
         made.blocks[leaf] = patched_bytes(made.blocks[leaf], 2, b"\xff\xff")
         return tree
 
+    def entry_as_name(made, tree):
+        leaf = struct.unpack_from(">I", tree, 8)[0]
+        child = struct.unpack_from(">I", made.blocks[made.names["RENDITIONS"]], 8)[0]
+        entries = struct.unpack_from(">I", made.blocks[child], 12)[0]
+        made.blocks[leaf] = patched_bytes(made.blocks[leaf], 16, made.blocks[entries][12:16])
+        return tree
+
     index = struct.unpack_from(">I", good, 16)[0]
     files = {
         "app icon": good,
@@ -70,6 +77,7 @@ def main():
         "a tree that is its own node": with_block("RENDITIONS", self_tree),
         "a node that is its own child": with_block("RENDITIONS", node_of_itself),
         "an entry that is cut off": with_block("RENDITIONS", cut_entries),
+        "an entry as a name": with_block("FACETKEYS", entry_as_name),
         "more pairs than the leaf holds": with_block("RENDITIONS", too_many),
         "key format without end": with_block("KEYFORMAT", lambda made, block: patched_bytes(block, 8, b"\xff\xff\xff\xff")),
         "blocks without end": patched_bytes(good, index, number(0xFFFFFFFF)),

@@ -34,8 +34,10 @@ ReaderStream::State ReaderStream::takeLine()
 {
     const qsizetype end = m_bytes.indexOf('\n');
     m_hasMore = end >= 0;
+    if (end > longestLine || (end < 0 && m_bytes.size() > longestLine))
+        return State::Nonsense;
     if (end < 0)
-        return m_bytes.size() > longestLine ? State::Nonsense : State::Incomplete;
+        return State::Incomplete;
     const QByteArray line = m_bytes.first(end);
     m_bytes.remove(0, end + 1);
     m_word = QString::fromLatin1(line.first(line.indexOf(' ') + 1));

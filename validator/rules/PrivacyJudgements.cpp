@@ -114,7 +114,7 @@ QList<SaidPurpose> saidPurposes(const PackageContents &contents)
 bool isVague(const QString &text)
 {
     constexpr qsizetype fewestWords = 3;
-    constexpr QChar lastLatin(0x24F);
+    static constexpr QChar lastLatin(0x24F);
     if (text.isEmpty() ||
         std::ranges::any_of(text, [](QChar letter) { return letter > lastLatin && letter.isLetter(); }))
         return false;

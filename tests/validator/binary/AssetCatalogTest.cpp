@@ -113,6 +113,7 @@ private slots:
         QTest::newRow("a leaf that follows itself") << CatalogFault::DamagedTree;
         QTest::newRow("a tree that is its own node") << CatalogFault::DamagedTree;
         QTest::newRow("a node that is its own child") << CatalogFault::DamagedTree;
+        QTest::newRow("an entry as a name") << CatalogFault::DamagedTree;
         QTest::newRow("more pairs than the leaf holds") << CatalogFault::DamagedTree;
         QTest::newRow("a block past the end") << CatalogFault::DamagedTree;
         QTest::newRow("an entry that is cut off") << CatalogFault::DamagedRendition;

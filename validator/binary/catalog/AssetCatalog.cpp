@@ -69,6 +69,12 @@ quint64 payloadOffset(const ByteReader &csi)
     return renditionHeadSize + 4 * (lengths + 1) + chain;
 }
 
+/// Whether the block is an entry, which has no place among names. Of a long catalogue not all of it is kept.
+bool isEntry(QByteArrayView block)
+{
+    return isRendition(block) && static_cast<quint64>(block.size()) >= renditionHeadSize;
+}
+
 qsizetype memoryOf(const CatalogRendition &rendition)
 {
     constexpr qsizetype perText = 24;
@@ -150,6 +156,10 @@ bool CatalogReading::readKeyFormat()
 void CatalogReading::readFacets()
 {
     for (const BomStore::Pair &pair : pairs("FACETKEYS").pairs) {
+        if (isEntry(pair.key) || isEntry(pair.value)) {
+            fault(CatalogFault::DamagedTree);
+            continue;
+        }
         const QString name = QString::fromUtf8(pair.key);
         m_catalog.facets += name;
         const ByteReader value(pair.value, ByteOrder::Little);
@@ -169,6 +179,10 @@ void CatalogReading::readFacets()
 void CatalogReading::readAppearances()
 {
     for (const BomStore::Pair &pair : pairs("APPEARANCEKEYS").pairs) {
+        if (isEntry(pair.key)) {
+            fault(CatalogFault::DamagedTree);
+            continue;
+        }
         const auto number = ByteReader(pair.value, ByteOrder::Little).u16(0);
         if (number && *number != 0)
             m_appearances.insert(*number, QString::fromUtf8(pair.key));

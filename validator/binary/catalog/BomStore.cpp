@@ -100,7 +100,7 @@ BomStore::Pairs BomStore::tree(const QByteArray &name) const
         const auto isLeaf = node.u16(0);
         const auto count = node.u16(2);
         const auto forward = node.u32(4);
-        if (seen.contains(number) || !isLeaf || !count || !forward || depth > deepestTree) {
+        if (seen.contains(number) || !isLeaf || *isLeaf > 1 || !count || !forward || depth > deepestTree) {
             found.whole = false;
             return found;
         }
