@@ -7,6 +7,23 @@
 
 using namespace lumora;
 
+namespace
+{
+
+/// The same, but for pictures of which too little was kept.
+bool areSame(const QList<CatalogRendition> &inPieces, QList<CatalogRendition> whole)
+{
+    if (inPieces.size() != whole.size())
+        return false;
+    for (qsizetype i = 0; i < whole.size(); ++i) {
+        if (inPieces[i].jpeg.isEmpty())
+            whole[i].jpeg.clear();
+    }
+    return inPieces == whole;
+}
+
+} // namespace
+
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     const QByteArrayView bytes(reinterpret_cast<const char *>(data), static_cast<qsizetype>(size));
@@ -23,7 +40,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
         std::abort();
     // Blocks that lie over one another may need more room than there is.
     if (read && !read->faults.contains(CatalogFault::TooLarge) &&
-        (read->renditions != catalog->renditions || read->facets != catalog->facets || read->faults != catalog->faults))
+        (!areSame(read->renditions, catalog->renditions) || read->facets != catalog->facets ||
+         read->faults != catalog->faults))
         std::abort();
     if (!catalog)
         return 0;

@@ -59,10 +59,16 @@ QStringList textsIn(const QCborValue &value)
     return texts;
 }
 
+/// The whole number; 0 for any other value. Qt converts fractions of any size, which is undefined for large ones.
+qint64 integerIn(const QCborValue &value)
+{
+    return value.isInteger() ? value.toInteger() : 0;
+}
+
 /// The enumerator of the number; the last one for a number out of range.
 template <typename Enum> Enum enumIn(const QCborValue &value, Enum last)
 {
-    return static_cast<Enum>(std::clamp<qint64>(value.toInteger(), 0, static_cast<qint64>(last)));
+    return static_cast<Enum>(std::clamp<qint64>(integerIn(value), 0, static_cast<qint64>(last)));
 }
 
 QCborValue cbor(const LocalizedInfo &info)
@@ -105,7 +111,7 @@ std::optional<FoundContent> foundIn(const QCborValue &value)
     const QStringList names = textsIn(value[u"names"_s]);
     return FoundContent{enumIn(value[u"kind"_s], FoundKind::ArchiveWithoutApp),
                         names.first(std::min(names.size(), FoundContent::mostNames)),
-                        std::max<qint64>(0, value[u"count"_s].toInteger()), value[u"payload"_s].toBool()};
+                        std::max<qint64>(0, integerIn(value[u"count"_s])), value[u"payload"_s].toBool()};
 }
 
 QCborValue cbor(const QImage &icon)
@@ -121,8 +127,8 @@ QCborValue cbor(const QImage &icon)
 
 QImage iconIn(const QCborValue &value)
 {
-    const qint64 width = value[u"width"_s].toInteger();
-    const qint64 height = value[u"height"_s].toInteger();
+    const qint64 width = integerIn(value[u"width"_s]);
+    const qint64 height = integerIn(value[u"height"_s]);
     const QByteArray pixels = value[u"pixels"_s].toByteArray();
     if (width < 1 || height < 1 || width > largestIcon || height > largestIcon ||
         pixels.size() != width * height * pixelBytes)
@@ -212,10 +218,10 @@ std::optional<ArtworkReport> artworkIn(const QByteArray &bytes)
         return {};
     ArtworkReport artwork;
     for (const QCborValue edge : icons)
-        artwork.findings.missingIcons += static_cast<int>(edge.toInteger());
+        artwork.findings.missingIcons += static_cast<int>(integerIn(edge));
     for (const QCborValue size : launchImages)
         artwork.findings.missingLaunchImages +=
-            QSize(static_cast<int>(size[0].toInteger()), static_cast<int>(size[1].toInteger()));
+            QSize(static_cast<int>(integerIn(size[0])), static_cast<int>(integerIn(size[1])));
     artwork.appIcon = iconIn(map[u"icon"_s]);
     return artwork;
 }

@@ -89,17 +89,19 @@ private slots:
     void takesNoIconThatLies_data()
     {
         QTest::addColumn<QString>("key");
-        QTest::addColumn<qint64>("value");
-        QTest::newRow("wider than its pixels") << u"width"_s << qint64{129};
-        QTest::newRow("narrower than its pixels") << u"width"_s << qint64{127};
-        QTest::newRow("no height") << u"height"_s << qint64{0};
-        QTest::newRow("a negative height") << u"height"_s << qint64{-128};
-        QTest::newRow("a product past all numbers") << u"height"_s << qint64{0x4000'0000'0000'0080};
+        QTest::addColumn<QCborValue>("value");
+        QTest::newRow("wider than its pixels") << u"width"_s << QCborValue(qint64{129});
+        QTest::newRow("narrower than its pixels") << u"width"_s << QCborValue(qint64{127});
+        QTest::newRow("no height") << u"height"_s << QCborValue(qint64{0});
+        QTest::newRow("a negative height") << u"height"_s << QCborValue(qint64{-128});
+        QTest::newRow("a product past all numbers") << u"height"_s << QCborValue(qint64{0x4000'0000'0000'0080});
+        QTest::newRow("a fraction") << u"height"_s << QCborValue(128.0);
+        QTest::newRow("a fraction past all numbers") << u"height"_s << QCborValue(-6.5e35);
     }
     void takesNoIconThatLies()
     {
         QFETCH(QString, key);
-        QFETCH(qint64, value);
+        QFETCH(QCborValue, value);
         QCborMap map = QCborValue::fromCbor(bytesOf(someArtwork())).toMap();
         QCborMap icon = map[u"icon"_s].toMap();
         icon[key] = value;
