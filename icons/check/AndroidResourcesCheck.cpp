@@ -83,6 +83,22 @@ std::optional<DensityBucket> bucketOf(const QString &folder)
     return parts.contains(QLatin1StringView(lowDensity.name)) ? std::optional(lowDensity) : std::nullopt;
 }
 
+/// An inset layer is smaller than the mask by itself.
+void judgeMaskedLayer(const QString &path, bool isMonochrome, bool isInset, IconCheck &check)
+{
+    const QImage pixels = pictureFacts(path).pixels();
+    if (isMonochrome && isOpaque(pixels)) {
+        check.add(IconRule::MonochromeOpaque, path);
+        return;
+    }
+    const double diameter = contentDiameter(pixels);
+    const double safe = double{adaptiveSafeDp} / adaptiveLayerDp;
+    if (!isInset && diameter > safe + safeZoneTolerance)
+        check.add(IconRule::OutsideSafeZone, path,
+                  FailureDetail("DETAIL_OF_DP", {{"[FOUND]", QString::number(qRound(diameter * adaptiveLayerDp))},
+                                                 {"[LIMIT]", QString::number(adaptiveSafeDp)}}));
+}
+
 class ResourcesCheck
 {
 public:
@@ -163,22 +179,7 @@ private:
             }
         }
         if (!largest.isEmpty() && part != u"background")
-            judgePixels(part, layer, m_folder + u'/' + largest);
-    }
-
-    void judgePixels(const QString &part, const LayerReference &layer, const QString &path)
-    {
-        const QImage pixels = pictureFacts(path).pixels();
-        if (part == u"monochrome" && isOpaque(pixels)) {
-            m_check.add(IconRule::MonochromeOpaque, path);
-            return;
-        }
-        const double diameter = contentDiameter(pixels);
-        const double safe = double{adaptiveSafeDp} / adaptiveLayerDp;
-        if (!layer.inset && diameter > safe + safeZoneTolerance)
-            m_check.add(IconRule::OutsideSafeZone, path,
-                        FailureDetail("DETAIL_OF_DP", {{"[FOUND]", QString::number(qRound(diameter * adaptiveLayerDp))},
-                                                       {"[LIMIT]", QString::number(adaptiveSafeDp)}}));
+            judgeMaskedLayer(m_folder + u'/' + largest, part == u"monochrome", layer.inset, m_check);
     }
 
     bool hasColor(const QString &name) const
@@ -222,6 +223,11 @@ private:
 };
 
 } // namespace
+
+void checkMaskedLayer(const QString &file, bool isMonochrome, IconCheck &check)
+{
+    judgeMaskedLayer(file, isMonochrome, false, check);
+}
 
 void checkAndroidResources(const QString &folder, IconCheck &check)
 {

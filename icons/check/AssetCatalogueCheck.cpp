@@ -145,8 +145,8 @@ private:
             demands.transparency = Transparency::Lost;
         const QString path = m_folder + u'/' + entry.file;
         const std::optional<PictureFacts> facts = checkSlot(path, demands, m_check);
-        if (facts && entry.appearance == u"tinted" && !isGray(facts->pixels()))
-            m_check.add(IconRule::TintedColors, path);
+        if (facts && entry.appearance == u"tinted")
+            checkTinted(*facts, path, m_check);
     }
 
     void reportUnassigned()
@@ -168,6 +168,12 @@ private:
 };
 
 } // namespace
+
+void checkTinted(const PictureFacts &facts, const QString &path, IconCheck &check)
+{
+    if (!isGray(facts.pixels()))
+        check.add(IconRule::TintedColors, path);
+}
 
 void checkIconSet(const QString &folder, IconCheck &check)
 {

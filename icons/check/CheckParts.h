@@ -28,6 +28,8 @@ void checkVisionStack(const QString &folder, IconCheck &check);
 void checkComposerBundle(const QString &folder, IconCheck &check);
 /// An Android folder "res" with an adaptive icon in it.
 void checkAndroidResources(const QString &folder, IconCheck &check);
+/// A readable layer of an adaptive icon, which a mask cuts: the foreground, or the shape of themed icons.
+void checkMaskedLayer(const QString &file, bool isMonochrome, IconCheck &check);
 /// The picture for the store, beside the folder "res".
 void checkPlayPicture(const QString &file, IconCheck &check);
 /// A web manifest. One that lists no icons is skipped.
@@ -37,6 +39,8 @@ void checkTouchIcon(const QString &file, IconCheck &check);
 /// A Windows or Mac icon file.
 void checkIcoFile(const QString &file, IconCheck &check);
 void checkIcnsFile(const QString &file, IconCheck &check);
+/// The icons that the settings of the projects in the folder name. Those among the checked paths are skipped.
+void checkNamedIcons(const QString &folder, IconCheck &check);
 /// A picture whose size follows from its folder or its name.
 void checkSizedPicture(const QString &file, QSize size, IconCheck &check);
 /// The size that follows from "…/48x48/apps/ID.png", "…/48x48@2/apps/ID.png", and Windows' "NAME.scale-200.png" and
@@ -65,10 +69,15 @@ struct SlotDemands
 {
     QSize size = {}; ///< in pixels; empty if any size is accepted
     Transparency transparency = Transparency::Shown;
+    /// The edge of the smallest square that is accepted besides; nothing if only `size` is.
+    std::optional<int> leastSquare = {};
 };
 
 /// Judges the picture in a slot; returns its facts if the file can be read.
 std::optional<PictureFacts> checkSlot(const QString &path, const SlotDemands &demands, IconCheck &check);
+
+/// A tinted picture: whether it has colors.
+void checkTinted(const PictureFacts &facts, const QString &path, IconCheck &check);
 
 /// Whether any pixel is not opaque.
 bool hasTransparency(const PictureFacts &facts);

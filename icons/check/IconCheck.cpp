@@ -124,7 +124,9 @@ Result<IconCheck> checkIcons(const QString &folder)
     if (!info.isReadable() || !info.isExecutable())
         return Failure{FailureCode::NoPermission, folder, {}};
     IconCheck check;
-    Walk(check).enter(QDir(folder).absolutePath(), 0);
+    const QString path = QDir(folder).absolutePath();
+    Walk(check).enter(path, 0);
+    checkNamedIcons(path, check);
     check.sort();
     return check;
 }

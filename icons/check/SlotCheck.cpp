@@ -53,7 +53,9 @@ std::optional<PictureFacts> checkSlot(const QString &path, const SlotDemands &de
         check.add(IconRule::PictureUnreadable, path);
         return std::nullopt;
     }
-    if (!demands.size.isEmpty() && facts.size != demands.size)
+    const bool isSquareEnough =
+        demands.leastSquare && facts.size.width() == facts.size.height() && facts.size.width() >= *demands.leastSquare;
+    if (!demands.size.isEmpty() && facts.size != demands.size && !isSquareEnough)
         check.add(IconRule::WrongSize, path, pixelsDetail(facts.size, demands.size));
     checkTransparency(facts, path, demands, check);
     checkForm(facts, path, demands, check);

@@ -3,6 +3,7 @@
 
 #include "AndroidModule.h"
 #include "CatalogueFilling.h"
+#include "NamedIcons.h"
 #include "XcodeProject.h"
 #include "foundation/WholeFile.h"
 #include "icons/today/AppleSlots.h"
@@ -217,12 +218,9 @@ Outcome ProjectPlaces::addFlutter()
     if (!m_options.flavor.isEmpty())
         return Done{};
     if (has(u"web"_s)) {
-        constexpr int faviconEdge = 32;
-        addSquare(u"web/favicon.png"_s, filled(Motif::Icon, faviconEdge));
-        for (const int edge : {192, 512}) {
-            m_plan.addPicture(at(u"web/icons/Icon-%1.png"_s.arg(edge)), filled(Motif::Icon, edge));
-            m_plan.addPicture(at(u"web/icons/Icon-maskable-%1.png"_s.arg(edge)), maskableIcon(m_motifs, edge, m_plan));
-        }
+        const Result<QList<NamedIcon>> icons = addAllNamed();
+        if (!icons)
+            return icons.failure();
     }
     if (has(u"windows/runner"_s))
         m_plan.files.append(
@@ -254,12 +252,9 @@ Outcome ProjectPlaces::addReactNative()
 Outcome ProjectPlaces::addTauri()
 {
     const QString icons = u"src-tauri/icons/"_s;
-    for (const auto &[name, edge] :
-         {std::pair{"32x32.png", 32}, {"128x128.png", 128}, {"128x128@2x.png", 256}, {"icon.png", 512}})
-        m_plan.addPicture(at(icons + QLatin1StringView(name)), filled(Motif::Icon, edge));
-    for (const int edge : {30, 44, 71, 89, 107, 142, 150, 284, 310})
-        m_plan.addPicture(at(icons + u"Square%1x%1Logo.png"_s.arg(edge)), filled(Motif::Icon, edge));
-    m_plan.addPicture(at(icons + u"StoreLogo.png"_s), filled(Motif::Icon, 50));
+    const Result<QList<NamedIcon>> named = addAllNamed();
+    if (!named)
+        return named.failure();
     m_plan.files.append(windowsIcon(at(icons + u"icon.ico"_s), {16, 24, 32, 48, 64, 256}));
     m_plan.files.append(macIconFile(at(icons + u"icon.icns"_s)));
     if (has(u"src-tauri/gen/apple"_s)) {

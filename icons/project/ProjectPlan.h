@@ -12,6 +12,7 @@ namespace lumora
 {
 
 class Motifs;
+struct NamedIcon;
 
 /// The chosen part of a project.
 struct ProjectOptions
@@ -55,6 +56,10 @@ private:
     Outcome addMaui();
     Outcome addXcode(const QString &folder);
     Outcome addGradle();
+
+    /// Adds the pictures that the project's files name and returns them.
+    Result<QList<NamedIcon>> addAllNamed();
+    Outcome addNamed(const NamedIcon &icon);
 
     bool isFlavorKnown() const;
     /// The source folders of its Android modules.

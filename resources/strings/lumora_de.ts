@@ -4624,8 +4624,8 @@
     <translation>Mit --into: Target eines Xcode-Projekts</translation>
   </message>
   <message id="CLI_ICONS_CHECK">
-    <source>Judge the icon catalogues in DIR; needs no SOURCE</source>
-    <translation>Die Icon-Kataloge in DIR prüfen; braucht keine SOURCE</translation>
+    <source>Judge the icon catalogues and projects in DIR; needs no SOURCE</source>
+    <translation>Die Icon-Kataloge und Projekte in DIR prüfen; braucht keine SOURCE</translation>
   </message>
   <message id="CLI_ICONS_WRONG_SIZE_ADVICE">
     <source>use a picture of exactly 1024 x 1024 pixels, or with --fit any square one of at least 512</source>
@@ -4724,8 +4724,8 @@
     <translation>von Hand zu ergänzen: [LINE]</translation>
   </message>
   <message id="CLI_ICONS_NONE_FOUND">
-    <source>holds no icon catalogue</source>
-    <translation>enthält keinen Icon-Katalog</translation>
+    <source>holds no icon catalogue and no project with icons</source>
+    <translation>enthält keinen Icon-Katalog und kein Projekt mit Icons</translation>
   </message>
   <message id="CLI_ICONS_CHECKED">
     <source>checked [N], found nothing</source>

@@ -4622,8 +4622,8 @@
     <translation>With --into: target of an Xcode project</translation>
   </message>
   <message id="CLI_ICONS_CHECK">
-    <source>Judge the icon catalogues in DIR; needs no SOURCE</source>
-    <translation>Judge the icon catalogues in DIR; needs no SOURCE</translation>
+    <source>Judge the icon catalogues and projects in DIR; needs no SOURCE</source>
+    <translation>Judge the icon catalogues and projects in DIR; needs no SOURCE</translation>
   </message>
   <message id="CLI_ICONS_WRONG_SIZE_ADVICE">
     <source>use a picture of exactly 1024 x 1024 pixels, or with --fit any square one of at least 512</source>
@@ -4722,8 +4722,8 @@
     <translation>to add by hand: [LINE]</translation>
   </message>
   <message id="CLI_ICONS_NONE_FOUND">
-    <source>holds no icon catalogue</source>
-    <translation>holds no icon catalogue</translation>
+    <source>holds no icon catalogue and no project with icons</source>
+    <translation>holds no icon catalogue and no project with icons</translation>
   </message>
   <message id="CLI_ICONS_CHECKED">
     <source>checked [N], found nothing</source>
