@@ -114,7 +114,11 @@ void PaintedButton::mouseReleaseEvent(QMouseEvent *event)
     if (!rect().contains(event->position().toPoint())) {
         leave();
     } else if (ends && isEnabled()) {
-        mouseDown();
+        // A dialog that the click opened has taken the pointer away.
+        if (m_hovered)
+            mouseDown();
+        else
+            mouseExited();
         update();
     }
 }

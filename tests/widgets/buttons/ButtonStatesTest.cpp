@@ -60,6 +60,21 @@ private slots:
         QVERIFY(qGray(pictureOf(button).pixel(place)) > down + 10);
     }
 
+    void aDialogOpenedByTheClickLeavesNoHover()
+    {
+        HoverButton button;
+        button.setNormalColor(palette::icons);
+        button.setHovercolor(palette::iconsBorder);
+        connect(&button, &HoverButton::clicked, &button, [&button] {
+            QEvent blocked(QEvent::WindowBlocked);
+            QCoreApplication::sendEvent(&button, &blocked);
+        });
+        enter(button);
+        QCOMPARE(button.color(), palette::iconsBorder);
+        QTest::mouseClick(&button, Qt::LeftButton);
+        QCOMPARE(button.color(), palette::icons);
+    }
+
     void aCaptionOnALightColorIsDark_data()
     {
         QTest::addColumn<QColor>("color");
