@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ColorCatalogue.h"
 
-#include "foundation/WholeFile.h"
-
 #include <QDirIterator>
 #include <QFileInfo>
 
@@ -43,7 +41,8 @@ Result<QStringList> colorSets(const QString &folder, const std::stop_token &stop
 
 } // namespace
 
-Result<CatalogueColors> readColorCatalogue(const QString &folder, const std::stop_token &stop, int mostEntries)
+Result<CatalogueColors> readColorCatalogue(const QString &folder, const std::stop_token &stop, int mostEntries,
+                                           const ReadFile &read)
 {
     const QFileInfo root(folder);
     if (!root.isDir())
@@ -59,15 +58,15 @@ Result<CatalogueColors> readColorCatalogue(const QString &folder, const std::sto
             break;
         const QString name = QFileInfo(set).fileName().chopped(setSuffix.size());
         const QString file = set + u"/Contents.json"_s;
-        const Result<QByteArray> bytes = readWholeFile(file, largestPaletteFile);
-        const Result<Palette> read = bytes ? readPalette(bytes.value(), name) : Result<Palette>(bytes.failure());
-        if (!read) {
-            colors.failures.push_back({read.failure().code, set, read.failure().detail});
+        const Result<QByteArray> bytes = read(file, largestPaletteFile);
+        const Result<Palette> colorsOfSet = bytes ? readPalette(bytes.value(), name) : Result<Palette>(bytes.failure());
+        if (!colorsOfSet) {
+            colors.failures.push_back({colorsOfSet.failure().code, set, colorsOfSet.failure().detail});
             continue;
         }
-        if (colors.palette.size() + read.value().size() > mostPaletteColors)
+        if (colors.palette.size() + colorsOfSet.value().size() > mostPaletteColors)
             return tooLarge(folder);
-        colors.palette.insert(colors.palette.end(), read.value().begin(), read.value().end());
+        colors.palette.insert(colors.palette.end(), colorsOfSet.value().begin(), colorsOfSet.value().end());
     }
     return colors;
 }

@@ -2,6 +2,8 @@
 #pragma once
 
 #include "Palette.h"
+#include "foundation/StoppableRead.h"
+#include "foundation/WholeFile.h"
 
 #include <stop_token>
 
@@ -19,8 +21,9 @@ struct CatalogueColors
 inline constexpr int mostCatalogueEntries = 50'000;
 
 /// Reads every color set (name.colorset) in the folder and below, but follows no links. The folder may be a color set
-/// itself. Fails if there is none, or with `TooLarge` for too many colors or entries.
+/// itself; `read` reads the sets' files. Fails if there is none, or with `TooLarge` for too many colors or entries.
 Result<CatalogueColors> readColorCatalogue(const QString &folder, const std::stop_token &stop = {},
-                                           int mostEntries = mostCatalogueEntries);
+                                           int mostEntries = mostCatalogueEntries,
+                                           const ReadFile &read = readWholeFile);
 
 } // namespace lumora

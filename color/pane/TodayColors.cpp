@@ -187,10 +187,15 @@ void TodayColors::openCatalogue(const QString &folder)
     m_searching.request_stop();
     m_searching = std::stop_source();
     m_patience.start();
-    m_jobs.start([this, folder, stop = m_searching](const BackgroundJob &job) {
+    const ReadFile readFile = [reader = m_services.fileReader](const QString &path, qint64 limit) {
+        return reader->read(path, limit);
+    };
+    m_jobs.start([this, folder, readFile, stop = m_searching](const BackgroundJob &job) {
         const std::stop_callback closing(job.stopToken(), [stop] { stop.request_stop(); });
         const std::stop_token token = stop.get_token();
-        const std::function<Result<CatalogueColors>()> work = [=] { return readColorCatalogue(folder, token); };
+        const std::function<Result<CatalogueColors>()> work = [=] {
+            return readColorCatalogue(folder, token, mostCatalogueEntries, readFile);
+        };
         const std::optional<Result<CatalogueColors>> answer = unlessStopped(work, token);
         if (!answer)
             return;

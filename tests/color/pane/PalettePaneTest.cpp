@@ -136,6 +136,37 @@ private slots:
         QTRY_COMPARE(palette(), QStringList{u"#010203ff"_s});
     }
 
+    void aSlowCatalogueIsStopped()
+    {
+        const QTemporaryDir folder;
+        PaletteView *view = pane()->palette();
+        m_controller->today()->takeText(u"tomato"_s);
+        press(view->saveButton());
+        m_services->folderChooser.confirm(folder.path());
+        const QString catalogue = folder.filePath(u"palette.xcassets"_s);
+        const auto share = std::make_shared<HeldFiles>();
+        m_services->fileReader = share;
+        make();
+        view = pane()->palette();
+        press(view->catalogueButton());
+        m_services->folderChooser.confirm(catalogue);
+        QTRY_VERIFY(view->stopButton()->isVisible());
+        QVERIFY(!view->openButton()->isVisible() && !view->catalogueButton()->isVisible());
+        share->waitForBegun(1);
+        press(view->stopButton());
+        QVERIFY(view->catalogueButton()->isVisible() && !view->stopButton()->isVisible());
+        // The share answers after all: what was stopped adds nothing.
+        share->releaseAll();
+        const QString other = folder.filePath(u"a.gpl"_s);
+        QVERIFY(writeWholeFile(other, "GIMP Palette\n1 2 3 One\n").ok());
+        press(view->openButton());
+        m_services->fileChooser.confirm({other});
+        QTRY_COMPARE(palette(), QStringList{u"#010203ff"_s});
+        press(view->catalogueButton());
+        m_services->folderChooser.confirm(catalogue);
+        QTRY_COMPARE(palette(), (QStringList{u"#010203ff"_s, u"#ff6347ff"_s}));
+    }
+
     void whatIsNoPaletteIsRefused()
     {
         const QTemporaryDir folder;
