@@ -17,6 +17,8 @@
 #include <QTest>
 #include <QTreeView>
 
+#include <future>
+
 using namespace Qt::StringLiterals;
 using namespace lumora;
 
@@ -60,6 +62,19 @@ private slots:
         const QString folder = temporary.path();
         QCOMPARE(existingStartFolder(folder), folder);
         QCOMPARE(existingStartFolder(folder + u"/gone/deeper"_s), folder);
+    }
+
+    void startsAtHomeWhenTheFolderGivesNoAnswer()
+    {
+        const auto share = std::make_shared<std::promise<void>>();
+        const FolderProbe stalled = [answer = std::shared_future(share->get_future())](const QString &path) {
+            if (path.startsWith(u"/share"_s))
+                answer.wait();
+            return true;
+        };
+        QCOMPARE(existingStartFolder(u"/share/pictures"_s, stalled), QDir::homePath());
+        QCOMPARE(existingStartFolder(u"/disk"_s, stalled), u"/disk"_s);
+        share->set_value();
     }
 
     void startsInTheUsersDocumentsOrHome()
