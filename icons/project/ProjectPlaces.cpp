@@ -176,19 +176,25 @@ Outcome ProjectPlaces::addAndroid(StorePicture store)
     return Done{};
 }
 
-Outcome ProjectPlaces::addCatalogues(const QString &folder, const QString &name, bool forMac)
+QStringList ProjectPlaces::iconSets(const QString &folder) const
 {
-    const QString set = name + u".appiconset"_s;
     QStringList found;
     const QStringList catalogues = foldersEnding(whole(folder), u".xcassets"_s);
     for (const QString &catalogue : catalogues) {
         const QString base = below(folder, catalogue);
         const QStringList sets = foldersEnding(whole(base), u".appiconset"_s);
-        for (const QString &path : sets) {
-            if (QFileInfo(path).fileName() == set)
-                found << below(base, path);
-        }
+        for (const QString &path : sets)
+            found << below(base, path);
     }
+    return found;
+}
+
+Outcome ProjectPlaces::addCatalogues(const QString &folder, const QString &name, bool forMac)
+{
+    const QString set = name + u".appiconset"_s;
+    QStringList found = iconSets(folder);
+    found.removeIf([&set](const QString &path) { return QFileInfo(path).fileName() != set; });
+    const QStringList catalogues = foldersEnding(whole(folder), u".xcassets"_s);
     if (found.isEmpty() && !catalogues.isEmpty())
         found << below(folder, catalogues.first()) + u'/' + set;
     for (const QString &path : std::as_const(found)) {
@@ -198,6 +204,24 @@ Outcome ProjectPlaces::addCatalogues(const QString &folder, const QString &name,
             return planned;
     }
     return Done{};
+}
+
+Result<QString> ProjectPlaces::unnamedIconSet(const QString &folder)
+{
+    const QString usual = u"AppIcon"_s;
+    QStringList names;
+    const QStringList sets = iconSets(folder);
+    for (const QString &path : sets)
+        names << QFileInfo(path).completeBaseName();
+    names.removeDuplicates();
+    if (names.isEmpty() || names.contains(usual))
+        return usual;
+    if (names.size() > 1)
+        return Failure{FailureCode::AmbiguousProject,
+                       whole(folder),
+                       {"DETAIL_UNNAMED_ICON_SETS", {{"[SETS]", names.join(u", "_s)}}}};
+    m_plan.note(Derivation::OnlyIconSet, names.first());
+    return names.first();
 }
 
 Outcome ProjectPlaces::addFlutter()
@@ -288,7 +312,8 @@ Outcome ProjectPlaces::addXcode(const QString &folder)
     names.removeDuplicates();
     if (names.size() > 1 || (names.isEmpty() && !m_options.target.isEmpty()))
         return Failure{FailureCode::AmbiguousProject, whole(folder), QString(u"--target: "_s + targets.join(u", "_s))};
-    return addCatalogues(folder, names.isEmpty() ? u"AppIcon"_s : names.first(), forMac);
+    const Result<QString> set = names.isEmpty() ? unnamedIconSet(folder) : Result<QString>(names.first());
+    return set ? addCatalogues(folder, set.value(), forMac) : Outcome(set.failure());
 }
 
 Outcome ProjectPlaces::addGradle()

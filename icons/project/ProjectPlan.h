@@ -65,6 +65,11 @@ private:
     /// The source folders of its Android modules.
     QStringList androidSources() const;
     Outcome addAndroid(StorePicture store);
+    /// The paths of all icon sets below the folder.
+    QStringList iconSets(const QString &folder) const;
+    /// The set that is meant if the Xcode project names none: the usual one, else the only one. Fails with
+    /// `AmbiguousProject` if there are several.
+    Result<QString> unnamedIconSet(const QString &folder);
     Outcome addCatalogues(const QString &folder, const QString &name, bool forMac);
     /// A square picture in the size of the existing file, or in the given size if there is none.
     void addSquare(const QString &file, PictureRecipe recipe);

@@ -14,6 +14,23 @@ namespace
 
 constexpr qint64 longestProject = 64LL * 1024 * 1024;
 
+/// The icon sets that the configurations of a target or of the whole project name. One whose name is put together from
+/// other settings is not known.
+QStringList iconNamesOf(const QVariantMap &owner, const QVariantMap &objects)
+{
+    const QVariantMap configurations = objects[owner[u"buildConfigurationList"_s].toString()].toMap();
+    const QVariantList ids = configurations[u"buildConfigurations"_s].toList();
+    QStringList names;
+    for (const QVariant &id : ids) {
+        const QVariantMap configuration = objects[id.toString()].toMap();
+        const QString name =
+            configuration[u"buildSettings"_s].toMap()[u"ASSETCATALOG_COMPILER_APPICON_NAME"_s].toString();
+        if (!name.isEmpty() && !name.contains(u'$') && !names.contains(name))
+            names << name;
+    }
+    return names;
+}
+
 } // namespace
 
 std::optional<XcodeProject> readXcodeProject(const QString &folder)
@@ -28,26 +45,28 @@ std::optional<XcodeProject> readXcodeProject(const QString &folder)
     XcodeProject project;
     bool forMac = false;
     bool forOthers = false;
+    QStringList targets;
+    QStringList inherited;
     for (const QVariant &value : objects) {
         const QVariantMap object = value.toMap();
         const QVariantMap settings = object[u"buildSettings"_s].toMap();
         const QString sdk = settings[u"SDKROOT"_s].toString();
         forMac = forMac || sdk == u"macosx";
         forOthers = forOthers || (!sdk.isEmpty() && sdk != u"macosx");
-        if (object[u"isa"_s].toString() != u"PBXNativeTarget")
+        const QString kind = object[u"isa"_s].toString();
+        if (kind == u"PBXProject")
+            inherited += iconNamesOf(object, objects);
+        if (kind != u"PBXNativeTarget")
             continue;
-        const QVariantMap configurations = objects[object[u"buildConfigurationList"_s].toString()].toMap();
-        const QVariantList ids = configurations[u"buildConfigurations"_s].toList();
-        QStringList names;
-        for (const QVariant &id : ids) {
-            const QVariantMap configuration = objects[id.toString()].toMap();
-            const QString name =
-                configuration[u"buildSettings"_s].toMap()[u"ASSETCATALOG_COMPILER_APPICON_NAME"_s].toString();
-            if (!name.isEmpty() && !names.contains(name))
-                names << name;
-        }
+        targets << object[u"name"_s].toString();
+        const QStringList names = iconNamesOf(object, objects);
         if (!names.isEmpty())
-            project.iconNames[object[u"name"_s].toString()] = names;
+            project.iconNames[targets.last()] = names;
+    }
+    // Targets without icons, such as those of tests, inherit the project's, too: it counts if no target has its own.
+    if (project.iconNames.empty() && !inherited.isEmpty()) {
+        for (const QString &target : std::as_const(targets))
+            project.iconNames[target] = inherited;
     }
     project.forMac = forMac && !forOthers;
     return project;

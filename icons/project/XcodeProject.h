@@ -13,7 +13,8 @@ namespace lumora
 /// What an Xcode project says of its targets' icons.
 struct XcodeProject
 {
-    /// The icon's name by the target's name; targets without an icon are left out.
+    /// The icon's name by the target's name, or the whole project's if no target names one; targets without an icon
+    /// are left out.
     std::map<QString, QStringList> iconNames;
     bool forMac = false; ///< builds for the Mac and nothing else
 };

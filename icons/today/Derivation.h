@@ -27,6 +27,7 @@ enum class Derivation {
     ShelfFromLayers,
     LayersFromIcon,
     ScalableLeftOut,
+    OnlyIconSet,
 };
 
 struct DerivationText
@@ -36,7 +37,7 @@ struct DerivationText
     const char *textKey; ///< one clause, to which `Derived::detail` is added
 };
 
-inline constexpr std::array<DerivationText, 17> derivationTexts = {{
+inline constexpr std::array<DerivationText, 18> derivationTexts = {{
     {Derivation::Fitted, "fitted", "ICONS_FITTED"},
     {Derivation::NotDrawn, "not-drawn", "ICONS_NOT_DRAWN"},
     {Derivation::IconFlattened, "icon-flattened", "ICONS_ICON_FLATTENED"},
@@ -54,6 +55,7 @@ inline constexpr std::array<DerivationText, 17> derivationTexts = {{
     {Derivation::ShelfFromLayers, "shelf-from-layers", "ICONS_SHELF_FROM_LAYERS"},
     {Derivation::LayersFromIcon, "layers-from-icon", "ICONS_LAYERS_FROM_ICON"},
     {Derivation::ScalableLeftOut, "scalable-left-out", "ICONS_SCALABLE_LEFT_OUT"},
+    {Derivation::OnlyIconSet, "only-icon-set", "ICONS_ONLY_ICON_SET"},
 }};
 
 /// A derivation that was used.

@@ -4699,6 +4699,10 @@
     <source>there is no SVG icon, since the icon is a picture of pixels</source>
     <translation>es gibt kein SVG-Icon, denn das Icon ist ein Bild aus Pixeln</translation>
   </message>
+  <message id="ICONS_ONLY_ICON_SET">
+    <source>the project names no icon set; its only one is used</source>
+    <translation>das Projekt nennt keinen Icon-Satz; genommen wird der einzige</translation>
+  </message>
   <message id="CLI_ICONS_FIT_ADVICE">
     <source>use a square picture of at least 512 x 512 pixels</source>
     <translation>ein quadratisches Bild von mindestens 512 x 512 Pixeln nehmen</translation>
@@ -5922,6 +5926,10 @@
   <message id="DETAIL_NO_ICON_PLACES">
     <source>[PROJECTS] without a place for icons; make its platforms first</source>
     <translation>[PROJECTS] ohne Platz für Icons; erst die Plattformen anlegen</translation>
+  </message>
+  <message id="DETAIL_UNNAMED_ICON_SETS">
+    <source>no icon set is named in the project, and none is AppIcon: [SETS]; set ASSETCATALOG_COMPILER_APPICON_NAME in Xcode</source>
+    <translation>kein Icon-Satz ist im Projekt genannt, und keiner heißt AppIcon: [SETS]; ASSETCATALOG_COMPILER_APPICON_NAME in Xcode festlegen</translation>
   </message>
   <message id="DETAIL_NO_OPAQUE_COLOR">
     <source>no opaque color; write #RRGGBB or a name such as navy</source>

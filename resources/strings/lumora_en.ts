@@ -4697,6 +4697,10 @@
     <source>there is no SVG icon, since the icon is a picture of pixels</source>
     <translation>there is no SVG icon, since the icon is a picture of pixels</translation>
   </message>
+  <message id="ICONS_ONLY_ICON_SET">
+    <source>the project names no icon set; its only one is used</source>
+    <translation>the project names no icon set; its only one is used</translation>
+  </message>
   <message id="CLI_ICONS_FIT_ADVICE">
     <source>use a square picture of at least 512 x 512 pixels</source>
     <translation>use a square picture of at least 512 x 512 pixels</translation>
@@ -5920,6 +5924,10 @@
   <message id="DETAIL_NO_ICON_PLACES">
     <source>[PROJECTS] without a place for icons; make its platforms first</source>
     <translation>[PROJECTS] without a place for icons; make its platforms first</translation>
+  </message>
+  <message id="DETAIL_UNNAMED_ICON_SETS">
+    <source>no icon set is named in the project, and none is AppIcon: [SETS]; set ASSETCATALOG_COMPILER_APPICON_NAME in Xcode</source>
+    <translation>no icon set is named in the project, and none is AppIcon: [SETS]; set ASSETCATALOG_COMPILER_APPICON_NAME in Xcode</translation>
   </message>
   <message id="DETAIL_NO_OPAQUE_COLOR">
     <source>no opaque color; write #RRGGBB or a name such as navy</source>

@@ -31,6 +31,8 @@ private slots:
     void sizesOfTheProject();
     void flavors();
     void targets();
+    void unnamedSets_data();
+    void unnamedSets();
     void otherFormatsGo();
     void oldMonochromeGoes_data();
     void oldMonochromeGoes();
@@ -214,6 +216,56 @@ void ProjectTest::targets()
     QVERIFY(!beta.failure);
     QCOMPARE(beta.paths().filter(u"Icon.appiconset"_s), QStringList());
     QVERIFY(beta.paths().contains(u"Mine/Assets.xcassets/Other.appiconset/AppIcon.png"_s));
+}
+
+void ProjectTest::unnamedSets_data()
+{
+    QTest::addColumn<QByteArray>("project");
+    QTest::addColumn<QStringList>("sets");
+    QTest::addColumn<QString>("written"); ///< the set; empty if the project is refused
+    QTest::addColumn<bool>("isSaid");
+    const QByteArray none = xcodeProject({});
+    QByteArray whole = xcodeProject({});
+    whole.replace("\t};\n\trootObject",
+                  "\t\tP0 = {isa = PBXProject; buildConfigurationList = LP; };\n"
+                  "\t\tT0 = {isa = PBXNativeTarget; name = App; };\n"
+                  "\t\tLP = {isa = XCConfigurationList; buildConfigurations = (CP, ); };\n\t\tCP = {isa = "
+                  "XCBuildConfiguration; buildSettings = {ASSETCATALOG_COMPILER_APPICON_NAME = Icon; }; };\n"
+                  "\t};\n\trootObject");
+    const QByteArray variable = xcodeProject({{"App", "\"AppIcon-$(STAGE)\""}});
+    QTest::newRow("the only one") << none << QStringList{u"Logo"_s} << u"Logo"_s << true;
+    QTest::newRow("the usual one") << none << QStringList{u"Alternate"_s, u"AppIcon"_s} << u"AppIcon"_s << false;
+    QTest::newRow("there is none") << none << QStringList() << u"AppIcon"_s << false;
+    QTest::newRow("several") << none << QStringList{u"Logo"_s, u"Other"_s} << QString() << false;
+    QTest::newRow("named for all targets") << whole << QStringList{u"Icon"_s, u"Other"_s} << u"Icon"_s << false;
+    QTest::newRow("a name of variables") << variable << QStringList{u"Logo"_s} << u"Logo"_s << true;
+    QTest::newRow("a name of variables, several")
+        << variable << QStringList{u"AppIcon-Beta"_s, u"AppIcon-Live"_s} << QString() << false;
+}
+
+void ProjectTest::unnamedSets()
+{
+    QFETCH(QByteArray, project);
+    QFETCH(QStringList, sets);
+    QFETCH(QString, written);
+    QFETCH(bool, isSaid);
+    const QTemporaryDir folder;
+    const QString catalogue = u"Mine/Assets.xcassets/"_s;
+    Tree tree{{u"Mine.xcodeproj/project.pbxproj"_s, project}, {catalogue + u"Contents.json"_s, "{}"}};
+    for (const QString &set : std::as_const(sets))
+        tree[catalogue + set + u".appiconset/Contents.json"_s] = universalList;
+    QVERIFY(put(folder.path(), tree));
+    const Put result = putInto(folder.path());
+    QCOMPARE(result.failure.has_value(), written.isEmpty());
+    if (result.failure) {
+        QCOMPARE(result.failure->code, FailureCode::AmbiguousProject);
+        QVERIFY2(result.failure->detail.words().contains(sets.join(u", "_s)),
+                 qPrintable(result.failure->detail.words()));
+        return;
+    }
+    for (const QString &path : result.paths())
+        QVERIFY2(path.startsWith(catalogue + written + u".appiconset/"_s), qPrintable(path));
+    QCOMPARE(result.plan.derived.contains(Derived{Derivation::OnlyIconSet, written}), isSaid);
 }
 
 void ProjectTest::otherFormatsGo()
