@@ -137,7 +137,8 @@ QString ProjectPlaces::at(const QString &path) const
 
 QString ProjectPlaces::whole(const QString &path) const
 {
-    return m_root + u'/' + at(path);
+    const QString relative = at(path);
+    return relative.isEmpty() ? m_root : QString(m_root + u'/' + relative);
 }
 
 bool ProjectPlaces::has(const QString &path) const

@@ -259,6 +259,7 @@ void ProjectTest::unnamedSets()
     QCOMPARE(result.failure.has_value(), written.isEmpty());
     if (result.failure) {
         QCOMPARE(result.failure->code, FailureCode::AmbiguousProject);
+        QCOMPARE(result.failure->subject, folder.path());
         QVERIFY2(result.failure->detail.words().contains(sets.join(u", "_s)),
                  qPrintable(result.failure->detail.words()));
         return;
