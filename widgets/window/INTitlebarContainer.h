@@ -7,7 +7,8 @@ namespace lumora
 {
 
 /// The view with a window's title bar view and buttons; dragging it anywhere moves the window. The window system moves
-/// the window if it can; otherwise the window follows the mouse by itself. A window in full screen does not move.
+/// the window if it can; otherwise the window follows the mouse by itself. A window in full screen does not move. A
+/// double-click does what the user prefers, whatever the title bar view is.
 class INTitlebarContainer : public QWidget
 {
     Q_OBJECT
@@ -19,11 +20,13 @@ protected:
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
 
 private:
     enum class Drag { None, Pressed, Moves };
 
     Drag m_drag = Drag::None;
+    bool m_isDoubleClick = false;
     QPoint m_dragStart;
     QPoint m_windowOrigin;
 };

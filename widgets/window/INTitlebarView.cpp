@@ -5,7 +5,6 @@
 #include "TitleBarAppearance.h"
 
 #include <QFontMetricsF>
-#include <QMouseEvent>
 #include <QPainter>
 
 #include <cmath>
@@ -146,25 +145,6 @@ void INTitlebarView::drawTitle(QPainter *painter, const INAppStoreWindow &window
     }
     painter->setPen(main ? window.titleTextColor() : window.inactiveTitleTextColor());
     painter->drawText(frame, Qt::AlignCenter, text);
-}
-
-void INTitlebarView::mouseDoubleClickEvent(QMouseEvent *event)
-{
-    m_clickCount = event->button() == Qt::LeftButton ? 2 : 0;
-    event->ignore();
-}
-
-void INTitlebarView::mouseReleaseEvent(QMouseEvent *event)
-{
-    event->ignore();
-    const bool doubleClick = std::exchange(m_clickCount, 0) == 2;
-    auto *window = qobject_cast<INAppStoreWindow *>(this->window());
-    if (!doubleClick || !window)
-        return;
-    if (window->doubleClickPreference()->miniaturizesOnDoubleClick())
-        window->miniaturize();
-    else if (window->doubleClickPreference()->zoomsOnDoubleClick())
-        window->performZoom();
 }
 
 } // namespace lumora

@@ -11,8 +11,7 @@ namespace lumora
 
 class INAppStoreWindow;
 
-/// Draws the title bar of its window by the window's settings, and handles the double-click as the user prefers. A
-/// window's custom content becomes its children.
+/// Draws the title bar of its window by the window's settings. A window's custom content becomes its children.
 class INTitlebarView : public QWidget
 {
     Q_OBJECT
@@ -25,8 +24,6 @@ public:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
-    void mouseDoubleClickEvent(QMouseEvent *event) override;
-    void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
     /// The settings for which the background was drawn; it is drawn again when they change.
@@ -49,7 +46,6 @@ private:
     void drawBaselineSeparator(QPainter *painter, const INAppStoreWindow &window) const;
     void drawTitle(QPainter *painter, const INAppStoreWindow &window) const;
 
-    int m_clickCount = 0;
     /// Kept from one repaint to the next: drawing a gradient of this size with noise takes several times as long as
     /// copying it.
     Background m_background;

@@ -58,10 +58,19 @@ private slots:
         QTEST(window.isMinimized(), "miniaturizes");
     }
 
+    void fillsTheScreenOnADoubleClickWhereTheUserWantsThat_data()
+    {
+        QTest::addColumn<bool>("ownBar");
+        QTest::newRow("on the window's bar") << false;
+        QTest::newRow("on a bar of the program") << true;
+    }
     void fillsTheScreenOnADoubleClickWhereTheUserWantsThat()
     {
+        QFETCH(bool, ownBar);
         INAppStoreWindow window;
         window.setTitleBarHeight(60);
+        if (ownBar)
+            window.setTitleBarView(new QWidget);
         window.setDoubleClickPreference(std::make_shared<FixedPreference>(false, true));
         show(window);
         for (const bool filling : {true, false}) {
