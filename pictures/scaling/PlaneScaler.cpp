@@ -56,6 +56,10 @@ struct KeptScaler
     std::shared_ptr<const PlaneScaler> scaler;
 };
 
+/// libzimg reads that far behind planes and its own scratch memory, without using what it reads: at most 32 bytes over
+/// 2,790 pairs of sizes with 16-bit samples on AVX2, none elsewhere.
+constexpr std::size_t readAhead = planeAlignment;
+
 /// The number of scalers kept for each thread; each takes about 100 KB.
 constexpr std::size_t mostScalersKept = 8;
 
@@ -64,7 +68,7 @@ constexpr std::size_t mostScalersKept = 8;
 AlignedBytes alignedBytes(std::size_t count)
 {
     const std::size_t rounded = (count + planeAlignment - 1) / planeAlignment * planeAlignment;
-    void *memory = std::aligned_alloc(planeAlignment, std::max<std::size_t>(rounded, planeAlignment));
+    void *memory = std::aligned_alloc(planeAlignment, rounded + readAhead);
     if (memory == nullptr)
         throw std::bad_alloc();
     return AlignedBytes(static_cast<std::uint8_t *>(memory));

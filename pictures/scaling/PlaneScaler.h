@@ -27,7 +27,8 @@ using AlignedBytes = std::unique_ptr<std::uint8_t, FreeAlignedMemory>;
 /// The alignment of planes and their rows, in bytes.
 inline constexpr qsizetype planeAlignment = 64;
 
-/// Throws `std::bad_alloc` if memory runs out.
+/// Memory for planes and for libzimg, with some more behind it that may be read. Throws `std::bad_alloc` if memory runs
+/// out.
 AlignedBytes alignedBytes(std::size_t count);
 
 /// The distance from one row of a plane to the next, in bytes.
