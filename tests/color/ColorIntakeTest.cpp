@@ -238,7 +238,7 @@ private slots:
         QVERIFY(m_controller->opacityNote()->isHidden());
         pasteByKey(u"rgba(255, 0, 0, 0.5)"_s);
         QVERIFY(m_controller->opacityNote()->isVisible());
-        QVERIFY(m_controller->opacityNote()->text().contains(u"50 %"_s));
+        QVERIFY(m_controller->opacityNote()->text().contains(u"50%"_s));
         QCOMPARE(field()->textColor().alpha(), 255);
         pasteByKey(u"#ff0000"_s);
         QVERIFY(m_controller->opacityNote()->isHidden());

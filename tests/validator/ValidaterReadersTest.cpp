@@ -147,6 +147,17 @@ private slots:
                  here.ui().appIconField->pixmap(Qt::ReturnByValue).toImage().convertToFormat(QImage::Format_ARGB32));
     }
 
+    void readsNothingOfThePackageBefore()
+    {
+        ReadPane pane(package("valid"));
+        const QString text = m_work.filePath(u"a text.ipa"_s);
+        QVERIFY(putFile(text, "No package."));
+        pane.tool.dropIpaFileFromDelegate(text);
+        QTRY_COMPARE_WITH_TIMEOUT(pane.ui().sumLabel->text(), qtTrId("VALIDATER_SUM_NO_PACKAGE"), readingTime);
+        QVERIFY(!pane.tool.facts().hasApp);
+        QTRY_VERIFY_WITH_TIMEOUT(treeBelow(pane.services.workFolder).isEmpty(), readingTime);
+    }
+
     void survivesANonsensicalReview()
     {
         const QString answer = uR"({"verdicts":[{"rule":"no-such-rule","state":1,"evidence":[{}]},)"

@@ -53,15 +53,17 @@ private:
 std::optional<ReaderEnd> inspectInProcess(const ReaderOrder &order, const QString &workFolder, int iconScale,
                                           const std::stop_token &stop, const InspectionResults &results)
 {
-    // The process may remove this folder but put no link in its place, so that it can be removed safely.
+    // The process may remove this folder but put no link in its place, so that it can be removed safely. Nothing of the
+    // package before may be left in it, or it would be read as this one.
     const QString folder = workFolder + u'/' + inspectionFolder;
+    QDir(folder).removeRecursively();
     QDir().mkpath(folder);
     Messages messages(order.package, results);
     const auto end = readInProcess(
         order, inspectionCall(order.package, workFolder, iconScale), stop, [](int) {},
         [&messages](const QString &word, const QByteArray &content) { return messages.take(word, content); });
-    if (end)
-        QDir(folder).removeRecursively();
+    // The process ends with its answer, often before it has removed what it has unpacked.
+    QDir(folder).removeRecursively();
     return end;
 }
 

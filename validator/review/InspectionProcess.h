@@ -8,7 +8,7 @@ namespace lumora
 {
 
 /// Unpacks and inspects the package in a process of its own, as `readInProcess` does. Whatever that process leaves in
-/// the work folder when it does not come to its end is removed.
+/// the work folder is removed.
 std::optional<ReaderEnd> inspectInProcess(const ReaderOrder &order, const QString &workFolder, int iconScale,
                                           const std::stop_token &stop, const InspectionResults &results);
 
