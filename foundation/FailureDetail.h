@@ -23,6 +23,8 @@ public:
     FailureDetail(const char *key, Values values = {}) : m_key(key), m_values(std::move(values)) {}
 
     bool isEmpty() const { return m_key.isEmpty() && m_text.isEmpty(); }
+    /// Empty for free text.
+    QLatin1StringView key() const { return m_key; }
     /// In the language of the installed texts; a program without texts gets the key and the values.
     QString words() const;
 

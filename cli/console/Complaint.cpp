@@ -53,6 +53,30 @@ constexpr Wording wordings[] = {
 constexpr Wording notFoundUndecoded = {FailureCode::NotFound, "not-found", "CLI_NOT_FOUND_UNDECODED",
                                        "CLI_NOT_FOUND_UNDECODED_ADVICE"};
 
+/// What helps in one case of a failure.
+struct CaseAdvice
+{
+    const char *detail; ///< the key of the failure's detail
+    const char *remedy;
+};
+
+constexpr CaseAdvice caseAdvice[] = {
+    {"DETAIL_ICON_SETS", "CLI_CHOOSE_ICON_SET_ADVICE"},
+    {"DETAIL_NO_ICON_SET", "CLI_CHOOSE_ICON_SET_ADVICE"},
+    {"DETAIL_UNNAMED_ICON_SETS", "CLI_CHOOSE_ICON_SET_ADVICE"},
+    {"DETAIL_MANIFEST_ICON", "CLI_MANIFEST_ICON_ADVICE"},
+    {"DETAIL_NO_FLAVOR", "CLI_NO_FLAVOR_ADVICE"},
+    {"DETAIL_NO_TARGET", "CLI_NO_TARGET_ADVICE"},
+};
+
+const char *remedyOf(const Failure &failure, const Wording &wording)
+{
+    const auto *one = std::find_if(std::begin(caseAdvice), std::end(caseAdvice), [&failure](const CaseAdvice &known) {
+        return failure.detail.key() == QLatin1StringView(known.detail);
+    });
+    return one == std::end(caseAdvice) ? wording.remedy : one->remedy;
+}
+
 const Wording &wordingOf(const Failure &failure)
 {
     if (failure.code == FailureCode::NotFound && failure.subject.contains(QChar::ReplacementCharacter))
@@ -80,7 +104,7 @@ QJsonObject Complaint::json() const
 
 Complaint complaintOf(const Failure &failure)
 {
-    return complaintOf(failure, commandText(wordingOf(failure).remedy));
+    return complaintOf(failure, commandText(remedyOf(failure, wordingOf(failure))));
 }
 
 Complaint complaintOf(const Failure &failure, const QString &advice)

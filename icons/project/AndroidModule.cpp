@@ -137,7 +137,7 @@ Outcome planAndroidModule(const QString &root, const QString &sources, const QSt
     if (icons.icon.isEmpty())
         plan.linesToAdd << manifest + u": android:icon=\"@mipmap/ic_launcher\""_s;
     else if (!takeReference(icons.icon, names.type, names.icon))
-        return Failure{FailureCode::AmbiguousProject, manifest, u"android:icon=\"%1\""_s.arg(icons.icon)};
+        return Failure{FailureCode::AmbiguousProject, manifest, {"DETAIL_MANIFEST_ICON", {{"[NAME]", icons.icon}}}};
     QString roundType;
     if (!icons.round.isEmpty() && icons.round != icons.icon && takeReference(icons.round, roundType, names.round) &&
         roundType != names.type)

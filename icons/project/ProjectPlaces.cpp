@@ -190,6 +190,16 @@ QStringList ProjectPlaces::iconSets(const QString &folder) const
     return found;
 }
 
+QStringList ProjectPlaces::iconSetNames(const QString &folder) const
+{
+    QStringList names;
+    const QStringList sets = iconSets(folder);
+    for (const QString &path : sets)
+        names << QFileInfo(path).completeBaseName();
+    names.removeDuplicates();
+    return names;
+}
+
 Outcome ProjectPlaces::addCatalogues(const QString &folder, const QString &name, bool forMac)
 {
     const QString set = name + u".appiconset"_s;
@@ -210,11 +220,7 @@ Outcome ProjectPlaces::addCatalogues(const QString &folder, const QString &name,
 Result<QString> ProjectPlaces::unnamedIconSet(const QString &folder)
 {
     const QString usual = u"AppIcon"_s;
-    QStringList names;
-    const QStringList sets = iconSets(folder);
-    for (const QString &path : sets)
-        names << QFileInfo(path).completeBaseName();
-    names.removeDuplicates();
+    const QStringList names = iconSetNames(folder);
     if (names.isEmpty() || names.contains(usual))
         return usual;
     if (names.size() > 1)
@@ -223,6 +229,37 @@ Result<QString> ProjectPlaces::unnamedIconSet(const QString &folder)
                        {"DETAIL_UNNAMED_ICON_SETS", {{"[SETS]", names.join(u", "_s)}}}};
     m_plan.note(Derivation::OnlyIconSet, names.first());
     return names.first();
+}
+
+Result<QString> ProjectPlaces::chosenIconSet(const QString &folder, const XcodeProject &project)
+{
+    const QString &choice = m_options.target;
+    QStringList sets;
+    QStringList byTarget;
+    for (const auto &[target, icons] : project.iconNames) {
+        byTarget << target + u" ("_s + icons.join(u", "_s) + u')';
+        if (choice.isEmpty() || choice == target)
+            sets += icons;
+    }
+    sets.removeDuplicates();
+    if (sets.size() == 1)
+        return sets.first();
+    if (choice.isEmpty() && sets.isEmpty())
+        return unnamedIconSet(folder);
+    const QStringList present = iconSetNames(folder);
+    const bool isNamed = std::any_of(project.iconNames.begin(), project.iconNames.end(),
+                                     [&choice](const auto &target) { return target.second.contains(choice); });
+    if (isNamed || present.contains(choice))
+        return choice;
+    if (project.iconNames.empty() && project.targets.contains(choice))
+        return unnamedIconSet(folder);
+    if (!sets.isEmpty())
+        return Failure{
+            FailureCode::AmbiguousProject, whole(folder), {"DETAIL_ICON_SETS", {{"[SETS]", byTarget.join(u", "_s)}}}};
+    return Failure{FailureCode::AmbiguousProject,
+                   whole(folder),
+                   {"DETAIL_NO_ICON_SET",
+                    {{"[NAME]", choice}, {"[SETS]", (byTarget.isEmpty() ? present : byTarget).join(u", "_s)}}}};
 }
 
 Outcome ProjectPlaces::addFlutter()
@@ -295,26 +332,19 @@ Outcome ProjectPlaces::addXcode(const QString &folder)
     const QStringList projects =
         QDir(whole(folder))
             .entryList({u"*.xcodeproj"_s}, QDir::Dirs | QDir::NoDotAndDotDot | QDir::NoSymLinks, QDir::Name);
-    bool forMac = false;
-    QStringList names;
-    QStringList targets;
+    XcodeProject all;
     for (const QString &name : projects) {
         const QString path = below(folder, name);
         const std::optional<XcodeProject> project = readXcodeProject(whole(path));
         if (!project)
             return Failure{FailureCode::NotReadable, whole(path), u"project.pbxproj"_s};
-        forMac = forMac || project->forMac;
-        for (const auto &[target, icons] : project->iconNames) {
-            targets << target + u" ("_s + icons.join(u", "_s) + u')';
-            if (m_options.target.isEmpty() || m_options.target == target)
-                names += icons;
-        }
+        all.forMac = all.forMac || project->forMac;
+        all.targets += project->targets;
+        for (const auto &[target, icons] : project->iconNames)
+            all.iconNames[target] += icons;
     }
-    names.removeDuplicates();
-    if (names.size() > 1 || (names.isEmpty() && !m_options.target.isEmpty()))
-        return Failure{FailureCode::AmbiguousProject, whole(folder), QString(u"--target: "_s + targets.join(u", "_s))};
-    const Result<QString> set = names.isEmpty() ? unnamedIconSet(folder) : Result<QString>(names.first());
-    return set ? addCatalogues(folder, set.value(), forMac) : Outcome(set.failure());
+    const Result<QString> set = chosenIconSet(folder, all);
+    return set ? addCatalogues(folder, set.value(), all.forMac) : Outcome(set.failure());
 }
 
 Outcome ProjectPlaces::addGradle()

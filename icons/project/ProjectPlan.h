@@ -13,12 +13,13 @@ namespace lumora
 
 class Motifs;
 struct NamedIcon;
+struct XcodeProject;
 
 /// The chosen part of a project.
 struct ProjectOptions
 {
     QString flavor; ///< of an Android or Flutter app, empty for its main source set
-    QString target; ///< of an Xcode project, empty for the only icon there is
+    QString target; ///< of an Xcode project, or its icon set; empty for the only set there is
 };
 
 /// The plan for every project in a folder.
@@ -67,9 +68,13 @@ private:
     Outcome addAndroid(StorePicture store);
     /// The paths of all icon sets below the folder.
     QStringList iconSets(const QString &folder) const;
+    QStringList iconSetNames(const QString &folder) const;
     /// The set that is meant if the Xcode project names none: the usual one, else the only one. Fails with
     /// `AmbiguousProject` if there are several.
     Result<QString> unnamedIconSet(const QString &folder);
+    /// The set that the Xcode project or the chosen target names, or the chosen set. Fails with `AmbiguousProject` if
+    /// there is no such one, or several.
+    Result<QString> chosenIconSet(const QString &folder, const XcodeProject &project);
     Outcome addCatalogues(const QString &folder, const QString &name, bool forMac);
     /// A square picture in the size of the existing file, or in the given size if there is none.
     void addSquare(const QString &file, PictureRecipe recipe);

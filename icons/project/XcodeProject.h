@@ -16,6 +16,7 @@ struct XcodeProject
     /// The icon's name by the target's name, or the whole project's if no target names one; targets without an icon
     /// are left out.
     std::map<QString, QStringList> iconNames;
+    QStringList targets; ///< all of them
     bool forMac = false; ///< builds for the Mac and nothing else
 };
 

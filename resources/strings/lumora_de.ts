@@ -4620,8 +4620,8 @@
     <translation>Mit --into: Variante (Flavor) einer Android- oder Flutter-App</translation>
   </message>
   <message id="CLI_ICONS_TARGET">
-    <source>With --into: target of an Xcode project</source>
-    <translation>Mit --into: Target eines Xcode-Projekts</translation>
+    <source>With --into: target or icon set of an Xcode project</source>
+    <translation>Mit --into: Target oder Icon-Satz eines Xcode-Projekts</translation>
   </message>
   <message id="CLI_ICONS_CHECK">
     <source>Judge the icon catalogues and projects in DIR; needs no SOURCE</source>
@@ -4768,8 +4768,24 @@
     <translation>lässt offen, welche Icons gemeint sind</translation>
   </message>
   <message id="CLI_AMBIGUOUS_PROJECT_ADVICE">
-    <source>choose with --target or --flavor, or name one project's own folder</source>
-    <translation>mit --target oder --flavor wählen oder den Ordner eines einzelnen Projekts nennen</translation>
+    <source>name the folder of one of them</source>
+    <translation>den Ordner von einem davon nennen</translation>
+  </message>
+  <message id="CLI_CHOOSE_ICON_SET_ADVICE">
+    <source>choose one with --target, which takes a target's or an icon set's name</source>
+    <translation>eines mit --target wählen, das den Namen eines Targets oder eines Icon-Satzes nimmt</translation>
+  </message>
+  <message id="CLI_MANIFEST_ICON_ADVICE">
+    <source>name the app's own picture there, such as @mipmap/ic_launcher</source>
+    <translation>dort ein Bild der App selbst nennen, etwa @mipmap/ic_launcher</translation>
+  </message>
+  <message id="CLI_NO_FLAVOR_ADVICE">
+    <source>give --flavor one of productFlavors in build.gradle, or a folder beside src/main</source>
+    <translation>bei --flavor eines aus productFlavors in build.gradle oder einen Ordner neben src/main angeben</translation>
+  </message>
+  <message id="CLI_NO_TARGET_ADVICE">
+    <source>leave --target out; it chooses among the icon sets of an Xcode project</source>
+    <translation>--target weglassen; es wählt unter den Icon-Sätzen eines Xcode-Projekts</translation>
   </message>
   <message id="CLI_LEADS_OUTSIDE">
     <source>leads out of its folder</source>
@@ -5928,8 +5944,20 @@
     <translation>[PROJECTS] ohne Platz für Icons; erst die Plattformen anlegen</translation>
   </message>
   <message id="DETAIL_UNNAMED_ICON_SETS">
-    <source>no icon set is named in the project, and none is AppIcon: [SETS]; set ASSETCATALOG_COMPILER_APPICON_NAME in Xcode</source>
-    <translation>kein Icon-Satz ist im Projekt genannt, und keiner heißt AppIcon: [SETS]; ASSETCATALOG_COMPILER_APPICON_NAME in Xcode festlegen</translation>
+    <source>no icon set is named in the project, and none is AppIcon: [SETS]</source>
+    <translation>kein Icon-Satz ist im Projekt genannt, und keiner heißt AppIcon: [SETS]</translation>
+  </message>
+  <message id="DETAIL_ICON_SETS">
+    <source>several icon sets: [SETS]</source>
+    <translation>mehrere Icon-Sätze: [SETS]</translation>
+  </message>
+  <message id="DETAIL_NO_ICON_SET">
+    <source>neither a target with an icon nor an icon set is named [NAME]; there are [SETS]</source>
+    <translation>weder ein Target mit Icon noch ein Icon-Satz heißt [NAME]; es gibt [SETS]</translation>
+  </message>
+  <message id="DETAIL_MANIFEST_ICON">
+    <source>android:icon="[NAME]" is no picture of the app</source>
+    <translation>android:icon="[NAME]" ist kein Bild der App</translation>
   </message>
   <message id="DETAIL_NO_OPAQUE_COLOR">
     <source>no opaque color; write #RRGGBB or a name such as navy</source>
@@ -5949,7 +5977,7 @@
   </message>
   <message id="DETAIL_NO_TARGET">
     <source>no target [NAME] in [PROJECTS]</source>
-    <translation>kein Ziel [NAME] in [PROJECTS]</translation>
+    <translation>kein Target [NAME] in [PROJECTS]</translation>
   </message>
   <message id="DETAIL_DAMAGED">
     <source>damaged</source>

@@ -4618,8 +4618,8 @@
     <translation>With --into: flavor of an Android or Flutter app</translation>
   </message>
   <message id="CLI_ICONS_TARGET">
-    <source>With --into: target of an Xcode project</source>
-    <translation>With --into: target of an Xcode project</translation>
+    <source>With --into: target or icon set of an Xcode project</source>
+    <translation>With --into: target or icon set of an Xcode project</translation>
   </message>
   <message id="CLI_ICONS_CHECK">
     <source>Judge the icon catalogues and projects in DIR; needs no SOURCE</source>
@@ -4766,8 +4766,24 @@
     <translation>does not say which icons are meant</translation>
   </message>
   <message id="CLI_AMBIGUOUS_PROJECT_ADVICE">
-    <source>choose with --target or --flavor, or name one project's own folder</source>
-    <translation>choose with --target or --flavor, or name one project's own folder</translation>
+    <source>name the folder of one of them</source>
+    <translation>name the folder of one of them</translation>
+  </message>
+  <message id="CLI_CHOOSE_ICON_SET_ADVICE">
+    <source>choose one with --target, which takes a target's or an icon set's name</source>
+    <translation>choose one with --target, which takes a target's or an icon set's name</translation>
+  </message>
+  <message id="CLI_MANIFEST_ICON_ADVICE">
+    <source>name the app's own picture there, such as @mipmap/ic_launcher</source>
+    <translation>name the app's own picture there, such as @mipmap/ic_launcher</translation>
+  </message>
+  <message id="CLI_NO_FLAVOR_ADVICE">
+    <source>give --flavor one of productFlavors in build.gradle, or a folder beside src/main</source>
+    <translation>give --flavor one of productFlavors in build.gradle, or a folder beside src/main</translation>
+  </message>
+  <message id="CLI_NO_TARGET_ADVICE">
+    <source>leave --target out; it chooses among the icon sets of an Xcode project</source>
+    <translation>leave --target out; it chooses among the icon sets of an Xcode project</translation>
   </message>
   <message id="CLI_LEADS_OUTSIDE">
     <source>leads out of its folder</source>
@@ -5926,8 +5942,20 @@
     <translation>[PROJECTS] without a place for icons; make its platforms first</translation>
   </message>
   <message id="DETAIL_UNNAMED_ICON_SETS">
-    <source>no icon set is named in the project, and none is AppIcon: [SETS]; set ASSETCATALOG_COMPILER_APPICON_NAME in Xcode</source>
-    <translation>no icon set is named in the project, and none is AppIcon: [SETS]; set ASSETCATALOG_COMPILER_APPICON_NAME in Xcode</translation>
+    <source>no icon set is named in the project, and none is AppIcon: [SETS]</source>
+    <translation>no icon set is named in the project, and none is AppIcon: [SETS]</translation>
+  </message>
+  <message id="DETAIL_ICON_SETS">
+    <source>several icon sets: [SETS]</source>
+    <translation>several icon sets: [SETS]</translation>
+  </message>
+  <message id="DETAIL_NO_ICON_SET">
+    <source>neither a target with an icon nor an icon set is named [NAME]; there are [SETS]</source>
+    <translation>neither a target with an icon nor an icon set is named [NAME]; there are [SETS]</translation>
+  </message>
+  <message id="DETAIL_MANIFEST_ICON">
+    <source>android:icon="[NAME]" is no picture of the app</source>
+    <translation>android:icon="[NAME]" is no picture of the app</translation>
   </message>
   <message id="DETAIL_NO_OPAQUE_COLOR">
     <source>no opaque color; write #RRGGBB or a name such as navy</source>

@@ -25,6 +25,8 @@ private slots:
     void intoAReadOnlyProject_data();
     void intoAReadOnlyProject();
     void intoNoProject();
+    void refusalsSayWhatHelps_data();
+    void refusalsSayWhatHelps();
 
 private:
     std::unique_ptr<QTemporaryDir> m_folder;
@@ -113,6 +115,43 @@ void IntoProjectCommandTest::intoNoProject()
     const LumoraRun run = icons({u"logo.svg"_s, u"--into"_s, u"p"_s});
     QCOMPARE(run.status, 1);
     QVERIFY(run.err.contains("pubspec.yaml") && run.err.contains("settings.gradle"));
+}
+
+void IntoProjectCommandTest::refusalsSayWhatHelps_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QByteArray>("advice"); ///< empty if the icons are written
+    QTest::newRow("several icon sets") << QStringList{u"x"_s} << QByteArray("choose one with --target");
+    QTest::newRow("an unknown one") << QStringList{u"x"_s, u"--target"_s, u"C"_s}
+                                    << QByteArray("choose one with --target");
+    QTest::newRow("a chosen one") << QStringList{u"x"_s, u"--target"_s, u"B"_s} << QByteArray();
+    QTest::newRow("a target where there are none")
+        << QStringList{u"e"_s, u"--target"_s, u"B"_s} << QByteArray("leave --target out");
+    QTest::newRow("an unknown flavor") << QStringList{u"a"_s, u"--flavor"_s, u"beta"_s} << QByteArray("productFlavors");
+    QTest::newRow("a manifest that the build fills in") << QStringList{u"a"_s} << QByteArray("@mipmap/ic_launcher");
+    QTest::newRow("two projects in one place") << QStringList{u"two"_s} << QByteArray("name the folder of one of them");
+}
+
+void IntoProjectCommandTest::refusalsSayWhatHelps()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QByteArray, advice);
+    QVERIFY(
+        putFile(at(u"x/M.xcodeproj/project.pbxproj"_s), "{objects = {T = {isa = PBXNativeTarget; name = App; };};}"));
+    for (const char *set : {"A", "B"})
+        QVERIFY(putFile(at(u"x/M/M.xcassets/%1.appiconset/Contents.json"_s.arg(QLatin1StringView(set))), "{}"));
+    QVERIFY(putFile(at(u"e/package.json"_s), "{\"devDependencies\":{\"electron\":\"30\"}}"));
+    QVERIFY(putFile(at(u"a/settings.gradle"_s), ""));
+    QVERIFY(putFile(at(u"a/app/src/main/AndroidManifest.xml"_s),
+                    "<manifest xmlns:android=\"http://schemas.android.com/apk/res/android\">"
+                    "<application android:icon=\"${icon}\"/></manifest>"));
+    QVERIFY(putFile(at(u"two/package.json"_s),
+                    "{\"devDependencies\":{\"electron\":\"30\"},"
+                    "\"build\":{\"directories\":{\"buildResources\":\"src-tauri/icons\"}}}"));
+    QVERIFY(putFile(at(u"two/src-tauri/tauri.conf.json"_s), "{}"));
+    const LumoraRun run = icons(QStringList{u"logo.svg"_s, u"--dry-run"_s, u"--into"_s} + arguments);
+    QCOMPARE(run.status, advice.isEmpty() ? 0 : 1);
+    QVERIFY2(run.err.contains(advice), run.err);
 }
 
 QTEST_GUILESS_MAIN(IntoProjectCommandTest)
