@@ -68,6 +68,10 @@ void judge(const NamedIcon &icon, const QString &path, IconCheck &check)
         judgeDrawing(path, check);
     else if (icon.path.endsWith(u".png"))
         judgePicture(icon, path, check);
+    else if (icon.path.endsWith(u".ico"))
+        checkIcoFile(path, check);
+    else if (icon.path.endsWith(u".icns"))
+        checkIcnsFile(path, check);
 }
 
 } // namespace
@@ -92,6 +96,7 @@ void checkNamedIcons(const QString &folder, IconCheck &check)
             IconCheck part;
             part.checked << path;
             judge(icon, path, part);
+            part.checked.removeDuplicates();
             check.checked += part.checked;
             // A web manifest may name the same picture.
             for (const IconFinding &finding : part.findings) {

@@ -42,8 +42,7 @@ Outcome ProjectPlaces::addNamed(const NamedIcon &icon)
         m_plan.addPicture(path, adaptiveLayer(m_motifs, Motif::Foreground, icon.edge, m_plan));
         break;
     case IconUse::Background:
-        if (!m_motifs.sources().background.isNull())
-            m_plan.addPicture(path, filled(Motif::Background, icon.edge));
+        addBackground(icon);
         break;
     case IconUse::Monochrome:
         if (m_motifs.hasMonochrome())
@@ -60,6 +59,18 @@ Outcome ProjectPlaces::addNamed(const NamedIcon &icon)
     return Done{};
 }
 
+void ProjectPlaces::addBackground(const NamedIcon &icon)
+{
+    const TodaySources &sources = m_motifs.sources();
+    if (sources.background.isNull() && !sources.backgroundColor && has(icon.path)) {
+        m_plan.note(Derivation::BackgroundKept, at(icon.path));
+        return;
+    }
+    if (sources.background.isNull())
+        (void)notedBackground(m_motifs, m_plan);
+    m_plan.addPicture(at(icon.path), filled(Motif::Background, icon.edge));
+}
+
 Result<QList<NamedIcon>> ProjectPlaces::addAllNamed()
 {
     Result<QList<NamedIcon>> icons = namedIcons(m_project.kind, whole({}));
@@ -70,26 +81,33 @@ Result<QList<NamedIcon>> ProjectPlaces::addAllNamed()
         if (!added)
             return added.failure();
     }
+    const QString unread = unreadSettings(m_project.kind, whole({}));
+    if (!unread.isEmpty())
+        m_plan.note(Derivation::SettingsNotRead, at(unread));
     return icons;
 }
 
 Outcome ProjectPlaces::addExpo()
 {
-    const QString name = u"app.json"_s;
+    const QString name = expoSettings(whole({}));
+    if (name.isEmpty())
+        return Failure{FailureCode::NotReadable, whole(unreadSettings(m_project.kind, whole({}))), {"DETAIL_PROGRAM"}};
     const Result<QList<NamedIcon>> icons = addAllNamed();
     if (!icons)
         return icons.failure();
     bool hasAppearances = false;
     bool hasForeground = false;
+    bool hasBackground = !m_motifs.sources().background.isNull();
     for (const NamedIcon &icon : icons.value()) {
         hasAppearances = hasAppearances || icon.use == IconUse::Dark || icon.use == IconUse::Tinted;
         hasForeground = hasForeground || icon.use == IconUse::Foreground;
+        hasBackground = hasBackground || icon.use == IconUse::Background;
         if (!icon.isNamed)
             m_plan.linesToAdd << at(name) + u": \"icon\": \"./%1\""_s.arg(icon.path);
     }
     if (!hasAppearances)
         m_plan.linesToAdd << at(name) + u": \"ios\": {\"icon\": {\"light\": …, \"dark\": …, \"tinted\": …}}"_s;
-    if (hasForeground && m_motifs.sources().background.isNull())
+    if (hasForeground && !hasBackground)
         m_plan.linesToAdd << at(name) + u": \"android\": {\"adaptiveIcon\": {\"backgroundColor\": \"%1\"}}"_s.arg(
                                             notedBackground(m_motifs, m_plan).name().toUpper());
     return Done{};
@@ -97,14 +115,18 @@ Outcome ProjectPlaces::addExpo()
 
 Outcome ProjectPlaces::addElectron()
 {
-    const Result<QString> folder = electronResources(whole({}));
-    if (!folder)
-        return folder.failure();
-    m_plan.files.append(macIconFile(at(folder.value() + u"/icon.icns"_s)));
-    m_plan.files.append(windowsIcon(at(folder.value() + u"/icon.ico"_s),
-                                    std::vector(windowsIconSizes.begin(), windowsIconSizes.end())));
-    const Result<QList<NamedIcon>> icons = addAllNamed();
-    return icons ? Outcome(Done{}) : Outcome(icons.failure());
+    const Result<QList<NamedIcon>> icons = namedIcons(m_project.kind, whole({}));
+    if (!icons)
+        return icons.failure();
+    for (const NamedIcon &icon : icons.value()) {
+        if (icon.path.endsWith(u".icns"))
+            m_plan.files.append(macIconFile(at(icon.path)));
+        else if (icon.path.endsWith(u".ico"))
+            m_plan.files.append(
+                windowsIcon(at(icon.path), std::vector(windowsIconSizes.begin(), windowsIconSizes.end())));
+    }
+    const Result<QList<NamedIcon>> pictures = addAllNamed();
+    return pictures ? Outcome(Done{}) : Outcome(pictures.failure());
 }
 
 Outcome ProjectPlaces::addMaui()

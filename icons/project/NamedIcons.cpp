@@ -1,17 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "NamedIcons.h"
 
-#include "foundation/WholeFile.h"
+#include "ElectronIcons.h"
+#include "ProjectSettings.h"
 #include "icons/today/AndroidFigures.h"
 #include "icons/today/AppleSlots.h"
 
 #include <QDir>
 #include <QJsonArray>
-#include <QJsonDocument>
 #include <QJsonObject>
 #include <QXmlStreamReader>
 
 #include <algorithm>
+#include <array>
 
 using namespace Qt::StringLiterals;
 
@@ -21,31 +22,10 @@ namespace lumora
 namespace
 {
 
-constexpr qint64 longestConfiguration = 4LL * 1024 * 1024;
 constexpr int notificationEdge = 96;
 constexpr int faviconEdge = 48;
-/// Electron's packagers refuse a smaller picture for the Mac.
-constexpr int smallestElectronIcon = 512;
-
-QByteArray configuration(const QString &path)
-{
-    const Result<QByteArray> bytes = readWholeFile(path, longestConfiguration);
-    return bytes ? bytes.value() : QByteArray();
-}
-
-QJsonObject jsonOf(const QString &path)
-{
-    return QJsonDocument::fromJson(configuration(path)).object();
-}
-
-/// A path in a configuration, relative to its folder; empty if it leads out of the folder.
-QString pathWithin(const QString &named)
-{
-    const QString path = QDir::cleanPath(named);
-    return path.isEmpty() || QDir::isAbsolutePath(path) || path == u"." || path == u".." || path.startsWith(u"../")
-               ? QString()
-               : path;
-}
+/// The settings of Expo that are no program, in the order in which it looks for them.
+constexpr std::array expoNames = {"app.config.json", "app.json"};
 
 /// The icons that a configuration names.
 class NamedList
@@ -77,7 +57,11 @@ QList<NamedIcon> flutterIcons()
 
 QList<NamedIcon> expoIcons(const QString &folder)
 {
-    const QJsonObject expo = jsonOf(folder + u"/app.json"_s)[u"expo"_s].toObject();
+    const QString file = expoSettings(folder);
+    // The settings are a program: what it names is not known.
+    if (file.isEmpty())
+        return {};
+    const QJsonObject expo = jsonSettings(folder + u'/' + file)[u"expo"_s].toObject();
     const QJsonValue ios = expo[u"ios"_s].toObject()[u"icon"_s];
     const QJsonObject android = expo[u"android"_s].toObject();
     const QJsonObject adaptive = android[u"adaptiveIcon"_s].toObject();
@@ -101,26 +85,45 @@ QList<NamedIcon> expoIcons(const QString &folder)
     return list.icons();
 }
 
-/// The edge that an icon element of Cordova's configuration states: its width, or what follows from its density.
+/// The edge of a picture of so many dp in the density that an icon element of Cordova's
+/// settings states; 0 if it states none.
+int edgeOfDensity(const QXmlStreamAttributes &attributes, int dp)
+{
+    const QStringView density = attributes.value(u"density"_s);
+    if (density == QLatin1StringView(lowDensity.name))
+        return lowDensity.pixels(dp);
+    for (const DensityBucket &bucket : densityBuckets) {
+        if (density == QLatin1StringView(bucket.name))
+            return bucket.pixels(dp);
+    }
+    return 0;
+}
+
+/// The edge that an icon element states: its width, or what follows from its density.
 int statedEdge(const QXmlStreamAttributes &attributes)
 {
     const int width = attributes.value(u"width"_s).toInt();
-    if (width > 0 && width <= storeIconSize)
-        return width;
-    const QStringView density = attributes.value(u"density"_s);
-    if (density == QLatin1StringView(lowDensity.name))
-        return lowDensity.pixels(legacyIconDp);
-    for (const DensityBucket &bucket : densityBuckets) {
-        if (density == QLatin1StringView(bucket.name))
-            return bucket.pixels(legacyIconDp);
+    return width > 0 && width <= storeIconSize ? width : edgeOfDensity(attributes, legacyIconDp);
+}
+
+/// The layers of an adaptive icon. Each may also be a drawing or, such as "@color/background", a resource.
+void addLayers(const QXmlStreamAttributes &attributes, NamedList &list)
+{
+    const int stated = edgeOfDensity(attributes, adaptiveLayerDp);
+    const int edge = stated > 0 ? stated : densityBuckets.back().pixels(adaptiveLayerDp);
+    for (const auto &[use, name] :
+         {std::pair{IconUse::Foreground, u"foreground"_s}, std::pair{IconUse::Background, u"background"_s},
+          std::pair{IconUse::Monochrome, u"monochrome"_s}}) {
+        const QString named = attributes.value(name).toString();
+        if (!named.startsWith(u'@'))
+            list.add(use, named, edge, stated > 0 ? std::nullopt : std::optional(0));
     }
-    return 0;
 }
 
 Result<QList<NamedIcon>> cordovaIcons(const QString &folder)
 {
     const QString file = folder + u"/config.xml"_s;
-    QXmlStreamReader reader(configuration(file));
+    QXmlStreamReader reader(settingsFile(file));
     QString platform;
     NamedList list;
     while (!reader.atEnd()) {
@@ -139,6 +142,8 @@ Result<QList<NamedIcon>> cordovaIcons(const QString &folder)
         const IconUse use = platform != u"ios" ? IconUse::Icon : isStore ? IconUse::Store : IconUse::Opaque;
         list.add(use, attributes.value(u"src"_s).toString(), edge > 0 ? edge : storeIconSize,
                  edge > 0 ? std::nullopt : std::optional(0));
+        if (platform == u"android")
+            addLayers(attributes, list);
     }
     if (reader.hasError())
         return Failure{FailureCode::NotReadable, file, reader.errorString()};
@@ -162,7 +167,7 @@ QList<NamedIcon> tauriIcons(const QString &folder)
         add(u"Square%1x%1Logo.png"_s.arg(edge), edge);
     add(u"StoreLogo.png"_s, 50);
     const QJsonArray bundled =
-        jsonOf(folder + u'/' + base + u"tauri.conf.json"_s)[u"bundle"_s].toObject()[u"icon"_s].toArray();
+        jsonSettings(folder + u'/' + base + u"tauri.conf.json"_s)[u"bundle"_s].toObject()[u"icon"_s].toArray();
     for (const auto &value : bundled) {
         const QString named = pathWithin(value.toString());
         if (named.isEmpty())
@@ -177,24 +182,10 @@ QList<NamedIcon> tauriIcons(const QString &folder)
     return icons;
 }
 
-Result<QList<NamedIcon>> electronIcons(const QString &folder)
-{
-    const Result<QString> resources = electronResources(folder);
-    if (!resources)
-        return resources.failure();
-    const QString &base = resources.value();
-    QList<NamedIcon> icons{
-        {IconUse::Icon, base + u"/icon.png"_s, storeIconSize, smallestElectronIcon, false},
-    };
-    for (const int edge : {16, 24, 32, 48, 64, 96, 128, 256, 512})
-        icons << NamedIcon{IconUse::Icon, base + u"/icons/%1x%1.png"_s.arg(edge), edge, {}, false};
-    return icons;
-}
-
 /// The paths that the project's icon elements name; a pattern or a variable is not one.
 QList<NamedIcon> mauiIconsIn(const QString &file)
 {
-    QXmlStreamReader reader(configuration(file));
+    QXmlStreamReader reader(settingsFile(file));
     NamedList list;
     const auto add = [&list](IconUse use, QString named) {
         named.replace(u'\\', u'/');
@@ -228,15 +219,25 @@ QList<NamedIcon> mauiIcons(const QString &folder)
 
 } // namespace
 
-Result<QString> electronResources(const QString &folder)
+QString expoSettings(const QString &folder)
 {
-    const QString file = folder + u"/package.json"_s;
-    const QString given =
-        jsonOf(file)[u"build"_s].toObject()[u"directories"_s].toObject()[u"buildResources"_s].toString(u"build"_s);
-    const QString path = QDir::cleanPath(given);
-    if (QDir::isAbsolutePath(path) || path.startsWith(u".."))
-        return Failure{FailureCode::LeadsOutside, file, given};
-    return path;
+    for (const char *name : expoNames) {
+        const QString file = QString::fromLatin1(name);
+        if (jsonSettings(folder + u'/' + file)[u"expo"_s].isObject())
+            return file;
+    }
+    return {};
+}
+
+QString unreadSettings(ProjectKind kind, const QString &folder)
+{
+    if (kind == ProjectKind::Electron)
+        return unreadElectronSettings(folder);
+    if (kind != ProjectKind::Expo)
+        return {};
+    const QStringList programs = QDir(folder).entryList(
+        {u"app.config.js"_s, u"app.config.cjs"_s, u"app.config.mjs"_s, u"app.config.ts"_s}, QDir::Files, QDir::Name);
+    return programs.value(0);
 }
 
 Result<QList<NamedIcon>> namedIcons(ProjectKind kind, const QString &folder)

@@ -43,7 +43,11 @@ struct NamedIcon
 /// project.
 Result<QList<NamedIcon>> namedIcons(ProjectKind kind, const QString &folder);
 
-/// Where Electron's packagers look for icons, from the project's folder. Fails with `LeadsOutside` as above.
-Result<QString> electronResources(const QString &folder);
+/// The name of the file with Expo's settings, below the folder; empty if they are nothing but a program.
+QString expoSettings(const QString &folder);
+
+/// The name of a file that may name icons elsewhere, but cannot be read here: a program, or another format. Empty if
+/// there is none.
+QString unreadSettings(ProjectKind kind, const QString &folder);
 
 } // namespace lumora

@@ -22,7 +22,7 @@ inline constexpr std::array<ProjectKindInfo, 10> projectKinds = {{
     {ProjectKind::Capacitor, "capacitor", "Capacitor", "capacitor.config.ts, .js or .json"},
     {ProjectKind::Cordova, "cordova", "Cordova", "config.xml with a widget"},
     {ProjectKind::ReactNative, "react-native", "React Native", "package.json with react-native, and ios/ or android/"},
-    {ProjectKind::Expo, "expo", "Expo", "app.json with expo"},
+    {ProjectKind::Expo, "expo", "Expo", "app.json or app.config.js with expo"},
     {ProjectKind::Tauri, "tauri", "Tauri", "src-tauri/tauri.conf.json"},
     {ProjectKind::Electron, "electron", "Electron", "package.json with electron"},
     {ProjectKind::Maui, "maui", ".NET MAUI", "*.csproj with UseMaui"},

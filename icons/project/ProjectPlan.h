@@ -61,6 +61,8 @@ private:
     /// Adds the pictures that the project's files name and returns them.
     Result<QList<NamedIcon>> addAllNamed();
     Outcome addNamed(const NamedIcon &icon);
+    /// The background of an adaptive icon. One that is there and that no given background replaces is kept.
+    void addBackground(const NamedIcon &icon);
 
     bool isFlavorKnown() const;
     /// The source folders of its Android modules.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ProjectRecognition.h"
 
+#include "NamedIcons.h"
 #include "foundation/WholeFile.h"
 
 #include <QDir>
@@ -41,7 +42,7 @@ public:
         case ProjectKind::ReactNative:
             return dependsOn(u"react-native"_s) && (hasFolder(u"ios"_s) || hasFolder(u"android"_s));
         case ProjectKind::Expo:
-            return json(u"app.json"_s)[u"expo"_s].isObject();
+            return !expoSettings(m_folder.path()).isEmpty() || isExpoProgram();
         case ProjectKind::Tauri:
             return has(u"src-tauri/tauri.conf.json"_s);
         case ProjectKind::Electron:
@@ -80,6 +81,13 @@ private:
         const QJsonObject manifest = json(u"package.json"_s);
         return manifest[u"dependencies"_s].toObject().contains(package) ||
                manifest[u"devDependencies"_s].toObject().contains(package);
+    }
+
+    /// Its settings are a program. Where its platforms are made already, what it names counts no more.
+    bool isExpoProgram() const
+    {
+        return dependsOn(u"expo"_s) && !unreadSettings(ProjectKind::Expo, m_folder.path()).isEmpty() &&
+               !hasMark(ProjectKind::ReactNative);
     }
 
     bool hasWidget() const

@@ -28,6 +28,8 @@ enum class Derivation {
     LayersFromIcon,
     ScalableLeftOut,
     OnlyIconSet,
+    BackgroundKept,
+    SettingsNotRead,
 };
 
 struct DerivationText
@@ -37,7 +39,7 @@ struct DerivationText
     const char *textKey; ///< one clause, to which `Derived::detail` is added
 };
 
-inline constexpr std::array<DerivationText, 18> derivationTexts = {{
+inline constexpr std::array<DerivationText, 20> derivationTexts = {{
     {Derivation::Fitted, "fitted", "ICONS_FITTED"},
     {Derivation::NotDrawn, "not-drawn", "ICONS_NOT_DRAWN"},
     {Derivation::IconFlattened, "icon-flattened", "ICONS_ICON_FLATTENED"},
@@ -56,6 +58,8 @@ inline constexpr std::array<DerivationText, 18> derivationTexts = {{
     {Derivation::LayersFromIcon, "layers-from-icon", "ICONS_LAYERS_FROM_ICON"},
     {Derivation::ScalableLeftOut, "scalable-left-out", "ICONS_SCALABLE_LEFT_OUT"},
     {Derivation::OnlyIconSet, "only-icon-set", "ICONS_ONLY_ICON_SET"},
+    {Derivation::BackgroundKept, "background-kept", "ICONS_BACKGROUND_KEPT"},
+    {Derivation::SettingsNotRead, "settings-not-read", "ICONS_SETTINGS_NOT_READ"},
 }};
 
 /// A derivation that was used.

@@ -69,7 +69,7 @@ QImage Motifs::at(Motif motif, int layer, int edge) const
     case Motif::Foreground:
         return (m_sources.foreground.isNull() ? m_sources.icon : m_sources.foreground).at(edge);
     case Motif::Background:
-        return m_sources.background.at(edge);
+        return m_sources.background.isNull() ? plainBackground(edge) : m_sources.background.at(edge);
     case Motif::Monochrome:
         return whitened(monochromeSource().at(edge));
     case Motif::Round:
@@ -113,6 +113,13 @@ int Motifs::safeEdge(double circle, int edge) const
 const Artwork &Motifs::monochromeSource() const
 {
     return m_sources.monochrome.isNull() ? m_sources.icon : m_sources.monochrome;
+}
+
+QImage Motifs::plainBackground(int edge) const
+{
+    QImage picture(edge, edge, QImage::Format_RGBA8888_Premultiplied);
+    picture.fill(backgroundColor());
+    return picture;
 }
 
 QImage Motifs::roundIcon() const

@@ -42,6 +42,7 @@ public:
 
 private:
     const Artwork &monochromeSource() const;
+    QImage plainBackground(int edge) const;
     QImage roundIcon() const;
     QImage allLayers(int edge) const;
 

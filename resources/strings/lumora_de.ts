@@ -4703,6 +4703,14 @@
     <source>the project names no icon set; its only one is used</source>
     <translation>das Projekt nennt keinen Icon-Satz; genommen wird der einzige</translation>
   </message>
+  <message id="ICONS_BACKGROUND_KEPT">
+    <source>the background in the project is kept; --background replaces it</source>
+    <translation>der Hintergrund im Projekt bleibt; --background ersetzt ihn</translation>
+  </message>
+  <message id="ICONS_SETTINGS_NOT_READ">
+    <source>icons that these settings name are not found, since only their own tool can read them</source>
+    <translation>Icons, die in diesen Einstellungen stehen, werden nicht gefunden; nur ihr eigenes Werkzeug kann sie lesen</translation>
+  </message>
   <message id="CLI_ICONS_FIT_ADVICE">
     <source>use a square picture of at least 512 x 512 pixels</source>
     <translation>ein quadratisches Bild von mindestens 512 x 512 Pixeln nehmen</translation>
@@ -4786,6 +4794,10 @@
   <message id="CLI_NO_TARGET_ADVICE">
     <source>leave --target out; it chooses among the icon sets of an Xcode project</source>
     <translation>--target weglassen; es wählt unter den Icon-Sätzen eines Xcode-Projekts</translation>
+  </message>
+  <message id="CLI_PROGRAM_ADVICE">
+    <source>name the icons in app.json instead, which the program is given</source>
+    <translation>die Icons stattdessen in app.json nennen; das Programm bekommt sie von dort</translation>
   </message>
   <message id="CLI_LEADS_OUTSIDE">
     <source>leads out of its folder</source>
@@ -5930,6 +5942,10 @@
   <message id="DETAIL_MAUI_SVG">
     <source>a .NET MAUI project takes an SVG file</source>
     <translation>ein Projekt mit .NET MAUI nimmt eine SVG-Datei</translation>
+  </message>
+  <message id="DETAIL_PROGRAM">
+    <source>it is a program that only Expo runs</source>
+    <translation>es ist ein Programm, das nur Expo ausführt</translation>
   </message>
   <message id="DETAIL_NOT_PUT_BACK">
     <source>[REASON]could not be put back: [FILES]</source>

@@ -4701,6 +4701,14 @@
     <source>the project names no icon set; its only one is used</source>
     <translation>the project names no icon set; its only one is used</translation>
   </message>
+  <message id="ICONS_BACKGROUND_KEPT">
+    <source>the background in the project is kept; --background replaces it</source>
+    <translation>the background in the project is kept; --background replaces it</translation>
+  </message>
+  <message id="ICONS_SETTINGS_NOT_READ">
+    <source>icons that these settings name are not found, since only their own tool can read them</source>
+    <translation>icons that these settings name are not found, since only their own tool can read them</translation>
+  </message>
   <message id="CLI_ICONS_FIT_ADVICE">
     <source>use a square picture of at least 512 x 512 pixels</source>
     <translation>use a square picture of at least 512 x 512 pixels</translation>
@@ -4784,6 +4792,10 @@
   <message id="CLI_NO_TARGET_ADVICE">
     <source>leave --target out; it chooses among the icon sets of an Xcode project</source>
     <translation>leave --target out; it chooses among the icon sets of an Xcode project</translation>
+  </message>
+  <message id="CLI_PROGRAM_ADVICE">
+    <source>name the icons in app.json instead, which the program is given</source>
+    <translation>name the icons in app.json instead, which the program is given</translation>
   </message>
   <message id="CLI_LEADS_OUTSIDE">
     <source>leads out of its folder</source>
@@ -5928,6 +5940,10 @@
   <message id="DETAIL_MAUI_SVG">
     <source>a .NET MAUI project takes an SVG file</source>
     <translation>a .NET MAUI project takes an SVG file</translation>
+  </message>
+  <message id="DETAIL_PROGRAM">
+    <source>it is a program that only Expo runs</source>
+    <translation>it is a program that only Expo runs</translation>
   </message>
   <message id="DETAIL_NOT_PUT_BACK">
     <source>[REASON]could not be put back: [FILES]</source>

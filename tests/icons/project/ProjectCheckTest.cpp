@@ -30,6 +30,15 @@ const Tree fullCordova = {
                       "<icon src=\"res/ios/60@2x.png\" width=\"120\" height=\"120\"/></platform>"
                       "<platform name=\"android\"><icon src=\"res/a/hdpi.png\" density=\"hdpi\"/></platform></widget>"},
 };
+const Tree adaptiveCordova = {
+    {u"config.xml"_s, "<widget xmlns=\"http://www.w3.org/ns/widgets\"><platform name=\"android\">"
+                      "<icon foreground=\"res/f.png\" background=\"res/b.png\" monochrome=\"res/m.png\" "
+                      "src=\"res/l.png\" density=\"xhdpi\"/></platform></widget>"},
+};
+const Tree namedElectron = {
+    {u"package.json"_s, "{\"devDependencies\":{\"electron\":\"30\"}}"},
+    {u"electron-builder.yml"_s, "mac:\n  icon: art/app.icns\nwin:\n  icon: art/app.ico\nlinux:\n  icon: art/app.png\n"},
+};
 const Tree plainCordova = {{u"config.xml"_s, "<widget xmlns=\"http://www.w3.org/ns/widgets\"/>"}};
 const Tree namedMaui = {
     {u"App.csproj"_s,
@@ -101,6 +110,7 @@ void ProjectCheckTest::everythingWrittenIsJudged_data()
     QTest::newRow("capacitor") << capacitor;
     QTest::newRow("cordova") << cordova;
     QTest::newRow("cordova, every element") << fullCordova;
+    QTest::newRow("cordova, adaptive") << adaptiveCordova;
     QTest::newRow("cordova, no element") << plainCordova;
     QTest::newRow("react native") << reactNative;
     QTest::newRow("expo") << expo;
@@ -109,6 +119,7 @@ void ProjectCheckTest::everythingWrittenIsJudged_data()
     QTest::newRow("tauri") << tauri;
     QTest::newRow("tauri, bundled") << bundledTauri;
     QTest::newRow("electron") << electron;
+    QTest::newRow("electron, named") << namedElectron;
     QTest::newRow("maui") << maui;
     QTest::newRow("maui, other names") << namedMaui;
     Tree xcodeAlone = xcode;
@@ -164,6 +175,8 @@ void ProjectCheckTest::broken_data()
     QTest::newRow("cordova, density") << fullCordova << u"res/a/hdpi.png"_s << wrong << size;
     QTest::newRow("cordova, store") << fullCordova << u"res/ios/1024.png"_s << transparent << store;
     QTest::newRow("cordova, cut") << fullCordova << u"icon.png"_s << cut << u"picture-unreadable"_s;
+    QTest::newRow("cordova, layer") << adaptiveCordova << u"res/f.png"_s << wrong << size;
+    QTest::newRow("cordova, missing layer") << adaptiveCordova << u"res/m.png"_s << none << missing;
     const QString mine = u"ios/Mine/Images.xcassets/AppIcon.appiconset/AppIcon.png"_s;
     QTest::newRow("react native, missing") << reactNative << mine << none << missing;
     QTest::newRow("react native, size") << reactNative << mine << wrong << size;
@@ -181,6 +194,8 @@ void ProjectCheckTest::broken_data()
         << store;
     QTest::newRow("electron, size") << electron << u"resources/icons/512x512.png"_s << wrong << size;
     QTest::newRow("electron, too small") << electron << u"resources/icon.png"_s << wrong << size;
+    QTest::newRow("electron, missing") << namedElectron << u"art/app.icns"_s << none << missing;
+    QTest::newRow("electron, broken") << namedElectron << u"art/app.ico"_s << QByteArray("MZ") << u"icon-file-broken"_s;
     QTest::newRow("electron, cut") << electron << u"resources/icons/64x64.png"_s << cut << u"picture-unreadable"_s;
     QTest::newRow("maui, missing") << namedMaui << u"Resources/AppIcon/logo.svg"_s << none << missing;
     QTest::newRow("maui, missing foreground") << namedMaui << u"Resources/AppIcon/fg.svg"_s << none << missing;
