@@ -1,9 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "tool/style/DropDownStyle.h"
+#include "tool/style/SliderStyle.h"
 
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QComboBox>
+#include <QLineEdit>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QSlider>
 #include <QTest>
+#include <QWheelEvent>
 
 #include <cmath>
 
@@ -63,6 +70,46 @@ private slots:
         const QImage rows = list->viewport()->grab().toImage();
         const int inList = list->viewport()->mapToGlobal(QPoint(startOfText(rows, row.adjusted(1, 4, -1, -4)), 0)).x();
         QVERIFY2(std::abs(inBox - inList) <= 1, qPrintable(u"%1 in the box, %2 in the list"_s.arg(inBox).arg(inList)));
+    }
+
+    void wheelScrollsWhatItLiesIn_data()
+    {
+        QTest::addColumn<bool>("isSlider");
+        QTest::newRow("drop-down") << false;
+        QTest::newRow("slider") << true;
+    }
+    void wheelScrollsWhatItLiesIn()
+    {
+        QFETCH(bool, isSlider);
+        QScrollArea area;
+        auto *content = new QWidget;
+        content->setFixedSize(200, 900);
+        auto *box = new QComboBox(content);
+        box->addItems({u"one"_s, u"two"_s, u"three"_s});
+        styleDropDown(box);
+        auto *slider = new QSlider(Qt::Horizontal, content);
+        slider->setValue(10);
+        styleSlider(slider, Qt::red);
+        slider->move(0, 60);
+        area.setWidget(content);
+        area.resize(240, 200);
+        auto *other = new QLineEdit(content);
+        other->move(0, 120);
+        area.show();
+        area.activateWindow();
+        other->setFocus();
+        QVERIFY(QTest::qWaitForWindowExposed(&area));
+        QWidget *control = isSlider ? static_cast<QWidget *>(slider) : box;
+        const QPointF place = control->rect().center();
+        QWheelEvent turn(place, control->mapToGlobal(place), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                         Qt::NoScrollPhase, false);
+        // Only an event of the desktop goes on to the parents.
+        QSpontaneKeyEvent::setSpontaneous(&turn);
+        qApp->notify(control, &turn);
+        QCOMPARE(box->currentIndex(), 0);
+        QCOMPARE(slider->value(), 10);
+        QVERIFY(!control->hasFocus());
+        QVERIFY(area.verticalScrollBar()->value() > 0);
     }
 };
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "DropDownStyle.h"
 
+#include "PassedWheel.h"
+
 #include <QComboBox>
 #include <QPainter>
 #include <QStyleOptionComboBox>
@@ -74,6 +76,7 @@ void styleDropDown(QComboBox *box)
     )"_s);
     // The box's own delegate ignores the style of the rows.
     box->setItemDelegate(new RowDelegate(box));
+    passWheel(box);
 }
 
 void frameDropDown(QComboBox *box)

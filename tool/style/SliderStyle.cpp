@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "SliderStyle.h"
 
+#include "PassedWheel.h"
 #include "widgets/style/Palette.h"
 
 #include <QSlider>
@@ -25,6 +26,7 @@ void styleSlider(QSlider *slider, const QColor &handle)
         QSlider::handle:horizontal { width: 16px; margin: -6px 0; border-radius: 8px; background: %2; }
         QSlider::handle:horizontal:focus { border: 2px solid %3; width: 12px; }
     )"_s.arg(palette::panelOutline.name(), handle.name(), palette::focusRing.name()));
+    passWheel(slider);
 }
 
 } // namespace lumora
