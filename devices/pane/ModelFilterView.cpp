@@ -13,6 +13,7 @@
 #include "widgets/buttons/IconButton.h"
 #include "widgets/style/Fonts.h"
 #include "widgets/style/Palette.h"
+#include "widgets/style/SlimScrollBars.h"
 
 #include <QComboBox>
 #include <QLabel>
@@ -32,7 +33,7 @@ namespace
 
 constexpr int headingSize = 15;
 constexpr int fieldHeight = 36;
-/// The list of requirements is wider than the rest, so that its scroll bar is beside it.
+/// The scroll bar of the requirements is in the margin, so that they are as wide as the field and the button.
 constexpr int sideMargin = 16;
 
 QString keyText(std::string_view key)
@@ -59,6 +60,8 @@ ModelFilterView::ModelFilterView(std::span<const DeviceModel> models, QWidget *p
     area->setFrameShape(QFrame::NoFrame);
     area->setFocusPolicy(Qt::NoFocus);
     area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    // The requirements keep their width when it is not needed; it is not painted then.
+    area->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     area->setWidgetResizable(true);
     area->setWidget(makeRequirements());
     area->viewport()->setAutoFillBackground(false);
@@ -139,8 +142,13 @@ void ModelFilterView::addHeading(QVBoxLayout *column, const QString &text)
 QWidget *ModelFilterView::makeRequirements()
 {
     auto *content = new QWidget;
-    auto *column = new QVBoxLayout(content);
-    column->setContentsMargins(sideMargin, 0, sideMargin, 0);
+    auto *row = new QHBoxLayout(content);
+    row->setContentsMargins({});
+    row->setSpacing(0);
+    auto *column = new QVBoxLayout;
+    row->addSpacing(sideMargin);
+    row->addLayout(column, 1);
+    row->addSpacing(sideMargin - SlimScrollBars::extent);
     column->setSpacing(8);
     column->addWidget(m_range);
     addHeading(column, qtTrId("DEVICES_FAMILY"));

@@ -20,6 +20,8 @@ namespace
 constexpr int nameSize = 13;
 constexpr int detailSize = 12;
 constexpr int padding = 8;
+constexpr int linePadding = 4;
+constexpr int lineHeight = 16;
 constexpr int markSide = 16;
 constexpr qreal radius = 6;
 constexpr qreal ringWidth = 2;
@@ -40,6 +42,7 @@ ModelTile::ModelTile(const ModelGroup &group, QWidget *parent)
     : PaintedButton(QAccessible::Button, parent), m_detail(detailOf(group))
 {
     setText(modelName(group));
+    m_nameWidth = QFontMetrics(latoBold(nameSize)).horizontalAdvance(text());
     setFocusPolicy(Qt::ClickFocus);
     describe();
 }
@@ -76,10 +79,25 @@ void ModelTile::describe()
     setToolTip(m_verdict.fits ? qtTrId("DEVICES_TILE_TIP") : why);
 }
 
+QStringList ModelTile::nameLines(int width) const
+{
+    const QString name = text();
+    const qsizetype additions = name.lastIndexOf(u" ("_s);
+    if (m_nameWidth <= width - 2 * padding || additions <= 0)
+        return {name};
+    return {name.first(additions), name.sliced(additions + 1)};
+}
+
+int ModelTile::heightFor(int width) const
+{
+    const auto lines = static_cast<int>(nameLines(width).size()) + static_cast<int>(m_detail.count(u'\n')) + 1;
+    return lines * lineHeight + 2 * linePadding;
+}
+
 QRect ModelTile::markPlace() const
 {
     const int x = layoutDirection() == Qt::RightToLeft ? padding : width() - padding - markSide;
-    return {x, padding, markSide, markSide};
+    return {x, height() - padding - markSide, markSide, markSide};
 }
 
 void ModelTile::keyPressEvent(QKeyEvent *event)
@@ -133,20 +151,20 @@ void ModelTile::drawRect(QPainter &painter)
     }
     const bool mirrored = layoutDirection() == Qt::RightToLeft;
     const auto side = (mirrored ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignAbsolute | Qt::TextSingleLine;
-    const QRect area = rect().adjusted(padding, 4, -padding, -4);
-    const int lineHeight = area.height() / 3;
+    const QRect area = rect().adjusted(padding, linePadding, -padding, -linePadding);
     painter.setPen(palette::chromeText);
-    const auto draw = [&](int line, const QFont &font, const QString &text, int reserved) {
-        QRect place(area.x(), area.y() + line * lineHeight, area.width() - reserved, lineHeight);
-        if (mirrored)
-            place.translate(reserved, 0);
+    int line = 0;
+    const auto draw = [&](const QFont &font, const QString &text) {
+        const QRect place(area.x(), area.y() + line * lineHeight, area.width(), lineHeight);
         painter.setFont(font);
         painter.drawText(place, static_cast<int>(side | Qt::AlignVCenter),
                          QFontMetrics(font).elidedText(text, Qt::ElideRight, place.width()));
+        ++line;
     };
-    draw(0, latoBold(nameSize), text(), isHovered() || m_isCompared ? markSide + padding : 0);
-    draw(1, latoRegular(detailSize), m_detail.section(u'\n', 0, 0), 0);
-    draw(2, latoRegular(detailSize), m_detail.section(u'\n', 1), 0);
+    for (const QString &part : nameLines(width()))
+        draw(latoBold(nameSize), part);
+    for (const QString &detail : m_detail.split(u'\n'))
+        draw(latoRegular(detailSize), detail);
 }
 
 void ModelTile::drawFocusRing(QPainter &painter)

@@ -33,7 +33,8 @@ float alphaOf(const ModelTile &tile)
 ModelTileMetrics metricsFor(int width)
 {
     ModelTileMetrics metrics;
-    const int inner = width - 2 * metrics.margin;
+    metrics.endMargin = ModelTiles::endMargin;
+    const int inner = width - metrics.margin - metrics.endMargin;
     const int columns = std::max((inner + metrics.gap) / (metrics.tile.width() + metrics.gap), 1);
     metrics.tile.setWidth((inner + metrics.gap) / columns - metrics.gap);
     return metrics;
@@ -98,18 +99,22 @@ int ModelTiles::filter(const ModelFilter &filter)
         for (ModelTile *tile : m_tiles)
             tile->setAlpha(alphaOf(*tile));
     }
-    scrollToFitting();
+    const bool isNewSearch = !filter.search.isEmpty() && filter.search != m_search;
+    m_search = filter.search;
+    scrollToFitting(isNewSearch);
     return fitting;
 }
 
-void ModelTiles::scrollToFitting()
+void ModelTiles::scrollToFitting(bool isNewSearch)
 {
     const QRect view(0, verticalScrollBar()->value(), viewport()->width(), viewport()->height());
     const auto fits = [](const ModelTile *tile) { return tile->verdict().fits; };
     const auto first = std::ranges::find_if(m_tiles, fits);
     const bool isSeen = std::ranges::any_of(
         m_tiles, [&](const ModelTile *tile) { return fits(tile) && view.intersects(tile->geometry()); });
-    if (first != m_tiles.end() && !isSeen)
+    if (first == m_tiles.end())
+        return;
+    if (!isSeen || (isNewSearch && !view.contains((*first)->geometry())))
         verticalScrollBar()->setValue((*first)->y() - view.height() / 3);
 }
 
@@ -146,7 +151,12 @@ void ModelTiles::changeEvent(QEvent *event)
 void ModelTiles::layOut()
 {
     const int width = viewport()->width();
-    const ModelLayout layout = layOutModels(m_groups, width, metricsFor(width));
+    const ModelTileMetrics metrics = metricsFor(width);
+    std::vector<int> heights;
+    heights.reserve(m_tiles.size());
+    for (const ModelTile *tile : m_tiles)
+        heights.push_back(tile->heightFor(metrics.tile.width()));
+    const ModelLayout layout = layOutModels(m_groups, width, metrics, heights);
     const bool mirrored = layoutDirection() == Qt::RightToLeft;
     const auto placed = [mirrored, width](QRect place) {
         if (mirrored)

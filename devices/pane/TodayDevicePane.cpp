@@ -11,6 +11,7 @@
 #include "widgets/buttons/IconButton.h"
 #include "widgets/style/Fonts.h"
 #include "widgets/style/Palette.h"
+#include "widgets/style/SlimScrollBars.h"
 
 #include <QApplication>
 #include <QHBoxLayout>
@@ -35,6 +36,8 @@ constexpr int sideMargin = 16;
 constexpr int countSize = 13;
 /// The switch between the sides is in the corner.
 constexpr int cornerWidth = 176;
+/// From the panel's edge to the end of the switch, and of the tiles below.
+constexpr int switchMargin = 24;
 
 void styleSmall(IconButton *button)
 {
@@ -73,7 +76,11 @@ TodayDevicePane::TodayDevicePane(std::span<const DeviceModel> models, QWidget *p
     auto *rightColumn = new QVBoxLayout(right);
     rightColumn->setContentsMargins(0, 8, 0, 8);
     rightColumn->addLayout(header);
-    rightColumn->addWidget(m_pages, 1);
+    auto *pages = new QHBoxLayout;
+    pages->setSpacing(0);
+    pages->addWidget(m_pages);
+    pages->addSpacing(switchMargin - ModelTiles::endMargin - SlimScrollBars::extent);
+    rightColumn->addLayout(pages, 1);
 
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(margin, margin, margin, margin);

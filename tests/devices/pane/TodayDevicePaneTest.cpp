@@ -14,6 +14,9 @@
 #include "tests/doubles/RecordingServices.h"
 #include "widgets/buttons/CheckboxButton.h"
 #include "widgets/buttons/IconButton.h"
+#include "widgets/buttons/SegmentedControl.h"
+#include "widgets/style/AppStyle.h"
+#include "widgets/style/Fonts.h"
 
 #include <QAccessible>
 #include <QComboBox>
@@ -57,7 +60,11 @@ private:
     static void press(QWidget *button) { QTest::mouseClick(button, Qt::LeftButton); }
 
 private slots:
-    void initTestCase() { installTexts(*QCoreApplication::instance(), QLocale(u"en"_s)); }
+    void initTestCase()
+    {
+        installTexts(*QCoreApplication::instance(), QLocale(u"en"_s));
+        applyAppStyle();
+    }
     void init()
     {
         m_services = std::make_unique<RecordingServices>();
@@ -176,6 +183,45 @@ private slots:
         const int before = bar->value();
         filters()->search()->clear();
         QCOMPARE(bar->value(), before);
+        // A search begins with its first model, even if others are in view.
+        filters()->search()->setText(u"pro"_s);
+        QVERIFY(!tile(u"iPhone 18 Pro"_s)->visibleRegion().isEmpty());
+    }
+
+    void everyNameIsWhole_data()
+    {
+        QTest::addColumn<int>("width");
+        QTest::newRow("smallest window") << 835;
+        QTest::newRow("wide window") << 1440;
+    }
+    void everyNameIsWhole()
+    {
+        QFETCH(const int, width);
+        m_controller->view()->resize(width, 600);
+        int twoLines = 0;
+        for (const ModelTile *each : pane()->tiles()->tiles()) {
+            const QStringList lines = each->nameLines(each->width());
+            QCOMPARE(lines.join(u' '), each->text());
+            for (const QString &line : lines)
+                QVERIFY2(QFontMetrics(latoBold(13)).horizontalAdvance(line) <= each->width() - 16, qPrintable(line));
+            QVERIFY(each->height() >= each->heightFor(each->width()));
+            twoLines += lines.size() == 2 ? 1 : 0;
+        }
+        QVERIFY(twoLines > 0);
+    }
+
+    void everythingEndsInOneLine()
+    {
+        const auto endOf = [](const QWidget *widget, const QWidget *in) {
+            return widget->mapTo(in, QPoint(widget->width(), 0)).x();
+        };
+        const QWidget *view = m_controller->view();
+        const int end = endOf(m_controller->sides()->control(), view);
+        int last = 0;
+        for (const ModelTile *each : pane()->tiles()->tiles())
+            last = std::max(last, endOf(each, view));
+        QVERIFY2(std::abs(end - last) <= 2, qPrintable(u"switch %1, tiles %2"_s.arg(end).arg(last)));
+        QCOMPARE(endOf(filters()->range(), view), endOf(filters()->search(), view));
     }
 
     void rangeTellsTheShareThatRemains()
@@ -270,7 +316,7 @@ private slots:
         QVERIFY(!compare->isEnabled());
         QTest::mouseClick(tile(u"iPhone 16"_s), Qt::LeftButton, Qt::ControlModifier);
         ModelTile *third = tile(u"iPhone 16 Pro"_s);
-        QTest::mouseClick(third, Qt::LeftButton, {}, QPoint(third->width() - 16, 16));
+        QTest::mouseClick(third, Qt::LeftButton, {}, QPoint(third->width() - 16, third->height() - 16));
         QCOMPARE(compared(), (QStringList{u"iPhone 17"_s, u"iPhone 16"_s, u"iPhone 16 Pro"_s}));
         QVERIFY(third->accessibleDescription().contains(u"in the comparison"_s));
         // A fourth takes the first one's place; the same again takes it out.
@@ -311,7 +357,8 @@ private slots:
         int columns = 0;
         for (std::size_t index = 0; index < tiles.size(); ++index) {
             const QRect place = tiles[index]->geometry();
-            QVERIFY(place.left() >= 16 && place.right() < viewWidth - 16);
+            const int start = direction == Qt::LeftToRight ? place.left() : viewWidth - 1 - place.right();
+            QVERIFY(start >= 16 && start + place.width() <= viewWidth - ModelTiles::endMargin);
             columns += place.y() == tiles[0]->y() ? 1 : 0;
             for (std::size_t other = 0; other < index; ++other)
                 QVERIFY(!place.intersects(tiles[other]->geometry()));
@@ -319,7 +366,7 @@ private slots:
         // The rows are filled to the margins.
         const QRect first = tiles[0]->geometry();
         QCOMPARE(direction == Qt::LeftToRight ? first.left() : viewWidth - 1 - first.right(), 16);
-        QVERIFY(viewWidth - 32 - columns * first.width() - (columns - 1) * 8 < columns);
+        QVERIFY(viewWidth - 16 - ModelTiles::endMargin - columns * first.width() - (columns - 1) * 8 < columns);
         QCOMPARE(columns, width == 835 ? 3 : 7);
     }
 };

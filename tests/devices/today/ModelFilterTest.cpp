@@ -260,6 +260,21 @@ private slots:
         if (width >= 500)
             QVERIFY(std::ranges::all_of(layout.tiles, [width](const QRect &tile) { return tile.right() < width; }));
     }
+
+    void rowsAreAsHighAsTheirHighestTile()
+    {
+        const std::vector<ModelGroup> groups = groupedModels(builtInModels());
+        std::vector<int> heights(groups.size(), 56);
+        heights[1] = 72;
+        const ModelTileMetrics metrics;
+        const int twoColumns = 2 * metrics.tile.width() + metrics.gap + metrics.margin + metrics.endMargin;
+        const ModelLayout layout = layOutModels(groups, twoColumns, metrics, heights);
+        QCOMPARE(layout.tiles[0].height(), 72);
+        QCOMPARE(layout.tiles[1].height(), 72);
+        QCOMPARE(layout.tiles[2].height(), 56);
+        QCOMPARE(layout.tiles[2].top(), layout.tiles[0].top() + 72 + metrics.gap);
+        QCOMPARE(layout.tiles.back().top() + 56 + metrics.margin, layout.height);
+    }
 };
 
 QTEST_GUILESS_MAIN(ModelFilterTest)
