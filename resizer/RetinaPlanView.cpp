@@ -4,6 +4,7 @@
 #include "tool/JobResult.h"
 #include "tool/style/ButtonStyle.h"
 #include "tool/style/LabelStyle.h"
+#include "tool/style/TableStyle.h"
 #include "widgets/buttons/HoverButton.h"
 #include "widgets/style/Fonts.h"
 #include "widgets/style/Palette.h"
@@ -65,19 +66,9 @@ void RetinaPlanView::setUpList()
     m_list->setAccessibleName(qtTrId("RESIZER_PLAN"));
     m_list->setRootIsDecorated(false);
     m_list->setUniformRowHeights(true);
-    m_list->setStyleSheet(u"QTreeView { border: 1px solid palette(mid); border-radius: 4px; }"
-                          "QTreeView::item { padding: 4px 6px; }"
-                          "QHeaderView::section { background: palette(window); border: 0; padding: 6px; }"_s);
-    m_list->setFont(latoRegular(13));
-    m_list->header()->setFont(latoBold(13));
-    m_list->header()->setSectionsMovable(false);
+    styleTable(m_list, palette::resizer);
     m_list->setColumnWidth(Name, nameWidth);
     m_list->setColumnWidth(Now, sizeWidth);
-    m_list->setTextElideMode(Qt::ElideMiddle);
-    QPalette colors = m_list->palette();
-    colors.setColor(QPalette::Text, palette::chromeText);
-    colors.setColor(QPalette::Highlight, palette::resizer);
-    m_list->setPalette(colors);
 }
 
 void RetinaPlanView::setPlan(const std::vector<PlannedPicture> &plan)

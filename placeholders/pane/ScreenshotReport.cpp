@@ -2,6 +2,8 @@
 #include "ScreenshotReport.h"
 
 #include "tool/style/DropDownStyle.h"
+#include "tool/style/TableStyle.h"
+#include "tool/style/WrappedRows.h"
 #include "widgets/style/Fonts.h"
 #include "widgets/style/Palette.h"
 
@@ -23,6 +25,7 @@ enum StoreChoice { EitherStore, AppStoreOnly, PlayOnly };
 constexpr int textSize = 13;
 constexpr int indentation = 14;
 constexpr int fieldHeight = 36;
+constexpr int belowList = 8;
 constexpr std::size_t rowLimit = 1000;
 
 std::set<ScreenshotStore> storesOf(int choice)
@@ -52,14 +55,10 @@ ScreenshotReport::ScreenshotReport(QWidget *parent)
     m_list->setHeaderHidden(true);
     m_list->setIndentation(indentation);
     m_list->setAccessibleName(qtTrId("SHOT_FINDINGS"));
-    m_list->setStyleSheet(u"QTreeView::item { padding: 3px 2px; }"_s);
-    m_list->setFont(latoRegular(textSize));
-    QPalette colors = m_list->palette();
-    colors.setColor(QPalette::Text, palette::chromeText);
-    colors.setColor(QPalette::Highlight, palette::placeholders);
-    m_list->setPalette(colors);
+    styleTable(m_list, palette::placeholders);
+    wrapRows(m_list);
     auto *column = new QVBoxLayout(this);
-    column->setContentsMargins({});
+    column->setContentsMargins(0, 0, 0, belowList);
     column->addWidget(m_stores, 0, Qt::AlignLeading);
     column->addWidget(m_list, 1);
     connect(m_stores, &QComboBox::currentIndexChanged, this, &ScreenshotReport::judge);

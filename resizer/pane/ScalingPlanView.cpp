@@ -2,6 +2,7 @@
 #include "ScalingPlanView.h"
 
 #include "tool/FailureText.h"
+#include "tool/style/TableStyle.h"
 #include "widgets/style/Fonts.h"
 #include "widgets/style/Palette.h"
 
@@ -61,17 +62,9 @@ ScalingPlanView::ScalingPlanView(QWidget *parent) : QTreeWidget(parent)
     setHeaderLabels({qtTrId("SCALER_PLAN_FILE"), qtTrId("SCALER_PLAN_SIZE"), qtTrId("SCALER_PLAN_NOTE")});
     setAccessibleName(qtTrId("SCALER_PLAN"));
     setUniformRowHeights(true);
-    setStyleSheet(u"QTreeView::item { padding: 3px 2px; }"_s);
-    setFont(latoRegular(textSize));
-    header()->setFont(latoBold(textSize));
-    header()->setSectionsMovable(false);
+    styleTable(this, palette::resizer);
     setColumnWidth(Name, nameWidth);
     setColumnWidth(Size, sizeWidth);
-    setTextElideMode(Qt::ElideMiddle);
-    QPalette colors = palette();
-    colors.setColor(QPalette::Text, palette::chromeText);
-    colors.setColor(QPalette::Highlight, palette::resizer);
-    setPalette(colors);
 }
 
 void ScalingPlanView::setPlan(const DensityPlan &plan)
