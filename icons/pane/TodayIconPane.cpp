@@ -59,6 +59,8 @@ constexpr int statusHeight = 18;
 constexpr int leastSnippetHeight = 40;
 constexpr int progressHeight = 20;
 constexpr QSize leastIcon(64, 64);
+/// Of the icon's view, which gets what is left of the height until it is a square.
+constexpr int iconStretch = 1000;
 
 QString nameOf(TodaySet set)
 {
@@ -146,6 +148,8 @@ QWidget *TodayIconPane::makeSources()
     m_dropView->setFixedWidth(leftWidth);
     m_iconView->setAccessibleName(qtTrId("ACCESSIBLE_ICONS_SOURCE"));
     m_iconView->setMinimumSize(leastIcon);
+    // Its title stays below it in a high window.
+    m_iconView->setMaximumHeight(leftWidth - 2 * narrowPadding);
     m_iconView->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     styleLabel(m_title, latoBold(15), palette::chromeText);
     for (ElidedLabel *label : {m_title, m_status})
@@ -158,13 +162,14 @@ QWidget *TodayIconPane::makeSources()
     auto *lines = new QVBoxLayout(m_dropView);
     lines->setContentsMargins(narrowPadding, narrowPadding, narrowPadding, narrowPadding);
     lines->setSpacing(4);
-    lines->addWidget(m_iconView, 1);
+    lines->addWidget(m_iconView, iconStretch);
     lines->addWidget(m_title);
     lines->addWidget(m_status);
     lines->addWidget(m_browse);
     lines->addWidget(m_stop);
     m_stop->hide();
     lines->addSpacing(gap);
+    lines->addStretch(1);
     auto *grid = new QGridLayout;
     grid->setSpacing(8);
     for (const FurtherSource source : furtherSources) {
@@ -208,9 +213,8 @@ QWidget *TodayIconPane::makeSets()
     auto *start = new QWidget;
     auto *buttons = new QHBoxLayout(start);
     buttons->setContentsMargins({});
-    buttons->setSpacing(4);
+    buttons->setSpacing(gap);
     buttons->addWidget(m_name, 1);
-    buttons->addSpacing(8);
     buttons->addWidget(m_all);
     buttons->addWidget(m_generate);
     auto *running = new QWidget;
@@ -254,6 +258,9 @@ QWidget *TodayIconPane::makeSnippets()
     styleDropDown(m_snippetSets);
     m_snippet->setReadOnly(true);
     m_snippet->setFrameShape(QFrame::NoFrame);
+    m_snippet->setStyleSheet(u"QPlainTextEdit { background: palette(base); border: 2px solid palette(base); "
+                             u"border-radius: 5px; padding: 4px; }"
+                             "QPlainTextEdit:focus { border-color: palette(highlight); }"_s);
     m_snippet->setLineWrapMode(QPlainTextEdit::NoWrap);
     // Code is written from the left in every language.
     m_snippet->setLayoutDirection(Qt::LeftToRight);
@@ -316,10 +323,14 @@ QList<TodaySet> TodayIconPane::chosenSets() const
 
 void TodayIconPane::toggle(TodaySet set)
 {
-    const bool isChosen = !box(set)->isActive();
-    box(set)->setActive(isChosen);
-    if (isChosen)
+    setChosen(set, !box(set)->isActive());
+    if (box(set)->isActive())
         m_snippetSets->setCurrentIndex(m_snippetSets->findData(static_cast<int>(set)));
+}
+
+void TodayIconPane::setChosen(TodaySet set, bool isChosen)
+{
+    box(set)->setActive(isChosen);
     emit setToggled(set, isChosen);
 }
 
@@ -328,7 +339,7 @@ void TodayIconPane::toggleAll()
     const bool isAll = chosenSets().size() == static_cast<qsizetype>(offeredSets.size());
     for (const TodaySet set : offeredSets) {
         if (box(set)->isActive() == isAll)
-            toggle(set);
+            setChosen(set, !isAll);
     }
 }
 

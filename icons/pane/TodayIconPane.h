@@ -90,6 +90,7 @@ private:
     QWidget *makeSnippets();
     QWidget *makePreviews();
     void toggle(TodaySet set);
+    void setChosen(TodaySet set, bool isChosen);
     void toggleAll();
     void showStatus(const QString &text, bool isRefusal);
 

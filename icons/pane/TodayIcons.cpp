@@ -235,7 +235,9 @@ Artwork &TodayIcons::artworkOf(FurtherSource source)
 void TodayIcons::refuse(const Failure &failure, const QString &path, QWidget *control)
 {
     const QString name = QFileInfo(path).fileName();
-    m_pane->setStatus(name + u": "_s + failureReason(failure), true);
+    // The line below the icon is the icon's.
+    if (control == m_pane->browseButton())
+        m_pane->setStatus(name + u": "_s + failureReason(failure), true);
     emit messageWanted(
         qtTrId("ICONS_ALERT_TITLE"),
         qtTrId("ICONS_TODAY_REFUSED").replace("[WHAT]"_L1, failureReason(failure)).replace("[FILE]"_L1, name), control,

@@ -4,6 +4,7 @@
 #include "foundation/WholeFile.h"
 #include "icons/check/IconCheck.h"
 
+#include <QComboBox>
 #include <QDir>
 #include <QDirIterator>
 #include <QListWidget>
@@ -136,8 +137,10 @@ private slots:
     {
         pane()->generateButton()->click();
         QCOMPARE(m_scene->popupTitle(), u"No platform chosen"_s);
+        const QString before = pane()->snippetSets()->currentText();
         pane()->allButton()->click();
         QCOMPARE(pane()->chosenSets().size(), qsizetype{7});
+        QVERIFY2(pane()->snippetSets()->currentText() == before, "no set is the one that was meant");
         pane()->allButton()->click();
         QVERIFY(pane()->chosenSets().isEmpty());
     }

@@ -84,6 +84,39 @@ private slots:
         QCOMPARE(pane()->title()->text(), u"disk.png"_s);
     }
 
+    void aRefusalIsSaidWhereItHappened_data()
+    {
+        QTest::addColumn<bool>("isFurther");
+        QTest::newRow("icon") << false;
+        QTest::newRow("further source") << true;
+    }
+    void aRefusalIsSaidWhereItHappened()
+    {
+        QFETCH(bool, isFurther);
+        const QString flat = saved(m_folder, u"flat.png"_s, QImage(600, 500, QImage::Format_RGB32));
+        drop(isFurther ? static_cast<QWidget *>(pane()->well(FurtherSource::Dark)) : pane()->dropView(), flat);
+        QTRY_COMPARE(m_scene->popupTitle(), qtTrId("ICONS_ALERT_TITLE"));
+        QVERIFY(m_scene->popupMessage().contains(u"flat.png"_s));
+        QCOMPARE(pane()->statusLabel()->text().contains(u"flat.png"_s), !isFurther);
+    }
+
+    void titleStaysBelowTheIcon_data()
+    {
+        QTest::addColumn<int>("height");
+        QTest::newRow("smallest window") << 660;
+        QTest::newRow("high window") << 1200;
+    }
+    void titleStaysBelowTheIcon()
+    {
+        QFETCH(int, height);
+        m_scene->window.resize(900, height);
+        m_scene->tool.view()->resize(835, height - 60);
+        QTRY_COMPARE(pane()->height(), height - 60);
+        const QRect icon = pane()->iconView()->geometry();
+        QVERIFY(icon.height() <= icon.width());
+        QVERIFY(pane()->title()->geometry().top() - icon.bottom() <= 8);
+    }
+
     void aSlowReadIsStopped_data()
     {
         QTest::addColumn<bool>("isFurther");
