@@ -28,6 +28,8 @@ constexpr int titleHeight = 28;
 constexpr int rowGap = 12;
 /// The list itself is wider, so that its scroll bar is beside the buttons in both directions of reading.
 constexpr int sideMargin = 16;
+/// In a wide window the codes and their buttons stay together.
+constexpr int mostWidth = 720;
 
 QStringList platformNames()
 {
@@ -69,7 +71,10 @@ FormListView::FormListView(QWidget *parent)
     column->addWidget(title);
     auto *platformRow = new QHBoxLayout;
     platformRow->setContentsMargins(sideMargin, 0, sideMargin, 0);
-    platformRow->addWidget(m_platforms);
+    m_platforms->setMaximumWidth(mostWidth);
+    platformRow->addWidget(m_platforms, 1);
+    // Takes what they leave.
+    platformRow->addStretch(0);
     column->addLayout(platformRow);
     auto *gamutRow = new QHBoxLayout;
     gamutRow->setContentsMargins(sideMargin, 0, sideMargin, 0);
@@ -90,6 +95,7 @@ QWidget *FormListView::makeRows()
     for (int index = 0; index < count; ++index) {
         const QKeySequence keys = keysOf(index);
         auto *row = new FormRowView(keys, content);
+        row->setMaximumWidth(mostWidth);
         column->addWidget(row);
         m_rows.push_back(row);
         connect(row, &FormRowView::copied, this, &FormListView::copied);

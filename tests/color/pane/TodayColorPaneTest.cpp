@@ -52,6 +52,20 @@ private slots:
         QCOMPARE(m_controller->today()->color().space, RgbSpace::DisplayP3);
     }
 
+    void buttonsStayBesideTheirCodes()
+    {
+        m_controller->view()->resize(1800, 900);
+        const FormRowView *row = pane()->forms()->rows().front();
+        QTRY_VERIFY(row->width() > 500);
+        QCoreApplication::processEvents();
+        QVERIFY2(row->width() <= 720, qPrintable(QString::number(row->width())));
+        QVERIFY(
+            std::abs(
+                row->mapTo(pane(), QPoint(row->width(), 0)).x() -
+                pane()->forms()->platforms()->mapTo(pane(), QPoint(pane()->forms()->platforms()->width(), 0)).x()) <=
+            1);
+    }
+
     void fieldUnderstandsEveryForm_data()
     {
         QTest::addColumn<QString>("text");
