@@ -6,6 +6,7 @@
 #include "validator/ReportBody.h"
 #include "validator/findings/FindingHeader.h"
 #include "validator/findings/FindingRow.h"
+#include "validator/findings/FindingWords.h"
 #include "validator/findings/FindingsView.h"
 #include "validator/findings/ReviewSections.h"
 #include "validator/findings/SizeBar.h"
@@ -19,6 +20,7 @@
 #include <QJsonDocument>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScopeGuard>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -274,6 +276,25 @@ private slots:
             QVERIFY2(text.contains(part), qPrintable(part + u" in\n"_s + text));
         QVERIFY(pane.tool.reviewSections()->sizeBar()->words().startsWith(u"Code "));
         QVERIFY(pane.tool.reportText().contains(u"Signature: valid"));
+    }
+
+    void yearsHaveAllDigits_data()
+    {
+        QTest::addColumn<QString>("locale");
+        QTest::addColumn<QString>("day");
+        QTest::newRow("German") << u"de_DE"_s << u"02.11.2027"_s;
+        QTest::newRow("American") << u"en_US"_s << u"11/2/2027"_s;
+        QTest::newRow("British") << u"en_GB"_s << u"02/11/2027"_s;
+    }
+    void yearsHaveAllDigits()
+    {
+        QFETCH(QString, locale);
+        QFETCH(QString, day);
+        const auto restore = qScopeGuard([old = QLocale()] { QLocale::setDefault(old); });
+        QLocale::setDefault(QLocale(locale));
+        const QDateTime expires(QDate(2027, 11, 2), QTime(12, 0));
+        const QString text = expiryText(expires, expires.addDays(-10));
+        QVERIFY2(text.contains(u'(' + day + u')'), qPrintable(text));
     }
 
     void replacesTheFirstPackage()

@@ -21,6 +21,15 @@ QString countText(qsizetype count, const char *one, const char *several)
     return count == 1 ? qtTrId(one) : qtTrId(several).replace("[COUNT]"_L1, QLocale().toString(count));
 }
 
+/// The locale's short one, with all digits of the year: 02.11.27 may be any of three days.
+QString shortDateFormat()
+{
+    QString format = QLocale().dateFormat(QLocale::ShortFormat);
+    if (!format.contains("yyyy"_L1))
+        format.replace("yy"_L1, "yyyy"_L1);
+    return format;
+}
+
 } // namespace
 
 QString bundleKindText(BundleKind kind)
@@ -49,7 +58,7 @@ QString expiryText(const QDateTime &expires, const QDateTime &now)
 {
     if (!expires.isValid())
         return {};
-    const QString day = QLocale().toString(expires.toLocalTime().date(), QLocale::ShortFormat);
+    const QString day = QLocale().toString(expires.toLocalTime().date(), shortDateFormat());
     const qint64 days = now.daysTo(expires);
     if (expires < now)
         return qtTrId("REVIEW_EXPIRED").replace("[DATE]"_L1, day);

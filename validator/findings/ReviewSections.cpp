@@ -117,15 +117,19 @@ void ReviewSections::addSection(const QString &title, const NamedValues &values)
     for (const auto &[name, value] : values) {
         const int row = grid->rowCount();
         const QString shown = shownFact(value);
-        auto *nameLabel = new QLabel(breakingLongWords(shownFact(name)));
-        styleLabel(nameLabel, latoBold(textSize), palette::chromeText);
         auto *valueLabel = new QLabel(breakingLongWords(shown));
         styleLabel(valueLabel, latoRegular(textSize), palette::chromeText);
         valueLabel->setAccessibleName(name.isEmpty() ? shown : QString(shownFact(name) + u": "_s + shown));
-        for (QLabel *label : {nameLabel, valueLabel})
-            label->setWordWrap(true);
-        grid->addWidget(nameLabel, row, 0, Qt::AlignTop);
-        grid->addWidget(valueLabel, row, 1, Qt::AlignTop);
+        valueLabel->setWordWrap(true);
+        if (name.isEmpty()) {
+            grid->addWidget(valueLabel, row, 0, 1, 2, Qt::AlignTop);
+        } else {
+            auto *nameLabel = new QLabel(breakingLongWords(shownFact(name)));
+            styleLabel(nameLabel, latoBold(textSize), palette::chromeText);
+            nameLabel->setWordWrap(true);
+            grid->addWidget(nameLabel, row, 0, Qt::AlignTop);
+            grid->addWidget(valueLabel, row, 1, Qt::AlignTop);
+        }
         m_lines += u"  "_s + (name.isEmpty() ? QString() : shownFact(name) + u": "_s) + shown;
     }
     column->addLayout(grid);
