@@ -28,22 +28,30 @@ struct Accepted
     double whole = 1.0;
     double least = 0.0;
     double most = 1.0;
+    /// A value below or above the range counts as its end; otherwise it is refused.
+    bool clampedBelow = true;
+    bool clampedAbove = true;
     /// The factor for a plain number.
     double unit = 1.0;
 };
 
 using Arguments = std::array<Accepted, 3>;
 
-constexpr double anything = 1e6;
-constexpr Accepted hue{true, false, true, 1.0, -anything, anything, 1.0};
+// What is clamped and what is not: drafts.csswg.org/css-color-4, and Chromium 156. Chromium clamps the saturation of
+// hsl(210 150% 40%), but not that of hsl(210 150 40); here both are clamped. A hue may be any angle.
+constexpr double anything = 1e300;
+// color() and the opponent axes state colors beyond every screen, too, but none as far out as this.
+constexpr double farthest = 3.0;
+constexpr Accepted hue{true, false, true, 1.0, -anything, anything};
 constexpr Accepted share{false, true};
-constexpr Accepted shareOrHundred{true, true, false, 1.0, 0.0, 100.0, 0.01};
-constexpr Accepted byteOrShare{true, true, false, 1.0, 0.0, 255.0, 1.0 / 255.0};
+constexpr Accepted shareOrHundred{true, true, false, 1.0, 0.0, 100.0, true, true, 0.01};
+// Whiteness and blackness beyond 100 % are a gray in their proportion.
+constexpr Accepted part{true, true, false, 1.0, 0.0, 1e4, true, false, 0.01};
+constexpr Accepted byteOrShare{true, true, false, 1.0, 0.0, 255.0, true, true, 1.0 / 255.0};
 constexpr Accepted lightness{true, true};
-constexpr Accepted chroma{true, true, false, 0.4, 0.0, 1.0, 1.0};
-constexpr Accepted axis{true, true, false, 0.4, -1.0, 1.0, 1.0};
-// color() states colors beyond its own space by components beyond 0 to 1.
-constexpr Accepted component{true, true, false, 1.0, -2.0, 3.0, 1.0};
+constexpr Accepted chroma{true, true, false, 0.4, 0.0, farthest, true, false};
+constexpr Accepted axis{true, true, false, 0.4, -farthest, farthest, false, false};
+constexpr Accepted component{true, true, false, 1.0, -farthest, farthest, false, false};
 
 std::optional<double> argument(const CssValue &value, const Accepted &accepted)
 {
@@ -52,22 +60,25 @@ std::optional<double> argument(const CssValue &value, const Accepted &accepted)
     case CssValue::Kind::None:
         return 0.0;
     case CssValue::Kind::Number:
-        if (!accepted.number || value.number < accepted.least || value.number > accepted.most)
+        if (!accepted.number)
             return std::nullopt;
-        return value.number * accepted.unit;
-    case CssValue::Kind::Percentage:
-        result = value.number / 100.0 * accepted.whole;
-        if (!accepted.percentage || result < accepted.least * accepted.unit || result > accepted.most * accepted.unit)
-            return std::nullopt;
-        return result;
-    case CssValue::Kind::Angle:
-        if (!accepted.angle || std::abs(value.number) > anything)
-            return std::nullopt;
-        return value.number;
-    case CssValue::Kind::Word:
+        result = value.number * accepted.unit;
         break;
+    case CssValue::Kind::Percentage:
+        if (!accepted.percentage)
+            return std::nullopt;
+        result = value.number / 100.0 * accepted.whole;
+        break;
+    case CssValue::Kind::Angle:
+        return accepted.angle ? std::optional(value.number) : std::nullopt;
+    case CssValue::Kind::Word:
+        return std::nullopt;
     }
-    return std::nullopt;
+    const double least = accepted.least * accepted.unit;
+    const double most = accepted.most * accepted.unit;
+    if ((result < least && !accepted.clampedBelow) || (result > most && !accepted.clampedAbove))
+        return std::nullopt;
+    return std::clamp(result, least, most);
 }
 
 std::optional<double> alphaOf(const CssFunction &function)
@@ -117,6 +128,7 @@ constexpr auto oklch = [](const std::array<double, 3> &v, double alpha) {
 
 constexpr Arguments rgbSpaced{byteOrShare, byteOrShare, byteOrShare};
 constexpr Arguments hslSpaced{hue, shareOrHundred, shareOrHundred};
+constexpr Arguments hwbSpaced{hue, part, part};
 constexpr Arguments hslLegacy{hue, share, share};
 constexpr Arguments components{component, component, component};
 
@@ -125,7 +137,7 @@ constexpr FunctionRow functions[] = {
     {"rgba"_L1, "css-rgb"_L1, true, rgbSpaced, rgbSpaced, rgb},
     {"hsl"_L1, "css-hsl"_L1, true, hslSpaced, hslLegacy, hsl},
     {"hsla"_L1, "css-hsl"_L1, true, hslSpaced, hslLegacy, hsl},
-    {"hwb"_L1, "css-hwb"_L1, false, hslSpaced, {}, hwb},
+    {"hwb"_L1, "css-hwb"_L1, false, hwbSpaced, {}, hwb},
     {"oklab"_L1, "css-oklab"_L1, false, {lightness, axis, axis}, {}, oklab},
     {"oklch"_L1, "css-oklch"_L1, false, {lightness, chroma, hue}, {}, oklch},
     {"color srgb"_L1, "css-color"_L1, false, components, {}, rgb},

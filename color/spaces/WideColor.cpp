@@ -56,7 +56,9 @@ WideColor clippedTo(const WideColor &color, RgbSpace space)
 std::array<int, 4> bytesOf(const WideColor &color)
 {
     const WideColor shown = clippedTo(color, RgbSpace::Srgb);
-    const auto byte = [](double component) { return static_cast<int>(std::lround(component * byteScale)); };
+    // Half a step, such as in hwb(40 50% 0%), is rounded up even where the calculation ends just below it.
+    constexpr double inexact = 1e-9;
+    const auto byte = [](double component) { return static_cast<int>(std::lround(component * byteScale + inexact)); };
     return {byte(shown.red), byte(shown.green), byte(shown.blue), byte(shown.alpha)};
 }
 

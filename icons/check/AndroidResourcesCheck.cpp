@@ -240,6 +240,8 @@ void checkPlayPicture(const QString &file, IconCheck &check)
     check.checked << file;
     const std::optional<PictureFacts> facts =
         checkSlot(file, {QSize(playStoreSize, playStoreSize), Transparency::Forbidden}, check);
+    if (facts && (facts->palette || facts->deep))
+        check.add(IconRule::PlayIconColors, file, facts->palette ? "DETAIL_PALETTE" : "DETAIL_16_BITS");
     if (facts && facts->fileBytes > playStoreBytes)
         check.add(IconRule::StoreFileTooLong, file,
                   FailureDetail("DETAIL_BYTES", {{"[COUNT]", QString::number(facts->fileBytes)}}));

@@ -32,6 +32,7 @@ enum class IconRule {
     DuplicateSlot,
     ForeignFormat,
     StoreIconColors,
+    PlayIconColors,
     TintedColors,
     OutsideSafeZone,
     MonochromeMissing,
@@ -54,7 +55,7 @@ struct IconRuleInfo
     const char *fixKey;
 };
 
-inline constexpr std::array<IconRuleInfo, 28> iconRules = {{
+inline constexpr std::array<IconRuleInfo, 29> iconRules = {{
     {IconRule::ContentsUnreadable, "contents-unreadable", FindingSeverity::Error, "ICON_RULE_CONTENTS_UNREADABLE",
      "ICON_FIX_CONTENTS_UNREADABLE"},
     {IconRule::FileMissing, "file-missing", FindingSeverity::Error, "ICON_RULE_FILE_MISSING", "ICON_FIX_FILE_MISSING"},
@@ -87,6 +88,8 @@ inline constexpr std::array<IconRuleInfo, 28> iconRules = {{
      "ICON_FIX_FOREIGN_FORMAT"},
     {IconRule::StoreIconColors, "store-icon-colors", FindingSeverity::Warning, "ICON_RULE_STORE_ICON_COLORS",
      "ICON_FIX_STORE_ICON_COLORS"},
+    {IconRule::PlayIconColors, "play-icon-colors", FindingSeverity::Warning, "ICON_RULE_PLAY_ICON_COLORS",
+     "ICON_FIX_PLAY_ICON_COLORS"},
     {IconRule::TintedColors, "tinted-colors", FindingSeverity::Warning, "ICON_RULE_TINTED_COLORS",
      "ICON_FIX_TINTED_COLORS"},
     {IconRule::OutsideSafeZone, "outside-safe-zone", FindingSeverity::Warning, "ICON_RULE_OUTSIDE_SAFE_ZONE",

@@ -31,8 +31,11 @@ void readPng(const QByteArray &bytes, ScreenshotFacts &facts)
         return;
     constexpr int alphaBit = 4;
     constexpr int colorBit = 2;
+    constexpr int paletteType = 3;
     facts.hasAlpha = (header->colorType & alphaBit) != 0;
     facts.isRgb = (header->colorType & colorBit) != 0;
+    facts.hasPalette = header->colorType == paletteType;
+    facts.isDeep = header->bitDepth > 8;
     // One transparent color, or a palette with opacities.
     if (const auto chunks = readPngChunks(bytes)) {
         facts.hasAlpha = facts.hasAlpha || std::ranges::any_of(*chunks, [](const PngChunkView &chunk) {

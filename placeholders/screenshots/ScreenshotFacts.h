@@ -25,6 +25,8 @@ struct ScreenshotFacts
     bool hasAlpha = false;
     /// False for four inks and for shades of gray only.
     bool isRgb = true;
+    bool hasPalette = false;
+    bool isDeep = false; ///< 16 bits a channel
 };
 
 /// The most files that are read.

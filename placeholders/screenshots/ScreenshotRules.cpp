@@ -36,10 +36,11 @@ enum Rule : std::size_t {
     PlayPromotion,
     PlayTablet,
     PlayFeature,
+    PlayPng24,
     Nothing,
 };
 
-constexpr std::array<ScreenshotRule, 17> rules{{
+constexpr std::array<ScreenshotRule, 18> rules{{
     {"screenshot.unreadable"_L1, Severity::Error, "SHOT_RULE_SCREENSHOT_UNREADABLE", "SHOT_FIX_SCREENSHOT_UNREADABLE"},
     {"screenshot.format"_L1, Severity::Error, "SHOT_RULE_SCREENSHOT_FORMAT", "SHOT_FIX_SCREENSHOT_FORMAT"},
     {"screenshot.alpha"_L1, Severity::Error, "SHOT_RULE_SCREENSHOT_ALPHA", "SHOT_FIX_SCREENSHOT_ALPHA"},
@@ -56,6 +57,7 @@ constexpr std::array<ScreenshotRule, 17> rules{{
     {"play.promotion"_L1, Severity::Note, "SHOT_RULE_PLAY_PROMOTION", "SHOT_FIX_PLAY_PROMOTION"},
     {"play.tablet"_L1, Severity::Note, "SHOT_RULE_PLAY_TABLET", "SHOT_FIX_PLAY_TABLET"},
     {"play.feature-graphic"_L1, Severity::Error, "SHOT_RULE_PLAY_FEATURE_GRAPHIC", "SHOT_FIX_PLAY_FEATURE_GRAPHIC"},
+    {"play.png-24"_L1, Severity::Warning, "SHOT_RULE_PLAY_PNG_24", "SHOT_FIX_PLAY_PNG_24"},
     {"screenshot.none"_L1, Severity::Error, "SHOT_RULE_SCREENSHOT_NONE", "SHOT_FIX_SCREENSHOT_NONE"},
 }};
 
@@ -158,6 +160,7 @@ private:
         if (isFeatureGraphic(facts.path)) {
             if (facts.size != QSize(1024, 500))
                 add(PlayFeature, facts.path, pixelsDetail(facts.size));
+            judgePixels(facts);
             return;
         }
         if (isPlayFolder(folder)) {
@@ -190,7 +193,15 @@ private:
             add(PlaySide, facts.path, pixelsDetail(facts.size));
         if (!hasPlayRatio(facts.size))
             add(PlayRatio, facts.path, pixelsDetail(facts.size));
+        judgePixels(facts);
         m_play[folder].push_back(facts.size);
+    }
+
+    /// Google asks for PNG files of 24 bits a pixel; whether it refuses others, its help does not say.
+    void judgePixels(const ScreenshotFacts &facts)
+    {
+        if (facts.hasPalette || facts.isDeep)
+            add(PlayPng24, facts.path, facts.hasPalette ? "DETAIL_PALETTE" : "DETAIL_16_BITS");
     }
 
     void judgePlayFolder(const QString &folder, const std::vector<QSize> &sizes)

@@ -5171,9 +5171,17 @@
     <source>The store's icon has a palette or a wide-gamut profile, which uploads were refused for</source>
     <translation>Das Icon für den Store hat eine Palette oder ein Profil mit großem Farbraum; Uploads wurden deshalb abgelehnt</translation>
   </message>
+  <message id="ICON_RULE_PLAY_ICON_COLORS">
+    <source>The icon for Google Play is not in the form that Google asks for, a PNG file of 32 bits a pixel</source>
+    <translation>Das Icon für Google Play hat nicht die Form, die Google verlangt: eine PNG-Datei mit 32 Bit je Pixel</translation>
+  </message>
   <message id="ICON_FIX_STORE_ICON_COLORS">
     <source>save it as sRGB with 8 bits a channel</source>
     <translation>als sRGB mit 8 Bit je Kanal speichern</translation>
+  </message>
+  <message id="ICON_FIX_PLAY_ICON_COLORS">
+    <source>save it as RGBA with 8 bits a channel</source>
+    <translation>als RGBA mit 8 Bit je Kanal speichern</translation>
   </message>
   <message id="ICON_RULE_TINTED_COLORS">
     <source>The tinted icon has colors</source>
@@ -6236,9 +6244,17 @@
     <source>The feature graphic has to be 1024 x 500 pixels</source>
     <translation>Die Funktionsgrafik muss 1024 x 500 Pixel haben</translation>
   </message>
+  <message id="SHOT_RULE_PLAY_PNG_24">
+    <source>Google asks for PNG files of 24 bits a pixel</source>
+    <translation>Google verlangt PNG-Dateien mit 24 Bit je Pixel</translation>
+  </message>
   <message id="SHOT_FIX_PLAY_FEATURE_GRAPHIC">
     <source>Draw it in that size</source>
     <translation>In dieser Größe zeichnen</translation>
+  </message>
+  <message id="SHOT_FIX_PLAY_PNG_24">
+    <source>Save it as RGB with 8 bits a channel</source>
+    <translation>Als RGB mit 8 Bit je Kanal speichern</translation>
   </message>
   <message id="SHOT_RULE_SCREENSHOT_NONE">
     <source>There is no picture in the folder</source>

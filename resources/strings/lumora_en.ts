@@ -5169,9 +5169,17 @@
     <source>The store's icon has a palette or a wide-gamut profile, which uploads were refused for</source>
     <translation>The store's icon has a palette or a wide-gamut profile, which uploads were refused for</translation>
   </message>
+  <message id="ICON_RULE_PLAY_ICON_COLORS">
+    <source>The icon for Google Play is not in the form that Google asks for, a PNG file of 32 bits a pixel</source>
+    <translation>The icon for Google Play is not in the form that Google asks for, a PNG file of 32 bits a pixel</translation>
+  </message>
   <message id="ICON_FIX_STORE_ICON_COLORS">
     <source>save it as sRGB with 8 bits a channel</source>
     <translation>save it as sRGB with 8 bits a channel</translation>
+  </message>
+  <message id="ICON_FIX_PLAY_ICON_COLORS">
+    <source>save it as RGBA with 8 bits a channel</source>
+    <translation>save it as RGBA with 8 bits a channel</translation>
   </message>
   <message id="ICON_RULE_TINTED_COLORS">
     <source>The tinted icon has colors</source>
@@ -6234,9 +6242,17 @@
     <source>The feature graphic has to be 1024 x 500 pixels</source>
     <translation>The feature graphic has to be 1024 x 500 pixels</translation>
   </message>
+  <message id="SHOT_RULE_PLAY_PNG_24">
+    <source>Google asks for PNG files of 24 bits a pixel</source>
+    <translation>Google asks for PNG files of 24 bits a pixel</translation>
+  </message>
   <message id="SHOT_FIX_PLAY_FEATURE_GRAPHIC">
     <source>Draw it in that size</source>
     <translation>Draw it in that size</translation>
+  </message>
+  <message id="SHOT_FIX_PLAY_PNG_24">
+    <source>Save it as RGB with 8 bits a channel</source>
+    <translation>Save it as RGB with 8 bits a channel</translation>
   </message>
   <message id="SHOT_RULE_SCREENSHOT_NONE">
     <source>There is no picture in the folder</source>

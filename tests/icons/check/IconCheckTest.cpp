@@ -226,6 +226,11 @@ void IconCheckTest::faults_data()
     QTest::newRow("transparent play picture")
         << put("Android/ic_launcher-playstore.png", encodedPng(disk(900, Qt::red, Qt::transparent, 512)))
         << QStringList{u"store-icon-transparent"_s};
+    QTest::newRow("play picture with a palette")
+        << put("Android/ic_launcher-playstore.png", palettePng(512)) << QStringList{u"play-icon-colors"_s};
+    QTest::newRow("play picture of 16 bits a channel")
+        << put("Android/ic_launcher-playstore.png", deepPng(512))
+        << QStringList{u"play-icon-colors"_s, u"store-file-too-long"_s, u"uncommon-pixels"_s};
     QTest::newRow("long play picture") << put("Android/ic_launcher-playstore.png",
                                               encodedPng(opaquePicture(512)) + QByteArray(2 << 20, 'a'))
                                        << QStringList{u"store-file-too-long"_s};

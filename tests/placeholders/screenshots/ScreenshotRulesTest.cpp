@@ -27,10 +27,10 @@ QByteArray picture(QSize size, const char *format = "png", QImage::Format pixels
     return buffer.data();
 }
 
-QByteArray pictureWithTranslucentPalette(QSize size)
+QByteArray pictureWithPalette(QSize size, int alpha)
 {
     QImage image(size, QImage::Format_Indexed8);
-    image.setColorTable({qRgba(0, 128, 128, 128)});
+    image.setColorTable({qRgba(0, 128, 128, alpha)});
     image.fill(0);
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
@@ -106,7 +106,7 @@ private slots:
         QTest::newRow("webp by another name")
             << one("a.png", picture(phone, "webp")) << Stores{} << QStringList{u"screenshot.format a.png|webp"_s};
         QTest::newRow("a translucent color of a palette")
-            << one("a.png", pictureWithTranslucentPalette(phone)) << Stores{}
+            << one("a.png", pictureWithPalette(phone, 128)) << Stores{}
             << QStringList{u"screenshot.alpha a.png|it has an alpha channel"_s};
         QTest::newRow("alpha") << one("a.png", picture(phone, "png", QImage::Format_ARGB32)) << Stores{}
                                << QStringList{u"screenshot.alpha a.png|it has an alpha channel"_s};
@@ -143,6 +143,18 @@ private slots:
         QTest::newRow("feature graphic") << one("images/featureGraphic.png", picture({1024, 512})) << Stores{}
                                          << QStringList{
                                                 u"play.feature-graphic images/featureGraphic.png|1024 x 512 pixels"_s};
+        const QSize feature(1024, 500);
+        QTest::newRow("sound feature graphic")
+            << one("featureGraphic.png", picture(feature)) << Stores{} << QStringList{};
+        QTest::newRow("feature graphic with a palette")
+            << one("featureGraphic.png", pictureWithPalette(feature, 255)) << Stores{}
+            << QStringList{u"play.png-24 featureGraphic.png|palette"_s};
+        const QByteArray deep = picture(promoted, "png", QImage::Format_RGBX64);
+        QTest::newRow("16 bits a channel for Play")
+            << Pictures{{u"phoneScreenshots/a.png"_s, deep}, {u"phoneScreenshots/b.png"_s, picture(promoted)}}
+            << Stores{} << QStringList{u"play.png-24 phoneScreenshots/a.png|16 bits a channel"_s};
+        QTest::newRow("a palette for the App Store")
+            << one("a.png", pictureWithPalette(phone, 255)) << Stores{} << QStringList{};
     }
     void everyRuleIsSeen()
     {
