@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "BackgroundJobs.h"
 
+#include "JobPatience.h"
 #include "foundation/Log.h"
 
 #include <QCoreApplication>
@@ -27,10 +28,6 @@ QEvent::Type postedEvent()
     static const int type = QEvent::registerEventType();
     return static_cast<QEvent::Type>(type);
 }
-
-/// The whole process uses at least that much processor time while a job's own threads work for the job; the rest of
-/// the program, which only waits, uses less within `BackgroundJobs::patience`.
-constexpr std::chrono::milliseconds workOfOtherThreads{100};
 
 std::chrono::nanoseconds processorTime(clockid_t clock)
 {
@@ -65,8 +62,8 @@ struct BackgroundJobsQueue
     }
 
     void run(Worker &worker);
-    /// The processor time of all jobs that run.
-    std::chrono::nanoseconds work();
+    /// The processor time of all jobs that run, and of the process.
+    JobPatience::Work work();
 
     const BackgroundJobs::Order order;
     const std::string label;
@@ -100,14 +97,14 @@ void BackgroundJobsQueue::run(Worker &worker)
     workerFinished.notify_all();
 }
 
-std::chrono::nanoseconds BackgroundJobsQueue::work()
+JobPatience::Work BackgroundJobsQueue::work()
 {
-    std::chrono::nanoseconds sum = {};
+    JobPatience::Work work{{}, processorTime(CLOCK_PROCESS_CPUTIME_ID)};
     for (Worker &worker : workers) {
         if (!worker.finished)
-            sum += processorTime(worker.thread);
+            work.jobs += processorTime(worker.thread);
     }
-    return sum;
+    return work;
 }
 
 void BackgroundJob::post(std::function<void()> onMainThread) const
@@ -167,18 +164,9 @@ bool BackgroundJobs::waitForEnd()
     using Clock = std::chrono::steady_clock;
 
     std::unique_lock lock(m_queue->mutex);
-    std::chrono::nanoseconds jobs = m_queue->work();
-    std::chrono::nanoseconds process = processorTime(CLOCK_PROCESS_CPUTIME_ID);
-    Clock::time_point lastSign = Clock::now();
+    JobPatience waiting(m_endPatience, Clock::now(), m_queue->work());
     while (!m_queue->workerFinished.wait_for(lock, 100ms, [this] { return m_queue->running == 0; })) {
-        const std::chrono::nanoseconds newJobs = m_queue->work();
-        const std::chrono::nanoseconds newProcess = processorTime(CLOCK_PROCESS_CPUTIME_ID);
-        if (newJobs != jobs || newProcess - process >= workOfOtherThreads) {
-            jobs = newJobs;
-            process = newProcess;
-            lastSign = Clock::now();
-        }
-        if (Clock::now() - lastSign < m_endPatience)
+        if (!waiting.isOver(Clock::now(), m_queue->work()))
             continue;
         m_queue->jobs = nullptr;
         for (BackgroundJobsQueue::Worker &worker : m_queue->workers) {

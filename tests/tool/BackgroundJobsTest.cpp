@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "tool/BackgroundJobs.h"
+#include "tool/JobPatience.h"
 
 #include <QTest>
 
 #include <array>
 #include <atomic>
 #include <chrono>
-#include <ctime>
 #include <memory>
 #include <semaphore>
 #include <thread>
@@ -14,6 +14,7 @@
 #include <pthread.h>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 using namespace lumora;
 
 class BackgroundJobsTest : public QObject
@@ -145,7 +146,7 @@ private slots:
         const auto share = std::make_shared<Share>();
         bool posted = false;
         {
-            BackgroundJobs jobs(BackgroundJobs::Order::Concurrent, {}, std::chrono::milliseconds(200));
+            BackgroundJobs jobs(BackgroundJobs::Order::Concurrent, {}, 200ms);
             jobs.start([share, &posted](const BackgroundJob &job) {
                 share->started.release();
                 share->answer.acquire();
@@ -161,6 +162,42 @@ private slots:
         QVERIFY(!posted);
     }
 
+    void givesUpWhatDoesNothing_data()
+    {
+        QTest::addColumn<std::chrono::milliseconds>("ofJobs");
+        QTest::addColumn<std::chrono::milliseconds>("ofProcess");
+        QTest::addColumn<bool>("givesUp");
+        // Processor time in a second, with a patience of ten seconds.
+        QTest::newRow("nothing works") << 0ms << 0ms << true;
+        QTest::newRow("the waiting window") << 0ms << 5ms << true;
+        QTest::newRow("a job that gets little of the machine") << 1ms << 1ms << false;
+        QTest::newRow("a job's own thread that gets little of the machine") << 0ms << 20ms << false;
+        QTest::newRow("a job that works") << 900ms << 900ms << false;
+    }
+    void givesUpWhatDoesNothing()
+    {
+        QFETCH(const std::chrono::milliseconds, ofJobs);
+        QFETCH(const std::chrono::milliseconds, ofProcess);
+        const JobPatience::TimePoint start{};
+        JobPatience patience(BackgroundJobs::patience, start, {2s, 3s});
+        bool isOver = false;
+        for (int second = 1; second <= 60; ++second) {
+            isOver = isOver || patience.isOver(start + second * 1s, {2s + second * ofJobs, 3s + second * ofProcess});
+            QVERIFY2(!isOver || second >= 10, "before the patience ends");
+        }
+        QTEST(isOver, "givesUp");
+    }
+
+    void startsAgainAtEachSign()
+    {
+        const JobPatience::TimePoint start{};
+        JobPatience patience(10s, start, {});
+        QVERIFY(!patience.isOver(start + 9s, {}));
+        QVERIFY(!patience.isOver(start + 10s, {1ms, 1ms}));
+        QVERIFY(!patience.isOver(start + 19s, {1ms, 1ms}));
+        QVERIFY(patience.isOver(start + 20s, {1ms, 1ms}));
+    }
+
     void destructionWaitsForAJobThatWorks_data()
     {
         QTest::addColumn<bool>("onOtherThread");
@@ -169,17 +206,17 @@ private slots:
     }
     void destructionWaitsForAJobThatWorks()
     {
+        // Long enough that even a loaded machine gives the work a hundredth of it.
+        constexpr std::chrono::milliseconds patience = 1500ms;
         QFETCH(const bool, onOtherThread);
         bool finished = false;
         {
-            // Longer than the patience; counted in processor time, so that a loaded machine changes nothing.
-            const auto work = [&finished] {
-                const std::clock_t end = std::clock() + CLOCKS_PER_SEC;
-                while (std::clock() < end)
+            const auto work = [&finished, end = std::chrono::steady_clock::now() + 2 * patience] {
+                while (std::chrono::steady_clock::now() < end)
                     continue;
                 finished = true;
             };
-            BackgroundJobs jobs(BackgroundJobs::Order::Concurrent, {}, std::chrono::milliseconds(500));
+            BackgroundJobs jobs(BackgroundJobs::Order::Concurrent, {}, patience);
             jobs.start([&](const BackgroundJob &) {
                 if (onOtherThread)
                     std::thread(work).join();
