@@ -12,8 +12,15 @@
 
 #include <QTest>
 
+#include <algorithm>
+
 namespace lumora
 {
+
+/// How much slower than usual the program may be.
+inline const int timeFactor = std::max(qEnvironmentVariableIntValue("LUMORA_TIME_FACTOR"), 1);
+/// The time limit for a small package, in milliseconds; generous, since the machine may be busy with other tests.
+inline const int readingTime = 20'000 * timeFactor;
 
 /// The pane in a window, with services that record.
 class PaneInWindow
@@ -22,7 +29,7 @@ public:
     enum class Room { There, None };
 
     explicit PaneInWindow(Room room = Room::There, const QString &reader = {},
-                          std::chrono::milliseconds patience = std::chrono::minutes(1))
+                          std::chrono::milliseconds patience = std::chrono::minutes(timeFactor))
         : services{{},
                    {},
                    {},
@@ -61,8 +68,5 @@ public:
     QWidget window;
     ValidaterViewController tool;
 };
-
-/// The time limit for a small package, in milliseconds; generous, since the machine may be busy with other tests.
-constexpr int readingTime = 20'000;
 
 } // namespace lumora

@@ -96,7 +96,7 @@ private slots:
     void opensARowInPlace()
     {
         ReadPane pane(package("icon-marketing icon-phone icon-pad"));
-        FindingRow *row = pane.rows().front();
+        FindingRow *row = &pane.row(0);
         QVERIFY(row->header()->accessibleName().startsWith(u"Error: "));
         QVERIFY(row->header()->accessibleName().endsWith(u"ITMS-90022"));
         QCOMPARE(row->header()->accessibleDescription(), u"closed"_s);
@@ -115,16 +115,16 @@ private slots:
     void movesByKeys()
     {
         ReadPane pane(package("icon-marketing icon-phone icon-pad"));
-        const auto focused = [&](std::size_t index) { return pane.rows()[index]->header()->hasFocus(); };
+        const auto focused = [&](std::size_t index) { return pane.row(index).header()->hasFocus(); };
         pane.rows().front()->header()->setFocus();
         QTRY_VERIFY(focused(0));
-        QTest::keyClick(pane.rows()[0]->header(), Qt::Key_Down);
+        QTest::keyClick(pane.row(0).header(), Qt::Key_Down);
         QTRY_VERIFY(focused(1));
-        QTest::keyClick(pane.rows()[1]->header(), Qt::Key_End);
+        QTest::keyClick(pane.row(1).header(), Qt::Key_End);
         QTRY_VERIFY(focused(2));
-        QTest::keyClick(pane.rows()[2]->header(), Qt::Key_Down);
+        QTest::keyClick(pane.row(2).header(), Qt::Key_Down);
         QVERIFY(focused(2));
-        QTest::keyClick(pane.rows()[2]->header(), Qt::Key_Home);
+        QTest::keyClick(pane.row(2).header(), Qt::Key_Home);
         QTRY_VERIFY(focused(0));
         int reached = 0;
         for (const FindingRow *row : pane.rows())
@@ -135,11 +135,10 @@ private slots:
     void reachesEverythingInTheOrderOfReading()
     {
         ReadPane pane(package("icon-marketing icon-phone icon-pad"));
-        pane.rows()[0]->setOpen(true);
+        pane.row(0).setOpen(true);
         pane.view().search()->setFocus();
-        const QList<QWidget *> order{pane.rows()[0]->header(), pane.rows()[0]->iconsButton(),
-                                     pane.rows()[0]->ignoreButton(), pane.tool.reviewSections()->modelsButton(),
-                                     pane.ui().validAppIconsBox};
+        const QList<QWidget *> order{pane.row(0).header(), pane.row(0).iconsButton(), pane.row(0).ignoreButton(),
+                                     pane.tool.reviewSections()->modelsButton(), pane.ui().validAppIconsBox};
         for (QWidget *next : order) {
             QTest::keyClick(&pane.window, Qt::Key_Tab);
             QVERIFY2(next->hasFocus(), qPrintable(next->accessibleName()));
@@ -174,8 +173,8 @@ private slots:
     void ignoresARuleAndShowsItAgain()
     {
         ReadPane pane(package("icon-marketing icon-phone icon-pad"));
-        pane.rows()[1]->setOpen(true);
-        pane.rows()[1]->ignoreButton()->click();
+        pane.row(1).setOpen(true);
+        pane.row(1).ignoreButton()->click();
         QCOMPARE(pane.rows().size(), std::size_t(2));
         QCOMPARE(pane.ui().sumLabel->text(), u"2 errors"_s);
         QVERIFY(!pane.tool.reportText().contains(u"ITMS-90023"));
@@ -192,8 +191,8 @@ private slots:
     {
         const QTemporaryDir folder;
         ReadPane pane(package("icon-marketing icon-phone icon-pad"));
-        pane.rows()[1]->setOpen(true);
-        pane.rows()[1]->ignoreButton()->click();
+        pane.row(1).setOpen(true);
+        pane.row(1).ignoreButton()->click();
         for (const QString &name : {u" report"_s, u" report 2"_s}) {
             pane.view().saveButton()->click();
             QVERIFY(pane.services.folderChooser.isOpen());
@@ -225,8 +224,8 @@ private slots:
         ReadPane pane(package("icon-marketing icon-phone icon-pad"));
         QSignalSpy icons(&pane.tool, &ValidaterViewController::iconsWanted);
         QSignalSpy models(&pane.tool, &ValidaterViewController::modelsWanted);
-        pane.rows()[0]->setOpen(true);
-        pane.rows()[0]->iconsButton()->click();
+        pane.row(0).setOpen(true);
+        pane.row(0).iconsButton()->click();
         QTRY_COMPARE_WITH_TIMEOUT(icons.size(), 1, readingTime);
         QVERIFY2(icons[0][0].toString().isEmpty(), "the package has no picture");
         pane.tool.reviewSections()->modelsButton()->click();
@@ -238,9 +237,9 @@ private slots:
     {
         ReadPane pane(package("icon-pad a JPEG"));
         QSignalSpy icons(&pane.tool, &ValidaterViewController::iconsWanted);
-        pane.rows()[0]->setOpen(true);
-        QVERIFY(!textsIn(*pane.rows()[0]).contains(qtTrId("FINDINGS_PACKED_ICON")));
-        pane.rows()[0]->iconsButton()->click();
+        pane.row(0).setOpen(true);
+        QVERIFY(!textsIn(pane.row(0)).contains(qtTrId("FINDINGS_PACKED_ICON")));
+        pane.row(0).iconsButton()->click();
         QTRY_COMPARE_WITH_TIMEOUT(icons.size(), 1, readingTime);
         const QImage picture(icons[0][0].toString());
         QCOMPARE(picture.size(), QSize(1024, 1024));
@@ -251,9 +250,9 @@ private slots:
     {
         ReadPane pane(package("icon-pad"));
         QSignalSpy icons(&pane.tool, &ValidaterViewController::iconsWanted);
-        pane.rows()[0]->setOpen(true);
-        QVERIFY(textsIn(*pane.rows()[0]).contains(qtTrId("FINDINGS_PACKED_ICON")));
-        pane.rows()[0]->iconsButton()->click();
+        pane.row(0).setOpen(true);
+        QVERIFY(textsIn(pane.row(0)).contains(qtTrId("FINDINGS_PACKED_ICON")));
+        pane.row(0).iconsButton()->click();
         QTRY_COMPARE_WITH_TIMEOUT(icons.size(), 1, readingTime);
         QVERIFY(icons[0][0].toString().isEmpty());
     }
