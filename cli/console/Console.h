@@ -18,7 +18,7 @@ enum class ExitStatus : int {
     Done = 0,          ///< everything was done (or, for a check, everything is valid)
     Refused = 1,       ///< the input was refused, something could not be written, or a check found something invalid
     Usage = 2,         ///< the call itself is wrong
-    Unreadable = 3,    ///< a file could not be read as a package (validation only)
+    Unreadable = 3,    ///< a package, or a list of rules for it, could not be read
     Interrupted = 130, ///< stopped by Ctrl+C; complete files stay
     Terminated = 143,  ///< stopped by `kill` or the end of the session; complete files stay
 };

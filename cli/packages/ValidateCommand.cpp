@@ -368,7 +368,7 @@ ExitStatus runValidate(Console &console, const ValidateArguments &arguments)
     auto demands = arguments.store.demands();
     if (const auto *problem = std::get_if<Complaint>(&demands)) {
         console.complain(*problem);
-        return problem->kind == Complaint::Kind::Misuse ? ExitStatus::Usage : ExitStatus::Refused;
+        return problem->kind == Complaint::Kind::Misuse ? ExitStatus::Usage : ExitStatus::Unreadable;
     }
     if (arguments.icon == u"-" || arguments.reports.takesStdout())
         console.keepStdoutForAFile();

@@ -3498,6 +3498,18 @@
     <source>Remove files that the app does not need, or load them later.</source>
     <translation>Dateien entfernen, die die App nicht braucht, oder sie später laden.</translation>
   </message>
+  <message id="RULE_UNREAD_TITLE">
+    <source>A file is too large to be judged</source>
+    <translation>Eine Datei ist zu groß, um sie zu beurteilen</translation>
+  </message>
+  <message id="RULE_UNREAD_RULE">
+    <source>Property lists and profiles of more than 4 MiB, or of more than 16 MiB together, are not read; what depends on them is not judged.</source>
+    <translation>Eigenschaftslisten und Profile von mehr als 4 MiB, oder zusammen mehr als 16 MiB, werden nicht gelesen; was von ihnen abhängt, wird nicht beurteilt.</translation>
+  </message>
+  <message id="RULE_UNREAD_FIX">
+    <source>Find out what fills the file; usual ones have a few kilobytes.</source>
+    <translation>Herausfinden, was die Datei füllt; üblich sind wenige Kilobyte.</translation>
+  </message>
   <message id="RULE_CLASSIC_ICONS_TITLE">
     <source>An icon of iOS 7 is missing</source>
     <translation>Ein Icon von iOS 7 fehlt</translation>
@@ -3609,6 +3621,10 @@
   <message id="RULE_SOURCE_SETTINGS">
     <source>settings of the App Store</source>
     <translation>Einstellungen des App Store</translation>
+  </message>
+  <message id="RULE_SOURCE_OWN">
+    <source>the limits of this check</source>
+    <translation>die Grenzen dieser Prüfung</translation>
   </message>
   <message id="RULE_SOURCE_CLASSIC">
     <source>the rules of iOS 7</source>
@@ -3941,6 +3957,10 @@
   <message id="FOUND_SEAL_TOO_LARGE">
     <source>is larger than any seal that can be compared</source>
     <translation>ist größer als jedes Siegel, das verglichen werden kann</translation>
+  </message>
+  <message id="FOUND_TOO_LARGE">
+    <source>is too large to be read</source>
+    <translation>ist zu groß, um gelesen zu werden</translation>
   </message>
   <message id="FOUND_MORE_DIFFER">
     <source>[A] more files differ</source>
@@ -5268,8 +5288,8 @@
     <translation>[DATE] ist kein Datum; so schreiben wie 2027-04-30</translation>
   </message>
   <message id="CLI_VALIDATE_STATUS">
-    <source>Ends with 0 when nothing is found that counts, 1 when something is, 3 when a file is no archive with an app.</source>
-    <translation>Endet mit 0, wenn nichts gefunden wird, was zählt, mit 1, wenn doch, mit 3, wenn eine Datei kein Archiv mit einer App ist.</translation>
+    <source>Ends with 0 when nothing is found that counts, 1 when something is, 3 when a file cannot be read or holds no app.</source>
+    <translation>Endet mit 0, wenn nichts gefunden wird, was zählt, mit 1, wenn doch, mit 3, wenn eine Datei nicht gelesen werden kann oder keine App enthält.</translation>
   </message>
   <message id="CLI_DID_YOU_MEAN">
     <source>did you mean [WORD]?</source>

@@ -3496,6 +3496,18 @@
     <source>Remove files that the app does not need, or load them later.</source>
     <translation>Remove files that the app does not need, or load them later.</translation>
   </message>
+  <message id="RULE_UNREAD_TITLE">
+    <source>A file is too large to be judged</source>
+    <translation>A file is too large to be judged</translation>
+  </message>
+  <message id="RULE_UNREAD_RULE">
+    <source>Property lists and profiles of more than 4 MiB, or of more than 16 MiB together, are not read; what depends on them is not judged.</source>
+    <translation>Property lists and profiles of more than 4 MiB, or of more than 16 MiB together, are not read; what depends on them is not judged.</translation>
+  </message>
+  <message id="RULE_UNREAD_FIX">
+    <source>Find out what fills the file; usual ones have a few kilobytes.</source>
+    <translation>Find out what fills the file; usual ones have a few kilobytes.</translation>
+  </message>
   <message id="RULE_CLASSIC_ICONS_TITLE">
     <source>An icon of iOS 7 is missing</source>
     <translation>An icon of iOS 7 is missing</translation>
@@ -3607,6 +3619,10 @@
   <message id="RULE_SOURCE_SETTINGS">
     <source>settings of the App Store</source>
     <translation>settings of the App Store</translation>
+  </message>
+  <message id="RULE_SOURCE_OWN">
+    <source>the limits of this check</source>
+    <translation>the limits of this check</translation>
   </message>
   <message id="RULE_SOURCE_CLASSIC">
     <source>the rules of iOS 7</source>
@@ -3939,6 +3955,10 @@
   <message id="FOUND_SEAL_TOO_LARGE">
     <source>is larger than any seal that can be compared</source>
     <translation>is larger than any seal that can be compared</translation>
+  </message>
+  <message id="FOUND_TOO_LARGE">
+    <source>is too large to be read</source>
+    <translation>is too large to be read</translation>
   </message>
   <message id="FOUND_MORE_DIFFER">
     <source>[A] more files differ</source>
@@ -5266,8 +5286,8 @@
     <translation>[DATE] is no date; write it as in 2027-04-30</translation>
   </message>
   <message id="CLI_VALIDATE_STATUS">
-    <source>Ends with 0 when nothing is found that counts, 1 when something is, 3 when a file is no archive with an app.</source>
-    <translation>Ends with 0 when nothing is found that counts, 1 when something is, 3 when a file is no archive with an app.</translation>
+    <source>Ends with 0 when nothing is found that counts, 1 when something is, 3 when a file cannot be read or holds no app.</source>
+    <translation>Ends with 0 when nothing is found that counts, 1 when something is, 3 when a file cannot be read or holds no app.</translation>
   </message>
   <message id="CLI_DID_YOU_MEAN">
     <source>did you mean [WORD]?</source>

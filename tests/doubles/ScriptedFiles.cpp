@@ -6,6 +6,8 @@
 #include <QFile>
 #include <QProcess>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 bool runScript(const QString &name, const QStringList &arguments)
@@ -14,7 +16,8 @@ bool runScript(const QString &name, const QStringList &arguments)
     python.setProcessChannelMode(QProcess::ForwardedChannels);
     python.start(u"python3"_s,
                  QStringList{u"-B"_s, QStringLiteral(LUMORA_SOURCE_DIR "/tests/validator/") + name} + arguments);
-    return python.waitForFinished(120'000) && python.exitStatus() == QProcess::NormalExit && python.exitCode() == 0;
+    return python.waitForFinished(120'000 * std::max(qEnvironmentVariableIntValue("LUMORA_TIME_FACTOR"), 1)) &&
+           python.exitStatus() == QProcess::NormalExit && python.exitCode() == 0;
 }
 
 QMap<QString, QString> treeBelow(const QString &folder)

@@ -14,7 +14,7 @@ from catalog_builder import app_icon, rendition
 from macho_builder import DYLIB, BUNDLE, MachO, patched_bytes
 from make_provisioning import TEAM, profile, signed
 from rule_package import APP, BULB, ORIENTATIONS, SHARE, Link, Package
-from signing import SHA1, Identity, Signer, seal
+from signing import SHA1, Identity, Signer, seal, super_blob
 
 def with_pictures(entries, megabytes=5):
     """The catalogue's entries, and so many of a megabyte that it does not come in one piece."""
@@ -32,6 +32,11 @@ def with_rows(rows):
 
 # About two megabytes, of files that may be missing.
 LONG_ROWS = b"".join(b"<key>%d.strings</key><dict><key>optional</key><true/></dict>" % n for n in range(30_000))
+
+
+def nested_twice(blobs):
+    """The blobs of a signature, and a signature with another in it."""
+    return blobs + [(9, super_blob([(0, super_blob(blobs))]))]
 
 
 def without(dictionary, *keys):
@@ -168,6 +173,10 @@ def breaking(identity, other, developer, ended):
             files[f"{APP}/Lamp"] = patched_bytes(code, place + 5, b"b")
         package.after = alter
 
+    def long_privacy_manifest(package):
+        package.code.imports = ["_statfs"]
+        package.privacy["LampText"] = "x" * (4 << 20)
+
     small = app_icon(size=512, dark=False)
     return {
         "icon-phone": icons(app_icon(idioms=("pad",))),
@@ -211,6 +220,7 @@ def breaking(identity, other, developer, ended):
         "signed": signer(identity=None, team="", flags=2),
         "signed not at all": lambda package: setattr(package, "sign_app", False),
         "signature": byte(f"{APP}/Lamp"),
+        "signature nested": signer(change=nested_twice),
         "signature-digest": signer(kinds=(SHA1,)),
         "signature seal": byte(f"{BULB}/Bulb"),
         "seal": replace(f"{APP}/de.lproj/Localizable.strings", b"changed"),
@@ -277,6 +287,9 @@ def breaking(identity, other, developer, ended):
         "arbitrary-loads": info(NSAppTransportSecurity={"NSAllowsArbitraryLoads": True}),
         "localization-holes": lambda package: package.files.update({"de.lproj/More.strings": b""}),
         "facebook": info(FacebookAppID="12345"),
+        "unread Info.plist": info(LampText="x" * (4 << 20)),
+        "unread provisioning": profile_changes(LampText="x" * (4 << 20)),
+        "unread privacy manifest": long_privacy_manifest,
     }
 
 

@@ -90,6 +90,14 @@ def parts(out, identity):
     (out / "entitlements in the older form").write_bytes(der_entitlements(ENTITLEMENTS, newer=False))
 
 
+def nested(blobs, levels):
+    """A signature in a signature, and so on."""
+    signature = super_blob(blobs)
+    for _ in range(levels):
+        signature = super_blob([(0, signature)])
+    return signature
+
+
 def main():
     out = Path(sys.argv[1])
     identity = Identity()
@@ -143,6 +151,8 @@ def main():
             blobs, 0, lambda content: content[:24] + struct.pack(">I", 0xFFFFFFFF) + content[28:])),
         "no directory": variant(identity, change=lambda blobs: [pair for pair in blobs if pair[0] != 0]),
         "signature in a signature": variant(identity, change=lambda blobs: blobs + [(9, super_blob(blobs))]),
+        "signatures in signatures": variant(identity, change=lambda blobs: blobs + [(9, nested(blobs, 200))]),
+        "signature that is a part of itself": broken(good, at + 16, b"\0\0\0\0"),
         "blobs without end": broken(good, at + 8, b"\xff\xff\xff\xff"),
         "blob past the end": broken(good, at + 16, b"\xff\xff\xff\xff"),
         "length past the end": broken(good, at + 4, b"\xff\xff\xff\xff"),

@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <QLocale>
+#include <QRegularExpression>
 
 #include <algorithm>
 
@@ -19,15 +20,6 @@ namespace
 QString countText(qsizetype count, const char *one, const char *several)
 {
     return count == 1 ? qtTrId(one) : qtTrId(several).replace("[COUNT]"_L1, QLocale().toString(count));
-}
-
-/// The locale's short one, with all digits of the year: 02.11.27 may be any of three days.
-QString shortDateFormat()
-{
-    QString format = QLocale().dateFormat(QLocale::ShortFormat);
-    if (!format.contains("yyyy"_L1))
-        format.replace("yy"_L1, "yyyy"_L1);
-    return format;
 }
 
 } // namespace
@@ -54,11 +46,18 @@ QString bytesText(quint64 bytes)
     return QLocale().formattedDataSize(static_cast<qint64>(bytes), 1, QLocale::DataSizeSIFormat);
 }
 
+QString dayText(QDate day)
+{
+    static const QRegularExpression weekday(u"[,، ]*\\bdddd\\b[,، ]*"_s);
+    const QLocale locale;
+    return locale.toString(day, locale.dateFormat(QLocale::LongFormat).remove(weekday).trimmed());
+}
+
 QString expiryText(const QDateTime &expires, const QDateTime &now)
 {
     if (!expires.isValid())
         return {};
-    const QString day = QLocale().toString(expires.toLocalTime().date(), shortDateFormat());
+    const QString day = dayText(expires.toLocalTime().date());
     const qint64 days = now.daysTo(expires);
     if (expires < now)
         return qtTrId("REVIEW_EXPIRED").replace("[DATE]"_L1, day);

@@ -15,7 +15,10 @@ QString bundleKindText(BundleKind kind);
 /// "12.4 MB" in the user's format.
 QString bytesText(quint64 bytes);
 
-/// "expires in 41 days (31/12/2026)", or that it has expired.
+/// The day with its month in words and its whole year, since 3/2/27 is another day in each country.
+QString dayText(QDate day);
+
+/// "expires in 41 days (31 December 2026)", or that it has expired.
 QString expiryText(const QDateTime &expires, const QDateTime &now);
 
 /// What was found and where, as one text that no hostile package makes endless.

@@ -133,6 +133,11 @@ const FileDigests *FileGathering::digests(const PackageEntry &entry) const
     return digests ? &*digests : nullptr;
 }
 
+bool FileGathering::isLeftOut(const PackageEntry &entry) const
+{
+    return isKept(entry.name()) && entry.kind == EntryKind::File && !m_kept[placeOf(entry)];
+}
+
 const FoundFacts *FileGathering::found(const PackageEntry &entry) const
 {
     const auto found = m_found.find(placeOf(entry));

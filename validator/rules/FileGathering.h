@@ -29,7 +29,7 @@ struct FoundFacts
 class FileGathering
 {
 public:
-    /// A longer property list or profile is none. Of all together only the first, by path, are kept.
+    /// A longer property list or profile is left out. Of all together only the first, by path, are kept.
     static constexpr quint64 mostContent = quint64{4} << 20;
     static constexpr quint64 mostContentOfAll = quint64{16} << 20;
 
@@ -42,6 +42,8 @@ public:
 
     /// Null if the entry was not read. Call this and the others only when all threads are done.
     const FileDigests *digests(const PackageEntry &entry) const;
+    /// Whether it is a property list or profile that is too large to be kept.
+    bool isLeftOut(const PackageEntry &entry) const;
     /// Null for a file without facts.
     const FoundFacts *found(const PackageEntry &entry) const;
     /// Empty when there is no such file or its content was not kept.

@@ -90,6 +90,8 @@ Judgement judgeLaunchScreen(const PackageContents &contents, const RuleSettings 
 Judgement judgePackageType(const PackageContents &contents, const RuleSettings &)
 {
     const PackageBundle &app = *contents.app();
+    if (contents.isUnread(infoPath(app)))
+        return cannotBeKnown(tooLarge());
     if (!app.info)
         return brokenBy({{infoPath(app), worded("FOUND_NONE_READABLE")}});
     const QString type = app.text(u"CFBundlePackageType"_s);
@@ -299,6 +301,14 @@ Judgement judgeCellularSize(const PackageContents &contents, const RuleSettings 
     if (contents.packedSize <= limit)
         return holds();
     return brokenBy({{QString(), worded("FOUND_PACKED_SIZE", {QString::number(contents.packedSize / 1'000'000)})}});
+}
+
+Judgement judgeUnread(const PackageContents &contents, const RuleSettings &)
+{
+    QList<Evidence> bad;
+    for (const QString &path : contents.unread)
+        bad += Evidence{path, tooLarge()};
+    return brokenBy(bad);
 }
 
 } // namespace lumora

@@ -23,6 +23,12 @@ inline Judgement cannotBeKnown(const QString &reason)
     return {Judgement::Unknown, {}, reason};
 }
 
+/// Of a file in `PackageContents::unread`.
+inline QString tooLarge()
+{
+    return worded("FOUND_TOO_LARGE");
+}
+
 /// Broken when there is any evidence; otherwise the rule holds.
 inline Judgement brokenBy(const QList<Evidence> &evidence)
 {
@@ -71,6 +77,7 @@ Judgement judgeArbitraryLoads(const PackageContents &, const RuleSettings &);
 Judgement judgeFacebook(const PackageContents &, const RuleSettings &);
 Judgement judgeLocalizationHoles(const PackageContents &, const RuleSettings &);
 Judgement judgeCellularSize(const PackageContents &, const RuleSettings &);
+Judgement judgeUnread(const PackageContents &, const RuleSettings &);
 
 Judgement judgeSdkAge(const PackageContents &, const RuleSettings &);
 Judgement judgeSdkAgeNext(const PackageContents &, const RuleSettings &);

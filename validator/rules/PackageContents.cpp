@@ -70,6 +70,8 @@ void ContentsReading::readFiles()
             continue;
         m_contents.files += PackageFile{entry.path, entry.size};
         m_contents.packedSize += entry.packedSize;
+        if (m_gathering.isLeftOut(entry))
+            m_contents.unread += entry.path;
         const FoundFacts *found = m_gathering.found(entry);
         if (entry.kind != EntryKind::File || found == nullptr)
             continue;

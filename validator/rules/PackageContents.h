@@ -81,6 +81,7 @@ struct PackageContents
     QList<PackageBundle> bundles; ///< the app first; empty if there is none
     QList<PackageBinary> binaries;
     QStringList staticArchives;
+    QStringList unread;       ///< property lists and profiles that are too large, ordered by path
     QList<PackageFile> files; ///< all files and links, ordered by path, code unit by code unit
     quint64 packedSize = 0;
     bool isArchive = false; ///< an .ipa; other forms have no files beside "Payload" yet
@@ -90,6 +91,7 @@ struct PackageContents
     const PackageBinary *binaryOf(const PackageBundle &bundle) const;
     const CodeSignature *signatureOf(const PackageBundle &bundle) const;
     bool holds(const QString &path) const;
+    bool isUnread(const QString &path) const { return unread.contains(path); }
     bool holdsFolder(const QString &path) const;
 };
 

@@ -206,22 +206,31 @@ Judgement judgeRequiredReasons(const PackageContents &contents, const RuleSettin
                 missing += Evidence{binary->path, worded("FOUND_NO_REASON", {used, name})};
         }
     }
-    return brokenBy(missing);
+    const bool isUnread = std::ranges::any_of(
+        contents.bundles, [&contents](const PackageBundle &bundle) { return contents.isUnread(bundle.privacyPath()); });
+    return isUnread && !missing.isEmpty() ? cannotBeKnown(tooLarge()) : brokenBy(missing);
 }
 
 Judgement judgePrivacyForm(const PackageContents &contents, const RuleSettings &)
 {
     QList<Evidence> bad;
     bool found = false;
+    bool isUnread = false;
     for (const PackageBundle &bundle : contents.bundles) {
         if (!bundle.hasPrivacyFile)
             continue;
+        if (contents.isUnread(bundle.privacyPath())) {
+            isUnread = true;
+            continue;
+        }
         found = true;
         if (!bundle.privacy)
             bad += Evidence{bundle.privacyPath(), worded("FOUND_UNREADABLE")};
         for (const QString &fault : bundle.privacy ? bundle.privacy->faults : QStringList())
             bad += Evidence{bundle.privacyPath(), fault};
     }
+    if (bad.isEmpty() && isUnread)
+        return cannotBeKnown(tooLarge());
     return found ? brokenBy(bad) : notApplicable(worded("FOUND_NO_MANIFEST"));
 }
 

@@ -209,14 +209,17 @@ Judgement judgeProfilePresent(const PackageContents &contents, const RuleSetting
     if (isMacApp(contents))
         return notApplicable(worded("FOUND_MAC_APP"));
     QList<Evidence> bad;
+    bool isUnread = false;
     for (const PackageBundle &bundle : contents.bundles) {
         if (bundle.kind != BundleKind::App && bundle.kind != BundleKind::Extension)
             continue;
-        if (!bundle.profile)
+        if (contents.isUnread(bundle.profilePath()))
+            isUnread = true;
+        else if (!bundle.profile)
             bad += Evidence{bundle.profilePath(),
                             bundle.hasProfileFile ? worded("FOUND_UNREADABLE") : worded("FOUND_NOT_THERE")};
     }
-    return brokenBy(bad);
+    return bad.isEmpty() && isUnread ? cannotBeKnown(tooLarge()) : brokenBy(bad);
 }
 
 Judgement judgeMacProfile(const PackageContents &contents, const RuleSettings &)
@@ -226,6 +229,8 @@ Judgement judgeMacProfile(const PackageContents &contents, const RuleSettings &)
     const PackageBundle &app = *contents.app();
     if (app.profile)
         return holds();
+    if (contents.isUnread(app.profilePath()))
+        return cannotBeKnown(tooLarge());
     return brokenBy({{app.profilePath(), worded(app.hasProfileFile ? "FOUND_UNREADABLE" : "FOUND_NOT_THERE")}});
 }
 
