@@ -23,6 +23,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <algorithm>
 #include <array>
 
 #include <malloc.h>
@@ -90,13 +91,15 @@ private slots:
             popover->setAnimates(false);
         m_delegate->activate();
         QVERIFY(QTest::qWaitForWindowExposed(m_delegate->window()));
-        // The memory after ten rounds of each: by that time every pane is laid out and every cache is filled.
+        // The memory after ten rounds of each: by that time every pane is laid out and every cache is filled. The
+        // resident memory goes up and down by some megabytes with the gaps in the heap; its highest level counts.
         for (int round = 0; round < 10; ++round) {
             switchTool(round);
             exportIcons(round);
             validate(round);
+            const Memory now = memory();
+            m_before = {now.heap, std::max(now.resident, m_before.resident)};
         }
-        m_before = memory();
     }
 
     void cleanupTestCase()
@@ -142,7 +145,7 @@ private:
         // The sanitizers keep freed memory on purpose, and report leaks at the end themselves.
         // The last export's picture may still be fitted into the view on another thread.
         QTRY_VERIFY(isWithinTenPercent(memory().heap, m_before.heap));
-        QVERIFY(isWithinTenPercent(memory().resident, m_before.resident));
+        QTRY_VERIFY(isWithinTenPercent(memory().resident, m_before.resident));
 #endif
     }
 
