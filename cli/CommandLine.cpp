@@ -9,6 +9,7 @@
 #include "cli/commands/CommandTable.h"
 #include "cli/console/CommandText.h"
 #include "cli/console/Console.h"
+#include "foundation/MemoryLimit.h"
 #include "foundation/Version.h"
 #include "resources/Resources.h"
 
@@ -20,6 +21,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <memory>
+#include <new>
 
 using namespace Qt::StringLiterals;
 
@@ -195,6 +197,17 @@ ExitStatus run(const QStringList &words)
     return console.finish(ExitStatus::Usage);
 }
 
+/// Memory that runs out where no engine reports it is a failure of the call, not a crash.
+ExitStatus runWithinMemory(const QStringList &words)
+{
+    try {
+        return run(words);
+    } catch (const std::bad_alloc &) {
+        Console().complain(complaintOf(outOfMemory({})));
+        return ExitStatus::Refused;
+    }
+}
+
 } // namespace
 
 bool isCommandLine(int argc, const char *const *argv)
@@ -217,7 +230,7 @@ int runCommandLine(int argc, char **argv)
     QCoreApplication::setApplicationName(u"lumora"_s);
     QCoreApplication::setApplicationVersion(QLatin1StringView(versionText));
     installCommandTexts();
-    ExitStatus status = run(words);
+    ExitStatus status = runWithinMemory(words);
     if (Console console; !console.flush()) {
         console.complain(Complaint{Complaint::Kind::Failure, u"cannot-write"_s, commandText("CLI_STANDARD_OUTPUT"),
                                    commandText("CLI_CANNOT_WRITE"), commandText("CLI_STANDARD_OUTPUT_ADVICE")});

@@ -2,6 +2,7 @@
 #include "WholeFile.h"
 
 #include "FileDescriptor.h"
+#include "MemoryLimit.h"
 #include "PendingFile.h"
 
 #include <QFile>
@@ -67,6 +68,35 @@ Outcome writePending(const QByteArray &name, const QByteArray &bytes)
     return written ? file.value().publish() : written;
 }
 
+/// Reads up to the end. `expected` is the file's size, or -1 if it is not known.
+Result<QByteArray> readToEnd(int descriptor, qint64 expected, const QString &name, qint64 limit)
+{
+    // One byte more than the file's size, so that one read reaches the end without growing the buffer.
+    constexpr qsizetype step = 1 << 16;
+    QByteArray bytes(expected < 0 ? step : expected + 1, Qt::Uninitialized);
+    qsizetype filled = 0;
+    for (;;) {
+        if (filled == bytes.size()) {
+            if (filled > limit)
+                return Failure{FailureCode::TooLarge, name, {}};
+            bytes.resize(std::min<qint64>(std::max(2 * filled, step), limit + 1));
+        }
+        const ssize_t count =
+            ::read(descriptor, bytes.data() + filled, static_cast<std::size_t>(bytes.size() - filled));
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count < 0)
+            return Failure{openingFailure(errno), name, qt_error_string(errno)};
+        if (count == 0)
+            break;
+        filled += count;
+    }
+    if (filled > limit)
+        return Failure{FailureCode::TooLarge, name, {}};
+    bytes.truncate(filled);
+    return bytes;
+}
+
 } // namespace
 
 Outcome writeWholeFile(const QString &path, const QByteArray &bytes)
@@ -107,31 +137,7 @@ Result<QByteArray> readWholeDescriptor(int descriptor, const QString &name, qint
     const bool regular = S_ISREG(status.st_mode);
     if (regular && status.st_size > limit)
         return Failure{FailureCode::TooLarge, name, {}};
-
-    // One byte more than the file's size, so that one read reaches the end without growing the buffer.
-    constexpr qsizetype step = 1 << 16;
-    QByteArray bytes(regular ? status.st_size + 1 : step, Qt::Uninitialized);
-    qsizetype filled = 0;
-    for (;;) {
-        if (filled == bytes.size()) {
-            if (filled > limit)
-                return Failure{FailureCode::TooLarge, name, {}};
-            bytes.resize(std::min<qint64>(std::max(2 * filled, step), limit + 1));
-        }
-        const ssize_t count =
-            ::read(descriptor, bytes.data() + filled, static_cast<std::size_t>(bytes.size() - filled));
-        if (count < 0 && errno == EINTR)
-            continue;
-        if (count < 0)
-            return Failure{openingFailure(errno), name, qt_error_string(errno)};
-        if (count == 0)
-            break;
-        filled += count;
-    }
-    if (filled > limit)
-        return Failure{FailureCode::TooLarge, name, {}};
-    bytes.truncate(filled);
-    return bytes;
+    return withinMemory(name, [&] { return readToEnd(descriptor, regular ? status.st_size : -1, name, limit); });
 }
 
 } // namespace lumora

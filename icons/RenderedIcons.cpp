@@ -2,6 +2,7 @@
 #include "RenderedIcons.h"
 
 #include "PriorityWorkers.h"
+#include "foundation/LazyValue.h"
 #include "foundation/MemoryLimit.h"
 #include "pictures/png/PngRows.h"
 #include "pictures/png/PngSection.h"
@@ -99,9 +100,6 @@ private:
             if (!picture)
                 return picture.failure();
             piece.rows = std::make_unique<ImageRows>(picture.value());
-            // A conversion without memory leaves nothing.
-            if (piece.rows->size() != size)
-                return outOfMemory({});
             piece.sections.resize(static_cast<std::size_t>(sections));
             piece.sectionsLeft = sections;
             return Done{};
@@ -138,13 +136,11 @@ private:
     /// Made by the first thread that needs it; another may already encode the picture at its original size.
     const Resampler &resampler()
     {
-        std::call_once(m_takenApart, [this] { m_resampler = std::make_unique<Resampler>(m_icon, QString()); });
-        return *m_resampler;
+        return *m_resampler.get([this] { return std::make_unique<Resampler>(m_icon, QString()); });
     }
 
     QImage m_icon;
-    std::once_flag m_takenApart;
-    std::unique_ptr<Resampler> m_resampler;
+    LazyValue<std::unique_ptr<Resampler>> m_resampler;
     std::mutex m_mutex;
     std::condition_variable m_finished;
     std::map<int, std::unique_ptr<Piece>> m_pieces;

@@ -4,8 +4,10 @@
 #include "ExifOrientation.h"
 #include "IcnsReader.h"
 #include "PictureFormat.h"
+#include "foundation/MemoryLimit.h"
 #include "foundation/SharedLibrary.h"
 #include "foundation/WholeFile.h"
+#include "pictures/pixels/PictureMemory.h"
 #include "pictures/pixels/PixelFormat.h"
 #include "pictures/pixels/SizeText.h"
 #include "pictures/png/OrdinaryPng.h"
@@ -83,7 +85,7 @@ QImage turned(const QImage &picture, QImageIOHandler::Transformations how)
 QImage upright(const QImage &picture, const QByteArray &exif)
 {
     const QImageIOHandler::Transformations how = exifOrientation(exif);
-    return how == QImageIOHandler::TransformationNone ? picture : turned(picture, how);
+    return how == QImageIOHandler::TransformationNone ? picture : withPixels(turned(picture, how));
 }
 
 /// The picture upright, in the depth and colors of its file.
@@ -116,7 +118,7 @@ QImage toSrgb(QImage picture)
     picture.convertTo(QImage::Format_RGBA8888);
     picture.setColorSpace(QColorSpace());
     picture.setDevicePixelRatio(1);
-    return picture;
+    return withPixels(std::move(picture));
 }
 
 } // namespace
@@ -163,20 +165,24 @@ Result<QImage> readStraightPicture(const QByteArray &bytes, const QString &name)
     }
     if (!isWhole(bytes))
         return damaged(name);
-    Result<QImage> decoded = decode(bytes, format, name);
-    if (!decoded)
-        return decoded;
-    QImage picture = std::move(decoded).value();
-    // Only the header's size was checked, and some decoders return another.
-    if (picture.size() != size && picture.size() != size.transposed())
-        return damaged(name);
-    return toSrgb(std::move(picture));
+    return withinMemory(name, [&]() -> Result<QImage> {
+        Result<QImage> decoded = decode(bytes, format, name);
+        if (!decoded)
+            return decoded;
+        QImage picture = std::move(decoded).value();
+        // Only the header's size was checked, and some decoders return another.
+        if (picture.size() != size && picture.size() != size.transposed())
+            return damaged(name);
+        return toSrgb(std::move(picture));
+    });
 }
 
 Result<QImage> readPicture(const QByteArray &bytes, const QString &name)
 {
-    Result<QImage> picture = readStraightPicture(bytes, name);
-    return picture ? Result<QImage>(premultiplied(std::move(picture).value())) : picture;
+    return withinMemory(name, [&]() -> Result<QImage> {
+        Result<QImage> picture = readStraightPicture(bytes, name);
+        return picture ? Result<QImage>(premultiplied(std::move(picture).value())) : picture;
+    });
 }
 
 Result<QSize> storedPixelSize(const QString &path)

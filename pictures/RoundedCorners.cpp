@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "RoundedCorners.h"
 
+#include "pictures/pixels/PictureMemory.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -85,6 +87,8 @@ void roundCorners(QImage &picture, float radius)
     const int right = picture.width() - 1;
     const int bottom = picture.height() - 1;
     const int reach = std::min({static_cast<int>(std::ceil(radius)), (right + 2) / 2, (bottom + 2) / 2});
+    if (reach > 0)
+        takeOwnPixels(picture);
     for (int y = 0; y < reach; ++y) {
         std::uint8_t *top = picture.scanLine(y);
         std::uint8_t *mirrored = picture.scanLine(bottom - y);

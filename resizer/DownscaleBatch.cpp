@@ -7,6 +7,7 @@
 #include "RetinaPicture.h"
 #include "foundation/ExportFolder.h"
 #include "foundation/MemoryLimit.h"
+#include "foundation/ThreadGroup.h"
 #include "foundation/WholeFile.h"
 #include "pictures/PictureReader.h"
 
@@ -18,7 +19,6 @@
 #include <map>
 #include <mutex>
 #include <optional>
-#include <thread>
 #include <vector>
 
 namespace lumora
@@ -73,10 +73,14 @@ public:
     void run(const FileDownscaled &downscaled)
     {
         const auto workers = std::min<qsizetype>(std::max(QThread::idealThreadCount(), 1), m_jobs.size());
-        std::vector<std::jthread> threads;
-        for (qsizetype i = 0; i < workers; ++i)
-            threads.emplace_back([this] { work(); });
+        ThreadGroup threads;
+        threads.start(static_cast<std::size_t>(workers), [this] {
+            while (workOnNext()) {
+            }
+        });
         for (qsizetype index = 0; index < m_jobs.size(); ++index) {
+            if (threads.isEmpty())
+                workOnNext();
             const std::optional<Result<HalvedPicture>> picture = take(index);
             if (!picture || !downscaled(index, write(index, *picture)))
                 break;
@@ -99,23 +103,23 @@ private:
         }
     }
 
-    void work()
+    /// Halves the next picture; returns whether there was one to halve.
+    bool workOnNext()
     {
-        for (;;) {
-            std::unique_lock lock(m_mutex);
-            const qsizetype index = m_next++;
-            if (index >= m_jobs.size())
-                return;
-            m_mayRead.wait(lock, [this, index] { return m_stopped || mayRead(index); });
-            if (m_stopped)
-                return;
-            lock.unlock();
-            std::optional<Result<HalvedPicture>> picture = readAndHalve(m_jobs.at(index).source);
-            lock.lock();
-            m_bytesWaiting += bytesOf(picture);
-            m_halved.emplace(index, std::move(picture));
-            m_finished.notify_one();
-        }
+        std::unique_lock lock(m_mutex);
+        const qsizetype index = m_next++;
+        if (index >= m_jobs.size())
+            return false;
+        m_mayRead.wait(lock, [this, index] { return m_stopped || mayRead(index); });
+        if (m_stopped)
+            return false;
+        lock.unlock();
+        std::optional<Result<HalvedPicture>> picture = readAndHalve(m_jobs.at(index).source);
+        lock.lock();
+        m_bytesWaiting += bytesOf(picture);
+        m_halved.emplace(index, std::move(picture));
+        m_finished.notify_one();
+        return true;
     }
 
     /// Empty if the batch was stopped and the file does not answer.

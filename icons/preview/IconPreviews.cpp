@@ -8,6 +8,7 @@
 #include "icons/today/SetPlans.h"
 #include "icons/today/WebFigures.h"
 #include "pictures/RoundedCorners.h"
+#include "pictures/pixels/PictureMemory.h"
 
 #include <QPainter>
 
@@ -30,7 +31,7 @@ const QColor shapeColor(0x34, 0x49, 0x5E);
 
 QImage blank(int edge, const QColor &color = Qt::transparent)
 {
-    QImage picture(edge, edge, QImage::Format_RGBA8888_Premultiplied);
+    QImage picture = newPicture(QSize(edge, edge), QImage::Format_RGBA8888_Premultiplied);
     picture.fill(color);
     return picture;
 }

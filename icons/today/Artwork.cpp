@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "Artwork.h"
 
+#include "foundation/LazyValue.h"
 #include "icons/IconCatalogue.h"
 #include "pictures/pixels/PixelFormat.h"
 #include "pictures/scaling/PicturePlanes.h"
 #include "pictures/scaling/Resampler.h"
 #include "pictures/svg/SvgDrawing.h"
 
-#include <mutex>
+#include <memory>
 
 namespace lumora
 {
@@ -16,10 +17,8 @@ struct Artwork::State
 {
     QImage picture;                            ///< null for a drawing that is drawn again for every size
     std::shared_ptr<const SvgDrawing> drawing; ///< none for a picture
-    std::once_flag takenApart;
-    std::unique_ptr<Resampler> resampler;
-    std::once_flag judged;
-    bool opaque = false;
+    LazyValue<std::unique_ptr<Resampler>> resampler;
+    LazyValue<bool> opaque;
 };
 
 Artwork::Artwork() = default;
@@ -54,8 +53,7 @@ bool Artwork::isOpaque() const
 {
     if (!m_state)
         return false;
-    std::call_once(m_state->judged, [this] { m_state->opaque = lumora::isOpaque(at(sourceIconSize)); });
-    return m_state->opaque;
+    return m_state->opaque.get([this] { return lumora::isOpaque(at(sourceIconSize)); });
 }
 
 QImage Artwork::at(int edge) const
@@ -67,9 +65,9 @@ QImage Artwork::at(int edge) const
     const QSize size(edge, edge);
     if (m_state->picture.size() == size)
         return m_state->picture;
-    std::call_once(m_state->takenApart,
-                   [this] { m_state->resampler = std::make_unique<Resampler>(m_state->picture, QString()); });
-    Result<QImage> scaled = m_state->resampler->scaledTo(size);
+    const auto &resampler =
+        m_state->resampler.get([this] { return std::make_unique<Resampler>(m_state->picture, QString()); });
+    Result<QImage> scaled = resampler->scaledTo(size);
     return scaled ? std::move(scaled).value() : QImage();
 }
 

@@ -4,6 +4,7 @@
 #include "AppleSlots.h"
 #include "Artwork.h"
 #include "pictures/RoundedCorners.h"
+#include "pictures/pixels/PictureMemory.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -127,7 +128,7 @@ QImage macBody(const Artwork &icon, int edge)
     roundCorners(body, macGrid.cornerRadius * static_cast<float>(edge) / storeIconSize);
     const int margin = (edge - body.width()) / 2;
     const Shape shadow = shadowOf(body, edge, margin);
-    QImage picture(edge, edge, QImage::Format_RGBA8888_Premultiplied);
+    QImage picture = newPicture(QSize(edge, edge), QImage::Format_RGBA8888_Premultiplied);
     picture.fill(Qt::transparent);
     for (int y = 0; y < edge; ++y) {
         uchar *row = picture.scanLine(y);

@@ -6,6 +6,7 @@
 #include "MacBody.h"
 #include "icons/IconCatalogue.h"
 #include "pictures/RoundedCorners.h"
+#include "pictures/pixels/PictureMemory.h"
 
 #include <algorithm>
 
@@ -26,6 +27,7 @@ constexpr int scalingSpread = 1;
 /// Opaque gray, on black.
 QImage luminance(QImage picture)
 {
+    takeOwnPixels(picture);
     for (int y = 0; y < picture.height(); ++y) {
         uchar *pixel = picture.scanLine(y);
         for (int x = 0; x < picture.width(); ++x, pixel += 4) {
@@ -40,6 +42,7 @@ QImage luminance(QImage picture)
 /// White with the same transparency.
 QImage whitened(QImage picture)
 {
+    takeOwnPixels(picture);
     for (int y = 0; y < picture.height(); ++y) {
         uchar *pixel = picture.scanLine(y);
         for (int x = 0; x < picture.width(); ++x, pixel += 4)
@@ -64,8 +67,7 @@ QImage Motifs::at(Motif motif, int layer, int edge) const
     case Motif::MacBody:
         if (m_macForm == MacForm::FullBleed)
             return m_sources.icon.at(edge);
-        std::call_once(m_macMade, [this] { m_mac = Artwork(macBody(m_sources.icon, sourceIconSize)); });
-        return m_mac.at(edge);
+        return m_mac.get([this] { return Artwork(macBody(m_sources.icon, sourceIconSize)); }).at(edge);
     case Motif::Foreground:
         return (m_sources.foreground.isNull() ? m_sources.icon : m_sources.foreground).at(edge);
     case Motif::Background:
@@ -73,8 +75,7 @@ QImage Motifs::at(Motif motif, int layer, int edge) const
     case Motif::Monochrome:
         return whitened(monochromeSource().at(edge));
     case Motif::Round:
-        std::call_once(m_roundMade, [this] { m_round = Artwork(roundIcon()); });
-        return m_round.at(edge);
+        return m_round.get([this] { return Artwork(roundIcon()); }).at(edge);
     case Motif::Layer:
         return layer < m_sources.layers.size() ? m_sources.layers[layer].at(edge) : QImage();
     case Motif::Layers:
@@ -87,13 +88,17 @@ QColor Motifs::backgroundColor() const
 {
     if (m_sources.backgroundColor)
         return *m_sources.backgroundColor;
-    return hasBorderColor() ? *m_border : QColor(Qt::white);
+    return border().value_or(QColor(Qt::white));
+}
+
+const std::optional<QColor> &Motifs::border() const
+{
+    return m_border.get([this] { return borderColor(m_sources.icon.at(sourceIconSize)); });
 }
 
 bool Motifs::hasBorderColor() const
 {
-    std::call_once(m_borderFound, [this] { m_border = borderColor(m_sources.icon.at(sourceIconSize)); });
-    return m_border.has_value();
+    return border().has_value();
 }
 
 bool Motifs::hasMonochrome() const
@@ -104,10 +109,10 @@ bool Motifs::hasMonochrome() const
 
 int Motifs::safeEdge(double circle, int edge) const
 {
-    std::call_once(m_extentFound, [this] { m_extent = contentDiameter(m_sources.icon.at(sourceIconSize)); });
-    if (m_extent <= circle)
+    const double extent = m_extent.get([this] { return contentDiameter(m_sources.icon.at(sourceIconSize)); });
+    if (extent <= circle)
         return edge;
-    return std::max(static_cast<int>(edge * circle / m_extent) - 2 * scalingSpread, 1);
+    return std::max(static_cast<int>(edge * circle / extent) - 2 * scalingSpread, 1);
 }
 
 const Artwork &Motifs::monochromeSource() const
@@ -117,7 +122,7 @@ const Artwork &Motifs::monochromeSource() const
 
 QImage Motifs::plainBackground(int edge) const
 {
-    QImage picture(edge, edge, QImage::Format_RGBA8888_Premultiplied);
+    QImage picture = newPicture(QSize(edge, edge), QImage::Format_RGBA8888_Premultiplied);
     picture.fill(backgroundColor());
     return picture;
 }
@@ -126,7 +131,7 @@ QImage Motifs::roundIcon() const
 {
     const int edge = sourceIconSize;
     const int layerEdge = edge * adaptiveLayerDp / adaptiveViewportDp;
-    QImage picture(edge, edge, QImage::Format_RGBA8888_Premultiplied);
+    QImage picture = newPicture(QSize(edge, edge), QImage::Format_RGBA8888_Premultiplied);
     picture.fill(backgroundColor());
     if (!m_sources.background.isNull())
         drawInMiddle(picture, at(Motif::Background, 0, layerEdge));
@@ -139,7 +144,7 @@ QImage Motifs::roundIcon() const
 
 QImage Motifs::allLayers(int edge) const
 {
-    QImage picture(edge, edge, QImage::Format_RGBA8888_Premultiplied);
+    QImage picture = newPicture(QSize(edge, edge), QImage::Format_RGBA8888_Premultiplied);
     picture.fill(Qt::transparent);
     for (const Artwork &layer : m_sources.layers)
         drawInMiddle(picture, layer.at(edge));

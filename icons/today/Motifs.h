@@ -3,11 +3,12 @@
 
 #include "PictureRecipe.h"
 #include "TodaySources.h"
+#include "foundation/LazyValue.h"
 
 #include <QColor>
 #include <QImage>
 
-#include <mutex>
+#include <optional>
 
 namespace lumora
 {
@@ -42,20 +43,17 @@ public:
 
 private:
     const Artwork &monochromeSource() const;
+    const std::optional<QColor> &border() const;
     QImage plainBackground(int edge) const;
     QImage roundIcon() const;
     QImage allLayers(int edge) const;
 
     TodaySources m_sources;
     MacForm m_macForm;
-    mutable std::once_flag m_macMade;
-    mutable Artwork m_mac;
-    mutable std::once_flag m_roundMade;
-    mutable Artwork m_round;
-    mutable std::once_flag m_extentFound;
-    mutable double m_extent = 0;
-    mutable std::once_flag m_borderFound;
-    mutable std::optional<QColor> m_border;
+    mutable LazyValue<Artwork> m_mac;
+    mutable LazyValue<Artwork> m_round;
+    mutable LazyValue<double> m_extent;
+    mutable LazyValue<std::optional<QColor>> m_border;
 };
 
 /// Draws a premultiplied picture over the middle of another one, cut off at its edges.

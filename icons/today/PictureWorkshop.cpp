@@ -2,14 +2,16 @@
 #include "PictureWorkshop.h"
 
 #include "Motifs.h"
+#include "foundation/LazyValue.h"
 #include "foundation/MemoryLimit.h"
+#include "foundation/ThreadGroup.h"
+#include "pictures/pixels/PictureMemory.h"
 #include "pictures/png/PngEncoder.h"
 
 #include <algorithm>
 #include <atomic>
 #include <map>
 #include <mutex>
-#include <optional>
 #include <thread>
 #include <tuple>
 
@@ -27,26 +29,17 @@ constexpr qint64 largePicture = 1 << 20;
 template <typename Key, typename Value> class MadeOnce
 {
 public:
-    template <typename Make> Value get(const Key &key, Make make)
-    {
-        Entry *entry = nullptr;
-        {
-            const std::scoped_lock lock(m_mutex);
-            entry = &m_entries[key];
-        }
-        std::call_once(entry->once, [&] { entry->value = make(); });
-        return *entry->value;
-    }
+    template <typename Make> Value get(const Key &key, const Make &make) { return entryOf(key).get(make); }
 
 private:
-    struct Entry
+    LazyValue<Value> &entryOf(const Key &key)
     {
-        std::once_flag once;
-        std::optional<Value> value;
-    };
+        const std::scoped_lock lock(m_mutex);
+        return m_entries[key];
+    }
 
     std::mutex m_mutex;
-    std::map<Key, Entry> m_entries;
+    std::map<Key, LazyValue<Value>> m_entries;
 };
 
 } // namespace
@@ -59,7 +52,7 @@ public:
     ~Private()
     {
         stopping = true;
-        threads.clear();
+        threads.join();
     }
 
     QImage drawing(Motif motif, int layer, int edge)
@@ -76,7 +69,7 @@ public:
         const QSize size(recipe.width, recipe.height);
         if (motif.isNull() || (motif.size() == size && recipe.ground == 0))
             return motif;
-        QImage picture(size, QImage::Format_RGBA8888_Premultiplied);
+        QImage picture = newPicture(size, QImage::Format_RGBA8888_Premultiplied);
         picture.fill(recipe.ground == 0 ? QColor(Qt::transparent) : QColor::fromRgb(recipe.ground));
         drawInMiddle(picture, motif);
         return picture;
@@ -84,9 +77,13 @@ public:
 
     Result<QByteArray> file(const PictureRecipe &recipe)
     {
-        return files.get(recipe, [this, &recipe]() -> Result<QByteArray> {
-            return withinMemory(QString(), [&] { return encoded(recipe); });
-        });
+        return withinMemory(QString(), [&] { return files.get(recipe, [&] { return encodedOrFailed(recipe); }); });
+    }
+
+    /// A picture that found no memory is not tried again for every file that shows it.
+    Result<QByteArray> encodedOrFailed(const PictureRecipe &recipe)
+    {
+        return withinMemory(QString(), [&] { return encoded(recipe); });
     }
 
     Result<QByteArray> encoded(const PictureRecipe &recipe)
@@ -109,7 +106,7 @@ public:
     std::vector<PictureRecipe> prepared;
     std::atomic<std::size_t> next = 0;
     std::atomic<bool> stopping = false;
-    std::vector<std::jthread> threads;
+    ThreadGroup threads;
 };
 
 PictureWorkshop::PictureWorkshop(const Motifs &motifs) : m_state(std::make_unique<Private>(motifs)) {}
@@ -123,14 +120,12 @@ void PictureWorkshop::prepare(std::vector<PictureRecipe> recipes)
         return qint64{one.width} * one.height > qint64{other.width} * other.height;
     });
     m_state->prepared = std::move(recipes);
-    const unsigned count = std::max(std::thread::hardware_concurrency(), 1U);
-    for (unsigned i = 0; i < count; ++i) {
-        m_state->threads.emplace_back([state = m_state.get()] {
-            for (std::size_t index = state->next++; index < state->prepared.size() && !state->stopping;
-                 index = state->next++)
-                (void)state->file(state->prepared[index]);
-        });
-    }
+    // A thread that the system refuses costs time only: `file` makes what is not made yet.
+    m_state->threads.start(std::max(std::thread::hardware_concurrency(), 1U), [state = m_state.get()] {
+        for (std::size_t index = state->next++; index < state->prepared.size() && !state->stopping;
+             index = state->next++)
+            (void)state->file(state->prepared[index]);
+    });
 }
 
 Result<QByteArray> PictureWorkshop::file(const PictureRecipe &recipe)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "PixelFormat.h"
 
+#include "PictureMemory.h"
+
 #include <algorithm>
 #include <array>
 #include <cstdint>
@@ -53,11 +55,12 @@ bool areOpaque(const std::uint8_t *pixels, int count)
 
 QImage premultiplied(QImage picture)
 {
-    if (picture.format() == QImage::Format_RGBA8888_Premultiplied)
+    if (picture.isNull() || picture.format() == QImage::Format_RGBA8888_Premultiplied)
         return picture;
     if (picture.format() == QImage::Format_ARGB32_Premultiplied)
-        return picture.convertToFormat(QImage::Format_RGBA8888_Premultiplied);
-    QImage result = std::move(picture).convertToFormat(QImage::Format_RGBA8888);
+        return withPixels(picture.convertToFormat(QImage::Format_RGBA8888_Premultiplied));
+    QImage result = withPixels(std::move(picture).convertToFormat(QImage::Format_RGBA8888));
+    takeOwnPixels(result);
     const int width = result.width();
     for (int y = 0; y < result.height(); ++y)
         premultiplyRow(result.scanLine(y), width);

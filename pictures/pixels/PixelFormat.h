@@ -9,7 +9,8 @@ namespace lumora
 {
 
 /// Converts any picture to `QImage::Format_RGBA8888_Premultiplied`. Qt's own conversions round differently on different
-/// processors; the written files must be the same everywhere.
+/// processors; the written files must be the same everywhere. An empty picture stays empty; throws `std::bad_alloc` if
+/// memory runs out.
 QImage premultiplied(QImage picture);
 
 /// Turns `count` premultiplied RGBA pixels into straight ones in place. A translucent pixel gets no more color

@@ -3,6 +3,7 @@
 
 #include "PngHeader.h"
 #include "PngRowReader.h"
+#include "foundation/MemoryLimit.h"
 #include "pictures/pixels/SizeText.h"
 
 #include <algorithm>
@@ -67,7 +68,7 @@ Result<QImage> decodeApplePng(QByteArrayView bytes, const QString &name, qint64 
         return Failure{FailureCode::TooLarge, name, pixelsDetail(size)};
     QImage picture(size, QImage::Format_RGBA8888_Premultiplied);
     if (picture.isNull())
-        return damaged;
+        return outOfMemory(name);
 
     const int channels = header->colorType == rgba ? 4 : 3;
     // Without a fourth channel every pixel is opaque, whatever the first chunk says.

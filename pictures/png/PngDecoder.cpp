@@ -3,6 +3,7 @@
 
 #include "CodePoints.h"
 #include "PngChunks.h"
+#include "pictures/pixels/PictureMemory.h"
 
 #include <QColorSpace>
 #include <QSize>
@@ -160,9 +161,7 @@ Result<DecodedPng> decodePng(const QByteArray &file, const QString &name)
     Decoding decoding(file);
     if (!decoding.readHeader())
         return damaged;
-    DecodedPng result{QImage(decoding.size(), decoding.format()), {}};
-    if (result.picture.isNull())
-        return damaged;
+    DecodedPng result{newPicture(decoding.size(), decoding.format()), {}};
     std::vector<png_bytep> rows;
     rows.reserve(static_cast<std::size_t>(result.picture.height()));
     for (int y = 0; y < result.picture.height(); ++y)

@@ -2,6 +2,7 @@
 #include "PngDeflate.h"
 
 #include "DeflateBlocks.h"
+#include "foundation/ThreadValue.h"
 
 #include <libdeflate.h>
 
@@ -23,8 +24,8 @@ struct FreeCompressor
 /// A compressor has nearly a megabyte of tables, so each thread keeps one for the next stream.
 libdeflate_compressor *compressorOf(int level)
 {
-    thread_local std::map<int, std::unique_ptr<libdeflate_compressor, FreeCompressor>> compressors;
-    auto &compressor = compressors[level];
+    static ThreadValue<std::map<int, std::unique_ptr<libdeflate_compressor, FreeCompressor>>> compressors;
+    auto &compressor = compressors.get()[level];
     if (compressor == nullptr)
         compressor.reset(libdeflate_alloc_compressor(level));
     if (compressor == nullptr)

@@ -4,12 +4,13 @@
 #include "PngRows.h"
 #include "PngSection.h"
 #include "foundation/MemoryLimit.h"
+#include "foundation/ThreadGroup.h"
+#include "pictures/pixels/PictureMemory.h"
 #include "pictures/pixels/PixelFormat.h"
 
 #include <algorithm>
 #include <array>
 #include <atomic>
-#include <thread>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -30,13 +31,7 @@ template <typename Work> Result<QByteArray> encoded(const QImage &picture, const
 {
     if (picture.isNull())
         return emptyPicture(name);
-    return withinMemory(name, [&]() -> Result<QByteArray> {
-        const ImageRows rows(picture);
-        // A conversion without memory leaves nothing.
-        if (rows.size().isEmpty())
-            return outOfMemory(name);
-        return work(rows);
-    });
+    return withinMemory(name, [&]() -> Result<QByteArray> { return work(ImageRows(picture)); });
 }
 
 Result<QByteArray> encodedInSections(const PngRows &picture, int threads, const QString &name,
@@ -55,9 +50,9 @@ Result<QByteArray> encodedInSections(const PngRows &picture, int threads, const 
             isWhole = false;
     };
     {
-        std::vector<std::jthread> helpers;
-        for (std::size_t i = 1; i < std::min(static_cast<std::size_t>(std::max(threads, 1)), sections.size()); ++i)
-            helpers.emplace_back(makeSections);
+        ThreadGroup helpers;
+        if (sections.size() > 1)
+            helpers.start(std::min(static_cast<std::size_t>(std::max(threads, 1)), sections.size()) - 1, makeSections);
         makeSections();
     }
     if (!isWhole)
@@ -95,10 +90,12 @@ Result<QByteArray> encodeOpaquePng(const PngRows &picture, int threads, const QS
 
 Result<QByteArray> encodeOpaquePng(const QImage &picture, int threads, const QString &name)
 {
-    // The premultiplied colors are those of the picture on black.
-    QImage onBlack = premultiplied(picture);
-    onBlack.reinterpretAsFormat(QImage::Format_RGBA8888);
-    return encoded(onBlack, name, [&](const PngRows &rows) { return encodeOpaquePng(rows, threads, name); });
+    return withinMemory(name, [&] {
+        // The premultiplied colors are those of the picture on black.
+        QImage onBlack = premultiplied(picture);
+        onBlack.reinterpretAsFormat(QImage::Format_RGBA8888);
+        return encoded(onBlack, name, [&](const PngRows &rows) { return encodeOpaquePng(rows, threads, name); });
+    });
 }
 
 } // namespace lumora

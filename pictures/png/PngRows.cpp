@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "PngRows.h"
 
+#include "pictures/pixels/PictureMemory.h"
 #include "pictures/pixels/PixelFormat.h"
 
 #include <algorithm>
@@ -18,6 +19,7 @@ QImage straight(QImage picture)
     if (picture.format() == QImage::Format_RGBA8888)
         return picture;
     picture = premultiplied(std::move(picture));
+    takeOwnPixels(picture);
     for (int row = 0; row < picture.height(); ++row)
         straightenPixels(picture.scanLine(row), picture.width());
     picture.reinterpretAsFormat(QImage::Format_RGBA8888);

@@ -23,7 +23,8 @@ public:
     virtual void readRow(int row, std::span<std::uint8_t> rgba) const = 0;
 };
 
-/// The rows of a picture. A picture in another format than `Format_RGBA8888` is copied.
+/// The rows of a picture. A picture in another format than `Format_RGBA8888` is copied; throws
+/// `std::bad_alloc` if memory runs out.
 class ImageRows final : public PngRows
 {
 public:

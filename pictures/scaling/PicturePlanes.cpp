@@ -2,6 +2,7 @@
 #include "PicturePlanes.h"
 
 #include "ColorPlanes.h"
+#include "pictures/pixels/PictureMemory.h"
 #include "pictures/pixels/PixelFormat.h"
 
 #include <algorithm>
@@ -122,9 +123,7 @@ std::unique_ptr<ColorPlanes> takenApart(const QImage &picture)
 
 QImage putTogether(const ColorPlanes &planes)
 {
-    QImage picture(planes.size(), QImage::Format_RGBA8888_Premultiplied);
-    if (picture.isNull())
-        throw std::bad_alloc();
+    QImage picture = newPicture(planes.size(), QImage::Format_RGBA8888_Premultiplied);
     if (planes.depth() == SampleDepth::Bits8)
         putRowsTogether<std::uint8_t>(planes, picture);
     else

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "PlaneScaler.h"
 
+#include "foundation/ThreadValue.h"
+
 #include <zimg.h>
 
 #include <algorithm>
@@ -100,7 +102,8 @@ PlaneScaler::~PlaneScaler() = default;
 
 std::shared_ptr<const PlaneScaler> PlaneScaler::kept(QSize from, QSize to, SampleDepth depth)
 {
-    thread_local std::deque<KeptScaler> scalers;
+    static ThreadValue<std::deque<KeptScaler>> keptScalers;
+    std::deque<KeptScaler> &scalers = keptScalers.get();
     const auto found = std::find_if(scalers.cbegin(), scalers.cend(), [&](const KeptScaler &kept) {
         return kept.from == from && kept.to == to && kept.depth == depth;
     });

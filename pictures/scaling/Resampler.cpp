@@ -5,6 +5,7 @@
 #include "PicturePlanes.h"
 #include "RingingClamp.h"
 #include "foundation/MemoryLimit.h"
+#include "pictures/pixels/PictureMemory.h"
 #include "pictures/pixels/PixelFormat.h"
 #include "pictures/pixels/SizeText.h"
 
@@ -38,7 +39,7 @@ QImage ready(QImage picture)
     const bool multiplied = picture.pixelFormat().premultiplied() == QPixelFormat::Premultiplied;
     if (multiplied || !picture.hasAlphaChannel())
         return premultiplied(std::move(picture));
-    picture.convertTo(QImage::Format_RGBA8888);
+    picture = withPixels(std::move(picture).convertToFormat(QImage::Format_RGBA8888));
     // Without transparency both formats have the same bytes.
     if (isOpaque(picture))
         picture.reinterpretAsFormat(QImage::Format_RGBA8888_Premultiplied);
@@ -49,13 +50,7 @@ Result<std::unique_ptr<ColorPlanes>> planesOfSource(const QImage &source, const 
 {
     if (source.isNull())
         return Failure{FailureCode::InvalidValue, name, "DETAIL_EMPTY_PICTURE"};
-    return withinMemory(name, [&]() -> Result<std::unique_ptr<ColorPlanes>> {
-        const QImage picture = ready(source);
-        // A conversion without memory leaves nothing.
-        if (picture.isNull())
-            return outOfMemory(name);
-        return takenApart(picture);
-    });
+    return withinMemory(name, [&]() -> Result<std::unique_ptr<ColorPlanes>> { return takenApart(ready(source)); });
 }
 
 } // namespace
@@ -77,10 +72,8 @@ Resampler::Planes Resampler::planesOf(QSize size) const
 
 const Resampler &Resampler::half() const
 {
-    std::call_once(m_halved, [this] {
-        m_half = std::unique_ptr<Resampler>(new Resampler(planesOf(m_planes.value()->size() / 2), m_name));
-    });
-    return *m_half;
+    return *m_half.get(
+        [this] { return std::unique_ptr<Resampler>(new Resampler(planesOf(m_planes.value()->size() / 2), m_name)); });
 }
 
 Result<QImage> Resampler::pictureOf(QSize size) const

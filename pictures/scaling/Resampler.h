@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "foundation/LazyValue.h"
 #include "foundation/Result.h"
 
 #include <QImage>
@@ -8,7 +9,6 @@
 #include <QString>
 
 #include <memory>
-#include <mutex>
 
 namespace lumora
 {
@@ -42,8 +42,7 @@ private:
 
     QString m_name;
     Planes m_planes; ///< those of the source, or why there are none
-    mutable std::once_flag m_halved;
-    mutable std::unique_ptr<Resampler> m_half;
+    mutable LazyValue<std::unique_ptr<Resampler>> m_half;
 };
 
 /// One size of one picture: `Resampler(source, name).scaledTo(size)`.

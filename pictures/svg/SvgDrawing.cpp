@@ -3,6 +3,7 @@
 
 #include "SvgEffort.h"
 #include "SvgInspection.h"
+#include "pictures/pixels/PictureMemory.h"
 #include "pictures/pixels/PixelFormat.h"
 
 #include <QPainter>
@@ -93,7 +94,7 @@ QImage SvgDrawing::at(QSize pixels) const
 {
     if (pixels.isEmpty() || qint64{pixels.width()} * pixels.height() > largestArea)
         return {};
-    QImage picture(pixels, QImage::Format_ARGB32_Premultiplied);
+    QImage picture = newPicture(pixels, QImage::Format_ARGB32_Premultiplied);
     picture.fill(Qt::transparent);
     {
         const std::scoped_lock lock(m_state->mutex);

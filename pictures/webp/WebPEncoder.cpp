@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "WebPEncoder.h"
 
+#include "foundation/MemoryLimit.h"
 #include "pictures/pixels/SizeText.h"
 
 #include <webp/encode.h>
@@ -60,6 +61,8 @@ Result<QByteArray> encodeWebP(const QImage &picture, const WebPOptions &options,
     if (picture.width() > longestWebPEdge || picture.height() > longestWebPEdge)
         return Failure{FailureCode::TooLarge, name, pixelsDetail(picture.size())};
     const QImage straight = picture.convertToFormat(QImage::Format_RGBA8888);
+    if (straight.isNull())
+        return outOfMemory(name);
     const WebPConfig config = configFor(options);
     Encoding encoding;
     encoding.picture.use_argb = config.lossless;

@@ -2,6 +2,7 @@
 #include "DensityBatch.h"
 
 #include "foundation/MemoryLimit.h"
+#include "foundation/ThreadGroup.h"
 #include "foundation/WholeFile.h"
 #include "pictures/PictureReader.h"
 #include "pictures/png/PngEncoder.h"
@@ -18,7 +19,6 @@
 #include <condition_variable>
 #include <map>
 #include <mutex>
-#include <thread>
 
 using namespace Qt::StringLiterals;
 
@@ -173,15 +173,19 @@ public:
     {
         const auto workers = std::min(static_cast<std::size_t>(std::max(QThread::idealThreadCount(), 1)), count());
         m_lead = sourcesAhead * workers;
-        std::vector<std::jthread> threads;
-        for (std::size_t i = 0; i < workers; ++i)
-            threads.emplace_back([this] { work(); });
+        ThreadGroup threads;
+        threads.start(workers, [this] {
+            while (workOnNext()) {
+            }
+        });
         for (std::size_t index = 0; index < count(); ++index) {
+            if (threads.isEmpty())
+                workOnNext();
             if (!scaled(static_cast<qsizetype>(index), take(index)))
                 break;
         }
         beginNoMore();
-        threads.clear();
+        threads.join();
         for (const auto &[index, files] : m_done)
             scaled(static_cast<qsizetype>(index), files);
     }
@@ -196,20 +200,20 @@ private:
         m_room.notify_all();
     }
 
-    void work()
+    /// Scales the next source; returns whether there was one to scale.
+    bool workOnNext()
     {
         std::unique_lock lock(m_mutex);
-        while (true) {
-            m_room.wait(lock, [this] { return m_next >= count() || m_next < m_reported + m_lead; });
-            if (m_next >= count())
-                return;
-            const std::size_t index = m_next++;
-            lock.unlock();
-            std::vector<ScaledFile> files = SourceScaling(m_plan.sources[index], m_options).run(m_budget);
-            lock.lock();
-            m_done.emplace(index, std::move(files));
-            m_finished.notify_one();
-        }
+        m_room.wait(lock, [this] { return m_next >= count() || m_next < m_reported + m_lead; });
+        if (m_next >= count())
+            return false;
+        const std::size_t index = m_next++;
+        lock.unlock();
+        std::vector<ScaledFile> files = SourceScaling(m_plan.sources[index], m_options).run(m_budget);
+        lock.lock();
+        m_done.emplace(index, std::move(files));
+        m_finished.notify_one();
+        return true;
     }
 
     std::vector<ScaledFile> take(std::size_t index)

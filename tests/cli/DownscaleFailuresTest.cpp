@@ -144,6 +144,30 @@ private slots:
         QCOMPARE(filesBelowFolder(at(u"out"_s)).size(), 2);
     }
 
+    void littleMemoryIsReported_data()
+    {
+        // From too little for a picture to enough for all; a few megabytes decide which allocation fails.
+        QTest::addColumn<quint64>("megabytes");
+        for (const quint64 megabytes : {90, 100, 106, 118, 136, 200})
+            QTest::addRow("%llu MB", megabytes) << megabytes;
+    }
+    void littleMemoryIsReported()
+    {
+        QFETCH(quint64, megabytes);
+        QStringList paths;
+        for (int i = 0; i < 4; ++i) {
+            paths << at(u"p%1@2x.png"_s.arg(i));
+            QVERIFY(putFile(paths.constLast(), pngOfZeroes(800 + 200 * i, 800)));
+        }
+        const LumoraRun run = LumoraProcess()
+                                  .withMemory(megabytes * 1'000'000)
+                                  .run(QStringList{u"downscale"_s, u"--to"_s, at(u"out"_s)} + paths);
+        QVERIFY2(run.status == 0 || run.status == 1, run.err.constData());
+        QCOMPARE(run.complaints().isEmpty(), run.status == 0);
+        for (const QString &file : filesBelowFolder(at(u"out"_s)))
+            QVERIFY2(!QImage(at(u"out/"_s) + file).isNull(), qPrintable(file));
+    }
+
     void refusedDestination_data()
     {
         QTest::addColumn<QString>("destination");

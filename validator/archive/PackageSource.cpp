@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "PackageSource.h"
 
+#include "foundation/ThreadGroup.h"
+
 #include <QSet>
 
 #include <algorithm>
@@ -138,9 +140,9 @@ PackageSource::readAll(const std::function<std::unique_ptr<EntryConsumer>(const 
     {
         const auto threads = std::min<std::size_t>(std::clamp(std::thread::hardware_concurrency(), 1u, mostThreads),
                                                    progress.entries.size());
-        std::vector<std::jthread> others;
-        for (std::size_t i = 1; i < threads; ++i)
-            others.emplace_back(work);
+        ThreadGroup others;
+        if (threads > 1)
+            others.start(threads - 1, work);
         work();
     }
 

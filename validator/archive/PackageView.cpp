@@ -5,6 +5,7 @@
 #include "CurrentEntry.h"
 #include "EntryName.h"
 #include "PackageListing.h"
+#include "foundation/ThreadValue.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -307,7 +308,8 @@ bool PackageView::unpackWhole(const Place &place, Workspace &workspace) const
 
 PackageSource::Delivery PackageView::deliver(const PackageEntry &entry, EntryConsumer *consumer, Budget &budget) const
 {
-    thread_local Workspace workspace;
+    static ThreadValue<Workspace> workspaces;
+    Workspace &workspace = workspaces.get();
     if (entry.size > static_cast<std::uint64_t>(wholeEntry) || !unpackWhole(placeOf(entry), workspace))
         return PackageSource::deliver(entry, consumer, budget);
     if (!budget.take(workspace.content.size()))
