@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "PopoverPath.h"
 
+#include <QTransform>
+
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace lumora
 {
@@ -148,6 +151,28 @@ QPainterPath popoverPath(const QRectF &contentRect, const QPointF &attachmentPoi
     }
     path.closeSubpath();
     return path;
+}
+
+QPainterPath onWholePixels(const QPainterPath &outline, const QRectF &balloon, qreal borderPixels,
+                           qreal devicePixelRatio)
+{
+    if (balloon.isEmpty())
+        return outline;
+    const qreal half = borderPixels / 2;
+    // Halves go outwards: there the window's shape has the pixel in any case.
+    const auto least = [=](qreal edge) {
+        return (std::ceil(edge * devicePixelRatio - half - 0.5) + half) / devicePixelRatio;
+    };
+    const auto most = [=](qreal edge) {
+        return (std::floor(edge * devicePixelRatio + half + 0.5) - half) / devicePixelRatio;
+    };
+    const QRectF snapped(QPointF(least(balloon.left()), least(balloon.top())),
+                         QPointF(most(balloon.right()), most(balloon.bottom())));
+    QTransform onPixels;
+    onPixels.translate(snapped.x(), snapped.y());
+    onPixels.scale(snapped.width() / balloon.width(), snapped.height() / balloon.height());
+    onPixels.translate(-balloon.x(), -balloon.y());
+    return onPixels.map(outline);
 }
 
 } // namespace lumora

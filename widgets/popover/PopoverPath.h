@@ -18,4 +18,10 @@ QPainterPath popoverPath(const QRectF &contentRect, const QPointF &attachmentPoi
 void appendArrow(QPainterPath *path, const QRectF &balloon, const QPointF &attachmentPoint,
                  const PopoverMetrics &metrics);
 
+/// The outline moved by up to half a pixel, so that a border of `borderPixels` along the sides of the balloon covers
+/// whole pixels and is as sharp on each side. Y counts downwards; `devicePixelRatio` is the number of pixels in a
+/// point.
+QPainterPath onWholePixels(const QPainterPath &outline, const QRectF &balloon, qreal borderPixels,
+                           qreal devicePixelRatio);
+
 } // namespace lumora

@@ -71,10 +71,14 @@ void SFBPopoverWindowFrame::appendArrowToPath(QPainterPath *path) const
     appendArrow(path, contentArea().adjusted(-margin, -margin, margin, margin), attachmentPoint(), m_metrics);
 }
 
+QTransform SFBPopoverWindowFrame::yDown() const
+{
+    return {1, 0, 0, -1, shadowMargin, static_cast<qreal>(height() - shadowMargin)};
+}
+
 QPainterPath SFBPopoverWindowFrame::outline() const
 {
-    const QTransform yDown(1, 0, 0, -1, shadowMargin, height() - shadowMargin);
-    return yDown.map(popoverFramePathForContentRect(contentArea()));
+    return yDown().map(popoverFramePathForContentRect(contentArea()));
 }
 
 template <typename Value> void SFBPopoverWindowFrame::change(Value &value, const Value &to)
@@ -163,7 +167,11 @@ QPixmap SFBPopoverWindowFrame::drawn(qreal devicePixelRatio) const
     QImage image((QSizeF(size()) * devicePixelRatio).toSize(), QImage::Format_ARGB32_Premultiplied);
     image.setDevicePixelRatio(devicePixelRatio);
     image.fill(Qt::transparent);
-    const QPainterPath path = outline();
+    const qreal margin = viewMargin();
+    const QRectF balloon = yDown().mapRect(contentArea().adjusted(-margin, -margin, margin, margin));
+    const qreal borderPixels =
+        std::max(m_metrics.borderWidth > 0 ? 1.0 : 0.0, std::round(m_metrics.borderWidth * devicePixelRatio));
+    const QPainterPath path = onWholePixels(outline(), balloon, borderPixels, devicePixelRatio);
     QPainter painter(&image);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     if (m_blends) {
@@ -178,7 +186,8 @@ QPixmap SFBPopoverWindowFrame::drawn(qreal devicePixelRatio) const
     }
     painter.fillPath(path, m_blends ? m_backgroundColor : opaque(m_backgroundColor));
     if (m_metrics.borderWidth > 0)
-        painter.strokePath(path, QPen(m_borderColor, m_metrics.borderWidth, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
+        painter.strokePath(
+            path, QPen(m_borderColor, borderPixels / devicePixelRatio, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
     painter.end();
     return QPixmap::fromImage(std::move(image), Qt::NoFormatConversion);
 }

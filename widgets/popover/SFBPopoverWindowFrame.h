@@ -117,6 +117,8 @@ private:
     enum class Drag { None, Moves, Resizes };
 
     template <typename Value> void change(Value &value, const Value &to);
+    /// From the frame's coordinates, which count upwards, to the widget's.
+    QTransform yDown() const;
     QPixmap drawn(qreal devicePixelRatio) const;
     void keepDrawing(qreal devicePixelRatio);
 

@@ -187,6 +187,47 @@ private slots:
         QCOMPARE(at(-23, -23).alpha(), 0);                    // and ends before the window does
         QVERIFY(at(2.2, 18.2).alpha() < 200);                 // a round corner
     }
+
+    void bordersAreAsSharpOnEachSide_data()
+    {
+        QTest::addColumn<qreal>("scale");
+        QTest::addColumn<qreal>("width");
+        QTest::addColumn<int>("pixels");
+        QTest::newRow("scale 1") << 1.0 << 5.0 << 5;
+        QTest::newRow("scale 1.25") << 1.25 << 5.0 << 6;
+        QTest::newRow("scale 1.5") << 1.5 << 5.0 << 8;
+        QTest::newRow("scale 1.5, thin") << 1.5 << 2.0 << 3;
+        QTest::newRow("scale 1.75") << 1.75 << 5.0 << 9;
+        QTest::newRow("scale 2") << 2.0 << 5.0 << 10;
+    }
+    void bordersAreAsSharpOnEachSide()
+    {
+        QFETCH(qreal, scale);
+        QFETCH(qreal, width);
+        QFETCH(int, pixels);
+        Scene scene;
+        SFBPopover popover(plainContent());
+        popover.setAnimates(false);
+        popover.setBorderWidth(width);
+        popover.setBorderColor(Qt::red);
+        popover.setBackgroundColor(Qt::blue);
+        popover.displayPopoverInWindow(&scene.window, QPointF(200, 130));
+        const QImage picture = pictureOf(popover.popoverWindow(), scale);
+        const QRect frame = popover.popoverWindow()->popoverWindowFrame()->outline().boundingRect().toRect();
+        // Away from corners and arrow, from outside to the middle.
+        const auto redPixels = [&](QPointF from, QPointF step) {
+            int red = 0;
+            for (QPoint at = (from * scale).toPoint();
+                 picture.rect().contains(at) && picture.pixelColor(at) != Qt::blue; at += step.toPoint())
+                red += picture.pixelColor(at) == Qt::red ? 1 : 0;
+            return red;
+        };
+        const QPointF middle = QRectF(frame).center() + QPointF(40, 0);
+        QCOMPARE(redPixels({0, middle.y()}, {1, 0}), pixels);
+        QCOMPARE(redPixels({frame.right() + 20.0, middle.y()}, {-1, 0}), pixels);
+        QCOMPARE(redPixels({middle.x(), 0}, {0, 1}), pixels);
+        QCOMPARE(redPixels({middle.x(), frame.bottom() + 20.0}, {0, -1}), pixels);
+    }
 };
 
 QTEST_MAIN(PopoverFrameTest)
