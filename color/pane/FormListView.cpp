@@ -7,6 +7,7 @@
 #include "widgets/buttons/SegmentedControl.h"
 #include "widgets/style/Fonts.h"
 #include "widgets/style/Palette.h"
+#include "widgets/style/SlimScrollBars.h"
 
 #include <QLabel>
 #include <QScrollArea>
@@ -26,7 +27,7 @@ constexpr std::array choices{ColorPlatform::Apple, ColorPlatform::Android, Color
 constexpr int titleSize = 18;
 constexpr int titleHeight = 28;
 constexpr int rowGap = 12;
-/// The list itself is wider, so that its scroll bar is beside the buttons in both directions of reading.
+/// The scroll bar of the list is in the margin, so that the buttons end where the platforms do.
 constexpr int sideMargin = 16;
 /// In a wide window the codes and their buttons stay together.
 constexpr int mostWidth = 720;
@@ -88,8 +89,16 @@ FormListView::FormListView(QWidget *parent)
 QWidget *FormListView::makeRows()
 {
     auto *content = new QWidget;
-    auto *column = new QVBoxLayout(content);
-    column->setContentsMargins(sideMargin, 4, sideMargin, 4);
+    auto *line = new QHBoxLayout(content);
+    line->setContentsMargins({});
+    line->setSpacing(0);
+    auto *column = new QVBoxLayout;
+    line->addSpacing(sideMargin);
+    line->addLayout(column, 1);
+    line->addSpacing(sideMargin - SlimScrollBars::extent);
+    // Takes what the rows leave.
+    line->addStretch(0);
+    column->setContentsMargins(0, 4, 0, 4);
     column->setSpacing(rowGap);
     const int count = static_cast<int>(colorForms().size());
     for (int index = 0; index < count; ++index) {
@@ -106,6 +115,8 @@ QWidget *FormListView::makeRows()
     area->setFrameShape(QFrame::NoFrame);
     area->setFocusPolicy(Qt::NoFocus);
     area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    // The codes keep their width when it is not needed; it is not painted then.
+    area->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     area->setWidgetResizable(true);
     area->setWidget(content);
     area->viewport()->setAutoFillBackground(false);

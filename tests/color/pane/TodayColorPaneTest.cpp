@@ -13,6 +13,7 @@
 #include "widgets/buttons/ImageButton.h"
 #include "widgets/buttons/Segment.h"
 #include "widgets/buttons/SegmentedControl.h"
+#include "widgets/style/AppStyle.h"
 
 #include <QClipboard>
 #include <QDropEvent>
@@ -30,7 +31,11 @@ class TodayColorPaneTest : public TodayColorFixture
     Q_OBJECT
 
 private slots:
-    void initTestCase() { installTexts(*QCoreApplication::instance(), QLocale(u"en"_s)); }
+    void initTestCase()
+    {
+        installTexts(*QCoreApplication::instance(), QLocale(u"en"_s));
+        applyAppStyle();
+    }
     void init() { start(); }
     void cleanup() { end(); }
 
@@ -52,11 +57,18 @@ private slots:
         QCOMPARE(m_controller->today()->color().space, RgbSpace::DisplayP3);
     }
 
+    void buttonsStayBesideTheirCodes_data()
+    {
+        QTest::addColumn<int>("width");
+        QTest::newRow("smallest window") << 835;
+        QTest::newRow("wide window") << 1800;
+    }
     void buttonsStayBesideTheirCodes()
     {
-        m_controller->view()->resize(1800, 900);
+        QFETCH(int, width);
+        m_controller->view()->resize(width, 900);
         const FormRowView *row = pane()->forms()->rows().front();
-        QTRY_VERIFY(row->width() > 500);
+        QTRY_COMPARE(pane()->width(), width);
         QCoreApplication::processEvents();
         QVERIFY2(row->width() <= 720, qPrintable(QString::number(row->width())));
         QVERIFY(
