@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""Builds the fuzz targets and runs each over its seeds and for some seconds more: too short to find new faults, but
+"""Builds the fuzz targets and runs each over its seeds and for a moment more: too short to find new faults, but
 old ones stay repaired. fuzz/README.md describes longer runs.
 """
 import os
@@ -11,7 +11,7 @@ from pathlib import Path
 
 SOURCE = Path(os.environ["LUMORA_SOURCE"])
 BUILD = SOURCE / "build" / "fuzz"
-SECONDS = 6
+SECONDS = 2
 
 
 def checked(*command):
