@@ -12,6 +12,7 @@
 #include "icons/check/IconCheck.h"
 #include "icons/check/ProjectCheck.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QSet>
 
@@ -95,9 +96,10 @@ void complainOf(Console &console, const QList<Failure> &failures, const QString 
     if (failures.isEmpty())
         return;
     console.complain(failures.first());
+    const QDir base(folder);
     QStringList missing;
     for (const Failure &failure : failures)
-        missing << failure.subject;
+        missing << base.relativeFilePath(failure.subject);
     console.complain(
         Complaint{Complaint::Kind::Failure,
                   u"missing-files"_s,

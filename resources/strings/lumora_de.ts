@@ -5515,6 +5515,10 @@
     <source>check that the file is undamaged</source>
     <translation>prüfen, ob die Datei unbeschädigt ist</translation>
   </message>
+  <message id="CLI_NO_REGULAR_FILE_ADVICE">
+    <source>copy what it holds into a file first</source>
+    <translation>den Inhalt vorher in eine Datei kopieren</translation>
+  </message>
   <message id="CLI_INVALID_VALUE">
     <source>is not accepted</source>
     <translation>wird nicht angenommen</translation>

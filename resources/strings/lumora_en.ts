@@ -5513,6 +5513,10 @@
     <source>check that the file is undamaged</source>
     <translation>check that the file is undamaged</translation>
   </message>
+  <message id="CLI_NO_REGULAR_FILE_ADVICE">
+    <source>copy what it holds into a file first</source>
+    <translation>copy what it holds into a file first</translation>
+  </message>
   <message id="CLI_INVALID_VALUE">
     <source>is not accepted</source>
     <translation>is not accepted</translation>
