@@ -345,4 +345,23 @@ DensityPlan planDensities(const QStringList &paths, const DensityRequest &reques
     return plan;
 }
 
+std::vector<Failure> filesWithoutUse(const QStringList &paths, const DensityPlan &plan)
+{
+    QSet<QString> used;
+    for (const PlannedSource &source : plan.sources) {
+        used.insert(source.source);
+        for (const PlannedTarget &target : source.pictures)
+            used.insert(target.target);
+    }
+    for (const Failure &failure : plan.failures)
+        used.insert(QFileInfo(failure.subject).absoluteFilePath());
+    std::vector<Failure> unused;
+    for (const QString &path : paths) {
+        const QFileInfo file(path);
+        if (file.isFile() && !used.contains(file.absoluteFilePath()))
+            unused.push_back({FailureCode::MissingContent, path, "DETAIL_NO_SCALABLE"});
+    }
+    return unused;
+}
+
 } // namespace lumora

@@ -85,4 +85,8 @@ qsizetype plannedFiles(const DensityPlan &plan);
 DensityPlan planDensities(const QStringList &paths, const DensityRequest &request, const std::stop_token &stop = {},
                           const ReadFile &read = readWholeFile);
 
+/// The files among the paths that the plan neither reads nor writes nor refuses, such as a picture of the smallest
+/// density. A person who chose them one by one wants to know; a command line with a pattern does not.
+std::vector<Failure> filesWithoutUse(const QStringList &paths, const DensityPlan &plan);
+
 } // namespace lumora

@@ -124,7 +124,12 @@ void TodayScaling::makePlan()
     m_jobs.start([this, request, paths = m_paths, read = reading(), stop = m_planning](const BackgroundJob &job) {
         const std::stop_callback closing(job.stopToken(), [stop] { stop.request_stop(); });
         const std::stop_token token = stop.get_token();
-        const std::function<DensityPlan()> work = [=] { return planDensities(paths, request, token, read); };
+        const std::function<DensityPlan()> work = [=] {
+            DensityPlan plan = planDensities(paths, request, token, read);
+            const std::vector<Failure> unused = filesWithoutUse(paths, plan);
+            plan.failures.insert(plan.failures.end(), unused.begin(), unused.end());
+            return plan;
+        };
         const std::optional<DensityPlan> plan = unlessStopped(work, token);
         if (!plan)
             return;

@@ -141,6 +141,23 @@ private slots:
         QTEST(rows().constLast(), "lastRow");
     }
 
+    void everyFileThatIsDroppedIsAccountedFor()
+    {
+        const QString source = put(u"a@3x.png"_s, {90, 60});
+        const QString target = put(u"a.png"_s, {30, 20});
+        const QString small = put(u"small.png"_s, {30, 20});
+        const QString other = put(u"other.png"_s, {30, 20});
+        m_controller->dropViewReceivedFiles({source, target, small, other});
+        QTRY_VERIFY2(summaryIs(u"1 file to write · 1 kept · 2 left out"_s), qPrintable(pane()->summary()->text()));
+        QVERIFY(rows().contains(u"small.png||"_s) && rows().contains(u"other.png||"_s));
+        // In a folder, pictures of the smallest density are nothing to speak of.
+        m_controller->dropViewReceivedFiles({m_folder->path()});
+        QTRY_VERIFY2(summaryIs(u"1 file to write · 1 kept"_s), qPrintable(pane()->summary()->text()));
+        // None of several is of use.
+        m_controller->dropViewReceivedFiles({small, other});
+        QTRY_VERIFY2(summaryIs(u"0 files to write · 2 left out"_s), qPrintable(pane()->summary()->text()));
+    }
+
     void withoutADensityNothingIsPlanned()
     {
         m_controller->dropViewReceivedFiles({put(u"a@3x.png"_s, {90, 60})});
