@@ -2319,8 +2319,8 @@
     <translation>Befunde durchsuchen</translation>
   </message>
   <message id="FINDINGS_SAVE">
-    <source>Save report</source>
-    <translation>Bericht speichern</translation>
+    <source>Save report…</source>
+    <translation>Bericht speichern …</translation>
   </message>
   <message id="FINDINGS_SAVE_TIP">
     <source>Save the report as a web page and as JSON</source>

@@ -2317,8 +2317,8 @@
     <translation>Search the findings</translation>
   </message>
   <message id="FINDINGS_SAVE">
-    <source>Save report</source>
-    <translation>Save report</translation>
+    <source>Save report…</source>
+    <translation>Save report…</translation>
   </message>
   <message id="FINDINGS_SAVE_TIP">
     <source>Save the report as a web page and as JSON</source>
