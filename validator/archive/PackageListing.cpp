@@ -6,6 +6,12 @@
 namespace lumora
 {
 
+void PackageListing::reserve(qsizetype entries)
+{
+    m_entries.reserve(entries);
+    m_byPath.reserve(entries);
+}
+
 PackageListing::Placing PackageListing::addFolder(const QList<QByteArray> &steps)
 {
     if (steps == m_lastFolder)

@@ -23,6 +23,8 @@ public:
         Skipped, ///< the name has a file as a folder, is a folder's, or is too long for a file system
     };
 
+    /// Makes room for that many entries at once: a list that grows by copying leaves its old room behind.
+    void reserve(qsizetype entries);
     /// Places a folder at the steps, its parents first.
     Placing addFolder(const QList<QByteArray> &steps);
     /// Places a file or link at the steps, its parents first. An entry that it replaces goes to `takeHidden`.

@@ -180,6 +180,8 @@ public:
             fail(FailureCode::TooLarge, {"DETAIL_ENTRIES", {{"[COUNT]", QString::number(info.number_entry)}}});
             return;
         }
+        m_listing.reserve(static_cast<qsizetype>(info.number_entry));
+        m_view.m_places.reserve(info.number_entry);
         std::ignore = ::unzGoToFirstFile(m_archive);
         while (add() && ::unzGoToNextFile(m_archive) == UNZ_OK) {
         }

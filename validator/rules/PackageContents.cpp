@@ -65,6 +65,7 @@ private:
 
 void ContentsReading::readFiles()
 {
+    m_contents.files.reserve(m_source.entries().size());
     for (const PackageEntry &entry : m_source.entries()) {
         if (entry.kind == EntryKind::Folder)
             continue;
@@ -183,8 +184,11 @@ void ContentsReading::compareSeal(PackageBundle &bundle)
     m_sealRoom -= seal->size;
     std::vector<BundleFile> files;
     const QList<PackageEntry> &entries = m_source.entries();
-    for (auto entry = std::ranges::lower_bound(entries, start, {}, &PackageEntry::path);
-         entry != entries.cend() && entry->path.startsWith(start); ++entry) {
+    const auto first = std::ranges::lower_bound(entries, start, {}, &PackageEntry::path);
+    const auto isOfBundle = [&start](const PackageEntry &each) { return each.path.startsWith(start); };
+    const auto last = std::find_if_not(first, entries.cend(), isOfBundle);
+    files.reserve(static_cast<std::size_t>(last - first));
+    for (auto entry = first; entry != last; ++entry) {
         if (entry->kind != EntryKind::Folder)
             files.push_back({QStringView(entry->path).sliced(start.size()), m_gathering.digests(*entry),
                              entry->linkTarget, entry->kind == EntryKind::Link});
