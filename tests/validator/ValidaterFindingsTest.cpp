@@ -3,6 +3,7 @@
 #include "resources/Resources.h"
 #include "tests/doubles/FilesOnDisk.h"
 #include "tests/doubles/ScriptedFiles.h"
+#include "validator/ReportArea.h"
 #include "validator/ReportBody.h"
 #include "validator/findings/FindingHeader.h"
 #include "validator/findings/FindingRow.h"
@@ -294,6 +295,28 @@ private slots:
         QLocale::setDefault(locale);
         const QDateTime day(QDate(2027, 2, 3), QTime(12, 0));
         QTEST(expiryText(day, day.addDays(-41)), "text");
+    }
+
+    void anOpenedFindingComesIntoView_data()
+    {
+        QTest::addColumn<std::size_t>("index");
+        QTest::newRow("first") << std::size_t{0};
+        QTest::newRow("last") << std::size_t{2};
+    }
+    void anOpenedFindingComesIntoView()
+    {
+        QFETCH(std::size_t, index);
+        ReadPane pane(package("icon-marketing icon-phone icon-pad"));
+        ReportArea *area = pane.ui().reportArea;
+        FindingRow &row = pane.row(index);
+        area->ensureWidgetVisible(&row, 0, 0);
+        QTest::keyClick(row.header(), Qt::Key_Space);
+        QTRY_VERIFY(row.height() > 2 * row.header()->height());
+        const auto isInView = [&] {
+            const QRect place(row.mapTo(area->viewport(), QPoint()), row.size());
+            return place.top() >= 0 && place.bottom() < area->viewport()->height();
+        };
+        QTRY_VERIFY(isInView());
     }
 
     void replacesTheFirstPackage()

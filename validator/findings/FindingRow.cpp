@@ -13,6 +13,8 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLocale>
+#include <QScrollArea>
+#include <QScrollBar>
 
 #include <algorithm>
 
@@ -50,7 +52,35 @@ FindingRow::FindingRow(const Rule &rule, QList<Evidence> places, QWidget *parent
     column->setContentsMargins({});
     column->setSpacing(0);
     column->addWidget(m_header);
-    connect(m_header, &FindingHeader::clicked, this, [this] { setOpen(!m_header->isOpen()); });
+    connect(m_header, &FindingHeader::clicked, this, [this] {
+        m_isRevealed = m_header->isOpen();
+        setOpen(!m_header->isOpen());
+    });
+}
+
+void FindingRow::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    if (m_isRevealed)
+        return;
+    m_isRevealed = true;
+    // The list and its scroll bar have their new size only after this event.
+    QMetaObject::invokeMethod(this, &FindingRow::reveal, Qt::QueuedConnection);
+}
+
+void FindingRow::reveal()
+{
+    for (QWidget *parent = parentWidget(); parent != nullptr; parent = parent->parentWidget()) {
+        const auto *area = qobject_cast<QScrollArea *>(parent);
+        if (area == nullptr)
+            continue;
+        QScrollBar *bar = area->verticalScrollBar();
+        const int top = mapTo(area->widget(), QPoint()).y();
+        const int most = top + height() - area->viewport()->height();
+        if (bar->value() < most)
+            bar->setValue(std::min(most, top));
+        return;
+    }
 }
 
 void FindingRow::setOpen(bool isOpen)

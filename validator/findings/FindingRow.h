@@ -44,7 +44,12 @@ signals:
     void iconsWanted();
     void opened(bool isOpen);
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
+    /// Scrolls so that the whole row is in view, or its beginning if there is no room for the whole.
+    void reveal();
     void makeBody();
     void addPart(QVBoxLayout *column, const QString &heading, const QString &text);
     QString foundText() const;
@@ -54,6 +59,7 @@ private:
     FindingHeader *m_header;
     QString m_iconNote;
     QWidget *m_body = nullptr;
+    bool m_isRevealed = true; ///< false from the user's opening until the row has its new height
     IconButton *m_ignore = nullptr;
     IconButton *m_icons = nullptr;
 };
