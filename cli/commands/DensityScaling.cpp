@@ -119,6 +119,16 @@ private:
     ExitStatus m_status = ExitStatus::Done;
 };
 
+/// A density as it is typed: "3x", or as in the names of files and of Flutter's folders, "@3x" and "3.0x".
+std::optional<Density> typedDensity(QString text)
+{
+    if (text.startsWith(u'@'))
+        text.remove(0, 1);
+    if (text.endsWith(".0x"_L1))
+        text.replace(text.size() - 3, 3, u"x"_s);
+    return densityNamed(text);
+}
+
 std::optional<Complaint> takeScales(const DensityScalingRequest &request, DensityRequest &density)
 {
     const auto wrong = [](const QString &option, const QString &value, const char *key) {
@@ -129,12 +139,12 @@ std::optional<Complaint> takeScales(const DensityScalingRequest &request, Densit
     if (request.from == "svg"_L1) {
         density.kind = SourceKind::Drawings;
     } else if (!request.from.isEmpty()) {
-        density.from = densityNamed(request.from);
+        density.from = typedDensity(request.from);
         if (!density.from)
             return wrong(u"--from"_s, request.from, "CLI_DOWNSCALE_NO_SOURCE_SCALE");
     }
     for (const QString &scale : request.toScales) {
-        const std::optional<Density> to = densityNamed(scale);
+        const std::optional<Density> to = typedDensity(scale);
         if (!to)
             return wrong(u"--to-scales"_s, scale, "CLI_DOWNSCALE_NO_SCALE");
         if (density.from && !(*to < *density.from))

@@ -5320,8 +5320,8 @@
     <translation>[OPTION] nimmt eine ganze Zahl von [LEAST] bis [MOST], nicht [VALUE]</translation>
   </message>
   <message id="CLI_WRONG_SIZE_TEXT">
-    <source>is no size; give width x height, each from [LEAST] to [MOST], such as 1136x640</source>
-    <translation>ist keine Größe; gebraucht wird Breite x Höhe, je von [LEAST] bis [MOST], etwa 1136x640</translation>
+    <source>is no size; give width x height, each from [LEAST] to [MOST] pixels, such as 1136x640, or in points such as 400x300@2x</source>
+    <translation>ist keine Größe; gebraucht wird Breite x Höhe, je von [LEAST] bis [MOST] Pixel, etwa 1136x640, oder in Punkten, etwa 400x300@2x</translation>
   </message>
   <message id="CLI_EMPTY_VALUE">
     <source>[OPTION] is empty</source>

@@ -5318,8 +5318,8 @@
     <translation>[OPTION] takes a whole number from [LEAST] to [MOST], not [VALUE]</translation>
   </message>
   <message id="CLI_WRONG_SIZE_TEXT">
-    <source>is no size; give width x height, each from [LEAST] to [MOST], such as 1136x640</source>
-    <translation>is no size; give width x height, each from [LEAST] to [MOST], such as 1136x640</translation>
+    <source>is no size; give width x height, each from [LEAST] to [MOST] pixels, such as 1136x640, or in points such as 400x300@2x</source>
+    <translation>is no size; give width x height, each from [LEAST] to [MOST] pixels, such as 1136x640, or in points such as 400x300@2x</translation>
   </message>
   <message id="CLI_EMPTY_VALUE">
     <source>[OPTION] is empty</source>

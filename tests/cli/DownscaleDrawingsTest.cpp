@@ -42,6 +42,8 @@ private slots:
                                           {u"3.0x/d.png"_s, {75, 39}},
                                           {u"4.0x/d.png"_s, {100, 52}},
                                           {u"d.png"_s, {25, 13}}};
+        QTest::newRow("densities as in names") << u"flutter"_s << QStringList{u"--to-scales"_s, u"@2x,3.0x"_s}
+                                               << Files{{u"2.0x/d.png"_s, {50, 26}}, {u"3.0x/d.png"_s, {75, 39}}};
         QTest::newRow("react native, some") << u"react-native"_s << QStringList{u"--to-scales"_s, u"1.5x,1x"_s}
                                             << Files{{u"d.png"_s, {25, 13}}, {u"d@1.5x.png"_s, {38, 20}}};
         QTest::newRow("web, as webp") << u"web"_s << QStringList{u"--to-scales"_s, u"2x"_s, u"--format"_s, u"webp"_s}
