@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "validator/binary/signature/SealComparison.h"
 #include "tests/doubles/ScriptedFiles.h"
+#include "tests/doubles/SmallWork.h"
 
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <algorithm>
-#include <ctime>
 #include <map>
 
 using namespace lumora;
@@ -15,20 +14,6 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-
-/// Processor time, since other tests may run beside this one.
-class SmallWork
-{
-public:
-    bool isSmall() const
-    {
-        return std::clock() - m_start <
-               2 * CLOCKS_PER_SEC * std::max(qEnvironmentVariableIntValue("LUMORA_TIME_FACTOR"), 1);
-    }
-
-private:
-    std::clock_t m_start = std::clock();
-};
 
 /// The files of a bundle, in memory.
 class Bundle
