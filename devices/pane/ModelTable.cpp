@@ -39,7 +39,7 @@ void ModelTable::showModels(const std::vector<ModelGroup> &groups)
     m_facts.clear();
     auto *content = new QWidget;
     auto *grid = new QGridLayout(content);
-    grid->setContentsMargins(margin, 0, margin, margin);
+    grid->setContentsMargins(margin, margin, margin, margin);
     grid->setHorizontalSpacing(8);
     grid->setVerticalSpacing(2);
     grid->setColumnMinimumWidth(0, nameWidth);
