@@ -262,15 +262,29 @@ Result<QString> ProjectPlaces::chosenIconSet(const QString &folder, const XcodeP
                     {{"[NAME]", choice}, {"[SETS]", (byTarget.isEmpty() ? present : byTarget).join(u", "_s)}}}};
 }
 
+Result<QString> ProjectPlaces::flutterIconSet(const QString &folder)
+{
+    if (!m_options.flavor.isEmpty())
+        return QString(u"AppIcon-"_s + m_options.flavor);
+    const Result<QString> set = unnamedIconSet(folder);
+    if (set)
+        return set;
+    return Failure{FailureCode::AmbiguousProject,
+                   whole(folder),
+                   {"DETAIL_FLAVOR_SETS", {{"[SETS]", iconSetNames(folder).join(u", "_s)}}}};
+}
+
 Outcome ProjectPlaces::addFlutter()
 {
-    const QString flavored = m_options.flavor.isEmpty() ? u"AppIcon"_s : QString(u"AppIcon-"_s + m_options.flavor);
     for (const auto &[folder, platform] :
          {std::pair{u"ios/Runner"_s, CataloguePlatform::Ios}, std::pair{u"macos/Runner"_s, CataloguePlatform::Mac}}) {
         if (!has(folder))
             continue;
-        const Outcome planned = planCatalogue(m_root, at(folder + u"/Assets.xcassets/"_s + flavored + u".appiconset"_s),
-                                              platform, m_motifs, m_plan);
+        const Result<QString> name = flutterIconSet(folder);
+        if (!name)
+            return name.failure();
+        const QString set = folder + u"/Assets.xcassets/"_s + name.value() + u".appiconset"_s;
+        const Outcome planned = planCatalogue(m_root, at(set), platform, m_motifs, m_plan);
         if (!planned)
             return planned;
     }

@@ -74,6 +74,8 @@ private:
     /// The set that is meant if the Xcode project names none: the usual one, else the only one. Fails with
     /// `AmbiguousProject` if there are several.
     Result<QString> unnamedIconSet(const QString &folder);
+    /// The set of the chosen flavor, or as above.
+    Result<QString> flutterIconSet(const QString &folder);
     /// The set that the Xcode project or the chosen target names, or the chosen set. Fails with `AmbiguousProject` if
     /// there is no such one, or several.
     Result<QString> chosenIconSet(const QString &folder, const XcodeProject &project);

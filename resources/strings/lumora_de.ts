@@ -4803,6 +4803,10 @@
     <source>choose one with --target, which takes a target's or an icon set's name</source>
     <translation>eines mit --target wählen, das den Namen eines Targets oder eines Icon-Satzes nimmt</translation>
   </message>
+  <message id="CLI_CHOOSE_FLAVOR_ADVICE">
+    <source>choose one with --flavor, such as dev for AppIcon-dev</source>
+    <translation>eines mit --flavor wählen, etwa dev für AppIcon-dev</translation>
+  </message>
   <message id="CLI_MANIFEST_ICON_ADVICE">
     <source>name the app's own picture there, such as @mipmap/ic_launcher</source>
     <translation>dort ein Bild der App selbst nennen, etwa @mipmap/ic_launcher</translation>
@@ -5998,6 +6002,10 @@
   <message id="DETAIL_ICON_SETS">
     <source>several icon sets: [SETS]</source>
     <translation>mehrere Icon-Sätze: [SETS]</translation>
+  </message>
+  <message id="DETAIL_FLAVOR_SETS">
+    <source>no icon set is AppIcon: [SETS]</source>
+    <translation>kein Icon-Satz heißt AppIcon: [SETS]</translation>
   </message>
   <message id="DETAIL_NO_ICON_SET">
     <source>neither a target with an icon nor an icon set is named [NAME]; there are [SETS]</source>

@@ -4801,6 +4801,10 @@
     <source>choose one with --target, which takes a target's or an icon set's name</source>
     <translation>choose one with --target, which takes a target's or an icon set's name</translation>
   </message>
+  <message id="CLI_CHOOSE_FLAVOR_ADVICE">
+    <source>choose one with --flavor, such as dev for AppIcon-dev</source>
+    <translation>choose one with --flavor, such as dev for AppIcon-dev</translation>
+  </message>
   <message id="CLI_MANIFEST_ICON_ADVICE">
     <source>name the app's own picture there, such as @mipmap/ic_launcher</source>
     <translation>name the app's own picture there, such as @mipmap/ic_launcher</translation>
@@ -5996,6 +6000,10 @@
   <message id="DETAIL_ICON_SETS">
     <source>several icon sets: [SETS]</source>
     <translation>several icon sets: [SETS]</translation>
+  </message>
+  <message id="DETAIL_FLAVOR_SETS">
+    <source>no icon set is AppIcon: [SETS]</source>
+    <translation>no icon set is AppIcon: [SETS]</translation>
   </message>
   <message id="DETAIL_NO_ICON_SET">
     <source>neither a target with an icon nor an icon set is named [NAME]; there are [SETS]</source>

@@ -127,6 +127,8 @@ void IntoProjectCommandTest::refusalsSayWhatHelps_data()
     QTest::newRow("a chosen one") << QStringList{u"x"_s, u"--target"_s, u"B"_s} << QByteArray();
     QTest::newRow("a target where there are none")
         << QStringList{u"e"_s, u"--target"_s, u"B"_s} << QByteArray("leave --target out");
+    QTest::newRow("several flavors") << QStringList{u"f"_s} << QByteArray("choose one with --flavor");
+    QTest::newRow("a chosen flavor") << QStringList{u"f"_s, u"--flavor"_s, u"dev"_s} << QByteArray();
     QTest::newRow("an unknown flavor") << QStringList{u"a"_s, u"--flavor"_s, u"beta"_s} << QByteArray("productFlavors");
     QTest::newRow("a manifest that the build fills in") << QStringList{u"a"_s} << QByteArray("@mipmap/ic_launcher");
     QTest::newRow("two projects in one place") << QStringList{u"two"_s} << QByteArray("name the folder of one of them");
@@ -140,6 +142,11 @@ void IntoProjectCommandTest::refusalsSayWhatHelps()
         putFile(at(u"x/M.xcodeproj/project.pbxproj"_s), "{objects = {T = {isa = PBXNativeTarget; name = App; };};}"));
     for (const char *set : {"A", "B"})
         QVERIFY(putFile(at(u"x/M/M.xcassets/%1.appiconset/Contents.json"_s.arg(QLatin1StringView(set))), "{}"));
+    QVERIFY(putFile(at(u"f/pubspec.yaml"_s), "flutter:\n"));
+    for (const char *flavor : {"dev", "prod"})
+        QVERIFY(putFile(
+            at(u"f/ios/Runner/Assets.xcassets/AppIcon-%1.appiconset/Contents.json"_s.arg(QLatin1StringView(flavor))),
+            "{}"));
     QVERIFY(putFile(at(u"e/package.json"_s), "{\"devDependencies\":{\"electron\":\"30\"}}"));
     QVERIFY(putFile(at(u"a/settings.gradle"_s), ""));
     QVERIFY(putFile(at(u"a/app/src/main/AndroidManifest.xml"_s),

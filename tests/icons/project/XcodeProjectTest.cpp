@@ -50,6 +50,7 @@ private slots:
     void configurationFiles();
     void endlessSettings_data();
     void endlessSettings();
+    void targets();
     void choices_data();
     void choices();
 };
@@ -136,6 +137,27 @@ void XcodeProjectTest::endlessSettings()
                 {{u"Mine.xcodeproj/project.pbxproj"_s, configured(byFile, {})}, {u"Config/App.xcconfig"_s, file}}));
     const std::optional<XcodeProject> read = readXcodeProject(folder.filePath(u"Mine.xcodeproj"_s));
     QVERIFY(read && read->iconNames.empty());
+}
+
+void XcodeProjectTest::targets()
+{
+    Tree tree = xcode;
+    tree[u"Mine.xcodeproj/project.pbxproj"_s] = xcodeProject({{"App", "Icon"}, {"Beta", "Other"}});
+    const QTemporaryDir folder;
+    QVERIFY(put(folder.path(), tree));
+    const Put without = putInto(folder.path());
+    QVERIFY(without.failure && without.failure->code == FailureCode::AmbiguousProject);
+    QVERIFY(without.failure->detail.words().contains(u"Beta (Other)"));
+    const Put unknown = putInto(folder.path(), {{}, u"Gamma"_s});
+    QVERIFY(unknown.failure && unknown.failure->code == FailureCode::AmbiguousProject);
+    const QTemporaryDir other;
+    QVERIFY(put(other.path(), electron));
+    const Put untargeted = putInto(other.path(), {{}, u"Beta"_s});
+    QVERIFY(untargeted.failure && untargeted.failure->code == FailureCode::AmbiguousProject);
+    const Put beta = putInto(folder.path(), {{}, u"Beta"_s});
+    QVERIFY(!beta.failure);
+    QCOMPARE(beta.paths().filter(u"Icon.appiconset"_s), QStringList());
+    QVERIFY(beta.paths().contains(u"Mine/Assets.xcassets/Other.appiconset/AppIcon.png"_s));
 }
 
 void XcodeProjectTest::choices_data()
