@@ -98,14 +98,14 @@ QString changeText(quint64 before, quint64 after)
 
 QString kindName(const QString &kind)
 {
-    return kind == u"all" ? commandText("CLI_DIFF_ALL") : fileKindText(kind).toLower();
+    return kind == u"all" ? commandText("CLI_DIFF_ALL") : fileKindText(kind);
 }
 
 QString totalLine(const KindTotals &totals)
 {
     constexpr int kindWidth = 12;
     const auto text = [](const FileTotal &total) {
-        return commandText("CLI_DIFF_TOTAL",
+        return commandText(total.files == 1 ? "CLI_DIFF_TOTAL_ONE" : "CLI_DIFF_TOTAL",
                            {{"[FILES]", QString::number(total.files)}, {"[SIZE]", bytesText(total.bytes)}});
     };
     return u"  "_s + kindName(totals.kind).leftJustified(kindWidth) + text(totals.before) + u" -> "_s +

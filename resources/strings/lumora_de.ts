@@ -2723,8 +2723,8 @@
     <translation>seit</translation>
   </message>
   <message id="CLI_DIFF_ALL">
-    <source>all</source>
-    <translation>alles</translation>
+    <source>All</source>
+    <translation>Alles</translation>
   </message>
   <message id="HTML_LANGUAGE">
     <source>en</source>
@@ -5030,6 +5030,10 @@
   <message id="CLI_DIFF_TOTAL">
     <source>[FILES] files, [SIZE]</source>
     <translation>[FILES] Dateien, [SIZE]</translation>
+  </message>
+  <message id="CLI_DIFF_TOTAL_ONE">
+    <source>1 file, [SIZE]</source>
+    <translation>1 Datei, [SIZE]</translation>
   </message>
   <message id="CLI_DIFF_GROWTH">
     <source>Largest growth</source>

@@ -2721,8 +2721,8 @@
     <translation>since</translation>
   </message>
   <message id="CLI_DIFF_ALL">
-    <source>all</source>
-    <translation>all</translation>
+    <source>All</source>
+    <translation>All</translation>
   </message>
   <message id="HTML_LANGUAGE">
     <source>en</source>
@@ -5028,6 +5028,10 @@
   <message id="CLI_DIFF_TOTAL">
     <source>[FILES] files, [SIZE]</source>
     <translation>[FILES] files, [SIZE]</translation>
+  </message>
+  <message id="CLI_DIFF_TOTAL_ONE">
+    <source>1 file, [SIZE]</source>
+    <translation>1 file, [SIZE]</translation>
   </message>
   <message id="CLI_DIFF_GROWTH">
     <source>Largest growth</source>

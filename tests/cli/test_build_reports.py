@@ -189,6 +189,14 @@ class Reports(unittest.TestCase):
             for part in ("files", "bytes"):
                 self.assertEqual(sum(kind[side][part] for kind in result["sizes"]["kinds"]), result["sizes"][side][part])
 
+    def test_difference_in_lines(self):
+        for locale, total, one in (("de_DE.UTF-8", "  Alles       16 Dateien, ", "  Kataloge    1 Datei, "),
+                                   ("C.UTF-8", "  All         16 files, ", "  Catalogs    1 file, ")):
+            lines = subprocess.run([LUMORA, "diff", "keeps, all.ipa", "seal.ipa"], cwd=self.folder, capture_output=True,
+                                   env={"LC_ALL": locale}).stdout.decode()
+            self.assertIn(total, lines)
+            self.assertIn(one, lines)
+
     def test_difference_that_counts(self):
         for before, after, least, status in (
                 ("keeps, all", "seal", "error", 1), ("keeps, all", "seal", "never", 0), ("seal", "keeps, all", "warning", 0),
