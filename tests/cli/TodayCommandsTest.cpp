@@ -76,7 +76,7 @@ private slots:
                                   << 0
                                   << QByteArray("#777777ff\ncontrast: 4.48:1\naa: fail\naa-large: pass\naaa: fail\n"
                                                 "aaa-large: fail\ninterface: pass\nnearest: #767676\n");
-        QTest::newRow("no color") << QStringList{u"color"_s, u"rgb(300 0 0)"_s, u"--all"_s} << 1 << QByteArray();
+        QTest::newRow("no color") << QStringList{u"color"_s, u"rgb(300 0)"_s, u"--all"_s} << 1 << QByteArray();
         QTest::newRow("no color to compare")
             << QStringList{u"color"_s, u"#369"_s, u"--contrast"_s, u"whitish"_s} << 1 << QByteArray();
         QTest::newRow("an unknown form") << QStringList{u"color"_s, u"#369"_s, u"--form"_s, u"css-hsv"_s} << 2
