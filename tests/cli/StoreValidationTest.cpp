@@ -18,8 +18,9 @@ class StoreValidationTest : public QObject
 private slots:
     void initTestCase()
     {
-        QVERIFY(runScript(u"make_rule_packages.py"_s, {m_packages.path(), u"keeps, all"_s, u"seal"_s,
-                                                       u"purpose-likely"_s, u"signed not at all"_s}));
+        QVERIFY(
+            runScript(u"make_rule_packages.py"_s, {m_packages.path(), u"keeps, all"_s, u"seal"_s, u"purpose-likely"_s,
+                                                   u"signed not at all"_s, u"unread Info.plist"_s}));
     }
 
     void endsWithTheStatusThatWasAskedFor_data()
@@ -38,6 +39,8 @@ private slots:
         QTest::newRow("an error that is ignored") << broken << QStringList{u"--ignore"_s, u"push,seal"_s} << 0;
         QTest::newRow("an error that is ignored by its code")
             << broken << QStringList{u"--ignore"_s, u"ITMS-90035"_s} << 0;
+        // What was not judged must not pass.
+        QTest::newRow("a file that is too large") << u"unread Info.plist"_s << QStringList() << 1;
         QTest::newRow("an error, never mind") << broken << QStringList{u"--fail-on"_s, u"never"_s} << 0;
         QTest::newRow("a warning") << likely << QStringList() << 0;
         QTest::newRow("a warning that counts") << likely << QStringList{u"--fail-on"_s, u"warning"_s} << 1;

@@ -146,7 +146,7 @@ constexpr Rule table[] = {
      &judgeFacebook},
     {"cellular-size", "", Note, "RULE_CELLULAR_SIZE_TITLE", "RULE_CELLULAR_SIZE_RULE", "RULE_CELLULAR_SIZE_FIX",
      "RULE_SOURCE_SETTINGS", "", &judgeCellularSize},
-    {"unread", "", Warning, "RULE_UNREAD_TITLE", "RULE_UNREAD_RULE", "RULE_UNREAD_FIX", "RULE_SOURCE_OWN", "",
+    {"unread", "", Error, "RULE_UNREAD_TITLE", "RULE_UNREAD_RULE", "RULE_UNREAD_FIX", "RULE_SOURCE_OWN", "",
      &judgeUnread},
 };
 
