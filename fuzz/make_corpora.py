@@ -106,6 +106,15 @@ PROJECT = """// !$*UTF8*$!
  C1 = {isa = XCBuildConfiguration; buildSettings = {ASSETCATALOG_COMPILER_APPICON_NAME = AppIcon; SDKROOT = iphoneos; }; };
 }; }
 """
+CONFIGURED = """{ objects = {
+ P = {isa = PBXProject; mainGroup = G; buildConfigurationList = L0; };
+ G = {isa = PBXGroup; children = (F,); sourceTree = "<group>"; };
+ F = {isa = PBXFileReference; path = Config/App.xcconfig; sourceTree = "<group>"; };
+ T = {isa = PBXNativeTarget; name = Lamp; buildConfigurationList = L1; };
+ L1 = {isa = XCConfigurationList; buildConfigurations = (C1,); };
+ C1 = {isa = XCBuildConfiguration; name = Debug; baseConfigurationReference = F; };
+}; }
+"""
 ICON_LIST = json.dumps({"images": [
     {"idiom": "universal", "platform": "ios", "size": "1024x1024", "filename": "a.png"},
     {"idiom": "universal", "platform": "ios", "size": "1024x1024", "appearances": [
@@ -120,6 +129,9 @@ ICON = struct.pack("<HHHBBBBHHII", 0, 1, 1, 1, 1, 0, 0, 1, 32, 48, 22) + struct.
     "<IiiHHIIiiII", 40, 1, 2, 1, 32, 0, 8, 0, 0, 0, 0) + bytes(8)
 TREES = {
     "xcode": {"Lamp.xcodeproj/project.pbxproj": PROJECT, "Lamp/Assets.xcassets/AppIcon.appiconset/Contents.json": ICON_LIST},
+    "configured": {"Lamp.xcodeproj/project.pbxproj": CONFIGURED, "Lamp/Assets.xcassets/Lamp.appiconset/Contents.json": ICON_LIST,
+                   "Config/App.xcconfig": '#include "B.xcconfig"\nASSETCATALOG_COMPILER_APPICON_NAME = $(A)p // b\n',
+                   "Config/B.xcconfig": "A = Lam\n"},
     "flutter": {"pubspec.yaml": "name: lamp\nflutter:\n  uses-material-design: true\n",
                 "android/app/src/main/AndroidManifest.xml": MANIFEST, "ios/Runner.xcodeproj/project.pbxproj": PROJECT},
     "gradle": {"settings.gradle": "include ':app'", "app/src/main/AndroidManifest.xml": MANIFEST,
@@ -129,6 +141,10 @@ TREES = {
     "expo": {"app.json": json.dumps(EXPO), "package.json": json.dumps({"dependencies": {"expo": "1"}})},
     "electron": {"package.json": json.dumps({"devDependencies": {"electron": "1"}, "build": {
         "directories": {"buildResources": "res"}}})},
+    "builder": {"package.json": json.dumps({"devDependencies": {"electron": "1"}}), "electron-builder.yml":
+                "directories:\n  buildResources: res\nmac:\n  icon: 'a.icns' # b\nwin:\n  icon: a\nlinux:\n  icon: art\n"},
+    "layers of cordova": {"config.xml": '<widget><platform name="android"><icon foreground="f.png" background="b.png" '
+                                        'monochrome="m.png" density="hdpi"/></platform></widget>'},
     "cordova": {"config.xml": '<widget><platform name="ios"><icon src="a.png" width="1024"/></platform></widget>',
                 "manifest.json": "{}"},
     "tauri": {"src-tauri/tauri.conf.json": json.dumps({"bundle": {"icon": ["icons/icon.png", "icons/icon.ico"]}})},
