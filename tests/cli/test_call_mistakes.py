@@ -93,7 +93,7 @@ MISTAKES = [
     ("devices --feature bluetooth", 2, "lumora devices: --feature takes retina,"),
     ("validate", 2, "lumora validate: FILE is missing"),
     ("validate a.ipa --ignore sael", 2, 'lumora validate: "sael" is no rule; did you mean seal?'),
-    ("validate a.ipa --ignore-file missing", 1, "lumora: missing: does not exist"),
+    ("validate a.ipa --ignore-file missing", 3, "lumora: missing: does not exist"),
     ("validate a.ipa --on 2026-02-30", 2, 'lumora validate: "2026-02-30" is no date; write it as in 2027-04-30'),
     ("validate a.ipa --rules all,store", 2, 'lumora validate: --rules takes auto, store, classic or all, not "all,store"'),
     ("validate a.ipa --sarif - --junit -", 2, "lumora validate: standard output takes one of the report, --json and --icon"),
