@@ -37,7 +37,8 @@ Outcome add(Palette &palette, const QString &color, const QString &value, const 
 
 Result<Palette> readGpl(const QString &text, const QString &name)
 {
-    static const QRegularExpression row(u"^\\s*(\\d{1,3})\\s+(\\d{1,3})\\s+(\\d{1,3})(?:\\s+(.*))?$"_s);
+    static const QString byte = u"([01]?\\d?\\d|2[0-4]\\d|25[0-5])"_s;
+    static const QRegularExpression row(u"^\\s*%1\\s+%1\\s+%1(?:\\s+(.*))?$"_s.arg(byte));
     static const QRegularExpression header(u"^(?:Name|Columns):"_s);
     Palette palette;
     const QStringList lines = text.split(u'\n');
