@@ -45,6 +45,8 @@ def fuzz(target):
 class Fuzz(unittest.TestCase):
     @classmethod
     def setUpClass(cls):
+        # It starts with the first tests, uses what they leave of the processors, and would otherwise be alone at the end.
+        os.nice(5)
         checked("cmake", "--preset", "fuzz")
         checked("cmake", "--build", "--preset", "fuzz", "--target", *targets())
         checked(sys.executable, SOURCE / "fuzz" / "make_corpora.py", BUILD / "corpora")
