@@ -4,6 +4,7 @@
 #include "EntryField.h"
 #include "IconView.h"
 #include "PreviewTile.h"
+#include "SnippetBox.h"
 #include "SourceWell.h"
 #include "tool/DropHighlight.h"
 #include "tool/JobResultView.h"
@@ -25,7 +26,6 @@
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QLabel>
-#include <QPlainTextEdit>
 #include <QStackedWidget>
 
 #include <algorithm>
@@ -56,7 +56,6 @@ constexpr int boxHeight = 28;
 constexpr int boxColumns = 4;
 constexpr int wellColumns = 3;
 constexpr int statusHeight = 18;
-constexpr int leastSnippetHeight = 40;
 constexpr int progressHeight = 20;
 constexpr QSize leastIcon(64, 64);
 /// Of the icon's view, which gets what is left of the height until it is a square.
@@ -122,7 +121,7 @@ TodayIconPane::TodayIconPane(QWidget *parent)
       m_background(new ColorEntryField), m_flatten(new ColorEntryField), m_name(new EntryField),
       m_all(makeButton(qtTrId("ICONS_ALL"))), m_generate(makeButton(qtTrId("GENERATE"))), m_progress(new LBProgressBar),
       m_progressLabel(new QLabel), m_cancel(makeButton(qtTrId("CANCEL"))), m_actions(new QStackedWidget),
-      m_snippetSets(new QComboBox), m_snippet(new QPlainTextEdit), m_copy(new IconButton), m_result(new JobResultView)
+      m_snippetSets(new QComboBox), m_snippet(new SnippetBox), m_copy(new IconButton), m_result(new JobResultView)
 {
     auto *right = new QVBoxLayout;
     right->setSpacing(margin);
@@ -256,21 +255,6 @@ QWidget *TodayIconPane::makeSnippets()
     m_snippetSets->setFixedSize(dropDownWidth, dropDownHeight);
     frameDropDown(m_snippetSets);
     styleDropDown(m_snippetSets);
-    m_snippet->setReadOnly(true);
-    m_snippet->setFrameShape(QFrame::NoFrame);
-    m_snippet->setStyleSheet(u"QPlainTextEdit { background: palette(base); border: 2px solid palette(base); "
-                             u"border-radius: 5px; padding: 4px; }"
-                             "QPlainTextEdit:focus { border-color: palette(highlight); }"_s);
-    m_snippet->setLineWrapMode(QPlainTextEdit::NoWrap);
-    // Code is written from the left in every language.
-    m_snippet->setLayoutDirection(Qt::LeftToRight);
-    m_snippet->setTabChangesFocus(true);
-    m_snippet->setAccessibleName(qtTrId("ACCESSIBLE_SNIPPET"));
-    m_snippet->setMinimumHeight(leastSnippetHeight);
-    m_snippet->setFont(latoBold(smallSize));
-    QPalette colors = m_snippet->palette();
-    colors.setColor(QPalette::Text, palette::chromeText);
-    m_snippet->setPalette(colors);
     styleButton(m_copy, qtTrId("COPY"), u"button_icon_copy"_s, palette::icons, palette::iconsBorder);
     m_copy->setFixedSize(copyWidth, dropDownHeight);
 

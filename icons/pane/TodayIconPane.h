@@ -11,7 +11,6 @@
 
 class QComboBox;
 class QLabel;
-class QPlainTextEdit;
 class QStackedWidget;
 
 namespace lumora
@@ -28,6 +27,7 @@ class IconView;
 class JobResultView;
 class LBProgressBar;
 class PreviewTile;
+class SnippetBox;
 class SourceWell;
 
 /// The icon tool's side of today: the icon and its further sources, the sets to be written, the lines that declare
@@ -65,7 +65,7 @@ public:
     HoverButton *cancelButton() const { return m_cancel; }
     PreviewTile *tile(PreviewPlace place) const { return m_tiles[static_cast<std::size_t>(place)]; }
     QComboBox *snippetSets() const { return m_snippetSets; }
-    QPlainTextEdit *snippet() const { return m_snippet; }
+    SnippetBox *snippet() const { return m_snippet; }
     IconButton *copyButton() const { return m_copy; }
     JobResultView *result() const { return m_result; }
 
@@ -115,7 +115,7 @@ private:
     QStackedWidget *m_actions;
     std::array<PreviewTile *, previewPlaces.size()> m_tiles{};
     QComboBox *m_snippetSets;
-    QPlainTextEdit *m_snippet;
+    SnippetBox *m_snippet;
     IconButton *m_copy;
     JobResultView *m_result;
 };

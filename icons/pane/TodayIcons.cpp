@@ -6,6 +6,7 @@
 #include "PreviewTile.h"
 #include "ProjectQuestion.h"
 #include "SetGeneration.h"
+#include "SnippetBox.h"
 #include "SourceWell.h"
 #include "TodayIconPane.h"
 #include "icons/IconCatalogue.h"
@@ -22,7 +23,6 @@
 
 #include <QComboBox>
 #include <QFileInfo>
-#include <QPlainTextEdit>
 
 #include <algorithm>
 #include <cmath>

@@ -7,6 +7,7 @@
 #include "icons/pane/PreviewTile.h"
 #include "icons/pane/ProjectQuestion.h"
 #include "icons/pane/SetGeneration.h"
+#include "icons/pane/SnippetBox.h"
 #include "icons/pane/SourceWell.h"
 #include "icons/pane/TodayIconPane.h"
 #include "icons/pane/TodayIcons.h"
